@@ -1,0 +1,76 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# One set of compile rules, and the three functions that every folder uses:
+#   zephira_logic(NAME ...)   a library that links Qt6::Core alone
+#   zephira_forms(NAME ...)   forms and widgets, with their .ui files
+#   zephira_tests(NAME ...)   one test program, one ctest entry per class
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# The rules that each target takes.
+add_library(zephira_rules INTERFACE)
+target_compile_features(zephira_rules INTERFACE cxx_std_20)
+target_compile_options(zephira_rules INTERFACE
+  -Wall -Wextra -Wconversion -fstack-protector-strong
+  $<$<BOOL:${ZEPHIRA_WERROR}>:-Werror>
+  # A hardened libc check needs the optimiser, and the sanitizers bring their own.
+  $<$<AND:$<NOT:$<CONFIG:Debug>>,$<NOT:$<BOOL:${ZEPHIRA_SANITIZE}>>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>)
+target_compile_definitions(zephira_rules INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS
+  ZEPHIRA_VERSION="${PROJECT_VERSION}")
+target_include_directories(zephira_rules INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_link_options(zephira_rules INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--as-needed)
+if(ZEPHIRA_SANITIZE)
+  target_compile_options(zephira_rules INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+  target_link_options(zephira_rules INTERFACE -fsanitize=address,undefined)
+endif()
+include(CheckPIESupported)
+check_pie_supported()
+
+# zephira_logic(NAME SOURCES ... [LINK ...]): text rules, parsers, writers, state machines. Links Qt6::Core alone.
+function(zephira_logic name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${name} PUBLIC zephira_rules Qt6::Core ${ARG_LINK})
+endfunction()
+
+# zephira_forms(NAME SOURCES ... [UI ...] [LINK ...]): forms and widgets. The .ui files go through qt6_wrap_ui because
+# AUTOUIC would rebuild every form of the target when a single source is touched.
+function(zephira_forms name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;UI;LINK" ${ARGN})
+  if(ARG_UI)
+    qt6_wrap_ui(ui_headers ${ARG_UI})
+  endif()
+  add_library(${name} STATIC ${ARG_SOURCES} ${ui_headers})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+  target_link_libraries(${name} PUBLIC zephira_rules Qt6::Widgets ${ARG_LINK})
+  target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/widgets.pch.h)
+endfunction()
+
+# zephira_tests(NAME SOURCES ... CLASSES ... [LINK ...] [FORMS] [LABELS ...]): one program for a folder and kind; each
+# class named under CLASSES is a QTest object registered with ZEPHIRA_TEST and becomes a ctest entry of its own.
+# With FORMS the program has a QApplication on the offscreen platform, without it a QCoreApplication.
+function(zephira_tests name)
+  cmake_parse_arguments(ARG "FORMS" "" "SOURCES;CLASSES;LINK;LABELS;ENVIRONMENT" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_compile_definitions(${name} PRIVATE ZEPHIRA_GOLDEN_DIR="${CMAKE_SOURCE_DIR}/tests/golden"
+    ZEPHIRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_CURRENT_BINARY_DIR})
+  if(ARG_FORMS)
+    target_link_libraries(${name} PRIVATE zephira_test_forms ${ARG_LINK})
+    target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/widgets.pch.h)
+  else()
+    target_link_libraries(${name} PRIVATE zephira_test_logic ${ARG_LINK})
+  endif()
+  foreach(class IN LISTS ARG_CLASSES)
+    add_test(NAME ${name}.${class} COMMAND ${name} ${class})
+    set_tests_properties(${name}.${class} PROPERTIES TIMEOUT 300 LABELS "${ARG_LABELS}"
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${ARG_ENVIRONMENT}")
+  endforeach()
+endfunction()

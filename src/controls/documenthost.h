@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace zephira {
+
+/// What forms may ask of the window's document and its project.
+class DocumentHost
+{
+public:
+    virtual ~DocumentHost() = default;
+
+    /// Row of the language list, 0 to 9, and its text.
+    virtual int languageRow() const = 0;
+    virtual QString languageText() const = 0;
+    virtual void setLanguageRow(int row) = 0;
+
+    /// Text of the project folder's box; the literal "Project Path" means that none is set.
+    virtual QString projectPath() const = 0;
+    virtual void setProjectPath(const QString &path) = 0;
+
+    /// The common dialog's file name, which is the document's path, or empty.
+    virtual QString commonDialogFile() const = 0;
+};
+
+} // namespace zephira

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/result.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <span>
+
+namespace zephira {
+
+/// What tells one state of a file on disk from another: device, inode, size in bytes, and modification time in
+/// nanoseconds since 1970. `exists` is false for a file that isn't there.
+struct FileSignature {
+    bool exists = false;
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = 0;
+    qint64 modifiedNs = 0;
+
+    friend bool operator==(const FileSignature &, const FileSignature &) = default;
+};
+
+/// Files by full path. The program works on the disk; tests work in memory or with a store that fails where they say.
+class FileStore
+{
+public:
+    virtual ~FileStore() = default;
+
+    virtual Result<QByteArray> read(const QString &path) const = 0;
+    /// Replaces the file with the pieces, joined, so that at every moment the old or the new content stands on the disk.
+    /// Mode, owner where possible, and a symbolic link's target are kept. `mode` is for a file that is new.
+    virtual Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) = 0;
+    virtual Result<void> remove(const QString &path) = 0;
+    /// True if the path can be opened for reading; an existing file that can't be read counts as absent.
+    virtual bool FileExists(const QString &path) const = 0;
+    virtual FileSignature signature(const QString &path) const = 0;
+
+    Result<void> write(const QString &path, QByteArrayView content, int mode = 0666)
+    {
+        return write(path, std::span<const QByteArrayView>(&content, 1), mode);
+    }
+};
+
+} // namespace zephira

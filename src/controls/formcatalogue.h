@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/appcontext.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+
+class QWidget;
+
+namespace zephira {
+
+/// Every form of the program by name. Each folder adds its own in registerForms(); the program, the form tests and the
+/// screenshots make forms from this one list.
+class FormCatalogue
+{
+public:
+    using Factory = std::function<QWidget *(const AppContext &, QWidget *owner)>;
+
+    /// Adds a form. Its name is its objectName; adding a name twice is a programming error.
+    void add(const QString &name, Factory factory);
+    bool contains(const QString &name) const;
+    QStringList names() const;
+    /// A new form, owned by the caller through `owner`; nullptr for a name that isn't in the catalogue.
+    QWidget *make(const QString &name, const AppContext &context, QWidget *owner) const;
+
+private:
+    std::map<QString, Factory> m_factories;
+};
+
+} // namespace zephira

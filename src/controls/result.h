@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <utility>
+#include <variant>
+
+namespace zephira {
+
+/// What went wrong, in one of a few kinds that code can act on and one sentence that a person can read.
+struct Error {
+    enum class Code { NotFound, Unreadable, Unwritable, TooLarge, Unencodable, Malformed, Refused, TimedOut, Failed };
+    Code code = Code::Failed;
+    QString sentence;
+};
+
+/// A value, or the Error that stands in its place. Callers can't drop one by accident; reading the value of a failed
+/// result is a programming error that ends the process.
+template<typename T>
+class [[nodiscard]] Result
+{
+public:
+    Result(T value) : m_content(std::in_place_index<0>, std::move(value)) {}
+    Result(Error error) : m_content(std::in_place_index<1>, std::move(error)) {}
+
+    bool ok() const { return m_content.index() == 0; }
+    explicit operator bool() const { return ok(); }
+    const T &value() const & { return std::get<0>(m_content); }
+    T &&value() && { return std::get<0>(std::move(m_content)); }
+    T valueOr(T fallback) const { return ok() ? value() : std::move(fallback); }
+    const Error &error() const { return std::get<1>(m_content); }
+
+private:
+    std::variant<T, Error> m_content;
+};
+
+/// The outcome of an operation that has nothing to give back.
+template<>
+class [[nodiscard]] Result<void>
+{
+public:
+    Result() = default;
+    Result(Error error) : m_error(std::move(error)), m_ok(false) {}
+
+    bool ok() const { return m_ok; }
+    explicit operator bool() const { return m_ok; }
+    const Error &error() const { return m_error; }
+
+private:
+    Error m_error;
+    bool m_ok = true;
+};
+
+} // namespace zephira

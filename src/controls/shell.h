@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/result.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace zephira {
+
+/// The desktop around the program: opens files and addresses in other programs and starts processes.
+class Shell
+{
+public:
+    virtual ~Shell() = default;
+
+    /// Opens a file or an address with the program that the user has chosen for it.
+    virtual Result<void> open(const QString &pathOrUrl) = 0;
+    /// Starts a program, named by its absolute path, with an argument list; no shell is involved.
+    virtual Result<void> start(const QString &program, const QStringList &arguments) = 0;
+};
+
+} // namespace zephira
