@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/files/filestore.h"
+#include "controls/files/lineends.h"
 #include "controls/result.h"
 
 #include <QByteArray>
-#include <QString>
 
 namespace zephira {
 
 enum class Encoding { Utf8, Utf16LE, Utf16BE, Windows1252 };
-
-/// Line ends of a text: one kind throughout, or mixed. A text without a line end counts as CR LF.
-enum class LineEnds { CrLf, Lf, Cr, Mixed };
 
 /// How a text stands in its file.
 struct TextFormat {
@@ -31,12 +27,22 @@ struct DecodedText {
     TextFormat format;
 };
 
+/// The buffer that was given is the one that comes back, if the file is UTF-8 and nobody else holds it.
 DecodedText decodeText(QByteArray bytes);
-LineEnds lineEndsOf(QByteArrayView utf8);
 
-/// The bytes that go to the file. Fails with Code::Unencodable, naming the first character (and its 1-based line) that
-/// the encoding can't hold.
+/// The bytes that go to the file; the line ends are taken as they are. UTF-8 passes unexamined. Fails with
+/// Code::Unencodable, naming the first character (and its 1-based line) that the encoding can't hold; and also where the
+/// bytes would be another text when they are read again.
 Result<QByteArray> encodeText(QByteArrayView utf8, const TextFormat &format);
+
+/// Windows-1252 as UTF-8; no byte is lost.
+QByteArray windows1252ToUtf8(QByteArrayView bytes);
+
+/// What stands in front of a text in this format: the byte order mark, or nothing.
+QByteArrayView byteOrderMark(const TextFormat &format);
+
+/// The name of an encoding as a person knows it: "UTF-8", "UTF-16LE", "UTF-16BE", "Windows-1252".
+QString encodingName(Encoding encoding);
 
 /// Files above this many bytes are refused with a message.
 constexpr qint64 maximumFileSize = 256LL * 1024 * 1024;

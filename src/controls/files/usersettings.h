@@ -22,6 +22,9 @@ public:
     QString GetSetting(const QString &branch, const QString &section, const QString &key,
                        const QString &fallback) const override;
     void SaveSetting(const QString &branch, const QString &section, const QString &key, const QString &value) override;
+
+    /// Full path of the file that holds the store; what else belongs to the user lies beside it.
+    static QString fileName();
 };
 
 } // namespace zephira

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <optional>
+
+namespace zephira {
+
+/// Whether the bytes are UTF-8 in its strict sense: no overlong forms, no surrogates, nothing above U+10FFFF. Noncharacters
+/// and NUL are fine. Text that is mostly ASCII is read eight bytes at a time.
+bool isValidUtf8(QByteArrayView bytes);
+
+/// Walks through UTF-8 code point by code point.
+class Utf8Reader
+{
+public:
+    explicit Utf8Reader(QByteArrayView bytes) : m_next(bytes.begin()), m_end(bytes.end()) {}
+
+    bool atEnd() const { return m_next == m_end; }
+    /// The bytes that were not read yet.
+    QByteArrayView rest() const { return {m_next, m_end - m_next}; }
+    /// The next code point, behind which the reader then stands. Nothing where the bytes are not UTF-8: it stays there.
+    std::optional<char32_t> next();
+
+private:
+    const char *m_next;
+    const char *m_end;
+};
+
+/// Writes a code point and returns where the next one goes; up to four bytes must be free.
+char *putUtf8(char *out, char32_t codePoint);
+
+} // namespace zephira

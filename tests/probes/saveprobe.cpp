@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// saveprobe IN OUT: opens IN and saves it as OUT, as the editing control does.
+#include "controls/clock.h"
+#include "controls/files/diskfilestore.h"
+#include "controls/files/documentfile.h"
+#include "controls/files/recoverycopies.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int fail(const QString &sentence)
+{
+    std::fprintf(stderr, "%s\n", qUtf8Printable(sentence));
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    using namespace zephira;
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3)
+        return fail(u"usage: saveprobe IN OUT"_s);
+
+    DiskFileStore files;
+    const SystemClock clock;
+    RecoveryCopies recovery(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/recovery"_s, files, clock);
+    DocumentFile document(files, recovery);
+    const Result<DecodedText> text = document.open(arguments[1]);
+    if (!text)
+        return fail(text.error().sentence);
+    const QByteArrayView piece(text.value().utf8);
+    const Result<void> saved = document.save(arguments[2], {&piece, 1}, text.value().format);
+    return saved ? 0 : fail(saved.error().sentence);
+}
