@@ -22,6 +22,12 @@ public:
 
     /// Adds a form. Its name is its objectName; adding a name twice is a programming error.
     void add(const QString &name, Factory factory);
+    /// The usual case: a form whose constructor takes the context and the owner.
+    template<typename Form>
+    void add(const QString &name)
+    {
+        add(name, [](const AppContext &context, QWidget *owner) -> QWidget * { return new Form(context, owner); });
+    }
     bool contains(const QString &name) const;
     QStringList names() const;
     /// A new form, owned by the caller through `owner`; nullptr for a name that isn't in the catalogue.

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/desktop/desktopshell.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+Result<QUrl> addressOf(const QString &pathOrUrl)
+{
+    if (QDir::isAbsolutePath(pathOrUrl)) {
+        if (!QFileInfo::exists(pathOrUrl))
+            return Error{Error::Code::NotFound, u"%1 can't be found."_s.arg(pathOrUrl)};
+        return QUrl::fromLocalFile(pathOrUrl);
+    }
+    const QUrl url(pathOrUrl, QUrl::StrictMode);
+    // A single letter in front of the colon is a drive and no scheme.
+    if (!url.isValid() || url.scheme().size() < 2)
+        return Error{Error::Code::Malformed, u"\"%1\" is neither a full path nor an address."_s.arg(pathOrUrl)};
+    return url;
+}
+
+} // namespace
+
+Result<void> DesktopShell::open(const QString &pathOrUrl)
+{
+    const Result<QUrl> url = addressOf(pathOrUrl);
+    if (!url)
+        return url.error();
+    if (!QDesktopServices::openUrl(url.value()))
+        return Error{Error::Code::Failed, u"The desktop has no program that opens %1."_s.arg(pathOrUrl)};
+    return {};
+}
+
+Result<void> DesktopShell::start(const QString &program, const QStringList &arguments)
+{
+    const QFileInfo file(program);
+    // A bare name would be looked for in a path that others may have a say in.
+    if (!QDir::isAbsolutePath(program))
+        return Error{Error::Code::Refused, u"\"%1\" isn't the full path of a program."_s.arg(program)};
+    if (!file.exists())
+        return Error{Error::Code::NotFound, u"The program %1 can't be found."_s.arg(program)};
+    if (!file.isFile() || !file.isExecutable())
+        return Error{Error::Code::Refused, u"%1 isn't a program."_s.arg(program)};
+
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setWorkingDirectory(QDir::homePath());
+    if (!process.startDetached())
+        return Error{Error::Code::Failed, u"%1 can't be started: %2."_s.arg(program, process.errorString())};
+    return {};
+}
+
+} // namespace zephira

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/shell.h"
+
+namespace zephira {
+
+/// The shell of a freedesktop system.
+class DesktopShell final : public Shell
+{
+public:
+    /// A full path is opened as a file, which must exist; anything else must be an address with a scheme.
+    Result<void> open(const QString &pathOrUrl) override;
+    /// The program runs on its own, in the user's home folder, and outlives us.
+    Result<void> start(const QString &program, const QStringList &arguments) override;
+};
+
+} // namespace zephira

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/formposition.h"
+
+#include "controls/files/usersettings.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr double twipsPerPixel = 15.0;
+
+/// By number; the system has more states, which count as normal.
+constexpr std::array windowStates = {Qt::WindowNoState, Qt::WindowMinimized, Qt::WindowMaximized};
+
+int stateNumber(const QWidget &form)
+{
+    if (form.isMinimized())
+        return 1;
+    return form.isMaximized() ? 2 : 0;
+}
+
+class Placement
+{
+public:
+    Placement(UserSettings &settings, QString branch, QString section)
+        : m_settings(settings), m_branch(std::move(branch)), m_section(std::move(section))
+    {
+    }
+
+    void save(const QString &key, int number) const
+    {
+        m_settings.SaveSetting(m_branch, m_section, key, QString::number(number));
+    }
+
+    void savePixels(const QString &key, int pixels) const
+    {
+        save(key, static_cast<int>(std::lround(pixels * twipsPerPixel)));
+    }
+
+    int number(const QString &key, int fallback) const
+    {
+        bool converted = false;
+        const int value = m_settings.GetSetting(m_branch, m_section, key, QString::number(fallback)).toInt(&converted);
+        return converted ? value : fallback;
+    }
+
+    int pixels(const QString &key, int fallback) const
+    {
+        const int twips = number(key, static_cast<int>(std::lround(fallback * twipsPerPixel)));
+        return static_cast<int>(std::lround(twips / twipsPerPixel));
+    }
+
+private:
+    UserSettings &m_settings;
+    QString m_branch;
+    QString m_section;
+};
+
+void save(QWidget &form, const Placement &placement)
+{
+    const int state = stateNumber(form);
+    // The window manager makes the window normal some time later; where it will stand then is known already.
+    const QRect place = state == 0 ? QRect(form.pos(), form.size()) : form.normalGeometry();
+    placement.save(u"WindowState"_s, state);
+    if (state != 0)
+        form.setWindowState(Qt::WindowNoState);
+    placement.savePixels(u"Top"_s, place.y());
+    placement.savePixels(u"Left"_s, place.x());
+    placement.savePixels(u"Height"_s, place.height());
+    placement.savePixels(u"Width"_s, place.width());
+}
+
+void restore(QWidget &form, const Placement &placement)
+{
+    QRect place(form.pos(), form.size());
+    place.moveTop(placement.pixels(u"Top"_s, place.y()));
+    place.moveLeft(placement.pixels(u"Left"_s, place.x()));
+    place.setHeight(placement.pixels(u"Height"_s, place.height()));
+    place.setWidth(placement.pixels(u"Width"_s, place.width()));
+
+    QList<QRect> screens;
+    for (const QScreen *screen : QGuiApplication::screens())
+        screens.append(screen->availableGeometry());
+    place = placeOnScreens(place, screens);
+    form.move(place.topLeft());
+    form.resize(place.size());
+
+    const int state = placement.number(u"WindowState"_s, stateNumber(form));
+    if (state >= 0 && state < static_cast<int>(windowStates.size()))
+        form.setWindowState(windowStates[static_cast<std::size_t>(state)]);
+}
+
+} // namespace
+
+QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens)
+{
+    constexpr QSize grip(80, 24);
+    const QRect upperEdge(wanted.topLeft(), QSize(wanted.width(), grip.height()));
+    const bool reachable = std::any_of(screens.begin(), screens.end(), [&](const QRect &screen) {
+        const QRect shown = screen & upperEdge;
+        return shown.width() >= std::min(grip.width(), wanted.width()) && shown.height() >= grip.height() / 2;
+    });
+    if (reachable || screens.isEmpty())
+        return wanted;
+    const QRect &screen = screens.first();
+    QRect place(wanted.topLeft(), wanted.size().boundedTo(screen.size()));
+    place.moveLeft(std::clamp(place.x(), screen.x(), screen.x() + screen.width() - place.width()));
+    place.moveTop(std::clamp(place.y(), screen.y(), screen.y() + screen.height() - place.height()));
+    return place;
+}
+
+void FormPosition(QWidget &form, bool saving, UserSettings &settings, const QString &branch)
+{
+    const Placement placement(settings, branch, form.objectName());
+    if (saving)
+        save(form, placement);
+    else
+        restore(form, placement);
+}
+
+} // namespace zephira

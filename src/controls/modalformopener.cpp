@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/modalformopener.h"
+
+#include "controls/formcatalogue.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QEventLoop>
+
+#include <utility>
+
+namespace zephira {
+
+namespace {
+
+/// Ends a loop when the watched window is hidden or destroyed. Dialogs have a loop of their own; this serves plain windows.
+class HideWatcher final : public QObject
+{
+public:
+    HideWatcher(QWidget *window, QEventLoop &loop) : m_loop(loop)
+    {
+        window->installEventFilter(this);
+        connect(window, &QObject::destroyed, &m_loop, &QEventLoop::quit);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide && !event->spontaneous())
+            m_loop.quit();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QEventLoop &m_loop;
+};
+
+void bringToFront(QWidget *window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void runModally(QWidget *form)
+{
+    if (auto *dialog = qobject_cast<QDialog *>(form)) {
+        dialog->exec();
+        return;
+    }
+    QEventLoop loop;
+    const HideWatcher watcher(form, loop);
+    form->setWindowModality(Qt::ApplicationModal);
+    form->show();
+    loop.exec();
+}
+
+} // namespace
+
+ModalFormOpener::ModalFormOpener(const FormCatalogue &catalogue, QWidget *owner)
+    : m_catalogue(catalogue), m_owner(owner)
+{
+}
+
+bool ModalFormOpener::isAvailable(const QString &form) const
+{
+    return m_context && m_catalogue.contains(form);
+}
+
+void ModalFormOpener::openModal(const QString &form)
+{
+    if (!isAvailable(form))
+        return;
+    QWidget *window = openForm(form);
+    if (window && window != m_waiting)
+        bringToFront(window);
+    else
+        run(form, modalOwner());
+}
+
+void ModalFormOpener::openModalOver(const QString &form, const QString &hiddenForm)
+{
+    if (!isAvailable(form) || !isAvailable(hiddenForm) || openForm(form) || openForm(hiddenForm))
+        return;
+    m_waiting = make(hiddenForm, modalOwner());
+    run(form, m_waiting);
+}
+
+/// The modal form that is on top, so that forms stack as they were opened.
+QWidget *ModalFormOpener::modalOwner() const
+{
+    QWidget *top = QApplication::activeModalWidget();
+    return top ? top : m_owner.data();
+}
+
+void ModalFormOpener::run(const QString &form, QWidget *owner)
+{
+    const bool waiting = m_waiting && m_waiting->objectName() == form;
+    // The form may be destroyed together with its owner while it is showing.
+    const QPointer<QWidget> window = waiting ? m_waiting.data() : make(form, owner);
+    if (waiting)
+        m_waiting.clear();
+    runModally(window);
+    delete window;
+}
+
+void ModalFormOpener::openModeless(const QString &form)
+{
+    if (!isAvailable(form))
+        return;
+    QWidget *window = openForm(form);
+    if (!window) {
+        window = make(form, m_owner);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    bringToFront(window);
+}
+
+QWidget *ModalFormOpener::openForm(const QString &form) const
+{
+    for (const QPointer<QWidget> &window : m_open) {
+        if (window && window->objectName() == form)
+            return window;
+    }
+    return nullptr;
+}
+
+void ModalFormOpener::closeAll()
+{
+    const auto open = std::exchange(m_open, {});
+    for (auto window = open.rbegin(); window != open.rend(); ++window) {
+        if (*window)
+            (*window)->close();
+    }
+}
+
+QWidget *ModalFormOpener::make(const QString &form, QWidget *owner)
+{
+    std::erase_if(m_open, [](const QPointer<QWidget> &window) { return window.isNull(); });
+    QWidget *window = m_catalogue.make(form, *m_context, owner);
+    // A form is a window of its own, also where its class is a plain widget.
+    if (!window->isWindow())
+        window->setWindowFlag(Qt::Window);
+    m_open.emplace_back(window);
+    return window;
+}
+
+} // namespace zephira

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace zephira {
+
+/// Shows one file beside the main window without making it the document. A second file replaces the first.
+class QuickViewer
+{
+public:
+    virtual ~QuickViewer() = default;
+
+    /// Shows a picture if the name ends in "jpg", "gif" or "bmp", in any case, else a text.
+    virtual void showFile(const QString &path) = 0;
+    virtual void showPicture(const QString &path) = 0;
+    virtual void showText(const QString &path) = 0;
+};
+
+} // namespace zephira
