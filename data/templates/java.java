@@ -1,0 +1,18 @@
+/**
+ * Greets everybody who is named on the command line.
+ */
+public class Program {
+
+    static String greeting(String name) {
+        return "Hello, " + name + "!";
+    }
+
+    public static void main(String[] args) {
+        if (args.length == 0) {
+            System.out.println(greeting("World"));
+        }
+        for (String name : args) {
+            System.out.println(greeting(name));
+        }
+    }
+}
