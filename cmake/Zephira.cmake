@@ -24,6 +24,8 @@ target_compile_definitions(zephira_rules INTERFACE
 target_include_directories(zephira_rules INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_link_options(zephira_rules INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--as-needed)
 if(ZEPHIRA_SANITIZE)
+  # One test run covers both trees, so the names tell which of them a test is from.
+  set(ZEPHIRA_TEST_PREFIX asan.)
   target_compile_options(zephira_rules INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
   target_link_options(zephira_rules INTERFACE -fsanitize=address,undefined)
 endif()
@@ -69,8 +71,19 @@ function(zephira_tests name)
     target_link_libraries(${name} PRIVATE zephira_test_logic ${ARG_LINK})
   endif()
   foreach(class IN LISTS ARG_CLASSES)
-    add_test(NAME ${name}.${class} COMMAND ${name} ${class})
-    set_tests_properties(${name}.${class} PROPERTIES TIMEOUT 300 LABELS "${ARG_LABELS}"
+    set(test ${ZEPHIRA_TEST_PREFIX}${name}.${class})
+    add_test(NAME ${test} COMMAND ${name} ${class})
+    set_tests_properties(${test} PROPERTIES TIMEOUT 300 LABELS "${ARG_LABELS}"
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${ARG_ENVIRONMENT}")
   endforeach()
+endfunction()
+
+# zephira_display_test(NAME COMMAND ...): a test of the real program in a real window. It runs on a display of its own,
+# with a window manager; the sanitizer tree leaves it out.
+function(zephira_display_test name)
+  cmake_parse_arguments(ARG "" "" "COMMAND" ${ARGN})
+  if(NOT ZEPHIRA_SANITIZE)
+    add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/support/with-display ${ARG_COMMAND})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 LABELS e2e ENVIRONMENT "LC_ALL=C.UTF-8")
+  endif()
 endfunction()

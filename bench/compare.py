@@ -1,0 +1,174 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""compare.py BUILD PROGRAM WORK [GROUP]...: measures the program beside its peers and prints each budget.
+
+BUILD holds the benchmark programs, PROGRAM is the program folder, WORK a folder for inputs and homes. The groups are
+those of GROUPS below; without one all are measured. Ends with 1 if a budget is not met. It needs a display.
+"""
+
+import json
+import os
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+from statistics import median
+
+import makehtml
+
+MB = 1_000_000
+
+
+class Programs:
+    """The whole programs, each with a home that it has left once before, so that no first start is measured."""
+
+    def __init__(self, build, folder, work):
+        self.picture_tool = build / "picture"
+        self.home = work / "home"
+        self.templates = work / "homes"
+        self.commands = {
+            "zephira": [folder / "zephira"],
+            "bare": [build / "bare"],
+            "SciTE": ["scite"],
+            "Bluefish": ["bluefish"],
+        }
+
+    def prepare(self, name):
+        """Lets the program make its settings, as after a first start that was closed."""
+        shutil.rmtree(self.home, ignore_errors=True)
+        self.home.mkdir(parents=True)
+        if name == "zephira":
+            settings = self.home / ".config/Zephira/Zephira.ini"
+            settings.parent.mkdir(parents=True)
+            settings.write_text("[zephira]\nOptions\\Show%20Tips%20at%20Startup=0\n")
+        self.run(name, None, "--close")
+        shutil.rmtree(self.templates / name, ignore_errors=True)
+        shutil.copytree(self.home, self.templates / name, symlinks=True)
+
+    def measure(self, name, file, *options):
+        """One run from a fresh copy of the home, as the figures that the tool prints."""
+        if not (self.templates / name).is_dir():
+            self.prepare(name)
+        shutil.rmtree(self.home, ignore_errors=True)
+        shutil.copytree(self.templates / name, self.home, symlinks=True)
+        return self.run(name, file, *options)
+
+    def run(self, name, file, *options):
+        home = self.home
+        (home / "run").mkdir(mode=0o700, exist_ok=True)
+        environment = dict(os.environ, HOME=home, XDG_CONFIG_HOME=home / ".config", XDG_DATA_HOME=home / ".local/share",
+                           XDG_CACHE_HOME=home / ".cache", XDG_RUNTIME_DIR=home / "run", LC_ALL="C.UTF-8")
+        argument = [file] if file else ["/nodialog"] if name == "zephira" else []
+        done = subprocess.run([self.picture_tool, *options, *self.commands[name], *argument], env=environment, cwd=home,
+                              stdout=subprocess.PIPE, check=True)
+        return json.loads(done.stdout)
+
+    def interleaved(self, names, rounds, file=None, options=None):
+        """The medians of each program's figures; the programs take turns, so that all meet the same machine."""
+        runs = {name: [] for name in names}
+        for _ in range(rounds):
+            for name in names:
+                runs[name].append(self.measure(name, file, *(options or {}).get(name, ())))
+        return {name: {key: median(run[key] for run in all_runs) for key in all_runs[0]} for name, all_runs in runs.items()}
+
+
+class Report:
+    """Prints each budget as it becomes known, and remembers whether all were met."""
+
+    def __init__(self):
+        self.all_met = True
+
+    def row(self, what, ours, theirs, limit, peer, unit="ms", at_least=False):
+        ratio = ours / theirs
+        met = ratio >= limit if at_least else ratio <= limit
+        self.all_met &= met
+        sign = "≥" if at_least else "≤"
+        print(f"{'met' if met else 'NOT MET':8} {what:38} {ratio:7.2f} × {peer:22} budget {sign} {limit:<5g} "
+              f"({ours:.5g} {unit} to {theirs:.5g} {unit})", flush=True)
+
+    def aim(self, what, ours, theirs, limit, peer):
+        print(f"{'':8} {what:38} {ours / theirs:7.2f} × {peer:22} aim    ≤ {limit:g}", flush=True)
+
+
+def start(programs, report, _inputs, _build, _work):
+    """The empty start."""
+    got = programs.interleaved(["zephira", "Bluefish", "bare"], 9)
+    ours, bluefish, bare = (got[name] for name in ("zephira", "Bluefish", "bare"))
+    report.row("empty start, picture", ours["picture"], bluefish["picture"], 0.40, "Bluefish")
+    report.aim("empty start, picture", ours["picture"], bluefish["picture"], 0.30, "Bluefish")
+    report.row("empty start, picture", ours["picture"], bare["picture"], 2.8, "bare")
+    report.row("empty start, memory", ours["pss_kb"], bluefish["pss_kb"], 1.0, "Bluefish", "kB")
+    report.aim("empty start, memory", ours["pss_kb"], bare["pss_kb"], 1.5, "bare")
+
+
+def opening(programs, report, inputs, _build, _work):
+    """Opening a page of 1, 10 and 50 MB."""
+    for size, rounds, memory in ((1, 7, None), (10, 5, 1.3), (50, 5, 1.1)):
+        got = programs.interleaved(["zephira", "SciTE", "bare"], rounds, inputs(size))
+        ours, scite, bare = (got[name] for name in ("zephira", "SciTE", "bare"))
+        report.row(f"open {size} MB, picture", ours["picture"], scite["picture"], 1.0, "SciTE")
+        report.aim(f"open {size} MB, picture", ours["picture"], bare["picture"], 1.3, "bare")
+        if memory:
+            report.row(f"memory with {size} MB", ours["pss_kb"], scite["pss_kb"], memory, "SciTE", "kB")
+            report.aim(f"memory with {size} MB", ours["pss_kb"], bare["pss_kb"], 1.1, "bare")
+
+
+def typing(programs, report, inputs, _build, _work):
+    """Keys at the start and at the end of 10 MB, and the way between."""
+    names = ["zephira", "SciTE"]
+    got = programs.interleaved(names, 5, inputs(10), dict.fromkeys(names, ("--keys", "200", "--end")))
+    ours, scite = got["zephira"], got["SciTE"]
+    for where in ("start", "end"):
+        key = f"key_{where}_us"
+        report.row(f"a key at the {where} of 10 MB, processor", ours[key], scite[key], 1.3, "SciTE", "µs")
+    report.row("a key at the end of 10 MB, processor", ours["key_end_us"], ours["key_start_us"], 1.3, "one at the start", "µs")
+    report.row("jump to the end of 10 MB", ours["jump"], scite["jump"], 0.1, "SciTE")
+
+
+def in_process(build, name, *arguments):
+    """The median real times, in nanoseconds, of a benchmark program's cases by name."""
+    done = subprocess.run(
+        [build / name, "--benchmark_format=json", "--benchmark_repetitions=7", "--benchmark_enable_random_interleaving=true",
+         "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.05", *arguments],
+        stdout=subprocess.PIPE, check=True)
+    unit = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+    return {case["run_name"].removesuffix("/real_time"): case["real_time"] * unit[case["time_unit"]]
+            for case in json.loads(done.stdout)["benchmarks"] if case["aggregate_name"] == "median"}
+
+
+def functions(_programs, report, inputs, build, _work):
+    """Every text function: ten times the input."""
+    times = in_process(build, "text_bench", str(inputs(1)), str(inputs(10)))
+    for name in dict.fromkeys(case.rsplit("/", 1)[0] for case in times):
+        report.row(name, times[f"{name}/large"] / 1e6, times[f"{name}/small"] / 1e6, 12, "a tenth of the input")
+
+
+def saving(_programs, report, inputs, build, work):
+    """Saving 10 MB through the program's own file store, and cp with fsync, in turns on the same disk."""
+    times = in_process(build, "save_bench", str(inputs(10)), str(work))
+    report.row("save 10 MB, atomically", times["save"] / 1e6, times["copy"] / 1e6, 1.2, "cp + fsync")
+
+
+GROUPS = {"start": start, "open": opening, "type": typing, "functions": functions, "save": saving}
+
+
+def main(build, folder, work, *groups):
+    build, folder, work = Path(build), Path(folder), Path(work)
+    unknown = [group for group in groups if group not in GROUPS]
+    if unknown:
+        sys.exit(f"unknown group {unknown[0]}; there are {', '.join(GROUPS)}")
+
+    def inputs(megabytes):
+        file = work / f"page{megabytes}.html"
+        if not file.exists() or file.stat().st_size != megabytes * MB:
+            file.write_bytes(makehtml.page(megabytes * MB))
+        return file
+
+    report = Report()
+    for group in groups or GROUPS:
+        GROUPS[group](Programs(build, folder, work), report, inputs, build, work)
+    return 0 if report.all_met else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// text_bench SMALL LARGE: every function over text, with a file and with one of ten times its size. A function whose time
+// grows faster than its input shows here.
+#include "controls/files/lineends.h"
+#include "controls/files/privateprofile.h"
+#include "controls/files/textfile.h"
+#include "controls/syntax/foldlevels.h"
+#include "controls/syntax/languageregistry.h"
+#include "controls/syntax/syntaxengine.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include <malloc.h>
+
+using namespace zephira;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// One input in the forms that the functions take.
+struct Input {
+    explicit Input(const QByteArray &page)
+        : utf8(page), lf(QByteArray(page).replace("\r\n", "\n")), text(QString::fromUtf8(page)),
+          windows1252(QByteArray(page).replace("\xc3\xbc", "\xfc")), styles(static_cast<std::size_t>(page.size()))
+    {
+        // A profile with as many lines as its size allows, in sections of a hundred.
+        for (int line = 0; profile.size() < page.size(); ++line)
+            profile += line % 100 == 0 ? "[section" + QByteArray::number(line / 100) + "]\r\n"
+                                       : "key" + QByteArray::number(line) + "=a value of some length\r\n";
+    }
+
+    QByteArray utf8;
+    QByteArray lf;
+    QString text;
+    QByteArray windows1252;
+    QByteArray profile;
+    std::vector<unsigned char> styles;
+};
+
+struct TextFunction {
+    const char *name;
+    std::function<void(Input &)> run;
+};
+
+const LanguageRegistry &languages()
+{
+    static const LanguageRegistry registry;
+    return registry;
+}
+
+void colour(Input &input, const QString &language)
+{
+    benchmark::DoNotOptimize(languages().engine(language)->styleRange(input.utf8, 0, input.styles));
+}
+
+/// Folds the text as it was coloured last.
+void fold(Input &input, const QString &language)
+{
+    const FoldRules &rules = languages().engine(language)->foldRules();
+    FoldState state;
+    for (qsizetype start = 0; start < input.utf8.size();) {
+        const qsizetype lineFeed = input.utf8.indexOf('\n', start);
+        const qsizetype end = lineFeed < 0 ? input.utf8.size() : lineFeed + 1;
+        const auto at = static_cast<std::size_t>(start);
+        const auto length = static_cast<std::size_t>(end - start);
+        benchmark::DoNotOptimize(rules.fold(QByteArrayView(input.utf8).sliced(start, end - start),
+                                            std::span(input.styles).subspan(at, length), state));
+        start = end;
+    }
+}
+
+const TextFunction functions[] = {
+    {"decodeText UTF-8", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.utf8)); }},
+    {"decodeText Windows-1252", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.windows1252)); }},
+    {"encodeText UTF-8", [](Input &input) { benchmark::DoNotOptimize(encodeText(input.utf8, {})); }},
+    {"encodeText UTF-16",
+     [](Input &input) { benchmark::DoNotOptimize(encodeText(input.utf8, {Encoding::Utf16LE, true, LineEnds::CrLf})); }},
+    {"lineEndsOf", [](Input &input) { benchmark::DoNotOptimize(lineEndsOf(input.utf8)); }},
+    {"toLineEnds", [](Input &input) { benchmark::DoNotOptimize(toLineEnds(input.lf, LineEnds::CrLf)); }},
+    {"toCrLf", [](Input &input) { benchmark::DoNotOptimize(toCrLf(input.text)); }},
+    {"profileValue", [](Input &input) { benchmark::DoNotOptimize(profileValue(input.profile, u"none"_s, u"key"_s)); }},
+    {"withProfileValue",
+     [](Input &input) { benchmark::DoNotOptimize(withProfileValue(input.profile, u"none"_s, u"key"_s, u"value"_s)); }},
+    {"profileEntries", [](Input &input) { benchmark::DoNotOptimize(profileEntries(input.profile)); }},
+    {"colour HTML", [](Input &input) { colour(input, u"HTML"_s); }},
+    {"colour C/C++", [](Input &input) { colour(input, u"C/C++"_s); }},
+    {"colour XML", [](Input &input) { colour(input, u"XML"_s); }},
+    {"colour Basic", [](Input &input) { colour(input, u"Basic"_s); }},
+    {"colour Pascal", [](Input &input) { colour(input, u"Pascal"_s); }},
+    {"colour Java", [](Input &input) { colour(input, u"Java"_s); }},
+    {"fold HTML", [](Input &input) { fold(input, u"HTML"_s); }},
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (argc != 3)
+        return 2;
+    // What a function frees stays with the process. Otherwise large blocks would come fresh from the system each time, and
+    // the figures would tell of its pages.
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, -1);
+    std::vector<Input> inputs;
+    for (const char *name : {argv[1], argv[2]}) {
+        QFile file(QFile::decodeName(name));
+        if (!file.open(QIODevice::ReadOnly))
+            return 1;
+        inputs.emplace_back(file.readAll());
+    }
+    for (const TextFunction &function : functions) {
+        for (const auto &[suffix, input] : {std::pair("/small", &inputs[0]), std::pair("/large", &inputs[1])}) {
+            benchmark::RegisterBenchmark((std::string(function.name) + suffix).c_str(), [&function, input](benchmark::State &state) {
+                for (auto _ : state)
+                    function.run(*input);
+            })->Unit(benchmark::kMillisecond);
+        }
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

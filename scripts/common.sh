@@ -1,0 +1,112 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash
+# What the commands share: words to the user, packages, and a display where there is none. To be sourced.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+readonly root
+
+# Everything that is meant for people goes to stderr, so that stdout stays for what other programs read.
+say() { printf '%s\n' "$*" >&2; }
+
+die() {
+    say "$*"
+    exit 1
+}
+
+# package_names LIST...: the packages of the named lists, one a line, each once.
+package_names() {
+    local list
+    for list in "$@"; do
+        sed -e 's/#.*//' -e 's/[[:blank:]]//g' -e '/^$/d' "$root/packaging/packages/$list"
+    done | sort -u
+}
+
+# missing_packages LIST...: those of them that are not installed. One query for all of them keeps a warm start quick.
+missing_packages() {
+    local wanted
+    mapfile -t wanted < <(package_names "$@")
+    comm -23 <(printf '%s\n' "${wanted[@]}") <(
+        # The second letter of the state is "i" where the package is installed. An unknown package is an error here
+        # and simply missing from the answer.
+        dpkg-query --show --showformat='${db:Status-Abbrev} ${Package}\n' "${wanted[@]}" 2>/dev/null |
+            sed -n 's/^.i[^ ]* *//p' | sort -u
+    )
+}
+
+# install_missing LIST...: installs what is not there yet, as root or through sudo.
+install_missing() {
+    local missing prefix=()
+    mapfile -t missing < <(missing_packages "$@")
+    ((${#missing[@]})) || return 0
+    command -v apt-get >/dev/null || die "These packages are missing, and there is no apt-get to install them: ${missing[*]}"
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null || die "These packages are missing; install them as root: ${missing[*]}"
+        prefix=(sudo)
+    fi
+    say "Installing ${#missing[@]} packages: ${missing[*]}"
+    "${prefix[@]}" apt-get update -q >&2
+    "${prefix[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" >&2
+}
+
+# configured_tree PRESET: makes the preset's build tree unless it stands already; ninja keeps it up to date by itself.
+configured_tree() {
+    [[ -f $root/build/$1/build.ninja ]] || (cd "$root" && cmake --preset "$1") >&2
+}
+
+# start_display [SCREEN]: starts an X server on a free display and sets DISPLAY. It must be called from the script's own
+# shell, which the server doesn't outlive, however that shell ends. The caller stops it by stop_display.
+start_display() {
+    display_folder=$(mktemp -d)
+    local number=
+    exec {display_fd}>"$display_folder/number"
+    setpriv --pdeathsig TERM Xvfb -displayfd "$display_fd" -screen 0 "${1:-1600x1000x24}" -noreset -nolisten tcp \
+        >"$display_folder/log" 2>&1 &
+    display_pid=$!
+    exec {display_fd}>&-
+    until [[ -n $number ]]; do
+        kill -0 "$display_pid" 2>/dev/null || die "The X server did not start: $(cat "$display_folder/log")"
+        sleep 0.02
+        number=$(cat "$display_folder/number")
+    done
+    export DISPLAY=:$number
+    unset WAYLAND_DISPLAY
+}
+
+# start_window_manager: windows are given the keyboard only where a window manager runs. It reads no one's settings.
+start_window_manager() {
+    HOME=$display_folder XDG_CONFIG_HOME=$display_folder XDG_CACHE_HOME=$display_folder \
+        setpriv --pdeathsig TERM openbox --sm-disable >>"$display_folder/log" 2>&1 &
+    window_manager_pid=$!
+    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
+        kill -0 "$window_manager_pid" 2>/dev/null || die "The window manager did not start: $(cat "$display_folder/log")"
+        sleep 0.02
+    done
+}
+
+stop_display() {
+    local pid
+    for pid in "${window_manager_pid:-}" "${display_pid:-}"; do
+        [[ -n $pid ]] || continue
+        kill "$pid" 2>/dev/null || true
+        wait "$pid" 2>/dev/null || true
+    done
+    window_manager_pid='' display_pid=''
+    [[ -z ${display_folder:-} ]] || rm -rf "$display_folder"
+}
+
+screen_hash() { import -silent -window root rgb:- | sha256sum; }
+
+# picture_when_painted PNG PID BLANK: saves the screen as soon as it differs from BLANK, the hash of the empty one, and
+# has been the same four times in a row. Fails when the process ends first or nothing comes to rest within a minute.
+picture_when_painted() {
+    local last='' now same=0 end=$((SECONDS + 60))
+    while ((same < 4)); do
+        kill -0 "$2" 2>/dev/null || { say "The program ended before it had painted its window."; return 1; }
+        ((SECONDS < end)) || { say "The window did not come to rest within a minute."; return 1; }
+        sleep 0.1
+        now=$(screen_hash)
+        if [[ $now != "$3" && $now == "$last" ]]; then same=$((same + 1)); else same=0; fi
+        last=$now
+    done
+    import -silent -window root "$1"
+}
