@@ -49,13 +49,13 @@ int main(int argc, char **argv)
             if (!store.write(saved, QByteArrayView(content.value())))
                 state.SkipWithError("the file was not written");
         }
-    })->UseRealTime()->Unit(benchmark::kMillisecond);
+    })->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(5);
     benchmark::RegisterBenchmark("copy", [&](benchmark::State &state) {
         for (auto _ : state) {
             if (!copyAndSync(argv[1], copied.constData()))
                 state.SkipWithError("the file was not copied");
         }
-    })->UseRealTime()->Unit(benchmark::kMillisecond);
+    })->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(5);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -3,6 +3,7 @@
 
 #include "controls/files/privateprofile.h"
 #include "controls/files/textfile.h"
+#include "controls/syntax/describestyles.h"
 
 namespace zephira {
 
@@ -40,9 +41,31 @@ QByteArray printTextFile(const QByteArray &input)
            + lineEndsName(text.format.lineEnds) + '\n' + text.utf8;
 }
 
+/// The runs of colours in a language.
+template<const char16_t *language>
+QByteArray printStyles(const QByteArray &input)
+{
+    return describeStyles(input, QString::fromUtf16(language));
+}
+
+constexpr char16_t html[] = u"HTML";
+constexpr char16_t xml[] = u"XML";
+constexpr char16_t cpp[] = u"C/C++";
+constexpr char16_t java[] = u"Java";
+constexpr char16_t basic[] = u"Basic";
+constexpr char16_t pascal[] = u"Pascal";
+constexpr char16_t perl[] = u"Perl";
+
 constexpr Parser table[] = {
     {"ini", printProfile},
     {"textfile", printTextFile},
+    {"syntax-html", printStyles<html>},
+    {"syntax-xml", printStyles<xml>},
+    {"syntax-c/c++", printStyles<cpp>},
+    {"syntax-java", printStyles<java>},
+    {"syntax-basic", printStyles<basic>},
+    {"syntax-pascal", printStyles<pascal>},
+    {"syntax-perl", printStyles<perl>},
 };
 
 } // namespace

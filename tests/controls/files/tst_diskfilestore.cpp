@@ -112,6 +112,16 @@ private slots:
         QCOMPARE(bytes.error().sentence, unread(at(u"large"_s), u"it is larger than 256 MiB"_s));
     }
 
+    void refusesWhatGrowsTooLargeMeanwhile()
+    {
+        put(u"growing"_s, "small");
+        FaultyCalls calls;
+        calls.intervene = [&](int, Call call) {
+            return call == Call::Read ? truncate(native(u"growing"_s).constData(), maximumFileSize + 1) : 0;
+        };
+        QCOMPARE(DiskFileStore(calls).read(at(u"growing"_s)).error().code, Error::Code::TooLarge);
+    }
+
     void eachReadingCallFails()
     {
         put(u"a"_s, "abc");

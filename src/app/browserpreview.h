@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/appcontext.h"
+
+namespace zephira {
+
+class WindowCommands;
+
+/// Previews of the document in a browser outside. Both show the file on the disk, so they ask to save it first, even if
+/// nothing has changed; a "No" ends them.
+
+/// In the browser whose path is kept in the configuration; it is asked for when it isn't there.
+void previewInNamedBrowser(const AppContext &context, WindowCommands &window);
+
+/// In the program that the desktop opens such a file with.
+void previewInDefaultBrowser(const AppContext &context, WindowCommands &window);
+
+} // namespace zephira

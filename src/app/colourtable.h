@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace zephira {
+
+class Configuration;
+class EditingControl;
+
+/// One row of the colour table: what the settings hold for one kind of text. Colours have red in the lowest byte.
+struct ColourEntry {
+    int background = 0;
+    int foreground = 0;
+    int fontStyle = 0;
+};
+
+/// Rows 0 to 17 are used.
+using ColourTable = std::array<ColourEntry, 20>;
+
+/// The row's items in the editing control; -1 where the row has none.
+struct ColourItems {
+    int foreground = -1;
+    int background = -1;
+    int fontStyle = -1;
+};
+
+constexpr int colourRowCount = 18;
+constexpr int colourItemCount = 31;
+constexpr int fontStyleItemCount = 12;
+
+/// Bookmark, comment, divider lines, … window, in the order of the settings' rows.
+const std::array<ColourItems, colourRowCount> &colourItems();
+
+/// Reads the keys clr0bg, clr0fr, clr0fnt to clr17fnt of [Colors]. Raises HandlerError naming the first key that is missing
+/// or not a number.
+ColourTable readColours(const Configuration &configuration, const QString &file);
+
+/// Hands the twelve font styles and then the 31 colours to the editing control, each in the order of the items.
+void applyColours(const ColourTable &table, EditingControl &editor);
+
+} // namespace zephira

@@ -1,0 +1,22 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Menus, toolbars, palette and the routing of their commands. The tables and the router need no window.
+set(APP_COMMANDS_LOGIC
+  browserpreview.h browserpreview.cpp
+  commandrouter.h commandrouter.cpp
+  designercommands.h designercommands.cpp
+  helppages.h helppages.cpp
+  inserttext.h
+  menutable.h menutable.cpp
+  palettecommands.h palettecommands.cpp
+  palettetable.h palettetable.cpp
+  quicktag.h quicktag.cpp
+  refusals.h refusals.cpp
+  tagsmenu.h tagsmenu.cpp
+  toolbartable.h toolbartable.cpp
+  windowcommands.h)
+set(APP_COMMANDS_FORMS
+  glyphs.h glyphs.cpp
+  icons.h icons.cpp
+  menus.h menus.cpp
+  palette.h palette.cpp
+  toolbars.h toolbars.cpp)

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace zephira {
+
+/// The window's common file dialog `CM`. Its file name is the second holder of the document's path: it is set at every
+/// open, emptied for a new document, and a cancelled dialog leaves it as it was. Title, filter and folder stay from one
+/// showing to the next.
+class CommonDialog : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString FileName MEMBER fileName)
+    Q_PROPERTY(QString FileTitle READ fileTitle)
+    Q_PROPERTY(QString DialogTitle MEMBER title)
+    Q_PROPERTY(QString Filter MEMBER filter)
+    Q_PROPERTY(QString InitDir MEMBER initialFolder)
+
+public:
+    using QObject::QObject;
+
+    /// The file's name without its folder.
+    QString fileTitle() const;
+
+    QString fileName;
+    QString title;
+    QString filter;
+    QString initialFolder;
+};
+
+/// What follows the last separator, "\" and "/" alike.
+QString fileTitleOf(const QString &path);
+/// The path up to and with its last separator.
+QString folderOf(const QString &path);
+/// The folder with a separator at its end.
+QString withSeparator(const QString &folder);
+
+} // namespace zephira

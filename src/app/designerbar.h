@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QToolBar>
+
+class QComboBox;
+class QPushButton;
+
+namespace zephira {
+
+/// The designer's toolbar `Toolbar2` with the two boxes for font and size and the button that resets the page. It is
+/// hidden outside visual mode and stays disabled and empty until the designer has shown its first document.
+class DesignerBar : public QToolBar
+{
+    Q_OBJECT
+
+public:
+    explicit DesignerBar(QWidget *parent = nullptr);
+
+    /// Fills the two boxes with their fixed lists and selects the first entry in each.
+    void fillFonts();
+    /// Empties the text of both boxes and disables every button.
+    void disableAll();
+
+private:
+    QComboBox *m_font = nullptr;
+    QComboBox *m_size = nullptr;
+    QPushButton *m_reset = nullptr;
+};
+
+} // namespace zephira

@@ -1,0 +1,391 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/document.h"
+
+#include "app/languages.h"
+#include "controls/clipboard.h"
+#include "controls/designer.h"
+#include "controls/documenthost.h"
+#include "controls/editingcontrol.h"
+#include "controls/errorstyles.h"
+#include "controls/files/filestore.h"
+#include "controls/relativepath.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr auto openFilter =
+    u"All Supported Files|*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*.java;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;"
+    u"*.pas;*.bas;*.frm;*.vbp;*.sql|All Files|*.*|Text / INI / LOG Files|*.txt;*.ini;*.log|Html Files|*.html;*.htm|"
+    u"Java / Script Files|*.js;*.java|Style Sheets|*.cs|C/C++ Files|*.c;*.cpp;*.h|Perl Files|*.pl|CGI/Perl Files|*.cgi|"
+    u"XML Files|*.xml|Pascal Files|*.pas|Basic Files|*.bas;*.frm;*.vbp|ASP / VBScript Files|*.asp;*.vbs|SQL Files|*.sql";
+
+constexpr auto noProjectPath = u"Project Path";
+
+/// Languages in which an image of the file pane becomes a link. "Java Script" is no row of the list; it never matches.
+constexpr std::array imageLinkLanguages = {u"HTML", u"XML", u"Perl", u"Java Script"};
+
+constexpr std::array imageExtensions = {u"gif", u"bmp", u"jpg"};
+
+bool holds(const auto &words, const QString &word)
+{
+    return std::any_of(words.begin(), words.end(), [&](const char16_t *entry) { return word == QStringView(entry); });
+}
+
+/// What follows the last dot, in lower case; empty for a name without a dot.
+QString extensionOf(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot < 0 ? QString() : name.mid(dot + 1).toLower();
+}
+
+/// A failed result becomes the error that handlers are written for.
+template<typename T>
+T orRaise(Result<T> result)
+{
+    if (!result)
+        throw HandlerError{result.error().sentence};
+    if constexpr (!std::is_void_v<T>)
+        return std::move(result).value();
+}
+
+} // namespace
+
+Document::Document(const AppContext &context, CommonDialog &dialog, DocumentWindow &window)
+    : m_context(context), m_dialog(dialog), m_window(window)
+{
+}
+
+void Document::textChanged()
+{
+    m_modified = true;
+    m_window.setCountPanel(m_context.editor.textLength());
+}
+
+Answer Document::askToSave(PromptIcon icon)
+{
+    return m_context.prompts.ask({u"Document: "_s + m_title + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                                  u"Document Modified."_s,
+                                  icon == PromptIcon::Shown ? Question::Icon::Question : Question::Icon::None,
+                                  Question::Buttons::YesNoCancel});
+}
+
+bool Document::mayGoOn(PromptIcon icon)
+{
+    if (!m_modified)
+        return true;
+    const Answer answer = askToSave(icon);
+    if (answer == Answer::Yes)
+        doSave(); // Whatever comes of it, the command goes on.
+    return answer != Answer::Cancel;
+}
+
+void Document::flushDesigner()
+{
+    Designer &designer = m_context.designer;
+    if (!designer.isShowing() || !designer.isDirty())
+        return;
+    m_context.editor.setText(designer.documentHtml());
+    m_window.selectCodeTab();
+    m_modified = true;
+}
+
+void Document::discardPreview()
+{
+    if (m_previewTarget.isEmpty() || m_previewTarget.endsWith(u".asp", Qt::CaseInsensitive))
+        return;
+    [[maybe_unused]] const Result<void> removed = m_context.files.remove(m_previewTarget);
+}
+
+void Document::doNew()
+{
+    if (!mayGoOn(PromptIcon::Hidden))
+        return;
+    m_context.editor.setText({});
+    m_context.editor.setLanguage({});
+    m_modified = false;
+    m_hasFile = false;
+    m_path.clear();
+    m_title = u"New Document"_s;
+    m_context.document.setLanguageRow(Text);
+    m_window.setCaption(u"Zephira - [New Document]"_s);
+    m_window.setPathPanel(u"Untitled"_s);
+    m_dialog.fileName.clear();
+    m_window.documentSettled();
+    m_window.selectCodeTab();
+}
+
+void Document::newDocument()
+{
+    flushDesigner();
+    discardPreview();
+    doNew();
+}
+
+void Document::newFromTemplate()
+{
+    newDocument();
+    m_window.showTemplateChooser();
+}
+
+void Document::SetSyntax()
+{
+    for (const SyntaxStep &step : syntaxSteps(m_dialog.fileName)) {
+        m_context.document.setLanguageRow(step.row);
+        if (step.editorLanguage)
+            m_context.editor.setLanguage(*step.editorLanguage);
+    }
+}
+
+/// Makes `path` the document's file. The text is on disk under that name now.
+void Document::adopt(const QString &path)
+{
+    m_modified = false;
+    m_hasFile = true;
+    m_path = path;
+    m_title = path;
+    m_window.setCaption(u"Zephira - ["_s + path + u']');
+    m_window.setPathPanel(path);
+    m_window.documentSettled();
+}
+
+/// Reads the file into the editing control where that succeeds; a failure is only noted, since the caller's fields are
+/// set all the same. A file that is refused for its size is told.
+void Document::readInto(const QString &path)
+{
+    const Result<void> opened = m_context.editor.openFile(path);
+    if (opened)
+        return;
+    if (opened.error().code == Error::Code::TooLarge)
+        m_context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
+    else
+        m_window.notice(opened.error().sentence);
+}
+
+void Document::open()
+{
+    flushDesigner();
+    discardPreview();
+    if (!mayGoOn(PromptIcon::Shown))
+        return;
+    m_dialog.title = u"Open a document..."_s;
+    m_dialog.filter = QStringView(openFilter).toString();
+    const auto chosen = m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false});
+    if (!chosen || chosen->isEmpty())
+        return;
+    const QString name = *chosen;
+    m_dialog.fileName = name;
+    m_context.document.setProjectPath(folderOf(name));
+    SetSyntax();
+    readInto(name);
+    adopt(name);
+    m_window.setCountPanel(m_context.editor.textLength());
+    m_context.editor.executeCmd(int(EditorCommand::GoToLine), 0);
+    m_window.selectCodeTab();
+}
+
+bool Document::doSave()
+{
+    if (!m_hasFile)
+        return DoSaveAs();
+    const Result<void> saved = m_context.editor.saveFile(m_path, false);
+    if (!saved) {
+        m_context.prompts.tell(saved.error().sentence, {}, Question::Icon::Exclamation);
+        return false;
+    }
+    m_modified = false;
+    m_window.documentSettled();
+    return true;
+}
+
+bool Document::DoSaveAs()
+{
+    m_dialog.title = u"Save a document..."_s;
+    m_dialog.initialFolder = m_context.document.projectPath();
+    const int row = m_context.document.languageRow();
+    if (row >= 0 && row < languageCount)
+        m_dialog.filter = QStringView(languageRows()[size_t(row)].saveFilter).toString();
+
+    QString name;
+    for (;;) {
+        const auto chosen = m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, true});
+        if (!chosen || chosen->isEmpty() || *chosen == u" "_s)
+            return false;
+        name = *chosen;
+        if (!m_context.files.FileExists(name))
+            break;
+        const Answer answer = m_context.prompts.ask(
+            {u"File: "_s + name + u"\n\nThe file you have entered\nalready exists. Overwrite?"_s, u"Overwrite?"_s,
+             Question::Icon::Question, Question::Buttons::YesNoCancel});
+        if (answer == Answer::Cancel)
+            return false;
+        if (answer == Answer::Yes)
+            break;
+    }
+    const Result<void> saved = m_context.editor.saveFile(name, true);
+    if (!saved) {
+        m_window.notice(saved.error().sentence);
+        return false;
+    }
+    m_dialog.fileName = name;
+    SetSyntax();
+    adopt(name);
+    m_context.document.setProjectPath(folderOf(name));
+    return true;
+}
+
+void Document::save()
+{
+    flushDesigner();
+    doSave();
+}
+
+void Document::saveAs()
+{
+    flushDesigner();
+    DoSaveAs();
+}
+
+void Document::OpenAFile()
+{
+    try {
+        const QString name = m_window.listedFile();
+        if (name.isEmpty())
+            return;
+        const QString path = withSeparator(m_window.listedFolder()) + name;
+        if (holds(imageExtensions, extensionOf(name)))
+            openListedImage(path);
+        else
+            openListedText(path);
+    } catch (const HandlerError &error) {
+        m_context.prompts.ask({u"An error has occured.\r\n"_s + error.description
+                                   + u"\r\nThe routine will now reset itself..."_s,
+                               {}, Question::Icon::Critical, Question::Buttons::Ok});
+    }
+}
+
+void Document::openListedImage(const QString &path)
+{
+    if (!holds(imageLinkLanguages, m_context.document.languageText())) {
+        orRaise(m_window.showPicture(path));
+        return;
+    }
+    const QString base = m_context.document.projectPath();
+    if (base == QStringView(noProjectPath)) {
+        m_context.prompts.tell(u"Please enter a Project Path to insert image links"_s, {}, Question::Icon::Exclamation);
+        return;
+    }
+    const QSize size = orRaise(m_window.pictureSize(path));
+    const QString tag = u"<img src=\"%1\" width=\"%2\" height=\"%3\" alt=\"\" Border=\"0\">"_s.arg(
+        MakeRelativePath(base, path), QString::number(size.width()), QString::number(size.height()));
+    m_context.editor.setSelText(m_context.editor.selText() + tag);
+}
+
+void Document::openListedText(const QString &path)
+{
+    if (!mayGoOn(PromptIcon::Shown))
+        return;
+    orRaise(m_context.editor.openFile(path));
+    m_dialog.fileName = path;
+    adopt(path);
+    SetSyntax();
+    m_context.document.setProjectPath(folderOf(path));
+    m_context.editor.executeCmd(int(EditorCommand::GoToLine), 0);
+    m_window.setCountPanel(m_context.editor.textLength());
+}
+
+void Document::openDropped(const QString &path)
+{
+    if (!mayGoOn(PromptIcon::Shown))
+        return;
+    const Result<void> opened = m_context.editor.openFile(path);
+    if (!opened) {
+        m_context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
+        return;
+    }
+    m_dialog.fileName = path;
+    adopt(path);
+    m_context.document.setProjectPath(folderOf(path));
+    SetSyntax();
+    m_window.setCountPanel(m_context.editor.textLength());
+    m_context.editor.executeCmd(int(EditorCommand::GoToLine), 0);
+}
+
+void Document::openAtStart(const QString &path)
+{
+    m_dialog.fileName = path;
+    adopt(path);
+    SetSyntax();
+    readInto(path);
+    m_modified = false;
+}
+
+void Document::revert()
+{
+    if (m_dialog.fileName.isEmpty())
+        return;
+    const Answer answer = m_context.prompts.ask(
+        {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s, {},
+         Question::Icon::Question, Question::Buttons::YesNo});
+    if (answer != Answer::Yes)
+        return;
+    // Loading raises the change event; the flag is to stay what it was.
+    const bool modified = m_modified;
+    readInto(m_dialog.fileName);
+    m_context.designer.loadDocument(m_dialog.fileName);
+    m_modified = modified;
+}
+
+void Document::saveAsTemplate()
+{
+    const QString answer =
+        m_context.prompts
+            .input({u"What do you wish to call this file? (Please Include Extension)"_s, u"Save as Template"_s})
+            .value_or(QString());
+    if (answer.isEmpty()) {
+        m_context.prompts.tell(u"You did not enter a file name, the file will not be saved"_s);
+        return;
+    }
+    if (fileTitleOf(answer) != answer) {
+        m_context.prompts.tell(u"A template's name can't hold a folder: %1"_s.arg(answer), {}, Question::Icon::Exclamation);
+        return;
+    }
+    const Result<void> saved = m_context.editor.saveFile(m_context.appPath + u"/templates/custom/"_s + answer, false);
+    if (!saved)
+        m_context.prompts.tell(saved.error().sentence, {}, Question::Icon::Exclamation);
+}
+
+void Document::print()
+{
+    m_context.editor.printContents(0, 12);
+}
+
+void Document::clearClipboard()
+{
+    const Answer answer = m_context.prompts.ask({u"Are you sure you wish to clear the clipboard?"_s, u"Clipboard"_s,
+                                                 Question::Icon::Question, Question::Buttons::YesNo});
+    if (answer == Answer::Yes)
+        m_context.clipboard.setText({});
+}
+
+bool Document::askToClose()
+{
+    m_saveFailedAtClose = false;
+    if (!m_modified)
+        return true;
+    switch (askToSave(PromptIcon::Shown)) {
+    case Answer::Yes:
+        m_saveFailedAtClose = !doSave();
+        return true;
+    case Answer::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace zephira

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/commondialog.h"
+#include "app/documentwindow.h"
+#include "controls/appcontext.h"
+#include "controls/prompts.h"
+
+#include <QString>
+
+namespace zephira {
+
+/// The window's one document: its four fields, the commands that create, open and save it, and the prompts that protect
+/// changes. The text itself lives in the editing control.
+class Document
+{
+public:
+    Document(const AppContext &context, CommonDialog &dialog, DocumentWindow &window);
+
+    bool docModified() const { return m_modified; }
+    bool docHasFile() const { return m_hasFile; }
+    /// "New Document" for a new one, else the full path; empty until a document exists.
+    QString docTitle() const { return m_title; }
+    /// The full path, empty for a new document.
+    QString docPath() const { return m_path; }
+    /// The last temporary preview file, or the address of a preview.
+    QString previewTarget() const { return m_previewTarget; }
+
+    void setModified(bool modified) { m_modified = modified; }
+    void setPreviewTarget(const QString &target) { m_previewTarget = target; }
+
+    /// The editing control raised its change event.
+    void textChanged();
+
+    void doNew();
+    /// Returns whether the document is on disk now; false if the user cancelled or the save failed.
+    bool doSave();
+    bool DoSaveAs();
+    /// Opens the file that is selected in the file pane: as the document, as a link to an image, or in the quick view.
+    void OpenAFile();
+    /// Chooses the language by the common dialog's file name.
+    void SetSyntax();
+
+    void newDocument();
+    void newFromTemplate();
+    void open();
+    void save();
+    void saveAs();
+    void saveAsTemplate();
+    void print();
+    void clearClipboard();
+    /// Goes back to the file on disk, in the code view and the designer; asks first.
+    void revert();
+    /// Makes a dropped file the document, after the save prompt.
+    void openDropped(const QString &path);
+    /// Opens the file of the command line. Errors are ignored.
+    void openAtStart(const QString &path);
+
+    /// Before the window closes: asks about changes. Returns false if the user refused. Sets `saveFailed` where the
+    /// user wanted the text saved and it isn't.
+    bool askToClose();
+    bool saveFailedAtClose() const { return m_saveFailedAtClose; }
+
+    /// Carries the designer's text back into the code view, if it is showing and dirty.
+    void flushDesigner();
+    /// Deletes the temporary preview file; an address that ends in ".asp" is spared.
+    void discardPreview();
+
+private:
+    enum class PromptIcon { Shown, Hidden };
+
+    Answer askToSave(PromptIcon icon);
+    /// The save prompt where there are changes; false if the user chose to stay.
+    bool mayGoOn(PromptIcon icon);
+    void adopt(const QString &path);
+    void readInto(const QString &path);
+    void openListedImage(const QString &path);
+    void openListedText(const QString &path);
+
+    const AppContext m_context;
+    CommonDialog &m_dialog;
+    DocumentWindow &m_window;
+    bool m_modified = false;
+    bool m_hasFile = false;
+    bool m_saveFailedAtClose = false;
+    QString m_title;
+    QString m_path;
+    QString m_previewTarget;
+};
+
+} // namespace zephira

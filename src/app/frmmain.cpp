@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/frmmain.h"
+
+#include "app/commandrouter.h"
+#include "app/designerbar.h"
+#include "app/icons.h"
+#include "app/inserttext.h"
+#include "app/languages.h"
+#include "app/menus.h"
+#include "app/palette.h"
+#include "app/recoverykeeper.h"
+#include "app/statuspanels.h"
+#include "app/toolbars.h"
+#include "app/toolbartable.h"
+#include "app/windowtabs.h"
+#include "controls/desktop/keyboardlocks.h"
+#include "controls/modalformopener.h"
+#include "controls/scintilla/codemax.h"
+#include "panes/filepane.h"
+#include "panes/foldertree.h"
+#include "ui_frmmain.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QListWidget>
+#include <QMimeData>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr int sidePaneWidth = 250;
+
+void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)
+{
+    for (const WindowTab &tab : tabs) {
+        const int index = bar.addTab(iconFor(tab.icon), tab.caption.toString());
+        bar.setTabData(index, tab.key.toString());
+        bar.setTabToolTip(index, tab.tip.toString());
+    }
+    bar.updateGeometry(); // A bar that does not show yet keeps its new size to itself.
+}
+
+/// The first local file of a drop, or empty.
+QString droppedFile(const QMimeData *data)
+{
+    for (const QUrl &url : data->urls()) {
+        if (url.isLocalFile())
+            return url.toLocalFile();
+    }
+    return {};
+}
+
+} // namespace
+
+frmmain::frmmain(const WindowServices &services, QWidget *parent)
+    : QMainWindow(parent), m_services(services), m_ui(std::make_unique<Ui::frmmain>()), m_commonDialog(this)
+{
+    m_ui->setupUi(this);
+    m_commonDialog.setObjectName(u"CM"_s);
+    m_rt = new CodeMax({services.files, services.recovery, services.prompts}, this);
+    m_rt->setObjectName(u"rt"_s);
+    m_rt->setAccessibleName(u"Source of the document"_s);
+
+    m_inserter = std::make_unique<TextInserter>(*m_rt, m_designer);
+    m_forms = std::make_unique<ModalFormOpener>(services.catalogue, this);
+    m_context = std::make_unique<const AppContext>(
+        AppContext{*m_rt, *m_inserter, m_designer, *this, services.configuration, services.settings, services.files,
+                   services.prompts, services.shell, services.clipboard, services.clock, *m_forms, services.appPath});
+    m_forms->setContext(*m_context);
+    m_document = std::make_unique<Document>(*m_context, m_commonDialog, *this);
+    m_router = std::make_unique<CommandRouter>(*m_context, *this);
+    m_recoveryKeeper = std::make_unique<RecoveryKeeper>(services.recovery, *m_rt, *m_document);
+
+    m_panels = new StatusPanels(*m_ui->stBar, services.clock);
+    m_panels->setLit(StatusPanels::CapsLock, false);
+    m_panels->setLit(StatusPanels::NumLock, false);
+    buildBars();
+    buildSidePane();
+    buildWorkspace();
+    connectEditor();
+    connectCommands();
+    m_rt->setFocus();
+}
+
+frmmain::~frmmain() = default;
+
+void frmmain::buildBars()
+{
+    m_menus = new Menus(m_ui->menubar, this);
+
+    m_standardBar = new CommandToolBar(standardToolBar(), this);
+    m_formattingBar = new CommandToolBar(formattingToolBar(), this);
+    m_languages = new QComboBox(m_standardBar);
+    m_languages->setObjectName(u"cboLang"_s);
+    m_languages->setToolTip(u"Language of the document"_s);
+    m_languages->setAccessibleName(u"Language of the document"_s);
+    m_languages->setFocusPolicy(Qt::TabFocus);
+    for (const LanguageRow &row : languageRows())
+        m_languages->addItem(QStringView(row.text).toString());
+    m_standardBar->addSeparator();
+    m_standardBar->addWidget(m_languages);
+    addToolBar(m_standardBar);
+    addToolBar(m_formattingBar);
+
+    auto *paletteBar = new QToolBar(u"Tool palette"_s, this);
+    paletteBar->setObjectName(u"paletteBar"_s);
+    m_palette = new Palette(paletteBar);
+    paletteBar->addWidget(m_palette);
+    addToolBarBreak();
+    addToolBar(paletteBar);
+
+    addToolBarBreak();
+    m_designerBar = new DesignerBar(this);
+    addToolBar(m_designerBar);
+    m_designerBar->hide();
+    for (QToolBar *bar : {static_cast<QToolBar *>(m_standardBar), static_cast<QToolBar *>(m_formattingBar), paletteBar,
+                          static_cast<QToolBar *>(m_designerBar)})
+        bar->setMovable(false);
+
+    m_selectorList = new QListWidget(m_ui->centralwidget);
+    m_selectorList->setObjectName(u"List1"_s);
+    m_selectorList->setToolTip(u"Style selectors"_s);
+    m_selectorList->setAccessibleName(u"Style selectors"_s);
+    m_selectorList->hide();
+}
+
+void frmmain::buildSidePane()
+{
+    addTabs(*m_ui->Frame1, sideTabs());
+    m_filePane = new FilePane(m_services.prompts, m_ui->sidePages);
+    m_ui->sidePages->addWidget(m_filePane);
+
+    m_aspTags = new QTreeWidget(m_ui->sidePages);
+    m_aspTags->setObjectName(u"asptags"_s);
+    m_aspTags->setHeaderHidden(true);
+    m_aspTags->setUniformRowHeights(true);
+    m_aspTags->setAccessibleName(u"ASP Codes / Tags"_s);
+    m_ui->sidePages->addWidget(m_aspTags);
+
+    m_scriptFolder = new FolderTree(m_ui->sidePages);
+    m_scriptFolder->setObjectName(u"scriptfolder"_s);
+    m_scriptFolder->setAccessibleName(u"Script folders"_s);
+    m_ui->sidePages->addWidget(m_scriptFolder);
+
+    for (int i = 1; i < m_ui->Frame1->count(); ++i)
+        closeTab(*m_ui->Frame1, i);
+    m_ui->mainSplitter->setSizes({sidePaneWidth, width() - sidePaneWidth});
+    m_ui->mainSplitter->setStretchFactor(1, 1);
+    connect(m_filePane, &FilePane::fileActivated, this, &frmmain::openListedFile);
+}
+
+void frmmain::buildWorkspace()
+{
+    addTabs(*m_ui->workspace, workspaceTabs());
+    for (int i = 1; i < m_ui->workspace->count(); ++i)
+        closeTab(*m_ui->workspace, i);
+    m_ui->views->addWidget(m_rt);
+}
+
+void frmmain::connectEditor()
+{
+    connect(m_rt, &CodeMax::Change, this, [this] {
+        m_document->textChanged();
+        m_recoveryKeeper->textChanged();
+    });
+    connect(m_rt, &CodeMax::SelChange, this, &frmmain::selectionChanged);
+    m_rt->installEventFilter(this);
+    connect(m_rt, &CodeMax::OvertypeChanged, this,
+            [this](bool on) { m_panels->setText(StatusPanels::Insert, on ? u"OVR"_s : u"INS"_s); });
+}
+
+void frmmain::connectCommands()
+{
+    connect(m_languages, &QComboBox::currentIndexChanged, this, &frmmain::languageChanged);
+    // Choosing the row that is selected already runs the handler too.
+    connect(m_languages, &QComboBox::activated, this, &frmmain::languageChanged);
+    connect(m_menus, &Menus::triggered, this, [this](const QString &name) { m_router->menu(name); });
+    connect(m_standardBar, &CommandToolBar::buttonClicked, this, [this](const QString &key) { m_router->tBar(key); });
+    connect(m_formattingBar, &CommandToolBar::buttonClicked, this, [this](const QString &key) { m_router->toolbar1(key); });
+    connect(m_formattingBar, &CommandToolBar::pullDownClicked, this,
+            [this](const QString &key) { m_router->pullDown(key); });
+    connect(m_palette, &Palette::clicked, this,
+            [this](int index, const QString &key, int position) { m_router->palette(index, key, position); });
+    connect(m_palette, &Palette::headingClicked, this, [this](int size) { m_router->heading(size); });
+    connect(m_palette, &Palette::tabClicked, this, [this] { setSelectorListVisible(false); });
+    m_menus->applyAvailability(*m_forms);
+    m_standardBar->applyAvailability(*m_forms);
+    m_formattingBar->applyAvailability(*m_forms);
+    m_palette->applyAvailability(*m_forms);
+    for (const QStringView key : commandsOfClosedTabs())
+        m_formattingBar->close(key.toString());
+    markNotAvailable(m_palette->action(0, u"spell"_s));
+}
+
+void frmmain::languageChanged(int row)
+{
+    if (row < 0 || row >= languageCount)
+        return;
+    const LanguageRow &language = languageRows()[size_t(row)];
+    m_formattingBar->setMarkupOpen(language.markupTools);
+    m_menus->menu(u"Tags"_s)->menuAction()->setEnabled(language.markupTools);
+    m_rt->setLanguage(QStringView(language.editorLanguage).toString());
+}
+
+void frmmain::selectionChanged()
+{
+    selRange = m_rt->selection(true);
+    showLinePanels();
+    if (modes.highlight == 1)
+        m_rt->setHighlightedLine(selRange.EndLineNo);
+}
+
+void frmmain::showLinePanels()
+{
+    m_panels->setText(StatusPanels::TotalLines, QString::number(m_rt->lineCount()));
+    m_panels->setText(StatusPanels::Line, QString::number(selRange.EndLineNo + 1));
+}
+
+void frmmain::showKeyboardLocks()
+{
+    const KeyboardLocks locks = keyboardLocks().value_or(KeyboardLocks());
+    m_panels->setLit(StatusPanels::CapsLock, locks.caps);
+    m_panels->setLit(StatusPanels::NumLock, locks.num);
+}
+
+bool frmmain::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        showKeyboardLocks();
+    return QMainWindow::event(event);
+}
+
+bool frmmain::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyRelease) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_CapsLock || key == Qt::Key_NumLock)
+            showKeyboardLocks();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+/// A double click in the file list: the designer's work and the preview are put in order before the file opens.
+void frmmain::openListedFile()
+{
+    m_document->flushDesigner();
+    m_document->discardPreview();
+    m_document->OpenAFile();
+    selectCodeTab();
+}
+
+void frmmain::closeEvent(QCloseEvent *event)
+{
+    if (!m_document->askToClose()) {
+        event->ignore();
+        return;
+    }
+    unload();
+    event->accept();
+    m_services.endProcess();
+}
+
+void frmmain::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedFile(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void frmmain::dropEvent(QDropEvent *event)
+{
+    const QString path = droppedFile(event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    m_document->openDropped(path);
+}
+
+} // namespace zephira

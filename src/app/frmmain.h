@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/colourtable.h"
+#include "app/commondialog.h"
+#include "app/document.h"
+#include "app/documentwindow.h"
+#include "app/windowcommands.h"
+#include "app/windowservices.h"
+#include "controls/appcontext.h"
+#include "controls/designer.h"
+#include "controls/documenthost.h"
+#include "controls/editingcontrol.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QComboBox;
+class QListWidget;
+class QTabBar;
+class QTreeWidget;
+
+namespace zephira {
+
+class CodeMax;
+class CommandRouter;
+class CommandToolBar;
+class DesignerBar;
+class FilePane;
+class FolderTree;
+class Menus;
+class ModalFormOpener;
+class Palette;
+class QuickViewer;
+class RecoveryKeeper;
+class StatusPanels;
+
+namespace Ui {
+class frmmain;
+}
+
+/// The main window: one document under its menus, toolbars, panes and views. The window holds the parts and connects
+/// them; what they do is theirs.
+class frmmain : public QMainWindow, public DocumentHost, public DocumentWindow, public WindowCommands
+{
+    Q_OBJECT
+    Q_PROPERTY(bool docModified READ docModified)
+    Q_PROPERTY(bool docHasFile READ docHasFile)
+    Q_PROPERTY(QString docTitle READ docTitle)
+    Q_PROPERTY(QString docPath READ docPath)
+    Q_PROPERTY(QString previewTarget READ previewTarget)
+    Q_PROPERTY(bool rootSelect MEMBER rootSelect)
+    Q_PROPERTY(QString AppPath READ appPath)
+    Q_PROPERTY(QStringList startSteps MEMBER startSteps)
+
+public:
+    /// The five display options of the configuration, kept for the life of the process.
+    struct DisplayModes {
+        int highlight = 0;
+        int lineNumber = 0;
+        int leftMargin = 0;
+        int whitespace = 0;
+        int selBounds = 0;
+    };
+
+    explicit frmmain(const WindowServices &services, QWidget *parent = nullptr);
+    ~frmmain() override;
+
+    bool docModified() const { return m_document->docModified(); }
+    bool docHasFile() const { return m_document->docHasFile(); }
+    QString docTitle() const { return m_document->docTitle(); }
+    QString docPath() const { return m_document->docPath(); }
+    QString previewTarget() const { return m_document->previewTarget(); }
+    QString appPath() const { return m_services.appPath; }
+
+    Q_INVOKABLE void doNew() { m_document->doNew(); }
+    Q_INVOKABLE bool doSave() { return m_document->doSave(); }
+    Q_INVOKABLE bool DoSaveAs() { return m_document->DoSaveAs(); }
+    Q_INVOKABLE void OpenAFile() { m_document->OpenAFile(); }
+    Q_INVOKABLE void SetSyntax() { m_document->SetSyntax(); }
+    Q_INVOKABLE void InsertAtCaret(const QString &text);
+
+    const WindowServices &services() const { return m_services; }
+    const AppContext &context() const { return *m_context; }
+    Document &document() { return *m_document; }
+    CodeMax &rt() { return *m_rt; }
+    Menus &menus() { return *m_menus; }
+    FilePane &filePane() { return *m_filePane; }
+    DesignerBar &designerBar() { return *m_designerBar; }
+    StatusPanels &panels() { return *m_panels; }
+    QListWidget &selectorList() { return *m_selectorList; }
+    QTreeWidget &aspTags() { return *m_aspTags; }
+    FolderTree &scriptFolder() { return *m_scriptFolder; }
+    ModalFormOpener &forms() { return *m_forms; }
+
+    /// Panels 2 and 4: the selection's end line, and the line count.
+    void showLinePanels();
+
+    bool rootSelect = false;
+    DisplayModes modes;
+    ColourTable clrTable;
+    CodeMaxRange selRange;
+    /// Names of the start's steps, in the order in which they ran.
+    QStringList startSteps;
+
+    // DocumentHost
+    int languageRow() const override;
+    QString languageText() const override;
+    void setLanguageRow(int row) override;
+    QString projectPath() const override;
+    void setProjectPath(const QString &path) override;
+    QString commonDialogFile() const override { return m_commonDialog.fileName; }
+
+    // DocumentWindow
+    void setCaption(const QString &caption) override;
+    void setCountPanel(int characters) override;
+    void setPathPanel(const QString &text) override;
+    void notice(const QString &sentence) override;
+    void selectCodeTab() override;
+    void documentSettled() override;
+    void showTemplateChooser() override;
+    QString listedFile() const override;
+    QString listedFolder() const override;
+    Result<QSize> pictureSize(const QString &path) const override;
+    Result<void> showPicture(const QString &path) override;
+
+    // WindowCommands
+    void newDocument() override { m_document->newDocument(); }
+    void newFromTemplate() override { m_document->newFromTemplate(); }
+    void newWindow() override;
+    void openDocument() override { m_document->open(); }
+    void saveDocument() override { m_document->save(); }
+    void saveDocumentAs() override { m_document->saveAs(); }
+    void saveAsTemplate() override { m_document->saveAsTemplate(); }
+    void printDocument() override { m_document->print(); }
+    void clearClipboard() override { m_document->clearClipboard(); }
+    void exitNow() override;
+    void updateProgram() override;
+    void revert() override { m_document->revert(); }
+    void nextView() override;
+    void selectView(int tab) override;
+    void selectSideTab(int tab) override;
+    void setSelectorListVisible(bool visible) override;
+    bool isChecked(const QString &name) const override;
+    void setChecked(const QString &name, bool checked) override;
+    void setHighlightMode(int mode) override { modes.highlight = mode; }
+    void showReadme() override;
+    void showFtp() override;
+    void openTagEditor(int page) override;
+    void checkSpelling() override;
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void buildBars();
+    void buildSidePane();
+    void buildWorkspace();
+    void connectEditor();
+    void connectCommands();
+    void languageChanged(int row);
+    void selectionChanged();
+    void showKeyboardLocks();
+    void openListedFile();
+    void selectOpenTab(QTabBar &tabs, int index);
+    QuickViewer *quickViewer();
+    void unload();
+
+    const WindowServices m_services;
+    std::unique_ptr<Ui::frmmain> m_ui;
+    CommonDialog m_commonDialog;
+    NoDesigner m_designer;
+    CodeMax *m_rt = nullptr;
+    QComboBox *m_languages = nullptr;
+    FilePane *m_filePane = nullptr;
+    DesignerBar *m_designerBar = nullptr;
+    StatusPanels *m_panels = nullptr;
+    QListWidget *m_selectorList = nullptr;
+    QTreeWidget *m_aspTags = nullptr;
+    FolderTree *m_scriptFolder = nullptr;
+    Menus *m_menus = nullptr;
+    CommandToolBar *m_standardBar = nullptr;
+    CommandToolBar *m_formattingBar = nullptr;
+    Palette *m_palette = nullptr;
+    std::unique_ptr<Inserter> m_inserter;
+    std::unique_ptr<ModalFormOpener> m_forms;
+    std::unique_ptr<const AppContext> m_context;
+    std::unique_ptr<Document> m_document;
+    std::unique_ptr<CommandRouter> m_router;
+    std::unique_ptr<RecoveryKeeper> m_recoveryKeeper;
+};
+
+} // namespace zephira

@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the document and the commands ask of the main window.
+#include "app/frmmain.h"
+
+#include "app/inserttext.h"
+#include "app/menus.h"
+#include "app/palette.h"
+#include "app/recoverykeeper.h"
+#include "app/statuspanels.h"
+#include "controls/errorstyles.h"
+#include "controls/formposition.h"
+#include "controls/modalformopener.h"
+#include "controls/quickviewer.h"
+#include "controls/shell.h"
+#include "panes/filepane.h"
+#include "ui_frmmain.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QImageReader>
+#include <QListWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr qint64 maximumPixels = 100'000'000;
+
+} // namespace
+
+void frmmain::InsertAtCaret(const QString &text)
+{
+    m_inserter->InsertAtCaret(text);
+}
+
+int frmmain::languageRow() const
+{
+    return m_languages->currentIndex();
+}
+
+QString frmmain::languageText() const
+{
+    return m_languages->currentText();
+}
+
+void frmmain::setLanguageRow(int row)
+{
+    if (row == m_languages->currentIndex())
+        languageChanged(row); // The handler runs at each setting, also of the same row.
+    else
+        m_languages->setCurrentIndex(row);
+}
+
+QString frmmain::projectPath() const
+{
+    return m_filePane->projectPath();
+}
+
+void frmmain::setProjectPath(const QString &path)
+{
+    m_filePane->setProjectPath(path);
+}
+
+void frmmain::setCaption(const QString &caption)
+{
+    setWindowTitle(caption);
+}
+
+void frmmain::setCountPanel(int characters)
+{
+    m_panels->setText(StatusPanels::Count, QString::number(characters));
+}
+
+void frmmain::setPathPanel(const QString &text)
+{
+    m_panels->setText(StatusPanels::FileName, text);
+}
+
+void frmmain::notice(const QString &sentence)
+{
+    m_panels->notice(sentence);
+}
+
+void frmmain::selectCodeTab()
+{
+    selectView(1);
+}
+
+void frmmain::documentSettled()
+{
+    m_recoveryKeeper->discard();
+}
+
+void frmmain::showTemplateChooser()
+{
+    m_forms->openModal(u"frmselprj"_s);
+}
+
+QString frmmain::listedFile() const
+{
+    return m_filePane->selectedFile();
+}
+
+QString frmmain::listedFolder() const
+{
+    return m_filePane->fileList().path();
+}
+
+Result<QSize> frmmain::pictureSize(const QString &path) const
+{
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    if (!size.isValid())
+        return Error{Error::Code::Malformed, u"%1 isn't a picture that can be read: %2"_s.arg(path, reader.errorString())};
+    if (qint64(size.width()) * size.height() > maximumPixels)
+        return Error{Error::Code::TooLarge, u"%1 is too large: pictures may have 100 megapixels."_s.arg(path)};
+    return size;
+}
+
+Result<void> frmmain::showPicture(const QString &path)
+{
+    const Result<QSize> size = pictureSize(path);
+    if (!size)
+        return size.error();
+    if (QuickViewer *viewer = quickViewer())
+        viewer->showPicture(path);
+    return {};
+}
+
+/// The quick view, made at its first use and kept for the next file.
+QuickViewer *frmmain::quickViewer()
+{
+    const QString name = u"frmqv"_s;
+    m_forms->openModeless(name);
+    return dynamic_cast<QuickViewer *>(m_forms->openForm(name));
+}
+
+void frmmain::newWindow()
+{
+    const Result<void> started = m_services.shell.start(m_services.executable, {u"/nodialog"_s});
+    if (!started)
+        m_services.prompts.tell(started.error().sentence, {}, Question::Icon::Exclamation);
+}
+
+void frmmain::exitNow()
+{
+    m_recoveryKeeper->discard();
+    m_services.endProcess();
+}
+
+void frmmain::updateProgram()
+{
+    const Result<void> started = m_services.shell.start(m_services.appPath + u"/update.exe"_s, {});
+    if (!started)
+        m_services.prompts.tell(started.error().sentence, {}, Question::Icon::Exclamation);
+    if (!close())
+        m_services.endProcess(); // The process ends in any case; what wasn't saved stays as a recovery copy.
+}
+
+void frmmain::selectOpenTab(QTabBar &tabs, int index)
+{
+    if (tabs.isTabEnabled(index))
+        tabs.setCurrentIndex(index);
+    else
+        notice(tabs.tabToolTip(index));
+}
+
+void frmmain::nextView()
+{
+    QTabBar *tabs = m_ui->workspace;
+    int next = tabs->currentIndex();
+    do {
+        next = (next + 1) % tabs->count();
+    } while (!tabs->isTabEnabled(next));
+    tabs->setCurrentIndex(next);
+}
+
+void frmmain::selectView(int tab)
+{
+    selectOpenTab(*m_ui->workspace, tab - 1);
+}
+
+void frmmain::selectSideTab(int tab)
+{
+    selectOpenTab(*m_ui->Frame1, tab - 1);
+}
+
+void frmmain::setSelectorListVisible(bool visible)
+{
+    if (visible) {
+        const int width = m_selectorList->sizeHintForColumn(0) + 40;
+        m_selectorList->setGeometry(0, 0, qBound(160, width, m_ui->centralwidget->width()),
+                                    qMin(240, m_ui->centralwidget->height()));
+        m_selectorList->raise();
+    }
+    m_selectorList->setVisible(visible);
+    m_palette->setSelectorPressed(visible);
+}
+
+bool frmmain::isChecked(const QString &name) const
+{
+    if (name == u"selector"_s)
+        return m_palette->isSelectorPressed();
+    const QAction *action = m_menus->action(name);
+    return action && action->isChecked();
+}
+
+void frmmain::setChecked(const QString &name, bool checked)
+{
+    if (name == u"selector"_s) {
+        m_palette->setSelectorPressed(checked);
+        return;
+    }
+    if (QAction *action = m_menus->action(name)) {
+        action->setCheckable(true);
+        action->setChecked(checked);
+    }
+}
+
+void frmmain::showReadme()
+{
+    if (QuickViewer *viewer = quickViewer())
+        viewer->showText(m_services.appPath + u"/readme.txt"_s);
+}
+
+void frmmain::showFtp()
+{
+    m_forms->openModeless(u"frmmainftp"_s);
+}
+
+void frmmain::openTagEditor(int)
+{
+    m_forms->openModal(u"frmTagEdit"_s);
+}
+
+void frmmain::checkSpelling()
+{
+    m_forms->openModal(u"SpellChecker1"_s);
+}
+
+/// What is done once the window may close, each step whatever became of the one before.
+void frmmain::unload()
+{
+    ignoringErrors({
+        [this] { FormPosition(*this, true, m_services.settings, QCoreApplication::applicationName()); },
+        [this] { m_forms->closeAll(); },
+        [this] { m_document->discardPreview(); },
+        [this] {
+            // A text that was to be saved and isn't stays as a recovery copy.
+            if (m_document->saveFailedAtClose())
+                m_recoveryKeeper->writeNow();
+            else
+                m_recoveryKeeper->discard();
+        },
+    });
+}
+
+} // namespace zephira

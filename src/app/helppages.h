@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/appcontext.h"
+
+namespace zephira {
+
+/// Opens the guide that ships with the program. A failure is told to the user, as it is below.
+void openHelp(const AppContext &context);
+/// Opens the site of the program's makers.
+void openWebsite(const AppContext &context);
+
+} // namespace zephira

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/loadhandler.h"
+
+#include "app/designerbar.h"
+#include "app/frmmain.h"
+#include "app/startdecision.h"
+#include "app/statuspanels.h"
+#include "controls/errorstyles.h"
+#include "controls/files/configuration.h"
+#include "controls/files/filestore.h"
+#include "controls/files/usersettings.h"
+#include "controls/formposition.h"
+#include "controls/scintilla/codemax.h"
+#include "controls/scintilla/codemaxglobals.h"
+#include "controls/syntax/languageregistry.h"
+#include "panes/filepane.h"
+#include "panes/foldertree.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QListWidget>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// Commands of the editing control whose keys the menus want, in the order in which they lose them.
+constexpr int commandsWithoutKeys[] = {197, 140, 198, 161, 129, 139, 160};
+
+bool isTrue(const QString &text)
+{
+    return text.compare(u"True"_s, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+const LoadHandler::Step LoadHandler::steps[] = {
+    {u"restorePlacement", &LoadHandler::restorePlacement},
+    {u"setHelpFile", &LoadHandler::setHelpFile},
+    {u"setFilePattern", &LoadHandler::setFilePattern},
+    {u"recordProgramFolder", &LoadHandler::recordProgramFolder},
+    {u"fetchSelection", &LoadHandler::fetchSelection},
+    {u"fillDesignerFonts", &LoadHandler::fillDesignerFonts},
+    {u"disableDesigner", &LoadHandler::disableDesigner},
+    {u"readRootSelect", &LoadHandler::readRootSelect},
+    {u"createEditorGlobals", &LoadHandler::createEditorGlobals},
+    {u"readDisplayModes", &LoadHandler::readDisplayModes},
+    {u"applyFont", &LoadHandler::applyFont},
+    {u"applyDisplayModes", &LoadHandler::applyDisplayModes},
+    {u"applyColourTable", &LoadHandler::applyColourTable},
+    {u"registerLanguages", &LoadHandler::registerLanguages},
+    {u"removeHotKeys", &LoadHandler::removeHotKeys},
+    {u"readStyleSelectors", &LoadHandler::readStyleSelectors},
+    {u"rootScriptFolder", &LoadHandler::rootScriptFolder},
+    {u"clearModified", &LoadHandler::clearModified},
+    {u"readAspTags", &LoadHandler::readAspTags},
+    {u"openArgument", &LoadHandler::openArgument},
+};
+
+LoadHandler::LoadHandler(frmmain &window, const QString &argument) : m_window(window), m_argument(argument) {}
+
+void LoadHandler::run()
+{
+    for (const Step &step : steps) {
+        m_window.startSteps.append(QStringView(step.name).toString());
+        (this->*step.run)();
+    }
+}
+
+int LoadHandler::number(const QString &section, const QString &key) const
+{
+    const WindowServices &services = m_window.services();
+    return requiredNumber(services.configuration, section, key, services.iniFile);
+}
+
+QString LoadHandler::text(const QString &section, const QString &key) const
+{
+    return m_window.services().configuration.value(section, key);
+}
+
+/// The lines of a data file of the installation, without which the program can't start.
+QStringList LoadHandler::dataLines(const QString &name) const
+{
+    const WindowServices &services = m_window.services();
+    const Result<QByteArray> content = services.files.read(services.appPath + u'/' + name);
+    if (!content)
+        throw HandlerError{u"Zephira can't start: "_s + content.error().sentence};
+    QString text = QString::fromUtf8(content.value());
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    if (text.endsWith(u'\n'))
+        text.chop(1);
+    return text.isEmpty() ? QStringList() : text.split(u'\n');
+}
+
+void LoadHandler::restorePlacement()
+{
+    FormPosition(m_window, false, m_window.services().settings, QCoreApplication::applicationName());
+}
+
+void LoadHandler::setHelpFile()
+{
+    m_window.setProperty("HelpFile", QString(m_window.appPath() + u"/Help.chm"_s));
+}
+
+void LoadHandler::setFilePattern()
+{
+    m_window.filePane().fileList().setPattern(text(u"Filters"_s, u"Filters"_s));
+}
+
+void LoadHandler::recordProgramFolder()
+{
+    UserSettings &settings = m_window.services().settings;
+    const QString branch = u"Zephira"_s;
+    const QString section = u"data"_s;
+    if (settings.GetSetting(branch, section, u"apppath"_s, {}) == m_window.appPath())
+        return;
+    settings.SaveSetting(branch, section, u"version"_s, QCoreApplication::applicationVersion().remove(u'.'));
+    settings.SaveSetting(branch, section, u"apppath"_s, m_window.appPath());
+}
+
+void LoadHandler::fetchSelection()
+{
+    m_window.selRange = m_window.rt().selection(false);
+}
+
+void LoadHandler::fillDesignerFonts()
+{
+    m_window.designerBar().fillFonts();
+}
+
+void LoadHandler::disableDesigner()
+{
+    m_window.designerBar().disableAll();
+    QCoreApplication::processEvents();
+}
+
+void LoadHandler::readRootSelect()
+{
+    m_window.rootSelect = number(u"startup"_s, u"rootsel"_s) == 1;
+    m_window.filePane().setRootSelect(m_window.rootSelect);
+}
+
+void LoadHandler::createEditorGlobals()
+{
+    m_window.rt().globals();
+}
+
+void LoadHandler::readDisplayModes()
+{
+    const QString section = u"options"_s;
+    m_window.modes = {.highlight = number(section, u"highlight"_s),
+                      .lineNumber = number(section, u"linenumber"_s),
+                      .leftMargin = number(section, u"leftmargin"_s),
+                      .whitespace = number(section, u"whitespace"_s),
+                      .selBounds = number(section, u"selbounds"_s)};
+    if (m_window.modes.highlight == 1)
+        m_window.setChecked(u"highlightlines"_s, true);
+}
+
+void LoadHandler::applyFont()
+{
+    EditingControl &editor = m_window.rt();
+    editor.setEnableDragDrop(true);
+    const QString section = u"font"_s;
+    FontChoice font = editor.editorFont();
+    font.bold = isTrue(text(section, u"bold"_s));
+    font.italic = isTrue(text(section, u"italic"_s));
+    if (const QString name = text(section, u"name"_s); !name.isEmpty())
+        font.name = name;
+    if (const double size = text(section, u"size"_s).toDouble(); size > 0)
+        font.size = size;
+    font.strikethrough = isTrue(text(section, u"strikethrough"_s));
+    font.underline = isTrue(text(section, u"underline"_s));
+    editor.setEditorFont(font);
+}
+
+void LoadHandler::applyDisplayModes()
+{
+    EditingControl &editor = m_window.rt();
+    const frmmain::DisplayModes &modes = m_window.modes;
+    if (modes.whitespace == 1)
+        editor.setDisplayWhitespace(true);
+    if (modes.leftMargin == 1)
+        editor.setDisplayLeftMargin(true);
+    if (modes.lineNumber == 0)
+        editor.setLineNumbering(false);
+    if (modes.selBounds == 1)
+        editor.setSelBounds(true);
+}
+
+void LoadHandler::applyColourTable()
+{
+    const WindowServices &services = m_window.services();
+    m_window.clrTable = readColours(services.configuration, services.iniFile);
+    applyColours(m_window.clrTable, m_window.rt());
+}
+
+void LoadHandler::registerLanguages()
+{
+    m_window.rt().globals().RegisterLanguage(u"Perl"_s, perlLanguage());
+    m_window.setLanguageRow(0);
+}
+
+void LoadHandler::removeHotKeys()
+{
+    CodeMaxGlobals &globals = m_window.rt().globals();
+    for (const int command : commandsWithoutKeys) {
+        for (int i = globals.hotKeyCount(command) - 1; i >= 0; --i)
+            globals.UnregisterHotKey(globals.hotKey(command, i));
+    }
+}
+
+void LoadHandler::readStyleSelectors()
+{
+    m_window.selectorList().addItems(dataLines(u"deps/csssel.dat"_s));
+}
+
+void LoadHandler::rootScriptFolder()
+{
+    m_window.scriptFolder().setRootFolder(m_window.appPath() + u"/Scripts"_s);
+}
+
+void LoadHandler::clearModified()
+{
+    m_window.document().setModified(false);
+}
+
+void LoadHandler::readAspTags()
+{
+    QList<QTreeWidgetItem *> nodes;
+    for (const QString &line : dataLines(u"asptags.dat"_s))
+        nodes.append(new QTreeWidgetItem(QStringList(line)));
+    m_window.aspTags().addTopLevelItems(nodes);
+}
+
+void LoadHandler::openArgument()
+{
+    const QString argument = m_argument;
+    if (startArgument(argument) == StartArgument::File) {
+        // The long form of a path that isn't there is empty; with an empty name nothing is opened.
+        const QFileInfo file(argument);
+        const QString path = file.exists() ? file.absoluteFilePath() : QString();
+        m_window.setProjectPath(folderOf(path));
+        if (!path.isEmpty())
+            m_window.document().openAtStart(path);
+        else
+            m_window.notice(u"The file %1 was not found."_s.arg(argument));
+    }
+    m_window.showLinePanels();
+}
+
+} // namespace zephira

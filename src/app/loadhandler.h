@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace zephira {
+
+class CodeMaxGlobals;
+class frmmain;
+
+/// Everything that initialises the main window before it shows, in a fixed order of named steps. A step that fails raises
+/// HandlerError, which ends the start.
+class LoadHandler
+{
+public:
+    LoadHandler(frmmain &window, const QString &argument);
+
+    /// Runs all steps, noting each one's name in the window's list as it begins.
+    void run();
+
+private:
+    struct Step {
+        const char16_t *name;
+        void (LoadHandler::*run)();
+    };
+    static const Step steps[];
+
+    void restorePlacement();
+    void setHelpFile();
+    void setFilePattern();
+    void recordProgramFolder();
+    void fetchSelection();
+    void fillDesignerFonts();
+    void disableDesigner();
+    void readRootSelect();
+    void createEditorGlobals();
+    void readDisplayModes();
+    void applyFont();
+    void applyDisplayModes();
+    void applyColourTable();
+    void registerLanguages();
+    void removeHotKeys();
+    void readStyleSelectors();
+    void rootScriptFolder();
+    void clearModified();
+    void readAspTags();
+    void openArgument();
+
+    int number(const QString &section, const QString &key) const;
+    QString text(const QString &section, const QString &key) const;
+    QStringList dataLines(const QString &name) const;
+
+    frmmain &m_window;
+    const QString m_argument;
+};
+
+} // namespace zephira

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/commandline.h"
+#include "app/frmmain.h"
+#include "app/program.h"
+
+#include <QApplication>
+#include <QImageReader>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char **argv)
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    const QString argument = words.join(u' ');
+    if (const auto answer = zephira::informationFor(argument)) {
+        std::fputs(answer->toUtf8().constData(), stdout);
+        return EXIT_SUCCESS;
+    }
+
+    // The editor paints without OpenGL; doing without its context makes the window come up sooner. Both belong together.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QCoreApplication::setApplicationName(u"zephira"_s);
+    QCoreApplication::setApplicationVersion(QString::fromLatin1(ZEPHIRA_VERSION));
+    QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(u"org.zephira.Zephira"_s);
+    return zephira::runProgram(application, argument);
+}

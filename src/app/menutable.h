@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+namespace zephira {
+
+/// One row of the menu tree.
+struct MenuItem {
+    enum class Kind {
+        Entry,
+        Check,   ///< an entry with a check mark
+        Divider, ///< a line; it has a name only where it is an element of a menu array
+        Menu,    ///< a menu with `children`
+        Bar,     ///< a disabled text between the menus of the bar
+        Missing, ///< an entry whose feature isn't there yet
+    };
+
+    QStringView name = {};
+    QStringView caption = {};
+    QStringView shortcut = {};
+    /// See icons.h.
+    QStringView icon = {};
+    QStringView statusTip = {};
+    /// The form that the entry opens modally, or that its command needs.
+    QStringView form = {};
+    Kind kind = Kind::Entry;
+    std::span<const MenuItem> children = {};
+};
+
+/// The menus of the bar, left to right.
+std::span<const MenuItem> menuBarTable();
+/// The menus that only pop up.
+std::span<const MenuItem> popupTable();
+
+/// The row of a name anywhere in the tree, or nullptr.
+const MenuItem *findMenuItem(QStringView name);
+
+/// The five menus that are live in visual mode alone.
+std::span<const QStringView> visualMenus();
+
+} // namespace zephira

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/program.h"
+
+#include "app/failedstart.h"
+#include "app/frmmain.h"
+#include "app/icons.h"
+#include "app/startprocedure.h"
+#include "controls/appfolder.h"
+#include "controls/clock.h"
+#include "controls/desktop/desktopclipboard.h"
+#include "controls/desktop/desktopprompts.h"
+#include "controls/desktop/desktopshell.h"
+#include "controls/errorstyles.h"
+#include "controls/files/configuration.h"
+#include "controls/files/diskfilestore.h"
+#include "controls/files/recoverycopies.h"
+#include "controls/files/usersettings.h"
+#include "controls/formcatalogue.h"
+#include "controls/scintilla/codemax.h"
+#include "settings/registerforms.h"
+#include "start/registerforms.h"
+#include "views/registerforms.h"
+#include "wizards/registerforms.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+QString dataHome()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+/// Where a package puts the data that never changes, counted from the executable in …/bin.
+QString installedData()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/zephira"_s);
+}
+
+/// The folder of the recovery copies, beside the per-user settings.
+QString recoveryFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Zephira/recovery"_s;
+}
+
+} // namespace
+
+int runProgram(QApplication &application, const QString &argument)
+{
+    const IconTheme theme(application);
+    QApplication::setWindowIcon(QIcon(u":/zephira.svg"_s));
+
+    const Result<QString> appPath = prepareAppPath(QCoreApplication::applicationDirPath(), installedData(), dataHome());
+    if (!appPath)
+        return tellFailedStart(appPath.error().sentence);
+
+    const QString iniFile = appPath.value() + u"/zephira.ini"_s;
+    SystemClock clock;
+    DiskFileStore files;
+    RecoveryCopies recovery(recoveryFolder(), files, clock);
+    IniConfiguration configuration(iniFile);
+    DesktopUserSettings userSettings;
+    DesktopPrompts prompts(nullptr);
+    DesktopShell shell;
+    DesktopClipboard clipboard;
+
+    FormCatalogue catalogue;
+    wizards::registerForms(catalogue);
+    start::registerForms(catalogue);
+    settings::registerForms(catalogue);
+    views::registerForms(catalogue, [&](QWidget *parent) -> EditorView {
+        auto *viewer = new CodeMax({files, recovery, prompts}, parent);
+        viewer->setReadOnly(true);
+        return {viewer, viewer};
+    });
+
+    frmmain window({.files = files,
+                    .recovery = recovery,
+                    .configuration = configuration,
+                    .settings = userSettings,
+                    .prompts = prompts,
+                    .shell = shell,
+                    .clipboard = clipboard,
+                    .clock = clock,
+                    .catalogue = catalogue,
+                    .appPath = appPath.value(),
+                    .iniFile = iniFile,
+                    .executable = QCoreApplication::applicationFilePath(),
+                    .endProcess = [] { QCoreApplication::exit(EXIT_SUCCESS); }});
+    try {
+        runStartProcedure(window, argument);
+    } catch (const HandlerError &error) {
+        return tellFailedStart(error.description);
+    }
+    return QApplication::exec();
+}
+
+} // namespace zephira

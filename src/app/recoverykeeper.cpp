@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/recoverykeeper.h"
+
+#include "app/document.h"
+#include "controls/clock.h"
+#include "controls/files/recoverycopies.h"
+#include "controls/scintilla/codemax.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+RecoveryKeeper::RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, const Document &document)
+    : m_copies(copies), m_editor(editor), m_document(document)
+{
+    m_running.start();
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &RecoveryKeeper::due);
+}
+
+RecoverySchedule::Time RecoveryKeeper::now() const
+{
+    return RecoverySchedule::Time(m_running.elapsed());
+}
+
+void RecoveryKeeper::textChanged()
+{
+    if (const auto wait = m_schedule.changed(now()))
+        m_timer.start(*wait);
+}
+
+void RecoveryKeeper::due()
+{
+    // A text that was saved in the meantime, or loaded and not changed, needs no copy.
+    if (m_document.docModified())
+        writeNow();
+    else
+        discard();
+}
+
+void RecoveryKeeper::writeNow()
+{
+    const auto pieces = m_editor.utf8Pieces();
+    const QString name = m_document.docPath().isEmpty() ? u"New Document"_s : m_document.docPath();
+    if (m_copies.write(name, pieces))
+        m_schedule.settled();
+    else
+        m_timer.start(m_schedule.copyFailed(now()));
+}
+
+void RecoveryKeeper::discard()
+{
+    m_timer.stop();
+    m_schedule.settled();
+    m_copies.removeOwn();
+}
+
+} // namespace zephira

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/files/recoveryschedule.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+namespace zephira {
+
+class CodeMax;
+class Document;
+class RecoveryCopies;
+
+/// Keeps a recovery copy of the modified document on disk. It is driven by the change event and never by polling, and
+/// writes at most 15 seconds after a change.
+class RecoveryKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, const Document &document);
+
+    /// The editing control raised its change event.
+    void textChanged();
+    /// The document was saved, or its text isn't wanted any more.
+    void discard();
+    void writeNow();
+
+private:
+    RecoverySchedule::Time now() const;
+    void due();
+
+    RecoveryCopies &m_copies;
+    const CodeMax &m_editor;
+    const Document &m_document;
+    RecoverySchedule m_schedule;
+    QElapsedTimer m_running;
+    QTimer m_timer;
+};
+
+} // namespace zephira

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/startprocedure.h"
+
+#include "app/frmmain.h"
+#include "app/loadhandler.h"
+#include "app/startdecision.h"
+#include "controls/appfolder.h"
+#include "controls/files/configuration.h"
+#include "controls/files/usersettings.h"
+#include "controls/modalformopener.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+void take(StartAction action, frmmain &window)
+{
+    switch (action) {
+    case StartAction::ShowStartDialog:
+        window.forms().openModal(u"frmselprj"_s);
+        break;
+    case StartAction::ShowTip:
+        window.forms().openModal(u"frmTip"_s);
+        break;
+    case StartAction::ShowTipOverStartDialog:
+        window.forms().openModalOver(u"frmTip"_s, u"frmselprj"_s);
+        break;
+    case StartAction::CheckViewTip:
+        window.setChecked(u"mnuviewtip"_s, true);
+        break;
+    }
+}
+
+} // namespace
+
+void runStartProcedure(frmmain &window, const QString &argument)
+{
+    LoadHandler(window, argument).run();
+
+    const auto begin = [&window](const char16_t *step) { window.startSteps.append(QStringView(step).toString()); };
+    begin(u"makeScratchFolder");
+    [[maybe_unused]] const Result<QString> scratch = scratchFolder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
+    begin(u"showWindow");
+    window.show();
+    begin(u"readShowTips");
+    const int showTips = window.services()
+                             .settings
+                             .GetSetting(QCoreApplication::applicationName(), u"Options"_s, u"Show Tips at Startup"_s, u"1"_s)
+                             .toInt();
+    begin(u"readSelprj");
+    const QString selprj = window.services().configuration.value(u"Startup"_s, u"selprj"_s);
+    begin(u"showDialogs");
+    for (const StartAction action : startActions(startArgument(argument), showTips, selprj))
+        take(action, window);
+}
+
+} // namespace zephira

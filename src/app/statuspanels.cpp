@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/statuspanels.h"
+
+#include "controls/clock.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QStatusBar>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+struct PanelRow {
+    const char16_t *text;       ///< shown until there is a value
+    const char16_t *name;       ///< for assistive technology
+    int stretch = 0;
+    const char16_t *widest = u""; ///< keeps the panel's place while its value changes
+};
+
+constexpr std::array<PanelRow, 10> panelRows = {{
+    {u"Line:", u"Line"},
+    {u"1", u"Current line", 0, u"0000000"},
+    {u"Total Lines:", u"Total lines"},
+    {u"1", u"Line count", 0, u"0000000"},
+    {u"CAPS", u"Caps lock"},
+    {u"NUM", u"Num lock"},
+    {u"INS", u"Insert mode"},
+    {u"", u"Time", 0, u"00:00 PM"},
+    {u"Charecter Count", u"Character count", 0, u"Charecter Count"},
+    {u"File Name", u"File name", 1},
+}};
+
+constexpr int noticeMilliseconds = 10000;
+
+} // namespace
+
+StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar), m_bar(bar), m_clock(clock)
+{
+    for (size_t i = 0; i < panelRows.size(); ++i) {
+        const PanelRow &row = panelRows[i];
+        auto *label = new QLabel(QStringView(row.text).toString(), &bar);
+        label->setObjectName(u"stBar_%1"_s.arg(i + 1));
+        label->setAccessibleName(QStringView(row.name).toString());
+        label->setTextFormat(Qt::PlainText);
+        label->setMargin(2);
+        if (row.widest[0])
+            label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringView(row.widest).toString()) + 4);
+        if (row.stretch)
+            label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // A long path is cut, never the window widened.
+        bar.addWidget(label, row.stretch);
+        m_panels[i] = label;
+    }
+    connect(&m_minute, &QTimer::timeout, this, &StatusPanels::showTime);
+    m_minute.setSingleShot(true);
+    m_minute.setTimerType(Qt::VeryCoarseTimer);
+    showTime();
+}
+
+QString StatusPanels::text(int panel) const
+{
+    return m_panels[size_t(panel - 1)]->text();
+}
+
+void StatusPanels::setText(int panel, const QString &text)
+{
+    QLabel *label = m_panels[size_t(panel - 1)];
+    label->setText(text);
+    if (panel == FileName)
+        label->setToolTip(text);
+}
+
+void StatusPanels::setLit(int panel, bool lit)
+{
+    m_panels[size_t(panel - 1)]->setEnabled(lit);
+}
+
+void StatusPanels::notice(const QString &sentence)
+{
+    m_bar.showMessage(sentence, noticeMilliseconds);
+}
+
+void StatusPanels::showTime()
+{
+    const QDateTime now = m_clock.now();
+    setText(Time, QLocale::system().toString(now.time(), QLocale::ShortFormat));
+    m_minute.start((60 - now.time().second()) * 1000);
+}
+
+} // namespace zephira

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace zephira {
+
+class Clipboard;
+class Clock;
+class Configuration;
+class FileStore;
+class FormCatalogue;
+class Prompts;
+class RecoveryCopies;
+class Shell;
+class UserSettings;
+
+/// What the main window stands on. main() makes it of the real parts, tests of real and fake ones.
+struct WindowServices {
+    FileStore &files;
+    RecoveryCopies &recovery;
+    Configuration &configuration;
+    UserSettings &settings;
+    Prompts &prompts;
+    Shell &shell;
+    Clipboard &clipboard;
+    Clock &clock;
+    const FormCatalogue &catalogue;
+    /// The program folder, without a separator at its end.
+    QString appPath;
+    /// The configuration's file, for messages.
+    QString iniFile;
+    /// Full path of this program.
+    QString executable;
+    /// Ends the process at once, without asking anything.
+    std::function<void()> endProcess;
+};
+
+} // namespace zephira

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowtabs.h"
+
+#include <QTabBar>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+std::span<const WindowTab> sideTabs()
+{
+    static constexpr WindowTab tabs[] = {
+        {u"fileman", u"File Manager", u"File Manager", u"folder-symbolic"},
+        {u"asp", u"ASP Codes / Tags", u"ASP Codes / Tags", u":ASP"},
+        {u"html", u"HTML Tags", u"HTML Tags", u":<>"},
+        {u"ihtml", u"IHTML Tags", u"IHTML Tags", u":iH"},
+        {u"documenttree", u"Document Tree", u"Document Tree", u"view-list-tree"},
+        {u"scripts", u"Script Library", u"Script Library", u"text-x-script"},
+        {u"c1", u"", u"Custom tab 1", u":1"},
+        {u"c2", u"", u"Custom tab 2", u":2"},
+        {u"c3", u"", u"Custom tab 3", u":3"},
+        {u"c4", u"", u"Custom tab 4", u":4"},
+        {u"c5", u"", u"Custom tab 5", u":5"},
+        {u"c6", u"", u"Custom tab 6", u":6"},
+    };
+    return tabs;
+}
+
+std::span<const WindowTab> workspaceTabs()
+{
+    static constexpr WindowTab tabs[] = {
+        {u"code", u"Code View", u"Click to view / edit your html code", u"text-html"},
+        {u"preview", u"Preview", u"Preview your document in Zephira's browser", u"document-preview"},
+        {u"wysiwyg", u"WYSIWYG Editor", u"Use this to create your webpage using a visual approach", u"document-edit"},
+    };
+    return tabs;
+}
+
+std::span<const QStringView> commandsOfClosedTabs()
+{
+    static constexpr QStringView keys[] = {u"picb", u"dqw"};
+    return keys;
+}
+
+void closeTab(QTabBar &bar, int index)
+{
+    bar.setTabEnabled(index, false);
+    bar.setTabToolTip(index, u"Not available yet"_s);
+}
+
+} // namespace zephira

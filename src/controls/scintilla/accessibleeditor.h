@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAccessibleWidget>
+#include <QByteArrayView>
+
+namespace zephira {
+
+class CodeMax;
+class SciEngine;
+
+/// The editing control for assistive technology. Offsets are UTF-16 code units of the text with its own line ends; they are
+/// found through the engine's line index and the line itself, so that nothing depends on the text's size.
+class AccessibleEditor final : public QAccessibleWidget,
+                               public QAccessibleTextInterface,
+                               public QAccessibleEditableTextInterface
+{
+public:
+    explicit AccessibleEditor(CodeMax &editor);
+
+    /// The factory to install; makes an object for editing controls and for nothing else.
+    static QAccessibleInterface *make(const QString &className, QObject *object);
+    /// To be called in front of an insertion and of a removal, in byte positions.
+    static void tellInserted(CodeMax &editor, qsizetype position, QByteArrayView utf8);
+    static void tellRemoved(CodeMax &editor, qsizetype position, qsizetype length);
+    static void tellCaretMoved(CodeMax &editor);
+
+    void *interface_cast(QAccessible::InterfaceType type) override;
+    QAccessible::State state() const override;
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text kind, const QString &text) override;
+
+    void selection(int index, int *start, int *end) const override;
+    int selectionCount() const override;
+    void addSelection(int start, int end) override;
+    void removeSelection(int index) override;
+    void setSelection(int index, int start, int end) override;
+    int cursorPosition() const override;
+    void setCursorPosition(int offset) override;
+    QString text(int start, int end) const override;
+    int characterCount() const override;
+    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
+    QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
+    QRect characterRect(int offset) const override;
+    int offsetAtPoint(const QPoint &point) const override;
+    void scrollToSubstring(int start, int end) override;
+    QString attributes(int offset, int *start, int *end) const override;
+
+    void deleteText(int start, int end) override;
+    void insertText(int offset, const QString &text) override;
+    void replaceText(int start, int end, const QString &text) override;
+
+private:
+    struct Stretch {
+        int start = 0;
+        int end = 0;
+    };
+    Stretch stretchAt(int offset, QAccessible::TextBoundaryType boundary) const;
+    QString given(Stretch stretch, int *start, int *end) const;
+    int toOffset(qsizetype position) const;
+    qsizetype toPosition(int offset) const;
+    const SciEngine &engine() const;
+
+    CodeMax &m_editor;
+};
+
+} // namespace zephira

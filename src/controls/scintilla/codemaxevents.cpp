@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keys, mouse, drops and the context menu of the editing control.
+#include "controls/scintilla/codemax.h"
+#include "controls/scintilla/codemaxglobals.h"
+#include "controls/scintilla/editorappearance.h"
+#include "controls/scintilla/editorcommands.h"
+#include "controls/scintilla/editormargins.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QWheelEvent>
+
+namespace zephira {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isLineBreak(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+qsizetype leadingBlanks(QByteArrayView line)
+{
+    qsizetype count = 0;
+    while (count < line.size() && (line[count] == ' ' || line[count] == '\t'))
+        ++count;
+    return count;
+}
+
+} // namespace
+
+void CodeMax::keyPressEvent(QKeyEvent *event)
+{
+    const QKeyCombination keys = event->keyCombination();
+    if (const auto command = m_globals->commandFor(keys)) {
+        executeCmd(*command);
+        event->accept();
+    } else if (isShortcutLike(QKeyCombination(keys.keyboardModifiers() & ~Qt::KeypadModifier, keys.key()))) {
+        event->ignore();
+    } else {
+        perform([&] { type(event); });
+    }
+}
+
+void CodeMax::type(QKeyEvent *event)
+{
+    if (m_overtype)
+        m_engine.send(SCI_SETOVERTYPE, true);
+    if (isLineBreak(*event)) {
+        // A new line and its indentation go away in one step.
+        m_engine.send(SCI_BEGINUNDOACTION);
+        QsciScintillaBase::keyPressEvent(event);
+        if (m_options.autoIndent && !isReadOnly())
+            indentNewLine();
+        m_engine.send(SCI_ENDUNDOACTION);
+    } else {
+        QsciScintillaBase::keyPressEvent(event);
+    }
+    m_engine.send(SCI_SETOVERTYPE, false);
+}
+
+/// Gives the line at the caret the indentation of the line above, and one step more behind an opening brace.
+void CodeMax::indentNewLine()
+{
+    const qsizetype caret = m_engine.caret();
+    const qsizetype line = m_engine.lineOf(caret);
+    if (m_engine.send(SCI_GETSELECTIONS) > 1 || line == 0 || caret != m_engine.lineStart(line))
+        return;
+    const QByteArrayView above = m_engine.bytes(m_engine.lineStart(line - 1), m_engine.lineEnd(line - 1));
+    QByteArray indent = above.first(leadingBlanks(above)).toByteArray();
+    if (above.trimmed().endsWith('{'))
+        indent += m_options.tabsAsBlanks ? QByteArray(m_options.tabWidth, ' ') : QByteArray("\t");
+    replaceBytes(caret, caret, indent);
+    m_engine.send(SCI_SETEMPTYSELECTION, caret + indent.size());
+    m_engine.send(SCI_SCROLLCARET);
+    m_engine.send(SCI_CHOOSECARETX);
+}
+
+void CodeMax::inputMethodEvent(QInputMethodEvent *event)
+{
+    perform([&] { QsciScintillaBase::inputMethodEvent(event); });
+}
+
+void CodeMax::mousePressEvent(QMouseEvent *event)
+{
+    perform([&] {
+        if (!m_dragDrop && event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+            // The engine drags a selection that is pressed on; without one there is nothing to drag.
+            const QPoint at = event->position().toPoint();
+            m_engine.send(SCI_SETEMPTYSELECTION, m_engine.send(SCI_POSITIONFROMPOINT, at.x(), at.y()));
+        }
+        QsciScintillaBase::mousePressEvent(event);
+    });
+}
+
+void CodeMax::wheelEvent(QWheelEvent *event)
+{
+    const int turned = event->angleDelta().y();
+    if (event->modifiers() != Qt::ControlModifier || turned == 0) {
+        QsciScintillaBase::wheelEvent(event);
+        return;
+    }
+    m_engine.send(turned > 0 ? SCI_ZOOMIN : SCI_ZOOMOUT);
+    event->accept();
+}
+
+/// Files that are dropped are the window's business, and only text that may be changed takes a drop.
+bool CodeMax::takesDrop(const QDropEvent &event) const
+{
+    return m_dragDrop && !isReadOnly() && !event.mimeData()->hasUrls();
+}
+
+void CodeMax::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (takesDrop(*event))
+        QsciScintillaBase::dragEnterEvent(event);
+    else
+        event->ignore();
+}
+
+void CodeMax::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (takesDrop(*event))
+        QsciScintillaBase::dragMoveEvent(event);
+    else
+        event->ignore();
+}
+
+void CodeMax::dropEvent(QDropEvent *event)
+{
+    if (takesDrop(*event))
+        perform([&] { QsciScintillaBase::dropEvent(event); });
+    else
+        event->ignore();
+}
+
+void CodeMax::changeEvent(QEvent *event)
+{
+    QsciScintillaBase::changeEvent(event);
+    // The selection's colour is the desktop's. The first changes come while the base class is still under construction.
+    if (event->type() == QEvent::PaletteChange && m_appearance)
+        m_appearance->applyAll();
+}
+
+void CodeMax::showEvent(QShowEvent *event)
+{
+    QsciScintillaBase::showEvent(event);
+    showBraces();
+}
+
+void CodeMax::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        const qsizetype at = m_engine.send(SCI_POSITIONFROMPOINT, event->x(), event->y());
+        const bool inSelection = canCopy() && at >= m_engine.send(SCI_GETSELECTIONSTART)
+                                 && at <= m_engine.send(SCI_GETSELECTIONEND);
+        if (!inSelection)
+            perform([&] { m_engine.send(SCI_SETEMPTYSELECTION, at); });
+    }
+    event->accept();
+    const QPointer<CodeMax> alive(this);
+    const QPoint at = event->globalPos();
+    bool handled = false;
+    emit RClick(&handled);
+    if (alive && !handled)
+        showContextMenu(at);
+}
+
+void CodeMax::showContextMenu(const QPoint &at)
+{
+    auto *menu = new QMenu(this);
+    menu->setObjectName(u"editorMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const bool writable = !isReadOnly();
+    const auto add = [&](const QString &text, int command, bool enabled) {
+        QAction *action = menu->addAction(text);
+        action->setEnabled(enabled);
+        for (int i = 0; i < m_globals->hotKeyCount(command) && i < 1; ++i)
+            action->setShortcut(m_globals->hotKey(command, i).keys);
+        connect(action, &QAction::triggered, this, [this, command] { executeCmd(command); });
+    };
+    add(tr("&Undo"), UndoText, writable && canUndo());
+    add(tr("&Redo"), RedoText, writable && canRedo());
+    menu->addSeparator();
+    add(tr("Cu&t"), CutText, writable && canCopy());
+    add(tr("&Copy"), CopyText, canCopy());
+    add(tr("&Paste"), PasteText, writable && m_engine.send(SCI_CANPASTE));
+    add(tr("&Delete"), DeleteText, writable && canCopy());
+    menu->addSeparator();
+    add(tr("Select &All"), static_cast<int>(EditorCommand::SelectAll), true);
+    add(tr("Toggle &Bookmark"), ToggleBookmark, true);
+    menu->addSeparator();
+    add(tr("Propert&ies…"), static_cast<int>(EditorCommand::PropertiesDialog), true);
+    menu->popup(at);
+}
+
+} // namespace zephira

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace zephira {
+
+/// How the control edits and what it shows around the text, beyond its properties.
+struct EditorOptions {
+    int tabWidth = 4; ///< columns, 1 to 32
+    bool tabsAsBlanks = false;
+    bool autoIndent = true;
+    bool wordWrap = false;
+    bool foldMargin = true;
+    bool matchBraces = true;
+    bool highlightCaretLine = false; ///< in the highlighted line's colour
+    int edgeColumn = 0; ///< a line is drawn behind this column; 0 for none
+
+    friend bool operator==(const EditorOptions &, const EditorOptions &) = default;
+};
+
+} // namespace zephira

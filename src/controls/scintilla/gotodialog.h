@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class GoToDialog;
+}
+
+/// Asks for a line. Lines count from 1 here, as in the margin.
+class GoToDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit GoToDialog(QWidget *owner);
+    ~GoToDialog() override;
+
+    /// Shows the dialog; an answer comes as chosen(). It stays until the answer is one of the text's lines.
+    void ask(int currentLine, int lineCount);
+    void accept() override;
+
+signals:
+    /// A 1-based line number within the range.
+    void chosen(int line);
+
+private:
+    std::unique_ptr<Ui::GoToDialog> m_ui;
+    int m_lineCount = 1;
+};
+
+} // namespace zephira

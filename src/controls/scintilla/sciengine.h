@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <QByteArrayView>
+
+namespace zephira {
+
+/// The editor engine's messages, spoken with signed positions. Positions and lengths count bytes, lines count from 0.
+class SciEngine
+{
+public:
+    explicit SciEngine(QsciScintillaBase &view) : m_view(&view) {}
+
+    qsizetype send(unsigned int message, qsizetype wParam = 0, qsizetype lParam = 0) const
+    {
+        return m_view->SendScintilla(message, static_cast<unsigned long>(wParam), static_cast<long>(lParam));
+    }
+    /// For messages that take a text with its length as the first parameter, or a name.
+    qsizetype sendText(unsigned int message, qsizetype wParam, const char *text) const
+    {
+        return m_view->SendScintilla(message, static_cast<unsigned long>(wParam), text);
+    }
+
+    qsizetype length() const { return send(QsciScintillaBase::SCI_GETLENGTH); }
+    qsizetype lineCount() const { return send(QsciScintillaBase::SCI_GETLINECOUNT); }
+    qsizetype lineOf(qsizetype position) const { return send(QsciScintillaBase::SCI_LINEFROMPOSITION, position); }
+    /// A line behind the last one starts at the end of the text.
+    qsizetype lineStart(qsizetype line) const
+    {
+        return line < lineCount() ? send(QsciScintillaBase::SCI_POSITIONFROMLINE, line) : length();
+    }
+    /// In front of the line's own line end.
+    qsizetype lineEnd(qsizetype line) const { return send(QsciScintillaBase::SCI_GETLINEENDPOSITION, line); }
+    qsizetype caret() const { return send(QsciScintillaBase::SCI_GETCURRENTPOS); }
+    qsizetype anchor() const { return send(QsciScintillaBase::SCI_GETANCHOR); }
+    int styleAt(qsizetype position) const
+    {
+        return static_cast<int>(send(QsciScintillaBase::SCI_GETSTYLEAT, position)) & 0xff;
+    }
+
+    /// The bytes from start up to end, valid until the text changes. The engine moves its gap out of the range.
+    QByteArrayView bytes(qsizetype start, qsizetype end) const
+    {
+        if (end <= start)
+            return {};
+        const auto address = send(QsciScintillaBase::SCI_GETRANGEPOINTER, start, end - start);
+        return {reinterpret_cast<const char *>(address), end - start};
+    }
+
+    QsciScintillaBase &view() const { return *m_view; }
+
+private:
+    QsciScintillaBase *m_view;
+};
+
+} // namespace zephira

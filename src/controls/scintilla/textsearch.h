@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/result.h"
+
+#include <QRegularExpression>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace zephira {
+
+struct SearchRequest {
+    QString pattern;
+    bool matchCase = false;
+    bool wholeWord = false;
+    bool regularExpression = false;
+
+    friend bool operator==(const SearchRequest &, const SearchRequest &) = default;
+};
+
+/// A place in a text and what a replacement puts there. Offsets count UTF-16 code units from 0.
+struct TextMatch {
+    qsizetype start = 0;
+    qsizetype end = 0;
+    QString replacement = {};
+
+    friend bool operator==(const TextMatch &, const TextMatch &) = default;
+};
+
+/// Finds a pattern in a text whose lines end in line feeds. In a regular expression "^" and "$" mean each line's
+/// beginning and end, and a match may hold line feeds. Empty matches count; a search never stays at one.
+class TextSearch
+{
+public:
+    /// Fails with Code::Malformed, naming what is wrong with a regular expression and where.
+    static Result<TextSearch> make(const SearchRequest &request);
+
+    /// The first match from `from` on that ends at or before `limit`.
+    std::optional<TextMatch> next(const QString &text, qsizetype from, qsizetype limit, const QString &replacement) const;
+    /// The last match that begins at or behind `limit` and ends at or before `from`.
+    std::optional<TextMatch> previous(const QString &text, qsizetype from, qsizetype limit,
+                                      const QString &replacement) const;
+    /// All matches from start to end, from left to right, none within another.
+    std::vector<TextMatch> all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const;
+
+private:
+    explicit TextSearch(QRegularExpression expression, bool groups) : m_expression(std::move(expression)), m_groups(groups)
+    {
+    }
+    TextMatch toMatch(const QRegularExpressionMatch &match, const QString &replacement) const;
+
+    QRegularExpression m_expression;
+    bool m_groups;
+};
+
+/// A regular expression's replacement: "\0" to "\9" are the groups, "\n" and "\t" line feed and tab, "\\" a backslash;
+/// anything else stands for itself.
+QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match);
+
+/// The offset behind the character at `offset`.
+qsizetype behindCharacter(const QString &text, qsizetype offset);
+
+} // namespace zephira

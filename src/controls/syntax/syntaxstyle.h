@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace zephira {
+
+/// What a byte of the text is. The numbers are the style bytes and, at the same time, the font style items of the editing
+/// control's colour table.
+enum class SyntaxStyle : unsigned char {
+    Text = 0,
+    Number = 1,
+    Keyword = 2,
+    Operator = 3,
+    ScopeKeyword = 4,
+    Comment = 5,
+    String = 6,
+    TagText = 7,
+    TagEntity = 8,
+    TagElement = 9,
+    TagAttribute = 10,
+};
+
+constexpr int syntaxStyleCount = 11;
+
+} // namespace zephira

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/appcontext.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class frmAbout;
+}
+
+/// The program's information box.
+class frmAbout : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmAbout(const AppContext &context, QWidget *owner);
+    ~frmAbout() override;
+
+private:
+    void addCredits();
+    void openLink(const QString &address);
+    void StartSysInfo();
+
+    const AppContext &m_context;
+    std::unique_ptr<Ui::frmAbout> m_ui;
+};
+
+} // namespace zephira

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/frmtip.h"
+
+#include "settings/tips.h"
+#include "ui_frmtip.h"
+
+#include "controls/files/filestore.h"
+#include "controls/files/textfile.h"
+#include "controls/files/usersettings.h"
+#include "controls/settingsnames.h"
+
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+frmTip::frmTip(const AppContext &context, QWidget *owner)
+    : frmTip(context, owner, [] { return QRandomGenerator::global()->generateDouble(); })
+{
+}
+
+frmTip::frmTip(const AppContext &context, QWidget *owner, Random random)
+    : QDialog(owner), m_context(context), m_random(std::move(random)), m_ui(std::make_unique<Ui::frmTip>())
+{
+    m_ui->setupUi(this);
+    const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
+    const QIcon hint = QIcon::fromTheme(u"help-hint"_s, style()->standardIcon(QStyle::SP_MessageBoxInformation));
+    m_ui->picTip->setPixmap(hint.pixmap(QSize(side, side), devicePixelRatioF()));
+    m_ui->tipFrame->setBackgroundRole(QPalette::Base);
+
+    const QString shown =
+        context.settings.GetSetting(executableBranch(), optionsSection(), showTipsKey(), showTipsDefault());
+    m_ui->chkLoadTipsAtStartup->setChecked(shown.toInt() != 0);
+
+    connect(m_ui->chkLoadTipsAtStartup, &QCheckBox::clicked, this, &frmTip::saveSwitch);
+    connect(m_ui->cmdNextTip, &QPushButton::clicked, this, &frmTip::showNextTip);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmTip::accept);
+    loadTips();
+}
+
+frmTip::~frmTip() = default;
+
+void frmTip::loadTips()
+{
+    Result<QByteArray> bytes = m_context.files.read(m_context.appPath + u"/TIPOFDAY.TXT"_s);
+    if (!bytes) {
+        m_ui->lblTipText->setText(tipInstructions());
+        return;
+    }
+    m_tips = tipLines(QString::fromUtf8(decodeText(std::move(bytes).value()).utf8));
+    showNextTip();
+}
+
+void frmTip::showNextTip()
+{
+    if (!m_tips.isEmpty())
+        m_ui->lblTipText->setText(m_tips.at(drawTip(m_random(), static_cast<int>(m_tips.size())) - 1));
+}
+
+void frmTip::saveSwitch(bool ticked)
+{
+    m_context.settings.SaveSetting(executableBranch(), optionsSection(), showTipsKey(), ticked ? u"1"_s : u"0"_s);
+}
+
+} // namespace zephira

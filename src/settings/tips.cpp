@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/tips.h"
+
+#include "controls/files/lineends.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+QStringList tipLines(const QString &text)
+{
+    if (text.isEmpty())
+        return {};
+    QStringList lines = toCrLf(text).split(u"\r\n"_s);
+    if (lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
+int drawTip(double random, int count)
+{
+    return static_cast<int>(random * count + 1);
+}
+
+QString tipInstructions()
+{
+    return u"That the TIPOFDAY.TXT file was not found? \r\n"
+           "Create a text file named TIPOFDAY.TXT using NotePad with 1 tip per line. "
+           "Then place it in the same directory as the application. "_s;
+}
+
+} // namespace zephira

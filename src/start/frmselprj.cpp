@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "start/frmselprj.h"
+
+#include "start/customtemplates.h"
+#include "start/framepicture.h"
+#include "start/labeleditdelegate.h"
+#include "start/templates.h"
+#include "ui_frmselprj.h"
+
+#include "controls/documenthost.h"
+#include "controls/editingcontrol.h"
+#include "controls/files/configuration.h"
+#include "controls/prompts.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QPushButton>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+const QString startupSection = u"Startup"_s;
+const QString startDialogKey = u"selprj"_s;
+
+constexpr int textColumns = 3;
+constexpr int pictureColumns = 4;
+constexpr QSize pictureSize(104, 78);
+
+} // namespace
+
+frmselprj::frmselprj(const AppContext &context, QWidget *owner)
+    : QDialog(owner), m_context(context), m_templateFolder(context.appPath + u"/templates/"_s),
+      m_customFolder(m_templateFolder + u"custom"_s), m_ui(std::make_unique<Ui::frmselprj>())
+{
+    m_ui->setupUi(this);
+    addTemplateButtons();
+    listCustomTemplates();
+
+    m_ui->Check1->setChecked(context.configuration.value(startupSection, startDialogKey) == u"1"_s);
+    connect(m_ui->Check1, &QCheckBox::clicked, this, [this](bool ticked) {
+        m_context.configuration.setValue(startupSection, startDialogKey, ticked ? u"1"_s : u"0"_s);
+    });
+    connect(m_ui->CancelButton, &QPushButton::clicked, this, &frmselprj::reject);
+}
+
+frmselprj::~frmselprj() = default;
+
+void frmselprj::addTemplateButtons()
+{
+    for (const TemplateButton &button : templateButtons())
+        addButton(button);
+    // The buttons keep together at the top of a page that is larger than they need.
+    for (int page = 0; page <= static_cast<int>(TemplatePage::Win32); ++page) {
+        auto *grid = static_cast<QGridLayout *>(m_ui->SSTab1->widget(page)->layout());
+        grid->setRowStretch(grid->rowCount(), 1);
+    }
+}
+
+void frmselprj::addButton(const TemplateButton &button)
+{
+    QWidget *page = m_ui->SSTab1->widget(static_cast<int>(button.page));
+    auto *grid = static_cast<QGridLayout *>(page->layout());
+    const bool pictured = button.page == TemplatePage::Frames;
+    const int columns = pictured ? pictureColumns : textColumns;
+    const QString file = button.file.toString();
+
+    auto *control = new QPushButton(button.caption.toString(), page);
+    control->setObjectName(button.name);
+    control->setAutoDefault(false);
+    control->setAccessibleName(control->text().trimmed());
+    control->setToolTip(file.isEmpty() ? tr("Keeps the text and chooses the language alone") : file);
+    if (pictured) {
+        const FramePicture picture = framePicture(file, palette(), pictureSize);
+        control->setIcon(picture.icon);
+        control->setIconSize(pictureSize);
+        control->setAccessibleName(picture.description);
+        control->setToolTip(picture.description);
+    } else {
+        control->setMinimumHeight(2 * control->sizeHint().height());
+    }
+    const int index = grid->count();
+    grid->addWidget(control, index / columns, index % columns);
+    connect(control, &QPushButton::clicked, this, [this, &button] { useTemplate(button); });
+}
+
+void frmselprj::listCustomTemplates()
+{
+    QListWidget *list = m_ui->ListView2;
+    const QIcon picture = style()->standardIcon(QStyle::SP_FileIcon);
+    for (const QString &name : customTemplateNames(m_customFolder)) {
+        auto *item = new QListWidgetItem(picture, name, list);
+        item->setFlags(item->flags() | Qt::ItemIsEditable);
+    }
+    auto *delegate = new LabelEditDelegate(list);
+    list->setItemDelegate(delegate);
+    connect(delegate, &LabelEditDelegate::labelEdited, this, &frmselprj::renameCustom);
+    connect(list, &QListWidget::itemDoubleClicked, this, &frmselprj::useCustomTemplate);
+
+    // What the double click does, for the keyboard.
+    auto *use = new QAction(list);
+    use->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
+    use->setShortcutContext(Qt::WidgetShortcut);
+    list->addAction(use);
+    connect(use, &QAction::triggered, this, [this, list] { useCustomTemplate(list->currentItem()); });
+}
+
+void frmselprj::useTemplate(const TemplateButton &button)
+{
+    const QString file = button.file.toString();
+    if (!file.isEmpty()) {
+        const Result<QString> text = readTemplate(m_context.files, m_templateFolder + file);
+        if (!text) {
+            m_context.prompts.tell(text.error().sentence, windowTitle(), Question::Icon::Critical);
+            return;
+        }
+        m_context.editor.setText(text.value());
+    }
+    m_context.document.setLanguageRow(button.language);
+    accept();
+}
+
+void frmselprj::useCustomTemplate(const QListWidgetItem *item)
+{
+    if (!item)
+        return;
+    const Result<QString> text = readTemplate(m_context.files, m_customFolder + u'/' + item->text());
+    if (!text) {
+        m_context.prompts.tell(text.error().sentence, windowTitle(), Question::Icon::Critical);
+        return;
+    }
+    if (!text.value().isEmpty())
+        m_context.editor.setText(text.value());
+    if (const auto language = languageOfTemplate(item->text())) {
+        m_context.document.setLanguageRow(language->row);
+        if (!language->editorLanguage.isEmpty())
+            m_context.editor.setLanguage(language->editorLanguage);
+    }
+    accept();
+}
+
+void frmselprj::renameCustom(const QString &oldName, const QString &newName)
+{
+    const Result<void> renamed = renameCustomTemplate(m_context.files, m_customFolder, oldName, newName);
+    if (!renamed)
+        m_context.prompts.tell(renamed.error().sentence, windowTitle(), Question::Icon::Critical);
+}
+
+} // namespace zephira

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace zephira {
+
+/// Tells when the editing of a row's label ends with a text, also with the one that it had before.
+class LabelEditDelegate final : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+
+Q_SIGNALS:
+    void labelEdited(const QString &oldText, const QString &newText) const;
+};
+
+} // namespace zephira

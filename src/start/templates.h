@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/result.h"
+
+#include <QString>
+
+#include <optional>
+#include <span>
+
+namespace zephira {
+
+class FileStore;
+
+/// The tabs of the start dialog that hold template buttons, by their index.
+enum class TemplatePage { Html, Frames, Css, Web, Win32 };
+
+/// A button that starts a document. One without a file leaves the text as it is and chooses the language alone.
+struct TemplateButton {
+    TemplatePage page;
+    QStringView name;    ///< objectName of the button
+    QStringView caption; ///< "" where the button bears a picture
+    QStringView file;    ///< in the folder `templates`, or ""
+    int language;            ///< row of the language list
+};
+
+/// All buttons, page by page in the order in which they stand.
+std::span<const TemplateButton> templateButtons();
+
+/// The language that a custom template's file name stands for.
+struct TemplateLanguage {
+    int row;
+    /// What the editing control is given after the row is chosen, or "" to leave it with the row's own.
+    QString editorLanguage = {};
+
+    friend bool operator==(const TemplateLanguage &, const TemplateLanguage &) = default;
+};
+
+/// Chooses by the name's ending, without regard to case. An unknown ending gives nothing: the language stays.
+std::optional<TemplateLanguage> languageOfTemplate(const QString &fileName);
+
+/// Text of a template file, with CR LF line ends. The error of a missing file names file and folder.
+Result<QString> readTemplate(const FileStore &files, const QString &path);
+
+} // namespace zephira

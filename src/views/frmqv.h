@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/appcontext.h"
+#include "controls/editorfactory.h"
+#include "controls/quickviewer.h"
+#include "controls/result.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class frmqv;
+}
+
+/// A window beside the main one that shows a picture or a text. A failure is told to the user; what the window showed
+/// before stays, and one that has shown nothing yet goes away.
+class frmqv : public QWidget, public QuickViewer
+{
+    Q_OBJECT
+
+public:
+    frmqv(const AppContext &context, const ViewerFactory &makeViewer, QWidget *owner);
+    ~frmqv() override;
+
+    void showFile(const QString &path) override;
+    /// The window takes the picture's width, and its height plus 800 twips.
+    void showPicture(const QString &path) override;
+    void showText(const QString &path) override;
+
+private:
+    void addButtons();
+    void copySelection();
+    void explain();
+    void copyAll();
+    void present();
+    void tellFailure(const Error &error);
+
+    const AppContext &m_context;
+    std::unique_ptr<Ui::frmqv> m_ui;
+    EditorView m_viewer;
+    bool m_hasContent = false;
+};
+
+} // namespace zephira

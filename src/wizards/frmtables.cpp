@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wizards/frmtables.h"
+
+#include "controls/appcontext.h"
+#include "controls/inserter.h"
+#include "controls/prompts.h"
+#include "ui_frmtables.h"
+#include "wizards/mdltable.h"
+#include "wizards/tablemarkup.h"
+
+namespace zephira {
+
+frmTables::frmTables(const AppContext &context, QWidget *owner)
+    : QDialog(owner), m_ui(std::make_unique<Ui::frmTables>()), m_inserter(context.inserter), m_prompts(context.prompts)
+{
+    m_ui->setupUi(this);
+    new WindowDragger(m_ui->Frame1);
+    connect(m_ui->Frame1, &SizePicker::picked, this, &frmTables::pick);
+    connect(m_ui->cmdCreate, &QPushButton::clicked, this, &frmTables::create);
+    connect(m_ui->Command2, &QPushButton::clicked, this, &frmTables::reject);
+    pick(1, 1);
+}
+
+frmTables::~frmTables() = default;
+
+bool frmTables::AddTable(qint32 columns, qint32 rows)
+{
+    const Result<QString> markup = simpleTableMarkup({.columns = columns, .rows = rows});
+    if (markup)
+        m_inserter.InsertAtCaret(markup.value());
+    else
+        m_prompts.tell(markup.error().sentence, windowTitle(), Question::Icon::Exclamation);
+    return markup.ok();
+}
+
+void frmTables::CleanUp()
+{
+    m_ui->Frame1->clear();
+}
+
+void frmTables::pick(int rows, int columns)
+{
+    m_ui->lblTable->setNum((rows - 1) * SizePicker::sideLength + columns);
+    CleanUp();
+    m_ui->Frame1->highlight(rows, columns);
+    m_ui->txtRows->setText(QString::number(rows));
+    m_ui->txtColls->setText(QString::number(columns));
+}
+
+void frmTables::create()
+{
+    // What is no number counts as 0. The boxes decide, not the grid.
+    const qint32 columns = tableCount(m_ui->txtColls->text()).value_or(0);
+    const qint32 rows = tableCount(m_ui->txtRows->text()).value_or(0);
+    if (AddTable(columns, rows))
+        accept();
+}
+
+} // namespace zephira

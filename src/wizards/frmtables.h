@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class frmTables;
+}
+
+struct AppContext;
+class Inserter;
+class Prompts;
+
+/// The quick table wizard: a click on a grid of squares gives the size, everything else is fixed.
+class frmTables final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmTables(const AppContext &context, QWidget *owner);
+    ~frmTables() override;
+
+    /// Inserts a table. One that is too large for a page is refused with a message; returns whether it was inserted.
+    Q_INVOKABLE bool AddTable(qint32 columns, qint32 rows);
+    /// Paints all squares in the background colour.
+    Q_INVOKABLE void CleanUp();
+
+private:
+    /// Takes a size from the grid; rows and columns count from 1.
+    void pick(int rows, int columns);
+    void create();
+
+    const std::unique_ptr<Ui::frmTables> m_ui;
+    Inserter &m_inserter;
+    Prompts &m_prompts;
+};
+
+} // namespace zephira

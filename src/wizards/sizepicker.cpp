@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wizards/sizepicker.h"
+
+#include "wizards/sizesquare.h"
+
+#include <QGridLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr int squareTwips = 400;
+constexpr int pitchTwips = 480;
+
+/// One twip is a fifteenth of a pixel at 96 dots per inch.
+int pixelsOf(int twips, const QWidget &widget)
+{
+    return qRound(twips * widget.logicalDpiX() / (15.0 * 96.0));
+}
+
+/// Index in the grid of the square in a row and a column that count from 1.
+size_t indexOf(int row, int column)
+{
+    return static_cast<size_t>((row - 1) * SizePicker::sideLength + column - 1);
+}
+
+} // namespace
+
+SizePicker::SizePicker(QWidget *parent) : QFrame(parent)
+{
+    const int pixels = pixelsOf(squareTwips, *this);
+    auto *grid = new QGridLayout(this);
+    grid->setSpacing(pixelsOf(pitchTwips, *this) - pixels);
+    for (int row = 1; row <= sideLength; ++row) {
+        for (int column = 1; column <= sideLength; ++column) {
+            SizeSquare *square = addSquare(row, column, pixels);
+            grid->addWidget(square, row - 1, column - 1);
+            m_squares[indexOf(row, column)] = square;
+        }
+    }
+}
+
+void SizePicker::clear()
+{
+    for (SizeSquare *square : m_squares)
+        square->setHighlighted(false);
+}
+
+void SizePicker::highlight(int rows, int columns)
+{
+    for (int row = 1; row <= rows; ++row) {
+        for (int column = 1; column <= columns; ++column)
+            m_squares[indexOf(row, column)]->setHighlighted(true);
+    }
+    for (SizeSquare *square : m_squares)
+        square->setFocusPolicy(Qt::ClickFocus);
+    SizeSquare *corner = m_squares[indexOf(rows, columns)];
+    corner->setFocusPolicy(Qt::StrongFocus);
+    corner->setFocus();
+}
+
+SizeSquare *SizePicker::addSquare(int row, int column, int pixels)
+{
+    auto *square = new SizeSquare(this);
+    square->setObjectName(u"pic%1"_s.arg(indexOf(row, column) + 1));
+    square->setFixedSize(pixels, pixels);
+    square->setCursor(Qt::ArrowCursor);
+    square->setAccessibleName(tr("%1 rows, %2 columns").arg(row).arg(column));
+    square->setToolTip(square->accessibleName());
+    connect(square, &SizeSquare::clicked, this, [this, row, column] { emit picked(row, column); });
+    connect(square, &SizeSquare::stepped, this, [this, row, column](int rows, int columns) {
+        emit picked(qBound(1, row + rows, sideLength), qBound(1, column + columns, sideLength));
+    });
+    return square;
+}
+
+} // namespace zephira

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+
+namespace zephira {
+
+/// One square of a grid in which a size is picked: a button that is filled with the highlight colour or with the colour
+/// of a window's background, and that hands arrow keys on to the grid.
+class SizeSquare final : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    explicit SizeSquare(QWidget *parent = nullptr);
+
+    bool isHighlighted() const { return backgroundRole() == QPalette::Highlight; }
+    void setHighlighted(bool highlighted);
+
+signals:
+    /// An arrow key was pressed; each step is -1, 0 or 1.
+    void stepped(int rows, int columns);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace zephira

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/windowbench.h"
+
+#include "app/loadhandler.h"
+#include "settings/registerforms.h"
+#include "start/registerforms.h"
+#include "views/registerforms.h"
+#include "wizards/registerforms.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QTest>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+WindowBench::WindowBench()
+    : recovery(m_folder.path() + u"/recovery"_s, files, clock), configuration(m_folder.path() + u"/app/zephira.ini"_s)
+{
+    const QDir source(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data"));
+    QDirIterator data(source.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (data.hasNext()) {
+        const QString file = data.next();
+        const QString target = appPath() + u'/' + source.relativeFilePath(file);
+        QDir().mkpath(QFileInfo(target).path());
+        QFile::copy(file, target);
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    wizards::registerForms(catalogue);
+    start::registerForms(catalogue);
+    zephira::settings::registerForms(catalogue);
+    views::registerForms(catalogue, [this](QWidget *parent) -> EditorView {
+        auto *viewer = new CodeMax({files, recovery, prompts}, parent);
+        viewer->setReadOnly(true);
+        return {viewer, viewer};
+    });
+}
+
+WindowBench::~WindowBench() = default;
+
+frmmain &WindowBench::start(const QString &argument)
+{
+    window = std::make_unique<frmmain>(WindowServices{.files = files,
+                                                      .recovery = recovery,
+                                                      .configuration = configuration,
+                                                      .settings = settings,
+                                                      .prompts = prompts,
+                                                      .shell = shell,
+                                                      .clipboard = clipboard,
+                                                      .clock = clock,
+                                                      .catalogue = catalogue,
+                                                      .appPath = appPath(),
+                                                      .iniFile = configuration.file(),
+                                                      .executable = u"/opt/zephira/zephira"_s,
+                                                      .endProcess = [this] { ++ended; }});
+    LoadHandler(*window, argument).run();
+    return *window;
+}
+
+QString WindowBench::write(const QString &name, const QByteArray &content) const
+{
+    const QString path = m_folder.path() + u'/' + name;
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("can't write %s", qPrintable(path));
+    return path;
+}
+
+QByteArray WindowBench::read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WindowBench::click(const QString &toolBar, const QString &key) const
+{
+    for (QAction *action : find<QToolBar>(toolBar)->actions()) {
+        if (action->objectName() == key) {
+            QVERIFY2(action->isEnabled(), qPrintable(key));
+            action->trigger();
+            return;
+        }
+    }
+    QFAIL(qPrintable(toolBar + u" has no button "_s + key));
+}
+
+void WindowBench::click(const QString &toolBar, int position) const
+{
+    const QList<QAction *> actions = find<QToolBar>(toolBar)->actions();
+    QVERIFY(position >= 1 && position <= actions.size());
+    QVERIFY(actions[position - 1]->isEnabled());
+    actions[position - 1]->trigger();
+}
+
+} // namespace zephira

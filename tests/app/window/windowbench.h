@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/frmmain.h"
+#include "controls/files/configuration.h"
+#include "controls/files/diskfilestore.h"
+#include "controls/files/recoverycopies.h"
+#include "controls/formcatalogue.h"
+#include "controls/scintilla/codemax.h"
+#include "support/fakes.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QTabBar>
+#include <QTemporaryDir>
+
+namespace zephira {
+
+/// The main window over a program folder of its own, with the shipped data and real files. Prompts, per-user settings,
+/// shell, clipboard and clock are fakes.
+class WindowBench
+{
+public:
+    WindowBench();
+    ~WindowBench();
+
+    /// Makes the window and runs its load handler.
+    frmmain &start(const QString &argument = QStringLiteral("/nodialog"));
+
+    /// Writes a file below the bench's folder and gives its full path.
+    QString write(const QString &name, const QByteArray &content) const;
+    static QByteArray read(const QString &path);
+    QString folder() const { return m_folder.path(); }
+    QString appPath() const { return m_folder.path() + QStringLiteral("/app"); }
+
+    /// A child by objectName; fails the test when there is none.
+    template<typename T>
+    T *find(const QString &name) const
+    {
+        T *child = window->findChild<T *>(name);
+        if (!child)
+            qFatal("no control is named %s", qPrintable(name));
+        return child;
+    }
+
+    /// Chooses a menu entry.
+    void choose(const QString &entry) const { find<QAction>(entry)->trigger(); }
+    /// Clicks a toolbar's button, known by its key or by its position (from 1, separators counted).
+    void click(const QString &toolBar, const QString &key) const;
+    void click(const QString &toolBar, int position) const;
+    QString panel(int number) const { return find<QLabel>(QStringLiteral("stBar_%1").arg(number))->text(); }
+
+    QTemporaryDir m_folder;
+    ScriptedPrompts prompts;
+    MemoryUserSettings settings;
+    FakeShell shell;
+    FakeClipboard clipboard;
+    FakeClock clock;
+    DiskFileStore files;
+    RecoveryCopies recovery;
+    IniConfiguration configuration;
+    FormCatalogue catalogue;
+    int ended = 0;
+    std::unique_ptr<frmmain> window;
+};
+
+} // namespace zephira

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/formposition.h"
+#include "support/fakes.h"
+#include "support/testregistry.h"
+
+#include <QTest>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+/// Keeps the order in which the keys were touched.
+struct OrderedSettings final : UserSettings {
+    MemoryUserSettings store;
+    mutable QStringList keys;
+
+    QString GetSetting(const QString &branch, const QString &section, const QString &key,
+                       const QString &fallback) const override
+    {
+        keys.append(key);
+        return store.GetSetting(branch, section, key, fallback);
+    }
+    void SaveSetting(const QString &branch, const QString &section, const QString &key, const QString &value) override
+    {
+        keys.append(key);
+        store.SaveSetting(branch, section, key, value);
+    }
+};
+
+} // namespace
+
+class TstFormPosition : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void saving();
+    void savingMaximised();
+    void savingMinimised();
+    void restoring();
+    void restoringNothing();
+    void restoringNonsense();
+    void maximisedAndBack();
+    void stateIsUsedAsItStands();
+    void screens_data();
+    void screens();
+
+private:
+    QString stored(const char *key) const
+    {
+        return m_settings->store.values.at(u"zephira/frmmain/"_s + QLatin1StringView(key));
+    }
+    void put(const char *key, const QString &value)
+    {
+        m_settings->store.values[u"zephira/frmmain/"_s + QLatin1StringView(key)] = value;
+    }
+    void position(bool saving) { FormPosition(*m_form, saving, *m_settings, u"zephira"_s); }
+
+    std::unique_ptr<OrderedSettings> m_settings;
+    std::unique_ptr<QWidget> m_form;
+};
+
+void TstFormPosition::init()
+{
+    m_settings = std::make_unique<OrderedSettings>();
+    m_form = std::make_unique<QWidget>();
+    m_form->setObjectName(u"frmmain"_s);
+    m_form->setGeometry(40, 30, 400, 300);
+}
+
+void TstFormPosition::saving()
+{
+    position(true);
+    QCOMPARE(m_settings->keys, (QStringList{u"WindowState"_s, u"Top"_s, u"Left"_s, u"Height"_s, u"Width"_s}));
+    QCOMPARE(stored("WindowState"), u"0"_s);
+    QCOMPARE(stored("Top"), u"450"_s);
+    QCOMPARE(stored("Left"), u"600"_s);
+    QCOMPARE(stored("Height"), u"4500"_s);
+    QCOMPARE(stored("Width"), u"6000"_s);
+}
+
+void TstFormPosition::savingMaximised()
+{
+    m_form->show();
+    m_form->setWindowState(Qt::WindowMaximized);
+    QTRY_VERIFY(m_form->isMaximized() && m_form->width() != 400);
+    position(true);
+    QVERIFY(!m_form->isMaximized());
+    QCOMPARE(stored("WindowState"), u"2"_s);
+    QCOMPARE(stored("Height"), u"4500"_s);
+    QCOMPARE(stored("Width"), u"6000"_s);
+}
+
+void TstFormPosition::savingMinimised()
+{
+    m_form->show();
+    m_form->setWindowState(Qt::WindowMinimized);
+    position(true);
+    QVERIFY(!m_form->isMinimized());
+    QCOMPARE(stored("WindowState"), u"1"_s);
+    QCOMPARE(stored("Width"), u"6000"_s);
+}
+
+void TstFormPosition::restoring()
+{
+    put("Top", u"750"_s);
+    put("Left", u"1500"_s);
+    put("Height", u"3000"_s);
+    put("Width", u"4500"_s);
+    put("WindowState", u"0"_s);
+    position(false);
+    QCOMPARE(m_settings->keys, (QStringList{u"Top"_s, u"Left"_s, u"Height"_s, u"Width"_s, u"WindowState"_s}));
+    QCOMPARE(m_form->geometry(), QRect(100, 50, 300, 200));
+    QVERIFY(!m_form->isMaximized());
+}
+
+void TstFormPosition::restoringNothing()
+{
+    position(false);
+    QCOMPARE(m_form->geometry(), QRect(40, 30, 400, 300));
+    QVERIFY(!m_form->isMaximized());
+}
+
+void TstFormPosition::restoringNonsense()
+{
+    for (const char *key : {"Top", "Left", "Height", "Width", "WindowState"})
+        put(key, u"12 o'clock"_s);
+    position(false);
+    QCOMPARE(m_form->geometry(), QRect(40, 30, 400, 300));
+    put("WindowState", u"7"_s);
+    position(false);
+    QVERIFY(!m_form->isMaximized() && !m_form->isMinimized());
+}
+
+void TstFormPosition::maximisedAndBack()
+{
+    m_form->showMaximized();
+    QTRY_VERIFY(m_form->isMaximized());
+    position(true);
+
+    QWidget next;
+    next.setObjectName(u"frmmain"_s);
+    FormPosition(next, false, *m_settings, u"zephira"_s);
+    QVERIFY(next.isMaximized());
+    next.show();
+    next.setWindowState(Qt::WindowNoState);
+    QTRY_COMPARE(next.size(), QSize(400, 300));
+}
+
+void TstFormPosition::stateIsUsedAsItStands()
+{
+    put("WindowState", u"1"_s);
+    position(false);
+    QVERIFY(m_form->isMinimized());
+}
+
+void TstFormPosition::screens_data()
+{
+    QTest::addColumn<QRect>("wanted");
+    QTest::addColumn<QList<QRect>>("screens");
+    QTest::addColumn<QRect>("expected");
+    const QRect wide(0, 0, 1600, 1000);
+    const QRect right(1600, 200, 1000, 800);
+    QTest::newRow("inside") << QRect(10, 20, 300, 200) << QList<QRect>{wide} << QRect(10, 20, 300, 200);
+    QTest::newRow("partly outside") << QRect(1500, 900, 300, 200) << QList<QRect>{wide} << QRect(1500, 900, 300, 200);
+    QTest::newRow("on the second screen") << QRect(1700, 300, 300, 200) << QList<QRect>{wide, right}
+                                          << QRect(1700, 300, 300, 200);
+    QTest::newRow("second screen is gone") << QRect(1700, 300, 300, 200) << QList<QRect>{wide}
+                                           << QRect(1300, 300, 300, 200);
+    QTest::newRow("above") << QRect(10, -500, 300, 200) << QList<QRect>{wide} << QRect(10, 0, 300, 200);
+    QTest::newRow("title bar above") << QRect(10, -30, 300, 200) << QList<QRect>{wide} << QRect(10, 0, 300, 200);
+    QTest::newRow("a sliver is left") << QRect(1590, 0, 300, 200) << QList<QRect>{wide} << QRect(1300, 0, 300, 200);
+    QTest::newRow("too large and outside") << QRect(5000, 5000, 3000, 2000) << QList<QRect>{wide} << wide;
+    QTest::newRow("no screen") << QRect(5000, 5000, 30, 20) << QList<QRect>{} << QRect(5000, 5000, 30, 20);
+}
+
+void TstFormPosition::screens()
+{
+    QFETCH(QRect, wanted);
+    QFETCH(QList<QRect>, screens);
+    QFETCH(QRect, expected);
+    QCOMPARE(placeOnScreens(wanted, screens), expected);
+}
+
+ZEPHIRA_TEST(TstFormPosition)
+#include "tst_formposition.moc"

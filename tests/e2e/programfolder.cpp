@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "e2e/programfolder.h"
+
+#include "controls/files/configuration.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QSettings>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+void copyTree(const QString &from, const QString &to)
+{
+    const QDir source(from);
+    QDirIterator files(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        const QString target = to + u'/' + source.relativeFilePath(file);
+        QVERIFY(QDir().mkpath(QFileInfo(target).path()));
+        QVERIFY2(QFile::copy(file, target), qPrintable(target));
+        QVERIFY(QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner));
+    }
+}
+
+} // namespace
+
+ProgramFolder::ProgramFolder()
+{
+    const QString program = QStringLiteral(ZEPHIRA_PROGRAM);
+    QVERIFY2(QFile::exists(program), qPrintable(program));
+    copyTree(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data"), path());
+    QVERIFY(QDir().mkpath(home()));
+    QVERIFY(QFile::copy(program, executable()));
+    setTips(false);
+    setIni(u"Startup"_s, u"selprj"_s, u"0"_s);
+}
+
+QString ProgramFolder::write(const QString &name, const QByteArray &content) const
+{
+    const QString path = m_folder.path() + u'/' + name;
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("can't write %s", qPrintable(path));
+    return path;
+}
+
+QByteArray ProgramFolder::read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void ProgramFolder::setIni(const QString &section, const QString &key, const QString &value) const
+{
+    QVERIFY(WriteIni(section, key, value, ini()));
+}
+
+void ProgramFolder::setTips(bool on) const
+{
+    const QString folder = home() + u"/.config"_s;
+    QVERIFY(QDir().mkpath(folder + u"/Zephira"_s));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Zephira"_s, u"Zephira"_s);
+    settings.setValue(u"zephira/Options/Show Tips at Startup"_s, on ? u"1"_s : u"0"_s);
+    settings.sync();
+    QCOMPARE(settings.status(), QSettings::NoError);
+}
+
+} // namespace zephira

@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/files/configuration.h"
+#include "e2e/programfolder.h"
+#include "e2e/runningprogram.h"
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTest>
+
+using namespace zephira;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString untitled = u"Zephira - [New Document]"_s;
+const QString tip = u"Tip of the Day"_s;
+const QString chooser = u"Select Template"_s;
+
+} // namespace
+
+/// The start table and the ways out, against the real program.
+class TstStart : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void table_data()
+    {
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<bool>("tips");
+        QTest::addColumn<QString>("selprj");
+        QTest::addColumn<QStringList>("dialogs"); // One after the other, each closed by Escape.
+        const QString file = u"FILE"_s;
+        QTest::newRow("nodialog, all on") << u"/nodialog"_s << true << u"1"_s << QStringList{};
+        QTest::newRow("nodialog, all off") << u"/nodialog"_s << false << u"0"_s << QStringList{};
+        QTest::newRow("empty, start dialog alone") << u""_s << false << u"1"_s << QStringList{chooser};
+        QTest::newRow("empty, nothing") << u""_s << false << u"0"_s << QStringList{};
+        QTest::newRow("file, tips off") << file << false << u"1"_s << QStringList{};
+        QTest::newRow("empty, tip before start dialog") << u""_s << true << u"1"_s << QStringList{tip, chooser};
+        QTest::newRow("empty, tip alone") << u""_s << true << u"0"_s << QStringList{tip};
+        QTest::newRow("file, a tip but no start dialog") << file << true << u"1"_s << QStringList{tip};
+    }
+
+    void table()
+    {
+        QFETCH(QString, argument);
+        QFETCH(bool, tips);
+        QFETCH(QString, selprj);
+        QFETCH(QStringList, dialogs);
+        ProgramFolder folder;
+        folder.setTips(tips);
+        folder.setIni(u"startup"_s, u"selprj"_s, selprj);
+        QString title = untitled;
+        if (argument == u"FILE"_s) {
+            argument = folder.write(u"site/my page.html"_s, "<p>x</p>\n");
+            title = u"Zephira - ["_s + argument + u']';
+        }
+        RunningProgram program(folder, argument.isEmpty() ? QStringList() : QStringList(argument));
+        for (const QString &dialog : dialogs) {
+            QCOMPARE(program.waitForWindows({title, dialog}), sorted({title, dialog}));
+            program.key(dialog, u"Escape"_s);
+        }
+        QCOMPARE(program.waitForWindows({title}), QStringList{title});
+        program.close(title);
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(program.standardOutput(), QByteArray());
+    }
+
+    void severalWordsAreOneName()
+    {
+        ProgramFolder folder;
+        const QString file = folder.write(u"my own page.html"_s, "x");
+        RunningProgram program(folder, file.split(u' '));
+        const QString title = u"Zephira - ["_s + file + u']';
+        QCOMPARE(program.waitForWindows({title}), QStringList{title});
+    }
+
+    void aNameThatIsNotThereLeavesAnEmptyDocument_data()
+    {
+        QTest::addColumn<QString>("argument");
+        QTest::newRow("missing") << u"/nowhere/at all.html"_s;
+        QTest::newRow("quoted") << u"\"QUOTED\""_s;
+        QTest::newRow("case of nodialog") << u"/NODIALOG"_s;
+    }
+
+    void aNameThatIsNotThereLeavesAnEmptyDocument()
+    {
+        QFETCH(QString, argument);
+        ProgramFolder folder;
+        argument.replace(u"QUOTED"_s, folder.write(u"page.html"_s, "x"));
+        RunningProgram program(folder, {argument});
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+    }
+
+    void informationEndsBeforeAnythingElse_data()
+    {
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<QByteArray>("begin");
+        QTest::newRow("version") << u"--version"_s << QByteArray("Zephira 2.1.0\n");
+        QTest::newRow("help") << u"--help"_s << QByteArray("Usage: zephira ");
+    }
+
+    void informationEndsBeforeAnythingElse()
+    {
+        QFETCH(QString, argument);
+        QFETCH(QByteArray, begin);
+        ProgramFolder folder;
+        QVERIFY(QFile::remove(folder.ini())); // Not even the settings are looked at.
+        RunningProgram program(folder, {argument});
+        QCOMPARE(program.waitForEnd(), 0);
+        QVERIFY(program.standardOutput().startsWith(begin));
+        QVERIFY(!QFileInfo::exists(folder.home() + u"/.cache/zephira"_s));
+    }
+
+    void aMissingNumberEndsTheStart_data()
+    {
+        QTest::addColumn<QString>("section");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("rootsel missing") << u"Startup"_s << u"rootsel"_s << u""_s;
+        QTest::newRow("highlight not a number") << u"options"_s << u"highlight"_s << u"yes"_s;
+        QTest::newRow("a colour") << u"Colors"_s << u"clr17fnt"_s << u"blue"_s;
+    }
+
+    void aMissingNumberEndsTheStart()
+    {
+        QFETCH(QString, section);
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        ProgramFolder folder;
+        folder.setIni(section, key, value);
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QCOMPARE(program.waitForWindows({u"Zephira"_s}), QStringList{u"Zephira"_s});
+        program.key(u"Zephira"_s, u"Return"_s);
+        QCOMPARE(program.waitForEnd(), 1);
+        const QString message = QString::fromUtf8(program.standardError());
+        QVERIFY2(message.contains(u'"' + key + u'"'), qPrintable(message));
+        QVERIFY2(message.contains(u'[' + section + u']', Qt::CaseInsensitive), qPrintable(message));
+        QVERIFY2(message.contains(folder.ini()), qPrintable(message));
+    }
+
+    void aMissingDataFileEndsTheStart()
+    {
+        ProgramFolder folder;
+        QVERIFY(QFile::remove(folder.path() + u"/deps/csssel.dat"_s));
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QCOMPARE(program.waitForWindows({u"Zephira"_s}), QStringList{u"Zephira"_s});
+        program.key(u"Zephira"_s, u"Return"_s);
+        QCOMPARE(program.waitForEnd(), 1);
+        QVERIFY(program.standardError().contains("csssel.dat"));
+    }
+
+    void theScratchFolderIsMadeForTheUserAlone()
+    {
+        ProgramFolder folder;
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        const QFileInfo scratch(folder.home() + u"/.cache/zephira/scratch"_s);
+        QVERIFY(scratch.isDir());
+        QCOMPARE(scratch.permissions() & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser),
+                 QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    void twoProcessesShareTheSettings()
+    {
+        ProgramFolder folder;
+        RunningProgram first(folder, {u"/nodialog"_s});
+        QCOMPARE(first.waitForWindows({untitled}), QStringList{untitled});
+        RunningProgram second(folder, {u"/nodialog"_s});
+        QCOMPARE(second.waitForWindows({untitled}), QStringList{untitled});
+        QVERIFY(first.isRunning());
+    }
+
+    void theProgramFolderIsRecorded()
+    {
+        ProgramFolder folder;
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        const QSettings settings(folder.home() + u"/.config/Zephira/Zephira.ini"_s, QSettings::IniFormat);
+        QCOMPARE(settings.value(u"Zephira/data/apppath"_s).toString(), folder.path());
+        QCOMPARE(settings.value(u"Zephira/data/version"_s).toString(), u"210"_s);
+    }
+
+private:
+    static QStringList sorted(QStringList list)
+    {
+        list.sort();
+        return list;
+    }
+};
+
+ZEPHIRA_TEST(TstStart)
+#include "tst_start.moc"

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Files of any kind: decoding gives valid UTF-8, and encoding gives the same bytes back.
+#include "controls/files/textfile.h"
+#include "controls/files/utf8.h"
+
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+{
+    using namespace zephira;
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const DecodedText text = decodeText(bytes);
+    if (!isValidUtf8(text.utf8))
+        std::abort();
+    const Result<QByteArray> encoded = encodeText(text.utf8, text.format);
+    if (!encoded || encoded.value() != bytes)
+        std::abort();
+    if (toLineEnds(text.utf8, text.format.lineEnds) != text.utf8)
+        std::abort();
+    if (toLineEnds(toLineEnds(text.utf8, LineEnds::Lf), LineEnds::CrLf) != toLineEnds(text.utf8, LineEnds::CrLf))
+        std::abort();
+    return 0;
+}

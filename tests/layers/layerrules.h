@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+namespace zephira {
+
+/// What a source is judged by, read from the tree once. All paths are relative to src/.
+struct Layers {
+    /// Sources and headers of the targets that link Qt6::Core alone.
+    QSet<QString> logicFiles;
+    /// Headers of dialogs and main windows.
+    QSet<QString> formHeaders;
+};
+
+/// Reads the CMake files and the .ui files below a folder.
+Layers readLayers(const QString &sourceFolder);
+
+/// Where a source breaks a rule: one sentence each, with the 1-based number of the first line concerned.
+QStringList violations(const QString &path, const QString &text, const Layers &layers);
+
+/// The source without comments and without what stands in string and character literals; line ends are kept.
+QString codeOf(const QString &text);
+
+constexpr int maximumLines = 1000;
+
+} // namespace zephira

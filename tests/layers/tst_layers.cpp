@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "layers/layerrules.h"
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+constexpr auto licence = "// SPDX-License-Identifier: GPL-3.0-or-later\n"_L1;
+
+} // namespace
+
+/// The rules of the house, over every source, and over small examples that break them.
+class TstLayers final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sourcesKeepTheRules()
+    {
+        const QString root = QStringLiteral(ZEPHIRA_SOURCE_DIR "/src");
+        const Layers layers = readLayers(root);
+        int sources = 0;
+        QStringList broken;
+        QDirIterator files(root, {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            broken += violations(QDir(root).relativeFilePath(file.fileName()), QString::fromUtf8(file.readAll()), layers);
+            ++sources;
+        }
+        QVERIFY(sources > 50);
+        QVERIFY2(broken.isEmpty(), qPrintable(broken.join(u'\n')));
+    }
+
+    void knowsLogicAndForms_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isLogic");
+        QTest::addColumn<bool>("isForm");
+        QTest::newRow("a logic header") << u"wizards/tablemarkup.h"_s << true << false;
+        QTest::newRow("a logic source") << u"wizards/tablemarkup.cpp"_s << true << false;
+        QTest::newRow("one of a subfolder") << u"controls/files/textfile.cpp"_s << true << false;
+        QTest::newRow("one behind a variable") << u"app/menutable.cpp"_s << true << false;
+        QTest::newRow("a form") << u"wizards/frmtables.h"_s << false << true;
+        QTest::newRow("a widget") << u"wizards/sizepicker.h"_s << false << false;
+    }
+
+    void knowsLogicAndForms()
+    {
+        QFETCH(QString, path);
+        const Layers layers = readLayers(QStringLiteral(ZEPHIRA_SOURCE_DIR "/src"));
+        QTEST(layers.logicFiles.contains(path), "isLogic");
+        QTEST(layers.formHeaders.contains(path), "isForm");
+    }
+
+    void rules_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("violation");
+        const auto row = [](const char *name, const QString &path, const QString &code, const QString &violation) {
+            QTest::newRow(name) << path << code << violation;
+        };
+        row("logic with widgets", u"wizards/markup.cpp"_s, u"#include <QtWidgets/QWidget>\n"_s,
+            u"wizards/markup.cpp:2: logic includes no more than Qt Core"_s);
+        row("logic with a module", u"wizards/markup.cpp"_s, u"#include <QtGui>\n"_s,
+            u"wizards/markup.cpp:2: logic includes no more than Qt Core"_s);
+        row("logic with Qt Core", u"wizards/markup.cpp"_s, u"#include <QtCore/QString>\n#include <QtMath>\n"_s, {});
+        row("a form with widgets", u"wizards/frma.cpp"_s, u"#include <QtWidgets/QWidget>\n"_s, {});
+        row("another folder's form", u"app/main.cpp"_s, u"\n#include \"wizards/frma.h\"\n"_s,
+            u"app/main.cpp:3: no folder includes another one's form"_s);
+        row("a form of one's own", u"wizards/registerforms.cpp"_s, u"#include \"wizards/frma.h\"\n"_s, {});
+        row("the editing widget", u"app/a.cpp"_s, u"#include <Qsci/qsciscintilla.h>\n"_s,
+            u"app/a.cpp:2: only controls/scintilla includes QScintilla"_s);
+        row("the editing widget at home", u"controls/scintilla/a.cpp"_s, u"#include <Qsci/qsciscintilla.h>\n"_s, {});
+        row("the web engine", u"views/a.cpp"_s, u"#include <QWebEngineView>\n"_s,
+            u"views/a.cpp:2: only controls/webengine includes the web engine"_s);
+        row("curl", u"app/a.cpp"_s, u"#include <curl/curl.h>\n"_s,
+            u"app/a.cpp:2: only the file transfer includes libcurl"_s);
+        row("a message box", u"app/a.cpp"_s, u"int a;\nvoid f() { QMessageBox::about(nullptr, {}, {}); }\n"_s,
+            u"app/a.cpp:3: only controls/desktop uses the dialog classes"_s);
+        row("a message box in words", u"app/a.cpp"_s, u"// A QMessageBox\nconst char *a = \"QFileDialog\";\n"_s, {});
+        row("a message box at home", u"controls/desktop/a.cpp"_s, u"QMessageBox box;\nint i = box.exec();\n"_s, {});
+        row("running a dialog", u"app/a.cpp"_s, u"int i = dialog.exec();\n"_s,
+            u"app/a.cpp:2: only the form opener runs a dialog"_s);
+        row("running a pointer's dialog", u"app/a.cpp"_s, u"int i = m_form->exec();\n"_s,
+            u"app/a.cpp:2: only the form opener runs a dialog"_s);
+        row("running oneself", u"app/a.cpp"_s, u"void F::f() { exec(); }\n"_s,
+            u"app/a.cpp:2: only the form opener runs a dialog"_s);
+        row("running as a base class", u"app/a.cpp"_s, u"void F::f() { QDialog::exec(); }\n"_s,
+            u"app/a.cpp:2: only the form opener runs a dialog"_s);
+        row("running the program, a loop and a menu", u"app/a.cpp"_s,
+            u"int i = QApplication::exec() + loop.exec() + m_menu->exec() + application.exec();\n"_s, {});
+        row("names that hold the word", u"app/a.cpp"_s, u"void f() { designer.execCommand(1); executive(); }\n"_s, {});
+        row("the opener", u"controls/modalformopener.cpp"_s, u"int i = dialog->exec();\n"_s, {});
+        row("a header twice", u"app/a.h"_s, u"int a;\n"_s, u"app/a.h:1: a header is included once"_s);
+        row("a thousand lines", u"app/a.cpp"_s, QString(999, u'\n'), {});
+        row("more lines", u"app/a.cpp"_s, QString(1000, u'\n'), u"app/a.cpp:1001: no source has more than 1000 lines"_s);
+    }
+
+    void rules()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, code);
+        const Layers layers{{u"wizards/markup.cpp"_s}, {u"wizards/frma.h"_s}};
+        QTEST(violations(path, licence + code, layers).join(u'\n'), "violation");
+    }
+
+    void theFirstLineNamesTheLicence()
+    {
+        QCOMPARE(violations(u"app/a.cpp"_s, u"int a;\n"_s, {}),
+                 QStringList{u"app/a.cpp:1: the first line names the licence"_s});
+    }
+
+    void codeIsWhatIsCompiled_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("line comment") << u"a; // b\nc"_s << u"a; \nc"_s;
+        QTest::newRow("comment over lines") << u"a /* b\nc */ d"_s << u"a \n d"_s;
+        QTest::newRow("string") << u"a(\"b \\\" // c\", 'd')"_s << u"a(, )"_s;
+        QTest::newRow("raw string") << u"a(uR\"x(b\n\" )\" c)x\"); d"_s << u"a(u\n); d"_s;
+    }
+
+    void codeIsWhatIsCompiled()
+    {
+        QFETCH(QString, text);
+        QTEST(codeOf(text), "code");
+    }
+};
+
+ZEPHIRA_TEST(TstLayers)
+
+#include "tst_layers.moc"

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/registerforms.h"
+#include "support/fakes.h"
+#include "support/formkit.h"
+#include "support/testregistry.h"
+
+#include <QLabel>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+class TstFrmAbout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void texts();
+    void creditOpensItsAddress_data();
+    void creditOpensItsAddress();
+    void creditThatCannotBeOpened();
+    void systemInformation();
+    void systemInformationIsMissing();
+    void systemInformationDoesNotStart();
+    void ok();
+
+private:
+    std::unique_ptr<TestContext> m_world;
+    std::unique_ptr<LivingForm> m_form;
+};
+
+void TstFrmAbout::init()
+{
+    FormCatalogue catalogue;
+    settings::registerForms(catalogue);
+    m_world = std::make_unique<TestContext>();
+    m_form = std::make_unique<LivingForm>(catalogue, u"frmAbout"_s, *m_world);
+}
+
+void TstFrmAbout::cleanup()
+{
+    m_form.reset();
+    m_world.reset();
+}
+
+void TstFrmAbout::texts()
+{
+    QCOMPARE(m_form->widget().windowTitle(), u"About Zephira"_s);
+    QCOMPARE(m_form->value(u"lblVersion"_s), u"Version 2.1.0"_s);
+    QCOMPARE(m_form->value(u"lblNameQuestion"_s), u"Where does the name come from?"_s);
+    QCOMPARE(m_form->value(u"lblPurposeQuestion"_s), u"What does it do?"_s);
+    QVERIFY(!m_form->value(u"lblNameAnswer"_s).isEmpty());
+    QVERIFY(!m_form->value(u"lblPurposeAnswer"_s).isEmpty());
+}
+
+void TstFrmAbout::creditOpensItsAddress_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("address");
+    QTest::newRow("licence") << u"lblLicence"_s << u"https://www.gnu.org/licenses/gpl-3.0.html"_s;
+    QTest::newRow("Qt") << u"lblQt"_s << u"https://www.qt.io/"_s;
+    QTest::newRow("QScintilla") << u"lblQScintilla"_s << u"https://www.riverbankcomputing.com/software/qscintilla/"_s;
+    QTest::newRow("HTML Tidy") << u"lblTidy"_s << u"https://www.html-tidy.org/"_s;
+}
+
+void TstFrmAbout::creditOpensItsAddress()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, address);
+    auto &credit = m_form->get<QLabel>(label);
+    credit.setFocus();
+    // The first press of Tab goes to the link, Return follows it.
+    QTest::keyClick(&credit, Qt::Key_Tab);
+    QTest::keyClick(&credit, Qt::Key_Return);
+    QCOMPARE(m_world->shell.opened, QStringList{address});
+}
+
+void TstFrmAbout::creditThatCannotBeOpened()
+{
+    m_world->shell.failure = Error{Error::Code::Failed, u"There is no browser."_s};
+    m_world->prompts.expectTell(u"There is no browser."_s, u"About Zephira"_s, Question::Icon::Exclamation);
+    auto &credit = m_form->get<QLabel>(u"lblQt"_s);
+    credit.setFocus();
+    QTest::keyClick(&credit, Qt::Key_Tab);
+    QTest::keyClick(&credit, Qt::Key_Return);
+}
+
+void TstFrmAbout::systemInformation()
+{
+    m_world->files.contents[u"/usr/bin/hardinfo"_s] = {};
+    m_form->press(u"cmdSysInfo"_s);
+    QCOMPARE(m_world->shell.started.size(), 1U);
+    QCOMPARE(m_world->shell.started.front(), (FakeShell::Start{u"/usr/bin/hardinfo"_s, {}}));
+}
+
+void TstFrmAbout::systemInformationIsMissing()
+{
+    m_world->prompts.expectTell(u"System Information Is Unavailable At This Time"_s, {}, Question::Icon::None);
+    m_form->press(u"cmdSysInfo"_s);
+    QVERIFY(m_world->shell.started.empty());
+    QVERIFY(m_form->isOpen());
+}
+
+void TstFrmAbout::systemInformationDoesNotStart()
+{
+    m_world->files.contents[u"/usr/bin/hardinfo"_s] = {};
+    m_world->shell.failure = Error{Error::Code::Failed, u"No."_s};
+    m_world->prompts.expectTell(u"System Information Is Unavailable At This Time"_s, {}, Question::Icon::None);
+    m_form->press(u"cmdSysInfo"_s);
+}
+
+void TstFrmAbout::ok()
+{
+    m_form->press(u"cmdOK"_s);
+    QVERIFY(!m_form->isOpen());
+}
+
+ZEPHIRA_TEST(TstFrmAbout)
+#include "tst_frmabout.moc"

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/fakes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+QString keyOf(const QString &section, const QString &key)
+{
+    return section.toCaseFolded() + u'\n' + key.toCaseFolded();
+}
+
+} // namespace
+
+Result<void> FakeShell::open(const QString &pathOrUrl)
+{
+    opened.append(pathOrUrl);
+    return failure ? Result<void>(*failure) : Result<void>();
+}
+
+Result<void> FakeShell::start(const QString &program, const QStringList &arguments)
+{
+    started.push_back({program, arguments});
+    return failure ? Result<void>(*failure) : Result<void>();
+}
+
+void FakeFormOpener::open(const QString &form, QStringList &list)
+{
+    if (!isAvailable(form))
+        return;
+    list.append(form);
+    if (onOpen)
+        onOpen(form);
+}
+
+Result<QByteArray> MemoryFileStore::read(const QString &path) const
+{
+    if (const auto failing = unreadable.find(path); failing != unreadable.end())
+        return failing->second;
+    const auto entry = contents.find(path);
+    if (entry == contents.end())
+        return Error{Error::Code::NotFound, u"%1 doesn't exist."_s.arg(path)};
+    return entry->second;
+}
+
+Result<void> MemoryFileStore::write(const QString &path, std::span<const QByteArrayView> pieces, int)
+{
+    if (const auto failing = unwritable.find(path); failing != unwritable.end())
+        return failing->second;
+    QByteArray content;
+    for (const QByteArrayView piece : pieces)
+        content.append(piece);
+    contents[path] = content;
+    log.append(u"write "_s + path);
+    return {};
+}
+
+Result<void> MemoryFileStore::remove(const QString &path)
+{
+    if (const auto failing = unwritable.find(path); failing != unwritable.end())
+        return failing->second;
+    if (contents.erase(path) == 0)
+        return Error{Error::Code::NotFound, u"%1 doesn't exist."_s.arg(path)};
+    log.append(u"remove "_s + path);
+    return {};
+}
+
+bool MemoryFileStore::FileExists(const QString &path) const
+{
+    return contents.contains(path) && !unreadable.contains(path);
+}
+
+FileSignature MemoryFileStore::signature(const QString &path) const
+{
+    const auto entry = contents.find(path);
+    if (entry == contents.end())
+        return {};
+    // The content stands for the time of its writing, so that a test which changes `contents` itself is noticed too.
+    return {true, 1, 1, entry->second.size(), static_cast<qint64>(qHash(entry->second))};
+}
+
+QString MemoryConfiguration::value(const QString &section, const QString &key) const
+{
+    const auto entry = m_values.find(keyOf(section, key));
+    return entry == m_values.end() ? QString() : entry->second;
+}
+
+bool MemoryConfiguration::setValue(const QString &section, const QString &key, const QString &value)
+{
+    if (!writable)
+        return false;
+    put(section, key, value);
+    log.append(u"[%1] %2=%3"_s.arg(section, key, value));
+    return true;
+}
+
+void MemoryConfiguration::put(const QString &section, const QString &key, const QString &value)
+{
+    m_values[keyOf(section, key)] = value;
+}
+
+QString MemoryUserSettings::GetSetting(const QString &branch, const QString &section, const QString &key,
+                                       const QString &fallback) const
+{
+    const auto entry = values.find(branch + u'/' + section + u'/' + key);
+    return entry == values.end() ? fallback : entry->second;
+}
+
+void MemoryUserSettings::SaveSetting(const QString &branch, const QString &section, const QString &key,
+                                     const QString &value)
+{
+    values[branch + u'/' + section + u'/' + key] = value;
+}
+
+} // namespace zephira

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/goldencases.h"
+
+#include "support/fakes.h"
+#include "support/formkit.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        QTest::qFail(qPrintable(u"%1 can't be read"_s.arg(path)), "the golden cases", 0);
+    return file.readAll();
+}
+
+void play(const LivingForm &form, const QString &step)
+{
+    if (step.startsWith(u"press ")) {
+        form.press(step.mid(6));
+        return;
+    }
+    const qsizetype sign = step.indexOf(u" =");
+    if (sign < 0)
+        qFatal("\"%s\" is no step of a golden case", qPrintable(step));
+    form.set(step.left(sign), step.mid(sign + 3));
+}
+
+} // namespace
+
+void addGoldenCases(const QString &area)
+{
+    QTest::addColumn<QString>("folder");
+    const QDir folder(QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/golden/") + area);
+    const QStringList cases = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    QVERIFY2(!cases.isEmpty(), qPrintable(folder.path()));
+    for (const QString &name : cases)
+        QTest::newRow(qPrintable(name)) << folder.filePath(name);
+}
+
+void playGoldenCase(const FormCatalogue &catalogue, const QString &folder)
+{
+    const QStringList lines = QString::fromUtf8(contentOf(folder + u"/fields.txt"_s)).split(u'\n', Qt::SkipEmptyParts);
+    QVERIFY2(!lines.isEmpty() && lines.first().startsWith(u"form "), "the first line names the form");
+    TestContext world;
+    const LivingForm form(catalogue, lines.first().mid(5), world);
+    for (const QString &step : lines.sliced(1))
+        play(form, step);
+    QCOMPARE(world.inserter.inserted.join(QString()).toUtf8(), contentOf(folder + u"/expected.html"_s));
+}
+
+} // namespace zephira

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/formcatalogue.h"
+
+#include <QString>
+
+namespace zephira {
+
+/// A golden case is a folder tests/golden/<area>/<case> with two files. fields.txt says what the user does, one step a
+/// line, and expected.html holds the text that goes into the document, byte for byte:
+///
+///     form frmTable
+///     Text1 = 3
+///     Check1 = on
+///     press Command1
+///
+/// A value is what LivingForm::set() takes. If nothing is inserted, expected.html is empty.
+
+/// Adds the column "folder" and a row for each case of an area; fails the test if there is none.
+void addGoldenCases(const QString &area);
+
+/// Plays a case with a form from the catalogue and compares what it inserts.
+void playGoldenCase(const FormCatalogue &catalogue, const QString &folder);
+
+} // namespace zephira
