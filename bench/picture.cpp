@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// picture [--keys N] [--end] [--close] COMMAND...: starts a program on the present display and measures it from outside. Prints one
+// picture [--keys N] [--end] [--close] [--trace] COMMAND...: starts a program on the present display and measures it from outside. Prints one
 // JSON object; every time is in milliseconds unless the name says otherwise.
 //
 //   picture   from exec until the picture is complete and the processor is idle
@@ -10,6 +10,7 @@
 //   key_end_us, key_end_latency        with both: as above, at the end
 //
 // The program is killed at the end. With --close its window is closed before that, so that it leaves its settings behind.
+// With --trace it is told on stderr what is painted when, and how much processor time has been used by then.
 
 #include "processtree.h"
 #include "screen.h"
@@ -46,7 +47,7 @@ double milliseconds(Clock::duration duration)
 
 /// Waits until the program is at rest and returns since when it has been. With `mustPaint` it is not at rest before it
 /// has painted a good part of the screen.
-Clock::time_point restAfter(Clock::time_point start, Screen &screen, ProcessTree &program, bool mustPaint)
+Clock::time_point restAfter(Clock::time_point start, Screen &screen, ProcessTree &program, bool mustPaint, bool trace = false)
 {
     Clock::time_point since = start;
     Nanoseconds used = program.cpuTime();
@@ -56,6 +57,10 @@ Clock::time_point restAfter(Clock::time_point start, Screen &screen, ProcessTree
         const Nanoseconds usedNow = program.cpuTime();
         const Clock::time_point now = Clock::now();
         share += painted.share;
+        if (trace && (painted.anything || usedNow - used > allowance)) {
+            std::fprintf(stderr, "%7.1f ms, %7.1f ms used, painted %d,%d to %d,%d\n", milliseconds(now - start),
+                         milliseconds(usedNow), painted.left, painted.top, painted.right, painted.bottom);
+        }
         if (painted.anything || usedNow - used > allowance) {
             since = painted.anything ? painted.last : now;
             used = usedNow;
@@ -114,6 +119,7 @@ struct Options {
     int keys = 0;
     bool end = false;
     bool close = false;
+    bool trace = false;
 };
 
 void measure(const Options &options, const std::vector<std::string> &command)
@@ -125,7 +131,7 @@ void measure(const Options &options, const std::vector<std::string> &command)
 
     const Clock::time_point start = Clock::now();
     ProcessTree program(command);
-    const Clock::time_point complete = restAfter(start, screen, program, true);
+    const Clock::time_point complete = restAfter(start, screen, program, true, options.trace);
     std::string out = "{\"picture\": " + std::to_string(milliseconds(complete - start))
         + ", \"pss_kb\": " + std::to_string(program.pssKb());
     const auto addTyping = [&](const std::string &where) {
@@ -167,13 +173,15 @@ int main(int argc, char **argv)
             options.end = true;
         else if (*next == "--close")
             options.close = true;
+        else if (*next == "--trace")
+            options.trace = true;
         else if (*next == "--keys" && next + 1 != arguments.end())
             options.keys = std::atoi((++next)->c_str());
         else
             break;
     }
     if (next == arguments.end() || next->starts_with("--")) {
-        std::fputs("usage: picture [--keys N] [--end] [--close] COMMAND [ARGUMENT]...\n", stderr);
+        std::fputs("usage: picture [--keys N] [--end] [--close] [--trace] COMMAND [ARGUMENT]...\n", stderr);
         return 2;
     }
     try {

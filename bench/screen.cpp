@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screen.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -57,8 +58,13 @@ Painted Screen::look(Milliseconds atMost)
             if ((event->response_type & 0x7f) != m_damageNotify)
                 continue;
             const auto *notify = reinterpret_cast<const xcb_damage_notify_event_t *>(event.get());
+            const xcb_rectangle_t &area = notify->area;
+            painted.left = painted.anything ? std::min<int>(painted.left, area.x) : area.x;
+            painted.top = painted.anything ? std::min<int>(painted.top, area.y) : area.y;
+            painted.right = std::max(painted.right, area.x + area.width);
+            painted.bottom = std::max(painted.bottom, area.y + area.height);
             painted.anything = true;
-            painted.share += double(notify->area.width) * notify->area.height / m_area;
+            painted.share += double(area.width) * area.height / m_area;
         }
     };
     takeNote();

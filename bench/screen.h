@@ -18,6 +18,11 @@ struct Painted {
     Clock::time_point last{};
     /// Sum of the painted rectangles, as a share of the screen. Painting twice counts twice.
     double share = 0;
+    /// The smallest rectangle around it, in pixels.
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
 };
 
 /// The X display as the eye and the hand of a measurement: it tells when something is painted, without reading pixels

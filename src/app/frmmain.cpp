@@ -40,6 +40,7 @@ void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)
         const int index = bar.addTab(iconFor(tab.icon), tab.caption.toString());
         bar.setTabData(index, tab.key.toString());
         bar.setTabToolTip(index, tab.tip.toString());
+        bar.setAccessibleTabName(index, tab.tip.toString());
     }
     bar.updateGeometry(); // A bar that does not show yet keeps its new size to itself.
 }

@@ -4,7 +4,6 @@
 #include "app/program.h"
 
 #include <QApplication>
-#include <QImageReader>
 
 #include <cstdio>
 #include <cstdlib>
@@ -22,10 +21,8 @@ int main(int argc, char **argv)
         return EXIT_SUCCESS;
     }
 
-    // The editor paints without OpenGL; doing without its context makes the window come up sooner. Both belong together.
+    // The editor paints without OpenGL; doing without its context makes the window come up sooner.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
-    qputenv("QT_QUICK_BACKEND", "software");
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QCoreApplication::setApplicationName(u"zephira"_s);
     QCoreApplication::setApplicationVersion(QString::fromLatin1(ZEPHIRA_VERSION));
     QApplication application(argc, argv);

@@ -84,8 +84,10 @@ void StatusPanels::notice(const QString &sentence)
 
 void StatusPanels::showTime()
 {
+    // The panel is brought up to date each minute, so that seconds would only be wrong.
+    const QLocale locale = QLocale::system();
     const QDateTime now = m_clock.now();
-    setText(Time, QLocale::system().toString(now.time(), QLocale::ShortFormat));
+    setText(Time, locale.toString(now.time(), locale.timeFormat(QLocale::ShortFormat).remove(u":ss"_s)));
     m_minute.start((60 - now.time().second()) * 1000);
 }
 

@@ -11,17 +11,17 @@ std::span<const WindowTab> sideTabs()
 {
     static constexpr WindowTab tabs[] = {
         {u"fileman", u"File Manager", u"File Manager", u"folder-symbolic"},
-        {u"asp", u"ASP Codes / Tags", u"ASP Codes / Tags", u":ASP"},
-        {u"html", u"HTML Tags", u"HTML Tags", u":<>"},
-        {u"ihtml", u"IHTML Tags", u"IHTML Tags", u":iH"},
+        {u"asp", u"ASP Codes / Tags", u"ASP Codes / Tags", u"application-x-php"},
+        {u"html", u"HTML Tags", u"HTML Tags", u"text-html"},
+        {u"ihtml", u"IHTML Tags", u"IHTML Tags", u"text-xml"},
         {u"documenttree", u"Document Tree", u"Document Tree", u"view-list-tree"},
-        {u"scripts", u"Script Library", u"Script Library", u"text-x-script"},
-        {u"c1", u"", u"Custom tab 1", u":1"},
-        {u"c2", u"", u"Custom tab 2", u":2"},
-        {u"c3", u"", u"Custom tab 3", u":3"},
-        {u"c4", u"", u"Custom tab 4", u":4"},
-        {u"c5", u"", u"Custom tab 5", u":5"},
-        {u"c6", u"", u"Custom tab 6", u":6"},
+        {u"scripts", u"Script Library", u"Script Library", u"dialog-scripts"},
+        {u"c1", u"", u"Custom tab 1", u""},
+        {u"c2", u"", u"Custom tab 2", u""},
+        {u"c3", u"", u"Custom tab 3", u""},
+        {u"c4", u"", u"Custom tab 4", u""},
+        {u"c5", u"", u"Custom tab 5", u""},
+        {u"c6", u"", u"Custom tab 6", u""},
     };
     return tabs;
 }

@@ -43,7 +43,12 @@ void SideTabBar::paintEvent(QPaintEvent *)
         }
         QRect picture(0, 0, pictureSize, pictureSize);
         picture.moveCenter(cell.center());
-        tabIcon(i).paint(&painter, picture, Qt::AlignCenter, isTabEnabled(i) ? QIcon::Normal : QIcon::Disabled);
+        if (tabIcon(i).isNull()) {
+            painter.setPen(palette().color(isTabEnabled(i) ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+            painter.drawText(picture, Qt::AlignCenter, tabData(i).toString().toUpper());
+        } else {
+            tabIcon(i).paint(&painter, picture, Qt::AlignCenter, isTabEnabled(i) ? QIcon::Normal : QIcon::Disabled);
+        }
         if (selected && hasFocus()) {
             QStyleOptionFocusRect focus;
             focus.initFrom(this);

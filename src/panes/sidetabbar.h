@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// A strip of upright picture tabs along the left edge. A tab's caption is its text, which is not painted but read by
-/// assistive technology and shown as its tip.
+/// A strip of upright picture tabs along the left edge. A tab's caption is not painted but read by assistive technology and
+/// shown as its tip. A tab without a picture shows its key in capitals.
 class SideTabBar : public QTabBar
 {
     Q_OBJECT

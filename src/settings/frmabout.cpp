@@ -56,7 +56,7 @@ frmAbout::~frmAbout() = default;
 
 void frmAbout::addCredits()
 {
-    QWidget *before = m_ui->cmdOK;
+    QWidget *before = m_ui->picIcon;
     for (const Credit &credit : credits) {
         const QString sentence = credit.sentence.toString();
         const QString link = credit.link.toString();
@@ -72,6 +72,8 @@ void frmAbout::addCredits()
         before = label;
     }
     setTabOrder(before, m_ui->cmdSysInfo);
+    setTabOrder(m_ui->cmdSysInfo, m_ui->cmdOK);
+    m_ui->cmdOK->setFocus();
 }
 
 void frmAbout::openLink(const QString &address)

@@ -47,7 +47,11 @@ frmselprj::frmselprj(const AppContext &context, QWidget *owner)
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &frmselprj::reject);
 }
 
-frmselprj::~frmselprj() = default;
+frmselprj::~frmselprj()
+{
+    // A label that is still being edited ends its editing when the list goes, which is after our own members are gone.
+    m_ui->ListView2->itemDelegate()->disconnect(this);
+}
 
 void frmselprj::addTemplateButtons()
 {

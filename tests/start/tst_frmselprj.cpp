@@ -43,6 +43,7 @@ private Q_SLOTS:
     void customTemplateThatIsGone();
     void renaming();
     void renamingToTheOwnName();
+    void closingWhileALabelIsEdited();
 
 private:
     void open();
@@ -109,6 +110,7 @@ void TstFrmSelPrj::rename(const QString &row, const QString &name)
     QVERIFY(label);
     label->setText(name);
     QTest::keyClick(label, Qt::Key_Return);
+    QTRY_VERIFY(!list.isPersistentEditorOpen(item) && !list.viewport()->findChild<QLineEdit *>());
 }
 
 void TstFrmSelPrj::tabs()
@@ -328,6 +330,17 @@ void TstFrmSelPrj::renamingToTheOwnName()
     open();
     rename(u"letter.html"_s, u"letter.html"_s);
     QVERIFY(m_world->files.contents.empty());
+}
+
+void TstFrmSelPrj::closingWhileALabelIsEdited()
+{
+    addCustom(u"letter.html"_s);
+    open();
+    m_form->get<QTabWidget>(u"SSTab1"_s).setCurrentIndex(5);
+    auto &list = m_form->get<QListWidget>(u"ListView2"_s);
+    list.editItem(list.item(0));
+    m_form.reset();
+    QVERIFY(m_world->files.log.isEmpty());
 }
 
 ZEPHIRA_TEST(TstFrmSelPrj)

@@ -28,8 +28,7 @@ qsizetype packedFold(const FoldLine &line, int nextLevel)
     int level = Sci::SC_FOLDLEVELBASE + std::min(line.level, deepestDrawnLevel);
     if (line.header)
         level |= Sci::SC_FOLDLEVELHEADERFLAG;
-    if (line.blank)
-        level |= Sci::SC_FOLDLEVELWHITEFLAG;
+    // Blank lines aren't marked as such: the engine would draw a block's end below those that follow it.
     return level | std::min(nextLevel, deepestLevel) << nextLevelShift;
 }
 

@@ -36,7 +36,8 @@ public:
     bool startsWith(Byte byte) const { return m_first[byte].count != 0; }
     /// Whether one-byte operators are all that begins with this byte.
     bool isPlainOperator(Byte byte) const;
-    /// The longest symbol at `p`, or nullptr. One that ends in a letter isn't found inside a word.
+    /// The longest symbol at `p`, or nullptr. One that ends in a letter isn't found inside a word,
+    /// unless it begins a string, whose text follows at once.
     const Symbol *find(const Byte *p, const Byte *end) const;
     const std::vector<Symbol> &symbols() const { return m_symbols; }
 

@@ -3,6 +3,7 @@
 
 #include "controls/syntax/foldlevels.h"
 #include "controls/syntax/languagedefinition.h"
+#include "controls/syntax/syntaxstyle.h"
 
 #include <QByteArrayView>
 

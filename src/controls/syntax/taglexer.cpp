@@ -83,7 +83,7 @@ quint32 TagLexer::paintLine(const StyleCanvas &canvas, const LineBytes &line, qu
     Walk walk{canvas, line, TagState::unpacked(bits)};
     TagState &state = walk.state;
     if (!m_embedded) {
-        state.server = Code::None;
+        state.server = state.code = Code::None;
         if (state.mode == Mode::Block)
             state.enter(Mode::Text);
     }

@@ -74,7 +74,7 @@ void TstCommandTables::shortcutsAreUnique()
     const QStringList shortcuts = menuNamesAndShortcuts().second;
     const QSet<QString> unique(shortcuts.begin(), shortcuts.end());
     QCOMPARE(unique.size(), shortcuts.size());
-    QCOMPARE(shortcuts.size(), 26);
+    QCOMPARE(shortcuts.size(), 25);
 }
 
 void TstCommandTables::paletteButtons()
