@@ -79,5 +79,3 @@ BENCHMARK(zephiraEngine)->Unit(benchmark::kMillisecond);
 BENCHMARK(scintillaLexer)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-BENCHMARK_MAIN();
