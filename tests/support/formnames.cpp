@@ -47,7 +47,8 @@ QString captionOf(const QObject &object)
 bool isOurs(const QObject &object)
 {
     const QString name = object.objectName();
-    return !name.isEmpty() && !name.startsWith(u"qt_") && !name.startsWith(u"_q_");
+    const bool isPart = qobject_cast<const QTabBar *>(object.parent()) || name.startsWith(u"qt_") || name.startsWith(u"_q_");
+    return !name.isEmpty() && !isPart;
 }
 
 /// The form and every widget below it, each once, as the focus chain has them; those of windows of their own last.

@@ -73,7 +73,6 @@ void TstPictureFile::failures_data()
     QTest::newRow("above 100 megapixels")
         << claiming(10001, 10000)
         << u"The picture /p.bmp has 10001 x 10000 pixels. Pictures above 100 megapixels aren't shown."_s;
-    QTest::newRow("pixels are missing") << claiming(2000, 2000) << u"The picture /p.bmp can't be shown: Unable to read image data."_s;
 }
 
 void TstPictureFile::failures()
