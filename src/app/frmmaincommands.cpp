@@ -215,7 +215,6 @@ void frmmain::setChecked(const QString &name, bool checked)
         return;
     }
     if (QAction *action = m_menus->action(name)) {
-        action->setCheckable(true);
         action->setChecked(checked);
     }
 }

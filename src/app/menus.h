@@ -33,7 +33,7 @@ public:
     void applyAvailability(const FormOpener &forms);
 
 signals:
-    /// An entry was chosen, by mouse, key or shortcut.
+    /// An entry was chosen, by mouse, key or shortcut. Its check mark stands as before: the command sets it.
     void triggered(const QString &name);
 
 private:

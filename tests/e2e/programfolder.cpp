@@ -43,12 +43,21 @@ ProgramFolder::ProgramFolder()
 
 QString ProgramFolder::write(const QString &name, const QByteArray &content) const
 {
-    const QString path = m_folder.path() + u'/' + name;
+    const QString path = place(name);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("can't write %s", qPrintable(path));
     return path;
+}
+
+QStringList ProgramFolder::recoveryCopies() const
+{
+    const QDir folder(home() + u"/.config/Zephira/recovery"_s);
+    QStringList paths;
+    for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden, QDir::Name))
+        paths.append(folder.filePath(name));
+    return paths;
 }
 
 QByteArray ProgramFolder::read(const QString &path)

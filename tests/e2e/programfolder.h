@@ -17,6 +17,13 @@ public:
     QString ini() const { return path() + QStringLiteral("/zephira.ini"); }
     QString home() const { return m_folder.path() + QStringLiteral("/home"); }
 
+    /// A folder that the program looks for commands in before all others.
+    QString tools() const { return m_folder.path() + QStringLiteral("/tools"); }
+    /// The recovery copies that are there, by their full paths.
+    QStringList recoveryCopies() const;
+
+    /// The full path of a file below the temporary place.
+    QString place(const QString &name) const { return m_folder.path() + QLatin1Char('/') + name; }
     /// Writes a file below the temporary place and gives its full path.
     QString write(const QString &name, const QByteArray &content) const;
     static QByteArray read(const QString &path);

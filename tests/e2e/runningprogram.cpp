@@ -4,6 +4,8 @@
 #include <QElapsedTimer>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -13,32 +15,66 @@ namespace {
 constexpr int patience = 20000;
 constexpr int step = 50;
 
-QByteArray xdotool(const QStringList &arguments)
+constexpr int keyDelay = 40;
+
+QByteArray outputOf(const QString &command, const QStringList &arguments)
 {
     QProcess tool;
-    tool.start(u"xdotool"_s, arguments);
+    tool.start(command, arguments);
     tool.waitForFinished(patience);
     return tool.readAllStandardOutput().trimmed();
 }
 
+QByteArray xdotool(const QStringList &arguments)
+{
+    return outputOf(u"xdotool"_s, arguments);
+}
+
+template<typename Condition>
+bool waitFor(Condition condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > patience)
+            return false;
+        QTest::qWait(step);
+    }
+    return true;
+}
+
 } // namespace
 
-RunningProgram::RunningProgram(const ProgramFolder &folder, const QStringList &arguments)
+RunningProgram::RunningProgram(const ProgramFolder &folder, const QStringList &arguments, const QStringList &wrapper)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, folder.home());
     environment.insert(u"XDG_CONFIG_HOME"_s, folder.home() + u"/.config"_s);
     environment.insert(u"XDG_DATA_HOME"_s, folder.home() + u"/.local/share"_s);
     environment.insert(u"XDG_CACHE_HOME"_s, folder.home() + u"/.cache"_s);
+    environment.insert(u"PATH"_s, folder.tools() + u':' + environment.value(u"PATH"_s));
     m_process.setProcessEnvironment(environment);
-    m_process.start(folder.executable(), arguments);
+    QStringList command = wrapper + QStringList(folder.executable()) + arguments;
+    const QString first = command.takeFirst();
+    m_process.start(first, command);
     QVERIFY2(m_process.waitForStarted(patience), qPrintable(m_process.errorString()));
 }
 
 RunningProgram::~RunningProgram()
 {
-    m_process.kill();
-    m_process.waitForFinished(patience);
+    kill();
+}
+
+QStringList RunningProgram::boundByPermissions()
+{
+    if (geteuid() != 0)
+        return {};
+    return {u"setpriv"_s, u"--bounding-set=-dac_override,-dac_read_search"_s};
+}
+
+QStringList RunningProgram::withoutSizeSignal()
+{
+    return {u"env"_s, u"--ignore-signal=XFSZ"_s};
 }
 
 QStringList RunningProgram::windows() const
@@ -71,6 +107,16 @@ QStringList RunningProgram::waitForWindows(const QStringList &titles) const
     return seen;
 }
 
+bool RunningProgram::waitForWindow(const QString &title) const
+{
+    return waitFor([&] { return !windowId(title).isEmpty(); });
+}
+
+bool RunningProgram::waitUntilGone(const QString &title) const
+{
+    return waitFor([&] { return windowId(title).isEmpty(); });
+}
+
 QString RunningProgram::windowId(const QString &title) const
 {
     const QByteArray ids = xdotool({u"search"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
@@ -85,15 +131,39 @@ QString RunningProgram::windowId(const QString &title) const
 void RunningProgram::key(const QString &title, const QString &keys) const
 {
     const QString id = windowId(title);
-    QVERIFY2(!id.isEmpty(), qPrintable(title));
-    xdotool({u"windowactivate"_s, u"--sync"_s, id, u"key"_s, u"--clearmodifiers"_s, keys});
+    QVERIFY2(!id.isEmpty(), qPrintable(title + u" doesn't show, but "_s + windows().join(u", "_s)));
+    xdotool(QStringList{u"windowactivate"_s, u"--sync"_s, id, u"key"_s, u"--clearmodifiers"_s, u"--delay"_s,
+                        QString::number(keyDelay)}
+            + keys.split(u' '));
+}
+
+std::unique_ptr<QProcess> RunningProgram::keyInBackground(const QString &title, const QString &keys, int times) const
+{
+    QStringList command{u"key"_s, u"--window"_s, windowId(title), u"--delay"_s, u"1"_s};
+    for (int i = 0; i < times; ++i)
+        command += keys.split(u' ');
+    auto tool = std::make_unique<QProcess>();
+    tool->start(u"xdotool"_s, command);
+    return tool;
 }
 
 void RunningProgram::type(const QString &title, const QString &text) const
 {
     const QString id = windowId(title);
-    QVERIFY2(!id.isEmpty(), qPrintable(title));
-    xdotool({u"windowactivate"_s, u"--sync"_s, id, u"type"_s, u"--delay"_s, u"5"_s, text});
+    QVERIFY2(!id.isEmpty(), qPrintable(title + u" doesn't show, but "_s + windows().join(u", "_s)));
+    xdotool({u"windowactivate"_s, u"--sync"_s, id, u"type"_s, u"--delay"_s, u"5"_s, u"--"_s, text});
+}
+
+void RunningProgram::answer(const QString &dialog, const QString &keys) const
+{
+    waitForWindow(dialog);
+    key(dialog, keys);
+}
+
+void RunningProgram::fillIn(const QString &dialog, const QString &text) const
+{
+    waitForWindow(dialog);
+    type(dialog, text + u'\n');
 }
 
 void RunningProgram::close(const QString &title) const
@@ -101,11 +171,22 @@ void RunningProgram::close(const QString &title) const
     key(title, u"alt+F4"_s); // The window manager turns it into a close request.
 }
 
+void RunningProgram::limitFileSize(qint64 bytes) const
+{
+    QCOMPARE(QProcess::execute(u"prlimit"_s, {u"--pid"_s, QString::number(pid()), u"--fsize=%1"_s.arg(bytes)}), 0);
+}
+
 int RunningProgram::waitForEnd()
 {
     if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(patience))
         return -1;
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}
+
+void RunningProgram::kill()
+{
+    m_process.kill();
+    m_process.waitForFinished(patience);
 }
 
 } // namespace zephira

@@ -6,6 +6,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QLabel>
+#include <QTabBar>
 #include <QWidget>
 #include <QXmlStreamReader>
 

@@ -6,7 +6,6 @@
 #include "support/testregistry.h"
 
 #include <QAction>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QSignalSpy>

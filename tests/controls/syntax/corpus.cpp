@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "corpus.h"
 
-#include <QStringList>
-
 #include <iterator>
 
 using namespace Qt::StringLiterals;

@@ -2,9 +2,10 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 #include <random>
+#include <vector>
 
 namespace zephira {
 

@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/files/configuration.h"
+#include "e2e/programfolder.h"
+#include "e2e/runningprogram.h"
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#include <sys/stat.h>
+
+#include <array>
+
+using namespace zephira;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString untitled = u"Zephira - [New Document]"_s;
+const QString openDialog = u"Open a document..."_s;
+const QString modified = u"Document Modified."_s;
+const QString message = u"Zephira"_s;
+constexpr int patience = 20000;
+constexpr int recoveryPatience = 15000;
+
+mode_t modeOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+} // namespace
+
+/// What a careless world hands to the program: names that lead nowhere, bytes that are no text, settings that someone
+/// edited by hand, a process that is killed.
+class TstBadInput : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// A file that can't be read, given at the start: the window comes up, empty and unmodified, and nothing is written.
+    void fileAtTheStart_data()
+    {
+        QTest::addColumn<QString>("trouble");
+        QTest::addColumn<bool>("named"); // The window bears the file's name.
+        QTest::addColumn<bool>("told"); // A message says why.
+        QTest::newRow("a folder") << u"folder"_s << true << false;
+        QTest::newRow("a dangling link") << u"dangling"_s << false << false;
+        QTest::newRow("a circle of links") << u"circle"_s << false << false;
+        QTest::newRow("a pipe") << u"pipe"_s << true << false;
+        QTest::newRow("not for this user") << u"secret"_s << true << false;
+        QTest::newRow("300 MB") << u"huge"_s << true << true;
+    }
+
+    void fileAtTheStart()
+    {
+        QFETCH(QString, trouble);
+        QFETCH(bool, named);
+        QFETCH(bool, told);
+        ProgramFolder folder;
+        const QString path = make(folder, trouble);
+        const QString caption = named ? RunningProgram::captionOf(path) : untitled;
+        RunningProgram program(folder, {path}, RunningProgram::boundByPermissions());
+        if (told) {
+            program.answer(message, u"Return"_s);
+            QVERIFY(program.waitUntilGone(message));
+        }
+        QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
+        program.close(caption);
+        QCOMPARE(program.waitForEnd(), 0);
+    }
+
+    /// The same through the open dialog: what was open before is kept by its file.
+    void fileInTheDialog_data()
+    {
+        QTest::addColumn<QString>("trouble");
+        for (const char *trouble : {"pipe", "secret", "huge"})
+            QTest::newRow(trouble) << QString::fromLatin1(trouble);
+    }
+
+    void fileInTheDialog()
+    {
+        QFETCH(QString, trouble);
+        ProgramFolder folder;
+        const QString good = folder.write(u"good.txt"_s, "good");
+        const QString path = make(folder, trouble);
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {good}, RunningProgram::boundByPermissions());
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(good)));
+        program.key(RunningProgram::captionOf(good), u"ctrl+o"_s);
+        program.fillIn(openDialog, path);
+        if (trouble == u"huge"_s)
+            program.answer(message, u"Return"_s);
+        QVERIFY(program.waitForWindow(caption));
+        QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
+        QCOMPARE(ProgramFolder::read(good), "good");
+        QVERIFY(program.isRunning());
+    }
+
+    void everyByteComesBack_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::newRow("NULs") << QByteArray("\0a\0\0b\0", 6);
+        QTest::newRow("not UTF-8") << QByteArray("\xC3\x28 \xE9\x81\x8D\xFF\xFE\n");
+        QTest::newRow("half a UTF-16 character") << QByteArray("\xFF\xFE" "a\0b", 5);
+        QTest::newRow("a lone surrogate in UTF-16") << QByteArray("\xFE\xFF\xD8\x00\x00x", 6);
+        QTest::newRow("control characters") << QByteArray("\x01\x1B[31m\x7F\x0C\x0B\n");
+        QByteArray all(256 * 256, Qt::Uninitialized);
+        for (int i = 0; i < all.size(); ++i)
+            all[i] = static_cast<char>((i * 167 + i / 256) & 0xFF);
+        QTest::newRow("all pairs of bytes") << all;
+        QTest::newRow("a line of a megabyte") << QByteArray(1 << 20, 'x');
+    }
+
+    void everyByteComesBack()
+    {
+        QFETCH(QByteArray, before);
+        ProgramFolder folder;
+        const QString path = folder.write(u"data.bin"_s, before);
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        // A change that is taken back makes the save a real one, as the file's time tells.
+        QVERIFY(QFile::remove(path));
+        program.key(caption, u"ctrl+Home x BackSpace ctrl+s"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path), patience);
+        QVERIFY(ProgramFolder::read(path) == before);
+    }
+
+    void settingsThatSomeoneEdited_data()
+    {
+        QTest::addColumn<QByteArray>("added");
+        QTest::addColumn<bool>("inFront");
+        QTest::newRow("the first match counts") << QByteArray("[OPTIONS]\nHighLight = \"1\"\nlinenumber=1\nleftmargin=1\n"
+                                                              "whitespace=0\nselbounds=0\nhighlight=nonsense\n") << true;
+        QTest::newRow("a section again") << QByteArray("\n[options]\nhighlight=nonsense\n[Colors]\nclr0bg=blue\n") << false;
+        QTest::newRow("lines without a meaning") << QByteArray("[\n]\n=\n==\n[]\n=5\n;\n]x[\n\0\xFF\n", 30) << true;
+        QTest::newRow("a very long line") << QByteArray("[" + QByteArray(200000, 'x') + "]\n" + QByteArray(200000, 'y') + "="
+                                                        + QByteArray(2000000, 'z') + "\n") << true;
+        QTest::newRow("empty values elsewhere") << QByteArray("[new]\na=\nb=\"\"\nc=''\n") << false;
+        QTest::newRow("a byte order mark") << QByteArray("\xEF\xBB\xBF") << true;
+    }
+
+    void settingsThatSomeoneEdited()
+    {
+        QFETCH(QByteArray, added);
+        QFETCH(bool, inFront);
+        ProgramFolder folder;
+        const QByteArray shipped = ProgramFolder::read(folder.ini());
+        const QByteArray edited = inFront ? added + shipped : shipped + added;
+        folder.write(u"zephira/zephira.ini"_s, edited);
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        // Writing finds the same line as reading, and leaves all others as they are.
+        program.key(untitled, u"ctrl+h"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ReadIni(u"options"_s, u"highlight"_s, folder.ini()), u"0"_s, patience);
+        const QByteArray now = ProgramFolder::read(folder.ini());
+        QCOMPARE(now.size(), edited.size());
+        int differences = 0;
+        for (qsizetype i = 0; i < now.size(); ++i)
+            differences += now[i] != edited[i];
+        QCOMPARE(differences, 1);
+    }
+
+    void settingsThatCannotBeWritten()
+    {
+        ProgramFolder folder;
+        const QByteArray before = ProgramFolder::read(folder.ini());
+        QVERIFY(QFile::setPermissions(folder.ini(), QFile::ReadOwner));
+        RunningProgram program(folder, {u"/nodialog"_s}, RunningProgram::boundByPermissions());
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"ctrl+h"_s);
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled}); // No word about it.
+        program.key(untitled, u"ctrl+h"_s);
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(ProgramFolder::read(folder.ini()), before);
+    }
+
+    void twoProcessesWriteTheSettingsAtOnce()
+    {
+        ProgramFolder folder;
+        const QByteArray before = ProgramFolder::read(folder.ini());
+        RunningProgram first(folder, {u"/nodialog"_s});
+        RunningProgram second(folder, {u"/nodialog"_s});
+        QVERIFY(first.waitForWindow(untitled));
+        QVERIFY(second.waitForWindow(untitled));
+        constexpr int even = 60; // Each ends as it began.
+        const auto keysToFirst = first.keyInBackground(untitled, u"ctrl+h"_s, even);
+        const auto keysToSecond = second.keyInBackground(untitled, u"ctrl+h"_s, even);
+        for (QProcess *keys : {keysToFirst.get(), keysToSecond.get()}) {
+            QVERIFY(keys->waitForFinished(patience));
+            QCOMPARE(keys->exitCode(), 0);
+        }
+        // A last change by each: it shows that the keys have arrived, and that both still find their way.
+        for (RunningProgram *program : {&first, &second}) {
+            program->key(untitled, u"ctrl+h"_s);
+            QTRY_COMPARE_WITH_TIMEOUT(ReadIni(u"options"_s, u"highlight"_s, folder.ini()), u"0"_s, patience);
+            program->key(untitled, u"ctrl+h"_s);
+            QTRY_COMPARE_WITH_TIMEOUT(ReadIni(u"options"_s, u"highlight"_s, folder.ini()), u"1"_s, patience);
+        }
+        QCOMPARE(ProgramFolder::read(folder.ini()), before);
+        QCOMPARE(QDir(folder.path()).entryList({u".zephira-*"_s}, QDir::Files | QDir::Hidden), QStringList());
+    }
+
+    /// Four processes at once, so that the time until the copy is waited for once.
+    void recoveryCopies()
+    {
+        struct Session {
+            ProgramFolder folder;
+            QString path = folder.write(u"page.txt"_s, "text");
+            QString caption = RunningProgram::captionOf(path);
+            RunningProgram program{folder, {path}};
+        };
+        std::array<Session, 4> sessions;
+        for (const Session &session : sessions) {
+            QVERIFY(session.program.waitForWindow(session.caption));
+            session.program.type(session.caption, u"unsaved "_s);
+        }
+        for (const Session &session : sessions) {
+            QTRY_COMPARE_WITH_TIMEOUT(session.folder.recoveryCopies().size(), 1, recoveryPatience);
+            const QString copy = session.folder.recoveryCopies().first();
+            QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(copy), "unsaved text", patience);
+            QCOMPARE(modeOf(copy), mode_t(0600));
+            QCOMPARE(modeOf(QFileInfo(copy).path()), mode_t(0700));
+        }
+        auto &[killed, saved, closed, left] = sessions;
+
+        killed.program.kill();
+        QCOMPARE(killed.folder.recoveryCopies().size(), 1);
+        QCOMPARE(ProgramFolder::read(killed.folder.recoveryCopies().first()), "unsaved text");
+        QCOMPARE(ProgramFolder::read(killed.path), "text");
+
+        saved.program.key(saved.caption, u"ctrl+s"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(saved.path), "unsaved text", patience);
+        QTRY_COMPARE_WITH_TIMEOUT(saved.folder.recoveryCopies(), QStringList(), patience);
+
+        closed.program.close(closed.caption);
+        closed.program.answer(modified, u"alt+n"_s);
+        QCOMPARE(closed.program.waitForEnd(), 0);
+        QCOMPARE(closed.folder.recoveryCopies(), QStringList());
+
+        left.program.key(left.caption, u"alt+f e"_s);
+        QCOMPARE(left.program.waitForEnd(), 0);
+        QCOMPARE(left.folder.recoveryCopies(), QStringList());
+        QCOMPARE(ProgramFolder::read(left.path), "text");
+    }
+
+    /// The copy of a killed process is the user's to find: a later start leaves it alone and asks nothing.
+    void aCopyOutlivesTheNextStart()
+    {
+        ProgramFolder folder;
+        const QString copy = folder.write(u"home/.config/Zephira/recovery/open-20200101-000000-000-1-page.txt"_s, "lost");
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(ProgramFolder::read(copy), "lost");
+    }
+
+private:
+    /// Makes something that can't be opened as a document, and gives its path.
+    static QString make(const ProgramFolder &folder, const QString &trouble)
+    {
+        const QString path = folder.place(trouble + u".txt"_s);
+        const QByteArray name = QFile::encodeName(path);
+        if (trouble == u"folder"_s) {
+            QDir().mkdir(path);
+        } else if (trouble == u"dangling"_s) {
+            QFile::link(folder.place(u"nowhere"_s), path);
+        } else if (trouble == u"circle"_s) {
+            QFile::link(folder.place(u"other"_s), path);
+            QFile::link(path, folder.place(u"other"_s));
+        } else if (trouble == u"pipe"_s) {
+            ::mkfifo(name.constData(), 0600);
+        } else if (trouble == u"secret"_s) {
+            folder.write(trouble + u".txt"_s, "secret");
+            QFile::setPermissions(path, QFile::Permissions());
+        } else {
+            QFile file(path);
+            if (!file.open(QIODevice::WriteOnly) || !file.resize(300'000'000)) // Sparse: it takes no room.
+                qFatal("can't make %s", name.constData());
+        }
+        return path;
+    }
+};
+
+ZEPHIRA_TEST(TstBadInput)
+#include "tst_badinput.moc"

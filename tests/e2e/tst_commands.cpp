@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/files/configuration.h"
+#include "e2e/programfolder.h"
+#include "e2e/runningprogram.h"
+#include "support/testregistry.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QTest>
+#include <QUrl>
+
+#include <csignal>
+
+using namespace zephira;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString untitled = u"Zephira - [New Document]"_s;
+constexpr int patience = 20000;
+
+/// A process that the program started. It is ended together with the test, not with the program.
+class StartedProcess
+{
+public:
+    StartedProcess() = default;
+    StartedProcess(const StartedProcess &) = delete;
+    ~StartedProcess()
+    {
+        if (m_pid > 0)
+            ::kill(m_pid, SIGKILL);
+    }
+
+    /// Waits for a process of the same executable beside the known one.
+    bool waitFor(const ProgramFolder &folder, qint64 known)
+    {
+        return QTest::qWaitFor([&] { return find(folder.executable(), known); }, patience);
+    }
+    /// Waits until it shows a window of that title and gives the window's state as the window manager tells it.
+    QByteArray windowState(const QString &title) const
+    {
+        QByteArray window;
+        const bool there = QTest::qWaitFor([&] {
+            window = outputOf(u"xdotool"_s, {u"search"_s, u"--all"_s, u"--pid"_s, QString::number(m_pid), u"--name"_s,
+                                             u'^' + QRegularExpression::escape(title) + u'$'});
+            return !window.isEmpty();
+        }, patience);
+        return there ? outputOf(u"xprop"_s, {u"-id"_s, QString::fromLatin1(window), u"WM_STATE"_s}) : QByteArray();
+    }
+
+private:
+    bool find(const QString &executable, qint64 known)
+    {
+        for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+            const int pid = entry.toInt();
+            if (pid > 0 && pid != known && QFile::symLinkTarget(u"/proc/"_s + entry + u"/exe"_s) == executable)
+                m_pid = pid;
+        }
+        return m_pid > 0;
+    }
+
+    static QByteArray outputOf(const QString &command, const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(command, arguments);
+        process.waitForFinished();
+        return process.readAllStandardOutput().trimmed();
+    }
+
+    int m_pid = 0;
+};
+
+} // namespace
+
+/// Commands as they are given in the real window, by keys alone.
+class TstCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// Keys in the code view of a document, and the file that a save then writes.
+    void keys_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QByteArray>("after");
+        const auto row = [](const char *title, const char *name, const char *before, const char *keys, const char *after) {
+            QTest::newRow(title) << QString::fromLatin1(name) << QByteArray(before) << QString::fromLatin1(keys)
+                                 << QByteArray(after);
+        };
+        row("copy and paste", "a.txt", "ab\n", "ctrl+a ctrl+c ctrl+End ctrl+v", "ab\nab\n");
+        row("cut and paste", "a.txt", "ab", "shift+Right ctrl+x ctrl+End ctrl+v", "ba");
+        row("paste over a selection", "a.txt", "ab", "shift+Right ctrl+c ctrl+a ctrl+v ctrl+v", "aa");
+        row("delete a selection", "a.txt", "abc", "shift+Right shift+Right Delete", "c");
+        row("delete a character", "a.txt", "abc", "Delete Delete", "c");
+        row("undo", "a.txt", "abc", "x ctrl+a Delete ctrl+z", "xabc");
+        row("undo and redo", "a.txt", "abc", "ctrl+a Delete x ctrl+z ctrl+z ctrl+y", "");
+        row("start tag keeps the selection in front", "a.html", "ab", "shift+Right shift+Delete", "a<>b");
+        row("no tags in a text", "a.txt", "ab", "shift+Right shift+Delete", "ab");
+        row("the web viewer's key selects nothing", "a.txt", "word", "ctrl+w Escape x", "xword");
+        row("through the views and back", "a.txt", "b", "F8 F8 F8 a", "ab");
+        row("highlighting changes no text", "a.txt", "b", "ctrl+h a ctrl+h a", "aab");
+    }
+
+    void keys()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, before);
+        QFETCH(QString, keys);
+        QFETCH(QByteArray, after);
+        ProgramFolder folder;
+        const QString path = folder.write(name, before);
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        program.key(caption, keys + u" ctrl+s"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), after, patience);
+        // The save is the last word: what the disk held in between doesn't count, nor does a change behind it.
+        QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
+        program.close(caption);
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(ProgramFolder::read(path), after);
+    }
+
+    void timeAndDate()
+    {
+        ProgramFolder folder;
+        const QString path = folder.write(u"a.txt"_s, "now: ");
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        const QByteArray before = stamp();
+        program.key(caption, u"ctrl+a F5 ctrl+s"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(path).size() > 5, patience);
+        const QByteArray written = ProgramFolder::read(path);
+        QVERIFY2(written == "now: " + before || written == "now: " + stamp(), written.constData());
+    }
+
+    void findAndFindNext()
+    {
+        ProgramFolder folder;
+        const QString path = folder.write(u"a.txt"_s, "one two one two one\n");
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        program.key(caption, u"ctrl+f"_s);
+        QVERIFY(program.waitForWindow(u"Find"_s));
+        program.type(u"Find"_s, u"two\n"_s);
+        program.key(u"Find"_s, u"Escape"_s);
+        QVERIFY(program.waitUntilGone(u"Find"_s));
+        program.key(caption, u"F3 x ctrl+s"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "one two one x one\n", patience);
+    }
+
+    void replaceAll()
+    {
+        ProgramFolder folder;
+        const QString path = folder.write(u"a.txt"_s, "one two one\n");
+        const QString caption = RunningProgram::captionOf(path);
+        const QString dialog = u"Find and Replace"_s;
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        program.key(caption, u"ctrl+r"_s);
+        QVERIFY(program.waitForWindow(dialog));
+        program.type(dialog, u"one\t1"_s);
+        program.key(dialog, u"alt+l Escape"_s);
+        QVERIFY(program.waitUntilGone(dialog));
+        program.key(caption, u"ctrl+s"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "1 two 1\n", patience);
+    }
+
+    void goToALine()
+    {
+        ProgramFolder folder;
+        const QString path = folder.write(u"a.txt"_s, "a\nb\nc\n");
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        program.key(caption, u"ctrl+g"_s);
+        program.fillIn(u"Go To Line"_s, u"3"_s);
+        QVERIFY(program.waitUntilGone(u"Go To Line"_s));
+        program.key(caption, u"x ctrl+s"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "a\nb\nxc\n", patience);
+    }
+
+    void highlightingIsRemembered()
+    {
+        ProgramFolder folder;
+        folder.setIni(u"options"_s, u"highlight"_s, u"1"_s);
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"ctrl+h"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(highlight(folder), u"0"_s, patience);
+        program.key(untitled, u"ctrl+h"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(highlight(folder), u"1"_s, patience);
+    }
+
+    void theFontDialogIsGivenUp()
+    {
+        ProgramFolder folder;
+        const QByteArray ini = ProgramFolder::read(folder.ini());
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"F7"_s);
+        program.answer(u"Select Font"_s, u"Escape"_s);
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        QCOMPARE(ProgramFolder::read(folder.ini()), ini);
+    }
+
+    void theChosenFontIsRemembered()
+    {
+        ProgramFolder folder;
+        folder.setIni(u"font"_s, u"size"_s, u"11"_s);
+        folder.setIni(u"font"_s, u"bold"_s, u"no"_s); // Not one of the two words; the dialog's answer is.
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"F7"_s);
+        program.answer(u"Select Font"_s, u"Return"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ReadIni(u"Font"_s, u"Bold"_s, folder.ini()), u"False"_s, patience);
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        QCOMPARE(ReadIni(u"Font"_s, u"Size"_s, folder.ini()), u"11"_s);
+    }
+
+    void aSecondWindowIsASecondProcess()
+    {
+        ProgramFolder folder;
+        folder.setTips(true); // Neither tip nor start dialog shows in it.
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.type(untitled, u"text of the first"_s);
+        program.key(untitled, u"F12"_s);
+        StartedProcess second;
+        QVERIFY(second.waitFor(folder, program.pid()));
+        const QByteArray state = second.windowState(untitled);
+        QVERIFY2(state.contains("window state:"), state.constData());
+        QVERIFY(program.isRunning());
+    }
+
+    void helpIsShownByTheDesktop()
+    {
+        ProgramFolder folder;
+        const QString told = folder.place(u"told"_s);
+        const QString opener = folder.write(u"tools/xdg-open"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"" + told.toUtf8() + "\"\n");
+        QVERIFY(QFile::setPermissions(opener, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"F1"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(told).endsWith('\n'), patience);
+        const QString shown = QUrl(QString::fromUtf8(ProgramFolder::read(told).trimmed())).path();
+        QCOMPARE(shown, folder.path() + u"/help/index.html"_s);
+        QVERIFY(QFile::exists(shown));
+    }
+
+    void aboutShows()
+    {
+        ProgramFolder folder;
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"F6"_s);
+        program.answer(u"About Zephira"_s, u"Escape"_s);
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        QVERIFY(program.isRunning());
+    }
+
+    void theReadMeFileShowsBesideTheDocument()
+    {
+        ProgramFolder folder;
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"alt+h r"_s);
+        QVERIFY(program.waitForWindow(u"QuickView"_s));
+        program.type(untitled, u"x"_s); // It isn't modal.
+        program.close(untitled);
+        program.answer(u"Document Modified."_s, u"alt+n"_s);
+        QCOMPARE(program.waitForEnd(), 0);
+    }
+
+    void theTableWizardWritesIntoTheDocument()
+    {
+        ProgramFolder folder;
+        const QString path = folder.write(u"a.html"_s, "");
+        const QString caption = RunningProgram::captionOf(path);
+        const QString wizard = u"Table Wizard ..."_s;
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        program.key(caption, u"alt+t Up Up Up Up Up Return"_s);
+        QVERIFY(program.waitForWindow(wizard));
+        program.key(wizard, u"alt+c"_s);
+        QVERIFY(program.waitUntilGone(wizard));
+        program.key(caption, u"ctrl+s"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path),
+                                  "<TABLE Align=\"center\" Border=\"0\">\r\n<TR>\r\n<TD> </TD>\r\n\t</TR></TABLE>\r\n",
+                                  patience);
+    }
+
+private:
+    static QString highlight(const ProgramFolder &folder)
+    {
+        return ReadIni(u"options"_s, u"highlight"_s, folder.ini());
+    }
+
+    static QByteArray stamp()
+    {
+        const QDateTime now = QDateTime::currentDateTime();
+        const QLocale system = QLocale::system();
+        return (system.toString(now.time(), QLocale::ShortFormat) + u' '
+                + system.toString(now.date(), QLocale::ShortFormat)).toUtf8();
+    }
+};
+
+ZEPHIRA_TEST(TstCommands)
+#include "tst_commands.moc"

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/files/configuration.h"
+#include "support/testregistry.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+const QString dataFolder = QStringLiteral(ZEPHIRA_SOURCE_DIR "/data/");
+
+QString shipped(const QString &section, const QString &key)
+{
+    return ReadIni(section, key, dataFolder + u"zephira.ini"_s);
+}
+
+/// Relative luminance of a colour number, red in the lowest byte.
+double luminance(int colour)
+{
+    const auto channel = [](int value) {
+        const double part = value / 255.0;
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * channel(colour & 0xff) + 0.7152 * channel(colour >> 8 & 0xff) + 0.0722 * channel(colour >> 16 & 0xff);
+}
+
+double contrast(int a, int b)
+{
+    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+} // namespace
+
+/// The program doesn't start with an incomplete zephira.ini, so the one that ships is looked at key by key.
+class TstShippedData : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void values_data();
+    void values();
+    void colourRows();
+    void textIsReadable_data();
+    void textIsReadable();
+    void customTabs();
+    void listsArePresent_data();
+    void listsArePresent();
+};
+
+void TstShippedData::values_data()
+{
+    QTest::addColumn<QString>("section");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    const char *rows[][3] = {
+        {"Startup", "selprj", "0"},     {"startup", "rootsel", "2"},      {"options", "highlight", "1"},
+        {"options", "linenumber", "1"}, {"Options", "leftmargin", "1"},   {"options", "whitespace", "0"},
+        {"options", "selbounds", "0"},  {"Font", "name", "Liberation Mono"}, {"font", "size", "10"},
+        {"font", "bold", "False"},      {"font", "italic", "False"},      {"font", "strikethrough", "False"},
+        {"font", "underline", "False"}, {"Paths", "IEPATH", ""},          {"SERVER", "root", ""},
+        {"Filters", "Filters",
+         "*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;*.bas;*.frm;*.vbp;"
+         "*.gif;*.bmp;*.jpg;*.java;*.sql"},
+    };
+    for (const auto &[section, key, value] : rows) {
+        QTest::addRow("%s %s", section, key)
+            << QString::fromLatin1(section) << QString::fromLatin1(key) << QString::fromLatin1(value);
+    }
+}
+
+void TstShippedData::values()
+{
+    QFETCH(QString, section);
+    QFETCH(QString, key);
+    QTEST(shipped(section, key), "value");
+}
+
+void TstShippedData::colourRows()
+{
+    for (int row = 0; row < 18; ++row) {
+        for (const QString &part : {u"bg"_s, u"fr"_s, u"fnt"_s}) {
+            const QString key = u"clr%1%2"_s.arg(row).arg(part);
+            bool converted = false;
+            const int number = shipped(u"Colors"_s, key).toInt(&converted);
+            QVERIFY2(converted, qPrintable(key));
+            QVERIFY2(number >= -1 && number <= (part == u"fnt" ? 4 : 0xffffff), qPrintable(key));
+        }
+    }
+}
+
+void TstShippedData::textIsReadable_data()
+{
+    QTest::addColumn<int>("row");
+    for (const int row : {0, 1, 5, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16})
+        QTest::addRow("row %d", row) << row;
+}
+
+void TstShippedData::textIsReadable()
+{
+    QFETCH(int, row);
+    constexpr double enough = 4.5;
+    const auto colour = [](int of, const QString &part) {
+        return shipped(u"Colors"_s, u"clr%1%2"_s.arg(of).arg(part)).toInt();
+    };
+    const int window = colour(17, u"fr"_s);
+    const int back = colour(row, u"bg"_s);
+    const int ground = back == -1 ? window : back;
+    QVERIFY(contrast(colour(row, u"fr"_s), ground) >= enough);
+    // On the highlighted line too, which shows where the row has no background of its own.
+    if (back == -1)
+        QVERIFY(contrast(colour(row, u"fr"_s), colour(4, u"fr"_s)) >= enough);
+}
+
+void TstShippedData::customTabs()
+{
+    for (int tab = 1; tab <= 6; ++tab) {
+        QFile file(dataFolder + u"ctabs/"_s + shipped(u"ctab"_s, QString::number(tab)));
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+        const QByteArray content = file.readAll();
+        const QList<QByteArray> lines = content.split('\n');
+        QVERIFY(lines.size() > 2);
+        QVERIFY(!lines.first().trimmed().isEmpty());
+        // An entry that is added begins with a line end; one at the end of the file would make an empty entry.
+        QVERIFY(!content.endsWith('\n'));
+        for (qsizetype i = 1; i < lines.size(); i += 2) {
+            QVERIFY2(lines[i].startsWith("#EXTINF,"), lines[i].constData());
+            QVERIFY(i + 1 < lines.size() && !lines[i + 1].trimmed().isEmpty());
+        }
+    }
+}
+
+void TstShippedData::listsArePresent_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char *file : {"asptags.dat", "tags.dat", "deps/csssel.dat", "readme.txt", "help/index.html"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void TstShippedData::listsArePresent()
+{
+    QFETCH(QString, file);
+    QFile list(dataFolder + file);
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    const QByteArray content = list.readAll();
+    QVERIFY(content.size() > 100);
+    if (!file.endsWith(u".dat"))
+        return;
+    // Every line is an entry; a blank one would show as such.
+    QVERIFY(content.endsWith('\n'));
+    for (const QByteArray &line : content.chopped(1).split('\n'))
+        QVERIFY(!line.trimmed().isEmpty());
+}
+
+ZEPHIRA_TEST(TstShippedData)
+#include "tst_shippeddata.moc"
