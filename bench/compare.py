@@ -136,6 +136,13 @@ def in_process(build, name, *arguments):
             for case in json.loads(done.stdout)["benchmarks"] if case["aggregate_name"] == "median"}
 
 
+def colouring(_programs, report, _inputs, build, _work):
+    """Colouring a whole page of 10 MB."""
+    times = in_process(build, "syntax_bench")
+    ours, theirs = (10 * MB / times[name] * 1e3 for name in ("zephiraEngine", "scintillaLexer"))
+    report.row("colouring throughput", ours, theirs, 1.0, "Scintilla's HTML lexer", "MB/s", at_least=True)
+
+
 def functions(_programs, report, inputs, build, _work):
     """Every text function: ten times the input."""
     times = in_process(build, "text_bench", str(inputs(1)), str(inputs(10)))
@@ -149,7 +156,7 @@ def saving(_programs, report, inputs, build, work):
     report.row("save 10 MB, atomically", times["save"] / 1e6, times["copy"] / 1e6, 1.2, "cp + fsync")
 
 
-GROUPS = {"start": start, "open": opening, "type": typing, "functions": functions, "save": saving}
+GROUPS = {"start": start, "open": opening, "type": typing, "colour": colouring, "functions": functions, "save": saving}
 
 
 def main(build, folder, work, *groups):

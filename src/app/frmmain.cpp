@@ -194,7 +194,6 @@ void frmmain::connectCommands()
     m_palette->applyAvailability(*m_forms);
     for (const QStringView key : commandsOfClosedTabs())
         m_formattingBar->close(key.toString());
-    markNotAvailable(m_palette->action(0, u"spell"_s));
 }
 
 void frmmain::languageChanged(int row)

@@ -151,7 +151,15 @@ void RunningProgram::type(const QString &title, const QString &text) const
 {
     const QString id = windowId(title);
     QVERIFY2(!id.isEmpty(), qPrintable(title + u" doesn't show, but "_s + windows().join(u", "_s)));
-    xdotool({u"windowactivate"_s, u"--sync"_s, id, u"type"_s, u"--delay"_s, u"5"_s, u"--"_s, text});
+    QStringList command{u"windowactivate"_s, u"--sync"_s, id};
+    const QStringList lines = text.split(u'\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (i > 0)
+            command += {u"key"_s, u"Return"_s}; // A line feed as such is another key.
+        if (!lines[i].isEmpty())
+            command += {u"type"_s, u"--delay"_s, u"5"_s, u"--args"_s, u"1"_s, u"--"_s, lines[i]};
+    }
+    xdotool(command);
 }
 
 void RunningProgram::answer(const QString &dialog, const QString &keys) const
@@ -173,7 +181,7 @@ void RunningProgram::close(const QString &title) const
 
 void RunningProgram::limitFileSize(qint64 bytes) const
 {
-    QCOMPARE(QProcess::execute(u"prlimit"_s, {u"--pid"_s, QString::number(pid()), u"--fsize=%1"_s.arg(bytes)}), 0);
+    QCOMPARE(QProcess::execute(u"prlimit"_s, {u"--pid"_s, QString::number(pid()), u"--fsize=%1:"_s.arg(bytes)}), 0);
 }
 
 int RunningProgram::waitForEnd()

@@ -1,14 +1,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/allforms.h"
 
+#include "controls/clock.h"
+#include "controls/files/diskfilestore.h"
+#include "controls/files/recoverycopies.h"
+#include "controls/scintilla/codemax.h"
+#include "settings/registerforms.h"
+#include "start/registerforms.h"
+#include "support/scriptedprompts.h"
+#include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
 namespace zephira {
+
+namespace {
+
+/// What the editing controls inside forms stand on; nothing is opened or saved through them.
+struct EditorParts {
+    DiskFileStore files;
+    SystemClock clock;
+    RecoveryCopies recovery{QDir::tempPath() + u"/zephira-forms"_s, files, clock};
+    ScriptedPrompts prompts;
+};
+
+} // namespace
 
 FormCatalogue allForms()
 {
     FormCatalogue catalogue;
     wizards::registerForms(catalogue);
+    start::registerForms(catalogue);
+    settings::registerForms(catalogue);
+    const auto parts = std::make_shared<EditorParts>();
+    views::registerForms(catalogue, [parts](QWidget *parent) -> EditorView {
+        auto *viewer = new CodeMax({parts->files, parts->recovery, parts->prompts}, parent);
+        viewer->setReadOnly(true);
+        return {viewer, viewer};
+    });
     return catalogue;
 }
 

@@ -209,6 +209,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     struct FormatChange {
@@ -252,6 +253,7 @@ private:
     void showProperties();
     bool takesDrop(const QDropEvent &event) const;
     void showContextMenu(const QPoint &at);
+    void underlineNumbers();
 
     EditorServices m_services;
     SciEngine m_engine;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keys, mouse, drops and the context menu of the editing control.
+#include "controls/qtvalues.h"
 #include "controls/scintilla/codemax.h"
 #include "controls/scintilla/codemaxglobals.h"
+#include "controls/scintilla/colouritems.h"
 #include "controls/scintilla/editorappearance.h"
 #include "controls/scintilla/editorcommands.h"
 #include "controls/scintilla/editormargins.h"
@@ -10,6 +12,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QWheelEvent>
 
 namespace zephira {
@@ -17,6 +20,9 @@ namespace zephira {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int lineNumberFontStyle = 11;
+constexpr int lineNumberColourItem = 26;
 
 bool isLineBreak(const QKeyEvent &event)
 {
@@ -150,6 +156,35 @@ void CodeMax::showEvent(QShowEvent *event)
 {
     QsciScintillaBase::showEvent(event);
     showBraces();
+}
+
+void CodeMax::paintEvent(QPaintEvent *event)
+{
+    QsciScintillaBase::paintEvent(event);
+    if (m_margins->lineNumbers() && m_appearance->fontStyle(lineNumberFontStyle) & UnderlinedStyle)
+        underlineNumbers();
+}
+
+/// The engine leaves underlining out in its margins.
+void CodeMax::underlineNumbers()
+{
+    constexpr int padding = 3;
+    const auto width = [this](int margin) { return m_engine.send(SCI_GETMARGINWIDTHN, margin); };
+    const qsizetype right = width(EditorMargins::Bookmarks) + width(EditorMargins::LineNumbers) - padding;
+    const qsizetype bottom = m_engine.send(SCI_TEXTHEIGHT, 0) - 2;
+    QPainter painter(viewport());
+    painter.setPen(toQColor(m_appearance->colour(lineNumberColourItem)));
+    const qsizetype first = m_engine.send(SCI_GETFIRSTVISIBLELINE);
+    const qsizetype last = m_engine.send(SCI_DOCLINEFROMVISIBLE, first + m_engine.send(SCI_LINESONSCREEN));
+    for (qsizetype line = m_engine.send(SCI_DOCLINEFROMVISIBLE, first); line <= last; ++line) {
+        if (!m_engine.send(SCI_GETLINEVISIBLE, line))
+            continue;
+        const QByteArray number = QByteArray::number(line + 1);
+        const qsizetype left = right - m_engine.sendText(SCI_TEXTWIDTH, STYLE_LINENUMBER, number.constData());
+        const qsizetype y = bottom + m_engine.send(SCI_POINTYFROMPOSITION, 0, m_engine.lineStart(line));
+        painter.drawLine(QPointF(static_cast<double>(left), static_cast<double>(y)),
+                         QPointF(static_cast<double>(right), static_cast<double>(y)));
+    }
 }
 
 void CodeMax::contextMenuEvent(QContextMenuEvent *event)

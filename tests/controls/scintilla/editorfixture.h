@@ -30,6 +30,15 @@ struct EditorFixture {
         QTest::qWait(1);
     }
 
+    /// Types a text that may hold any character, one key each.
+    void type(const QString &text)
+    {
+        for (const QChar c : text) {
+            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, c);
+            QCoreApplication::sendEvent(&editor, &press);
+        }
+    }
+
     /// Waits until the colours have come to where they were asked for.
     void waitForColours()
     {
