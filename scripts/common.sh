@@ -97,16 +97,18 @@ stop_display() {
 screen_hash() { import -silent -window root rgb:- | sha256sum; }
 
 # picture_when_painted PNG PID BLANK: saves the screen as soon as it differs from BLANK, the hash of the empty one, and
-# has been the same four times in a row. Fails when the process ends first or nothing comes to rest within a minute.
+# has been the same three times in a row, which is shorter than a caret takes to blink. Fails when the process ends first
+# or nothing comes to rest within a minute.
 picture_when_painted() {
-    local last='' now same=0 end=$((SECONDS + 60))
-    while ((same < 4)); do
+    local now known=0 end=$((SECONDS + 60))
+    local -A seen=(["$3"]=blank)
+    while ((known < 4)); do
         kill -0 "$2" 2>/dev/null || { say "The program ended before it had painted its window."; return 1; }
         ((SECONDS < end)) || { say "The window did not come to rest within a minute."; return 1; }
         sleep 0.1
         now=$(screen_hash)
-        if [[ $now != "$3" && $now == "$last" ]]; then same=$((same + 1)); else same=0; fi
-        last=$now
+        if [[ $now == "$3" || -z ${seen[$now]-} ]]; then known=0; else known=$((known + 1)); fi
+        seen[$now]=${seen[$now]-seen}
     done
     import -silent -window root "$1"
 }
