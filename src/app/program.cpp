@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/program.h"
 
+#include "app/comingforms.h"
 #include "app/failedstart.h"
 #include "app/frmmain.h"
 #include "app/icons.h"
@@ -73,6 +74,7 @@ int runProgram(QApplication &application, const QString &argument)
     DesktopClipboard clipboard;
 
     FormCatalogue catalogue;
+    announceComingForms(catalogue);
     wizards::registerForms(catalogue);
     start::registerForms(catalogue);
     settings::registerForms(catalogue);

@@ -7,27 +7,40 @@ namespace zephira {
 
 void FormCatalogue::add(const QString &name, Factory factory)
 {
-    [[maybe_unused]] const bool added = m_factories.emplace(name, std::move(factory)).second;
-    Q_ASSERT_X(added, "FormCatalogue", "a form is registered twice");
+    Q_ASSERT_X(!contains(name), "FormCatalogue", "a form is registered twice");
+    m_factories[name] = std::move(factory);
+}
+
+void FormCatalogue::announce(const QString &name)
+{
+    m_factories.try_emplace(name);
 }
 
 bool FormCatalogue::contains(const QString &name) const
 {
-    return m_factories.contains(name);
+    const auto entry = m_factories.find(name);
+    return entry != m_factories.end() && entry->second;
+}
+
+bool FormCatalogue::isAnnounced(const QString &name) const
+{
+    const auto entry = m_factories.find(name);
+    return entry != m_factories.end() && !entry->second;
 }
 
 QStringList FormCatalogue::names() const
 {
     QStringList names;
-    for (const auto &entry : m_factories)
-        names.append(entry.first);
+    for (const auto &[name, factory] : m_factories) {
+        if (factory)
+            names.append(name);
+    }
     return names;
 }
 
 QWidget *FormCatalogue::make(const QString &name, const AppContext &context, QWidget *owner) const
 {
-    const auto entry = m_factories.find(name);
-    return entry == m_factories.end() ? nullptr : entry->second(context, owner);
+    return contains(name) ? m_factories.at(name)(context, owner) : nullptr;
 }
 
 } // namespace zephira

@@ -28,12 +28,20 @@ public:
     {
         add(name, [](const AppContext &context, QWidget *owner) -> QWidget * { return new Form(context, owner); });
     }
+    /// Names a form that is still to come: commands that open it are disabled and say so. Adding the form ends that.
+    void announce(const QString &name);
+
+    /// Whether the form can be made.
     bool contains(const QString &name) const;
+    /// Whether the form is still to come.
+    bool isAnnounced(const QString &name) const;
+    /// The forms that can be made, in alphabetical order.
     QStringList names() const;
     /// A new form, owned by the caller through `owner`; nullptr for a name that isn't in the catalogue.
     QWidget *make(const QString &name, const AppContext &context, QWidget *owner) const;
 
 private:
+    /// An announced form has an empty factory.
     std::map<QString, Factory> m_factories;
 };
 

@@ -62,8 +62,7 @@ EditorMargins::EditorMargins(SciEngine engine) : m_engine(engine)
         m_engine.send(Sci::SCI_MARKERDEFINE, marker, symbol);
     m_engine.send(Sci::SCI_SETMARGINLEFT, 0, 4);
     m_engine.send(Sci::SCI_SETFOLDFLAGS, Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);
-    m_engine.send(Sci::SCI_SETAUTOMATICFOLD,
-                  Sci::SC_AUTOMATICFOLD_SHOW | Sci::SC_AUTOMATICFOLD_CLICK | Sci::SC_AUTOMATICFOLD_CHANGE);
+    m_engine.send(Sci::SCI_SETAUTOMATICFOLD, Sci::SC_AUTOMATICFOLD_SHOW | Sci::SC_AUTOMATICFOLD_CLICK);
 }
 
 void EditorMargins::setLeftMargin(bool on)

@@ -199,7 +199,7 @@ bool IdleColouring::colourSome(qsizetype target, qsizetype bytes)
             const FoldLine folded = m_language->foldRules().fold(
                 text.sliced(offset, end - offset),
                 std::span(m_styles).subspan(static_cast<size_t>(offset), static_cast<size_t>(end - offset)), fold);
-            m_engine.send(Sci::SCI_SETFOLDLEVEL, current, packedFold(folded, fold.level));
+            setFold(current, packedFold(folded, fold.level));
             if (m_lineFolded)
                 m_lineFolded(current, folded.level, fold.level);
             offset = end;
@@ -226,6 +226,27 @@ bool IdleColouring::colourSome(qsizetype target, qsizetype bytes)
     }
     markColoured();
     return reached;
+}
+
+/// Gives a line its place in the folds. Where that changes while blocks are folded away, nothing may stay hidden below a
+/// line that isn't a block's beginning any more. (The engine could see to it itself, but would colour the whole block,
+/// which may be the whole text, whenever a beginning appears.)
+void IdleColouring::setFold(qsizetype line, qsizetype level)
+{
+    const bool changed = m_engine.send(Sci::SCI_GETFOLDLEVEL, line) != level;
+    if (!changed)
+        return;
+    m_engine.send(Sci::SCI_SETFOLDLEVEL, line, level);
+    if (m_engine.send(Sci::SCI_GETALLLINESVISIBLE))
+        return;
+    const auto expanded = [this](qsizetype header) { return m_engine.send(Sci::SCI_GETFOLDEXPANDED, header) != 0; };
+    if (!(level & Sci::SC_FOLDLEVELHEADERFLAG) && !expanded(line))
+        m_engine.send(Sci::SCI_SETFOLDEXPANDED, line, true);
+    if (m_engine.send(Sci::SCI_GETLINEVISIBLE, line))
+        return;
+    const qsizetype parent = m_engine.send(Sci::SCI_GETFOLDPARENT, line);
+    if (parent < 0 || (expanded(parent) && m_engine.send(Sci::SCI_GETLINEVISIBLE, parent)))
+        m_engine.send(Sci::SCI_SHOWLINES, line, line);
 }
 
 /// What folding knows at the start of a line whose predecessor has been coloured.

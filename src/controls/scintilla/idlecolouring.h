@@ -54,6 +54,7 @@ private:
     void settleEdit();
     void slice();
     bool colourSome(qsizetype target, qsizetype bytes);
+    void setFold(qsizetype line, qsizetype level);
     FoldState foldStateAt(qsizetype line) const;
     void markColoured();
 

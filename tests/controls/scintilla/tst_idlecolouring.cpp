@@ -209,6 +209,25 @@ private slots:
         QVERIFY(!visible(1) && visible(5));
     }
 
+    void whatNoBlockHoldsAnyMoreShows()
+    {
+        EditorFixture f;
+        f.editor.setLanguage(u"C/C++"_s);
+        f.editor.setText(u"f() {\r\n  a;\r\n  if {\r\n    b;\r\n  }\r\n}\r\nc;\r\n"_s);
+        f.show();
+        f.waitForColours();
+        const SciEngine &engine = f.editor.engine();
+        engine.send(Sci::SCI_TOGGLEFOLD, 0);
+        QVERIFY(!engine.send(Sci::SCI_GETLINEVISIBLE, 3));
+        // The brace that opens the folded block goes.
+        f.editor.select({0, 4, 0, 5});
+        f.editor.setSelText(QString());
+        f.waitForColours();
+        for (qsizetype line = 0; line < engine.lineCount(); ++line)
+            QVERIFY2(engine.send(Sci::SCI_GETLINEVISIBLE, line), qPrintable(QString::number(line)));
+        QVERIFY(engine.send(Sci::SCI_GETFOLDEXPANDED, 0));
+    }
+
     void aLineEndsEachOutermostBlock()
     {
         EditorFixture f;

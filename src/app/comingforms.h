@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace zephira {
+
+class FormCatalogue;
+
+/// Announces every form that a command names and that isn't written yet.
+void announceComingForms(FormCatalogue &catalogue);
+
+} // namespace zephira
