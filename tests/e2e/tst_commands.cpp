@@ -2,6 +2,7 @@
 #include "controls/files/configuration.h"
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
+#include "e2e/titles.h"
 #include "support/testregistry.h"
 
 #include <QDateTime>
@@ -15,12 +16,10 @@
 #include <csignal>
 
 using namespace zephira;
+using namespace zephira::titles;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString untitled = u"Zephira - [New Document]"_s;
-constexpr int patience = 20000;
 
 /// A process that the program started. It is ended together with the test, not with the program.
 class StartedProcess
@@ -275,7 +274,7 @@ private Q_SLOTS:
         QVERIFY(program.waitForWindow(u"QuickView"_s));
         program.type(untitled, u"x"_s); // It isn't modal.
         program.close(untitled);
-        program.answer(u"Document Modified."_s, u"alt+n"_s);
+        program.answer(modified, u"alt+n"_s);
         QCOMPARE(program.waitForEnd(), 0);
     }
 
@@ -289,7 +288,7 @@ private Q_SLOTS:
         QVERIFY(program.waitForWindow(caption));
         program.key(caption, u"alt+t Up Up Up Up Up Return"_s);
         QVERIFY(program.waitForWindow(wizard));
-        program.key(wizard, u"alt+c"_s);
+        program.key(wizard, u"Return"_s);
         QVERIFY(program.waitUntilGone(wizard));
         program.key(caption, u"ctrl+s"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path),

@@ -1,31 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
+#include "e2e/titles.h"
 #include "support/testregistry.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTest>
 
 using namespace zephira;
+using namespace zephira::titles;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const QString untitled = u"Zephira - [New Document]"_s;
-const QString openDialog = u"Open a document..."_s;
-const QString saveDialog = u"Save a document..."_s;
-const QString overwrite = u"Overwrite?"_s;
-const QString modified = u"Document Modified."_s;
-const QString message = u"Zephira"_s;
-constexpr int patience = 20000;
-
-QString captionOf(const QString &path)
-{
-    return RunningProgram::captionOf(path);
-}
-
-} // namespace
 
 /// A document's life as a user leads it: by keys and dialogs, judged by the bytes on the disk and the window's caption.
 class TstEditing : public QObject
@@ -42,13 +25,13 @@ private Q_SLOTS:
         program.key(untitled, u"ctrl+s"_s);
         const QString path = folder.place(u"first page.txt"_s);
         program.fillIn(saveDialog, path);
-        QVERIFY(program.waitForWindow(captionOf(path)));
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
         QCOMPARE(ProgramFolder::read(path), "one\r\ntwo");
         // From now on the file is known, and saving asks nothing.
-        program.type(captionOf(path), u"!"_s);
-        program.key(captionOf(path), u"ctrl+s"_s);
+        program.type(RunningProgram::captionOf(path), u"!"_s);
+        program.key(RunningProgram::captionOf(path), u"ctrl+s"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "one\r\ntwo!", patience);
-        QCOMPARE(program.waitForWindows({captionOf(path)}), QStringList{captionOf(path)});
+        QCOMPARE(program.waitForWindows({RunningProgram::captionOf(path)}), QStringList{RunningProgram::captionOf(path)});
     }
 
     void aNameWithoutAnExtensionGetsTheLanguages()
@@ -59,7 +42,7 @@ private Q_SLOTS:
         program.type(untitled, u"x"_s);
         program.key(untitled, u"ctrl+s"_s);
         program.fillIn(saveDialog, folder.place(u"notes"_s));
-        QVERIFY(program.waitForWindow(captionOf(folder.place(u"notes.txt"_s))));
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(folder.place(u"notes.txt"_s))));
         QCOMPARE(ProgramFolder::read(folder.place(u"notes.txt"_s)), "x");
     }
 
@@ -89,9 +72,9 @@ private Q_SLOTS:
         QVERIFY(program.waitForWindow(untitled));
         program.key(untitled, u"ctrl+o"_s);
         program.fillIn(openDialog, path);
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        editBothEnds(program, captionOf(path));
-        program.key(captionOf(path), u"ctrl+s"_s);
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
+        editBothEnds(program, RunningProgram::captionOf(path));
+        program.key(RunningProgram::captionOf(path), u"ctrl+s"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), after, patience);
     }
 
@@ -111,9 +94,9 @@ private Q_SLOTS:
         ProgramFolder folder;
         const QString path = folder.write(name, "x\n");
         RunningProgram program(folder, {path});
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        editBothEnds(program, captionOf(path));
-        program.key(captionOf(path), u"ctrl+s"_s);
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
+        editBothEnds(program, RunningProgram::captionOf(path));
+        program.key(RunningProgram::captionOf(path), u"ctrl+s"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "[x\n]", patience);
     }
 
@@ -123,141 +106,12 @@ private Q_SLOTS:
         const QString target = folder.place(u"Ærø søndag.txt"_s);
         const QString source = folder.write(u"name.txt"_s, target.toUtf8());
         RunningProgram program(folder, {source});
-        QVERIFY(program.waitForWindow(captionOf(source)));
-        program.key(captionOf(source), u"ctrl+a ctrl+c alt+f a"_s);
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(source)));
+        program.key(RunningProgram::captionOf(source), u"ctrl+a ctrl+c alt+f a"_s);
         QVERIFY(program.waitForWindow(saveDialog));
         program.key(saveDialog, u"ctrl+a ctrl+v Return"_s);
-        QVERIFY(program.waitForWindow(captionOf(target)));
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(target)));
         QCOMPARE(ProgramFolder::read(target), target.toUtf8());
-    }
-
-    void anExistingFileIsAskedAbout_data()
-    {
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<bool>("again"); // The save dialog comes back.
-        QTest::addColumn<bool>("saved");
-        QTest::newRow("yes") << u"alt+y"_s << false << true;
-        QTest::newRow("no") << u"alt+n"_s << true << false;
-        QTest::newRow("cancel") << u"Escape"_s << false << false;
-    }
-
-    void anExistingFileIsAskedAbout()
-    {
-        QFETCH(QString, keys);
-        QFETCH(bool, again);
-        QFETCH(bool, saved);
-        ProgramFolder folder;
-        const QString path = folder.write(u"there.txt"_s, "old");
-        RunningProgram program(folder, {u"/nodialog"_s});
-        QVERIFY(program.waitForWindow(untitled));
-        program.type(untitled, u"new"_s);
-        program.key(untitled, u"ctrl+s"_s);
-        program.fillIn(saveDialog, path);
-        program.answer(overwrite, keys);
-        QVERIFY(program.waitUntilGone(overwrite));
-        if (again)
-            program.answer(saveDialog, u"Escape"_s);
-        const QString caption = saved ? captionOf(path) : untitled;
-        QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
-        QCOMPARE(ProgramFolder::read(path), saved ? "new" : "old");
-        program.close(caption);
-        if (!saved)
-            program.answer(modified, u"alt+n"_s);
-        QCOMPARE(program.waitForEnd(), 0);
-    }
-
-    void aSaveThatFailsKeepsFileAndText_data()
-    {
-        QTest::addColumn<QString>("trouble");
-        for (const char *trouble : {"read-only file", "read-only folder", "no folder", "full disk"})
-            QTest::newRow(trouble) << QString::fromLatin1(trouble);
-    }
-
-    void aSaveThatFailsKeepsFileAndText()
-    {
-        QFETCH(QString, trouble);
-        const bool full = trouble == u"full disk"_s;
-        ProgramFolder folder;
-        const QByteArray old(20000, 'x');
-        const QString path = folder.write(u"site/page.txt"_s, old);
-        const QString site = QFileInfo(path).path();
-        RunningProgram program(folder, {path},
-                               full ? RunningProgram::withoutSizeSignal() : RunningProgram::boundByPermissions());
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        program.type(captionOf(path), u"new "_s);
-        if (full)
-            program.limitFileSize(8192);
-        else if (trouble == u"read-only file"_s)
-            QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
-        else if (trouble == u"read-only folder"_s)
-            QVERIFY(QFile::setPermissions(site, QFile::ReadOwner | QFile::ExeOwner));
-        else
-            QVERIFY(QDir().rename(site, folder.place(u"elsewhere"_s)));
-
-        program.key(captionOf(path), u"ctrl+s"_s);
-        program.answer(message, u"Return"_s);
-        QVERIFY(program.waitUntilGone(message));
-        // Neither a part of the new text nor a temporary file is left behind.
-        const QDir now(trouble == u"no folder"_s ? folder.place(u"elsewhere"_s) : site);
-        QCOMPARE(now.entryList(QDir::Files | QDir::Hidden), QStringList{u"page.txt"_s});
-        QCOMPARE(ProgramFolder::read(now.filePath(u"page.txt"_s)), old);
-        QVERIFY(QFile::setPermissions(now.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-
-        // The document is still modified, and saving it elsewhere works.
-        program.close(captionOf(path));
-        program.answer(modified, u"Escape"_s);
-        QVERIFY(program.waitUntilGone(modified));
-        if (full)
-            program.limitFileSize(1000000);
-        program.key(captionOf(path), u"alt+f a"_s);
-        program.fillIn(saveDialog, folder.place(u"rescued.txt"_s));
-        QVERIFY(program.waitForWindow(captionOf(folder.place(u"rescued.txt"_s))));
-        QCOMPARE(ProgramFolder::read(folder.place(u"rescued.txt"_s)), "new " + old);
-    }
-
-    void aCharacterThatTheFileCannotHoldIsAskedAbout_data()
-    {
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<QByteArray>("after");
-        QTest::newRow("no") << u"alt+n"_s << QByteArray("\xE9");
-        QTest::newRow("yes") << u"alt+y"_s << QByteArray("\xE2\x88\x80\xC3\xA9");
-    }
-
-    void aCharacterThatTheFileCannotHoldIsAskedAbout()
-    {
-        QFETCH(QString, keys);
-        QFETCH(QByteArray, after);
-        ProgramFolder folder;
-        const QString path = folder.write(u"old.txt"_s, "\xE9");
-        const QString sign = folder.write(u"sign.txt"_s, "\xE2\x88\x80");
-        RunningProgram program(folder, {sign});
-        QVERIFY(program.waitForWindow(captionOf(sign)));
-        program.key(captionOf(sign), u"ctrl+a ctrl+c ctrl+o"_s);
-        program.fillIn(openDialog, path);
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        program.key(captionOf(path), u"ctrl+v ctrl+s"_s);
-        program.answer(message, keys);
-        QVERIFY(program.waitUntilGone(message));
-        if (after.size() == 1) {
-            program.answer(message, u"Return"_s); // It says that the file was not saved, and why.
-            QVERIFY(program.waitUntilGone(message));
-        }
-        QCOMPARE(ProgramFolder::read(path), after);
-    }
-
-    void whatAnotherProgramWroteIsKept()
-    {
-        ProgramFolder folder;
-        const QString path = folder.write(u"page.txt"_s, "mine");
-        RunningProgram program(folder, {path});
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        folder.write(u"page.txt"_s, "of another program");
-        program.type(captionOf(path), u"still "_s);
-        program.key(captionOf(path), u"ctrl+s"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "still mine", patience);
-        const QStringList copies = folder.recoveryCopies();
-        QCOMPARE(copies.size(), 1);
-        QCOMPARE(ProgramFolder::read(copies.first()), "of another program");
     }
 
     void closingAsks_data()
@@ -278,15 +132,15 @@ private Q_SLOTS:
         ProgramFolder folder;
         const QString path = folder.write(u"page.txt"_s, "old");
         RunningProgram program(folder, {path});
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        program.type(captionOf(path), u"new "_s);
-        program.close(captionOf(path));
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
+        program.type(RunningProgram::captionOf(path), u"new "_s);
+        program.close(RunningProgram::captionOf(path));
         program.answer(modified, keys);
         if (ends) {
             QCOMPARE(program.waitForEnd(), 0);
             QCOMPARE(folder.recoveryCopies(), QStringList());
         } else {
-            QCOMPARE(program.waitForWindows({captionOf(path)}), QStringList{captionOf(path)});
+            QCOMPARE(program.waitForWindows({RunningProgram::captionOf(path)}), QStringList{RunningProgram::captionOf(path)});
             QVERIFY(program.isRunning());
         }
         QCOMPARE(ProgramFolder::read(path), after);
@@ -326,11 +180,11 @@ private Q_SLOTS:
         ProgramFolder folder;
         const QString path = folder.write(u"page.txt"_s, "old");
         RunningProgram program(folder, {path});
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        program.type(captionOf(path), u"new "_s);
-        program.key(captionOf(path), u"ctrl+n"_s);
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
+        program.type(RunningProgram::captionOf(path), u"new "_s);
+        program.key(RunningProgram::captionOf(path), u"ctrl+n"_s);
         program.answer(modified, keys);
-        const QString caption = goesOn ? untitled : captionOf(path);
+        const QString caption = goesOn ? untitled : RunningProgram::captionOf(path);
         QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
         QCOMPARE(ProgramFolder::read(path), after);
         program.close(caption);
@@ -344,9 +198,9 @@ private Q_SLOTS:
         ProgramFolder folder;
         const QString path = folder.write(u"page.txt"_s, "old");
         RunningProgram program(folder, {path});
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        program.type(captionOf(path), u"new "_s);
-        program.key(captionOf(path), u"alt+f e"_s);
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
+        program.type(RunningProgram::captionOf(path), u"new "_s);
+        program.key(RunningProgram::captionOf(path), u"alt+f e"_s);
         QCOMPARE(program.waitForEnd(), 0);
         QCOMPARE(ProgramFolder::read(path), "old");
         QCOMPARE(folder.recoveryCopies(), QStringList());
@@ -357,14 +211,14 @@ private Q_SLOTS:
         ProgramFolder folder;
         const QString path = folder.write(u"page.html"_s, "<p>\n");
         RunningProgram program(folder, {path});
-        QVERIFY(program.waitForWindow(captionOf(path)));
-        program.type(captionOf(path), u"x"_s);
-        program.key(captionOf(path), u"alt+f t"_s);
+        QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
+        program.type(RunningProgram::captionOf(path), u"x"_s);
+        program.key(RunningProgram::captionOf(path), u"alt+f t"_s);
         program.fillIn(u"Save as Template"_s, u"mine.html"_s);
         const QString kept = folder.path() + u"/templates/custom/mine.html"_s;
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(kept), "x<p>\n", patience);
         QCOMPARE(ProgramFolder::read(path), "<p>\n"); // The document itself is neither saved nor renamed.
-        program.key(captionOf(path), u"ctrl+t"_s);
+        program.key(RunningProgram::captionOf(path), u"ctrl+t"_s);
         program.answer(modified, u"alt+n"_s);
         program.answer(u"Select Template"_s, u"Escape"_s);
         QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});

@@ -2,6 +2,7 @@
 #include "controls/files/configuration.h"
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
+#include "e2e/titles.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -10,11 +11,11 @@
 #include <QTest>
 
 using namespace zephira;
+using namespace zephira::titles;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString untitled = u"Zephira - [New Document]"_s;
 const QString tip = u"Tip of the Day"_s;
 const QString chooser = u"Select Template"_s;
 

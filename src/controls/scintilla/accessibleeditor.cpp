@@ -17,8 +17,17 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
+/// The engine's index of UTF-16 offsets by line. It costs time at each line of a text that is loaded, so it is only made
+/// once somebody asks, and is gone with the next file.
+void needIndex(const SciEngine &engine)
+{
+    if (!(engine.send(Sci::SCI_GETLINECHARACTERINDEX) & Sci::SC_LINECHARACTERINDEX_UTF16))
+        engine.send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
+}
+
 int offsetOf(const SciEngine &engine, qsizetype position)
 {
+    needIndex(engine);
     const qsizetype line = engine.lineOf(position);
     return static_cast<int>(engine.send(Sci::SCI_INDEXPOSITIONFROMLINE, line, Sci::SC_LINECHARACTERINDEX_UTF16)
                             + utf16Length(engine.bytes(engine.lineStart(line), position)));
@@ -51,9 +60,11 @@ QAccessibleInterface *AccessibleEditor::make(const QString &, QObject *object)
     return editor ? new AccessibleEditor(*editor) : nullptr;
 }
 
-void AccessibleEditor::tellInserted(CodeMax &editor, qsizetype position, QByteArrayView utf8)
+void AccessibleEditor::tellInserted(CodeMax &editor, qsizetype position, qsizetype length)
 {
-    QAccessibleTextInsertEvent event(&editor, offsetOf(editor.engine(), position), fromBuffer(utf8, LineEnds::Mixed));
+    const SciEngine &engine = editor.engine();
+    QAccessibleTextInsertEvent event(&editor, offsetOf(engine, position),
+                                     fromBuffer(engine.bytes(position, position + length), LineEnds::Mixed));
     QAccessible::updateAccessibility(&event);
 }
 
@@ -189,6 +200,7 @@ QString AccessibleEditor::text(int start, int end) const
 
 int AccessibleEditor::characterCount() const
 {
+    needIndex(engine());
     return static_cast<int>(
         engine().send(Sci::SCI_INDEXPOSITIONFROMLINE, engine().lineCount(), Sci::SC_LINECHARACTERINDEX_UTF16));
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QAccessibleWidget>
-#include <QByteArrayView>
 
 namespace zephira {
 
@@ -20,8 +19,8 @@ public:
 
     /// The factory to install; makes an object for editing controls and for nothing else.
     static QAccessibleInterface *make(const QString &className, QObject *object);
-    /// To be called in front of an insertion and of a removal, in byte positions.
-    static void tellInserted(CodeMax &editor, qsizetype position, QByteArrayView utf8);
+    /// To be called behind an insertion and in front of a removal, in byte positions.
+    static void tellInserted(CodeMax &editor, qsizetype position, qsizetype length);
     static void tellRemoved(CodeMax &editor, qsizetype position, qsizetype length);
     static void tellCaretMoved(CodeMax &editor);
 

@@ -4,6 +4,7 @@
 #include "controls/qtvalues.h"
 #include "controls/scintilla/accessibleeditor.h"
 #include "controls/scintilla/bracematcher.h"
+#include "controls/scintilla/buffertext.h"
 #include "controls/scintilla/codemaxglobals.h"
 #include "controls/scintilla/editorappearance.h"
 #include "controls/scintilla/editormargins.h"
@@ -43,7 +44,6 @@ constexpr std::array engineSettings{
             QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE
                 | QsciScintillaBase::SC_MOD_CONTAINER,
             0},
-    Setting{QsciScintillaBase::SCI_ALLOCATELINECHARACTERINDEX, QsciScintillaBase::SC_LINECHARACTERINDEX_UTF16, 0},
     Setting{QsciScintillaBase::SCI_SETTABINDENTS, 1, 0},
     Setting{QsciScintillaBase::SCI_SETMULTIPLESELECTION, 1, 0},
     Setting{QsciScintillaBase::SCI_SETADDITIONALSELECTIONTYPING, 1, 0},
@@ -99,11 +99,11 @@ void CodeMax::connectEngine()
 {
     connect(this, &QsciScintillaBase::SCEN_CHANGE, this, &CodeMax::noteChange);
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
-            [this](int position, int type, const char *text, int length, int, int, int, int, int token) {
+            [this](int position, int type, const char *, int length, int, int, int, int, int token) {
                 if (type & SC_MOD_CONTAINER)
                     formatChangeUndone(token, type & SC_PERFORMED_UNDO);
                 else
-                    beforeEdit(position, type, text, length);
+                    beforeEdit(position, type, length);
             });
     connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this] {
         if (m_actions == 0)
@@ -124,28 +124,45 @@ void CodeMax::connectEngine()
     });
 }
 
-void CodeMax::beforeEdit(int position, int type, const char *text, int length)
+void CodeMax::beforeEdit(int position, int type, int length)
 {
+    settleInsertion();
     m_colouring->beforeEdit(position);
-    if (!QAccessible::isActive())
+    if (!(type & SC_MOD_BEFOREDELETE)) {
+        m_inserted = {position, length};
         return;
-    if (type & SC_MOD_BEFOREINSERT)
-        AccessibleEditor::tellInserted(*this, position, QByteArrayView(text, length));
-    else if (type & SC_MOD_BEFOREDELETE)
+    }
+    m_units -= utf16Length(m_engine.bytes(position, position + length));
+    if (QAccessible::isActive())
         AccessibleEditor::tellRemoved(*this, position, length);
 }
 
-/// Comes at each of the engine's changes, of which one action may make several.
+/// Counts an insertion that has been announced. Its text is only there behind it.
+void CodeMax::settleInsertion()
+{
+    const auto [position, length] = std::exchange(m_inserted, {});
+    if (length == 0)
+        return;
+    m_units += utf16Length(m_engine.bytes(position, position + length));
+    if (QAccessible::isActive())
+        AccessibleEditor::tellInserted(*this, position, length);
+}
+
+/// Comes in front of each of the engine's changes, of which one action may make several. A change that no action of the
+/// control's makes is told when it is done.
 void CodeMax::noteChange()
 {
     ++m_textVersion;
-    perform([this] { m_changed = true; });
+    m_changed = true;
+    if (m_actions == 0)
+        QMetaObject::invokeMethod(this, [this] { perform([] {}); }, Qt::QueuedConnection);
 }
 
 void CodeMax::endAction()
 {
     if (--m_actions > 0)
         return;
+    settleInsertion();
     const QPointer<CodeMax> alive(this);
     const bool changed = std::exchange(m_changed, false);
     if (changed) {

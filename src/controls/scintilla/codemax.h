@@ -201,6 +201,8 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -216,6 +218,10 @@ private:
         TextFormat before;
         TextFormat after;
     };
+    struct Insertion {
+        qsizetype position = 0;
+        qsizetype length = 0;
+    };
     struct Selection {
         qsizetype anchor = 0;
         qsizetype caret = 0;
@@ -230,6 +236,7 @@ private:
     void noteChange();
     void noteSelection();
     void replaceDocument(QByteArrayView utf8);
+    qsizetype widthOfFirstLines() const;
     void applyLineEnds();
     void startNewFormat();
     void formatChangeUndone(int index, bool undone);
@@ -239,7 +246,8 @@ private:
     void showSelectionBounds();
     void showStrikethrough();
     void showBraces();
-    void beforeEdit(int position, int type, const char *text, int length);
+    void beforeEdit(int position, int type, int length);
+    void settleInsertion();
     void runCommand(int command);
     void type(QKeyEvent *event);
     void indentNewLine();
@@ -273,7 +281,11 @@ private:
     QString m_path;
     QString m_lastError;
     Selection m_seen;
+    /// An insertion that has been announced and is still to be counted.
+    Insertion m_inserted;
     quint64 m_textVersion = 1;
+    /// Length of the buffer in UTF-16 code units.
+    qsizetype m_units = 0;
     int m_actions = 0;
     bool m_changed = false;
     bool m_selBounds = false;

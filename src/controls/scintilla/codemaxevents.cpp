@@ -103,6 +103,16 @@ void CodeMax::mousePressEvent(QMouseEvent *event)
     });
 }
 
+void CodeMax::mouseMoveEvent(QMouseEvent *event)
+{
+    perform([&] { QsciScintillaBase::mouseMoveEvent(event); });
+}
+
+void CodeMax::mouseReleaseEvent(QMouseEvent *event)
+{
+    perform([&] { QsciScintillaBase::mouseReleaseEvent(event); });
+}
+
 void CodeMax::wheelEvent(QWheelEvent *event)
 {
     const int turned = event->angleDelta().y();

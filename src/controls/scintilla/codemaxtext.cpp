@@ -63,10 +63,10 @@ void CodeMax::setText(const QString &text)
 /// In a text of the file's own line feeds or carriage returns each line end counts as the two characters that Text has.
 int CodeMax::textLength() const
 {
-    const qsizetype lines = m_engine.lineCount();
-    const qsizetype units = m_engine.send(SCI_INDEXPOSITIONFROMLINE, lines, SC_LINECHARACTERINDEX_UTF16);
+    const qsizetype units =
+        m_units + utf16Length(m_engine.bytes(m_inserted.position, m_inserted.position + m_inserted.length));
     const bool oneByteEnds = m_format.lineEnds == LineEnds::Lf || m_format.lineEnds == LineEnds::Cr;
-    return static_cast<int>(oneByteEnds ? units + lines - 1 : units);
+    return static_cast<int>(units + (oneByteEnds ? m_engine.lineCount() - 1 : 0));
 }
 
 QString CodeMax::selText() const
@@ -134,6 +134,26 @@ void CodeMax::replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8)
     m_engine.send(SCI_ENDUNDOACTION);
 }
 
+/// Width in pixels of the widest line that the first picture may show. With it the scroll bar is right from the start;
+/// left to find out while painting, the engine would show the bar later and paint everything again.
+qsizetype CodeMax::widthOfFirstLines() const
+{
+    constexpr qsizetype linesOfAScreen = 120;
+    constexpr qsizetype widestMeasured = 2048;
+    qsizetype widestStart = 0;
+    qsizetype widestSize = 0;
+    for (qsizetype line = 0; line < std::min(linesOfAScreen, m_engine.lineCount()); ++line) {
+        const qsizetype start = m_engine.lineStart(line);
+        const qsizetype size = std::min(m_engine.lineEnd(line) - start, widestMeasured);
+        if (size > widestSize) {
+            widestStart = start;
+            widestSize = size;
+        }
+    }
+    const QByteArray widest = m_engine.bytes(widestStart, widestStart + widestSize).toByteArray().replace('\t', "    ");
+    return std::max<qsizetype>(1, m_engine.sendText(SCI_TEXTWIDTH, STYLE_DEFAULT, widest.constData()));
+}
+
 /// Puts a text in place without an undo step, and with nothing left of the one before.
 void CodeMax::replaceDocument(QByteArrayView utf8)
 {
@@ -145,15 +165,19 @@ void CodeMax::replaceDocument(QByteArrayView utf8)
     m_formatChanges.clear();
     m_engine.send(SCI_CLEARALL);
     m_engine.send(SCI_MARKERDELETEALL, -1);
+    // An index that assistive technology asked for would be kept up to date at each line that is read.
+    m_engine.send(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF16);
+    m_inserted = {};
     m_engine.send(SCI_ALLOCATE, utf8.size() + 1);
     m_engine.sendText(SCI_APPENDTEXT, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
+    m_units = utf16Length(utf8);
     m_engine.send(SCI_SETUNDOCOLLECTION, true);
     m_engine.send(SCI_EMPTYUNDOBUFFER);
     m_engine.send(SCI_SETSAVEPOINT);
     m_engine.send(SCI_SETMODEVENTMASK, events);
     m_engine.send(SCI_SETEMPTYSELECTION, 0);
     m_engine.send(SCI_SCROLLTOSTART);
-    m_engine.send(SCI_SETSCROLLWIDTH, 1);
+    m_engine.send(SCI_SETSCROLLWIDTH, widthOfFirstLines());
     m_colouring->restart();
     m_braces->clear();
     applyLineEnds();

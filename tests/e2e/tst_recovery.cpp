@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "e2e/programfolder.h"
+#include "e2e/runningprogram.h"
+#include "e2e/titles.h"
+#include "support/testregistry.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#include <sys/stat.h>
+
+#include <array>
+
+using namespace zephira;
+using namespace zephira::titles;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Milliseconds within which a text that was changed is promised to be in a copy.
+constexpr int recoveryPatience = 15000;
+
+mode_t modeOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+} // namespace
+
+/// The copies of unsaved text: when they come, who may read them, when they go.
+class TstRecovery : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// Four processes at once, so that the time until the copy is waited for once.
+    void aCopyComesAndGoes()
+    {
+        struct Session {
+            ProgramFolder folder;
+            QString path = folder.write(u"page.txt"_s, "text");
+            QString caption = RunningProgram::captionOf(path);
+            RunningProgram program{folder, {path}};
+        };
+        std::array<Session, 4> sessions;
+        for (const Session &session : sessions) {
+            QVERIFY(session.program.waitForWindow(session.caption));
+            session.program.type(session.caption, u"unsaved "_s);
+        }
+        for (const Session &session : sessions) {
+            QTRY_COMPARE_WITH_TIMEOUT(session.folder.recoveryCopies().size(), 1, recoveryPatience);
+            const QString copy = session.folder.recoveryCopies().first();
+            QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(copy), "unsaved text", patience);
+            QCOMPARE(modeOf(copy), mode_t(0600));
+            QCOMPARE(modeOf(QFileInfo(copy).path()), mode_t(0700));
+        }
+        auto &[killed, saved, closed, left] = sessions;
+
+        killed.program.kill();
+        QCOMPARE(killed.folder.recoveryCopies().size(), 1);
+        QCOMPARE(ProgramFolder::read(killed.folder.recoveryCopies().first()), "unsaved text");
+        QCOMPARE(ProgramFolder::read(killed.path), "text");
+
+        saved.program.key(saved.caption, u"ctrl+s"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(saved.path), "unsaved text", patience);
+        QTRY_COMPARE_WITH_TIMEOUT(saved.folder.recoveryCopies(), QStringList(), patience);
+
+        closed.program.close(closed.caption);
+        closed.program.answer(modified, u"alt+n"_s);
+        QCOMPARE(closed.program.waitForEnd(), 0);
+        QCOMPARE(closed.folder.recoveryCopies(), QStringList());
+
+        left.program.key(left.caption, u"alt+f e"_s);
+        QCOMPARE(left.program.waitForEnd(), 0);
+        QCOMPARE(left.folder.recoveryCopies(), QStringList());
+        QCOMPARE(ProgramFolder::read(left.path), "text");
+    }
+
+    /// The copy of a killed process is the user's to find: a later start leaves it alone and asks nothing.
+    void aCopyOutlivesTheNextStart()
+    {
+        ProgramFolder folder;
+        const QString copy = folder.write(u"home/.config/Zephira/recovery/open-20200101-000000-000-1-page.txt"_s, "lost");
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(ProgramFolder::read(copy), "lost");
+    }
+};
+
+ZEPHIRA_TEST(TstRecovery)
+#include "tst_recovery.moc"
