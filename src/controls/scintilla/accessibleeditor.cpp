@@ -25,14 +25,6 @@ void needIndex(const SciEngine &engine)
         engine.send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
 }
 
-int offsetOf(const SciEngine &engine, qsizetype position)
-{
-    needIndex(engine);
-    const qsizetype line = engine.lineOf(position);
-    return static_cast<int>(engine.send(Sci::SCI_INDEXPOSITIONFROMLINE, line, Sci::SC_LINECHARACTERINDEX_UTF16)
-                            + utf16Length(engine.bytes(engine.lineStart(line), position)));
-}
-
 /// The finder's name for what lies within a line; characters, lines and the whole text have none.
 std::optional<QTextBoundaryFinder::BoundaryType> finderType(QAccessible::TextBoundaryType boundary)
 {
@@ -60,32 +52,12 @@ QAccessibleInterface *AccessibleEditor::make(const QString &, QObject *object)
     return editor ? new AccessibleEditor(*editor) : nullptr;
 }
 
-void AccessibleEditor::tellInserted(CodeMax &editor, qsizetype position, qsizetype length)
+int AccessibleEditor::offsetOf(const SciEngine &engine, qsizetype position)
 {
-    const SciEngine &engine = editor.engine();
-    QAccessibleTextInsertEvent event(&editor, offsetOf(engine, position),
-                                     fromBuffer(engine.bytes(position, position + length), LineEnds::Mixed));
-    QAccessible::updateAccessibility(&event);
-}
-
-void AccessibleEditor::tellRemoved(CodeMax &editor, qsizetype position, qsizetype length)
-{
-    const SciEngine &engine = editor.engine();
-    QAccessibleTextRemoveEvent event(&editor, offsetOf(engine, position),
-                                     fromBuffer(engine.bytes(position, position + length), LineEnds::Mixed));
-    QAccessible::updateAccessibility(&event);
-}
-
-void AccessibleEditor::tellCaretMoved(CodeMax &editor)
-{
-    const SciEngine &engine = editor.engine();
-    const int anchor = offsetOf(engine, engine.anchor());
-    const int caret = offsetOf(engine, engine.caret());
-    QAccessibleTextSelectionEvent selected(&editor, std::min(anchor, caret), std::max(anchor, caret));
-    selected.setCursorPosition(caret);
-    QAccessible::updateAccessibility(&selected);
-    QAccessibleTextCursorEvent moved(&editor, caret);
-    QAccessible::updateAccessibility(&moved);
+    needIndex(engine);
+    const qsizetype line = engine.lineOf(position);
+    return static_cast<int>(engine.send(Sci::SCI_INDEXPOSITIONFROMLINE, line, Sci::SC_LINECHARACTERINDEX_UTF16)
+                            + utf16Length(engine.bytes(engine.lineStart(line), position)));
 }
 
 void *AccessibleEditor::interface_cast(QAccessible::InterfaceType type)

@@ -19,10 +19,8 @@ public:
 
     /// The factory to install; makes an object for editing controls and for nothing else.
     static QAccessibleInterface *make(const QString &className, QObject *object);
-    /// To be called behind an insertion and in front of a removal, in byte positions.
-    static void tellInserted(CodeMax &editor, qsizetype position, qsizetype length);
-    static void tellRemoved(CodeMax &editor, qsizetype position, qsizetype length);
-    static void tellCaretMoved(CodeMax &editor);
+    /// The offset of a byte position.
+    static int offsetOf(const SciEngine &engine, qsizetype position);
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     QAccessible::State state() const override;

@@ -133,8 +133,11 @@ void CodeMax::beforeEdit(int position, int type, int length)
         return;
     }
     m_units -= utf16Length(m_engine.bytes(position, position + length));
-    if (QAccessible::isActive())
-        AccessibleEditor::tellRemoved(*this, position, length);
+    if (isListenedTo()) {
+        QAccessibleTextRemoveEvent event(this, AccessibleEditor::offsetOf(m_engine, position),
+                                         fromBuffer(m_engine.bytes(position, position + length), LineEnds::Mixed));
+        tell(event);
+    }
 }
 
 /// Counts an insertion that has been announced. Its text is only there behind it.
@@ -144,8 +147,11 @@ void CodeMax::settleInsertion()
     if (length == 0)
         return;
     m_units += utf16Length(m_engine.bytes(position, position + length));
-    if (QAccessible::isActive())
-        AccessibleEditor::tellInserted(*this, position, length);
+    if (isListenedTo()) {
+        QAccessibleTextInsertEvent event(this, AccessibleEditor::offsetOf(m_engine, position),
+                                         fromBuffer(m_engine.bytes(position, position + length), LineEnds::Mixed));
+        tell(event);
+    }
 }
 
 /// Comes in front of each of the engine's changes, of which one action may make several. A change that no action of the
@@ -187,9 +193,29 @@ void CodeMax::noteSelection()
     m_seen = now;
     showBraces();
     showSelectionBounds();
-    if (QAccessible::isActive())
-        AccessibleEditor::tellCaretMoved(*this);
+    if (isListenedTo()) {
+        const int anchor = AccessibleEditor::offsetOf(m_engine, now.anchor);
+        const int caret = AccessibleEditor::offsetOf(m_engine, now.caret);
+        QAccessibleTextSelectionEvent selected(this, std::min(anchor, caret), std::max(anchor, caret));
+        selected.setCursorPosition(caret);
+        tell(selected);
+        QAccessibleTextCursorEvent moved(this, caret);
+        tell(moved);
+    }
     emit SelChange();
+}
+
+bool CodeMax::isListenedTo() const
+{
+    return m_listener || QAccessible::isActive();
+}
+
+void CodeMax::tell(QAccessibleEvent &event)
+{
+    if (m_listener)
+        m_listener(&event);
+    else
+        QAccessible::updateAccessibility(&event);
 }
 
 void CodeMax::showBraces()

@@ -14,8 +14,11 @@
 #include <QVariantMap>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
+
+class QAccessibleEvent;
 
 namespace zephira {
 
@@ -177,6 +180,8 @@ public:
     IdleColouring &colouring() { return *m_colouring; }
     EditorSearch &search();
     EditorPrinter &printer();
+    /// Hears what assistive technology is told, in its place, and also while none is running.
+    void setAccessibleListener(std::function<void(QAccessibleEvent *)> listener) { m_listener = std::move(listener); }
     Prompts &prompts() { return m_services.prompts; }
     const EditorServices &services() const { return m_services; }
     /// Runs something that changes text or selection as one action: Change and SelChange come once, at its end.
@@ -248,6 +253,8 @@ private:
     void showBraces();
     void beforeEdit(int position, int type, int length);
     void settleInsertion();
+    bool isListenedTo() const;
+    void tell(QAccessibleEvent &event);
     void runCommand(int command);
     void type(QKeyEvent *event);
     void indentNewLine();
@@ -283,6 +290,7 @@ private:
     Selection m_seen;
     /// An insertion that has been announced and is still to be counted.
     Insertion m_inserted;
+    std::function<void(QAccessibleEvent *)> m_listener;
     quint64 m_textVersion = 1;
     /// Length of the buffer in UTF-16 code units.
     qsizetype m_units = 0;

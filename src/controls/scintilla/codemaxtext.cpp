@@ -166,7 +166,8 @@ void CodeMax::replaceDocument(QByteArrayView utf8)
     m_engine.send(SCI_CLEARALL);
     m_engine.send(SCI_MARKERDELETEALL, -1);
     // An index that assistive technology asked for would be kept up to date at each line that is read.
-    m_engine.send(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF16);
+    if (m_engine.send(SCI_GETLINECHARACTERINDEX) & SC_LINECHARACTERINDEX_UTF16)
+        m_engine.send(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF16);
     m_inserted = {};
     m_engine.send(SCI_ALLOCATE, utf8.size() + 1);
     m_engine.sendText(SCI_APPENDTEXT, utf8.size(), utf8.isEmpty() ? "" : utf8.data());

@@ -4,6 +4,7 @@
 #include "controls/files/recoverycopies.h"
 #include "controls/scintilla/codemax.h"
 #include "controls/scintilla/codemaxglobals.h"
+#include "controls/scintilla/editorappearance.h"
 #include "controls/scintilla/idlecolouring.h"
 #include "support/fakes.h"
 

@@ -4,6 +4,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -269,6 +270,42 @@ private slots:
         QTest::keyClicks(&f.editor, u"x"_s);
         QCOMPARE(changes.count(), 4);
         QCOMPARE(f.editor.text(), u"x"_s);
+    }
+
+    void theLengthIsKeptThroughAnyEdits_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::newRow("CR LF") << "one\r\ntwo\r\n"_ba;
+        QTest::newRow("LF") << "one\ntwo\n"_ba;
+        QTest::newRow("CR") << "one\rtwo\r"_ba;
+        QTest::newRow("mixed") << "one\rtwo\n\r\n"_ba;
+    }
+    void theLengthIsKeptThroughAnyEdits()
+    {
+        QFETCH(QByteArray, file);
+        EditorFixture f;
+        f.files.contents[u"/file"_s] = file;
+        QVERIFY(f.editor.openFile(u"/file"_s));
+        QRandomGenerator random(99);
+        const QStringList pieces{u"a"_s, u"é€"_s, u"\U0001f600"_s, u"\r\n"_s, u"\n"_s, u"\r"_s, QString(QChar(0)), QString()};
+        for (int i = 0; i < 2000; ++i) {
+            const auto number = [&](int below) { return static_cast<int>(random.bounded(below)); };
+            const int doing = number(12);
+            if (doing == 0)
+                f.editor.undo();
+            else if (doing == 1)
+                f.editor.redo();
+            else if (doing == 2 && number(20) == 0)
+                f.editor.setText(pieces[number(8)] + pieces[number(8)]);
+            else if (doing == 3)
+                f.editor.clearSelection();
+            else if (doing < 7)
+                f.editor.select({number(8), number(6), number(8), number(6)});
+            else
+                f.editor.setSelText(pieces[number(8)]);
+            QCOMPARE(f.editor.textLength(), f.editor.text().size());
+            QCOMPARE(f.editor.selLength(), f.editor.selText().size());
+        }
     }
 
     void clipboardOperations()
