@@ -80,7 +80,7 @@ QStringList RunningProgram::withoutSizeSignal()
 QStringList RunningProgram::windows() const
 {
     QStringList titles;
-    const QByteArray ids = xdotool({u"search"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
+    const QByteArray ids = xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
     for (const QByteArray &id : ids.split('\n')) {
         if (!id.isEmpty())
             titles.append(QString::fromUtf8(xdotool({u"getwindowname"_s, QString::fromLatin1(id)})));
@@ -119,7 +119,7 @@ bool RunningProgram::waitUntilGone(const QString &title) const
 
 QString RunningProgram::windowId(const QString &title) const
 {
-    const QByteArray ids = xdotool({u"search"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
+    const QByteArray ids = xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
     for (const QByteArray &id : ids.split('\n')) {
         const QString window = QString::fromLatin1(id);
         if (!id.isEmpty() && QString::fromUtf8(xdotool({u"getwindowname"_s, window})) == title)

@@ -32,6 +32,8 @@ public:
     /// Waits until a window of that title shows, among others.
     bool waitForWindow(const QString &title) const;
     bool waitUntilGone(const QString &title) const;
+    /// The window system's number of the window of that title; empty while none shows.
+    QString windowId(const QString &title) const;
 
     /// Sends keys, divided by blanks, to the window of that title, which takes the focus first: "Escape", "alt+f e".
     void key(const QString &title, const QString &keys) const;
@@ -57,8 +59,6 @@ public:
     qint64 pid() const { return m_process.processId(); }
 
 private:
-    QString windowId(const QString &title) const;
-
     QProcess m_process;
 };
 

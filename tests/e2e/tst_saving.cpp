@@ -124,8 +124,10 @@ private Q_SLOTS:
         program.fillIn(openDialog, path);
         QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
         program.key(RunningProgram::captionOf(path), u"ctrl+v ctrl+s"_s);
-        program.answer(message, keys);
-        QVERIFY(program.waitUntilGone(message));
+        QVERIFY(program.waitForWindow(message));
+        const QString question = program.windowId(message);
+        program.key(message, keys);
+        QTRY_VERIFY_WITH_TIMEOUT(program.windowId(message) != question, patience);
         if (after.size() == 1) {
             program.answer(message, u"Return"_s); // It says that the file was not saved, and why.
             QVERIFY(program.waitUntilGone(message));

@@ -4,6 +4,7 @@
 #include "controls/files/atomicwrite.h"
 #include "controls/files/fileerror.h"
 #include "controls/files/filesystemcalls.h"
+#include "controls/files/mappedfile.h"
 #include "controls/files/textfile.h"
 
 #include <QFile>
@@ -14,7 +15,6 @@
 #include <optional>
 
 #include <fcntl.h>
-#include <sys/mman.h>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +24,9 @@ namespace {
 
 /// Opening must neither wait for a pipe's other end nor make a terminal ours.
 constexpr int readFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY;
+
+/// In bytes. For smaller files a copy costs less than the mapping.
+constexpr qint64 smallestMapped = 1024 * 1024;
 
 /// The path in the system's encoding; nothing for one that would be cut at a NUL and so name another file.
 std::optional<QByteArray> systemPath(const QString &path)
@@ -38,16 +41,6 @@ Error tooLarge(const QString &path)
                      u"it is larger than %1 MiB"_s.arg(maximumFileSize / (1024 * 1024)));
 }
 
-/// Filling a large buffer is mostly the making of its pages; large pages are fewer. Only advice: failing does no harm.
-void adviseHugePages(QByteArray &buffer)
-{
-    constexpr quintptr hugePage = 2 * 1024 * 1024;
-    const quintptr start = (quintptr(buffer.data()) + hugePage - 1) / hugePage * hugePage;
-    const quintptr end = quintptr(buffer.data() + buffer.size()) / hugePage * hugePage;
-    if (start < end)
-        ::madvise(reinterpret_cast<void *>(start), end - start, MADV_HUGEPAGE);
-}
-
 } // namespace
 
 DiskFileStore::DiskFileStore() : m_ownCalls(std::make_unique<FileSystemCalls>()), m_calls(*m_ownCalls) {}
@@ -56,7 +49,8 @@ DiskFileStore::DiskFileStore(FileSystemCalls &calls) : m_calls(calls) {}
 
 DiskFileStore::~DiskFileStore() = default;
 
-Result<QByteArray> DiskFileStore::read(const QString &path) const
+/// Opens a file that can be read whole: a regular one, and not too large.
+Result<DiskFileStore::OpenFile> DiskFileStore::open(const QString &path) const
 {
     const std::optional<QByteArray> name = systemPath(path);
     struct stat status = {};
@@ -74,12 +68,40 @@ Result<QByteArray> DiskFileStore::read(const QString &path) const
     const int file = m_calls.open(name->constData(), readFlags);
     if (file < 0)
         return readError(path, errno);
-    const auto closing = qScopeGuard([&] { m_calls.close(file); });
+    return OpenFile{file, status.st_size};
+}
+
+Result<QByteArray> DiskFileStore::read(const QString &path) const
+{
+    const Result<OpenFile> opened = open(path);
+    return opened ? readOpen(path, opened.value()) : opened.error();
+}
+
+Result<FileView> DiskFileStore::view(const QString &path) const
+{
+    const Result<OpenFile> opened = open(path);
+    if (!opened)
+        return opened.error();
+    if (opened.value().size >= smallestMapped) {
+        if (const auto mapped = MappedFile::map(opened.value().file)) {
+            const QByteArrayView bytes = mapped->bytes();
+            if (bytes.size() > maximumFileSize)
+                return tooLarge(path);
+            return FileView{QByteArray::fromRawData(bytes.data(), bytes.size()), mapped};
+        }
+    }
+    Result<QByteArray> content = readOpen(path, opened.value());
+    return content ? Result<FileView>(FileView{std::move(content).value()}) : content.error();
+}
+
+Result<QByteArray> DiskFileStore::readOpen(const QString &path, OpenFile open) const
+{
+    const auto [file, size] = open;
+    const auto closing = qScopeGuard([this, file = file] { m_calls.close(file); });
 
     // One byte more than the size, so that the end is seen without growing; a file that grows meanwhile, or one of the
     // kernel's whose size says nothing, is read on.
-    QByteArray content(status.st_size + 1, Qt::Uninitialized);
-    adviseHugePages(content);
+    QByteArray content(size + 1, Qt::Uninitialized);
     qsizetype length = 0;
     for (;;) {
         if (length == content.size())

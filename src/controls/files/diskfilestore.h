@@ -21,6 +21,8 @@ public:
     using FileStore::write;
     /// The whole file. Folders and devices are refused, and so are files above `maximumFileSize` with Code::TooLarge.
     Result<QByteArray> read(const QString &path) const override;
+    /// Large files are mapped, where the system can keep writers out meanwhile.
+    Result<FileView> view(const QString &path) const override;
     /// See AtomicWrite for what is kept of the old file.
     Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) override;
     Result<void> remove(const QString &path) override;
@@ -28,6 +30,13 @@ public:
     FileSignature signature(const QString &path) const override;
 
 private:
+    struct OpenFile {
+        int file = -1;
+        qint64 size = 0;
+    };
+    Result<OpenFile> open(const QString &path) const;
+    Result<QByteArray> readOpen(const QString &path, OpenFile open) const;
+
     std::unique_ptr<FileSystemCalls> m_ownCalls;
     FileSystemCalls &m_calls;
 };

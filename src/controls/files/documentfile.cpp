@@ -31,14 +31,17 @@ Result<DecodedText> DocumentFile::open(const QString &path)
 {
     // Taken before the reading: a change in between then shows as one.
     const FileSignature signature = m_files.signature(path);
-    Result<QByteArray> bytes = m_files.read(path);
+    Result<FileView> file = m_files.view(path);
     std::optional<FileSignature> &seen = m_seen[QDir::cleanPath(path)];
-    if (!bytes) {
+    if (!file) {
         seen.reset();
-        return bytes.error();
+        return file.error();
     }
     seen = signature;
-    return decodeText(std::move(bytes).value());
+    FileView content = std::move(file).value();
+    DecodedText text = decodeText(std::move(content.bytes));
+    text.owner = std::move(content.owner);
+    return text;
 }
 
 Result<void> DocumentFile::save(const QString &path, std::span<const QByteArrayView> utf8Pieces, const TextFormat &format)

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <span>
 
 namespace zephira {
@@ -23,6 +24,12 @@ struct FileSignature {
     friend bool operator==(const FileSignature &, const FileSignature &) = default;
 };
 
+/// A file's bytes for a short look. Copies of `bytes` must not outlive the owner, which may be the file itself, mapped.
+struct FileView {
+    QByteArray bytes;
+    std::shared_ptr<const void> owner = {};
+};
+
 /// Files by full path. The program works on the disk; tests work in memory or with a store that fails where they say.
 class FileStore
 {
@@ -30,6 +37,12 @@ public:
     virtual ~FileStore() = default;
 
     virtual Result<QByteArray> read(const QString &path) const = 0;
+    /// The same without a copy where the store can do that.
+    virtual Result<FileView> view(const QString &path) const
+    {
+        Result<QByteArray> content = read(path);
+        return content ? Result<FileView>(FileView{std::move(content).value()}) : content.error();
+    }
     /// Replaces the file with the pieces, joined, so that at every moment the old or the new content stands on the disk.
     /// Mode, owner where possible, and a symbolic link's target are kept. `mode` is for a file that is new.
     virtual Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) = 0;

@@ -25,6 +25,8 @@ struct TextFormat {
 struct DecodedText {
     QByteArray utf8;
     TextFormat format;
+    /// What `utf8` stands in, where that is the file itself; no copy of `utf8` may outlive it.
+    std::shared_ptr<const void> owner = {};
 };
 
 /// The buffer that was given is the one that comes back, if the file is UTF-8 and nobody else holds it.

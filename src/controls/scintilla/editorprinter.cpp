@@ -3,6 +3,7 @@
 
 #include "controls/scintilla/codemax.h"
 #include "controls/scintilla/idlecolouring.h"
+#include "controls/scintilla/indicators.h"
 
 #include <Qsci/qsciprinter.h>
 
@@ -12,6 +13,7 @@
 #include <QPointer>
 #include <QPrintDialog>
 
+#include <array>
 #include <memory>
 
 namespace zephira {
@@ -20,7 +22,34 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using Sci = QsciScintillaBase;
+
 constexpr double headerPoints = 9;
+constexpr double marginMillimetres = 15;
+
+/// Takes the marks away that show where a person is working, as long as it lives.
+class WithoutMarks
+{
+public:
+    explicit WithoutMarks(const SciEngine &engine) : m_engine(engine)
+    {
+        for (size_t i = 0; i < marks.size(); ++i) {
+            m_styles[i] = engine.send(Sci::SCI_INDICGETSTYLE, marks[i]);
+            engine.send(Sci::SCI_INDICSETSTYLE, marks[i], Sci::INDIC_HIDDEN);
+        }
+    }
+    ~WithoutMarks()
+    {
+        for (size_t i = 0; i < marks.size(); ++i)
+            m_engine.send(Sci::SCI_INDICSETSTYLE, marks[i], m_styles[i]);
+    }
+    Q_DISABLE_COPY_MOVE(WithoutMarks)
+
+private:
+    static constexpr std::array marks{BraceIndicator, BoundsIndicator};
+    const SciEngine &m_engine;
+    std::array<qsizetype, marks.size()> m_styles{};
+};
 
 /// A printer that heads each page.
 class PagePrinter final : public QsciPrinter
@@ -30,6 +59,8 @@ public:
     {
         setDocName(m_title);
         setWrapMode(QsciScintilla::WrapWord);
+        const QMarginsF margins(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres);
+        setPageMargins(margins, QPageLayout::Millimeter);
     }
 
     void formatPage(QPainter &painter, bool drawing, QRect &area, int page) override
@@ -48,6 +79,7 @@ public:
         painter.setPen(Qt::black);
         painter.drawText(header, Qt::AlignLeft | Qt::AlignVCenter, metrics.elidedText(m_title, Qt::ElideMiddle, room));
         painter.drawText(header, Qt::AlignRight | Qt::AlignVCenter, number);
+        painter.setPen(QPen(Qt::gray, metrics.lineWidth() / 2.0));
         painter.drawLine(area.left(), header.bottom() + metrics.height() / 4, area.right(),
                          header.bottom() + metrics.height() / 4);
         painter.restore();
@@ -83,7 +115,8 @@ void EditorPrinter::print()
         if (!editor)
             return;
         editor->colouring().colourAll();
-        editor->engine().send(QsciScintillaBase::SCI_SETPRINTCOLOURMODE, QsciScintillaBase::SC_PRINT_COLOURONWHITE);
+        editor->engine().send(Sci::SCI_SETPRINTCOLOURMODE, Sci::SC_PRINT_COLOURONWHITE);
+        const WithoutMarks withoutMarks(editor->engine());
         printer->printRange(editor);
     });
 }
