@@ -11,9 +11,9 @@ std::span<const WindowTab> sideTabs()
 {
     static constexpr WindowTab tabs[] = {
         {u"fileman", u"File Manager", u"File Manager", u"folder-symbolic"},
-        {u"asp", u"ASP Codes / Tags", u"ASP Codes / Tags", u"application-x-php"},
-        {u"html", u"HTML Tags", u"HTML Tags", u"text-html"},
-        {u"ihtml", u"IHTML Tags", u"IHTML Tags", u"text-xml"},
+        {u"asp", u"ASP Codes / Tags", u"ASP Codes / Tags", u"format-text-code"},
+        {u"html", u"HTML Tags", u"HTML Tags", u"tag"},
+        {u"ihtml", u"IHTML Tags", u"IHTML Tags", u"code-context"},
         {u"documenttree", u"Document Tree", u"Document Tree", u"view-list-tree"},
         {u"scripts", u"Script Library", u"Script Library", u"dialog-scripts"},
         {u"c1", u"", u"Custom tab 1", u""},

@@ -91,8 +91,7 @@ public:
     virtual void cut() = 0;
     virtual void copy() = 0;
     virtual void paste() = 0;
-    /// Removes the selection without touching the clipboard; with nothing selected, the character behind the caret, as the
-    /// Del key does.
+    /// Removes the selection without touching the clipboard; with nothing selected, nothing.
     virtual void clearSelection() = 0;
     /// Runs a built-in command; numbers that aren't known do nothing.
     virtual void executeCmd(int command, int argument = -1) = 0;

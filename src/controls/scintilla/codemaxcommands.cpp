@@ -87,7 +87,7 @@ void CodeMax::runCommand(int command)
         {CutText, [](CodeMax &editor) { editor.cut(); }},
         {CopyText, [](CodeMax &editor) { editor.copy(); }},
         {PasteText, [](CodeMax &editor) { editor.paste(); }},
-        {DeleteText, [](CodeMax &editor) { editor.clearSelection(); }},
+        {DeleteText, [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_CLEAR); }); }},
     };
     const auto row = std::ranges::find(rows, command, &Row::command);
     if (row != std::end(rows))

@@ -39,6 +39,20 @@ qsizetype leadingBlanks(QByteArrayView line)
 
 } // namespace
 
+bool CodeMax::event(QEvent *event)
+{
+    // The key deletes the next character where nothing is selected; a menu entry on the same key only knows selections.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Delete && !(key->modifiers() & ~Qt::KeypadModifier) && !isReadOnly()
+            && m_engine.send(SCI_GETSELECTIONEMPTY)) {
+            event->accept();
+            return true;
+        }
+    }
+    return QsciScintillaBase::event(event);
+}
+
 void CodeMax::keyPressEvent(QKeyEvent *event)
 {
     const QKeyCombination keys = event->keyCombination();

@@ -303,7 +303,8 @@ void CodeMax::paste()
 
 void CodeMax::clearSelection()
 {
-    perform([this] { m_engine.send(SCI_CLEAR); });
+    if (!m_engine.send(SCI_GETSELECTIONEMPTY))
+        perform([this] { m_engine.send(SCI_CLEAR); });
 }
 
 } // namespace zephira

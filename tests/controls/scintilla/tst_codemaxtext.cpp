@@ -333,12 +333,22 @@ private slots:
         QCOMPARE(f.editor.text(), u"one"_s);
     }
 
-    void deletingWithoutASelectionTakesTheNextCharacter()
+    void clearingWithoutASelectionChangesNothing()
     {
         EditorFixture f;
         f.editor.setText(u"a\r\nb"_s);
         f.editor.select({0, 1, 0, 1});
         f.editor.clearSelection();
+        QCOMPARE(f.editor.text(), u"a\r\nb"_s);
+    }
+
+    void theDeleteKeyTakesTheNextCharacter()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"a\r\nb"_s);
+        f.editor.select({0, 1, 0, 1});
+        QTest::keyClick(&f.editor, Qt::Key_Delete);
         QCOMPARE(f.editor.text(), u"ab"_s);
     }
 
