@@ -79,8 +79,9 @@ bool Document::mayGoOn(PromptIcon icon)
     if (!m_modified)
         return true;
     const Answer answer = askToSave(icon);
-    if (answer == Answer::Yes)
-        doSave(); // Whatever comes of it, the command goes on.
+    // Whatever comes of the save, the command goes on, and the text gives way to another one.
+    if (answer == Answer::Yes && !doSave())
+        m_window.keepUnsavedText();
     return answer != Answer::Cancel;
 }
 
@@ -174,7 +175,8 @@ void Document::open()
         return;
     m_dialog.title = u"Open a document..."_s;
     m_dialog.filter = QStringView(openFilter).toString();
-    const auto chosen = m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false});
+    const auto chosen = m_context.prompts.file(
+        {m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false, m_dialog.fileName});
     if (!chosen || chosen->isEmpty())
         return;
     const QString name = *chosen;
@@ -212,7 +214,8 @@ bool Document::DoSaveAs()
 
     QString name;
     for (;;) {
-        const auto chosen = m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, true});
+        const auto chosen = m_context.prompts.file(
+            {m_dialog.title, m_dialog.filter, m_dialog.initialFolder, true, m_dialog.fileName});
         if (!chosen || chosen->isEmpty() || *chosen == u" "_s)
             return false;
         name = *chosen;

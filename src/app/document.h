@@ -56,9 +56,9 @@ public:
     /// Opens the file of the command line. Errors are ignored.
     void openAtStart(const QString &path);
 
-    /// Before the window closes: asks about changes. Returns false if the user refused. Sets `saveFailed` where the
-    /// user wanted the text saved and it isn't.
+    /// Before the window closes: asks about changes. Returns false if the user refused.
     bool askToClose();
+    /// Whether the user wanted the text saved at the last askToClose() and it isn't.
     bool saveFailedAtClose() const { return m_saveFailedAtClose; }
 
     /// Carries the designer's text back into the code view, if it is showing and dirty.

@@ -24,6 +24,8 @@ public:
     virtual void selectCodeTab() = 0;
     /// The text is in its file now, or isn't wanted any more: no recovery copy is needed.
     virtual void documentSettled() = 0;
+    /// The text was to be saved, which failed, and is about to be replaced: keeps it as a recovery copy that stays.
+    virtual void keepUnsavedText() = 0;
     virtual void showTemplateChooser() = 0;
 
     /// The file pane: the selected item's text, or empty; and the folder that is listed.

@@ -196,13 +196,18 @@ void frmmain::connectCommands()
         m_formattingBar->close(key.toString());
 }
 
+bool frmmain::FileExists(const QString &path) const
+{
+    return m_services.files.FileExists(path);
+}
+
 void frmmain::languageChanged(int row)
 {
     if (row < 0 || row >= languageCount)
         return;
     const LanguageRow &language = languageRows()[size_t(row)];
     m_formattingBar->setMarkupOpen(language.markupTools);
-    m_menus->menu(u"Tags"_s)->menuAction()->setEnabled(language.markupTools);
+    m_menus->menu(u"Tags"_s)->setEnabled(language.markupTools); // Its entry in the menu bar follows.
     m_rt->setLanguage(QStringView(language.editorLanguage).toString());
 }
 

@@ -79,6 +79,7 @@ public:
     Q_INVOKABLE bool DoSaveAs() { return m_document->DoSaveAs(); }
     Q_INVOKABLE void OpenAFile() { m_document->OpenAFile(); }
     Q_INVOKABLE void SetSyntax() { m_document->SetSyntax(); }
+    Q_INVOKABLE bool FileExists(const QString &path) const;
     Q_INVOKABLE void InsertAtCaret(const QString &text);
 
     const WindowServices &services() const { return m_services; }
@@ -119,6 +120,7 @@ public:
     void notice(const QString &sentence) override;
     void selectCodeTab() override;
     void documentSettled() override;
+    void keepUnsavedText() override;
     void showTemplateChooser() override;
     QString listedFile() const override;
     QString listedFolder() const override;

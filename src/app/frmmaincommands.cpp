@@ -11,25 +11,19 @@
 #include "controls/formposition.h"
 #include "controls/modalformopener.h"
 #include "controls/quickviewer.h"
+#include "controls/settingsnames.h"
 #include "controls/shell.h"
 #include "panes/filepane.h"
 #include "ui_frmmain.h"
+#include "views/picturefile.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
-#include <QImageReader>
 #include <QListWidget>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
-
-namespace {
-
-constexpr qint64 maximumPixels = 100'000'000;
-
-} // namespace
 
 void frmmain::InsertAtCaret(const QString &text)
 {
@@ -94,6 +88,11 @@ void frmmain::documentSettled()
     m_recoveryKeeper->discard();
 }
 
+void frmmain::keepUnsavedText()
+{
+    m_recoveryKeeper->keepForGood();
+}
+
 void frmmain::showTemplateChooser()
 {
     m_forms->openModal(u"frmselprj"_s);
@@ -111,13 +110,9 @@ QString frmmain::listedFolder() const
 
 Result<QSize> frmmain::pictureSize(const QString &path) const
 {
-    QImageReader reader(path);
-    const QSize size = reader.size();
-    if (!size.isValid())
-        return Error{Error::Code::Malformed, u"%1 isn't a picture that can be read: %2"_s.arg(path, reader.errorString())};
-    if (qint64(size.width()) * size.height() > maximumPixels)
-        return Error{Error::Code::TooLarge, u"%1 is too large: pictures may have 100 megapixels."_s.arg(path)};
-    return size;
+    // Read whole, because a picture that is cut short has a size all the same.
+    const Result<QPixmap> picture = readPicture(m_services.files, path);
+    return picture ? Result<QSize>(picture.value().size()) : picture.error();
 }
 
 Result<void> frmmain::showPicture(const QString &path)
@@ -156,8 +151,11 @@ void frmmain::updateProgram()
     const Result<void> started = m_services.shell.start(m_services.appPath + u"/update.exe"_s, {});
     if (!started)
         m_services.prompts.tell(started.error().sentence, {}, Question::Icon::Exclamation);
-    if (!close())
-        m_services.endProcess(); // The process ends in any case; what wasn't saved stays as a recovery copy.
+    if (!close()) {
+        // The process ends in any case; what wasn't saved stays as a recovery copy.
+        m_recoveryKeeper->writeNow();
+        m_services.endProcess();
+    }
 }
 
 void frmmain::selectOpenTab(QTabBar &tabs, int index)
@@ -244,7 +242,7 @@ void frmmain::checkSpelling()
 void frmmain::unload()
 {
     ignoringErrors({
-        [this] { FormPosition(*this, true, m_services.settings, QCoreApplication::applicationName()); },
+        [this] { FormPosition(*this, true, m_services.settings, executableBranch()); },
         [this] { m_forms->closeAll(); },
         [this] { m_document->discardPreview(); },
         [this] {

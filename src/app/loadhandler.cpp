@@ -12,6 +12,7 @@
 #include "controls/formposition.h"
 #include "controls/scintilla/codemax.h"
 #include "controls/scintilla/codemaxglobals.h"
+#include "controls/settingsnames.h"
 #include "controls/syntax/languageregistry.h"
 #include "panes/filepane.h"
 #include "panes/foldertree.h"
@@ -97,7 +98,7 @@ QStringList LoadHandler::dataLines(const QString &name) const
 
 void LoadHandler::restorePlacement()
 {
-    FormPosition(m_window, false, m_window.services().settings, QCoreApplication::applicationName());
+    FormPosition(m_window, false, m_window.services().settings, executableBranch());
 }
 
 void LoadHandler::setHelpFile()
@@ -113,7 +114,7 @@ void LoadHandler::setFilePattern()
 void LoadHandler::recordProgramFolder()
 {
     UserSettings &settings = m_window.services().settings;
-    const QString branch = u"Zephira"_s;
+    const QString branch = sharedBranch();
     const QString section = u"data"_s;
     if (settings.GetSetting(branch, section, u"apppath"_s, {}) == m_window.appPath())
         return;

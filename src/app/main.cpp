@@ -5,6 +5,7 @@
 
 #include <QApplication>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -12,6 +13,9 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
+    // A file that outgrows the system's limit is an error of its save, and not the end of the program.
+    std::signal(SIGXFSZ, SIG_IGN);
+
     QStringList words;
     for (int i = 1; i < argc; ++i)
         words.append(QString::fromLocal8Bit(argv[i]));

@@ -61,7 +61,7 @@ Menus::Menus(QMenuBar *bar, QObject *owner)
     for (const QuickTag &tag : tagsMenu())
         action(tag.key.toString())->setStatusTip(tagStatusTip(tag));
     for (const QStringView name : visualMenus())
-        menu(name.toString())->menuAction()->setEnabled(false);
+        menu(name.toString())->setEnabled(false); // Its entry in the menu bar follows.
     for (const MenuItem &item : popupTable())
         makeMenu(item, bar);
 }

@@ -2,6 +2,7 @@
 #include "app/program.h"
 
 #include "app/comingforms.h"
+#include "app/disabledicons.h"
 #include "app/failedstart.h"
 #include "app/frmmain.h"
 #include "app/icons.h"
@@ -56,6 +57,7 @@ QString recoveryFolder()
 
 int runProgram(QApplication &application, const QString &argument)
 {
+    QApplication::setStyle(new DisabledIcons);
     const IconTheme theme(application);
     QApplication::setWindowIcon(QIcon(u":/zephira.svg"_s));
 

@@ -38,11 +38,20 @@ void RecoveryKeeper::due()
         discard();
 }
 
+QString RecoveryKeeper::documentName() const
+{
+    return m_document.docPath().isEmpty() ? u"New Document"_s : m_document.docPath();
+}
+
+void RecoveryKeeper::keepForGood()
+{
+    const auto [front, back] = m_editor.utf8Pieces();
+    [[maybe_unused]] const Result<QString> kept = m_copies.keepDisk(documentName(), front.toByteArray().append(back));
+}
+
 void RecoveryKeeper::writeNow()
 {
-    const auto pieces = m_editor.utf8Pieces();
-    const QString name = m_document.docPath().isEmpty() ? u"New Document"_s : m_document.docPath();
-    if (m_copies.write(name, pieces))
+    if (m_copies.write(documentName(), m_editor.utf8Pieces()))
         m_schedule.settled();
     else
         m_timer.start(m_schedule.copyFailed(now()));

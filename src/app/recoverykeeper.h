@@ -26,10 +26,14 @@ public:
     void textChanged();
     /// The document was saved, or its text isn't wanted any more.
     void discard();
+    /// Writes the copy at once, in place of the one before.
     void writeNow();
+    /// Writes a copy that no later discard() removes.
+    void keepForGood();
 
 private:
     RecoverySchedule::Time now() const;
+    QString documentName() const;
     void due();
 
     RecoveryCopies &m_copies;

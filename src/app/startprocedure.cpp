@@ -8,9 +8,7 @@
 #include "controls/files/configuration.h"
 #include "controls/files/usersettings.h"
 #include "controls/modalformopener.h"
-
-#include <QCoreApplication>
-#include <QStandardPaths>
+#include "controls/settingsnames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,14 +42,13 @@ void runStartProcedure(frmmain &window, const QString &argument)
 
     const auto begin = [&window](const char16_t *step) { window.startSteps.append(QStringView(step).toString()); };
     begin(u"makeScratchFolder");
-    [[maybe_unused]] const Result<QString> scratch = scratchFolder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
+    [[maybe_unused]] const Result<QString> scratch = scratchFolder();
     begin(u"showWindow");
     window.show();
     begin(u"readShowTips");
-    const int showTips = window.services()
-                             .settings
-                             .GetSetting(QCoreApplication::applicationName(), u"Options"_s, u"Show Tips at Startup"_s, u"1"_s)
-                             .toInt();
+    const UserSettings &settings = window.services().settings;
+    const int showTips =
+        settings.GetSetting(executableBranch(), optionsSection(), showTipsKey(), showTipsDefault()).toInt();
     begin(u"readSelprj");
     const QString selprj = window.services().configuration.value(u"Startup"_s, u"selprj"_s);
     begin(u"showDialogs");

@@ -108,6 +108,14 @@ void CommandToolBar::close(const QString &key)
     QAction *button = action(key);
     markNotAvailable(button);
     m_unavailable.insert(button);
+    // A button of whose pull-down nothing is left has no reason to stay open, unless it does something itself.
+    for (const ToolButton &owner : m_table.buttons) {
+        const bool holdsKey = std::ranges::any_of(owner.pullDown, [&](const PullDownEntry &entry) { return entry.key == key; });
+        const bool isSpent = std::ranges::all_of(
+            owner.pullDown, [&](const PullDownEntry &entry) { return m_unavailable.contains(action(entry.key.toString())); });
+        if (holdsKey && isSpent && !owner.form.isEmpty())
+            close(owner.key.toString());
+    }
 }
 
 } // namespace zephira

@@ -30,7 +30,7 @@ public:
 
     /// Disables what needs a form that can't be opened yet and says so in its tool tip.
     void applyAvailability(const FormOpener &forms);
-    /// The same for one button or pull-down entry.
+    /// The same for one button or pull-down entry, and for the button of a pull-down of which nothing is left.
     void close(const QString &key);
 
 signals:

@@ -39,6 +39,9 @@ struct FileRequest {
     QString filter = {};
     QString initialFolder = {};
     bool saving = false;
+    /// Full path that the dialog starts at, or empty: its name stands in the box, and its folder shows where
+    /// `initialFolder` is empty or isn't there.
+    QString fileName = {};
 
     friend bool operator==(const FileRequest &, const FileRequest &) = default;
 };

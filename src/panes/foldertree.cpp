@@ -85,6 +85,12 @@ void FolderTree::setSelectedFolder(const QString &folder)
             if (target == path || target.startsWith(path + u'/'))
                 next = item->child(i);
         }
+        const QString inside = pathOf(item).endsWith(u'/') ? pathOf(item) : pathOf(item) + u'/';
+        if (!next && target.startsWith(inside)) {
+            // A hidden folder, and one that is newer than the tree, joins it when it is asked for.
+            const QString name = target.sliced(inside.size()).section(u'/', 0, 0);
+            next = addFolder(item, inside + name, name);
+        }
         if (next)
             item->setExpanded(true);
         item = next;

@@ -32,8 +32,8 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
     const QSize size = reader.size();
     if (size.isValid() && qint64(size.width()) * size.height() > maximumPicturePixels) {
         return Error{Error::Code::TooLarge,
-                     u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(path).arg(
-                         size.width()).arg(size.height())};
+                     u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(
+                         path, QString::number(size.width()), QString::number(size.height()))};
     }
     // The limit is one for the whole process, so it is lifted for this picture alone.
     const auto restoreLimit = qScopeGuard([limit = QImageReader::allocationLimit()] {

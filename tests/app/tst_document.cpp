@@ -25,6 +25,7 @@ struct FakeWindow final : DocumentWindow {
     QStringList notices;
     int codeTabs = 0;
     int settled = 0;
+    int kept = 0;
     int choosers = 0;
     QString file;
     QString folder = u"/site/img"_s;
@@ -37,6 +38,7 @@ struct FakeWindow final : DocumentWindow {
     void notice(const QString &sentence) override { notices.append(sentence); }
     void selectCodeTab() override { ++codeTabs; }
     void documentSettled() override { ++settled; }
+    void keepUnsavedText() override { ++kept; }
     void showTemplateChooser() override { ++choosers; }
     QString listedFile() const override { return file; }
     QString listedFolder() const override { return folder; }
@@ -66,12 +68,15 @@ struct Bench {
                 u"Document Modified."_s, icon, Question::Buttons::YesNoCancel};
     }
 
-    static FileRequest openRequest() { return {u"Open a document..."_s, QStringView(openFilter).toString(), {}, false}; }
-
-    static FileRequest saveRequest(const QString &filter = u"Text Files|*.txt|All Files|*.*"_s,
-                                   const QString &folder = u"Project Path"_s)
+    FileRequest openRequest() const
     {
-        return {u"Save a document..."_s, filter, folder, true};
+        return {u"Open a document..."_s, QStringView(openFilter).toString(), {}, false, dialog.fileName};
+    }
+
+    FileRequest saveRequest(const QString &filter = u"Text Files|*.txt|All Files|*.*"_s,
+                            const QString &folder = u"Project Path"_s) const
+    {
+        return {u"Save a document..."_s, filter, folder, true, dialog.fileName};
     }
 
     static Question overwrite(const QString &name)
@@ -129,10 +134,11 @@ private Q_SLOTS:
         bench.document.doNew();
         bench.fakes.editor.setText(u"x"_s);
         bench.fakes.prompts.expect(Bench::savePrompt(u"New Document"_s, Question::Icon::None), Answer::Yes);
-        bench.fakes.prompts.expectFile(Bench::saveRequest(), std::nullopt);
+        bench.fakes.prompts.expectFile(bench.saveRequest(), std::nullopt);
         bench.document.doNew();
         QCOMPARE(bench.fakes.editor.text(), QString());
         QVERIFY(!bench.document.docModified());
+        QCOMPARE(bench.window.kept, 1);
     }
 
     void openSetsEveryField()
@@ -158,7 +164,7 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.openFile(u"/site/a.css"_s, "a{}");
-        bench.fakes.prompts.expectFile(Bench::openRequest(), std::nullopt);
+        bench.fakes.prompts.expectFile(bench.openRequest(), std::nullopt);
         bench.document.open();
         QCOMPARE(bench.dialog.fileName, u"/site/a.css"_s);
         QCOMPARE(bench.document.docPath(), u"/site/a.css"_s);
@@ -175,13 +181,13 @@ private Q_SLOTS:
         QCOMPARE(bench.fakes.files.contents[u"/a.txt"_s], QByteArray("one"));
 
         bench.fakes.prompts.expect(Bench::savePrompt(u"/a.txt"_s), Answer::Yes);
-        bench.fakes.prompts.expectFile(Bench::openRequest(), std::nullopt);
+        bench.fakes.prompts.expectFile(bench.openRequest(), std::nullopt);
         bench.document.open();
         QCOMPARE(bench.fakes.files.contents[u"/a.txt"_s], QByteArray("two"));
 
         bench.fakes.editor.setText(u"three"_s);
         bench.fakes.prompts.expect(Bench::savePrompt(u"/a.txt"_s), Answer::No);
-        bench.fakes.prompts.expectFile(Bench::openRequest(), std::nullopt);
+        bench.fakes.prompts.expectFile(bench.openRequest(), std::nullopt);
         bench.document.open();
         QCOMPARE(bench.fakes.files.contents[u"/a.txt"_s], QByteArray("two"));
     }
@@ -192,7 +198,7 @@ private Q_SLOTS:
         bench.fakes.editor.setText(u"kept"_s);
         bench.document.setModified(false);
         bench.fakes.editor.openError = Error{Error::Code::Unreadable, u"/gone.html can't be read."_s};
-        bench.fakes.prompts.expectFile(Bench::openRequest(), u"/gone.html"_s);
+        bench.fakes.prompts.expectFile(bench.openRequest(), u"/gone.html"_s);
         bench.document.open();
         QCOMPARE(bench.document.docPath(), u"/gone.html"_s);
         QVERIFY(bench.document.docHasFile());
@@ -204,7 +210,7 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.fakes.editor.openError = Error{Error::Code::TooLarge, u"/big is too large."_s};
-        bench.fakes.prompts.expectFile(Bench::openRequest(), u"/big"_s);
+        bench.fakes.prompts.expectFile(bench.openRequest(), u"/big"_s);
         bench.fakes.prompts.expectTell(u"/big is too large."_s, {}, Question::Icon::Exclamation);
         bench.document.open();
     }
@@ -213,7 +219,7 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.fakes.editor.setText(u"text"_s);
-        bench.fakes.prompts.expectFile(Bench::saveRequest(), u"/new.css"_s);
+        bench.fakes.prompts.expectFile(bench.saveRequest(), u"/new.css"_s);
         bench.document.save();
         QCOMPARE(bench.fakes.files.contents[u"/new.css"_s], QByteArray("text"));
         QCOMPARE(bench.fakes.document.row, 8); // The language follows the new extension.
@@ -247,7 +253,7 @@ private Q_SLOTS:
         bench.openFile(u"/a.txt"_s, "one");
         bench.fakes.editor.setText(u"two"_s);
         bench.fakes.editor.saveError = Error{Error::Code::Unwritable, u"no"_s};
-        bench.fakes.prompts.expectFile(Bench::saveRequest(u"Text Files|*.txt|All Files|*.*"_s, u"/"_s), u"/b.css"_s);
+        bench.fakes.prompts.expectFile(bench.saveRequest(u"Text Files|*.txt|All Files|*.*"_s, u"/"_s), u"/b.css"_s);
         bench.document.saveAs();
         QCOMPARE(bench.document.docPath(), u"/a.txt"_s);
         QCOMPARE(bench.dialog.fileName, u"/a.txt"_s);
@@ -261,15 +267,15 @@ private Q_SLOTS:
         Bench bench;
         bench.fakes.editor.setText(u"mine"_s);
         bench.fakes.files.contents[u"/there.txt"_s] = "theirs";
-        bench.fakes.prompts.expectFile(Bench::saveRequest(), u"/there.txt"_s);
+        bench.fakes.prompts.expectFile(bench.saveRequest(), u"/there.txt"_s);
         bench.fakes.prompts.expect(Bench::overwrite(u"/there.txt"_s), Answer::No);
-        bench.fakes.prompts.expectFile(Bench::saveRequest(), u"/there.txt"_s);
+        bench.fakes.prompts.expectFile(bench.saveRequest(), u"/there.txt"_s);
         bench.fakes.prompts.expect(Bench::overwrite(u"/there.txt"_s), Answer::Cancel);
         bench.document.saveAs();
         QCOMPARE(bench.fakes.files.contents[u"/there.txt"_s], QByteArray("theirs"));
         QVERIFY(bench.document.docModified());
 
-        bench.fakes.prompts.expectFile(Bench::saveRequest(), u"/there.txt"_s);
+        bench.fakes.prompts.expectFile(bench.saveRequest(), u"/there.txt"_s);
         bench.fakes.prompts.expect(Bench::overwrite(u"/there.txt"_s), Answer::Yes);
         bench.document.saveAs();
         QCOMPARE(bench.fakes.files.contents[u"/there.txt"_s], QByteArray("mine"));
@@ -279,7 +285,7 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.fakes.editor.setText(u"x"_s);
-        bench.fakes.prompts.expectFile(Bench::saveRequest(), u" "_s);
+        bench.fakes.prompts.expectFile(bench.saveRequest(), u" "_s);
         bench.document.saveAs();
         QVERIFY(bench.fakes.files.contents.empty());
     }
@@ -289,7 +295,7 @@ private Q_SLOTS:
         Bench bench;
         bench.dialog.filter = u"Left|*.left"_s;
         bench.fakes.document.row = -1;
-        bench.fakes.prompts.expectFile(Bench::saveRequest(u"Left|*.left"_s), std::nullopt);
+        bench.fakes.prompts.expectFile(bench.saveRequest(u"Left|*.left"_s), std::nullopt);
         bench.document.saveAs();
     }
 
@@ -482,7 +488,7 @@ private Q_SLOTS:
         QVERIFY(!bench.document.saveFailedAtClose());
         // Yes, and then the save dialog is cancelled: the window closes all the same.
         bench.fakes.prompts.expect(Bench::savePrompt(u"New Document"_s), Answer::Yes);
-        bench.fakes.prompts.expectFile(Bench::saveRequest(), std::nullopt);
+        bench.fakes.prompts.expectFile(bench.saveRequest(), std::nullopt);
         QVERIFY(bench.document.askToClose());
         QVERIFY(bench.document.saveFailedAtClose());
     }

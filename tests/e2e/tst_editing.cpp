@@ -209,7 +209,7 @@ private Q_SLOTS:
     void aTemplateIsKept()
     {
         ProgramFolder folder;
-        const QString path = folder.write(u"page.html"_s, "<p>\n");
+        const QString path = folder.write(u"page.txt"_s, "<p>\n");
         RunningProgram program(folder, {path});
         QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
         program.type(RunningProgram::captionOf(path), u"x"_s);

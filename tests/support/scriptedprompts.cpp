@@ -79,7 +79,8 @@ QString described(const FileRequest &request)
     return described(request.saving ? u"save dialog"_s : u"open dialog"_s,
                      {{"title", quoted(request.title)},
                       {"filter", quoted(request.filter)},
-                      {"folder", quoted(request.initialFolder)}});
+                      {"folder", quoted(request.initialFolder)},
+                      {"file", quoted(request.fileName)}});
 }
 
 QString describedFolder(const QString &title, const QString &initialFolder)

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -128,12 +129,16 @@ std::optional<QString> DesktopPrompts::input(const InputRequest &request)
 std::optional<QString> DesktopPrompts::file(const FileRequest &request)
 {
     const QString fallback = request.saving ? u"Save As"_s : u"Open"_s;
-    auto dialog = fileDialog(parent(), titleOr(request.title, fallback), request.initialFolder,
-                             m_dialogs == Dialogs::OfQt);
+    const QFileInfo current(request.fileName);
+    const bool hasFolder = !request.initialFolder.isEmpty() && QFileInfo(request.initialFolder).isDir();
+    const QString folder = hasFolder || request.fileName.isEmpty() ? request.initialFolder : current.path();
+    auto dialog = fileDialog(parent(), titleOr(request.title, fallback), folder, m_dialogs == Dialogs::OfQt);
     dialog->setAcceptMode(request.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setFileMode(request.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->setNameFilters(nameFilters(request.filter));
+    if (request.saving && !request.fileName.isEmpty())
+        dialog->selectFile(current.fileName());
     return answerFrom(std::move(dialog), [&](const QFileDialog &done) {
         const QString path = done.selectedFiles().value(0);
         return QDir::toNativeSeparators(request.saving ? withSuffixOf(done.selectedNameFilter(), path) : path);

@@ -25,8 +25,8 @@ public:
     /// The folder is a full path without a separator at its end; store and clock outlive this.
     RecoveryCopies(QString folder, FileStore &files, const Clock &clock);
 
-    /// Keeps what stands on the disk under `path` and gives back the copy's path. A copy is never overwritten; of all of
-    /// them the newest 50 are kept.
+    /// Keeps what stands on the disk under `path`, or a text of that name that could not be saved, and gives back the
+    /// copy's path. A copy is never overwritten; of all of them the newest 50 are kept.
     Result<QString> keepDisk(const QString &path, QByteArrayView bytes);
 
     /// Writes the copy of the document, in place of the one before.

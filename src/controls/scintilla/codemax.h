@@ -160,6 +160,7 @@ public:
     Q_INVOKABLE void Paste() { paste(); }
     Q_INVOKABLE void ClearSelection() { clearSelection(); }
     Q_INVOKABLE void ExecuteCmd(int command, const QVariant &argument = {});
+    Q_INVOKABLE void ExecuteCmd(int command, int argument) { executeCmd(command, argument); }
     Q_INVOKABLE void PrintContents(int device, int options) { printContents(device, options); }
     /// The sentence of the last operation that failed by returning false; empty after one that succeeded.
     Q_INVOKABLE QString lastError() const { return m_lastError; }

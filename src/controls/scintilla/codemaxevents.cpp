@@ -59,7 +59,10 @@ void CodeMax::keyPressEvent(QKeyEvent *event)
     if (const auto command = m_globals->commandFor(keys)) {
         executeCmd(*command);
         event->accept();
-    } else if (isShortcutLike(QKeyCombination(keys.keyboardModifiers() & ~Qt::KeypadModifier, keys.key()))) {
+    } else if (isShortcutLike(QKeyCombination(keys.keyboardModifiers() & ~Qt::KeypadModifier, keys.key()))
+               || (keys.keyboardModifiers() & Qt::AltModifier && !(keys.keyboardModifiers() & Qt::ControlModifier)
+                   && !event->text().isEmpty())) {
+        // Alt and a letter that no menu takes is no text either.
         event->ignore();
     } else {
         perform([&] { type(event); });

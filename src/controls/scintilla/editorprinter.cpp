@@ -55,9 +55,11 @@ private:
 class PagePrinter final : public QsciPrinter
 {
 public:
-    explicit PagePrinter(QString title) : QsciPrinter(QPrinter::HighResolution), m_title(std::move(title))
+    /// The document's name also names the file that a printer to PDF offers; it holds no folder.
+    PagePrinter(QString title, const QString &documentName)
+        : QsciPrinter(QPrinter::HighResolution), m_title(std::move(title))
     {
-        setDocName(m_title);
+        setDocName(documentName);
         setWrapMode(QsciScintilla::WrapWord);
         const QMarginsF margins(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres);
         setPageMargins(margins, QPageLayout::Millimeter);
@@ -108,8 +110,8 @@ EditorPrinter::EditorPrinter(CodeMax &editor) : m_editor(editor)
 void EditorPrinter::print()
 {
     const QString caption = m_editor.window()->windowTitle();
-    const QString title = caption.isEmpty() ? QFileInfo(m_editor.path()).fileName() : caption;
-    const auto printer = std::make_shared<PagePrinter>(title);
+    const QString fileName = m_editor.path().isEmpty() ? u"Untitled"_s : QFileInfo(m_editor.path()).fileName();
+    const auto printer = std::make_shared<PagePrinter>(caption.isEmpty() ? fileName : caption, fileName);
     const QPointer<CodeMax> editor(&m_editor);
     m_setup(*printer, [printer, editor] {
         if (!editor)

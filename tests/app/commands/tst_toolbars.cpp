@@ -111,6 +111,14 @@ void TstToolBars::aPullDownKeepsItsButtonOpen()
     QVERIFY(bar.action(u"dqw"_s)->isEnabled());
     QVERIFY(!bar.action(u"dts"_s)->isEnabled());
     QVERIFY(!bar.action(u"links"_s)->isEnabled());
+
+    // Without them nothing is left of it. The preview's button does something by itself.
+    bar.close(u"dqw"_s);
+    bar.setMarkupOpen(true);
+    QVERIFY(!bar.action(u"htmltags"_s)->isEnabled());
+    for (const QString &key : {u"pie"_s, u"pidb"_s, u"picb"_s})
+        bar.close(key);
+    QVERIFY(bar.action(u"preview"_s)->isEnabled());
 }
 
 ZEPHIRA_TEST(TstToolBars)

@@ -97,12 +97,23 @@ private Q_SLOTS:
         frmmain &window = bench.start();
         bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(row == 0 ? 1 : 0);
         bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(row);
+        QCOMPARE(bench.find<QMenu>(u"Tags"_s)->isEnabled(), open);
         QCOMPARE(bench.find<QMenu>(u"Tags"_s)->menuAction()->isEnabled(), open);
         QTEST(window.rt().language(), "language");
         const QList<QAction *> buttons = bench.find<QToolBar>(u"Toolbar1"_s)->actions();
         QVERIFY(buttons.size() >= 15);
         QCOMPARE(buttons[0]->isEnabled(), open); // Bold.
         QVERIFY(buttons[14]->isEnabled()); // Revert works on any text.
+    }
+
+    void theVisualMenusStartClosed()
+    {
+        WindowBench bench;
+        bench.start();
+        for (const QString &name : {u"View"_s, u"Insert"_s, u"Format"_s, u"Table"_s}) {
+            QVERIFY2(!bench.find<QMenu>(name)->isEnabled(), qPrintable(name));
+            QVERIFY2(!bench.find<QMenu>(name)->menuAction()->isEnabled(), qPrintable(name));
+        }
     }
 
     void openEditSaveKeepsEveryOtherByte_data()
@@ -198,8 +209,21 @@ private Q_SLOTS:
                              Answer::Cancel);
         bench.choose(u"mnuupdate"_s);
         QCOMPARE(bench.ended, 1);
+        QCOMPARE(QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files).size(), 1);
         QVERIFY(bench.shell.started.front() == (FakeShell::Start{bench.appPath() + u"/update.exe"_s, {}}));
         QVERIFY(!bench.settings.values.contains(u"zephira/frmmain/Top"_s));
+    }
+
+    void fileExistsByName()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        for (const auto &[path, there] : {std::pair{bench.write(u"a.txt"_s, "a"), true}, {bench.folder(), false},
+                                          {bench.folder() + u"/none"_s, false}}) {
+            bool exists = !there;
+            QVERIFY(QMetaObject::invokeMethod(&window, "FileExists", Q_RETURN_ARG(bool, exists), Q_ARG(QString, path)));
+            QCOMPARE(exists, there);
+        }
     }
 
     void aSecondWindowIsASecondProcess()
@@ -238,6 +262,29 @@ private Q_SLOTS:
         QCOMPARE(window.rt().text(), u"b"_s);
     }
 
+    void anImageOfThePaneBecomesALink()
+    {
+        WindowBench bench;
+        const QString page = bench.write(u"site/a.html"_s, "");
+        const QByteArray gif = QByteArray::fromBase64("R0lGODlhAQABAIAAAAAAAP///ywAAAAAAQABAAACAUwAOw==");
+        bench.write(u"site/good.gif"_s, gif);
+        const QString bad = bench.write(u"site/bad.gif"_s, gif.first(12));
+        frmmain &window = bench.start(page);
+        auto *list = bench.find<QListWidget>(u"ListFiles"_s);
+        list->setCurrentItem(list->findItems(u"good.gif"_s, Qt::MatchExactly).value(0));
+        window.OpenAFile();
+        const QString link = u"<img src=\"good.gif\" width=\"1\" height=\"1\" alt=\"\" Border=\"0\">"_s;
+        QCOMPARE(window.rt().text(), link);
+        // A picture that is cut short is none.
+        list->setCurrentItem(list->findItems(u"bad.gif"_s, Qt::MatchExactly).value(0));
+        bench.prompts.expect({u"An error has occured.\r\nThe picture %1 can't be shown: Unable to read image data.\r\n"_s.arg(bad)
+                                  + u"The routine will now reset itself..."_s,
+                              {}, Question::Icon::Critical, Question::Buttons::Ok},
+                             Answer::Ok);
+        window.OpenAFile();
+        QCOMPARE(window.rt().text(), link);
+    }
+
     void whatComesLaterIsClosedAndSaysSo()
     {
         WindowBench bench;
@@ -271,6 +318,24 @@ private Q_SLOTS:
         QCOMPARE(copies.size(), 1);
         QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
         QCOMPARE(WindowBench::read(file), QByteArray("old"));
+    }
+
+    void aRecoveryCopyStaysWhereASaveFailedBeforeTheTextIsReplaced()
+    {
+        WindowBench bench;
+        const QString file = bench.write(u"ro/a.txt"_s, "old");
+        frmmain &window = bench.start(file);
+        window.rt().setSelText(u"new "_s);
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+        bench.prompts.expect({u"Document: "_s + file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::None, Question::Buttons::YesNoCancel},
+                             Answer::Yes);
+        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), {}, Question::Icon::Exclamation);
+        window.doNew();
+        QCOMPARE(window.rt().text(), QString());
+        const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
+        QCOMPARE(copies.size(), 1);
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
     }
 
     void aFileThatChangedOnDiskIsKeptBeforeASave()

@@ -144,6 +144,16 @@ private Q_SLOTS:
         QCOMPARE(bench.find<QListWidget>(u"ListFiles"_s)->item(0)->text(), u"page one.html"_s);
     }
 
+    /// The file pane lists the file's own folder, also where the tree leaves that folder out.
+    void aFileInAHiddenFolder()
+    {
+        WindowBench bench;
+        bench.start(bench.write(u".hidden/inner/a.txt"_s, "a"));
+        QCOMPARE(bench.find<QTreeWidget>(u"DIR"_s)->property("SelectedFolder").toString(), bench.folder() + u"/.hidden/inner"_s);
+        QCOMPARE(bench.find<QObject>(u"file"_s)->property("Path").toString(), bench.folder() + u"/.hidden/inner"_s);
+        QCOMPARE(bench.find<QListWidget>(u"ListFiles"_s)->item(0)->text(), u"a.txt"_s);
+    }
+
     void aNameThatIsNotThereLeavesNoDocument()
     {
         WindowBench bench;

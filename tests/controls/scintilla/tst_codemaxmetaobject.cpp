@@ -172,6 +172,8 @@ private slots:
         QCOMPARE(f.editor.selText(), u"a\r\nb\r\nc"_s);
         QVERIFY(QMetaObject::invokeMethod(&f.editor, "ExecuteCmd", Q_ARG(int, 168), Q_ARG(QVariant, 1)));
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{1, 0, 1, 0}));
+        QVERIFY(QMetaObject::invokeMethod(&f.editor, "ExecuteCmd", Q_ARG(int, 168), Q_ARG(int, 0)));
+        QCOMPARE(f.editor.selection(false), CodeMaxRange());
         // Arguments may come as text.
         QVERIFY(QMetaObject::invokeMethod(&f.editor, "ExecuteCmd", Q_ARG(int, 168), Q_ARG(QVariant, u"2"_s)));
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{2, 0, 2, 0}));
