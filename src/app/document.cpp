@@ -255,15 +255,18 @@ void Document::saveAs()
 
 void Document::OpenAFile()
 {
+    const QString name = m_window.listedFile();
+    if (!name.isEmpty())
+        openFileOrImage(withSeparator(m_window.listedFolder()) + name);
+}
+
+void Document::openFileOrImage(const QString &path)
+{
     try {
-        const QString name = m_window.listedFile();
-        if (name.isEmpty())
-            return;
-        const QString path = withSeparator(m_window.listedFolder()) + name;
-        if (holds(imageExtensions, extensionOf(name)))
-            openListedImage(path);
+        if (holds(imageExtensions, extensionOf(fileTitleOf(path))))
+            openImage(path);
         else
-            openListedText(path);
+            openText(path);
     } catch (const HandlerError &error) {
         m_context.prompts.ask({u"An error has occured.\r\n"_s + error.description
                                    + u"\r\nThe routine will now reset itself..."_s,
@@ -271,7 +274,7 @@ void Document::OpenAFile()
     }
 }
 
-void Document::openListedImage(const QString &path)
+void Document::openImage(const QString &path)
 {
     if (!holds(imageLinkLanguages, m_context.document.languageText())) {
         orRaise(m_window.showPicture(path));
@@ -288,7 +291,7 @@ void Document::openListedImage(const QString &path)
     m_context.editor.setSelText(m_context.editor.selText() + tag);
 }
 
-void Document::openListedText(const QString &path)
+void Document::openText(const QString &path)
 {
     if (!mayGoOn(PromptIcon::Shown))
         return;
@@ -299,23 +302,6 @@ void Document::openListedText(const QString &path)
     m_context.document.setProjectPath(folderOf(path));
     m_context.editor.executeCmd(int(EditorCommand::GoToLine), 0);
     m_window.setCountPanel(m_context.editor.textLength());
-}
-
-void Document::openDropped(const QString &path)
-{
-    if (!mayGoOn(PromptIcon::Shown))
-        return;
-    const Result<void> opened = m_context.editor.openFile(path);
-    if (!opened) {
-        m_context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
-        return;
-    }
-    m_dialog.fileName = path;
-    adopt(path);
-    m_context.document.setProjectPath(folderOf(path));
-    SetSyntax();
-    m_window.setCountPanel(m_context.editor.textLength());
-    m_context.editor.executeCmd(int(EditorCommand::GoToLine), 0);
 }
 
 void Document::openAtStart(const QString &path)

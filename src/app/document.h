@@ -38,6 +38,8 @@ public:
     bool DoSaveAs();
     /// Opens the file that is selected in the file pane: as the document, as a link to an image, or in the quick view.
     void OpenAFile();
+    /// The same for any file, such as one that was dropped on the window.
+    void openFileOrImage(const QString &path);
     /// Chooses the language by the common dialog's file name.
     void SetSyntax();
 
@@ -51,8 +53,6 @@ public:
     void clearClipboard();
     /// Goes back to the file on disk, in the code view and the designer; asks first.
     void revert();
-    /// Makes a dropped file the document, after the save prompt.
-    void openDropped(const QString &path);
     /// Opens the file of the command line. Errors are ignored.
     void openAtStart(const QString &path);
 
@@ -74,8 +74,8 @@ private:
     bool mayGoOn(PromptIcon icon);
     void adopt(const QString &path);
     void readInto(const QString &path);
-    void openListedImage(const QString &path);
-    void openListedText(const QString &path);
+    void openImage(const QString &path);
+    void openText(const QString &path);
 
     const AppContext m_context;
     CommonDialog &m_dialog;

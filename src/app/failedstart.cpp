@@ -10,7 +10,7 @@ namespace zephira {
 
 namespace {
 
-constexpr int secondsShown = 10;
+constexpr int secondsShown = 5;
 
 } // namespace
 

@@ -22,6 +22,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
 #include <QTreeWidget>
@@ -147,6 +148,14 @@ void frmmain::buildSidePane()
     m_scriptFolder->setAccessibleName(u"Script folders"_s);
     m_ui->sidePages->addWidget(m_scriptFolder);
 
+    // A command may still select a tab that is closed; its page then says so, too.
+    auto *notYet = new QLabel(u"Not available yet"_s, m_ui->sidePages);
+    notYet->setAlignment(Qt::AlignCenter);
+    notYet->setEnabled(false);
+    m_ui->sidePages->addWidget(notYet);
+    connect(m_ui->Frame1, &QTabBar::currentChanged, this, [this, notYet](int tab) {
+        m_ui->sidePages->setCurrentWidget(m_ui->Frame1->isTabEnabled(tab) ? static_cast<QWidget *>(m_filePane) : notYet);
+    });
     for (int i = 1; i < m_ui->Frame1->count(); ++i)
         closeTab(*m_ui->Frame1, i);
     m_ui->mainSplitter->setSizes({sidePaneWidth, width() - sidePaneWidth});
@@ -281,7 +290,7 @@ void frmmain::dropEvent(QDropEvent *event)
     if (path.isEmpty())
         return;
     event->acceptProposedAction();
-    m_document->openDropped(path);
+    m_document->openFileOrImage(path);
 }
 
 } // namespace zephira

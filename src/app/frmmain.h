@@ -53,6 +53,11 @@ class frmmain : public QMainWindow, public DocumentHost, public DocumentWindow, 
     Q_PROPERTY(bool rootSelect MEMBER rootSelect)
     Q_PROPERTY(QString AppPath READ appPath)
     Q_PROPERTY(QStringList startSteps MEMBER startSteps)
+    Q_PROPERTY(int highlightMode READ highlightMode)
+    Q_PROPERTY(int lineNumberMode READ lineNumberMode)
+    Q_PROPERTY(int leftMarginMode READ leftMarginMode)
+    Q_PROPERTY(int whitespaceMode READ whitespaceMode)
+    Q_PROPERTY(int selBoundsMode READ selBoundsMode)
 
 public:
     /// The five display options of the configuration, kept for the life of the process.
@@ -73,6 +78,11 @@ public:
     QString docPath() const { return m_document->docPath(); }
     QString previewTarget() const { return m_document->previewTarget(); }
     QString appPath() const { return m_services.appPath; }
+    int highlightMode() const { return modes.highlight; }
+    int lineNumberMode() const { return modes.lineNumber; }
+    int leftMarginMode() const { return modes.leftMargin; }
+    int whitespaceMode() const { return modes.whitespace; }
+    int selBoundsMode() const { return modes.selBounds; }
 
     Q_INVOKABLE void doNew() { m_document->doNew(); }
     Q_INVOKABLE bool doSave() { return m_document->doSave(); }

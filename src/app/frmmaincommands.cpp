@@ -183,7 +183,7 @@ void frmmain::selectView(int tab)
 
 void frmmain::selectSideTab(int tab)
 {
-    selectOpenTab(*m_ui->Frame1, tab - 1);
+    m_ui->Frame1->setCurrentIndex(tab - 1);
 }
 
 void frmmain::setSelectorListVisible(bool visible)

@@ -114,7 +114,7 @@ constexpr MenuItem optionItems[] = {
 };
 
 constexpr MenuItem pluginItems[] = {
-    {u"mnupluginoptions_0", u"No Plugins Installed"},
+    {u"mnupluginoptions_0", u"No Plugins Installed", {}, {}, {}, {}, Kind::Missing},
 };
 
 constexpr MenuItem helpItems[] = {
@@ -192,17 +192,17 @@ constexpr MenuItem bar[] = {
 };
 
 constexpr MenuItem fileListItems[] = {
-    {u"mnuqv", u"QuickView", {}, u"quickview", u"Show the file without opening it"},
-    {u"mnuinslink", u"Insert Link to this file", {}, u"insert-link", u"Insert a link to the file"},
-    {u"mnuef", u"Edit Filters", {}, u"view-filter", u"Choose which files the list shows"},
+    {u"mnuqv", u"QuickView", {}, u"quickview", u"Show the file without opening it", {}, Kind::Missing},
+    {u"mnuinslink", u"Insert Link to this file", {}, u"insert-link", u"Insert a link to the file", {}, Kind::Missing},
+    {u"mnuef", u"Edit Filters", {}, u"view-filter", u"Choose which files the list shows", {}, Kind::Missing},
 };
 
 constexpr MenuItem hiddenItems[] = {menu(u"mnufilerc", u"filerc", fileListItems)};
 
-constexpr MenuItem suggestionItems[] = {{u"sug_0", u"- Spelling Suggestions -"}};
+constexpr MenuItem suggestionItems[] = {{u"sug_0", u"- Spelling Suggestions -", {}, {}, {}, {}, Kind::Missing}};
 
 constexpr MenuItem customTabItems[] = {
-    {u"mnuaddcentry", u"Add Entry", {}, u"list-add", u"Add an entry to this tab"},
+    {u"mnuaddcentry", u"Add Entry", {}, u"list-add", u"Add an entry to this tab", {}, Kind::Missing},
 };
 
 constexpr MenuItem popups[] = {

@@ -86,6 +86,7 @@ int runProgram(QApplication &application, const QString &argument)
         return {viewer, viewer};
     });
 
+    bool ended = false;
     frmmain window({.files = files,
                     .recovery = recovery,
                     .configuration = configuration,
@@ -98,13 +99,17 @@ int runProgram(QApplication &application, const QString &argument)
                     .appPath = appPath.value(),
                     .iniFile = iniFile,
                     .executable = QCoreApplication::applicationFilePath(),
-                    .endProcess = [] { QCoreApplication::exit(EXIT_SUCCESS); }});
+                    .endProcess = [&ended] {
+                        ended = true;
+                        QCoreApplication::exit(EXIT_SUCCESS);
+                    }});
     try {
         runStartProcedure(window, argument);
     } catch (const HandlerError &error) {
         return tellFailedStart(error.description);
     }
-    return QApplication::exec();
+    // An end that a dialog of the start brought about would be forgotten by the loop that has not begun.
+    return ended ? EXIT_SUCCESS : QApplication::exec();
 }
 
 } // namespace zephira

@@ -63,7 +63,8 @@ Result<void> fillFolder(const QString &source, const QString &target)
 {
     if (!QFileInfo::exists(source + u'/' + iniName)) {
         return Error{Error::Code::NotFound,
-                     u"Zephira's data files aren't in %1. Please install the program again."_s.arg(source)};
+                     u"Zephira can't start: there is no %1 beside the program, and none in %2. Please install the program again."_s
+                         .arg(iniName, source)};
     }
     const QDir root(source);
     QDirIterator walk(source, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);

@@ -505,6 +505,18 @@ private Q_SLOTS:
         QVERIFY(!bench.document.docModified());
     }
 
+    void aDroppedImageFollowsTheRuleOfTheFilePane()
+    {
+        Bench bench;
+        bench.document.openFileOrImage(u"/drop/a.gif"_s);
+        QCOMPARE(bench.window.pictures, QStringList{u"/drop/a.gif"_s});
+        bench.fakes.document.language = u"HTML"_s;
+        bench.fakes.document.project = u"/drop/"_s;
+        bench.document.openFileOrImage(u"/drop/a.gif"_s);
+        QCOMPARE(bench.fakes.editor.text(), u"<img src=\"a.gif\" width=\"120\" height=\"80\" alt=\"\" Border=\"0\">"_s);
+        QVERIFY(!bench.document.docHasFile());
+    }
+
     void aDroppedFileBecomesTheDocument()
     {
         Bench bench;
@@ -512,10 +524,10 @@ private Q_SLOTS:
         bench.fakes.files.contents[u"/d/a.xml"_s] = "<a/>";
         bench.fakes.editor.setText(u"x"_s);
         bench.fakes.prompts.expect(Bench::savePrompt(u"New Document"_s), Answer::Cancel);
-        bench.document.openDropped(u"/d/a.xml"_s);
+        bench.document.openFileOrImage(u"/d/a.xml"_s);
         QCOMPARE(bench.fakes.editor.text(), u"x"_s);
         bench.fakes.prompts.expect(Bench::savePrompt(u"New Document"_s), Answer::No);
-        bench.document.openDropped(u"/d/a.xml"_s);
+        bench.document.openFileOrImage(u"/d/a.xml"_s);
         QCOMPARE(bench.fakes.editor.text(), u"<a/>"_s);
         QCOMPARE(bench.fakes.document.row, 4);
         QVERIFY(!bench.document.docModified());

@@ -69,7 +69,7 @@ constexpr std::array engineSettings{
 } // namespace
 
 CodeMax::CodeMax(EditorServices services, QWidget *parent)
-    : QsciScintillaBase(parent), m_services(services), m_engine(*this), m_globals(std::make_unique<CodeMaxGlobals>()),
+    : QsciScintillaBase(parent), m_services(services), m_engine(*this), m_globals(std::make_unique<CodeMaxGlobals>(this)),
       m_appearance(std::make_unique<EditorAppearance>(m_engine)), m_margins(std::make_unique<EditorMargins>(m_engine)),
       m_colouring(std::make_unique<IdleColouring>(m_engine)), m_braces(std::make_unique<BraceMatcher>(m_engine)),
       m_file(services.files, services.recovery)

@@ -7,8 +7,11 @@
 
 namespace zephira {
 
+using namespace Qt::StringLiterals;
+
 CodeMaxGlobals::CodeMaxGlobals(QObject *parent) : QObject(parent)
 {
+    setObjectName(u"CodeMaxGlobals"_s);
     const auto keys = initialHotKeys();
     m_hotKeys.assign(keys.begin(), keys.end());
 }

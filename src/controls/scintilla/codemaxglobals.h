@@ -19,22 +19,24 @@ struct CodeMaxHotKey {
     friend bool operator==(const CodeMaxHotKey &, const CodeMaxHotKey &) = default;
 };
 
-/// The editing control's services beside the text: the languages it knows, and which keys run its commands.
+/// The editing control's services beside the text: the languages it knows, and which keys run its commands. A child of the
+/// control, found by its own name.
 class CodeMaxGlobals : public QObject
 {
     Q_OBJECT
+
 public:
     explicit CodeMaxGlobals(QObject *parent = nullptr);
 
-    void RegisterLanguage(const QString &name, const CodeMaxLanguage &language);
+    Q_INVOKABLE void RegisterLanguage(const QString &name, const CodeMaxLanguage &language);
     const LanguageRegistry &languages() const { return m_languages; }
 
     /// How many hot keys a command has; 0 for numbers that are no command.
-    int hotKeyCount(int command) const;
+    Q_INVOKABLE int hotKeyCount(int command) const;
     /// The command's hot key at a 0-based index below hotKeyCount(); an empty one otherwise.
-    CodeMaxHotKey hotKey(int command, int index) const;
+    Q_INVOKABLE CodeMaxHotKey hotKey(int command, int index) const;
     /// The combination runs the command no more. One that isn't registered is left alone.
-    void UnregisterHotKey(const CodeMaxHotKey &hotKey);
+    Q_INVOKABLE void UnregisterHotKey(const CodeMaxHotKey &hotKey);
 
     /// What a key combination runs. The keypad's keys count as the others.
     std::optional<int> commandFor(QKeyCombination keys) const;

@@ -21,7 +21,6 @@ private Q_SLOTS:
     void everyFormOfACommandIsKnown()
     {
         WindowBench bench;
-        announceComingForms(bench.catalogue);
         QStringList forms;
         collect(menuBarTable(), forms);
         collect(popupTable(), forms);

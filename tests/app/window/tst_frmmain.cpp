@@ -169,6 +169,17 @@ private Q_SLOTS:
         bench.click(u"tBar"_s, u"undo"_s);
     }
 
+    void theStylePropertyNoteLeadsToTheFirstCustomTab()
+    {
+        WindowBench bench;
+        bench.start();
+        bench.prompts.expect({u"By default, the first custom tab was shipped with a CSS Prop index file. You will now be taken "
+                              u"to the tab"_s, {}, Question::Icon::None, Question::Buttons::Ok},
+                             Answer::Ok);
+        bench.click(u"Toolbar_4"_s, u"prop"_s);
+        QCOMPARE(bench.find<QTabBar>(u"Frame1"_s)->currentIndex(), 6);
+    }
+
     void closingAsks()
     {
         WindowBench bench;

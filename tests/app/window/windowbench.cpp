@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/windowbench.h"
 
+#include "app/comingforms.h"
 #include "app/loadhandler.h"
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
@@ -28,6 +29,7 @@ WindowBench::WindowBench()
         QFile::copy(file, target);
         QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
     }
+    announceComingForms(catalogue);
     wizards::registerForms(catalogue);
     start::registerForms(catalogue);
     zephira::settings::registerForms(catalogue);

@@ -135,7 +135,7 @@ void TstAppFolder::missingDataIsAnError()
     QVERIFY(!path.ok());
     QCOMPARE(path.error().code, Error::Code::NotFound);
     QCOMPARE(path.error().sentence,
-             u"Zephira's data files aren't in %1. Please install the program again."_s.arg(at(u"share"_s)));
+             u"Zephira can't start: there is no zephira.ini beside the program, and none in %1. Please install the program again."_s.arg(at(u"share"_s)));
 }
 
 void TstAppFolder::placeTakenByAFile()
