@@ -8,6 +8,7 @@
 #include "controls/scintilla/idlecolouring.h"
 #include "support/fakes.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace zephira {
@@ -17,7 +18,9 @@ struct EditorFixture {
     ScriptedPrompts prompts;
     MemoryFileStore files;
     FakeClock clock;
-    RecoveryCopies recovery{QStringLiteral("/recovery"), files, clock};
+    /// The copies are files in memory; only their folder is made on the disk.
+    QTemporaryDir recoveryFolder;
+    RecoveryCopies recovery{recoveryFolder.path(), files, clock};
     CodeMax editor{{files, recovery, prompts}};
 
     /// Shows the control, so that it has a layout and takes keys.

@@ -216,7 +216,7 @@ private slots:
         QVERIFY(f.editor.SaveFile(path, false));
         int kept = 0;
         for (const auto &[name, bytes] : f.files.contents)
-            kept += name.startsWith(u"/recovery/"_s) && bytes == "foreign";
+            kept += name.startsWith(f.recoveryFolder.path() + u'/') && bytes == "foreign";
         QCOMPARE(kept, 1);
     }
 
