@@ -84,14 +84,17 @@ public:
     int whitespaceMode() const { return modes.whitespace; }
     int selBoundsMode() const { return modes.selBounds; }
 
+    // The document's operations by name; Document tells what they do.
     Q_INVOKABLE void doNew() { m_document->doNew(); }
     Q_INVOKABLE bool doSave() { return m_document->doSave(); }
     Q_INVOKABLE bool DoSaveAs() { return m_document->DoSaveAs(); }
     Q_INVOKABLE void OpenAFile() { m_document->OpenAFile(); }
     Q_INVOKABLE void SetSyntax() { m_document->SetSyntax(); }
     Q_INVOKABLE bool FileExists(const QString &path) const;
+    /// The one way for text into the document: see Inserter.
     Q_INVOKABLE void InsertAtCaret(const QString &text);
 
+    // The parts, for the start that fills them.
     const WindowServices &services() const { return m_services; }
     const AppContext &context() const { return *m_context; }
     Document &document() { return *m_document; }

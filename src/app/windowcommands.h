@@ -47,7 +47,7 @@ public:
     virtual void showReadme() = 0;
     /// The FTP window, its local folder preset from the project folder where one is set.
     virtual void showFtp() = 0;
-    /// The tag editor on page 1 to 16, or with 0 on the page that it last showed.
+    /// The tag editor. `page` is the one to show, 1 to 16, or 0 for the one that it last showed.
     virtual void openTagEditor(int page) = 0;
     /// Spelling of the selection, or of the whole text where nothing is selected.
     virtual void checkSpelling() = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/filelistbox.h"
 
+#include "controls/vbtext.h"
+
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -13,7 +15,7 @@ QStringList FileListBox::entries() const
         return {};
     QStringList patterns = m_pattern.split(u';', Qt::SkipEmptyParts);
     for (QString &pattern : patterns) {
-        pattern = pattern.trimmed();
+        pattern = Trim(pattern);
         if (pattern == u"*.*"_s)
             pattern = u"*"_s;
     }
