@@ -54,6 +54,7 @@ void PaletteCommands::click(int toolbar, const QString &key, int position)
         return;
     }
     if (const Handler handler = handlerOf(*tag)) {
+        // One statement: in every handler it is the last step that can fail, so that nothing is left to go on with.
         tellingErrors(m_context.prompts, u"frmmain"_s, u"ToolBar_ButtonClick"_s,
                       {[&] { (this->*handler)(*tag); }});
     }

@@ -17,7 +17,10 @@ class PaletteCommands
 public:
     PaletteCommands(const AppContext &context, WindowCommands &window) : m_context(context), m_window(window) {}
 
+    /// A button of toolbar 0 to 11: by its key in toolbars 0 to 5, by its position from 1 on, separators counted, in the
+    /// others. A button that isn't there does nothing.
     void click(int toolbar, const QString &key, int position);
+    /// The heading of size 1 to 6 around the selection.
     void heading(int size);
 
 private:
