@@ -45,10 +45,11 @@ private Q_SLOTS:
             RunningProgram program{folder, {path}};
         };
         std::array<Session, 4> sessions;
-        for (const Session &session : sessions) {
+        // A window that opens takes the focus, so nothing is typed before all of them stand.
+        for (const Session &session : sessions)
             QVERIFY(session.program.waitForWindow(session.caption));
+        for (const Session &session : sessions)
             session.program.type(session.caption, u"unsaved "_s);
-        }
         for (const Session &session : sessions) {
             QTRY_COMPARE_WITH_TIMEOUT(session.folder.recoveryCopies().size(), 1, recoveryPatience);
             const QString copy = session.folder.recoveryCopies().first();
