@@ -41,13 +41,16 @@ public:
     /// Waits until it shows a window of that title and gives the window's state as the window manager tells it.
     QByteArray windowState(const QString &title) const
     {
-        QByteArray window;
-        const bool there = QTest::qWaitFor([&] {
-            window = outputOf(u"xdotool"_s, {u"search"_s, u"--all"_s, u"--pid"_s, QString::number(m_pid), u"--name"_s,
-                                             u'^' + QRegularExpression::escape(title) + u'$'});
-            return !window.isEmpty();
+        QByteArray state;
+        // The window manager notes the state a moment after the window is there.
+        const bool told = QTest::qWaitFor([&] {
+            const QByteArray window = outputOf(u"xdotool"_s, {u"search"_s, u"--all"_s, u"--pid"_s, QString::number(m_pid),
+                                                              u"--name"_s, u'^' + QRegularExpression::escape(title) + u'$'});
+            if (!window.isEmpty())
+                state = outputOf(u"xprop"_s, {u"-id"_s, QString::fromLatin1(window), u"WM_STATE"_s});
+            return state.contains("window state:");
         }, patience);
-        return there ? outputOf(u"xprop"_s, {u"-id"_s, QString::fromLatin1(window), u"WM_STATE"_s}) : QByteArray();
+        return told ? state : QByteArray();
     }
 
 private:
