@@ -16,6 +16,13 @@ expect() {
     failures=$((failures + 1))
 }
 
+# mark_display: makes the X server of DISPLAY known again. is_marked: true while that very server answers; its number alone
+# says nothing, because another test that runs at the same time may have been given it.
+mark_display() { xprop -root -f "_TEST_$display_mark" 8s -set "_TEST_$display_mark" marked; }
+is_marked() { timeout 5 xprop -root "_TEST_$display_mark" 2>/dev/null | grep -q marked; }
+export display_mark=$$
+export -f mark_display is_marked
+
 finish() {
     ((failures == 0)) || exit 1
     printf 'passed\n'
