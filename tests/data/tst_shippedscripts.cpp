@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "data/datafile.h"
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+/// All scripts of the library, relative to the shipped folder.
+QStringList scriptFiles()
+{
+    QStringList files;
+    QDirIterator scripts(shippedFolder() + u"Scripts"_s, QDir::Files, QDirIterator::Subdirectories);
+    while (scripts.hasNext())
+        files << QDir(shippedFolder()).relativeFilePath(scripts.next());
+    files.sort();
+    return files;
+}
+
+/// What a pattern's first group catches, place by place.
+QStringList allMatches(const QString &text, const QString &pattern)
+{
+    QStringList found;
+    QRegularExpressionMatchIterator matches =
+        QRegularExpression(pattern, QRegularExpression::DotMatchesEverythingOption).globalMatch(text);
+    while (matches.hasNext())
+        found << matches.next().captured(1);
+    return found;
+}
+
+void addFiles()
+{
+    QTest::addColumn<QString>("file");
+    for (const QString &file : scriptFiles())
+        QTest::newRow(qPrintable(file)) << file;
+}
+
+} // namespace
+
+/// The script library: pieces that go into a page as they stand.
+class TstShippedScripts final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isALibrary()
+    {
+        const QStringList files = scriptFiles();
+        QVERIFY(files.size() >= 90);
+        QSet<QString> folders;
+        QStringList titles;
+        for (const QString &file : files) {
+            const QFileInfo info(file);
+            folders << info.path();
+            titles << info.fileName();
+            QVERIFY2(file.endsWith(u".spt"_s), qPrintable(file));
+            // A name that every file system takes, and that reads as a title.
+            static const QRegularExpression name(u"^[A-Z][A-Za-z, -]+$"_s);
+            QVERIFY2(name.match(info.completeBaseName()).hasMatch(), qPrintable(file));
+        }
+        QVERIFY(folders.size() >= 13);
+        // The list is that of the root until a folder is chosen, so that it mustn't be empty.
+        QVERIFY(folders.contains(u"Scripts"_s));
+        QCOMPARE(repeated(titles), QStringList());
+    }
+
+    void isText_data() { addFiles(); }
+
+    void isText()
+    {
+        QFETCH(QString, file);
+        QCOMPARE(faultOf(file, u"\r\n"_s), QString());
+        const QString text = shippedText(file);
+        QVERIFY(text.endsWith(u"\r\n"_s) && !text.endsWith(u"\r\n\r\n"_s));
+        // It begins with a sentence on what it does and where it goes.
+        const QStringList lines = shippedLines(file);
+        const QString &first = lines[lines.first() == u"<%"_s || lines.first() == u"<!DOCTYPE html>"_s ? 1 : 0];
+        QVERIFY2(first.startsWith(u"<!-- "_s) || first.startsWith(u"' "_s), qPrintable(first));
+        QVERIFY2(first.size() > 30, qPrintable(first));
+    }
+
+    void isClosed_data() { addFiles(); }
+
+    void isClosed()
+    {
+        QFETCH(QString, file);
+        const QString text = shippedText(file);
+        for (const QString &element : {u"script"_s, u"style"_s, u"template"_s, u"dialog"_s, u"form"_s, u"nav"_s, u"table"_s,
+                                       u"button"_s, u"label"_s, u"ul"_s, u"ol"_s, u"div"_s, u"section"_s, u"figure"_s}) {
+            const QRegularExpression begin(u"<%1[ >]"_s.arg(element));
+            QCOMPARE(text.count(begin), text.count(u"</%1>"_s.arg(element)));
+        }
+        QCOMPARE(text.count(u"<!--"_s), text.count(u"-->"_s));
+        QCOMPARE(text.count(u"<%"_s), text.count(u"%>"_s));
+        for (const QString &body : allMatches(text, u"<(?:script|style)[^>]*>(.*?)</(?:script|style)>"_s)) {
+            QVERIFY(!body.trimmed().isEmpty());
+            for (const auto &[open, close] : {std::pair(u'{', u'}'), std::pair(u'(', u')')})
+                QCOMPARE(body.count(open), body.count(close));
+            // One level of indentation is two blanks.
+            for (const QString &line : body.split(u"\r\n"_s)) {
+                const auto blanks = std::find_if(line.begin(), line.end(), [](QChar letter) { return letter != u' '; });
+                QVERIFY2((blanks - line.begin()) % 2 == 0, qPrintable(line));
+            }
+        }
+    }
+
+    void namesFindTheirElements_data() { addFiles(); }
+
+    void namesFindTheirElements()
+    {
+        QFETCH(QString, file);
+        const QString text = shippedText(file);
+        const QStringList names = allMatches(text, u" id=\"([^\"]+)\""_s);
+        QCOMPARE(repeated(names), QStringList());
+        QStringList asked = allMatches(text, u"getElementById\\(\"([^\"]+)\"\\)"_s);
+        for (const QString &attribute : {u"for"_s, u"aria-controls"_s, u"aria-labelledby"_s, u"aria-describedby"_s,
+                                         u"data-copy"_s, u"data-full"_s, u"data-player"_s, u"data-filter"_s}) {
+            for (const QString &value : allMatches(text, u" %1=\"([^\"$]+)\""_s.arg(attribute)))
+                asked += value.split(u' ');
+        }
+        for (const QString &name : asked)
+            QVERIFY2(names.contains(name), qPrintable(name));
+    }
+
+    void isModernAndAccessible_data() { addFiles(); }
+
+    void isModernAndAccessible()
+    {
+        QFETCH(QString, file);
+        const QString text = shippedText(file);
+        for (const QString &old : {u"document.write"_s, u"document.all"_s, u"language="_s, u"<font"_s, u"<center"_s,
+                                   u"XMLHttpRequest"_s, u"eval("_s, u" == null"_s})
+            QVERIFY2(!text.contains(old), qPrintable(old));
+        for (const QString &image : allMatches(text, u"(<img [^>]*>)"_s))
+            QVERIFY2(image.contains(u" alt=\""_s), qPrintable(image));
+        for (const QString &body : allMatches(text, u"<script[^>]*>(.*?)</script>"_s)) {
+            QVERIFY(!body.contains(QRegularExpression(u"\\bvar "_s)));
+            // Comparing without conversion is the rule.
+            QVERIFY(!body.contains(QRegularExpression(u"[^=!]==[^=]|!=[^=]"_s)));
+        }
+        // What moves heeds the wish for less motion.
+        if (text.contains(u"requestAnimationFrame"_s) || text.contains(u"transition:"_s) || text.contains(u"smooth"_s))
+            QVERIFY(text.contains(u"prefers-reduced-motion"_s));
+    }
+};
+
+ZEPHIRA_TEST(TstShippedScripts)
+
+#include "tst_shippedscripts.moc"
