@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 namespace zephira {
 
-/// The invisible list behind the file pane: the names in one folder that match one of several patterns.
-class FileListBox : public QObject
+/// A list of files that never shows: the names in one folder that match one of several patterns. A list that does show
+/// mirrors it.
+class FileListBox : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(QString Path READ path WRITE setPath)
@@ -16,19 +17,20 @@ class FileListBox : public QObject
     Q_PROPERTY(QString FileName READ fileName WRITE setFileName)
 
 public:
-    using QObject::QObject;
+    explicit FileListBox(QWidget *parent = nullptr);
 
     QString path() const { return m_path; }
     void setPath(const QString &folder) { m_path = folder; }
 
-    /// Wildcards divided by semicolons, without regard to case. "*.*" matches every name, also one without a dot.
+    /// Wildcards divided by semicolons; see FilePatterns.
     QString pattern() const { return m_pattern; }
     void setPattern(const QString &pattern) { m_pattern = pattern; }
 
+    /// The current entry's name, or empty.
     QString fileName() const { return m_fileName; }
     void setFileName(const QString &name) { m_fileName = name; }
 
-    /// The names now on disk, sorted without regard to case; empty for a folder that can't be read.
+    /// The names now on disk, in alphabetical order; see fileNames().
     QStringList entries() const;
 
 private:

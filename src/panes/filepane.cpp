@@ -2,35 +2,33 @@
 #include "panes/filepane.h"
 
 #include "controls/prompts.h"
+#include "panes/filenames.h"
 #include "ui_filepane.h"
 
 #include <QDir>
-#include <QFileInfo>
-#include <QIcon>
-#include <QStorageInfo>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
 FilePane::FilePane(Prompts &prompts, QWidget *parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::FilePane>()), m_prompts(prompts), m_file(this)
+    : QWidget(parent), m_ui(std::make_unique<Ui::FilePane>()), m_prompts(prompts), m_file(new FileListBox(this)),
+      m_watch(this)
 {
     m_ui->setupUi(this);
-    m_file.setObjectName(u"file"_s);
+    m_file->setObjectName(u"file"_s);
+    m_file->setToolTip(u"Available Files"_s);
+    m_file->setAccessibleName(u"Available Files"_s);
     m_ui->fileSplitter->setStretchFactor(0, 1);
     m_ui->fileSplitter->setStretchFactor(1, 1);
-    fillDrives();
-    connect(m_ui->DRV, &QComboBox::activated, this, [this] { setFolder(m_ui->DRV->currentText()); });
+    connect(m_ui->DRV, &QComboBox::activated, this, &FilePane::changeDrive);
     connect(m_ui->cmdprojpath, &QToolButton::clicked, this, &FilePane::chooseProjectPath);
-    connect(m_ui->PrjPath, &QLineEdit::textChanged, this, [this](const QString &text) {
-        setFolder(text);
-        listFolder();
-    });
+    connect(m_ui->PrjPath, &QLineEdit::textChanged, this, &FilePane::showFolder);
     connect(m_ui->DIR, &FolderTree::folderSelected, this, &FilePane::listFolder);
-    connect(m_ui->ListFiles, &QListWidget::currentTextChanged, this,
-            [this](const QString &name) { m_file.setFileName(name); });
-    connect(m_ui->ListFiles, &QListWidget::itemDoubleClicked, this, &FilePane::fileActivated);
+    connect(m_ui->ListFiles, &FileList::opened, this, &FilePane::fileActivated);
+    connect(m_ui->ListFiles, &FileList::menuWanted, this, &FilePane::menuWanted);
+    connect(&m_watch, &FolderWatch::changed, this, &FilePane::refresh);
 }
 
 FilePane::~FilePane() = default;
@@ -51,9 +49,15 @@ QString FilePane::selectedFile() const
     return item ? item->text() : QString();
 }
 
+void FilePane::showFolder(const QString &folder)
+{
+    setFolder(folder);
+    listFolder();
+}
+
 void FilePane::setFolder(const QString &folder)
 {
-    if (folder.isEmpty() || !QDir(folder).exists())
+    if (!QDir::isAbsolutePath(folder) || !QDir(folder).exists())
         return;
     if (m_rootSelect)
         m_ui->DIR->setRootFolder(folder);
@@ -61,33 +65,51 @@ void FilePane::setFolder(const QString &folder)
         m_ui->DIR->setSelectedFolder(folder);
 }
 
+/// The folder selection changed. "My Computer" is no folder, so that the files of the one before are listed again.
 void FilePane::listFolder()
 {
     const QString folder = m_ui->DIR->selectedFolder();
-    if (folder.isEmpty())
-        return;
-    m_file.setPath(folder);
-    m_file.setFileName({});
-    const QStringList names = m_file.entries();
-    m_ui->ListFiles->clear();
-    m_ui->ListFiles->addItems(names);
-    if (!names.isEmpty())
-        m_ui->ListFiles->setCurrentRow(0);
+    if (!folder.isEmpty())
+        m_file->setPath(folder);
+    m_listedPattern = m_file->pattern();
+    const QStringList names = m_file->entries();
+    m_file->setFileName(names.value(0));
+    m_ui->ListFiles->setNames(names);
+    m_ui->ListFiles->setCurrentRow(0);
+
+    m_watch.clear();
+    if (!m_file->path().isEmpty())
+        m_watch.add(QDir::cleanPath(m_file->path()));
 }
 
-void FilePane::fillDrives()
+/// Follows the folder on disk; what is selected and in view stays so.
+void FilePane::refresh()
 {
-    QStringList mounts;
-    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
-        // Pseudo file systems have no size and hold nothing to edit.
-        const QString mount = volume.rootPath();
-        if (volume.isReady() && volume.bytesTotal() > 0 && mount != QDir::rootPath() && QFileInfo(mount).isDir())
-            mounts.append(mount);
+    m_watch.add(QDir::cleanPath(m_file->path())); // One that was made again is a new one.
+    FileList &list = *m_ui->ListFiles;
+    const QStringList names = fileNames(m_file->path(), m_listedPattern);
+    if (names == list.names())
+        return;
+    if (!names.contains(m_file->fileName()))
+        m_file->setFileName(names.value(0));
+    const QString selected = selectedFile();
+    const int row = list.currentRow();
+    const int place = list.verticalScrollBar()->value();
+    list.setNames(names);
+    const auto kept = static_cast<int>(names.indexOf(selected));
+    list.setCurrentRow(kept >= 0 ? kept : qMin(row, list.count() - 1));
+    list.verticalScrollBar()->setValue(place);
+}
+
+void FilePane::changeDrive()
+{
+    const QString drive = m_ui->DRV->currentText();
+    if (!QDir(drive).exists()) {
+        m_ui->DRV->refill();
+        m_prompts.tell(u"The drive %1 isn't there any more."_s.arg(drive), {}, Question::Icon::Exclamation);
+        return;
     }
-    mounts.sort();
-    mounts.removeDuplicates();
-    m_ui->DRV->addItem(QDir::rootPath());
-    m_ui->DRV->addItems(mounts);
+    showFolder(drive);
 }
 
 void FilePane::chooseProjectPath()

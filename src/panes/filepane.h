@@ -2,6 +2,7 @@
 #pragma once
 
 #include "panes/filelistbox.h"
+#include "panes/folderwatch.h"
 
 #include <QWidget>
 
@@ -15,7 +16,8 @@ namespace Ui {
 class FilePane;
 }
 
-/// The file manager: drives, the project folder, a folder tree and the files of the folder that is selected in it.
+/// The file manager: drives, the project folder, a folder tree and the files of the folder that is selected in it. The
+/// list of files mirrors the hidden `file`.
 class FilePane : public QWidget
 {
     Q_OBJECT
@@ -31,22 +33,32 @@ public:
     /// Sets the text of `PrjPath`, which moves the folder tree and lists the folder.
     void setProjectPath(const QString &path);
 
-    FileListBox &fileList() { return m_file; }
+    FileListBox &fileList() { return *m_file; }
     /// Text of the selected item of `ListFiles`, or empty.
     QString selectedFile() const;
 
+    /// Moves the folder tree to the folder and lists it. A folder that isn't there leaves the tree where it is.
+    void showFolder(const QString &folder);
+
 Q_SIGNALS:
+    /// A double click on a file of the list, or Return.
     void fileActivated();
+    /// The list's menu is asked for at a point of the screen.
+    void menuWanted(const QPoint &place);
 
 private:
     void setFolder(const QString &folder);
     void listFolder();
-    void fillDrives();
+    void refresh();
+    void changeDrive();
     void chooseProjectPath();
 
     std::unique_ptr<Ui::FilePane> m_ui;
     Prompts &m_prompts;
-    FileListBox m_file;
+    FileListBox *m_file;
+    FolderWatch m_watch;
+    /// The pattern that the list was filled by. A newer one waits for the next change of the folder.
+    QString m_listedPattern;
     bool m_rootSelect = false;
 };
 

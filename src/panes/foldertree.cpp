@@ -2,14 +2,20 @@
 #include "panes/foldertree.h"
 
 #include <QDir>
-#include <QHeaderView>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QSignalBlocker>
 #include <QStandardPaths>
+#include <QTreeWidgetItemIterator>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
 namespace {
+
+/// In pixels; the pane is narrow and paths are deep.
+constexpr int stepOfDepth = 12;
 
 constexpr int PathRole = Qt::UserRole;
 constexpr int ReadRole = Qt::UserRole + 2;
@@ -19,24 +25,27 @@ QString pathOf(const QTreeWidgetItem *item)
     return item->data(0, PathRole).toString();
 }
 
-} // namespace
-
-FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent)
+QString withSlash(const QString &folder)
 {
-    setHeaderHidden(true);
-    setUniformRowHeights(true);
-    connect(this, &QTreeWidget::itemExpanded, this, &FolderTree::readChildren);
-    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
-        if (item)
-            Q_EMIT folderSelected(pathOf(item));
-    });
-    setRootFolder({});
+    return folder.endsWith(u'/') ? folder : folder + u'/';
 }
 
-QTreeWidgetItem *FolderTree::addFolder(QTreeWidgetItem *parent, const QString &path, const QString &caption)
+/// The folder as it is watched, or empty for an item that is no folder.
+QString watchedPathOf(const QTreeWidgetItem *item)
 {
-    auto *item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(this);
-    item->setText(0, caption);
+    const QString path = pathOf(item);
+    return path.isEmpty() ? path : QDir::cleanPath(path);
+}
+
+bool isRead(const QTreeWidgetItem *item)
+{
+    return item->data(0, ReadRole).toBool();
+}
+
+QTreeWidgetItem *makeItem(const QString &path, const QString &caption, QStringView icon)
+{
+    auto *item = new QTreeWidgetItem(QStringList(caption));
+    item->setIcon(0, QIcon::fromTheme(icon.toString()));
     item->setToolTip(0, QDir::toNativeSeparators(path));
     item->setData(0, PathRole, path);
     // Whether there are folders inside is only known once it is read.
@@ -44,25 +53,107 @@ QTreeWidgetItem *FolderTree::addFolder(QTreeWidgetItem *parent, const QString &p
     return item;
 }
 
+QTreeWidgetItem *makeFolder(const QString &path, const QString &caption)
+{
+    return makeItem(path, caption, u"folder");
+}
+
+/// The child that is the folder `target` or holds it, or nullptr.
+QTreeWidgetItem *childTowards(const QTreeWidgetItem *item, const QString &target)
+{
+    for (int i = 0; i < item->childCount(); ++i) {
+        const QString path = pathOf(item->child(i));
+        if (target == path || target.startsWith(path + u'/'))
+            return item->child(i);
+    }
+    return nullptr;
+}
+
+/// Puts the folders that an item doesn't have yet between its others, which are in the same order.
+void addNew(QTreeWidgetItem *item, const QStringList &names)
+{
+    QSet<QString> known;
+    for (int i = 0; i < item->childCount(); ++i)
+        known.insert(item->child(i)->text(0));
+    const QDir folder(pathOf(item));
+    QList<QTreeWidgetItem *> fresh;
+    for (const QString &name : names) {
+        if (!known.contains(name))
+            fresh.append(makeFolder(folder.filePath(name), name));
+    }
+    if (known.isEmpty()) {
+        item->addChildren(fresh);
+        return;
+    }
+    int row = 0;
+    for (QTreeWidgetItem *child : fresh) {
+        while (row < item->childCount()
+               && item->child(row)->text(0).compare(child->text(0), Qt::CaseInsensitive) < 0)
+            ++row;
+        item->insertChild(row, child);
+    }
+}
+
+bool isSameOrBelow(const QTreeWidgetItem *item, const QTreeWidgetItem *ancestor)
+{
+    while (item && item != ancestor)
+        item = item->parent();
+    return item;
+}
+
+} // namespace
+
+FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent), m_watch(this)
+{
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setIndentation(stepOfDepth);
+    connect(this, &QTreeWidget::itemExpanded, this, &FolderTree::read);
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *item) {
+        if (item)
+            Q_EMIT folderSelected(pathOf(item));
+    });
+    connect(&m_watch, &FolderWatch::changed, this, &FolderTree::followChanged);
+    showWholeComputer();
+}
+
+void FolderTree::showWholeComputer()
+{
+    struct Place {
+        QStringView caption;
+        QStringView icon;
+        QStandardPaths::StandardLocation location;
+    };
+    static constexpr Place places[] = {
+        {u"Desktop", u"user-desktop", QStandardPaths::DesktopLocation},
+        {u"My Documents", u"folder-documents", QStandardPaths::DocumentsLocation},
+    };
+    for (const Place &place : places) {
+        const QString folder = QStandardPaths::writableLocation(place.location);
+        addTopLevelItem(makeItem(withSlash(folder), place.caption.toString(), place.icon));
+    }
+    QTreeWidgetItem *computer = makeItem({}, u"My Computer"_s, u"computer");
+    m_start = makeFolder(QDir::rootPath(), QDir::toNativeSeparators(QDir::rootPath()));
+    computer->addChild(m_start);
+    addTopLevelItem(computer);
+    computer->setExpanded(true);
+}
+
 void FolderTree::setRootFolder(const QString &folder)
 {
     const QSignalBlocker quiet(this);
     clear();
+    m_watch.clear();
     m_root = folder.isEmpty() ? QString() : QDir::cleanPath(folder);
-    if (!m_root.isEmpty()) {
-        QTreeWidgetItem *root = addFolder(nullptr, m_root, QDir::toNativeSeparators(m_root));
-        readChildren(root);
-        root->setExpanded(true);
-        setCurrentItem(root);
+    if (m_root.isEmpty()) {
+        showWholeComputer();
         return;
     }
-    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    if (!desktop.isEmpty())
-        addFolder(nullptr, desktop, u"Desktop"_s);
-    if (!documents.isEmpty())
-        addFolder(nullptr, documents, u"My Documents"_s);
-    addFolder(nullptr, QDir::rootPath(), QDir::toNativeSeparators(QDir::rootPath()));
+    m_start = makeFolder(m_root, QDir::toNativeSeparators(m_root));
+    addTopLevelItem(m_start);
+    read(m_start);
+    m_start->setExpanded(true);
+    setCurrentItem(m_start);
 }
 
 QString FolderTree::selectedFolder() const
@@ -73,23 +164,19 @@ QString FolderTree::selectedFolder() const
 
 void FolderTree::setSelectedFolder(const QString &folder)
 {
-    if (folder.isEmpty() || !QDir(folder).exists())
+    if (!QDir::isAbsolutePath(folder) || !QDir(folder).exists())
         return;
     const QString target = QDir::cleanPath(folder);
-    QTreeWidgetItem *item = topLevelItem(topLevelItemCount() - 1);
+    QTreeWidgetItem *item = m_start;
     while (item && pathOf(item) != target) {
-        readChildren(item);
-        QTreeWidgetItem *next = nullptr;
-        for (int i = 0; i < item->childCount() && !next; ++i) {
-            const QString path = pathOf(item->child(i));
-            if (target == path || target.startsWith(path + u'/'))
-                next = item->child(i);
-        }
-        const QString inside = pathOf(item).endsWith(u'/') ? pathOf(item) : pathOf(item) + u'/';
+        read(item);
+        QTreeWidgetItem *next = childTowards(item, target);
+        const QString inside = withSlash(pathOf(item));
         if (!next && target.startsWith(inside)) {
             // A hidden folder, and one that is newer than the tree, joins it when it is asked for.
             const QString name = target.sliced(inside.size()).section(u'/', 0, 0);
-            next = addFolder(item, inside + name, name);
+            addNew(item, {name});
+            next = childTowards(item, target);
         }
         if (next)
             item->setExpanded(true);
@@ -99,20 +186,67 @@ void FolderTree::setSelectedFolder(const QString &folder)
         return;
     const QSignalBlocker quiet(this);
     setCurrentItem(item);
-    scrollToItem(item);
+    scrollToItem(item, QAbstractItemView::PositionAtCenter);
 }
 
-void FolderTree::readChildren(QTreeWidgetItem *item)
+/// Fills an item that is opened. One whose folder can't be watched is filled anew each time.
+void FolderTree::read(QTreeWidgetItem *item)
 {
-    if (item->data(0, ReadRole).toBool())
-        return;
+    if (!pathOf(item).isEmpty() && !(isRead(item) && m_watch.contains(watchedPathOf(item))))
+        follow(item);
+}
+
+/// Makes the item's children what the folder holds now. Those that stay keep what is open and selected below them.
+void FolderTree::follow(QTreeWidgetItem *item)
+{
     item->setData(0, ReadRole, true);
-    const QDir folder(pathOf(item));
-    const QStringList names = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
-    for (const QString &name : names)
-        addFolder(item, folder.filePath(name), name);
-    if (names.isEmpty())
-        item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
+    m_watch.add(watchedPathOf(item));
+    const QStringList names =
+        QDir(pathOf(item)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    removeVanished(item, QSet<QString>(names.begin(), names.end()));
+    addNew(item, names);
+    item->setChildIndicatorPolicy(item->childCount() > 0 ? QTreeWidgetItem::ShowIndicator
+                                                         : QTreeWidgetItem::DontShowIndicatorWhenChildless);
+}
+
+void FolderTree::removeVanished(QTreeWidgetItem *item, const QSet<QString> &names)
+{
+    for (int i = item->childCount() - 1; i >= 0; --i) {
+        QTreeWidgetItem *child = item->child(i);
+        // Folders that were asked for by their path aren't among the names if they are hidden.
+        if (names.contains(child->text(0)) || QDir(pathOf(child)).exists()) {
+            // One of the same name may have taken the old one's place, which nobody watches yet.
+            if (isRead(child))
+                read(child);
+            continue;
+        }
+        if (isSameOrBelow(currentItem(), child))
+            setCurrentItem(item);
+        delete child;
+    }
+}
+
+void FolderTree::followChanged(const QSet<QString> &folders)
+{
+    for (const QString &folder : folders) {
+        // Following an item deletes none but those below it, which are other folders.
+        QList<QTreeWidgetItem *> items;
+        for (QTreeWidgetItemIterator it(this); *it; ++it) {
+            if (isRead(*it) && watchedPathOf(*it) == folder)
+                items.append(*it);
+        }
+        for (QTreeWidgetItem *item : items)
+            follow(item);
+    }
+}
+
+void FolderTree::keyPressEvent(QKeyEvent *event)
+{
+    // The asterisk opens everything below an item, which would read the whole disk, and links in circles for ever.
+    if (event->key() == Qt::Key_Asterisk && currentItem())
+        currentItem()->setExpanded(true);
+    else
+        QTreeWidget::keyPressEvent(event);
 }
 
 } // namespace zephira

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/sidetabbar.h"
 
+#include "panes/droppedfile.h"
+
+#include <QDropEvent>
+#include <QMouseEvent>
 #include <QStyleOptionTab>
 #include <QStylePainter>
 
@@ -20,11 +24,36 @@ SideTabBar::SideTabBar(QWidget *parent) : QTabBar(parent)
     setDrawBase(false);
     setExpanding(false);
     setUsesScrollButtons(true);
+    setAcceptDrops(true);
 }
 
 QSize SideTabBar::tabSizeHint(int) const
 {
     return {tabSize, tabSize};
+}
+
+void SideTabBar::mousePressEvent(QMouseEvent *event)
+{
+    const int tab = tabAt(event->position().toPoint());
+    const bool again = event->button() == Qt::LeftButton && tab >= 0 && tab == currentIndex();
+    QTabBar::mousePressEvent(event);
+    if (again)
+        Q_EMIT clickedAgain(tab);
+}
+
+void SideTabBar::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedFile(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void SideTabBar::dropEvent(QDropEvent *event)
+{
+    const QString path = droppedFile(event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    Q_EMIT fileDropped(path);
 }
 
 void SideTabBar::paintEvent(QPaintEvent *)
@@ -38,17 +67,12 @@ void SideTabBar::paintEvent(QPaintEvent *)
         if (selected) {
             painter.fillRect(cell, palette().color(QPalette::Base));
             painter.fillRect(QRect(cell.left(), cell.top(), 3, cell.height()), palette().color(QPalette::Highlight));
-        } else if (option.state & QStyle::State_MouseOver && isTabEnabled(i)) {
+        } else if (option.state & QStyle::State_MouseOver) {
             painter.fillRect(cell, palette().color(QPalette::Midlight));
         }
         QRect picture(0, 0, pictureSize, pictureSize);
         picture.moveCenter(cell.center());
-        if (tabIcon(i).isNull()) {
-            painter.setPen(palette().color(isTabEnabled(i) ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-            painter.drawText(picture, Qt::AlignCenter, tabData(i).toString().toUpper());
-        } else {
-            tabIcon(i).paint(&painter, picture, Qt::AlignCenter, isTabEnabled(i) ? QIcon::Normal : QIcon::Disabled);
-        }
+        tabIcon(i).paint(&painter, picture, Qt::AlignCenter);
         if (selected && hasFocus()) {
             QStyleOptionFocusRect focus;
             focus.initFrom(this);

@@ -6,7 +6,7 @@
 namespace zephira {
 
 /// A strip of upright picture tabs along the left edge. A tab's caption is not painted but read by assistive technology and
-/// shown as its tip. A tab without a picture shows its key in capitals.
+/// shown as its tip. Files can be dropped on the strip.
 class SideTabBar : public QTabBar
 {
     Q_OBJECT
@@ -14,10 +14,19 @@ class SideTabBar : public QTabBar
 public:
     explicit SideTabBar(QWidget *parent = nullptr);
 
+Q_SIGNALS:
+    /// A click on the tab that was selected already; a click on another one is a change of the tab.
+    void clickedAgain(int index);
+    /// The full path of the first of the files that were dropped.
+    void fileDropped(const QString &path);
+
 protected:
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 };
 
 } // namespace zephira

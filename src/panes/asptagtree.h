@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTreeWidget>
+
+namespace zephira {
+
+struct AppContext;
+
+/// The list of ASP codes in the side pane. A double click pastes one behind the selection.
+class AspTagTree final : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit AspTagTree(const AppContext &context, QWidget *parent = nullptr);
+
+    /// Adds a root node for each line, also for a blank one.
+    void addLines(const QStringList &lines);
+};
+
+} // namespace zephira

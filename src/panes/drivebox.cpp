@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panes/drivebox.h"
+
+#include "panes/drives.h"
+
+#include <QIcon>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+DriveBox::DriveBox(QWidget *parent) : QComboBox(parent)
+{
+    // A long mount point must not make the pane wider.
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    refill();
+}
+
+void DriveBox::refill()
+{
+    const QSignalBlocker quiet(this);
+    const QString current = currentText();
+    const QIcon picture = QIcon::fromTheme(u"drive-harddisk"_s);
+    clear();
+    for (const QString &drive : mountedDrives())
+        addItem(picture, drive);
+    setCurrentIndex(qMax(0, findText(current)));
+}
+
+void DriveBox::showPopup()
+{
+    refill();
+    QComboBox::showPopup();
+}
+
+} // namespace zephira

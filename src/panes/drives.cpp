@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panes/drives.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+namespace zephira {
+
+QStringList drivesOf(QStringList mountPoints)
+{
+    mountPoints.removeAll(QDir::rootPath());
+    mountPoints.sort();
+    mountPoints.removeDuplicates();
+    mountPoints.prepend(QDir::rootPath());
+    return mountPoints;
+}
+
+QStringList mountedDrives()
+{
+    QStringList mountPoints;
+    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+        // Pseudo file systems have no size and hold nothing to edit; a single file can be mounted too.
+        if (volume.isReady() && volume.bytesTotal() > 0 && QFileInfo(volume.rootPath()).isDir())
+            mountPoints.append(volume.rootPath());
+    }
+    return drivesOf(std::move(mountPoints));
+}
+
+} // namespace zephira

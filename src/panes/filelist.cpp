@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panes/filelist.h"
+
+#include "controls/itemchoice.h"
+
+#include <QContextMenuEvent>
+#include <QIcon>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr int pictureSize = 16;
+
+} // namespace
+
+FileList::FileList(QWidget *parent) : QListWidget(parent)
+{
+    setUniformItemSizes(true);
+    setIconSize({pictureSize, pictureSize});
+    onItemChosen(*this, this, [this](const QModelIndex &) { Q_EMIT opened(); });
+}
+
+void FileList::setNames(const QStringList &names)
+{
+    clear();
+    addItems(names);
+    // Told one by one, ten thousand pictures would take longer than everything else; nothing has been painted yet.
+    const QSignalBlocker quiet(model());
+    const QIcon picture = QIcon::fromTheme(u"text-x-generic"_s);
+    for (int row = 0; row < count(); ++row)
+        item(row)->setIcon(picture);
+}
+
+QStringList FileList::names() const
+{
+    QStringList names;
+    for (int row = 0; row < count(); ++row)
+        names.append(item(row)->text());
+    return names;
+}
+
+void FileList::mouseReleaseEvent(QMouseEvent *event)
+{
+    QListWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton && viewport()->rect().contains(event->position().toPoint()))
+        Q_EMIT menuWanted(event->globalPosition().toPoint());
+}
+
+void FileList::contextMenuEvent(QContextMenuEvent *event)
+{
+    // The mouse asks for the menu by its release.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT menuWanted(event->globalPos());
+}
+
+} // namespace zephira

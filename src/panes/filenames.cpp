@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panes/filenames.h"
+
+#include "controls/vbtext.h"
+
+#include <QDirIterator>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// A character is one unit, or two where the first is a high surrogate.
+qsizetype behindCharacter(QStringView text, qsizetype i)
+{
+    return i + (text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1);
+}
+
+/// Where a part doesn't fit, the last star takes one character more; stars before it never need to be tried again.
+bool matchesWildcard(QStringView pattern, QStringView name)
+{
+    qsizetype p = 0;
+    qsizetype n = 0;
+    qsizetype behindStar = -1;
+    qsizetype starEnd = 0;
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == u'*') {
+            behindStar = ++p;
+            starEnd = n;
+        } else if (p < pattern.size() && pattern[p] == u'?') {
+            ++p;
+            n = behindCharacter(name, n);
+        } else if (p < pattern.size() && pattern[p] == name[n]) {
+            ++p;
+            ++n;
+        } else if (behindStar >= 0) {
+            p = behindStar;
+            starEnd = behindCharacter(name, starEnd);
+            n = starEnd;
+        } else {
+            return false;
+        }
+    }
+    return pattern.mid(p).count(u'*') == pattern.size() - p;
+}
+
+} // namespace
+
+FilePatterns::FilePatterns(const QString &list)
+{
+    for (const QString &part : list.split(u';')) {
+        const QString pattern = Trim(part);
+        if (!pattern.isEmpty())
+            m_patterns.append(pattern == u"*.*"_s ? u"*"_s : pattern.toCaseFolded());
+    }
+    if (m_patterns.isEmpty())
+        m_patterns.append(u"*"_s);
+}
+
+bool FilePatterns::match(const QString &name) const
+{
+    const bool hidden = name.startsWith(u'.');
+    const QString folded = name.toCaseFolded();
+    return std::ranges::any_of(m_patterns, [&](const QString &pattern) {
+        return hidden == pattern.startsWith(u'.') && matchesWildcard(pattern, folded);
+    });
+}
+
+QStringList fileNames(const QString &folder, const QString &patterns)
+{
+    if (folder.isEmpty())
+        return {};
+    struct Name {
+        QString folded;
+        QString name;
+    };
+    std::vector<Name> found;
+    const FilePatterns wanted(patterns);
+    QDirIterator entries(folder, QDir::Files | QDir::Hidden);
+    while (entries.hasNext()) {
+        entries.next();
+        QString name = entries.fileName();
+        if (wanted.match(name))
+            found.push_back({name.toCaseFolded(), std::move(name)});
+    }
+    std::ranges::sort(found, [](const Name &a, const Name &b) {
+        return std::tie(a.folded, a.name) < std::tie(b.folded, b.name);
+    });
+    QStringList names;
+    names.reserve(static_cast<qsizetype>(found.size()));
+    for (Name &entry : found)
+        names.append(std::move(entry.name));
+    return names;
+}
+
+} // namespace zephira

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panes/oebrowser.h"
+
+#include "controls/appcontext.h"
+#include "controls/editingcontrol.h"
+#include "controls/itemchoice.h"
+#include "controls/prompts.h"
+#include "panes/objectbrowserlayout.h"
+#include "panes/sotloader.h"
+#include "ui_oebrowser.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+oebrowser::oebrowser(const AppContext &context, QWidget *owner)
+    : QDialog(owner), m_context(context), m_ui(std::make_unique<Ui::oebrowser>())
+{
+    m_ui->setupUi(this);
+    connect(m_ui->objectshow, &QPushButton::clicked, this, [this] { showTree(u"jsobjects.sot"_s); });
+    connect(m_ui->eventshow, &QPushButton::clicked, this, [this] { showTree(u"jsevents.sot"_s); });
+    onItemChosen(*m_ui->TreeView1, this,
+                 [this](const QModelIndex &index) { m_context.editor.setSelText(index.data().toString()); });
+}
+
+oebrowser::~oebrowser() = default;
+
+void oebrowser::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    const ObjectBrowserLayout layout = objectBrowserLayout(size());
+    m_ui->TreeView1->setGeometry(layout.tree);
+    for (QPushButton *button : {m_ui->objectshow, m_ui->eventshow})
+        button->setGeometry(layout.buttonLeft, button->y(), layout.buttonWidth, button->height());
+}
+
+void oebrowser::showTree(const QString &fileName)
+{
+    const Result<void> loaded = LoadSotTree(m_context.files, m_context.appPath + u"/deps/"_s + fileName, *m_ui->TreeView1);
+    if (!loaded)
+        m_context.prompts.tell(loaded.error().sentence, windowTitle(), Question::Icon::Exclamation);
+}
+
+} // namespace zephira

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tags/frmtags.h"
+
+#include "controls/appcontext.h"
+#include "controls/editingcontrol.h"
+#include "tags/tagpalette.h"
+#include "ui_frmtags.h"
+
+namespace zephira {
+
+frmTags::frmTags(const AppContext &context, QWidget *owner)
+    : QDialog(owner), m_ui(std::make_unique<Ui::frmTags>()), m_editor(context.editor)
+{
+    m_ui->setupUi(this);
+    // Each goes ahead of those before, so that the last row of the table stands first.
+    for (const PaletteTag &tag : paletteTags())
+        m_ui->TagList->insertItem(0, tag.item.toString());
+    // The Return key in the list reaches Command1 as the default button.
+    connect(m_ui->Command1, &QPushButton::clicked, this, &frmTags::insertSelected);
+    connect(m_ui->Command2, &QPushButton::clicked, this, &frmTags::reject);
+    connect(m_ui->TagList, &QListWidget::itemDoubleClicked, this, &frmTags::insertSelected);
+}
+
+frmTags::~frmTags() = default;
+
+void frmTags::insertSelected()
+{
+    for (const QListWidgetItem *item : m_ui->TagList->selectedItems()) {
+        const QStringView markup = paletteMarkup(item->text());
+        if (!markup.isNull())
+            m_editor.setSelText(markup.toString());
+    }
+}
+
+} // namespace zephira

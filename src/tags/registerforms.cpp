@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tags/registerforms.h"
+
+#include "controls/formcatalogue.h"
+#include "tags/frmtags.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira::tags {
+
+void registerForms(FormCatalogue &catalogue)
+{
+    catalogue.add<frmTags>(u"frmTags"_s);
+}
+
+} // namespace zephira::tags

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tags/tagtree.h"
+
+#include "app/pasteitem.h"
+#include "controls/appcontext.h"
+#include "controls/files/textlines.h"
+#include "controls/itemchoice.h"
+#include "controls/itemroles.h"
+#include "tags/builtintags.h"
+#include "tags/tagfile.h"
+
+#include <QIcon>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+QTreeWidgetItem *node(const QString &caption, const QIcon &picture)
+{
+    auto *item = new QTreeWidgetItem(QStringList(caption));
+    item->setIcon(0, picture);
+    return item;
+}
+
+} // namespace
+
+TagTree::TagTree(const AppContext &context, QWidget *parent) : QTreeWidget(parent), m_context(context)
+{
+    setObjectName(u"TRV"_s);
+    setAccessibleName(u"HTML Tags"_s);
+    setHeaderHidden(true);
+    onItemChosen(*this, this, [this](const QModelIndex &index) { pasteInCodeView(m_context, index.data().toString()); });
+}
+
+Result<void> TagTree::LoadTagTree()
+{
+    const Result<QStringList> lines = readLines(m_context.files, m_context.appPath + u"/tags.dat"_s);
+    if (!lines)
+        return lines.error();
+    const QIcon tagPicture = QIcon::fromTheme(u"tag"_s);
+    const QIcon attributePicture = QIcon::fromTheme(u"code-variable"_s);
+    QList<QTreeWidgetItem *> nodes;
+    for (const QString &caption : tagCaptions(lines.value()))
+        nodes.append(node(caption, tagPicture));
+    for (const BuiltInTag &tag : builtInTags()) {
+        QTreeWidgetItem *item = node(tag.caption.toString(), tagPicture);
+        item->setData(0, KeyRole, tag.key.toString());
+        for (const QString &caption : attributeCaptions(tag))
+            item->addChild(node(caption, attributePicture));
+        nodes.append(item);
+    }
+    addTopLevelItems(nodes);
+    return {};
+}
+
+} // namespace zephira
