@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/prompts.h"
+#include "ftp/filetypes.h"
+
+namespace zephira {
+
+/// The extensions of a file's old and new name, which both panes compare, exact in case, before they rename it.
+class ExtensionChange
+{
+public:
+    ExtensionChange(const QString &oldName, const QString &newName)
+        : m_old(extensionOf(oldName)), m_new(extensionOf(newName))
+    {
+    }
+
+    bool isNone() const { return m_old == m_new; }
+    /// What is asked when they differ; anything but Yes calls the renaming off.
+    Question question() const
+    {
+        return {QStringLiteral("Are you sure to exchange the file extension from: \"") + m_old
+                    + QStringLiteral("\" to: \"") + m_new + u'"',
+                {}, Question::Icon::Question, Question::Buttons::YesNo};
+    }
+
+private:
+    QString m_old;
+    QString m_new;
+};
+
+} // namespace zephira

@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/filelistview.h"
+
+#include "ftp/filerowsmodel.h"
+#include "ftp/ftpimages.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace zephira {
+
+namespace {
+
+constexpr int columnWidths[] = {190, 90, 150, 80};
+
+/// What an icon view looks like.
+struct IconLayout {
+    QListView::ViewMode mode;
+    QListView::Flow flow;
+    int iconSize;
+    QSize grid;
+};
+
+constexpr IconLayout iconLayouts[] = {
+    {QListView::IconMode, QListView::LeftToRight, 32, {104, 76}},
+    {QListView::ListMode, QListView::LeftToRight, 16, {190, 24}},
+    {QListView::ListMode, QListView::TopToBottom, 16, {190, 24}},
+};
+
+/// The icon views, which tell when the left button is released over them.
+class IconList final : public QListView
+{
+public:
+    IconList(QWidget *parent, std::function<void()> released) : QListView(parent), m_released(std::move(released)) {}
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        QListView::mouseReleaseEvent(event);
+        if (event->button() == Qt::LeftButton)
+            m_released();
+    }
+
+private:
+    std::function<void()> m_released;
+};
+
+/// Edits names, and leaves it to the list what becomes of a new one.
+class NameDelegate final : public QStyledItemDelegate
+{
+public:
+    using Started = std::function<void(const QString &)>;
+    using Ended = std::function<void(const QModelIndex &, const QString &)>;
+
+    NameDelegate(QObject *parent, Started started, Ended ended)
+        : QStyledItemDelegate(parent), m_started(std::move(started)), m_ended(std::move(ended))
+    {
+    }
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        m_started(index.data().toString());
+        return QStyledItemDelegate::createEditor(parent, option, index);
+    }
+
+    void setModelData(QWidget *editor, QAbstractItemModel *, const QModelIndex &index) const override
+    {
+        m_ended(index, editor->property(editor->metaObject()->userProperty().name()).toString());
+    }
+
+private:
+    Started m_started;
+    Ended m_ended;
+};
+
+} // namespace
+
+FileListView::FileListView(QWidget *parent)
+    : QTreeView(parent), m_model(new FileRowsModel([this](int number) { return ftpImage(number, *this); }, this)),
+      m_icons(new IconList(this, [this] { Q_EMIT listClicked(); }))
+{
+    setModel(m_model);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    for (int column = 0; column < FileRowsModel::ColumnCount; ++column)
+        header()->resizeSection(column, columnWidths[column]);
+    header()->setSectionsClickable(true);
+    connect(header(), &QHeaderView::sectionClicked, this, &FileListView::sortBy);
+
+    m_icons->setModel(m_model);
+    m_icons->setSelectionModel(selectionModel());
+    m_icons->setUniformItemSizes(true);
+    m_icons->setLayoutMode(QListView::Batched);
+    m_icons->setResizeMode(QListView::Adjust);
+    m_icons->setWrapping(true);
+    m_icons->hide();
+    prepare(*this);
+    prepare(*m_icons);
+}
+
+void FileListView::prepare(QAbstractItemView &view)
+{
+    view.setSelectionMode(ExtendedSelection);
+    view.setSelectionBehavior(SelectRows);
+    view.setEditTriggers(EditKeyPressed);
+    view.setTextElideMode(Qt::ElideMiddle);
+    view.installEventFilter(this);
+    view.viewport()->installEventFilter(this);
+    connect(&view, &QAbstractItemView::doubleClicked, this, &FileListView::opened);
+    view.setItemDelegate(new NameDelegate(
+        &view, [this](const QString &name) { Q_EMIT editStarted(name); },
+        [this](const QPersistentModelIndex &cell, const QString &name) {
+            // The editor must be gone before anybody is asked anything: a question takes its focus, which ends it again.
+            QMetaObject::invokeMethod(this, [this, cell, name] { endEdit(cell, name); }, Qt::QueuedConnection);
+        }));
+}
+
+void FileListView::setView(int view)
+{
+    m_view = std::clamp<int>(view, LargeIcons, Report);
+    m_icons->setVisible(m_view != Report);
+    setFocusProxy(m_view == Report ? nullptr : m_icons);
+    if (m_view == Report)
+        return;
+    const IconLayout &layout = iconLayouts[m_view];
+    m_icons->setViewMode(layout.mode);
+    m_icons->setFlow(layout.flow);
+    m_icons->setMovement(QListView::Static);
+    m_icons->setIconSize({layout.iconSize, layout.iconSize});
+    m_icons->setGridSize(layout.grid);
+    applyDragging();
+    m_icons->setGeometry(rect());
+    m_icons->raise();
+}
+
+void FileListView::setDragging(bool on)
+{
+    m_dragging = on;
+    applyDragging();
+}
+
+/// Another arrangement of the icons would forget it.
+void FileListView::applyDragging()
+{
+    setDragDropMode(m_dragging ? DragOnly : NoDragDrop);
+    m_icons->setDragDropMode(m_dragging ? DragOnly : NoDragDrop);
+}
+
+int FileListView::count() const
+{
+    return m_model->rowCount();
+}
+
+bool FileListView::contains(const QString &name) const
+{
+    return std::ranges::find(m_model->rows(), name, &FileRow::name) != m_model->rows().end();
+}
+
+std::vector<FileRow> FileListView::selected() const
+{
+    std::vector<int> numbers;
+    const QModelIndexList cells = selectionModel()->selectedRows();
+    for (const QModelIndex &cell : cells)
+        numbers.push_back(cell.row());
+    std::ranges::sort(numbers);
+    std::vector<FileRow> rows;
+    rows.reserve(numbers.size());
+    for (const int number : numbers)
+        rows.push_back(m_model->rows()[static_cast<std::size_t>(number)]);
+    return rows;
+}
+
+void FileListView::setRows(std::vector<FileRow> rows)
+{
+    m_model->setRows(std::move(rows));
+}
+
+void FileListView::editName()
+{
+    const QModelIndexList cells = selectionModel()->selectedRows();
+    if (cells.isEmpty())
+        return;
+    const QModelIndex current = currentIndex().siblingAtColumn(FileRowsModel::Name);
+    QAbstractItemView &view = shownView();
+    view.setFocus();
+    view.edit(cells.contains(current) ? current : *std::min_element(cells.cbegin(), cells.cend()));
+}
+
+QAbstractItemView &FileListView::shownView() const
+{
+    return m_view == Report ? const_cast<FileListView &>(*this) : static_cast<QAbstractItemView &>(*m_icons);
+}
+
+void FileListView::sortBy(int column)
+{
+    m_order = m_order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    m_model->sort(column, m_order);
+    header()->setSortIndicatorShown(true);
+    header()->setSortIndicator(column, m_order);
+}
+
+void FileListView::endEdit(const QPersistentModelIndex &cell, const QString &newName)
+{
+    const QString oldName = cell.data().toString();
+    if (!cell.isValid() || newName.isEmpty() || newName == oldName || !mayRename)
+        return;
+    // The rows may be others by then.
+    if (mayRename(oldName, newName) && cell.isValid())
+        m_model->setData(cell, newName, Qt::EditRole);
+}
+
+bool FileListView::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return takeKey(*static_cast<QWidget *>(watched), *static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+        if (const auto *mouse = static_cast<QMouseEvent *>(event); mouse->button() == Qt::RightButton)
+            requestPopup(mouse->globalPosition().toPoint());
+        return false;
+    case QEvent::ContextMenu: {
+        // The button has asked already; what is left is the key.
+        const auto *menu = static_cast<QContextMenuEvent *>(event);
+        if (menu->reason() == QContextMenuEvent::Keyboard)
+            requestPopup(menu->globalPos());
+        return true;
+    }
+    default:
+        return QTreeView::eventFilter(watched, event);
+    }
+}
+
+/// Tells of the keys that mean something to the window. What a name that is being edited leaves over of its keys is not
+/// meant for the list.
+bool FileListView::takeKey(const QWidget &view, const QKeyEvent &key)
+{
+    const bool pressed = key.type() == QEvent::KeyPress;
+    const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const bool isDelete = key.key() == Qt::Key_Delete;
+    if (!view.hasFocus() || key.isAutoRepeat() || !(isDelete || (isEnter && pressed)))
+        return false;
+    if (isEnter)
+        Q_EMIT opened();
+    else if (pressed)
+        Q_EMIT deletePressed();
+    else
+        Q_EMIT deleteReleased();
+    return true;
+}
+
+/// The press has to select its row before the menu opens.
+void FileListView::requestPopup(const QPoint &place)
+{
+    QMetaObject::invokeMethod(this, [this, place] { Q_EMIT popupRequested(place); }, Qt::QueuedConnection);
+}
+
+void FileListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTreeView::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT listClicked();
+}
+
+void FileListView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    m_icons->setGeometry(rect());
+}
+
+} // namespace zephira

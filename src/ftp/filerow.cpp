@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/filerow.h"
+
+#include <numeric>
+
+namespace zephira {
+
+qint64 totalBytes(const std::vector<FileRow> &rows)
+{
+    return std::accumulate(rows.begin(), rows.end(), qint64(0),
+                           [](qint64 sum, const FileRow &row) { return sum + row.bytes.toLongLong(); });
+}
+
+} // namespace zephira

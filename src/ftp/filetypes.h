@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace zephira {
+
+// Numbers in the image lists beyond the file types, which have 1 to 10.
+constexpr int rootImage = 11;
+constexpr int folderImage = 12;
+constexpr int openFolderImage = 13;
+
+/// The text behind the last point; empty if there is none.
+QString extensionOf(const QString &name);
+
+/// Number of the picture for a file's extension, without regard to case; 10 for one that isn't known.
+int imageForFile(const QString &name);
+
+} // namespace zephira

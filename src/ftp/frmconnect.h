@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/appcontext.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QTreeWidgetItem;
+
+namespace zephira {
+
+namespace Ui {
+class FrmConnect;
+}
+
+struct FtpClient;
+struct SiteProfile;
+
+/// The sites: keeps profiles, fills its fields from the one that is chosen, and connects. It can connect only while the
+/// FTP window is open.
+class FrmConnect final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    FrmConnect(FtpClient &client, const AppContext &context, QWidget *owner);
+    ~FrmConnect() override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void connectControls();
+    void buildTree();
+    void load(const QTreeWidgetItem *item);
+    void showProfile(const SiteProfile &profile);
+    SiteProfile fields() const;
+
+    void save();
+    void startNew();
+    void connectToSite();
+    void deleteProfile();
+
+    void setAnonymous(bool ticked);
+    void accountTyped();
+    void noteChange();
+
+    const std::unique_ptr<Ui::FrmConnect> m_ui;
+    FtpClient &m_client;
+    const AppContext &m_context;
+    /// The profile that Delete means: the text of the node that was chosen last.
+    QString m_chosen;
+};
+
+} // namespace zephira

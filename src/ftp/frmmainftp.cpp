@@ -1,0 +1,370 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/frmmainftp.h"
+
+#include "ftp/dirlistbox.h"
+#include "ftp/filelistview.h"
+#include "ftp/ftpclient.h"
+#include "ftp/ftpmenus.h"
+#include "ftp/localpane.h"
+#include "ftp/remotepane.h"
+#include "ftp/sessionlogfile.h"
+#include "ui_frmmainftp.h"
+
+#include "controls/appcontext.h"
+#include "controls/clock.h"
+#include "controls/errorstyles.h"
+#include "controls/formopener.h"
+#include "controls/prompts.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr qint64 logPaintInterval = 50; // milliseconds
+constexpr int logHeight = 110;          // pixels, until the bar is dragged
+
+struct PanelRow {
+    QStringView name;
+    int stretch;
+};
+
+constexpr PanelRow panelRows[] = {{u"Status", 0}, {u"Last action", 1}, {u"Connection", 0}};
+
+} // namespace
+
+/// What an entry of the menus runs: a command of one of the panes, or of the window.
+struct frmmainftp::Command {
+    QStringView entry;
+    void (*run)(frmmainftp &);
+};
+
+struct frmmainftp::ViewCommand {
+    QStringView entry;
+    FileListView *Ui::frmmainftp::*list;
+    FileListView::View view;
+};
+
+const frmmainftp::Command frmmainftp::commands[] = {
+    {u"zOpen", [](frmmainftp &window) { window.openLogs(); }},
+    {u"zSave", [](frmmainftp &window) { window.saveLog(); }},
+    {u"zConnect", [](frmmainftp &window) { window.openModal(u"FrmConnect"_s); }},
+    {u"zDisconnect", [](frmmainftp &window) { window.m_connection.disconnectFromServer(); }},
+    {u"zOdpojit", [](frmmainftp &window) { window.m_connection.hangUp(); }},
+    {u"zEnd", [](frmmainftp &window) { window.close(); }},
+    {u"zLokRef", [](frmmainftp &window) { window.m_local->refill(); }},
+    {u"zOpenFile", [](frmmainftp &window) { window.m_local->openFile(); }},
+    {u"zLokUp", [](frmmainftp &window) { window.m_local->upload(); }},
+    {u"zLokNF", [](frmmainftp &window) { window.m_local->newFolder(); }},
+    {u"zLokDF", [](frmmainftp &window) { window.m_local->removeFolder(); }},
+    {u"zLokDS", [](frmmainftp &window) { window.m_local->deleteFiles(); }},
+    {u"zLokRS", [](frmmainftp &window) { window.m_local->rename(); }},
+    {u"zAll", [](frmmainftp &window) { window.m_local->patternAll(); }},
+    {u"zDefine", [](frmmainftp &window) { window.m_local->patternDefined(); }},
+    {u"zFind", [](frmmainftp &window) { window.m_local->findFile(); }},
+    {u"zProperties", [](frmmainftp &window) { window.m_local->showProperties(); }},
+    {u"zRemRef", [](frmmainftp &window) { window.m_remote->refresh(); }},
+    {u"zRemDown", [](frmmainftp &window) { window.m_remote->download(); }},
+    {u"zRemNF", [](frmmainftp &window) { window.m_remote->newFolder(); }},
+    {u"zRemDF", [](frmmainftp &window) { window.m_remote->removeFolder(); }},
+    {u"zRemDS", [](frmmainftp &window) { window.m_remote->deleteFiles(); }},
+    {u"zRemRS", [](frmmainftp &window) { window.m_remote->rename(); }},
+    {u"zAll2", [](frmmainftp &window) { window.m_remote->patternAll(); }},
+    {u"zDefine2", [](frmmainftp &window) { window.m_remote->patternDefined(); }},
+    {u"zBinary", [](frmmainftp &window) { window.m_connection.setTransferType(true); }},
+    {u"zAscii", [](frmmainftp &window) { window.m_connection.setTransferType(false); }},
+    {u"zPassive", [](frmmainftp &window) { window.togglePassive(); }},
+    {u"zTools", [](frmmainftp &window) { window.toggleToolBar(); }},
+};
+
+const frmmainftp::ViewCommand frmmainftp::viewCommands[] = {
+    {u"ztBigIc", &Ui::frmmainftp::ListView1, FileListView::LargeIcons},
+    {u"ztSmallIc", &Ui::frmmainftp::ListView1, FileListView::SmallIcons},
+    {u"ztSeznam", &Ui::frmmainftp::ListView1, FileListView::List},
+    {u"ztReport", &Ui::frmmainftp::ListView1, FileListView::Report},
+    {u"zsBigIc", &Ui::frmmainftp::ListView2, FileListView::LargeIcons},
+    {u"zsSmallIc", &Ui::frmmainftp::ListView2, FileListView::SmallIcons},
+    {u"zsSeznam", &Ui::frmmainftp::ListView2, FileListView::List},
+    {u"zsReport", &Ui::frmmainftp::ListView2, FileListView::Report},
+};
+
+frmmainftp::frmmainftp(FtpClient &client, const AppContext &context, QWidget *owner)
+    : QMainWindow(owner), m_ui(std::make_unique<Ui::frmmainftp>()), m_client(client), m_context(context),
+      m_connection(client, context.prompts)
+{
+    m_ui->setupUi(this);
+    m_client.desk = this;
+    m_sinceLogPainted.start();
+    m_menus = new FtpMenus(*m_ui->menubar, *m_ui->Toolbar1, this);
+    connect(m_menus, &FtpMenus::triggered, this, &frmmainftp::run);
+    m_menus->entry(u"zProperties").setEnabled(false);
+    m_menus->entry(u"zTools").setChecked(true);
+    markTransferType(true);
+    markPassive(true);
+    makePanels();
+    makePanes();
+    connectLocalPane();
+    connectRemotePane();
+    addHelpKeys();
+    m_localPane->setFolder(context.appPath);
+    m_local->refill();
+}
+
+frmmainftp::~frmmainftp()
+{
+    if (m_client.desk == this)
+        m_client.desk = nullptr;
+}
+
+void frmmainftp::makePanels()
+{
+    for (std::size_t i = 0; i < m_panels.size(); ++i) {
+        auto *panel = new QLabel(this);
+        panel->setObjectName(u"stBar_%1"_s.arg(i + 1));
+        panel->setAccessibleName(panelRows[i].name.toString());
+        panel->setTextFormat(Qt::PlainText);
+        panel->setMargin(2);
+        // A long path is cut, never the window widened.
+        if (panelRows[i].stretch)
+            panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        m_ui->stBar->addWidget(panel, panelRows[i].stretch);
+        m_panels[i] = panel;
+    }
+    setPanel(1, u"FTP:"_s);
+}
+
+void frmmainftp::makePanes()
+{
+    // The bars are parts that the splitters make.
+    m_ui->panes->handle(1)->setObjectName(u"Picture1"_s);
+    m_ui->panes->handle(1)->setAccessibleName(u"Bar between this computer and the server"_s);
+    m_ui->panesAndLog->handle(1)->setObjectName(u"Picture2"_s);
+    m_ui->panesAndLog->handle(1)->setAccessibleName(u"Bar between the panes and the log"_s);
+    constexpr int folderShare = 2;
+    constexpr int fileShare = 3;
+    for (QSplitter *side : {m_ui->localLists, m_ui->remoteLists}) {
+        side->setStretchFactor(0, folderShare);
+        side->setStretchFactor(1, fileShare);
+    }
+    m_ui->panesAndLog->setStretchFactor(0, 1);
+    m_ui->panesAndLog->setSizes({height() - logHeight, logHeight});
+
+    m_localPane = new LocalPane({.drives = *m_ui->Drive1,
+                                 .folders = *m_ui->Dir1,
+                                 .names = *m_ui->File1,
+                                 .list = *m_ui->ListView1,
+                                 .path = *m_ui->Label1,
+                                 .allFiles = m_menus->entry(u"zAll"),
+                                 .definedTypes = m_menus->entry(u"zDefine")},
+                                this);
+    m_local = std::make_unique<LocalCommands>(m_client, *this, *m_localPane, m_context);
+    m_remotePane = new RemotePane({.tree = *m_ui->TView1,
+                                   .list = *m_ui->ListView2,
+                                   .path = *m_ui->Label3,
+                                   .allFiles = m_menus->entry(u"zAll2"),
+                                   .definedTypes = m_menus->entry(u"zDefine2")},
+                                  this);
+    m_remote = std::make_unique<RemoteCommands>(m_client, *this, *m_remotePane, m_context);
+}
+
+void frmmainftp::connectLocalPane()
+{
+    FileListView *list = m_ui->ListView1;
+    connect(list, &FileListView::listClicked, this, [this, list] {
+        if (!list->selected().empty())
+            m_menus->entry(u"zProperties").setEnabled(true);
+        m_local->showSummary();
+    });
+    connect(list, &FileListView::opened, this, [this] { run(u"zOpenFile"_s); });
+    connect(list, &FileListView::deletePressed, this, [this] { run(u"zLokDS"_s); });
+    connect(list, &FileListView::popupRequested, this,
+            [this](const QPoint &place) { m_menus->menu(u"zLocal").popup(place); });
+    connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_local->renameStarted(name); });
+    list->mayRename = [this](const QString &oldName, const QString &newName) {
+        bool stays = false;
+        guard(u"ListView1_AfterLabelEdit"_s, [&] { stays = m_local->renameEnded(oldName, newName); });
+        return stays;
+    };
+    connect(m_localPane, &LocalPane::driveChosen, this, [this](const QString &drive) {
+        guard(u"Drive1_Change"_s, [&] { m_local->chooseDrive(drive); });
+    });
+    connect(m_localPane, &LocalPane::folderChosen, this, [this] { m_local->refill(); });
+    connect(m_localPane, &LocalPane::drivesClicked, this,
+            [this] { setPanel(textPanel, u"Local: Chose local disk"_s); });
+    connect(m_localPane, &LocalPane::foldersClicked, this,
+            [this] { setPanel(textPanel, u"Local: Doudle click folder for retreiving files"_s); });
+    connect(m_ui->Dir1, &DirListBox::deletePressed, this, [this] { run(u"zLokDF"_s); });
+}
+
+void frmmainftp::connectRemotePane()
+{
+    FileListView *list = m_ui->ListView2;
+    connect(list, &FileListView::listClicked, this, [this] { m_remote->showSummary(); });
+    connect(list, &FileListView::deleteReleased, this, [this] { run(u"zRemDS"_s); });
+    connect(list, &FileListView::popupRequested, this,
+            [this](const QPoint &place) { m_menus->menu(u"zRemote").popup(place); });
+    connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_remote->renameStarted(name); });
+    list->mayRename = [this](const QString &oldName, const QString &newName) {
+        return m_remote->renameEnded(oldName, newName);
+    };
+    connect(m_remotePane, &RemotePane::nodeChosen, this, [this](const RemoteNode &node) { m_remote->openNode(node); });
+    connect(m_remotePane, &RemotePane::deletePressed, this, [this] { run(u"zRemDF"_s); });
+}
+
+void frmmainftp::addHelpKeys()
+{
+    auto *help = new QAction(u"Help"_s, this);
+    help->setShortcut(QKeySequence::HelpContents);
+    connect(help, &QAction::triggered, this, &frmmainftp::Help);
+    auto *about = new QAction(u"About"_s, this);
+    about->setShortcut(QKeySequence::WhatsThis);
+    connect(about, &QAction::triggered, this, &frmmainftp::About);
+    addActions({help, about});
+}
+
+void frmmainftp::run(const QString &entry)
+{
+    if (const auto view = std::ranges::find(viewCommands, QStringView(entry), &ViewCommand::entry);
+        view != std::end(viewCommands)) {
+        (m_ui.get()->*view->list)->setView(view->view);
+        return;
+    }
+    if (const auto command = std::ranges::find(commands, QStringView(entry), &Command::entry);
+        command != std::end(commands))
+        guard(entry + u"_Click"_s, [&] { command->run(*this); });
+}
+
+void frmmainftp::guard(const QString &procedure, const std::function<void()> &body)
+{
+    tellingErrors(m_context.prompts, objectName(), procedure, {body});
+}
+
+QString frmmainftp::localFolder() const
+{
+    return m_client.session.ftpLocalFolder;
+}
+
+void frmmainftp::setLocalFolder(const QString &folder)
+{
+    endingQuietly([&] { m_local->moveTo(folder); });
+}
+
+void frmmainftp::openLogs()
+{
+    m_local->moveTo(logFolder(m_context));
+}
+
+void frmmainftp::saveLog()
+{
+    saveSessionLog(m_context, m_ui->txtInfo->toPlainText().replace(u'\n', u"\r\n"_s));
+}
+
+void frmmainftp::togglePassive()
+{
+    markPassive(!m_menus->entry(u"zPassive").isChecked());
+}
+
+void frmmainftp::toggleToolBar()
+{
+    QAction &entry = m_menus->entry(u"zTools");
+    entry.setChecked(!entry.isChecked());
+    m_ui->Toolbar1->setVisible(entry.isChecked());
+}
+
+void frmmainftp::Help()
+{
+    m_context.prompts.tell(u"Try to do that the same way couple of times,\r\nThen click on help."_s, u"Help"_s);
+}
+
+void frmmainftp::About()
+{
+    openModal(u"frmAbout"_s);
+}
+
+void frmmainftp::log(LogEntry entry, const QStringList &parts)
+{
+    m_ui->txtInfo->insertPlainText(logText(entry, m_context.clock.now(), parts));
+    m_ui->txtInfo->ensureCursorVisible();
+    // The next call to the server keeps the window from painting itself; but a long list of lines must not be slow.
+    if (m_sinceLogPainted.hasExpired(logPaintInterval)) {
+        m_ui->txtInfo->viewport()->repaint();
+        m_sinceLogPainted.restart();
+    }
+}
+
+void frmmainftp::clearLog()
+{
+    m_ui->txtInfo->clear();
+}
+
+void frmmainftp::setPanel(int panel, const QString &text)
+{
+    m_panels[static_cast<std::size_t>(panel - 1)]->setText(text);
+}
+
+void frmmainftp::setBusy(bool busy)
+{
+    if (!busy) {
+        unsetCursor();
+        return;
+    }
+    setCursor(Qt::WaitCursor);
+    m_ui->stBar->repaint();
+}
+
+void frmmainftp::markTransferType(bool binary)
+{
+    m_menus->entry(u"zBinary").setChecked(binary);
+    m_menus->entry(u"zAscii").setChecked(!binary);
+}
+
+void frmmainftp::markPassive(bool passive)
+{
+    m_menus->entry(u"zPassive").setChecked(passive);
+}
+
+void frmmainftp::clearRemoteTree()
+{
+    m_remotePane->clearTree();
+}
+
+void frmmainftp::addRemoteRoot()
+{
+    m_remotePane->addRoot();
+}
+
+void frmmainftp::List()
+{
+    m_remote->list();
+}
+
+void frmmainftp::openModal(const QString &form)
+{
+    m_context.forms.openModal(form, this);
+}
+
+void frmmainftp::refreshLocal()
+{
+    m_local->refill();
+}
+
+void frmmainftp::refreshRemote()
+{
+    m_remote->refresh();
+}
+
+void frmmainftp::closeEvent(QCloseEvent *event)
+{
+    m_connection.closeHandles();
+    event->accept();
+}
+
+} // namespace zephira

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ftp/transferengine.h"
+
+#include <QDialog>
+#include <QElapsedTimer>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class frmProg;
+}
+
+struct AppContext;
+
+/// Moves the queue that its opener has filled, and shows how far it has come. Nothing moves until the start button is
+/// pressed. During a run the window takes no input; it closes itself at the end, and stays open if the run had to stop.
+class frmProg final : public QDialog, private TransferDisplay
+{
+    Q_OBJECT
+
+public:
+    /// Takes the queue out of the client.
+    frmProg(FtpClient &client, const AppContext &context, QWidget *owner);
+    ~frmProg() override;
+
+private:
+    void beginRun(qint64 total, double barMaximum) override;
+    void beginFile(int number, const QString &line, double barMaximum) override;
+    void moved(const TransferProgress &progress) override;
+    void endFile(const TransferProgress &progress) override;
+
+    void showQueue();
+    void run();
+    void cancel();
+    bool isPaintDue() const;
+    void paint();
+    void show(const TransferProgress &progress);
+
+    const std::unique_ptr<Ui::frmProg> m_ui;
+    FtpClient &m_client;
+    Prompts &m_prompts;
+    const TransferQueue m_queue;
+    TransferEngine m_engine;
+    QElapsedTimer m_sincePainted;
+};
+
+} // namespace zephira

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/net/controlconnection.h"
+
+#include "ftp/net/hostlookup.h"
+#include "ftp/remotename.h"
+
+namespace zephira {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A server that never ends its line is cut off here.
+constexpr qsizetype longestLine = 1 << 16;
+
+} // namespace
+
+bool ControlConnection::connectTo(const QString &server, quint16 port)
+{
+    const Deadline deadline(m_limit);
+    const std::vector<SocketAddress> addresses = lookUpHost(server, port, deadline);
+    auto untried = static_cast<int>(addresses.size());
+    for (const SocketAddress &address : addresses) {
+        // An address that doesn't answer leaves time for the next ones.
+        m_socket = Socket::connectedTo(address, Deadline(deadline.left() / untried--));
+        if (m_socket.isOpen()) {
+            m_peerAddress = address;
+            m_socket.sendAtOnce();
+            return true;
+        }
+    }
+    return false;
+}
+
+void ControlConnection::quit()
+{
+    send("QUIT");
+    m_socket.close();
+}
+
+FtpReply ControlConnection::ask(const QByteArray &command)
+{
+    return send(command) ? readReply() : FtpReply();
+}
+
+FtpReply ControlConnection::readReply()
+{
+    const Deadline deadline(m_limit);
+    FtpReplyReader reader;
+    while (!reader.isComplete()) {
+        const qsizetype end = m_input.indexOf('\n');
+        if (end < 0) {
+            if (receiveMore(deadline))
+                continue;
+            abandon();
+            return {};
+        }
+        const qsizetype length = end > 0 && m_input[end - 1] == '\r' ? end - 1 : end;
+        if (!reader.take(QByteArrayView(m_input).first(length))) {
+            abandon();
+            return {};
+        }
+        m_input.remove(0, end + 1);
+    }
+    return reader.reply();
+}
+
+FtpReply ControlConnection::readReplyBehind(const Socket &data)
+{
+    // On a slow line the system has much to send that the program believes sent. No event tells when it has gone, so a
+    // look now and then has to do.
+    constexpr auto betweenLooks = 200ms;
+    int waiting = data.unacknowledged();
+    Deadline deadline(m_limit);
+    while (waiting > 0 && m_input.isEmpty() && !m_socket.waitForInput(Deadline(betweenLooks)) && !deadline.hasPassed()) {
+        const int left = data.unacknowledged();
+        if (left < waiting)
+            deadline = Deadline(m_limit);
+        waiting = left;
+    }
+    if (deadline.hasPassed())
+        abandon();
+    return readReply();
+}
+
+bool ControlConnection::send(const QByteArray &command)
+{
+    if (!isSafeInCommand(command) || !dropStrayInput())
+        return false;
+    if (m_socket.send(command + "\r\n", m_limit))
+        return true;
+    abandon();
+    return false;
+}
+
+/// What arrived before the command was sent can't be its reply.
+bool ControlConnection::dropStrayInput()
+{
+    const Deadline now(0ms);
+    while (m_socket.waitForInput(now)) {
+        if (!receiveMore(now)) {
+            abandon();
+            return false;
+        }
+    }
+    m_input.clear();
+    return isOpen();
+}
+
+bool ControlConnection::receiveMore(Deadline deadline)
+{
+    // Replies are waited for nearly always, so that a look without waiting would only cost time.
+    if (m_input.size() >= longestLine || !m_socket.waitForInput(deadline))
+        return false;
+    char buffer[4096];
+    const qsizetype count = m_socket.receive(buffer, sizeof(buffer), deadline);
+    if (count <= 0)
+        return false;
+    m_input.append(buffer, count);
+    return true;
+}
+
+} // namespace zephira

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ftp/remoteview.h"
+
+#include <QObject>
+
+class QAction;
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace zephira {
+
+class FileListView;
+
+/// The server's side of the window: the view that the remote commands work on, made of the window's controls. They
+/// outlive the pane. A node's key is its KeyRole.
+class RemotePane final : public QObject, public RemoteView
+{
+    Q_OBJECT
+
+public:
+    struct Parts {
+        QTreeWidget &tree;
+        FileListView &list;
+        QLabel &path;
+        QAction &allFiles;
+        QAction &definedTypes;
+    };
+
+    explicit RemotePane(const Parts &parts, QObject *parent = nullptr);
+
+    FileRows &files() override;
+    void clearTree() override;
+    void addRoot() override;
+    std::optional<RemoteNode> selectedNode() const override;
+    void selectNode(const QString &key) override;
+    void rebuildNode(const QString &key) override;
+    void addFolders(const QString &parentKey, const QStringList &names) override;
+    void setPathText(const QString &text) override;
+    void markPattern(bool all) override;
+
+Q_SIGNALS:
+    /// A folder was clicked, or reached with the keys.
+    void nodeChosen(const RemoteNode &node);
+    void deletePressed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QTreeWidgetItem *find(const QString &key) const;
+    void chooseSelected();
+
+    Parts m_parts;
+    /// The folder that was opened last.
+    QString m_openKey;
+};
+
+} // namespace zephira

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/sessionlogfile.h"
+
+#include "controls/appcontext.h"
+#include "controls/errorstyles.h"
+#include "controls/files/filestore.h"
+#include "controls/prompts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// Writes the content at the file's start and leaves alone what lies behind it.
+Result<void> writeOver(FileStore &files, const QString &path, const QByteArray &content)
+{
+    constexpr int privateMode = 0600;
+    const Result<QByteArray> old = files.read(path);
+    if (!old && old.error().code != Error::Code::NotFound)
+        return old.error();
+    return files.write(path, content + old.valueOr({}).mid(content.size()), privateMode);
+}
+
+} // namespace
+
+QString logFolder(const AppContext &context)
+{
+    return context.appPath + u"/Logon"_s;
+}
+
+void saveSessionLog(const AppContext &context, const QString &log)
+{
+    if (log.isEmpty()) {
+        context.prompts.tell(u"Nothing to be saved!"_s, {}, Question::Icon::Exclamation);
+        return;
+    }
+    const QString name = context.prompts.input({u"Type name for the log file:"_s, u"Log File"_s}).value_or(QString());
+    if (name.isEmpty()) {
+        context.prompts.tell(u"No name entered, quiting"_s);
+        return;
+    }
+    const QString path = logFolder(context) + u'/' + name + u".txt"_s;
+    if (const Result<void> written = writeOver(context.files, path, log.toUtf8()); !written)
+        throw HandlerError{written.error().sentence};
+    context.prompts.tell(u"File saved as: \r\n"_s + path);
+}
+
+} // namespace zephira

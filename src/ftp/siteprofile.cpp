@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/siteprofile.h"
+
+#include "controls/files/configuration.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// A value of the profile: its key, its member, and the room for it when it is read, one character of which is taken by
+/// the end of the text.
+struct ProfileKey {
+    QStringView key;
+    QString SiteProfile::*member;
+    qsizetype buffer;
+};
+
+constexpr ProfileKey profileKeys[] = {
+    {u"sname", &SiteProfile::siteName, 50},
+    {u"adresa", &SiteProfile::server, 75},
+    {u"ID", &SiteProfile::user, 50},
+    {u"pass", &SiteProfile::password, 50},
+    {u"port", &SiteProfile::port, 50},
+};
+
+const QString section = u"PROFIL"_s;
+
+constexpr int privateMode = 0600;
+
+} // namespace
+
+SiteProfile readSiteProfile(const QString &file)
+{
+    SiteProfile profile;
+    for (const ProfileKey &row : profileKeys)
+        profile.*row.member = ReadIni(section, row.key.toString(), file).left(row.buffer - 1);
+    return profile;
+}
+
+bool writeSiteProfile(const SiteProfile &profile, const QString &file)
+{
+    // A file that others could read, put there by hand, must not get a password.
+    if (QFile::exists(file) && !QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner))
+        return false;
+    return std::ranges::all_of(profileKeys, [&](const ProfileKey &row) {
+        return WriteIni(section, row.key.toString(), profile.*row.member, file, privateMode);
+    });
+}
+
+QString siteProfilePath(const QString &appPath, const QString &siteName)
+{
+    return appPath + u'/' + siteName + u".ftp"_s;
+}
+
+} // namespace zephira

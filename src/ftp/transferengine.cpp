@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/transferengine.h"
+
+#include "controls/files/filestore.h"
+#include "controls/prompts.h"
+#include "ftp/ftpclient.h"
+#include "ftp/ftpdesk.h"
+#include "ftp/remotename.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// The bars of a download have room for a few bytes more than were announced.
+constexpr double downloadSlack = 1.024;
+
+} // namespace
+
+/// The bytes of a file that is coming down, in chunks, so that a growing file is never copied.
+class TransferEngine::Received
+{
+public:
+    /// Room for one block more.
+    char *next()
+    {
+        if (m_chunks.empty() || m_used + blockSize > chunkSize) {
+            if (!m_chunks.empty())
+                m_chunks.back().truncate(m_used);
+            m_chunks.emplace_back(chunkSize, Qt::Uninitialized);
+            m_used = 0;
+        }
+        return m_chunks.back().data() + m_used;
+    }
+    void take(quint32 count) { m_used += count; m_size += count; }
+    qint64 size() const { return m_size; }
+
+    std::vector<QByteArrayView> pieces() const
+    {
+        std::vector<QByteArrayView> pieces(m_chunks.begin(), m_chunks.end());
+        if (!pieces.empty())
+            pieces.back() = pieces.back().first(m_used);
+        return pieces;
+    }
+
+private:
+    /// In bytes; a multiple of the block, so that a chunk is full before the next one begins.
+    static constexpr qsizetype chunkSize = 1024 * qsizetype(blockSize);
+
+    std::vector<QByteArray> m_chunks;
+    qsizetype m_used = 0;
+    qint64 m_size = 0;
+};
+
+TransferEngine::TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, TransferDisplay &display,
+                               std::function<quint32()> ticks)
+    : m_client(client), m_files(files), m_prompts(prompts), m_display(display), m_ticks(std::move(ticks))
+{
+}
+
+TransferEngine::~TransferEngine() = default;
+
+TransferEngine::Outcome TransferEngine::run(const TransferQueue &queue)
+{
+    const bool downloads = queue.direction == TransferQueue::Direction::Download;
+    const auto move = downloads ? &TransferEngine::download : &TransferEngine::upload;
+    m_progress = {.total = queue.total()};
+    m_number = 0;
+    m_display.beginRun(m_progress.total, double(m_progress.total) * (downloads ? downloadSlack : 1));
+    for (const TransferQueue::File &file : queue.files) {
+        if (!(this->*move)(file))
+            return Outcome::Stopped;
+    }
+    m_prompts.tell(u"Data transfer completed."_s);
+    return Outcome::Completed;
+}
+
+bool TransferEngine::download(const TransferQueue::File &file)
+{
+    beginFile(u"Downloading File: %1 / %2 bytù."_s.arg(file.name, QString::number(file.size)),
+              double(file.size) * downloadSlack);
+    // The name was told by a server: it must not lead out of the folder.
+    if (!isSafeRemoteName(file.name))
+        return refuse(u"This name can't stand for a file here: %1"_s.arg(file.name));
+    const QString local = m_client.session.ftpLocalFolder + file.name;
+    const QString remote = m_client.session.ftpRemoteFolder + file.name;
+    m_client.desk->log(LogEntry::DownloadBegun, {remote, local});
+    m_client.desk->setPanel(textPanel, u"Transfering data..., wait."_s);
+    m_handle = m_client.operations.FtpOpenFileA(m_client.session.ftpConnectHandle, remote, GENERIC_READ,
+                                                FTP_TRANSFER_TYPE_BINARY, 0);
+    if (m_handle == 0) {
+        m_prompts.tell(u"Can't open file path!"_s, u"Problém s URL"_s, Question::Icon::Exclamation);
+        m_client.desk->log(LogEntry::DownloadRefused);
+        return false;
+    }
+
+    Received received;
+    receive(received);
+    const Result<void> stored = store(local, received);
+    m_progress.endFile();
+    close();
+    m_display.endFile(m_progress);
+    if (!stored)
+        return refuse(stored.error().sentence);
+    m_client.desk->log(LogEntry::Done);
+    return true;
+}
+
+/// A short block ends the file, whatever made it short.
+void TransferEngine::receive(Received &received)
+{
+    m_progress.beginFile();
+    m_startTicks = m_ticks();
+    quint32 count = 0;
+    do {
+        count = 0;
+        char *const block = received.next();
+        m_client.operations.InternetReadFile(m_handle, block, blockSize, count);
+        received.take(count);
+        countBlock(count);
+    } while (count == blockSize);
+}
+
+Result<void> TransferEngine::store(const QString &path, const Received &received)
+{
+    std::vector<QByteArrayView> pieces = received.pieces();
+    QByteArray rest;
+    if (const QFileInfo before(path); before.isFile() && before.size() > received.size()) {
+        QFile old(path);
+        if (!old.open(QIODevice::ReadOnly) || !old.seek(received.size()))
+            return Error{Error::Code::Unreadable, u"Can't open the file %1: %2"_s.arg(path, old.errorString())};
+        rest = old.readAll();
+        pieces.emplace_back(rest);
+    }
+    return m_files.write(path, pieces);
+}
+
+bool TransferEngine::upload(const TransferQueue::File &file)
+{
+    beginFile(u"Uploading file: %1 / %2 bytes."_s.arg(file.name, QString::number(file.size)), double(file.size));
+    const QString path = m_client.session.ftpLocalFolder + file.name;
+    const QString remote = m_client.session.ftpRemoteFolder + file.name;
+    m_client.desk->log(LogEntry::UploadBegun, {path, remote});
+    m_client.desk->setPanel(textPanel, u"uploading data..., wait."_s);
+    // The local file comes first: one that can't be read must not make the server's empty.
+    QFile local(path);
+    if (!local.open(QIODevice::ReadOnly))
+        return refuse(u"Can't open the file %1: %2"_s.arg(path, local.errorString()));
+    m_handle = m_client.operations.FtpOpenFileA(m_client.session.ftpConnectHandle, remote, GENERIC_WRITE,
+                                                FTP_TRANSFER_TYPE_BINARY, 0);
+    if (m_handle == 0) {
+        m_prompts.tell(u"Cant create requested file on server"_s, {}, Question::Icon::Exclamation);
+        m_client.desk->log(LogEntry::UploadRefused);
+        return false;
+    }
+
+    const Sending outcome = send(local);
+    if (outcome == Sending::Refused)
+        tellUploadFailure();
+    local.close();
+    m_progress.endFile();
+    m_display.endFile(m_progress);
+    // The server may find only now that it can't keep the file, for instance on a full disk.
+    if (!close() && outcome == Sending::Complete)
+        tellUploadFailure();
+    if (outcome == Sending::Unreadable)
+        return refuse(u"Can't read the file %1 to its end"_s.arg(path));
+    m_client.desk->log(LogEntry::Done);
+    return true;
+}
+
+TransferEngine::Sending TransferEngine::send(QFile &local)
+{
+    const qint64 length = local.size();
+    std::array<char, blockSize> block;
+    qint64 sent = 0;
+    m_progress.beginFile();
+    m_startTicks = m_ticks();
+    do {
+        const qint64 size = std::min<qint64>(blockSize, length - sent);
+        if (local.read(block.data(), size) != size)
+            return Sending::Unreadable;
+        quint32 count = 0;
+        if (!m_client.operations.InternetWriteFile(m_handle, block.data(), quint32(size), count))
+            return Sending::Refused;
+        sent += size;
+        countBlock(size);
+    } while (sent < length);
+    return Sending::Complete;
+}
+
+void TransferEngine::tellUploadFailure()
+{
+    m_prompts.tell(u"Could Not Download!"_s, {}, Question::Icon::Exclamation);
+    m_client.desk->log(LogEntry::UploadFailed);
+}
+
+void TransferEngine::beginFile(const QString &line, double barMaximum)
+{
+    m_display.beginFile(++m_number, line, barMaximum);
+}
+
+void TransferEngine::countBlock(qint64 bytes)
+{
+    // The difference is right even where the ticks wrapped around in between.
+    m_progress.addBlock(bytes, qint32(m_ticks() - m_startTicks));
+    m_display.moved(m_progress);
+}
+
+bool TransferEngine::close()
+{
+    return m_client.operations.InternetCloseHandle(std::exchange(m_handle, 0));
+}
+
+bool TransferEngine::refuse(const QString &sentence)
+{
+    m_prompts.tell(sentence, {}, Question::Icon::Exclamation);
+    m_client.desk->log(LogEntry::LocalFileFailed, {sentence});
+    return false;
+}
+
+} // namespace zephira

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ftp/internetoperations.h"
+#include "ftp/transferprogress.h"
+#include "ftp/transferqueue.h"
+
+#include <QString>
+
+#include <functional>
+
+class QFile;
+
+namespace zephira {
+
+struct FtpClient;
+class FileStore;
+class Prompts;
+template<typename T>
+class Result;
+
+/// Where a run shows itself. It must stay alive while a run lasts.
+class TransferDisplay
+{
+public:
+    virtual ~TransferDisplay() = default;
+
+    /// A run begins: the bytes of the whole queue, and the upper end of its bar.
+    virtual void beginRun(qint64 total, double barMaximum) = 0;
+    /// A file begins: its number from 1, the line that names it, and the upper end of its bar.
+    virtual void beginFile(int number, const QString &line, double barMaximum) = 0;
+    /// A block was moved. It comes a million times with a gigabyte, so that it has to be cheap.
+    virtual void moved(const TransferProgress &progress) = 0;
+    /// A file has ended, well or not; what moved() was told last has to be seen now.
+    virtual void endFile(const TransferProgress &progress) = 0;
+};
+
+/// Moves the files of a queue between the session's local and server folders, in blocks of 1024 bytes and always
+/// unchanged, while the caller waits. A file that comes down is held in memory until it is complete and then laid over
+/// the local one from its start; of a longer local file the rest stays behind it.
+class TransferEngine
+{
+public:
+    /// The size of a block in bytes. A shorter one ends a file that comes down.
+    static constexpr quint32 blockSize = 1024;
+
+    enum class Outcome {
+        /// The queue has come to its end, and the user was told.
+        Completed,
+        /// A file could not be opened or stored, and the user was told; the rest of the queue was left undone.
+        Stopped,
+    };
+
+    /// `ticks` gives a time in milliseconds from any beginning, which may wrap around. All references outlive the engine.
+    TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, TransferDisplay &display,
+                   std::function<quint32()> ticks);
+    ~TransferEngine();
+    Q_DISABLE_COPY_MOVE(TransferEngine)
+
+    /// Runs the whole queue. Nothing waits in between but for the messages.
+    Outcome run(const TransferQueue &queue);
+
+    /// What a file is moved through while it is open, else 0.
+    InternetHandle handle() const { return m_handle; }
+
+private:
+    class Received;
+    enum class Sending { Complete, Refused, Unreadable };
+
+    bool download(const TransferQueue::File &file);
+    bool upload(const TransferQueue::File &file);
+    Sending send(QFile &local);
+    void receive(Received &received);
+    Result<void> store(const QString &path, const Received &received);
+
+    void beginFile(const QString &line, double barMaximum);
+    void countBlock(qint64 bytes);
+    bool close();
+    void tellUploadFailure();
+    /// Tells why a run can't go on.
+    bool refuse(const QString &sentence);
+
+    FtpClient &m_client;
+    FileStore &m_files;
+    Prompts &m_prompts;
+    TransferDisplay &m_display;
+    const std::function<quint32()> m_ticks;
+    TransferProgress m_progress;
+    InternetHandle m_handle = 0;
+    quint32 m_startTicks = 0;
+    int m_number = 0;
+};
+
+} // namespace zephira

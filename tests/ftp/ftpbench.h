@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/files/diskfilestore.h"
+#include "ftp/ftpclient.h"
+#include "ftp/recordingoperations.h"
+#include "ftp/registerforms.h"
+#include "support/fakes.h"
+#include "support/formkit.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace zephira {
+
+/// The forms of the FTP client over a program folder on the disk and a server that is a script, or over real operations.
+/// Questions, shell and the opening of other forms are fakes.
+struct FtpBench {
+    QTemporaryDir folder;
+    TestContext world;
+    DiskFileStore files;
+    AppContext context{world.editor,   world.inserter, world.designer, world.document,  world.configuration,
+                       world.settings, files,          world.prompts,  world.shell,     world.clipboard,
+                       world.clock,    world.forms,    folder.path()};
+    RecordingOperations operations;
+    std::shared_ptr<FtpClient> client;
+    FormCatalogue catalogue;
+
+    explicit FtpBench(InternetOperations *real = nullptr)
+        : client(std::make_shared<FtpClient>(FtpClient{real ? *real : operations}))
+    {
+        ftp::registerForms(catalogue, client);
+    }
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    /// Writes a file below the program folder.
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("%s can't be written", qPrintable(file.fileName()));
+    }
+    QByteArray read(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+    /// A session that is connected, as if it had logged in.
+    void connectSession() const
+    {
+        client->session.ftpOpenHandle = 901;
+        client->session.ftpConnectHandle = 902;
+        client->session.ftpRemoteFolder = QStringLiteral("/");
+        client->session.ftpSearchPath = QStringLiteral("/*.*");
+    }
+};
+
+} // namespace zephira
