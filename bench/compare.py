@@ -11,10 +11,13 @@ import os
 import shutil
 import subprocess
 import sys
+import tempfile
+import time
 from pathlib import Path
 from statistics import median
 
 import makehtml
+import vsftpd
 
 MB = 1_000_000
 
@@ -150,13 +153,109 @@ def functions(_programs, report, inputs, build, _work):
         report.row(name, times[f"{name}/large"] / 1e6, times[f"{name}/small"] / 1e6, 12, "a tenth of the input")
 
 
+def tidy(option, page):
+    """The real time of one run of the tidy command in milliseconds."""
+    begin = time.monotonic()
+    done = subprocess.run(["tidy", option, page], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
+    if done.returncode not in (0, 1, 2):  # With 1 or 2 it says that the page has faults, as pages have.
+        sys.exit(f"tidy ended with {done.returncode}")
+    return (time.monotonic() - begin) * 1e3
+
+
+def tools(_programs, report, inputs, build, work):
+    """Outline and formatter of 10 MB, beside what the tidy command takes for such a page."""
+    times = in_process(build, "text_bench", "--benchmark_filter=^(outline|Compact|Simple|Hierarchical)/",
+                       str(inputs(1)), str(inputs(10)))
+    # Hierarchical is measured with tables alone, because the levels of other pages never come down again.
+    tables = work / "tables10.html"
+    tables.write_bytes(makehtml.page(10 * MB, (makehtml.table,), (1,)))
+    for name, option, page, limit, aim in (
+        ("outline", "-e", inputs(10), 0.2, 0.05),
+        ("Compact", "-i", inputs(10), 0.5, 0.1),
+        ("Simple", "-i", inputs(10), 0.5, 0.1),
+        ("Hierarchical", "-i", tables, 0.5, 0.1),
+    ):
+        ours, theirs = times[f"{name}/large"] / 1e6, median(tidy(option, page) for _ in range(3))
+        report.row(f"{name} of 10 MB", ours, theirs, limit, f"tidy {option}")
+        report.aim(f"{name} of 10 MB", ours, theirs, aim, f"tidy {option}")
+
+
 def saving(_programs, report, inputs, build, work):
     """Saving 10 MB through the program's own file store, and cp with fsync, in turns on the same disk."""
     times = in_process(build, "save_bench", str(inputs(10)), str(work))
     report.row("save 10 MB, atomically", times["save"] / 1e6, times["copy"] / 1e6, 1.2, "cp + fsync")
 
 
-GROUPS = {"start": start, "open": opening, "type": typing, "colour": colouring, "functions": functions, "save": saving}
+def local_folder(_programs, report, _inputs, build, work):
+    """A folder of 10,000 entries in the file manager: what showing takes beyond the listing itself."""
+    times = in_process(build, "folder_bench", str(work / "folder"), "10000")
+    for kind in ("files", "folders"):
+        beyond = (times[f"show {kind}"] - times[f"list {kind}"]) / 1e6
+        report.row(f"a folder of 10,000 {kind}, shown", beyond, 500, 1.0, "half a second")
+
+
+def run_once(command):
+    """The real time of one run in milliseconds, and the most memory that it had in kB."""
+    begin = time.monotonic()
+    process = subprocess.Popen([str(part) for part in command])
+    _, status, usage = os.wait4(process.pid, 0)
+    process.returncode = os.waitstatus_to_exitcode(status)
+    if process.returncode != 0:
+        sys.exit(f"{command[0]} ended with {process.returncode}")
+    return (time.monotonic() - begin) * 1e3, usage.ru_maxrss
+
+
+def in_turns(ours, theirs, rounds, before=lambda: None):
+    """The medians of time and memory of two commands, which take turns; `before` runs ahead of each."""
+    runs = ([], [])
+    for _ in range(rounds):
+        for figures, command in zip(runs, (ours, theirs)):
+            before()
+            figures.append(run_once(command))
+    return [[median(column) for column in zip(*figures)] for figures in runs]
+
+
+def ftp(_programs, report, _inputs, build, work):
+    """Files from and to a server: one of 1 GiB beside curl, and 2,000 of 4 KiB beside lftp."""
+    size = 1 << 30
+    with vsftpd.Vsftpd(work) as server:
+        own = build / "ftp_bench"
+        at = (server.host, server.port)
+        server.add("large", size)
+        ours, theirs = in_turns([own, "down", *at, server.path("large")],
+                                ["curl", "-s", "-o", "/dev/null", server.url("large")], 5)
+        report.row("1 GiB from a server", size / ours[0] / 1e3, size / theirs[0] / 1e3, 0.95, "curl", "MB/s", at_least=True)
+
+        local = work / "upload"
+        shutil.copyfile(server.files / "large", local)
+        ours, theirs = in_turns([own, "up", *at, local, server.path("up")],
+                                ["curl", "-s", "-T", local, server.url("up")], 5,
+                                lambda: (server.files / "up").unlink(missing_ok=True))
+        report.row("1 GiB to a server", size / ours[0] / 1e3, size / theirs[0] / 1e3, 0.95, "curl", "MB/s", at_least=True)
+        local.write_bytes(b"small")
+        _, small = run_once([own, "up", *at, local, server.path("up")])
+        report.row("memory of an upload of 1 GiB", ours[1], small, 1.1, "one of 5 bytes", "kB")
+        local.unlink()
+
+        for number in range(2000):
+            server.add(f"many/{number}.htm", 4096)
+        # In memory, because to make 2,000 files on a disk takes longer than to get them.
+        memory = Path("/dev/shm")
+        target = Path(tempfile.mkdtemp(prefix="zephira-", dir=memory if memory.is_dir() else work))
+
+        def empty_target():
+            shutil.rmtree(target)
+            target.mkdir()
+
+        mirror = f"open ftp://{server.host}:{server.port}; mirror {server.path('many')} {target}; exit"
+        ours, theirs = in_turns([own, "mirror", *at, server.path("many"), target], ["lftp", "-c", mirror], 7, empty_target)
+        report.row("2,000 files of 4 KiB", ours[0], theirs[0], 0.6, "lftp mirror")
+        report.aim("2,000 files of 4 KiB", ours[0], theirs[0], 0.45, "lftp mirror")
+        shutil.rmtree(target)
+
+
+GROUPS = {"start": start, "open": opening, "type": typing, "colour": colouring, "functions": functions, "tools": tools,
+          "save": saving, "folder": local_folder, "ftp": ftp}
 
 
 def main(build, folder, work, *groups):

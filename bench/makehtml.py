@@ -76,11 +76,10 @@ def heading(dice, number):
     return f"<h{number % 6 + 1}>{number}. {sentence(dice, 2, 6)}</h{number % 6 + 1}>\n<!-- {sentence(dice, 3, 12)} -->\n"
 
 
-def page(size):
-    """The bytes of a page of exactly `size` bytes, at least a few hundred."""
+def page(size, kinds=(paragraph, table, form, script, style, heading), weights=(10, 3, 1, 1, 1, 4)):
+    """The bytes of a page of exactly `size` bytes, at least a few hundred. The kinds of its parts come by their weights."""
     dice = random.Random(20)
     parts = dice.choices
-    kinds, weights = (paragraph, table, form, script, style, heading), (10, 3, 1, 1, 1, 4)
     pieces = [HEAD.replace("\n", "\r\n").encode()]
     length, number = len(pieces[0]), 0
     tail = TAIL.replace("\n", "\r\n").encode()

@@ -4,9 +4,15 @@
 #include "controls/files/lineends.h"
 #include "controls/files/privateprofile.h"
 #include "controls/files/textfile.h"
+#include "controls/files/textlines.h"
 #include "controls/syntax/foldlevels.h"
 #include "controls/syntax/languageregistry.h"
 #include "controls/syntax/syntaxengine.h"
+#include "panes/customtabfile.h"
+#include "panes/outline.h"
+#include "panes/sottree.h"
+#include "tags/tagfile.h"
+#include "tools/sourceformatter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -26,21 +32,45 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The page's tables, one after the other, as often as it takes to fill a page. Where every element is closed, the lines
+/// are indented by a few tabs; elsewhere each would be by one more than the line before, and the result grows with the
+/// square of the page.
+QString tablesOf(const QString &page)
+{
+    const QString last = u"</table>"_s;
+    QString tables;
+    for (qsizetype begin = page.indexOf(u"<table"); begin >= 0; begin = page.indexOf(u"<table", begin + 1))
+        tables += page.sliced(begin, page.indexOf(last, begin) + last.size() - begin);
+    while (!tables.isEmpty() && tables.size() < page.size())
+        tables += tables.first(qMin(tables.size(), page.size() - tables.size()));
+    return tables;
+}
+
 /// One input in the forms that the functions take.
 struct Input {
     explicit Input(const QByteArray &page)
-        : utf8(page), lf(QByteArray(page).replace("\r\n", "\n")), text(QString::fromUtf8(page)),
+        : utf8(page), lf(QByteArray(page).replace("\r\n", "\n")), text(QString::fromUtf8(page)), tables(tablesOf(text)),
           windows1252(QByteArray(page).replace("\xc3\xbc", "\xfc")), styles(static_cast<std::size_t>(page.size()))
     {
         // A profile with as many lines as its size allows, in sections of a hundred.
         for (int line = 0; profile.size() < page.size(); ++line)
             profile += line % 100 == 0 ? "[section" + QByteArray::number(line / 100) + "]\r\n"
                                        : "key" + QByteArray::number(line) + "=a value of some length\r\n";
+        // Every third line is a title, and the depths go up and down.
+        lines = textLines(text);
+        for (qsizetype line = 0; line < lines.size(); ++line) {
+            tree.append(QString(line % 4, u'\t') + lines[line].trimmed());
+            if (line % 3 == 0)
+                lines[line].prepend(u"#EXTINF,"_s);
+        }
     }
 
     QByteArray utf8;
     QByteArray lf;
     QString text;
+    QString tables;
+    QStringList lines;
+    QStringList tree;
     QByteArray windows1252;
     QByteArray profile;
     std::vector<unsigned char> styles;
@@ -78,6 +108,14 @@ void fold(Input &input, const QString &language)
     }
 }
 
+void outline(Input &input)
+{
+    std::vector<OutlineLeaf> leaves;
+    // A title far behind the start would end the scan; the page's own stands at its head.
+    scanOutline(input.text, [&leaves](OutlineLeaf &&leaf) { leaves.push_back(std::move(leaf)); });
+    benchmark::DoNotOptimize(leaves);
+}
+
 const TextFunction functions[] = {
     {"decodeText UTF-8", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.utf8)); }},
     {"decodeText Windows-1252", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.windows1252)); }},
@@ -91,6 +129,10 @@ const TextFunction functions[] = {
     {"withProfileValue",
      [](Input &input) { benchmark::DoNotOptimize(withProfileValue(input.profile, u"none"_s, u"key"_s, u"value"_s)); }},
     {"profileEntries", [](Input &input) { benchmark::DoNotOptimize(profileEntries(input.profile)); }},
+    {"textLines", [](Input &input) { benchmark::DoNotOptimize(textLines(input.text)); }},
+    {"tagCaptions", [](Input &input) { benchmark::DoNotOptimize(tagCaptions(input.lines)); }},
+    {"parseCustomTab", [](Input &input) { benchmark::DoNotOptimize(parseCustomTab(input.lines)); }},
+    {"parseSotTree", [](Input &input) { benchmark::DoNotOptimize(parseSotTree(input.tree)); }},
     {"colour HTML", [](Input &input) { colour(input, u"HTML"_s); }},
     {"colour C/C++", [](Input &input) { colour(input, u"C/C++"_s); }},
     {"colour XML", [](Input &input) { colour(input, u"XML"_s); }},
@@ -98,6 +140,10 @@ const TextFunction functions[] = {
     {"colour Pascal", [](Input &input) { colour(input, u"Pascal"_s); }},
     {"colour Java", [](Input &input) { colour(input, u"Java"_s); }},
     {"fold HTML", [](Input &input) { fold(input, u"HTML"_s); }},
+    {"outline", [](Input &input) { outline(input); }},
+    {"Compact", [](Input &input) { benchmark::DoNotOptimize(Compact(input.text)); }},
+    {"Simple", [](Input &input) { benchmark::DoNotOptimize(Simple(input.text)); }},
+    {"Hierarchical", [](Input &input) { benchmark::DoNotOptimize(Hierarchical(input.tables)); }},
 };
 
 /// Pushes the inputs out of the processor's caches. Without it the small one would be read from there and the large one

@@ -54,17 +54,20 @@ function(zephira_forms name)
   target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/widgets.pch.h)
 endfunction()
 
-# zephira_tests(NAME SOURCES ... CLASSES ... [LINK ...] [FORMS] [LABELS ...]): one program for a folder and kind; each
+# zephira_tests(NAME SOURCES ... CLASSES ... [LINK ...] [FORMS | WEB] [LABELS ...]): one program for a folder and kind; each
 # class named under CLASSES is a QTest object registered with ZEPHIRA_TEST and becomes a ctest entry of its own.
-# With FORMS the program has a QApplication on the offscreen platform, without it a QCoreApplication.
+# With FORMS the program has a QApplication on the offscreen platform, with WEB one that the web engine can be loaded into,
+# otherwise a QCoreApplication.
 function(zephira_tests name)
-  cmake_parse_arguments(ARG "FORMS" "" "SOURCES;CLASSES;LINK;LABELS;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ARG "FORMS;WEB" "" "SOURCES;CLASSES;LINK;LABELS;ENVIRONMENT" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_compile_definitions(${name} PRIVATE ZEPHIRA_GOLDEN_DIR="${CMAKE_SOURCE_DIR}/tests/golden"
     ZEPHIRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_CURRENT_BINARY_DIR})
-  if(ARG_FORMS)
+  if(ARG_WEB)
+    target_link_libraries(${name} PRIVATE zephira_test_web ${ARG_LINK})
+  elseif(ARG_FORMS)
     target_link_libraries(${name} PRIVATE zephira_test_forms ${ARG_LINK})
     target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/widgets.pch.h)
   else()

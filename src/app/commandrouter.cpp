@@ -2,7 +2,6 @@
 #include "app/commandrouter.h"
 
 #include "app/browserpreview.h"
-#include "app/designercommands.h"
 #include "app/helppages.h"
 #include "app/menutable.h"
 #include "app/tagsmenu.h"
@@ -116,6 +115,7 @@ CommandRouter::CommandRouter(const AppContext &context, WindowCommands &window)
     : m_context(context)
     , m_window(window)
     , m_palette(context, window)
+    , m_formatting(context)
 {
 }
 
@@ -141,7 +141,7 @@ bool CommandRouter::runEditingCommand(const QString &name)
     if (!command)
         return false;
     if (m_context.designer.isShowing())
-        m_context.designer.execCommand(static_cast<int>(command->designer));
+        m_context.designer.execCommand(command->designer);
     else
         (m_context.editor.*command->run)();
     return true;
@@ -167,6 +167,9 @@ bool CommandRouter::runOwnCommand(const QString &name)
         {u"helpme", &CommandRouter::openHelp},
         {u"website", &CommandRouter::openWebsite},
         {u"mnuftpclient", &CommandRouter::openFtpClient},
+        {u"mnufcomp", &CommandRouter::compactSource},
+        {u"mnuformath", &CommandRouter::indentSource},
+        {u"mnufsimple", &CommandRouter::simplifySource},
     };
     const OwnCommand *command = rowOf(commands, name);
     if (command)
@@ -214,7 +217,7 @@ void CommandRouter::tBar(const QString &key)
 void CommandRouter::undoFromToolbar()
 {
     if (m_context.designer.isShowing())
-        m_context.designer.execCommand(static_cast<int>(DesignerCommand::Undo));
+        m_context.designer.execCommand(DesignerCommand::Undo);
     else if (m_context.editor.canUndo())
         m_context.editor.undo();
     else
@@ -225,7 +228,7 @@ void CommandRouter::redoFromToolbar()
 {
     // In visual mode this button undoes; only the menu entry redoes. Both have always been so.
     if (m_context.designer.isShowing())
-        m_context.designer.execCommand(static_cast<int>(DesignerCommand::Undo));
+        m_context.designer.execCommand(DesignerCommand::Undo);
     else if (m_context.editor.canRedo())
         m_context.editor.redo();
     else

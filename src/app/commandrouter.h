@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/palettecommands.h"
+#include "app/sourceformatting.h"
 #include "controls/appcontext.h"
 
 #include <QString>
@@ -30,6 +31,8 @@ public:
     void palette(int index, const QString &key, int position) { m_palette.click(index, key, position); }
     /// Heading size 1 to 6 of the palette's pull-down.
     void heading(int size) { m_palette.heading(size); }
+    /// The window is closing: commands that wait for something leave the document alone from now on.
+    void abandon() { m_formatting.abandon(); }
 
 private:
     struct OwnCommand;
@@ -53,6 +56,9 @@ private:
     void showPreview();
     void showQuickTags();
     void weighDocument();
+    void compactSource() { m_formatting.compact(); }
+    void indentSource() { m_formatting.hierarchical(); }
+    void simplifySource() { m_formatting.simple(); }
     void openTagEditor();
     void previewInNamedBrowser();
     void previewInDefaultBrowser();
@@ -60,6 +66,7 @@ private:
     const AppContext m_context;
     WindowCommands &m_window;
     PaletteCommands m_palette;
+    SourceFormatting m_formatting;
 };
 
 } // namespace zephira

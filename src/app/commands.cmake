@@ -3,20 +3,23 @@
 set(APP_COMMANDS_LOGIC
   browserpreview.h browserpreview.cpp
   commandrouter.h commandrouter.cpp
-  designercommands.h designercommands.cpp
   helppages.h helppages.cpp
   inserttext.h
   menutable.h menutable.cpp
   palettecommands.h palettecommands.cpp
   palettetable.h palettetable.cpp
+  pasteitem.h pasteitem.cpp
   quicktag.h quicktag.cpp
   refusals.h refusals.cpp
+  sourceformatting.h sourceformatting.cpp
   tagsmenu.h tagsmenu.cpp
   toolbartable.h toolbartable.cpp
+  variablelists.h variablelists.cpp
   windowcommands.h)
 set(APP_COMMANDS_FORMS
   glyphs.h glyphs.cpp
   icons.h icons.cpp
   menus.h menus.cpp
   palette.h palette.cpp
-  toolbars.h toolbars.cpp)
+  toolbars.h toolbars.cpp
+  variablebox.h variablebox.cpp)

@@ -8,6 +8,8 @@ class QPushButton;
 
 namespace zephira {
 
+struct DesignerBarState;
+
 /// The designer's toolbar `Toolbar2` with the two boxes for font and size and the button that resets the page. It is
 /// hidden outside visual mode and stays disabled and empty until the designer has shown its first document.
 class DesignerBar : public QToolBar
@@ -22,7 +24,25 @@ public:
     /// Empties the text of both boxes and disables every button.
     void disableAll();
 
+    void showState(const DesignerBarState &state);
+    void showFontSize(const QString &text);
+
+signals:
+    void buttonClicked(const QString &key);
+    /// A name was chosen from the list, or typed.
+    void fontChosen(const QString &name);
+    /// 1 to 7, from the list.
+    void fontSizeChosen(int size);
+    void fontSizeTyped(const QString &text);
+    void resetClicked();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
 private:
+    QComboBox *addBox(const QString &name, const QString &tip);
+
     QComboBox *m_font = nullptr;
     QComboBox *m_size = nullptr;
     QPushButton *m_reset = nullptr;

@@ -87,12 +87,14 @@ bool Document::mayGoOn(PromptIcon icon)
 
 void Document::flushDesigner()
 {
-    Designer &designer = m_context.designer;
-    if (!designer.isShowing() || !designer.isDirty())
-        return;
-    m_context.editor.setText(designer.documentHtml());
-    m_window.selectCodeTab();
-    m_modified = true;
+    // Leaving visual mode carries the designer's text back.
+    if (holdsDesignersWork())
+        m_window.selectCodeTab();
+}
+
+bool Document::holdsDesignersWork() const
+{
+    return m_context.designer.isShowing() && m_context.designer.isDirty();
 }
 
 void Document::discardPreview()
@@ -304,6 +306,22 @@ void Document::openText(const QString &path)
     m_window.setCountPanel(m_context.editor.textLength());
 }
 
+bool Document::openDropped(const QString &path)
+{
+    flushDesigner();
+    if (!mayGoOn(PromptIcon::Shown))
+        return false;
+    const Result<void> opened = m_context.editor.openFile(path);
+    if (!opened) {
+        m_context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
+        return false;
+    }
+    m_dialog.fileName = path;
+    adopt(path);
+    m_window.setCountPanel(m_context.editor.textLength());
+    return true;
+}
+
 void Document::openAtStart(const QString &path)
 {
     m_dialog.fileName = path;
@@ -364,10 +382,11 @@ void Document::clearClipboard()
 bool Document::askToClose()
 {
     m_saveFailedAtClose = false;
-    if (!m_modified)
+    if (!m_modified && !holdsDesignersWork())
         return true;
     switch (askToSave(PromptIcon::Shown)) {
     case Answer::Yes:
+        flushDesigner();
         m_saveFailedAtClose = !doSave();
         return true;
     case Answer::No:

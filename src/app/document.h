@@ -40,6 +40,9 @@ public:
     void OpenAFile();
     /// The same for any file, such as one that was dropped on the window.
     void openFileOrImage(const QString &path);
+    /// Makes any file the document, whatever its name says; the language stays what it is. Returns false if the user
+    /// chose to stay, or if the file can't be read, which is told.
+    bool openDropped(const QString &path);
     /// Chooses the language by the common dialog's file name.
     void SetSyntax();
 
@@ -56,7 +59,8 @@ public:
     /// Opens the file of the command line. Errors are ignored.
     void openAtStart(const QString &path);
 
-    /// Before the window closes: asks about changes. Returns false if the user refused.
+    /// Before the window closes: asks about changes, also about those that only the designer holds. Returns false if the
+    /// user refused.
     bool askToClose();
     /// Whether the user wanted the text saved at the last askToClose() and it isn't.
     bool saveFailedAtClose() const { return m_saveFailedAtClose; }
@@ -72,6 +76,8 @@ private:
     Answer askToSave(PromptIcon icon);
     /// The save prompt where there are changes; false if the user chose to stay.
     bool mayGoOn(PromptIcon icon);
+    /// Whether something was changed in the designer that hasn't come back to the text yet.
+    bool holdsDesignersWork() const;
     void adopt(const QString &path);
     void readInto(const QString &path);
     void openImage(const QString &path);

@@ -3,29 +3,35 @@
 
 #include "app/commandrouter.h"
 #include "app/designerbar.h"
+#include "app/documenttree.h"
+#include "app/filepanecommands.h"
 #include "app/icons.h"
 #include "app/inserttext.h"
 #include "app/languages.h"
 #include "app/menus.h"
 #include "app/palette.h"
 #include "app/recoverykeeper.h"
+#include "app/sidelists.h"
 #include "app/statuspanels.h"
 #include "app/toolbars.h"
 #include "app/toolbartable.h"
+#include "app/variablebox.h"
+#include "app/viewswitch.h"
+#include "app/visualtools.h"
 #include "app/windowtabs.h"
 #include "controls/desktop/keyboardlocks.h"
 #include "controls/modalformopener.h"
+#include "controls/quickviewer.h"
 #include "controls/scintilla/codemax.h"
+#include "panes/droppedfile.h"
 #include "panes/filepane.h"
-#include "panes/foldertree.h"
+#include "panes/selectorlist.h"
+#include "panes/sidepane.h"
+#include "panes/sidetabbar.h"
 #include "ui_frmmain.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QMimeData>
-#include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -44,16 +50,6 @@ void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)
         bar.setAccessibleTabName(index, tab.tip.toString());
     }
     bar.updateGeometry(); // A bar that does not show yet keeps its new size to itself.
-}
-
-/// The first local file of a drop, or empty.
-QString droppedFile(const QMimeData *data)
-{
-    for (const QUrl &url : data->urls()) {
-        if (url.isLocalFile())
-            return url.toLocalFile();
-    }
-    return {};
 }
 
 } // namespace
@@ -123,52 +119,42 @@ void frmmain::buildBars()
                           static_cast<QToolBar *>(m_designerBar)})
         bar->setMovable(false);
 
-    m_selectorList = new QListWidget(m_ui->centralwidget);
-    m_selectorList->setObjectName(u"List1"_s);
-    m_selectorList->setToolTip(u"Style selectors"_s);
-    m_selectorList->setAccessibleName(u"Style selectors"_s);
+    m_selectorList = new SelectorList(*m_context, m_ui->centralwidget);
     m_selectorList->hide();
+    addVariableBoxes(*m_palette, *m_rt);
 }
 
 void frmmain::buildSidePane()
 {
-    addTabs(*m_ui->Frame1, sideTabs());
-    m_filePane = new FilePane(m_services.prompts, m_ui->sidePages);
-    m_ui->sidePages->addWidget(m_filePane);
+    m_sidePane = new SidePane(m_services.prompts, m_ui->mainSplitter);
+    m_ui->mainSplitter->insertWidget(0, m_sidePane);
+    addTabs(*m_sidePane->tabs(), sideTabs());
+    m_filePane = new FilePane(m_services.prompts, m_sidePane);
+    m_sidePane->setPage(u"fileman"_s, m_filePane);
 
-    m_aspTags = new QTreeWidget(m_ui->sidePages);
-    m_aspTags->setObjectName(u"asptags"_s);
-    m_aspTags->setHeaderHidden(true);
-    m_aspTags->setUniformRowHeights(true);
-    m_aspTags->setAccessibleName(u"ASP Codes / Tags"_s);
-    m_ui->sidePages->addWidget(m_aspTags);
+    m_sideLists = std::make_unique<SideLists>(*m_context, *m_menus, *m_sidePane);
+    addDocumentTree(*m_sidePane, *m_rt, *this);
 
-    m_scriptFolder = new FolderTree(m_ui->sidePages);
-    m_scriptFolder->setObjectName(u"scriptfolder"_s);
-    m_scriptFolder->setAccessibleName(u"Script folders"_s);
-    m_ui->sidePages->addWidget(m_scriptFolder);
-
-    // A command may still select a tab that is closed; its page then says so, too.
-    auto *notYet = new QLabel(u"Not available yet"_s, m_ui->sidePages);
-    notYet->setAlignment(Qt::AlignCenter);
-    notYet->setEnabled(false);
-    m_ui->sidePages->addWidget(notYet);
-    connect(m_ui->Frame1, &QTabBar::currentChanged, this, [this, notYet](int tab) {
-        m_ui->sidePages->setCurrentWidget(m_ui->Frame1->isTabEnabled(tab) ? static_cast<QWidget *>(m_filePane) : notYet);
-    });
-    for (int i = 1; i < m_ui->Frame1->count(); ++i)
-        closeTab(*m_ui->Frame1, i);
     m_ui->mainSplitter->setSizes({sidePaneWidth, width() - sidePaneWidth});
     m_ui->mainSplitter->setStretchFactor(1, 1);
-    connect(m_filePane, &FilePane::fileActivated, this, &frmmain::openListedFile);
+    new FilePaneCommands(*m_context,
+                         {*m_document, *this, *m_sidePane->tabs(), *m_filePane, *m_menus,
+                          [this](const QString &path) {
+                              if (QuickViewer *viewer = quickViewer())
+                                  viewer->showFile(path);
+                          }},
+                         this);
 }
 
 void frmmain::buildWorkspace()
 {
     addTabs(*m_ui->workspace, workspaceTabs());
-    for (int i = 1; i < m_ui->workspace->count(); ++i)
-        closeTab(*m_ui->workspace, i);
     m_ui->views->addWidget(m_rt);
+    m_viewSwitch = new ViewSwitch(*m_context,
+                                  {*m_document, *this, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
+                                  m_services.webViews, this);
+    auto *tools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
+    connect(tools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
 }
 
 void frmmain::connectEditor()
@@ -197,12 +183,11 @@ void frmmain::connectCommands()
             [this](int index, const QString &key, int position) { m_router->palette(index, key, position); });
     connect(m_palette, &Palette::headingClicked, this, [this](int size) { m_router->heading(size); });
     connect(m_palette, &Palette::tabClicked, this, [this] { setSelectorListVisible(false); });
+    connect(m_selectorList, &SelectorList::finished, this, [this] { setSelectorListVisible(false); });
     m_menus->applyAvailability(*m_forms);
     m_standardBar->applyAvailability(*m_forms);
     m_formattingBar->applyAvailability(*m_forms);
     m_palette->applyAvailability(*m_forms);
-    for (const QStringView key : commandsOfClosedTabs())
-        m_formattingBar->close(key.toString());
 }
 
 bool frmmain::FileExists(const QString &path) const
@@ -258,15 +243,6 @@ bool frmmain::eventFilter(QObject *watched, QEvent *event)
     return QMainWindow::eventFilter(watched, event);
 }
 
-/// A double click in the file list: the designer's work and the preview are put in order before the file opens.
-void frmmain::openListedFile()
-{
-    m_document->flushDesigner();
-    m_document->discardPreview();
-    m_document->OpenAFile();
-    selectCodeTab();
-}
-
 void frmmain::closeEvent(QCloseEvent *event)
 {
     if (!m_document->askToClose()) {
@@ -275,7 +251,7 @@ void frmmain::closeEvent(QCloseEvent *event)
     }
     unload();
     event->accept();
-    m_services.endProcess();
+    endProcess();
 }
 
 void frmmain::dragEnterEvent(QDragEnterEvent *event)

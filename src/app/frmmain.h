@@ -8,18 +8,15 @@
 #include "app/windowcommands.h"
 #include "app/windowservices.h"
 #include "controls/appcontext.h"
-#include "controls/designer.h"
 #include "controls/documenthost.h"
 #include "controls/editingcontrol.h"
+#include "views/lateviews.h"
 
 #include <QMainWindow>
 
 #include <memory>
 
 class QComboBox;
-class QListWidget;
-class QTabBar;
-class QTreeWidget;
 
 namespace zephira {
 
@@ -28,13 +25,16 @@ class CommandRouter;
 class CommandToolBar;
 class DesignerBar;
 class FilePane;
-class FolderTree;
 class Menus;
 class ModalFormOpener;
 class Palette;
 class QuickViewer;
 class RecoveryKeeper;
+class SelectorList;
+class SideLists;
+class SidePane;
 class StatusPanels;
+class ViewSwitch;
 
 namespace Ui {
 class frmmain;
@@ -50,6 +50,7 @@ class frmmain : public QMainWindow, public DocumentHost, public DocumentWindow, 
     Q_PROPERTY(QString docTitle READ docTitle)
     Q_PROPERTY(QString docPath READ docPath)
     Q_PROPERTY(QString previewTarget READ previewTarget)
+    Q_PROPERTY(QString designerBase READ designerBase)
     Q_PROPERTY(bool rootSelect MEMBER rootSelect)
     Q_PROPERTY(QString AppPath READ appPath)
     Q_PROPERTY(QStringList startSteps MEMBER startSteps)
@@ -77,6 +78,7 @@ public:
     QString docTitle() const { return m_document->docTitle(); }
     QString docPath() const { return m_document->docPath(); }
     QString previewTarget() const { return m_document->previewTarget(); }
+    QString designerBase() const;
     QString appPath() const { return m_services.appPath; }
     int highlightMode() const { return modes.highlight; }
     int lineNumberMode() const { return modes.lineNumber; }
@@ -100,12 +102,12 @@ public:
     Document &document() { return *m_document; }
     CodeMax &rt() { return *m_rt; }
     Menus &menus() { return *m_menus; }
+    SidePane &sidePane() { return *m_sidePane; }
     FilePane &filePane() { return *m_filePane; }
     DesignerBar &designerBar() { return *m_designerBar; }
     StatusPanels &panels() { return *m_panels; }
-    QListWidget &selectorList() { return *m_selectorList; }
-    QTreeWidget &aspTags() { return *m_aspTags; }
-    FolderTree &scriptFolder() { return *m_scriptFolder; }
+    SelectorList &selectorList() { return *m_selectorList; }
+    SideLists &sideLists() { return *m_sideLists; }
     ModalFormOpener &forms() { return *m_forms; }
 
     /// Panels 2 and 4: the selection's end line, and the line count.
@@ -181,23 +183,22 @@ private:
     void languageChanged(int row);
     void selectionChanged();
     void showKeyboardLocks();
-    void openListedFile();
-    void selectOpenTab(QTabBar &tabs, int index);
     QuickViewer *quickViewer();
     void unload();
+    void endProcess();
 
     const WindowServices m_services;
     std::unique_ptr<Ui::frmmain> m_ui;
     CommonDialog m_commonDialog;
-    NoDesigner m_designer;
+    LateDesigner m_designer;
     CodeMax *m_rt = nullptr;
     QComboBox *m_languages = nullptr;
+    SidePane *m_sidePane = nullptr;
     FilePane *m_filePane = nullptr;
     DesignerBar *m_designerBar = nullptr;
+    ViewSwitch *m_viewSwitch = nullptr;
     StatusPanels *m_panels = nullptr;
-    QListWidget *m_selectorList = nullptr;
-    QTreeWidget *m_aspTags = nullptr;
-    FolderTree *m_scriptFolder = nullptr;
+    SelectorList *m_selectorList = nullptr;
     Menus *m_menus = nullptr;
     CommandToolBar *m_standardBar = nullptr;
     CommandToolBar *m_formattingBar = nullptr;
@@ -206,6 +207,7 @@ private:
     std::unique_ptr<ModalFormOpener> m_forms;
     std::unique_ptr<const AppContext> m_context;
     std::unique_ptr<Document> m_document;
+    std::unique_ptr<SideLists> m_sideLists;
     std::unique_ptr<CommandRouter> m_router;
     std::unique_ptr<RecoveryKeeper> m_recoveryKeeper;
 };

@@ -2,24 +2,28 @@
 // What the document and the commands ask of the main window.
 #include "app/frmmain.h"
 
+#include "app/commandrouter.h"
 #include "app/inserttext.h"
 #include "app/menus.h"
 #include "app/palette.h"
 #include "app/recoverykeeper.h"
 #include "app/statuspanels.h"
+#include "app/viewswitch.h"
 #include "controls/errorstyles.h"
 #include "controls/formposition.h"
 #include "controls/modalformopener.h"
 #include "controls/quickviewer.h"
+#include "controls/scintilla/codemax.h"
 #include "controls/settingsnames.h"
 #include "controls/shell.h"
 #include "panes/filepane.h"
+#include "panes/selectorlist.h"
+#include "panes/sidepane.h"
 #include "ui_frmmain.h"
 #include "views/picturefile.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QListWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -143,7 +147,7 @@ void frmmain::newWindow()
 void frmmain::exitNow()
 {
     m_recoveryKeeper->discard();
-    m_services.endProcess();
+    endProcess();
 }
 
 void frmmain::updateProgram()
@@ -154,36 +158,28 @@ void frmmain::updateProgram()
     if (!close()) {
         // The process ends in any case; what wasn't saved stays as a recovery copy.
         m_recoveryKeeper->writeNow();
-        m_services.endProcess();
+        endProcess();
     }
-}
-
-void frmmain::selectOpenTab(QTabBar &tabs, int index)
-{
-    if (tabs.isTabEnabled(index))
-        tabs.setCurrentIndex(index);
-    else
-        notice(tabs.tabToolTip(index));
 }
 
 void frmmain::nextView()
 {
-    QTabBar *tabs = m_ui->workspace;
-    int next = tabs->currentIndex();
-    do {
-        next = (next + 1) % tabs->count();
-    } while (!tabs->isTabEnabled(next));
-    tabs->setCurrentIndex(next);
+    m_viewSwitch->selectNext();
 }
 
 void frmmain::selectView(int tab)
 {
-    selectOpenTab(*m_ui->workspace, tab - 1);
+    m_viewSwitch->selectTab(WorkspaceView(tab - 1));
+}
+
+QString frmmain::designerBase() const
+{
+    return m_viewSwitch->designerBase();
 }
 
 void frmmain::selectSideTab(int tab)
 {
-    m_ui->Frame1->setCurrentIndex(tab - 1);
+    m_sidePane->click(tab - 1);
 }
 
 void frmmain::setSelectorListVisible(bool visible)
@@ -193,8 +189,12 @@ void frmmain::setSelectorListVisible(bool visible)
         m_selectorList->setGeometry(0, 0, qBound(160, width, m_ui->centralwidget->width()),
                                     qMin(240, m_ui->centralwidget->height()));
         m_selectorList->raise();
+    } else if (m_selectorList->hasFocus()) {
+        m_rt->setFocus();
     }
     m_selectorList->setVisible(visible);
+    if (visible)
+        m_selectorList->setFocus();
     m_palette->setSelectorPressed(visible);
 }
 
@@ -225,7 +225,11 @@ void frmmain::showReadme()
 
 void frmmain::showFtp()
 {
-    m_forms->openModeless(u"frmmainftp"_s);
+    const QString form = u"frmmainftp"_s;
+    m_forms->openModeless(form);
+    QWidget *window = m_forms->openForm(form);
+    if (window && projectPath() != u"Project Path"_s)
+        window->setProperty("LocalFolder", projectPath());
 }
 
 void frmmain::openTagEditor(int)
@@ -236,6 +240,13 @@ void frmmain::openTagEditor(int)
 void frmmain::checkSpelling()
 {
     m_forms->openModal(u"SpellChecker1"_s);
+}
+
+/// Ends the process as soon as the commands that run have come to their end.
+void frmmain::endProcess()
+{
+    m_router->abandon();
+    m_services.endProcess();
 }
 
 /// What is done once the window may close, each step whatever became of the one before.

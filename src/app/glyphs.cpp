@@ -65,6 +65,20 @@ public:
         m_painter.drawPolygon(QPolygonF(QList<QPointF>(points)));
         m_painter.restore();
     }
+    /// A page with a folded corner and a number on it.
+    void numberedPage(int number)
+    {
+        path({{4.5, 2.5}, {13.5, 2.5}, {17.5, 6.5}, {17.5, 19.5}, {4.5, 19.5}, {4.5, 2}});
+        path({{13.5, 2.5}, {13.5, 6.5}, {17.5, 6.5}});
+        m_painter.save();
+        QFont digits = m_painter.font();
+        digits.setPixelSize(11);
+        digits.setBold(true);
+        m_painter.setFont(digits);
+        m_painter.setPen(m_accent);
+        m_painter.drawText(QRectF(4.5, 5.5, 13, 14), Qt::AlignCenter, QString::number(number));
+        m_painter.restore();
+    }
     /// Lines that follow are drawn in the accent's colour and a little bolder.
     void accentuate() { stroke(m_accent, Qt::SolidLine, 1.5); }
 
@@ -115,6 +129,12 @@ constexpr Shape shapes[] = {
          s.fillPolygon({{15, 10}, {19, 10}, {17, 12.5}});
          s.line(5, 11.5, 11, 11.5);
      }},
+    {u"custom1", [](Sketch &s) { s.numberedPage(1); }},
+    {u"custom2", [](Sketch &s) { s.numberedPage(2); }},
+    {u"custom3", [](Sketch &s) { s.numberedPage(3); }},
+    {u"custom4", [](Sketch &s) { s.numberedPage(4); }},
+    {u"custom5", [](Sketch &s) { s.numberedPage(5); }},
+    {u"custom6", [](Sketch &s) { s.numberedPage(6); }},
     {u"form", [](Sketch &s) {
          s.box(3, 3, 16, 16);
          s.box(6, 6, 10, 3);

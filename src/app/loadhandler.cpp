@@ -3,24 +3,25 @@
 
 #include "app/designerbar.h"
 #include "app/frmmain.h"
+#include "app/sidelists.h"
 #include "app/startdecision.h"
 #include "app/statuspanels.h"
 #include "controls/errorstyles.h"
 #include "controls/files/configuration.h"
-#include "controls/files/filestore.h"
 #include "controls/files/usersettings.h"
 #include "controls/formposition.h"
 #include "controls/scintilla/codemax.h"
 #include "controls/scintilla/codemaxglobals.h"
 #include "controls/settingsnames.h"
 #include "controls/syntax/languageregistry.h"
+#include "panes/asptagtree.h"
 #include "panes/filepane.h"
-#include "panes/foldertree.h"
+#include "panes/scriptlibrary.h"
+#include "panes/selectorlist.h"
+#include "tags/tagtree.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QListWidget>
-#include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +35,11 @@ constexpr int commandsWithoutKeys[] = {197, 140, 198, 161, 129, 139, 160};
 bool isTrue(const QString &text)
 {
     return text.compare(u"True"_s, Qt::CaseInsensitive) == 0;
+}
+
+HandlerError startError(const Error &error)
+{
+    return {u"Zephira can't start: "_s + error.sentence};
 }
 
 } // namespace
@@ -56,6 +62,7 @@ const LoadHandler::Step LoadHandler::steps[] = {
     {u"removeHotKeys", &LoadHandler::removeHotKeys},
     {u"readStyleSelectors", &LoadHandler::readStyleSelectors},
     {u"rootScriptFolder", &LoadHandler::rootScriptFolder},
+    {u"fillTagTree", &LoadHandler::fillTagTree},
     {u"clearModified", &LoadHandler::clearModified},
     {u"readAspTags", &LoadHandler::readAspTags},
     {u"openArgument", &LoadHandler::openArgument},
@@ -82,18 +89,14 @@ QString LoadHandler::text(const QString &section, const QString &key) const
     return m_window.services().configuration.value(section, key);
 }
 
-/// The lines of a data file of the installation, without which the program can't start.
+/// The lines of a list of the installation, without which the program can't start.
 QStringList LoadHandler::dataLines(const QString &name) const
 {
-    const WindowServices &services = m_window.services();
-    const Result<QByteArray> content = services.files.read(services.appPath + u'/' + name);
-    if (!content)
-        throw HandlerError{u"Zephira can't start: "_s + content.error().sentence};
-    QString text = QString::fromUtf8(content.value());
-    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-    if (text.endsWith(u'\n'))
-        text.chop(1);
-    return text.isEmpty() ? QStringList() : text.split(u'\n');
+    const Result<QStringList> lines =
+        m_window.sideLists().fileNumber().readLines(m_window.services().appPath + u'/' + name);
+    if (!lines)
+        throw startError(lines.error());
+    return lines.value();
 }
 
 void LoadHandler::restorePlacement()
@@ -221,7 +224,14 @@ void LoadHandler::readStyleSelectors()
 
 void LoadHandler::rootScriptFolder()
 {
-    m_window.scriptFolder().setRootFolder(m_window.appPath() + u"/Scripts"_s);
+    m_window.sideLists().scripts().setRootFolder(m_window.appPath() + u"/Scripts"_s);
+}
+
+void LoadHandler::fillTagTree()
+{
+    const Result<void> filled = m_window.sideLists().tags().LoadTagTree();
+    if (!filled)
+        throw startError(filled.error());
 }
 
 void LoadHandler::clearModified()
@@ -231,10 +241,7 @@ void LoadHandler::clearModified()
 
 void LoadHandler::readAspTags()
 {
-    QList<QTreeWidgetItem *> nodes;
-    for (const QString &line : dataLines(u"asptags.dat"_s))
-        nodes.append(new QTreeWidgetItem(QStringList(line)));
-    m_window.aspTags().addTopLevelItems(nodes);
+    m_window.sideLists().aspTags().addLines(dataLines(u"asptags.dat"_s));
 }
 
 void LoadHandler::openArgument()

@@ -42,6 +42,7 @@ private:
     void removeHotKeys();
     void readStyleSelectors();
     void rootScriptFolder();
+    void fillTagTree();
     void clearModified();
     void readAspTags();
     void openArgument();

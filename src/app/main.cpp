@@ -2,8 +2,7 @@
 #include "app/commandline.h"
 #include "app/frmmain.h"
 #include "app/program.h"
-
-#include <QApplication>
+#include "controls/desktop/webenginestart.h"
 
 #include <csignal>
 #include <cstdio>
@@ -25,11 +24,9 @@ int main(int argc, char **argv)
         return EXIT_SUCCESS;
     }
 
-    // The editor paints without OpenGL; doing without its context makes the window come up sooner.
-    qputenv("QT_XCB_GL_INTEGRATION", "none");
     QCoreApplication::setApplicationName(u"zephira"_s);
     QCoreApplication::setApplicationVersion(QString::fromLatin1(ZEPHIRA_VERSION));
-    QApplication application(argc, argv);
+    const std::unique_ptr<QApplication> application = zephira::makeApplication(argc, argv);
     QGuiApplication::setDesktopFileName(u"org.zephira.Zephira"_s);
-    return zephira::runProgram(application, argument);
+    return zephira::runProgram(*application, argument);
 }

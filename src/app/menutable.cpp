@@ -24,11 +24,6 @@ constexpr MenuItem opens(QStringView name, QStringView caption, QStringView form
     return {name, caption, shortcut, icon, statusTip, form};
 }
 
-constexpr MenuItem missing(QStringView name, QStringView caption, QStringView statusTip)
-{
-    return {name, caption, {}, {}, statusTip, {}, Kind::Missing};
-}
-
 constexpr MenuItem divider(QStringView name = {})
 {
     return {name, {}, {}, {}, {}, {}, Kind::Divider};
@@ -77,9 +72,9 @@ constexpr MenuItem editItems[] = {
 };
 
 constexpr MenuItem formatSourceItems[] = {
-    missing(u"mnufcomp", u"Compact", u"Write the source as short as it can be"),
-    missing(u"mnuformath", u"Hierarchical", u"Indent the source by its structure"),
-    missing(u"mnufsimple", u"Simple", u"Give each tag a line"),
+    {u"mnufcomp", u"Compact", {}, {}, u"Write the source as short as it can be"},
+    {u"mnuformath", u"Hierarchical", {}, {}, u"Indent the source by its structure"},
+    {u"mnufsimple", u"Simple", {}, {}, u"Give each tag a line"},
 };
 
 constexpr MenuItem toolItems[] = {
@@ -192,9 +187,9 @@ constexpr MenuItem bar[] = {
 };
 
 constexpr MenuItem fileListItems[] = {
-    {u"mnuqv", u"QuickView", {}, u"quickview", u"Show the file without opening it", {}, Kind::Missing},
-    {u"mnuinslink", u"Insert Link to this file", {}, u"insert-link", u"Insert a link to the file", {}, Kind::Missing},
-    {u"mnuef", u"Edit Filters", {}, u"view-filter", u"Choose which files the list shows", {}, Kind::Missing},
+    {u"mnuqv", u"QuickView", {}, u"quickview", u"Show the file without opening it"},
+    {u"mnuinslink", u"Insert Link to this file", {}, u"insert-link", u"Insert a link to the file"},
+    {u"mnuef", u"Edit Filters", {}, u"view-filter", u"Choose which files the list shows"},
 };
 
 constexpr MenuItem hiddenItems[] = {menu(u"mnufilerc", u"filerc", fileListItems)};
@@ -202,7 +197,7 @@ constexpr MenuItem hiddenItems[] = {menu(u"mnufilerc", u"filerc", fileListItems)
 constexpr MenuItem suggestionItems[] = {{u"sug_0", u"- Spelling Suggestions -", {}, {}, {}, {}, Kind::Missing}};
 
 constexpr MenuItem customTabItems[] = {
-    {u"mnuaddcentry", u"Add Entry", {}, u"list-add", u"Add an entry to this tab", {}, Kind::Missing},
+    {u"mnuaddcentry", u"Add Entry", {}, u"list-add", u"Add an entry to this tab"},
 };
 
 constexpr MenuItem popups[] = {

@@ -37,6 +37,15 @@ public:
         setMovable(false);
     }
 
+    /// A box that stands behind the buttons. Until they are made it is a part of the toolbar that nobody sees.
+    void setBox(QWidget *box)
+    {
+        m_box = box;
+        box->setParent(this);
+        if (m_isBuilt)
+            addWidget(box);
+    }
+
     void setVisible(bool visible) override
     {
         if (visible)
@@ -69,9 +78,12 @@ private:
                     button->setPopupMode(QToolButton::InstantPopup);
             }
         }
+        if (m_box)
+            addWidget(m_box);
     }
 
     const PaletteToolbar &m_table;
+    QWidget *m_box = nullptr;
     bool m_isBuilt = false;
 };
 
@@ -158,6 +170,11 @@ QToolBar *Palette::toolBar(int index) const
 QAction *Palette::action(int index, const QString &key) const
 {
     return toolBar(index)->findChild<QAction *>(key);
+}
+
+void Palette::addBox(int index, QWidget *box)
+{
+    m_bars[static_cast<std::size_t>(index)]->setBox(box);
 }
 
 bool Palette::isSelectorPressed() const

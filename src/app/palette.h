@@ -29,6 +29,9 @@ public:
     /// The button of a key in toolbar 0 to 5, or nullptr.
     QAction *action(int index, const QString &key) const;
 
+    /// Gives a toolbar a box behind its last button. The box belongs to it.
+    void addBox(int index, QWidget *box);
+
     /// The toggle `selector`; setting it emits no click.
     bool isSelectorPressed() const;
     void setSelectorPressed(bool pressed);

@@ -12,6 +12,7 @@
 #include "controls/desktop/desktopclipboard.h"
 #include "controls/desktop/desktopprompts.h"
 #include "controls/desktop/desktopshell.h"
+#include "controls/desktop/module.h"
 #include "controls/errorstyles.h"
 #include "controls/files/configuration.h"
 #include "controls/files/diskfilestore.h"
@@ -19,8 +20,13 @@
 #include "controls/files/usersettings.h"
 #include "controls/formcatalogue.h"
 #include "controls/scintilla/codemax.h"
+#include "ftp/ftpclient.h"
+#include "ftp/net/netoperations.h"
+#include "ftp/registerforms.h"
+#include "panes/registerforms.h"
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
+#include "tags/registerforms.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
@@ -29,6 +35,7 @@
 #include <QStandardPaths>
 
 #include <cstdlib>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +52,12 @@ QString dataHome()
 QString installedData()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/zephira"_s);
+}
+
+/// A module lies beside the executable.
+QString modulePath(const QString &name)
+{
+    return QCoreApplication::applicationDirPath() + u'/' + name;
 }
 
 /// The folder of the recovery copies, beside the per-user settings.
@@ -74,17 +87,21 @@ int runProgram(QApplication &application, const QString &argument)
     DesktopPrompts prompts(nullptr);
     DesktopShell shell;
     DesktopClipboard clipboard;
+    NetOperations ftpOperations(clock);
 
     FormCatalogue catalogue;
     announceComingForms(catalogue);
     wizards::registerForms(catalogue);
+    panes::registerForms(catalogue);
     start::registerForms(catalogue);
+    ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
+    tags::registerForms(catalogue);
     settings::registerForms(catalogue);
     views::registerForms(catalogue, [&](QWidget *parent) -> EditorView {
         auto *viewer = new CodeMax({files, recovery, prompts}, parent);
         viewer->setReadOnly(true);
         return {viewer, viewer};
-    });
+    }, [] { return loadModuleAs<PageFetcher>(modulePath(u"zephirafetch.so"_s)); });
 
     bool ended = false;
     frmmain window({.files = files,
@@ -96,6 +113,7 @@ int runProgram(QApplication &application, const QString &argument)
                     .clipboard = clipboard,
                     .clock = clock,
                     .catalogue = catalogue,
+                    .webViews = [] { return loadModuleAs<WebViews>(modulePath(u"zephiraweb.so"_s)); },
                     .appPath = appPath.value(),
                     .iniFile = iniFile,
                     .executable = QCoreApplication::applicationFilePath(),

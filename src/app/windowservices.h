@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "controls/webviews.h"
+
 #include <QString>
 
 #include <functional>
@@ -28,6 +30,7 @@ struct WindowServices {
     Clipboard &clipboard;
     Clock &clock;
     const FormCatalogue &catalogue;
+    WebViewsLoader webViews;
     /// The program folder, without a separator at its end.
     QString appPath;
     /// The configuration's file, for messages.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowtabs.h"
 
-#include <QTabBar>
-
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -16,12 +14,12 @@ std::span<const WindowTab> sideTabs()
         {u"ihtml", u"IHTML Tags", u"IHTML Tags", u"code-context"},
         {u"documenttree", u"Document Tree", u"Document Tree", u"view-list-tree"},
         {u"scripts", u"Script Library", u"Script Library", u"dialog-scripts"},
-        {u"c1", u"", u"Custom tab 1", u""},
-        {u"c2", u"", u"Custom tab 2", u""},
-        {u"c3", u"", u"Custom tab 3", u""},
-        {u"c4", u"", u"Custom tab 4", u""},
-        {u"c5", u"", u"Custom tab 5", u""},
-        {u"c6", u"", u"Custom tab 6", u""},
+        {u"c1", u"", u"Custom tab 1", u"#custom1"},
+        {u"c2", u"", u"Custom tab 2", u"#custom2"},
+        {u"c3", u"", u"Custom tab 3", u"#custom3"},
+        {u"c4", u"", u"Custom tab 4", u"#custom4"},
+        {u"c5", u"", u"Custom tab 5", u"#custom5"},
+        {u"c6", u"", u"Custom tab 6", u"#custom6"},
     };
     return tabs;
 }
@@ -34,18 +32,6 @@ std::span<const WindowTab> workspaceTabs()
         {u"wysiwyg", u"WYSIWYG Editor", u"Use this to create your webpage using a visual approach", u"document-edit"},
     };
     return tabs;
-}
-
-std::span<const QStringView> commandsOfClosedTabs()
-{
-    static constexpr QStringView keys[] = {u"picb", u"dqw"};
-    return keys;
-}
-
-void closeTab(QTabBar &bar, int index)
-{
-    bar.setTabEnabled(index, false);
-    bar.setTabToolTip(index, u"Not available yet"_s);
 }
 
 } // namespace zephira

@@ -5,8 +5,6 @@
 
 #include <span>
 
-class QTabBar;
-
 namespace zephira {
 
 /// A tab of the side pane or of the workspace.
@@ -21,10 +19,5 @@ struct WindowTab {
 std::span<const WindowTab> sideTabs();
 /// The three tabs of `workspace`.
 std::span<const WindowTab> workspaceTabs();
-/// Pull-down entries whose only effect is to select a tab that is closed.
-std::span<const QStringView> commandsOfClosedTabs();
-
-/// Closes a tab whose page isn't there yet and says so in its tip.
-void closeTab(QTabBar &bar, int index);
 
 } // namespace zephira

@@ -68,7 +68,7 @@ bool ModalFormOpener::isAvailable(const QString &form) const
     return m_context && m_catalogue.contains(form);
 }
 
-void ModalFormOpener::openModal(const QString &form)
+void ModalFormOpener::openModal(const QString &form, QWidget *owner)
 {
     if (!isAvailable(form))
         return;
@@ -76,22 +76,23 @@ void ModalFormOpener::openModal(const QString &form)
     if (window && window != m_waiting)
         bringToFront(window);
     else
-        run(form, modalOwner());
+        run(form, modalOwner(owner));
 }
 
 void ModalFormOpener::openModalOver(const QString &form, const QString &hiddenForm)
 {
     if (!isAvailable(form) || !isAvailable(hiddenForm) || openForm(form) || openForm(hiddenForm))
         return;
-    m_waiting = make(hiddenForm, modalOwner());
+    m_waiting = make(hiddenForm, modalOwner(nullptr));
     run(form, m_waiting);
 }
 
-/// The modal form that is on top, so that forms stack as they were opened.
-QWidget *ModalFormOpener::modalOwner() const
+/// The modal form that is on top, so that forms stack as they were opened; else the owner that was asked for.
+QWidget *ModalFormOpener::modalOwner(QWidget *wanted) const
 {
-    QWidget *top = QApplication::activeModalWidget();
-    return top ? top : m_owner.data();
+    if (QWidget *top = QApplication::activeModalWidget())
+        return top;
+    return wanted ? wanted : m_owner.data();
 }
 
 void ModalFormOpener::run(const QString &form, QWidget *owner)

@@ -25,7 +25,9 @@ public:
     void setContext(const AppContext &context) { m_context = &context; }
 
     bool isAvailable(const QString &form) const override;
-    void openModal(const QString &form) override;
+    using FormOpener::openModal;
+    /// While a modal form is up, the new one belongs to that.
+    void openModal(const QString &form, QWidget *owner) override;
     void openModeless(const QString &form) override;
 
     /// As openModal(), over a second form that is made but not shown. The next openModal() shows that one.
@@ -38,7 +40,7 @@ public:
 
 private:
     QWidget *make(const QString &form, QWidget *owner);
-    QWidget *modalOwner() const;
+    QWidget *modalOwner(QWidget *wanted) const;
     void run(const QString &form, QWidget *owner);
 
     const FormCatalogue &m_catalogue;

@@ -18,6 +18,11 @@ public:
     virtual Result<void> open(const QString &pathOrUrl) = 0;
     /// Starts a program, named by its absolute path, with an argument list; no shell is involved.
     virtual Result<void> start(const QString &program, const QStringList &arguments) = 0;
+
+    /// Shows what the desktop knows of a file, named by its full path.
+    virtual Result<void> showProperties(const QString &path) = 0;
+    /// Opens the desktop's way to look for files.
+    virtual Result<void> findFiles() = 0;
 };
 
 } // namespace zephira

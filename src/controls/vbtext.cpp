@@ -182,4 +182,30 @@ qint32 CLng(const QString &text)
     return converted<qint32>(text);
 }
 
+QString CStr(double number)
+{
+    constexpr int significantDigits = 15;
+    return QString::number(number, 'g', significantDigits).toUpper();
+}
+
+QString Format(double number, QStringView mask)
+{
+    const qsizetype point = mask.indexOf(u'.');
+    const qsizetype decimals = point < 0 ? 0 : mask.size() - point - 1;
+    // By way of its text, a number that stands for a half in decimal is rounded as one.
+    const double scaled = CStr(std::abs(number) * std::pow(10.0, static_cast<double>(decimals))).toDouble();
+    QString digits = QString::number(std::round(scaled), 'f', 0).rightJustified(decimals + 1, u'0');
+    QString fraction = digits.last(decimals);
+    digits.chop(decimals);
+    while (fraction.endsWith(u'0'))
+        fraction.chop(1);
+
+    const bool negative = number < 0 && (digits != u"0" || !fraction.isEmpty());
+    if (mask.contains(u' ')) {
+        for (qsizetype group = digits.size() - 3; group > 0; group -= 3)
+            digits.insert(group, u' ');
+    }
+    return (negative ? u"-"_s : QString()) + digits + (fraction.isEmpty() ? QString() : u'.' + fraction);
+}
+
 } // namespace zephira

@@ -50,4 +50,15 @@ qint16 CInt(const QString &text);
 qint32 CLng(double number);
 qint32 CLng(const QString &text);
 
+/// A number as it reads inside a text: at most 15 significant digits, a decimal point, and nothing around it. The locale
+/// has no say.
+QString CStr(double number);
+
+/// A number in a mask of "#" with an optional point: at most as many decimals as stand behind the point, without zeros at
+/// their end, and groups of three digits divided by blanks if the mask has any. Digits in front of the point are never
+/// lost, halves are rounded away from zero, and there is always a digit in front of the point.
+///
+///     Format(1234567.891, u"### ### ###.##") == "1 234 567.89"
+QString Format(double number, QStringView mask);
+
 } // namespace zephira

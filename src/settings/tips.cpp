@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/tips.h"
 
-#include "controls/files/lineends.h"
+#include "controls/files/textlines.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,12 +9,7 @@ namespace zephira {
 
 QStringList tipLines(const QString &text)
 {
-    if (text.isEmpty())
-        return {};
-    QStringList lines = toCrLf(text).split(u"\r\n"_s);
-    if (lines.last().isEmpty())
-        lines.removeLast();
-    return lines;
+    return textLines(text);
 }
 
 int drawTip(double random, int count)

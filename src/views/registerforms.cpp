@@ -2,6 +2,9 @@
 #include "views/registerforms.h"
 
 #include "views/frmqv.h"
+#include "views/frmwebdisp.h"
+#include "views/inserthtmldlg.h"
+#include "views/inserttabledlg.h"
 
 #include "controls/formcatalogue.h"
 
@@ -9,11 +12,16 @@ using namespace Qt::StringLiterals;
 
 namespace zephira::views {
 
-void registerForms(FormCatalogue &catalogue, const ViewerFactory &makeViewer)
+void registerForms(FormCatalogue &catalogue, const ViewerFactory &makeViewer, const PageFetcherLoader &loadFetcher)
 {
     catalogue.add(u"frmqv"_s, [makeViewer](const AppContext &context, QWidget *owner) {
         return new frmqv(context, makeViewer, owner);
     });
+    catalogue.add(u"frmwebdisp"_s, [makeViewer, loadFetcher](const AppContext &context, QWidget *owner) {
+        return new frmwebdisp(context, makeViewer, loadFetcher, owner);
+    });
+    catalogue.add<InsertHTMLDlg>(u"InsertHTMLDlg"_s);
+    catalogue.add<InsertTableDlg>(u"InsertTableDlg"_s);
 }
 
 } // namespace zephira::views

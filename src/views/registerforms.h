@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/editorfactory.h"
+#include "views/pagefetcher.h"
 
 namespace zephira {
 
@@ -9,8 +10,8 @@ class FormCatalogue;
 
 namespace views {
 
-/// The catalogue's forms show texts in what `makeViewer` gives.
-void registerForms(FormCatalogue &catalogue, const ViewerFactory &makeViewer);
+/// The catalogue's forms show texts in what `makeViewer` gives, and fetch pages through what `loadFetcher` gives.
+void registerForms(FormCatalogue &catalogue, const ViewerFactory &makeViewer, const PageFetcherLoader &loadFetcher);
 
 } // namespace views
 } // namespace zephira

@@ -36,7 +36,14 @@ struct FakeWindow final : DocumentWindow {
     void setCountPanel(int characters) override { count = characters; }
     void setPathPanel(const QString &text) override { pathPanel = text; }
     void notice(const QString &sentence) override { notices.append(sentence); }
-    void selectCodeTab() override { ++codeTabs; }
+    /// Is called when the code view is selected.
+    std::function<void()> onCodeTab;
+    void selectCodeTab() override
+    {
+        ++codeTabs;
+        if (onCodeTab)
+            onCodeTab();
+    }
     void documentSettled() override { ++settled; }
     void keepUnsavedText() override { ++kept; }
     void showTemplateChooser() override { ++choosers; }
@@ -308,6 +315,7 @@ private Q_SLOTS:
         bench.document.save(); // Showing but clean: nothing is carried back.
         QCOMPARE(bench.fakes.files.contents[u"/a.html"_s], QByteArray("old"));
         bench.fakes.designer.dirty = true;
+        bench.window.onCodeTab = [&] { bench.fakes.editor.setText(bench.fakes.designer.html); };
         const int tabs = bench.window.codeTabs;
         bench.document.save();
         QCOMPARE(bench.fakes.files.contents[u"/a.html"_s], QByteArray("<p>new</p>"));
@@ -515,6 +523,38 @@ private Q_SLOTS:
         bench.document.openFileOrImage(u"/drop/a.gif"_s);
         QCOMPARE(bench.fakes.editor.text(), u"<img src=\"a.gif\" width=\"120\" height=\"80\" alt=\"\" Border=\"0\">"_s);
         QVERIFY(!bench.document.docHasFile());
+    }
+
+    void aFileDroppedOnTheSidePaneBecomesTheDocumentWhateverItIs()
+    {
+        Bench bench;
+        bench.fakes.files.contents[u"/d/a.gif"_s] = "GIF89a";
+        QVERIFY(bench.document.openDropped(u"/d/a.gif"_s));
+        QCOMPARE(bench.fakes.editor.text(), u"GIF89a"_s);
+        QCOMPARE(bench.document.docPath(), u"/d/a.gif"_s);
+        QCOMPARE(bench.dialog.fileName, u"/d/a.gif"_s);
+        QCOMPARE(bench.window.caption, u"Zephira - [/d/a.gif]"_s);
+        QCOMPARE(bench.window.pathPanel, u"/d/a.gif"_s);
+        QCOMPARE(bench.window.count, 6);
+        QVERIFY(!bench.document.docModified());
+        QCOMPARE(bench.fakes.document.project, u"Project Path"_s);
+        // The designer's work is a change like any other.
+        bench.fakes.designer.showing = true;
+        bench.fakes.designer.dirty = true;
+        bench.window.onCodeTab = [&] { bench.fakes.editor.setText(u"<p>designed</p>"_s); };
+        bench.fakes.prompts.expect(Bench::savePrompt(u"/d/a.gif"_s), Answer::Cancel);
+        QVERIFY(!bench.document.openDropped(u"/d/b.txt"_s));
+        QCOMPARE(bench.fakes.editor.text(), u"<p>designed</p>"_s);
+    }
+
+    void aDroppedFileThatCannotBeReadChangesNothing()
+    {
+        Bench bench;
+        bench.openFile(u"/d/a.txt"_s, "a");
+        bench.fakes.prompts.expectTell(u"/d/none.txt doesn't exist."_s, {}, Question::Icon::Exclamation);
+        QVERIFY(!bench.document.openDropped(u"/d/none.txt"_s));
+        QCOMPARE(bench.document.docPath(), u"/d/a.txt"_s);
+        QCOMPARE(bench.fakes.editor.text(), u"a"_s);
     }
 
     void aDroppedFileBecomesTheDocument()

@@ -247,6 +247,56 @@ private slots:
         QCOMPARE(outcome([] { return CInt(-std::numeric_limits<double>::infinity()); }), overflow);
         QCOMPARE(outcome([] { return CDbl(u"ten"_s); }), mismatch);
     }
+
+    void numberAsText_data()
+    {
+        QTest::addColumn<double>("number");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("nothing") << 0.0 << u"0"_s;
+        QTest::newRow("whole") << 1024.0 << u"1024"_s;
+        QTest::newRow("thousandths") << 1.024 << u"1.024"_s;
+        QTest::newRow("below one") << 0.5 << u"0.5"_s;
+        QTest::newRow("negative") << -2.25 << u"-2.25"_s;
+        QTest::newRow("fifteen digits") << 1.0 / 3.0 << u"0.333333333333333"_s;
+        QTest::newRow("exponent") << 1e20 << u"1E+20"_s;
+    }
+
+    void numberAsText()
+    {
+        QFETCH(double, number);
+        QTEST(CStr(number), "text");
+    }
+
+    void mask_data()
+    {
+        QTest::addColumn<double>("number");
+        QTest::addColumn<QString>("mask");
+        QTest::addColumn<QString>("text");
+        const QString grouped = u"### ### ###.##"_s;
+        QTest::newRow("nothing") << 0.0 << grouped << u"0"_s;
+        QTest::newRow("a half") << 0.5 << grouped << u"0.5"_s;
+        QTest::newRow("a kilobyte by thousands") << 1.024 << grouped << u"1.02"_s;
+        QTest::newRow("a kilobyte") << 1.0 << grouped << u"1"_s;
+        QTest::newRow("a kilobyte and a half") << 1.5 << grouped << u"1.5"_s;
+        QTest::newRow("three digits") << 999.0 << grouped << u"999"_s;
+        QTest::newRow("four digits") << 1000.0 << grouped << u"1 000"_s;
+        QTest::newRow("more digits than the mask") << 12345678901.0 << grouped << u"12 345 678 901"_s;
+        QTest::newRow("decimal half") << 1.005 << grouped << u"1.01"_s;
+        QTest::newRow("small decimal half") << 0.015 << grouped << u"0.02"_s;
+        QTest::newRow("too small to show") << 0.004 << grouped << u"0"_s;
+        QTest::newRow("rounded up to a group") << 999.999 << grouped << u"1 000"_s;
+        QTest::newRow("negative") << -1234.5 << grouped << u"-1 234.5"_s;
+        QTest::newRow("negative and too small to show") << -0.001 << grouped << u"0"_s;
+        QTest::newRow("without decimals") << 1234.5 << u"### ###"_s << u"1 235"_s;
+        QTest::newRow("without groups") << 1234.567 << u"#.##"_s << u"1234.57"_s;
+    }
+
+    void mask()
+    {
+        QFETCH(double, number);
+        QFETCH(QString, mask);
+        QTEST(Format(number, mask), "text");
+    }
 };
 
 ZEPHIRA_TEST(TstVbText)

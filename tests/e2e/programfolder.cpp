@@ -37,6 +37,9 @@ ProgramFolder::ProgramFolder()
     copyTree(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data"), path());
     QVERIFY(QDir().mkpath(home()));
     QVERIFY(QFile::copy(program, executable()));
+    // The modules lie beside the program.
+    for (const QFileInfo &module : QFileInfo(program).dir().entryInfoList({u"*.so"_s}, QDir::Files))
+        QVERIFY(QFile::copy(module.filePath(), path() + u'/' + module.fileName()));
     setTips(false);
     setIni(u"Startup"_s, u"selprj"_s, u"0"_s);
 }

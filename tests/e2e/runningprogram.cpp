@@ -179,6 +179,19 @@ void RunningProgram::close(const QString &title) const
     key(title, u"alt+F4"_s); // The window manager turns it into a close request.
 }
 
+QString RunningProgram::middleColour(const QString &title) const
+{
+    const QByteArray colour = outputOf(u"import"_s, {u"-silent"_s, u"-window"_s, windowId(title), u"-gravity"_s, u"center"_s,
+                                                     u"-crop"_s, u"1x1+0+0"_s, u"-depth"_s, u"8"_s, u"-format"_s,
+                                                     u"%[hex:u.p{0,0}]"_s, u"info:"_s});
+    return u'#' + QString::fromLatin1(colour.first(qMin(6, colour.size())));
+}
+
+bool RunningProgram::waitForMiddleColour(const QString &title, const QString &colour) const
+{
+    return waitFor([&] { return middleColour(title) == colour; });
+}
+
 void RunningProgram::limitFileSize(qint64 bytes) const
 {
     QCOMPARE(QProcess::execute(u"prlimit"_s, {u"--pid"_s, QString::number(pid()), u"--fsize=%1:"_s.arg(bytes)}), 0);

@@ -47,6 +47,11 @@ public:
     /// Asks a window to close, as its close box does.
     void close(const QString &title) const;
 
+    /// Colour of the screen in the middle of the window of that title, as "#rrggbb" in capitals.
+    QString middleColour(const QString &title) const;
+    /// Waits until the middle of the window has that colour.
+    bool waitForMiddleColour(const QString &title, const QString &colour) const;
+
     /// From now on a write that makes a file larger than this fails.
     void limitFileSize(qint64 bytes) const;
     bool isRunning() const { return m_process.state() == QProcess::Running; }

@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
 
@@ -54,6 +55,40 @@ private Q_SLOTS:
         QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
         program.close(caption);
         QCOMPARE(program.waitForEnd(), 0);
+    }
+
+    /// The file pane shows the file's folder, whatever else lies in it.
+    void aFolderFullOfTraps_data()
+    {
+        QTest::addColumn<QString>("rootSelect");
+        QTest::newRow("selected in the tree") << u"2"_s;
+        QTest::newRow("root of the tree") << u"1"_s;
+    }
+
+    void aFolderFullOfTraps()
+    {
+        QFETCH(QString, rootSelect);
+        ProgramFolder folder;
+        folder.setIni(u"startup"_s, u"rootsel"_s, rootSelect);
+        const QString path = folder.write(u"日本 site/page.html"_s, "<p>page</p>");
+        const QString site = folder.place(u"日本 site"_s);
+        QVERIFY(QDir().mkdir(site + u"/secret"_s));
+        QVERIFY(QFile::setPermissions(site + u"/secret"_s, QFile::Permissions()));
+        QVERIFY(QFile::link(site, site + u"/up"_s));
+        QVERIFY(QFile::link(site + u"/self.html"_s, site + u"/self.html"_s));
+        QCOMPARE(::mkfifo(QFile::encodeName(site + u"/pipe.html"_s).constData(), 0600), 0);
+        for (const char *name : {"/not text \xff\xfe.html", "/not text \xff\xfe folder"}) {
+            const QByteArray place = QFile::encodeName(site) + name;
+            QCOMPARE(place.endsWith("folder") ? ::mkdir(place.constData(), 0700) : ::mknod(place.constData(), S_IFREG | 0600, 0), 0);
+        }
+        RunningProgram program(folder, {path}, RunningProgram::boundByPermissions());
+        const QString caption = RunningProgram::captionOf(path);
+        QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
+        program.close(caption);
+        QCOMPARE(program.waitForEnd(), 0);
+        QVERIFY(QFile::setPermissions(site + u"/secret"_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QCOMPARE(::unlink((QFile::encodeName(site) + "/not text \xff\xfe.html").constData()), 0);
+        QCOMPARE(::rmdir((QFile::encodeName(site) + "/not text \xff\xfe folder").constData()), 0);
     }
 
     /// The same through the open dialog: what was open before is kept by its file.

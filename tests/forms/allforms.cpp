@@ -5,9 +5,14 @@
 #include "controls/files/diskfilestore.h"
 #include "controls/files/recoverycopies.h"
 #include "controls/scintilla/codemax.h"
+#include "ftp/ftpclient.h"
+#include "ftp/recordingoperations.h"
+#include "ftp/registerforms.h"
+#include "panes/registerforms.h"
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
 #include "support/scriptedprompts.h"
+#include "tags/registerforms.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
@@ -27,20 +32,30 @@ struct EditorParts {
     ScriptedPrompts prompts;
 };
 
+/// What the forms of the file transfer share: a session without a server.
+struct FtpParts {
+    RecordingOperations operations;
+    FtpClient client{operations};
+};
+
 } // namespace
 
 FormCatalogue allForms()
 {
     FormCatalogue catalogue;
     wizards::registerForms(catalogue);
+    panes::registerForms(catalogue);
     start::registerForms(catalogue);
+    tags::registerForms(catalogue);
     settings::registerForms(catalogue);
+    const auto ftpParts = std::make_shared<FtpParts>();
+    ftp::registerForms(catalogue, {ftpParts, &ftpParts->client});
     const auto parts = std::make_shared<EditorParts>();
     views::registerForms(catalogue, [parts](QWidget *parent) -> EditorView {
         auto *viewer = new CodeMax({parts->files, parts->recovery, parts->prompts}, parent);
         viewer->setReadOnly(true);
         return {viewer, viewer};
-    });
+    }, []() -> Result<PageFetcher *> { return Error{Error::Code::Failed, u"no network"_s}; });
     return catalogue;
 }
 

@@ -24,8 +24,9 @@ struct Rule {
 constexpr Rule includeRules[] = {
     {uR"(^<Qsci/)", u"controls/scintilla/", u"only controls/scintilla includes QScintilla"},
     {uR"(^<(QWeb|QtWeb))", u"controls/webengine/", u"only controls/webengine includes the web engine"},
-    {uR"(^<curl/)", u"controls/ ftp/", u"only the file transfer includes libcurl"},
+    {uR"(^<curl/)", u"views/fetch/", u"only the web viewer's fetch includes libcurl"},
     {uR"(^<tidy)", u"controls/ tools/", u"only the tools include tidy"},
+    {uR"(^<(sys/socket|netdb|netinet/|arpa/))", u"ftp/net/", u"only the file transfer opens sockets"},
     {uR"(^<hunspell/)", u"controls/", u"only the speller includes hunspell"},
 };
 

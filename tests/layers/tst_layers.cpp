@@ -83,7 +83,10 @@ private slots:
         row("the web engine", u"views/a.cpp"_s, u"#include <QWebEngineView>\n"_s,
             u"views/a.cpp:2: only controls/webengine includes the web engine"_s);
         row("curl", u"app/a.cpp"_s, u"#include <curl/curl.h>\n"_s,
-            u"app/a.cpp:2: only the file transfer includes libcurl"_s);
+            u"app/a.cpp:2: only the web viewer's fetch includes libcurl"_s);
+        row("a socket", u"ftp/a.cpp"_s, u"#include <netinet/in.h>\n"_s,
+            u"ftp/a.cpp:2: only the file transfer opens sockets"_s);
+        row("a socket at home", u"ftp/net/a.cpp"_s, u"#include <sys/socket.h>\n"_s, {});
         row("a message box", u"app/a.cpp"_s, u"int a;\nvoid f() { QMessageBox::about(nullptr, {}, {}); }\n"_s,
             u"app/a.cpp:3: only controls/desktop uses the dialog classes"_s);
         row("a message box in words", u"app/a.cpp"_s, u"// A QMessageBox\nconst char *a = \"QFileDialog\";\n"_s, {});

@@ -1,9 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "parsers.h"
 
+#include "controls/errorstyles.h"
 #include "controls/files/privateprofile.h"
 #include "controls/files/textfile.h"
+#include "controls/files/textlines.h"
 #include "controls/syntax/describestyles.h"
+#include "ftp/folderlisting.h"
+#include "ftp/ftpreply.h"
+#include "panes/customtabfile.h"
+#include "panes/outline.h"
+#include "panes/sottree.h"
+#include "tags/tagfile.h"
+#include "tools/sourceformatter.h"
 
 namespace zephira {
 
@@ -41,11 +50,129 @@ QByteArray printTextFile(const QByteArray &input)
            + lineEndsName(text.format.lineEnds) + '\n' + text.utf8;
 }
 
+QStringList linesOf(const QByteArray &input)
+{
+    return textLines(QString::fromUtf8(decodeText(input).utf8));
+}
+
+/// One line for each node of the tag tree that comes from a file.
+QByteArray printTags(const QByteArray &input)
+{
+    return tagCaptions(linesOf(input)).join(u'\n').toUtf8() + '\n';
+}
+
+/// The header, then one line for each entry: title and code, divided by a tab.
+QByteArray printCustomTab(const QByteArray &input)
+{
+    const CustomTabFile tab = parseCustomTab(linesOf(input));
+    QByteArray out = tab.header.toUtf8() + '\n';
+    for (const CustomTabFile::Entry &entry : tab.entries)
+        out += entry.title.toUtf8() + '\t' + entry.code.toUtf8() + '\n';
+    return out;
+}
+
+/// One line for each node: the line of its parent, counted from 1, or 0, and the caption, divided by a tab. Behind them
+/// the line that is indented too far, if there is one.
+QByteArray printSotTree(const QByteArray &input)
+{
+    const SotTree tree = parseSotTree(linesOf(input));
+    QByteArray out;
+    for (const SotTree::Node &node : tree.nodes)
+        out += QByteArray::number(node.parent + 1) + '\t' + node.caption.toUtf8() + '\n';
+    if (tree.faultyLine > 0)
+        out += "fault\t" + QByteArray::number(tree.faultyLine) + '\n';
+    return out;
+}
+
 /// The runs of colours in a language.
 template<const char16_t *language>
 QByteArray printStyles(const QByteArray &input)
 {
     return describeStyles(input, QString::fromUtf16(language));
+}
+
+QString textOf(const QByteArray &input)
+{
+    return QString::fromUtf8(decodeText(input).utf8);
+}
+
+/// A text on one line, without tabs.
+QByteArray escaped(QString text)
+{
+    text.replace(u'\\', QStringLiteral("\\\\"));
+    text.replace(u'\r', QStringLiteral("\\r"));
+    text.replace(u'\n', QStringLiteral("\\n"));
+    return text.replace(u'\t', QStringLiteral("\\t")).toUtf8();
+}
+
+/// One line for each leaf: key of its group, index of its `<`, caption and tag text, divided by tabs. An error stands
+/// behind the leaves before it.
+QByteArray printOutline(const QByteArray &input)
+{
+    QByteArray out;
+    try {
+        scanOutline(textOf(input), [&out](OutlineLeaf &&leaf) {
+            const OutlineRoot &group = outlineRoots()[static_cast<std::size_t>(leaf.group)];
+            out += group.key.toUtf8() + '\t' + QByteArray::number(leaf.position) + '\t' + escaped(leaf.caption) + '\t'
+                   + escaped(leaf.tagText) + '\n';
+        });
+    } catch (const HandlerError &error) {
+        out += "error\t" + error.description.toUtf8() + '\n';
+    }
+    return out;
+}
+
+template<QString (*format)(const QString &)>
+QByteArray printFormatted(const QByteArray &input)
+{
+    return format(textOf(input)).toUtf8();
+}
+
+QByteArray printHierarchical(const QByteArray &input)
+{
+    try {
+        return Hierarchical(textOf(input)).toUtf8();
+    } catch (const HandlerError &error) {
+        return "error\t" + error.description.toUtf8() + '\n';
+    }
+}
+
+/// One line for each entry of a server's folder: kind, size, time and name, divided by tabs.
+QByteArray printEntries(const std::vector<ListedEntry> &entries)
+{
+    QByteArray out;
+    for (const ListedEntry &entry : entries) {
+        out += entry.isFolder ? "folder" : entry.isLink ? "link" : "file";
+        out += '\t' + QByteArray::number(entry.size) + '\t' + QByteArray::number(entry.lastWriteTime) + '\t' + entry.name
+               + '\n';
+    }
+    return out;
+}
+
+/// The same bytes give the same result on every day.
+QByteArray printList(const QByteArray &input)
+{
+    return printEntries(readList(input, QDate(2024, 3, 10)));
+}
+
+QByteArray printMlsd(const QByteArray &input)
+{
+    return printEntries(readMlsd(input));
+}
+
+/// The code of a reply to a command, and what the replies to some commands tell.
+QByteArray printReply(const QByteArray &input)
+{
+    FtpReplyReader reader;
+    for (const QByteArray &line : input.split('\n')) {
+        if (!reader.take(line) || reader.isComplete())
+            break;
+    }
+    if (!reader.isComplete())
+        return "none\n";
+    const FtpReply &reply = reader.reply();
+    return QByteArray::number(reply.code) + '\t' + QByteArray::number(extendedPassivePort(reply).value_or(0)) + '\t'
+           + QByteArray::number(passivePort(reply).value_or(0)) + '\t' + quotedFolder(reply).value_or(QByteArray()) + '\n';
 }
 
 constexpr char16_t html[] = u"HTML";
@@ -59,6 +186,9 @@ constexpr char16_t perl[] = u"Perl";
 constexpr Parser table[] = {
     {"ini", printProfile},
     {"textfile", printTextFile},
+    {"tags", printTags},
+    {"customtab", printCustomTab},
+    {"sot", printSotTree},
     {"syntax-html", printStyles<html>},
     {"syntax-xml", printStyles<xml>},
     {"syntax-c/c++", printStyles<cpp>},
@@ -66,6 +196,13 @@ constexpr Parser table[] = {
     {"syntax-basic", printStyles<basic>},
     {"syntax-pascal", printStyles<pascal>},
     {"syntax-perl", printStyles<perl>},
+    {"outline", printOutline},
+    {"compact", printFormatted<Compact>},
+    {"simple", printFormatted<Simple>},
+    {"hierarchical", printHierarchical},
+    {"listing", printList},
+    {"listing-mlsd", printMlsd},
+    {"ftpreply", printReply},
 };
 
 } // namespace

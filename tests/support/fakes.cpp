@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/fakes.h"
 
+#include "controls/errorstyles.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -14,16 +16,55 @@ QString keyOf(const QString &section, const QString &key)
 
 } // namespace
 
+void FakeDesigner::loadDocument(const QString &path)
+{
+    loaded.append(path);
+    if (unreadable)
+        throw HandlerError{QStringLiteral("The file %1 can't be read.").arg(path)};
+}
+
+QVariant FakeDesigner::execCommand(DesignerCommand command, DesignerPrompting prompting, const QVariant &argument)
+{
+    commands.push_back(static_cast<int>(command));
+    runs.push_back({command, prompting, argument});
+    const auto result = results.find(command);
+    return result == results.end() ? QVariant() : result->second;
+}
+
+int FakeDesigner::queryStatus(DesignerCommand command) const
+{
+    const auto status = statuses.find(command);
+    return status == statuses.end() ? DesignerStatus::Enabled : status->second;
+}
+
+void FakeDesigner::setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states)
+{
+    menuEntries = entries;
+    menuStates = states;
+}
+
 Result<void> FakeShell::open(const QString &pathOrUrl)
 {
     opened.append(pathOrUrl);
-    return failure ? Result<void>(*failure) : Result<void>();
+    return outcome();
 }
 
 Result<void> FakeShell::start(const QString &program, const QStringList &arguments)
 {
     started.push_back({program, arguments});
-    return failure ? Result<void>(*failure) : Result<void>();
+    return outcome();
+}
+
+Result<void> FakeShell::showProperties(const QString &path)
+{
+    properties.append(path);
+    return outcome();
+}
+
+Result<void> FakeShell::findFiles()
+{
+    ++searches;
+    return outcome();
 }
 
 void FakeFormOpener::open(const QString &form, QStringList &list)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/appcontext.h"
+#include "controls/browser.h"
 #include "controls/clipboard.h"
 #include "controls/clock.h"
 #include "controls/designer.h"
@@ -37,20 +38,76 @@ struct FakeClock final : Clock {
 };
 
 struct FakeDesigner final : Designer {
+    struct Run {
+        DesignerCommand command = DesignerCommand::None;
+        DesignerPrompting prompting = DesignerPrompting::Default;
+        QVariant argument;
+
+        friend bool operator==(const Run &, const Run &) = default;
+    };
+
     bool showing = false;
     bool dirty = false;
     QString html;
+    QString base;
     QStringList pasted;
     QStringList loaded;
+    /// Whether loading a file fails.
+    bool unreadable = false;
+    /// Commands run, by number; `runs` has them with their arguments.
     std::vector<int> commands;
+    std::vector<Run> runs;
+    /// Statuses and results; Enabled, and no value, for commands that aren't named.
+    std::map<DesignerCommand, int> statuses;
+    std::map<DesignerCommand, QVariant> results;
+    QString selected = QStringLiteral("None");
+    bool borders = false;
+    bool details = false;
+    bool browsing = false;
+    bool snapping = false;
+    QStringList menuEntries;
+    QList<DesignerMenuState> menuStates;
+    DesignerEvents events;
 
     bool isShowing() const override { return showing; }
     bool isDirty() const override { return dirty; }
     QString documentHtml() override { return html; }
     void setDocumentHtml(const QString &text) override { html = text; }
-    void loadDocument(const QString &path) override { loaded.append(path); }
+    void loadDocument(const QString &path) override;
+    QString baseFile() const override { return base; }
+    void setBaseFile(const QString &path) override { base = path; }
     void pasteHtml(const QString &text) override { pasted.append(text); }
-    void execCommand(int command) override { commands.push_back(command); }
+    QVariant execCommand(DesignerCommand command, DesignerPrompting prompting, const QVariant &argument) override;
+    int queryStatus(DesignerCommand command) const override;
+    QString selectionType() const override { return selected; }
+    bool showBorders() const override { return borders; }
+    void setShowBorders(bool on) override { borders = on; }
+    bool showDetails() const override { return details; }
+    void setShowDetails(bool on) override { details = on; }
+    bool browseMode() const override { return browsing; }
+    void setBrowseMode(bool on) override { browsing = on; }
+    bool snapToGrid() const override { return snapping; }
+    void setSnapToGrid(bool on) override { snapping = on; }
+    void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
+    void setEvents(DesignerEvents handlers) override { events = std::move(handlers); }
+};
+
+struct FakeBrowser final : Browser {
+    /// Addresses gone to, and the operations without arguments by name: "back", "forward", "home", "refresh", "stop".
+    QStringList calls;
+    QString location;
+    QString home;
+    std::function<void()> navigateComplete;
+
+    void navigate(const QString &address) override { calls.append(address); }
+    void goBack() override { calls.append(QStringLiteral("back")); }
+    void goForward() override { calls.append(QStringLiteral("forward")); }
+    void goHome() override { calls.append(QStringLiteral("home")); }
+    void refresh() override { calls.append(QStringLiteral("refresh")); }
+    void stop() override { calls.append(QStringLiteral("stop")); }
+    QString locationUrl() const override { return location; }
+    void setHome(const QString &address) override { home = address; }
+    void onNavigateComplete(std::function<void()> handler) override { navigateComplete = std::move(handler); }
 };
 
 struct FakeShell final : Shell {
@@ -63,11 +120,19 @@ struct FakeShell final : Shell {
 
     QStringList opened;
     std::vector<Start> started;
+    /// Files whose properties were asked for, and how often files were to be looked for.
+    QStringList properties;
+    int searches = 0;
     /// When set, each operation is kept in the lists and fails so.
     std::optional<Error> failure;
 
     Result<void> open(const QString &pathOrUrl) override;
     Result<void> start(const QString &program, const QStringList &arguments) override;
+    Result<void> showProperties(const QString &path) override;
+    Result<void> findFiles() override;
+
+private:
+    Result<void> outcome() const { return failure ? Result<void>(*failure) : Result<void>(); }
 };
 
 struct FakeDocumentHost final : DocumentHost {
@@ -93,7 +158,8 @@ struct FakeFormOpener final : FormOpener {
     std::function<void(const QString &form)> onOpen;
 
     bool isAvailable(const QString &form) const override { return !unavailable.contains(form); }
-    void openModal(const QString &form) override { open(form, modal); }
+    using FormOpener::openModal;
+    void openModal(const QString &form, QWidget *) override { open(form, modal); }
     void openModeless(const QString &form) override { open(form, modeless); }
 
 private:

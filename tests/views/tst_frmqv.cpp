@@ -55,7 +55,7 @@ void TstFrmQv::init()
     FormCatalogue catalogue;
     views::registerForms(catalogue, [this](QWidget *parent) {
         return EditorView{new QWidget(parent), &m_world->editor};
-    });
+    }, {});
     m_form = std::make_unique<LivingForm>(catalogue, u"frmqv"_s, *m_world);
     m_world->files.contents[u"/a.txt"_s] = "alpha";
     m_world->files.contents[u"/b.txt"_s] = "beta";

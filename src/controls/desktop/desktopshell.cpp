@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/desktop/desktopshell.h"
 
+#include "controls/desktop/filemanager.h"
+#include "controls/desktop/filepropertieswindow.h"
+#include "controls/desktop/findfileswindow.h"
+
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -25,6 +30,15 @@ Result<QUrl> addressOf(const QString &pathOrUrl)
     if (!url.isValid() || url.scheme().size() < 2)
         return Error{Error::Code::Malformed, u"\"%1\" is neither a full path nor an address."_s.arg(pathOrUrl)};
     return url;
+}
+
+/// Shows a window of our own, which ends itself.
+void showBeside(QWidget *window)
+{
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 } // namespace
@@ -56,6 +70,23 @@ Result<void> DesktopShell::start(const QString &program, const QStringList &argu
     process.setWorkingDirectory(QDir::homePath());
     if (!process.startDetached())
         return Error{Error::Code::Failed, u"%1 can't be started: %2."_s.arg(program, process.errorString())};
+    return {};
+}
+
+Result<void> DesktopShell::showProperties(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists() && !file.isSymLink())
+        return Error{Error::Code::NotFound, u"%1 can't be found."_s.arg(path)};
+    if (!showInFileManager(FileManagerView::ItemProperties, path))
+        showBeside(new FilePropertiesWindow(path, QApplication::activeWindow()));
+    return {};
+}
+
+Result<void> DesktopShell::findFiles()
+{
+    if (!showInFileManager(FileManagerView::Folder, QDir::homePath()))
+        showBeside(new FindFilesWindow(QDir::homePath(), QApplication::activeWindow()));
     return {};
 }
 

@@ -81,7 +81,7 @@ QString ReadIni(const QString &section, const QString &key, const QString &file)
     return value;
 }
 
-bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file)
+bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode)
 {
     FileSystemCalls calls;
     DiskFileStore store;
@@ -104,7 +104,7 @@ bool WriteIni(const QString &section, const QString &key, const QString &value, 
     if (bytes && *changed == profile.bytes)
         return true;
     const Result<QByteArray> encoded = profile.converted ? encodeText(*changed, *profile.converted) : *changed;
-    return encoded.ok() && store.write(info.filePath(), encoded.value()).ok();
+    return encoded.ok() && store.write(info.filePath(), encoded.value(), mode).ok();
 }
 
 } // namespace zephira

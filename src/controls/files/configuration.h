@@ -10,8 +10,9 @@ namespace zephira {
 QString ReadIni(const QString &section, const QString &key, const QString &file);
 
 /// Writes one value at once; all other lines stay byte for byte. Returns false if the file can't be written. Safe
-/// against other processes that write the same file at the same time. Line breaks in the value become blanks.
-bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file);
+/// against other processes that write the same file at the same time. Line breaks in the value become blanks. `mode` is
+/// for a file that is new.
+bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode = 0666);
 
 /// The settings that belong to the installation, zephira.ini in the program folder. Nothing is kept in memory: each call
 /// goes to the store.

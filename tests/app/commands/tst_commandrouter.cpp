@@ -34,6 +34,8 @@ private slots:
     void formMenu();
     void unknownNamesDoNothing_data();
     void unknownNamesDoNothing();
+    void sourceFormats_data();
+    void sourceFormats();
     void helpAndWebsite();
     void timeAndDateFollowTheSelection();
     void timeAndDateIsRefused();
@@ -198,7 +200,7 @@ void TstCommandRouter::unknownNamesDoNothing_data()
     QTest::addColumn<QString>("name");
     for (const char *name : {"", "nothing", "D2DSub_1", "ViewSub_0", "FormatSub_3", "InsertSub_0", "InsertButton",
                              "mnupluginoptions_0", "mnuqv", "mnuinslink", "mnuef", "mnuaddcentry", "sug_0",
-                             "mnufcomp", "mnufile", "TableSub_1"})
+                             "mnufile", "TableSub_1"})
         QTest::addRow("'%s'", name) << QString::fromLatin1(name);
 }
 
@@ -215,6 +217,25 @@ void TstCommandRouter::unknownNamesDoNothing()
     QVERIFY(bench.world.editor.calls.isEmpty());
     QVERIFY(bench.world.forms.modal.isEmpty());
     QCOMPARE(bench.result(), u"sel"_s);
+}
+
+void TstCommandRouter::sourceFormats_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("mnufcomp") << u"mnufcomp"_s << u"<a><b>x</b></a>"_s;
+    QTest::newRow("mnuformath") << u"mnuformath"_s << u"\r\n<a>\r\n\t<b>x\r\n\t</b>\r\n</a>"_s;
+    QTest::newRow("mnufsimple") << u"mnufsimple"_s << u"<a>\r\n<b>x</b>\r\n</a>"_s;
+}
+
+void TstCommandRouter::sourceFormats()
+{
+    QFETCH(QString, name);
+    RouterBench bench;
+    bench.world.editor.setText(u"<a>\r\n<b>x</b>\t</a>"_s);
+    bench.world.designer.showing = true;
+    bench.router.menu(name);
+    QTEST(bench.world.editor.text(), "text");
 }
 
 void TstCommandRouter::helpAndWebsite()

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/designercommands.h"
 #include "app/menutable.h"
 #include "app/palettetable.h"
 #include "app/tagsmenu.h"
 #include "app/toolbartable.h"
 #include "support/testregistry.h"
+#include "views/designercommands.h"
 
 #include <QSet>
 #include <QTest>
@@ -23,9 +23,6 @@ private slots:
     void paletteButtons();
     void formattingBarOrder();
     void pullDowns();
-    void designerButtonsAreCrossed();
-    void designerMenus_data();
-    void designerMenus();
     void designerMenusFitTheMenuTree();
 };
 
@@ -249,38 +246,6 @@ void TstCommandTables::pullDowns()
                                   u"preview/picb In Zephira Browser"_s, u"links/linkwiz Link Wizard"_s,
                                   u"links/linkextract Extract Links from Document"_s, u"htmltags/dtw Tag Wizard"_s,
                                   u"htmltags/dts Tag Selector"_s, u"htmltags/dqw Quick Tags"_s}));
-}
-
-void TstCommandTables::designerButtonsAreCrossed()
-{
-    QStringList actual;
-    for (const DesignerButton &button : designerButtons())
-        actual.append(button.key.toString() + u' ' + QString::number(static_cast<int>(button.command)));
-    QCOMPARE(actual, (QStringList{u"Bold 5000"_s, u"Italic 5023"_s, u"Underline 5048"_s, u"Numbers 5030"_s,
-                                  u"Bullets 5051"_s, u"Outdent 5018"_s, u"Indent 5031"_s, u"LeftJustify 5025"_s,
-                                  u"Center 5024"_s, u"RightJustify 5026"_s, u"Color 5046"_s}));
-}
-
-void TstCommandTables::designerMenus_data()
-{
-    QTest::addColumn<QString>("array");
-    QTest::addColumn<QList<int>>("commands");
-    QTest::newRow("edit") << u"edit"_s << QList<int>{5049, 5033, 0, 5003, 5002, 5032, 5035, 0, 5008};
-    QTest::newRow("InsertSub") << u"InsertSub"_s << QList<int>{5017, 5016};
-    QTest::newRow("TableSub") << u"TableSub"_s
-                              << QList<int>{5022, 0, 5021, 5020, 5019, 0, 5007, 5006, 5005, 0, 5029, 5047};
-    QTest::newRow("D2DSub") << u"D2DSub"_s << QList<int>{5028, 5041, 5040, 5037, 5036, 5039, 5038, 0, 5027};
-    QTest::newRow("unknown") << u"ViewSub"_s << QList<int>{};
-}
-
-void TstCommandTables::designerMenus()
-{
-    QFETCH(QString, array);
-    QFETCH(QList<int>, commands);
-    QList<int> actual;
-    for (const DesignerCommand command : designerMenuCommands(array))
-        actual.append(static_cast<int>(command));
-    QCOMPARE(actual, commands);
 }
 
 void TstCommandTables::designerMenusFitTheMenuTree()

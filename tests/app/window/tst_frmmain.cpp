@@ -259,20 +259,6 @@ private Q_SLOTS:
         QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentIndex(), 8);
     }
 
-    void aFileOfThePaneOpensByDoubleClick()
-    {
-        WindowBench bench;
-        const QString first = bench.write(u"site/a.html"_s, "a");
-        bench.write(u"site/b.txt"_s, "b");
-        frmmain &window = bench.start(first);
-        auto *list = bench.find<QListWidget>(u"ListFiles"_s);
-        QCOMPARE(list->count(), 2);
-        list->setCurrentRow(1);
-        Q_EMIT list->itemDoubleClicked(list->item(1));
-        QCOMPARE(window.docTitle(), bench.folder() + u"/site/b.txt"_s);
-        QCOMPARE(window.rt().text(), u"b"_s);
-    }
-
     void anImageOfThePaneBecomesALink()
     {
         WindowBench bench;
@@ -300,13 +286,6 @@ private Q_SLOTS:
     {
         WindowBench bench;
         bench.start();
-        auto *tabs = bench.find<QTabBar>(u"workspace"_s);
-        QCOMPARE(tabs->count(), 3);
-        QCOMPARE(tabs->tabData(2).toString(), u"wysiwyg"_s);
-        QVERIFY(!tabs->isTabEnabled(2));
-        QCOMPARE(tabs->tabToolTip(1), u"Not available yet"_s);
-        bench.choose(u"mnunextview"_s); // No other view is open, so it stays.
-        QCOMPARE(tabs->currentIndex(), 0);
         QVERIFY(!bench.find<QAction>(u"mnucp"_s)->isEnabled());
         QCOMPARE(bench.find<QAction>(u"mnucp"_s)->toolTip(), u"Not available yet"_s);
         QVERIFY(bench.find<QAction>(u"mnutblwiz"_s)->isEnabled());

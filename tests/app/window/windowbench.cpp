@@ -3,8 +3,11 @@
 
 #include "app/comingforms.h"
 #include "app/loadhandler.h"
+#include "ftp/registerforms.h"
+#include "panes/registerforms.h"
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
+#include "tags/registerforms.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
@@ -17,6 +20,22 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
+BrowserView FakeWebViews::makeBrowser(QWidget *parent)
+{
+    made.append(u"browser"_s);
+    auto *widget = new QWidget(parent);
+    widget->setObjectName(u"ww1"_s);
+    return {widget, &browser};
+}
+
+DesignerView FakeWebViews::makeDesigner(Prompts &, QWidget *parent)
+{
+    made.append(u"designer"_s);
+    auto *widget = new QWidget(parent);
+    widget->setObjectName(u"DHTMLEdit1"_s);
+    return {widget, &designer};
+}
+
 WindowBench::WindowBench()
     : recovery(m_folder.path() + u"/recovery"_s, files, clock), configuration(m_folder.path() + u"/app/zephira.ini"_s)
 {
@@ -24,20 +43,21 @@ WindowBench::WindowBench()
     QDirIterator data(source.path(), QDir::Files, QDirIterator::Subdirectories);
     while (data.hasNext()) {
         const QString file = data.next();
-        const QString target = appPath() + u'/' + source.relativeFilePath(file);
-        QDir().mkpath(QFileInfo(target).path());
-        QFile::copy(file, target);
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+        // Written anew, because a copy of Qt's waits for the disk at each file.
+        write(u"app/"_s + source.relativeFilePath(file), read(file));
     }
     announceComingForms(catalogue);
     wizards::registerForms(catalogue);
+    panes::registerForms(catalogue);
     start::registerForms(catalogue);
+    ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
+    tags::registerForms(catalogue);
     zephira::settings::registerForms(catalogue);
     views::registerForms(catalogue, [this](QWidget *parent) -> EditorView {
         auto *viewer = new CodeMax({files, recovery, prompts}, parent);
         viewer->setReadOnly(true);
         return {viewer, viewer};
-    });
+    }, []() -> Result<PageFetcher *> { return Error{Error::Code::Failed, u"no network"_s}; });
 }
 
 WindowBench::~WindowBench() = default;
@@ -53,6 +73,7 @@ frmmain &WindowBench::start(const QString &argument)
                                                       .clipboard = clipboard,
                                                       .clock = clock,
                                                       .catalogue = catalogue,
+                                                      .webViews = loadWebViews,
                                                       .appPath = appPath(),
                                                       .iniFile = configuration.file(),
                                                       .executable = u"/opt/zephira/zephira"_s,

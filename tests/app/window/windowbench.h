@@ -7,6 +7,9 @@
 #include "controls/files/recoverycopies.h"
 #include "controls/formcatalogue.h"
 #include "controls/scintilla/codemax.h"
+#include "ftp/ftpclient.h"
+#include "ftp/recordingoperations.h"
+#include "controls/webviews.h"
 #include "support/fakes.h"
 
 #include <QAction>
@@ -16,8 +19,19 @@
 
 namespace zephira {
 
+/// Plain widgets in the place of browser and designer, and the fakes that answer for them.
+struct FakeWebViews final : WebViews {
+    FakeBrowser browser;
+    FakeDesigner designer;
+    /// What was made, in order: "browser", "designer".
+    QStringList made;
+
+    BrowserView makeBrowser(QWidget *parent) override;
+    DesignerView makeDesigner(Prompts &prompts, QWidget *parent) override;
+};
+
 /// The main window over a program folder of its own, with the shipped data and real files. Prompts, per-user settings,
-/// shell, clipboard and clock are fakes.
+/// shell, clipboard, clock and web views are fakes.
 class WindowBench
 {
 public:
@@ -59,7 +73,11 @@ public:
     DiskFileStore files;
     RecoveryCopies recovery;
     IniConfiguration configuration;
+    RecordingOperations ftpOperations;
     FormCatalogue catalogue;
+    FakeWebViews webViews;
+    /// Gives the fakes, unless a test sets something else before the start.
+    WebViewsLoader loadWebViews = [this]() -> Result<WebViews *> { return &webViews; };
     int ended = 0;
     std::unique_ptr<frmmain> window;
 };

@@ -3,9 +3,14 @@
 #include "controls/desktop/desktopshell.h"
 #include "support/testregistry.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -49,9 +54,39 @@ private Q_SLOTS:
     void startWithArguments();
     void startFailures_data();
     void startFailures();
+    void propertiesWithoutAFileManager();
+    void propertiesOfNothing();
+    void findWithoutAFileManager();
     void clipboard();
 
 private:
+    /// The window of that name among those on the screen.
+    static QWidget *shownWindow(const QString &name)
+    {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == name && window->isVisible())
+                return window;
+        }
+        return nullptr;
+    }
+
+    /// Nobody answers for a file manager while one of these lives.
+    struct NoMessageBus {
+        const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+        const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+        NoMessageBus()
+        {
+            qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+            qputenv("XDG_RUNTIME_DIR", "/no/such/folder");
+        }
+        ~NoMessageBus()
+        {
+            if (!address.isNull())
+                qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+            qputenv("XDG_RUNTIME_DIR", runtime);
+        }
+    };
+
     QTemporaryDir m_folder;
 };
 
@@ -127,6 +162,71 @@ void TstDesktopShell::startFailures()
     const Result<void> started = DesktopShell().start(program, {});
     QVERIFY(!started.ok());
     QCOMPARE(started.error().sentence, sentence);
+}
+
+void TstDesktopShell::propertiesWithoutAFileManager()
+{
+    const NoMessageBus none;
+    const QString path = m_folder.filePath(u"<b>page.html"_s);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("12345") == 5);
+    file.close();
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+    QVERIFY(DesktopShell().showProperties(path).ok());
+    QWidget *window = shownWindow(u"fileProperties"_s);
+    QVERIFY(window);
+    QCOMPARE(window->windowTitle(), u"Properties of <b>page.html"_s);
+    QStringList texts;
+    for (const QLabel *label : window->findChildren<QLabel *>()) {
+        if (!label->accessibleName().isEmpty())
+            texts.append(label->accessibleName() + u' ' + label->text());
+    }
+    QVERIFY(texts.contains(u"Name: <b>page.html"_s));
+    QVERIFY(texts.contains(u"Folder: "_s + m_folder.path()));
+    QVERIFY(texts.contains(u"Size: 5 bytes"_s));
+    QVERIFY(texts.contains(u"Permissions: rw-r-----"_s));
+    const QPointer<QWidget> guard = window;
+    window->close();
+    QTRY_VERIFY(!guard);
+}
+
+void TstDesktopShell::propertiesOfNothing()
+{
+    const Result<void> shown = DesktopShell().showProperties(u"/no/such/file"_s);
+    QVERIFY(!shown);
+    QCOMPARE(shown.error().sentence, u"/no/such/file can't be found."_s);
+}
+
+void TstDesktopShell::findWithoutAFileManager()
+{
+    const NoMessageBus none;
+    QVERIFY(QDir(m_folder.path()).mkpath(u"tree/deep"_s));
+    for (const QString &name : {u"tree/a.htm"_s, u"tree/deep/B.HTM"_s, u"tree/deep/c.txt"_s}) {
+        QFile file(m_folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QVERIFY(DesktopShell().findFiles().ok());
+    const QPointer<QWidget> window = shownWindow(u"findFiles"_s);
+    QVERIFY(window);
+    QCOMPARE(window->findChild<QLineEdit *>(u"folder"_s)->text(), QDir::homePath());
+    window->findChild<QLineEdit *>(u"folder"_s)->setText(m_folder.filePath(u"tree"_s));
+    window->findChild<QLineEdit *>(u"pattern"_s)->setText(u"*.htm"_s);
+    auto *find = window->findChild<QPushButton *>(u"find"_s);
+    find->click();
+    QTRY_COMPARE(window->findChild<QLabel *>(u"state"_s)->text(), u"Done: 2 files"_s);
+    QStringList found;
+    auto *list = window->findChild<QListWidget *>(u"found"_s);
+    for (int row = 0; row < list->count(); ++row)
+        found.append(list->item(row)->text());
+    found.sort();
+    QCOMPARE(found, (QStringList{m_folder.filePath(u"tree/a.htm"_s), m_folder.filePath(u"tree/deep/B.HTM"_s)}));
+    // A search can be stopped, and the next one begins anew.
+    window->findChild<QLineEdit *>(u"folder"_s)->setText(u"/usr"_s);
+    find->click();
+    find->click();
+    QVERIFY(window->findChild<QLabel *>(u"state"_s)->text().startsWith(u"Stopped: "_s));
+    window->close();
+    QTRY_VERIFY(!window);
 }
 
 void TstDesktopShell::clipboard()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void modalDialog();
     void modalWindow();
     void modalFormOverModalForm();
+    void modalFormOverAnOwner();
     void modalFormIsNotMadeTwice();
     void modalFormOverAHiddenOne();
     void ownerDiesWhileAFormIsOpen();
@@ -134,6 +135,24 @@ void TstModalFormOpener::modalFormOverModalForm()
     });
     m_opener->openModal(u"frmOne"_s);
     QCOMPARE(owners, (QStringList{u"frmTwo"_s, u"frmOne"_s}));
+}
+
+void TstModalFormOpener::modalFormOverAnOwner()
+{
+    makeAvailable();
+    m_opener->openModeless(u"frmPlain"_s);
+    QWidget *wanted = m_opener->openForm(u"frmPlain"_s);
+    for (QWidget *asked : {wanted, static_cast<QWidget *>(nullptr)}) {
+        const QWidget *owner = nullptr;
+        whileOpen([&] {
+            QWidget *form = QApplication::activeModalWidget();
+            QVERIFY(form);
+            owner = form->parentWidget();
+            form->close();
+        });
+        m_opener->openModal(u"frmOne"_s, asked);
+        QCOMPARE(owner, asked ? asked : m_owner.get());
+    }
 }
 
 void TstModalFormOpener::modalFormIsNotMadeTwice()

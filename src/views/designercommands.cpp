@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/designercommands.h"
+#include "views/designercommands.h"
 
 #include <algorithm>
 
@@ -9,18 +9,19 @@ namespace {
 
 using enum DesignerCommand;
 
+// What the user sees of a button tells what it does; its key is a name like any other.
 constexpr DesignerButton buttons[] = {
-    {u"Bold", Bold},
-    {u"Italic", Italic},
-    {u"Underline", Underline},
-    {u"Numbers", OrderedList},
-    {u"Bullets", UnorderedList},
-    {u"Outdent", Indent},
-    {u"Indent", Outdent},
-    {u"LeftJustify", JustifyLeft},
-    {u"Center", JustifyCenter},
-    {u"RightJustify", JustifyRight},
-    {u"Color", SetForeColor},
+    {u"Bold", Bold, u"Bold", u"format-text-bold"},
+    {u"Italic", Italic, u"Italic", u"format-text-italic"},
+    {u"Underline", Underline, u"Underline", u"format-text-underline"},
+    {u"Numbers", OrderedList, u"Numbered list", u"format-list-ordered"},
+    {u"Bullets", UnorderedList, u"List with bullets", u"format-list-unordered"},
+    {u"Outdent", Indent, u"Indent", u"format-indent-more"},
+    {u"Indent", Outdent, u"Outdent", u"format-indent-less"},
+    {u"LeftJustify", JustifyLeft, u"Align left", u"format-justify-left"},
+    {u"Center", JustifyCenter, u"Center", u"format-justify-center"},
+    {u"RightJustify", JustifyRight, u"Align right", u"format-justify-right"},
+    {u"Color", SetForeColor, u"Colour of the text", u"format-text-color"},
 };
 
 constexpr DesignerCommand editCommands[] = {Undo, Redo, None, Cut, Copy, Paste, SelectAll, None, FindText};

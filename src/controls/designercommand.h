@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
-
-#include <span>
-
 namespace zephira {
 
 /// The designer's commands by their published numbers.
@@ -48,6 +44,7 @@ enum class DesignerCommand : int {
     BringAboveText = 5039,
     SendToBack = 5040,
     BringToFront = 5041,
+    SetBackColor = 5042,
     SetBlockFormat = 5043,
     SetFontName = 5044,
     SetFontSize = 5045,
@@ -55,20 +52,8 @@ enum class DesignerCommand : int {
     SplitCell = 5047,
     Underline = 5048,
     Undo = 5049,
+    Unlink = 5050,
     UnorderedList = 5051,
 };
-
-/// A button of the designer's toolbar and its command.
-struct DesignerButton {
-    QStringView key;
-    DesignerCommand command;
-};
-
-/// Eleven rows. The keys "Outdent" and "Indent" are crossed with their commands: the button named Indent outdents.
-std::span<const DesignerButton> designerButtons();
-
-/// The commands of a menu array by index, None standing for a separator: "InsertSub", "TableSub", "D2DSub", or "edit"
-/// for the editing commands. Empty for any other name.
-std::span<const DesignerCommand> designerMenuCommands(QStringView array);
 
 } // namespace zephira

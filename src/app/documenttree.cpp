@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/documenttree.h"
+
+#include "app/documentwindow.h"
+#include "controls/scintilla/codemax.h"
+#include "panes/outlinetree.h"
+#include "panes/sidepane.h"
+#include "panes/tagplace.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+void addDocumentTree(SidePane &pane, CodeMax &editor, DocumentWindow &window)
+{
+    auto *tree = new OutlineTree(&pane);
+    pane.setPage(u"documenttree"_s, tree, SidePane::Fill::BeforeShowing,
+                 [tree, &editor] { tree->ParseOutline(editor.text(), false); });
+    QObject::connect(tree, &OutlineTree::goToTag, tree, [&editor, &window](const QString &tagText, qsizetype position) {
+        window.selectCodeTab();
+        if (selectTag(editor, tagText, position))
+            editor.setFocus();
+        else
+            window.notice(u"The text doesn't have this tag any more."_s);
+    });
+}
+
+} // namespace zephira

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/filepanecommands.h"
+
+#include "app/commondialog.h"
+#include "app/document.h"
+#include "app/menus.h"
+#include "controls/errorstyles.h"
+#include "controls/files/configuration.h"
+#include "controls/inserter.h"
+#include "controls/prompts.h"
+#include "controls/relativepath.h"
+#include "panes/filepane.h"
+#include "panes/sidetabbar.h"
+
+#include <QAction>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// The filters as they were shipped. The pattern for style sheets has no dot.
+constexpr auto defaultFilters =
+    u"*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;*.bas;*.frm;*.vbp;"
+    u"*.gif;*.bmp;*.jpg;*.java;*.sql";
+
+constexpr auto filtersName = u"Filters";
+
+} // namespace
+
+FilePaneCommands::FilePaneCommands(const AppContext &context, const Parts &parts, QObject *owner)
+    : QObject(owner), m_context(context), m_parts(parts)
+{
+    connect(&parts.pane, &FilePane::fileActivated, this, &FilePaneCommands::openListedFile);
+    connect(&parts.pane, &FilePane::menuWanted, this, &FilePaneCommands::showMenu);
+    connect(&parts.menus, &Menus::triggered, this, &FilePaneCommands::run);
+    connect(&parts.tabs, &SideTabBar::fileDropped, this, &FilePaneCommands::openDroppedFile);
+}
+
+void FilePaneCommands::openListedFile()
+{
+    ignoringErrors({
+        [this] { m_parts.document.flushDesigner(); },
+        [this] { m_parts.document.discardPreview(); },
+        [this] { m_parts.document.OpenAFile(); },
+        [this] { m_parts.window.selectCodeTab(); },
+    });
+}
+
+void FilePaneCommands::showMenu(const QPoint &place)
+{
+    const bool hasFile = !m_parts.pane.fileList().fileName().isEmpty();
+    for (const QString &entry : {u"mnuqv"_s, u"mnuinslink"_s})
+        m_parts.menus.action(entry)->setEnabled(hasFile);
+    m_parts.menus.menu(u"mnufilerc"_s)->popup(place);
+}
+
+void FilePaneCommands::run(const QString &entry)
+{
+    struct Row {
+        QStringView entry;
+        void (FilePaneCommands::*run)();
+    };
+    static constexpr Row rows[] = {
+        {u"mnuqv", &FilePaneCommands::showInQuickView},
+        {u"mnuinslink", &FilePaneCommands::insertLink},
+        {u"mnuef", &FilePaneCommands::editFilters},
+    };
+    for (const Row &row : rows) {
+        if (row.entry == entry)
+            (this->*row.run)();
+    }
+}
+
+void FilePaneCommands::showInQuickView()
+{
+    if (const QString name = m_parts.pane.selectedFile(); !name.isEmpty())
+        m_parts.quickView(withSeparator(m_parts.pane.fileList().path()) + name);
+}
+
+void FilePaneCommands::insertLink()
+{
+    const QString name = m_parts.pane.selectedFile();
+    if (name.isEmpty())
+        return;
+    // Without a project path there is nothing from which a link could be counted.
+    tellingErrors(m_context.prompts, u"frmmain"_s, u"mnuinslink_Click"_s, {[&] {
+        const QString path = withSeparator(m_parts.pane.fileList().path()) + name;
+        const QString link = MakeRelativePath(m_parts.pane.projectPath(), path);
+        m_context.inserter.InsertAtCaret(u"<a href=\""_s + link + u"\">"_s + name + u"</a>"_s);
+    }});
+}
+
+void FilePaneCommands::editFilters()
+{
+    const QString key = QStringView(filtersName).toString();
+    Configuration &configuration = m_context.configuration;
+    QString filters = m_context.prompts
+                          .input({u"Please enter the extensions of the files you want to show, *.* indicates all, use ; to "
+                                  "seperate extensions, type RESET (all caps) to reset filters to Application Defaults"_s,
+                                  key, configuration.value(key, key)})
+                          .value_or(QString());
+    if (filters.isEmpty())
+        return;
+    if (filters == u"RESET"_s)
+        filters = QStringView(defaultFilters).toString();
+    if (!configuration.setValue(key, key, filters))
+        m_context.prompts.tell(u"The filters could not be saved."_s, {}, Question::Icon::Exclamation);
+    m_parts.pane.fileList().setPattern(configuration.value(key, key));
+}
+
+void FilePaneCommands::openDroppedFile(const QString &path)
+{
+    if (!m_parts.document.openDropped(path))
+        return;
+    m_parts.pane.showFolder(folderOf(path));
+    m_parts.document.SetSyntax();
+}
+
+} // namespace zephira

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/sidelists.h"
+
+#include "app/menus.h"
+#include "controls/appcontext.h"
+#include "panes/asptagtree.h"
+#include "panes/customtabs.h"
+#include "panes/ihtmltaglist.h"
+#include "panes/scriptlibrary.h"
+#include "panes/sidepane.h"
+#include "tags/tagtree.h"
+
+#include <QAction>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+SideLists::SideLists(const AppContext &context, const Menus &menus, SidePane &pane)
+    : m_fileNumber(context.files), m_tags(new TagTree(context)), m_aspTags(new AspTagTree(context)),
+      m_scripts(new ScriptLibrary(context))
+{
+    pane.setPage(u"html"_s, m_tags);
+    pane.setPage(u"asp"_s, m_aspTags);
+    pane.setPage(u"ihtml"_s, new IhtmlTagList(context));
+    pane.setPage(u"scripts"_s, m_scripts);
+
+    auto *custom = new CustomTabs(context, m_fileNumber, *menus.menu(u"cmenu"_s), &pane);
+    QObject::connect(menus.action(u"mnuaddcentry"_s), &QAction::triggered, custom, &CustomTabs::addEntry);
+    for (int tab = 1; tab <= CustomTabs::count; ++tab) {
+        QWidget *list = custom->list(tab);
+        pane.setPage(list->objectName(), list, SidePane::Fill::AfterShowing, [custom, tab] { custom->load(tab); });
+    }
+}
+
+} // namespace zephira

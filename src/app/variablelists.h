@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringView>
+
+#include <span>
+
+namespace zephira {
+
+/// A drop-down of the palette whose items replace the selection of the code view.
+struct VariableList {
+    QStringView name;
+    /// What the box says while nothing is selected in it.
+    QStringView caption;
+    /// The toolbar of the palette that ends with it, 0 to 11.
+    int toolbar = 0;
+    std::span<const QStringView> items;
+};
+
+/// The variables of server-side includes, and those of a server's request.
+std::span<const VariableList> variableLists();
+
+} // namespace zephira

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/viewswitch.h"
+
+#include "app/designerbar.h"
+#include "app/document.h"
+#include "app/menus.h"
+#include "app/menutable.h"
+#include "controls/appfolder.h"
+#include "controls/errorstyles.h"
+#include "controls/prompts.h"
+#include "views/previewpane.h"
+
+#include <QEvent>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr QStringView sourceMenus[] = {u"tools", u"Tags"};
+
+} // namespace
+
+ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner)
+    : QObject(owner)
+    , m_context(context)
+    , m_parts(parts)
+    , m_loadViews(loadViews)
+    , m_views(context, m_browser, *this)
+    , m_preview(new PreviewPane(m_browser, &parts.pages))
+{
+    m_parts.pages.addWidget(m_preview);
+    QTabBar &tabs = m_parts.tabs;
+    connect(&tabs, &QTabBar::currentChanged, this, [this](int tab) { m_views.select(WorkspaceView(tab)); });
+    connect(&tabs, &QTabBar::tabBarClicked, this, [this](int tab) {
+        if (tab >= 0 && tab == m_parts.tabs.currentIndex())
+            m_views.select(WorkspaceView(tab));
+    });
+    connect(&m_parts.designerBar, &DesignerBar::resetClicked, this, [this] {
+        m_views.reset();
+        focusView();
+    });
+    tabs.setMouseTracking(true);
+    tabs.installEventFilter(this);
+}
+
+void ViewSwitch::selectNext()
+{
+    m_parts.tabs.setCurrentIndex((m_parts.tabs.currentIndex() + 1) % m_parts.tabs.count());
+}
+
+void ViewSwitch::selectTab(WorkspaceView view)
+{
+    if (m_parts.tabs.currentIndex() == int(view))
+        m_views.select(view);
+    else
+        m_parts.tabs.setCurrentIndex(int(view));
+}
+
+void ViewSwitch::focusView()
+{
+    m_parts.pages.currentWidget()->setFocus();
+}
+
+bool ViewSwitch::docModified() const
+{
+    return m_parts.document.docModified();
+}
+
+void ViewSwitch::markModified()
+{
+    m_parts.document.setModified(true);
+}
+
+bool ViewSwitch::doSave()
+{
+    return m_parts.document.doSave();
+}
+
+void ViewSwitch::setPreviewTarget(const QString &target)
+{
+    m_parts.document.setPreviewTarget(target);
+}
+
+QString ViewSwitch::scratchFolder() const
+{
+    Result<QString> folder = zephira::scratchFolder();
+    if (!folder)
+        throw HandlerError{folder.error().sentence};
+    return std::move(folder).value();
+}
+
+void ViewSwitch::notice(const QString &sentence)
+{
+    m_parts.window.notice(sentence);
+}
+
+Result<void> ViewSwitch::make(WorkspaceView view)
+{
+    const bool isThere = view == WorkspaceView::Preview ? m_browser.isAttached()
+        : view == WorkspaceView::Visual                 ? m_parts.designer.isAttached()
+                                                        : true;
+    if (isThere)
+        return {};
+    const Result<WebViews *> views = m_loadViews();
+    if (!views)
+        return views.error();
+    if (view == WorkspaceView::Preview) {
+        const BrowserView browser = views.value()->makeBrowser(m_preview);
+        m_preview->setBrowserWidget(browser.widget);
+        m_browser.attach(*browser.control);
+    } else {
+        const DesignerView designer = views.value()->makeDesigner(m_context.prompts, &m_parts.pages);
+        m_designerWidget = designer.widget;
+        m_parts.pages.addWidget(m_designerWidget);
+        m_parts.designer.attach(*designer.control);
+    }
+    return {};
+}
+
+bool ViewSwitch::prepare(WorkspaceView view)
+{
+    const Result<void> made = make(view);
+    if (!made)
+        m_context.prompts.tell(made.error().sentence, {}, Question::Icon::Exclamation);
+    return made.ok();
+}
+
+QWidget *ViewSwitch::page(WorkspaceView view) const
+{
+    switch (view) {
+    case WorkspaceView::Preview:
+        return m_preview;
+    case WorkspaceView::Visual:
+        return m_designerWidget;
+    default:
+        return m_parts.pages.widget(0);
+    }
+}
+
+void ViewSwitch::showControls(WorkspaceView view)
+{
+    // Only a keyboard that was in the view before goes on to the new one; at the tabs it stays where it is.
+    const bool hadFocus = m_parts.pages.isAncestorOf(m_parts.pages.window()->focusWidget());
+    m_parts.designer.setShowing(view == WorkspaceView::Visual);
+    m_parts.designerBar.setVisible(view == WorkspaceView::Visual);
+    m_parts.pages.setCurrentWidget(page(view));
+    if (hadFocus)
+        focusView();
+}
+
+void ViewSwitch::setSourceMenusEnabled(bool enabled)
+{
+    for (const QStringView name : sourceMenus)
+        m_parts.menus.menu(name.toString())->setEnabled(enabled); // Its entry in the menu bar follows.
+}
+
+void ViewSwitch::setVisualMenusEnabled(bool enabled)
+{
+    for (const QStringView name : visualMenus())
+        m_parts.menus.menu(name.toString())->setEnabled(enabled);
+}
+
+/// The pointer comes to the tabs before it clicks: the time in between is the engine's. Should it fail, the click tells.
+bool ViewSwitch::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseMove && !m_isWarm) {
+        m_isWarm = true;
+        QTimer::singleShot(0, this, [this] {
+            if (!m_browser.isAttached() && make(WorkspaceView::Preview))
+                m_browser.navigate(u"about:blank"_s);
+        });
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace zephira

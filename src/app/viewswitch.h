@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/webviews.h"
+#include "views/lateviews.h"
+#include "views/workspaceviews.h"
+
+#include <QObject>
+
+class QStackedWidget;
+class QTabBar;
+class QWidget;
+
+namespace zephira {
+
+class DesignerBar;
+class Document;
+class DocumentWindow;
+class Menus;
+class PreviewPane;
+
+/// The tabs of the workspace and what they show. The web engine's module is loaded when the preview or the designer is
+/// wanted for the first time, or a moment before: when the pointer comes to the tabs.
+class ViewSwitch final : public QObject, public WorkspaceWindow
+{
+    Q_OBJECT
+
+public:
+    struct Parts {
+        Document &document;
+        DocumentWindow &window;
+        QTabBar &tabs;
+        /// Holds the code view, and gets the other views.
+        QStackedWidget &pages;
+        DesignerBar &designerBar;
+        Menus &menus;
+        LateDesigner &designer;
+    };
+
+    ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner);
+
+    /// From the third view back to the first.
+    void selectNext();
+    /// Gives the keyboard to the view that shows.
+    void focusView();
+    QString designerBase() const { return m_views.designerBase(); }
+
+    // WorkspaceWindow
+    bool docModified() const override;
+    void markModified() override;
+    bool doSave() override;
+    void setPreviewTarget(const QString &target) override;
+    QString scratchFolder() const override;
+    void notice(const QString &sentence) override;
+    bool prepare(WorkspaceView view) override;
+    void showControls(WorkspaceView view) override;
+    void setSourceMenusEnabled(bool enabled) override;
+    void setVisualMenusEnabled(bool enabled) override;
+    void selectTab(WorkspaceView view) override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    Result<void> make(WorkspaceView view);
+    QWidget *page(WorkspaceView view) const;
+
+    const AppContext m_context;
+    const Parts m_parts;
+    const WebViewsLoader m_loadViews;
+    LateBrowser m_browser;
+    WorkspaceViews m_views;
+    PreviewPane *m_preview = nullptr;
+    QWidget *m_designerWidget = nullptr;
+    bool m_isWarm = false;
+};
+
+} // namespace zephira

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/visualtools.h"
+
+#include "app/designerbar.h"
+#include "app/menus.h"
+#include "app/menutable.h"
+#include "controls/designer.h"
+#include "views/designerbarstate.h"
+#include "views/designermenus.h"
+
+#include <QAction>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+VisualTools::VisualTools(const AppContext &context, DesignerBar &bar, Menus &menus, QObject *owner)
+    : QObject(owner), m_context(context), m_bar(bar), m_menus(menus), m_tools(context), m_contextMenu(context.designer)
+{
+    connectDesigner();
+    connectBar();
+    connectMenus();
+}
+
+void VisualTools::connectDesigner()
+{
+    m_context.designer.setEvents({.documentComplete = [this] { documentComplete(); },
+                                  .displayChanged = [this] { showState(); },
+                                  .showContextMenu = [this](const QPoint &) { m_contextMenu.show(); },
+                                  .contextMenuAction = [this](int index) { m_contextMenu.run(index); }});
+}
+
+void VisualTools::connectBar()
+{
+    connect(&m_bar, &DesignerBar::buttonClicked, this, [this](const QString &key) {
+        m_tools.clickButton(key);
+        showState(); // The click has turned the button over, whatever became of the command.
+        emit finished();
+    });
+    connect(&m_bar, &DesignerBar::fontChosen, this, [this](const QString &name) {
+        m_tools.chooseFont(name);
+        emit finished();
+    });
+    connect(&m_bar, &DesignerBar::fontSizeChosen, this, [this](int size) {
+        m_tools.chooseFontSize(size);
+        emit finished();
+    });
+    connect(&m_bar, &DesignerBar::fontSizeTyped, this, [this](const QString &text) {
+        if (const std::optional<QString> before = m_tools.enterFontSize(text))
+            m_bar.showFontSize(*before);
+        else
+            emit finished();
+    });
+}
+
+void VisualTools::connectMenus()
+{
+    for (const QStringView name : visualMenus()) {
+        const QString menu = name.toString();
+        connect(m_menus.menu(menu), &QMenu::aboutToShow, this, [this, menu] { updateMenu(menu); });
+    }
+    connect(&m_menus, &Menus::triggered, this, [this](const QString &entry) {
+        m_tools.clickMenu(entry);
+        updateMenu(u"View"_s); // Its check marks show what the click made of the switches.
+    });
+}
+
+void VisualTools::documentComplete()
+{
+    if (!m_tools.documentComplete())
+        return;
+    for (int index = 0; index < blockFormatEntries; ++index) {
+        QAction *entry = m_menus.action(u"FormatSub_%1"_s.arg(index));
+        entry->setText(m_tools.blockFormats().value(index));
+        entry->setVisible(index < m_tools.blockFormats().size());
+    }
+    showState();
+    m_bar.showFontSize({});
+}
+
+void VisualTools::showState()
+{
+    m_bar.showState(designerBarState(m_context.designer));
+}
+
+void VisualTools::updateMenu(const QString &menu)
+{
+    const auto entries = designerMenuEntries(menu, m_context.designer, m_tools.blockFormats());
+    for (const DesignerMenuEntry &entry : entries) {
+        QAction *action = m_menus.action(entry.name);
+        if (entry.enabled)
+            action->setEnabled(*entry.enabled);
+        if (entry.checked)
+            action->setChecked(*entry.checked);
+        if (entry.caption)
+            action->setText(*entry.caption);
+    }
+}
+
+} // namespace zephira

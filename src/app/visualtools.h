@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/appcontext.h"
+#include "views/designercontextmenu.h"
+#include "views/designertools.h"
+
+#include <QObject>
+
+namespace zephira {
+
+class DesignerBar;
+class Menus;
+
+/// Connects the designer's toolbar and its five menus with the designer: clicks become commands, and what the designer
+/// tells becomes the looks of buttons, boxes and entries.
+class VisualTools final : public QObject
+{
+    Q_OBJECT
+
+public:
+    VisualTools(const AppContext &context, DesignerBar &bar, Menus &menus, QObject *owner);
+
+signals:
+    /// A command of the toolbar is done: the keyboard belongs to the page again.
+    void finished();
+
+private:
+    void connectDesigner();
+    void connectBar();
+    void connectMenus();
+    void documentComplete();
+    void showState();
+    void updateMenu(const QString &menu);
+
+    const AppContext m_context;
+    DesignerBar &m_bar;
+    Menus &m_menus;
+    DesignerTools m_tools;
+    DesignerContextMenu m_contextMenu;
+};
+
+} // namespace zephira

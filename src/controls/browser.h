@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace zephira {
+
+/// The browser of the preview as the rest of the program sees it. All operations return at once; pages load by
+/// themselves. Operations that can't be done, such as going back without a history, do nothing.
+class Browser
+{
+public:
+    virtual ~Browser() = default;
+
+    /// Shows a page: the full path of a local file, an address, or what people type for one ("example.org").
+    virtual void navigate(const QString &address) = 0;
+    virtual void goBack() = 0;
+    virtual void goForward() = 0;
+    /// Shows the page that setHome() named; an empty page where it named none.
+    virtual void goHome() = 0;
+    virtual void refresh() = 0;
+    virtual void stop() = 0;
+    /// Address of the page that shows.
+    virtual QString locationUrl() const = 0;
+
+    virtual void setHome(const QString &address) = 0;
+    /// Is called after each navigation that has come to its end.
+    virtual void onNavigateComplete(std::function<void()> handler) = 0;
+};
+
+} // namespace zephira

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/desktop/module.h"
+
+#include <QDir>
+#include <QPluginLoader>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+Result<QObject *> loadModule(const QString &file)
+{
+    if (!QDir::isAbsolutePath(file))
+        return Error{Error::Code::Refused, u"The module %1 isn't named by its full path."_s.arg(file)};
+    // The loader doesn't unload what it has loaded when it is destroyed.
+    QPluginLoader loader(file);
+    if (QObject *module = loader.instance())
+        return module;
+    return Error{Error::Code::Failed, u"A part of the program can't be loaded: %1"_s.arg(loader.errorString())};
+}
+
+} // namespace zephira

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/result.h"
+
+#include <QObject>
+
+namespace zephira {
+
+/// Loads a part of the program that lies in a file of its own, so that only those who use it pay for it, and gives its
+/// object, which lives as long as the process. A path that isn't full is refused: nothing is searched for. Loading a
+/// file again gives the same object.
+Result<QObject *> loadModule(const QString &file);
+
+/// The same as one of the interfaces that the object declares; an object without it is refused.
+template<typename Interface>
+Result<Interface *> loadModuleAs(const QString &file)
+{
+    const Result<QObject *> module = loadModule(file);
+    if (!module)
+        return module.error();
+    if (Interface *interface = qobject_cast<Interface *>(module.value()))
+        return interface;
+    return Error{Error::Code::Malformed, QStringLiteral("The file %1 belongs to another version of the program.").arg(file)};
+}
+
+} // namespace zephira

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/browser.h"
+
+#include <QWebEngineProfile>
+#include <QWidget>
+
+class QWebEngineView;
+
+namespace zephira {
+
+class BrowserPage;
+
+/// The browser as a widget that holds its web view. Its operations can be called by name. Nothing that a page leaves
+/// behind outlives it: the profile is kept in memory alone.
+class BrowserWidget final : public QWidget, public Browser
+{
+    Q_OBJECT
+    Q_PROPERTY(QString LocationURL READ locationUrl NOTIFY NavigateComplete)
+
+public:
+    explicit BrowserWidget(QWidget *parent = nullptr);
+    ~BrowserWidget() override;
+
+    Q_INVOKABLE void Navigate(const QString &address) { navigate(address); }
+    Q_INVOKABLE void GoBack() { goBack(); }
+    Q_INVOKABLE void GoForward() { goForward(); }
+    Q_INVOKABLE void GoHome() { goHome(); }
+    Q_INVOKABLE void Refresh() { refresh(); }
+    Q_INVOKABLE void Stop() { stop(); }
+
+    void navigate(const QString &address) override;
+    void goBack() override;
+    void goForward() override;
+    void goHome() override;
+    void refresh() override;
+    void stop() override;
+    QString locationUrl() const override;
+    void setHome(const QString &address) override { m_home = address; }
+    void onNavigateComplete(std::function<void()> handler) override;
+
+signals:
+    void NavigateComplete();
+
+private:
+    void showContextMenu(const QPoint &place);
+
+    QWebEngineProfile m_profile;
+    /// Deleted before the profile, which must outlive it.
+    std::unique_ptr<QWebEngineView> m_view;
+    BrowserPage *m_page = nullptr;
+    QString m_home;
+};
+
+} // namespace zephira

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace zephira {
+
+class PageText;
+
+/// Markup on the clipboard, in exchange with other programs and with the designer itself.
+struct ClipboardMarkup {
+    QString markup;
+    /// From another program, which may have put its own rubbish into it.
+    bool isForeign = false;
+};
+
+/// Puts a part of the page on the clipboard: its markup with server code and comments in their places, and its text.
+/// `markup` is as the engine writes it.
+void copyToClipboard(const PageText &page, const QString &markup);
+
+/// What the clipboard holds as markup; a text becomes some, with a line break for each line end.
+ClipboardMarkup clipboardMarkup();
+bool clipboardHasMarkup();
+
+} // namespace zephira

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/webengine/designer/designerwidget.h"
+
+#include "controls/errorstyles.h"
+#include "controls/files/diskfilestore.h"
+#include "controls/files/textfile.h"
+#include "controls/webengine/designer/designerclipboard.h"
+#include "controls/webengine/designer/designerhandles.h"
+#include "controls/webengine/designer/designerpage.h"
+
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QEventLoop>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// How long a question may wait for keys that the page hasn't seen yet, and how often it looks; in milliseconds.
+constexpr int keyPatience = 300;
+constexpr int keyInterval = 5;
+/// A page that takes its process down again and again isn't loaded any more.
+constexpr int mostLosses = 3;
+
+void pass(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+/// The file's text as the editor would show it.
+QString readPage(const QString &path)
+{
+    Result<QByteArray> content = DiskFileStore().read(path);
+    if (!content)
+        throw HandlerError{content.error().sentence};
+    const DecodedText text = decodeText(std::move(content).value());
+    const bool isMixed = text.format.lineEnds == LineEnds::Mixed;
+    return QString::fromUtf8(isMixed ? text.utf8 : toLineEnds(text.utf8, LineEnds::CrLf));
+}
+
+} // namespace
+
+DesignerWidget::DesignerWidget(Prompts &prompts, QWidget *parent)
+    : QWidget(parent), m_questions(prompts), m_view(std::make_unique<QWebEngineView>(this)),
+      m_page(new DesignerPage(m_profile, m_view.get())), m_handles(new DesignerHandles(m_view.get()))
+{
+    m_view->setPage(m_page);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view.get());
+    setFocusProxy(m_view.get());
+    hide();
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    // Queued, because the engine gives no answers while it hands over the wish.
+    connect(m_view.get(), &QWidget::customContextMenuRequested, this, &DesignerWidget::requestContextMenu,
+            Qt::QueuedConnection);
+    connect(m_page, &DesignerPage::ready, this, &DesignerWidget::write);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &DesignerWidget::reopenAfterLoss);
+    connect(&m_page->bridge(), &DesignerBridge::stateArrived, this, [this](const QVariantMap &report) {
+        takeState(DesignerState::fromPage(report));
+        announceDisplay();
+    });
+    connect(&m_page->bridge(), &DesignerBridge::placeArrived, this,
+            [this](const QVariantMap &place) { m_handles->show(place, m_view->zoomFactor()); });
+    connect(&m_page->bridge(), &DesignerBridge::pageArrived, this, [this](const QString &page) { m_keptPage = page; });
+    connect(&m_page->bridge(), &DesignerBridge::clipboardRequested, this, &DesignerWidget::useClipboard);
+}
+
+DesignerWidget::~DesignerWidget() = default;
+
+void DesignerWidget::setDocumentHtml(const QString &html)
+{
+    m_text = PageText(html, freshMarkPrefix(html));
+    m_hasLostChanges = false;
+    m_losses = 0;
+    open();
+}
+
+void DesignerWidget::loadDocument(const QString &path)
+{
+    const QString html = readPage(path);
+    m_baseFile = path;
+    setDocumentHtml(html);
+}
+
+/// Begins with an empty page, because the policies of the last document would hold for the next one.
+void DesignerWidget::open()
+{
+    m_isComplete = false;
+    m_state = {};
+    m_keysSent = 0;
+    m_keptPage.clear();
+    m_handles->show({}, 1);
+    ++m_load;
+    m_page->open(m_baseFile.isEmpty() ? QUrl(u"about:blank"_s) : QUrl::fromLocalFile(m_baseFile));
+}
+
+void DesignerWidget::write(bool ready)
+{
+    if (!ready)
+        return;
+    const QPointer<DesignerWidget> self(this);
+    m_page->call(u"load"_s, {m_text.forEngine(), m_text.markPrefix(), m_looks},
+                 [self, load = m_load](const QVariant &answer) {
+                     const auto finish = [self, load, answer] {
+                         if (self->m_load == load)
+                             self->complete(answer);
+                     };
+                     // The engine gives no further answer while it hands this one over, and the host may ask for more.
+                     if (self)
+                         QMetaObject::invokeMethod(self, finish, Qt::QueuedConnection);
+                 });
+}
+
+void DesignerWidget::complete(const QVariant &answer)
+{
+    m_isComplete = true;
+    m_view->focusProxy()->installEventFilter(this);
+    takeAnswer(answer);
+    emit DocumentComplete();
+    if (m_events.documentComplete)
+        m_events.documentComplete();
+    announceDisplay();
+}
+
+void DesignerWidget::reopenAfterLoss()
+{
+    if (!m_keptPage.isEmpty()) {
+        const QString page = m_text.fromEngine(m_keptPage);
+        m_hasLostChanges = true;
+        m_text = PageText(page, freshMarkPrefix(page));
+    }
+    if (++m_losses <= mostLosses)
+        open();
+}
+
+bool DesignerWidget::waitUntilComplete()
+{
+    QElapsedTimer time;
+    time.start();
+    while (!m_isComplete && m_load > 0 && m_losses <= mostLosses && time.elapsed() < m_page->patience())
+        pass(keyInterval);
+    return m_isComplete;
+}
+
+QVariant DesignerWidget::ask(const QString &function, const QVariantList &arguments) const
+{
+    const std::optional<QVariant> answer = m_page->callAndWait(function, arguments);
+    return answer ? takeAnswer(*answer) : QVariant();
+}
+
+/// Every answer comes with the state that the page is in afterwards.
+QVariant DesignerWidget::takeAnswer(const QVariant &answer) const
+{
+    const QVariantMap map = answer.toMap();
+    if (!map.isEmpty())
+        takeState(DesignerState::fromPage(map.value(u"state"_s).toMap()));
+    return map.value(u"value"_s);
+}
+
+void DesignerWidget::takeState(const DesignerState &state) const
+{
+    m_state = state;
+    m_handles->show(state.place, m_view->zoomFactor());
+}
+
+void DesignerWidget::announceDisplay()
+{
+    emit DisplayChanged();
+    if (m_events.displayChanged)
+        m_events.displayChanged();
+}
+
+/// The page learns of a key a moment after the window does.
+void DesignerWidget::awaitKeys() const
+{
+    QElapsedTimer time;
+    time.start();
+    while (m_keysSent > m_state.keys && m_page->isResponding() && time.elapsed() < keyPatience) {
+        pass(keyInterval);
+        ask(u"state"_s);
+    }
+    m_keysSent = m_state.keys;
+}
+
+bool DesignerWidget::isDirty() const
+{
+    if (!m_isComplete)
+        return m_hasLostChanges;
+    if (!m_state.isDirty)
+        awaitKeys();
+    return m_hasLostChanges || m_state.isDirty;
+}
+
+QString DesignerWidget::documentHtml()
+{
+    if (!m_isComplete)
+        return m_text.source();
+    awaitKeys();
+    if (!m_state.isDirty)
+        return m_text.source();
+    const QString page = ask(u"text"_s).toString();
+    if (!page.isEmpty())
+        m_keptPage = page;
+    return m_keptPage.isEmpty() ? m_text.source() : m_text.fromEngine(m_keptPage);
+}
+
+void DesignerWidget::pasteHtml(const QString &html)
+{
+    if (!waitUntilComplete())
+        return;
+    ask(u"insert"_s, {m_text.fragmentForEngine(html), false});
+    announceDisplay();
+}
+
+int DesignerWidget::queryStatus(DesignerCommand command) const
+{
+    if (!m_isComplete)
+        return DesignerStatus::Disabled;
+    if (command == DesignerCommand::Paste)
+        return !browseMode() && clipboardHasMarkup() ? DesignerStatus::Enabled : DesignerStatus::Disabled;
+    return m_state.statuses.value(command, DesignerStatus::NotSupported);
+}
+
+void DesignerWidget::setLook(const QString &name, bool on)
+{
+    m_looks[name] = on;
+    if (m_isComplete)
+        ask(u"setLook"_s, {name, on});
+}
+
+void DesignerWidget::setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states)
+{
+    delete m_menu;
+    m_menu = new QMenu(this);
+    m_menu->setObjectName(u"DesignerContextMenu"_s);
+    for (int index = 0; index < entries.size(); ++index) {
+        if (entries[index].isEmpty()) {
+            m_menu->addSeparator();
+            continue;
+        }
+        const DesignerMenuState state = states.value(index, DesignerMenuState::Unchecked);
+        QAction *action = m_menu->addAction(entries[index]);
+        action->setEnabled(state != DesignerMenuState::Greyed);
+        action->setCheckable(state == DesignerMenuState::Checked);
+        action->setChecked(state == DesignerMenuState::Checked);
+        connect(action, &QAction::triggered, this, [this, index] {
+            emit ContextMenuAction(index);
+            if (m_events.contextMenuAction)
+                m_events.contextMenuAction(index);
+        });
+    }
+}
+
+/// The entries depend on where the click has just put the caret.
+void DesignerWidget::requestContextMenu(const QPoint &place)
+{
+    ask(u"state"_s);
+    const QPoint onScreen = m_view->mapToGlobal(place);
+    setContextMenu({}, {});
+    emit ShowContextMenu(onScreen.x(), onScreen.y());
+    if (m_events.showContextMenu)
+        m_events.showContextMenu(onScreen);
+    if (!m_menu->isEmpty())
+        m_menu->popup(onScreen);
+}
+
+bool DesignerWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && m_isComplete)
+        ++m_keysSent;
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace zephira

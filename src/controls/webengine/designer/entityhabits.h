@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <bitset>
+
+namespace zephira {
+
+/// How an author spells characters: those that were spelled as a reference wherever they occur are written so again,
+/// and those that were not are written as they are. Text and attribute values are learnt apart, because a quotation
+/// mark has to be spelled in the one and not in the other.
+class EntityHabits
+{
+public:
+    enum class Place { Text, Value };
+
+    explicit EntityHabits(Place place) : m_place(place) {}
+
+    /// Looks at characters of a page's source.
+    void learn(QStringView source);
+    /// Characters of a page as they stand in its source. What would end the text, or be read as a reference, is spelled
+    /// in any case; line ends are LF before and CR LF behind.
+    QString write(QStringView characters) const;
+
+private:
+    struct Habit {
+        /// The first spelling; empty as long as there was none.
+        QString spelling;
+        bool seenPlain = false;
+    };
+
+    QString spellingOf(char32_t character) const;
+
+    Place m_place;
+    /// By character; those of ASCII are here only when they have been spelled.
+    QHash<char32_t, Habit> m_habits;
+    std::bitset<128> m_plainAscii;
+};
+
+/// Characters with the engine's own spelling ("&amp;", "&lt;", "&gt;", "&quot;", "&nbsp;") read.
+QString readEngineText(QStringView serialised);
+
+} // namespace zephira

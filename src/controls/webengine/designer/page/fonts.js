@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Sizes 1 to 7 of the font element in points.
+const pointSizes = [8, 10, 12, 14, 18, 24, 36];
+// How many texts of a selection are looked at before it counts as uniform.
+const mostTexts = 2000;
+
+const fontName = () => nativeValue('fontName').replaceAll('"', '').replaceAll("'", '');
+
+const fontSize = () => Number(nativeValue('fontSize')) || 0;
+
+// Whether the texts of the selection differ in a property.
+const isMixed = property => {
+    const range = currentRange();
+    if (range.collapsed)
+        return false;
+    const values = new Set();
+    for (const text of selectedTexts(range, mostTexts)) {
+        values.add(getComputedStyle(text.parentElement)[property]);
+        if (values.size > 1)
+            return true;
+    }
+    return false;
+};
+
+const setFontSize = argument => {
+    const size = Number(argument);
+    if (Number.isInteger(size) && size >= 1 && size <= 7)
+        nativeCommand('fontSize', false, String(size));
+};
+
+// What the font dialog starts with, and what it gives back: sizes in points.
+const describeFont = () => ({
+    name: fontName(),
+    size: pointSizes[fontSize() - 1] ?? pointSizes[2],
+    bold: nativeState('bold'),
+    italic: nativeState('italic'),
+    underline: nativeState('underline'),
+    strikethrough: nativeState('strikeThrough'),
+});
+
+const nearestSize = points => {
+    const distances = pointSizes.map(size => Math.abs(size - points));
+    return distances.indexOf(Math.min(...distances)) + 1;
+};
+
+// Changes no more than what differs from the font that is there.
+const applyFont = font => {
+    const before = describeFont();
+    if (font.name !== before.name)
+        nativeCommand('fontName', false, font.name);
+    if (font.size !== before.size)
+        setFontSize(nearestSize(font.size));
+    for (const [member, command] of [['bold', 'bold'], ['italic', 'italic'], ['underline', 'underline'],
+        ['strikethrough', 'strikeThrough']]) {
+        if (font[member] !== before[member])
+            nativeCommand(command, false, null);
+    }
+};

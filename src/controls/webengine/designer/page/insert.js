@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Markup from elsewhere comes with its own style sheets and notes to other programs.
+const foreignSelector = 'meta,link,style,script,title,base';
+
+const cleanForeign = fragment => {
+    for (const element of fragment.querySelectorAll(foreignSelector))
+        element.remove();
+    const walker = createTreeWalker(fragment, NodeFilter.SHOW_COMMENT);
+    const comments = [];
+    while (walker.nextNode())
+        comments.push(walker.currentNode);
+    for (const comment of comments.filter(each => !isMarkComment(each)))
+        comment.remove();
+};
+
+// Takes out what is selected; the range stands at the gap.
+const clearSelection = range => {
+    const control = selectedControl();
+    if (control)
+        control.remove();
+    else if (!range.collapsed)
+        range.deleteContents();
+    return getSelection().rangeCount > 0 ? getSelection().getRangeAt(0) : range;
+};
+
+// A paragraph can't hold blocks: it is cut at the caret, and what is put in goes between its halves.
+const insertIntoParagraph = (paragraph, range, nodes) => {
+    const rest = splitElement(paragraph, range.startContainer, range.startOffset);
+    paragraph.after(...nodes);
+    for (const half of [paragraph, rest]) {
+        if (isEmptyElement(half))
+            half.remove();
+    }
+};
+
+const placeCaretBehind = node => {
+    if (isText(node))
+        placeCaret(node, node.length);
+    else
+        placeCaret(node.parentNode, indexOf(node) + 1);
+};
+
+// Puts markup in the place of the selection and the caret behind it. Gives the nodes that were put in.
+const insertMarkup = (markup, isForeign) => {
+    const range = clearSelection(currentRange());
+    const fragment = range.createContextualFragment(markup);
+    if (isForeign)
+        cleanForeign(fragment);
+    showMarks(fragment);
+    const nodes = [...fragment.childNodes];
+    if (nodes.length === 0)
+        return nodes;
+    const block = closestBlock(range.startContainer);
+    if (block && isNamed(block, paragraphNames) && nodes.some(node => isBlock(node) || containsBlock(node))) {
+        insertIntoParagraph(block, range, nodes);
+    } else {
+        const filler = block && block.childNodes.length === 1 && block.firstChild.localName === 'br' ? block.firstChild
+            : null;
+        range.insertNode(fragment);
+        filler?.remove();
+    }
+    placeCaretBehind(nodes.at(-1));
+    return nodes;
+};
+
+const insertTable = markup => {
+    const table = insertMarkup(markup, false).find(node => node.localName === 'table');
+    const cell = table?.querySelector('td,th');
+    if (cell)
+        placeCaretIn(cell);
+};
+
+const linkElement = () => closest(currentRange().commonAncestorContainer, 'a[href]')
+    ?? selectedControl()?.closest('a[href]') ?? null;
+
+const linkAddress = () => linkElement()?.getAttribute('href') ?? '';
+
+const unlink = () => {
+    const link = linkElement();
+    const mark = bookmark();
+    if (link)
+        unwrapElement(link);
+    else
+        nativeCommand('unlink', false, null);
+    restore(mark);
+};
+
+// An empty address takes the link away. Where nothing is selected the address becomes the text.
+const setLink = address => {
+    const link = linkElement();
+    if (address === '') {
+        unlink();
+    } else if (link) {
+        link.setAttribute('href', address);
+    } else if (currentRange().collapsed) {
+        const anchor = createElement('a');
+        currentRange().insertNode(anchor);
+        anchor.setAttribute('href', address);
+        anchor.append(new Text(address));
+        placeCaretBehind(anchor);
+    } else {
+        nativeCommand('createLink', false, address);
+    }
+};
+
+const insertImage = address => {
+    const range = clearSelection(currentRange());
+    const image = createElement('img');
+    image.setAttribute('src', address);
+    image.setAttribute('alt', '');
+    range.insertNode(image);
+    selectElement(image);
+};
+
+const wholeNames = wordSet('table ol ul dir menu dl');
+const partNames = wordSet('table thead tbody tfoot tr ol ul dir menu dl');
+
+// The selection as markup, with the inline elements around it and what a part of a list or table needs to be one.
+const selectionMarkup = () => {
+    const range = currentRange();
+    const box = createElement('div');
+    const control = selectedControl();
+    if (control) {
+        box.append(control.cloneNode(true));
+        return box.innerHTML;
+    }
+    let content = range.cloneContents();
+    for (let element = elementOf(range.commonAncestorContainer); element && element !== bodyElement();
+        element = element.parentElement) {
+        if (isBlock(element) && !isNamed(element, partNames))
+            break;
+        const outer = element.cloneNode(false);
+        outer.append(content);
+        content = outer;
+        if (isNamed(element, wholeNames))
+            break;
+    }
+    box.append(content);
+    return box.innerHTML;
+};
+
+const deleteSelection = () => {
+    const control = selectedControl();
+    if (!control)
+        nativeCommand(currentRange().collapsed ? 'forwardDelete' : 'delete', false, null);
+    else {
+        const range = currentRange();
+        control.remove();
+        placeCaret(range.startContainer, range.startOffset);
+    }
+};

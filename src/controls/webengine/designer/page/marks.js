@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What stands for server code and comments arrives as comments of one word. Where a sign can be shown, an element takes
+// the comment's place, so that a user sees it, and can select, move and delete it.
+const markName = 'zephira-mark';
+
+let markPrefix = 'zs';
+
+const isMarkComment = node => new RegExp(`^${markPrefix}x\\d+[sc]$`).test(node.data);
+
+const showMarks = root => {
+    const walker = createTreeWalker(root, NodeFilter.SHOW_COMMENT);
+    const comments = [];
+    while (walker.nextNode())
+        comments.push(walker.currentNode);
+    for (const comment of comments) {
+        const parent = comment.parentNode;
+        if (!isMarkComment(comment) || isNamed(parent, tightNames) || closest(parent, 'head,select,svg,math'))
+            continue;
+        const mark = createElement(markName);
+        mark.setAttribute('mark', comment.data);
+        comment.replaceWith(mark);
+    }
+};

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Elements that a click selects as a whole.
+const controlNames = wordSet(`img input select textarea button object embed applet iframe hr video audio canvas table
+    marquee zephira-mark`);
+
+const isAbsolute = element => getComputedStyle(element).position === 'absolute';
+const isControl = node => isElement(node) && node !== bodyElement() && (isNamed(node, controlNames) || isAbsolute(node));
+
+// The selection outlives the focus, but not every change of the page.
+let lastRange = null;
+
+const currentRange = () => {
+    const selection = getSelection();
+    if (selection.rangeCount > 0 && rootElement().contains(selection.getRangeAt(0).commonAncestorContainer))
+        lastRange = selection.getRangeAt(0);
+    else if (lastRange?.commonAncestorContainer.isConnected)
+        selection.addRange(lastRange);
+    else
+        selectStart();
+    return getSelection().getRangeAt(0);
+};
+
+const selectStart = () => getSelection().collapse(bodyElement() ?? rootElement(), 0);
+const placeCaret = (node, offset) => getSelection().collapse(node, offset);
+const selectElement = element => {
+    const range = new Range();
+    range.selectNode(element);
+    const selection = getSelection();
+    selection.removeAllRanges();
+    selection.addRange(range);
+};
+const placeCaretIn = element => {
+    const first = element.firstChild;
+    placeCaret(first && isText(first) ? first : element, 0);
+};
+
+// The element that is selected as a whole, or null.
+const selectedControl = () => {
+    const selection = getSelection();
+    if (selection.rangeCount === 0)
+        return null;
+    const range = selection.getRangeAt(0);
+    if (range.startContainer !== range.endContainer || range.endOffset !== range.startOffset + 1)
+        return null;
+    const node = isText(range.startContainer) ? null : range.startContainer.childNodes[range.startOffset];
+    return node && isControl(node) ? node : null;
+};
+
+const selectionType = () => {
+    const selection = getSelection();
+    if (selection.rangeCount === 0 || selection.isCollapsed)
+        return 'None';
+    return selectedControl() ? 'Control' : 'Text';
+};
+
+const bookmark = () => {
+    const selection = getSelection();
+    return selection.rangeCount === 0 ? null : {
+        anchorNode: selection.anchorNode, anchorOffset: selection.anchorOffset,
+        focusNode: selection.focusNode, focusOffset: selection.focusOffset,
+    };
+};
+
+const lengthOf = node => isElement(node) ? node.childNodes.length : node.length;
+
+// A bookmark whose nodes have gone is left alone. `replaced` tells what stands in the place of elements.
+const restore = (mark, replaced = new Map()) => {
+    if (!mark)
+        return;
+    const anchor = replaced.get(mark.anchorNode) ?? mark.anchorNode;
+    const focus = replaced.get(mark.focusNode) ?? mark.focusNode;
+    if (anchor?.isConnected && focus?.isConnected)
+        getSelection().setBaseAndExtent(anchor, Math.min(mark.anchorOffset, lengthOf(anchor)),
+            focus, Math.min(mark.focusOffset, lengthOf(focus)));
+};
+
+// Whether a range reaches into a node, and not only to its edge.
+const reaches = (range, node) => {
+    if (!range.intersectsNode(node))
+        return false;
+    if (range.collapsed || !node.contains(range.endContainer) || node.contains(range.startContainer))
+        return true;
+    const lead = new Range();
+    lead.selectNodeContents(node);
+    lead.setEnd(range.endContainer, range.endOffset);
+    return lead.toString() !== '';
+};
+
+// The text nodes of a range that show something, `most` of them at most.
+const selectedTexts = (range, most) => {
+    const texts = [];
+    if (isText(range.commonAncestorContainer))
+        return [range.commonAncestorContainer];
+    const walker = createTreeWalker(range.commonAncestorContainer, NodeFilter.SHOW_TEXT);
+    walker.currentNode = isText(range.startContainer) || !range.startContainer.childNodes[range.startOffset]
+        ? range.startContainer : range.startContainer.childNodes[range.startOffset];
+    for (let node = walker.currentNode; node && texts.length < most; node = walker.nextNode()) {
+        if (!isText(node))
+            continue;
+        if (!range.intersectsNode(node))
+            break;
+        const begin = node === range.startContainer ? range.startOffset : 0;
+        const end = node === range.endContainer ? range.endOffset : node.length;
+        if (end > begin && !isBlankText(node))
+            texts.push(node);
+    }
+    return texts;
+};

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The engine rewrites a style attribute as a whole when one property changes, and drops what it doesn't know. Here the
+// author's text stays, apart from the property in question.
+
+const declarationsOf = text => {
+    const declarations = [];
+    let begin = 0;
+    let depth = 0;
+    let quote = '';
+    for (let i = 0; i < text.length; ++i) {
+        const c = text[i];
+        if (quote)
+            quote = c === quote ? '' : quote;
+        else if (c === '"' || c === "'")
+            quote = c;
+        else if (c === '(')
+            ++depth;
+        else if (c === ')')
+            depth = Math.max(0, depth - 1);
+        else if (c === ';' && depth === 0) {
+            declarations.push(text.slice(begin, i));
+            begin = i + 1;
+        }
+    }
+    declarations.push(text.slice(begin));
+    return declarations.filter(declaration => declaration.trim() !== '');
+};
+
+const propertyOf = declaration => declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase();
+
+// The style text with a property set, or, for an empty value, taken out.
+const styleTextWith = (text, property, value) => {
+    const declarations = declarationsOf(text);
+    const others = declarations.filter(declaration => propertyOf(declaration) !== property);
+    if (value === '')
+        return others.join(';').trim();
+    const place = declarations.findIndex(declaration => propertyOf(declaration) === property);
+    const declaration = `${property}: ${value}`;
+    if (place < 0)
+        others.push(others.length > 0 ? ` ${declaration}` : declaration);
+    else
+        others.splice(place, 0, place > 0 ? ` ${declaration}` : declaration);
+    return others.join(';');
+};
+
+const setStyle = (element, property, value) => {
+    const text = styleTextWith(element.getAttribute('style') ?? '', property, value);
+    if (text === '')
+        element.removeAttribute('style');
+    else
+        element.setAttribute('style', text);
+};
+
+const styleValueOf = (element, property) => {
+    const declaration = declarationsOf(element.getAttribute('style') ?? '').findLast(each => propertyOf(each) === property);
+    return declaration === undefined ? '' : declaration.slice(declaration.indexOf(':') + 1).trim();
+};
+
+const parsedStyle = text => {
+    const scratch = createElement('span');
+    scratch.setAttribute('style', text);
+    return scratch.style;
+};
+
+const changedProperties = (before, after) => [...new Set([...before, ...after])]
+    .filter(property => before.getPropertyValue(property) !== after.getPropertyValue(property));
+
+// Gives elements that the engine has restyled their own text back, with the engine's changes in it.
+const keepStyleTexts = changes => {
+    for (const {type, target, name, value} of changes) {
+        const now = target.isConnected && type === 'attributes' && name === 'style' ? target.getAttribute('style') : null;
+        if (now === null || value === null)
+            continue;
+        const after = parsedStyle(now);
+        let text = value;
+        for (const property of changedProperties(parsedStyle(value), after))
+            text = styleTextWith(text, property, after.getPropertyValue(property));
+        // What can't be said beside the old text stays as the engine said it.
+        if (text !== now && changedProperties(parsedStyle(text), after).length === 0)
+            target.setAttribute('style', text);
+    }
+};

@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+const tableCellNames = wordSet('td th');
+
+// A table as a grid: each place knows its cell, and each cell where it begins and how far it reaches.
+class Grid {
+    // Beyond this many places a table isn't one that a person edits.
+    static mostPlaces = 1000000;
+
+    constructor(table) {
+        this.table = table;
+        this.rows = [...HTMLTableElement.prototype.__lookupGetter__('rows').call(table)];
+        this.places = this.rows.map(() => []);
+        this.spots = new Map();
+        let left = Grid.mostPlaces;
+        this.rows.forEach((row, y) => {
+            let x = 0;
+            for (const cell of row.cells) {
+                while (this.places[y][x])
+                    ++x;
+                const spot = {cell, row: y, column: x, rows: this.#heightOf(cell, y), columns: cell.colSpan};
+                this.spots.set(cell, spot);
+                left -= spot.rows * spot.columns;
+                if (left < 0)
+                    throw new RangeError('table too large');
+                for (let dy = 0; dy < spot.rows; ++dy) {
+                    for (let dx = 0; dx < spot.columns; ++dx)
+                        this.places[y + dy][x + dx] ??= spot;
+                }
+                x += spot.columns;
+            }
+        });
+        this.width = Math.max(0, ...this.places.map(row => row.length));
+    }
+
+    // A cell reaches no further than the group of rows that it stands in; 0 means that far.
+    #heightOf(cell, y) {
+        let most = 1;
+        while (y + most < this.rows.length && this.rows[y + most].parentNode === this.rows[y].parentNode)
+            ++most;
+        return cell.rowSpan === 0 ? most : Math.min(cell.rowSpan, most);
+    }
+
+    at(row, column) {
+        return this.places[row]?.[column] ?? null;
+    }
+
+    // The spots of a row from left to right, each once.
+    spotsOf(row) {
+        return [...new Set(this.places[row])].filter(spot => spot);
+    }
+
+    // What a new cell of a row, for a place in a column, goes in front of; null for the end of the row.
+    cellBehind(row, column) {
+        return this.spotsOf(row).find(spot => spot.row === row && spot.column >= column)?.cell ?? null;
+    }
+}
+
+const setSpan = (cell, name, count) => {
+    if (count > 1)
+        cell.setAttribute(name, count);
+    else
+        cell.removeAttribute(name);
+};
+
+const currentTable = () => {
+    const node = getSelection().rangeCount > 0 ? getSelection().getRangeAt(0).commonAncestorContainer : null;
+    return node && closest(node, 'table');
+};
+
+// The cells that the caret stands in or the selection touches, in the order of the table.
+const selectedCells = () => {
+    const table = currentTable();
+    if (!table)
+        return [];
+    const range = getSelection().getRangeAt(0);
+    const cell = closest(range.commonAncestorContainer, 'td,th');
+    if (cell && table.contains(cell))
+        return [cell];
+    return [...table.querySelectorAll('td,th')].filter(each => each.closest('table') === table && reaches(range, each));
+};
+
+const fillCell = cell => cell.append(createElement('br'));
+
+// A cell like another one, but empty and of one place.
+const cellLike = cell => {
+    const fresh = cell.cloneNode(false);
+    for (const name of ['id', 'rowspan', 'colspan'])
+        fresh.removeAttribute(name);
+    fillCell(fresh);
+    return fresh;
+};
+
+const boundsOf = spots => ({
+    top: Math.min(...spots.map(spot => spot.row)),
+    left: Math.min(...spots.map(spot => spot.column)),
+    bottom: Math.max(...spots.map(spot => spot.row + spot.rows - 1)),
+    right: Math.max(...spots.map(spot => spot.column + spot.columns - 1)),
+});
+
+const selectedGrid = () => {
+    const cells = selectedCells();
+    if (cells.length === 0)
+        return null;
+    const grid = new Grid(currentTable());
+    const spots = cells.map(cell => grid.spots.get(cell));
+    return {grid, spots, ...boundsOf(spots)};
+};
+
+// Below the selected rows.
+const insertRow = ({grid, bottom}) => {
+    const model = grid.rows[bottom];
+    const row = model.cloneNode(false);
+    row.removeAttribute('id');
+    for (const spot of grid.spotsOf(bottom)) {
+        if (spot.row + spot.rows - 1 > bottom) {
+            setSpan(spot.cell, 'rowspan', spot.rows + 1);
+        } else {
+            const cell = cellLike(spot.cell);
+            setSpan(cell, 'colspan', spot.columns);
+            row.append(cell);
+        }
+    }
+    model.after(row);
+    if (row.firstChild)
+        placeCaretIn(row.firstChild);
+};
+
+// To the right of the selected columns.
+const insertColumn = ({grid, top, right}) => {
+    let first = null;
+    const widened = new Set();
+    grid.rows.forEach((row, y) => {
+        const spot = grid.at(y, right);
+        if (spot && grid.at(y, right + 1) === spot) {
+            if (!widened.has(spot))
+                setSpan(spot.cell, 'colspan', spot.columns + 1);
+            widened.add(spot);
+        } else if (spot) {
+            const cell = cellLike(spot.cell);
+            row.insertBefore(cell, grid.cellBehind(y, right + 1));
+            if (y === top)
+                first = cell;
+        }
+    });
+    eachColumn(grid.table, right, column => {
+        const fresh = column.cloneNode(false);
+        fresh.removeAttribute('id');
+        column.after(fresh);
+    });
+    if (first)
+        placeCaretIn(first);
+};
+
+// The col element of a column, where each column has one.
+const eachColumn = (table, index, action) => {
+    const columns = [...table.querySelectorAll(':scope > col, :scope > colgroup > col')];
+    if (columns[index] && columns.every(column => column.span === 1))
+        action(columns[index]);
+};
+
+const insertCell = ({spots}) => {
+    const model = spots.at(-1).cell;
+    const cell = cellLike(model);
+    model.after(cell);
+    placeCaretIn(cell);
+};
+
+// After cells have gone: what is left of a table without cells goes too, and the caret stands in the nearest cell.
+const tidyTable = (table, row, column) => {
+    for (const each of [...table.querySelectorAll('tr')].filter(tr => tr.closest('table') === table)) {
+        if (!each.querySelector('td,th'))
+            each.remove();
+    }
+    if (!table.querySelector('td,th')) {
+        const parent = table.parentNode;
+        const place = indexOf(table);
+        table.remove();
+        placeCaret(parent, place);
+        return;
+    }
+    const grid = new Grid(table);
+    const y = Math.min(row, grid.rows.length - 1);
+    const spot = grid.at(y, Math.min(column, grid.places[y].length - 1)) ?? grid.spots.values().next().value;
+    placeCaretIn(spot.cell);
+};
+
+// A cell that reaches beyond the row moves on to the next one.
+const removeRow = (table, y) => {
+    const grid = new Grid(table);
+    for (const spot of grid.spotsOf(y)) {
+        if (spot.row < y) {
+            setSpan(spot.cell, 'rowspan', spot.rows - 1);
+        } else if (spot.rows > 1) {
+            grid.rows[y + 1].insertBefore(spot.cell, grid.cellBehind(y + 1, spot.column + spot.columns));
+            setSpan(spot.cell, 'rowspan', spot.rows - 1);
+        }
+    }
+    grid.rows[y].remove();
+};
+
+const deleteRows = ({grid, spots, top, left}) => {
+    const rows = new Set(spots.flatMap(spot => Array.from({length: spot.rows}, (_, i) => spot.row + i)));
+    for (const y of [...rows].sort((a, b) => b - a))
+        removeRow(grid.table, y);
+    tidyTable(grid.table, top, left);
+};
+
+const deleteColumns = ({grid, top, left, right}) => {
+    for (const spot of grid.spots.values()) {
+        const gone = Math.min(spot.column + spot.columns - 1, right) - Math.max(spot.column, left) + 1;
+        if (gone >= spot.columns)
+            spot.cell.remove();
+        else if (gone > 0)
+            setSpan(spot.cell, 'colspan', spot.columns - gone);
+    }
+    for (let x = right; x >= left; --x)
+        eachColumn(grid.table, x, column => column.remove());
+    tidyTable(grid.table, top, left);
+};
+
+const deleteCells = ({grid, spots, top, left}) => {
+    for (const spot of spots)
+        spot.cell.remove();
+    tidyTable(grid.table, top, left);
+};
+
+// The smallest rectangle that holds the cells and cuts no other.
+const closedBounds = (grid, spots) => {
+    let bounds = boundsOf(spots);
+    for (let grown = true; grown;) {
+        const inside = new Set();
+        for (let y = bounds.top; y <= bounds.bottom; ++y) {
+            for (let x = bounds.left; x <= bounds.right; ++x) {
+                if (grid.at(y, x))
+                    inside.add(grid.at(y, x));
+            }
+        }
+        const wider = boundsOf([...inside]);
+        grown = JSON.stringify(wider) !== JSON.stringify(bounds);
+        bounds = wider;
+        spots = [...inside];
+    }
+    return {bounds, spots};
+};
+
+const mergeCells = ({grid, spots}) => {
+    const {bounds, spots: merged} = closedBounds(grid, spots);
+    const [first, ...others] = merged;
+    for (const {cell} of others) {
+        if (!isEmptyElement(cell)) {
+            if (isEmptyElement(first.cell))
+                first.cell.replaceChildren();
+            else
+                first.cell.append(createElement('br'));
+            moveChildren(cell, first.cell);
+        }
+        cell.remove();
+    }
+    setSpan(first.cell, 'colspan', bounds.right - bounds.left + 1);
+    setSpan(first.cell, 'rowspan', bounds.bottom - bounds.top + 1);
+    placeCaretIn(first.cell);
+};
+
+// Into two cells side by side, or, for a cell that is only high, into two on top of each other. A cell of one place makes
+// room by widening the others of its column.
+const splitCell = ({grid, spots}) => {
+    const [spot] = spots;
+    const fresh = cellLike(spot.cell);
+    if (spot.columns === 1 && spot.rows > 1) {
+        const below = Math.floor(spot.rows / 2);
+        const row = spot.row + spot.rows - below;
+        setSpan(spot.cell, 'rowspan', spot.rows - below);
+        setSpan(fresh, 'rowspan', below);
+        grid.rows[row].insertBefore(fresh, grid.cellBehind(row, spot.column + 1));
+        return;
+    }
+    if (spot.columns === 1) {
+        const column = new Set(grid.places.map(row => row[spot.column]).filter(each => each && each !== spot));
+        for (const other of column)
+            setSpan(other.cell, 'colspan', other.columns + 1);
+    }
+    const right = Math.max(1, Math.floor(spot.columns / 2));
+    setSpan(spot.cell, 'colspan', Math.max(1, spot.columns - right));
+    setSpan(fresh, 'colspan', right);
+    setSpan(fresh, 'rowspan', spot.rows);
+    spot.cell.after(fresh);
+};

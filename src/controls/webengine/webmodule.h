@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/webviews.h"
+
+#include <QObject>
+
+namespace zephira {
+
+/// What the module gives to the program that loads it.
+class WebModule final : public QObject, public WebViews
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.zephira.WebViews")
+    Q_INTERFACES(zephira::WebViews)
+
+public:
+    /// Starts the engine.
+    WebModule();
+
+    BrowserView makeBrowser(QWidget *parent) override;
+    DesignerView makeDesigner(Prompts &prompts, QWidget *parent) override;
+};
+
+} // namespace zephira

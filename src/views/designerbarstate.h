@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace zephira {
+
+class Designer;
+
+/// How the designer's toolbar looks.
+struct DesignerBarState {
+    struct Button {
+        bool enabled = false;
+        bool pressed = false;
+
+        friend bool operator==(const Button &, const Button &) = default;
+    };
+    struct Box {
+        QString text;
+        bool enabled = false;
+
+        friend bool operator==(const Box &, const Box &) = default;
+    };
+
+    /// In the order of designerButtons().
+    QList<Button> buttons;
+    Box font;
+    Box size;
+
+    friend bool operator==(const DesignerBarState &, const DesignerBarState &) = default;
+};
+
+/// How it should look where the designer's caret stands now.
+DesignerBarState designerBarState(Designer &designer);
+
+/// The size at the caret as the box shows it; empty where there is none, or several.
+QString currentFontSize(Designer &designer);
+
+} // namespace zephira

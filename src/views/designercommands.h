@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/designercommand.h"
+
+#include <QString>
+
+#include <span>
+
+namespace zephira {
+
+/// A button of the designer's toolbar and its command.
+struct DesignerButton {
+    QStringView key;
+    DesignerCommand command;
+    QStringView tip;
+    /// Name of an icon of the theme.
+    QStringView icon;
+};
+
+/// Eleven rows. The keys "Outdent" and "Indent" are crossed with their commands: the button named Indent outdents.
+std::span<const DesignerButton> designerButtons();
+
+/// The commands of a menu array by index, None standing for a separator: "InsertSub", "TableSub", "D2DSub", or "edit"
+/// for the editing commands. Empty for any other name.
+std::span<const DesignerCommand> designerMenuCommands(QStringView array);
+
+} // namespace zephira

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/designertools.h"
+
+#include "controls/errorstyles.h"
+#include "controls/prompts.h"
+#include "views/designerbarstate.h"
+#include "views/designercommands.h"
+#include "views/designermenus.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr int smallestSize = 1;
+constexpr int largestSize = 7;
+
+} // namespace
+
+QString markupColour(quint32 number)
+{
+    const QString digits = u"%1"_s.arg(number & 0xffffff, 6, 16, QLatin1Char('0')).toUpper();
+    return u'#' + digits.last(2) + digits.mid(2, 2) + digits.first(2);
+}
+
+bool DesignerTools::documentComplete()
+{
+    if (m_ready)
+        return false;
+    endingQuietly([&] {
+        const QVariant names = m_context.designer.execCommand(DesignerCommand::GetBlockFormatNames,
+                                                              DesignerPrompting::DontPromptUser);
+        m_blockFormats = names.toStringList().mid(0, blockFormatEntries);
+    });
+    m_ready = true;
+    return true;
+}
+
+void DesignerTools::run(DesignerCommand command, const QVariant &argument, DesignerPrompting prompting)
+{
+    endingQuietly([&] { m_context.designer.execCommand(command, prompting, argument); });
+}
+
+void DesignerTools::runIfReady(DesignerCommand command, const QVariant &argument)
+{
+    if (m_ready && m_context.designer.queryStatus(command) >= DesignerStatus::Enabled)
+        run(command, argument);
+}
+
+void DesignerTools::clickButton(const QString &key)
+{
+    const auto buttons = designerButtons();
+    const auto button = std::ranges::find_if(buttons, [&](const DesignerButton &row) { return row.key == key; });
+    if (button == buttons.end())
+        return;
+    if (button->command == DesignerCommand::SetForeColor)
+        chooseColour();
+    else
+        run(button->command);
+}
+
+void DesignerTools::chooseColour()
+{
+    const std::optional<quint32> chosen = m_context.prompts.colour(m_colour);
+    if (!chosen)
+        return;
+    m_colour = *chosen;
+    run(DesignerCommand::SetForeColor, markupColour(m_colour));
+}
+
+void DesignerTools::chooseFont(const QString &name)
+{
+    runIfReady(DesignerCommand::SetFontName, name);
+}
+
+void DesignerTools::chooseFontSize(int size)
+{
+    runIfReady(DesignerCommand::SetFontSize, size);
+}
+
+std::optional<QString> DesignerTools::enterFontSize(const QString &text)
+{
+    bool isNumber = false;
+    const double size = text.toDouble(&isNumber);
+    if (!isNumber || size < smallestSize || size > largestSize)
+        return currentFontSize(m_context.designer);
+    runIfReady(DesignerCommand::SetFontSize, text);
+    return std::nullopt;
+}
+
+void DesignerTools::clickMenu(const QString &name)
+{
+    Designer &designer = m_context.designer;
+    if (const DesignerSwitch *row = findDesignerSwitch(name)) {
+        (designer.*row->set)(!(designer.*row->get)());
+    } else if (name == u"InsertButton") {
+        endingQuietly([&] { designer.pasteHtml(u"<BUTTON TITLE=Button>Button!</BUTTON>"_s); });
+    } else if (const int format = blockFormatIndex(name); format >= 0 && format < m_blockFormats.size()) {
+        run(DesignerCommand::SetBlockFormat, m_blockFormats[format], DesignerPrompting::DontPromptUser);
+    } else if (const DesignerCommand command = designerMenuCommand(name);
+               command != DesignerCommand::None && command != DesignerCommand::InsertTable) {
+        run(command);
+    }
+}
+
+} // namespace zephira

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/frmwebdisp.h"
+
+#include "controls/editingcontrol.h"
+#include "controls/files/filestore.h"
+#include "controls/prompts.h"
+#include "controls/shell.h"
+#include "ui_frmwebdisp.h"
+#include "views/pagetext.h"
+
+#include <QGuiApplication>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+frmwebdisp::frmwebdisp(const AppContext &context, const ViewerFactory &makeViewer, const PageFetcherLoader &loadFetcher,
+                       QWidget *owner)
+    : QDialog(owner), m_context(context), m_ui(std::make_unique<Ui::frmwebdisp>()), m_loadFetcher(loadFetcher)
+{
+    m_ui->setupUi(this);
+    m_source = makeViewer(this);
+    m_source.widget->setObjectName(u"RichTextBox1"_s);
+    m_source.widget->setAccessibleName(u"Source of the page"_s);
+    m_source.control->setEditorFont({.name = u"Courier New"_s});
+    m_ui->sourceLayout->addWidget(m_source.widget);
+    m_ui->URL->setFocus();
+    m_ui->URL->end(false);
+    connect(m_ui->Command1, &QPushButton::clicked, this, &frmwebdisp::grabSource);
+    connect(m_ui->Command2, &QPushButton::clicked, this, &frmwebdisp::viewPage);
+    connect(m_ui->mnucopy, &QAction::triggered, this, &frmwebdisp::copySource);
+    connect(m_ui->filesaveas, &QAction::triggered, this, &frmwebdisp::saveAs);
+}
+
+frmwebdisp::~frmwebdisp() = default;
+
+Result<QString> frmwebdisp::sourceOf(const QString &address) const
+{
+    const Result<PageFetcher *> fetcher = m_loadFetcher();
+    if (!fetcher)
+        return fetcher.error();
+    const Result<FetchedPage> page = fetcher.value()->fetch(address);
+    return page ? Result<QString>(pageText(page.value())) : page.error();
+}
+
+void frmwebdisp::grabSource()
+{
+    const QString address = m_ui->URL->text();
+    setWindowTitle(u"Zephira Web Viewer - "_s + address);
+    Result<QString> source = [&] {
+        // Nothing is painted while the page is fetched, so the button has to show before that why.
+        m_ui->Command1->setEnabled(false);
+        m_ui->Command1->repaint();
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        const auto restore = qScopeGuard([this] {
+            QGuiApplication::restoreOverrideCursor();
+            m_ui->Command1->setEnabled(true);
+        });
+        return sourceOf(address);
+    }();
+    if (source)
+        m_source.control->setText(source.value());
+    else
+        m_context.prompts.ask({u"The document you requested could not be found."_s});
+}
+
+void frmwebdisp::viewPage()
+{
+    // An address that no program takes opens nothing, and nothing is said.
+    if (!m_context.shell.open(m_ui->URL->text()))
+        return;
+}
+
+void frmwebdisp::copySource()
+{
+    m_source.control->executeCmd(static_cast<int>(EditorCommand::SelectAll));
+    m_source.control->copy();
+    m_context.prompts.tell(u"The source code has been placed on the clipboard"_s);
+}
+
+void frmwebdisp::saveAs()
+{
+    const auto path = m_context.prompts.file(
+        {.filter = u"Text Files (*.txt)|*.txt|HTML Files (*.html)|*.html|"_s, .saving = true});
+    if (!path || path->isEmpty())
+        return;
+    const Result<void> written = m_context.files.write(*path, m_source.control->text().toUtf8());
+    if (!written)
+        m_context.prompts.tell(written.error().sentence, {}, Question::Icon::Exclamation);
+}
+
+} // namespace zephira

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/lateviews.h"
+
+#include <utility>
+
+namespace zephira {
+
+void LateDesigner::attach(Designer &designer)
+{
+    m_designer = &designer;
+    m_designer->setEvents(std::exchange(m_events, {}));
+}
+
+void LateDesigner::setEvents(DesignerEvents events)
+{
+    if (isAttached())
+        m_designer->setEvents(std::move(events));
+    else
+        m_events = std::move(events);
+}
+
+void LateBrowser::attach(Browser &browser)
+{
+    m_browser = &browser;
+    if (m_navigateComplete)
+        m_browser->onNavigateComplete(std::exchange(m_navigateComplete, {}));
+}
+
+void LateBrowser::navigate(const QString &address)
+{
+    if (m_browser)
+        m_browser->navigate(address);
+}
+
+void LateBrowser::goBack()
+{
+    if (m_browser)
+        m_browser->goBack();
+}
+
+void LateBrowser::goForward()
+{
+    if (m_browser)
+        m_browser->goForward();
+}
+
+void LateBrowser::goHome()
+{
+    if (m_browser)
+        m_browser->goHome();
+}
+
+void LateBrowser::refresh()
+{
+    if (m_browser)
+        m_browser->refresh();
+}
+
+void LateBrowser::stop()
+{
+    if (m_browser)
+        m_browser->stop();
+}
+
+QString LateBrowser::locationUrl() const
+{
+    return m_browser ? m_browser->locationUrl() : QString();
+}
+
+void LateBrowser::setHome(const QString &address)
+{
+    if (m_browser)
+        m_browser->setHome(address);
+}
+
+void LateBrowser::onNavigateComplete(std::function<void()> handler)
+{
+    if (m_browser)
+        m_browser->onNavigateComplete(std::move(handler));
+    else
+        m_navigateComplete = std::move(handler);
+}
+
+} // namespace zephira

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/browser.h"
+#include "controls/designer.h"
+
+namespace zephira {
+
+/// The designer from the start of the program on, although the real one is made at its first use. Until then it answers
+/// like a designer that isn't showing and holds nothing.
+class LateDesigner final : public Designer
+{
+public:
+    /// From now on everything goes to the real one, which outlives this.
+    void attach(Designer &designer);
+    bool isAttached() const { return m_designer != &m_none; }
+
+    /// Visual mode is what the window says it is, not whether the designer can be seen just now.
+    bool isShowing() const override { return m_isShowing; }
+    void setShowing(bool showing) { m_isShowing = showing; }
+    bool isDirty() const override { return m_designer->isDirty(); }
+    QString documentHtml() override { return m_designer->documentHtml(); }
+    void setDocumentHtml(const QString &html) override { m_designer->setDocumentHtml(html); }
+    void loadDocument(const QString &path) override { m_designer->loadDocument(path); }
+    QString baseFile() const override { return m_designer->baseFile(); }
+    void setBaseFile(const QString &path) override { m_designer->setBaseFile(path); }
+    void pasteHtml(const QString &html) override { m_designer->pasteHtml(html); }
+    QVariant execCommand(DesignerCommand command, DesignerPrompting prompting, const QVariant &argument) override
+    {
+        return m_designer->execCommand(command, prompting, argument);
+    }
+    int queryStatus(DesignerCommand command) const override { return m_designer->queryStatus(command); }
+    QString selectionType() const override { return m_designer->selectionType(); }
+    bool showBorders() const override { return m_designer->showBorders(); }
+    void setShowBorders(bool on) override { m_designer->setShowBorders(on); }
+    bool showDetails() const override { return m_designer->showDetails(); }
+    void setShowDetails(bool on) override { m_designer->setShowDetails(on); }
+    bool browseMode() const override { return m_designer->browseMode(); }
+    void setBrowseMode(bool on) override { m_designer->setBrowseMode(on); }
+    bool snapToGrid() const override { return m_designer->snapToGrid(); }
+    void setSnapToGrid(bool on) override { m_designer->setSnapToGrid(on); }
+    void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override
+    {
+        m_designer->setContextMenu(entries, states);
+    }
+    /// Handlers that were given before the real designer came are handed on to it.
+    void setEvents(DesignerEvents events) override;
+
+private:
+    NoDesigner m_none;
+    Designer *m_designer = &m_none;
+    DesignerEvents m_events;
+    bool m_isShowing = false;
+};
+
+/// The browser in the same manner. Where it isn't there yet it shows nothing, and nothing is missed by going nowhere.
+class LateBrowser final : public Browser
+{
+public:
+    void attach(Browser &browser);
+    bool isAttached() const { return m_browser != nullptr; }
+
+    void navigate(const QString &address) override;
+    void goBack() override;
+    void goForward() override;
+    void goHome() override;
+    void refresh() override;
+    void stop() override;
+    QString locationUrl() const override;
+    void setHome(const QString &address) override;
+    void onNavigateComplete(std::function<void()> handler) override;
+
+private:
+    Browser *m_browser = nullptr;
+    std::function<void()> m_navigateComplete;
+};
+
+} // namespace zephira

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/previewpane.h"
+
+#include "controls/browser.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+struct NavigationButton {
+    QStringView key;
+    QStringView tip;
+    QStringView icon;
+    void (Browser::*action)();
+};
+
+constexpr NavigationButton navigationButtons[] = {
+    {u"back", u"Back", u"go-previous", &Browser::goBack},
+    {u"forward", u"Forward", u"go-next", &Browser::goForward},
+    {u"stop", u"Stop loading", u"process-stop", &Browser::stop},
+    {u"refresh", u"Load the page again", u"view-refresh", &Browser::refresh},
+    {u"home", u"Back to the document", u"go-home", &Browser::goHome},
+};
+
+} // namespace
+
+PreviewPane::PreviewPane(Browser &browser, QWidget *parent) : QWidget(parent), m_browser(browser)
+{
+    auto *bar = new QWidget(this);
+    bar->setObjectName(u"cbtop"_s);
+    m_buttons = new QToolBar(bar);
+    m_buttons->setObjectName(u"toolbarnav"_s);
+    m_buttons->setAccessibleName(u"Navigation"_s);
+    addButtons();
+    m_address = new QLineEdit(bar);
+    m_address->setObjectName(u"txturl"_s);
+    m_address->setToolTip(u"Address of the page"_s);
+    m_address->setAccessibleName(u"Address of the page"_s);
+    auto *goButton = new QPushButton(u"Go"_s, bar);
+    goButton->setObjectName(u"cmdgo"_s);
+    goButton->setToolTip(u"Show the page of this address"_s);
+
+    auto *barLayout = new QHBoxLayout(bar);
+    barLayout->setContentsMargins(2, 2, 2, 2);
+    barLayout->addWidget(m_buttons);
+    barLayout->addWidget(m_address, 1);
+    barLayout->addWidget(goButton);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar);
+
+    connect(m_address, &QLineEdit::returnPressed, this, &PreviewPane::go);
+    connect(goButton, &QPushButton::clicked, this, &PreviewPane::go);
+    m_browser.onNavigateComplete([this] { m_address->setText(m_browser.locationUrl()); });
+}
+
+void PreviewPane::addButtons()
+{
+    for (const NavigationButton &button : navigationButtons) {
+        QAction *action = m_buttons->addAction(button.tip.toString());
+        action->setObjectName(button.key);
+        connect(action, &QAction::triggered, this, [this, &button] { (m_browser.*button.action)(); });
+    }
+}
+
+void PreviewPane::setBrowserWidget(QWidget *widget)
+{
+    static_cast<QVBoxLayout *>(layout())->addWidget(widget, 1);
+    setFocusProxy(widget);
+}
+
+/// Icons cost more than the rest of the bar, so they wait until it shows.
+void PreviewPane::showEvent(QShowEvent *event)
+{
+    for (const NavigationButton &button : navigationButtons) {
+        QAction *action = m_buttons->findChild<QAction *>(button.key.toString());
+        if (action->icon().isNull())
+            action->setIcon(QIcon::fromTheme(button.icon.toString()));
+    }
+    QWidget::showEvent(event);
+}
+
+void PreviewPane::go()
+{
+    m_browser.navigate(m_address->text());
+}
+
+} // namespace zephira

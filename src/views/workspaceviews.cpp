@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/workspaceviews.h"
+
+#include "controls/browser.h"
+#include "controls/designer.h"
+#include "controls/documenthost.h"
+#include "controls/editingcontrol.h"
+#include "controls/errorstyles.h"
+#include "controls/files/configuration.h"
+#include "controls/files/filestore.h"
+#include "controls/prompts.h"
+
+#include <QFileInfo>
+#include <QUrl>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+const QString emptyPage = u"about:blank"_s;
+const QString noProjectPath = u"Project Path"_s;
+const QString serverCopy = u"prevzephirafile.asp"_s;
+
+/// What the preview makes of a document.
+enum class PreviewKind {
+    None,       ///< a page that says that there is no preview
+    Page,       ///< the document itself
+    StyleSheet, ///< a sample page that the document styles
+    Unchanged,  ///< the view goes on showing what it held
+};
+
+/// By the rows of the language list.
+constexpr std::array previewKinds = {
+    PreviewKind::None, PreviewKind::Page, PreviewKind::None, PreviewKind::None,       PreviewKind::Page,
+    PreviewKind::None, PreviewKind::None, PreviewKind::Page, PreviewKind::StyleSheet, PreviewKind::Unchanged,
+};
+
+PreviewKind previewKind(int languageRow)
+{
+    return languageRow >= 0 && size_t(languageRow) < previewKinds.size() ? previewKinds[size_t(languageRow)]
+                                                                         : PreviewKind::Unchanged;
+}
+
+QString withoutFolder(const QString &path)
+{
+    return path.mid(qMax(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\')) + 1);
+}
+
+/// The question before a page is copied into the server's folder under a name.
+Question serverQuestion(const QString &fileName, const QString &reason = {})
+{
+    return {u"You must save your ASP document to your web servers root directory in order to continue, press OK to save "
+            "this document to the directory you designated as your LOCAL web server's root directory, with the filename: "_s
+                + fileName + reason,
+            {},
+            Question::Icon::Question,
+            Question::Buttons::OkCancel};
+}
+
+} // namespace
+
+QString previewCopyName(const QString &name)
+{
+    const QString title = withoutFolder(name);
+    const qsizetype dot = title.lastIndexOf(u'.');
+    return name + u"temp."_s + (dot < 0 ? QString() : title.mid(dot + 1));
+}
+
+QString serverAddress(const QString &server, const QString &fileName)
+{
+    const QString base = server.isEmpty() ? u"http://localhost/"_s : server;
+    return base + (base.endsWith(u'/') ? QString() : u"/"_s) + QString::fromLatin1(QUrl::toPercentEncoding(fileName));
+}
+
+WorkspaceViews::WorkspaceViews(const AppContext &context, Browser &browser, WorkspaceWindow &window)
+    : m_context(context), m_browser(browser), m_window(window)
+{
+}
+
+void WorkspaceViews::select(WorkspaceView view)
+{
+    if (view == m_current && view != WorkspaceView::Preview)
+        return;
+    if (!m_window.prepare(view)) {
+        m_window.selectTab(WorkspaceView::Code);
+        return;
+    }
+    endingQuietly([&] {
+        switch (view) {
+        case WorkspaceView::Code:
+            selectCode();
+            break;
+        case WorkspaceView::Preview:
+            selectPreview();
+            break;
+        case WorkspaceView::Visual:
+            selectVisual();
+            break;
+        }
+    });
+}
+
+void WorkspaceViews::reset()
+{
+    endingQuietly([&] { m_context.designer.setDocumentHtml(m_context.editor.text()); });
+}
+
+void WorkspaceViews::carryBack()
+{
+    Designer &designer = m_context.designer;
+    if (!designer.isShowing() || !designer.isDirty())
+        return;
+    m_context.editor.setText(designer.documentHtml());
+    m_window.markModified();
+}
+
+void WorkspaceViews::show(WorkspaceView view)
+{
+    m_current = view;
+    m_window.setVisualMenusEnabled(view == WorkspaceView::Visual);
+    if (view != WorkspaceView::Preview)
+        m_window.setSourceMenusEnabled(view == WorkspaceView::Code);
+    m_window.showControls(view);
+}
+
+void WorkspaceViews::selectCode()
+{
+    m_browser.navigate(emptyPage);
+    carryBack();
+    show(WorkspaceView::Code);
+}
+
+void WorkspaceViews::selectPreview()
+{
+    carryBack();
+    show(WorkspaceView::Preview);
+    switch (previewKind(m_context.document.languageRow())) {
+    case PreviewKind::None:
+        m_browser.navigate(shippedPage(u"filenoprev.htm"_s));
+        break;
+    case PreviewKind::Page:
+        previewPage();
+        break;
+    case PreviewKind::StyleSheet:
+        previewStyleSheet();
+        break;
+    case PreviewKind::Unchanged:
+        break;
+    }
+}
+
+void WorkspaceViews::previewStyleSheet()
+{
+    saveAndNavigate(shippedPage(u"style.css"_s), shippedPage(u"CSSpreview.html"_s));
+}
+
+void WorkspaceViews::previewPage()
+{
+    const QString name = m_context.document.commonDialogFile();
+    if (name.endsWith(u".asp", Qt::CaseInsensitive)) {
+        previewThroughServer(withoutFolder(name));
+        return;
+    }
+    const QString copy = temporaryFile(name);
+    m_window.setPreviewTarget(copy);
+    saveAndNavigate(copy, copy);
+}
+
+/// Where the copy of a document stands while it is shown.
+QString WorkspaceViews::temporaryFile(const QString &name) const
+{
+    if (!name.isEmpty())
+        return previewCopyName(name);
+    const QString project = m_context.document.projectPath();
+    if (project != noProjectPath && QFileInfo(project).isDir())
+        return project + u"zephiratempfile.htm"_s;
+    return m_window.scratchFolder() + u"/temp.html"_s;
+}
+
+/// A page with code for the server is shown as the server hands it out, so a copy of it has to lie in the server's folder.
+/// It stays there: nothing but the server's own files tells who needs it.
+void WorkspaceViews::previewThroughServer(const QString &name)
+{
+    const QString root = m_context.configuration.value(u"server"_s, u"root"_s);
+    const QString server = m_context.configuration.value(u"server"_s, u"url"_s);
+    const bool isTaken = m_context.files.FileExists(root + name);
+    const Question question =
+        isTaken ? serverQuestion(serverCopy, u" because a file with a name identical to yours already exists in your "
+                                             "root directory"_s)
+                : serverQuestion(name);
+    if (m_context.prompts.ask(question) != Answer::Ok)
+        return;
+    const QString &copy = isTaken ? serverCopy : name;
+    const QString address = serverAddress(server, copy);
+    if (!isTaken)
+        m_window.setPreviewTarget(address);
+    saveAndNavigate(root + copy, address);
+}
+
+/// A copy that can't be written stops nothing: the browser then shows what stands in its place.
+void WorkspaceViews::saveAndNavigate(const QString &file, const QString &address)
+{
+    if (const Result<void> saved = m_context.editor.saveFile(file, false); !saved)
+        m_window.notice(saved.error().sentence);
+    m_browser.setHome(address);
+    m_browser.navigate(address);
+}
+
+QString WorkspaceViews::shippedPage(const QString &name) const
+{
+    return m_context.appPath + u"/deps/"_s + name;
+}
+
+void WorkspaceViews::selectVisual()
+{
+    m_browser.navigate(emptyPage);
+    if (m_window.docModified()) {
+        const Answer answer = m_context.prompts.ask(
+            {u"You must save your document in order to use the visual editor, please click OK to continue, or cancel to go "
+             "back to code view"_s,
+             u"Save Work"_s, Question::Icon::Question, Question::Buttons::OkCancel});
+        if (answer != Answer::Ok) {
+            m_window.selectTab(WorkspaceView::Code);
+            return;
+        }
+        m_window.doSave();
+    }
+    show(WorkspaceView::Visual);
+    Designer &designer = m_context.designer;
+    const QString name = m_context.document.commonDialogFile();
+    const bool isLoaded = !name.isEmpty() && endingQuietly([&] {
+        designer.loadDocument(name);
+        m_designerBase = m_context.document.projectPath();
+    });
+    if (!isLoaded)
+        designer.setBaseFile(name);
+    // A document without a file, one that can't be read, and one whose save was refused or failed come by their text.
+    if (!isLoaded || m_window.docModified())
+        designer.setDocumentHtml(m_context.editor.text());
+}
+
+} // namespace zephira

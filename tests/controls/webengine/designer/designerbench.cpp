@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "designerbench.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QMouseEvent>
+#include <QRegularExpression>
+#include <QWebEngineScript>
+#include <QWebEngineView>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// Sets the selection that the signs of a page stand for. They are looked up in a copy of the page, because the designer
+/// would take their removal for a change.
+const QString setSelection = uR"js((html => {
+    const copy = new DOMParser().parseFromString(html, 'text/html').body;
+    const walker = document.createTreeWalker(copy, NodeFilter.SHOW_TEXT);
+    const texts = [];
+    while (walker.nextNode())
+        texts.push(walker.currentNode);
+    const places = {};
+    for (const text of texts) {
+        for (let i; (i = text.data.search(/[\[\]|{]/)) >= 0;) {
+            places[text.data[i]] = [text, i];
+            text.deleteData(i, 1);
+        }
+    }
+    // A text that was a sign alone isn't in the page.
+    for (const text of texts.filter(each => each.length === 0)) {
+        for (const sign in places) {
+            if (places[sign][0] === text)
+                places[sign] = [text.parentNode, [...text.parentNode.childNodes].indexOf(text)];
+        }
+        text.remove();
+    }
+    const inPage = ([node, offset]) => {
+        const way = [];
+        for (; node !== copy; node = node.parentNode)
+            way.unshift([...node.parentNode.childNodes].indexOf(node));
+        return [way.reduce((parent, index) => parent.childNodes[index], document.body), offset];
+    };
+    const selection = getSelection();
+    const element = places['{'] && inPage(places['{']);
+    if (element) {
+        const [node, offset] = element;
+        const whole = node.nodeType === Node.TEXT_NODE ? node.nextSibling : node.childNodes[offset];
+        const range = new Range();
+        range.selectNode(whole);
+        selection.removeAllRanges();
+        selection.addRange(range);
+    } else if (places['[']) {
+        selection.setBaseAndExtent(...inPage(places['[']), ...inPage(places[']']));
+    } else if (places['|']) {
+        selection.collapse(...inPage(places['|']));
+    }
+}))js"_s;
+
+/// The body with signs in the place of the selection's ends. The page itself isn't touched: the ends are found again in a
+/// copy by the way that leads to them.
+const QString showSelection = uR"js((() => {
+    const copy = document.body.cloneNode(true);
+    const selection = getSelection();
+    if (selection.rangeCount > 0) {
+        const range = selection.getRangeAt(0);
+        const find = node => {
+            const way = [];
+            for (; node !== document.body; node = node.parentNode) {
+                if (!node || !node.parentNode)
+                    return null;
+                way.unshift([...node.parentNode.childNodes].indexOf(node));
+            }
+            return way.reduce((parent, index) => parent.childNodes[index], copy);
+        };
+        const put = (node, offset, sign) => {
+            if (!node)
+                return;
+            if (node.nodeType === Node.TEXT_NODE)
+                node.insertData(offset, sign);
+            else
+                node.insertBefore(new Text(sign), node.childNodes[offset] ?? null);
+        };
+        const start = find(range.startContainer);
+        const end = find(range.endContainer);
+        const whole = !range.collapsed && range.startContainer === range.endContainer
+            && range.endOffset === range.startOffset + 1 && range.startContainer.nodeType === Node.ELEMENT_NODE;
+        if (!range.collapsed && !whole)
+            put(end, range.endOffset, ']');
+        put(start, range.startOffset, range.collapsed ? '|' : whole ? '{' : '[');
+    }
+    return copy.innerHTML;
+})())js"_s;
+
+} // namespace
+
+DesignerBench::DesignerBench()
+{
+    QObject::connect(&designer, &DesignerWidget::DocumentComplete, &designer, [this] { ++m_completed; });
+    designer.resize(600, 400);
+    designer.show();
+}
+
+void DesignerBench::awaitComplete()
+{
+    const int before = m_completed;
+    QTRY_VERIFY_WITH_TIMEOUT(m_completed > before, patience);
+}
+
+void DesignerBench::load(const QString &html)
+{
+    designer.setDocumentHtml(html);
+    awaitComplete();
+}
+
+void DesignerBench::show(const QString &html)
+{
+    static const QRegularExpression signs(u"[\\[\\]|{]"_s);
+    QString page = html;
+    load(page.remove(signs));
+    const QByteArray argument = QJsonDocument(QJsonArray{html}).toJson(QJsonDocument::Compact);
+    ask(u"%1(...%2)"_s.arg(setSelection, QString::fromUtf8(argument)));
+}
+
+QVariant DesignerBench::ask(const QString &script)
+{
+    std::optional<QVariant> answer;
+    designer.page().runJavaScript(script, QWebEngineScript::ApplicationWorld,
+                                  [&](const QVariant &value) { answer = value; });
+    if (!QTest::qWaitFor([&] { return answer.has_value(); }, patience))
+        qFatal("the page doesn't answer");
+    return *answer;
+}
+
+QVariant DesignerBench::run(DesignerCommand command, const QVariant &argument)
+{
+    return designer.execCommand(command, DesignerPrompting::DontPromptUser, argument);
+}
+
+int DesignerBench::status(DesignerCommand command)
+{
+    // A selection made by script is reported a moment later; the answer to a question says it at once.
+    return ask(u"zephiraDesigner.state().state.statuses[%1]"_s.arg(static_cast<int>(command))).toInt();
+}
+
+QString DesignerBench::text()
+{
+    return ask(showSelection).toString();
+}
+
+QString DesignerBench::body()
+{
+    return ask(u"document.body.innerHTML"_s).toString();
+}
+
+QWidget &DesignerBench::target()
+{
+    return *designer.view().focusProxy();
+}
+
+void DesignerBench::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    target().setFocus();
+    QTest::keyClick(&target(), key, modifiers);
+}
+
+void DesignerBench::type(const QString &text)
+{
+    target().setFocus();
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, &target(), QTest::asciiToKey(c.toLatin1()), c, Qt::NoModifier);
+}
+
+void DesignerBench::mouse(QEvent::Type type, const QPoint &place, Qt::MouseButton button)
+{
+    const bool isMove = type == QEvent::MouseMove;
+    const bool isUp = type == QEvent::MouseButtonRelease;
+    QMouseEvent event(type, place, designer.view().mapToGlobal(place), isMove ? Qt::NoButton : button,
+                      isUp ? Qt::NoButton : button, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target(), &event);
+}
+
+void DesignerBench::click(const QPoint &place)
+{
+    mouse(QEvent::MouseButtonPress, place);
+    mouse(QEvent::MouseButtonRelease, place);
+}
+
+void DesignerBench::drag(const QPoint &from, const QPoint &to)
+{
+    mouse(QEvent::MouseButtonPress, from);
+    mouse(QEvent::MouseMove, (from + to) / 2);
+    mouse(QEvent::MouseMove, to);
+    mouse(QEvent::MouseButtonRelease, to);
+}
+
+QString DesignerBench::write(const QString &name, const QByteArray &content) const
+{
+    const QString path = folder.path() + u'/' + name;
+    QDir().mkpath(path.section(u'/', 0, -2));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("can't write %s", qPrintable(path));
+    return path;
+}
+
+} // namespace zephira

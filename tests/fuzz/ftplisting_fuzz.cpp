@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What servers send: reading never fails, and no name gets through that could do harm as a file's.
+#include "ftp/folderlisting.h"
+#include "ftp/ftpreply.h"
+#include "ftp/remotename.h"
+#include "ftp/remotenames.h"
+
+#include <QSet>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void check(const std::vector<zephira::ListedEntry> &entries)
+{
+    QSet<QByteArray> names;
+    zephira::RemoteNames shown;
+    for (const zephira::ListedEntry &entry : entries) {
+        if (!zephira::isSafeRemoteName(QByteArrayView(entry.name)) || names.contains(entry.name))
+            std::abort();
+        names.insert(entry.name);
+        // What is shown for a name is what it is asked for by.
+        if (shown.sent(u"/a/"_s + shown.shown(u"/a/"_s, entry.name)) != "/a/" + entry.name)
+            std::abort();
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+{
+    const QByteArray input(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    check(zephira::readList(input, QDate(2024, 3, 10)));
+    check(zephira::readMlsd(input));
+
+    zephira::FtpReplyReader reader;
+    for (const QByteArray &line : input.split('\n')) {
+        if (!reader.take(line))
+            break;
+    }
+    if (reader.isComplete()) {
+        extendedPassivePort(reader.reply());
+        passivePort(reader.reply());
+        quotedFolder(reader.reply());
+        hasFeature(reader.reply(), "MLST");
+    }
+    return 0;
+}

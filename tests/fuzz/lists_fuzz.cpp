@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The lists of the side pane in files that anybody wrote: each line is read once, trees hang together, and an entry that
+// is added to a custom tab is read again as it was.
+#include "controls/files/textfile.h"
+#include "controls/files/textlines.h"
+#include "panes/customtabfile.h"
+#include "panes/sottree.h"
+#include "tags/tagfile.h"
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+void check(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+void checkLines(const QString &text, const QStringList &lines)
+{
+    qsizetype length = 0;
+    for (const QString &line : lines) {
+        check(!line.contains(u'\r') && !line.contains(u'\n'));
+        length += line.size();
+    }
+    check(length + text.count(u'\r') + text.count(u'\n') == text.size());
+}
+
+void checkTree(const QStringList &lines)
+{
+    const SotTree tree = parseSotTree(lines);
+    const auto count = static_cast<qsizetype>(tree.nodes.size());
+    check(tree.faultyLine == 0 ? count == lines.size() : count == tree.faultyLine - 1);
+    for (qsizetype i = 0; i < count; ++i) {
+        const SotTree::Node &node = tree.nodes[static_cast<std::size_t>(i)];
+        check(node.parent < i && lines[i].endsWith(node.caption) && !node.caption.startsWith(u'\t'));
+        check((node.parent < 0) == !lines[i].startsWith(u'\t'));
+    }
+}
+
+void checkCustomTab(const QString &text, const QStringList &lines)
+{
+    const CustomTabFile tab = parseCustomTab(lines);
+    check(tab.entries.size() <= static_cast<std::size_t>(lines.size()));
+    const CustomTabFile::Entry entry{u"title, too"_s, u"<b>"_s};
+    const CustomTabFile longer = parseCustomTab(textLines(text + customTabEntry(entry.title, entry.code)));
+    // A title without its code takes the title line that follows for it; the code is then an entry of its own.
+    check(longer.entries.back() == entry || longer.entries.back() == CustomTabFile::Entry{entry.code, entry.code});
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QString text = QString::fromUtf8(decodeText(bytes).utf8);
+    const QStringList lines = textLines(text);
+    checkLines(text, lines);
+    checkTree(lines);
+    checkCustomTab(text, lines);
+    check(tagCaptions(lines).join(QString()).remove(u' ') == lines.join(QString()).remove(u' '));
+    return 0;
+}

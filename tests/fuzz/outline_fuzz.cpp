@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pages of any kind: the outline is that of the scan written plainly, leaf by leaf and error by error.
+#include "controls/errorstyles.h"
+#include "panes/plainoutline.h"
+
+#include <cstdlib>
+
+using namespace zephira;
+
+namespace {
+
+template<typename Scan>
+QString errorOf(Scan scan)
+{
+    try {
+        scan();
+    } catch (const HandlerError &error) {
+        return error.description;
+    }
+    return {};
+}
+
+bool same(const OutlineLeaf &one, const OutlineLeaf &other)
+{
+    return one.group == other.group && one.caption == other.caption && one.tagText == other.tagText
+           && one.position == other.position;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+{
+    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    std::vector<OutlineLeaf> leaves;
+    const QString error =
+        errorOf([&] { scanOutline(text, [&leaves](OutlineLeaf &&leaf) { leaves.push_back(std::move(leaf)); }); });
+    PlainOutline plain;
+    if (errorOf([&] { plain.parse(text); }) != error)
+        std::abort();
+    if (!std::equal(leaves.begin(), leaves.end(), plain.leaves.begin(), plain.leaves.end(), same))
+        std::abort();
+    return 0;
+}
