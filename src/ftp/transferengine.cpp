@@ -140,7 +140,7 @@ Result<void> TransferEngine::store(const QString &path, const Received &received
         rest = old.readAll();
         pieces.emplace_back(rest);
     }
-    return m_files.write(path, pieces);
+    return m_files.writeCopy(path, pieces);
 }
 
 bool TransferEngine::upload(const TransferQueue::File &file)

@@ -243,9 +243,10 @@ int AtomicWrite::keepAttributes()
     return 0;
 }
 
+/// Ends the writing of the temporary file, on the disk where that is asked for.
 int AtomicWrite::flush()
 {
-    if (m_calls.fsync(m_file) != 0 && !isUnsupported(errno))
+    if (flushes() && m_calls.fsync(m_file) != 0 && !isUnsupported(errno))
         return errno;
     const int file = std::exchange(m_file, -1);
     return m_calls.close(file) == 0 ? 0 : errno;
@@ -256,7 +257,7 @@ int AtomicWrite::takePlace()
     if (m_calls.rename(m_temporary.constData(), m_target.constData()) != 0)
         return errno;
     m_temporary.clear();
-    if (m_folder >= 0 && m_calls.fsync(m_folder) != 0 && !isUnsupported(errno))
+    if (flushes() && m_folder >= 0 && m_calls.fsync(m_folder) != 0 && !isUnsupported(errno))
         return errno;
     return 0;
 }

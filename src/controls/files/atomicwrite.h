@@ -26,7 +26,13 @@ Result<QByteArray> linkTarget(FileSystemCalls &calls, const QString &path);
 class AtomicWrite
 {
 public:
-    AtomicWrite(FileSystemCalls &calls, QString path) : m_calls(calls), m_path(std::move(path)) {}
+    /// When the content has to be on the disk before the name is taken over.
+    enum class Flush { Always, WhenReplacing };
+
+    AtomicWrite(FileSystemCalls &calls, QString path, Flush flush = Flush::Always)
+        : m_calls(calls), m_path(std::move(path)), m_flush(flush)
+    {
+    }
     /// A temporary file that did not take its place is removed.
     ~AtomicWrite();
     AtomicWrite(const AtomicWrite &) = delete;
@@ -43,6 +49,7 @@ private:
     int keepMode();
     int keepAttributes();
     int flush();
+    bool flushes() const { return m_replaces || m_flush == Flush::Always; }
     int takePlace();
 
     Result<void> examineTarget();
@@ -50,6 +57,7 @@ private:
 
     FileSystemCalls &m_calls;
     QString m_path;
+    const Flush m_flush;
     QByteArray m_target;
     QByteArray m_temporary;
     struct stat m_old = {};

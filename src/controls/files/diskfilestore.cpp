@@ -124,6 +124,11 @@ Result<void> DiskFileStore::write(const QString &path, std::span<const QByteArra
     return AtomicWrite(m_calls, path).run(pieces, static_cast<mode_t>(mode));
 }
 
+Result<void> DiskFileStore::writeCopy(const QString &path, std::span<const QByteArrayView> pieces)
+{
+    return AtomicWrite(m_calls, path, AtomicWrite::Flush::WhenReplacing).run(pieces, 0666);
+}
+
 Result<void> DiskFileStore::remove(const QString &path)
 {
     const std::optional<QByteArray> name = systemPath(path);

@@ -46,6 +46,13 @@ public:
     /// Replaces the file with the pieces, joined, so that at every moment the old or the new content stands on the disk.
     /// Mode, owner where possible, and a symbolic link's target are kept. `mode` is for a file that is new.
     virtual Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) = 0;
+    /// As write(), for a copy of what can be had again: where the file is new, nothing waits for the disk, so that many
+    /// small files cost little. Such a file can be lost when the machine stops soon afterwards, but not when the program
+    /// does; one that takes another's place is as safe as ever.
+    virtual Result<void> writeCopy(const QString &path, std::span<const QByteArrayView> pieces)
+    {
+        return write(path, pieces);
+    }
     virtual Result<void> remove(const QString &path) = 0;
     /// True if the path can be opened for reading; an existing file that can't be read counts as absent.
     virtual bool FileExists(const QString &path) const = 0;

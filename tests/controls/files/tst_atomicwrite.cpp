@@ -284,6 +284,21 @@ private slots:
         QCOMPARE(calls.made()[static_cast<std::size_t>(calls.count()) - 2], Call::Sync);
     }
 
+    void newCopyIsNotWaitedFor()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.htm"_s);
+        const QByteArrayView piece = newContent;
+        FaultyCalls calls;
+        DiskFileStore store(calls);
+        QVERIFY(store.writeCopy(path, {&piece, 1}));
+        QCOMPARE(contentOf(path), newContent);
+        QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 0);
+        // What it replaces could be lost with it.
+        QVERIFY(store.writeCopy(path, {&piece, 1}));
+        QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 2);
+    }
+
     void ownerThatCannotBeKeptNarrowsTheGroup()
     {
         const QTemporaryDir folder;
