@@ -32,6 +32,7 @@ class Programs:
         self.commands = {
             "zephira": [folder / "zephira"],
             "bare": [build / "bare"],
+            "bare web": [build / "bareweb"],
             "SciTE": ["scite"],
             "Bluefish": ["bluefish"],
         }
@@ -128,6 +129,16 @@ def typing(programs, report, inputs, _build, _work):
     report.row("jump to the end of 10 MB", ours["jump"], scite["jump"], 0.1, "SciTE")
 
 
+def preview(programs, report, _inputs, _build, work):
+    """The first preview of a small page, from the key, beside a program that is nothing but a web view."""
+    page = work / "small.html"
+    page.write_bytes(makehtml.page(4000))
+    got = programs.interleaved(["zephira", "bare web"], 9, page, {"zephira": ("--preview",)})
+    ours, bare = got["zephira"]["preview"], got["bare web"]["picture"]
+    report.row("first preview of a small page", ours, bare, 1.15, "bare web")
+    report.aim("first preview of a small page", ours, bare, 0.60, "bare web")
+
+
 def in_process(build, name, *arguments):
     """The median real times, in nanoseconds, of a benchmark program's cases by name."""
     done = subprocess.run(
@@ -188,8 +199,18 @@ def saving(_programs, report, inputs, build, work):
 
 def local_folder(_programs, report, _inputs, build, work):
     """A folder of 10,000 entries in the file manager: what showing takes beyond the listing itself."""
-    times = in_process(build, "folder_bench", str(work / "folder"), "10000")
-    for kind in ("files", "folders"):
+    shown_beyond_listing(report, build, "folder_bench", work / "folder", ("files", "folders"))
+
+
+def ftp_folder(_programs, report, _inputs, build, work):
+    """The same in the FTP window, on both of its sides."""
+    shown_beyond_listing(report, build, "ftpwindow_bench", work / "folder", ("server files", "server folders", "local files"))
+
+
+def shown_beyond_listing(report, build, name, folder, kinds):
+    """What showing 10,000 entries takes beyond the listing itself, as a part of half a second."""
+    times = in_process(build, name, str(folder), "10000")
+    for kind in kinds:
         beyond = (times[f"show {kind}"] - times[f"list {kind}"]) / 1e6
         report.row(f"a folder of 10,000 {kind}, shown", beyond, 500, 1.0, "half a second")
 
@@ -226,16 +247,25 @@ def ftp(_programs, report, _inputs, build, work):
                                 ["curl", "-s", "-o", "/dev/null", server.url("large")], 5)
         report.row("1 GiB from a server", size / ours[0] / 1e3, size / theirs[0] / 1e3, 0.95, "curl", "MB/s", at_least=True)
 
-        local = work / "upload"
-        shutil.copyfile(server.files / "large", local)
-        ours, theirs = in_turns([own, "up", *at, local, server.path("up")],
-                                ["curl", "-s", "-T", local, server.url("up")], 5,
-                                lambda: (server.files / "up").unlink(missing_ok=True))
+        folder = work / "moved"
+        shutil.rmtree(folder, ignore_errors=True)
+        folder.mkdir()
+        _, large = run_once([own, "get", *at, server.path("."), "large", folder])
+        report.row("memory of a download of 1 GiB", large, size / 1024, 1.3, "the file", "kB")
+
+        local = folder / "large"
+        up = [own, "up", *at, folder, local.name, server.path("up")]
+        (server.files / "up").mkdir()
+        server.give_to_server(server.files / "up")
+        stored = server.files / "up" / local.name
+        ours, theirs = in_turns(up, ["curl", "-s", "-T", local, server.url(f"up/{local.name}")], 5,
+                                lambda: stored.unlink(missing_ok=True))
         report.row("1 GiB to a server", size / ours[0] / 1e3, size / theirs[0] / 1e3, 0.95, "curl", "MB/s", at_least=True)
         local.write_bytes(b"small")
-        _, small = run_once([own, "up", *at, local, server.path("up")])
+        stored.unlink()
+        _, small = run_once(up)
         report.row("memory of an upload of 1 GiB", ours[1], small, 1.1, "one of 5 bytes", "kB")
-        local.unlink()
+        shutil.rmtree(folder)
 
         for number in range(2000):
             server.add(f"many/{number}.htm", 4096)
@@ -254,8 +284,8 @@ def ftp(_programs, report, _inputs, build, work):
         shutil.rmtree(target)
 
 
-GROUPS = {"start": start, "open": opening, "type": typing, "colour": colouring, "functions": functions, "tools": tools,
-          "save": saving, "folder": local_folder, "ftp": ftp}
+GROUPS = {"start": start, "open": opening, "type": typing, "preview": preview, "colour": colouring, "functions": functions, "tools": tools,
+          "save": saving, "folder": local_folder, "ftpfolder": ftp_folder, "ftp": ftp}
 
 
 def main(build, folder, work, *groups):

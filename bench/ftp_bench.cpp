@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // ftp_bench down HOST PORT REMOTE: reads a server's file in the program's blocks, and forgets them.
-// ftp_bench up HOST PORT LOCAL REMOTE: stores a file on the server.
-// ftp_bench mirror HOST PORT FOLDER LOCALDIR: stores the files of a server's folder in a local one.
+// ftp_bench get HOST PORT FOLDER NAME LOCALDIR: brings a server's file into a local folder, as a download does.
+// ftp_bench up HOST PORT LOCALDIR NAME FOLDER: stores a local file in a server's folder, as an upload does.
+// ftp_bench mirror HOST PORT FOLDER LOCALDIR: downloads all files of a server's folder.
 // Each logs in without a name. The time is taken from outside, with start and login, as that of the peers is.
 #include "controls/clock.h"
+#include "controls/files/diskfilestore.h"
+#include "controls/prompts.h"
+#include "ftp/ftpclient.h"
+#include "ftp/ftpdesk.h"
 #include "ftp/net/netoperations.h"
+#include "ftp/remotelisting.h"
+#include "ftp/transferengine.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QElapsedTimer>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -16,69 +24,106 @@ using namespace zephira;
 
 namespace {
 
-constexpr quint32 blockSize = 1024;
+/// Keeps whether anything but the end of a run was told.
+struct CountingPrompts final : Prompts {
+    Answer ask(const Question &question) override
+    {
+        failures += question.icon == Question::Icon::Exclamation;
+        return Answer::Ok;
+    }
+    std::optional<QString> input(const InputRequest &) override { return {}; }
+    std::optional<QString> file(const FileRequest &) override { return {}; }
+    std::optional<QString> folder(const QString &, const QString &) override { return {}; }
+    std::optional<quint32> colour(quint32) override { return {}; }
+    std::optional<FontChoice> font(const FontChoice &) override { return {}; }
 
-/// Calls `take` with each block of a server's file.
-template<typename Take>
-bool receive(InternetOperations &operations, InternetHandle connection, const QString &path, Take take)
+    int failures = 0;
+};
+
+/// A window that shows nothing.
+struct BlankDesk final : FtpDesk {
+    void log(LogEntry, const QStringList &) override {}
+    void clearLog() override {}
+    void setPanel(int, const QString &) override {}
+    void setBusy(bool) override {}
+    void markTransferType(bool) override {}
+    void markPassive(bool) override {}
+    void clearRemoteTree() override {}
+    void addRemoteRoot() override {}
+    void List() override {}
+    void openModal(const QString &) override {}
+    void refreshLocal() override {}
+    void refreshRemote() override {}
+};
+
+struct BlankDisplay final : TransferDisplay {
+    void beginRun(qint64, double) override {}
+    void beginFile(int, const QString &, double) override {}
+    void moved(const TransferProgress &) override {}
+    void endFile(const TransferProgress &) override {}
+};
+
+/// Runs a queue through the program's own engine.
+bool transfer(FtpClient &client, const TransferQueue &queue)
 {
-    const InternetHandle file = operations.FtpOpenFileA(connection, path, GENERIC_READ, FTP_TRANSFER_TYPE_BINARY, 0);
-    char block[blockSize];
+    DiskFileStore files;
+    CountingPrompts prompts;
+    BlankDisplay display;
+    QElapsedTimer time;
+    time.start();
+    TransferEngine engine(client, files, prompts, display, [&time] { return static_cast<quint32>(time.elapsed()); });
+    return engine.run(queue) == TransferEngine::Outcome::Completed && prompts.failures == 0;
+}
+
+bool down(FtpClient &client, const QStringList &arguments)
+{
+    InternetOperations &operations = client.operations;
+    const InternetHandle file = operations.FtpOpenFileA(client.session.ftpConnectHandle, arguments[0], GENERIC_READ,
+                                                        FTP_TRANSFER_TYPE_BINARY, 0);
+    char block[TransferEngine::blockSize];
     quint32 count = 0;
     bool ok = true;
     do {
-        ok = operations.InternetReadFile(file, block, blockSize, count);
-        take(block, count);
-    } while (ok && count == blockSize);
+        ok = operations.InternetReadFile(file, block, TransferEngine::blockSize, count);
+    } while (ok && count == TransferEngine::blockSize);
     operations.InternetCloseHandle(file);
     return ok;
 }
 
-bool down(InternetOperations &operations, InternetHandle connection, const QStringList &arguments)
+bool get(FtpClient &client, const QStringList &arguments)
 {
-    return receive(operations, connection, arguments[0], [](const char *, quint32) {});
+    client.session.ftpRemoteFolder = arguments[0] + u'/';
+    client.session.ftpLocalFolder = arguments[2] + u'/';
+    return transfer(client, {TransferQueue::Direction::Download, {{arguments[1], 0}}});
 }
 
-bool up(InternetOperations &operations, InternetHandle connection, const QStringList &arguments)
+bool up(FtpClient &client, const QStringList &arguments)
 {
-    QFile local(arguments[0]);
-    const InternetHandle file =
-        operations.FtpOpenFileA(connection, arguments[1], GENERIC_WRITE, FTP_TRANSFER_TYPE_BINARY, 0);
-    bool ok = file != 0 && local.open(QIODevice::ReadOnly);
-    char block[blockSize];
-    while (ok) {
-        const qint64 size = local.read(block, blockSize);
-        if (size <= 0)
-            break;
-        quint32 count = 0;
-        ok = operations.InternetWriteFile(file, block, static_cast<quint32>(size), count);
-    }
-    return operations.InternetCloseHandle(file) && ok;
+    client.session.ftpLocalFolder = arguments[0] + u'/';
+    client.session.ftpRemoteFolder = arguments[2] + u'/';
+    const qint64 size = QFileInfo(client.session.ftpLocalFolder + arguments[1]).size();
+    return transfer(client, {TransferQueue::Direction::Upload, {{arguments[1], size}}});
 }
 
-bool mirror(InternetOperations &operations, InternetHandle connection, const QStringList &arguments)
+bool mirror(FtpClient &client, const QStringList &arguments)
 {
-    FindData entry;
-    const InternetHandle find =
-        operations.FtpFindFirstFileA(connection, arguments[0] + u"/*.*"_s, entry, INTERNET_FLAG_RELOAD, 0);
-    bool ok = find != 0;
-    for (bool found = ok; ok && found; found = operations.InternetFindNextFileA(find, entry)) {
-        QByteArray content;
-        ok = receive(operations, connection, arguments[0] + u'/' + entry.fileName,
-                     [&](const char *block, quint32 count) { content.append(block, count); });
-        QFile file(arguments[1] + u'/' + entry.fileName);
-        ok = ok && file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(content) == content.size();
-    }
-    return ok;
+    client.session.ftpRemoteFolder = arguments[0] + u'/';
+    client.session.ftpLocalFolder = arguments[1] + u'/';
+    const RemoteListing listing = readRemoteListing(client.operations, client.session.ftpConnectHandle,
+                                                    client.session.ftpRemoteFolder + u"*.*"_s);
+    TransferQueue queue;
+    for (const FileRow &file : listing.files)
+        queue.files.push_back({file.name, file.bytes.toLongLong()});
+    return !queue.files.empty() && transfer(client, queue);
 }
 
 struct Task {
     const char16_t *name;
     qsizetype arguments;
-    bool (*run)(InternetOperations &operations, InternetHandle connection, const QStringList &arguments);
+    bool (*run)(FtpClient &client, const QStringList &arguments);
 };
 
-constexpr Task tasks[] = {{u"down", 1, down}, {u"up", 2, up}, {u"mirror", 2, mirror}};
+constexpr Task tasks[] = {{u"down", 1, down}, {u"get", 3, get}, {u"up", 3, up}, {u"mirror", 2, mirror}};
 
 } // namespace
 
@@ -91,11 +136,14 @@ int main(int argc, char **argv)
             continue;
         const SystemClock clock;
         NetOperations operations(clock);
-        const InternetHandle open = operations.InternetOpenA(u"ftp_bench"_s, INTERNET_OPEN_TYPE_DIRECT, {}, {}, 0);
-        const InternetHandle connection = operations.InternetConnectA(
-            open, arguments[2], arguments[3].toUShort(), {}, {}, INTERNET_SERVICE_FTP, INTERNET_FLAG_PASSIVE, 0);
-        return connection != 0 && task.run(operations, connection, arguments.mid(4)) ? 0 : 1;
+        BlankDesk desk;
+        FtpClient client{.operations = operations, .desk = &desk};
+        client.session.ftpOpenHandle = operations.InternetOpenA(u"ftp_bench"_s, INTERNET_OPEN_TYPE_DIRECT, {}, {}, 0);
+        client.session.ftpConnectHandle =
+            operations.InternetConnectA(client.session.ftpOpenHandle, arguments[2], arguments[3].toUShort(), {}, {},
+                                        INTERNET_SERVICE_FTP, INTERNET_FLAG_PASSIVE, 0);
+        return client.session.isConnected() && task.run(client, arguments.mid(4)) ? 0 : 1;
     }
-    std::fputs("usage: ftp_bench down|up|mirror HOST PORT FILE...\n", stderr);
+    std::fputs("usage: ftp_bench down|get|up|mirror HOST PORT ARGUMENT...\n", stderr);
     return 2;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// picture [--keys N] [--end] [--close] [--trace] COMMAND...: starts a program on the present display and measures it from outside. Prints one
+// picture [--keys N] [--end] [--preview] [--close] [--trace] COMMAND...: starts a program on the present display and measures it from outside. Prints one
 // JSON object; every time is in milliseconds unless the name says otherwise.
 //
 //   picture   from exec until the picture is complete and the processor is idle
@@ -8,6 +8,7 @@
 //                                      something is painted for it
 //   jump, jump_complete                with --end: from Ctrl+End until the text there is painted, and until all is at rest
 //   key_end_us, key_end_latency        with both: as above, at the end
+//   preview   with --preview: from F8, which shows the next view, until that is complete and the processor idle
 //
 // The program is killed at the end. With --close its window is closed before that, so that it leaves its settings behind.
 // With --trace it is told on stderr what is painted when, and how much processor time has been used by then.
@@ -38,6 +39,7 @@ constexpr Milliseconds patience = 120s;
 constexpr double textShare = 0.2;
 
 constexpr std::uint32_t endKey = 0xff57;
+constexpr std::uint32_t nextViewKey = 0xffc5; // F8
 constexpr std::uint32_t leftShift = 0xffe1;
 
 double milliseconds(Clock::duration duration)
@@ -118,6 +120,7 @@ Clock::duration jumpToEnd(Screen &screen, Clock::time_point pressed)
 struct Options {
     int keys = 0;
     bool end = false;
+    bool preview = false;
     bool close = false;
     bool trace = false;
 };
@@ -151,6 +154,12 @@ void measure(const Options &options, const std::vector<std::string> &command)
         if (options.keys > 0)
             addTyping("end");
     }
+    if (options.preview) {
+        const Clock::time_point pressed = Clock::now();
+        screen.press(nextViewKey);
+        const Clock::time_point shown = restAfter(pressed, screen, program, true, options.trace);
+        out += ", \"preview\": " + std::to_string(milliseconds(shown - pressed));
+    }
     if (options.close) {
         screen.closeActiveWindow();
         for (const Clock::time_point asked = Clock::now(); program.running() && Clock::now() - asked < 5s;)
@@ -171,6 +180,8 @@ int main(int argc, char **argv)
     for (; next != arguments.end() && next->starts_with("--"); ++next) {
         if (*next == "--end")
             options.end = true;
+        else if (*next == "--preview")
+            options.preview = true;
         else if (*next == "--close")
             options.close = true;
         else if (*next == "--trace")
@@ -181,7 +192,7 @@ int main(int argc, char **argv)
             break;
     }
     if (next == arguments.end() || next->starts_with("--")) {
-        std::fputs("usage: picture [--keys N] [--end] [--close] [--trace] COMMAND [ARGUMENT]...\n", stderr);
+        std::fputs("usage: picture [--keys N] [--end] [--preview] [--close] [--trace] COMMAND [ARGUMENT]...\n", stderr);
         return 2;
     }
     try {

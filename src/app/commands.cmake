@@ -4,13 +4,10 @@ set(APP_COMMANDS_LOGIC
   browserpreview.h browserpreview.cpp
   commandrouter.h commandrouter.cpp
   helppages.h helppages.cpp
-  inserttext.h
   menutable.h menutable.cpp
   palettecommands.h palettecommands.cpp
   palettetable.h palettetable.cpp
-  pasteitem.h pasteitem.cpp
   quicktag.h quicktag.cpp
-  refusals.h refusals.cpp
   sourceformatting.h sourceformatting.cpp
   tagsmenu.h tagsmenu.cpp
   toolbartable.h toolbartable.cpp

@@ -316,6 +316,9 @@ bool Document::openDropped(const QString &path)
         m_context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
         return false;
     }
+    // A designer that is in front would go on with the page from before, and carry that back over the new one.
+    if (m_context.designer.isShowing())
+        m_window.selectCodeTab();
     m_dialog.fileName = path;
     adopt(path);
     m_window.setCountPanel(m_context.editor.textLength());

@@ -40,8 +40,8 @@ public:
     void OpenAFile();
     /// The same for any file, such as one that was dropped on the window.
     void openFileOrImage(const QString &path);
-    /// Makes any file the document, whatever its name says; the language stays what it is. Returns false if the user
-    /// chose to stay, or if the file can't be read, which is told.
+    /// Makes any file the document, whatever its name says, and leaves visual mode; the language stays what it is. Returns
+    /// false if the user chose to stay, or if the file can't be read, which is told.
     bool openDropped(const QString &path);
     /// Chooses the language by the common dialog's file name.
     void SetSyntax();
@@ -65,6 +65,8 @@ public:
     /// Whether the user wanted the text saved at the last askToClose() and it isn't.
     bool saveFailedAtClose() const { return m_saveFailedAtClose; }
 
+    /// Whether something was changed in the designer that hasn't come back to the text yet.
+    bool holdsDesignersWork() const;
     /// Carries the designer's text back into the code view, if it is showing and dirty.
     void flushDesigner();
     /// Deletes the temporary preview file; an address that ends in ".asp" is spared.
@@ -76,8 +78,6 @@ private:
     Answer askToSave(PromptIcon icon);
     /// The save prompt where there are changes; false if the user chose to stay.
     bool mayGoOn(PromptIcon icon);
-    /// Whether something was changed in the designer that hasn't come back to the text yet.
-    bool holdsDesignersWork() const;
     void adopt(const QString &path);
     void readInto(const QString &path);
     void openImage(const QString &path);

@@ -6,7 +6,6 @@
 #include "app/documenttree.h"
 #include "app/filepanecommands.h"
 #include "app/icons.h"
-#include "app/inserttext.h"
 #include "app/languages.h"
 #include "app/menus.h"
 #include "app/palette.h"
@@ -20,6 +19,7 @@
 #include "app/visualtools.h"
 #include "app/windowtabs.h"
 #include "controls/desktop/keyboardlocks.h"
+#include "controls/inserttext.h"
 #include "controls/modalformopener.h"
 #include "controls/quickviewer.h"
 #include "controls/scintilla/codemax.h"
@@ -71,7 +71,7 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
     m_forms->setContext(*m_context);
     m_document = std::make_unique<Document>(*m_context, m_commonDialog, *this);
     m_router = std::make_unique<CommandRouter>(*m_context, *this);
-    m_recoveryKeeper = std::make_unique<RecoveryKeeper>(services.recovery, *m_rt, *m_document);
+    m_recoveryKeeper = std::make_unique<RecoveryKeeper>(services.recovery, *m_rt, m_designer, *m_document);
 
     m_panels = new StatusPanels(*m_ui->stBar, services.clock);
     m_panels->setLit(StatusPanels::CapsLock, false);
@@ -155,6 +155,7 @@ void frmmain::buildWorkspace()
                                   m_services.webViews, this);
     auto *tools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
     connect(tools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
+    connect(tools, &VisualTools::displayChanged, m_recoveryKeeper.get(), &RecoveryKeeper::textChanged);
 }
 
 void frmmain::connectEditor()
@@ -266,7 +267,10 @@ void frmmain::dropEvent(QDropEvent *event)
     if (path.isEmpty())
         return;
     event->acceptProposedAction();
+    // The designer's work belongs to the page from before, so that it goes back to that one first.
+    m_document->flushDesigner();
     m_document->openFileOrImage(path);
+    selectCodeTab();
 }
 
 } // namespace zephira

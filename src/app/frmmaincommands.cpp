@@ -3,7 +3,6 @@
 #include "app/frmmain.h"
 
 #include "app/commandrouter.h"
-#include "app/inserttext.h"
 #include "app/menus.h"
 #include "app/palette.h"
 #include "app/recoverykeeper.h"
@@ -11,6 +10,7 @@
 #include "app/viewswitch.h"
 #include "controls/errorstyles.h"
 #include "controls/formposition.h"
+#include "controls/inserttext.h"
 #include "controls/modalformopener.h"
 #include "controls/quickviewer.h"
 #include "controls/scintilla/codemax.h"

@@ -3,15 +3,18 @@
 
 #include "app/document.h"
 #include "controls/clock.h"
+#include "controls/designer.h"
 #include "controls/files/recoverycopies.h"
 #include "controls/scintilla/codemax.h"
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-RecoveryKeeper::RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, const Document &document)
-    : m_copies(copies), m_editor(editor), m_document(document)
+RecoveryKeeper::RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, Designer &designer, const Document &document)
+    : m_copies(copies), m_editor(editor), m_designer(designer), m_document(document)
 {
     m_running.start();
     m_timer.setSingleShot(true);
@@ -32,7 +35,7 @@ void RecoveryKeeper::textChanged()
 void RecoveryKeeper::due()
 {
     // A text that was saved in the meantime, or loaded and not changed, needs no copy.
-    if (m_document.docModified())
+    if (m_document.docModified() || m_document.holdsDesignersWork())
         writeNow();
     else
         discard();
@@ -49,9 +52,17 @@ void RecoveryKeeper::keepForGood()
     [[maybe_unused]] const Result<QString> kept = m_copies.keepDisk(documentName(), front.toByteArray().append(back));
 }
 
+Result<void> RecoveryKeeper::write()
+{
+    if (!m_document.holdsDesignersWork())
+        return m_copies.write(documentName(), m_editor.utf8Pieces());
+    const QByteArray html = m_designer.documentHtml().toUtf8();
+    return m_copies.write(documentName(), std::array{QByteArrayView(html)});
+}
+
 void RecoveryKeeper::writeNow()
 {
-    if (m_copies.write(documentName(), m_editor.utf8Pieces()))
+    if (write())
         m_schedule.settled();
     else
         m_timer.start(m_schedule.copyFailed(now()));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/files/recoveryschedule.h"
+#include "controls/result.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -10,19 +11,20 @@
 namespace zephira {
 
 class CodeMax;
+class Designer;
 class Document;
 class RecoveryCopies;
 
-/// Keeps a recovery copy of the modified document on disk. It is driven by the change event and never by polling, and
-/// writes at most 15 seconds after a change.
+/// Keeps a recovery copy of the modified document on disk, or of what visual mode has made of it. It is driven by change
+/// events and never by polling, and writes at most 15 seconds after a change.
 class RecoveryKeeper : public QObject
 {
     Q_OBJECT
 
 public:
-    RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, const Document &document);
+    RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, Designer &designer, const Document &document);
 
-    /// The editing control raised its change event.
+    /// The editing control raised its change event, or something happened in the designer that may be a change.
     void textChanged();
     /// The document was saved, or its text isn't wanted any more.
     void discard();
@@ -34,10 +36,12 @@ public:
 private:
     RecoverySchedule::Time now() const;
     QString documentName() const;
+    Result<void> write();
     void due();
 
     RecoveryCopies &m_copies;
     const CodeMax &m_editor;
+    Designer &m_designer;
     const Document &m_document;
     RecoverySchedule m_schedule;
     QElapsedTimer m_running;

@@ -26,7 +26,11 @@ VisualTools::VisualTools(const AppContext &context, DesignerBar &bar, Menus &men
 void VisualTools::connectDesigner()
 {
     m_context.designer.setEvents({.documentComplete = [this] { documentComplete(); },
-                                  .displayChanged = [this] { showState(); },
+                                  .displayChanged =
+                                      [this] {
+                                          showState();
+                                          emit displayChanged();
+                                      },
                                   .showContextMenu = [this](const QPoint &) { m_contextMenu.show(); },
                                   .contextMenuAction = [this](int index) { m_contextMenu.run(index); }});
 }

@@ -24,6 +24,8 @@ public:
 signals:
     /// A command of the toolbar is done: the keyboard belongs to the page again.
     void finished();
+    /// Something happened in the page, which may be a change.
+    void displayChanged();
 
 private:
     void connectDesigner();

@@ -63,6 +63,14 @@ public:
     {
     }
 
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        // All cells of a grid are alike, and the first name must not decide how much of the others is shown.
+        constexpr QSize gap(6, 2);
+        const auto *list = qobject_cast<const QListView *>(option.widget);
+        return list && list->gridSize().isValid() ? list->gridSize() - gap : QStyledItemDelegate::sizeHint(option, index);
+    }
+
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         m_started(index.data().toString());
@@ -72,6 +80,15 @@ public:
     void setModelData(QWidget *editor, QAbstractItemModel *, const QModelIndex &index) const override
     {
         m_ended(index, editor->property(editor->metaObject()->userProperty().name()).toString());
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        // What columns ask for doesn't suit a name below its picture.
+        if (option->decorationPosition == QStyleOptionViewItem::Top)
+            option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
     }
 
 private:
@@ -136,6 +153,7 @@ void FileListView::setView(int view)
     m_icons->setMovement(QListView::Static);
     m_icons->setIconSize({layout.iconSize, layout.iconSize});
     m_icons->setGridSize(layout.grid);
+    m_icons->setWordWrap(layout.mode == QListView::IconMode);
     applyDragging();
     m_icons->setGeometry(rect());
     m_icons->raise();

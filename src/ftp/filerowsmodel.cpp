@@ -75,9 +75,11 @@ QVariant FileRowsModel::data(const QModelIndex &index, int role) const
 
 QVariant FileRowsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal)
         return {};
-    return columns[section].caption.toString();
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(columns[section].alignment | Qt::AlignVCenter);
+    return role == Qt::DisplayRole ? QVariant(columns[section].caption.toString()) : QVariant();
 }
 
 Qt::ItemFlags FileRowsModel::flags(const QModelIndex &index) const

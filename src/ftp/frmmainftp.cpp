@@ -116,6 +116,7 @@ frmmainftp::frmmainftp(FtpClient &client, const AppContext &context, QWidget *ow
     addHelpKeys();
     m_localPane->setFolder(context.appPath);
     m_local->refill();
+    m_ui->ListView1->setFocus();
 }
 
 frmmainftp::~frmmainftp()

@@ -33,13 +33,23 @@ constexpr ImageRow images[] = {
 };
 
 constexpr int treeImageSize = 16;
+constexpr int imageSizes[] = {treeImageSize, 32};
 
 } // namespace
 
 QIcon ftpImage(int number, const QWidget &widget)
 {
     const ImageRow &row = images[number - 1];
-    return QIcon::fromTheme(row.icon.toString(), widget.style()->standardIcon(row.fallback, nullptr, &widget));
+    const QIcon picture =
+        QIcon::fromTheme(row.icon.toString(), widget.style()->standardIcon(row.fallback, nullptr, &widget));
+    QIcon icon;
+    for (const int size : imageSizes) {
+        const QPixmap pixmap = picture.pixmap({size, size}, widget.devicePixelRatioF());
+        icon.addPixmap(pixmap, QIcon::Normal);
+        // A style would mix the selection's colour into it, on which thin lines can't be seen any more.
+        icon.addPixmap(pixmap, QIcon::Selected);
+    }
+    return icon;
 }
 
 QIcon ftpFolderImage(const QWidget &widget)

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace zephira {
 
-/// A picture of the image lists by its number, from 1 to 13, in every size; see filetypes.h for what the numbers stand
+/// A picture of the image lists by its number, from 1 to 13, large and small; see filetypes.h for what the numbers stand
 /// for. Where the icon theme lacks it, it is one of the widget's style.
 QIcon ftpImage(int number, const QWidget &widget);
 

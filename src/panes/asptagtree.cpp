@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/asptagtree.h"
 
-#include "app/pasteitem.h"
 #include "controls/itemchoice.h"
+#include "controls/pasteitem.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/scriptlibrary.h"
 
-#include "app/pasteitem.h"
-#include "app/refusals.h"
 #include "controls/appcontext.h"
 #include "controls/files/filestore.h"
 #include "controls/files/textfile.h"
 #include "controls/itemchoice.h"
 #include "controls/itemroles.h"
+#include "controls/pasteitem.h"
+#include "controls/refusals.h"
 #include "panes/filelistbox.h"
 #include "panes/foldertree.h"
 

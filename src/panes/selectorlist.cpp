@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/selectorlist.h"
 
-#include "app/pasteitem.h"
 #include "controls/itemchoice.h"
+#include "controls/pasteitem.h"
 
 #include <QKeyEvent>
 

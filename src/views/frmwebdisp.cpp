@@ -25,8 +25,6 @@ frmwebdisp::frmwebdisp(const AppContext &context, const ViewerFactory &makeViewe
     m_source.widget->setAccessibleName(u"Source of the page"_s);
     m_source.control->setEditorFont({.name = u"Courier New"_s});
     m_ui->sourceLayout->addWidget(m_source.widget);
-    m_ui->URL->setFocus();
-    m_ui->URL->end(false);
     connect(m_ui->Command1, &QPushButton::clicked, this, &frmwebdisp::grabSource);
     connect(m_ui->Command2, &QPushButton::clicked, this, &frmwebdisp::viewPage);
     connect(m_ui->mnucopy, &QAction::triggered, this, &frmwebdisp::copySource);

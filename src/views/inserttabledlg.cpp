@@ -20,6 +20,7 @@ InsertTableDlg::InsertTableDlg(const AppContext &context, QWidget *owner)
     m_ui->Rows->setText(QString::number(defaults.rows));
     m_ui->Cols->setText(QString::number(defaults.columns));
     m_ui->TableAttrs->setText(defaults.tableAttributes);
+    m_ui->TableAttrs->setCursorPosition(0);
     m_ui->CellAttrs->setText(defaults.cellAttributes);
     m_ui->TableCaption->setText(defaults.caption);
     connect(m_ui->OkCmd, &QPushButton::clicked, this, &InsertTableDlg::insert);

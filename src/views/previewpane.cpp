@@ -19,15 +19,15 @@ struct NavigationButton {
     QStringView key;
     QStringView tip;
     QStringView icon;
-    void (Browser::*action)();
+    void (*go)(Browser &);
 };
 
 constexpr NavigationButton navigationButtons[] = {
-    {u"back", u"Back", u"go-previous", &Browser::goBack},
-    {u"forward", u"Forward", u"go-next", &Browser::goForward},
-    {u"stop", u"Stop loading", u"process-stop", &Browser::stop},
-    {u"refresh", u"Load the page again", u"view-refresh", &Browser::refresh},
-    {u"home", u"Back to the document", u"go-home", &Browser::goHome},
+    {u"back", u"Back", u"go-previous", [](Browser &browser) { browser.goBack(); }},
+    {u"forward", u"Forward", u"go-next", [](Browser &browser) { browser.goForward(); }},
+    {u"stop", u"Stop loading", u"process-stop", [](Browser &browser) { browser.stop(); }},
+    {u"refresh", u"Load the page again", u"view-refresh", [](Browser &browser) { browser.refresh(); }},
+    {u"home", u"Back to the document", u"go-home", [](Browser &browser) { browser.goHome(); }},
 };
 
 } // namespace
@@ -68,7 +68,7 @@ void PreviewPane::addButtons()
     for (const NavigationButton &button : navigationButtons) {
         QAction *action = m_buttons->addAction(button.tip.toString());
         action->setObjectName(button.key);
-        connect(action, &QAction::triggered, this, [this, &button] { (m_browser.*button.action)(); });
+        connect(action, &QAction::triggered, this, [this, go = button.go] { go(m_browser); });
     }
 }
 

@@ -192,6 +192,7 @@ void TstFrmmainftp::defaults()
     QCOMPARE(bench.names(bench.remote()), QStringList());
     QCOMPARE(bench.tree().topLevelItemCount(), 0);
     QVERIFY(bench.form->get<QWidget>(u"File1"_s).isHidden());
+    QCOMPARE(bench.form->widget().focusWidget(), &bench.local());
     QVERIFY(!bench.form->get<QAction>(u"zProperties"_s).isEnabled());
     for (const QString &marked : {u"zAll"_s, u"zAll2"_s, u"zBinary"_s, u"zPassive"_s, u"zTools"_s})
         QVERIFY2(bench.form->get<QAction>(marked).isChecked(), qPrintable(marked));
@@ -510,6 +511,9 @@ void TstFrmmainftp::views()
             bench.choose(prefix + views[view]);
             QCOMPARE(list->property("View").toInt(), view);
             QCOMPARE(icons->isVisible(), view != FileListView::Report);
+            // A name has its whole cell, however short the first one is.
+            if (view != FileListView::Report)
+                QVERIFY(icons->visualRect(icons->model()->index(1, 0)).width() * 10 > icons->gridSize().width() * 9);
         }
         // The icons show the same rows, and what is clicked in them counts.
         bench.choose(prefix + views[0]);

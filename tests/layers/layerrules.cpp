@@ -28,6 +28,7 @@ constexpr Rule includeRules[] = {
     {uR"(^<tidy)", u"controls/ tools/", u"only the tools include tidy"},
     {uR"(^<(sys/socket|netdb|netinet/|arpa/))", u"ftp/net/", u"only the file transfer opens sockets"},
     {uR"(^<hunspell/)", u"controls/", u"only the speller includes hunspell"},
+    {uR"(^"app/)", u"app/ start/", u"the folders below app include nothing of it"},
 };
 
 constexpr Rule codeRules[] = {

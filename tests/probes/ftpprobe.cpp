@@ -12,6 +12,7 @@
 #include <QFile>
 
 #include <cstdio>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +21,7 @@ namespace {
 using namespace zephira;
 
 constexpr quint32 blockSize = 1024;
+constexpr qsizetype pieceSize = 1024 * blockSize;
 
 int fail(const QString &sentence)
 {
@@ -36,18 +38,22 @@ int get(InternetOperations &operations, InternetHandle connection, const QString
         operations.FtpOpenFileA(connection, arguments[0], GENERIC_READ, FTP_TRANSFER_TYPE_BINARY, 0);
     if (file == 0)
         return fail(u"the file can't be opened on the server"_s);
-    QByteArray content;
-    QByteArray block(blockSize, Qt::Uninitialized);
+    // In pieces, so that a growing file is never copied.
+    std::vector<QByteArray> pieces;
     quint32 count = 0;
     bool ok = true;
     do {
-        ok = operations.InternetReadFile(file, block.data(), blockSize, count);
-        content.append(block.constData(), count);
+        if (pieces.empty() || pieces.back().size() + blockSize > pieceSize)
+            pieces.emplace_back().reserve(pieceSize);
+        char block[blockSize];
+        ok = operations.InternetReadFile(file, block, blockSize, count);
+        pieces.back().append(block, count);
     } while (ok && count == blockSize);
     if (!ok)
         return fail(u"the file did not arrive whole"_s);
     DiskFileStore files;
-    const Result<void> written = files.write(arguments[1] + u'/' + name, QByteArrayView(content));
+    const std::vector<QByteArrayView> views(pieces.begin(), pieces.end());
+    const Result<void> written = files.write(arguments[1] + u'/' + name, views);
     return written ? 0 : fail(written.error().sentence);
 }
 

@@ -13,6 +13,8 @@
 #include "panes/sottree.h"
 #include "tags/tagfile.h"
 #include "tools/sourceformatter.h"
+#include "views/pagefetcher.h"
+#include "views/pagetext.h"
 
 namespace zephira {
 
@@ -175,6 +177,12 @@ QByteArray printReply(const QByteArray &input)
            + QByteArray::number(passivePort(reply).value_or(0)) + '\t' + quotedFolder(reply).value_or(QByteArray()) + '\n';
 }
 
+/// The character set that a page names, then its text.
+QByteArray printWebPage(const QByteArray &input)
+{
+    return declaredCharset(input).toUtf8() + '\n' + pageText({input, {}}).toUtf8();
+}
+
 constexpr char16_t html[] = u"HTML";
 constexpr char16_t xml[] = u"XML";
 constexpr char16_t cpp[] = u"C/C++";
@@ -203,6 +211,7 @@ constexpr Parser table[] = {
     {"listing", printList},
     {"listing-mlsd", printMlsd},
     {"ftpreply", printReply},
+    {"webpage", printWebPage},
 };
 
 } // namespace

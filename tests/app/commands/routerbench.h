@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/commandrouter.h"
-#include "app/inserttext.h"
 #include "app/windowcommands.h"
+#include "controls/inserttext.h"
 #include "support/fakes.h"
 
 #include <set>

@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QScopeGuard>
 
 using namespace zephira;
 using namespace Qt::StringLiterals;
@@ -84,10 +85,14 @@ private Q_SLOTS:
     void aNewDocumentShowsFromTheScratchFolder()
     {
         WebBench bench((QString()));
+        // The scratch folder is the user's, and other tests may run at the same time.
+        const auto restore = qScopeGuard([home = qgetenv("HOME")] { qputenv("HOME", home); });
+        qputenv("HOME", QFile::encodeName(bench.folder()));
         bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(1);
         bench.window->setProjectPath(u"Project Path"_s);
         bench.window->rt().setText(u"<title>new</title>"_s);
         QVERIFY(bench.preview(u"new"_s));
+        QVERIFY(bench.window->previewTarget().startsWith(bench.folder()));
         QCOMPARE(bench.window->previewTarget(), scratchFolder().value() + u"/temp.html"_s);
         QVERIFY(bench.window->docModified());
     }

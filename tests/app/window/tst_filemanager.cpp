@@ -220,6 +220,25 @@ private Q_SLOTS:
         QCOMPARE(WindowBench::read(bench.folder() + u"/old.txt"_s), QByteArray("changed"));
     }
 
+    void aDoubleClickCarriesTheDesignersWorkBack()
+    {
+        Bench bench;
+        const QString page = bench.write(u"page.html"_s, "<p>old</p>");
+        bench.write(u"site/a.txt"_s, "new");
+        frmmain &window = bench.start(page);
+        bench.listSite();
+        auto *workspace = bench.find<QTabBar>(u"workspace"_s);
+        workspace->setCurrentIndex(2);
+        bench.webViews.designer.html = u"<p>designed</p>"_s;
+        bench.webViews.designer.dirty = true;
+        bench.prompts.expect(Bench::savePrompt(page), Answer::Yes);
+        bench.doubleClick(u"a.txt"_s);
+        QCOMPARE(WindowBench::read(page), QByteArray("<p>designed</p>"));
+        QCOMPARE(workspace->currentIndex(), 0);
+        QCOMPARE(window.rt().text(), u"new"_s);
+        QVERIFY(!window.docModified());
+    }
+
     void aDoubleClickDeletesThePreview_data()
     {
         QTest::addColumn<QString>("name");
@@ -570,6 +589,21 @@ private Q_SLOTS:
         QTEST(WindowBench::read(old), "saved");
         QCOMPARE(window.docModified(), answer == int(Answer::Cancel));
         QCOMPARE(bench.tree().selectedFolder(), answer == int(Answer::Cancel) ? bench.folder() : bench.site());
+    }
+
+    void aDropInVisualModeLeadsToTheText()
+    {
+        Bench bench;
+        const QString dropped = bench.write(u"site/a.html"_s, "<p>new</p>");
+        frmmain &window = bench.start(bench.write(u"page.html"_s, "<p>old</p>"));
+        auto *workspace = bench.find<QTabBar>(u"workspace"_s);
+        workspace->setCurrentIndex(2);
+        bench.webViews.designer.html = u"<p>old</p>"_s;
+        bench.drop({dropped});
+        // The designer still holds the page from before, which must not come back over the new one.
+        QCOMPARE(workspace->currentIndex(), 0);
+        QCOMPARE(window.rt().text(), u"<p>new</p>"_s);
+        QVERIFY(!window.docModified());
     }
 
     void aDropThatCannotBeReadIsTold()

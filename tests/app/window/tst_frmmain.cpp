@@ -259,6 +259,27 @@ private Q_SLOTS:
         QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentIndex(), 8);
     }
 
+    void aDropOnTheWindowKeepsTheDesignersWork()
+    {
+        WindowBench bench;
+        const QString page = bench.write(u"page.html"_s, "<p>old</p>");
+        frmmain &window = bench.start(page);
+        auto *workspace = bench.find<QTabBar>(u"workspace"_s);
+        workspace->setCurrentIndex(2);
+        bench.webViews.designer.html = u"<p>designed</p>"_s;
+        bench.webViews.designer.dirty = true;
+        bench.prompts.expect({u"Document: "_s + page + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::Yes);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(bench.write(u"drop/a.css"_s, "p { }"))});
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        static_cast<QObject &>(window).event(&drop);
+        QCOMPARE(WindowBench::read(page), QByteArray("<p>designed</p>"));
+        QCOMPARE(workspace->currentIndex(), 0);
+        QCOMPARE(window.rt().text(), u"p { }"_s);
+    }
+
     void anImageOfThePaneBecomesALink()
     {
         WindowBench bench;

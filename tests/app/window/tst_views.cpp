@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
@@ -73,8 +74,8 @@ private Q_SLOTS:
         bench.window->show();
         QVERIFY(QTest::qWaitForWindowExposed(bench.window.get()));
         QVERIFY(bench.webViews.made.isEmpty());
-        for (const QPoint place : {QPoint(20, 10), QPoint(40, 12)}) // It may stand at the one already.
-            QTest::mouseMove(&bench.tabs(), place);
+        QMouseEvent move(QEvent::MouseMove, {20, 10}, bench.tabs().mapToGlobal(QPointF(20, 10)), Qt::NoButton, {}, {});
+        QCoreApplication::sendEvent(&bench.tabs(), &move);
         QTRY_COMPARE(bench.webViews.made, QStringList{u"browser"_s});
         QCOMPARE(bench.webViews.browser.calls, QStringList{u"about:blank"_s});
         QCOMPARE(bench.tabs().currentIndex(), 0);
@@ -332,6 +333,34 @@ private Q_SLOTS:
         QTEST(WindowBench::read(bench.file), "file");
         if (!closed)
             QCOMPARE(bench.tabs().currentIndex(), 2);
+    }
+
+    void theDesignersWorkIsKeptForRecovery()
+    {
+        ViewBench bench;
+        bench.window->show();
+        bench.select(3);
+        bench.designer().html = u"<p>designed</p>"_s;
+        bench.designer().dirty = true;
+        bench.prompts.expect({u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::Cancel);
+        bench.choose(u"mnuupdate"_s); // The process ends in any case.
+        const QDir copies(bench.folder() + u"/recovery"_s);
+        QCOMPARE(copies.entryList(QDir::Files).size(), 1);
+        QCOMPARE(WindowBench::read(copies.filePath(copies.entryList(QDir::Files).front())), QByteArray("<p>designed</p>"));
+    }
+
+    void aDesignersChangeIsKeptInTime()
+    {
+        ViewBench bench;
+        bench.select(3);
+        bench.designer().html = u"<p>designed</p>"_s;
+        bench.designer().dirty = true;
+        bench.designer().events.displayChanged();
+        const QDir copies(bench.folder() + u"/recovery"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(copies.entryList(QDir::Files).size(), 1, 20000);
+        QCOMPARE(WindowBench::read(copies.filePath(copies.entryList(QDir::Files).front())), QByteArray("<p>designed</p>"));
     }
 
     void resetGoesBackToTheTextFromBefore()

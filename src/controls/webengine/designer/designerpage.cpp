@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/webengine/designer/designerpage.h"
 
+#include "controls/webengine/designer/nestedwait.h"
+
 #include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
@@ -153,7 +155,7 @@ std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const
     connect(this, &QWebEnginePage::renderProcessTerminated, &wait->loop, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &wait->loop, &QEventLoop::quit);
     if (!wait->answer)
-        wait->loop.exec(QEventLoop::ExcludeUserInputEvents);
+        waitIn(wait->loop);
     return wait->answer;
 }
 

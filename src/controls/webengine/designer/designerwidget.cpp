@@ -7,6 +7,7 @@
 #include "controls/webengine/designer/designerclipboard.h"
 #include "controls/webengine/designer/designerhandles.h"
 #include "controls/webengine/designer/designerpage.h"
+#include "controls/webengine/designer/nestedwait.h"
 
 #include <QElapsedTimer>
 #include <QEvent>
@@ -33,7 +34,7 @@ void pass(int milliseconds)
 {
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    waitIn(loop);
 }
 
 /// The file's text as the editor would show it.
@@ -60,22 +61,27 @@ DesignerWidget::DesignerWidget(Prompts &prompts, QWidget *parent)
     setFocusProxy(m_view.get());
     hide();
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    // Queued, because the engine gives no answers while it hands over the wish.
-    connect(m_view.get(), &QWidget::customContextMenuRequested, this, &DesignerWidget::requestContextMenu,
-            Qt::QueuedConnection);
-    connect(m_page, &DesignerPage::ready, this, &DesignerWidget::write);
-    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &DesignerWidget::reopenAfterLoss);
-    connect(&m_page->bridge(), &DesignerBridge::stateArrived, this, [this](const QVariantMap &report) {
-        takeState(DesignerState::fromPage(report));
-        announceDisplay();
-    });
-    connect(&m_page->bridge(), &DesignerBridge::placeArrived, this,
-            [this](const QVariantMap &place) { m_handles->show(place, m_view->zoomFactor()); });
-    connect(&m_page->bridge(), &DesignerBridge::pageArrived, this, [this](const QString &page) { m_keptPage = page; });
-    connect(&m_page->bridge(), &DesignerBridge::clipboardRequested, this, &DesignerWidget::useClipboard);
+    connectPage();
 }
 
 DesignerWidget::~DesignerWidget() = default;
+
+/// While the engine delivers a message it delivers no other, so that nobody who may wait for an answer is called then.
+void DesignerWidget::connectPage()
+{
+    const DesignerBridge &bridge = m_page->bridge();
+    connect(m_page, &DesignerPage::ready, this, &DesignerWidget::write, Qt::QueuedConnection);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &DesignerWidget::reopenAfterLoss,
+            Qt::QueuedConnection);
+    connect(m_view.get(), &QWidget::customContextMenuRequested, this, &DesignerWidget::requestContextMenu,
+            Qt::QueuedConnection);
+    connect(&bridge, &DesignerBridge::clipboardRequested, this, &DesignerWidget::useClipboard, Qt::QueuedConnection);
+    connect(&bridge, &DesignerBridge::stateArrived, this, &DesignerWidget::takeReport);
+    connect(&bridge, &DesignerBridge::stateArrived, this, &DesignerWidget::announceDisplay, Qt::QueuedConnection);
+    connect(&bridge, &DesignerBridge::placeArrived, this,
+            [this](const QVariantMap &place) { m_handles->show(place, m_view->zoomFactor()); });
+    connect(&bridge, &DesignerBridge::pageArrived, this, [this](const QString &page) { m_keptPage = page; });
+}
 
 void DesignerWidget::setDocumentHtml(const QString &html)
 {
@@ -115,7 +121,7 @@ void DesignerWidget::write(bool ready)
                          if (self->m_load == load)
                              self->complete(answer);
                      };
-                     // The engine gives no further answer while it hands this one over, and the host may ask for more.
+                     // The host is going to ask for more.
                      if (self)
                          QMetaObject::invokeMethod(self, finish, Qt::QueuedConnection);
                  });
@@ -163,14 +169,14 @@ QVariant DesignerWidget::takeAnswer(const QVariant &answer) const
 {
     const QVariantMap map = answer.toMap();
     if (!map.isEmpty())
-        takeState(DesignerState::fromPage(map.value(u"state"_s).toMap()));
+        takeReport(map.value(u"state"_s).toMap());
     return map.value(u"value"_s);
 }
 
-void DesignerWidget::takeState(const DesignerState &state) const
+void DesignerWidget::takeReport(const QVariantMap &report) const
 {
-    m_state = state;
-    m_handles->show(state.place, m_view->zoomFactor());
+    m_state = DesignerState::fromPage(report);
+    m_handles->show(m_state.place, m_view->zoomFactor());
 }
 
 void DesignerWidget::announceDisplay()

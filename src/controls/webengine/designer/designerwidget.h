@@ -85,6 +85,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void connectPage();
     void open();
     void write(bool ready);
     void complete(const QVariant &answer);
@@ -92,7 +93,7 @@ private:
     bool waitUntilComplete();
     QVariant ask(const QString &function, const QVariantList &arguments = {}) const;
     QVariant takeAnswer(const QVariant &answer) const;
-    void takeState(const DesignerState &state) const;
+    void takeReport(const QVariantMap &report) const;
     void announceDisplay();
     void awaitKeys() const;
     void setLook(const QString &name, bool on);

@@ -128,7 +128,9 @@ QVariant DesignerWidget::cut(DesignerPrompting, const QVariant &)
 QVariant DesignerWidget::paste(DesignerPrompting, const QVariant &)
 {
     const ClipboardMarkup content = clipboardMarkup();
-    ask(u"insert"_s, {m_text.fragmentForEngine(content.markup), content.isForeign});
+    // Comments of other programs go, so that they need no marks.
+    const QString markup = content.isForeign ? content.markup : m_text.fragmentForEngine(content.markup);
+    ask(u"insert"_s, {markup, content.isForeign});
     return {};
 }
 

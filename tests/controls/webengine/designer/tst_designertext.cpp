@@ -138,8 +138,8 @@ void TstDesignerText::anyMarkupSettles()
             page += pieces[random.bounded(pieces.size())];
         const QString once = roundTrip(roundTrip(page));
         QVERIFY2(roundTrip(once) == once, qPrintable(page + u"\n--\n"_s + once + u"\n--\n"_s + roundTrip(once)));
-        QCOMPARE(once.count(u"<% s %>"), page.count(u"<% s %>"));
-        QCOMPARE(once.count(u"<!-- c -->"), page.count(u"<!-- c -->"));
+        for (const QString &piece : {u"<% s %>"_s, u"<!-- c -->"_s})
+            QVERIFY2(once.count(piece) == page.count(piece), qPrintable(page + u"\n--\n"_s + once));
     }
 }
 

@@ -11,7 +11,7 @@ const hasText = () => selectionType() !== 'Control' && !isFrameset();
 const isFrameset = () => bodyElement()?.localName === 'frameset';
 
 const nativeStatus = name => {
-    if (!nativeEnabled(name))
+    if (isFrameset() || !nativeEnabled(name))
         return status.disabled;
     if (nativeMixed(name))
         return status.mixed;

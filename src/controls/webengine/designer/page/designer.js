@@ -75,6 +75,7 @@ globalThis.zephiraDesigner = {
         writeDocument(text);
         closeDocument();
         listen();
+        gatherComments();
         if (bodyElement())
             showMarks(bodyElement());
         showLooks();

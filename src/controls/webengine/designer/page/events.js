@@ -20,7 +20,22 @@ const controlAt = node => {
     return null;
 };
 
+// The context menu is about what lies under the mouse.
+const selectForMenu = event => {
+    const element = controlAt(event.target);
+    const range = caretRangeFromPoint(event.clientX, event.clientY);
+    const selection = getSelection();
+    const isInside = range && selection.rangeCount > 0 && !selection.isCollapsed
+        && selection.getRangeAt(0).isPointInRange(range.startContainer, range.startOffset);
+    if (element)
+        selectElement(element);
+    else if (range && !isInside)
+        placeCaret(range.startContainer, range.startOffset);
+};
+
 const onMouseDown = event => {
+    if (event.button === 2 && !looks.browseMode)
+        selectForMenu(event);
     if (event.button !== 0 || looks.browseMode)
         return;
     const grip = gripAt(event.clientX, event.clientY);
@@ -79,23 +94,32 @@ const moveToCell = (table, step) => {
         placeCaretIn(next);
 };
 
-// The engine's own history knows nothing of the designer's commands.
+// The engine's history knows nothing of the designer's commands, and its clipboard nothing of the marks: these keys are
+// the designer's. The clipboard is the program's.
+const keyActions = {
+    'control+z': () => history.undo(),
+    'control+shift+z': () => history.redo(),
+    'control+y': () => history.redo(),
+    'control+x': () => bridge.clipboardWanted('cut'),
+    'shift+delete': () => bridge.clipboardWanted('cut'),
+    'control+c': () => bridge.clipboardWanted('copy'),
+    'control+insert': () => bridge.clipboardWanted('copy'),
+    'control+v': () => bridge.clipboardWanted('paste'),
+    'shift+insert': () => bridge.clipboardWanted('paste'),
+    'tab': () => moveToCell(currentTable(), 1),
+    'shift+tab': () => moveToCell(currentTable(), -1),
+};
+
+const keyName = event => (event.ctrlKey ? 'control+' : '') + (event.altKey ? 'alt+' : '')
+    + (event.shiftKey ? 'shift+' : '') + event.key.toLowerCase();
+
 const onKeyDown = event => {
     keysSeen += 1;
-    if (looks.browseMode)
-        return;
-    const key = event.key.toLowerCase();
-    const control = event.ctrlKey && !event.altKey;
-    const table = key === 'tab' && !event.ctrlKey && !event.altKey ? currentTable() : null;
-    if (control && (key === 'y' || (key === 'z' && event.shiftKey)))
-        history.redo();
-    else if (control && key === 'z')
-        history.undo();
-    else if (table)
-        moveToCell(table, event.shiftKey ? -1 : 1);
-    else
+    const action = keyActions[keyName(event)];
+    if (!action || looks.browseMode || (event.key === 'Tab' && !currentTable()))
         return;
     event.preventDefault();
+    action();
     reportState();
 };
 
@@ -106,12 +130,10 @@ const onBeforeInput = event => {
         history.expectChange();
 };
 
-// The clipboard is the program's, which knows what the marks stand for.
+// By whatever other way the engine is told to use its clipboard, it doesn't.
 const onClipboard = event => {
-    if (looks.browseMode)
-        return;
-    event.preventDefault();
-    bridge.clipboardWanted(event.type);
+    if (!looks.browseMode)
+        event.preventDefault();
 };
 
 // Moving by the mouse: the nodes themselves go to the new place.

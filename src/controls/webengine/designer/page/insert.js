@@ -10,7 +10,7 @@ const cleanForeign = fragment => {
     const comments = [];
     while (walker.nextNode())
         comments.push(walker.currentNode);
-    for (const comment of comments.filter(each => !isMarkComment(each)))
+    for (const comment of comments)
         comment.remove();
 };
 

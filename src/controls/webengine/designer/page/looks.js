@@ -27,13 +27,13 @@ const glyphs = [
 const silentGlyphs = ['script', 'style'];
 
 const detailRules = () => [
-    ...glyphs.map(([selector, word]) => `${selector}::before { content: "${word}"; ${glyphLook} }`),
+    ...glyphs.map(([selector, word]) => `${selector}::before { ${glyphLook} content: "${word}"; }`),
     ...silentGlyphs.map(name => `body ${name} { display: inline-block !important; font-size: 0 !important;
         -webkit-user-modify: read-only; }
-        body ${name}::before { content: "${name}"; ${glyphLook} }`),
+        body ${name}::before { ${glyphLook} content: "${name}"; }`),
     'input[type=hidden], map, area, noscript { display: inline-block !important; }',
     `${markName}[mark$=c] { display: inline-block !important; }`,
-    `${markName}[mark$=c]::before { content: "<!"; ${glyphLook} }`,
+    `${markName}[mark$=c]::before { ${glyphLook} content: "<!"; }`,
 ];
 
 const borderRules = () => [
@@ -45,7 +45,7 @@ const borderRules = () => [
 const markRules = () => [
     `${markName} { -webkit-user-modify: read-only; user-select: all; display: none; }`,
     `${markName}[mark$=s] { display: inline-block !important; }`,
-    `${markName}[mark$=s]::before { content: "<%"; ${glyphLook} }`,
+    `${markName}[mark$=s]::before { ${glyphLook} content: "<%"; }`,
 ];
 
 const hiddenMarkRules = () => [`${markName} { display: none !important; }`];

@@ -8,6 +8,16 @@ let markPrefix = 'zs';
 
 const isMarkComment = node => new RegExp(`^${markPrefix}x\\d+[sc]$`).test(node.data);
 
+// Behind stray end tags a comment finds its place outside the root element; there nobody would see it or keep it.
+const gatherComments = () => {
+    const host = bodyElement() ?? rootElement();
+    const outside = [...document.childNodes].filter(node => node.nodeType === Node.COMMENT_NODE);
+    const isBefore = node => node.compareDocumentPosition(rootElement()) & Node.DOCUMENT_POSITION_FOLLOWING;
+    const [before, after] = [outside.filter(isBefore), outside.filter(node => !isBefore(node))];
+    host.prepend(...before);
+    host.append(...after);
+};
+
 const showMarks = root => {
     const walker = createTreeWalker(root, NodeFilter.SHOW_COMMENT);
     const comments = [];

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/pasteitem.h"
+#include "controls/pasteitem.h"
 
-#include "app/refusals.h"
 #include "controls/appcontext.h"
 #include "controls/editingcontrol.h"
 #include "controls/inserter.h"
+#include "controls/refusals.h"
 
 namespace zephira {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/refusals.h"
+#include "controls/refusals.h"
 
 #include "controls/designer.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/inserttext.h"
-#include "app/pasteitem.h"
+#include "controls/inserttext.h"
+#include "controls/pasteitem.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 

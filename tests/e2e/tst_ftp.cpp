@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controls/files/configuration.h"
+#include "e2e/programfolder.h"
+#include "e2e/runningprogram.h"
+#include "e2e/titles.h"
+#include "ftp/ftpserver.h"
+#include "support/testregistry.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <unistd.h>
+
+using namespace zephira;
+using namespace zephira::titles;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString ftpWindow = u"Zephira. FTP"_s;
+const QString sites = u"FTP Sites"_s;
+const QString transfer = u"Data transfer"_s;
+const QString logName = u"Log File"_s;
+
+/// Keys that move the focus on by so many controls.
+QString tabs(int count)
+{
+    return QStringList(count, u"Tab"_s).join(u' ');
+}
+
+/// Bytes of every value, whose blocks differ.
+QByteArray everyByte(int size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (int i = 0; i < size; ++i)
+        bytes[i] = static_cast<char>((i * 7 + i / 256) & 0xff);
+    return bytes;
+}
+
+/// The FTP window of a running program, driven by keys.
+class FtpSession
+{
+public:
+    explicit FtpSession(const ProgramFolder &folder) : m_folder(folder), m_program(folder, {u"/nodialog"_s})
+    {
+        QVERIFY(m_program.waitForWindow(untitled));
+        m_program.key(untitled, u"alt+t f"_s);
+        QVERIFY(m_program.waitForWindow(ftpWindow));
+    }
+
+    RunningProgram &program() { return m_program; }
+    QString profile() const { return m_folder.path() + u"/Loopback.ftp"_s; }
+
+    /// Fills in the dialog and keeps it as a profile.
+    void saveProfile(const FtpServer &server, const QString &password)
+    {
+        m_program.key(ftpWindow, u"alt+f c"_s);
+        QVERIFY(m_program.waitForWindow(sites));
+        // The typed user unticks "Anonymous", which empties user and password; so the first letter is typed twice.
+        const QString first = server.user().first(1);
+        m_program.key(sites, tabs(1));
+        m_program.type(sites, u"Loopback"_s);
+        m_program.key(sites, tabs(1));
+        m_program.type(sites, server.host());
+        m_program.key(sites, tabs(1) + u" ctrl+a"_s);
+        m_program.type(sites, first + server.user());
+        m_program.key(sites, tabs(1));
+        m_program.type(sites, password);
+        m_program.key(sites, tabs(1) + u" ctrl+a"_s);
+        m_program.type(sites, QString::number(server.port()));
+        m_program.key(sites, tabs(2) + u" space"_s); // "Save password"
+        m_program.key(sites, tabs(7) + u" space"_s); // "Save"
+        m_program.answer(message, u"Return"_s);
+        QVERIFY(m_program.waitUntilGone(message));
+    }
+
+    /// Chooses the only profile in the dialog's tree, and connects.
+    void connectByProfile()
+    {
+        m_program.key(sites, u"Escape"_s);
+        QVERIFY(m_program.waitUntilGone(sites));
+        m_program.key(ftpWindow, u"alt+f c"_s);
+        QVERIFY(m_program.waitForWindow(sites));
+        m_program.key(sites, u"Down Down Return"_s);
+        QVERIFY(m_program.waitUntilGone(sites));
+    }
+
+    /// Runs the transfer that a command has prepared.
+    void runTransfer()
+    {
+        m_program.answer(transfer, u"Return"_s);
+        m_program.answer(message, u"Return"_s);
+        QVERIFY(m_program.waitUntilGone(transfer));
+    }
+
+    QString savedLog() const { return m_folder.path() + u"/Logon/session.txt"_s; }
+    void saveLog()
+    {
+        m_program.key(ftpWindow, u"alt+f s"_s);
+        m_program.fillIn(logName, u"session"_s);
+        m_program.answer(message, u"Return"_s);
+        QVERIFY(m_program.waitUntilGone(message));
+    }
+
+private:
+    const ProgramFolder &m_folder;
+    RunningProgram m_program;
+};
+
+/// Read and written by nobody but the user, as mode 0600 says.
+bool isPrivate(const QString &path)
+{
+    const auto ofTheUser = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    return QFile::exists(path) && QFile::permissions(path) == ofTheUser;
+}
+
+} // namespace
+
+/// The FTP window of the real program before a real server, by keys alone.
+class TstFtp : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void filesGoBothWays_data()
+    {
+        QTest::addColumn<FtpServer::Kind>("kind");
+        QTest::addColumn<QString>("password"); // The program's own proposal would not tell whether the typed one is used.
+        // Only root can have this server shut its guests into a folder, and elsewhere the keys would have to find their
+        // way through the whole disk.
+        if (geteuid() == 0)
+            QTest::newRow("vsftpd") << FtpServer::Kind::Vsftpd << u"sEcret-77"_s;
+        QTest::newRow("pyftpdlib") << FtpServer::Kind::Pyftpdlib << u"sécret word"_s;
+    }
+
+    void filesGoBothWays()
+    {
+        QFETCH(FtpServer::Kind, kind);
+        QFETCH(QString, password);
+        const FtpServer server(kind);
+        const QByteArray down = everyByte(70'000);
+        const QByteArray up = everyByte(50'001);
+        server.addFile("from the server.bin", down);
+        const ProgramFolder folder;
+        folder.write(u"zephira/from here.up"_s, up);
+        FtpSession session(folder);
+        RunningProgram &program = session.program();
+
+        session.saveProfile(server, password);
+        QVERIFY(isPrivate(session.profile()));
+        QCOMPARE(ReadIni(u"PROFIL"_s, u"sname"_s, session.profile()), u"Loopback"_s);
+        QCOMPARE(ReadIni(u"PROFIL"_s, u"adresa"_s, session.profile()), server.host());
+        QCOMPARE(ReadIni(u"PROFIL"_s, u"ID"_s, session.profile()), server.user());
+        QCOMPARE(ReadIni(u"PROFIL"_s, u"pass"_s, session.profile()), password);
+        QCOMPARE(ReadIni(u"PROFIL"_s, u"port"_s, session.profile()), QString::number(server.port()));
+        session.connectByProfile();
+        // The dialog is gone before the server has answered.
+        session.saveLog();
+        QVERIFY(ProgramFolder::read(session.savedLog()).contains(" > Connected to server.\r\n"));
+
+        // From the local list to the tree's root, and to the folder in it that may be written; then everything in the
+        // list, which is one file.
+        program.key(ftpWindow, u"Tab Home Down Tab ctrl+a"_s);
+        program.key(ftpWindow, u"alt+r d Return"_s); // Two entries have this letter.
+        session.runTransfer();
+        QCOMPARE(ProgramFolder::read(folder.path() + u"/from the server.bin"_s), down);
+
+        program.key(ftpWindow, u"alt+l t d"_s);
+        program.fillIn(u"Pattern"_s, u"*.up"_s);
+        QVERIFY(program.waitUntilGone(u"Pattern"_s));
+        program.key(ftpWindow, u"shift+Tab shift+Tab ctrl+a"_s);
+        program.key(ftpWindow, u"alt+l u"_s);
+        session.runTransfer();
+        QCOMPARE(ProgramFolder::read(server.localFolder() + u"from here.up"_s), up);
+
+        session.saveLog();
+        QVERIFY(isPrivate(session.savedLog()));
+        const QByteArray log = ProgramFolder::read(session.savedLog());
+        for (const char *part : {" *** LOOPBACK ***\r\n", " > Connected to server.\r\n",
+                                 "\r\n > Downloading from: /pub/from the server.bin, to: ",
+                                 ", to: /pub/from here.up\r\n", " > OK\r\n"})
+            QVERIFY2(log.contains(part), log.constData());
+        QVERIFY2(!log.contains(password.toUtf8()), log.constData());
+        const QByteArray told = program.standardOutput() + program.standardError();
+        QVERIFY2(!told.contains(password.toUtf8()), told.constData());
+
+        program.close(ftpWindow);
+        QVERIFY(program.waitUntilGone(ftpWindow));
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+    }
+};
+
+ZEPHIRA_TEST(TstFtp)
+#include "tst_ftp.moc"
