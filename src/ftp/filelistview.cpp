@@ -28,7 +28,7 @@ struct IconLayout {
 };
 
 constexpr IconLayout iconLayouts[] = {
-    {QListView::IconMode, QListView::LeftToRight, 32, {104, 76}},
+    {QListView::IconMode, QListView::LeftToRight, 32, {104, 90}},
     {QListView::ListMode, QListView::LeftToRight, 16, {190, 24}},
     {QListView::ListMode, QListView::TopToBottom, 16, {190, 24}},
 };

@@ -4,11 +4,10 @@
 #include "controls/appcontext.h"
 #include "controls/files/configuration.h"
 #include "controls/files/filenumber.h"
-#include "controls/inserter.h"
 #include "controls/itemchoice.h"
 #include "controls/itemroles.h"
+#include "controls/pasteitem.h"
 #include "controls/prompts.h"
-#include "controls/refusals.h"
 #include "panes/customtabfile.h"
 
 #include <QContextMenuEvent>
@@ -44,10 +43,8 @@ QTreeWidget *CustomTabs::makeList(int tab, QWidget *owner)
     list->setAccessibleName(u"Custom tab %1"_s.arg(tab));
     list->setHeaderLabel({});
     list->setRootIsDecorated(false);
-    onItemChosen(*list, this, [this](const QModelIndex &index) {
-        if (!isRefused(Refusal::CodeView, m_context.designer, m_context.prompts))
-            m_context.inserter.InsertAtCaret(index.data(TagRole).toString());
-    });
+    onItemChosen(*list, this,
+                 [this](const QModelIndex &index) { pasteInCodeView(m_context, index.data(TagRole).toString()); });
     list->viewport()->installEventFilter(this);
     list->installEventFilter(this);
     return list;

@@ -14,8 +14,8 @@ namespace zephira {
 struct AppContext;
 class FileNumber;
 
-/// The six tabs of the side pane that show the user's own snippets. A double click puts one in the place of the code
-/// view's selection, unlike the lists of tags and scripts, which keep it; a pop-up menu adds one to the tab's file.
+/// The six tabs of the side pane that show the user's own snippets. A double click pastes one behind the selection; a
+/// pop-up menu adds one to the tab's file.
 class CustomTabs final : public QObject
 {
     Q_OBJECT

@@ -17,6 +17,8 @@ oebrowser::oebrowser(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_context(context), m_ui(std::make_unique<Ui::oebrowser>())
 {
     m_ui->setupUi(this);
+    // The tree is empty until one of the buttons is pressed.
+    m_ui->objectshow->setFocus();
     connect(m_ui->objectshow, &QPushButton::clicked, this, [this] { showTree(u"jsobjects.sot"_s); });
     connect(m_ui->eventshow, &QPushButton::clicked, this, [this] { showTree(u"jsevents.sot"_s); });
     onItemChosen(*m_ui->TreeView1, this,

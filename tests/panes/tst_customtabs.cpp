@@ -99,14 +99,14 @@ private Q_SLOTS:
         QVERIFY(bench.titles(1).isEmpty());
     }
 
-    void aDoubleClickGivesTheCodeAlone()
+    void aDoubleClickPastesTheCode()
     {
         CustomTabsBench bench;
         bench.world.editor.setText(u"p {}"_s);
         bench.world.editor.selectPart(u"p"_s);
         bench.tabs.load(1);
         doubleClickItem(*bench.tabs.list(1), u"Colour"_s);
-        QCOMPARE(bench.world.inserter.inserted, QStringList{u"color: ;"_s}); // The selection is replaced.
+        QCOMPARE(bench.world.inserter.inserted, QStringList{u"pcolor: ;"_s});
     }
 
     void visualModeIsRefused()

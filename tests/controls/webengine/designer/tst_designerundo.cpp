@@ -26,6 +26,21 @@ private slots:
 private:
     void selectAtRandom(QRandomGenerator &random);
     void doSomething(QRandomGenerator &random);
+    /// Steps back or forth until the page isn't `page` any more.
+    void turn(DesignerCommand command, const QString &page)
+    {
+        do
+            m_bench->run(command);
+        while (m_bench->body() == page && m_bench->status(command) == DesignerStatus::Enabled);
+    }
+    /// Both pages from shortly before the first difference on.
+    QString difference(const QString &way, qsizetype step, const QString &expected)
+    {
+        const QString body = m_bench->body();
+        const auto differing = std::mismatch(body.begin(), body.end(), expected.begin(), expected.end());
+        const qsizetype from = std::max<qsizetype>(0, differing.first - body.begin() - 100);
+        return u"%1 of step %2\n%3\ninstead of\n%4"_s.arg(way).arg(step).arg(body.mid(from, 400), expected.mid(from, 400));
+    }
 
     std::unique_ptr<DesignerBench> m_bench;
 };
@@ -147,15 +162,15 @@ void TstDesignerUndo::randomWork()
             pages.append(page);
     }
     QVERIFY(pages.size() > 5);
-    // A command may make more than one change that shows, but a step of the history is never more than a command.
+    // A command may change the page without a change of its markup, by cutting a text in two: such a step shows nothing.
     for (qsizetype i = pages.size() - 2; i >= 0; --i) {
-        m_bench->run(DesignerCommand::Undo);
-        QCOMPARE(m_bench->body(), pages[i]);
+        turn(DesignerCommand::Undo, pages[i + 1]);
+        QVERIFY2(m_bench->body() == pages[i], qPrintable(difference(u"undo"_s, i, pages[i])));
     }
     QVERIFY(!m_bench->designer.isDirty());
     for (qsizetype i = 1; i < pages.size(); ++i) {
-        m_bench->run(DesignerCommand::Redo);
-        QCOMPARE(m_bench->body(), pages[i]);
+        turn(DesignerCommand::Redo, pages[i - 1]);
+        QVERIFY2(m_bench->body() == pages[i], qPrintable(difference(u"redo"_s, i, pages[i])));
     }
 }
 

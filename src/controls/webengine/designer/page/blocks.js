@@ -71,7 +71,8 @@ const selectedParagraphs = () => {
     if (isNamed(block, paragraphNames))
         return [{element: block}];
     const paragraphs = paragraphsIn(block, range);
-    return paragraphs.length > 0 || !range.collapsed ? paragraphs : [{parent: block, nodes: [...block.childNodes]}];
+    const isEmptyPlace = paragraphs.length === 0 && range.collapsed && !isNamed(block, tightNames) && !containsBlock(block);
+    return isEmptyPlace ? [{parent: block, nodes: [...block.childNodes]}] : paragraphs;
 };
 
 const startOf = paragraph => paragraph.element ?? paragraph.nodes[0] ?? paragraph.parent;

@@ -95,6 +95,7 @@ class History {
         if (!step || step.changes.length === 0)
             return;
         step.after = bookmark();
+        step.contents = History.#contentsOf(step.changes);
         this.done.push(step);
         if (this.done.length > History.mostSteps) {
             this.done.shift();
@@ -120,6 +121,10 @@ class History {
             return;
         for (const change of step.changes)
             History.#turn(change, true);
+        for (const [element, nodes] of step.contents) {
+            if (nodes.length !== element.childNodes.length || nodes.some((node, i) => node !== element.childNodes[i]))
+                element.replaceChildren(...nodes);
+        }
         this.done.push(step);
         this.#settle(step.after);
     }
@@ -163,6 +168,23 @@ class History {
         }
     }
 
+    // What the elements hold that a step has put into the page. The engine likes to move live nodes into an element before
+    // it puts that into the document, and nobody tells of that.
+    static #contentsOf(changes) {
+        const contents = new Map();
+        const keep = element => {
+            if (!contents.has(element))
+                contents.set(element, [...element.childNodes]);
+        };
+        for (const node of changes.flatMap(change => change.added ?? [])) {
+            if (!isElement(node) || !node.isConnected)
+                continue;
+            keep(node);
+            node.querySelectorAll('*').forEach(keep);
+        }
+        return contents;
+    }
+
     // Takes a change back, or makes it again. Values change places with what stands in the page.
     static #turn(change, again) {
         const target = change.target;
@@ -171,7 +193,7 @@ class History {
             for (const node of out)
                 node.remove();
             for (const node of back)
-                target.insertBefore(node, change.next);
+                target.insertBefore(node, change.next?.parentNode === target ? change.next : null);
         } else if (change.type === 'attributes') {
             const now = target.getAttributeNS(change.namespace, change.name);
             if (change.value === null)
