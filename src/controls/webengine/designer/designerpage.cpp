@@ -30,7 +30,7 @@ constexpr quint32 world = QWebEngineScript::ApplicationWorld;
 /// switched off, because the designer's own would hear no events then.
 constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Security-Policy\" content=\""
                                   u"script-src 'none'; object-src 'none'; worker-src 'none'; connect-src 'none'; "
-                                  u"form-action 'none'\">";
+                                  u"frame-src 'none'; form-action 'none'\">";
 
 /// In the order in which they build upon each other.
 constexpr QStringView scriptNames[] = {

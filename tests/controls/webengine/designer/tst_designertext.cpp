@@ -33,7 +33,7 @@ private:
     QString roundTrip(const QString &page)
     {
         m_bench->load(page);
-        m_bench->ask(u"document.documentElement.append(new Text('')); null"_s);
+        m_bench->ask(u"document.documentElement.lastChild.append(new Text('')); null"_s);
         [this] { QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience); }();
         return m_bench->designer.documentHtml();
     }
@@ -121,7 +121,6 @@ void TstDesignerText::edited()
     QFETCH(QString, expected);
     const QString text = roundTrip(page);
     QCOMPARE(text, expected);
-    QTest::qWait(65000);
     QCOMPARE(roundTrip(text), text);
 }
 
