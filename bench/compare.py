@@ -139,6 +139,14 @@ def preview(programs, report, _inputs, _build, work):
     report.aim("first preview of a small page", ours, bare, 0.60, "bare web")
 
 
+def designer(_programs, report, inputs, build, _work):
+    """The visual designer: from a key to the state that the toolbar shows, and its ways in and out with a page of 1 MB."""
+    times = in_process(build, "designer_bench", str(inputs(1)))
+    report.row("a key in the designer, status shown", times["key"] / 1e6, 16, 1.0, "16 ms")
+    for way in ("enter", "leave"):
+        report.row(f"{way} the designer with 1 MB", times[way] / 1e6, 2000, 1.0, "2 s")
+
+
 def in_process(build, name, *arguments):
     """The median real times, in nanoseconds, of a benchmark program's cases by name."""
     done = subprocess.run(
@@ -284,7 +292,7 @@ def ftp(_programs, report, _inputs, build, work):
         shutil.rmtree(target)
 
 
-GROUPS = {"start": start, "open": opening, "type": typing, "preview": preview, "colour": colouring, "functions": functions, "tools": tools,
+GROUPS = {"start": start, "open": opening, "type": typing, "preview": preview, "designer": designer, "colour": colouring, "functions": functions, "tools": tools,
           "save": saving, "folder": local_folder, "ftpfolder": ftp_folder, "ftp": ftp}
 
 

@@ -6,6 +6,8 @@
 #include "controls/files/textfile.h"
 #include "controls/files/textlines.h"
 #include "controls/syntax/describestyles.h"
+#include "controls/webengine/designer/pagetext.h"
+#include "controls/webengine/designer/servermarks.h"
 #include "ftp/folderlisting.h"
 #include "ftp/ftpreply.h"
 #include "panes/customtabfile.h"
@@ -139,6 +141,19 @@ QByteArray printHierarchical(const QByteArray &input)
     }
 }
 
+/// The page with marks in the place of server code and comments.
+QByteArray printServerMarks(const QByteArray &input)
+{
+    return ServerMarks(QStringLiteral("mark")).mask(textOf(input)).toUtf8();
+}
+
+/// What the designer makes of a page if its engine gives it back as it was.
+QByteArray printDesignerText(const QByteArray &input)
+{
+    const PageText page(textOf(input), QStringLiteral("mark"));
+    return page.fromEngine(page.forEngine()).toUtf8();
+}
+
 /// One line for each entry of a server's folder: kind, size, time and name, divided by tabs.
 QByteArray printEntries(const std::vector<ListedEntry> &entries)
 {
@@ -194,6 +209,8 @@ constexpr char16_t perl[] = u"Perl";
 constexpr Parser table[] = {
     {"ini", printProfile},
     {"textfile", printTextFile},
+    {"servermarks", printServerMarks},
+    {"designertext", printDesignerText},
     {"tags", printTags},
     {"customtab", printCustomTab},
     {"sot", printSotTree},

@@ -33,7 +33,8 @@ private:
     QString roundTrip(const QString &page)
     {
         m_bench->load(page);
-        m_bench->ask(u"document.documentElement.lastChild.append(new Text('')); null"_s);
+        // Not into the last child, which may be a text.
+        m_bench->ask(u"document.documentElement.append(new Text('')); null"_s);
         [this] { QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience); }();
         return m_bench->designer.documentHtml();
     }

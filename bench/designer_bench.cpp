@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// designer_bench PAGE: the ways into and out of the visual designer with a page, and the time from a key to the state that
+// the toolbar shows, in a page of one paragraph.
+#include "controls/prompts.h"
+#include "controls/webengine/designer/designerwidget.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWebEngineView>
+
+#include <chrono>
+#include <functional>
+
+#include <unistd.h>
+
+using namespace zephira;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Nothing that is measured asks.
+struct NoPrompts final : Prompts {
+    Answer ask(const Question &) override { return Answer::Cancel; }
+    std::optional<QString> input(const InputRequest &) override { return {}; }
+    std::optional<QString> file(const FileRequest &) override { return {}; }
+    std::optional<QString> folder(const QString &, const QString &) override { return {}; }
+    std::optional<quint32> colour(quint32) override { return {}; }
+    std::optional<FontChoice> font(const FontChoice &) override { return {}; }
+};
+
+/// Seconds from the action to the signal that it leads to.
+template<typename Signal>
+double secondsUntil(DesignerWidget &designer, Signal signal, const std::function<void()> &action)
+{
+    QEventLoop loop;
+    QObject::connect(&designer, signal, &loop, &QEventLoop::quit);
+    const auto begin = std::chrono::steady_clock::now();
+    action();
+    loop.exec();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+void show(DesignerWidget &designer, const std::function<void()> &load)
+{
+    secondsUntil(designer, &DesignerWidget::DocumentComplete, load);
+}
+
+void enter(benchmark::State &state, DesignerWidget &designer, const QString &page)
+{
+    for (auto _ : state) {
+        show(designer, [&] { designer.setDocumentHtml(u"<p>a</p>"_s); });
+        state.SetIterationTime(
+            secondsUntil(designer, &DesignerWidget::DocumentComplete, [&] { designer.loadDocument(page); }));
+    }
+}
+
+/// An unchanged page comes back without the engine, so that it is changed first.
+void leave(benchmark::State &state, DesignerWidget &designer, const QString &page)
+{
+    show(designer, [&] { designer.loadDocument(page); });
+    for (auto _ : state) {
+        designer.pasteHtml(u"<p>b</p>"_s);
+        const auto begin = std::chrono::steady_clock::now();
+        benchmark::DoNotOptimize(designer.documentHtml());
+        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
+    }
+}
+
+void key(benchmark::State &state, DesignerWidget &designer)
+{
+    show(designer, [&] { designer.setDocumentHtml(u"<p>a</p>"_s); });
+    designer.view().setFocus();
+    for (auto _ : state) {
+        state.SetIterationTime(secondsUntil(designer, &DesignerWidget::DisplayChanged, [&] {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_B, Qt::NoModifier, u"b"_s);
+            QCoreApplication::sendEvent(designer.view().focusProxy(), &press);
+        }));
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_B, Qt::NoModifier, u"b"_s);
+        QCoreApplication::sendEvent(designer.view().focusProxy(), &release);
+        // The caret's own report follows the letter's, and must not be taken for that of the next one.
+        QEventLoop rest;
+        QTimer::singleShot(30, &rest, &QEventLoop::quit);
+        rest.exec();
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // As in the program: the engine paints by software, and does without its sandbox only where it must.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    qputenv("QT_QUICK_BACKEND", "software");
+    if (geteuid() == 0)
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    benchmark::Initialize(&argc, argv);
+    QApplication application(argc, argv);
+    if (argc != 2)
+        qFatal("usage: designer_bench PAGE");
+    const QString page = QString::fromLocal8Bit(argv[1]);
+    NoPrompts prompts;
+    DesignerWidget designer(prompts);
+    designer.resize(800, 600);
+    designer.show();
+    const auto add = [](const char *name, auto run, int iterations) {
+        benchmark::RegisterBenchmark(name, run)->Iterations(iterations)->UseManualTime()->Unit(benchmark::kMillisecond);
+    };
+    add("enter", [&](benchmark::State &state) { enter(state, designer, page); }, 1);
+    add("leave", [&](benchmark::State &state) { leave(state, designer, page); }, 1);
+    add("key", [&](benchmark::State &state) { key(state, designer); }, 50);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The designer's way with pages that anybody wrote: pieces without a gap, server code that comes back to the letter, and
+// no harm from whatever the engine may make of a page.
+#include "controls/files/textfile.h"
+#include "controls/webengine/designer/pagetext.h"
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+void check(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+void checkPieces(const QString &text)
+{
+    qsizetype end = 0;
+    for (const PagePiece &piece : scanPage(text)) {
+        check(piece.begin == end && (piece.end > piece.begin || piece.kind == PieceKind::Value));
+        end = piece.end;
+    }
+    check(end == text.size());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QString text = QString::fromUtf8(decodeText(bytes).utf8);
+    checkPieces(text);
+    const QString prefix = freshMarkPrefix(text);
+    ServerMarks marks(prefix);
+    check(marks.unmask(marks.mask(text)) == text);
+    PageText page(text, prefix);
+    page.fromEngine(text);
+    page.fromEngine(page.forEngine());
+    page.fragmentFromEngine(page.fragmentForEngine(text));
+    return 0;
+}
