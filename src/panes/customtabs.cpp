@@ -52,6 +52,9 @@ QTreeWidget *CustomTabs::makeList(int tab, QWidget *owner)
 
 bool CustomTabs::eventFilter(QObject *watched, QEvent *event)
 {
+    // Everything else goes by first, because some of it comes from a list that is just being destroyed.
+    if (event->type() != QEvent::ContextMenu && event->type() != QEvent::MouseButtonRelease)
+        return QObject::eventFilter(watched, event);
     for (int tab = 1; tab <= count; ++tab) {
         QTreeWidget &view = *list(tab);
         if (watched != &view && watched != view.viewport())

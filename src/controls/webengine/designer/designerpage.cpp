@@ -30,7 +30,7 @@ constexpr quint32 world = QWebEngineScript::ApplicationWorld;
 /// switched off, because the designer's own would hear no events then.
 constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Security-Policy\" content=\""
                                   u"script-src 'none'; object-src 'none'; worker-src 'none'; connect-src 'none'; "
-                                  u"frame-src 'none'; form-action 'none'\">";
+                                  u"frame-src 'none'; form-action 'none'\"><meta name=opening content=%1>";
 
 /// In the order in which they build upon each other.
 constexpr QStringView scriptNames[] = {
@@ -87,8 +87,8 @@ DesignerPage::DesignerPage(QWebEngineProfile &profile, QObject *parent) : QWebEn
     installScript();
 
     connect(this, &QWebEnginePage::loadFinished, this, [this](bool ok) {
-        if (std::exchange(m_isOpening, false))
-            emit ready(ok);
+        if (m_isOpening && ok)
+            lookForEmptyPage();
     });
     connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { m_unanswered = 0; });
     connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
@@ -114,7 +114,19 @@ void DesignerPage::open(const QUrl &base)
     m_fence.files().open(base);
     m_fence.files().shown(base);
     m_isOpening = true;
-    setHtml(emptyPage.toString(), base);
+    ++m_opening;
+    setHtml(emptyPage.toString().arg(m_opening), base);
+}
+
+/// The document before may have ended its own loading only now, as one with frames does; what is written then would be
+/// lost with it. So the empty page bears a number.
+void DesignerPage::lookForEmptyPage()
+{
+    const QString question = u"document.querySelector('meta[name=opening]')?.content === '%1'"_s.arg(m_opening);
+    runJavaScript(question, world, [self = QPointer<DesignerPage>(this), opening = m_opening](const QVariant &isThere) {
+        if (self && self->m_opening == opening && isThere.toBool() && std::exchange(self->m_isOpening, false))
+            emit self->ready(true);
+    });
 }
 
 bool DesignerPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame)

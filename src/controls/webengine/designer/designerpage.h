@@ -47,11 +47,14 @@ protected:
 
 private:
     void installScript();
+    void lookForEmptyPage();
 
     LocalFileFence m_fence;
     DesignerBridge m_bridge;
     QWebChannel m_channel;
     bool m_isOpening = false;
+    /// Tells one empty page from the next.
+    int m_opening = 0;
     int m_unanswered = 0;
     int m_patience = 10000;
 };
