@@ -89,7 +89,7 @@ QString FtpServer::user() const
 
 QString FtpServer::password() const
 {
-    return m_kind == Kind::Vsftpd ? u"anonymous@example.com"_s : u"sécret word"_s;
+    return m_kind == Kind::Vsftpd ? u"anonymous@example.com"_s : u"Secret word 9"_s;
 }
 
 QString FtpServer::loginFolder() const
