@@ -2,10 +2,10 @@
 #include "app/program.h"
 
 #include "app/comingforms.h"
-#include "app/disabledicons.h"
 #include "app/failedstart.h"
 #include "app/frmmain.h"
 #include "app/icons.h"
+#include "app/iconstates.h"
 #include "app/startprocedure.h"
 #include "controls/appfolder.h"
 #include "controls/clock.h"
@@ -70,7 +70,7 @@ QString recoveryFolder()
 
 int runProgram(QApplication &application, const QString &argument)
 {
-    QApplication::setStyle(new DisabledIcons);
+    QApplication::setStyle(new IconStates);
     const IconTheme theme(application);
     QApplication::setWindowIcon(QIcon(u":/zephira.svg"_s));
 
