@@ -58,6 +58,12 @@ Result<void> copyMissing(const QString &source, const QString &target)
     return {};
 }
 
+/// The executable and its modules stay where they are: they are no data.
+bool isProgram(const QFileInfo &file)
+{
+    return file.isFile() && (file.isExecutable() || file.suffix() == u"so");
+}
+
 /// The configuration comes last: a folder that holds it is complete.
 Result<void> fillFolder(const QString &source, const QString &target)
 {
@@ -71,7 +77,7 @@ Result<void> fillFolder(const QString &source, const QString &target)
     while (walk.hasNext()) {
         const QString path = walk.next();
         const QString relative = root.relativeFilePath(path);
-        if (relative == iniName)
+        if (relative == iniName || (!relative.contains(u'/') && isProgram(walk.fileInfo())))
             continue;
         const QString place = target + u'/' + relative;
         const Result<void> done = walk.fileInfo().isDir() ? makePrivateFolder(place) : copyMissing(path, place);
@@ -85,14 +91,16 @@ Result<void> fillFolder(const QString &source, const QString &target)
 
 Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome)
 {
-    if (QFileInfo::exists(executableFolder + u'/' + iniName) && QFileInfo(executableFolder).isWritable())
+    const bool isPortable = QFileInfo::exists(executableFolder + u'/' + iniName);
+    if (isPortable && QFileInfo(executableFolder).isWritable())
         return QDir::cleanPath(executableFolder);
 
+    const QString source = isPortable ? executableFolder : installedData;
     const QString folder = QDir::cleanPath(dataHome + u"/zephira"_s);
     if (const Result<void> made = makePrivateFolder(folder); !made)
         return made.error();
     if (!QFileInfo::exists(folder + u'/' + iniName)) {
-        if (const Result<void> filled = fillFolder(QDir::cleanPath(installedData), folder); !filled)
+        if (const Result<void> filled = fillFolder(QDir::cleanPath(source), folder); !filled)
             return filled.error();
     }
     return folder;

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -34,6 +35,28 @@ uint modeOf(const QString &path)
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777u : 0u;
 }
 
+/// For its lifetime the question of what may be written is answered as for a user without rights, even if the superuser
+/// asks it; what is done is done with the rights that there are.
+class WithoutPrivileges
+{
+public:
+    WithoutPrivileges()
+    {
+        if (m_wasSuperuser)
+            QVERIFY(::setreuid(nobody, 0) == 0);
+    }
+    ~WithoutPrivileges()
+    {
+        if (m_wasSuperuser && ::setreuid(0, 0) != 0)
+            qFatal("the superuser's rights did not come back");
+    }
+    Q_DISABLE_COPY_MOVE(WithoutPrivileges)
+
+private:
+    static constexpr uid_t nobody = 65534;
+    const bool m_wasSuperuser = ::geteuid() == 0;
+};
+
 } // namespace
 
 class TstAppFolder : public QObject
@@ -43,6 +66,7 @@ class TstAppFolder : public QObject
 private Q_SLOTS:
     void init();
     void portable();
+    void portableOfAnotherUser();
     void executableFolderWithoutConfiguration();
     void firstStartFills();
     void existingFilesStay();
@@ -80,6 +104,31 @@ void TstAppFolder::portable()
     QVERIFY(path.ok());
     QCOMPARE(path.value(), at(u"bin"_s));
     QVERIFY(!QFileInfo::exists(at(u"home"_s)));
+}
+
+void TstAppFolder::portableOfAnotherUser()
+{
+    put(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
+    put(at(u"bin/zephira"_s), "program");
+    put(at(u"bin/zephiraweb.so"_s), "module");
+    put(at(u"bin/templates/blank.html"_s), "<body>");
+    put(at(u"bin/templates/tool.so"_s), "data");
+    QVERIFY(QFile::setPermissions(at(u"bin/zephira"_s), QFile::Permissions::fromInt(0x5555)));
+    QVERIFY(QFile::setPermissions(at(u"bin"_s), QFile::Permissions::fromInt(0x5555)));
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions::fromInt(0x7755)));
+    {
+        const WithoutPrivileges withoutPrivileges;
+        const Result<QString> path = prepare();
+        QVERIFY2(path.ok(), path.ok() ? "" : qPrintable(path.error().sentence));
+        QCOMPARE(path.value(), at(u"home/zephira"_s));
+    }
+    QVERIFY(QFile::setPermissions(at(u"bin"_s), QFile::Permissions::fromInt(0x7755)));
+    QCOMPARE(contentOf(at(u"home/zephira/zephira.ini"_s)), "[Startup]\r\n");
+    QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<body>");
+    QCOMPARE(contentOf(at(u"home/zephira/templates/tool.so"_s)), "data");
+    QVERIFY(!QFileInfo::exists(at(u"home/zephira/zephira"_s)));
+    QVERIFY(!QFileInfo::exists(at(u"home/zephira/zephiraweb.so"_s)));
+    QVERIFY(!QFileInfo::exists(at(u"home/zephira/readme.txt"_s)));
 }
 
 void TstAppFolder::executableFolderWithoutConfiguration()
