@@ -78,6 +78,11 @@ public:
     /// Writes the whole block, or fails.
     virtual bool InternetWriteFile(InternetHandle file, const char *buffer, quint32 size, quint32 &count) = 0;
 
+    /// Tells that another file of the connection will be opened right behind the one that is open, so that the transfer
+    /// can be prepared while the caller puts the open one away. The platform has no such operation: it changes how long
+    /// the next opening takes, and no result.
+    virtual void expectTransfer(InternetHandle connection) { Q_UNUSED(connection) }
+
     virtual bool FtpCreateDirectoryA(InternetHandle connection, const QString &folder) = 0;
     virtual bool FtpRemoveDirectoryA(InternetHandle connection, const QString &folder) = 0;
     virtual bool FtpDeleteFileA(InternetHandle connection, const QString &file) = 0;

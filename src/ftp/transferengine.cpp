@@ -74,6 +74,7 @@ TransferEngine::Outcome TransferEngine::run(const TransferQueue &queue)
     const auto move = downloads ? &TransferEngine::download : &TransferEngine::upload;
     m_progress = {.total = queue.total()};
     m_number = 0;
+    m_count = static_cast<int>(queue.files.size());
     m_display.beginRun(m_progress.total, double(m_progress.total) * (downloads ? downloadSlack : 1));
     for (const TransferQueue::File &file : queue.files) {
         if (!(this->*move)(file))
@@ -94,9 +95,7 @@ bool TransferEngine::download(const TransferQueue::File &file)
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
     m_client.desk->log(LogEntry::DownloadBegun, {remote, local});
     m_client.desk->setPanel(textPanel, u"Transfering data..., wait."_s);
-    m_handle = m_client.operations.FtpOpenFileA(m_client.session.ftpConnectHandle, remote, GENERIC_READ,
-                                                FTP_TRANSFER_TYPE_BINARY, 0);
-    if (m_handle == 0) {
+    if (!open(remote, GENERIC_READ)) {
         m_prompts.tell(u"Can't open file path!"_s, u"Problém s URL"_s, Question::Icon::Exclamation);
         m_client.desk->log(LogEntry::DownloadRefused);
         return false;
@@ -154,9 +153,7 @@ bool TransferEngine::upload(const TransferQueue::File &file)
     QFile local(path);
     if (!local.open(QIODevice::ReadOnly))
         return refuse(u"Can't open the file %1: %2"_s.arg(path, local.errorString()));
-    m_handle = m_client.operations.FtpOpenFileA(m_client.session.ftpConnectHandle, remote, GENERIC_WRITE,
-                                                FTP_TRANSFER_TYPE_BINARY, 0);
-    if (m_handle == 0) {
+    if (!open(remote, GENERIC_WRITE)) {
         m_prompts.tell(u"Cant create requested file on server"_s, {}, Question::Icon::Exclamation);
         m_client.desk->log(LogEntry::UploadRefused);
         return false;
@@ -206,6 +203,15 @@ void TransferEngine::tellUploadFailure()
 void TransferEngine::beginFile(const QString &line, double barMaximum)
 {
     m_display.beginFile(++m_number, line, barMaximum);
+}
+
+bool TransferEngine::open(const QString &remote, quint32 access)
+{
+    const InternetHandle connection = m_client.session.ftpConnectHandle;
+    m_handle = m_client.operations.FtpOpenFileA(connection, remote, access, FTP_TRANSFER_TYPE_BINARY, 0);
+    if (m_handle != 0 && m_number < m_count)
+        m_client.operations.expectTransfer(connection);
+    return m_handle != 0;
 }
 
 void TransferEngine::countBlock(qint64 bytes)

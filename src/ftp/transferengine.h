@@ -74,6 +74,8 @@ private:
     Result<void> store(const QString &path, const Received &received);
 
     void beginFile(const QString &line, double barMaximum);
+    /// Opens the current file on the server; false if that refuses it.
+    bool open(const QString &remote, quint32 access);
     void countBlock(qint64 bytes);
     bool close();
     void tellUploadFailure();
@@ -88,7 +90,9 @@ private:
     TransferProgress m_progress;
     InternetHandle m_handle = 0;
     quint32 m_startTicks = 0;
+    /// Of the current file, from 1, and how many there are.
     int m_number = 0;
+    int m_count = 0;
 };
 
 } // namespace zephira

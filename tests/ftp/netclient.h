@@ -54,7 +54,7 @@ public:
     /// Stores a file in blocks of 1024 bytes.
     bool put(const QString &path, const QByteArray &content)
     {
-        const InternetHandle file = operations.FtpOpenFileA(connection, path, GENERIC_WRITE, FTP_TRANSFER_TYPE_BINARY, 0);
+        const InternetHandle file = openFile(path, GENERIC_WRITE);
         bool ok = file != 0;
         for (qsizetype at = 0; ok && at < content.size(); at += block) {
             const auto size = static_cast<quint32>(std::min<qsizetype>(block, content.size() - at));
@@ -68,7 +68,7 @@ public:
     QByteArray get(const QString &path, bool &ok)
     {
         counts.clear();
-        const InternetHandle file = operations.FtpOpenFileA(connection, path, GENERIC_READ, FTP_TRANSFER_TYPE_BINARY, 0);
+        const InternetHandle file = openFile(path, GENERIC_READ);
         QByteArray content;
         char buffer[block];
         quint32 count = 0;
@@ -87,8 +87,19 @@ public:
     NetOperations operations;
     InternetHandle open = 0;
     InternetHandle connection = 0;
+    /// Whether get() and put() tell that another file will be opened right behind theirs.
+    bool anotherFollows = false;
     /// Of the last file read.
     QList<quint32> counts;
+
+private:
+    InternetHandle openFile(const QString &path, quint32 access)
+    {
+        const InternetHandle file = operations.FtpOpenFileA(connection, path, access, FTP_TRANSFER_TYPE_BINARY, 0);
+        if (anotherFollows)
+            operations.expectTransfer(connection);
+        return file;
+    }
 };
 
 } // namespace zephira

@@ -182,6 +182,11 @@ quint32 RecordingOperations::RasHangUpA(quint32 connection)
     return succeeds("RasHangUpA", {QString::number(connection)}) ? 0 : anyError;
 }
 
+void RecordingOperations::expectTransfer(InternetHandle)
+{
+    announcedBehind.append(log.value(log.size() - 1));
+}
+
 FindData foundFile(const QString &name, quint64 size, const SystemTime &written)
 {
     return {0, systemTimeToFileTime(written).value_or(0), static_cast<quint32>(size >> 32),

@@ -28,6 +28,9 @@ struct RecordingOperations final : InternetOperations {
     /// The files' contents by their path: what is read, and what was written.
     std::map<QString, QByteArray> files;
     std::deque<RasConnection> dialUp;
+    /// The calls behind which another transfer of their connection was announced. That has no line in the log, because
+    /// the platform has no such operation.
+    QStringList announcedBehind;
     /// When set, is told of each call before it is answered.
     std::function<void(const QString &call)> onCall;
 
@@ -52,6 +55,7 @@ struct RecordingOperations final : InternetOperations {
     bool InternetCloseHandle(InternetHandle handle) override;
     quint32 RasEnumConnectionsA(std::span<RasConnection> connections, quint32 &byteCount, quint32 &count) override;
     quint32 RasHangUpA(quint32 connection) override;
+    void expectTransfer(InternetHandle connection) override;
 
 private:
     struct OpenFile {

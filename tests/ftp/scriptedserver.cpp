@@ -34,9 +34,6 @@ using Session = ScriptedServer::Session;
 /// What a command does when the test has nothing else in mind.
 std::map<QByteArray, ScriptedServer::Handler> usualHandlers()
 {
-    const auto replying = [](const QByteArray &line) {
-        return [line](Session &session, const QByteArray &) { session.reply(line); };
-    };
     const auto sending = [](const QByteArray &bytes) {
         return [bytes](Session &session, const QByteArray &) {
             session.reply("150 Here it comes");
@@ -187,6 +184,19 @@ QList<QByteArray> ScriptedServer::commands()
         m_thread.join();
     }
     return m_commands;
+}
+
+ScriptedServer::Handler replying(const QByteArray &line)
+{
+    return [line](Session &session, const QByteArray &) { session.reply(line); };
+}
+
+QByteArray verbs(const QList<QByteArray> &commands)
+{
+    QByteArray list;
+    for (const QByteArray &command : commands)
+        list += command.split(' ').front() + ' ';
+    return list.trimmed();
 }
 
 } // namespace zephira

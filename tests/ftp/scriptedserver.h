@@ -73,4 +73,9 @@ private:
     std::thread m_thread;
 };
 
+/// Answers a command with a line.
+ScriptedServer::Handler replying(const QByteArray &line);
+/// The verb of each command that a server was given.
+QByteArray verbs(const QList<QByteArray> &commands);
+
 } // namespace zephira

@@ -60,19 +60,6 @@ ScriptedServer::Handler doing(void (*act)(Session &session))
     return [act](Session &session, const QByteArray &) { act(session); };
 }
 
-ScriptedServer::Handler replying(const QByteArray &line)
-{
-    return [line](Session &session, const QByteArray &) { session.reply(line); };
-}
-
-/// The verb of each command that a server was given.
-QByteArray verbs(const QList<QByteArray> &commands)
-{
-    QByteArray list;
-    for (const QByteArray &command : commands)
-        list += command.split(' ').front() + ' ';
-    return list.trimmed();
-}
 
 } // namespace
 

@@ -118,6 +118,34 @@ private slots:
         QVERIFY(stored.readAll() == content);
     }
 
+    void manyFilesInARow_data() { serversAndModes(); }
+
+    void manyFilesInARow()
+    {
+        constexpr int count = 40;
+        NetClient client;
+        const FtpServer &server = connected(client);
+        const QString path = server.folder() + u"row%1.bin"_s;
+        client.anotherFollows = true;
+        for (int i = 0; i < count; ++i)
+            QVERIFY(client.put(path.arg(i), contentOf(i * 100)));
+        bool ok = false;
+        for (int i = 0; i < count; ++i) {
+            QVERIFY(client.get(path.arg(i), ok) == contentOf(i * 100));
+            QVERIFY(ok);
+        }
+        // What was announced doesn't come: everything else goes on as ever, also when the announced file is none.
+        QCOMPARE(client.list(server.folder() + u"row*.bin"_s).size(), count);
+        QVERIFY(client.get(path.arg(1), ok) == contentOf(100));
+        QCOMPARE(client.get(path.arg(count), ok), QByteArray());
+        QVERIFY(!ok);
+        for (int i = 0; i < count; ++i) {
+            QVERIFY(client.get(path.arg(i), ok) == contentOf(i * 100));
+            QVERIFY(client.operations.FtpDeleteFileA(client.connection, path.arg(i)));
+        }
+        QVERIFY(!client.operations.FtpDeleteFileA(client.connection, path.arg(0)));
+    }
+
     void names_data()
     {
         QTest::addColumn<int>("server");

@@ -8,6 +8,8 @@
 #include <netinet/in.h>
 #include <unistd.h>
 
+#include <thread>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -66,12 +68,31 @@ private slots:
         QCOMPARE(server.receive(buffer, sizeof(buffer), patience), 0);
     }
 
+    void receivesWhatComesLate()
+    {
+        const Socket listener = Socket::listeningAt(numeric(u"127.0.0.1"_s));
+        Socket client = Socket::connectedTo(listener.localAddress(), patience);
+        Socket server = listener.accept(client.localAddress(), patience);
+        char buffer[16];
+        // Much later than the moment in which the receiver doesn't sleep yet.
+        std::thread sender([&client] {
+            std::this_thread::sleep_for(50ms);
+            client.send("hello", 60s);
+            client.endSending();
+        });
+        const qsizetype count = server.receive(buffer, sizeof(buffer), patience, Socket::Waiting::AwakeAtFirst);
+        sender.join();
+        QCOMPARE(QByteArray(buffer, count), "hello"_ba);
+        QCOMPARE(server.receive(buffer, sizeof(buffer), patience, Socket::Waiting::AwakeAtFirst), 0);
+    }
+
     void waitsNoLongerThanItMay()
     {
         const Socket listener = Socket::listeningAt(numeric(u"127.0.0.1"_s));
         Socket client = Socket::connectedTo(listener.localAddress(), patience);
         char buffer[16];
-        QCOMPARE(client.receive(buffer, sizeof(buffer), Deadline(10ms)), -1);
+        for (const auto waiting : {Socket::Waiting::Asleep, Socket::Waiting::AwakeAtFirst})
+            QCOMPARE(client.receive(buffer, sizeof(buffer), Deadline(10ms), waiting), -1);
         QVERIFY(!client.waitForInput(Deadline(0ms)));
         // Nobody takes it out of the connection's buffers.
         QVERIFY(!client.send(QByteArray(100'000'000, 'x'), 10ms));

@@ -108,6 +108,8 @@ private slots:
     void orderOfDownload();
     void orderOfUpload();
     void severalFiles();
+    void everyFileButTheLastAnnouncesAnother_data();
+    void everyFileButTheLastAnnouncesAnother();
     void olderAndLongerFileKeepsItsTail();
     void refusedDownloadEndsTheQueue();
     void refusedUploadEndsTheQueue();
@@ -223,6 +225,32 @@ void TstTransferEngine::severalFiles()
     QCOMPARE(run.display.shown.last(), u"3: Downloading File: größe ζ / 0 bytù., bar to 0"_s);
     QCOMPARE(run.display.last.doneAll, 3);
     QCOMPARE(run.display.last.doneFile, 0);
+}
+
+void TstTransferEngine::everyFileButTheLastAnnouncesAnother_data()
+{
+    QTest::addColumn<Direction>("direction");
+    QTest::addColumn<QString>("access");
+
+    QTest::newRow("download") << Direction::Download << u"0x80000000"_s;
+    QTest::newRow("upload") << Direction::Upload << u"0x40000000"_s;
+}
+
+void TstTransferEngine::everyFileButTheLastAnnouncesAnother()
+{
+    QFETCH(Direction, direction);
+    QFETCH(QString, access);
+    Run run;
+    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
+        run.putLocal(name, "x");
+    run.operations.files = {{u"/pub/a"_s, "x"}, {u"/pub/b"_s, "x"}, {u"/pub/c"_s, "x"}};
+    run.prompts.expectTell(u"Data transfer completed."_s);
+    run.prompts.expectTell(u"Data transfer completed."_s);
+    run.move(direction, {{u"a"_s, 1}, {u"b"_s, 1}, {u"c"_s, 1}});
+    // A run of one file, behind another one too, announces nothing.
+    run.move(direction, {{u"a"_s, 1}});
+    const QString opened = u"FtpOpenFileA(2, \"/pub/%1\", %2, 2, 0)"_s;
+    QCOMPARE(run.operations.announcedBehind, (QStringList{opened.arg(u"a", access), opened.arg(u"b", access)}));
 }
 
 void TstTransferEngine::olderAndLongerFileKeepsItsTail()

@@ -109,11 +109,10 @@ bool ControlConnection::dropStrayInput()
 
 bool ControlConnection::receiveMore(Deadline deadline)
 {
-    // Replies are waited for nearly always, so that a look without waiting would only cost time.
-    if (m_input.size() >= longestLine || !m_socket.waitForInput(deadline))
+    if (m_input.size() >= longestLine)
         return false;
     char buffer[4096];
-    const qsizetype count = m_socket.receive(buffer, sizeof(buffer), deadline);
+    const qsizetype count = m_socket.receive(buffer, sizeof(buffer), deadline, Socket::Waiting::AwakeAtFirst);
     if (count <= 0)
         return false;
     m_input.append(buffer, count);

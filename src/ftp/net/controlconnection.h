@@ -26,6 +26,9 @@ public:
 
     /// The reply to a command, which stands without its line end; the code is 0 if there is none.
     FtpReply ask(const QByteArray &command);
+    /// Gives a command and leaves its reply to readReply(), which has to come before the next command. False if it
+    /// wasn't sent.
+    bool send(const QByteArray &command);
     FtpReply readReply();
     /// The same after an upload: the limit begins when the server has taken the last of the data that it takes.
     FtpReply readReplyBehind(const Socket &data);
@@ -35,7 +38,6 @@ public:
     const SocketAddress &peerAddress() const { return m_peerAddress; }
 
 private:
-    bool send(const QByteArray &command);
     bool dropStrayInput();
     bool receiveMore(Deadline deadline);
 

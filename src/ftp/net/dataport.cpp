@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/net/dataport.h"
 
+#include <utility>
+
 namespace zephira {
 
 namespace {
+
+constexpr auto extendedPassive = "EPSV";
+
+/// A port that was asked ahead is used for this part of the limit on waiting, which usually is a second. Servers, and
+/// firewalls on the way, close ports that nobody comes to.
+constexpr int partOfLimit = 30;
 
 /// Anything else may go better the next time.
 bool isUnknownCommand(const FtpReply &reply)
@@ -29,15 +37,38 @@ void DataPort::discard()
     m_socket.close();
 }
 
+void DataPort::askAhead()
+{
+    // PASV is not asked ahead: it is what comes to the rescue when the port that was asked ahead is of no use.
+    if (m_passive && m_extended && m_control.send(extendedPassive))
+        m_ahead = Deadline(m_control.limit() / partOfLimit);
+}
+
+void DataPort::settle()
+{
+    if (std::exchange(m_ahead, std::nullopt))
+        m_control.readReply();
+}
+
 bool DataPort::preparePassive()
 {
     if (m_extended) {
-        const FtpReply reply = m_control.ask("EPSV");
+        const FtpReply reply = extendedPassiveReply();
         if (connectToPort(extendedPassivePort(reply)))
             return true;
         m_extended = !isUnknownCommand(reply);
     }
     return connectToPort(passivePort(m_control.ask("PASV")));
+}
+
+FtpReply DataPort::extendedPassiveReply()
+{
+    if (m_ahead && !m_ahead->hasPassed()) {
+        m_ahead.reset();
+        return m_control.readReply();
+    }
+    settle();
+    return m_control.ask(extendedPassive);
 }
 
 bool DataPort::connectToPort(std::optional<quint16> port)

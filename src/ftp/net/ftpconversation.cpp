@@ -53,7 +53,10 @@ void FtpConversation::askForFeatures()
 
 FtpReply FtpConversation::ask(const QByteArray &command)
 {
-    return isTransferring() ? FtpReply() : m_control.ask(command);
+    if (isTransferring())
+        return {};
+    m_port.settle();
+    return m_control.ask(command);
 }
 
 bool FtpConversation::execute(const QByteArray &command)
@@ -140,7 +143,7 @@ bool FtpConversation::endReceiving()
     if (!isTransferring())
         return false;
     m_data.close();
-    return m_control.readReply().isSuccess();
+    return endTransfer(m_control.readReply());
 }
 
 bool FtpConversation::endSending()
@@ -150,6 +153,13 @@ bool FtpConversation::endSending()
     m_data.endSending();
     const FtpReply reply = m_control.readReplyBehind(m_data);
     m_data.close();
+    return endTransfer(reply);
+}
+
+bool FtpConversation::endTransfer(const FtpReply &reply)
+{
+    if (std::exchange(m_expectsTransfer, false) && reply.isSuccess())
+        m_port.askAhead();
     return reply.isSuccess();
 }
 

@@ -30,9 +30,14 @@ public:
 
     /// Gives a command, such as RETR or STOR, that the server answers with a data connection.
     bool beginTransfer(const QByteArray &command);
+    /// Tells that another transfer follows the running one at once, so that it is prepared as soon as that has ended well.
+    void expectTransfer() { m_expectsTransfer = isTransferring(); }
     bool isTransferring() const { return m_data.isOpen(); }
     /// What has arrived, up to `size` bytes: their number, 0 at the end, -1 after a failure.
-    qsizetype receive(char *buffer, qsizetype size, Deadline deadline) { return m_data.receive(buffer, size, deadline); }
+    qsizetype receive(char *buffer, qsizetype size, Deadline deadline, Socket::Waiting waiting)
+    {
+        return m_data.receive(buffer, size, deadline, waiting);
+    }
     bool send(QByteArrayView bytes);
     /// Ends a transfer to us, before its end if need be. True if the server says that it sent all.
     bool endReceiving();
@@ -48,6 +53,7 @@ private:
     void askForFeatures();
     bool beginListing();
     std::optional<QByteArray> receiveListing();
+    bool endTransfer(const FtpReply &reply);
     void followLinks(const QByteArray &path, std::vector<ListedEntry> &entries);
 
     ControlConnection m_control;
@@ -55,6 +61,7 @@ private:
     Socket m_data;
     QByteArray m_loginFolder;
     bool m_knowsMlsd = false;
+    bool m_expectsTransfer = false;
 };
 
 } // namespace zephira

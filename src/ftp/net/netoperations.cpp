@@ -136,6 +136,12 @@ bool NetOperations::InternetWriteFile(InternetHandle file, const char *buffer, q
     return written;
 }
 
+void NetOperations::expectTransfer(InternetHandle handle)
+{
+    if (NetConnection *with = connection(handle))
+        with->conversation().expectTransfer();
+}
+
 bool NetOperations::FtpCreateDirectoryA(InternetHandle handle, const QString &folder)
 {
     NetConnection *with = connection(handle);

@@ -41,6 +41,7 @@ public:
                                 quintptr context) override;
     bool InternetReadFile(InternetHandle file, char *buffer, quint32 size, quint32 &count) override;
     bool InternetWriteFile(InternetHandle file, const char *buffer, quint32 size, quint32 &count) override;
+    void expectTransfer(InternetHandle connection) override;
     bool FtpCreateDirectoryA(InternetHandle connection, const QString &folder) override;
     bool FtpRemoveDirectoryA(InternetHandle connection, const QString &folder) override;
     bool FtpDeleteFileA(InternetHandle connection, const QString &file) override;

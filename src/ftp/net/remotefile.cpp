@@ -34,9 +34,12 @@ bool FileReader::receiveMore(Deadline deadline)
 {
     if (m_state != State::Running)
         return false;
-    const qsizetype count = m_conversation.receive(m_buffer.data(), m_buffer.size(), deadline);
+    // A small file has come as soon as it is asked for; a large one takes its time.
+    const auto waiting = m_received < bufferSize ? Socket::Waiting::AwakeAtFirst : Socket::Waiting::Asleep;
+    const qsizetype count = m_conversation.receive(m_buffer.data(), m_buffer.size(), deadline, waiting);
     m_begin = 0;
     m_end = std::max<qsizetype>(count, 0);
+    m_received += m_end;
     if (count > 0)
         return true;
     if (deadline.hasPassed())

@@ -33,6 +33,8 @@ private:
     QByteArray m_buffer;
     qsizetype m_begin = 0;
     qsizetype m_end = 0;
+    /// In bytes, since the beginning.
+    qint64 m_received = 0;
     State m_state = State::Running;
 };
 

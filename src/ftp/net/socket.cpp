@@ -18,6 +18,9 @@ namespace {
 /// How a socket is opened: nothing blocks in it, and no program that is started inherits it.
 constexpr int socketFlags = SOCK_NONBLOCK | SOCK_CLOEXEC;
 
+/// How long a program looks for what is to come before it goes to sleep.
+constexpr std::chrono::microseconds timeAwake{100};
+
 bool wouldBlock()
 {
     return errno == EAGAIN || errno == EWOULDBLOCK;
@@ -110,13 +113,16 @@ bool Socket::send(QByteArrayView bytes, std::chrono::milliseconds limit)
     return isOpen();
 }
 
-qsizetype Socket::receive(char *buffer, qsizetype size, Deadline deadline)
+qsizetype Socket::receive(char *buffer, qsizetype size, Deadline deadline, Waiting waiting)
 {
+    const auto isAwake = [waiting, end = Deadline::Clock::now() + timeAwake] {
+        return waiting == Waiting::AwakeAtFirst && Deadline::Clock::now() < end;
+    };
     for (;;) {
         const ssize_t count = ::recv(m_descriptor, buffer, static_cast<std::size_t>(size), 0);
         if (count >= 0)
             return count;
-        if (errno != EINTR && !(wouldBlock() && wait(POLLIN, deadline)))
+        if (errno != EINTR && !(wouldBlock() && (isAwake() || wait(POLLIN, deadline))))
             return -1;
     }
 }

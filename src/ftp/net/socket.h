@@ -44,8 +44,13 @@ public:
     void sendAtOnce();
     /// Sends all of it. The limit is for each wait, so that a slow line is no failure while something moves.
     bool send(QByteArrayView bytes, std::chrono::milliseconds limit);
+    /// How receive() waits. A server near by answers sooner than the system puts a program to sleep and wakes it again,
+    /// so that looking a few times before that is faster. It keeps the processor busy for at most a tenth of a
+    /// millisecond, and is for what is asked for seldom, not for every piece of a large file.
+    enum class Waiting { Asleep, AwakeAtFirst };
+
     /// What has arrived, up to `size` bytes: their number, 0 at the end of the connection, -1 after a failure.
-    qsizetype receive(char *buffer, qsizetype size, Deadline deadline);
+    qsizetype receive(char *buffer, qsizetype size, Deadline deadline, Waiting waiting = Waiting::Asleep);
     /// Waits until something has arrived; false at the deadline.
     bool waitForInput(Deadline deadline) const;
     /// Ends the sending; the other side sees the end of the data.
