@@ -151,6 +151,9 @@ void Document::adopt(const QString &path)
     m_hasFile = true;
     m_path = path;
     m_title = path;
+    // A copy that was made for the preview and is the document now is nobody's to delete.
+    if (path == m_previewTarget)
+        m_previewTarget.clear();
     m_window.setCaption(u"Zephira - ["_s + path + u']');
     m_window.setPathPanel(path);
     m_window.documentSettled();
@@ -346,7 +349,7 @@ void Document::revert()
     // Loading raises the change event; the flag is to stay what it was.
     const bool modified = m_modified;
     readInto(m_dialog.fileName);
-    m_context.designer.loadDocument(m_dialog.fileName);
+    endingQuietly([&] { m_context.designer.loadDocument(m_dialog.fileName); });
     m_modified = modified;
 }
 

@@ -202,7 +202,8 @@ void frmmain::languageChanged(int row)
         return;
     const LanguageRow &language = languageRows()[size_t(row)];
     m_formattingBar->setMarkupOpen(language.markupTools);
-    m_menus->menu(u"Tags"_s)->setEnabled(language.markupTools); // Its entry in the menu bar follows.
+    // In visual mode the menu stays closed, since it writes into the source. Its entry in the menu bar follows.
+    m_menus->menu(u"Tags"_s)->setEnabled(language.markupTools && !m_designer.isShowing());
     m_rt->setLanguage(QStringView(language.editorLanguage).toString());
 }
 

@@ -41,6 +41,8 @@ ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebV
         if (tab >= 0 && tab == m_parts.tabs.currentIndex())
             m_views.select(WorkspaceView(tab));
     });
+    // Who clicks on a view goes on in it, from wherever the keyboard was. The click comes before the change.
+    connect(&tabs, &QTabBar::tabBarClicked, this, &ViewSwitch::focusView, Qt::QueuedConnection);
     connect(&m_parts.designerBar, &DesignerBar::resetClicked, this, [this] {
         m_views.reset();
         focusView();
@@ -84,6 +86,9 @@ bool ViewSwitch::doSave()
 
 void ViewSwitch::setPreviewTarget(const QString &target)
 {
+    // A copy that is forgotten would stay among the user's files for good.
+    if (target != m_parts.document.previewTarget())
+        m_parts.document.discardPreview();
     m_parts.document.setPreviewTarget(target);
 }
 
@@ -146,7 +151,8 @@ QWidget *ViewSwitch::page(WorkspaceView view) const
 void ViewSwitch::showControls(WorkspaceView view)
 {
     // Only a keyboard that was in the view before goes on to the new one; at the tabs it stays where it is.
-    const bool hadFocus = m_parts.pages.isAncestorOf(m_parts.pages.window()->focusWidget());
+    const QWidget *keyboard = m_parts.pages.window()->focusWidget();
+    const bool hadFocus = m_parts.pages.isAncestorOf(keyboard) || m_parts.designerBar.isAncestorOf(keyboard);
     m_parts.designer.setShowing(view == WorkspaceView::Visual);
     m_parts.designerBar.setVisible(view == WorkspaceView::Visual);
     m_parts.pages.setCurrentWidget(page(view));

@@ -7,6 +7,12 @@
 
 namespace zephira {
 
+/// What a browser takes a local file for.
+enum class FileKind {
+    ByName, ///< what its name says, as browsers do
+    Page,   ///< a page, whatever its name says
+};
+
 /// The browser of the preview as the rest of the program sees it. All operations return at once; pages load by
 /// themselves. Operations that can't be done, such as going back without a history, do nothing.
 class Browser
@@ -25,7 +31,8 @@ public:
     /// Address of the page that shows.
     virtual QString locationUrl() const = 0;
 
-    virtual void setHome(const QString &address) = 0;
+    /// Names the user's own page. A file that is told to be a page shows as one, by whatever way it is gone to.
+    virtual void setHome(const QString &address, FileKind kind = FileKind::ByName) = 0;
     /// Is called after each navigation that has come to its end.
     virtual void onNavigateComplete(std::function<void()> handler) = 0;
 };

@@ -85,7 +85,9 @@ std::optional<QString> DesignerTools::enterFontSize(const QString &text)
 {
     bool isNumber = false;
     const double size = text.toDouble(&isNumber);
-    if (!isNumber || size < smallestSize || size > largestSize)
+    // A text may spell a number that is in no order with any other.
+    const bool isSize = isNumber && size >= smallestSize && size <= largestSize;
+    if (!isSize)
         return currentFontSize(m_context.designer);
     runIfReady(DesignerCommand::SetFontSize, text);
     return std::nullopt;

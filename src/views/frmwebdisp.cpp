@@ -46,16 +46,23 @@ void frmwebdisp::grabSource()
 {
     const QString address = m_ui->URL->text();
     setWindowTitle(u"Zephira Web Viewer - "_s + address);
-    Result<QString> source = [&] {
+    const Result<QString> source = [&] {
+        // A button that is disabled loses the keyboard to its neighbour.
+        const bool hadFocus = m_ui->Command1->hasFocus();
         // Nothing is painted while the page is fetched, so the button has to show before that why.
         m_ui->Command1->setEnabled(false);
         m_ui->Command1->repaint();
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        const auto restore = qScopeGuard([this] {
+        const auto restore = qScopeGuard([this, hadFocus] {
             QGuiApplication::restoreOverrideCursor();
             m_ui->Command1->setEnabled(true);
+            if (hadFocus)
+                m_ui->Command1->setFocus();
         });
-        return sourceOf(address);
+        Result<QString> page = sourceOf(address);
+        // What was clicked while the form was blocked comes now, and must not fetch the page again.
+        QCoreApplication::processEvents();
+        return page;
     }();
     if (source)
         m_source.control->setText(source.value());

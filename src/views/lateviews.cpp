@@ -67,10 +67,10 @@ QString LateBrowser::locationUrl() const
     return m_browser ? m_browser->locationUrl() : QString();
 }
 
-void LateBrowser::setHome(const QString &address)
+void LateBrowser::setHome(const QString &address, FileKind kind)
 {
     if (m_browser)
-        m_browser->setHome(address);
+        m_browser->setHome(address, kind);
 }
 
 void LateBrowser::onNavigateComplete(std::function<void()> handler)

@@ -67,7 +67,7 @@ public:
     void refresh() override;
     void stop() override;
     QString locationUrl() const override;
-    void setHome(const QString &address) override;
+    void setHome(const QString &address, FileKind kind) override;
     void onNavigateComplete(std::function<void()> handler) override;
 
 private:

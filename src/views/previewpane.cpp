@@ -4,10 +4,13 @@
 #include "controls/browser.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +32,20 @@ constexpr NavigationButton navigationButtons[] = {
     {u"refresh", u"Load the page again", u"view-refresh", [](Browser &browser) { browser.refresh(); }},
     {u"home", u"Back to the document", u"go-home", [](Browser &browser) { browser.goHome(); }},
 };
+
+constexpr Qt::Key refreshKey = Qt::Key_F5;
+
+/// The window has these keys for the code view, which doesn't show here: nobody would see what they do to it.
+constexpr QKeyCombination ownKeys[] = {
+    Qt::CTRL | Qt::Key_Z, Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::Key_X, Qt::CTRL | Qt::Key_C,
+    Qt::CTRL | Qt::Key_V, Qt::CTRL | Qt::Key_A, Qt::Key_Delete,       refreshKey,
+};
+
+bool isOwnKey(const QKeyEvent &event)
+{
+    const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier, Qt::Key(event.key()));
+    return std::ranges::find(ownKeys, pressed) != std::end(ownKeys);
+}
 
 } // namespace
 
@@ -76,6 +93,24 @@ void PreviewPane::setBrowserWidget(QWidget *widget)
 {
     static_cast<QVBoxLayout *>(layout())->addWidget(widget, 1);
     setFocusProxy(widget);
+}
+
+/// What a part of the pane doesn't take for itself comes here before it becomes a shortcut of the window.
+bool PreviewPane::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isOwnKey(*static_cast<QKeyEvent *>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void PreviewPane::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == refreshKey)
+        m_browser.refresh();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 /// Icons cost more than the rest of the bar, so they wait until it shows.

@@ -11,6 +11,7 @@ namespace zephira {
 class Browser;
 
 /// The preview: a browser under its address bar. The bar is there from the start, the browser comes when it is wanted.
+/// The editing keys are the page's while the keyboard is here, and F5 loads it again.
 class PreviewPane final : public QWidget
 {
     Q_OBJECT
@@ -23,6 +24,8 @@ public:
     void setBrowserWidget(QWidget *widget);
 
 protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

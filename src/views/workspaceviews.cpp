@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/workspaceviews.h"
 
-#include "controls/browser.h"
 #include "controls/designer.h"
 #include "controls/documenthost.h"
 #include "controls/editingcontrol.h"
@@ -28,15 +27,16 @@ const QString serverCopy = u"prevzephirafile.asp"_s;
 /// What the preview makes of a document.
 enum class PreviewKind {
     None,       ///< a page that says that there is no preview
-    Page,       ///< the document itself
+    Page,       ///< the document itself, which is a page whatever its name says
+    File,       ///< the document itself, as a browser shows such a file
     StyleSheet, ///< a sample page that the document styles
     Unchanged,  ///< the view goes on showing what it held
 };
 
 /// By the rows of the language list.
 constexpr std::array previewKinds = {
-    PreviewKind::None, PreviewKind::Page, PreviewKind::None, PreviewKind::None,       PreviewKind::Page,
-    PreviewKind::None, PreviewKind::None, PreviewKind::Page, PreviewKind::StyleSheet, PreviewKind::Unchanged,
+    PreviewKind::None, PreviewKind::Page, PreviewKind::None, PreviewKind::None,       PreviewKind::File,
+    PreviewKind::None, PreviewKind::None, PreviewKind::File, PreviewKind::StyleSheet, PreviewKind::Unchanged,
 };
 
 PreviewKind previewKind(int languageRow)
@@ -143,7 +143,10 @@ void WorkspaceViews::selectPreview()
         m_browser.navigate(shippedPage(u"filenoprev.htm"_s));
         break;
     case PreviewKind::Page:
-        previewPage();
+        previewFile(FileKind::Page);
+        break;
+    case PreviewKind::File:
+        previewFile(FileKind::ByName);
         break;
     case PreviewKind::StyleSheet:
         previewStyleSheet();
@@ -158,7 +161,7 @@ void WorkspaceViews::previewStyleSheet()
     saveAndNavigate(shippedPage(u"style.css"_s), shippedPage(u"CSSpreview.html"_s));
 }
 
-void WorkspaceViews::previewPage()
+void WorkspaceViews::previewFile(FileKind kind)
 {
     const QString name = m_context.document.commonDialogFile();
     if (name.endsWith(u".asp", Qt::CaseInsensitive)) {
@@ -167,7 +170,7 @@ void WorkspaceViews::previewPage()
     }
     const QString copy = temporaryFile(name);
     m_window.setPreviewTarget(copy);
-    saveAndNavigate(copy, copy);
+    saveAndNavigate(copy, copy, kind);
 }
 
 /// Where the copy of a document stands while it is shown.
@@ -202,11 +205,11 @@ void WorkspaceViews::previewThroughServer(const QString &name)
 }
 
 /// A copy that can't be written stops nothing: the browser then shows what stands in its place.
-void WorkspaceViews::saveAndNavigate(const QString &file, const QString &address)
+void WorkspaceViews::saveAndNavigate(const QString &file, const QString &address, FileKind kind)
 {
     if (const Result<void> saved = m_context.editor.saveFile(file, false); !saved)
         m_window.notice(saved.error().sentence);
-    m_browser.setHome(address);
+    m_browser.setHome(address, kind);
     m_browser.navigate(address);
 }
 

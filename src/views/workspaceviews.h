@@ -2,12 +2,11 @@
 #pragma once
 
 #include "controls/appcontext.h"
+#include "controls/browser.h"
 
 #include <QString>
 
 namespace zephira {
-
-class Browser;
 
 /// The three views of the document, in the order of their tabs.
 enum class WorkspaceView { Code, Preview, Visual };
@@ -65,9 +64,9 @@ private:
     void show(WorkspaceView view);
 
     void previewStyleSheet();
-    void previewPage();
+    void previewFile(FileKind kind);
     void previewThroughServer(const QString &name);
-    void saveAndNavigate(const QString &file, const QString &address);
+    void saveAndNavigate(const QString &file, const QString &address, FileKind kind = FileKind::ByName);
     QString temporaryFile(const QString &name) const;
     QString shippedPage(const QString &name) const;
 

@@ -336,6 +336,18 @@ private Q_SLOTS:
         QVERIFY(bench.fakes.files.contents.contains(u"/www/a.ASP"_s));
     }
 
+    void aPreviewsCopyThatBecameTheDocumentStays()
+    {
+        Bench bench;
+        const QString copy = u"/site/page.htmltemp.html"_s;
+        bench.fakes.files.contents[copy] = "preview";
+        bench.document.setPreviewTarget(copy);
+        bench.document.openFileOrImage(copy);
+        QCOMPARE(bench.document.docPath(), copy);
+        bench.document.newDocument();
+        QCOMPARE(bench.fakes.files.contents[copy], QByteArray("preview"));
+    }
+
     void fromTemplateShowsTheChooser()
     {
         Bench bench;
@@ -438,6 +450,21 @@ private Q_SLOTS:
         QCOMPARE(bench.fakes.editor.text(), u"saved"_s);
         QCOMPARE(bench.fakes.designer.loaded, QStringList{u"/a.html"_s});
         QVERIFY(bench.document.docModified()); // Not touched.
+    }
+
+    void revertWithoutTheFileLeavesBothViews()
+    {
+        Bench bench;
+        bench.openFile(u"/a.html"_s, "saved");
+        bench.fakes.editor.setText(u"changed"_s);
+        bench.fakes.files.contents.erase(u"/a.html"_s);
+        bench.fakes.designer.unreadable = true;
+        bench.fakes.prompts.expect({u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
+                                    {}, Question::Icon::Question, Question::Buttons::YesNo},
+                                   Answer::Yes);
+        bench.document.revert();
+        QCOMPARE(bench.fakes.editor.text(), u"changed"_s);
+        QVERIFY(bench.document.docModified());
     }
 
     void saveAsTemplate()

@@ -19,6 +19,15 @@ QByteArray pageOf(const QByteArray &colour)
     return "<!DOCTYPE html>\r\n<html><head><title>t</title></head>\r\n<body bgcolor=\"" + colour + "\"><p>x</p></body></html>\r\n";
 }
 
+const QString previewColour = u"#12AB34"_s;
+const QString designerColour = u"#3412AB"_s;
+
+/// A page whose script runs in the preview alone, which tells the two views apart.
+QByteArray pageOfTwoColours()
+{
+    return pageOf("#3412AB").replace("</body>", "<script>document.body.bgColor = '#12AB34'</script></body>");
+}
+
 } // namespace
 
 /// Preview and designer in the real program, through the module that lies beside it.
@@ -49,16 +58,15 @@ private Q_SLOTS:
     void whatIsTypedInTheDesignerIsSaved()
     {
         ProgramFolder folder;
-        // The script runs in the preview alone, which tells the two views apart.
-        const QByteArray page = pageOf("#3412AB").replace("</body>", "<script>document.body.bgColor = '#12AB34'</script></body>");
+        const QByteArray page = pageOfTwoColours();
         const QString file = folder.write(u"site/page.html"_s, page);
         RunningProgram program(folder, {file});
         const QString title = RunningProgram::captionOf(file);
         QVERIFY(program.waitForWindow(title));
         program.key(title, u"F8"_s);
-        QVERIFY2(program.waitForMiddleColour(title, u"#12AB34"_s), qPrintable(program.middleColour(title)));
+        QVERIFY2(program.waitForMiddleColour(title, previewColour), qPrintable(program.middleColour(title)));
         program.key(title, u"F8"_s);
-        QVERIFY2(program.waitForMiddleColour(title, u"#3412AB"_s), qPrintable(program.middleColour(title)));
+        QVERIFY2(program.waitForMiddleColour(title, designerColour), qPrintable(program.middleColour(title)));
         program.type(title, u"typed here"_s);
         program.key(title, u"ctrl+s"_s);
         QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(file) != page, patience);
@@ -67,6 +75,25 @@ private Q_SLOTS:
                  saved.constData());
         program.close(title);
         QCOMPARE(program.waitForEnd(), 0);
+    }
+
+    void editingKeysInThePreviewLeaveTheSourceAlone()
+    {
+        ProgramFolder folder;
+        const QByteArray page = pageOfTwoColours();
+        const QString file = folder.write(u"site/page.html"_s, page);
+        RunningProgram program(folder, {file});
+        const QString title = RunningProgram::captionOf(file);
+        QVERIFY(program.waitForWindow(title));
+        program.key(title, u"ctrl+a F8"_s);
+        QVERIFY2(program.waitForMiddleColour(title, previewColour), qPrintable(program.middleColour(title)));
+        program.key(title, u"Delete ctrl+x ctrl+v F5"_s);
+        program.key(title, u"F8"_s); // Which asks where the document has changed.
+        QVERIFY2(program.waitForMiddleColour(title, designerColour), qPrintable(program.middleColour(title)));
+        QCOMPARE(program.windows(), QStringList{title});
+        program.close(title);
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(ProgramFolder::read(file), page);
     }
 
     void withoutTheModuleTheProgramSaysSoAndGoesOn()

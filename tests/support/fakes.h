@@ -97,6 +97,7 @@ struct FakeBrowser final : Browser {
     QStringList calls;
     QString location;
     QString home;
+    FileKind homeKind = FileKind::ByName;
     std::function<void()> navigateComplete;
 
     void navigate(const QString &address) override { calls.append(address); }
@@ -106,7 +107,11 @@ struct FakeBrowser final : Browser {
     void refresh() override { calls.append(QStringLiteral("refresh")); }
     void stop() override { calls.append(QStringLiteral("stop")); }
     QString locationUrl() const override { return location; }
-    void setHome(const QString &address) override { home = address; }
+    void setHome(const QString &address, FileKind kind) override
+    {
+        home = address;
+        homeKind = kind;
+    }
     void onNavigateComplete(std::function<void()> handler) override { navigateComplete = std::move(handler); }
 };
 

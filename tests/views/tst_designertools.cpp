@@ -183,6 +183,11 @@ private slots:
         QTest::newRow("negative") << u"-3"_s << false;
         QTest::newRow("word") << u"large"_s << false;
         QTest::newRow("empty") << u""_s << false;
+        QTest::newRow("blanks around it") << u" 3 "_s << true;
+        QTest::newRow("a fraction") << u"1.5"_s << true;
+        QTest::newRow("a fraction too large") << u"7.5"_s << false;
+        QTest::newRow("infinite") << u"inf"_s << false;
+        QTest::newRow("not a number") << u"nan"_s << false;
     }
 
     void typedSizes()

@@ -86,6 +86,26 @@ private slots:
         QVERIFY(viewer.form.isOpen());
     }
 
+    void theButtonKeepsTheKeyboard()
+    {
+        Viewer viewer;
+        viewer.form.get<QPushButton>(u"Command1"_s).setFocus();
+        viewer.form.key(Qt::Key_Space);
+        QCOMPARE(viewer.web.addresses.size(), 1);
+        QCOMPARE(viewer.form.focus(), u"Command1"_s);
+    }
+
+    void clicksFromMeanwhileAreLost()
+    {
+        Viewer viewer;
+        auto &button = viewer.form.get<QPushButton>(u"Command1"_s);
+        viewer.web.onFetch = [&] { QMetaObject::invokeMethod(&button, &QPushButton::click, Qt::QueuedConnection); };
+        button.click();
+        QCoreApplication::processEvents();
+        QCOMPARE(viewer.web.addresses.size(), 1);
+        QVERIFY(button.isEnabled());
+    }
+
     void whatCannotBeHadLeavesTheOldText_data()
     {
         QTest::addColumn<bool>("module");

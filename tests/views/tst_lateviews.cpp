@@ -85,7 +85,7 @@ private slots:
         browser.goHome();
         browser.refresh();
         browser.stop();
-        browser.setHome(u"/a.html"_s);
+        browser.setHome(u"/a.html"_s, FileKind::ByName);
         QCOMPARE(browser.locationUrl(), QString());
     }
 
@@ -105,9 +105,10 @@ private slots:
         browser.goHome();
         browser.refresh();
         browser.stop();
-        browser.setHome(u"/b.html"_s);
+        browser.setHome(u"/b.html"_s, FileKind::Page);
         QCOMPARE(real.calls, (QStringList{u"/a.html"_s, u"back"_s, u"forward"_s, u"home"_s, u"refresh"_s, u"stop"_s}));
         QCOMPARE(real.home, u"/b.html"_s);
+        QVERIFY(real.homeKind == FileKind::Page);
         QCOMPARE(browser.locationUrl(), u"file:///a.html"_s);
     }
 };

@@ -5,12 +5,41 @@
 
 #include <QAction>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QTest>
 #include <QToolBar>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
+
+namespace {
+
+/// The pane with a browser in a window that has a shortcut.
+struct PaneInWindow {
+    FakeBrowser browser;
+    QMainWindow window;
+    QWidget page;
+    int runs = 0;
+
+    explicit PaneInWindow(const QKeySequence &shortcut)
+    {
+        auto *command = new QAction(&window);
+        command->setShortcut(shortcut);
+        QObject::connect(command, &QAction::triggered, &window, [this] { ++runs; });
+        window.addAction(command);
+        auto *pane = new PreviewPane(browser);
+        window.setCentralWidget(pane);
+        pane->setBrowserWidget(&page);
+        page.setFocusPolicy(Qt::StrongFocus);
+        window.show();
+        window.activateWindow();
+        page.setFocus();
+    }
+    ~PaneInWindow() { page.setParent(nullptr); }
+};
+
+} // namespace
 
 /// The preview's address bar over a browser that keeps what it is told.
 class TstPreviewPane final : public QObject
@@ -70,6 +99,46 @@ private slots:
         browser.location = u"http://example.org/"_s;
         browser.navigateComplete();
         QCOMPARE(pane.findChild<QLineEdit *>(u"txturl"_s)->text(), u"http://example.org/"_s);
+    }
+
+    void whoseKeysTheyAre_data()
+    {
+        QTest::addColumn<QKeyCombination>("key");
+        QTest::addColumn<bool>("isTheWindows");
+        QTest::newRow("undo") << QKeyCombination(Qt::CTRL | Qt::Key_Z) << false;
+        QTest::newRow("redo") << QKeyCombination(Qt::CTRL | Qt::Key_Y) << false;
+        QTest::newRow("cut") << QKeyCombination(Qt::CTRL | Qt::Key_X) << false;
+        QTest::newRow("copy") << QKeyCombination(Qt::CTRL | Qt::Key_C) << false;
+        QTest::newRow("paste") << QKeyCombination(Qt::CTRL | Qt::Key_V) << false;
+        QTest::newRow("select all") << QKeyCombination(Qt::CTRL | Qt::Key_A) << false;
+        QTest::newRow("delete") << QKeyCombination(Qt::Key_Delete) << false;
+        QTest::newRow("refresh") << QKeyCombination(Qt::Key_F5) << false;
+        QTest::newRow("next view") << QKeyCombination(Qt::Key_F8) << true;
+        QTest::newRow("save") << QKeyCombination(Qt::CTRL | Qt::Key_S) << true;
+        QTest::newRow("find") << QKeyCombination(Qt::CTRL | Qt::Key_F) << true;
+    }
+
+    void whoseKeysTheyAre()
+    {
+        QFETCH(QKeyCombination, key);
+        QFETCH(bool, isTheWindows);
+        PaneInWindow bench{QKeySequence(key)};
+        QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+        QVERIFY(bench.page.hasFocus());
+        QTest::keyClick(&bench.page, key.key(), key.keyboardModifiers());
+        QCOMPARE(bench.runs, isTheWindows ? 1 : 0);
+        QCOMPARE(bench.browser.calls, key.key() == Qt::Key_F5 ? QStringList{u"refresh"_s} : QStringList());
+    }
+
+    void theAddressLoadsThePageAgainToo()
+    {
+        PaneInWindow bench{QKeySequence(Qt::Key_F5)};
+        QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+        auto *address = bench.window.findChild<QLineEdit *>(u"txturl"_s);
+        address->setFocus();
+        QTest::keyClick(address, Qt::Key_F5);
+        QCOMPARE(bench.runs, 0);
+        QCOMPARE(bench.browser.calls, QStringList{u"refresh"_s});
     }
 
     void theBrowserFillsThePane()

@@ -176,6 +176,27 @@ private slots:
         QCOMPARE(bench.world.document.dialogFile, u"/site/page.html"_s);
     }
 
+    void onlyTheHtmlRowIsAPageByAnyName_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("isPage");
+        QTest::newRow("HTML") << 1 << true;
+        QTest::newRow("XML") << 4 << false;
+        QTest::newRow("Java / Script") << 7 << false;
+        QTest::newRow("Style Sheets") << 8 << false;
+    }
+
+    void onlyTheHtmlRowIsAPageByAnyName()
+    {
+        QFETCH(int, row);
+        QFETCH(bool, isPage);
+        Bench bench;
+        bench.openFile(u"/site/page.vbs"_s, u"text"_s);
+        bench.world.document.row = row;
+        bench.select(WorkspaceView::Preview);
+        QCOMPARE(bench.browser.homeKind == FileKind::Page, isPage);
+    }
+
     void aStyleSheetLeavesThePreviewTarget()
     {
         Bench bench;

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/webengine/browserpage.h"
 
+#include "controls/files/diskfilestore.h"
+#include "controls/files/textfile.h"
+#include "controls/webengine/pageaddress.h"
+
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
@@ -9,6 +13,9 @@
 namespace zephira {
 
 namespace {
+
+/// What the engine is given as text becomes an address of at most two million characters, in which one may take three.
+constexpr qsizetype mostGivenBytes = 600'000;
 
 constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
     QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::LocalContentCanAccessRemoteUrls,
@@ -39,6 +46,17 @@ void BrowserPage::open(const QUrl &address)
 {
     m_fence.files().open(address);
     setUrl(address);
+}
+
+void BrowserPage::openAsPage(const QUrl &file)
+{
+    Result<QByteArray> content = DiskFileStore().read(file.toLocalFile());
+    if (isNamedAsPage(file) || !content || content.value().size() > mostGivenBytes) {
+        open(file);
+        return;
+    }
+    m_fence.files().open(file);
+    setHtml(QString::fromUtf8(decodeText(std::move(content).value()).utf8), file);
 }
 
 /// Only a click opens anything, and the page's own rights go with it: to the fence the user went nowhere.

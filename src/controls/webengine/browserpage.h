@@ -20,6 +20,8 @@ public:
 
     /// Goes to an address in the user's name.
     void open(const QUrl &address);
+    /// The same, for a file that is a page whatever its name says. One that is very large goes by its name.
+    void openAsPage(const QUrl &file);
 
 protected:
     /// What scripts write to their console is nothing for the terminal.

@@ -44,7 +44,17 @@ BrowserWidget::~BrowserWidget()
 
 void BrowserWidget::navigate(const QString &address)
 {
-    m_page->open(pageAddress(address));
+    const QUrl target = pageAddress(address);
+    if (m_homeKind == FileKind::Page && target == pageAddress(m_home))
+        m_page->openAsPage(target);
+    else
+        m_page->open(target);
+}
+
+void BrowserWidget::setHome(const QString &address, FileKind kind)
+{
+    m_home = address;
+    m_homeKind = kind;
 }
 
 void BrowserWidget::goBack()
@@ -64,7 +74,11 @@ void BrowserWidget::goHome()
 
 void BrowserWidget::refresh()
 {
-    m_page->triggerAction(QWebEnginePage::Reload);
+    // The engine would take the file of a page for what its name says.
+    if (m_homeKind == FileKind::Page && m_page->url() == pageAddress(m_home))
+        goHome();
+    else
+        m_page->triggerAction(QWebEnginePage::Reload);
 }
 
 void BrowserWidget::stop()

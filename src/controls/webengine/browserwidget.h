@@ -37,7 +37,7 @@ public:
     void refresh() override;
     void stop() override;
     QString locationUrl() const override;
-    void setHome(const QString &address) override { m_home = address; }
+    void setHome(const QString &address, FileKind kind = FileKind::ByName) override;
     void onNavigateComplete(std::function<void()> handler) override;
 
 signals:
@@ -51,6 +51,7 @@ private:
     std::unique_ptr<QWebEngineView> m_view;
     BrowserPage *m_page = nullptr;
     QString m_home;
+    FileKind m_homeKind = FileKind::ByName;
 };
 
 } // namespace zephira

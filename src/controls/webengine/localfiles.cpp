@@ -62,7 +62,11 @@ QString LocalFiles::folderOf(const QUrl &page) const
 
 bool LocalFiles::mayShow(const QUrl &address) const
 {
-    return address.isLocalFile() ? !folderOf(address).isEmpty() : isOpen(address);
+    if (!address.isLocalFile())
+        return isOpen(address);
+    // There is nothing to keep of a page that isn't there, and the engine tells the user so in its own words.
+    const bool isOwn = address == m_coming || address == m_shown;
+    return (isOwn && !QFileInfo::exists(address.toLocalFile())) || !folderOf(address).isEmpty();
 }
 
 bool LocalFiles::mayLoad(const QUrl &address) const

@@ -12,4 +12,7 @@ namespace zephira {
 ///     pageAddress("example.org/a") == "http://example.org/a"
 QUrl pageAddress(const QString &text);
 
+/// Whether every browser takes a file of that name for a page.
+bool isNamedAsPage(const QUrl &file);
+
 } // namespace zephira

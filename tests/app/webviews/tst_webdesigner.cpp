@@ -4,8 +4,10 @@
 #include "support/testregistry.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTimer>
 
 using namespace zephira;
@@ -18,6 +20,32 @@ const QByteArray pageText("<!DOCTYPE html>\r\n<html><head><title>t</title></head
 const Question saveQuestion{
     u"You must save your document in order to use the visual editor, please click OK to continue, or cancel to go back to code view"_s,
     u"Save Work"_s, Question::Icon::Question, Question::Buttons::OkCancel};
+
+// What stands at the place in the page of which the tests tell.
+constexpr QPoint place{30, 40};
+const QByteArray text("<p>text</p>");
+const QByteArray cell("<table><tr><td>cell</td></tr></table>");
+const QByteArray picture("<img src=\"none.png\" alt=\"\">");
+const QByteArray positioned("<div style=\"position: absolute\">2D</div>");
+const QByteArray locked("<div style=\"position: absolute\" design_time_lock=\"true\">2D</div>");
+
+QByteArray pageWith(const QByteArray &content)
+{
+    return "<!DOCTYPE html><html><head><style>body, p, table, td, img, div { margin: 0; padding: 0; width: 200px; height: 90px }"
+           "</style></head><body>" + content + "</body></html>";
+}
+
+struct MenuCloser {
+    void operator()(QMenu *menu) const { menu->close(); }
+};
+
+/// Clicks at the place with the right button; nullptr where no menu comes up.
+QMenu *openContextMenu(const WebBench &bench)
+{
+    QTest::mouseClick(bench.keyboardOf(u"DHTMLEdit1"_s), Qt::RightButton, {}, place);
+    waitUntil([] { return QApplication::activePopupWidget() != nullptr; }, WebBench::patience);
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
 
 /// Does something with the modal form as soon as it shows.
 void whenModal(const std::function<void(QWidget &)> &act)
@@ -209,10 +237,19 @@ private Q_SLOTS:
         QTest::keyClick(size->lineEdit(), Qt::Key_Return);
         QVERIFY2(bench.html().contains(u"size=\"5\""_s), qPrintable(bench.html()));
         const QString before = bench.html();
-        size->setEditText(u"9"_s);
-        QTest::keyClick(size->lineEdit(), Qt::Key_Return);
-        QCOMPARE(size->currentText(), u"5"_s);
+        for (const char16_t *text : {u"9", u"0", u"x", u"", u"nan", u"1.5"}) {
+            size->setEditText(QString::fromUtf16(text));
+            QTest::keyClick(size->lineEdit(), Qt::Key_Return);
+            QVERIFY(waitUntil([&] { return size->currentText() == u"5"; }, WebBench::patience));
+            QCOMPARE(bench.html(), before);
+        }
+        font->setEditText(QString());
+        QTest::keyClick(font->lineEdit(), Qt::Key_Return);
+        QVERIFY(waitUntil([&] { return font->currentText() == u"Courier New"; }, WebBench::patience));
         QCOMPARE(bench.html(), before);
+        size->setEditText(u" 3 "_s);
+        QTest::keyClick(size->lineEdit(), Qt::Key_Return);
+        QVERIFY(waitUntil([&] { return size->currentText() == u"3"; }, WebBench::patience));
     }
 
     void blockFormats()
@@ -262,44 +299,220 @@ private Q_SLOTS:
         QVERIFY(bench.html().contains(u"<button title=\"Button\">Button!</button>"_s, Qt::CaseInsensitive));
     }
 
-    void theContextMenuKnowsTables_data()
+    void scriptsComeInAndDoNotRun()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("table");
-        const QByteArray style("<!DOCTYPE html><style>body, p, table, td { margin: 0; padding: 0; width: 100%; height: 90px }</style>");
-        QTest::newRow("text") << style + "<p>text</p>" << false;
-        QTest::newRow("cell") << style + "<table><tr><td>cell</td></tr></table>" << true;
+        WebBench bench(u"page.html"_s, pageText);
+        QVERIFY(bench.design());
+        const QString markup =
+            u"<script>document.body.textContent = 'run'</script><?php echo 1 < 2; ?><img src=x onerror=\"document.body.textContent = 'run'\">"_s;
+        whenModal([markup](QWidget &form) {
+            form.findChild<QPlainTextEdit *>(u"HTMLText"_s)->setPlainText(markup);
+            form.findChild<QPushButton *>(u"CmdOK"_s)->click();
+        });
+        bench.choose(u"InsertHTML"_s);
+        bench.paste(u"<i>after</i>"_s); // By then a script would have run.
+        for (const QString &part : {u"<script>document.body.textContent = 'run'</script>"_s, u"<?php echo 1 < 2; ?>"_s,
+                                    u"onerror=\"document.body.textContent = 'run'\""_s, u"<i>after</i>"_s, u"old"_s})
+            QVERIFY2(bench.html().contains(part), qPrintable(bench.html()));
     }
 
-    void theContextMenuKnowsTables()
+    void menusFollowThePlace_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("closed"); // Entries that are disabled.
+        QTest::addColumn<QString>("position");
+        QTest::addColumn<bool>("isLocked");
+        const QStringList table{u"TableSub_2"_s, u"TableSub_3"_s,  u"TableSub_4"_s, u"TableSub_6"_s,
+                                u"TableSub_7"_s, u"TableSub_8"_s, u"TableSub_10"_s};
+        const QStringList split{u"TableSub_11"_s};
+        const QStringList depth{u"D2DSub_1"_s, u"D2DSub_2"_s, u"D2DSub_3"_s, u"D2DSub_4"_s,
+                                u"D2DSub_5"_s, u"D2DSub_6"_s, u"D2DSub_8"_s};
+        const QStringList absolute{u"D2DSub_0"_s};
+        const QStringList markup{u"InsertButton"_s, u"InsertHTML"_s};
+        const QString off = u"Set Position Attribute To Absolute"_s;
+        const QString on = u"Set Position Attribute To 1D"_s;
+        QTest::newRow("text") << pageWith(text) << table + split + absolute + depth << off << false;
+        QTest::newRow("cell") << pageWith(cell) << QStringList{u"TableSub_10"_s} + absolute + depth << off << false;
+        QTest::newRow("picture") << pageWith(picture) << markup + table + split + depth << off << false;
+        QTest::newRow("positioned") << pageWith(positioned) << markup + table + split << on << false;
+        QTest::newRow("locked") << pageWith(locked) << markup + table + split << on << true;
+    }
+
+    void menusFollowThePlace()
     {
         QFETCH(QByteArray, content);
-        QFETCH(bool, table);
+        QFETCH(QStringList, closed);
+        QFETCH(QString, position);
+        QFETCH(bool, isLocked);
         WebBench bench(u"page.html"_s, content);
         QVERIFY(bench.design());
-        QWidget *target = bench.find<QWidget>(u"DHTMLEdit1"_s)->focusProxy();
-        while (target->focusProxy())
-            target = target->focusProxy();
-        QTest::mouseClick(target, Qt::LeftButton, {}, {30, 40});
-        QVERIFY(waitUntil([&] { return bench.status(DesignerCommand::Bold) >= DesignerStatus::Enabled
-                                        && (bench.status(DesignerCommand::InsertRow) >= DesignerStatus::Enabled) == table; },
-                          WebBench::patience));
-        QTest::mouseClick(target, Qt::RightButton, {}, {30, 40});
-        QVERIFY(waitUntil([] { return QApplication::activePopupWidget() != nullptr; }, WebBench::patience));
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QTest::mouseClick(bench.keyboardOf(u"DHTMLEdit1"_s), Qt::LeftButton, {}, place);
+        const auto disabled = [&] {
+            QStringList names;
+            for (const QString &menu : {u"Insert"_s, u"Table"_s, u"d2d"_s}) {
+                Q_EMIT bench.find<QMenu>(menu)->aboutToShow();
+                for (const QAction *entry : bench.find<QMenu>(menu)->actions()) {
+                    if (!entry->isSeparator() && !entry->isEnabled())
+                        names.append(entry->objectName());
+                }
+            }
+            names.sort();
+            return names;
+        };
+        closed.sort();
+        waitUntil([&] { return disabled() == closed; }, WebBench::patience);
+        QCOMPARE(disabled(), closed);
+        QCOMPARE(bench.find<QAction>(u"D2DSub_0"_s)->text(), position);
+        QCOMPARE(bench.find<QAction>(u"D2DSub_8"_s)->isChecked(), isLocked);
+    }
+
+    void theContextMenu_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("more"); // Behind the entries that are always there.
+        const QStringList table{QString(), u"Insert Row"_s, u"Insert Column"_s, QString(), u"Delete Row"_s, u"Delete Column"_s};
+        QTest::newRow("text") << pageWith(text) << QStringList();
+        QTest::newRow("cell") << pageWith(cell) << table;
+        QTest::newRow("picture") << pageWith(picture) << QStringList{QString(), u"Make 2D"_s};
+        QTest::newRow("positioned") << pageWith(positioned) << QStringList{QString(), u"Make 1D"_s};
+        QTest::newRow("picture in a cell") << pageWith("<table><tr><td>" + picture + "</td></tr></table>")
+                                           << QStringList{QString(), u"Make 2D"_s} + table;
+    }
+
+    void theContextMenu()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QStringList, more);
+        WebBench bench(u"page.html"_s, content);
+        QVERIFY(bench.design());
+        const std::unique_ptr<QMenu, MenuCloser> menu(openContextMenu(bench));
         QVERIFY(menu);
         QStringList entries;
         for (const QAction *entry : menu->actions())
             entries.append(entry->text());
-        QStringList expected{u"Cut"_s, u"Copy"_s, u"Paste"_s, {}, u"Select All"_s, {}, u"Font..."_s};
-        if (table)
-            expected += {QString(), u"Insert Row"_s, u"Insert Column"_s, QString(), u"Delete Row"_s, u"Delete Column"_s};
-        QCOMPARE(entries, expected);
-        if (table) {
-            menu->actions()[8]->trigger();
-            QVERIFY(waitUntil([&] { return bench.html().count(u"<tr"_s) == 2; }, WebBench::patience));
+        const QStringList always{u"Cut"_s, u"Copy"_s, u"Paste"_s, {}, u"Select All"_s, {}, u"Font..."_s};
+        QCOMPARE(entries, always + more);
+    }
+
+    void theContextMenuActs_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("tag"); // Is there so often afterwards.
+        QTest::addColumn<int>("count");
+        QTest::newRow("cut") << pageWith(picture) << 0 << u"<img"_s << 0;
+        QTest::newRow("make 2D") << pageWith(picture) << 8 << u"absolute"_s << 1;
+        QTest::newRow("make 1D") << pageWith(positioned) << 8 << u"absolute"_s << 0;
+        QTest::newRow("insert row") << pageWith(cell) << 8 << u"<tr"_s << 2;
+        QTest::newRow("insert column") << pageWith(cell) << 9 << u"<td"_s << 2;
+        QTest::newRow("delete row") << pageWith(cell) << 11 << u"<tr"_s << 0;
+        QTest::newRow("delete column") << pageWith(cell) << 12 << u"<td"_s << 0;
+        const QByteArray both = pageWith("<table><tr><td>" + picture + "</td></tr></table>");
+        QTest::newRow("make 2D in a cell") << both << 8 << u"absolute"_s << 1;
+        QTest::newRow("insert row behind the position") << both << 10 << u"<tr"_s << 2;
+        QTest::newRow("delete column behind the position") << both << 14 << u"<td"_s << 0;
+    }
+
+    void theContextMenuActs()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, index);
+        QFETCH(QString, tag);
+        QFETCH(int, count);
+        WebBench bench(u"page.html"_s, content);
+        QVERIFY(bench.design());
+        const std::unique_ptr<QMenu, MenuCloser> menu(openContextMenu(bench));
+        QVERIFY(menu);
+        QVERIFY(menu->actions().value(index));
+        menu->actions()[index]->trigger();
+        QVERIFY2(waitUntil([&] { return bench.html().count(tag) == count; }, WebBench::patience), qPrintable(bench.html()));
+        QVERIFY(bench.designer().property("IsDirty").toBool());
+        bench.choose(u"undo"_s);
+        QCOMPARE(bench.html(), QString::fromLatin1(content));
+    }
+
+    void selectingAllAndCopying()
+    {
+        WebBench bench(u"page.html"_s, pageWith(text));
+        QVERIFY(bench.design());
+        for (const int index : {4, 1}) {
+            const std::unique_ptr<QMenu, MenuCloser> menu(openContextMenu(bench));
+            QVERIFY(menu);
+            QVERIFY(menu->actions()[index]->isEnabled());
+            menu->actions()[index]->trigger();
         }
-        menu->close();
+        QCOMPARE(QGuiApplication::clipboard()->text().trimmed(), u"text"_s);
+    }
+
+    void shortcutsInVisualMode()
+    {
+        WebBench bench(u"page.html"_s, "<p>old</p>");
+        QVERIFY(bench.design());
+        bench.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        QWidget *page = bench.keyboardOf(u"DHTMLEdit1"_s);
+        page->setFocus();
+        const auto becomes = [&](const QString &html) {
+            return waitUntil([&] { return bench.html() == html; }, WebBench::patience);
+        };
+        QTest::keyClick(page, Qt::Key_Delete);
+        QVERIFY2(becomes(u"<p>ld</p>"_s), qPrintable(bench.html()));
+        QTest::keyClick(page, Qt::Key_Delete);
+        QVERIFY2(becomes(u"<p>d</p>"_s), qPrintable(bench.html()));
+        QTest::keyClick(page, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(page, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY2(becomes(u"<p>old</p>"_s), qPrintable(bench.html()));
+        bench.run(DesignerCommand::SelectAll);
+        QTest::keyClick(page, Qt::Key_B, Qt::ControlModifier);
+        QVERIFY2(becomes(u"<p><b>old</b></p>"_s), qPrintable(bench.html()));
+        for (const int key : {Qt::Key_F, Qt::Key_R, Qt::Key_G}) {
+            bench.prompts.expect({u"Sorry, these tools can only be used in Code View"_s, u"Feature Limitation"_s,
+                                  Question::Icon::Information, Question::Buttons::Ok},
+                                 Answer::Ok);
+            QTest::keyClick(page, Qt::Key(key), Qt::ControlModifier);
+        }
+        QCOMPARE(bench.window->rt().text(), u"<p>old</p>"_s);
+        QTest::keyClick(page, Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(waitUntil([&] { return WindowBench::read(bench.file) == "<p><b>old</b></p>"; }, WebBench::patience));
+        QCOMPARE(bench.tabs().currentIndex(), 0);
+        QVERIFY(bench.window->rt().hasFocus());
+    }
+
+    void switchingQuicklyLosesNothing()
+    {
+        WebBench bench(u"page.html"_s, pageText);
+        for (int i = 0; i < 10; ++i) {
+            for (const int tab : {3, 2, 1, 2, 3, 1})
+                bench.select(tab);
+        }
+        QCOMPARE(bench.window->rt().text(), QString::fromLatin1(pageText));
+        QVERIFY(!bench.window->docModified());
+        QVERIFY(bench.design());
+        QCOMPARE(bench.html(), QString::fromLatin1(pageText));
+        bench.paste(u"<b>new</b>"_s);
+        for (const int tab : {1, 2, 1})
+            bench.select(tab);
+        QVERIFY(bench.window->rt().text().contains(u"<b>new</b><p>old"_s));
+        QCOMPARE(WindowBench::read(bench.file), pageText);
+    }
+
+    void namesWithOddCharacters_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char16_t *name : {u"a b.html", u"\u00e4\u00f6\u00fc.html", u"a#1.html", u"50%.html", u"why?.html", u"a&b'c.html"})
+            QTest::newRow(qPrintable(QString::fromUtf16(name))) << QString::fromUtf16(name);
+    }
+
+    void namesWithOddCharacters()
+    {
+        QFETCH(QString, name);
+        WebBench bench(name, pageText);
+        QVERIFY(bench.design());
+        QCOMPARE(bench.html(), QString::fromLatin1(pageText));
+        QCOMPARE(bench.designer().property("BaseFile").toString(), bench.file);
+        bench.paste(u"<b>new</b>"_s);
+        bench.choose(u"save"_s);
+        QVERIFY(WindowBench::read(bench.file).contains("<b>new</b><p>old"));
     }
 
     void thePaletteInsertsIntoThePage()

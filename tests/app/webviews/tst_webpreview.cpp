@@ -5,7 +5,9 @@
 #include "support/httpserver.h"
 #include "support/testregistry.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QScopeGuard>
 
@@ -37,7 +39,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("address"); // Beneath the bench's folder; where it begins with "@", beneath the program's.
         QTest::newRow("html") << u"page.html"_s << pageOne << u"one"_s << u"/site/page.htmltemp.html"_s;
         QTest::newRow("htm with odd characters") << u"a b#1%.htm"_s << pageOne << u"one"_s << u"/site/a b#1%.htmtemp.htm"_s;
-        QTest::newRow("script page") << u"page.vbs"_s << QByteArray("x = 1") << u"page.vbstemp.vbs"_s << u"/site/page.vbstemp.vbs"_s;
+        QTest::newRow("htm with a question") << u"warum?ä.htm"_s << pageOne << u"one"_s << u"/site/warum?ä.htmtemp.htm"_s;
+        QTest::newRow("script page") << u"page.vbs"_s << QByteArray("<title>vb</title>x = 1") << u"vb"_s << u"/site/page.vbstemp.vbs"_s;
         QTest::newRow("xml") << u"page.xml"_s << QByteArray("<html xmlns='http://www.w3.org/1999/xhtml'><head><title>two</title></head><body/></html>")
                              << u"two"_s << u"/site/page.xmltemp.xml"_s;
         QTest::newRow("script") << u"code.js"_s << QByteArray("let x = 1;") << u"code.jstemp.js"_s << u"/site/code.jstemp.js"_s;
@@ -138,6 +141,47 @@ private Q_SLOTS:
         QVERIFY(bench.showsPage(u"served"_s));
         keys->findChild<QAction *>(u"home"_s)->trigger();
         QVERIFY(bench.showsPage(u"one"_s));
+    }
+
+    void editingKeysWorkOnThePage()
+    {
+        WebBench bench(u"page.html"_s, pageOne);
+        QVERIFY(bench.preview(u"one"_s));
+        bench.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        bench.window->rt().executeCmd(int(EditorCommand::SelectAll));
+        QWidget *page = bench.keyboardOf(u"ww1"_s);
+        page->setFocus();
+        QGuiApplication::clipboard()->setText(u"before"_s);
+        QTest::keyClick(page, Qt::Key_A, Qt::ControlModifier);
+        // The page takes its keys one after the other, and the selection a moment after the key.
+        QVERIFY(waitUntil([&] {
+            QTest::keyClick(page, Qt::Key_C, Qt::ControlModifier);
+            return QGuiApplication::clipboard()->text() == u"text";
+        }, WebBench::patience));
+        for (const int key : {Qt::Key_X, Qt::Key_Z, Qt::Key_V})
+            QTest::keyClick(page, Qt::Key(key), Qt::ControlModifier);
+        QTest::keyClick(page, Qt::Key_Delete);
+        QCOMPARE(bench.window->rt().text(), QString::fromLatin1(pageOne));
+        QVERIFY(!bench.window->docModified());
+    }
+
+    void aKeyLoadsThePageAgain()
+    {
+        HttpServer server;
+        server.put(u"/a"_s, "<title>served</title>");
+        WebBench bench(u"page.html"_s, pageOne);
+        QVERIFY(bench.preview(u"one"_s));
+        bench.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        auto *address = bench.find<QLineEdit>(u"txturl"_s);
+        address->setText(server.address(u"/a"_s));
+        QTest::keyClick(address, Qt::Key_Return);
+        QVERIFY(bench.showsPage(u"served"_s));
+        server.put(u"/a"_s, "<title>served again</title>");
+        QTest::keyClick(bench.keyboardOf(u"ww1"_s), Qt::Key_F5);
+        QVERIFY(bench.showsPage(u"served again"_s));
+        QCOMPARE(bench.window->rt().text(), QString::fromLatin1(pageOne));
     }
 
     void aspGoesThroughTheServer_data()

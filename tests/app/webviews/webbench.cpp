@@ -64,4 +64,12 @@ int WebBench::status(DesignerCommand command) const
     return status;
 }
 
+QWidget *WebBench::keyboardOf(const QString &view) const
+{
+    QWidget *target = find<QWidget>(view);
+    while (target->focusProxy())
+        target = target->focusProxy();
+    return target;
+}
+
 } // namespace zephira

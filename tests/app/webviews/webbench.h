@@ -35,6 +35,8 @@ struct WebBench : WindowBench {
     void paste(const QString &markup) const;
     void run(DesignerCommand command, const QVariant &argument = {}) const;
     int status(DesignerCommand command) const;
+    /// What takes the keys and the mouse in a view, by the view's name.
+    QWidget *keyboardOf(const QString &view) const;
 
     QString file;
 };

@@ -116,6 +116,77 @@ private Q_SLOTS:
         }
     }
 
+    void aLanguageOpensNoSourceMenuInVisualMode()
+    {
+        ViewBench bench;
+        bench.select(3);
+        bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(4);
+        QCOMPARE(bench.menus(), u"--+++++"_s);
+        bench.select(1);
+        QCOMPARE(bench.menus(), u"++-----"_s);
+    }
+
+    void theCopyFromBeforeGoesWithTheNextOne()
+    {
+        ViewBench bench;
+        bench.select(2);
+        QVERIFY(QFile::exists(bench.copy));
+        bench.select(1);
+        const QString other = bench.write(u"site/other.html"_s, "<p>other</p>");
+        bench.window->document().openFileOrImage(other);
+        bench.select(2);
+        QCOMPARE(bench.window->previewTarget(), other + u"temp.html"_s);
+        QVERIFY(QFile::exists(other + u"temp.html"_s));
+        QVERIFY(!QFile::exists(bench.copy));
+    }
+
+    void aClickOnATabGivesItTheKeyboard_data()
+    {
+        QTest::addColumn<QString>("before"); // Where the keyboard is.
+        QTest::newRow("from the code view") << u"rt"_s;
+        QTest::newRow("from the side pane") << u"PrjPath"_s;
+        QTest::newRow("from the language list") << u"cboLang"_s;
+    }
+
+    void aClickOnATabGivesItTheKeyboard()
+    {
+        QFETCH(QString, before);
+        ViewBench bench;
+        bench.window->show();
+        bench.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        bench.find<QWidget>(before)->setFocus();
+        QTest::mouseClick(&bench.tabs(), Qt::LeftButton, {}, bench.tabs().tabRect(1).center());
+        QTRY_VERIFY(bench.find<QWidget>(u"ww1"_s)->hasFocus());
+        QTest::mouseClick(&bench.tabs(), Qt::LeftButton, {}, bench.tabs().tabRect(0).center());
+        QTRY_VERIFY(bench.window->rt().hasFocus());
+    }
+
+    void theKeyboardLeavesTheDesignersToolbarWithIt()
+    {
+        ViewBench bench;
+        bench.window->show();
+        bench.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        bench.select(3);
+        bench.designer().events.displayChanged();
+        bench.find<QComboBox>(u"FontCombo"_s)->setFocus();
+        bench.choose(u"mnunextview"_s);
+        QVERIFY(bench.window->rt().hasFocus());
+    }
+
+    void theTabsKeepTheKeyboard()
+    {
+        ViewBench bench;
+        bench.window->show();
+        bench.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        bench.tabs().setFocus();
+        QTest::keyClick(&bench.tabs(), Qt::Key_Right);
+        QCOMPARE(bench.tabs().currentIndex(), 1);
+        QVERIFY(bench.tabs().hasFocus());
+    }
+
     void theNextViewOfTheThirdIsTheFirst()
     {
         ViewBench bench;

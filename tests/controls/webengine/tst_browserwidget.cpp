@@ -77,6 +77,55 @@ class TstBrowserWidget final : public QObject
     Q_OBJECT
 
 private slots:
+    void aFileMayBeToldToBeAPage_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"a.vbs", "a.php", "a.cfm", "a b#1.inc", "a", "a.zip", "a.html"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void aFileMayBeToldToBeAPage()
+    {
+        QFETCH(QString, name);
+        Bench bench;
+        const QString path = bench.write(u"site/"_s + name, title + "<body><p>Grüße <b>1</b></p><script src=s.js></script>");
+        bench.write(u"site/s.js"_s, "document.title = 'script beside it'");
+        bench.browser.setHome(path, FileKind::Page);
+        for (const auto go : {&BrowserWidget::goHome, &BrowserWidget::refresh}) {
+            QSignalSpy loaded(&bench.page(), &QWebEnginePage::loadFinished);
+            (bench.browser.*go)();
+            QVERIFY(waitUntil([&] { return !loaded.isEmpty(); }, patience));
+            QVERIFY(bench.comesTo(u"document.body.innerText"_s, u"Grüße 1"_s));
+            QVERIFY(bench.comesTo(u"document.title"_s, u"script beside it"_s));
+            QCOMPARE(bench.browser.locationUrl(), QUrl::fromLocalFile(path).toString());
+        }
+        bench.write(u"secret.js"_s, "document.title = 'secret'");
+        bench.ask(u"var s = document.createElement('script'); s.src = '../secret.js'; "
+                  "s.onerror = () => document.title = 'refused'; document.body.append(s); 1"_s);
+        QVERIFY(bench.comesTo(u"document.title"_s, u"refused"_s));
+        QVERIFY(bench.show(bench.write(u"site/other.html"_s, title)));
+        bench.browser.setHome(path);
+        QVERIFY(bench.show(bench.write(u"site/plain.txt"_s, "<b>x")));
+        QCOMPARE(bench.ask(u"document.body.innerText"_s), u"<b>x"_s);
+    }
+
+    void aPageThatIsNotThereIsNamedAsSuch()
+    {
+        Bench bench;
+        bench.write(u"site/page.html"_s, title);
+        bench.show(bench.folder.path() + u"/site/miss ing#1.html"_s);
+        QVERIFY(bench.comesTo(u"document.documentElement.outerHTML.includes('ERR_FILE_NOT_FOUND') + ''"_s, u"true"_s));
+    }
+
+    void aVeryLargeFileGoesByItsName()
+    {
+        Bench bench;
+        const QString path = bench.write(u"large.txt"_s, title + QByteArray(700'000, 'x'));
+        bench.browser.setHome(path, FileKind::Page);
+        QVERIFY(bench.show(path));
+        QVERIFY(bench.ask(u"document.body.innerText"_s).startsWith(u"<!DOCTYPE html>"_s));
+    }
+
     void aLocalPageShows()
     {
         Bench bench;

@@ -145,6 +145,21 @@ private slots:
         QVERIFY(!files.mayLoad(site.url(u"alias/../secret/key.txt"_s)));
     }
 
+    void thePageThatIsGoneToMayBeMissing()
+    {
+        const Site site;
+        LocalFiles files;
+        const QUrl missing = site.url(u"site/missing.html"_s);
+        QVERIFY(!files.mayShow(missing));
+        files.open(missing);
+        QVERIFY(files.mayShow(missing));
+        QVERIFY(!files.mayShow(site.url(u"secret/missing.html"_s)));
+        files.shown(missing);
+        QVERIFY(files.mayShow(missing)); // Which the engine may tell before it asks.
+        files.shown(site.url(u"site/page.html"_s));
+        QVERIFY(!files.mayShow(missing));
+    }
+
     void addresses_data()
     {
         QTest::addColumn<QString>("text");
@@ -162,6 +177,25 @@ private slots:
     {
         QFETCH(QString, text);
         QTEST(pageAddress(text).toString(), "address");
+    }
+
+    void namesOfPages_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isPage");
+        QTest::newRow("htm") << u"/a.htm"_s << true;
+        QTest::newRow("capitals") << u"/A.HTML"_s << true;
+        QTest::newRow("a copy") << u"/a.htmltemp.html"_s << true;
+        QTest::newRow("with markup of a server") << u"/a.shtml"_s << true;
+        QTest::newRow("script") << u"/a.vbs"_s << false;
+        QTest::newRow("page in the folder's name") << u"/a.html/b"_s << false;
+        QTest::newRow("nothing") << QString() << false;
+    }
+
+    void namesOfPages()
+    {
+        QFETCH(QString, path);
+        QTEST(isNamedAsPage(QUrl::fromLocalFile(path)), "isPage");
     }
 };
 
