@@ -8,6 +8,9 @@ namespace zephira {
 
 /// What the page's side of the designer reports by itself. Only the designer's own script reaches it; it lives in a
 /// world that the page's scripts can't enter.
+///
+/// Every report names the page that it is about, by the prefix of its marks, and bears a number that grows within the
+/// page: reports may arrive after another page has taken the place of theirs, or after newer ones.
 class DesignerBridge final : public QObject
 {
     Q_OBJECT
@@ -17,18 +20,18 @@ public:
 
     Q_INVOKABLE void stateChanged(const QVariantMap &state) { emit stateArrived(state); }
     Q_INVOKABLE void placeChanged(const QVariantMap &place) { emit placeArrived(place); }
-    Q_INVOKABLE void pageKept(const QString &page) { emit pageArrived(page); }
-    Q_INVOKABLE void clipboardWanted(const QString &kind) { emit clipboardRequested(kind); }
+    Q_INVOKABLE void pageKept(const QVariantMap &copy) { emit copyArrived(copy); }
+    Q_INVOKABLE void clipboardWanted(const QVariantMap &request) { emit clipboardRequested(request); }
 
 signals:
     /// The members are those of DesignerState::fromPage().
     void stateArrived(const QVariantMap &state);
-    /// Where the selected element stands; see DesignerHandles.
-    void placeArrived(const QVariantMap &place);
-    /// The page's text as it is now, for the case that the page is lost.
-    void pageArrived(const QString &page);
-    /// The user wants to "copy", "cut" or "paste" by the keyboard.
-    void clipboardRequested(const QString &kind);
+    /// The member "place" says where the selected element stands; see DesignerHandles.
+    void placeArrived(const QVariantMap &report);
+    /// The members are those of DesignerCopy::fromPage().
+    void copyArrived(const QVariantMap &copy);
+    /// The user wants to "copy", "cut" or "paste" by the keyboard, which the member "kind" tells.
+    void clipboardRequested(const QVariantMap &request);
 };
 
 } // namespace zephira

@@ -34,8 +34,8 @@ constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Se
 
 /// In the order in which they build upon each other.
 constexpr QStringView scriptNames[] = {
-    u"nodes", u"selection", u"history", u"styles",    u"marks", u"blocks",   u"fonts",
-    u"insert", u"tables",   u"looks",   u"positions", u"commands", u"events", u"designer",
+    u"nodes",  u"selection", u"history", u"styles", u"marks",     u"blocks",   u"lists",  u"fonts",
+    u"insert", u"tables",    u"looks",   u"typing", u"positions", u"commands", u"events", u"designer",
 };
 
 struct Setting {
@@ -91,6 +91,7 @@ DesignerPage::DesignerPage(QWebEngineProfile &profile, QObject *parent) : QWebEn
             lookForEmptyPage();
     });
     connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { m_unanswered = 0; });
+    connect(this, &DesignerPage::ready, this, [this] { m_unanswered = 0; });
     connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
         setFeaturePermission(origin, feature, PermissionDeniedByUser);
     });
@@ -142,6 +143,13 @@ void DesignerPage::call(const QString &function, const QVariantList &arguments,
     runJavaScript(u"zephiraDesigner.%1(...%2)"_s.arg(function, QString::fromUtf8(list)), world, answered);
 }
 
+/// What a page before was asked is of no account any more.
+void DesignerPage::answered(int opening)
+{
+    if (opening == m_opening && m_unanswered > 0)
+        --m_unanswered;
+}
+
 std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const QVariantList &arguments)
 {
     if (!isResponding())
@@ -155,9 +163,9 @@ std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const
     const std::weak_ptr<Wait> waiting = wait;
     const QPointer<DesignerPage> self(this);
     ++m_unanswered;
-    call(function, arguments, [self, waiting](const QVariant &answer) {
-        if (self && self->m_unanswered > 0)
-            --self->m_unanswered;
+    call(function, arguments, [self, waiting, opening = m_opening](const QVariant &answer) {
+        if (self)
+            self->answered(opening);
         if (const auto still = waiting.lock()) {
             still->answer = answer;
             still->loop.quit();

@@ -47,6 +47,7 @@ protected:
 
 private:
     void installScript();
+    void answered(int opening);
     void lookForEmptyPage();
 
     LocalFileFence m_fence;

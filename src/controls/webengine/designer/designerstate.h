@@ -8,8 +8,34 @@
 
 namespace zephira {
 
+/// Which page a report is about, and which of the page's reports it is.
+struct DesignerStamp {
+    /// The prefix of the page's marks.
+    QString page;
+    /// From 1; a higher number is newer.
+    qint64 number = 0;
+
+    static DesignerStamp fromPage(const QVariantMap &report)
+    {
+        return {report.value(QStringLiteral("page")).toString(), report.value(QStringLiteral("number")).toLongLong()};
+    }
+    bool isOf(const QString &wantedPage) const { return page == wantedPage; }
+};
+
+/// The engine's text of a page, for the case that the page is lost.
+struct DesignerCopy {
+    DesignerStamp stamp;
+    QString text;
+
+    static DesignerCopy fromPage(const QVariantMap &copy)
+    {
+        return {DesignerStamp::fromPage(copy), copy.value(QStringLiteral("text")).toString()};
+    }
+};
+
 /// What the designer knows about its page between two reports, so that asking costs nothing.
 struct DesignerState {
+    DesignerStamp stamp;
     QHash<DesignerCommand, int> statuses;
     QString selectionType = QStringLiteral("None");
     QString fontName;
@@ -25,6 +51,7 @@ struct DesignerState {
     static DesignerState fromPage(const QVariantMap &report)
     {
         DesignerState state;
+        state.stamp = DesignerStamp::fromPage(report);
         const QVariantMap statuses = report.value(QStringLiteral("statuses")).toMap();
         for (auto entry = statuses.begin(); entry != statuses.end(); ++entry)
             state.statuses.insert(DesignerCommand{entry.key().toInt()}, entry->toInt());

@@ -64,23 +64,31 @@ DesignerWidget::DesignerWidget(Prompts &prompts, QWidget *parent)
     connectPage();
 }
 
-DesignerWidget::~DesignerWidget() = default;
+DesignerWidget::~DesignerWidget()
+{
+    // A page that ends with the widget is no loss.
+    m_page->disconnect(this);
+}
 
 /// While the engine delivers a message it delivers no other, so that nobody who may wait for an answer is called then.
 void DesignerWidget::connectPage()
 {
     const DesignerBridge &bridge = m_page->bridge();
     connect(m_page, &DesignerPage::ready, this, &DesignerWidget::write, Qt::QueuedConnection);
-    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &DesignerWidget::reopenAfterLoss,
-            Qt::QueuedConnection);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &DesignerWidget::takeLoss);
     connect(m_view.get(), &QWidget::customContextMenuRequested, this, &DesignerWidget::requestContextMenu,
             Qt::QueuedConnection);
     connect(&bridge, &DesignerBridge::clipboardRequested, this, &DesignerWidget::useClipboard, Qt::QueuedConnection);
-    connect(&bridge, &DesignerBridge::stateArrived, this, &DesignerWidget::takeReport);
-    connect(&bridge, &DesignerBridge::stateArrived, this, &DesignerWidget::announceDisplay, Qt::QueuedConnection);
-    connect(&bridge, &DesignerBridge::placeArrived, this,
-            [this](const QVariantMap &place) { m_handles->show(place, m_view->zoomFactor()); });
-    connect(&bridge, &DesignerBridge::pageArrived, this, [this](const QString &page) { m_keptPage = page; });
+    connect(&bridge, &DesignerBridge::stateArrived, this, [this](const QVariantMap &report) {
+        if (takeReport(report))
+            QMetaObject::invokeMethod(this, &DesignerWidget::announceDisplay, Qt::QueuedConnection);
+    });
+    connect(&bridge, &DesignerBridge::placeArrived, this, [this](const QVariantMap &report) {
+        if (DesignerStamp::fromPage(report).isOf(m_text.markPrefix()))
+            m_handles->show(report.value(u"place"_s).toMap(), m_view->zoomFactor());
+    });
+    connect(&bridge, &DesignerBridge::copyArrived, this,
+            [this](const QVariantMap &copy) { takeCopy(DesignerCopy::fromPage(copy)); });
 }
 
 void DesignerWidget::setDocumentHtml(const QString &html)
@@ -102,9 +110,10 @@ void DesignerWidget::loadDocument(const QString &path)
 void DesignerWidget::open()
 {
     m_isComplete = false;
+    m_isLate = false;
     m_state = {};
     m_keysSent = 0;
-    m_keptPage.clear();
+    m_copy = {};
     m_handles->show({}, 1);
     ++m_load;
     m_page->open(m_baseFile.isEmpty() ? QUrl(u"about:blank"_s) : QUrl::fromLocalFile(m_baseFile));
@@ -138,28 +147,47 @@ void DesignerWidget::complete(const QVariant &answer)
     announceDisplay();
 }
 
-void DesignerWidget::reopenAfterLoss()
+/// From now on the text is what was known last, and nobody asks the page until it has been loaded again.
+void DesignerWidget::takeLoss()
 {
-    if (!m_keptPage.isEmpty()) {
-        const QString page = m_text.fromEngine(m_keptPage);
-        m_hasLostChanges = true;
-        m_text = PageText(page, freshMarkPrefix(page));
-    }
-    if (++m_losses <= mostLosses)
-        open();
+    const bool hasChanges = m_state.isDirty && !m_copy.text.isEmpty();
+    const QString page = hasChanges ? m_text.fromEngine(m_copy.text) : m_text.source();
+    m_hasLostChanges = m_hasLostChanges || hasChanges;
+    m_text = PageText(page, freshMarkPrefix(page));
+    m_state = {};
+    m_copy = {};
+    m_isComplete = false;
+    m_handles->show({}, 1);
+    ++m_losses;
+    const auto reopen = [this, load = m_load] {
+        if (m_load == load && !isGivenUp())
+            open();
+        announceDisplay();
+    };
+    QMetaObject::invokeMethod(this, reopen, Qt::QueuedConnection);
 }
 
+bool DesignerWidget::isGivenUp() const
+{
+    return m_losses > mostLosses;
+}
+
+/// One wait for each load: a page that can't be loaded mustn't hold up every command.
 bool DesignerWidget::waitUntilComplete()
 {
     QElapsedTimer time;
     time.start();
-    while (!m_isComplete && m_load > 0 && m_losses <= mostLosses && time.elapsed() < m_page->patience())
+    while (!m_isComplete && !m_isLate && m_load > 0 && !isGivenUp()) {
         pass(keyInterval);
+        m_isLate = time.elapsed() >= m_page->patience();
+    }
     return m_isComplete;
 }
 
 QVariant DesignerWidget::ask(const QString &function, const QVariantList &arguments) const
 {
+    if (!m_isComplete)
+        return {};
     const std::optional<QVariant> answer = m_page->callAndWait(function, arguments);
     return answer ? takeAnswer(*answer) : QVariant();
 }
@@ -173,10 +201,21 @@ QVariant DesignerWidget::takeAnswer(const QVariant &answer) const
     return map.value(u"value"_s);
 }
 
-void DesignerWidget::takeReport(const QVariantMap &report) const
+/// Returns whether the report is news about this page.
+bool DesignerWidget::takeReport(const QVariantMap &report) const
 {
+    const DesignerStamp stamp = DesignerStamp::fromPage(report);
+    if (!stamp.isOf(m_text.markPrefix()) || stamp.number <= m_state.stamp.number)
+        return false;
     m_state = DesignerState::fromPage(report);
     m_handles->show(m_state.place, m_view->zoomFactor());
+    return true;
+}
+
+void DesignerWidget::takeCopy(const DesignerCopy &copy)
+{
+    if (copy.stamp.isOf(m_text.markPrefix()) && copy.stamp.number > m_copy.stamp.number)
+        m_copy = copy;
 }
 
 void DesignerWidget::announceDisplay()
@@ -214,10 +253,8 @@ QString DesignerWidget::documentHtml()
     awaitKeys();
     if (!m_state.isDirty)
         return m_text.source();
-    const QString page = ask(u"text"_s).toString();
-    if (!page.isEmpty())
-        m_keptPage = page;
-    return m_keptPage.isEmpty() ? m_text.source() : m_text.fromEngine(m_keptPage);
+    takeCopy(DesignerCopy::fromPage(ask(u"text"_s).toMap()));
+    return m_copy.text.isEmpty() ? m_text.source() : m_text.fromEngine(m_copy.text);
 }
 
 void DesignerWidget::pasteHtml(const QString &html)

@@ -21,7 +21,7 @@ class DesignerPage;
 
 /// The visual designer as a widget that holds its web view. Its operations can be called by name. What is asked for often
 /// (statuses, the dirty flag) is known beforehand; the rest waits for the page, within bounds. A page whose process dies
-/// is loaded again as it last was.
+/// is loaded again as it last was; one that does so again and again isn't, but its text is still there.
 class DesignerWidget final : public QWidget, public Designer
 {
     Q_OBJECT
@@ -89,15 +89,17 @@ private:
     void open();
     void write(bool ready);
     void complete(const QVariant &answer);
-    void reopenAfterLoss();
+    void takeLoss();
+    bool isGivenUp() const;
     bool waitUntilComplete();
     QVariant ask(const QString &function, const QVariantList &arguments = {}) const;
     QVariant takeAnswer(const QVariant &answer) const;
-    void takeReport(const QVariantMap &report) const;
+    bool takeReport(const QVariantMap &report) const;
+    void takeCopy(const DesignerCopy &copy);
     void announceDisplay();
     void awaitKeys() const;
     void setLook(const QString &name, bool on);
-    void useClipboard(const QString &kind);
+    void useClipboard(const QVariantMap &request);
     void requestContextMenu(const QPoint &place);
 
     /// How a command reaches the page.
@@ -132,9 +134,11 @@ private:
     /// What the page told last; reading it may have to wait for keys on their way.
     mutable DesignerState m_state;
     mutable int m_keysSent = 0;
-    /// The engine's text of the page as it was known last.
-    QString m_keptPage;
+    /// The page as it was known last; without a text as long as nothing is known.
+    DesignerCopy m_copy;
     bool m_isComplete = false;
+    /// Somebody has waited for the page as long as anybody should.
+    bool m_isLate = false;
     /// Changes from before the page was lost and loaded again.
     bool m_hasLostChanges = false;
     int m_losses = 0;

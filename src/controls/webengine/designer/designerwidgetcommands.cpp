@@ -134,8 +134,10 @@ QVariant DesignerWidget::paste(DesignerPrompting, const QVariant &)
     return {};
 }
 
-void DesignerWidget::useClipboard(const QString &kind)
+void DesignerWidget::useClipboard(const QVariantMap &request)
 {
+    if (!DesignerStamp::fromPage(request).isOf(m_text.markPrefix()))
+        return;
     struct Kind {
         QStringView name;
         DesignerCommand command;
@@ -143,6 +145,7 @@ void DesignerWidget::useClipboard(const QString &kind)
     static constexpr Kind kinds[] = {{u"copy", DesignerCommand::Copy},
                                      {u"cut", DesignerCommand::Cut},
                                      {u"paste", DesignerCommand::Paste}};
+    const QString kind = request.value(u"kind"_s).toString();
     const auto row = std::ranges::find(kinds, kind, [](const Kind &each) { return each.name; });
     if (row != std::end(kinds))
         execCommand(row->command, DesignerPrompting::Default, {});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/webengine/designer/pagetext.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <optional>
 #include <span>
@@ -51,11 +53,31 @@ bool isOutside(const PagePiece &piece, QStringView source)
     case PieceKind::Doctype:
     case PieceKind::ServerText:
         return true;
-    case PieceKind::Text:
-        return isBlankText(piece.in(source));
+    case PieceKind::Text: {
+        const QStringView text = piece.in(source);
+        return isBlankText(piece.begin == 0 && text.startsWith(QChar::ByteOrderMark) ? text.sliced(1) : text);
+    }
     default:
         return false;
     }
+}
+
+/// Whether the piece ends only with the page, because nobody closed it.
+bool isOpen(const PagePiece &piece, QStringView source)
+{
+    const bool canBeOpen = piece.kind == PieceKind::Comment || piece.kind == PieceKind::ServerText;
+    return canBeOpen && piece.end == source.size() && !piece.in(source).endsWith(u'>');
+}
+
+/// An element that has no end swallows all end tags that the engine writes behind it; without them.
+QStringView withoutEndsOfPlainText(QStringView root)
+{
+    constexpr QStringView plainTextEnd = u"</plaintext>";
+    const qsizetype end = root.lastIndexOf(plainTextEnd);
+    if (end < 0)
+        return root;
+    static const QRegularExpression endTags(u"^(?:</[a-z0-9:-]+>)+$"_s);
+    return endTags.match(root.sliced(end).toString()).hasMatch() ? root.first(end) : root;
 }
 
 /// The lower-case name of the tag that a piece begins, if it is one of those that hold the page together.
@@ -198,13 +220,13 @@ private:
 
 PageText::PageText(QString source, const QString &markPrefix) : m_source(std::move(source)), m_marks(markPrefix)
 {
-    const std::vector<PagePiece> pieces = scanPage(m_source);
+    std::vector<PagePiece> pieces = scanPage(m_source);
     learn(pieces);
     splitEnds(pieces);
 }
 
 /// Takes what stands in front of the root and behind the body from the engine; it needs the doctype alone.
-void PageText::splitEnds(const std::vector<PagePiece> &pieces)
+void PageText::splitEnds(std::vector<PagePiece> &pieces)
 {
     const QStringView source = m_source;
     const auto outside = [source](const PagePiece &piece) { return isOutside(piece, source); };
@@ -221,9 +243,16 @@ void PageText::splitEnds(const std::vector<PagePiece> &pieces)
         m_tailEndsBody = m_tailEndsBody || name == u"body";
         m_tailEndsRoot = m_tailEndsRoot || name == u"html";
     }
-    m_isFragment = root != pieces.end() && std::ranges::all_of(pieces, [source](const PagePiece &piece) {
+    m_isFragment = !isBlankText(source) && std::ranges::all_of(pieces, [source](const PagePiece &piece) {
         return rootTag(piece, source).isEmpty();
     });
+    if (!pieces.empty() && isOpen(pieces.back(), source))
+        m_openEnd = pieces.back().in(source).toString();
+    // The engine drops a doctype that comes too late.
+    for (auto piece = root; piece != tail; ++piece) {
+        if (piece->kind == PieceKind::Doctype)
+            piece->kind = PieceKind::Comment;
+    }
     const auto doctype = std::find_if(pieces.begin(), root, [](const PagePiece &piece) {
         return piece.kind == PieceKind::Doctype;
     });
@@ -254,16 +283,22 @@ QString PageText::fragmentFromEngine(const QString &markup) const
 
 QString PageText::fromEngine(const QString &rootElement) const
 {
-    if (const auto fragment = m_isFragment ? withoutRootTags(rootElement) : std::nullopt)
+    QStringView root = withoutEndsOfPlainText(rootElement);
+    const bool isEndless = root.size() < rootElement.size();
+    if (const auto fragment = m_isFragment ? withoutRootTags(root) : std::nullopt)
         return m_prolog + m_marks.unmask(tidied(*fragment));
-    QStringView root = rootElement;
+    if (isEndless)
+        return m_prolog + m_marks.unmask(tidied(root));
     if (root.endsWith(rootEnd))
         root.chop(rootEnd.size());
     const bool hasBody = root.endsWith(bodyEnd);
     if (hasBody)
         root.chop(bodyEnd.size());
     QString text = m_prolog + m_marks.unmask(tidied(root));
-    if (m_tail.isEmpty())
+    // Whatever came behind an open end would belong to it.
+    if (!m_openEnd.isEmpty() && text.endsWith(m_openEnd))
+        return text;
+    if (m_tail.isEmpty() && !text.endsWith(lineEnd))
         text += lineEnd;
     if (hasBody && !m_tailEndsBody)
         text += m_tail.isEmpty() ? u"</body>\r\n"_s : u"</body>"_s;

@@ -37,7 +37,7 @@ public:
     QString fragmentFromEngine(const QString &markup) const;
 
 private:
-    void splitEnds(const std::vector<PagePiece> &pieces);
+    void splitEnds(std::vector<PagePiece> &pieces);
     void learn(const std::vector<PagePiece> &pieces);
     QString tidied(QStringView markup) const;
 
@@ -48,6 +48,8 @@ private:
     QString m_prolog;
     QString m_tail;
     QString m_forEngine;
+    /// A comment or a block of server code at the end of the page that nobody closed.
+    QString m_openEnd;
     bool m_isFragment = false;
     bool m_tailEndsBody = false;
     bool m_tailEndsRoot = false;

@@ -62,6 +62,27 @@ void TstDesignerCommands::commands_data()
         u"<p style=\"COLOR:red; -x-own: 1; text-align: right\">a|</p>"_s);
     row("left", JustifyLeft, {}, u"<p style=\"text-align: center\">a|</p>"_s, 3, u"<p style=\"text-align: left\">a|</p>"_s);
 
+    row("bold over a whole", Bold, {}, u"<p>[<b>a</b>b]</p>"_s, 11, u"<p><b>[ab]</b></p>"_s);
+    row("a name that is none", SetFontName, u"A \"B\" & <C>"_s, u"<p>[a]</p>"_s, 3, u"<p>[a]</p>"_s);
+    row("several colours", SetForeColor, u"#00ff00"_s, u"<p>[a<font color=\"red\">b</font>]</p>"_s, 3,
+        u"<p><font color=\"#00ff00\">[ab]</font></p>"_s);
+    row("bulleted, partly", UnorderedList, {}, u"<p>[a</p><ul><li>b]</li></ul>"_s, 11, u"<ul><li>[a</li><li>b]</li></ul>"_s);
+    row("a list in a cell", OrderedList, {}, u"<table><tbody><tr><td>a|</td></tr></tbody></table>"_s, 3,
+        u"<table><tbody><tr><td><ol><li>a|</li></ol></td></tr></tbody></table>"_s);
+    row("a list of a picture", OrderedList, {}, u"<p>{<img src=\"x\"></p>"_s, 3, u"<ol><li>{<img src=\"x\"></li></ol>"_s);
+    row("centre a picture", JustifyCenter, {}, u"<p>{<img src=\"x\"></p>"_s, 3,
+        u"<p style=\"text-align: center;\">{<img src=\"x\"></p>"_s);
+    row("an item deeper", Indent, {}, u"<ul><li>a</li><li>b|</li><li>c</li></ul>"_s, 3,
+        u"<ul><li>a<ul><li>b|</li></ul></li><li>c</li></ul>"_s);
+    row("items deeper", Indent, {}, u"<ol type=\"a\"><li>a</li><li>[b</li><li>c]</li></ol>"_s, 3,
+        u"<ol type=\"a\"><li>a<ol type=\"a\"><li>[b</li><li>c]</li></ol></li></ol>"_s);
+    row("the first item deeper", Indent, {}, u"<ul><li>a|</li></ul>"_s, 3, u"<ul><ul><li>a|</li></ul></ul>"_s);
+    row("the first item back", Outdent, {}, u"<ul><ul><li>a|</li></ul></ul>"_s, 3, u"<ul><li>a|</li></ul>"_s);
+    row("an item back", Outdent, {}, u"<ul><li>a<ul><li style=\"color: red\">b|</li><li>c</li></ul></li></ul>"_s, 3,
+        u"<ul><li>a</li><li style=\"color: red\">b|<ul><li>c</li></ul></li></ul>"_s);
+    row("an item out of the list", Outdent, {}, u"<ul><li>a</li><li align=\"center\">b|</li></ul>"_s, 3,
+        u"<ul><li>a</li></ul><p align=\"center\">b|</p>"_s);
+
     row("heading", SetBlockFormat, u"Heading 2"_s, u"<p id=\"i\" class=\"c\">a|</p>"_s, 3, u"<h2 id=\"i\" class=\"c\">a|</h2>"_s);
     row("normal", SetBlockFormat, u"Normal"_s, u"<h1>a|</h1>"_s, 3, u"<p>a|</p>"_s);
     row("paragraph", SetBlockFormat, u"Paragraph"_s, u"<pre>a|</pre>"_s, 3, u"<p>a|</p>"_s);
@@ -87,6 +108,18 @@ void TstDesignerCommands::commands_data()
     row("delete at the caret", Delete, {}, u"<p>a|bc</p>"_s, 3, u"<p>a|c</p>"_s);
     row("delete an element", Delete, {}, u"<p>a{<img src=\"x\">b</p>"_s, 3, u"<p>a|b</p>"_s);
     row("cut", Cut, {}, u"<p>a[b]c</p>"_s, 3, u"<p>a|c</p>"_s);
+    row("delete over paragraphs", Delete, {}, u"<p>a[b</p><h1>c]d</h1>"_s, 3, u"<p>a|d</p>"_s);
+    row("cut over paragraphs", Cut, {}, u"<p>a[b</p><h1>c]d</h1>"_s, 3, u"<p>a|d</p>"_s);
+    row("cut a line", Cut, {}, u"<p>a</p>{<hr>"_s, 3, u"<p>a</p>|"_s);
+    row("link of several", Hyperlink, u"y?a&b"_s, u"<p>[a<a href=\"x\">b</a>c]</p>"_s, 3,
+        u"<p><a href=\"y?a&amp;b\">[abc]</a></p>"_s);
+    row("link of a picture", Hyperlink, u"y\"z"_s, u"<p>{<img src=\"i\"></p>"_s, 3,
+        u"<p><a href=\"y&quot;z\">{<img src=\"i\"></a></p>"_s);
+    row("link around a picture changed", Hyperlink, u"y"_s, u"<p><a href=\"x\">{<img src=\"i\"></a></p>"_s, 3,
+        u"<p><a href=\"y\">{<img src=\"i\"></a></p>"_s);
+    row("unlink within a selection", Unlink, {}, u"<p>[a<a href=\"x\">b</a>c]</p>"_s, 3, u"<p>[abc]</p>"_s);
+    row("picture over paragraphs", Image, u"x&\"y.gif"_s, u"<p>[a</p><p>b]</p>"_s, 3,
+        u"<p>{<img src=\"x&amp;&quot;y.gif\" alt=\"\"></p>"_s);
     row("link", Hyperlink, u"x.html"_s, u"<p>[a]</p>"_s, 3, u"<p><a href=\"x.html\">[a]</a></p>"_s);
     row("link changed", Hyperlink, u"y.html"_s, u"<p><a href=\"x.html\">a|b</a></p>"_s, 3, u"<p><a href=\"y.html\">a|b</a></p>"_s);
     row("link taken away", Hyperlink, u""_s, u"<p><a href=\"x.html\">a|b</a></p>"_s, 3, u"<p>a|b</p>"_s);
@@ -100,6 +133,16 @@ void TstDesignerCommands::commands_data()
     row("table by a map", InsertTable,
         QVariantMap{{u"NumRows"_s, 1}, {u"NumCols"_s, 1}, {u"TableAttrs"_s, u""_s}}, u"|"_s, 3,
         u"<table>\n<tbody>\n<tr>\n<td>|<br></td>\n</tr>\n</tbody>\n</table>"_s);
+
+    row("table with hostile words", InsertTable,
+        QVariant::fromValue(InsertTableParam{1, 1, u"title='a>b' onclick=x"_s, u"bgcolor=\"<\" >x<script>y</script"_s, u"<b>&"_s}),
+        u"|"_s, 3,
+        u"<table title=\"a>b\" onclick=\"x\">\n<caption>&lt;b&gt;&amp;</caption>\n<tbody>\n<tr>\n"
+        u"<td bgcolor=\"<\">|x<script>y</script><br></td>\n</tr>\n</tbody>\n</table>"_s);
+    row("table in an item", InsertTable, QVariantMap{{u"NumRows"_s, 1}, {u"NumCols"_s, 1}, {u"TableAttrs"_s, u""_s}},
+        u"<ul><li>x|</li></ul>"_s, 3,
+        u"<ul><li>x<table>\n<tbody>\n<tr>\n<td>|<br></td>\n</tr>\n</tbody>\n</table></li></ul>"_s);
+    row("no table of no rows", InsertTable, QVariantMap{{u"NumRows"_s, 0}}, u"<p>a|</p>"_s, 3, u"<p>a|</p>"_s);
 
     const QString square = u"<table><tbody><tr><td>%1</td><td>%2</td></tr><tr><td>%3</td><td>%4</td></tr></tbody></table>"_s;
     const auto cells = [&](const QString &a, const QString &b, const QString &c, const QString &d) {
@@ -133,6 +176,26 @@ void TstDesignerCommands::commands_data()
         body(u"<tr><td colspan=\"2\">|a<br>b</td></tr><tr><td>c</td><td>d</td></tr>"_s));
     row("merge down", MergeCells, {}, body(u"<tr><td>[a</td></tr><tr><td>b]</td></tr>"_s), 3,
         body(u"<tr><td rowspan=\"2\">|a<br>b</td></tr><tr></tr>"_s));
+    row("delete the low half's row", DeleteRows, {},
+        body(u"<tr><td rowspan=\"2\">a</td><td>b</td></tr><tr><td>c|</td></tr>"_s), 3, body(u"<tr><td>a</td><td>|b</td></tr>"_s));
+    row("delete all rows of a high cell", DeleteRows, {},
+        u"<p>x</p>"_s + body(u"<tr><td rowspan=\"2\">a|</td><td>b</td></tr><tr><td>c</td></tr>"_s), 3, u"<p>x</p>|"_s);
+    row("delete the only column", DeleteColumns, {}, u"<p>x</p>"_s + body(u"<tr><td>a|</td></tr><tr><td>b</td></tr>"_s), 3,
+        u"<p>x</p>|"_s);
+    row("delete the only cell", DeleteCells, {}, u"<p>x</p>"_s + body(u"<tr><td>a|</td></tr>"_s), 3, u"<p>x</p>|"_s);
+    row("delete the only row of a section", DeleteRows, {},
+        u"<table><thead><tr><th>h</th></tr></thead><tbody><tr><td>a|</td></tr></tbody></table>"_s, 3,
+        u"<table><thead><tr><th>|h</th></tr></thead></table>"_s);
+    row("merge all", MergeCells, {}, cells(u"[a"_s, u"b"_s, u"c"_s, u"d]"_s), 3,
+        body(u"<tr><td colspan=\"2\" rowspan=\"2\">|a<br>b<br>c<br>d</td></tr><tr></tr>"_s));
+    row("merge with a high one", MergeCells, {},
+        body(u"<tr><td>[a</td><td rowspan=\"2\">b]</td></tr><tr><td>c</td></tr>"_s), 3,
+        body(u"<tr><td colspan=\"2\" rowspan=\"2\">|a<br>b<br>c</td></tr><tr></tr>"_s));
+    row("split a large cell", SplitCell, {},
+        body(u"<tr><td colspan=\"2\" rowspan=\"2\" id=\"i\">a|</td><td>b</td></tr><tr><td>c</td></tr>"_s), 3,
+        body(u"<tr><td rowspan=\"2\" id=\"i\">a|</td><td rowspan=\"2\"><br></td><td>b</td></tr><tr><td>c</td></tr>"_s));
+    row("bold in several cells", Bold, {}, cells(u"[a"_s, u"b]"_s, u"c"_s, u"d"_s), 3,
+        cells(u"<b>[a</b>"_s, u"<b>b]</b>"_s, u"c"_s, u"d"_s));
     row("split", SplitCell, {}, start, 3,
         body(u"<tr><td>a|</td><td><br></td><td>b</td></tr><tr><td colspan=\"2\">c</td><td>d</td></tr>"_s));
     row("split a wide cell", SplitCell, {}, body(u"<tr><td colspan=\"3\">a|</td></tr>"_s), 3,
@@ -154,6 +217,19 @@ void TstDesignerCommands::commands_data()
     };
     row("to the front", BringToFront, {}, three, 3, order(7, 1, 2));
     row("forward", BringForward, {}, three, 3, order(2, 1, 7));
+    const QString equals = placed.arg(u"1"_s, u"a|"_s) + placed.arg(u"1"_s, u"b"_s) + placed.arg(u"5"_s, u"c"_s);
+    row("to the front of equals", BringToFront, {}, equals, 3, order(5, 1, 2));
+    row("forward among equals", BringForward, {}, equals, 3, order(2, 1, 5));
+    row("to the back where it is", SendToBack, {}, equals, 3, equals);
+    row("forward below the text", BringForward, {}, order(-5, -1, 7), 3, order(-1, -5, 7));
+    row("to the front below the text", BringToFront, {}, order(-5, -1, 7), 3, order(-1, -5, 7));
+    row("to the front at the front", BringToFront, {}, order(9, 1, 2), 3, order(9, 1, 2));
+    row("below the text, below others", SendBelowText, {}, order(3, -1, -4), 3, order(-1, -2, -4));
+    row("a table to a place", AbsolutePosition, {},
+        u"<body style=\"margin: 8px\">{<table border=\"1\"><tbody><tr><td>a</td></tr></tbody></table>"_s, 3,
+        u"{<table border=\"1\" style=\"position: absolute; left: 8px; top: 8px; z-index: 100\"><tbody><tr><td>a</td></tr></tbody></table>"_s);
+    row("back with its lock", AbsolutePosition, {},
+        u"<div design_time_lock=\"true\" style=\"position: absolute; left: 1px\" id=\"i\">a|</div>"_s, 7, u"<div id=\"i\">a|</div>"_s);
     row("to the back", SendToBack, {}, placed.arg(u"1"_s, u"a"_s) + placed.arg(u"2"_s, u"b|"_s), 3,
         placed.arg(u"2"_s, u"a"_s) + placed.arg(u"1"_s, u"b|"_s));
     row("backward among equals", SendBackward, {}, placed.arg(u"5"_s, u"a"_s) + placed.arg(u"5"_s, u"b|"_s), 3,
@@ -229,6 +305,31 @@ void TstDesignerCommands::statuses_data()
     row("lock without a position", LockElement, picture, 1);
     row("outdent of a paragraph", Outdent, caret, 1);
     row("unlink without a link", Unlink, caret, 1);
+    row("bold of an element", Bold, picture, 1);
+    row("italic of an element", Italic, picture, 1);
+    row("underline of an element", Underline, picture, 1);
+    row("colour of an element", SetForeColor, picture, 1);
+    row("link of an element", Hyperlink, picture, 3);
+    row("mixed centring", JustifyCenter, u"<p align=\"center\">[a</p><p>b]</p>"_s, 11);
+    row("mixed underline", Underline, u"<p>[a<u>b]</u></p>"_s, 11);
+    row("partly numbered", OrderedList, u"<ol><li>[a</li></ol><p>b]</p>"_s, 11);
+    row("font size of cells", GetFontSize, u"<table><tbody><tr><td>[a</td><td>b]</td></tr></tbody></table>"_s, 3);
+    row("bold in a cell", Bold, u"<table><tbody><tr><td><b>a|</b></td></tr></tbody></table>"_s, 7);
+    row("a whole table", InsertRow, u"{<table><tbody><tr><td>a</td></tr></tbody></table>"_s, 1);
+    row("position of a table", AbsolutePosition, u"{<table><tbody><tr><td>a</td></tr></tbody></table>"_s, 3);
+    row("merge of two cells", MergeCells, u"<table><tbody><tr><td>[a</td><td>b]</td></tr></tbody></table>"_s, 3);
+    row("lock", LockElement, u"<div style=\"position:absolute\">a|</div>"_s, 3);
+    row("locked", LockElement, u"<div style=\"position:absolute\" design_time_lock=\"true\">a|</div>"_s, 7);
+    row("in a positioned box", AbsolutePosition, u"<div style=\"position:absolute\">a|</div>"_s, 7);
+    row("forward of a positioned box", BringForward, u"<div style=\"position:absolute\">a|</div>"_s, 3);
+    for (const DesignerCommand command : {Bold, Italic, Underline, OrderedList, UnorderedList, Indent, JustifyCenter,
+                                          JustifyRight, SetForeColor, SetFontName, SetFontSize, SetBlockFormat, GetFontName,
+                                          GetFontSize, GetBlockFormat, Font, SelectAll, FindText, Image, Hyperlink, InsertTable})
+        row(qPrintable(u"empty page %1"_s.arg(static_cast<int>(command))), command, u""_s, 3);
+    for (const DesignerCommand command : {Undo, Redo, Cut, Copy, Outdent, InsertRow, DeleteCells, MergeCells, SplitCell,
+                                          AbsolutePosition, BringToFront, SendToBack, LockElement, Unlink})
+        row(qPrintable(u"empty page %1"_s.arg(static_cast<int>(command))), command, u""_s, 1);
+    row("left on an empty page", JustifyLeft, u""_s, 7);
     row("centred", JustifyCenter, u"<p align=\"center\">a|</p>"_s, 7);
     row("bulleted", UnorderedList, u"<ul><li>a|</li></ul>"_s, 7);
 }

@@ -131,6 +131,9 @@ void TstDesignerMouse::snapsToTheGrid()
     QVERIFY(comesTo(u"Control"_s));
     m_bench->drag({140, 70}, {170, 100});
     QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 80px; height: 40px"_s), qPrintable(m_bench->body()));
+    // Of a size, the dragged side goes to the grid.
+    m_bench->drag({230, 140}, {240, 160});
+    QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 100px; height: 50px"_s), qPrintable(m_bench->body()));
     m_bench->designer.setSnapToGrid(false);
 }
 

@@ -3,6 +3,8 @@
 #include "designerbench.h"
 #include "support/testregistry.h"
 
+#include <QRandomGenerator>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -20,6 +22,7 @@ private slots:
     void edited_data();
     void edited();
     void anyMarkupSettles();
+    void oneLetterThereAndBack();
     void marksCanBeMoved();
     void serverCodeThatIsPastedIn();
     void namesThatHideTheDocument();
@@ -113,6 +116,41 @@ void TstDesignerText::edited_data()
     row("a drawing", u"<svg viewBox=\"0 0 1 1\"><linearGradient id=\"a\"></linearGradient></svg>"_s);
     row("no script", u"<noscript><img src=\"a\"></noscript>"_s);
     row("conditional comments", u"<!--[if IE]><p>a</p><![endif]--><![if !IE]>b<![endif]>"_s);
+    row("a mark of the bytes' order", u"\ufeff<!DOCTYPE html>\r\n<html>\r\n<head></head>\r\n<body>\r\n<p>a</p>\r\n</body>\r\n</html>\r\n"_s);
+    row("that mark before a fragment", u"\ufeff<p>a</p>"_s);
+    row("text before the doctype", u"a<!DOCTYPE html><html><body><p>b</p></body></html>"_s,
+        u"<html>\r\n<head></head>\r\n<body>a<!DOCTYPE html><p>b</p></body></html>"_s);
+    row("text behind the root", u"<html>\r\n<head></head>\r\n<body>\r\na</body></html>b"_s,
+        u"<html>\r\n<head></head>\r\n<body>\r\nab\r\n</body>\r\n</html>\r\n"_s);
+    row("an include alone", u"<!--#include file=\"a\" -->\r\n"_s);
+    row("server code that nobody closed", u"<p>a</p><% b"_s);
+    row("a comment that nobody closed", u"<html>\r\n<head></head>\r\n<body>a<!-- b"_s);
+    row("server code alone that nobody closed", u"<% a <p>b</p>"_s);
+    row("a root without its parts", u"<html>\r\n<p>a</p>\r\n"_s,
+        u"<html>\r\n<head></head>\r\n<body><p>a</p>\r\n</body>\r\n</html>\r\n"_s);
+    row("a head alone", u"<title>t</title>\r\n<p>a</p>"_s);
+    row("text without an end", u"<p>a</p><plaintext>b<i>&amp;"_s);
+    row("text without an end in a page", u"<html>\r\n<head></head>\r\n<body><plaintext>b</body></html>"_s);
+    row("examples", u"<xmp><b>x</b>&amp;</xmp>"_s);
+    row("a template", u"<template><p>a</p><% x %><!-- c --></template>"_s);
+    row("names of others", u"<p>a<o:p></o:p> b<o:p>&nbsp;</o:p></p>"_s);
+    row("a form in a form", u"<form action=\"a\"><form action=\"b\"><input></form></form>"_s, u"<form action=\"a\"><input></form>"_s);
+    row("a table in a cell", u"<table><tr><td>a<table><tr><td>b</table></table>"_s,
+        u"<table><tbody><tr><td>a<table><tbody><tr><td>b</td></tr></tbody></table></td></tr></tbody></table>"_s);
+    row("text between rows", u"<table>a<tr><td>b</table>"_s, u"a<table><tbody><tr><td>b</td></tr></tbody></table>"_s);
+    row("ColdFusion between rows", u"<table><tbody><cfoutput query=\"q\"><tr><td>a</td></tr></cfoutput></tbody></table>"_s);
+    row("PHP between rows", u"<table><tbody><?php a ?><tr><td>b</td></tr><?php } ?></tbody></table>"_s);
+    row("PHP between options", u"<select><?php a ?><option>b</option><?php } ?></select>"_s);
+    row("a tag's attribute under a condition", u"<option <?php if ?>selected<?php end ?>>a</option>"_s);
+    row("an include in a value", u"<a href=\"<!--#echo var=\"a\" -->\">b</a>"_s);
+    row("server code that holds a script's end", u"<script>a = \"<?php \"</script>\" ?>\";</script>"_s);
+    row("a script in a comment", u"<script><!-- <script> --></script>"_s);
+    row("a large value", u"<p title=\"%1\">a</p>"_s.arg(u"long &amp; "_s.repeated(20000)));
+    row("single quotes", u"<p title='a \"b\"'>x</p>"_s, u"<p title=\"a &quot;b&quot;\">x</p>"_s);
+    row("crossed tags", u"<b><i>x</b></i>"_s, u"<b><i>x</i></b>"_s);
+    row("lone CR", u"<p>a\rb</p>"_s, u"<p>a\r\nb</p>"_s);
+    row("comments all around",
+        u"<!-- a --><html><!-- b -->\r\n<head><!-- c --></head><!-- d --><body>x</body><!-- e --></html><!-- f -->"_s);
     row("a word like the designer's own", u"<p>zephira-mark zsx0v</p>"_s);
 }
 
@@ -141,6 +179,46 @@ void TstDesignerText::anyMarkupSettles()
         QVERIFY2(roundTrip(once) == once, qPrintable(page + u"\n--\n"_s + once + u"\n--\n"_s + roundTrip(once)));
         for (const QString &piece : {u"<% s %>"_s, u"<!-- c -->"_s})
             QVERIFY2(once.count(piece) == page.count(piece), qPrintable(page + u"\n--\n"_s + once));
+    }
+}
+
+/// One letter is changed, and changed back in the text that came of it: everything else is what it was.
+void TstDesignerText::oneLetterThereAndBack()
+{
+    const QStringList pieces{u"<p class=\"a\">text</p>"_s, u"<% a %>"_s, u"<?php b ?>"_s, u"<!--#include file=\"c\" -->"_s,
+                             u"<cfif d gt 1>"_s, u"</cfif>"_s, u"<p title=\"<%= e %>\">"_s, u"<td <?= f ?>>"_s,
+                             u"<table><tr><td>"_s, u"</td></tr>"_s, u"</table>"_s, u"<!-- g -->"_s, u"&eacute;"_s, u"é"_s,
+                             u"<script>if (h < 1 && i) \"<% j %>\"</script>"_s, u"<style>k{}</style>"_s, u"<title><%= l %></title>"_s,
+                             u"<textarea>\n\n<% m %></textarea>"_s, u"<xmp><b></xmp>"_s, u"<noscript><i></noscript>"_s,
+                             u"<svg><title>n</title></svg>"_s, u"<o:p></o:p>"_s, u"<![if IE]>"_s, u"<body bgcolor=\"red\">"_s,
+                             u"<!DOCTYPE html>"_s, u"<html>"_s, u"</body>"_s, u"</html>"_s, u"\r\n"_s, u"\n"_s, u"</form>"_s,
+                             u"<form>"_s, u"<select><option>"_s, u"<b>"_s, u"</b>"_s, u"<li>"_s, u"<h1>"_s, u"</p>"_s};
+    const auto changed = [this](const QString &page, const QString &from, const QString &to) {
+        m_bench->load(page);
+        const QString change = uR"js((() => {
+            const walker = document.createTreeWalker(document.body ?? document, NodeFilter.SHOW_TEXT);
+            while (walker.nextNode() && !walker.currentNode.data.includes('%1'));
+            walker.currentNode.data = walker.currentNode.data.replace('%1', '%2');
+        })())js"_s;
+        m_bench->ask(change.arg(from, to));
+        [this] { QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience); }();
+        return m_bench->designer.documentHtml();
+    };
+    QRandomGenerator random(7);
+    for (int round = 0; round < 40; ++round) {
+        QString page;
+        for (int count = random.bounded(1, 15); count > 0; --count)
+            page += pieces[random.bounded(pieces.size())];
+        page += u"<p>letter</p>"_s;
+        const QString there = changed(page, u"letter"_s, u"lettre"_s);
+        const QString back = changed(there, u"lettre"_s, u"letter"_s);
+        const auto report = [&] { return qPrintable(page + u"\n--\n"_s + there + u"\n--\n"_s + back); };
+        QVERIFY2(there.contains(u"lettre") && !there.contains(u"letter"), report());
+        QVERIFY2(back == QString(there).replace(u"lettre"_s, u"letter"_s), report());
+        QVERIFY2(changed(back, u"letter"_s, u"lettre"_s) == there, report());
+        for (const QString &piece : {u"<% a %>"_s, u"<?php b ?>"_s, u"<!--#include file=\"c\" -->"_s, u"<cfif d gt 1>"_s,
+                                     u"<%= l %>"_s, u"<!-- g -->"_s, u"<!DOCTYPE html>"_s})
+            QVERIFY2(back.count(piece) == page.count(piece), report());
     }
 }
 

@@ -26,6 +26,8 @@ private slots:
             u"<!DOCTYPE html><html><body>x"_s);
         row("without a body's end", u"<html><p>x\r\n<!-- 2 -->"_s, u"<html><p>x\r\n<!--zsx0c-->"_s);
         row("text behind the body", u"<body>x</body>y"_s, u"<body>x</body>y"_s);
+        row("a mark of the bytes' order", u"\ufeff<!DOCTYPE html><p>x"_s, u"<!DOCTYPE html><p>x"_s);
+        row("a doctype that comes too late", u"x<!DOCTYPE html><p>y"_s, u"x<!--zsx0c--><p>y"_s);
         row("server code at both ends", u"<%@ a %><html>x</html><% b %>"_s, u"<html>x"_s);
     }
 
@@ -62,6 +64,17 @@ private slots:
         row("frames", u"<html><frameset cols=\"*,*\"><frame></frameset></html>\r\n"_s,
             u"<html><head></head><frameset cols=\"*,*\"><frame noresize=\"\"></frameset></html>"_s,
             u"<html>\r\n<head></head>\r\n<frameset cols=\"*,*\"><frame noresize></frameset></html>\r\n"_s);
+        row("text without an end", u"<p>x<plaintext>y"_s,
+            u"<html><head></head><body><p>x</p><plaintext>y</b></plaintext></body></html>"_s, u"<p>x</p><plaintext>y</b>"_s);
+        row("more behind a text without an end", u"<plaintext>y"_s,
+            u"<html><head></head><body><plaintext>y</plaintext>z</body></html>"_s, u"<plaintext>y</plaintext>z</body></html>"_s);
+        row("an end that nobody closed", u"<html><body>x<% y"_s, u"<html><head></head><body>x<!--zsx0s--></body></html>"_s,
+            u"<html>\r\n<head></head>\r\n<body>x<% y"_s);
+        row("an end that nobody closed and that moved", u"<html><body>x<% y"_s,
+            u"<html><head></head><body><!--zsx0s-->x</body></html>"_s,
+            u"<html>\r\n<head></head>\r\n<body><% yx\r\n</body>\r\n</html>\r\n"_s);
+        row("an include alone", u"<!--#include file=\"a\" -->"_s, u"<html><head></head><body>x</body></html>"_s,
+            u"<!--#include file=\"a\" -->x"_s);
         row("lonely words", u"x"_s,
             u"<html><head></head><body><input checked=\"\" value=\"\" disabled=\"\"></body></html>"_s,
             u"<input checked value=\"\" disabled>"_s);

@@ -22,6 +22,7 @@ const blockFormats = [
 
 const listNames = wordSet('ol ul dir menu dl');
 const itemSelector = 'li,dt,dd';
+const itemNames = wordSet('li dt dd');
 
 const blockFormatNames = () => blockFormats.map(format => format.name);
 
@@ -104,40 +105,6 @@ const makeBlock = (paragraph, name, replaced) => {
     const block = renameElement(paragraph.element, name);
     replaced.set(paragraph.element, block);
     return block;
-};
-
-// Takes an item out of its list, which is cut in two around it.
-const liftItem = item => {
-    const list = item.parentNode;
-    if (!isNamed(list, listNames))
-        return;
-    const following = [];
-    for (let next = item.nextSibling; next; next = next.nextSibling)
-        following.push(next);
-    if (following.some(isElement)) {
-        const rest = list.cloneNode(false);
-        rest.removeAttribute('id');
-        list.after(rest);
-        for (const node of following)
-            rest.append(node);
-    }
-    list.after(item);
-    if (!list.firstElementChild)
-        list.remove();
-    if (containsBlock(item))
-        unwrapElement(item);
-    else
-        renameElement(item, 'p');
-};
-
-const liftSelectedItems = () => {
-    const mark = bookmark();
-    const items = new Set(selectedParagraphs().map(paragraph => closest(startOf(paragraph), itemSelector)));
-    for (const item of items) {
-        if (item)
-            liftItem(item);
-    }
-    restore(mark);
 };
 
 // Puts blocks that follow each other into one list, together with a list of the same kind before them.

@@ -23,6 +23,16 @@ const runNative = (name, value = null) =>
     keepStyleTexts(history.changesOf(() => nativeCommand(name, false, value)));
 
 const toggle = name => ({status: () => nativeStatus(name), run: () => runNative(name)});
+const toggleText = name => ({status: () => hasText() ? nativeStatus(name) : status.disabled, run: () => runNative(name)});
+
+// The engine tells of the first item alone.
+const listCommand = (name, format) => ({
+    status: () => {
+        const formats = isFrameset() ? [] : selectedFormats();
+        return formats.length > 1 && formats.includes(format) ? status.mixed : nativeStatus(name);
+    },
+    run: () => toggleList(format),
+});
 
 const fontCommand = (property, read) => ({
     status: () => hasText() ? (isMixed(property) ? status.mixed : status.enabled) : status.disabled,
@@ -42,7 +52,7 @@ const tableCommand = (run, allowed = cells => cells.length > 0) => ({
 const depthCommand = run => ({status: () => enabledIf(positionedTarget()), run});
 
 const commands = {
-    5000: toggle('bold'),
+    5000: toggleText('bold'),
     5002: {status: () => enabledIf(selectionType() !== 'None'), run: selectionMarkup, reads: true},
     5003: {status: () => enabledIf(selectionType() !== 'None'), run: () => {
         const markup = selectionMarkup();
@@ -66,12 +76,12 @@ const commands = {
     5014: fontCommand('fontSize', fontSize),
     5016: {status: () => enabledIf(!isFrameset()), run: setLink},
     5017: {status: () => enabledIf(!isFrameset()), run: insertImage},
-    5018: toggle('indent'),
+    5018: {status: () => nativeStatus('indent'), run: () => changeDepth(deepenItem, 'indent')},
     5019: tableCommand(insertCell),
     5020: tableCommand(insertColumn),
     5021: tableCommand(insertRow),
     5022: {status: () => enabledIf(!isFrameset()), run: insertTable},
-    5023: toggle('italic'),
+    5023: toggleText('italic'),
     5024: toggle('justifyCenter'),
     5025: toggle('justifyLeft'),
     5026: toggle('justifyRight'),
@@ -84,10 +94,10 @@ const commands = {
         run: toggleAbsolute,
     },
     5029: tableCommand(mergeCells, cells => cells.length > 1),
-    5030: {status: () => nativeStatus('insertOrderedList'), run: () => toggleList('Numbered List')},
+    5030: listCommand('insertOrderedList', 'Numbered List'),
     5031: {
         status: () => enabledIf(hasText() && closest(currentRange().commonAncestorContainer, 'blockquote,ol,ul,dir,menu')),
-        run: () => runNative('outdent'),
+        run: () => changeDepth(raiseItem, 'outdent'),
     },
     5033: {status: () => enabledIf(history.canRedo), run: () => history.redo(), turns: true},
     5035: {status: () => enabledIf(!isFrameset()), run: () => nativeCommand('selectAll', false, null), reads: true},
@@ -103,10 +113,10 @@ const commands = {
     5045: {status: () => enabledIf(hasText()), run: setFontSize},
     5046: {status: () => enabledIf(hasText()), run: colour => runNative('foreColor', colour)},
     5047: tableCommand(splitCell, cells => cells.length === 1),
-    5048: toggle('underline'),
+    5048: toggleText('underline'),
     5049: {status: () => enabledIf(history.canUndo), run: () => history.undo(), turns: true},
-    5050: {status: () => enabledIf(linkElement()), run: unlink},
-    5051: {status: () => nativeStatus('insertUnorderedList'), run: () => toggleList('Bulleted List')},
+    5050: {status: () => enabledIf(!isFrameset() && hasLink()), run: unlink},
+    5051: listCommand('insertUnorderedList', 'Bulleted List'),
 };
 
 const allStatuses = () => {
@@ -114,6 +124,9 @@ const allStatuses = () => {
     return Object.fromEntries(Object.entries(commands).map(([number, command]) =>
         [number, looks.browseMode ? status.disabled : command.status(cells)]));
 };
+
+// What a command reads, as long as the whole selection agrees on it.
+const valueOf = (number, statuses, none) => statuses[number] === status.enabled ? commands[number].run() : none;
 
 const runCommand = (number, argument) => {
     const command = commands[number];

@@ -6,46 +6,55 @@
 let bridge = {stateChanged() {}, placeChanged() {}, pageKept() {}, clipboardWanted() {}};
 let keysSeen = 0;
 let reporting = false;
+let reportsMade = 0;
 let keepTimer = 0;
 
-// A copy of the page goes to the program when nothing has changed for a while: this many milliseconds at least, and so
-// many times what it took to write the last one.
+// Whoever gets a report knows by this which page it is about, and whether there has been a newer one.
+const stamped = report => ({...report, page: markPrefix, number: ++reportsMade});
+
+// A copy of the page goes to the program a while after the first change since the last copy, however fast further changes
+// come: after this many milliseconds at least, and so many times what it took to write the last one.
 const keepRest = 1000;
 const keepShare = 10;
 let keepCost = 0;
 
 const history = new History(() => {
     reportState();
-    clearTimeout(keepTimer);
-    keepTimer = setTimeout(keepPage, Math.max(keepRest, keepShare * keepCost));
+    if (keepTimer === 0)
+        keepTimer = setTimeout(keepPage, Math.max(keepRest, keepShare * keepCost));
 });
 
-const pageText = () => rootElement().outerHTML;
+const copyOfPage = () => stamped({text: rootElement().outerHTML});
 
 const keepPage = () => {
     const begin = performance.now();
-    bridge.pageKept(pageText());
+    keepTimer = 0;
+    bridge.pageKept(copyOfPage());
     keepCost = performance.now() - begin;
 };
 
-// Where the selected element stands in the view, and which of its grips can be dragged; in pixels of the page.
-// Empty where nothing is selected as a whole.
+// What the program paints on top of the view, in pixels of the page: where the selected element stands and which of its
+// grips can be dragged, where one is selected as a whole, and the signs of what has no picture.
 const place = () => {
     const element = looks.browseMode ? null : selectedControl();
     const box = element?.getBoundingClientRect();
-    return box ? {x: box.x, y: box.y, width: box.width, height: box.height, grips: gripsOf(element)} : {};
+    const frame = box ? {x: box.x, y: box.y, width: box.width, height: box.height, grips: gripsOf(element)} : {};
+    return {...frame, signs: signsInSight()};
 };
 
-const state = () => ({
-    statuses: allStatuses(),
-    selection: selectionType(),
-    fontName: fontName(),
-    fontSize: fontSize(),
-    blockFormat: formatOf(currentRange().startContainer),
-    dirty: Boolean(history.isChanged),
-    keys: keysSeen,
-    place: place(),
-});
+const state = () => {
+    const statuses = allStatuses();
+    return stamped({
+        statuses,
+        selection: selectionType(),
+        fontName: valueOf(5013, statuses, ''),
+        fontSize: valueOf(5014, statuses, 0),
+        blockFormat: valueOf(5011, statuses, ''),
+        dirty: Boolean(history.isChanged),
+        keys: keysSeen,
+        place: place(),
+    });
+};
 
 // Many events in a row make one report.
 const reportState = () => {
@@ -58,7 +67,9 @@ const reportState = () => {
     });
 };
 
-const reportPlace = () => bridge.placeChanged(place());
+const reportPlace = () => bridge.placeChanged(stamped({place: place()}));
+
+const wantClipboard = kind => bridge.clipboardWanted(stamped({kind}));
 
 const answer = (value = null) => ({value, state: state()});
 
@@ -99,7 +110,7 @@ globalThis.zephiraDesigner = {
     },
 
     state: () => answer(),
-    text: () => answer(pageText()),
+    text: () => answer(copyOfPage()),
     font: () => answer(describeFont()),
     link: () => answer(linkAddress()),
 };

@@ -100,12 +100,12 @@ const keyActions = {
     'control+z': () => history.undo(),
     'control+shift+z': () => history.redo(),
     'control+y': () => history.redo(),
-    'control+x': () => bridge.clipboardWanted('cut'),
-    'shift+delete': () => bridge.clipboardWanted('cut'),
-    'control+c': () => bridge.clipboardWanted('copy'),
-    'control+insert': () => bridge.clipboardWanted('copy'),
-    'control+v': () => bridge.clipboardWanted('paste'),
-    'shift+insert': () => bridge.clipboardWanted('paste'),
+    'control+x': () => wantClipboard('cut'),
+    'shift+delete': () => wantClipboard('cut'),
+    'control+c': () => wantClipboard('copy'),
+    'control+insert': () => wantClipboard('copy'),
+    'control+v': () => wantClipboard('paste'),
+    'shift+insert': () => wantClipboard('paste'),
     'tab': () => moveToCell(currentTable(), 1),
     'shift+tab': () => moveToCell(currentTable(), -1),
 };
@@ -123,11 +123,22 @@ const onKeyDown = event => {
     reportState();
 };
 
+// How many changes of the open step were there before the engine began with what a key wants.
+let changesBefore = 0;
+
 const onBeforeInput = event => {
-    if (event.inputType === 'historyUndo' || event.inputType === 'historyRedo')
+    if (event.inputType === 'historyUndo' || event.inputType === 'historyRedo') {
         event.preventDefault();
-    else
-        history.expectChange();
+        return;
+    }
+    history.expectChange();
+    beforeInputActions[event.inputType]?.(event);
+    changesBefore = history.openChanges().length;
+};
+
+const onInput = event => {
+    inputActions[event.inputType]?.(history.openChanges().slice(changesBefore));
+    reportState();
 };
 
 // By whatever other way the engine is told to use its clipboard, it doesn't.
@@ -167,7 +178,7 @@ const onSelectionChange = () => reportState();
 const listeners = {
     mousedown: onMouseDown, mousemove: onMouseMove, mouseup: onMouseUp, keydown: onKeyDown, beforeinput: onBeforeInput,
     copy: onClipboard, cut: onClipboard, paste: onClipboard, dragstart: onDragStart, drop: onDrop,
-    selectionchange: onSelectionChange, input: () => reportState(), scroll: () => reportPlace(),
+    selectionchange: onSelectionChange, input: onInput, scroll: () => reportPlace(), load: () => reportPlace(),
 };
 
 // Opening a document anew takes its listeners away.

@@ -66,13 +66,17 @@ class History {
         }
     }
 
-    // The changes that an action has made so far, within run().
+    // The changes of the step that hasn't ended, up to now.
+    openChanges() {
+        this.#record(this.observer.takeRecords());
+        return this.open?.changes ?? [];
+    }
+
+    // The changes that an action makes, within run().
     changesOf(action) {
-        this.#record(this.observer.takeRecords());
-        const first = this.open.changes.length;
+        const first = this.openChanges().length;
         action();
-        this.#record(this.observer.takeRecords());
-        return this.open.changes.slice(first);
+        return this.openChanges().slice(first);
     }
 
     // What follows until release() is one step, however long it takes.

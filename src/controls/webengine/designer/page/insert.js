@@ -19,7 +19,7 @@ const clearSelection = range => {
     const control = selectedControl();
     if (control)
         control.remove();
-    else if (!range.collapsed)
+    else if (!range.collapsed && !deleteAcrossLines(range))
         range.deleteContents();
     return getSelection().rangeCount > 0 ? getSelection().getRangeAt(0) : range;
 };
@@ -32,6 +32,12 @@ const insertIntoParagraph = (paragraph, range, nodes) => {
         if (isEmptyElement(half))
             half.remove();
     }
+};
+
+// The break that keeps a block open which is about to get a content.
+const fillerOf = block => {
+    const breaks = block && isEmptyElement(block) ? block.querySelectorAll('br') : [];
+    return breaks.length === 1 ? breaks[0] : null;
 };
 
 const placeCaretBehind = node => {
@@ -55,8 +61,7 @@ const insertMarkup = (markup, isForeign) => {
     if (block && isNamed(block, paragraphNames) && nodes.some(node => isBlock(node) || containsBlock(node))) {
         insertIntoParagraph(block, range, nodes);
     } else {
-        const filler = block && block.childNodes.length === 1 && block.firstChild.localName === 'br' ? block.firstChild
-            : null;
+        const filler = fillerOf(block);
         range.insertNode(fragment);
         filler?.remove();
     }
@@ -73,6 +78,12 @@ const insertTable = markup => {
 
 const linkElement = () => closest(currentRange().commonAncestorContainer, 'a[href]')
     ?? selectedControl()?.closest('a[href]') ?? null;
+
+const hasLink = () => {
+    const range = currentRange();
+    const scope = elementOf(range.commonAncestorContainer);
+    return linkElement() !== null || [...scope.querySelectorAll('a[href]')].some(link => reaches(range, link));
+};
 
 const linkAddress = () => linkElement()?.getAttribute('href') ?? '';
 
@@ -109,7 +120,9 @@ const insertImage = address => {
     const image = createElement('img');
     image.setAttribute('src', address);
     image.setAttribute('alt', '');
+    const filler = fillerOf(closestBlock(range.startContainer));
     range.insertNode(image);
+    filler?.remove();
     selectElement(image);
 };
 
@@ -142,11 +155,11 @@ const selectionMarkup = () => {
 
 const deleteSelection = () => {
     const control = selectedControl();
-    if (!control)
-        nativeCommand(currentRange().collapsed ? 'forwardDelete' : 'delete', false, null);
-    else {
-        const range = currentRange();
+    const range = currentRange();
+    if (control) {
         control.remove();
         placeCaret(range.startContainer, range.startOffset);
+    } else if (range.collapsed || !deleteAcrossLines(range)) {
+        nativeCommand(range.collapsed ? 'forwardDelete' : 'delete', false, null);
     }
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What is shown beside the page itself. It is all in style sheets that belong to the view, so that nothing of it can get
-// into the page's text.
+// What is shown beside the page itself. It is in style sheets that belong to the view or painted by the program, so that
+// nothing of it can get into the page's text.
 
 const looks = {borders: false, details: false, browseMode: false, snapToGrid: false};
 
@@ -11,27 +11,64 @@ const glyphLook = `all: initial; display: inline-block !important; font: 10px/14
 
 // Elements that show nothing by themselves, and the word that stands for each.
 const glyphs = [
-    ['a[name]:not([href])', 'anchor'],
+    ['a[name]:not([href]), a[id]:not([href], [name])', 'anchor'],
     ['form', 'form'],
     ['map', 'map'],
     ['area', 'area'],
-    ['input[type=hidden]', 'hidden'],
-    ['object', 'object'],
-    ['embed', 'embed'],
     ['applet', 'applet'],
-    ['iframe', 'frame'],
-    ['noscript', 'noscript'],
+    ['bgsound', 'sound'],
+    ['body basefont', 'font'],
+    ['body template', 'template'],
+    ['body link', 'link'],
+    ['body meta', 'meta'],
 ];
 
 // These would show their text if they were given a place.
-const silentGlyphs = ['script', 'style'];
+const silentGlyphs = ['script', 'style', 'title'];
+
+// The engine gives no place at all to these, or, to a line break, one without a width. Their signs are painted on top.
+const paintedSigns = [
+    ['br', '\u21b5'],
+    ['input[type=hidden]', 'hidden'],
+    ['noscript', 'noscript'],
+    ['audio:not([controls])', 'audio'],
+];
+const mostSigns = 2000;
+const signHeight = 10;
+
+// Behind what comes before the element and has a place, or at the corner of the parent; in pixels of the page.
+const placeOfUnseen = element => {
+    const range = new Range();
+    for (let before = element.previousSibling; before; before = before.previousSibling) {
+        range.selectNode(before);
+        const box = [...range.getClientRects()].at(-1);
+        if (box)
+            return {x: box.right, y: box.top - signHeight / 2};
+    }
+    const box = element.parentElement.getBoundingClientRect();
+    return {x: box.left, y: box.top - signHeight / 2};
+};
+
+// The signs that the program paints, from the part of the page that is in sight.
+const signsInSight = () => {
+    if (!looks.details || looks.browseMode || !bodyElement())
+        return [];
+    const selector = paintedSigns.map(([each]) => each).join(',');
+    const found = [...bodyElement().querySelectorAll(selector)].slice(0, mostSigns);
+    const signs = found.map(element => {
+        const box = element.getClientRects()[0];
+        const word = paintedSigns.find(([each]) => element.matches(each))[1];
+        return {...box ? {x: box.right, y: box.top + (box.height - signHeight) / 2} : placeOfUnseen(element), word};
+    });
+    return signs.filter(({y}) => y > -signHeight && y < innerHeight);
+};
 
 const detailRules = () => [
-    ...glyphs.map(([selector, word]) => `${selector}::before { ${glyphLook} content: "${word}"; }`),
+    ...glyphs.map(([selector, word]) => `:is(${selector})::before { ${glyphLook} content: "${word}"; }`),
     ...silentGlyphs.map(name => `body ${name} { display: inline-block !important; font-size: 0 !important;
         -webkit-user-modify: read-only; }
         body ${name}::before { ${glyphLook} content: "${name}"; }`),
-    'input[type=hidden], map, area, noscript { display: inline-block !important; }',
+    'map, area, body :is(basefont, template, link, meta) { display: inline-block !important; }',
     `${markName}[mark$=c] { display: inline-block !important; }`,
     `${markName}[mark$=c]::before { ${glyphLook} content: "<!"; }`,
 ];

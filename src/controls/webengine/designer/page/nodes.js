@@ -65,6 +65,24 @@ const moveChildren = (from, to) => {
         to.append(from.firstChild);
 };
 
+// An attribute that comes back when this is taken back comes last. So those behind it go and come, too, in the order that
+// gives them their places again.
+const plainName = /^[a-z_:][\w:.-]*$/i;
+
+const dropAttribute = (element, name) => {
+    const names = element.getAttributeNames();
+    const behind = names.slice(names.indexOf(name) + 1).map(each => [each, element.getAttribute(each)]);
+    if (!names.includes(name) || !behind.every(([each]) => plainName.test(each))) {
+        element.removeAttribute(name);
+        return;
+    }
+    for (const [each] of behind.slice().reverse())
+        element.removeAttribute(each);
+    element.removeAttribute(name);
+    for (const [each, value] of behind)
+        element.setAttribute(each, value);
+};
+
 const renameElement = (element, name) => {
     const renamed = createElement(name);
     for (const attribute of element.attributes)

@@ -37,7 +37,7 @@ const toggleAbsolute = () => {
     if (isAbsolute(target)) {
         for (const property of ['position', 'left', 'top', 'z-index'])
             setStyle(target, property, '');
-        target.removeAttribute(lockAttribute);
+        dropAttribute(target, lockAttribute);
         // A style sheet of the page may want it so.
         if (isAbsolute(target))
             setStyle(target, 'position', 'static');
@@ -56,7 +56,7 @@ const toggleAbsolute = () => {
 const toggleLock = () => {
     const target = positionedTarget();
     if (isLocked(target))
-        target.removeAttribute(lockAttribute);
+        dropAttribute(target, lockAttribute);
     else
         target.setAttribute(lockAttribute, 'true');
 };

@@ -47,7 +47,7 @@ const styleTextWith = (text, property, value) => {
 const setStyle = (element, property, value) => {
     const text = styleTextWith(element.getAttribute('style') ?? '', property, value);
     if (text === '')
-        element.removeAttribute('style');
+        dropAttribute(element, 'style');
     else
         element.setAttribute('style', text);
 };

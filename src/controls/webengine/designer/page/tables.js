@@ -60,7 +60,7 @@ const setSpan = (cell, name, count) => {
     if (count > 1)
         cell.setAttribute(name, count);
     else
-        cell.removeAttribute(name);
+        dropAttribute(cell, name);
 };
 
 const currentTable = () => {
@@ -171,6 +171,10 @@ const tidyTable = (table, row, column) => {
     for (const each of [...table.querySelectorAll('tr')].filter(tr => tr.closest('table') === table)) {
         if (!each.querySelector('td,th'))
             each.remove();
+    }
+    for (const section of table.querySelectorAll(':scope > thead, :scope > tbody, :scope > tfoot')) {
+        if (!section.firstElementChild)
+            section.remove();
     }
     if (!table.querySelector('td,th')) {
         const parent = table.parentNode;

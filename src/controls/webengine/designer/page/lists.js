@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Items of lists on their way from one depth to another.
+
+// Cuts a list in two behind an item, which comes to stand between the halves. Gives the second one, or null.
+const cutList = item => {
+    const list = item.parentNode;
+    const following = [];
+    for (let next = item.nextSibling; next; next = next.nextSibling)
+        following.push(next);
+    let rest = null;
+    if (following.some(isElement)) {
+        rest = list.cloneNode(false);
+        rest.removeAttribute('id');
+        list.after(rest);
+        for (const node of following)
+            rest.append(node);
+    }
+    list.after(item);
+    if (!list.firstElementChild)
+        list.remove();
+    return rest;
+};
+
+// Takes an item out of its list for good.
+const liftItem = item => {
+    if (!isNamed(item.parentNode, listNames))
+        return;
+    cutList(item);
+    if (containsBlock(item))
+        unwrapElement(item);
+    else
+        renameElement(item, 'p');
+};
+
+const liftSelectedItems = () => {
+    const mark = bookmark();
+    const items = new Set(selectedParagraphs().map(paragraph => closest(startOf(paragraph), itemSelector)));
+    for (const item of items) {
+        if (item)
+            liftItem(item);
+    }
+    restore(mark);
+};
+
+// The items of the selection, without those that lie within another one.
+const selectedItems = () => {
+    const items = [...new Set(selectedParagraphs().map(paragraph => closest(startOf(paragraph), 'blockquote,li')))]
+        .filter(item => item?.localName === 'li' && isNamed(item.parentNode, listNames));
+    return items.filter(item => !items.some(other => other !== item && other.contains(item)));
+};
+
+// Into a list of its own kind within the item before it; the first item goes into one that stands in its place.
+const deepenItem = item => {
+    const list = item.parentNode;
+    const before = item.previousElementSibling;
+    const last = before?.localName === 'li' ? before.lastElementChild : before;
+    let inner = last?.localName === list.localName ? last : null;
+    if (!inner) {
+        inner = list.cloneNode(false);
+        inner.removeAttribute('id');
+        if (before?.localName === 'li')
+            before.append(inner);
+        else
+            item.before(inner);
+    }
+    inner.append(item);
+};
+
+// Behind the item that holds its list; the items that followed it stay below it.
+const raiseItem = item => {
+    const outer = item.parentNode.parentNode;
+    if (outer.localName !== 'li' && !isNamed(outer, listNames)) {
+        liftItem(item);
+        return;
+    }
+    const rest = cutList(item);
+    if (outer.localName !== 'li')
+        return;
+    outer.after(item);
+    if (rest)
+        item.append(rest);
+};
+
+// Moves the selected items, or, where there are none, has the engine move the paragraphs.
+const changeDepth = (moveItem, name) => {
+    const items = selectedItems();
+    if (items.length === 0) {
+        runNative(name);
+        return;
+    }
+    const mark = bookmark();
+    items.forEach(moveItem);
+    restore(mark);
+};
