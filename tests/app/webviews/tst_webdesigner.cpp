@@ -103,6 +103,28 @@ private Q_SLOTS:
             QVERIFY(bench.showsPage(u"t"_s));
     }
 
+    void otherFilesAreEditedAsText_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"a.vbs", "a.css", "a.xml", "a.cpp", "a.txt"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void otherFilesAreEditedAsText()
+    {
+        QFETCH(QString, name);
+        const QByteArray content = "#include <a>\r\nif (1 < 2 && b) <b>x</b>\r\n";
+        WebBench bench(name, content);
+        QVERIFY(bench.design());
+        QCOMPARE(bench.html(), QString::fromLatin1(content));
+        bench.paste(u"3 < 4"_s);
+        bench.choose(u"save"_s);
+        QCOMPARE(WindowBench::read(bench.file), "3 < 4" + content);
+        QVERIFY(bench.design());
+        bench.select(1);
+        QCOMPARE(bench.window->rt().text(), QString::fromLatin1("3 < 4" + content));
+    }
+
     void savingBringsTheTextHome()
     {
         WebBench bench(u"page.html"_s, pageText);

@@ -35,10 +35,19 @@ void copyToClipboard(const PageText &page, const QString &markup)
 {
     const QString text = page.fragmentFromEngine(markup);
     auto data = std::make_unique<QMimeData>();
-    data->setData(ownFormat, text.toUtf8());
-    data->setHtml(text);
-    data->setText(QTextDocumentFragment::fromHtml(text).toPlainText());
+    if (page.isPlain()) {
+        data->setText(text);
+    } else {
+        data->setData(ownFormat, text.toUtf8());
+        data->setHtml(text);
+        data->setText(QTextDocumentFragment::fromHtml(text).toPlainText());
+    }
     QGuiApplication::clipboard()->setMimeData(data.release());
+}
+
+QString clipboardText()
+{
+    return QGuiApplication::clipboard()->text();
 }
 
 ClipboardMarkup clipboardMarkup()

@@ -14,10 +14,12 @@ struct ClipboardMarkup {
     bool isForeign = false;
 };
 
-/// Puts a part of the page on the clipboard: its markup with server code and comments in their places, and its text.
-/// `markup` is as the engine writes it.
+/// Puts a part of the page on the clipboard: its markup with server code and comments in their places, and its text; of
+/// plain text that alone. `markup` is as the engine writes it.
 void copyToClipboard(const PageText &page, const QString &markup);
 
+/// What the clipboard holds as text.
+QString clipboardText();
 /// What the clipboard holds as markup; a text becomes some, with a line break for each line end.
 ClipboardMarkup clipboardMarkup();
 bool clipboardHasMarkup();

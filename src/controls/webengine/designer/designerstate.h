@@ -27,6 +27,7 @@ struct DesignerCopy {
     DesignerStamp stamp;
     QString text;
 
+    bool isThere() const { return stamp.number > 0; }
     static DesignerCopy fromPage(const QVariantMap &copy)
     {
         return {DesignerStamp::fromPage(copy), copy.value(QStringLiteral("text")).toString()};

@@ -91,9 +91,14 @@ void DesignerWidget::connectPage()
             [this](const QVariantMap &copy) { takeCopy(DesignerCopy::fromPage(copy)); });
 }
 
+void DesignerWidget::takeText(const QString &source)
+{
+    m_text = PageText(source, freshMarkPrefix(source), documentKind(m_baseFile));
+}
+
 void DesignerWidget::setDocumentHtml(const QString &html)
 {
-    m_text = PageText(html, freshMarkPrefix(html));
+    takeText(html);
     m_hasLostChanges = false;
     m_losses = 0;
     open();
@@ -124,7 +129,7 @@ void DesignerWidget::write(bool ready)
     if (!ready)
         return;
     const QPointer<DesignerWidget> self(this);
-    m_page->call(u"load"_s, {m_text.forEngine(), m_text.markPrefix(), m_looks},
+    m_page->call(u"load"_s, {m_text.forEngine(), m_text.markPrefix(), m_looks, m_text.isPlain()},
                  [self, load = m_load](const QVariant &answer) {
                      const auto finish = [self, load, answer] {
                          if (self->m_load == load)
@@ -150,10 +155,9 @@ void DesignerWidget::complete(const QVariant &answer)
 /// From now on the text is what was known last, and nobody asks the page until it has been loaded again.
 void DesignerWidget::takeLoss()
 {
-    const bool hasChanges = m_state.isDirty && !m_copy.text.isEmpty();
-    const QString page = hasChanges ? m_text.fromEngine(m_copy.text) : m_text.source();
+    const bool hasChanges = m_state.isDirty && m_copy.isThere();
     m_hasLostChanges = m_hasLostChanges || hasChanges;
-    m_text = PageText(page, freshMarkPrefix(page));
+    takeText(hasChanges ? m_text.fromEngine(m_copy.text) : m_text.source());
     m_state = {};
     m_copy = {};
     m_isComplete = false;
@@ -254,7 +258,7 @@ QString DesignerWidget::documentHtml()
     if (!m_state.isDirty)
         return m_text.source();
     takeCopy(DesignerCopy::fromPage(ask(u"text"_s).toMap()));
-    return m_copy.text.isEmpty() ? m_text.source() : m_text.fromEngine(m_copy.text);
+    return m_copy.isThere() ? m_text.fromEngine(m_copy.text) : m_text.source();
 }
 
 void DesignerWidget::pasteHtml(const QString &html)

@@ -86,6 +86,7 @@ protected:
 
 private:
     void connectPage();
+    void takeText(const QString &source);
     void open();
     void write(bool ready);
     void complete(const QVariant &answer);
@@ -134,7 +135,7 @@ private:
     /// What the page told last; reading it may have to wait for keys on their way.
     mutable DesignerState m_state;
     mutable int m_keysSent = 0;
-    /// The page as it was known last; without a text as long as nothing is known.
+    /// The page as it was known last.
     DesignerCopy m_copy;
     bool m_isComplete = false;
     /// Somebody has waited for the page as long as anybody should.

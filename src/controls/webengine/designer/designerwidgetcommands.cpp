@@ -127,6 +127,10 @@ QVariant DesignerWidget::cut(DesignerPrompting, const QVariant &)
 
 QVariant DesignerWidget::paste(DesignerPrompting, const QVariant &)
 {
+    if (m_text.isPlain()) {
+        ask(u"insert"_s, {m_text.fragmentForEngine(clipboardText()), false});
+        return {};
+    }
     const ClipboardMarkup content = clipboardMarkup();
     // Comments of other programs go, so that they need no marks.
     const QString markup = content.isForeign ? content.markup : m_text.fragmentForEngine(content.markup);

@@ -117,6 +117,11 @@ QString withCrLf(QStringView text)
     return text.toString().replace(u'\n', u"\r\n"_s);
 }
 
+QString withLf(QString text)
+{
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+}
+
 /// Writes the pieces of what the engine serialised. The engine's markup is regular: names in lower case, values in
 /// double quotes.
 class TidyWriter
@@ -218,8 +223,13 @@ private:
 
 } // namespace
 
-PageText::PageText(QString source, const QString &markPrefix) : m_source(std::move(source)), m_marks(markPrefix)
+PageText::PageText(QString source, const QString &markPrefix, DocumentKind kind)
+    : m_source(std::move(source)), m_kind(kind), m_marks(markPrefix)
 {
+    if (isPlain()) {
+        m_forEngine = withLf(m_source);
+        return;
+    }
     std::vector<PagePiece> pieces = scanPage(m_source);
     learn(pieces);
     splitEnds(pieces);
@@ -276,13 +286,20 @@ QString PageText::tidied(QStringView markup) const
     return TidyWriter(markup, m_textHabits, m_valueHabits).write();
 }
 
+QString PageText::fragmentForEngine(const QString &markup)
+{
+    return isPlain() ? withLf(markup) : m_marks.mask(markup);
+}
+
 QString PageText::fragmentFromEngine(const QString &markup) const
 {
-    return m_marks.unmask(tidied(markup));
+    return isPlain() ? withCrLf(markup) : m_marks.unmask(tidied(markup));
 }
 
 QString PageText::fromEngine(const QString &rootElement) const
 {
+    if (isPlain())
+        return withCrLf(rootElement);
     QStringView root = withoutEndsOfPlainText(rootElement);
     const bool isEndless = root.size() < rootElement.size();
     if (const auto fragment = m_isFragment ? withoutRootTags(root) : std::nullopt)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "controls/webengine/designer/documentkind.h"
 #include "controls/webengine/designer/entityhabits.h"
 #include "controls/webengine/designer/pagescan.h"
 #include "controls/webengine/designer/servermarks.h"
@@ -16,24 +17,27 @@ namespace zephira {
 /// lower-case names, double quotes, CR LF, references where the author wrote some, lone words for attributes without a
 /// value, and a line of its own for each paragraph, heading, list, table and row. A source without the tags of root, head
 /// and body stays one.
+///
+/// A document that is plain text goes to the engine as it stands, with LF, and comes back as it stands there, with CR LF.
 class PageText
 {
 public:
     /// A page without a word of text.
     PageText() : PageText(QString(), QStringLiteral("zs")) {}
     /// The prefix is one of freshMarkPrefix().
-    PageText(QString source, const QString &markPrefix);
+    PageText(QString source, const QString &markPrefix, DocumentKind kind = DocumentKind::Markup);
 
     const QString &source() const { return m_source; }
+    bool isPlain() const { return m_kind == DocumentKind::PlainText; }
     const QString &markPrefix() const { return m_marks.prefix(); }
 
     /// What the engine is to read.
     const QString &forEngine() const { return m_forEngine; }
-    /// The page from the root element as the engine writes it.
+    /// The page from the root element as the engine writes it; of plain text, that text.
     QString fromEngine(const QString &rootElement) const;
 
     /// The same for markup that the user puts into the page or takes from it.
-    QString fragmentForEngine(const QString &markup) { return m_marks.mask(markup); }
+    QString fragmentForEngine(const QString &markup);
     QString fragmentFromEngine(const QString &markup) const;
 
 private:
@@ -42,6 +46,7 @@ private:
     QString tidied(QStringView markup) const;
 
     QString m_source;
+    DocumentKind m_kind;
     ServerMarks m_marks;
     EntityHabits m_textHabits{EntityHabits::Place::Text};
     EntityHabits m_valueHabits{EntityHabits::Place::Value};

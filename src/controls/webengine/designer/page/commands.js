@@ -119,10 +119,12 @@ const commands = {
     5051: listCommand('insertUnorderedList', 'Bulleted List'),
 };
 
+const isClosed = number => looks.browseMode || (isPlain && !plainCommands.has(Number(number)));
+
 const allStatuses = () => {
     const cells = looks.browseMode ? [] : selectedCells();
     return Object.fromEntries(Object.entries(commands).map(([number, command]) =>
-        [number, looks.browseMode ? status.disabled : command.status(cells)]));
+        [number, isClosed(number) ? status.disabled : command.status(cells)]));
 };
 
 // What a command reads, as long as the whole selection agrees on it.
@@ -130,7 +132,7 @@ const valueOf = (number, statuses, none) => statuses[number] === status.enabled 
 
 const runCommand = (number, argument) => {
     const command = commands[number];
-    if (!command || looks.browseMode || command.status(selectedCells()) < status.enabled)
+    if (!command || isClosed(number) || command.status(selectedCells()) < status.enabled)
         return null;
     // Commands that look or turn back aren't steps of the history.
     if (command.reads || command.turns)

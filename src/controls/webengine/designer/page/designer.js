@@ -24,7 +24,7 @@ const history = new History(() => {
         keepTimer = setTimeout(keepPage, Math.max(keepRest, keepShare * keepCost));
 });
 
-const copyOfPage = () => stamped({text: rootElement().outerHTML});
+const copyOfPage = () => stamped({text: isPlain ? plainText() : rootElement().outerHTML});
 
 const keepPage = () => {
     const begin = performance.now();
@@ -78,13 +78,16 @@ globalThis.zephiraDesigner = {
         bridge = channel.objects.bridge;
     },
 
-    load(text, prefix, wantedLooks) {
+    load(text, prefix, wantedLooks, wantsPlain) {
         history.reset();
         markPrefix = prefix;
+        isPlain = wantsPlain;
         Object.assign(looks, wantedLooks);
         openDocument();
-        writeDocument(text);
+        writeDocument(isPlain ? plainShell : text);
         closeDocument();
+        if (isPlain)
+            showPlainText(text);
         listen();
         gatherComments();
         if (bodyElement())

@@ -106,17 +106,19 @@ const keyActions = {
     'control+insert': () => wantClipboard('copy'),
     'control+v': () => wantClipboard('paste'),
     'shift+insert': () => wantClipboard('paste'),
-    'tab': () => moveToCell(currentTable(), 1),
+    'tab': () => isPlain ? history.run(() => insertPlainText('\t')) : moveToCell(currentTable(), 1),
     'shift+tab': () => moveToCell(currentTable(), -1),
 };
 
 const keyName = event => (event.ctrlKey ? 'control+' : '') + (event.altKey ? 'alt+' : '')
     + (event.shiftKey ? 'shift+' : '') + event.key.toLowerCase();
 
+const takesTab = event => isPlain ? !event.shiftKey : currentTable() !== null;
+
 const onKeyDown = event => {
     keysSeen += 1;
     const action = keyActions[keyName(event)];
-    if (!action || looks.browseMode || (event.key === 'Tab' && !currentTable()))
+    if (!action || looks.browseMode || (event.key === 'Tab' && !takesTab(event)))
         return;
     event.preventDefault();
     action();
@@ -132,7 +134,10 @@ const onBeforeInput = event => {
         return;
     }
     history.expectChange();
-    beforeInputActions[event.inputType]?.(event);
+    if (isPlain)
+        onPlainInput(event);
+    else
+        beforeInputActions[event.inputType]?.(event);
     changesBefore = history.openChanges().length;
 };
 

@@ -47,8 +47,11 @@ const placeCaretBehind = node => {
         placeCaret(node.parentNode, indexOf(node) + 1);
 };
 
-// Puts markup in the place of the selection and the caret behind it. Gives the nodes that were put in.
+// Puts markup in the place of the selection and the caret behind it; into plain text, as text. Gives the nodes that were
+// put in.
 const insertMarkup = (markup, isForeign) => {
+    if (isPlain)
+        return insertPlainText(markup);
     const range = clearSelection(currentRange());
     const fragment = range.createContextualFragment(markup);
     if (isForeign)
@@ -129,8 +132,10 @@ const insertImage = address => {
 const wholeNames = wordSet('table ol ul dir menu dl');
 const partNames = wordSet('table thead tbody tfoot tr ol ul dir menu dl');
 
-// The selection as markup, with the inline elements around it and what a part of a list or table needs to be one.
+// The selection as markup, or as the plain text that it is, with the inline elements around it and what a part of a list or table needs to be one.
 const selectionMarkup = () => {
+    if (isPlain)
+        return selectedPlainText();
     const range = currentRange();
     const box = createElement('div');
     const control = selectedControl();

@@ -51,7 +51,7 @@ const placeOfUnseen = element => {
 
 // The signs that the program paints, from the part of the page that is in sight.
 const signsInSight = () => {
-    if (!looks.details || looks.browseMode || !bodyElement())
+    if (!looks.details || looks.browseMode || isPlain || !bodyElement())
         return [];
     const selector = paintedSigns.map(([each]) => each).join(',');
     const found = [...bodyElement().querySelectorAll(selector)].slice(0, mostSigns);
@@ -97,7 +97,8 @@ const sheetOf = rules => {
 };
 
 const showLooks = () => {
-    const rules = looks.browseMode ? hiddenMarkRules()
+    const rules = isPlain ? plainRules
+        : looks.browseMode ? hiddenMarkRules()
         : [...markRules(), ...looks.details ? detailRules() : [], ...looks.borders ? borderRules() : []];
     setDocumentMember('adoptedStyleSheets', [sheetOf(rules), cursorSheet]);
     setDocumentMember('designMode', looks.browseMode ? 'off' : 'on');
