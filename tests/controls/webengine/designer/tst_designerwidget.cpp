@@ -191,10 +191,14 @@ void TstDesignerWidget::browseMode()
 {
     m_bench->show(u"<p>[a]</p>"_s);
     m_bench->designer.setBrowseMode(true);
-    for (const DesignerCommand command : {DesignerCommand::Bold, DesignerCommand::Copy, DesignerCommand::Paste,
-                                          DesignerCommand::SelectAll, DesignerCommand::Undo, DesignerCommand::GetFontName,
+    for (const DesignerCommand command : {DesignerCommand::Bold, DesignerCommand::Cut, DesignerCommand::Paste,
+                                          DesignerCommand::Delete, DesignerCommand::Undo, DesignerCommand::GetFontName,
                                           DesignerCommand::SetBlockFormat, DesignerCommand::InsertTable})
         QCOMPARE(m_bench->designer.queryStatus(command), 1);
+    for (const DesignerCommand command : {DesignerCommand::Copy, DesignerCommand::FindText, DesignerCommand::SelectAll})
+        QCOMPARE(m_bench->designer.queryStatus(command), 3);
+    m_bench->run(DesignerCommand::Copy);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"a"_s);
     QCOMPARE(m_bench->run(DesignerCommand::GetFontName).toString(), QString());
     m_bench->run(DesignerCommand::Bold);
     m_bench->designer.pasteHtml(u"b"_s);

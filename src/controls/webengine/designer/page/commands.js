@@ -119,7 +119,11 @@ const commands = {
     5051: listCommand('insertUnorderedList', 'Bulleted List'),
 };
 
-const isClosed = number => looks.browseMode || (isPlain && !plainCommands.has(Number(number)));
+// To copy, find and select all: nothing else can be done with a page that is only looked at.
+const browseCommands = new Set([5002, 5008, 5035]);
+
+const isClosed = number => (looks.browseMode && !browseCommands.has(Number(number)))
+    || (isPlain && !plainCommands.has(Number(number)));
 
 const allStatuses = () => {
     const cells = looks.browseMode ? [] : selectedCells();
