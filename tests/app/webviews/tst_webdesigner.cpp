@@ -106,8 +106,9 @@ private Q_SLOTS:
     void otherFilesAreEditedAsText_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {"a.vbs", "a.css", "a.xml", "a.cpp", "a.txt"})
-            QTest::newRow(name) << QString::fromLatin1(name);
+        for (const char *extension : {"vbs", "js", "java", "xml", "css", "c", "cpp", "h", "pl", "cgi", "pas", "bas", "frm", "vbp",
+                                      "txt", "ini", "log", "sql"})
+            QTest::newRow(extension) << u"a."_s + QLatin1StringView(extension);
     }
 
     void otherFilesAreEditedAsText()
