@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // designer_bench PAGE: the ways into and out of the visual designer with a page, and the time from a key to the state that
-// the toolbar shows, in a page of one paragraph.
+// the toolbar shows, in a page of one paragraph and in that page; and from selecting the whole of it.
 #include "controls/prompts.h"
 #include "controls/webengine/designer/designerwidget.h"
 
@@ -70,9 +70,9 @@ void leave(benchmark::State &state, DesignerWidget &designer, const QString &pag
     }
 }
 
-void key(benchmark::State &state, DesignerWidget &designer)
+void key(benchmark::State &state, DesignerWidget &designer, const std::function<void()> &load)
 {
-    show(designer, [&] { designer.setDocumentHtml(u"<p>a</p>"_s); });
+    show(designer, load);
     designer.view().setFocus();
     for (auto _ : state) {
         state.SetIterationTime(secondsUntil(designer, &DesignerWidget::DisplayChanged, [&] {
@@ -85,6 +85,17 @@ void key(benchmark::State &state, DesignerWidget &designer)
         QEventLoop rest;
         QTimer::singleShot(30, &rest, &QEventLoop::quit);
         rest.exec();
+    }
+}
+
+/// The selection reaches over everything that the states look at.
+void selectAll(benchmark::State &state, DesignerWidget &designer, const QString &page)
+{
+    show(designer, [&] { designer.loadDocument(page); });
+    for (auto _ : state) {
+        state.SetIterationTime(secondsUntil(designer, &DesignerWidget::DisplayChanged, [&] {
+            designer.execCommand(DesignerCommand::SelectAll, DesignerPrompting::Default, {});
+        }));
     }
 }
 
@@ -112,7 +123,11 @@ int main(int argc, char **argv)
     };
     add("enter", [&](benchmark::State &state) { enter(state, designer, page); }, 1);
     add("leave", [&](benchmark::State &state) { leave(state, designer, page); }, 1);
-    add("key", [&](benchmark::State &state) { key(state, designer); }, 50);
+    const auto loadOne = [&] { designer.setDocumentHtml(u"<p>a</p>"_s); };
+    const auto loadPage = [&] { designer.loadDocument(page); };
+    add("key", [&](benchmark::State &state) { key(state, designer, loadOne); }, 50);
+    add("key in the page", [&](benchmark::State &state) { key(state, designer, loadPage); }, 20);
+    add("select all", [&](benchmark::State &state) { selectAll(state, designer, page); }, 1);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -38,15 +38,11 @@ const formatOf = node => {
     return 'Normal';
 };
 
-// The paragraphs that a range touches: elements of their own, or runs of text and inline elements between blocks.
-const paragraphsIn = (parent, range) => {
-    const paragraphs = [];
+// The paragraphs that a range touches, in their order: elements of their own, or runs of text and inline elements between
+// blocks. They are looked for as they are taken, so that who wants a few doesn't pay for all.
+const paragraphsIn = function* (parent, range) {
     let run = [];
-    const endRun = () => {
-        if (run.some(node => !isBlankText(node) && reaches(range, node)))
-            paragraphs.push({parent, nodes: run});
-        run = [];
-    };
+    const touches = nodes => nodes.some(node => !isBlankText(node) && reaches(range, node));
     for (const node of parent.childNodes) {
         const holdsBlocks = containsBlock(node);
         if (!isBlock(node) && !holdsBlocks) {
@@ -54,36 +50,42 @@ const paragraphsIn = (parent, range) => {
                 run.push(node);
             continue;
         }
-        endRun();
+        if (touches(run))
+            yield {parent, nodes: run};
+        run = [];
         if (!reaches(range, node))
             continue;
         if (isNamed(node, paragraphNames) && !holdsBlocks)
-            paragraphs.push({element: node});
+            yield {element: node};
         else
-            paragraphs.push(...paragraphsIn(node, range));
+            yield* paragraphsIn(node, range);
     }
-    endRun();
-    return paragraphs;
+    if (touches(run))
+        yield {parent, nodes: run};
 };
 
-const selectedParagraphs = () => {
+const selectedParagraphs = (most = Infinity) => {
     const range = currentRange();
     const block = closestBlock(range.commonAncestorContainer) ?? bodyElement();
     if (isNamed(block, paragraphNames))
         return [{element: block}];
-    const paragraphs = paragraphsIn(block, range);
+    const paragraphs = [];
+    for (const paragraph of paragraphsIn(block, range)) {
+        if (paragraphs.push(paragraph) === most)
+            break;
+    }
     const isEmptyPlace = paragraphs.length === 0 && range.collapsed && !isNamed(block, tightNames) && !containsBlock(block);
     return isEmptyPlace ? [{parent: block, nodes: [...block.childNodes]}] : paragraphs;
 };
 
 const startOf = paragraph => paragraph.element ?? paragraph.nodes[0] ?? paragraph.parent;
 
-// The block formats of the selection, each once.
-const selectedFormats = () => {
+// The block formats of the selection, or of the first paragraphs in it, each once.
+const selectedFormats = (most = Infinity) => {
     const range = currentRange();
     if (range.collapsed)
         return [formatOf(range.startContainer)];
-    return [...new Set(selectedParagraphs().map(paragraph => formatOf(startOf(paragraph))))];
+    return [...new Set(selectedParagraphs(most).map(paragraph => formatOf(startOf(paragraph))))];
 };
 
 const wrapParagraph = ({parent, nodes}, name) => {

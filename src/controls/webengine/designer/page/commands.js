@@ -27,10 +27,7 @@ const toggleText = name => ({status: () => hasText() ? nativeStatus(name) : stat
 
 // The engine tells of the first item alone.
 const listCommand = (name, format) => ({
-    status: () => {
-        const formats = isFrameset() ? [] : selectedFormats();
-        return formats.length > 1 && formats.includes(format) ? status.mixed : nativeStatus(name);
-    },
+    status: ({formats}) => formats.length > 1 && formats.includes(format) ? status.mixed : nativeStatus(name),
     run: () => toggleList(format),
 });
 
@@ -41,7 +38,7 @@ const fontCommand = (property, read) => ({
 });
 
 const tableCommand = (run, allowed = cells => cells.length > 0) => ({
-    status: cells => enabledIf(allowed(cells)),
+    status: ({cells}) => enabledIf(allowed(cells)),
     run: () => {
         const selected = selectedGrid();
         if (selected)
@@ -67,7 +64,7 @@ const commands = {
         run: text => text !== '' && window.find(text, false, false, true, false, false, false)},
     5009: {status: () => enabledIf(hasText()), run: applyFont},
     5011: {
-        status: () => hasText() ? (selectedFormats().length > 1 ? status.mixed : status.enabled) : status.disabled,
+        status: ({formats}) => hasText() ? (formats.length > 1 ? status.mixed : status.enabled) : status.disabled,
         run: () => formatOf(currentRange().startContainer),
         reads: true,
     },
@@ -125,10 +122,16 @@ const browseCommands = new Set([5002, 5008, 5035]);
 const isClosed = number => (looks.browseMode && !browseCommands.has(Number(number)))
     || (isPlain && !plainCommands.has(Number(number)));
 
+// What several commands look at in the selection.
+const selectionFacts = () => ({
+    cells: selectedCells(),
+    formats: isFrameset() ? [] : selectedFormats(mostLookedAt),
+});
+
 const allStatuses = () => {
-    const cells = looks.browseMode ? [] : selectedCells();
+    const facts = selectionFacts();
     return Object.fromEntries(Object.entries(commands).map(([number, command]) =>
-        [number, isClosed(number) ? status.disabled : command.status(cells)]));
+        [number, isClosed(number) ? status.disabled : command.status(facts)]));
 };
 
 // What a command reads, as long as the whole selection agrees on it.
@@ -136,7 +139,7 @@ const valueOf = (number, statuses, none) => statuses[number] === status.enabled 
 
 const runCommand = (number, argument) => {
     const command = commands[number];
-    if (!command || isClosed(number) || command.status(selectedCells()) < status.enabled)
+    if (!command || isClosed(number) || command.status(selectionFacts()) < status.enabled)
         return null;
     // Commands that look or turn back aren't steps of the history.
     if (command.reads || command.turns)

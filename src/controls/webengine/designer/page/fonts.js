@@ -2,8 +2,6 @@
 
 // Sizes 1 to 7 of the font element in points.
 const pointSizes = [8, 10, 12, 14, 18, 24, 36];
-// How many texts of a selection are looked at before it counts as uniform.
-const mostTexts = 2000;
 
 const fontName = () => nativeValue('fontName').replaceAll('"', '').replaceAll("'", '');
 
@@ -15,7 +13,7 @@ const isMixed = property => {
     if (range.collapsed)
         return false;
     const values = new Set();
-    for (const text of selectedTexts(range, mostTexts)) {
+    for (const text of selectedTexts(range, mostLookedAt)) {
         values.add(getComputedStyle(text.parentElement)[property]);
         if (values.size > 1)
             return true;

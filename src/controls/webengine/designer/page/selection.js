@@ -87,6 +87,9 @@ const reaches = (range, node) => {
     return lead.toString() !== '';
 };
 
+// How many texts and paragraphs of a selection are looked at for what they have in common.
+const mostLookedAt = 500;
+
 // The text nodes of a range that show something, `most` of them at most.
 const selectedTexts = (range, most) => {
     const texts = [];
