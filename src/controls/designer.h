@@ -36,6 +36,10 @@ struct InsertTableParam {
     QString cellAttributes = {};
     QString caption = {};
 
+    /// More cells than anybody would fill by hand; such a table isn't inserted.
+    bool isTooLarge() const { return rows > 0 && columns > 0 && rows > mostCells / columns; }
+    static constexpr int mostCells = 20000;
+
     friend bool operator==(const InsertTableParam &, const InsertTableParam &) = default;
 };
 

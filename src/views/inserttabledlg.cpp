@@ -55,6 +55,13 @@ void InsertTableDlg::insert()
                                  .tableAttributes = m_ui->TableAttrs->text(),
                                  .cellAttributes = m_ui->CellAttrs->text(),
                                  .caption = m_ui->TableCaption->text()};
+    if (table.isTooLarge()) {
+        m_prompts.tell(u"Please specify a table of no more than %1 cells."_s.arg(InsertTableParam::mostCells), {},
+                       Question::Icon::Critical);
+        m_ui->Rows->setFocus();
+        m_ui->Rows->selectAll();
+        return;
+    }
     endingQuietly([&] {
         m_designer.execCommand(DesignerCommand::InsertTable, DesignerPrompting::DontPromptUser, QVariant::fromValue(table));
     });

@@ -28,6 +28,7 @@ struct Dialog {
 
 const QString rowsMessage = u"Please specify a positive integer for the number of table rows."_s;
 const QString columnsMessage = u"Please specify a positive integer for the number of table columns."_s;
+const QString cellsMessage = u"Please specify a table of no more than 20000 cells."_s;
 
 } // namespace
 
@@ -61,6 +62,8 @@ private slots:
             QTest::addRow("columns '%s'", wrong) << u"2"_s << text << columnsMessage << u"Cols"_s;
         }
         QTest::newRow("rows come first") << u"0"_s << u"0"_s << rowsMessage << u"Rows"_s;
+        QTest::newRow("too many cells") << u"201"_s << u"100"_s << cellsMessage << u"Rows"_s;
+        QTest::newRow("far too many cells") << u"32767"_s << u"32767"_s << cellsMessage << u"Rows"_s;
     }
 
     void wrongNumbers()
@@ -94,6 +97,16 @@ private slots:
         QCOMPARE(run.prompting, DesignerPrompting::DontPromptUser);
         QVERIFY(run.argument.value<InsertTableParam>()
                 == (InsertTableParam{2, 4, QString(), u"align=right"_s, u"Figures"_s}));
+    }
+
+    void theLargestTable()
+    {
+        Dialog dialog(u"InsertTableDlg"_s);
+        dialog.form.type(u"Rows"_s, u"200"_s);
+        dialog.form.type(u"Cols"_s, u"100"_s);
+        dialog.form.press(u"OkCmd"_s);
+        QVERIFY(!dialog.form.isOpen());
+        QCOMPARE(dialog.world.designer.runs.size(), size_t(1));
     }
 
     void noTable_data()

@@ -16,8 +16,7 @@ QString startTag(const QString &name, const QString &attributes)
 
 QString insertedTableMarkup(const InsertTableParam &table)
 {
-    const bool isSensible = table.rows > 0 && table.columns > 0 && table.rows <= mostInsertedCells / table.columns;
-    if (!isSensible)
+    if (table.rows <= 0 || table.columns <= 0 || table.isTooLarge())
         return {};
     const QString cell = startTag(u"td"_s, table.cellAttributes) + u"<br></td>\n"_s;
     const QString row = u"<tr>\n"_s + cell.repeated(table.columns) + u"</tr>\n"_s;

@@ -7,9 +7,7 @@ namespace zephira {
 
 /// The markup of the table that the designer inserts, a line to each tag of table, row and cell. Cells hold a line break,
 /// so that the caret can stand in them. The attributes go in as they are, the caption as text; an empty one is left out.
-/// Empty for a table that has no row or no column, and for one of more cells than anybody would fill by hand.
+/// Empty for a table that has no row or no column, and for one that is too large.
 QString insertedTableMarkup(const InsertTableParam &table);
-
-constexpr int mostInsertedCells = 20000;
 
 } // namespace zephira

@@ -40,8 +40,8 @@ private slots:
         QCOMPARE(insertedTableMarkup({0, 1}), QString());
         QCOMPARE(insertedTableMarkup({1, -1}), QString());
         QCOMPARE(insertedTableMarkup({2000000000, 2000000000}), QString());
-        QVERIFY(!insertedTableMarkup({mostInsertedCells, 1}).isEmpty());
-        QCOMPARE(insertedTableMarkup({mostInsertedCells + 1, 1}), QString());
+        QVERIFY(!insertedTableMarkup({InsertTableParam::mostCells, 1}).isEmpty());
+        QCOMPARE(insertedTableMarkup({InsertTableParam::mostCells + 1, 1}), QString());
     }
 };
 
