@@ -95,7 +95,7 @@ QString FtpServer::password() const
 QString FtpServer::loginFolder() const
 {
     // A vsftpd that root didn't start can't shut its users into a folder.
-    return m_kind == Kind::Vsftpd && !isRoot() ? m_root.filePath(u"root"_s) : u"/"_s;
+    return m_kind == Kind::Vsftpd && !isRoot() ? m_root.filePath(u"served"_s) : u"/"_s;
 }
 
 QString FtpServer::folder() const
@@ -120,7 +120,7 @@ QStringList FtpServer::command() const
     if (m_kind == Kind::Vsftpd)
         return {u"/usr/sbin/vsftpd"_s, m_root.filePath(u"vsftpd.conf"_s)};
     return {u"/usr/bin/python3"_s, QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/ftp/ftpserver.py"), m_host,
-            QString::number(m_port), user(), password(), m_root.filePath(u"root"_s)};
+            QString::number(m_port), user(), password(), m_root.filePath(u"served"_s)};
 }
 
 QByteArray FtpServer::vsftpdSettings() const
@@ -131,7 +131,7 @@ QByteArray FtpServer::vsftpdSettings() const
            "write_enable=YES\nanon_upload_enable=YES\nanon_mkdir_write_enable=YES\nanon_other_write_enable=YES\n"
            "connect_from_port_20=NO\nxferlog_enable=NO\nutf8_filesystem=YES\n"
            "listen_address=" + m_host.toLatin1() + "\nlisten_port=" + QByteArray::number(m_port) + "\nanon_root=" + root
-           + "/root\nsecure_chroot_dir=" + root + "/empty\n" + (isRoot() ? "" : "run_as_launching_user=YES\n");
+           + "/served\nsecure_chroot_dir=" + root + "/empty\n" + (isRoot() ? "" : "run_as_launching_user=YES\n");
 }
 
 bool FtpServer::answers() const

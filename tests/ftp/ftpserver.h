@@ -36,7 +36,7 @@ public:
     QString loginFolder() const;
     /// The folder that may be written, as the server names it and on the disk. Both end in "/".
     QString folder() const;
-    QString localFolder() const { return m_root.path() + QStringLiteral("/root/pub/"); }
+    QString localFolder() const { return m_root.path() + QStringLiteral("/served/pub/"); }
     /// Puts a file there, whose name is a server's bytes, and belongs to the server's user.
     void addFile(const QByteArray &name, const QByteArray &content) const;
 
