@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // designer_bench PAGE: the ways into and out of the visual designer with a page, and the time from a key to the state that
 // the toolbar shows, in a page of one paragraph and in that page; and from selecting the whole of it.
-#include "controls/prompts.h"
 #include "controls/webengine/designer/designerwidget.h"
+#include "noprompts.h"
 
 #include <benchmark/benchmark.h>
 
@@ -21,16 +21,6 @@ using namespace zephira;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Nothing that is measured asks.
-struct NoPrompts final : Prompts {
-    Answer ask(const Question &) override { return Answer::Cancel; }
-    std::optional<QString> input(const InputRequest &) override { return {}; }
-    std::optional<QString> file(const FileRequest &) override { return {}; }
-    std::optional<QString> folder(const QString &, const QString &) override { return {}; }
-    std::optional<quint32> colour(quint32) override { return {}; }
-    std::optional<FontChoice> font(const FontChoice &) override { return {}; }
-};
 
 /// Seconds from the action to the signal that it leads to.
 template<typename Signal>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // folder_bench FOLDER COUNT: the file manager shows a folder of COUNT files, and opens one of COUNT folders, both painted;
 // beside each the bare listing of the names. The folders are made below FOLDER where they aren't there yet.
-#include "controls/prompts.h"
+#include "noprompts.h"
 #include "panes/filelist.h"
 #include "panes/filepane.h"
 #include "panes/foldertree.h"
@@ -21,16 +21,6 @@ using namespace zephira;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Showing a folder asks nothing.
-struct NoPrompts final : Prompts {
-    Answer ask(const Question &) override { return Answer::Cancel; }
-    std::optional<QString> input(const InputRequest &) override { return {}; }
-    std::optional<QString> file(const FileRequest &) override { return {}; }
-    std::optional<QString> folder(const QString &, const QString &) override { return {}; }
-    std::optional<quint32> colour(quint32) override { return {}; }
-    std::optional<FontChoice> font(const FontChoice &) override { return {}; }
-};
 
 /// Makes `count` files in the folder "files" and as many folders in the folder "folders".
 void makeInputs(const QString &place, int count)

@@ -6,12 +6,12 @@
 // Each logs in without a name. The time is taken from outside, with start and login, as that of the peers is.
 #include "controls/clock.h"
 #include "controls/files/diskfilestore.h"
-#include "controls/prompts.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/net/netoperations.h"
 #include "ftp/remotelisting.h"
 #include "ftp/transferengine.h"
+#include "noprompts.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -25,17 +25,12 @@ using namespace zephira;
 namespace {
 
 /// Keeps whether anything but the end of a run was told.
-struct CountingPrompts final : Prompts {
+struct CountingPrompts final : NoPrompts {
     Answer ask(const Question &question) override
     {
         failures += question.icon == Question::Icon::Exclamation;
         return Answer::Ok;
     }
-    std::optional<QString> input(const InputRequest &) override { return {}; }
-    std::optional<QString> file(const FileRequest &) override { return {}; }
-    std::optional<QString> folder(const QString &, const QString &) override { return {}; }
-    std::optional<quint32> colour(quint32) override { return {}; }
-    std::optional<FontChoice> font(const FontChoice &) override { return {}; }
 
     int failures = 0;
 };

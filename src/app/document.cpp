@@ -97,6 +97,13 @@ bool Document::holdsDesignersWork() const
     return m_context.designer.isShowing() && m_context.designer.isDirty();
 }
 
+void Document::setPreviewTarget(const QString &target)
+{
+    if (target != m_previewTarget)
+        discardPreview();
+    m_previewTarget = target;
+}
+
 void Document::discardPreview()
 {
     if (m_previewTarget.isEmpty() || m_previewTarget.endsWith(u".asp", Qt::CaseInsensitive))

@@ -27,7 +27,8 @@ public:
     QString previewTarget() const { return m_previewTarget; }
 
     void setModified(bool modified) { m_modified = modified; }
-    void setPreviewTarget(const QString &target) { m_previewTarget = target; }
+    /// A copy that was made for another preview goes, since nobody would know of it any more.
+    void setPreviewTarget(const QString &target);
 
     /// The editing control raised its change event.
     void textChanged();

@@ -86,9 +86,6 @@ bool ViewSwitch::doSave()
 
 void ViewSwitch::setPreviewTarget(const QString &target)
 {
-    // A copy that is forgotten would stay among the user's files for good.
-    if (target != m_parts.document.previewTarget())
-        m_parts.document.discardPreview();
     m_parts.document.setPreviewTarget(target);
 }
 

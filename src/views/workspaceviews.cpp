@@ -188,9 +188,9 @@ QString WorkspaceViews::temporaryFile(const QString &name) const
 /// It stays there: nothing but the server's own files tells who needs it.
 void WorkspaceViews::previewThroughServer(const QString &name)
 {
-    const QString root = m_context.configuration.value(u"server"_s, u"root"_s);
+    const QString serverRoot = m_context.configuration.value(u"server"_s, u"root"_s);
     const QString server = m_context.configuration.value(u"server"_s, u"url"_s);
-    const bool isTaken = m_context.files.FileExists(root + name);
+    const bool isTaken = m_context.files.FileExists(serverRoot + name);
     const Question question =
         isTaken ? serverQuestion(serverCopy, u" because a file with a name identical to yours already exists in your "
                                              "root directory"_s)
@@ -201,7 +201,7 @@ void WorkspaceViews::previewThroughServer(const QString &name)
     const QString address = serverAddress(server, copy);
     if (!isTaken)
         m_window.setPreviewTarget(address);
-    saveAndNavigate(root + copy, address);
+    saveAndNavigate(serverRoot + copy, address);
 }
 
 /// A copy that can't be written stops nothing: the browser then shows what stands in its place.

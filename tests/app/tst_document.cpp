@@ -336,6 +336,18 @@ private Q_SLOTS:
         QVERIFY(bench.fakes.files.contents.contains(u"/www/a.ASP"_s));
     }
 
+    void theNextPreviewTakesTheCopyOfTheLastAway()
+    {
+        Bench bench;
+        bench.fakes.files.contents = {{u"/site/a.htmltemp.html"_s, "one"}, {u"/site/b.htmltemp.html"_s, "two"}};
+        bench.document.setPreviewTarget(u"/site/a.htmltemp.html"_s);
+        bench.document.setPreviewTarget(u"/site/a.htmltemp.html"_s);
+        QCOMPARE(bench.fakes.files.contents.size(), size_t(2));
+        bench.document.setPreviewTarget(u"/site/b.htmltemp.html"_s);
+        QVERIFY(!bench.fakes.files.contents.contains(u"/site/a.htmltemp.html"_s));
+        QVERIFY(bench.fakes.files.contents.contains(u"/site/b.htmltemp.html"_s));
+    }
+
     void aPreviewsCopyThatBecameTheDocumentStays()
     {
         Bench bench;

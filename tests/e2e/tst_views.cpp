@@ -28,6 +28,34 @@ QByteArray pageOfTwoColours()
     return pageOf("#3412AB").replace("</body>", "<script>document.body.bgColor = '#12AB34'</script></body>");
 }
 
+/// The program with a page in a folder of its own.
+struct PageInProgram {
+    explicit PageInProgram(const QByteArray &content, const QString &name = u"site/page.html"_s)
+        : file(folder.write(name, content)), program(folder, {file}), title(RunningProgram::captionOf(file))
+    {
+    }
+
+    bool isShown() const { return program.waitForWindow(title); }
+    /// Goes to the next view, and waits until that shows its colour.
+    bool goOn(const QString &wanted)
+    {
+        program.key(title, u"F8"_s);
+        return program.waitForMiddleColour(title, wanted);
+    }
+    QString colour() const { return program.middleColour(title); }
+    /// Closes the window; true if the program ended well.
+    bool close()
+    {
+        program.close(title);
+        return program.waitForEnd() == 0;
+    }
+
+    ProgramFolder folder;
+    QString file;
+    RunningProgram program;
+    QString title;
+};
+
 } // namespace
 
 /// Preview and designer in the real program, through the module that lies beside it.
@@ -38,62 +66,47 @@ class TstViews : public QObject
 private Q_SLOTS:
     void thePreviewShowsThePage()
     {
-        ProgramFolder folder;
-        const QString file = folder.write(u"site/my page.html"_s, pageOf("#12AB34"));
-        RunningProgram program(folder, {file});
-        const QString title = RunningProgram::captionOf(file);
-        QVERIFY(program.waitForWindow(title));
-        program.key(title, u"F8"_s);
-        QVERIFY2(program.waitForMiddleColour(title, u"#12AB34"_s), qPrintable(program.middleColour(title)));
-        const QString copy = file + u"temp.html"_s;
+        PageInProgram page(pageOf("#12AB34"), u"site/my page.html"_s);
+        QVERIFY(page.isShown());
+        QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
+        const QString copy = page.file + u"temp.html"_s;
         QVERIFY(QFile::exists(copy));
-        program.close(title);
-        QCOMPARE(program.waitForEnd(), 0);
+        QVERIFY(page.close());
         QVERIFY(!QFile::exists(copy));
         // The terminal is told nothing but what concerns it.
-        for (const QByteArray &line : program.standardError().split('\n'))
+        for (const QByteArray &line : page.program.standardError().split('\n'))
             QVERIFY2(line.isEmpty() || line.contains("superuser") || line.contains("XDG_RUNTIME_DIR"), line.constData());
     }
 
     void whatIsTypedInTheDesignerIsSaved()
     {
-        ProgramFolder folder;
-        const QByteArray page = pageOfTwoColours();
-        const QString file = folder.write(u"site/page.html"_s, page);
-        RunningProgram program(folder, {file});
-        const QString title = RunningProgram::captionOf(file);
-        QVERIFY(program.waitForWindow(title));
-        program.key(title, u"F8"_s);
-        QVERIFY2(program.waitForMiddleColour(title, previewColour), qPrintable(program.middleColour(title)));
-        program.key(title, u"F8"_s);
-        QVERIFY2(program.waitForMiddleColour(title, designerColour), qPrintable(program.middleColour(title)));
-        program.type(title, u"typed here"_s);
-        program.key(title, u"ctrl+s"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(file) != page, patience);
-        const QByteArray saved = ProgramFolder::read(file);
+        const QByteArray content = pageOfTwoColours();
+        PageInProgram page(content);
+        QVERIFY(page.isShown());
+        QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
+        QVERIFY2(page.goOn(designerColour), qPrintable(page.colour()));
+        page.program.type(page.title, u"typed here"_s);
+        page.program.key(page.title, u"ctrl+s"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(page.file) != content, patience);
+        const QByteArray saved = ProgramFolder::read(page.file);
         QVERIFY2(saved.startsWith("<!DOCTYPE html>\r\n") && saved.contains("<p>typed herex</p><script>document.body.bgColor = '#12AB34'</script></body></html>"),
                  saved.constData());
-        program.close(title);
-        QCOMPARE(program.waitForEnd(), 0);
+        QVERIFY(page.close());
     }
 
     void editingKeysInThePreviewLeaveTheSourceAlone()
     {
-        ProgramFolder folder;
-        const QByteArray page = pageOfTwoColours();
-        const QString file = folder.write(u"site/page.html"_s, page);
-        RunningProgram program(folder, {file});
-        const QString title = RunningProgram::captionOf(file);
-        QVERIFY(program.waitForWindow(title));
-        program.key(title, u"ctrl+a F8"_s);
-        QVERIFY2(program.waitForMiddleColour(title, previewColour), qPrintable(program.middleColour(title)));
-        program.key(title, u"Delete ctrl+x ctrl+v F5"_s);
-        program.key(title, u"F8"_s); // Which asks where the document has changed.
-        QVERIFY2(program.waitForMiddleColour(title, designerColour), qPrintable(program.middleColour(title)));
-        QCOMPARE(program.windows(), QStringList{title});
-        program.close(title);
-        QCOMPARE(program.waitForEnd(), 0);
-        QCOMPARE(ProgramFolder::read(file), page);
+        const QByteArray content = pageOfTwoColours();
+        PageInProgram page(content);
+        QVERIFY(page.isShown());
+        page.program.key(page.title, u"ctrl+a"_s);
+        QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
+        page.program.key(page.title, u"Delete ctrl+x ctrl+v F5"_s);
+        // The designer asks where the document has changed.
+        QVERIFY2(page.goOn(designerColour), qPrintable(page.colour()));
+        QCOMPARE(page.program.windows(), QStringList{page.title});
+        QVERIFY(page.close());
+        QCOMPARE(ProgramFolder::read(page.file), content);
     }
 
     void withoutTheModuleTheProgramSaysSoAndGoesOn()

@@ -3,22 +3,15 @@
 // is added to a custom tab is read again as it was.
 #include "controls/files/textfile.h"
 #include "controls/files/textlines.h"
+#include "fuzz/check.h"
 #include "panes/customtabfile.h"
 #include "panes/sottree.h"
 #include "tags/tagfile.h"
-
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
 namespace {
-
-void check(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void checkLines(const QString &text, const QStringList &lines)
 {

@@ -3,19 +3,12 @@
 // no harm from whatever the engine may make of a page.
 #include "controls/files/textfile.h"
 #include "controls/webengine/designer/pagetext.h"
-
-#include <cstdlib>
+#include "fuzz/check.h"
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
 namespace {
-
-void check(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void checkPieces(const QString &text)
 {

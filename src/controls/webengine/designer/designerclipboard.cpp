@@ -45,16 +45,13 @@ void copyToClipboard(const PageText &page, const QString &markup)
     QGuiApplication::clipboard()->setMimeData(data.release());
 }
 
-QString clipboardText()
-{
-    return QGuiApplication::clipboard()->text();
-}
-
-ClipboardMarkup clipboardMarkup()
+ClipboardMarkup clipboardMarkup(const PageText &page)
 {
     const QMimeData *data = clipboardData();
     if (!data)
         return {};
+    if (page.isPlain())
+        return {data->text(), false};
     if (data->hasFormat(ownFormat))
         return {QString::fromUtf8(data->data(ownFormat)), false};
     if (data->hasHtml())

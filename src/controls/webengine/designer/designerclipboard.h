@@ -18,10 +18,9 @@ struct ClipboardMarkup {
 /// plain text that alone. `markup` is as the engine writes it.
 void copyToClipboard(const PageText &page, const QString &markup);
 
-/// What the clipboard holds as text.
-QString clipboardText();
-/// What the clipboard holds as markup; a text becomes some, with a line break for each line end.
-ClipboardMarkup clipboardMarkup();
+/// What the clipboard holds as markup for a page; a text becomes some, with a line break for each line end. For plain text
+/// it is the text.
+ClipboardMarkup clipboardMarkup(const PageText &page);
 bool clipboardHasMarkup();
 
 } // namespace zephira

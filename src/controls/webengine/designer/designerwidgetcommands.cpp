@@ -127,11 +127,7 @@ QVariant DesignerWidget::cut(DesignerPrompting, const QVariant &)
 
 QVariant DesignerWidget::paste(DesignerPrompting, const QVariant &)
 {
-    if (m_text.isPlain()) {
-        ask(u"insert"_s, {m_text.fragmentForEngine(clipboardText()), false});
-        return {};
-    }
-    const ClipboardMarkup content = clipboardMarkup();
+    const ClipboardMarkup content = clipboardMarkup(m_text);
     // Comments of other programs go, so that they need no marks.
     const QString markup = content.isForeign ? content.markup : m_text.fragmentForEngine(content.markup);
     ask(u"insert"_s, {markup, content.isForeign});

@@ -119,8 +119,7 @@ const commands = {
 // To copy, find and select all: nothing else can be done with a page that is only looked at.
 const browseCommands = new Set([5002, 5008, 5035]);
 
-const isClosed = number => (looks.browseMode && !browseCommands.has(Number(number)))
-    || (isPlain && !plainCommands.has(Number(number)));
+const isOpen = number => (!looks.browseMode || browseCommands.has(number)) && (!isPlain || plainCommands.has(number));
 
 // What several commands look at in the selection.
 const selectionFacts = () => ({
@@ -131,7 +130,7 @@ const selectionFacts = () => ({
 const allStatuses = () => {
     const facts = selectionFacts();
     return Object.fromEntries(Object.entries(commands).map(([number, command]) =>
-        [number, isClosed(number) ? status.disabled : command.status(facts)]));
+        [number, isOpen(Number(number)) ? command.status(facts) : status.disabled]));
 };
 
 // What a command reads, as long as the whole selection agrees on it.
@@ -139,7 +138,7 @@ const valueOf = (number, statuses, none) => statuses[number] === status.enabled 
 
 const runCommand = (number, argument) => {
     const command = commands[number];
-    if (!command || isClosed(number) || command.status(selectionFacts()) < status.enabled)
+    if (!command || !isOpen(number) || command.status(selectionFacts()) < status.enabled)
         return null;
     // Commands that look or turn back aren't steps of the history.
     if (command.reads || command.turns)

@@ -10,8 +10,7 @@ const cutList = item => {
         following.push(next);
     let rest = null;
     if (following.some(isElement)) {
-        rest = list.cloneNode(false);
-        rest.removeAttribute('id');
+        rest = emptyTwin(list);
         list.after(rest);
         for (const node of following)
             rest.append(node);
@@ -57,8 +56,7 @@ const deepenItem = item => {
     const last = before?.localName === 'li' ? before.lastElementChild : before;
     let inner = last?.localName === list.localName ? last : null;
     if (!inner) {
-        inner = list.cloneNode(false);
-        inner.removeAttribute('id');
+        inner = emptyTwin(list);
         if (before?.localName === 'li')
             before.append(inner);
         else

@@ -99,6 +99,13 @@ const unwrapElement = element => {
     element.remove();
 };
 
+// An empty element like another one, for what is cut off from it. A name stays with the first.
+const emptyTwin = element => {
+    const twin = element.cloneNode(false);
+    twin.removeAttribute('id');
+    return twin;
+};
+
 // Cuts an element in two at a place within it; gives the second part, which follows the first.
 const splitElement = (element, node, offset) => {
     let rest;
@@ -113,8 +120,7 @@ const splitElement = (element, node, offset) => {
     }
     while (rest.parentNode !== element.parentNode) {
         const parent = rest.parentNode;
-        const second = parent.cloneNode(false);
-        second.removeAttribute('id');
+        const second = emptyTwin(parent);
         parent.after(second);
         for (let next = rest; next;) {
             const following = next.nextSibling;

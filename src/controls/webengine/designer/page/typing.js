@@ -122,9 +122,8 @@ const joinAtCaret = (node, offset, backward) => {
 
 const deleteByKey = event => {
     const range = currentRange();
-    const across = linesAcross(range) && (() => deleteAcrossLines(range));
     const action = range.collapsed ? joinAtCaret(range.startContainer, range.startOffset, event.inputType.endsWith('Backward'))
-        : across;
+        : linesAcross(range) && (() => deleteAcrossLines(range));
     if (!action)
         return;
     event.preventDefault();
