@@ -153,9 +153,9 @@ void frmmain::buildWorkspace()
     m_viewSwitch = new ViewSwitch(*m_context,
                                   {*m_document, *this, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
                                   m_services.webViews, this);
-    auto *tools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
-    connect(tools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
-    connect(tools, &VisualTools::displayChanged, m_recoveryKeeper.get(), &RecoveryKeeper::textChanged);
+    m_visualTools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
+    connect(m_visualTools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
+    connect(m_visualTools, &VisualTools::displayChanged, m_recoveryKeeper.get(), &RecoveryKeeper::textChanged);
 }
 
 void frmmain::connectEditor()

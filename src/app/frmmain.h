@@ -35,6 +35,7 @@ class SideLists;
 class SidePane;
 class StatusPanels;
 class ViewSwitch;
+class VisualTools;
 
 namespace Ui {
 class frmmain;
@@ -51,6 +52,7 @@ class frmmain : public QMainWindow, public DocumentHost, public DocumentWindow, 
     Q_PROPERTY(QString docPath READ docPath)
     Q_PROPERTY(QString previewTarget READ previewTarget)
     Q_PROPERTY(QString designerBase READ designerBase)
+    Q_PROPERTY(bool designerReady READ designerReady)
     Q_PROPERTY(bool rootSelect MEMBER rootSelect)
     Q_PROPERTY(QString AppPath READ appPath)
     Q_PROPERTY(QStringList startSteps MEMBER startSteps)
@@ -79,6 +81,7 @@ public:
     QString docPath() const { return m_document->docPath(); }
     QString previewTarget() const { return m_document->previewTarget(); }
     QString designerBase() const;
+    bool designerReady() const;
     QString appPath() const { return m_services.appPath; }
     int highlightMode() const { return modes.highlight; }
     int lineNumberMode() const { return modes.lineNumber; }
@@ -197,6 +200,7 @@ private:
     FilePane *m_filePane = nullptr;
     DesignerBar *m_designerBar = nullptr;
     ViewSwitch *m_viewSwitch = nullptr;
+    VisualTools *m_visualTools = nullptr;
     StatusPanels *m_panels = nullptr;
     SelectorList *m_selectorList = nullptr;
     Menus *m_menus = nullptr;

@@ -8,6 +8,7 @@
 #include "app/recoverykeeper.h"
 #include "app/statuspanels.h"
 #include "app/viewswitch.h"
+#include "app/visualtools.h"
 #include "controls/errorstyles.h"
 #include "controls/formposition.h"
 #include "controls/inserttext.h"
@@ -175,6 +176,11 @@ void frmmain::selectView(int tab)
 QString frmmain::designerBase() const
 {
     return m_viewSwitch->designerBase();
+}
+
+bool frmmain::designerReady() const
+{
+    return m_visualTools->designerReady();
 }
 
 void frmmain::selectSideTab(int tab)

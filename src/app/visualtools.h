@@ -21,6 +21,8 @@ class VisualTools final : public QObject
 public:
     VisualTools(const AppContext &context, DesignerBar &bar, Menus &menus, QObject *owner);
 
+    bool designerReady() const { return m_tools.designerReady(); }
+
 signals:
     /// A command of the toolbar is done: the keyboard belongs to the page again.
     void finished();

@@ -28,14 +28,14 @@ QString markupColour(quint32 number)
 
 bool DesignerTools::documentComplete()
 {
-    if (m_ready)
+    if (m_designerReady)
         return false;
     endingQuietly([&] {
         const QVariant names = m_context.designer.execCommand(DesignerCommand::GetBlockFormatNames,
                                                               DesignerPrompting::DontPromptUser);
         m_blockFormats = names.toStringList().mid(0, blockFormatEntries);
     });
-    m_ready = true;
+    m_designerReady = true;
     return true;
 }
 
@@ -46,7 +46,7 @@ void DesignerTools::run(DesignerCommand command, const QVariant &argument, Desig
 
 void DesignerTools::runIfReady(DesignerCommand command, const QVariant &argument)
 {
-    if (m_ready && m_context.designer.queryStatus(command) >= DesignerStatus::Enabled)
+    if (m_designerReady && m_context.designer.queryStatus(command) >= DesignerStatus::Enabled)
         run(command, argument);
 }
 

@@ -19,6 +19,8 @@ public:
     /// Learns the names of the block formats when the first document is complete, and does nothing at later ones. From
     /// then on fonts and sizes can be chosen. Returns whether it was the first.
     bool documentComplete();
+    /// Whether there has been a complete document; it never turns back.
+    bool designerReady() const { return m_designerReady; }
     /// The formats of the menu Format, in its order; no more than it has entries.
     const QStringList &blockFormats() const { return m_blockFormats; }
 
@@ -41,7 +43,7 @@ private:
     void chooseColour();
 
     const AppContext m_context;
-    bool m_ready = false;
+    bool m_designerReady = false;
     QStringList m_blockFormats;
     /// The dialog opens at the colour that was chosen last.
     quint32 m_colour = 0;

@@ -30,6 +30,13 @@ struct ViewBench : WindowBench {
 
     QTabBar &tabs() const { return *find<QTabBar>(u"workspace"_s); }
     void select(int tab) const { tabs().setCurrentIndex(tab - 1); }
+    /// Shows the window as the one that has the keyboard.
+    bool activate() const
+    {
+        window->show();
+        window->activateWindow();
+        return QTest::qWaitForWindowActive(window.get());
+    }
     QWidget *page() const { return find<QStackedWidget>(u"views"_s)->currentWidget(); }
     FakeDesigner &designer() { return webViews.designer; }
     bool isOpen(const QString &menu) const { return find<QMenu>(menu)->menuAction()->isEnabled(); }
@@ -102,6 +109,30 @@ private Q_SLOTS:
         QCOMPARE(bench.page(), bench.find<QWidget>(u"rt"_s));
     }
 
+    void theTextsOfTheTabs()
+    {
+        ViewBench bench;
+        const QTabBar &tabs = bench.tabs();
+        const struct {
+            QString key;
+            QString caption;
+            QString tip;
+        } expected[] = {
+            {u"code"_s, u"Code View"_s, u"Click to view / edit your html code"_s},
+            {u"preview"_s, u"Preview"_s, u"Preview your document in Zephira's browser"_s},
+            {u"wysiwyg"_s, u"WYSIWYG Editor"_s, u"Use this to create your webpage using a visual approach"_s},
+        };
+        QCOMPARE(tabs.count(), 3);
+        for (int tab = 0; tab < 3; ++tab) {
+            QCOMPARE(tabs.tabData(tab).toString(), expected[tab].key);
+            QCOMPARE(tabs.tabText(tab), expected[tab].caption);
+            QCOMPARE(tabs.tabToolTip(tab), expected[tab].tip);
+        }
+        const auto *reset = bench.find<QPushButton>(u"Command1"_s);
+        QCOMPARE(reset->text(), u"Reset"_s);
+        QCOMPARE(reset->toolTip(), u"Reset Document to what it was before you entered Visual Mode"_s);
+    }
+
     void theViewsFillTheSameRectangle()
     {
         ViewBench bench;
@@ -152,9 +183,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, before);
         ViewBench bench;
-        bench.window->show();
-        bench.window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        QVERIFY(bench.activate());
         bench.find<QWidget>(before)->setFocus();
         QTest::mouseClick(&bench.tabs(), Qt::LeftButton, {}, bench.tabs().tabRect(1).center());
         QTRY_VERIFY(bench.find<QWidget>(u"ww1"_s)->hasFocus());
@@ -165,9 +194,7 @@ private Q_SLOTS:
     void theKeyboardLeavesTheDesignersToolbarWithIt()
     {
         ViewBench bench;
-        bench.window->show();
-        bench.window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        QVERIFY(bench.activate());
         bench.select(3);
         bench.designer().events.displayChanged();
         bench.find<QComboBox>(u"FontCombo"_s)->setFocus();
@@ -178,9 +205,7 @@ private Q_SLOTS:
     void theTabsKeepTheKeyboard()
     {
         ViewBench bench;
-        bench.window->show();
-        bench.window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
+        QVERIFY(bench.activate());
         bench.tabs().setFocus();
         QTest::keyClick(&bench.tabs(), Qt::Key_Right);
         QCOMPARE(bench.tabs().currentIndex(), 1);
@@ -546,6 +571,11 @@ private Q_SLOTS:
         Q_EMIT bench.find<QComboBox>(u"FontCombo"_s)->textActivated(u"Arial"_s);
         Q_EMIT bench.find<QComboBox>(u"FontSizeCombo"_s)->activated(2);
         QVERIFY(bench.designer().runs.empty());
+        QVERIFY(!bench.window->designerReady());
+        bench.designer().events.documentComplete();
+        QVERIFY(bench.window->designerReady());
+        bench.select(1);
+        QVERIFY(bench.window->designerReady()); // It stays, whatever the view.
     }
 
     void theFormatMenu()
