@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // syntax_bench: how fast a whole HTML text gets its colours, from our engine and from the editing component's own HTML
 // lexer, in one run. Each figure is bytes per second of the same text.
-#include "controls/syntax/languageregistry.h"
-#include "controls/syntax/syntaxengine.h"
+#include "syntax/languageregistry.h"
+#include "syntax/syntaxengine.h"
 
 #include <benchmark/benchmark.h>
 

@@ -13,7 +13,7 @@
 #include "controls/scintilla/codemax.h"
 #include "controls/scintilla/codemaxglobals.h"
 #include "controls/settingsnames.h"
-#include "controls/syntax/languageregistry.h"
+#include "syntax/languageregistry.h"
 #include "panes/asptagtree.h"
 #include "panes/filepane.h"
 #include "panes/scriptlibrary.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any text in any language from any state: every byte gets a style, nothing beyond them is touched, and styling in two
 // parts gives what styling in one gives.
-#include "controls/syntax/languageregistry.h"
-#include "controls/syntax/syntaxengine.h"
+#include "syntax/languageregistry.h"
+#include "syntax/syntaxengine.h"
 
 #include <cstdlib>
 #include <cstring>

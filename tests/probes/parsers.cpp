@@ -5,7 +5,7 @@
 #include "controls/files/privateprofile.h"
 #include "controls/files/textfile.h"
 #include "controls/files/textlines.h"
-#include "controls/syntax/describestyles.h"
+#include "syntax/describestyles.h"
 #include "controls/webengine/designer/pagetext.h"
 #include "controls/webengine/designer/servermarks.h"
 #include "ftp/folderlisting.h"

@@ -2,7 +2,7 @@
 #include "controls/scintilla/bracematcher.h"
 
 #include "controls/scintilla/indicators.h"
-#include "controls/syntax/syntaxstyle.h"
+#include "syntax/syntaxstyle.h"
 
 #include <algorithm>
 #include <string_view>

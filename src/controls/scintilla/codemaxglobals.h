@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/syntax/languageregistry.h"
+#include "syntax/languageregistry.h"
 
 #include <QKeyCombination>
 #include <QObject>

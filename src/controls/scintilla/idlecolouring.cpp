@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/scintilla/idlecolouring.h"
 
-#include "controls/syntax/syntaxstyle.h"
+#include "syntax/syntaxstyle.h"
 
 #include <QElapsedTimer>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "controls/scintilla/sciengine.h"
-#include "controls/syntax/syntaxengine.h"
+#include "syntax/syntaxengine.h"
 
 #include <QObject>
 #include <QTimer>

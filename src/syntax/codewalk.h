@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "syntax/procedurallexer.h"
+#include "syntax/textsearch.h"
+
+namespace zephira {
+
+/// A procedural lexer's way over one piece of a line.
+struct ProceduralLexer::Walk {
+    const StyleCanvas &canvas;
+    const Byte *const begin;
+    const Byte *const end;
+    const bool lineStart;
+
+    CodeState state;
+    const Byte *p = begin;
+    const Byte *plain = begin;       ///< where text began that isn't painted yet
+    bool operandBefore = !lineStart; ///< a slash here divides
+    bool slashesDivide = false;      ///< no regular expression is closed behind this point
+    bool stopped = false;            ///< the language's own closing sign stands at `p`
+
+    std::size_t room() const { return static_cast<std::size_t>(end - p); }
+
+    /// Paints the text before `p` that no token claimed.
+    void flush()
+    {
+        if (plain < p)
+            canvas.paint(plain, p, SyntaxStyle::Text);
+        plain = p;
+    }
+
+    /// Paints up to `to`, behind whatever text is still unpainted, and goes there.
+    void take(const Byte *to, SyntaxStyle style)
+    {
+        flush();
+        canvas.paint(p, to, style);
+        p = plain = to;
+    }
+};
+
+/// A byte that tells the words behind "<<<" and R" apart well enough.
+inline Byte fingerprint(const Byte *p, const Byte *end)
+{
+    unsigned sum = 0;
+    for (; p < end; ++p)
+        sum = sum * 31 + *p;
+    return static_cast<Byte>(sum ^ (sum >> 8));
+}
+
+} // namespace zephira

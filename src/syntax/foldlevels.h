@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "syntax/languagedefinition.h"
+#include "syntax/wordtable.h"
+
+#include <QByteArrayView>
+
+#include <span>
+
+namespace zephira {
+
+/// What folding has to know at the start of a line: the nesting depth, 0 outermost, and whether a comment has come over
+/// from the line above (whose last byte then has the comment style).
+struct FoldState {
+    int level = 0;
+    bool inComment = false;
+
+    friend bool operator==(const FoldState &, const FoldState &) = default;
+};
+
+/// One line's place in the folds.
+struct FoldLine {
+    int level = 0;       ///< depth at the line's start, 0 outermost
+    bool header = false; ///< more is open at its end than at its start
+    bool blank = false;  ///< nothing but blanks and tabs
+
+    friend bool operator==(const FoldLine &, const FoldLine &) = default;
+};
+
+/// Finds folds in styled text: scope keywords, elements that have an end tag, and comments over several lines. Works line
+/// by line and can begin at any line whose FoldState is known.
+class FoldRules
+{
+public:
+    explicit FoldRules(const LanguageDefinition &definition);
+
+    /// Folds one line, its line end included, and moves `state` on to the next line. `styles` are the line's own.
+    FoldLine fold(QByteArrayView line, std::span<const unsigned char> styles, FoldState &state) const;
+
+private:
+    WordTable m_scopes;
+    WordTable m_elements;
+    bool m_everyElement = false;
+};
+
+} // namespace zephira
