@@ -5,7 +5,7 @@
 // ftp_bench mirror HOST PORT FOLDER LOCALDIR: downloads all files of a server's folder.
 // Each logs in without a name. The time is taken from outside, with start and login, as that of the peers is.
 #include "controls/clock.h"
-#include "controls/files/diskfilestore.h"
+#include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/net/netoperations.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // save_bench FILE FOLDER: writes the content of FILE to a file in FOLDER through the program's file store, and copies it
 // there by cp with an fsync behind it.
-#include "controls/files/diskfilestore.h"
+#include "files/diskfilestore.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // text_bench SMALL LARGE: every function over text, with a file and with one of ten times its size. A function whose time
 // grows faster than its input shows here.
-#include "controls/files/lineends.h"
-#include "controls/files/privateprofile.h"
-#include "controls/files/textfile.h"
-#include "controls/files/textlines.h"
+#include "files/lineends.h"
+#include "files/privateprofile.h"
+#include "files/textfile.h"
+#include "files/textlines.h"
 #include "syntax/foldlevels.h"
 #include "syntax/languageregistry.h"
 #include "syntax/syntaxengine.h"

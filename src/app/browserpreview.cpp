@@ -3,8 +3,8 @@
 
 #include "app/windowcommands.h"
 #include "controls/documenthost.h"
-#include "controls/files/configuration.h"
-#include "controls/files/filestore.h"
+#include "files/configuration.h"
+#include "files/filestore.h"
 #include "controls/prompts.h"
 #include "controls/shell.h"
 

@@ -7,7 +7,7 @@
 #include "controls/documenthost.h"
 #include "controls/editingcontrol.h"
 #include "controls/errorstyles.h"
-#include "controls/files/filestore.h"
+#include "files/filestore.h"
 #include "controls/relativepath.h"
 
 #include <array>

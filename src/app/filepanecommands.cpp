@@ -5,7 +5,7 @@
 #include "app/document.h"
 #include "app/menus.h"
 #include "controls/errorstyles.h"
-#include "controls/files/configuration.h"
+#include "files/configuration.h"
 #include "controls/inserter.h"
 #include "controls/prompts.h"
 #include "controls/relativepath.h"

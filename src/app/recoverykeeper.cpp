@@ -4,7 +4,7 @@
 #include "app/document.h"
 #include "controls/clock.h"
 #include "controls/designer.h"
-#include "controls/files/recoverycopies.h"
+#include "files/recoverycopies.h"
 #include "controls/scintilla/codemax.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/files/recoveryschedule.h"
+#include "files/recoveryschedule.h"
 #include "controls/result.h"
 
 #include <QElapsedTimer>

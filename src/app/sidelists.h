@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/files/filenumber.h"
+#include "files/filenumber.h"
 
 namespace zephira {
 

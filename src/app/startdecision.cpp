@@ -2,7 +2,7 @@
 #include "app/startdecision.h"
 
 #include "controls/errorstyles.h"
-#include "controls/files/configuration.h"
+#include "files/configuration.h"
 #include "controls/vbtext.h"
 
 using namespace Qt::StringLiterals;

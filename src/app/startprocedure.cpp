@@ -4,9 +4,9 @@
 #include "app/frmmain.h"
 #include "app/loadhandler.h"
 #include "app/startdecision.h"
-#include "controls/appfolder.h"
-#include "controls/files/configuration.h"
-#include "controls/files/usersettings.h"
+#include "files/appfolder.h"
+#include "files/configuration.h"
+#include "files/usersettings.h"
 #include "controls/modalformopener.h"
 #include "controls/settingsnames.h"
 

@@ -5,7 +5,7 @@
 #include "app/document.h"
 #include "app/menus.h"
 #include "app/menutable.h"
-#include "controls/appfolder.h"
+#include "files/appfolder.h"
 #include "controls/errorstyles.h"
 #include "controls/prompts.h"
 #include "views/previewpane.h"

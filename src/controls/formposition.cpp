@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/formposition.h"
 
-#include "controls/files/usersettings.h"
+#include "files/usersettings.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -8,7 +8,7 @@
 #include "ui_frmconnect.h"
 
 #include "controls/errorstyles.h"
-#include "controls/files/filestore.h"
+#include "files/filestore.h"
 #include "controls/itemroles.h"
 #include "controls/prompts.h"
 #include "controls/vbtext.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/remotenames.h"
 
-#include "controls/files/textfile.h"
+#include "files/textfile.h"
 
 namespace zephira {
 

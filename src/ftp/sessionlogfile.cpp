@@ -3,7 +3,7 @@
 
 #include "controls/appcontext.h"
 #include "controls/errorstyles.h"
-#include "controls/files/filestore.h"
+#include "files/filestore.h"
 #include "controls/prompts.h"
 
 using namespace Qt::StringLiterals;

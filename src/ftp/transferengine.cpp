@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/transferengine.h"
 
-#include "controls/files/filestore.h"
+#include "files/filestore.h"
 #include "controls/prompts.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/customtabfile.h"
 
-#include "controls/files/filestore.h"
-#include "controls/files/textfile.h"
+#include "files/filestore.h"
+#include "files/textfile.h"
 
 #include <QStringBuilder>
 

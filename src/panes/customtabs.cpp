@@ -2,8 +2,8 @@
 #include "panes/customtabs.h"
 
 #include "controls/appcontext.h"
-#include "controls/files/configuration.h"
-#include "controls/files/filenumber.h"
+#include "files/configuration.h"
+#include "files/filenumber.h"
 #include "controls/itemchoice.h"
 #include "controls/itemroles.h"
 #include "controls/pasteitem.h"

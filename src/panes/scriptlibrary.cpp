@@ -2,8 +2,8 @@
 #include "panes/scriptlibrary.h"
 
 #include "controls/appcontext.h"
-#include "controls/files/filestore.h"
-#include "controls/files/textfile.h"
+#include "files/filestore.h"
+#include "files/textfile.h"
 #include "controls/itemchoice.h"
 #include "controls/itemroles.h"
 #include "controls/pasteitem.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/sotloader.h"
 
-#include "controls/files/textlines.h"
+#include "files/textlines.h"
 #include "panes/sottree.h"
 
 #include <QTreeWidget>

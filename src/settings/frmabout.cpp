@@ -4,7 +4,7 @@
 #include "settings/systeminformation.h"
 #include "ui_frmabout.h"
 
-#include "controls/files/filestore.h"
+#include "files/filestore.h"
 #include "controls/prompts.h"
 #include "controls/shell.h"
 

@@ -4,9 +4,9 @@
 #include "settings/tips.h"
 #include "ui_frmtip.h"
 
-#include "controls/files/filestore.h"
-#include "controls/files/textfile.h"
-#include "controls/files/usersettings.h"
+#include "files/filestore.h"
+#include "files/textfile.h"
+#include "files/usersettings.h"
 #include "controls/settingsnames.h"
 
 #include <QPushButton>

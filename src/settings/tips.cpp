@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/tips.h"
 
-#include "controls/files/textlines.h"
+#include "files/textlines.h"
 
 using namespace Qt::StringLiterals;
 

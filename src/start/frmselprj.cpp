@@ -9,7 +9,7 @@
 
 #include "controls/documenthost.h"
 #include "controls/editingcontrol.h"
-#include "controls/files/configuration.h"
+#include "files/configuration.h"
 #include "controls/prompts.h"
 
 #include <QAction>

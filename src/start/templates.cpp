@@ -2,9 +2,9 @@
 #include "start/templates.h"
 
 #include "app/languages.h"
-#include "controls/files/filestore.h"
-#include "controls/files/lineends.h"
-#include "controls/files/textfile.h"
+#include "files/filestore.h"
+#include "files/lineends.h"
+#include "files/textfile.h"
 
 #include <array>
 

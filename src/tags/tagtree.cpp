@@ -2,7 +2,7 @@
 #include "tags/tagtree.h"
 
 #include "controls/appcontext.h"
-#include "controls/files/textlines.h"
+#include "files/textlines.h"
 #include "controls/itemchoice.h"
 #include "controls/itemroles.h"
 #include "controls/pasteitem.h"

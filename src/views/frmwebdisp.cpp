@@ -2,7 +2,7 @@
 #include "views/frmwebdisp.h"
 
 #include "controls/editingcontrol.h"
-#include "controls/files/filestore.h"
+#include "files/filestore.h"
 #include "controls/prompts.h"
 #include "controls/shell.h"
 #include "ui_frmwebdisp.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/pagetext.h"
 
-#include "controls/files/textfile.h"
+#include "files/textfile.h"
 #include "views/pagefetcher.h"
 
 #include <QRegularExpression>

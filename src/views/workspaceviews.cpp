@@ -5,8 +5,8 @@
 #include "controls/documenthost.h"
 #include "controls/editingcontrol.h"
 #include "controls/errorstyles.h"
-#include "controls/files/configuration.h"
-#include "controls/files/filestore.h"
+#include "files/configuration.h"
+#include "files/filestore.h"
 #include "controls/prompts.h"
 
 #include <QFileInfo>

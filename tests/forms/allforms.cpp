@@ -2,8 +2,8 @@
 #include "forms/allforms.h"
 
 #include "controls/clock.h"
-#include "controls/files/diskfilestore.h"
-#include "controls/files/recoverycopies.h"
+#include "files/diskfilestore.h"
+#include "files/recoverycopies.h"
 #include "controls/scintilla/codemax.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"

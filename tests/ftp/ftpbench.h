@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/files/diskfilestore.h"
+#include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
 #include "ftp/registerforms.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/transferengine.h"
 
-#include "controls/files/diskfilestore.h"
+#include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingdesk.h"
 #include "ftp/recordingoperations.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Private profiles that others wrote: reading never fails, and a written value reads back while all other bytes stay.
-#include "controls/files/privateprofile.h"
+#include "files/privateprofile.h"
 
 #include <cstdlib>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The lists of the side pane in files that anybody wrote: each line is read once, trees hang together, and an entry that
 // is added to a custom tab is read again as it was.
-#include "controls/files/textfile.h"
-#include "controls/files/textlines.h"
+#include "files/textfile.h"
+#include "files/textlines.h"
 #include "fuzz/check.h"
 #include "panes/customtabfile.h"
 #include "panes/sottree.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The designer's way with pages that anybody wrote: pieces without a gap, server code that comes back to the letter, and
 // no harm from whatever the engine may make of a page.
-#include "controls/files/textfile.h"
+#include "files/textfile.h"
 #include "controls/webengine/designer/pagetext.h"
 #include "fuzz/check.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Files of any kind: decoding gives valid UTF-8, and encoding gives the same bytes back.
-#include "controls/files/textfile.h"
-#include "controls/files/utf8.h"
+#include "files/textfile.h"
+#include "files/utf8.h"
 
 #include <cstdlib>
 

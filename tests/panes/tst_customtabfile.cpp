@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/customtabfile.h"
 
-#include "controls/files/textlines.h"
+#include "files/textlines.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/customtabs.h"
 
-#include "controls/files/filenumber.h"
+#include "files/filenumber.h"
 #include "controls/itemroles.h"
 #include "support/fakes.h"
 #include "support/itemviews.h"

@@ -2,9 +2,9 @@
 #include "parsers.h"
 
 #include "controls/errorstyles.h"
-#include "controls/files/privateprofile.h"
-#include "controls/files/textfile.h"
-#include "controls/files/textlines.h"
+#include "files/privateprofile.h"
+#include "files/textfile.h"
+#include "files/textlines.h"
 #include "syntax/describestyles.h"
 #include "controls/webengine/designer/pagetext.h"
 #include "controls/webengine/designer/servermarks.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // saveprobe IN OUT: opens IN and saves it as OUT, as the editing control does.
 #include "controls/clock.h"
-#include "controls/files/diskfilestore.h"
-#include "controls/files/documentfile.h"
-#include "controls/files/recoverycopies.h"
+#include "files/diskfilestore.h"
+#include "files/documentfile.h"
+#include "files/recoverycopies.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>

@@ -3,7 +3,7 @@
 
 #include "controls/clipboard.h"
 #include "controls/editingcontrol.h"
-#include "controls/files/filestore.h"
+#include "files/filestore.h"
 
 #include <QStringList>
 

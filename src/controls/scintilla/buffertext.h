@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/files/lineends.h"
+#include "files/lineends.h"
 
 #include <QByteArray>
 #include <QString>

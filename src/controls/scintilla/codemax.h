@@ -2,8 +2,8 @@
 #pragma once
 
 #include "controls/editingcontrol.h"
-#include "controls/files/documentfile.h"
-#include "controls/files/textfile.h"
+#include "files/documentfile.h"
+#include "files/textfile.h"
 #include "controls/scintilla/editoroptions.h"
 #include "controls/scintilla/sciengine.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/webengine/browserpage.h"
 
-#include "controls/files/diskfilestore.h"
-#include "controls/files/textfile.h"
+#include "files/diskfilestore.h"
+#include "files/textfile.h"
 #include "controls/webengine/pageaddress.h"
 
 #include <QWebEngineDownloadRequest>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/webviews/webbench.h"
-#include "controls/appfolder.h"
+#include "files/appfolder.h"
 #include "support/eventwait.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "app/frmmain.h"
-#include "controls/files/configuration.h"
-#include "controls/files/diskfilestore.h"
-#include "controls/files/recoverycopies.h"
+#include "files/configuration.h"
+#include "files/diskfilestore.h"
+#include "files/recoverycopies.h"
 #include "controls/formcatalogue.h"
 #include "controls/scintilla/codemax.h"
 #include "ftp/ftpclient.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/files/recoverycopies.h"
+#include "files/recoverycopies.h"
 #include "controls/scintilla/codemax.h"
 #include "controls/scintilla/codemaxglobals.h"
 #include "controls/scintilla/editorappearance.h"

@@ -2,8 +2,8 @@
 #include "controls/webengine/designer/designerwidget.h"
 
 #include "controls/errorstyles.h"
-#include "controls/files/diskfilestore.h"
-#include "controls/files/textfile.h"
+#include "files/diskfilestore.h"
+#include "files/textfile.h"
 #include "controls/webengine/designer/designerclipboard.h"
 #include "controls/webengine/designer/designerhandles.h"
 #include "controls/webengine/designer/designerpage.h"

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/documentfile.h"
+
+#include "files/recoverycopies.h"
+
+#include <QDir>
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+QByteArray joined(std::span<const QByteArrayView> pieces)
+{
+    qsizetype size = 0;
+    for (const QByteArrayView piece : pieces)
+        size += piece.size();
+    QByteArray whole;
+    whole.reserve(size);
+    for (const QByteArrayView piece : pieces)
+        whole.append(piece);
+    return whole;
+}
+
+} // namespace
+
+Result<DecodedText> DocumentFile::open(const QString &path)
+{
+    // Taken before the reading: a change in between then shows as one.
+    const FileSignature signature = m_files.signature(path);
+    Result<FileView> file = m_files.view(path);
+    std::optional<FileSignature> &seen = m_seen[QDir::cleanPath(path)];
+    if (!file) {
+        seen.reset();
+        return file.error();
+    }
+    seen = signature;
+    FileView content = std::move(file).value();
+    DecodedText text = decodeText(std::move(content.bytes));
+    text.owner = std::move(content.owner);
+    return text;
+}
+
+Result<void> DocumentFile::save(const QString &path, std::span<const QByteArrayView> utf8Pieces, const TextFormat &format)
+{
+    std::vector<QByteArrayView> pieces;
+    QByteArray encoded;
+    if (format.encoding == Encoding::Utf8) {
+        pieces.push_back(byteOrderMark(format));
+        pieces.insert(pieces.end(), utf8Pieces.begin(), utf8Pieces.end());
+    } else {
+        Result<QByteArray> bytes = encodeText(joined(utf8Pieces), format);
+        if (!bytes)
+            return bytes.error();
+        encoded = std::move(bytes).value();
+        pieces.push_back(encoded);
+    }
+    if (Result<void> kept = keepUnseenVersion(path); !kept)
+        return kept;
+    Result<void> written = m_files.write(path, pieces);
+    if (written)
+        m_seen[QDir::cleanPath(path)] = m_files.signature(path);
+    return written;
+}
+
+Result<void> DocumentFile::keepUnseenVersion(const QString &path)
+{
+    const auto seen = m_seen.constFind(QDir::cleanPath(path));
+    const FileSignature onDisk = m_files.signature(path);
+    if (seen == m_seen.constEnd() || !onDisk.exists || *seen == onDisk)
+        return {};
+    const auto refused = [&](const Error &error) {
+        return Error{error.code, u"The file \""_s + path
+                                     + u"\" was not saved, because the version on the disk, which is not the one that was "
+                                       u"opened, could not be kept. "_s
+                                     + error.sentence};
+    };
+    Result<QByteArray> bytes = m_files.read(path);
+    if (!bytes)
+        return refused(bytes.error());
+    if (const Result<QString> copy = m_recovery.keepDisk(path, bytes.value()); !copy)
+        return refused(copy.error());
+    return {};
+}
+
+} // namespace zephira

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/privateprofile.h"
+
+#include "files/textfile.h"
+#include "files/utf8.h"
+
+#include <QStringConverter>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+QByteArrayView withoutBlanks(QByteArrayView bytes)
+{
+    while (bytes.startsWith(' '))
+        bytes = bytes.sliced(1);
+    while (bytes.endsWith(' '))
+        bytes.chop(1);
+    return bytes;
+}
+
+bool isQuoted(QByteArrayView value)
+{
+    return value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
+}
+
+/// A line, or what of it means something. All views are into the profile.
+struct Line {
+    enum class Kind { Other, Blank, Section, Key };
+    Kind kind = Kind::Other;
+    QByteArrayView name = {};
+    /// Behind the "=", blanks and quotes included.
+    QByteArrayView value = {};
+    /// Behind the line's own end.
+    const char *next = nullptr;
+};
+
+/// Takes a profile apart line by line.
+class Lines
+{
+public:
+    explicit Lines(QByteArrayView profile) : m_next(profile.begin()), m_end(profile.end())
+    {
+        if (profile.startsWith("\xEF\xBB\xBF"))
+            m_next += 3;
+    }
+
+    bool atEnd() const { return m_next == m_end; }
+    Line take();
+
+private:
+    static Line read(QByteArrayView text);
+
+    const char *m_next;
+    const char *m_end;
+};
+
+Line Lines::take()
+{
+    const char *stop = std::find_if(m_next, m_end, [](char c) { return c == '\r' || c == '\n'; });
+    Line line = read({m_next, stop - m_next});
+    if (m_end - stop >= 2 && stop[0] == '\r' && stop[1] == '\n')
+        ++stop;
+    m_next = stop == m_end ? stop : stop + 1;
+    line.next = m_next;
+    return line;
+}
+
+Line Lines::read(QByteArrayView text)
+{
+    const QByteArrayView trimmed = withoutBlanks(text);
+    if (trimmed.isEmpty())
+        return {Line::Kind::Blank};
+    if (trimmed.front() == '[') {
+        const qsizetype close = trimmed.indexOf(']');
+        return close < 0 ? Line() : Line{Line::Kind::Section, withoutBlanks(trimmed.sliced(1, close - 1))};
+    }
+    const qsizetype equals = text.indexOf('=');
+    if (trimmed.front() == ';' || equals < 0)
+        return {};
+    return {Line::Kind::Key, withoutBlanks(text.first(equals)), text.sliced(equals + 1)};
+}
+
+/// A name to compare others with. Nearly all names are ASCII, which needs no conversion.
+class Name
+{
+public:
+    explicit Name(const QString &name) : m_bytes(withoutBlanks(name.toUtf8()).toByteArray()), m_name(QString::fromUtf8(m_bytes)) {}
+
+    const QByteArray &bytes() const { return m_bytes; }
+    bool matches(QByteArrayView other) const
+    {
+        if (m_bytes.size() == m_name.size())
+            return other.compare(m_bytes, Qt::CaseInsensitive) == 0;
+        return QString::fromUtf8(other).compare(m_name, Qt::CaseInsensitive) == 0;
+    }
+    /// Whether the name can be written without becoming something else when it is read.
+    bool avoids(QByteArrayView characters) const
+    {
+        return std::none_of(m_bytes.begin(), m_bytes.end(), [&](char c) { return c == '\0' || characters.contains(c); });
+    }
+
+private:
+    QByteArray m_bytes;
+    QString m_name;
+};
+
+/// Where a value stands, or where it would have to go.
+struct Place {
+    bool sectionFound = false;
+    std::optional<QByteArrayView> value;
+    /// Behind the section's last line that isn't blank.
+    const char *sectionEnd = nullptr;
+};
+
+Place find(QByteArrayView profile, const Name &section, const Name &key)
+{
+    Place place;
+    Lines lines(profile);
+    while (!lines.atEnd()) {
+        const Line line = lines.take();
+        if (line.kind == Line::Kind::Section) {
+            if (place.sectionFound)
+                break;
+            place.sectionFound = section.matches(line.name);
+        } else if (place.sectionFound && line.kind == Line::Kind::Key && key.matches(line.name)) {
+            place.value = line.value;
+            break;
+        }
+        if (place.sectionFound && line.kind != Line::Kind::Blank)
+            place.sectionEnd = line.next;
+    }
+    return place;
+}
+
+QString readValue(QByteArrayView raw)
+{
+    QByteArrayView value = withoutBlanks(raw);
+    if (isQuoted(value))
+        value = value.sliced(1, value.size() - 2);
+    if (!isValidUtf8(value))
+        return QString::fromUtf8(windows1252ToUtf8(value));
+    // A value is no file: what looks like a byte order mark at its start belongs to it.
+    return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom)(value);
+}
+
+QByteArray writtenValue(const QString &value)
+{
+    QByteArray bytes = value.toUtf8();
+    bytes.replace("\r\n", " ");
+    std::replace_if(bytes.begin(), bytes.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+    if (bytes.startsWith(' ') || bytes.endsWith(' ') || isQuoted(bytes))
+        return '"' + bytes + '"';
+    return bytes;
+}
+
+/// The line end that the profile's first line has.
+QByteArray lineEndOf(QByteArrayView profile)
+{
+    const auto end = std::find_if(profile.begin(), profile.end(), [](char c) { return c == '\r' || c == '\n'; });
+    if (end == profile.end() || (*end == '\r' && end + 1 != profile.end() && end[1] == '\n'))
+        return "\r\n";
+    return QByteArray(1, *end);
+}
+
+} // namespace
+
+std::optional<QString> profileValue(QByteArrayView profile, const QString &section, const QString &key)
+{
+    const Place place = find(profile, Name(section), Name(key));
+    return place.value ? std::optional(readValue(*place.value)) : std::nullopt;
+}
+
+std::optional<QByteArray> withProfileValue(const QByteArray &profile, const QString &section, const QString &key,
+                                           const QString &value)
+{
+    const Name sectionName(section);
+    const Name keyName(key);
+    if (!sectionName.avoids("\r\n]") || !keyName.avoids("\r\n=") || keyName.bytes().isEmpty()
+        || keyName.bytes().startsWith(';') || keyName.bytes().startsWith('['))
+        return {};
+
+    const Place place = find(profile, sectionName, keyName);
+    const QByteArray written = writtenValue(value);
+    QByteArray result = profile;
+    if (place.value) {
+        // The blanks behind the "=" are the writer's style and stay.
+        QByteArrayView old = *place.value;
+        while (old.startsWith(' '))
+            old = old.sliced(1);
+        return result.replace(old.begin() - profile.constData(), old.size(), written);
+    }
+    const QByteArray lineEnd = lineEndOf(profile);
+    QByteArray added = keyName.bytes() + '=' + written + lineEnd;
+    if (!place.sectionFound)
+        added.prepend('[' + sectionName.bytes() + ']' + lineEnd);
+    const qsizetype position = place.sectionFound ? place.sectionEnd - profile.constData() : profile.size();
+    // A last line without an end gets one, unless there is no line at all.
+    const bool continues = position > 0 && profile[position - 1] != '\n' && profile[position - 1] != '\r';
+    if (continues && profile != "\xEF\xBB\xBF")
+        added.prepend(lineEnd);
+    return result.insert(position, added);
+}
+
+std::vector<ProfileEntry> profileEntries(QByteArrayView profile)
+{
+    std::vector<ProfileEntry> entries;
+    QString section;
+    Lines lines(profile);
+    while (!lines.atEnd()) {
+        const Line line = lines.take();
+        if (line.kind == Line::Kind::Section)
+            section = QString::fromUtf8(line.name);
+        else if (line.kind == Line::Kind::Key)
+            entries.push_back({section, QString::fromUtf8(line.name), readValue(line.value)});
+    }
+    return entries;
+}
+
+} // namespace zephira

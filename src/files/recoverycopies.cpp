@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/recoverycopies.h"
+
+#include "controls/clock.h"
+#include "files/fileerror.h"
+#include "files/filestore.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <cerrno>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr int keptVersions = 50;
+constexpr int ownerOnly = 0600;
+/// Leaves room in a file name of 255 bytes for the mark in front.
+constexpr qsizetype maximumBaseName = 180;
+
+/// Time and process; in universal time, so that names in order of the alphabet are in order of their age.
+QString stamp(const Clock &clock)
+{
+    return clock.now().toUTC().toString(u"yyyyMMdd-HHmmss-zzz"_s) + u'-' + QString::number(QCoreApplication::applicationPid());
+}
+
+/// The end of the file's name, as it holds the extension, cut between characters.
+QString baseName(const QString &titleOrPath)
+{
+    QString name = titleOrPath.sliced(titleOrPath.lastIndexOf(u'/') + 1);
+    name.replace(QChar(u'\0'), QChar(u'_'));
+    while (name.toUtf8().size() > maximumBaseName)
+        name.remove(0, name.size() > 1 && name[0].isHighSurrogate() ? 2 : 1);
+    return name;
+}
+
+} // namespace
+
+RecoveryCopies::RecoveryCopies(QString folder, FileStore &files, const Clock &clock)
+    : m_folder(std::move(folder)), m_files(files), m_clock(clock), m_ownPrefix(u"open-"_s + stamp(clock) + u'-')
+{
+}
+
+Result<QString> RecoveryCopies::keepDisk(const QString &path, QByteArrayView bytes)
+{
+    if (Result<void> made = makeFolder(); !made)
+        return made.error();
+    const QString start = m_folder + u"/disk-"_s + stamp(m_clock) + u'-';
+    QString copy;
+    do {
+        copy = start + QString::number(++m_counter).rightJustified(3, u'0') + u'-' + baseName(path);
+    } while (m_files.signature(copy).exists);
+    if (Result<void> written = m_files.write(copy, bytes, ownerOnly); !written)
+        return written.error();
+    removeOldest(copy);
+    return copy;
+}
+
+Result<void> RecoveryCopies::write(const QString &titleOrPath, std::span<const QByteArrayView> pieces)
+{
+    if (Result<void> made = makeFolder(); !made)
+        return made;
+    const QString copy = m_folder + u'/' + m_ownPrefix + baseName(titleOrPath);
+    if (Result<void> written = m_files.write(copy, pieces, ownerOnly); !written)
+        return written;
+    // The document may bear another name by now; the copy under its old one goes when the new one is safe.
+    if (m_own != copy)
+        removeOwn();
+    m_own = copy;
+    return {};
+}
+
+void RecoveryCopies::removeOwn()
+{
+    // What can't be removed stays known, so that the next try may succeed.
+    if (!m_own.isEmpty() && (m_files.remove(m_own) || !m_files.signature(m_own).exists))
+        m_own.clear();
+}
+
+Result<void> RecoveryCopies::makeFolder() const
+{
+    const QByteArray name = QFile::encodeName(m_folder);
+    QDir().mkpath(QFileInfo(m_folder).path());
+    struct stat status = {};
+    if (mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
+        return saveError(m_folder, errno);
+    // A folder that was there before may be open to others.
+    if (stat(name.constData(), &status) != 0 || ((status.st_mode & 077) != 0 && chmod(name.constData(), 0700) != 0))
+        return saveError(m_folder, errno);
+    return {};
+}
+
+void RecoveryCopies::removeOldest(const QString &newest) const
+{
+    const QDir folder(m_folder);
+    QStringList copies = folder.entryList({u"disk-*"_s}, QDir::Files | QDir::Hidden, QDir::Name);
+    // Not even a clock that was set back lets the copy go that was just made.
+    copies.removeOne(QFileInfo(newest).fileName());
+    for (qsizetype i = 0; i < copies.size() - (keptVersions - 1); ++i)
+        static_cast<void>(m_files.remove(folder.filePath(copies[i])));
+}
+
+} // namespace zephira

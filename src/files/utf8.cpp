@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/utf8.h"
+
+#include <cstring>
+
+namespace zephira {
+
+namespace {
+
+/// Steps over plain ASCII, in large strides first.
+const char *skipAscii(const char *next, const char *end)
+{
+    constexpr quint64 highBits = 0x8080808080808080;
+    while (end - next >= 32) {
+        quint64 words[4];
+        std::memcpy(words, next, sizeof words);
+        if (((words[0] | words[1] | words[2] | words[3]) & highBits) != 0)
+            break;
+        next += sizeof words;
+    }
+    while (end - next >= 8) {
+        quint64 word;
+        std::memcpy(&word, next, sizeof word);
+        if ((word & highBits) != 0)
+            break;
+        next += sizeof word;
+    }
+    while (next != end && static_cast<unsigned char>(*next) < 0x80)
+        ++next;
+    return next;
+}
+
+} // namespace
+
+std::optional<char32_t> Utf8Reader::next()
+{
+    if (m_next == m_end)
+        return {};
+    const auto byte = [this](qsizetype index) { return static_cast<unsigned char>(m_next[index]); };
+    const unsigned char lead = byte(0);
+    if (lead < 0x80) {
+        ++m_next;
+        return lead;
+    }
+    const qsizetype length = lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    if (length == 0 || m_end - m_next < length)
+        return {};
+    char32_t value = lead & (0x7F >> length);
+    for (qsizetype i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0) != 0x80)
+            return {};
+        value = value << 6 | (byte(i) & 0x3F);
+    }
+    constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    if (value < smallest[length] || value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
+        return {};
+    m_next += length;
+    return value;
+}
+
+bool isValidUtf8(QByteArrayView bytes)
+{
+    const char *next = bytes.begin();
+    while ((next = skipAscii(next, bytes.end())) != bytes.end()) {
+        Utf8Reader reader({next, bytes.end() - next});
+        // Beyond the first foreign letter more of them are likely, so the run is read letter by letter.
+        while (!reader.atEnd() && static_cast<unsigned char>(*reader.rest().begin()) >= 0x80) {
+            if (!reader.next())
+                return false;
+        }
+        next = reader.rest().begin();
+    }
+    return true;
+}
+
+char *putUtf8(char *out, char32_t codePoint)
+{
+    const auto put = [&](char32_t byte) { *out++ = static_cast<char>(byte); };
+    const auto putTail = [&](int shift) { put(0x80 | (codePoint >> shift & 0x3F)); };
+    if (codePoint < 0x80) {
+        put(codePoint);
+    } else if (codePoint < 0x800) {
+        put(0xC0 | codePoint >> 6);
+        putTail(0);
+    } else if (codePoint < 0x10000) {
+        put(0xE0 | codePoint >> 12);
+        putTail(6);
+        putTail(0);
+    } else {
+        put(0xF0 | codePoint >> 18);
+        putTail(12);
+        putTail(6);
+        putTail(0);
+    }
+    return out;
+}
+
+} // namespace zephira

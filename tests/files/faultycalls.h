@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "files/filesystemcalls.h"
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+namespace zephira {
+
+/// The real calls, counted from 0, until a test intervenes at one of them.
+class FaultyCalls final : public FileSystemCalls
+{
+public:
+    /// Asked at each call with its number and kind; an errno that it gives is what the call fails with.
+    std::function<int(int, Call)> intervene = [](int, Call) { return 0; };
+    /// Bytes that one write takes at most.
+    std::size_t writeLimit = static_cast<std::size_t>(-1);
+
+    int count() const { return static_cast<int>(m_made.size()); }
+    /// The kinds of the calls made so far, in their order.
+    const std::vector<Call> &made() const { return m_made; }
+
+protected:
+    int fault(Call call) override
+    {
+        m_made.push_back(call);
+        return intervene(count() - 1, call);
+    }
+    std::size_t allowance(std::size_t wanted) override { return std::min(wanted, writeLimit); }
+
+private:
+    std::vector<Call> m_made;
+};
+
+} // namespace zephira

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/appfolder.h"
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+void put(const QString &path, const QByteArray &content)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can't be read)");
+}
+
+uint modeOf(const QString &path)
+{
+    struct stat status = {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777u : 0u;
+}
+
+/// For its lifetime the question of what may be written is answered as for a user without rights, even if the superuser
+/// asks it; what is done is done with the rights that there are.
+class WithoutPrivileges
+{
+public:
+    WithoutPrivileges()
+    {
+        if (m_wasSuperuser)
+            QVERIFY(::setreuid(nobody, 0) == 0);
+    }
+    ~WithoutPrivileges()
+    {
+        if (m_wasSuperuser && ::setreuid(0, 0) != 0)
+            qFatal("the superuser's rights did not come back");
+    }
+    Q_DISABLE_COPY_MOVE(WithoutPrivileges)
+
+private:
+    static constexpr uid_t nobody = 65534;
+    const bool m_wasSuperuser = ::geteuid() == 0;
+};
+
+} // namespace
+
+class TstAppFolder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void portable();
+    void portableOfAnotherUser();
+    void executableFolderWithoutConfiguration();
+    void firstStartFills();
+    void existingFilesStay();
+    void filledFolderIsLeftAlone();
+    void interruptedFillGoesOn();
+    void missingDataIsAnError();
+    void placeTakenByAFile();
+    void scratchIsMade();
+    void scratchIsNarrowed();
+    void scratchRefusesALink();
+    void scratchRefusesAFile();
+
+private:
+    QString at(const QString &name) const { return m_folder->path() + u'/' + name; }
+    Result<QString> prepare() const { return prepareAppPath(at(u"bin"_s), at(u"share"_s), at(u"home"_s)); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TstAppFolder::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir().mkpath(at(u"bin"_s)));
+    put(at(u"share/zephira.ini"_s), "[Startup]\r\nselprj=0\r\n");
+    put(at(u"share/readme.txt"_s), "Read me");
+    put(at(u"share/templates/blank.html"_s), "<html>");
+    QVERIFY(QDir().mkpath(at(u"share/templates/custom"_s)));
+    QVERIFY(QFile::setPermissions(at(u"share/readme.txt"_s), QFile::ReadOwner | QFile::ReadOther));
+}
+
+void TstAppFolder::portable()
+{
+    put(at(u"bin/zephira.ini"_s), "");
+    const Result<QString> path = prepare();
+    QVERIFY(path.ok());
+    QCOMPARE(path.value(), at(u"bin"_s));
+    QVERIFY(!QFileInfo::exists(at(u"home"_s)));
+}
+
+void TstAppFolder::portableOfAnotherUser()
+{
+    put(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
+    put(at(u"bin/zephira"_s), "program");
+    put(at(u"bin/zephiraweb.so"_s), "module");
+    put(at(u"bin/templates/blank.html"_s), "<body>");
+    put(at(u"bin/templates/tool.so"_s), "data");
+    QVERIFY(QFile::setPermissions(at(u"bin/zephira"_s), QFile::Permissions::fromInt(0x5555)));
+    QVERIFY(QFile::setPermissions(at(u"bin"_s), QFile::Permissions::fromInt(0x5555)));
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions::fromInt(0x7755)));
+    {
+        const WithoutPrivileges withoutPrivileges;
+        const Result<QString> path = prepare();
+        QVERIFY2(path.ok(), path.ok() ? "" : qPrintable(path.error().sentence));
+        QCOMPARE(path.value(), at(u"home/zephira"_s));
+    }
+    QVERIFY(QFile::setPermissions(at(u"bin"_s), QFile::Permissions::fromInt(0x7755)));
+    QCOMPARE(contentOf(at(u"home/zephira/zephira.ini"_s)), "[Startup]\r\n");
+    QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<body>");
+    QCOMPARE(contentOf(at(u"home/zephira/templates/tool.so"_s)), "data");
+    QVERIFY(!QFileInfo::exists(at(u"home/zephira/zephira"_s)));
+    QVERIFY(!QFileInfo::exists(at(u"home/zephira/zephiraweb.so"_s)));
+    QVERIFY(!QFileInfo::exists(at(u"home/zephira/readme.txt"_s)));
+}
+
+void TstAppFolder::executableFolderWithoutConfiguration()
+{
+    const Result<QString> path = prepare();
+    QVERIFY(path.ok());
+    QCOMPARE(path.value(), at(u"home/zephira"_s));
+}
+
+void TstAppFolder::firstStartFills()
+{
+    QVERIFY(prepare().ok());
+    QCOMPARE(contentOf(at(u"home/zephira/zephira.ini"_s)), "[Startup]\r\nselprj=0\r\n");
+    QCOMPARE(contentOf(at(u"home/zephira/readme.txt"_s)), "Read me");
+    QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<html>");
+    QVERIFY(QFileInfo(at(u"home/zephira/templates/custom"_s)).isDir());
+    // A file that was installed read-only can be changed in the user's folder.
+    QCOMPARE(modeOf(at(u"home/zephira/readme.txt"_s)), 0600u);
+    QCOMPARE(modeOf(at(u"home/zephira"_s)), 0700u);
+    QCOMPARE(modeOf(at(u"home/zephira/templates/custom"_s)), 0700u);
+}
+
+void TstAppFolder::existingFilesStay()
+{
+    put(at(u"home/zephira/readme.txt"_s), "Mine");
+    QVERIFY(prepare().ok());
+    QCOMPARE(contentOf(at(u"home/zephira/readme.txt"_s)), "Mine");
+    QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<html>");
+}
+
+void TstAppFolder::filledFolderIsLeftAlone()
+{
+    QVERIFY(prepare().ok());
+    QVERIFY(QFile::remove(at(u"home/zephira/templates/blank.html"_s)));
+    QVERIFY(prepare().ok());
+    QVERIFY(!QFileInfo::exists(at(u"home/zephira/templates/blank.html"_s)));
+}
+
+void TstAppFolder::interruptedFillGoesOn()
+{
+    QVERIFY(prepare().ok());
+    QVERIFY(QFile::remove(at(u"home/zephira/zephira.ini"_s)));
+    QVERIFY(QFile::remove(at(u"home/zephira/templates/blank.html"_s)));
+    QVERIFY(prepare().ok());
+    QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<html>");
+    QVERIFY(QFileInfo::exists(at(u"home/zephira/zephira.ini"_s)));
+}
+
+void TstAppFolder::missingDataIsAnError()
+{
+    QVERIFY(QFile::remove(at(u"share/zephira.ini"_s)));
+    const Result<QString> path = prepare();
+    QVERIFY(!path.ok());
+    QCOMPARE(path.error().code, Error::Code::NotFound);
+    QCOMPARE(path.error().sentence,
+             u"Zephira can't start: there is no zephira.ini beside the program, and none in %1. Please install the program again."_s.arg(at(u"share"_s)));
+}
+
+void TstAppFolder::placeTakenByAFile()
+{
+    put(at(u"home"_s), "in the way");
+    const Result<QString> path = prepare();
+    QVERIFY(!path.ok());
+    QCOMPARE(path.error().code, Error::Code::Unwritable);
+    QVERIFY(path.error().sentence.startsWith(u"The folder %1/zephira can't be made: "_s.arg(at(u"home"_s))));
+}
+
+void TstAppFolder::scratchIsMade()
+{
+    const Result<QString> folder = scratchFolder(at(u"cache"_s));
+    QVERIFY(folder.ok());
+    QCOMPARE(folder.value(), at(u"cache/zephira/scratch"_s));
+    QCOMPARE(modeOf(folder.value()), 0700u);
+    // Once made, it is the same at every start.
+    QCOMPARE(scratchFolder(at(u"cache"_s)).valueOr(u"?"_s), folder.value());
+}
+
+void TstAppFolder::scratchIsNarrowed()
+{
+    QVERIFY(QDir().mkpath(at(u"cache/zephira/scratch"_s)));
+    QCOMPARE(::chmod(QFile::encodeName(at(u"cache/zephira/scratch"_s)).constData(), 0777), 0);
+    QVERIFY(scratchFolder(at(u"cache"_s)).ok());
+    QCOMPARE(modeOf(at(u"cache/zephira/scratch"_s)), 0700u);
+}
+
+void TstAppFolder::scratchRefusesALink()
+{
+    QVERIFY(QDir().mkpath(at(u"cache/zephira"_s)));
+    QVERIFY(QDir().mkpath(at(u"elsewhere"_s)));
+    QVERIFY(QFile::link(at(u"elsewhere"_s), at(u"cache/zephira/scratch"_s)));
+    const Result<QString> folder = scratchFolder(at(u"cache"_s));
+    QVERIFY(!folder.ok());
+    QCOMPARE(folder.error().code, Error::Code::Refused);
+}
+
+void TstAppFolder::scratchRefusesAFile()
+{
+    put(at(u"cache/zephira/scratch"_s), "");
+    const Result<QString> folder = scratchFolder(at(u"cache"_s));
+    QVERIFY(!folder.ok());
+    QCOMPARE(folder.error().code, Error::Code::Refused);
+}
+
+ZEPHIRA_TEST(TstAppFolder)
+#include "tst_appfolder.moc"

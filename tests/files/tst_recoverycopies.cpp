@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/recoverycopies.h"
+
+#include "controls/clock.h"
+#include "files/diskfilestore.h"
+#include "support/testregistry.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+class FixedClock final : public Clock
+{
+public:
+    QDateTime time = QDateTime(QDate(2024, 2, 29), QTime(12, 0), Qt::UTC);
+    QDateTime now() const override { return time; }
+};
+
+mode_t modeOf(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+const QString process = QString::number(QCoreApplication::applicationPid());
+
+} // namespace
+
+class TstRecoveryCopies : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_parent;
+    DiskFileStore m_files;
+    FixedClock m_clock;
+
+    QString folder() const { return m_parent->filePath(u"data/recovery"_s); }
+    QStringList names() const { return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    QByteArray content(const QString &name) const { return m_files.read(folder() + u'/' + name).valueOr("<unreadable>"); }
+    static Result<void> write(RecoveryCopies &copies, const QString &title, QByteArrayView text)
+    {
+        return copies.write(title, {&text, 1});
+    }
+
+private slots:
+    void init()
+    {
+        m_parent = std::make_unique<QTemporaryDir>();
+        m_clock = FixedClock();
+    }
+
+    void nothingIsMadeBeforeItIsNeeded()
+    {
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        copies.removeOwn();
+        QVERIFY(!QFile::exists(folder()));
+        QCOMPARE(copies.ownCopy(), QString());
+    }
+
+    void onlyTheUserSeesThem()
+    {
+        const mode_t mask = umask(0);
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        const Result<QString> disk = copies.keepDisk(u"/home/me/a.htm"_s, "x");
+        const bool written = write(copies, u"/home/me/a.htm"_s, "y").ok();
+        umask(mask);
+        QVERIFY(disk && written);
+        QCOMPARE(modeOf(folder()), mode_t(0700));
+        QCOMPARE(modeOf(disk.value()), mode_t(0600));
+        QCOMPARE(modeOf(copies.ownCopy()), mode_t(0600));
+    }
+
+    void anOpenFolderIsClosed()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        QCOMPARE(chmod(QFile::encodeName(folder()).constData(), 0755), 0);
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        QVERIFY(write(copies, u"a"_s, "x"));
+        QCOMPARE(modeOf(folder()), mode_t(0700));
+    }
+
+    void diskCopiesAreNeverOverwritten()
+    {
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        RecoveryCopies others(folder(), m_files, m_clock);
+        QVERIFY(copies.keepDisk(u"/home/me/a.htm"_s, "one"));
+        QVERIFY(copies.keepDisk(u"/home/me/a.htm"_s, "two"));
+        QVERIFY(others.keepDisk(u"/elsewhere/a.htm"_s, "three"));
+        const QString start = u"disk-20240229-120000-000-"_s + process;
+        QCOMPARE(names(), (QStringList{start + u"-001-a.htm"_s, start + u"-002-a.htm"_s, start + u"-003-a.htm"_s}));
+        QCOMPARE(content(names()[0]), QByteArray("one"));
+        QCOMPARE(content(names()[1]), QByteArray("two"));
+        QCOMPARE(content(names()[2]), QByteArray("three"));
+    }
+
+    void newestFiftyAreKept()
+    {
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        QVERIFY(write(copies, u"own"_s, "stays"));
+        for (int i = 0; i < 60; ++i) {
+            m_clock.time = m_clock.time.addSecs(1);
+            QVERIFY(copies.keepDisk(u"a"_s, QByteArray::number(i)));
+        }
+        QCOMPARE(names().size(), 51);
+        QCOMPARE(content(names().first()), QByteArray("10"));
+        QCOMPARE(content(names()[49]), QByteArray("59"));
+        QCOMPARE(copies.ownCopy(), folder() + u'/' + names().last());
+        // A clock that was set back doesn't cost the newest copy.
+        m_clock.time = m_clock.time.addYears(-1);
+        const Result<QString> copy = copies.keepDisk(u"a"_s, "late");
+        QCOMPARE(m_files.read(copy.value()).value(), QByteArray("late"));
+        QCOMPARE(names().size(), 51);
+    }
+
+    void oneFileAProcess()
+    {
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        m_clock.time = m_clock.time.addMSecs(1);
+        RecoveryCopies second(folder(), m_files, m_clock);
+        QVERIFY(write(copies, u"New Document"_s, "one"));
+        QVERIFY(write(copies, u"New Document"_s, "two"));
+        QVERIFY(write(second, u"New Document"_s, "other"));
+        QCOMPARE(names(), (QStringList{u"open-20240229-120000-000-"_s + process + u"-New Document"_s,
+                                       u"open-20240229-120000-001-"_s + process + u"-New Document"_s}));
+        QCOMPARE(content(names()[0]), QByteArray("two"));
+        QCOMPARE(content(names()[1]), QByteArray("other"));
+        // Another name for the document takes the copy along.
+        QVERIFY(write(copies, u"/home/me/a.htm"_s, "three"));
+        QCOMPARE(names(), (QStringList{u"open-20240229-120000-000-"_s + process + u"-a.htm"_s,
+                                       u"open-20240229-120000-001-"_s + process + u"-New Document"_s}));
+        copies.removeOwn();
+        QCOMPARE(names().size(), 1);
+        QCOMPARE(copies.ownCopy(), QString());
+        second.removeOwn();
+        QCOMPARE(names(), QStringList());
+    }
+
+    void piecesAreJoined()
+    {
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        const QByteArrayView pieces[] = {"one ", "two"};
+        QVERIFY(copies.write(u"a"_s, pieces));
+        QCOMPARE(content(names().first()), QByteArray("one two"));
+    }
+
+    void awkwardNames_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("longest") << u"/x/"_s + QString(251, u'n') + u".htm"_s;
+        QTest::newRow("long in bytes") << u"/x/"_s + u"\U0001F600"_s.repeated(60) + u".htm"_s;
+        QTest::newRow("ends in a separator") << u"/x/"_s;
+        QTest::newRow("empty") << u""_s;
+        QTest::newRow("NUL") << u"/x/a"_s + QChar(u'\0') + u"b"_s;
+        QTest::newRow("dots") << u"/x/.."_s;
+    }
+
+    void awkwardNames()
+    {
+        QFETCH(QString, path);
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        QVERIFY(write(copies, path, "text"));
+        QVERIFY(copies.keepDisk(path, "disk"));
+        QCOMPARE(names().size(), 2);
+        QCOMPARE(content(names()[0]), QByteArray("disk"));
+        QCOMPARE(content(names()[1]), QByteArray("text"));
+    }
+
+    void failureIsTold()
+    {
+        QFile blocked(m_parent->filePath(u"data"_s));
+        QVERIFY(blocked.open(QIODevice::WriteOnly));
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        const QString sentence = u"The file \"%1\" could not be saved: a part of its path is not a folder."_s.arg(folder());
+        QCOMPARE(copies.keepDisk(u"a"_s, "x").error().sentence, sentence);
+        QCOMPARE(write(copies, u"a"_s, "x").error().sentence, sentence);
+        QCOMPARE(copies.ownCopy(), QString());
+    }
+};
+
+ZEPHIRA_TEST(TstRecoveryCopies)
+
+} // namespace zephira
+
+#include "tst_recoverycopies.moc"
