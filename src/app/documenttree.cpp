@@ -2,7 +2,7 @@
 #include "app/documenttree.h"
 
 #include "app/documentwindow.h"
-#include "controls/scintilla/codemax.h"
+#include "editor/codemax.h"
 #include "panes/outlinetree.h"
 #include "panes/sidepane.h"
 #include "panes/tagplace.h"

@@ -22,7 +22,7 @@
 #include "controls/inserttext.h"
 #include "controls/modalformopener.h"
 #include "controls/quickviewer.h"
-#include "controls/scintilla/codemax.h"
+#include "editor/codemax.h"
 #include "panes/droppedfile.h"
 #include "panes/filepane.h"
 #include "panes/selectorlist.h"

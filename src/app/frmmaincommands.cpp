@@ -14,7 +14,7 @@
 #include "controls/inserttext.h"
 #include "controls/modalformopener.h"
 #include "controls/quickviewer.h"
-#include "controls/scintilla/codemax.h"
+#include "editor/codemax.h"
 #include "controls/settingsnames.h"
 #include "controls/shell.h"
 #include "panes/filepane.h"

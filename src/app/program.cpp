@@ -19,7 +19,7 @@
 #include "files/recoverycopies.h"
 #include "files/usersettings.h"
 #include "controls/formcatalogue.h"
-#include "controls/scintilla/codemax.h"
+#include "editor/codemax.h"
 #include "ftp/ftpclient.h"
 #include "ftp/net/netoperations.h"
 #include "ftp/registerforms.h"

@@ -5,7 +5,7 @@
 #include "controls/clock.h"
 #include "controls/designer.h"
 #include "files/recoverycopies.h"
-#include "controls/scintilla/codemax.h"
+#include "editor/codemax.h"
 
 #include <array>
 

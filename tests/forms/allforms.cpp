@@ -4,7 +4,7 @@
 #include "controls/clock.h"
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
-#include "controls/scintilla/codemax.h"
+#include "editor/codemax.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
 #include "ftp/registerforms.h"

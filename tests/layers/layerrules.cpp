@@ -22,7 +22,7 @@ struct Rule {
 };
 
 constexpr Rule includeRules[] = {
-    {uR"(^<Qsci/)", u"controls/scintilla/", u"only controls/scintilla includes QScintilla"},
+    {uR"(^<Qsci/)", u"editor/", u"only editor includes QScintilla"},
     {uR"(^<(QWeb|QtWeb))", u"controls/webengine/", u"only controls/webengine includes the web engine"},
     {uR"(^<curl/)", u"views/fetch/", u"only the web viewer's fetch includes libcurl"},
     {uR"(^<tidy)", u"controls/ tools/", u"only the tools include tidy"},

@@ -78,8 +78,8 @@ private slots:
             u"app/main.cpp:3: no folder includes another one's form"_s);
         row("a form of one's own", u"wizards/registerforms.cpp"_s, u"#include \"wizards/frma.h\"\n"_s, {});
         row("the editing widget", u"app/a.cpp"_s, u"#include <Qsci/qsciscintilla.h>\n"_s,
-            u"app/a.cpp:2: only controls/scintilla includes QScintilla"_s);
-        row("the editing widget at home", u"controls/scintilla/a.cpp"_s, u"#include <Qsci/qsciscintilla.h>\n"_s, {});
+            u"app/a.cpp:2: only editor includes QScintilla"_s);
+        row("the editing widget at home", u"editor/a.cpp"_s, u"#include <Qsci/qsciscintilla.h>\n"_s, {});
         row("the web engine", u"views/a.cpp"_s, u"#include <QWebEngineView>\n"_s,
             u"views/a.cpp:2: only controls/webengine includes the web engine"_s);
         row("the program from below", u"panes/a.cpp"_s, u"#include \"app/document.h\"\n"_s,

@@ -6,7 +6,7 @@
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
 #include "controls/formcatalogue.h"
-#include "controls/scintilla/codemax.h"
+#include "editor/codemax.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
 #include "controls/webviews.h"

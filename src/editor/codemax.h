@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/editingcontrol.h"
+#include "files/documentfile.h"
+#include "files/textfile.h"
+#include "editor/editoroptions.h"
+#include "editor/sciengine.h"
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <QFont>
+#include <QPointer>
+#include <QVariantMap>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QAccessibleEvent;
+
+namespace zephira {
+
+class BraceMatcher;
+class CodeMaxGlobals;
+class EditorAppearance;
+class EditorMargins;
+class EditorPrinter;
+class EditorSearch;
+class FileStore;
+class FindDialog;
+class GoToDialog;
+class IdleColouring;
+class PropertiesDialog;
+class RecoveryCopies;
+
+/// What the editing control stands on. All of it outlives the control.
+struct EditorServices {
+    FileStore &files;
+    RecoveryCopies &recovery;
+    Prompts &prompts;
+};
+
+/// The editing control. C++ code drives it through EditingControl; scripts, tests and other outside code through the
+/// properties and operations below, by name. The buffer holds UTF-8 with the file's own line ends, while Text and SelText
+/// always speak CR LF (a text with mixed line ends comes as it is). Lines and columns count from 0, columns and lengths
+/// in UTF-16 code units.
+class CodeMax : public QsciScintillaBase, public EditingControl
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Text READ text WRITE setText NOTIFY Change)
+    Q_PROPERTY(QString SelText READ selText WRITE setSelText NOTIFY SelChange)
+    Q_PROPERTY(int SelLength READ selLength NOTIFY SelChange)
+    Q_PROPERTY(QString Language READ language WRITE setLanguage)
+    Q_PROPERTY(int LineCount READ lineCount NOTIFY Change)
+    Q_PROPERTY(QString CurrentWord READ currentWord NOTIFY SelChange)
+    Q_PROPERTY(bool DisplayWhitespace READ displayWhitespace WRITE setDisplayWhitespace)
+    Q_PROPERTY(bool DisplayLeftMargin READ displayLeftMargin WRITE setDisplayLeftMargin)
+    Q_PROPERTY(bool LineNumbering READ lineNumbering WRITE setLineNumbering)
+    Q_PROPERTY(bool SelBounds READ selBounds WRITE setSelBounds)
+    Q_PROPERTY(bool EnableDragDrop READ enableDragDrop WRITE setEnableDragDrop)
+    Q_PROPERTY(int HighlightedLine READ highlightedLine WRITE setHighlightedLine)
+    Q_PROPERTY(bool CanUndo READ canUndo)
+    Q_PROPERTY(bool CanRedo READ canRedo)
+    Q_PROPERTY(bool CanCopy READ canCopy)
+    Q_PROPERTY(bool ReadOnly READ isReadOnly WRITE setReadOnly)
+    Q_PROPERTY(QFont Font READ textFont WRITE setTextFont)
+    Q_PROPERTY(bool Visible READ isVisible WRITE setVisible)
+
+public:
+    explicit CodeMax(EditorServices services, QWidget *parent = nullptr);
+    ~CodeMax() override;
+
+    /// Registered languages and hot keys of this control.
+    CodeMaxGlobals &globals() { return *m_globals; }
+
+    QString text() const override;
+    void setText(const QString &text) override;
+    int textLength() const override;
+    QString selText() const override;
+    void setSelText(const QString &text) override;
+    int selLength() const override;
+    QString currentWord() const override;
+    int lineCount() const override;
+    QString language() const override { return m_language; }
+    void setLanguage(const QString &name) override;
+
+    bool displayWhitespace() const override;
+    void setDisplayWhitespace(bool on) override;
+    bool displayLeftMargin() const override;
+    void setDisplayLeftMargin(bool on) override;
+    bool lineNumbering() const override;
+    void setLineNumbering(bool on) override;
+    bool selBounds() const override { return m_selBounds; }
+    void setSelBounds(bool on) override;
+    bool enableDragDrop() const override { return m_dragDrop; }
+    void setEnableDragDrop(bool on) override { m_dragDrop = on; }
+    int highlightedLine() const override;
+    void setHighlightedLine(int line) override;
+    FontChoice editorFont() const override;
+    void setEditorFont(const FontChoice &font) override;
+    QFont textFont() const;
+    void setTextFont(const QFont &font);
+
+    bool canUndo() const override;
+    bool canRedo() const override;
+    bool canCopy() const override;
+    /// A read-only control refuses typing and the editing commands; Text, SelText and OpenFile still work on it.
+    bool isReadOnly() const;
+    void setReadOnly(bool on);
+    /// Whether typed characters replace the ones under the caret.
+    bool overtype() const { return m_overtype; }
+    void setOvertype(bool on);
+
+    Result<void> openFile(const QString &path) override;
+    Result<void> saveFile(const QString &path, bool clearUndo) override;
+    /// How the document stands in its file: encoding, byte order mark, line ends.
+    const TextFormat &textFormat() const { return m_format; }
+    /// The document's bytes in UTF-8 with its own line ends, in two pieces that stay valid until the text changes.
+    std::array<QByteArrayView, 2> utf8Pieces() const;
+
+    CodeMaxRange selection(bool normalized) const override;
+    void select(const CodeMaxRange &range) override;
+
+    void setColor(int item, quint32 colour) override;
+    quint32 color(int item) const override;
+    void setFontStyle(int item, int style) override;
+    int fontStyle(int item) const override;
+    EditorOptions options() const { return m_options; }
+    void setOptions(const EditorOptions &options);
+
+    void undo() override;
+    void redo() override;
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void clearSelection() override;
+    void executeCmd(int command, int argument = -1) override;
+    /// Shows the print dialog and prints the whole text on the printer chosen there. `device` and `options` are those of
+    /// the call and change nothing.
+    void printContents(int device, int options) override;
+
+    // The operations by name.
+    Q_INVOKABLE bool OpenFile(const QString &path);
+    Q_INVOKABLE bool SaveFile(const QString &path, bool clearUndo = false);
+    Q_INVOKABLE QVariantMap GetSel(bool normalized) const;
+    Q_INVOKABLE void SetSel(int startLine, int startCol, int endLine, int endCol)
+    {
+        select({startLine, startCol, endLine, endCol});
+    }
+    Q_INVOKABLE void SetColor(int item, int colour) { setColor(item, static_cast<quint32>(colour)); }
+    Q_INVOKABLE int GetColor(int item) const { return static_cast<int>(color(item)); }
+    Q_INVOKABLE void SetFontStyle(int item, int style) { setFontStyle(item, style); }
+    Q_INVOKABLE int GetFontStyle(int item) const { return fontStyle(item); }
+    Q_INVOKABLE void Undo() { undo(); }
+    Q_INVOKABLE void Redo() { redo(); }
+    Q_INVOKABLE void Cut() { cut(); }
+    Q_INVOKABLE void Copy() { copy(); }
+    Q_INVOKABLE void Paste() { paste(); }
+    Q_INVOKABLE void ClearSelection() { clearSelection(); }
+    Q_INVOKABLE void ExecuteCmd(int command, const QVariant &argument = {});
+    Q_INVOKABLE void ExecuteCmd(int command, int argument) { executeCmd(command, argument); }
+    Q_INVOKABLE void PrintContents(int device, int options) { printContents(device, options); }
+    /// The sentence of the last operation that failed by returning false; empty after one that succeeded.
+    Q_INVOKABLE QString lastError() const { return m_lastError; }
+
+    /// The file that the document was last opened from or saved as, or "".
+    const QString &path() const { return m_path; }
+    /// Changes with every change of the text.
+    quint64 textVersion() const { return m_textVersion; }
+    /// The line end that the Enter key types: the text's own, of several kinds the most frequent.
+    LineEnds typedLineEnds() const;
+    /// Puts UTF-8 in the place of the bytes from start up to end.
+    void replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8);
+
+    // The parts, for the control's own dialogs and for whatever must look closer than the contract allows.
+    const SciEngine &engine() const { return m_engine; }
+    EditorAppearance &appearance() { return *m_appearance; }
+    EditorMargins &margins() { return *m_margins; }
+    IdleColouring &colouring() { return *m_colouring; }
+    EditorSearch &search();
+    EditorPrinter &printer();
+    /// Hears what assistive technology is told, in its place, and also while none is running.
+    void setAccessibleListener(std::function<void(QAccessibleEvent *)> listener) { m_listener = std::move(listener); }
+    Prompts &prompts() { return m_services.prompts; }
+    const EditorServices &services() const { return m_services; }
+    /// Runs something that changes text or selection as one action: Change and SelChange come once, at its end.
+    template<typename Action>
+    void perform(Action action)
+    {
+        ++m_actions;
+        action();
+        endAction();
+    }
+
+signals:
+    /// The text has changed; once for each write to Text or SelText, within the call, and once for each of the user's actions.
+    void Change();
+    /// The selection or the caret has moved.
+    void SelChange();
+    /// A context menu is asked for. Whoever shows one sets *handled, and the control shows none of its own.
+    void RClick(bool *handled);
+    /// Insert and overtype mode have been exchanged.
+    void OvertypeChanged(bool on);
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct FormatChange {
+        TextFormat before;
+        TextFormat after;
+    };
+    struct Insertion {
+        qsizetype position = 0;
+        qsizetype length = 0;
+    };
+    struct Selection {
+        qsizetype anchor = 0;
+        qsizetype caret = 0;
+        qsizetype count = 1;
+        qsizetype lines = 1;
+        friend bool operator==(const Selection &, const Selection &) = default;
+    };
+
+    void setUpEngine();
+    void connectEngine();
+    void endAction();
+    void noteChange();
+    void noteSelection();
+    void replaceDocument(QByteArrayView utf8);
+    qsizetype widthOfFirstLines() const;
+    void applyLineEnds();
+    void startNewFormat();
+    void formatChangeUndone(int index, bool undone);
+    CodeMaxRange toRange(qsizetype start, qsizetype end) const;
+    qsizetype toPosition(int line, int column) const;
+    Result<void> store(const QString &path, bool becomesDocument);
+    void showSelectionBounds();
+    void showStrikethrough();
+    void showBraces();
+    void beforeEdit(int position, int type, int length);
+    void settleInsertion();
+    bool isListenedTo() const;
+    void tell(QAccessibleEvent &event);
+    void runCommand(int command);
+    void type(QKeyEvent *event);
+    void indentNewLine();
+    void toggleFold();
+    void goToBookmark(bool backward);
+    void goToMatchingBrace(bool selecting);
+    void goToPosition(qsizetype position);
+    void goToLine(int argument);
+    void showFindDialog(bool replacing);
+    void findNext(bool backward);
+    void showProperties();
+    bool takesDrop(const QDropEvent &event) const;
+    void showContextMenu(const QPoint &at);
+    void underlineNumbers();
+
+    EditorServices m_services;
+    SciEngine m_engine;
+    std::unique_ptr<CodeMaxGlobals> m_globals;
+    std::unique_ptr<EditorAppearance> m_appearance;
+    std::unique_ptr<EditorMargins> m_margins;
+    std::unique_ptr<IdleColouring> m_colouring;
+    std::unique_ptr<BraceMatcher> m_braces;
+    std::unique_ptr<EditorSearch> m_search;
+    std::unique_ptr<EditorPrinter> m_printer;
+    DocumentFile m_file;
+    TextFormat m_format;
+    /// Changes of the format that undoing takes back, by the number that the undo history knows them by.
+    std::vector<FormatChange> m_formatChanges;
+    EditorOptions m_options;
+    QString m_language;
+    QString m_path;
+    QString m_lastError;
+    Selection m_seen;
+    /// An insertion that has been announced and is still to be counted.
+    Insertion m_inserted;
+    std::function<void(QAccessibleEvent *)> m_listener;
+    quint64 m_textVersion = 1;
+    /// Length of the buffer in UTF-16 code units.
+    qsizetype m_units = 0;
+    int m_actions = 0;
+    bool m_changed = false;
+    bool m_selBounds = false;
+    bool m_overtype = false;
+    bool m_boundsShown = false;
+    bool m_strikeShown = false;
+    bool m_dragDrop = true;
+    QPointer<FindDialog> m_findDialog;
+    QPointer<GoToDialog> m_goToDialog;
+    QPointer<PropertiesDialog> m_properties;
+};
+
+} // namespace zephira

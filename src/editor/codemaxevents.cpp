@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keys, mouse, drops and the context menu of the editing control.
+#include "controls/qtvalues.h"
+#include "editor/codemax.h"
+#include "editor/codemaxglobals.h"
+#include "editor/colouritems.h"
+#include "editor/editorappearance.h"
+#include "editor/editorcommands.h"
+#include "editor/editormargins.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace zephira {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int lineNumberFontStyle = 11;
+constexpr int lineNumberColourItem = 26;
+
+bool isLineBreak(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+qsizetype leadingBlanks(QByteArrayView line)
+{
+    qsizetype count = 0;
+    while (count < line.size() && (line[count] == ' ' || line[count] == '\t'))
+        ++count;
+    return count;
+}
+
+} // namespace
+
+bool CodeMax::event(QEvent *event)
+{
+    // The key deletes the next character where nothing is selected; a menu entry on the same key only knows selections.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Delete && !(key->modifiers() & ~Qt::KeypadModifier) && !isReadOnly()
+            && m_engine.send(SCI_GETSELECTIONEMPTY)) {
+            event->accept();
+            return true;
+        }
+    }
+    return QsciScintillaBase::event(event);
+}
+
+void CodeMax::keyPressEvent(QKeyEvent *event)
+{
+    const QKeyCombination keys = event->keyCombination();
+    if (const auto command = m_globals->commandFor(keys)) {
+        executeCmd(*command);
+        event->accept();
+    } else if (isShortcutLike(QKeyCombination(keys.keyboardModifiers() & ~Qt::KeypadModifier, keys.key()))
+               || (keys.keyboardModifiers() & Qt::AltModifier && !(keys.keyboardModifiers() & Qt::ControlModifier)
+                   && !event->text().isEmpty())) {
+        // Alt and a letter that no menu takes is no text either.
+        event->ignore();
+    } else {
+        perform([&] { type(event); });
+    }
+}
+
+void CodeMax::type(QKeyEvent *event)
+{
+    if (m_overtype)
+        m_engine.send(SCI_SETOVERTYPE, true);
+    if (isLineBreak(*event)) {
+        // A new line and its indentation go away in one step.
+        m_engine.send(SCI_BEGINUNDOACTION);
+        QsciScintillaBase::keyPressEvent(event);
+        if (m_options.autoIndent && !isReadOnly())
+            indentNewLine();
+        m_engine.send(SCI_ENDUNDOACTION);
+    } else {
+        QsciScintillaBase::keyPressEvent(event);
+    }
+    m_engine.send(SCI_SETOVERTYPE, false);
+}
+
+/// Gives the line at the caret the indentation of the line above, and one step more behind an opening brace.
+void CodeMax::indentNewLine()
+{
+    const qsizetype caret = m_engine.caret();
+    const qsizetype line = m_engine.lineOf(caret);
+    if (m_engine.send(SCI_GETSELECTIONS) > 1 || line == 0 || caret != m_engine.lineStart(line))
+        return;
+    const QByteArrayView above = m_engine.bytes(m_engine.lineStart(line - 1), m_engine.lineEnd(line - 1));
+    QByteArray indent = above.first(leadingBlanks(above)).toByteArray();
+    if (above.trimmed().endsWith('{'))
+        indent += m_options.tabsAsBlanks ? QByteArray(m_options.tabWidth, ' ') : QByteArray("\t");
+    replaceBytes(caret, caret, indent);
+    m_engine.send(SCI_SETEMPTYSELECTION, caret + indent.size());
+    m_engine.send(SCI_SCROLLCARET);
+    m_engine.send(SCI_CHOOSECARETX);
+}
+
+void CodeMax::inputMethodEvent(QInputMethodEvent *event)
+{
+    perform([&] { QsciScintillaBase::inputMethodEvent(event); });
+}
+
+void CodeMax::mousePressEvent(QMouseEvent *event)
+{
+    perform([&] {
+        if (!m_dragDrop && event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+            // The engine drags a selection that is pressed on; without one there is nothing to drag.
+            const QPoint at = event->position().toPoint();
+            m_engine.send(SCI_SETEMPTYSELECTION, m_engine.send(SCI_POSITIONFROMPOINT, at.x(), at.y()));
+        }
+        QsciScintillaBase::mousePressEvent(event);
+    });
+}
+
+void CodeMax::mouseMoveEvent(QMouseEvent *event)
+{
+    perform([&] { QsciScintillaBase::mouseMoveEvent(event); });
+}
+
+void CodeMax::mouseReleaseEvent(QMouseEvent *event)
+{
+    perform([&] { QsciScintillaBase::mouseReleaseEvent(event); });
+}
+
+void CodeMax::wheelEvent(QWheelEvent *event)
+{
+    const int turned = event->angleDelta().y();
+    if (event->modifiers() != Qt::ControlModifier || turned == 0) {
+        QsciScintillaBase::wheelEvent(event);
+        return;
+    }
+    m_engine.send(turned > 0 ? SCI_ZOOMIN : SCI_ZOOMOUT);
+    event->accept();
+}
+
+/// Files that are dropped are the window's business, and only text that may be changed takes a drop.
+bool CodeMax::takesDrop(const QDropEvent &event) const
+{
+    return m_dragDrop && !isReadOnly() && !event.mimeData()->hasUrls();
+}
+
+void CodeMax::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (takesDrop(*event))
+        QsciScintillaBase::dragEnterEvent(event);
+    else
+        event->ignore();
+}
+
+void CodeMax::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (takesDrop(*event))
+        QsciScintillaBase::dragMoveEvent(event);
+    else
+        event->ignore();
+}
+
+void CodeMax::dropEvent(QDropEvent *event)
+{
+    if (takesDrop(*event))
+        perform([&] { QsciScintillaBase::dropEvent(event); });
+    else
+        event->ignore();
+}
+
+void CodeMax::changeEvent(QEvent *event)
+{
+    QsciScintillaBase::changeEvent(event);
+    // The selection's colour is the desktop's. The first changes come while the base class is still under construction.
+    if (event->type() == QEvent::PaletteChange && m_appearance)
+        m_appearance->applyAll();
+}
+
+void CodeMax::showEvent(QShowEvent *event)
+{
+    QsciScintillaBase::showEvent(event);
+    showBraces();
+}
+
+void CodeMax::paintEvent(QPaintEvent *event)
+{
+    QsciScintillaBase::paintEvent(event);
+    if (m_margins->lineNumbers() && m_appearance->fontStyle(lineNumberFontStyle) & UnderlinedStyle)
+        underlineNumbers();
+}
+
+/// The engine leaves underlining out in its margins.
+void CodeMax::underlineNumbers()
+{
+    constexpr int padding = 3;
+    const auto width = [this](int margin) { return m_engine.send(SCI_GETMARGINWIDTHN, margin); };
+    const qsizetype right = width(EditorMargins::Bookmarks) + width(EditorMargins::LineNumbers) - padding;
+    const qsizetype bottom = m_engine.send(SCI_TEXTHEIGHT, 0) - 2;
+    QPainter painter(viewport());
+    painter.setPen(toQColor(m_appearance->colour(lineNumberColourItem)));
+    const qsizetype first = m_engine.send(SCI_GETFIRSTVISIBLELINE);
+    const qsizetype last = m_engine.send(SCI_DOCLINEFROMVISIBLE, first + m_engine.send(SCI_LINESONSCREEN));
+    for (qsizetype line = m_engine.send(SCI_DOCLINEFROMVISIBLE, first); line <= last; ++line) {
+        if (!m_engine.send(SCI_GETLINEVISIBLE, line))
+            continue;
+        const QByteArray number = QByteArray::number(line + 1);
+        const qsizetype left = right - m_engine.sendText(SCI_TEXTWIDTH, STYLE_LINENUMBER, number.constData());
+        const qsizetype y = bottom + m_engine.send(SCI_POINTYFROMPOSITION, 0, m_engine.lineStart(line));
+        painter.drawLine(QPointF(static_cast<double>(left), static_cast<double>(y)),
+                         QPointF(static_cast<double>(right), static_cast<double>(y)));
+    }
+}
+
+void CodeMax::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        const qsizetype at = m_engine.send(SCI_POSITIONFROMPOINT, event->x(), event->y());
+        const bool inSelection = canCopy() && at >= m_engine.send(SCI_GETSELECTIONSTART)
+                                 && at <= m_engine.send(SCI_GETSELECTIONEND);
+        if (!inSelection)
+            perform([&] { m_engine.send(SCI_SETEMPTYSELECTION, at); });
+    }
+    event->accept();
+    const QPointer<CodeMax> alive(this);
+    const QPoint at = event->globalPos();
+    bool handled = false;
+    emit RClick(&handled);
+    if (alive && !handled)
+        showContextMenu(at);
+}
+
+void CodeMax::showContextMenu(const QPoint &at)
+{
+    auto *menu = new QMenu(this);
+    menu->setObjectName(u"editorMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const bool writable = !isReadOnly();
+    const auto add = [&](const QString &text, int command, bool enabled) {
+        QAction *action = menu->addAction(text);
+        action->setEnabled(enabled);
+        for (int i = 0; i < m_globals->hotKeyCount(command) && i < 1; ++i)
+            action->setShortcut(m_globals->hotKey(command, i).keys);
+        connect(action, &QAction::triggered, this, [this, command] { executeCmd(command); });
+    };
+    add(tr("&Undo"), UndoText, writable && canUndo());
+    add(tr("&Redo"), RedoText, writable && canRedo());
+    menu->addSeparator();
+    add(tr("Cu&t"), CutText, writable && canCopy());
+    add(tr("&Copy"), CopyText, canCopy());
+    add(tr("&Paste"), PasteText, writable && m_engine.send(SCI_CANPASTE));
+    add(tr("&Delete"), DeleteText, writable && canCopy());
+    menu->addSeparator();
+    add(tr("Select &All"), static_cast<int>(EditorCommand::SelectAll), true);
+    add(tr("Toggle &Bookmark"), ToggleBookmark, true);
+    menu->addSeparator();
+    add(tr("Propert&ies…"), static_cast<int>(EditorCommand::PropertiesDialog), true);
+    menu->popup(at);
+}
+
+} // namespace zephira

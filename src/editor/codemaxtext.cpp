@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Text and selection of the editing control.
+#include "editor/buffertext.h"
+#include "editor/codemax.h"
+#include "editor/bracematcher.h"
+#include "editor/idlecolouring.h"
+
+#include <algorithm>
+
+namespace zephira {
+
+namespace {
+
+/// Lets the program write to a text that its user may not change.
+class WritableWhile
+{
+public:
+    explicit WritableWhile(const SciEngine &engine)
+        : m_engine(engine), m_readOnly(engine.send(QsciScintillaBase::SCI_GETREADONLY))
+    {
+        m_engine.send(QsciScintillaBase::SCI_SETREADONLY, false);
+    }
+    ~WritableWhile() { m_engine.send(QsciScintillaBase::SCI_SETREADONLY, m_readOnly); }
+    Q_DISABLE_COPY_MOVE(WritableWhile)
+
+private:
+    const SciEngine &m_engine;
+    qsizetype m_readOnly;
+};
+
+/// The engine's names for CR LF, LF and CR, in the order of LineEnds.
+constexpr std::array<qsizetype, 3> engineLineEnds{QsciScintillaBase::SC_EOL_CRLF, QsciScintillaBase::SC_EOL_LF,
+                                                  QsciScintillaBase::SC_EOL_CR};
+
+} // namespace
+
+std::array<QByteArrayView, 2> CodeMax::utf8Pieces() const
+{
+    const qsizetype gap = m_engine.send(SCI_GETGAPPOSITION);
+    return {m_engine.bytes(0, gap), m_engine.bytes(gap, m_engine.length())};
+}
+
+QString CodeMax::text() const
+{
+    return fromBuffer(utf8Pieces(), m_format.lineEnds);
+}
+
+void CodeMax::setText(const QString &text)
+{
+    perform([&] {
+        const WritableWhile writable(m_engine);
+        m_engine.send(SCI_BEGINUNDOACTION);
+        replaceBytes(0, m_engine.length(), toBuffer(text, m_format.lineEnds));
+        if (text.isEmpty())
+            startNewFormat();
+        m_engine.send(SCI_ENDUNDOACTION);
+        m_engine.send(SCI_SETEMPTYSELECTION, 0);
+        m_engine.send(SCI_SCROLLTOSTART);
+        m_changed = true;
+    });
+}
+
+/// In a text of the file's own line feeds or carriage returns each line end counts as the two characters that Text has.
+int CodeMax::textLength() const
+{
+    const qsizetype units =
+        m_units + utf16Length(m_engine.bytes(m_inserted.position, m_inserted.position + m_inserted.length));
+    const bool oneByteEnds = m_format.lineEnds == LineEnds::Lf || m_format.lineEnds == LineEnds::Cr;
+    return static_cast<int>(units + (oneByteEnds ? m_engine.lineCount() - 1 : 0));
+}
+
+QString CodeMax::selText() const
+{
+    const bool simple = m_engine.send(SCI_GETSELECTIONS) == 1 && !m_engine.send(SCI_SELECTIONISRECTANGLE);
+    if (simple)
+        return fromBuffer(m_engine.bytes(m_engine.send(SCI_GETSELECTIONSTART), m_engine.send(SCI_GETSELECTIONEND)),
+                          m_format.lineEnds);
+    // The engine's size includes a NUL at the end.
+    QByteArray joined(m_engine.send(SCI_GETSELTEXT), Qt::Uninitialized);
+    m_engine.sendText(SCI_GETSELTEXT, 0, joined.data());
+    joined.chop(1);
+    return fromBuffer(joined, m_format.lineEnds);
+}
+
+void CodeMax::setSelText(const QString &text)
+{
+    perform([&] {
+        const WritableWhile writable(m_engine);
+        m_engine.send(SCI_BEGINUNDOACTION);
+        if (m_engine.send(SCI_GETSELECTIONS) > 1 || m_engine.send(SCI_SELECTIONISRECTANGLE)) {
+            m_engine.send(SCI_CLEAR);
+            m_engine.send(SCI_SETEMPTYSELECTION, m_engine.caret());
+        }
+        const qsizetype start = m_engine.send(SCI_GETSELECTIONSTART);
+        const QByteArray utf8 = toBuffer(text, m_format.lineEnds);
+        replaceBytes(start, m_engine.send(SCI_GETSELECTIONEND), utf8);
+        m_engine.send(SCI_ENDUNDOACTION);
+        m_engine.send(SCI_SETEMPTYSELECTION, start + utf8.size());
+        m_engine.send(SCI_SCROLLCARET);
+        m_engine.send(SCI_CHOOSECARETX);
+        m_changed = true;
+    });
+}
+
+int CodeMax::selLength() const
+{
+    if (m_engine.send(SCI_GETSELECTIONS) > 1 || m_engine.send(SCI_SELECTIONISRECTANGLE))
+        return static_cast<int>(selText().size());
+    const qsizetype start = m_engine.send(SCI_GETSELECTIONSTART);
+    const qsizetype end = m_engine.send(SCI_GETSELECTIONEND);
+    const bool oneByteEnds = m_format.lineEnds == LineEnds::Lf || m_format.lineEnds == LineEnds::Cr;
+    const qsizetype lineEnds = oneByteEnds ? m_engine.lineOf(end) - m_engine.lineOf(start) : 0;
+    return static_cast<int>(utf16Length(m_engine.bytes(start, end)) + lineEnds);
+}
+
+QString CodeMax::currentWord() const
+{
+    const qsizetype caret = m_engine.caret();
+    return fromBuffer(m_engine.bytes(m_engine.send(SCI_WORDSTARTPOSITION, caret, true),
+                                     m_engine.send(SCI_WORDENDPOSITION, caret, true)),
+                      LineEnds::Mixed);
+}
+
+int CodeMax::lineCount() const
+{
+    return static_cast<int>(m_engine.lineCount());
+}
+
+void CodeMax::replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8)
+{
+    m_engine.send(SCI_BEGINUNDOACTION);
+    m_engine.send(SCI_SETTARGETRANGE, start, end);
+    m_engine.sendText(SCI_REPLACETARGET, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
+    m_engine.send(SCI_ENDUNDOACTION);
+}
+
+/// Width in pixels of the widest line that the first picture may show. With it the scroll bar is right from the start;
+/// left to find out while painting, the engine would show the bar later and paint everything again.
+qsizetype CodeMax::widthOfFirstLines() const
+{
+    constexpr qsizetype linesOfAScreen = 120;
+    constexpr qsizetype widestMeasured = 2048;
+    qsizetype widestStart = 0;
+    qsizetype widestSize = 0;
+    for (qsizetype line = 0; line < std::min(linesOfAScreen, m_engine.lineCount()); ++line) {
+        const qsizetype start = m_engine.lineStart(line);
+        const qsizetype size = std::min(m_engine.lineEnd(line) - start, widestMeasured);
+        if (size > widestSize) {
+            widestStart = start;
+            widestSize = size;
+        }
+    }
+    const QByteArray widest = m_engine.bytes(widestStart, widestStart + widestSize).toByteArray().replace('\t', "    ");
+    return std::max<qsizetype>(1, m_engine.sendText(SCI_TEXTWIDTH, STYLE_DEFAULT, widest.constData()));
+}
+
+/// Puts a text in place without an undo step, and with nothing left of the one before.
+void CodeMax::replaceDocument(QByteArrayView utf8)
+{
+    const WritableWhile writable(m_engine);
+    const qsizetype events = m_engine.send(SCI_GETMODEVENTMASK);
+    m_engine.send(SCI_SETMODEVENTMASK, 0);
+    m_engine.send(SCI_SETUNDOCOLLECTION, false);
+    m_engine.send(SCI_EMPTYUNDOBUFFER);
+    m_formatChanges.clear();
+    m_engine.send(SCI_CLEARALL);
+    m_engine.send(SCI_MARKERDELETEALL, -1);
+    // An index that assistive technology asked for would be kept up to date at each line that is read.
+    if (m_engine.send(SCI_GETLINECHARACTERINDEX) & SC_LINECHARACTERINDEX_UTF16)
+        m_engine.send(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF16);
+    m_inserted = {};
+    m_engine.send(SCI_ALLOCATE, utf8.size() + 1);
+    m_engine.sendText(SCI_APPENDTEXT, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
+    m_units = utf16Length(utf8);
+    m_engine.send(SCI_SETUNDOCOLLECTION, true);
+    m_engine.send(SCI_EMPTYUNDOBUFFER);
+    m_engine.send(SCI_SETSAVEPOINT);
+    m_engine.send(SCI_SETMODEVENTMASK, events);
+    m_engine.send(SCI_SETEMPTYSELECTION, 0);
+    m_engine.send(SCI_SCROLLTOSTART);
+    m_engine.send(SCI_SETSCROLLWIDTH, widthOfFirstLines());
+    m_colouring->restart();
+    m_braces->clear();
+    applyLineEnds();
+    m_changed = true;
+}
+
+/// A text that begins anew is no longer bound to the encoding and the line ends of the file before it.
+void CodeMax::startNewFormat()
+{
+    if (m_format == TextFormat())
+        return;
+    m_engine.send(SCI_ADDUNDOACTION, std::ssize(m_formatChanges), 0);
+    m_formatChanges.push_back({m_format, {}});
+    m_format = {};
+    applyLineEnds();
+}
+
+void CodeMax::formatChangeUndone(int index, bool undone)
+{
+    if (index < 0 || index >= std::ssize(m_formatChanges))
+        return;
+    const FormatChange &change = m_formatChanges[static_cast<size_t>(index)];
+    m_format = undone ? change.before : change.after;
+    applyLineEnds();
+}
+
+void CodeMax::applyLineEnds()
+{
+    LineEnds typed = m_format.lineEnds;
+    if (typed == LineEnds::Mixed)
+        typed = mostFrequentLineEnd(m_engine.bytes(0, m_engine.length()));
+    m_engine.send(SCI_SETEOLMODE, engineLineEnds.at(static_cast<size_t>(typed)));
+}
+
+LineEnds CodeMax::typedLineEnds() const
+{
+    const auto found = std::ranges::find(engineLineEnds, m_engine.send(SCI_GETEOLMODE));
+    return static_cast<LineEnds>(found - engineLineEnds.begin());
+}
+
+CodeMaxRange CodeMax::selection(bool normalized) const
+{
+    const qsizetype anchor = m_engine.anchor();
+    const qsizetype caret = m_engine.caret();
+    return normalized ? toRange(std::min(anchor, caret), std::max(anchor, caret)) : toRange(anchor, caret);
+}
+
+void CodeMax::select(const CodeMaxRange &range)
+{
+    perform([&] {
+        const qsizetype anchor = toPosition(range.StartLineNo, range.StartColNo);
+        const qsizetype caret = toPosition(range.EndLineNo, range.EndColNo);
+        m_engine.send(SCI_ENSUREVISIBLE, m_engine.lineOf(anchor));
+        m_engine.send(SCI_ENSUREVISIBLE, m_engine.lineOf(caret));
+        m_engine.send(SCI_SETSEL, anchor, caret);
+    });
+}
+
+CodeMaxRange CodeMax::toRange(qsizetype start, qsizetype end) const
+{
+    const auto column = [this](qsizetype position) {
+        const qsizetype lineStart = m_engine.lineStart(m_engine.lineOf(position));
+        return static_cast<int>(utf16Length(m_engine.bytes(lineStart, position)));
+    };
+    return {static_cast<int>(m_engine.lineOf(start)), column(start), static_cast<int>(m_engine.lineOf(end)), column(end)};
+}
+
+/// The nearest position that the text has.
+qsizetype CodeMax::toPosition(int line, int column) const
+{
+    if (line < 0)
+        return 0;
+    if (line >= m_engine.lineCount())
+        return m_engine.length();
+    const qsizetype start = m_engine.lineStart(line);
+    return start + byteOffset(m_engine.bytes(start, m_engine.lineEnd(line)), std::max(column, 0));
+}
+
+bool CodeMax::canUndo() const
+{
+    return m_engine.send(SCI_CANUNDO);
+}
+
+bool CodeMax::canRedo() const
+{
+    return m_engine.send(SCI_CANREDO);
+}
+
+bool CodeMax::canCopy() const
+{
+    return !m_engine.send(SCI_GETSELECTIONEMPTY);
+}
+
+void CodeMax::undo()
+{
+    perform([this] { m_engine.send(SCI_UNDO); });
+}
+
+void CodeMax::redo()
+{
+    perform([this] { m_engine.send(SCI_REDO); });
+}
+
+void CodeMax::cut()
+{
+    perform([this] {
+        if (canCopy())
+            m_engine.send(SCI_CUT);
+    });
+}
+
+void CodeMax::copy()
+{
+    if (canCopy())
+        m_engine.send(SCI_COPY);
+}
+
+void CodeMax::paste()
+{
+    perform([this] { m_engine.send(SCI_PASTE); });
+}
+
+void CodeMax::clearSelection()
+{
+    if (!m_engine.send(SCI_GETSELECTIONEMPTY))
+        perform([this] { m_engine.send(SCI_CLEAR); });
+}
+
+} // namespace zephira

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/editorappearance.h"
+
+#include "controls/qtvalues.h"
+#include "editor/editormargins.h"
+
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zephira {
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr int windowItem = 0;
+constexpr int leftMarginItem = 1;
+constexpr int textItem = 4;
+constexpr int lineNumberItem = 26;
+constexpr int firstFoldMarker = Sci::SC_MARKNUM_FOLDEREND;
+constexpr int lastFoldMarker = Sci::SC_MARKNUM_FOLDEROPEN;
+
+bool isItem(int item) { return item >= 0 && item < colourItemTotal; }
+bool isStyle(int item) { return item >= 0 && item < fontStyleTotal; }
+
+int engineColour(const QColor &colour)
+{
+    return static_cast<int>(toColourNumber(colour));
+}
+
+QColor mixed(const QColor &a, const QColor &b, double share)
+{
+    const auto part = [share](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * share)); };
+    return QColor(part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue()));
+}
+
+} // namespace
+
+EditorAppearance::EditorAppearance(SciEngine engine) : m_engine(engine)
+{
+    std::ranges::transform(colourItemTable, m_looks.colours.begin(), &ColourItem::initial);
+    applyAll();
+}
+
+void EditorAppearance::setColour(int item, quint32 colour)
+{
+    if (!isItem(item))
+        return;
+    m_looks.colours[static_cast<size_t>(item)] = colour;
+    applyColour(item);
+}
+
+quint32 EditorAppearance::colour(int item) const
+{
+    return isItem(item) ? m_looks.colours[static_cast<size_t>(item)] : 0;
+}
+
+void EditorAppearance::setFontStyle(int item, int style)
+{
+    if (!isStyle(item))
+        return;
+    m_looks.styles[static_cast<size_t>(item)] = style;
+    applyStyle(item);
+}
+
+int EditorAppearance::fontStyle(int item) const
+{
+    return isStyle(item) ? m_looks.styles[static_cast<size_t>(item)] : 0;
+}
+
+void EditorAppearance::setFont(const FontChoice &font)
+{
+    if (font == m_looks.font)
+        return;
+    m_looks.font = font;
+    applyAll();
+}
+
+void EditorAppearance::setLooks(const EditorLooks &looks)
+{
+    m_looks = looks;
+    applyAll();
+}
+
+void EditorAppearance::applyAll()
+{
+    applyFont();
+    for (int item = 0; item < colourItemTotal; ++item) {
+        if (item != windowItem)
+            applyColour(item);
+    }
+    for (int item = 0; item < fontStyleTotal; ++item)
+        applyStyle(item);
+}
+
+/// The default style bears what all others start from.
+void EditorAppearance::applyFont()
+{
+    m_engine.sendText(Sci::SCI_STYLESETFONT, Sci::STYLE_DEFAULT, m_looks.font.name.toUtf8().constData());
+    if (m_looks.font.size > 0)
+        m_engine.send(Sci::SCI_STYLESETSIZEFRACTIONAL, Sci::STYLE_DEFAULT,
+                      std::lround(m_looks.font.size * int{Sci::SC_FONT_SIZE_MULTIPLIER}));
+    m_engine.send(Sci::SCI_STYLESETFORE, Sci::STYLE_DEFAULT, engineColour(shown(textItem)));
+    m_engine.send(Sci::SCI_STYLESETBACK, Sci::STYLE_DEFAULT, engineColour(shown(windowItem)));
+    m_engine.send(Sci::SCI_STYLESETBOLD, Sci::STYLE_DEFAULT, m_looks.font.bold);
+    m_engine.send(Sci::SCI_STYLESETITALIC, Sci::STYLE_DEFAULT, m_looks.font.italic);
+    m_engine.send(Sci::SCI_STYLESETUNDERLINE, Sci::STYLE_DEFAULT, m_looks.font.underline);
+    m_engine.send(Sci::SCI_STYLECLEARALL);
+    applyContrast();
+}
+
+void EditorAppearance::applyStyle(int item)
+{
+    const int style = m_looks.styles[static_cast<size_t>(item)];
+    const int engineStyle = fontStyleTable[static_cast<size_t>(item)];
+    // Line numbers keep out of the text's own emphasis.
+    const bool text = engineStyle != lineNumberStyle;
+    m_engine.send(Sci::SCI_STYLESETBOLD, engineStyle, (text && m_looks.font.bold) || style & BoldStyle);
+    m_engine.send(Sci::SCI_STYLESETITALIC, engineStyle, (text && m_looks.font.italic) || style & ItalicStyle);
+    m_engine.send(Sci::SCI_STYLESETUNDERLINE, engineStyle, (text && m_looks.font.underline) || style & UnderlinedStyle);
+}
+
+void EditorAppearance::applyColour(int item)
+{
+    const auto [target, index, initial] = colourItemTable[static_cast<size_t>(item)];
+    const int plain = engineColour(shown(item));
+    switch (target) {
+    case ColourTarget::Window:
+        applyAll();
+        break;
+    case ColourTarget::LeftMargin:
+        m_engine.send(Sci::SCI_SETMARGINBACKN, EditorMargins::Bookmarks, plain);
+        m_engine.send(Sci::SCI_SETFOLDMARGINCOLOUR, true, plain);
+        m_engine.send(Sci::SCI_SETFOLDMARGINHICOLOUR, true, plain);
+        applyContrast();
+        break;
+    case ColourTarget::MarkerFore:
+        m_engine.send(Sci::SCI_MARKERSETFORE, index, plain);
+        break;
+    case ColourTarget::MarkerBack:
+    case ColourTarget::LineDivider:
+        m_engine.send(Sci::SCI_MARKERSETBACK, index, engineColour(background(item)));
+        if (index == highlightMarker)
+            m_engine.send(Sci::SCI_SETCARETLINEBACK, engineColour(background(item)));
+        break;
+    case ColourTarget::StyleFore:
+        m_engine.send(Sci::SCI_STYLESETFORE, index, plain);
+        if (item == textItem || item == lineNumberItem)
+            applyContrast();
+        break;
+    case ColourTarget::StyleBack:
+        m_engine.send(Sci::SCI_STYLESETBACK, index, engineColour(background(item)));
+        break;
+    case ColourTarget::MarginDivider:
+        m_engine.send(Sci::SCI_SETMARGINBACKN, EditorMargins::Divider, plain);
+        m_engine.send(Sci::SCI_SETEDGECOLOUR, plain);
+        break;
+    }
+}
+
+/// What has no item of its own is derived: caret and white space from the text, the selection from the desktop's and the
+/// window's colour, the fold marks from the line numbers'.
+void EditorAppearance::applyContrast()
+{
+    const QColor window = shown(windowItem);
+    const QColor text = shown(textItem);
+    const QColor selection = mixed(window, m_engine.view().palette().color(QPalette::Active, QPalette::Highlight), 0.38);
+    m_engine.send(Sci::SCI_SETCARETFORE, engineColour(text));
+    m_engine.send(Sci::SCI_SETADDITIONALCARETFORE, engineColour(mixed(window, text, 0.6)));
+    m_engine.send(Sci::SCI_SETSELBACK, true, engineColour(selection));
+    m_engine.send(Sci::SCI_SETADDITIONALSELBACK, engineColour(mixed(window, selection, 0.7)));
+    m_engine.send(Sci::SCI_SETWHITESPACEFORE, true, engineColour(mixed(window, text, 0.35)));
+    m_engine.send(Sci::SCI_STYLESETFORE, Sci::STYLE_INDENTGUIDE, engineColour(mixed(window, text, 0.25)));
+    for (int marker = firstFoldMarker; marker <= lastFoldMarker; ++marker) {
+        m_engine.send(Sci::SCI_MARKERSETFORE, marker, engineColour(shown(leftMarginItem)));
+        m_engine.send(Sci::SCI_MARKERSETBACK, marker, engineColour(mixed(shown(leftMarginItem), shown(lineNumberItem), 0.8)));
+    }
+}
+
+QColor EditorAppearance::shown(int item) const
+{
+    const quint32 number = m_looks.colours[static_cast<size_t>(item)];
+    if (number != automaticColour)
+        return toQColor(number);
+    return item == windowItem ? QColor(Qt::white) : item == textItem ? QColor(Qt::black) : shown(textItem);
+}
+
+QColor EditorAppearance::background(int item) const
+{
+    return m_looks.colours[static_cast<size_t>(item)] == automaticColour ? shown(windowItem) : shown(item);
+}
+
+} // namespace zephira

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/prompts.h"
+#include "editor/colouritems.h"
+#include "editor/sciengine.h"
+
+#include <QColor>
+
+#include <array>
+
+namespace zephira {
+
+/// The values behind the looks of a control. Colours have red in the lowest byte.
+struct EditorLooks {
+    std::array<quint32, colourItemTotal> colours{};
+    std::array<int, fontStyleTotal> styles{};
+    FontChoice font{QStringLiteral("Monospace"), 10};
+
+    friend bool operator==(const EditorLooks &, const EditorLooks &) = default;
+};
+
+/// What the control's text and margins look like: the colour items, the font styles and the font. Values are kept as they
+/// were set, so that they read back exactly, and are translated to the engine's styles on the way.
+class EditorAppearance
+{
+public:
+    explicit EditorAppearance(SciEngine engine);
+
+    /// Items 0 to 30; others are left alone and read as 0.
+    void setColour(int item, quint32 colour);
+    quint32 colour(int item) const;
+    /// Items 0 to 11; others are left alone and read as 0.
+    void setFontStyle(int item, int style);
+    int fontStyle(int item) const;
+    void setFont(const FontChoice &font);
+    const FontChoice &font() const { return m_looks.font; }
+    /// Everything at once, to take over the looks of another control.
+    const EditorLooks &looks() const { return m_looks; }
+    void setLooks(const EditorLooks &looks);
+
+    /// Puts all of it into force again; the selection's colours follow the desktop's.
+    void applyAll();
+
+private:
+    void applyColour(int item);
+    void applyStyle(int item);
+    void applyFont();
+    void applyContrast();
+    QColor shown(int item) const;
+    QColor background(int item) const;
+
+    SciEngine m_engine;
+    EditorLooks m_looks;
+};
+
+} // namespace zephira

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/editorcommands.h"
+
+#include "controls/editingcontrol.h"
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <array>
+
+namespace zephira {
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr auto Ctrl = Qt::ControlModifier;
+constexpr auto Shift = Qt::ShiftModifier;
+constexpr auto Alt = Qt::AltModifier;
+constexpr Qt::KeyboardModifiers CtrlShift = Qt::ControlModifier | Qt::ShiftModifier;
+constexpr Qt::KeyboardModifiers None;
+
+constexpr CodeMaxHotKey row(int command, Qt::KeyboardModifiers modifiers, Qt::Key key)
+{
+    return {command, QKeyCombination(modifiers, key)};
+}
+
+// The engine's own keys for moving and selecting stay; the rows below are all others.
+constexpr std::array hotKeys{
+    row(FindByKey, Ctrl, Qt::Key_F),
+    row(ReplaceByKey, Ctrl, Qt::Key_R),
+    row(ReplaceByKey, Ctrl, Qt::Key_H),
+    row(CutByOldKey, Shift, Qt::Key_Delete),
+    row(GoToByKey, Ctrl, Qt::Key_G),
+    row(FindNextByKey, None, Qt::Key_F3),
+    row(TransposeLines, Ctrl, Qt::Key_T),
+    row(SelectWord, Ctrl, Qt::Key_W),
+
+    row(UndoText, Ctrl, Qt::Key_Z),
+    row(UndoText, Alt, Qt::Key_Backspace),
+    row(RedoText, Ctrl, Qt::Key_Y),
+    row(RedoText, CtrlShift, Qt::Key_Z),
+    row(CutText, Ctrl, Qt::Key_X),
+    row(CopyText, Ctrl, Qt::Key_C),
+    row(CopyText, Ctrl, Qt::Key_Insert),
+    row(PasteText, Ctrl, Qt::Key_V),
+    row(PasteText, Shift, Qt::Key_Insert),
+    row(DeleteText, None, Qt::Key_Delete),
+    row(static_cast<int>(EditorCommand::SelectAll), Ctrl, Qt::Key_A),
+
+    row(FindPrevious, Shift, Qt::Key_F3),
+    row(ToggleBookmark, Ctrl, Qt::Key_F2),
+    row(NextBookmark, None, Qt::Key_F2),
+    row(PreviousBookmark, Shift, Qt::Key_F2),
+    row(ClearBookmarks, CtrlShift, Qt::Key_F2),
+    row(ToggleOvertype, None, Qt::Key_Insert),
+    row(ToggleFold, CtrlShift, Qt::Key_F),
+    row(ToggleAllFolds, CtrlShift, Qt::Key_A),
+    row(GoToMatchingBrace, Ctrl, Qt::Key_M),
+    row(SelectToMatchingBrace, CtrlShift, Qt::Key_M),
+    row(ResetZoom, Ctrl, Qt::Key_0),
+    row(Sci::SCI_ZOOMIN, Ctrl, Qt::Key_Plus),
+    row(Sci::SCI_ZOOMIN, CtrlShift, Qt::Key_Plus),
+    row(Sci::SCI_ZOOMIN, Ctrl, Qt::Key_Equal),
+    row(Sci::SCI_ZOOMOUT, Ctrl, Qt::Key_Minus),
+    row(Sci::SCI_SELECTIONDUPLICATE, Ctrl, Qt::Key_D),
+    row(Sci::SCI_LINEDELETE, CtrlShift, Qt::Key_L),
+    row(Sci::SCI_LOWERCASE, Ctrl, Qt::Key_U),
+    row(Sci::SCI_UPPERCASE, CtrlShift, Qt::Key_U),
+    row(Sci::SCI_MOVESELECTEDLINESUP, Alt, Qt::Key_Up),
+    row(Sci::SCI_MOVESELECTEDLINESDOWN, Alt, Qt::Key_Down),
+};
+
+} // namespace
+
+std::span<const CodeMaxHotKey> initialHotKeys()
+{
+    return hotKeys;
+}
+
+bool isShortcutLike(QKeyCombination keys)
+{
+    const auto modifiers = keys.keyboardModifiers();
+    const bool character = keys.key() >= Qt::Key_Space && keys.key() <= Qt::Key_ydiaeresis;
+    const bool control = modifiers & Qt::ControlModifier && !(modifiers & Qt::AltModifier);
+    return (character && control) || keys.key() == Qt::Key_Delete
+           || (keys.key() >= Qt::Key_F1 && keys.key() <= Qt::Key_F35);
+}
+
+} // namespace zephira

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/editorprinter.h"
+
+#include "editor/codemax.h"
+#include "editor/idlecolouring.h"
+#include "editor/indicators.h"
+
+#include <Qsci/qsciprinter.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPointer>
+#include <QPrintDialog>
+
+#include <array>
+#include <memory>
+
+namespace zephira {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr double headerPoints = 9;
+constexpr double marginMillimetres = 15;
+
+/// Takes the marks away that show where a person is working, as long as it lives.
+class WithoutMarks
+{
+public:
+    explicit WithoutMarks(const SciEngine &engine) : m_engine(engine)
+    {
+        for (size_t i = 0; i < marks.size(); ++i) {
+            m_styles[i] = engine.send(Sci::SCI_INDICGETSTYLE, marks[i]);
+            engine.send(Sci::SCI_INDICSETSTYLE, marks[i], Sci::INDIC_HIDDEN);
+        }
+    }
+    ~WithoutMarks()
+    {
+        for (size_t i = 0; i < marks.size(); ++i)
+            m_engine.send(Sci::SCI_INDICSETSTYLE, marks[i], m_styles[i]);
+    }
+    Q_DISABLE_COPY_MOVE(WithoutMarks)
+
+private:
+    static constexpr std::array marks{BraceIndicator, BoundsIndicator};
+    const SciEngine &m_engine;
+    std::array<qsizetype, marks.size()> m_styles{};
+};
+
+/// A printer that heads each page.
+class PagePrinter final : public QsciPrinter
+{
+public:
+    /// The document's name also names the file that a printer to PDF offers; it holds no folder.
+    PagePrinter(QString title, const QString &documentName)
+        : QsciPrinter(QPrinter::HighResolution), m_title(std::move(title))
+    {
+        setDocName(documentName);
+        setWrapMode(QsciScintilla::WrapWord);
+        const QMarginsF margins(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres);
+        setPageMargins(margins, QPageLayout::Millimeter);
+    }
+
+    void formatPage(QPainter &painter, bool drawing, QRect &area, int page) override
+    {
+        QFont font(u"Sans Serif"_s);
+        font.setPointSizeF(headerPoints);
+        const QFontMetrics metrics(font, this);
+        const QRect header(area.left(), area.top(), area.width(), metrics.height());
+        area.setTop(header.bottom() + metrics.height());
+        if (!drawing)
+            return;
+        const QString number = QCoreApplication::translate("EditorPrinter", "Page %1").arg(page);
+        const int room = area.width() - metrics.horizontalAdvance(number) - metrics.height();
+        painter.save();
+        painter.setFont(font);
+        painter.setPen(Qt::black);
+        painter.drawText(header, Qt::AlignLeft | Qt::AlignVCenter, metrics.elidedText(m_title, Qt::ElideMiddle, room));
+        painter.drawText(header, Qt::AlignRight | Qt::AlignVCenter, number);
+        painter.setPen(QPen(Qt::gray, metrics.lineWidth() / 2.0));
+        painter.drawLine(area.left(), header.bottom() + metrics.height() / 4, area.right(),
+                         header.bottom() + metrics.height() / 4);
+        painter.restore();
+    }
+
+private:
+    QString m_title;
+};
+
+} // namespace
+
+EditorPrinter::EditorPrinter(CodeMax &editor) : m_editor(editor)
+{
+    m_setup = [&editor](QPrinter &printer, const std::function<void()> &go) {
+        auto *dialog = new QPrintDialog(&printer, &editor);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        // The dialog works on the printer to its last moment.
+        QObject::connect(dialog, &QDialog::finished, &editor, [go](int result) {
+            if (result == QDialog::Accepted)
+                go();
+        });
+        dialog->open();
+    };
+}
+
+void EditorPrinter::print()
+{
+    const QString caption = m_editor.window()->windowTitle();
+    const QString fileName = m_editor.path().isEmpty() ? u"Untitled"_s : QFileInfo(m_editor.path()).fileName();
+    const auto printer = std::make_shared<PagePrinter>(caption.isEmpty() ? fileName : caption, fileName);
+    const QPointer<CodeMax> editor(&m_editor);
+    m_setup(*printer, [printer, editor] {
+        if (!editor)
+            return;
+        editor->colouring().colourAll();
+        editor->engine().send(Sci::SCI_SETPRINTCOLOURMODE, Sci::SC_PRINT_COLOURONWHITE);
+        const WithoutMarks withoutMarks(editor->engine());
+        printer->printRange(editor);
+    });
+}
+
+} // namespace zephira

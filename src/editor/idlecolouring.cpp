@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/idlecolouring.h"
+
+#include "syntax/syntaxstyle.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+
+namespace zephira {
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+/// What is coloured at once while the window is painted, in bytes; it takes about as long as the painting itself.
+constexpr qsizetype immediateBytes = 256 * 1024;
+constexpr qsizetype sliceBytes = 64 * 1024;
+constexpr qint64 sliceMilliseconds = 4;
+
+/// The engine's fold field holds 12 bits above its base; depths beyond are drawn as this one and counted all the same.
+constexpr int deepestDrawnLevel = 3000;
+constexpr int deepestLevel = 0x7fff;
+constexpr int nextLevelShift = 16;
+
+qsizetype packedFold(const FoldLine &line, int nextLevel)
+{
+    int level = Sci::SC_FOLDLEVELBASE + std::min(line.level, deepestDrawnLevel);
+    if (line.header)
+        level |= Sci::SC_FOLDLEVELHEADERFLAG;
+    // Blank lines aren't marked as such: the engine would draw a block's end below those that follow it.
+    return level | std::min(nextLevel, deepestLevel) << nextLevelShift;
+}
+
+bool endsLine(QByteArrayView text)
+{
+    return !text.isEmpty() && (text.back() == '\n' || text.back() == '\r');
+}
+
+/// Collects line starts. Where `settled` says that a line found the state that it had before, two lines running, the rest
+/// is known and the run ends.
+class StateCollector final : public LineStateSink
+{
+public:
+    using Settled = std::function<bool(qsizetype index, LineState state)>;
+
+    explicit StateCollector(Settled settled) : m_settled(std::move(settled)) {}
+
+    bool lineStart(qsizetype offset, LineState state) override
+    {
+        if (offset == 0)
+            return true;
+        offsets.push_back(offset);
+        states.push_back(state);
+        const bool same = m_settled && m_settled(std::ssize(offsets), state);
+        stopped = same && m_sameBefore;
+        m_sameBefore = same;
+        return !stopped;
+    }
+
+    std::vector<qsizetype> offsets;
+    std::vector<LineState> states;
+    bool stopped = false;
+
+private:
+    Settled m_settled;
+    bool m_sameBefore = false;
+};
+
+} // namespace
+
+IdleColouring::IdleColouring(SciEngine engine, QObject *parent) : QObject(parent), m_engine(engine)
+{
+    connect(&m_timer, &QTimer::timeout, this, &IdleColouring::slice);
+}
+
+void IdleColouring::setLanguage(std::shared_ptr<const SyntaxEngine> language)
+{
+    m_language = std::move(language);
+    m_engine.send(Sci::SCI_CLEARDOCUMENTSTYLE);
+    restart();
+}
+
+void IdleColouring::restart()
+{
+    m_dirty = {};
+    m_colouredLines = 0;
+    m_editLine = -1;
+    m_wanted = 0;
+    m_timer.stop();
+    m_engine.send(Sci::SCI_STARTSTYLING, 0);
+}
+
+void IdleColouring::beforeEdit(qsizetype position)
+{
+    settleEdit();
+    m_editLine = m_engine.lineOf(position);
+    m_linesBefore = m_engine.lineCount();
+}
+
+/// Takes an announced edit into account. How many lines it brought or took is only known behind it.
+void IdleColouring::settleEdit()
+{
+    if (m_editLine < 0)
+        return;
+    const qsizetype line = std::exchange(m_editLine, -1);
+    const qsizetype added = m_engine.lineCount() - m_linesBefore;
+    if (line >= m_colouredLines)
+        return;
+    m_colouredLines = std::max(line + 1, m_colouredLines + added);
+    if (m_dirty.last > line)
+        m_dirty.last = std::max(line, m_dirty.last + added);
+    m_dirty.first = std::min(m_dirty.first, line);
+    // One line more than were touched: a line feed that joins or leaves a carriage return changes its neighbour.
+    m_dirty.last = std::max(m_dirty.last, line + std::max<qsizetype>(added, 0) + 1);
+}
+
+void IdleColouring::colourTo(qsizetype position)
+{
+    if (!m_language) {
+        m_editLine = -1;
+        m_engine.send(Sci::SCI_STARTSTYLING, m_engine.length());
+        return;
+    }
+    m_wanted = std::min(m_timer.isActive() ? std::max(m_wanted, position) : position, m_engine.length());
+    if (!colourSome(m_wanted, immediateBytes))
+        m_timer.start(0);
+}
+
+void IdleColouring::colourAll()
+{
+    m_wanted = m_engine.length();
+    m_timer.stop();
+    if (!m_language)
+        return;
+    while (!colourSome(m_wanted, immediateBytes)) {
+    }
+}
+
+void IdleColouring::slice()
+{
+    QElapsedTimer clock;
+    clock.start();
+    const qsizetype wanted = std::min(m_wanted, m_engine.length());
+    bool done = false;
+    while (!done && clock.elapsed() < sliceMilliseconds)
+        done = colourSome(wanted, sliceBytes);
+    if (done)
+        m_timer.stop();
+}
+
+/// Colours at most about `bytes` on the way to the line that holds `target`; true when that line has been reached.
+bool IdleColouring::colourSome(qsizetype target, qsizetype bytes)
+{
+    settleEdit();
+    const qsizetype targetLine = m_engine.lineOf(target);
+    bool mayStopEarly = true;
+    bool reached = false;
+    while (true) {
+        if (m_dirty.first >= m_colouredLines)
+            m_dirty = {};
+        const qsizetype next = m_dirty.any() ? m_dirty.first : m_colouredLines;
+        reached = next > targetLine || next >= m_engine.lineCount();
+        if (reached || bytes <= 0)
+            break;
+        // The line in front of a changed one is coloured again, because the engine may have moved its state along with
+        // the lines that were inserted or removed.
+        const qsizetype line = m_dirty.any() ? std::max<qsizetype>(0, next - 1) : next;
+        const qsizetype start = m_engine.lineStart(line);
+        const qsizetype lastLine = std::min(targetLine, m_engine.lineOf(std::min(start + bytes, m_engine.length())));
+        const QByteArrayView text = m_engine.bytes(start, m_engine.lineStart(std::max(lastLine, next) + 1));
+        m_styles.resize(static_cast<size_t>(text.size()));
+
+        StateCollector::Settled settled;
+        if (m_dirty.any() && mayStopEarly) {
+            settled = [this, line](qsizetype index, LineState state) {
+                return line + index > m_dirty.last && line + index < m_colouredLines
+                       && static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line + index)) == state;
+            };
+        }
+        StateCollector lines(settled);
+        const LineState state = line == 0 ? 0 : static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line));
+        const StyledRange styled = m_language->styleRange(text, state, m_styles, lines);
+        if (!lines.stopped && endsLine(text) && (lines.offsets.empty() || lines.offsets.back() < text.size())) {
+            lines.offsets.push_back(text.size());
+            lines.states.push_back(styled.state);
+        }
+        const qsizetype done = lines.stopped ? lines.offsets.back() : styled.end;
+        bytes -= std::max<qsizetype>(done, 1);
+        m_work += done;
+
+        m_engine.send(Sci::SCI_STARTSTYLING, start);
+        m_engine.sendText(Sci::SCI_SETSTYLINGEX, done, reinterpret_cast<const char *>(m_styles.data()));
+
+        FoldState fold = foldStateAt(line);
+        qsizetype current = line;
+        qsizetype offset = 0;
+        const auto foldLine = [&](qsizetype end) {
+            const FoldLine folded = m_language->foldRules().fold(
+                text.sliced(offset, end - offset),
+                std::span(m_styles).subspan(static_cast<size_t>(offset), static_cast<size_t>(end - offset)), fold);
+            setFold(current, packedFold(folded, fold.level));
+            if (m_lineFolded)
+                m_lineFolded(current, folded.level, fold.level);
+            offset = end;
+            ++current;
+        };
+        for (size_t i = 0; i < lines.offsets.size(); ++i) {
+            foldLine(lines.offsets[i]);
+            m_engine.send(Sci::SCI_SETLINESTATE, current, static_cast<int>(lines.states[i]));
+        }
+        if (offset < done || (current < m_engine.lineCount() && m_engine.lineStart(current) == m_engine.length()))
+            foldLine(done);
+
+        const qsizetype drawnLevel =
+            (m_engine.send(Sci::SCI_GETFOLDLEVEL, current) & Sci::SC_FOLDLEVELNUMBERMASK) - Sci::SC_FOLDLEVELBASE;
+        if (lines.stopped && drawnLevel == std::min(fold.level, deepestDrawnLevel)) {
+            m_dirty = {};
+        } else if (current >= m_colouredLines) {
+            m_colouredLines = current;
+            m_dirty = {};
+        } else {
+            m_dirty = {current, std::max(m_dirty.last, current)};
+            mayStopEarly = !lines.stopped;
+        }
+    }
+    markColoured();
+    return reached;
+}
+
+/// Gives a line its place in the folds. Where that changes while blocks are folded away, nothing may stay hidden below a
+/// line that isn't a block's beginning any more. (The engine could see to it itself, but would colour the whole block,
+/// which may be the whole text, whenever a beginning appears.)
+void IdleColouring::setFold(qsizetype line, qsizetype level)
+{
+    const bool changed = m_engine.send(Sci::SCI_GETFOLDLEVEL, line) != level;
+    if (!changed)
+        return;
+    m_engine.send(Sci::SCI_SETFOLDLEVEL, line, level);
+    if (m_engine.send(Sci::SCI_GETALLLINESVISIBLE))
+        return;
+    const auto expanded = [this](qsizetype header) { return m_engine.send(Sci::SCI_GETFOLDEXPANDED, header) != 0; };
+    if (!(level & Sci::SC_FOLDLEVELHEADERFLAG) && !expanded(line))
+        m_engine.send(Sci::SCI_SETFOLDEXPANDED, line, true);
+    if (m_engine.send(Sci::SCI_GETLINEVISIBLE, line))
+        return;
+    const qsizetype parent = m_engine.send(Sci::SCI_GETFOLDPARENT, line);
+    if (parent < 0 || (expanded(parent) && m_engine.send(Sci::SCI_GETLINEVISIBLE, parent)))
+        m_engine.send(Sci::SCI_SHOWLINES, line, line);
+}
+
+/// What folding knows at the start of a line whose predecessor has been coloured.
+FoldState IdleColouring::foldStateAt(qsizetype line) const
+{
+    if (line == 0)
+        return {};
+    const auto level = m_engine.send(Sci::SCI_GETFOLDLEVEL, line - 1) >> nextLevelShift;
+    const int lastStyle = m_engine.styleAt(m_engine.lineStart(line) - 1);
+    return {static_cast<int>(level), lastStyle == static_cast<int>(SyntaxStyle::Comment)};
+}
+
+/// Tells the engine where colours are missing from, so that it asks for them before it paints that part.
+void IdleColouring::markColoured()
+{
+    const qsizetype next = m_dirty.any() ? m_dirty.first : m_colouredLines;
+    m_engine.send(Sci::SCI_STARTSTYLING, m_engine.lineStart(next));
+}
+
+} // namespace zephira

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/textsearch.h"
+
+#include <algorithm>
+
+namespace zephira {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How far back a backward search looks at first, in characters. It looks further where it finds nothing.
+constexpr qsizetype firstWindow = 16 * 1024;
+
+} // namespace
+
+Result<TextSearch> TextSearch::make(const SearchRequest &request)
+{
+    QString pattern = request.regularExpression ? request.pattern : QRegularExpression::escape(request.pattern);
+    if (request.wholeWord)
+        pattern = u"(?<!\\w)(?:"_s + pattern + u")(?!\\w)"_s;
+    QRegularExpression::PatternOptions options =
+        QRegularExpression::MultilineOption | QRegularExpression::UseUnicodePropertiesOption;
+    if (!request.matchCase)
+        options |= QRegularExpression::CaseInsensitiveOption;
+    QRegularExpression expression(pattern, options);
+    // A word's marks would hide where a mistake stands, so the expression is looked at without them.
+    const QRegularExpression asTyped(request.regularExpression ? request.pattern : QString(), options);
+    const QRegularExpression &checked = asTyped.isValid() ? expression : asTyped;
+    if (!checked.isValid()) {
+        return Error{Error::Code::Malformed, u"The regular expression is wrong at character %1: %2."_s
+                                                 .arg(checked.patternErrorOffset() + 1)
+                                                 .arg(checked.errorString())};
+    }
+    return TextSearch(expression, request.regularExpression);
+}
+
+TextMatch TextSearch::toMatch(const QRegularExpressionMatch &match, const QString &replacement) const
+{
+    return {match.capturedStart(), match.capturedEnd(), m_groups ? expandReplacement(replacement, match) : replacement};
+}
+
+std::optional<TextMatch> TextSearch::next(const QString &text, qsizetype from, qsizetype limit,
+                                          const QString &replacement) const
+{
+    const QRegularExpressionMatch match = m_expression.match(QStringView(text).first(limit), from);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return toMatch(match, replacement);
+}
+
+std::optional<TextMatch> TextSearch::previous(const QString &text, qsizetype from, qsizetype limit,
+                                              const QString &replacement) const
+{
+    const QStringView searched = QStringView(text).first(from);
+    for (qsizetype window = firstWindow;; window *= 4) {
+        // Windows begin at a line's beginning, so that no match is cut in its line.
+        qsizetype start = std::max(limit, from - window);
+        if (start > limit)
+            start = std::max(limit, text.lastIndexOf(u'\n', start - 1) + 1);
+        std::optional<TextMatch> last;
+        auto matches = m_expression.globalMatch(searched, start);
+        while (matches.hasNext())
+            last = toMatch(matches.next(), replacement);
+        if (last || start == limit)
+            return last;
+    }
+}
+
+std::vector<TextMatch> TextSearch::all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const
+{
+    std::vector<TextMatch> found;
+    auto matches = m_expression.globalMatch(QStringView(text).first(end), start);
+    while (matches.hasNext())
+        found.push_back(toMatch(matches.next(), replacement));
+    return found;
+}
+
+QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match)
+{
+    if (!replacement.contains(u'\\'))
+        return replacement;
+    QString expanded;
+    for (qsizetype i = 0; i < replacement.size(); ++i) {
+        const QChar c = replacement[i];
+        const QChar code = i + 1 < replacement.size() ? replacement[i + 1] : QChar();
+        if (c != u'\\' || code.isNull()) {
+            expanded += c;
+            continue;
+        }
+        ++i;
+        if (code >= u'0' && code <= u'9')
+            expanded += match.captured(code.unicode() - u'0');
+        else if (code == u'n')
+            expanded += u'\n';
+        else if (code == u't')
+            expanded += u'\t';
+        else if (code == u'\\')
+            expanded += u'\\';
+        else
+            expanded += c, expanded += code;
+    }
+    return expanded;
+}
+
+qsizetype behindCharacter(const QString &text, qsizetype offset)
+{
+    const bool pair = offset + 1 < text.size() && text[offset].isHighSurrogate() && text[offset + 1].isLowSurrogate();
+    return offset + (pair ? 2 : 1);
+}
+
+} // namespace zephira

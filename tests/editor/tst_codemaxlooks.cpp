@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editorfixture.h"
+#include "controls/qtvalues.h"
+#include "editor/colouritems.h"
+#include "editor/editormargins.h"
+#include "support/testregistry.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+using Sci = QsciScintillaBase;
+
+namespace zephira {
+
+namespace {
+
+/// Every kind of colour in a few lines: an HTML page with a script and a server block.
+const QString page = u"<!DOCTYPE html>\r\n"
+                     "<!-- comment -->\r\n"
+                     "<p class=\"x\" odd>text &amp; 5</p>\r\n"
+                     "<script>\r\n"
+                     "function f(a) {\r\n"
+                     "return 12 + 'x';\r\n"
+                     "}\r\n"
+                     "</script>\r\n"
+                     "<odd>\r\n"_s;
+
+void showPage(EditorFixture &f)
+{
+    f.editor.setLanguage(u"HTML"_s);
+    f.editor.setText(page);
+    f.editor.setDisplayLeftMargin(true);
+    f.editor.margins().toggleBookmark(1);
+    f.editor.setHighlightedLine(7);
+    f.show(500, 300);
+    f.waitForColours();
+}
+
+} // namespace
+
+class TstCodeMaxLooks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyColourReadsBackExactly()
+    {
+        EditorFixture f;
+        for (const quint32 colour : {0u, 0xffffffu, 0x123456u, 0xfffffffeu, automaticColour}) {
+            for (int item = 0; item < colourItemTotal; ++item)
+                f.editor.setColor(item, colour + static_cast<quint32>(item) * (colour == 0x123456));
+            for (int item = 0; item < colourItemTotal; ++item)
+                QCOMPARE(f.editor.color(item), colour + static_cast<quint32>(item) * (colour == 0x123456));
+        }
+    }
+
+    void everyStyleReadsBackExactly()
+    {
+        EditorFixture f;
+        for (int item = 0; item < fontStyleTotal; ++item)
+            f.editor.setFontStyle(item, item * 7);
+        for (int item = 0; item < fontStyleTotal; ++item)
+            QCOMPARE(f.editor.fontStyle(item), item * 7);
+    }
+
+    void numbersOutsideAreLeftAlone()
+    {
+        EditorFixture f;
+        for (const int item : {-1, 31, 1000}) {
+            f.editor.setColor(item, 5);
+            QCOMPARE(f.editor.color(item), 0u);
+            f.editor.setFontStyle(item, 1);
+            QCOMPARE(f.editor.fontStyle(item), 0);
+        }
+        f.editor.setFontStyle(12, 1);
+        QCOMPARE(f.editor.fontStyle(12), 0);
+    }
+
+    void aNegativeColourByNameIsTheAutomaticOne()
+    {
+        EditorFixture f;
+        f.editor.SetColor(5, -1);
+        QCOMPARE(f.editor.GetColor(5), -1);
+        QCOMPARE(f.editor.color(5), automaticColour);
+    }
+
+    void everyColourShows_data()
+    {
+        QTest::addColumn<int>("item");
+        for (int item = 0; item < colourItemTotal; ++item)
+            QTest::addRow("item %d", item) << item;
+    }
+    /// Painting in a colour that nothing else has puts that colour on the screen, or a mixture that wasn't there.
+    void everyColourShows()
+    {
+        QFETCH(int, item);
+        EditorFixture f;
+        showPage(f);
+        const QImage before = f.editor.grab().toImage();
+        f.editor.setColor(item, 0x1287fa);
+        f.waitForColours();
+        QVERIFY2(f.editor.grab().toImage() != before, qPrintable(u"item %1 shows nothing"_s.arg(item)));
+    }
+
+    void everyStyleShows_data()
+    {
+        QTest::addColumn<int>("item");
+        QTest::addColumn<int>("style");
+        for (int item = 0; item < fontStyleTotal; ++item) {
+            for (const int style : {1, 2, 3, 4})
+                QTest::addRow("item %d, style %d", item, style) << item << style;
+        }
+    }
+    void everyStyleShows()
+    {
+        QFETCH(int, item);
+        QFETCH(int, style);
+        EditorFixture f;
+        showPage(f);
+        const QImage before = f.editor.grab().toImage();
+        f.editor.setFontStyle(item, style);
+        f.waitForColours();
+        QVERIFY(f.editor.grab().toImage() != before);
+        f.editor.setFontStyle(item, 0);
+        f.waitForColours();
+        QCOMPARE(f.editor.grab().toImage(), before);
+    }
+
+    void anAutomaticBackgroundIsTheWindows()
+    {
+        EditorFixture f;
+        f.editor.setColor(0, 0x303030);
+        f.editor.setColor(15, automaticColour);
+        QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBACK, 5), 0x303030);
+        f.editor.setColor(0, 0x404040);
+        QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBACK, 5), 0x404040);
+        f.editor.setColor(15, 0x00ff00);
+        QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBACK, 5), 0x00ff00);
+    }
+
+    void theFontReachesEveryStyle()
+    {
+        EditorFixture f;
+        f.editor.setFontStyle(2, 1);
+        f.editor.setEditorFont({u"Liberation Mono"_s, 14.5, false, true, false, true});
+        for (int style = 0; style <= 10; ++style) {
+            QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETSIZEFRACTIONAL, style), 1450);
+            QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETITALIC, style), 1);
+            QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETUNDERLINE, style), 1);
+            QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBOLD, style), style == 2);
+        }
+        QCOMPARE(f.editor.editorFont(), (FontChoice{u"Liberation Mono"_s, 14.5, false, true, false, true}));
+    }
+
+    void eachPropertyOfTheFontShows_data()
+    {
+        QTest::addColumn<int>("property");
+        QTest::newRow("size") << 0;
+        QTest::newRow("bold") << 1;
+        QTest::newRow("italic") << 2;
+        QTest::newRow("strikethrough") << 3;
+        QTest::newRow("underline") << 4;
+        QTest::newRow("name") << 5;
+    }
+    void eachPropertyOfTheFontShows()
+    {
+        QFETCH(int, property);
+        EditorFixture f;
+        const FontChoice plain{u"Liberation Mono"_s, 10};
+        f.editor.setEditorFont(plain);
+        f.editor.setText(u"text"_s);
+        f.show();
+        const QImage before = f.editor.grab().toImage();
+        FontChoice font = plain;
+        font.size = property == 0 ? 12 : 10;
+        font.bold = property == 1;
+        font.italic = property == 2;
+        font.strikethrough = property == 3;
+        font.underline = property == 4;
+        font.name = property == 5 ? u"Liberation Serif"_s : font.name;
+        f.editor.setEditorFont(font);
+        QCOMPARE(f.editor.editorFont(), font);
+        QVERIFY(f.editor.grab().toImage() != before);
+        f.editor.setEditorFont(plain);
+        QCOMPARE(f.editor.grab().toImage(), before);
+    }
+
+    void strikethroughFollowsTheText()
+    {
+        EditorFixture f;
+        f.editor.setEditorFont({u"Liberation Mono"_s, 10, false, false, true});
+        f.editor.setText(u"one"_s);
+        f.editor.select({0, 3, 0, 3});
+        f.editor.setSelText(u" two"_s);
+        const auto &engine = f.editor.engine();
+        for (qsizetype i = 0; i < engine.length(); ++i)
+            QVERIFY(engine.send(Sci::SCI_INDICATORALLONFOR, i) != 0);
+    }
+
+    void lineNumbersHaveRoom()
+    {
+        EditorFixture f;
+        const auto &engine = f.editor.engine();
+        const auto width = [&] { return engine.send(Sci::SCI_GETMARGINWIDTHN, EditorMargins::LineNumbers); };
+        f.editor.setText(u"a"_s);
+        const auto narrow = width();
+        f.editor.setText(QString(20000, u'\n'));
+        QVERIFY(width() > narrow);
+        QVERIFY(width() >= engine.sendText(Sci::SCI_TEXTWIDTH, Sci::STYLE_LINENUMBER, "20001"));
+        f.editor.undo();
+        QCOMPARE(width(), narrow);
+        engine.send(Sci::SCI_SETZOOM, 6);
+        QVERIFY(width() > narrow);
+        engine.send(Sci::SCI_SETZOOM, 0);
+        f.editor.setLineNumbering(false);
+        QCOMPARE(width(), 0);
+    }
+
+    void itemsOfTheListAreThoseOfTheTable()
+    {
+        QSet<int> colours;
+        QSet<int> styles;
+        for (const AppearanceRow &row : appearanceRows) {
+            for (const int item : {row.foreground, row.background}) {
+                QVERIFY(item == -1 || !colours.contains(item));
+                if (item >= 0)
+                    colours.insert(item);
+            }
+            if (row.fontStyle >= 0)
+                styles.insert(row.fontStyle);
+        }
+        QCOMPARE(colours.size(), colourItemTotal);
+        QCOMPARE(styles.size(), fontStyleTotal);
+    }
+
+    void theSelectionFollowsTheDesktop()
+    {
+        EditorFixture f;
+        f.editor.setText(u"abc"_s);
+        f.show();
+        f.editor.select({0, 0, 0, 3});
+        const QImage before = f.editor.grab().toImage();
+        QPalette palette = f.editor.palette();
+        palette.setColor(QPalette::Highlight, Qt::magenta);
+        f.editor.setPalette(palette);
+        QVERIFY(f.editor.grab().toImage() != before);
+    }
+};
+
+ZEPHIRA_TEST(TstCodeMaxLooks)
+
+} // namespace zephira
+
+#include "tst_codemaxlooks.moc"

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editorfixture.h"
+#include "editor/propertiesdialog.h"
+#include "support/testregistry.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QFontComboBox>
+#include <QListWidget>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+struct Driver {
+    explicit Driver(EditorFixture &fixture)
+    {
+        fixture.editor.executeCmd(static_cast<int>(EditorCommand::PropertiesDialog));
+        dialog = fixture.editor.findChild<PropertiesDialog *>();
+    }
+    template<typename T>
+    T &child(const QString &name) const
+    {
+        return *dialog->findChild<T *>(name);
+    }
+    void choose(const QString &item) const
+    {
+        auto &list = child<QListWidget>(u"lstItems"_s);
+        list.setCurrentItem(list.findItems(item, Qt::MatchExactly).constFirst());
+    }
+    void press(QDialogButtonBox::StandardButton button) const
+    {
+        child<QDialogButtonBox>(u"buttons"_s).button(button)->click();
+    }
+    CodeMax &preview() const { return child<CodeMax>(u"preview"_s); }
+
+    PropertiesDialog *dialog = nullptr;
+};
+
+} // namespace
+
+class TstPropertiesDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theListNamesEveryItem()
+    {
+        EditorFixture f;
+        f.show();
+        Driver d(f);
+        QVERIFY(d.dialog->isVisible() && d.dialog->isModal());
+        QStringList items;
+        auto &list = d.child<QListWidget>(u"lstItems"_s);
+        for (int i = 0; i < list.count(); ++i)
+            items += list.item(i)->text();
+        QCOMPARE(items, (QStringList{u"Bookmark"_s, u"Comment"_s, u"Horizontal divider lines"_s, u"Vertical divider lines"_s,
+                                     u"Highlighted line"_s, u"Keyword"_s, u"Left margin"_s, u"Line number"_s, u"Number"_s,
+                                     u"Operator"_s, u"Scope keyword"_s, u"String"_s, u"Tag element name"_s, u"Tag entity"_s,
+                                     u"Tag attribute name"_s, u"Tag text"_s, u"Text"_s, u"Window"_s}));
+    }
+
+    void coloursGoToTheirItems_data()
+    {
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<int>("foreground");
+        QTest::addColumn<int>("background");
+        QTest::addColumn<int>("style");
+        QTest::newRow("comment") << u"Comment"_s << 14 << 15 << 5;
+        QTest::newRow("text") << u"Text"_s << 4 << 5 << 0;
+        QTest::newRow("line number") << u"Line number"_s << 26 << 27 << 11;
+        QTest::newRow("bookmark") << u"Bookmark"_s << 2 << 3 << -1;
+        QTest::newRow("window") << u"Window"_s << 0 << -1 << -1;
+    }
+    void coloursGoToTheirItems()
+    {
+        QFETCH(QString, row);
+        QFETCH(int, foreground);
+        QFETCH(int, background);
+        QFETCH(int, style);
+        EditorFixture f;
+        f.show();
+        Driver d(f);
+        d.choose(row);
+        f.prompts.expectColour(f.editor.color(foreground), 0x0000ff);
+        d.child<QPushButton>(u"cmdForeground"_s).click();
+        QCOMPARE(d.child<QPushButton>(u"cmdBackground"_s).isEnabled() || d.child<QCheckBox>(u"chkAutomatic"_s).isEnabled(),
+                 background >= 0);
+        if (background >= 0) {
+            auto &automatic = d.child<QCheckBox>(u"chkAutomatic"_s);
+            if (automatic.isChecked())
+                automatic.click();
+            f.prompts.expectColour(d.preview().color(background), 0x00ff00);
+            d.child<QPushButton>(u"cmdBackground"_s).click();
+        }
+        auto &styles = d.child<QComboBox>(u"cboStyle"_s);
+        QCOMPARE(styles.isEnabled(), style >= 0);
+        if (style >= 0) {
+            styles.setCurrentIndex(3);
+            emit styles.activated(3);
+        }
+        // The preview has it at once, the control with OK.
+        QCOMPARE(d.preview().color(foreground), 0x0000ffu);
+        QVERIFY(f.editor.color(foreground) != 0x0000ffu);
+        d.press(QDialogButtonBox::Ok);
+        QVERIFY(!d.dialog->isVisible());
+        QCOMPARE(f.editor.color(foreground), 0x0000ffu);
+        if (background >= 0)
+            QCOMPARE(f.editor.color(background), 0x00ff00u);
+        if (style >= 0)
+            QCOMPARE(f.editor.fontStyle(style), 3);
+    }
+
+    void aCancelledColourChangesNothing()
+    {
+        EditorFixture f;
+        f.show();
+        Driver d(f);
+        d.choose(u"Keyword"_s);
+        f.prompts.expectColour(f.editor.color(8), std::nullopt);
+        d.child<QPushButton>(u"cmdForeground"_s).click();
+        QCOMPARE(d.preview().color(8), f.editor.color(8));
+    }
+
+    void anAutomaticBackgroundIsAChoice()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setColor(15, 0x112233);
+        Driver d(f);
+        d.choose(u"Comment"_s);
+        auto &automatic = d.child<QCheckBox>(u"chkAutomatic"_s);
+        QVERIFY(!automatic.isChecked());
+        automatic.click();
+        QVERIFY(!d.child<QPushButton>(u"cmdBackground"_s).isEnabled());
+        d.press(QDialogButtonBox::Apply);
+        QCOMPARE(f.editor.color(15), automaticColour);
+        QVERIFY(d.dialog->isVisible());
+    }
+
+    void fontAndEditing()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setEditorFont({u"Liberation Mono"_s, 10});
+        Driver d(f);
+        QCOMPARE(d.child<QFontComboBox>(u"cboFont"_s).currentText(), u"Liberation Mono"_s);
+        d.child<QDoubleSpinBox>(u"spnSize"_s).setValue(12.5);
+        d.child<QCheckBox>(u"chkBold"_s).click();
+        d.child<QCheckBox>(u"chkStrikethrough"_s).click();
+        d.child<QSpinBox>(u"spnTab"_s).setValue(7);
+        d.child<QSpinBox>(u"spnEdge"_s).setValue(80);
+        for (const char *name : {"chkBlanks", "chkIndent", "chkWrap", "chkBraces", "chkFolds", "chkCaretLine", "chkWhitespace",
+                                 "chkLineNumbers", "chkLeftMargin"})
+            d.child<QCheckBox>(QString::fromLatin1(name)).click();
+        d.press(QDialogButtonBox::Ok);
+        QCOMPARE(f.editor.editorFont(), (FontChoice{u"Liberation Mono"_s, 12.5, true, false, true, false}));
+        QCOMPARE(f.editor.options(), (EditorOptions{7, true, false, true, false, false, true, 80}));
+        QVERIFY(f.editor.displayWhitespace());
+        QVERIFY(!f.editor.lineNumbering());
+        QVERIFY(f.editor.displayLeftMargin());
+    }
+
+    /// Cancel takes back what Apply has given, too.
+    void cancelRestoresEverything()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setEditorFont({u"Liberation Mono"_s, 10});
+        f.editor.setFontStyle(2, 5);
+        const EditorLooks looks = f.editor.appearance().looks();
+        const EditorOptions options = f.editor.options();
+        Driver d(f);
+        d.choose(u"Keyword"_s);
+        f.prompts.expectColour(f.editor.color(8), 0x010203);
+        d.child<QPushButton>(u"cmdForeground"_s).click();
+        d.child<QDoubleSpinBox>(u"spnSize"_s).setValue(20);
+        d.child<QCheckBox>(u"chkWrap"_s).click();
+        d.child<QCheckBox>(u"chkWhitespace"_s).click();
+        d.press(QDialogButtonBox::Apply);
+        QCOMPARE(f.editor.color(8), 0x010203u);
+        QCOMPARE(f.editor.editorFont().size, 20.0);
+        d.press(QDialogButtonBox::Cancel);
+        QVERIFY(!d.dialog->isVisible());
+        QCOMPARE(f.editor.appearance().looks(), looks);
+        QCOMPARE(f.editor.options(), options);
+        QVERIFY(!f.editor.displayWhitespace());
+        QCOMPARE(f.editor.fontStyle(2), 5);
+        // Opened again, the dialog begins with what the control has.
+        f.editor.executeCmd(224);
+        QCOMPARE(d.child<QDoubleSpinBox>(u"spnSize"_s).value(), 10.0);
+        QCOMPARE(d.preview().color(8), looks.colours[8]);
+    }
+
+    void anUntouchedDialogChangesNothing()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setColor(12, 0xdeadbeef);
+        f.editor.setFontStyle(3, 9);
+        f.editor.setEditorFont({u"No Such Font"_s, 10.25});
+        const EditorLooks looks = f.editor.appearance().looks();
+        Driver d(f);
+        d.press(QDialogButtonBox::Ok);
+        QCOMPARE(f.editor.appearance().looks(), looks);
+    }
+
+    void thePreviewIsAPageThatCannotBeChanged()
+    {
+        EditorFixture f;
+        f.show();
+        Driver d(f);
+        QCOMPARE(d.preview().language(), u"HTML"_s);
+        QVERIFY(d.preview().isReadOnly());
+        QTest::keyClicks(&d.preview(), u"x"_s);
+        QVERIFY(d.preview().text().startsWith(u"<!DOCTYPE html>"_s));
+    }
+};
+
+ZEPHIRA_TEST(TstPropertiesDialog)
+
+} // namespace zephira
+
+#include "tst_propertiesdialog.moc"

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/textsearch.h"
+#include "support/testregistry.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+TextSearch searchFor(const QString &pattern, bool regularExpression, bool matchCase = false, bool wholeWord = false)
+{
+    Result<TextSearch> search = TextSearch::make({pattern, matchCase, wholeWord, regularExpression});
+    return std::move(search).value();
+}
+
+} // namespace
+
+class TstTextSearch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void allMatches_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("flags"); // r regular expression, c match case, w whole word
+        QTest::addColumn<QString>("replacement");
+        QTest::addColumn<QString>("result"); // the text with all matches replaced
+        QTest::newRow("plain") << u"one One"_s << u"one"_s << u""_s << u"2"_s << u"2 2"_s;
+        QTest::newRow("case") << u"one One"_s << u"one"_s << u"c"_s << u"2"_s << u"2 One"_s;
+        QTest::newRow("word") << u"one onely one_x (one)"_s << u"one"_s << u"w"_s << u"2"_s << u"2 onely one_x (2)"_s;
+        QTest::newRow("word of other letters") << u"über überall"_s << u"über"_s << u"w"_s << u"x"_s << u"x überall"_s;
+        QTest::newRow("case of other letters") << u"ÄÖ äö"_s << u"äö"_s << u""_s << u"x"_s << u"x x"_s;
+        QTest::newRow("signs are signs") << u"a.b a+b"_s << u"a.b"_s << u""_s << u"\\1"_s << u"\\1 a+b"_s;
+        QTest::newRow("expression") << u"a1 b22"_s << u"([a-z])(\\d+)"_s << u"r"_s << u"\\2\\1"_s << u"1a 22b"_s;
+        QTest::newRow("beginnings of lines") << u"a\nb"_s << u"^"_s << u"r"_s << u"> "_s << u"> a\n> b"_s;
+        QTest::newRow("ends of lines") << u"a\nb"_s << u"$"_s << u"r"_s << u";"_s << u"a;\nb;"_s;
+        QTest::newRow("empty matches") << u"axb"_s << u"x*"_s << u"r"_s << u"-"_s << u"-a--b-"_s;
+        QTest::newRow("over lines") << u"a\nb\nc"_s << u"a\\nb"_s << u"r"_s << u"\\n\\t\\\\"_s << u"\n\t\\\nc"_s;
+        QTest::newRow("alternatives as words") << u"cat cats dog"_s << u"cat|dog"_s << u"rw"_s << u"x"_s << u"x cats x"_s;
+        QTest::newRow("whole match") << u"ab"_s << u"b"_s << u"r"_s << u"[\\0]"_s << u"a[b]"_s;
+        QTest::newRow("surrogates") << u"\U0001f600\U0001f601"_s << u"."_s << u"r"_s << u"x"_s << u"xx"_s;
+        QTest::newRow("nothing") << u"abc"_s << u"x"_s << u""_s << u"y"_s << u"abc"_s;
+    }
+    void allMatches()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, pattern);
+        QFETCH(QString, flags);
+        QFETCH(QString, replacement);
+        QFETCH(QString, result);
+        const TextSearch search =
+            searchFor(pattern, flags.contains(u'r'), flags.contains(u'c'), flags.contains(u'w'));
+        const auto matches = search.all(text, 0, text.size(), replacement);
+        QString replaced = text;
+        for (size_t i = matches.size(); i-- > 0;)
+            replaced.replace(matches[i].start, matches[i].end - matches[i].start, matches[i].replacement);
+        QCOMPARE(replaced, result);
+        // Walking forward and backward meets the same ones.
+        std::vector<TextMatch> forward;
+        for (qsizetype from = 0; from <= text.size();) {
+            const auto match = search.next(text, from, text.size(), replacement);
+            if (!match)
+                break;
+            if (forward.empty() || match->start != match->end || match->end != forward.back().end || match->start > from
+                || forward.back().start == forward.back().end)
+                forward.push_back(*match);
+            from = match->end > match->start ? match->end : behindCharacter(text, match->end);
+        }
+        QVERIFY(forward.size() >= matches.size() || flags.contains(u'r'));
+        if (!matches.empty())
+            QCOMPARE(search.previous(text, text.size(), 0, replacement), matches.back());
+    }
+
+    void previousLooksAsFarAsItMust()
+    {
+        const QString text = u"needle\n"_s + QString(100'000, u'x') + u"\nhay\n"_s + QString(50'000, u'\n');
+        const TextSearch search = searchFor(u"needle"_s, false);
+        QCOMPARE(search.previous(text, text.size(), 0, {}), (TextMatch{0, 6}));
+        QCOMPARE(search.previous(text, text.size(), 1, {}), std::nullopt);
+        QCOMPARE(search.previous(text, 5, 0, {}), std::nullopt);
+    }
+
+    void limits()
+    {
+        const TextSearch search = searchFor(u"ab"_s, false);
+        const QString text = u"ab ab ab"_s;
+        QCOMPARE(search.next(text, 1, 8, {}), (TextMatch{3, 5}));
+        QCOMPARE(search.next(text, 1, 4, {}), std::nullopt);
+        QCOMPARE(search.all(text, 1, 7, {}), (std::vector<TextMatch>{{3, 5}}));
+    }
+
+    void wrongExpressionsSayWhere_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("parenthesis") << u"a(b"_s
+                                     << u"The regular expression is wrong at character 4: missing closing parenthesis."_s;
+        QTest::newRow("star") << u"*"_s
+                              << u"The regular expression is wrong at character 1: quantifier does not follow a repeatable item."_s;
+    }
+    void wrongExpressionsSayWhere()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(QString, sentence);
+        for (const bool wholeWord : {false, true}) {
+            const auto search = TextSearch::make({pattern, false, wholeWord, true});
+            QVERIFY(!search);
+            QCOMPARE(search.error().code, Error::Code::Malformed);
+            QCOMPARE(search.error().sentence, sentence);
+        }
+        QVERIFY(TextSearch::make({pattern, false, false, false}).ok());
+    }
+};
+
+ZEPHIRA_TEST(TstTextSearch)
+
+} // namespace zephira
+
+#include "tst_textsearch.moc"
