@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // designer_bench PAGE: the ways into and out of the visual designer with a page, and the time from a key to the state that
 // the toolbar shows, in a page of one paragraph and in that page; and from selecting the whole of it.
-#include "controls/webengine/designer/designerwidget.h"
+#include "web/designer/designerwidget.h"
 #include "noprompts.h"
 
 #include <benchmark/benchmark.h>

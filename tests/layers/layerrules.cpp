@@ -23,7 +23,7 @@ struct Rule {
 
 constexpr Rule includeRules[] = {
     {uR"(^<Qsci/)", u"editor/", u"only editor includes QScintilla"},
-    {uR"(^<(QWeb|QtWeb))", u"controls/webengine/", u"only controls/webengine includes the web engine"},
+    {uR"(^<(QWeb|QtWeb))", u"web/", u"only web includes the web engine"},
     {uR"(^<curl/)", u"views/fetch/", u"only the web viewer's fetch includes libcurl"},
     {uR"(^<tidy)", u"controls/ tools/", u"only the tools include tidy"},
     {uR"(^<(sys/socket|netdb|netinet/|arpa/))", u"ftp/net/", u"only the file transfer opens sockets"},

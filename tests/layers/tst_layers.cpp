@@ -81,7 +81,7 @@ private slots:
             u"app/a.cpp:2: only editor includes QScintilla"_s);
         row("the editing widget at home", u"editor/a.cpp"_s, u"#include <Qsci/qsciscintilla.h>\n"_s, {});
         row("the web engine", u"views/a.cpp"_s, u"#include <QWebEngineView>\n"_s,
-            u"views/a.cpp:2: only controls/webengine includes the web engine"_s);
+            u"views/a.cpp:2: only web includes the web engine"_s);
         row("the program from below", u"panes/a.cpp"_s, u"#include \"app/document.h\"\n"_s,
             u"panes/a.cpp:2: the folders below app include nothing of it"_s);
         row("the program itself", u"app/a.cpp"_s, u"#include \"app/document.h\"\n"_s, {});

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/browserwidget.h"
+
+#include "web/browserpage.h"
+#include "web/pageaddress.h"
+
+#include <QMenu>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+namespace zephira {
+
+namespace {
+
+/// The standard menu offers much that is refused here.
+constexpr QWebEnginePage::WebAction contextActions[] = {
+    QWebEnginePage::Back, QWebEnginePage::Forward, QWebEnginePage::Reload,
+    QWebEnginePage::Stop, QWebEnginePage::Copy,    QWebEnginePage::SelectAll,
+};
+
+} // namespace
+
+BrowserWidget::BrowserWidget(QWidget *parent)
+    : QWidget(parent), m_view(std::make_unique<QWebEngineView>(this)), m_page(new BrowserPage(m_profile, m_view.get()))
+{
+    m_view->setPage(m_page);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view.get());
+    setFocusProxy(m_view.get());
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    // Queued, because the engine waits for the end of the signal.
+    connect(m_view.get(), &QWidget::customContextMenuRequested, this, &BrowserWidget::showContextMenu, Qt::QueuedConnection);
+    // The address is known as soon as the page begins to show; a page that fails tells only at its end.
+    connect(m_page, &QWebEnginePage::urlChanged, this, &BrowserWidget::NavigateComplete);
+    connect(m_page, &QWebEnginePage::loadFinished, this, &BrowserWidget::NavigateComplete);
+}
+
+BrowserWidget::~BrowserWidget()
+{
+    // A page that is going down has nothing to tell any more.
+    m_page->disconnect(this);
+}
+
+void BrowserWidget::navigate(const QString &address)
+{
+    const QUrl target = pageAddress(address);
+    if (m_homeKind == FileKind::Page && target == pageAddress(m_home))
+        m_page->openAsPage(target);
+    else
+        m_page->open(target);
+}
+
+void BrowserWidget::setHome(const QString &address, FileKind kind)
+{
+    m_home = address;
+    m_homeKind = kind;
+}
+
+void BrowserWidget::goBack()
+{
+    m_page->triggerAction(QWebEnginePage::Back);
+}
+
+void BrowserWidget::goForward()
+{
+    m_page->triggerAction(QWebEnginePage::Forward);
+}
+
+void BrowserWidget::goHome()
+{
+    navigate(m_home);
+}
+
+void BrowserWidget::refresh()
+{
+    // The engine would take the file of a page for what its name says.
+    if (m_homeKind == FileKind::Page && m_page->url() == pageAddress(m_home))
+        goHome();
+    else
+        m_page->triggerAction(QWebEnginePage::Reload);
+}
+
+void BrowserWidget::stop()
+{
+    m_page->triggerAction(QWebEnginePage::Stop);
+}
+
+QString BrowserWidget::locationUrl() const
+{
+    return m_page->url().toString();
+}
+
+void BrowserWidget::onNavigateComplete(std::function<void()> handler)
+{
+    connect(this, &BrowserWidget::NavigateComplete, this, handler);
+}
+
+void BrowserWidget::showContextMenu(const QPoint &place)
+{
+    QMenu menu(this);
+    for (const QWebEnginePage::WebAction action : contextActions)
+        menu.addAction(m_page->action(action));
+    menu.exec(m_view->mapToGlobal(place));
+}
+
+} // namespace zephira

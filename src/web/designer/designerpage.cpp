@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/designer/designerpage.h"
+
+#include "web/designer/nestedwait.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QPointer>
+#include <QTimer>
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// The script's world: it shares the page's elements with nobody's scripts.
+constexpr quint32 world = QWebEngineScript::ApplicationWorld;
+
+/// The policy outlives the document that brings it: whatever is written in its place inherits it. Scripts can't simply be
+/// switched off, because the designer's own would hear no events then.
+constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Security-Policy\" content=\""
+                                  u"script-src 'none'; object-src 'none'; worker-src 'none'; connect-src 'none'; "
+                                  u"frame-src 'none'; form-action 'none'\"><meta name=opening content=%1>";
+
+/// In the order in which they build upon each other.
+constexpr QStringView scriptNames[] = {
+    u"nodes",  u"selection", u"history", u"styles", u"marks",     u"plaintext", u"blocks", u"lists", u"fonts",
+    u"insert", u"tables",    u"looks",   u"typing", u"positions", u"commands",  u"events", u"designer",
+};
+
+struct Setting {
+    QWebEngineSettings::WebAttribute attribute;
+    bool on;
+};
+
+constexpr Setting pageSettings[] = {
+    {QWebEngineSettings::AutoLoadIconsForPage, false},
+    {QWebEngineSettings::ErrorPageEnabled, false},
+    {QWebEngineSettings::FocusOnNavigationEnabled, false},
+    {QWebEngineSettings::FullScreenSupportEnabled, false},
+    {QWebEngineSettings::HyperlinkAuditingEnabled, false},
+    {QWebEngineSettings::JavascriptCanOpenWindows, false},
+    {QWebEngineSettings::LocalContentCanAccessRemoteUrls, false},
+    {QWebEngineSettings::PdfViewerEnabled, false},
+    {QWebEngineSettings::PlaybackRequiresUserGesture, true},
+    {QWebEngineSettings::PluginsEnabled, false},
+    {QWebEngineSettings::ScreenCaptureEnabled, false},
+};
+
+QString resource(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("the designer's script %s is missing", qPrintable(path));
+    return QString::fromUtf8(file.readAll());
+}
+
+/// All scripts in one function, so that their names stay among themselves.
+QString designerScript()
+{
+    QString script = resource(u":/qtwebchannel/qwebchannel.js"_s) + u"\n(() => {\n"_s;
+    for (const QStringView name : scriptNames)
+        script += resource(u":/designer/%1.js"_s.arg(name));
+    return script + u"})();\n"_s;
+}
+
+} // namespace
+
+DesignerPage::DesignerPage(QWebEngineProfile &profile, QObject *parent) : QWebEnginePage(&profile, parent)
+{
+    setUrlRequestInterceptor(&m_fence);
+    for (const Setting &setting : pageSettings)
+        settings()->setAttribute(setting.attribute, setting.on);
+    settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+    m_channel.registerObject(u"bridge"_s, &m_bridge);
+    setWebChannel(&m_channel, world);
+    installScript();
+
+    connect(this, &QWebEnginePage::loadFinished, this, [this](bool ok) {
+        if (m_isOpening && ok)
+            lookForEmptyPage();
+    });
+    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { m_unanswered = 0; });
+    connect(this, &DesignerPage::ready, this, [this] { m_unanswered = 0; });
+    connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
+        setFeaturePermission(origin, feature, PermissionDeniedByUser);
+    });
+    connect(&profile, &QWebEngineProfile::downloadRequested, this,
+            [](QWebEngineDownloadRequest *download) { download->cancel(); });
+}
+
+void DesignerPage::installScript()
+{
+    QWebEngineScript script;
+    script.setName(u"designer"_s);
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(world);
+    script.setRunsOnSubFrames(false);
+    script.setSourceCode(designerScript());
+    scripts().insert(script);
+}
+
+void DesignerPage::open(const QUrl &base)
+{
+    m_fence.files().open(base);
+    m_fence.files().shown(base);
+    m_isOpening = true;
+    ++m_opening;
+    setHtml(emptyPage.toString().arg(m_opening), base);
+}
+
+/// The document before may have ended its own loading only now, as one with frames does; what is written then would be
+/// lost with it. So the empty page bears a number.
+void DesignerPage::lookForEmptyPage()
+{
+    const QString question = u"document.querySelector('meta[name=opening]')?.content === '%1'"_s.arg(m_opening);
+    runJavaScript(question, world, [self = QPointer<DesignerPage>(this), opening = m_opening](const QVariant &isThere) {
+        if (self && self->m_opening == opening && isThere.toBool() && std::exchange(self->m_isOpening, false))
+            emit self->ready(true);
+    });
+}
+
+bool DesignerPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame)
+{
+    // The engine loads a page that is given as text from an address that holds it.
+    return m_isOpening && isMainFrame && url.scheme() == u"data";
+}
+
+void DesignerPage::call(const QString &function, const QVariantList &arguments,
+                        const std::function<void(const QVariant &)> &answered)
+{
+    const QByteArray list = QJsonDocument(QJsonArray::fromVariantList(arguments)).toJson(QJsonDocument::Compact);
+    runJavaScript(u"zephiraDesigner.%1(...%2)"_s.arg(function, QString::fromUtf8(list)), world, answered);
+}
+
+/// What a page before was asked is of no account any more.
+void DesignerPage::answered(int opening)
+{
+    if (opening == m_opening && m_unanswered > 0)
+        --m_unanswered;
+}
+
+std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const QVariantList &arguments)
+{
+    if (!isResponding())
+        return {};
+    struct Wait {
+        QEventLoop loop;
+        std::optional<QVariant> answer;
+    };
+    // An answer that comes late finds nobody waiting.
+    const auto wait = std::make_shared<Wait>();
+    const std::weak_ptr<Wait> waiting = wait;
+    const QPointer<DesignerPage> self(this);
+    ++m_unanswered;
+    call(function, arguments, [self, waiting, opening = m_opening](const QVariant &answer) {
+        if (self)
+            self->answered(opening);
+        if (const auto still = waiting.lock()) {
+            still->answer = answer;
+            still->loop.quit();
+        }
+    });
+    QTimer::singleShot(m_patience, &wait->loop, &QEventLoop::quit);
+    connect(this, &QWebEnginePage::renderProcessTerminated, &wait->loop, &QEventLoop::quit);
+    connect(this, &QObject::destroyed, &wait->loop, &QEventLoop::quit);
+    if (!wait->answer)
+        waitIn(wait->loop);
+    return wait->answer;
+}
+
+} // namespace zephira

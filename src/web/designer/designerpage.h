@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "web/designer/designerbridge.h"
+#include "web/localfilefence.h"
+
+#include <QWebChannel>
+#include <QWebEnginePage>
+
+#include <optional>
+
+namespace zephira {
+
+/// The page inside the designer. Scripts of the document never run in it, it goes nowhere, opens nothing, asks for
+/// nothing, and reads local files only in the folder of its base file and below.
+class DesignerPage final : public QWebEnginePage
+{
+    Q_OBJECT
+
+public:
+    DesignerPage(QWebEngineProfile &profile, QObject *parent);
+
+    /// Loads an empty page that relative addresses lead from; ready() says when it can take a document.
+    void open(const QUrl &base);
+
+    /// Calls a function of the designer's script and goes on without waiting; the answer is null where there was none.
+    void call(const QString &function, const QVariantList &arguments,
+              const std::function<void(const QVariant &)> &answered);
+    /// Calls one and waits for its answer, at most `patience()`. Nothing where the page doesn't answer; then further
+    /// calls don't wait at all until it does.
+    std::optional<QVariant> callAndWait(const QString &function, const QVariantList &arguments = {});
+
+    DesignerBridge &bridge() { return m_bridge; }
+    bool isResponding() const { return m_unanswered == 0; }
+
+    int patience() const { return m_patience; }
+    /// In milliseconds.
+    void setPatience(int patience) { m_patience = patience; }
+
+signals:
+    void ready(bool ok);
+
+protected:
+    bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
+    /// Refused scripts are reported here, each of them; that is as it should be.
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int, const QString &) override {}
+
+private:
+    void installScript();
+    void answered(int opening);
+    void lookForEmptyPage();
+
+    LocalFileFence m_fence;
+    DesignerBridge m_bridge;
+    QWebChannel m_channel;
+    bool m_isOpening = false;
+    /// Tells one empty page from the next.
+    int m_opening = 0;
+    int m_unanswered = 0;
+    int m_patience = 10000;
+};
+
+} // namespace zephira

@@ -1,0 +1,331 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/designer/designerwidget.h"
+
+#include "controls/errorstyles.h"
+#include "files/diskfilestore.h"
+#include "files/textfile.h"
+#include "web/designer/designerclipboard.h"
+#include "web/designer/designerhandles.h"
+#include "web/designer/designerpage.h"
+#include "web/designer/nestedwait.h"
+
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QEventLoop>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// How long a question may wait for keys that the page hasn't seen yet, and how often it looks; in milliseconds.
+constexpr int keyPatience = 300;
+constexpr int keyInterval = 5;
+/// A page that takes its process down again and again isn't loaded any more.
+constexpr int mostLosses = 3;
+
+void pass(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    waitIn(loop);
+}
+
+/// The file's text as the editor would show it.
+QString readPage(const QString &path)
+{
+    Result<QByteArray> content = DiskFileStore().read(path);
+    if (!content)
+        throw HandlerError{content.error().sentence};
+    const DecodedText text = decodeText(std::move(content).value());
+    const bool isMixed = text.format.lineEnds == LineEnds::Mixed;
+    return QString::fromUtf8(isMixed ? text.utf8 : toLineEnds(text.utf8, LineEnds::CrLf));
+}
+
+} // namespace
+
+DesignerWidget::DesignerWidget(Prompts &prompts, QWidget *parent)
+    : QWidget(parent), m_questions(prompts), m_view(std::make_unique<QWebEngineView>(this)),
+      m_page(new DesignerPage(m_profile, m_view.get())), m_handles(new DesignerHandles(m_view.get()))
+{
+    m_view->setPage(m_page);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view.get());
+    setFocusProxy(m_view.get());
+    hide();
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connectPage();
+}
+
+DesignerWidget::~DesignerWidget()
+{
+    // A page that ends with the widget is no loss.
+    m_page->disconnect(this);
+}
+
+/// While the engine delivers a message it delivers no other, so that nobody who may wait for an answer is called then.
+void DesignerWidget::connectPage()
+{
+    const DesignerBridge &bridge = m_page->bridge();
+    connect(m_page, &DesignerPage::ready, this, &DesignerWidget::write, Qt::QueuedConnection);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &DesignerWidget::takeLoss);
+    connect(m_view.get(), &QWidget::customContextMenuRequested, this, &DesignerWidget::requestContextMenu,
+            Qt::QueuedConnection);
+    connect(&bridge, &DesignerBridge::clipboardRequested, this, &DesignerWidget::useClipboard, Qt::QueuedConnection);
+    connect(&bridge, &DesignerBridge::stateArrived, this, [this](const QVariantMap &report) {
+        if (takeReport(report))
+            QMetaObject::invokeMethod(this, &DesignerWidget::announceDisplay, Qt::QueuedConnection);
+    });
+    connect(&bridge, &DesignerBridge::placeArrived, this, [this](const QVariantMap &report) {
+        if (DesignerStamp::fromPage(report).isOf(m_text.markPrefix()))
+            m_handles->show(report.value(u"place"_s).toMap(), m_view->zoomFactor());
+    });
+    connect(&bridge, &DesignerBridge::copyArrived, this,
+            [this](const QVariantMap &copy) { takeCopy(DesignerCopy::fromPage(copy)); });
+}
+
+void DesignerWidget::takeText(const QString &source)
+{
+    m_text = PageText(source, freshMarkPrefix(source), documentKind(m_baseFile));
+}
+
+void DesignerWidget::setDocumentHtml(const QString &html)
+{
+    takeText(html);
+    m_hasLostChanges = false;
+    m_losses = 0;
+    open();
+}
+
+void DesignerWidget::loadDocument(const QString &path)
+{
+    const QString html = readPage(path);
+    m_baseFile = path;
+    setDocumentHtml(html);
+}
+
+/// Begins with an empty page, because the policies of the last document would hold for the next one.
+void DesignerWidget::open()
+{
+    m_isComplete = false;
+    m_isLate = false;
+    m_state = {};
+    m_keysSent = 0;
+    m_copy = {};
+    m_handles->show({}, 1);
+    ++m_load;
+    m_page->open(m_baseFile.isEmpty() ? QUrl(u"about:blank"_s) : QUrl::fromLocalFile(m_baseFile));
+}
+
+void DesignerWidget::write(bool ready)
+{
+    if (!ready)
+        return;
+    const QPointer<DesignerWidget> self(this);
+    m_page->call(u"load"_s, {m_text.forEngine(), m_text.markPrefix(), m_looks, m_text.isPlain()},
+                 [self, load = m_load](const QVariant &answer) {
+                     const auto finish = [self, load, answer] {
+                         if (self->m_load == load)
+                             self->complete(answer);
+                     };
+                     // The host is going to ask for more.
+                     if (self)
+                         QMetaObject::invokeMethod(self, finish, Qt::QueuedConnection);
+                 });
+}
+
+void DesignerWidget::complete(const QVariant &answer)
+{
+    m_isComplete = true;
+    m_view->focusProxy()->installEventFilter(this);
+    takeAnswer(answer);
+    emit DocumentComplete();
+    if (m_events.documentComplete)
+        m_events.documentComplete();
+    announceDisplay();
+}
+
+/// From now on the text is what was known last, and nobody asks the page until it has been loaded again.
+void DesignerWidget::takeLoss()
+{
+    const bool hasChanges = m_state.isDirty && m_copy.isThere();
+    m_hasLostChanges = m_hasLostChanges || hasChanges;
+    takeText(hasChanges ? m_text.fromEngine(m_copy.text) : m_text.source());
+    m_state = {};
+    m_copy = {};
+    m_isComplete = false;
+    m_handles->show({}, 1);
+    ++m_losses;
+    const auto reopen = [this, load = m_load] {
+        if (m_load == load && !isGivenUp())
+            open();
+        announceDisplay();
+    };
+    QMetaObject::invokeMethod(this, reopen, Qt::QueuedConnection);
+}
+
+bool DesignerWidget::isGivenUp() const
+{
+    return m_losses > mostLosses;
+}
+
+/// One wait for each load: a page that can't be loaded mustn't hold up every command.
+bool DesignerWidget::waitUntilComplete()
+{
+    QElapsedTimer time;
+    time.start();
+    while (!m_isComplete && !m_isLate && m_load > 0 && !isGivenUp()) {
+        pass(keyInterval);
+        m_isLate = time.elapsed() >= m_page->patience();
+    }
+    return m_isComplete;
+}
+
+QVariant DesignerWidget::ask(const QString &function, const QVariantList &arguments) const
+{
+    if (!m_isComplete)
+        return {};
+    const std::optional<QVariant> answer = m_page->callAndWait(function, arguments);
+    return answer ? takeAnswer(*answer) : QVariant();
+}
+
+/// Every answer comes with the state that the page is in afterwards.
+QVariant DesignerWidget::takeAnswer(const QVariant &answer) const
+{
+    const QVariantMap map = answer.toMap();
+    if (!map.isEmpty())
+        takeReport(map.value(u"state"_s).toMap());
+    return map.value(u"value"_s);
+}
+
+/// Returns whether the report is news about this page.
+bool DesignerWidget::takeReport(const QVariantMap &report) const
+{
+    const DesignerStamp stamp = DesignerStamp::fromPage(report);
+    if (!stamp.isOf(m_text.markPrefix()) || stamp.number <= m_state.stamp.number)
+        return false;
+    m_state = DesignerState::fromPage(report);
+    m_handles->show(m_state.place, m_view->zoomFactor());
+    return true;
+}
+
+void DesignerWidget::takeCopy(const DesignerCopy &copy)
+{
+    if (copy.stamp.isOf(m_text.markPrefix()) && copy.stamp.number > m_copy.stamp.number)
+        m_copy = copy;
+}
+
+void DesignerWidget::announceDisplay()
+{
+    emit DisplayChanged();
+    if (m_events.displayChanged)
+        m_events.displayChanged();
+}
+
+/// The page learns of a key a moment after the window does.
+void DesignerWidget::awaitKeys() const
+{
+    QElapsedTimer time;
+    time.start();
+    while (m_keysSent > m_state.keys && m_page->isResponding() && time.elapsed() < keyPatience) {
+        pass(keyInterval);
+        ask(u"state"_s);
+    }
+    m_keysSent = m_state.keys;
+}
+
+bool DesignerWidget::isDirty() const
+{
+    if (!m_isComplete)
+        return m_hasLostChanges;
+    if (!m_state.isDirty)
+        awaitKeys();
+    return m_hasLostChanges || m_state.isDirty;
+}
+
+QString DesignerWidget::documentHtml()
+{
+    if (!m_isComplete)
+        return m_text.source();
+    awaitKeys();
+    if (!m_state.isDirty)
+        return m_text.source();
+    takeCopy(DesignerCopy::fromPage(ask(u"text"_s).toMap()));
+    return m_copy.isThere() ? m_text.fromEngine(m_copy.text) : m_text.source();
+}
+
+void DesignerWidget::pasteHtml(const QString &html)
+{
+    if (!waitUntilComplete())
+        return;
+    ask(u"insert"_s, {m_text.fragmentForEngine(html), false});
+    announceDisplay();
+}
+
+int DesignerWidget::queryStatus(DesignerCommand command) const
+{
+    if (!m_isComplete)
+        return DesignerStatus::Disabled;
+    if (command == DesignerCommand::Paste)
+        return !browseMode() && clipboardHasMarkup() ? DesignerStatus::Enabled : DesignerStatus::Disabled;
+    return m_state.statuses.value(command, DesignerStatus::NotSupported);
+}
+
+void DesignerWidget::setLook(const QString &name, bool on)
+{
+    m_looks[name] = on;
+    if (m_isComplete)
+        ask(u"setLook"_s, {name, on});
+}
+
+void DesignerWidget::setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states)
+{
+    delete m_menu;
+    m_menu = new QMenu(this);
+    m_menu->setObjectName(u"DesignerContextMenu"_s);
+    for (int index = 0; index < entries.size(); ++index) {
+        if (entries[index].isEmpty()) {
+            m_menu->addSeparator();
+            continue;
+        }
+        const DesignerMenuState state = states.value(index, DesignerMenuState::Unchecked);
+        QAction *action = m_menu->addAction(entries[index]);
+        action->setEnabled(state != DesignerMenuState::Greyed);
+        action->setCheckable(state == DesignerMenuState::Checked);
+        action->setChecked(state == DesignerMenuState::Checked);
+        connect(action, &QAction::triggered, this, [this, index] {
+            emit ContextMenuAction(index);
+            if (m_events.contextMenuAction)
+                m_events.contextMenuAction(index);
+        });
+    }
+}
+
+/// The entries depend on where the click has just put the caret.
+void DesignerWidget::requestContextMenu(const QPoint &place)
+{
+    ask(u"state"_s);
+    const QPoint onScreen = m_view->mapToGlobal(place);
+    setContextMenu({}, {});
+    emit ShowContextMenu(onScreen.x(), onScreen.y());
+    if (m_events.showContextMenu)
+        m_events.showContextMenu(onScreen);
+    if (!m_menu->isEmpty())
+        m_menu->popup(onScreen);
+}
+
+bool DesignerWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && m_isComplete)
+        ++m_keysSent;
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace zephira

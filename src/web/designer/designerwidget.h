@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "controls/designer.h"
+#include "web/designer/designerquestions.h"
+#include "web/designer/designerstate.h"
+#include "web/designer/pagetext.h"
+
+#include <QWebEngineProfile>
+#include <QWidget>
+
+#include <memory>
+
+class QMenu;
+class QWebEngineView;
+
+namespace zephira {
+
+class DesignerHandles;
+class DesignerPage;
+
+/// The visual designer as a widget that holds its web view. Its operations can be called by name. What is asked for often
+/// (statuses, the dirty flag) is known beforehand; the rest waits for the page, within bounds. A page whose process dies
+/// is loaded again as it last was; one that does so again and again isn't, but its text is still there.
+class DesignerWidget final : public QWidget, public Designer
+{
+    Q_OBJECT
+    Q_PROPERTY(QString DocumentHTML READ documentHtml WRITE setDocumentHtml)
+    Q_PROPERTY(bool IsDirty READ isDirty)
+    Q_PROPERTY(QString BaseFile READ baseFile WRITE setBaseFile)
+    Q_PROPERTY(bool ShowBorders READ showBorders WRITE setShowBorders)
+    Q_PROPERTY(bool ShowDetails READ showDetails WRITE setShowDetails)
+    Q_PROPERTY(bool BrowseMode READ browseMode WRITE setBrowseMode)
+    Q_PROPERTY(bool SnapToGrid READ snapToGrid WRITE setSnapToGrid)
+    Q_PROPERTY(QString selectionType READ selectionType)
+
+public:
+    /// The prompts outlive the widget, which is hidden at first.
+    explicit DesignerWidget(Prompts &prompts, QWidget *parent = nullptr);
+    ~DesignerWidget() override;
+
+    /// A file that can't be read leaves everything as it was.
+    Q_INVOKABLE void LoadDocument(const QString &path);
+    /// The argument of InsertTable may be a map with NumRows, NumCols, TableAttrs, CellAttrs and Caption.
+    Q_INVOKABLE QVariant ExecCommand(int command, int prompting = 0, const QVariant &argument = {});
+    Q_INVOKABLE int QueryStatus(int command) const { return queryStatus(DesignerCommand{command}); }
+    Q_INVOKABLE void pasteHTML(const QString &html) { pasteHtml(html); }
+    /// States: 0 unchecked, 1 checked, 2 greyed.
+    Q_INVOKABLE void SetContextMenu(const QStringList &entries, const QVariantList &states);
+
+    bool isShowing() const override { return !isHidden(); }
+    bool isDirty() const override;
+    QString documentHtml() override;
+    void setDocumentHtml(const QString &html) override;
+    void loadDocument(const QString &path) override;
+    QString baseFile() const override { return m_baseFile; }
+    void setBaseFile(const QString &path) override { m_baseFile = path; }
+    void pasteHtml(const QString &html) override;
+    QVariant execCommand(DesignerCommand command, DesignerPrompting prompting, const QVariant &argument) override;
+    int queryStatus(DesignerCommand command) const override;
+    QString selectionType() const override { return m_state.selectionType; }
+    bool showBorders() const override { return m_looks.value(QStringLiteral("borders")).toBool(); }
+    void setShowBorders(bool on) override { setLook(QStringLiteral("borders"), on); }
+    bool showDetails() const override { return m_looks.value(QStringLiteral("details")).toBool(); }
+    void setShowDetails(bool on) override { setLook(QStringLiteral("details"), on); }
+    bool browseMode() const override { return m_looks.value(QStringLiteral("browseMode")).toBool(); }
+    void setBrowseMode(bool on) override { setLook(QStringLiteral("browseMode"), on); }
+    bool snapToGrid() const override { return m_looks.value(QStringLiteral("snapToGrid")).toBool(); }
+    void setSnapToGrid(bool on) override { setLook(QStringLiteral("snapToGrid"), on); }
+    void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
+    void setEvents(DesignerEvents events) override { m_events = std::move(events); }
+
+    QWebEngineView &view() { return *m_view; }
+    DesignerPage &page() { return *m_page; }
+    const DesignerHandles &handles() const { return *m_handles; }
+
+signals:
+    void DocumentComplete();
+    void DisplayChanged();
+    /// A place of the screen.
+    void ShowContextMenu(int x, int y);
+    void ContextMenuAction(int index);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void connectPage();
+    void takeText(const QString &source);
+    void open();
+    void write(bool ready);
+    void complete(const QVariant &answer);
+    void takeLoss();
+    bool isGivenUp() const;
+    bool waitUntilComplete();
+    QVariant ask(const QString &function, const QVariantList &arguments = {}) const;
+    QVariant takeAnswer(const QVariant &answer) const;
+    bool takeReport(const QVariantMap &report) const;
+    void takeCopy(const DesignerCopy &copy);
+    void announceDisplay();
+    void awaitKeys() const;
+    void setLook(const QString &name, bool on);
+    void useClipboard(const QVariantMap &request);
+    void requestContextMenu(const QPoint &place);
+
+    /// How a command reaches the page.
+    struct Road {
+        DesignerCommand command;
+        QVariant (DesignerWidget::*run)(DesignerPrompting prompting, const QVariant &argument);
+    };
+    static const Road roads[8];
+
+    QVariant runWith(DesignerCommand command, const QVariant &argument);
+    QVariant insertTable(DesignerPrompting prompting, const QVariant &argument);
+    QVariant copy(DesignerPrompting prompting, const QVariant &argument);
+    QVariant cut(DesignerPrompting prompting, const QVariant &argument);
+    QVariant paste(DesignerPrompting prompting, const QVariant &argument);
+    QVariant askPicture(DesignerPrompting prompting, const QVariant &argument);
+    QVariant askLink(DesignerPrompting prompting, const QVariant &argument);
+    QVariant find(DesignerPrompting prompting, const QVariant &argument);
+    QVariant chooseFont(DesignerPrompting prompting, const QVariant &argument);
+
+    DesignerQuestions m_questions;
+    DesignerEvents m_events;
+    QWebEngineProfile m_profile;
+    /// Deleted before the profile, which must outlive its page.
+    std::unique_ptr<QWebEngineView> m_view;
+    DesignerPage *m_page = nullptr;
+    DesignerHandles *m_handles = nullptr;
+    QMenu *m_menu = nullptr;
+
+    PageText m_text;
+    QString m_baseFile;
+    QVariantMap m_looks;
+    /// What the page told last; reading it may have to wait for keys on their way.
+    mutable DesignerState m_state;
+    mutable int m_keysSent = 0;
+    /// The page as it was known last.
+    DesignerCopy m_copy;
+    bool m_isComplete = false;
+    /// Somebody has waited for the page as long as anybody should.
+    bool m_isLate = false;
+    /// Changes from before the page was lost and loaded again.
+    bool m_hasLostChanges = false;
+    int m_losses = 0;
+    /// Tells an answer to an older load.
+    int m_load = 0;
+};
+
+} // namespace zephira

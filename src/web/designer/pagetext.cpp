@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/designer/pagetext.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+#include <span>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr QStringView lineEnd = u"\r\n";
+constexpr QStringView bodyEnd = u"</body>";
+constexpr QStringView rootEnd = u"</html>";
+
+constexpr QStringView lonelyAttributes[] = {
+    u"allowfullscreen", u"async",   u"autofocus", u"autoplay", u"checked",  u"compact",    u"controls", u"declare",
+    u"default",         u"defer",   u"disabled",  u"hidden",   u"ismap",    u"itemscope",  u"loop",     u"multiple",
+    u"muted",           u"nohref",  u"nomodule",  u"noresize", u"noshade",  u"novalidate", u"nowrap",   u"open",
+    u"playsinline",     u"readonly", u"required", u"reversed", u"selected",
+};
+
+/// Elements that begin on a line of their own when one of them ends before. Blocks that style sheets like to lay side by
+/// side aren't among them, since a line end would put a gap between them.
+constexpr QStringView blocks[] = {
+    u"address", u"blockquote", u"dd", u"dl", u"dt", u"h1", u"h2",  u"h3",    u"h4", u"h5",
+    u"h6",      u"hr",         u"ol", u"p",  u"pre", u"table", u"tr", u"ul",
+};
+
+constexpr QStringView rootElements[] = {u"html", u"head", u"body", u"frameset"};
+
+/// Elements whose first line end a browser leaves out.
+constexpr QStringView linedElements[] = {u"pre", u"textarea", u"listing"};
+
+bool isOneOf(QStringView name, std::span<const QStringView> names)
+{
+    return std::ranges::find(names, name) != names.end();
+}
+
+bool isBlankText(QStringView text)
+{
+    return std::ranges::all_of(text, [](QChar c) { return QStringView(u" \t\n\r\f").contains(c); });
+}
+
+bool isOutside(const PagePiece &piece, QStringView source)
+{
+    switch (piece.kind) {
+    case PieceKind::Comment:
+    case PieceKind::Doctype:
+    case PieceKind::ServerText:
+        return true;
+    case PieceKind::Text: {
+        const QStringView text = piece.in(source);
+        return isBlankText(piece.begin == 0 && text.startsWith(QChar::ByteOrderMark) ? text.sliced(1) : text);
+    }
+    default:
+        return false;
+    }
+}
+
+/// Whether the piece ends only with the page, because nobody closed it.
+bool isOpen(const PagePiece &piece, QStringView source)
+{
+    const bool canBeOpen = piece.kind == PieceKind::Comment || piece.kind == PieceKind::ServerText;
+    return canBeOpen && piece.end == source.size() && !piece.in(source).endsWith(u'>');
+}
+
+/// An element that has no end swallows all end tags that the engine writes behind it; without them.
+QStringView withoutEndsOfPlainText(QStringView root)
+{
+    constexpr QStringView plainTextEnd = u"</plaintext>";
+    const qsizetype end = root.lastIndexOf(plainTextEnd);
+    if (end < 0)
+        return root;
+    static const QRegularExpression endTags(u"^(?:</[a-z0-9:-]+>)+$"_s);
+    return endTags.match(root.sliced(end).toString()).hasMatch() ? root.first(end) : root;
+}
+
+/// The lower-case name of the tag that a piece begins, if it is one of those that hold the page together.
+QString rootTag(const PagePiece &piece, QStringView source, bool *isEnd = nullptr)
+{
+    if (piece.kind != PieceKind::Markup)
+        return {};
+    const QString name = tagNameOf(piece.in(source), isEnd).toString().toLower();
+    return isOneOf(name, rootElements) ? name : QString();
+}
+
+/// Whether the piece is an end tag of the body or the root.
+bool isRootEnd(const PagePiece &piece, QStringView source)
+{
+    bool isEnd = false;
+    const QString name = rootTag(piece, source, &isEnd);
+    return isEnd && (name == u"body" || name == u"html");
+}
+
+/// What the engine wrote without the tags that it added to a page that had none of them. Tags that have got attributes
+/// mean something; then nothing is left out.
+std::optional<QString> withoutRootTags(QStringView root)
+{
+    QString text;
+    for (const PagePiece &piece : scanPage(root)) {
+        const bool isRootTag = !rootTag(piece, root).isEmpty();
+        if (isRootTag && !piece.in(root).endsWith(u'>'))
+            return {};
+        if (!isRootTag)
+            text += piece.in(root);
+    }
+    return text;
+}
+
+QString withCrLf(QStringView text)
+{
+    return text.toString().replace(u'\n', u"\r\n"_s);
+}
+
+QString withLf(QString text)
+{
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+}
+
+/// Writes the pieces of what the engine serialised. The engine's markup is regular: names in lower case, values in
+/// double quotes.
+class TidyWriter
+{
+public:
+    TidyWriter(QStringView source, const EntityHabits &text, const EntityHabits &values)
+        : m_source(source), m_text(text), m_values(values)
+    {
+        m_out.reserve(source.size());
+    }
+
+    QString write()
+    {
+        for (const PagePiece &piece : scanPage(m_source)) {
+            const QStringView text = piece.in(m_source);
+            if (m_insideMark && piece.kind == PieceKind::Value && m_isMarkValue)
+                m_out += u"<!--%1-->"_s.arg(text);
+            if (piece.kind == PieceKind::Markup)
+                writeMarkup(text);
+            else if (!m_insideMark)
+                writeContent(piece.kind, text);
+        }
+        return std::move(m_out);
+    }
+
+private:
+    void writeMarkup(QStringView text)
+    {
+        bool isEnd = false;
+        const QStringView name = tagNameOf(text, &isEnd);
+        if (m_insideMark || name == markElement) {
+            // The piece that ends the mark belongs to it.
+            m_insideMark = !(name == markElement && isEnd);
+            m_isMarkValue = text.endsWith(u" mark=\"");
+            m_afterBlock = m_afterLined = false;
+            return;
+        }
+        if (!name.isEmpty()) {
+            m_name = name;
+            m_isEnd = isEnd;
+            if (!isEnd && wantsLine(name))
+                m_out += lineEnd;
+        }
+        m_out += m_afterLonely && text.startsWith(u'"') ? text.sliced(1) : text;
+        m_afterLonely = false;
+        const bool ends = text.endsWith(u'>');
+        m_afterBlock = ends && (m_isEnd || m_name == u"hr") && isOneOf(m_name, blocks);
+        m_afterLined = ends && !m_isEnd && isOneOf(m_name, linedElements);
+    }
+
+    bool wantsLine(QStringView name) const
+    {
+        if (name == u"head")
+            return m_out.endsWith(u'>');
+        if (name == u"body" || name == u"frameset")
+            return m_out.endsWith(u"</head>");
+        return m_afterBlock && isOneOf(name, blocks);
+    }
+
+    void writeContent(PieceKind kind, QStringView text)
+    {
+        if (kind == PieceKind::Value) {
+            if (text.isEmpty())
+                makeAttributeLonely();
+            m_out += m_values.write(readEngineText(text));
+            return;
+        }
+        if (m_afterLined && text.startsWith(u'\n'))
+            m_out += lineEnd;
+        m_afterBlock = m_afterLined = false;
+        const bool isSpelled = kind == PieceKind::Text || kind == PieceKind::PlainText;
+        m_out += isSpelled ? m_text.write(readEngineText(text)) : withCrLf(text);
+    }
+
+    /// An attribute that needs no value has just got an opening quote.
+    void makeAttributeLonely()
+    {
+        constexpr QStringView opening = u"=\"";
+        const QStringView written = m_out;
+        const QStringView name = written.chopped(opening.size()).sliced(written.lastIndexOf(u' ') + 1);
+        m_afterLonely = isOneOf(name, lonelyAttributes);
+        if (m_afterLonely)
+            m_out.chop(opening.size());
+    }
+
+    const QStringView m_source;
+    const EntityHabits &m_text;
+    const EntityHabits &m_values;
+    QString m_out;
+    /// The tag that was begun last.
+    QStringView m_name;
+    bool m_isEnd = false;
+    bool m_insideMark = false;
+    bool m_isMarkValue = false;
+    bool m_afterBlock = false;
+    bool m_afterLined = false;
+    bool m_afterLonely = false;
+};
+
+} // namespace
+
+PageText::PageText(QString source, const QString &markPrefix, DocumentKind kind)
+    : m_source(std::move(source)), m_kind(kind), m_marks(markPrefix)
+{
+    if (isPlain()) {
+        m_forEngine = withLf(m_source);
+        return;
+    }
+    std::vector<PagePiece> pieces = scanPage(m_source);
+    learn(pieces);
+    splitEnds(pieces);
+}
+
+/// Takes what stands in front of the root and behind the body from the engine; it needs the doctype alone.
+void PageText::splitEnds(std::vector<PagePiece> &pieces)
+{
+    const QStringView source = m_source;
+    const auto outside = [source](const PagePiece &piece) { return isOutside(piece, source); };
+    const auto rootEndPiece = [source](const PagePiece &piece) { return isRootEnd(piece, source); };
+    const auto root = std::ranges::find_if_not(pieces, outside);
+    const auto trailing = std::find_if_not(pieces.rbegin(), std::make_reverse_iterator(root),
+                                           [&](const PagePiece &piece) { return outside(piece) || rootEndPiece(piece); })
+                              .base();
+    const auto tail = std::find_if(trailing, pieces.end(), rootEndPiece);
+    m_prolog = source.first(root == pieces.end() ? source.size() : root->begin).toString();
+    m_tail = source.sliced(tail == pieces.end() ? source.size() : tail->begin).toString();
+    for (auto piece = tail; piece != pieces.end(); ++piece) {
+        const QString name = rootTag(*piece, source);
+        m_tailEndsBody = m_tailEndsBody || name == u"body";
+        m_tailEndsRoot = m_tailEndsRoot || name == u"html";
+    }
+    m_isFragment = !isBlankText(source) && std::ranges::all_of(pieces, [source](const PagePiece &piece) {
+        return rootTag(piece, source).isEmpty();
+    });
+    if (!pieces.empty() && isOpen(pieces.back(), source))
+        m_openEnd = pieces.back().in(source).toString();
+    // The engine drops a doctype that comes too late.
+    for (auto piece = root; piece != tail; ++piece) {
+        if (piece->kind == PieceKind::Doctype)
+            piece->kind = PieceKind::Comment;
+    }
+    const auto doctype = std::find_if(pieces.begin(), root, [](const PagePiece &piece) {
+        return piece.kind == PieceKind::Doctype;
+    });
+    if (doctype != root)
+        m_forEngine = doctype->in(source).toString();
+    m_forEngine += m_marks.mask(source, {root, tail});
+}
+
+void PageText::learn(const std::vector<PagePiece> &pieces)
+{
+    for (const PagePiece &piece : pieces) {
+        if (piece.kind == PieceKind::Text || piece.kind == PieceKind::PlainText)
+            m_textHabits.learn(piece.in(m_source));
+        else if (piece.kind == PieceKind::Value)
+            m_valueHabits.learn(piece.in(m_source));
+    }
+}
+
+QString PageText::tidied(QStringView markup) const
+{
+    return TidyWriter(markup, m_textHabits, m_valueHabits).write();
+}
+
+QString PageText::fragmentForEngine(const QString &markup)
+{
+    return isPlain() ? withLf(markup) : m_marks.mask(markup);
+}
+
+QString PageText::fragmentFromEngine(const QString &markup) const
+{
+    return isPlain() ? withCrLf(markup) : m_marks.unmask(tidied(markup));
+}
+
+QString PageText::fromEngine(const QString &rootElement) const
+{
+    if (isPlain())
+        return withCrLf(rootElement);
+    QStringView root = withoutEndsOfPlainText(rootElement);
+    const bool isEndless = root.size() < rootElement.size();
+    if (const auto fragment = m_isFragment ? withoutRootTags(root) : std::nullopt)
+        return m_prolog + m_marks.unmask(tidied(*fragment));
+    if (isEndless)
+        return m_prolog + m_marks.unmask(tidied(root));
+    if (root.endsWith(rootEnd))
+        root.chop(rootEnd.size());
+    const bool hasBody = root.endsWith(bodyEnd);
+    if (hasBody)
+        root.chop(bodyEnd.size());
+    QString text = m_prolog + m_marks.unmask(tidied(root));
+    // Whatever came behind an open end would belong to it.
+    if (!m_openEnd.isEmpty() && text.endsWith(m_openEnd))
+        return text;
+    if (m_tail.isEmpty() && !text.endsWith(lineEnd))
+        text += lineEnd;
+    if (hasBody && !m_tailEndsBody)
+        text += m_tail.isEmpty() ? u"</body>\r\n"_s : u"</body>"_s;
+    text += m_tail;
+    if (!m_tailEndsRoot)
+        text += u"</html>\r\n"_s;
+    return text;
+}
+
+} // namespace zephira

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/localfiles.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// What pages may ask for beside local files. Everything else, such as the engine's own pages, stays closed.
+constexpr QStringView openSchemes[] = {u"http", u"https", u"ws", u"wss", u"data", u"blob", u"about"};
+
+bool isOpen(const QUrl &address)
+{
+    return std::ranges::find(openSchemes, address.scheme()) != std::end(openSchemes);
+}
+
+/// The file behind an address after all links; empty for a file that isn't there, or isn't on this machine.
+QString fileBehind(const QUrl &address)
+{
+    if (!address.isLocalFile() || !address.host().isEmpty())
+        return {};
+    return QFileInfo(address.toLocalFile()).canonicalFilePath();
+}
+
+bool liesBeneath(const QString &file, const QString &folder)
+{
+    return file == folder || file.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+} // namespace
+
+void LocalFiles::open(const QUrl &address)
+{
+    m_coming = address;
+    if (!address.isLocalFile())
+        return;
+    const QString folder = QFileInfo(QFileInfo(address.toLocalFile()).path()).canonicalFilePath();
+    m_folders.removeAll(folder);
+    if (!folder.isEmpty())
+        m_folders.append(folder);
+}
+
+void LocalFiles::shown(const QUrl &address)
+{
+    m_shown = address;
+    m_coming.clear();
+}
+
+/// The folder that was opened for a page; empty for one that isn't local.
+QString LocalFiles::folderOf(const QUrl &page) const
+{
+    const QString file = fileBehind(page);
+    const auto folder = std::find_if(m_folders.rbegin(), m_folders.rend(),
+                                     [&](const QString &open) { return liesBeneath(file, open); });
+    return folder == m_folders.rend() ? QString() : *folder;
+}
+
+bool LocalFiles::mayShow(const QUrl &address) const
+{
+    if (!address.isLocalFile())
+        return isOpen(address);
+    // There is nothing to keep of a page that isn't there, and the engine tells the user so in its own words.
+    const bool isOwn = address == m_coming || address == m_shown;
+    return (isOwn && !QFileInfo::exists(address.toLocalFile())) || !folderOf(address).isEmpty();
+}
+
+bool LocalFiles::mayLoad(const QUrl &address) const
+{
+    if (!address.isLocalFile())
+        return isOpen(address);
+    const QString file = fileBehind(address);
+    if (file.isEmpty())
+        return false;
+    return std::ranges::any_of(std::initializer_list<QUrl>{m_shown, m_coming}, [&](const QUrl &page) {
+        const QString folder = folderOf(page);
+        return !folder.isEmpty() && liesBeneath(file, folder);
+    });
+}
+
+} // namespace zephira

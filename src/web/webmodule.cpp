@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/webmodule.h"
+
+#include "controls/quietmessages.h"
+#include "web/browserwidget.h"
+#include "web/designer/designerwidget.h"
+
+#include <QLoggingCategory>
+#include <QWebEngineProfile>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+WebModule::WebModule()
+{
+    // The engine refuses to start for the superuser with its sandbox, which needs a user with fewer rights.
+    if (geteuid() == 0) {
+        qWarning("Zephira runs as the superuser: web pages are shown without the engine's sandbox.");
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    }
+    const QuietMessages quiet;
+    QLoggingCategory::setFilterRules(u"qt.webenginecontext=false"_s);
+    const QWebEngineProfile first; // Starts the engine.
+}
+
+BrowserView WebModule::makeBrowser(QWidget *parent)
+{
+    auto *browser = new BrowserWidget(parent);
+    browser->setObjectName(u"ww1"_s);
+    browser->setAccessibleName(u"Preview of the document"_s);
+    return {browser, browser};
+}
+
+DesignerView WebModule::makeDesigner(Prompts &prompts, QWidget *parent)
+{
+    auto *designer = new DesignerWidget(prompts, parent);
+    designer->setObjectName(u"DHTMLEdit1"_s);
+    designer->setAccessibleName(u"Visual editor of the document"_s);
+    return {designer, designer};
+}
+
+} // namespace zephira

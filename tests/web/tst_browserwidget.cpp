@@ -1,0 +1,324 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/browserwidget.h"
+#include "support/eventwait.h"
+#include "support/httpserver.h"
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineView>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+/// Milliseconds that a busy machine may need to show a page.
+constexpr int patience = 60000;
+
+/// A browser that shows, and a site below a temporary folder.
+struct Bench {
+    QTemporaryDir folder;
+    BrowserWidget browser;
+
+    Bench()
+    {
+        browser.resize(400, 300);
+        browser.show();
+    }
+
+    QString write(const QString &name, const QByteArray &content) const
+    {
+        const QString path = folder.path() + u'/' + name;
+        QDir().mkpath(path.section(u'/', 0, -2));
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("can't write %s", qPrintable(path));
+        return path;
+    }
+
+    QWebEnginePage &page() const { return *browser.findChild<QWebEngineView *>()->page(); }
+
+    /// What a script in the page gives back, as text.
+    QString ask(const QString &script) const
+    {
+        std::optional<QString> answer;
+        page().runJavaScript(script, [&](const QVariant &value) { answer = value.toString(); });
+        waitUntil([&] { return answer.has_value(); }, patience);
+        return answer.value_or(u"(no answer)"_s);
+    }
+
+    /// Waits until a script gives this text.
+    bool comesTo(const QString &script, const QString &text) const
+    {
+        return waitUntil([&] { return ask(script) == text; }, patience);
+    }
+
+    /// Goes to a page and waits until it is there or has failed; returns which.
+    bool show(const QString &address)
+    {
+        QSignalSpy loaded(&page(), &QWebEnginePage::loadFinished);
+        browser.navigate(address);
+        return waitUntil([&] { return !loaded.isEmpty(); }, patience) && loaded.last().first().toBool();
+    }
+};
+
+const QByteArray title("<!DOCTYPE html><title>t</title>");
+
+} // namespace
+
+/// The browser with the real engine: what it does for the user, and what it keeps from pages.
+class TstBrowserWidget final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFileMayBeToldToBeAPage_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"a.vbs", "a.php", "a.cfm", "a b#1.inc", "a", "a.zip", "a.html"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void aFileMayBeToldToBeAPage()
+    {
+        QFETCH(QString, name);
+        Bench bench;
+        const QString path = bench.write(u"site/"_s + name, title + "<body><p>Grüße <b>1</b></p><script src=s.js></script>");
+        bench.write(u"site/s.js"_s, "document.title = 'script beside it'");
+        bench.browser.setHome(path, FileKind::Page);
+        for (const auto go : {&BrowserWidget::goHome, &BrowserWidget::refresh}) {
+            QSignalSpy loaded(&bench.page(), &QWebEnginePage::loadFinished);
+            (bench.browser.*go)();
+            QVERIFY(waitUntil([&] { return !loaded.isEmpty(); }, patience));
+            QVERIFY(bench.comesTo(u"document.body.innerText"_s, u"Grüße 1"_s));
+            QVERIFY(bench.comesTo(u"document.title"_s, u"script beside it"_s));
+            QCOMPARE(bench.browser.locationUrl(), QUrl::fromLocalFile(path).toString());
+        }
+        bench.write(u"secret.js"_s, "document.title = 'secret'");
+        bench.ask(u"var s = document.createElement('script'); s.src = '../secret.js'; "
+                  "s.onerror = () => document.title = 'refused'; document.body.append(s); 1"_s);
+        QVERIFY(bench.comesTo(u"document.title"_s, u"refused"_s));
+        QVERIFY(bench.show(bench.write(u"site/other.html"_s, title)));
+        bench.browser.setHome(path);
+        QVERIFY(bench.show(bench.write(u"site/plain.txt"_s, "<b>x")));
+        QCOMPARE(bench.ask(u"document.body.innerText"_s), u"<b>x"_s);
+    }
+
+    void aPageThatIsNotThereIsNamedAsSuch()
+    {
+        Bench bench;
+        bench.write(u"site/page.html"_s, title);
+        bench.show(bench.folder.path() + u"/site/miss ing#1.html"_s);
+        QVERIFY(bench.comesTo(u"document.documentElement.outerHTML.includes('ERR_FILE_NOT_FOUND') + ''"_s, u"true"_s));
+    }
+
+    void aVeryLargeFileGoesByItsName()
+    {
+        Bench bench;
+        const QString path = bench.write(u"large.txt"_s, title + QByteArray(700'000, 'x'));
+        bench.browser.setHome(path, FileKind::Page);
+        QVERIFY(bench.show(path));
+        QVERIFY(bench.ask(u"document.body.innerText"_s).startsWith(u"<!DOCTYPE html>"_s));
+    }
+
+    void aLocalPageShows()
+    {
+        Bench bench;
+        const QString path = bench.write(u"site/my page #1.html"_s, title + "<body><p>Grüße</p>");
+        QSignalSpy complete(&bench.browser, &BrowserWidget::NavigateComplete);
+        QVERIFY(bench.show(path));
+        QVERIFY(!complete.isEmpty());
+        QCOMPARE(bench.ask(u"document.body.innerText"_s), u"Grüße"_s);
+        QCOMPARE(bench.browser.locationUrl(), QUrl::fromLocalFile(path).toString());
+        QCOMPARE(bench.browser.property("LocationURL").toString(), bench.browser.locationUrl());
+    }
+
+    void historyAndHome()
+    {
+        Bench bench;
+        const QString one = bench.write(u"site/one.html"_s, title + "one");
+        const QString two = bench.write(u"site/two.html"_s, title + "two");
+        bench.browser.goBack(); // No history: nothing happens.
+        QVERIFY(bench.show(one));
+        QVERIFY(bench.show(two));
+        const QString text = u"document.body.innerText"_s;
+        QVERIFY(QMetaObject::invokeMethod(&bench.browser, "GoBack"));
+        QVERIFY(bench.comesTo(text, u"one"_s));
+        QVERIFY(QMetaObject::invokeMethod(&bench.browser, "GoForward"));
+        QVERIFY(bench.comesTo(text, u"two"_s));
+        bench.write(u"site/two.html"_s, title + "changed");
+        QVERIFY(QMetaObject::invokeMethod(&bench.browser, "Refresh"));
+        QVERIFY(bench.comesTo(text, u"changed"_s));
+        bench.browser.setHome(one);
+        QVERIFY(QMetaObject::invokeMethod(&bench.browser, "GoHome"));
+        QVERIFY(bench.comesTo(text, u"one"_s));
+        QVERIFY(QMetaObject::invokeMethod(&bench.browser, "Navigate", Q_ARG(QString, two)));
+        QVERIFY(bench.comesTo(text, u"changed"_s));
+    }
+
+    void aPageThatNeverComesCanBeStopped()
+    {
+        HttpServer server;
+        server.putSilence(u"/slow"_s);
+        Bench bench;
+        QSignalSpy loaded(&bench.page(), &QWebEnginePage::loadFinished);
+        bench.browser.navigate(server.address(u"/slow"_s));
+        QVERIFY(waitUntil([&] { return server.requests().contains(u"/slow"_s); }, patience));
+        QVERIFY(QMetaObject::invokeMethod(&bench.browser, "Stop"));
+        QVERIFY(waitUntil([&] { return !loaded.isEmpty(); }, patience));
+        QVERIFY(!loaded.last().first().toBool());
+    }
+
+    void aChangedPartIsReadAnew()
+    {
+        Bench bench;
+        bench.write(u"site/style.css"_s, "p { margin-left: 1px }");
+        const QString page = bench.write(u"site/page.html"_s, title + "<link rel=stylesheet href=style.css><p id=p>x");
+        const QString margin = u"getComputedStyle(document.getElementById('p')).marginLeft"_s;
+        QVERIFY(bench.show(page));
+        QCOMPARE(bench.ask(margin), u"1px"_s);
+        bench.write(u"site/style.css"_s, "p { margin-left: 2px }");
+        QVERIFY(bench.show(page));
+        QCOMPARE(bench.ask(margin), u"2px"_s);
+        QVERIFY(bench.show(u"about:blank"_s));
+        bench.write(u"site/style.css"_s, "p { margin-left: 3px }");
+        QVERIFY(bench.show(page));
+        QCOMPARE(bench.ask(margin), u"3px"_s);
+    }
+
+    void ownFilesAreReadAndOthersAreNot_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("readable");
+        QTest::newRow("beside") << u"own.js"_s << true;
+        QTest::newRow("below") << u"sub/own.js"_s << true;
+        QTest::newRow("above") << u"../secret/own.js"_s << false;
+        QTest::newRow("above, encoded") << u"%2e%2e/secret/own.js"_s << false;
+        QTest::newRow("above, by a full path") << u"FOLDER/secret/own.js"_s << false;
+        QTest::newRow("by a link in the file system") << u"link.js"_s << false;
+        QTest::newRow("by a linked folder") << u"out/own.js"_s << false;
+    }
+
+    /// By every way in which a page can ask for something.
+    void ownFilesAreReadAndOthersAreNot()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, readable);
+        Bench bench;
+        for (const QString &place : {u"site"_s, u"site/sub"_s, u"secret"_s}) {
+            bench.write(place + u"/own.js"_s, "window.came = 'yes';");
+            bench.write(place + u"/own.css"_s, "p { margin-left: 7px }");
+            bench.write(place + u"/own.html"_s, "<script>parent.postMessage('frame', '*')</script>");
+            bench.write(place + u"/own.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' width='5' height='5'/>");
+        }
+        for (const char *kind : {"js", "css", "html", "svg"}) {
+            const QString name = u"link."_s + QLatin1StringView(kind);
+            QFile::link(bench.folder.path() + u"/secret/own."_s + QLatin1StringView(kind), bench.folder.path() + u"/site/"_s + name);
+        }
+        QFile::link(bench.folder.path() + u"/secret"_s, bench.folder.path() + u"/site/out"_s);
+        file.replace(u"FOLDER"_s, QUrl::fromLocalFile(bench.folder.path()).toString());
+        const QString stem = file.chopped(2);
+        const QString html = u"<!DOCTYPE html><link rel=stylesheet href='%1css'><p id=p>x</p><img id=i src='%1svg'>"
+                             "<script>window.frame = ''; onmessage = e => window.frame = e.data;</script>"
+                             "<script src='%1js'></script><iframe src='%1html'></iframe>"
+                             "<script>window.read = ''; const r = new XMLHttpRequest; r.open('GET', '%1js');"
+                             "r.onload = () => window.read = r.responseText ? 'yes' : 'empty'; r.onerror = () => window.read = 'no';"
+                             "try { r.send() } catch (e) { window.read = 'no' }</script>"_s.arg(stem);
+        QVERIFY(bench.show(bench.write(u"site/page.html"_s, html.toUtf8())));
+        QVERIFY(bench.comesTo(u"window.read ? 'done' : ''"_s, u"done"_s));
+        QCOMPARE(bench.ask(u"window.came || 'no'"_s), readable ? u"yes"_s : u"no"_s);
+        QCOMPARE(bench.ask(u"getComputedStyle(document.getElementById('p')).marginLeft"_s), readable ? u"7px"_s : u"0px"_s);
+        QCOMPARE(bench.ask(u"String(document.getElementById('i').naturalWidth)"_s), readable ? u"5"_s : u"0"_s);
+        QCOMPARE(bench.ask(u"window.read"_s), readable ? u"yes"_s : u"no"_s);
+        if (readable)
+            QVERIFY(bench.comesTo(u"window.frame"_s, u"frame"_s));
+        else
+            QCOMPARE(bench.ask(u"window.frame"_s), QString());
+    }
+
+    void aPageCannotLeadOutOfItsFolder_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::newRow("by script") << u"<script>location = '../secret/own.html'</script>"_s;
+        QTest::newRow("by itself") << u"<meta http-equiv=refresh content='0;url=../secret/own.html'>"_s;
+        QTest::newRow("by a form") << u"<form action='../secret/own.html'></form><script>document.forms[0].submit()</script>"_s;
+    }
+
+    void aPageCannotLeadOutOfItsFolder()
+    {
+        QFETCH(QString, way);
+        Bench bench;
+        bench.write(u"secret/own.html"_s, title + "the secret");
+        const QString page = bench.write(u"site/page.html"_s, QByteArray(title + "mine") + way.toUtf8());
+        QSignalSpy loaded(&bench.page(), &QWebEnginePage::loadFinished);
+        bench.browser.navigate(page);
+        // The page itself ends well, the refused one doesn't.
+        QVERIFY(waitUntil([&] { return std::ranges::any_of(loaded, [](const QList<QVariant> &end) { return !end[0].toBool(); }); }, patience));
+        QVERIFY(!bench.ask(u"document.body.innerText"_s).contains(u"the secret"_s));
+    }
+
+    void aPageOfTheWebReadsNoLocalFile()
+    {
+        HttpServer server;
+        Bench bench;
+        const QString file = QUrl::fromLocalFile(bench.write(u"own.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' width='5'/>")).toString();
+        QVERIFY(bench.show(bench.write(u"page.html"_s, title))); // Its folder has been opened before.
+        server.put(u"/"_s, "<title>t</title><img id=i src='" + file.toUtf8() + "' onerror=\"document.title='refused'\">");
+        QVERIFY(bench.show(server.address(u"/"_s)));
+        QVERIFY(bench.comesTo(u"document.title"_s, u"refused"_s));
+    }
+
+    void windowsAreNotOpened()
+    {
+        Bench bench;
+        bench.write(u"site/two.html"_s, title + "two");
+        QVERIFY(bench.show(bench.write(u"site/page.html"_s, title + "<script>window.w = window.open('two.html')</script>one")));
+        QCOMPARE(bench.ask(u"String(window.w)"_s), u"null"_s);
+        QCOMPARE(bench.ask(u"document.body.innerText"_s), u"one"_s);
+    }
+
+    void aLinkToANewWindowOpensInPlace()
+    {
+        Bench bench;
+        bench.write(u"site/two.html"_s, title + "<body>two");
+        QVERIFY(bench.show(bench.write(u"site/page.html"_s, title + "<body style='margin:0'><a target=_blank href=two.html style='display:block;height:200px'>go</a>")));
+        QTest::mouseClick(bench.browser.findChild<QWebEngineView *>()->focusProxy(), Qt::LeftButton, {}, {50, 50});
+        QVERIFY(bench.comesTo(u"document.body.innerText"_s, u"two"_s));
+    }
+
+    void permissionsAreDenied()
+    {
+        HttpServer server;
+        server.put(u"/"_s, "<title>t</title><script>Notification.requestPermission().then(p => document.title = p)</script>");
+        Bench bench;
+        QVERIFY(bench.show(server.address(u"/"_s)));
+        QVERIFY(bench.comesTo(u"document.title"_s, u"denied"_s));
+    }
+
+    void downloadsAreRefused()
+    {
+        HttpServer server;
+        server.put(u"/file"_s, "x", "Content-Type: application/octet-stream\r\nContent-Disposition: attachment\r\n");
+        server.put(u"/"_s, "<title>t</title><a id=a href=/file download>x</a><script>document.getElementById('a').click()</script>");
+        Bench bench;
+        QList<QWebEngineDownloadRequest::DownloadState> states;
+        connect(bench.page().profile(), &QWebEngineProfile::downloadRequested, this,
+                [&](QWebEngineDownloadRequest *download) { states.append(download->state()); });
+        QVERIFY(bench.show(server.address(u"/"_s)));
+        QTRY_COMPARE_WITH_TIMEOUT(states, QList{QWebEngineDownloadRequest::DownloadCancelled}, patience);
+    }
+
+    void nothingIsKeptOnTheDisk()
+    {
+        const BrowserWidget browser;
+        QVERIFY(browser.findChild<QWebEngineView *>()->page()->profile()->isOffTheRecord());
+    }
+};
+
+ZEPHIRA_TEST(TstBrowserWidget)
+#include "tst_browserwidget.moc"

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/localfiles.h"
+#include "web/pageaddress.h"
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+/// A site with a page and a picture, a folder beside it, and ways out of the one into the other.
+struct Site {
+    QTemporaryDir folder;
+
+    Site()
+    {
+        for (const QString &name : {u"site/page.html"_s, u"site/img/a.png"_s, u"site/sub/deep.html"_s, u"secret/key.txt"_s,
+                                    u"site2/other.html"_s}) {
+            QDir(folder.path()).mkpath(name.section(u'/', 0, -2));
+            QFile file(path(name));
+            if (!file.open(QIODevice::WriteOnly))
+                qFatal("can't write %s", qPrintable(name));
+        }
+        QFile::link(path(u"secret/key.txt"_s), path(u"site/link.txt"_s));
+        QFile::link(path(u"secret"_s), path(u"site/out"_s));
+        QFile::link(path(u"site/img"_s), path(u"site/in"_s));
+        QFile::link(path(u"site"_s), path(u"alias"_s));
+    }
+
+    QString path(const QString &name) const { return folder.path() + u'/' + name; }
+    QUrl url(const QString &name) const { return QUrl::fromLocalFile(path(name)); }
+};
+
+} // namespace
+
+class TstLocalFiles final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void loading_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("allowed");
+        QTest::newRow("itself") << u"site/page.html"_s << true;
+        QTest::newRow("beside it") << u"site/img/a.png"_s << true;
+        QTest::newRow("its folder") << u"site"_s << true;
+        QTest::newRow("a link that stays within") << u"site/in/a.png"_s << true;
+        QTest::newRow("up and down again") << u"site/img/../page.html"_s << true;
+        QTest::newRow("outside") << u"secret/key.txt"_s << false;
+        QTest::newRow("outside by dots") << u"site/../secret/key.txt"_s << false;
+        QTest::newRow("outside by a link") << u"site/link.txt"_s << false;
+        QTest::newRow("outside by a linked folder") << u"site/out/key.txt"_s << false;
+        QTest::newRow("a folder whose name begins so") << u"site2/other.html"_s << false;
+        QTest::newRow("not there") << u"site/none.png"_s << false;
+        QTest::newRow("the folder above") << u""_s << false;
+    }
+
+    void loading()
+    {
+        QFETCH(QString, file);
+        const Site site;
+        LocalFiles files;
+        files.open(site.url(u"site/page.html"_s));
+        QTEST(files.mayLoad(site.url(file)), "allowed"); // On the way there.
+        files.shown(site.url(u"site/page.html"_s));
+        QTEST(files.mayLoad(site.url(file)), "allowed");
+        QVERIFY(!files.mayLoad(QUrl(u"file:///etc/passwd"_s)));
+    }
+
+    void otherAddresses_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<bool>("allowed");
+        for (const char *open : {"http://example.org/", "https://example.org/", "ws://example.org/", "data:text/html,x", "blob:x", "about:blank"})
+            QTest::newRow(open) << QString::fromLatin1(open) << true;
+        for (const char *closed : {"chrome://version", "qrc:/x", "view-source:http://example.org/", "ftp://example.org/", "mailto:a@b", "filesystem:http://x/"})
+            QTest::newRow(closed) << QString::fromLatin1(closed) << false;
+    }
+
+    void otherAddresses()
+    {
+        QFETCH(QString, address);
+        const LocalFiles files;
+        QTEST(files.mayLoad(QUrl(address)), "allowed");
+        QTEST(files.mayShow(QUrl(address)), "allowed");
+    }
+
+    void aPageOfTheWebGetsNoFile()
+    {
+        const Site site;
+        LocalFiles files;
+        files.open(site.url(u"site/page.html"_s));
+        files.shown(site.url(u"site/page.html"_s));
+        files.open(QUrl(u"http://example.org/"_s));
+        files.shown(QUrl(u"http://example.org/"_s));
+        QVERIFY(!files.mayLoad(site.url(u"site/page.html"_s)));
+        files.shown(QUrl(u"data:text/html,x"_s));
+        QVERIFY(!files.mayLoad(site.url(u"site/page.html"_s)));
+    }
+
+    void aFileOnAnotherMachineIsNone()
+    {
+        const Site site;
+        LocalFiles files;
+        files.open(site.url(u"site/page.html"_s));
+        files.shown(site.url(u"site/page.html"_s));
+        QUrl remote = site.url(u"site/page.html"_s);
+        remote.setHost(u"example.org"_s);
+        QVERIFY(!files.mayLoad(remote));
+        QVERIFY(!files.mayShow(remote));
+    }
+
+    void pagesLeadOnlyWithinWhatWasOpened()
+    {
+        const Site site;
+        LocalFiles files;
+        files.open(site.url(u"site/page.html"_s));
+        files.shown(site.url(u"site/page.html"_s));
+        QVERIFY(files.mayShow(site.url(u"site/sub/deep.html"_s)));
+        QVERIFY(!files.mayShow(site.url(u"secret/key.txt"_s)));
+        // A page that a link led to keeps the rights of the one that was opened.
+        files.shown(site.url(u"site/sub/deep.html"_s));
+        QVERIFY(files.mayLoad(site.url(u"site/img/a.png"_s)));
+        QVERIFY(files.mayShow(site.url(u"site/page.html"_s)));
+        // Going elsewhere doesn't lend the first page's rights to the second, but the way back stays open.
+        files.open(site.url(u"site2/other.html"_s));
+        files.shown(site.url(u"site2/other.html"_s));
+        QVERIFY(!files.mayLoad(site.url(u"site/img/a.png"_s)));
+        QVERIFY(files.mayShow(site.url(u"site/page.html"_s)));
+    }
+
+    void aPageOpenedThroughALinkHasTheRealFolder()
+    {
+        const Site site;
+        LocalFiles files;
+        files.open(site.url(u"alias/page.html"_s));
+        files.shown(site.url(u"alias/page.html"_s));
+        QVERIFY(files.mayLoad(site.url(u"alias/img/a.png"_s)));
+        QVERIFY(!files.mayLoad(site.url(u"alias/../secret/key.txt"_s)));
+    }
+
+    void thePageThatIsGoneToMayBeMissing()
+    {
+        const Site site;
+        LocalFiles files;
+        const QUrl missing = site.url(u"site/missing.html"_s);
+        QVERIFY(!files.mayShow(missing));
+        files.open(missing);
+        QVERIFY(files.mayShow(missing));
+        QVERIFY(!files.mayShow(site.url(u"secret/missing.html"_s)));
+        files.shown(missing);
+        QVERIFY(files.mayShow(missing)); // Which the engine may tell before it asks.
+        files.shown(site.url(u"site/page.html"_s));
+        QVERIFY(!files.mayShow(missing));
+    }
+
+    void addresses_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("address");
+        QTest::newRow("file") << u"/site/page.html"_s << u"file:///site/page.html"_s;
+        QTest::newRow("file with odd characters") << u"/site/50% off#1?.html"_s << u"file:///site/50%25 off%231%3F.html"_s;
+        QTest::newRow("address") << u"https://example.org/a?b#c"_s << u"https://example.org/a?b#c"_s;
+        QTest::newRow("host") << u" example.org/a "_s << u"http://example.org/a"_s;
+        QTest::newRow("empty page") << u"about:blank"_s << u"about:blank"_s;
+        QTest::newRow("nothing") << u" "_s << u"about:blank"_s;
+        QTest::newRow("no address") << u"two words"_s << u"about:blank"_s;
+    }
+
+    void addresses()
+    {
+        QFETCH(QString, text);
+        QTEST(pageAddress(text).toString(), "address");
+    }
+
+    void namesOfPages_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isPage");
+        QTest::newRow("htm") << u"/a.htm"_s << true;
+        QTest::newRow("capitals") << u"/A.HTML"_s << true;
+        QTest::newRow("a copy") << u"/a.htmltemp.html"_s << true;
+        QTest::newRow("with markup of a server") << u"/a.shtml"_s << true;
+        QTest::newRow("script") << u"/a.vbs"_s << false;
+        QTest::newRow("page in the folder's name") << u"/a.html/b"_s << false;
+        QTest::newRow("nothing") << QString() << false;
+    }
+
+    void namesOfPages()
+    {
+        QFETCH(QString, path);
+        QTEST(isNamedAsPage(QUrl::fromLocalFile(path)), "isPage");
+    }
+};
+
+ZEPHIRA_TEST(TstLocalFiles)
+#include "tst_localfiles.moc"
