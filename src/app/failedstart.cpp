@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/failedstart.h"
 
-#include "controls/desktop/briefmessage.h"
+#include "desktop/briefmessage.h"
 
 #include <cstdio>
 #include <cstdlib>

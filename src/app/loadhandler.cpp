@@ -9,7 +9,7 @@
 #include "controls/errorstyles.h"
 #include "files/configuration.h"
 #include "files/usersettings.h"
-#include "controls/formposition.h"
+#include "desktop/formposition.h"
 #include "editor/codemax.h"
 #include "editor/codemaxglobals.h"
 #include "controls/settingsnames.h"

@@ -2,7 +2,7 @@
 #include "app/commandline.h"
 #include "app/frmmain.h"
 #include "app/program.h"
-#include "controls/desktop/webenginestart.h"
+#include "desktop/webenginestart.h"
 
 #include <csignal>
 #include <cstdio>

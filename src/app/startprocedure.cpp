@@ -7,7 +7,7 @@
 #include "files/appfolder.h"
 #include "files/configuration.h"
 #include "files/usersettings.h"
-#include "controls/modalformopener.h"
+#include "desktop/modalformopener.h"
 #include "controls/settingsnames.h"
 
 using namespace Qt::StringLiterals;

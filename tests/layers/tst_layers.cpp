@@ -91,9 +91,9 @@ private slots:
             u"ftp/a.cpp:2: only the file transfer opens sockets"_s);
         row("a socket at home", u"ftp/net/a.cpp"_s, u"#include <sys/socket.h>\n"_s, {});
         row("a message box", u"app/a.cpp"_s, u"int a;\nvoid f() { QMessageBox::about(nullptr, {}, {}); }\n"_s,
-            u"app/a.cpp:3: only controls/desktop uses the dialog classes"_s);
+            u"app/a.cpp:3: only desktop uses the dialog classes"_s);
         row("a message box in words", u"app/a.cpp"_s, u"// A QMessageBox\nconst char *a = \"QFileDialog\";\n"_s, {});
-        row("a message box at home", u"controls/desktop/a.cpp"_s, u"QMessageBox box;\nint i = box.exec();\n"_s, {});
+        row("a message box at home", u"desktop/a.cpp"_s, u"QMessageBox box;\nint i = box.exec();\n"_s, {});
         row("running a dialog", u"app/a.cpp"_s, u"int i = dialog.exec();\n"_s,
             u"app/a.cpp:2: only the form opener runs a dialog"_s);
         row("running a pointer's dialog", u"app/a.cpp"_s, u"int i = m_form->exec();\n"_s,
@@ -105,7 +105,7 @@ private slots:
         row("running the program, a loop and a menu", u"app/a.cpp"_s,
             u"int i = QApplication::exec() + loop.exec() + m_menu->exec() + application.exec();\n"_s, {});
         row("names that hold the word", u"app/a.cpp"_s, u"void f() { designer.execCommand(1); executive(); }\n"_s, {});
-        row("the opener", u"controls/modalformopener.cpp"_s, u"int i = dialog->exec();\n"_s, {});
+        row("the opener", u"desktop/modalformopener.cpp"_s, u"int i = dialog->exec();\n"_s, {});
         row("a header twice", u"app/a.h"_s, u"int a;\n"_s, u"app/a.h:1: a header is included once"_s);
         row("a thousand lines", u"app/a.cpp"_s, QString(999, u'\n'), {});
         row("more lines", u"app/a.cpp"_s, QString(1000, u'\n'), u"app/a.cpp:1001: no source has more than 1000 lines"_s);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/webviews/webbench.h"
 
-#include "controls/desktop/module.h"
+#include "desktop/module.h"
 #include "support/eventwait.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/windowbench.h"
-#include "controls/modalformopener.h"
+#include "desktop/modalformopener.h"
 #include "support/testregistry.h"
 
 #include <QApplication>

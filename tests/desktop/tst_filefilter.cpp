@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/filefilter.h"
+#include "desktop/filefilter.h"
 #include "support/testregistry.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/formposition.h"
+#include "desktop/formposition.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 

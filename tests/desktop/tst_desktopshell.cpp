@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/desktopclipboard.h"
-#include "controls/desktop/desktopshell.h"
+#include "desktop/desktopclipboard.h"
+#include "desktop/desktopshell.h"
 #include "support/testregistry.h"
 
 #include <QApplication>

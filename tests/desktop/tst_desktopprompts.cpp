@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/desktopprompts.h"
+#include "desktop/desktopprompts.h"
 #include "controls/qtvalues.h"
 #include "support/testregistry.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/briefmessage.h"
+#include "desktop/briefmessage.h"
 
 #include <QMessageBox>
 #include <QTimer>

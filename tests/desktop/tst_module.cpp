@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/module.h"
+#include "desktop/module.h"
 #include "controls/webviews.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"

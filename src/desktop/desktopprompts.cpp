@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/desktopprompts.h"
+#include "desktop/desktopprompts.h"
 
-#include "controls/desktop/filefilter.h"
+#include "desktop/filefilter.h"
 #include "controls/qtvalues.h"
 
 #include <QApplication>

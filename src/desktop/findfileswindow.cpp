@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/findfileswindow.h"
+#include "desktop/findfileswindow.h"
 
 #include <QDesktopServices>
 #include <QElapsedTimer>

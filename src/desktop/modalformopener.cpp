@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/modalformopener.h"
+#include "desktop/modalformopener.h"
 
 #include "controls/formcatalogue.h"
 

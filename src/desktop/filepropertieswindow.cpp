@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/filepropertieswindow.h"
+#include "desktop/filepropertieswindow.h"
 
 #include <QDateTime>
 #include <QDialogButtonBox>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/desktopclipboard.h"
+#include "desktop/desktopclipboard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/webenginestart.h"
+#include "desktop/webenginestart.h"
 
 #include "controls/quietmessages.h"
 

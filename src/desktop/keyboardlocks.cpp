@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/keyboardlocks.h"
+#include "desktop/keyboardlocks.h"
 
 #include <QGuiApplication>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/filemanager.h"
+#include "desktop/filemanager.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

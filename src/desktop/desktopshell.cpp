@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/desktop/desktopshell.h"
+#include "desktop/desktopshell.h"
 
-#include "controls/desktop/filemanager.h"
-#include "controls/desktop/filepropertieswindow.h"
-#include "controls/desktop/findfileswindow.h"
+#include "desktop/filemanager.h"
+#include "desktop/filepropertieswindow.h"
+#include "desktop/findfileswindow.h"
 
 #include <QApplication>
 #include <QDesktopServices>
