@@ -4,7 +4,7 @@
 // ftp_bench up HOST PORT LOCALDIR NAME FOLDER: stores a local file in a server's folder, as an upload does.
 // ftp_bench mirror HOST PORT FOLDER LOCALDIR: downloads all files of a server's folder.
 // Each logs in without a name. The time is taken from outside, with start and login, as that of the peers is.
-#include "controls/clock.h"
+#include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"

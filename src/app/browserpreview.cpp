@@ -2,11 +2,11 @@
 #include "app/browserpreview.h"
 
 #include "app/windowcommands.h"
-#include "controls/documenthost.h"
-#include "files/configuration.h"
-#include "files/filestore.h"
-#include "controls/prompts.h"
-#include "controls/shell.h"
+#include "core/documenthost.h"
+#include "core/configuration.h"
+#include "core/filestore.h"
+#include "core/prompts.h"
+#include "core/shell.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 #include "app/colourtable.h"
 
 #include "app/startdecision.h"
-#include "controls/editingcontrol.h"
+#include "core/editingcontrol.h"
 
 using namespace Qt::StringLiterals;
 

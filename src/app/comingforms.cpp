@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comingforms.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 
 namespace zephira {
 

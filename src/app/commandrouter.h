@@ -3,7 +3,7 @@
 
 #include "app/palettecommands.h"
 #include "app/sourceformatting.h"
-#include "controls/appcontext.h"
+#include "core/appcontext.h"
 
 #include <QString>
 

@@ -2,13 +2,13 @@
 #include "app/document.h"
 
 #include "app/languages.h"
-#include "controls/clipboard.h"
-#include "controls/designer.h"
-#include "controls/documenthost.h"
-#include "controls/editingcontrol.h"
-#include "controls/errorstyles.h"
-#include "files/filestore.h"
-#include "controls/relativepath.h"
+#include "core/clipboard.h"
+#include "core/designer.h"
+#include "core/documenthost.h"
+#include "core/editingcontrol.h"
+#include "core/errorstyles.h"
+#include "core/filestore.h"
+#include "core/relativepath.h"
 
 #include <array>
 

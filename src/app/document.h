@@ -3,8 +3,8 @@
 
 #include "app/commondialog.h"
 #include "app/documentwindow.h"
-#include "controls/appcontext.h"
-#include "controls/prompts.h"
+#include "core/appcontext.h"
+#include "core/prompts.h"
 
 #include <QString>
 

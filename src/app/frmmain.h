@@ -7,9 +7,9 @@
 #include "app/documentwindow.h"
 #include "app/windowcommands.h"
 #include "app/windowservices.h"
-#include "controls/appcontext.h"
-#include "controls/documenthost.h"
-#include "controls/editingcontrol.h"
+#include "core/appcontext.h"
+#include "core/documenthost.h"
+#include "core/editingcontrol.h"
 #include "views/lateviews.h"
 
 #include <QMainWindow>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/helppages.h"
 
-#include "controls/prompts.h"
-#include "controls/shell.h"
+#include "core/prompts.h"
+#include "core/shell.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,7 @@
 #include "app/icons.h"
 #include "app/menutable.h"
 #include "app/tagsmenu.h"
-#include "controls/formopener.h"
+#include "core/formopener.h"
 
 #include <QAction>
 #include <QMenu>

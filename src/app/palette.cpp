@@ -3,7 +3,7 @@
 
 #include "app/icons.h"
 #include "app/palettetable.h"
-#include "controls/formopener.h"
+#include "core/formopener.h"
 
 #include <QAction>
 #include <QActionEvent>

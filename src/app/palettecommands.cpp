@@ -4,11 +4,11 @@
 #include "app/helppages.h"
 #include "app/palettetable.h"
 #include "app/windowcommands.h"
-#include "controls/editingcontrol.h"
-#include "controls/errorstyles.h"
-#include "controls/formopener.h"
-#include "controls/inserter.h"
-#include "controls/prompts.h"
+#include "core/editingcontrol.h"
+#include "core/errorstyles.h"
+#include "core/formopener.h"
+#include "core/inserter.h"
+#include "core/prompts.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 #include "app/recoverykeeper.h"
 
 #include "app/document.h"
-#include "controls/clock.h"
-#include "controls/designer.h"
+#include "core/clock.h"
+#include "core/designer.h"
 #include "files/recoverycopies.h"
 #include "editor/codemax.h"
 

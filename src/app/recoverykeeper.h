@@ -2,7 +2,7 @@
 #pragma once
 
 #include "files/recoveryschedule.h"
-#include "controls/result.h"
+#include "core/result.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -2,7 +2,7 @@
 #include "app/sidelists.h"
 
 #include "app/menus.h"
-#include "controls/appcontext.h"
+#include "core/appcontext.h"
 #include "panes/asptagtree.h"
 #include "panes/customtabs.h"
 #include "panes/ihtmltaglist.h"

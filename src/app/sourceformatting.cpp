@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/sourceformatting.h"
 
-#include "controls/appcontext.h"
-#include "controls/editingcontrol.h"
-#include "controls/errorstyles.h"
+#include "core/appcontext.h"
+#include "core/editingcontrol.h"
+#include "core/errorstyles.h"
 #include "tools/sourceformatter.h"
 
 #include <QCoreApplication>

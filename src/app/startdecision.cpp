@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startdecision.h"
 
-#include "controls/errorstyles.h"
-#include "files/configuration.h"
-#include "controls/vbtext.h"
+#include "core/errorstyles.h"
+#include "core/configuration.h"
+#include "core/vbtext.h"
 
 using namespace Qt::StringLiterals;
 

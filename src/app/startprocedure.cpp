@@ -5,10 +5,10 @@
 #include "app/loadhandler.h"
 #include "app/startdecision.h"
 #include "files/appfolder.h"
-#include "files/configuration.h"
-#include "files/usersettings.h"
+#include "core/configuration.h"
+#include "core/usersettings.h"
 #include "desktop/modalformopener.h"
-#include "controls/settingsnames.h"
+#include "core/settingsnames.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/statuspanels.h"
 
-#include "controls/clock.h"
+#include "core/clock.h"
 
 #include <QLabel>
 #include <QLocale>

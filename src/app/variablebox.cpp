@@ -3,7 +3,7 @@
 
 #include "app/palette.h"
 #include "app/variablelists.h"
-#include "controls/editingcontrol.h"
+#include "core/editingcontrol.h"
 
 #include <QWheelEvent>
 

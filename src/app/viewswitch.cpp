@@ -6,8 +6,8 @@
 #include "app/menus.h"
 #include "app/menutable.h"
 #include "files/appfolder.h"
-#include "controls/errorstyles.h"
-#include "controls/prompts.h"
+#include "core/errorstyles.h"
+#include "core/prompts.h"
 #include "views/previewpane.h"
 
 #include <QEvent>

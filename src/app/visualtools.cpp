@@ -4,7 +4,7 @@
 #include "app/designerbar.h"
 #include "app/menus.h"
 #include "app/menutable.h"
-#include "controls/designer.h"
+#include "core/designer.h"
 #include "views/designerbarstate.h"
 #include "views/designermenus.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/appcontext.h"
+#include "core/appcontext.h"
 #include "views/designercontextmenu.h"
 #include "views/designertools.h"
 

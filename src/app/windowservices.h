@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/webviews.h"
+#include "core/webviews.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/clipboard.h"
+#include "core/clipboard.h"
 
 namespace zephira {
 

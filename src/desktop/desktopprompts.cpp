@@ -2,7 +2,7 @@
 #include "desktop/desktopprompts.h"
 
 #include "desktop/filefilter.h"
-#include "controls/qtvalues.h"
+#include "widgets/qtvalues.h"
 
 #include <QApplication>
 #include <QColorDialog>

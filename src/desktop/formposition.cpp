@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/formposition.h"
 
-#include "files/usersettings.h"
+#include "core/usersettings.h"
 
 #include <QGuiApplication>
 #include <QScreen>

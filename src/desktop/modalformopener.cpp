@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/modalformopener.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/formopener.h"
+#include "core/formopener.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/webenginestart.h"
 
-#include "controls/quietmessages.h"
+#include "core/quietmessages.h"
 
 namespace zephira {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/codemax.h"
 
-#include "controls/qtvalues.h"
+#include "widgets/qtvalues.h"
 #include "editor/accessibleeditor.h"
 #include "editor/bracematcher.h"
 #include "editor/buffertext.h"

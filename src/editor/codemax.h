@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/editingcontrol.h"
+#include "core/editingcontrol.h"
 #include "files/documentfile.h"
 #include "files/textfile.h"
 #include "editor/editoroptions.h"

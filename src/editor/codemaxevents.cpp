@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keys, mouse, drops and the context menu of the editing control.
-#include "controls/qtvalues.h"
+#include "widgets/qtvalues.h"
 #include "editor/codemax.h"
 #include "editor/codemaxglobals.h"
 #include "editor/colouritems.h"

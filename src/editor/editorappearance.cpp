@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorappearance.h"
 
-#include "controls/qtvalues.h"
+#include "widgets/qtvalues.h"
 #include "editor/editormargins.h"
 
 #include <QPalette>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorcommands.h"
 
-#include "controls/editingcontrol.h"
+#include "core/editingcontrol.h"
 
 #include <Qsci/qsciscintillabase.h>
 

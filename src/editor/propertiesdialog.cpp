@@ -3,7 +3,7 @@
 
 #include "ui_propertiesdialog.h"
 
-#include "controls/qtvalues.h"
+#include "widgets/qtvalues.h"
 #include "editor/codemax.h"
 #include "editor/editorappearance.h"
 #include "editor/editormargins.h"

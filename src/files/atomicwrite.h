@@ -2,7 +2,7 @@
 #pragma once
 
 #include "files/filesystemcalls.h"
-#include "controls/result.h"
+#include "core/result.h"
 
 #include <QByteArray>
 #include <QString>

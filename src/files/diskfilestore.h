@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "files/filestore.h"
+#include "core/filestore.h"
 
 #include <memory>
 

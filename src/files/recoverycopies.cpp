@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/recoverycopies.h"
 
-#include "controls/clock.h"
+#include "core/clock.h"
 #include "files/fileerror.h"
-#include "files/filestore.h"
+#include "core/filestore.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "files/lineends.h"
-#include "controls/result.h"
+#include "core/result.h"
 
 #include <QByteArray>
 

@@ -2,7 +2,7 @@
 #include "files/textlines.h"
 
 #include "files/fileerror.h"
-#include "files/filestore.h"
+#include "core/filestore.h"
 #include "files/textfile.h"
 
 #include <algorithm>

@@ -7,11 +7,11 @@
 #include "ftp/siteprofile.h"
 #include "ui_frmconnect.h"
 
-#include "controls/errorstyles.h"
-#include "files/filestore.h"
-#include "controls/itemroles.h"
-#include "controls/prompts.h"
-#include "controls/vbtext.h"
+#include "core/errorstyles.h"
+#include "core/filestore.h"
+#include "core/itemroles.h"
+#include "core/prompts.h"
+#include "core/vbtext.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>

@@ -10,11 +10,11 @@
 #include "ftp/sessionlogfile.h"
 #include "ui_frmmainftp.h"
 
-#include "controls/appcontext.h"
-#include "controls/clock.h"
-#include "controls/errorstyles.h"
-#include "controls/formopener.h"
-#include "controls/prompts.h"
+#include "core/appcontext.h"
+#include "core/clock.h"
+#include "core/errorstyles.h"
+#include "core/formopener.h"
+#include "core/prompts.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/frmprog.h"
 
-#include "controls/appcontext.h"
-#include "controls/prompts.h"
-#include "controls/vbtext.h"
+#include "core/appcontext.h"
+#include "core/prompts.h"
+#include "core/vbtext.h"
 #include "ftp/ftpclient.h"
 #include "ui_frmprog.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/ftpconnection.h"
 
-#include "controls/prompts.h"
-#include "controls/vbtext.h"
+#include "core/prompts.h"
+#include "core/vbtext.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/localcommands.h"
 
-#include "controls/appcontext.h"
-#include "controls/errorstyles.h"
-#include "controls/prompts.h"
-#include "controls/shell.h"
-#include "controls/vbtext.h"
+#include "core/appcontext.h"
+#include "core/errorstyles.h"
+#include "core/prompts.h"
+#include "core/shell.h"
+#include "core/vbtext.h"
 #include "ftp/extensionchange.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/localpaths.h"
 
-#include "controls/vbtext.h"
+#include "core/vbtext.h"
 
 using namespace Qt::StringLiterals;
 

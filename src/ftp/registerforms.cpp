@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/registerforms.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 #include "ftp/frmconnect.h"
 #include "ftp/frmmainftp.h"
 #include "ftp/frmprog.h"

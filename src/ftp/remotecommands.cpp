@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/remotecommands.h"
 
-#include "controls/appcontext.h"
-#include "controls/clock.h"
-#include "controls/prompts.h"
-#include "controls/vbtext.h"
+#include "core/appcontext.h"
+#include "core/clock.h"
+#include "core/prompts.h"
+#include "core/vbtext.h"
 #include "ftp/extensionchange.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/remotelisting.h"
 
-#include "controls/vbtext.h"
+#include "core/vbtext.h"
 #include "ftp/filetypes.h"
 #include "ftp/remotename.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/remotepane.h"
 
-#include "controls/itemroles.h"
+#include "core/itemroles.h"
 #include "ftp/filelistview.h"
 #include "ftp/filetypes.h"
 #include "ftp/ftpimages.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/sessionlogfile.h"
 
-#include "controls/appcontext.h"
-#include "controls/errorstyles.h"
-#include "files/filestore.h"
-#include "controls/prompts.h"
+#include "core/appcontext.h"
+#include "core/errorstyles.h"
+#include "core/filestore.h"
+#include "core/prompts.h"
 
 using namespace Qt::StringLiterals;
 

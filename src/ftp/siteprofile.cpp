@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/siteprofile.h"
 
-#include "files/configuration.h"
+#include "files/iniconfiguration.h"
 
 #include <QFile>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/transferengine.h"
 
-#include "files/filestore.h"
-#include "controls/prompts.h"
+#include "core/filestore.h"
+#include "core/prompts.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/remotename.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/customtabs.h"
 
-#include "controls/appcontext.h"
-#include "files/configuration.h"
+#include "core/appcontext.h"
+#include "core/configuration.h"
 #include "files/filenumber.h"
-#include "controls/itemchoice.h"
-#include "controls/itemroles.h"
-#include "controls/pasteitem.h"
-#include "controls/prompts.h"
+#include "widgets/itemchoice.h"
+#include "core/itemroles.h"
+#include "core/pasteitem.h"
+#include "core/prompts.h"
 #include "panes/customtabfile.h"
 
 #include <QContextMenuEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/filelist.h"
 
-#include "controls/itemchoice.h"
+#include "widgets/itemchoice.h"
 
 #include <QContextMenuEvent>
 #include <QIcon>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/filenames.h"
 
-#include "controls/vbtext.h"
+#include "core/vbtext.h"
 
 #include <QDirIterator>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/filepane.h"
 
-#include "controls/prompts.h"
+#include "core/prompts.h"
 #include "panes/filenames.h"
 #include "ui_filepane.h"
 

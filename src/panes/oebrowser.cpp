@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/oebrowser.h"
 
-#include "controls/appcontext.h"
-#include "controls/editingcontrol.h"
-#include "controls/itemchoice.h"
-#include "controls/prompts.h"
+#include "core/appcontext.h"
+#include "core/editingcontrol.h"
+#include "widgets/itemchoice.h"
+#include "core/prompts.h"
 #include "panes/objectbrowserlayout.h"
 #include "panes/sotloader.h"
 #include "ui_oebrowser.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/outline.h"
 
-#include "controls/vbtext.h"
+#include "core/vbtext.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/itemroles.h"
+#include "core/itemroles.h"
 #include "panes/outline.h"
 
 #include <QAbstractItemModel>

@@ -3,7 +3,7 @@
 
 #include "panes/oebrowser.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 
 using namespace Qt::StringLiterals;
 

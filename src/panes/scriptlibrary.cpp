@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/scriptlibrary.h"
 
-#include "controls/appcontext.h"
-#include "files/filestore.h"
+#include "core/appcontext.h"
+#include "core/filestore.h"
 #include "files/textfile.h"
-#include "controls/itemchoice.h"
-#include "controls/itemroles.h"
-#include "controls/pasteitem.h"
-#include "controls/refusals.h"
+#include "widgets/itemchoice.h"
+#include "core/itemroles.h"
+#include "core/pasteitem.h"
+#include "core/refusals.h"
 #include "panes/filelistbox.h"
 #include "panes/foldertree.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/selectorlist.h"
 
-#include "controls/itemchoice.h"
-#include "controls/pasteitem.h"
+#include "widgets/itemchoice.h"
+#include "core/pasteitem.h"
 
 #include <QKeyEvent>
 

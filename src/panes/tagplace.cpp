@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/tagplace.h"
 
-#include "controls/editingcontrol.h"
+#include "core/editingcontrol.h"
 
 #include <QStringBuilder>
 

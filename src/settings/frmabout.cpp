@@ -4,9 +4,9 @@
 #include "settings/systeminformation.h"
 #include "ui_frmabout.h"
 
-#include "files/filestore.h"
-#include "controls/prompts.h"
-#include "controls/shell.h"
+#include "core/filestore.h"
+#include "core/prompts.h"
+#include "core/shell.h"
 
 #include <QIcon>
 #include <QPushButton>

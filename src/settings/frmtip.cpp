@@ -4,10 +4,10 @@
 #include "settings/tips.h"
 #include "ui_frmtip.h"
 
-#include "files/filestore.h"
+#include "core/filestore.h"
 #include "files/textfile.h"
-#include "files/usersettings.h"
-#include "controls/settingsnames.h"
+#include "core/usersettings.h"
+#include "core/settingsnames.h"
 
 #include <QPushButton>
 #include <QRandomGenerator>

@@ -4,7 +4,7 @@
 #include "settings/frmabout.h"
 #include "settings/frmtip.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 
 using namespace Qt::StringLiterals;
 

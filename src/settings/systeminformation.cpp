@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/systeminformation.h"
 
-#include "files/filestore.h"
+#include "core/filestore.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,10 +7,10 @@
 #include "start/templates.h"
 #include "ui_frmselprj.h"
 
-#include "controls/documenthost.h"
-#include "controls/editingcontrol.h"
-#include "files/configuration.h"
-#include "controls/prompts.h"
+#include "core/documenthost.h"
+#include "core/editingcontrol.h"
+#include "core/configuration.h"
+#include "core/prompts.h"
 
 #include <QAction>
 #include <QGridLayout>

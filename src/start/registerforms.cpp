@@ -3,7 +3,7 @@
 
 #include "start/frmselprj.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 
 using namespace Qt::StringLiterals;
 

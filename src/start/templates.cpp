@@ -2,7 +2,7 @@
 #include "start/templates.h"
 
 #include "app/languages.h"
-#include "files/filestore.h"
+#include "core/filestore.h"
 #include "files/lineends.h"
 #include "files/textfile.h"
 

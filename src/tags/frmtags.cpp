@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tags/frmtags.h"
 
-#include "controls/appcontext.h"
-#include "controls/editingcontrol.h"
+#include "core/appcontext.h"
+#include "core/editingcontrol.h"
 #include "tags/tagpalette.h"
 #include "ui_frmtags.h"
 

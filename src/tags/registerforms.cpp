@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tags/registerforms.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 #include "tags/frmtags.h"
 
 using namespace Qt::StringLiterals;

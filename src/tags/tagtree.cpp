@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tags/tagtree.h"
 
-#include "controls/appcontext.h"
+#include "core/appcontext.h"
 #include "files/textlines.h"
-#include "controls/itemchoice.h"
-#include "controls/itemroles.h"
-#include "controls/pasteitem.h"
+#include "widgets/itemchoice.h"
+#include "core/itemroles.h"
+#include "core/pasteitem.h"
 #include "tags/builtintags.h"
 #include "tags/tagfile.h"
 

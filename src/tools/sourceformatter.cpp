@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/sourceformatter.h"
 
-#include "controls/errorstyles.h"
-#include "controls/vbtext.h"
+#include "core/errorstyles.h"
+#include "core/vbtext.h"
 
 #include <algorithm>
 

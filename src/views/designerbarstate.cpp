@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/designerbarstate.h"
 
-#include "controls/designer.h"
+#include "core/designer.h"
 #include "views/designercommands.h"
 
 namespace zephira {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/designercommand.h"
+#include "core/designercommand.h"
 
 #include <QString>
 

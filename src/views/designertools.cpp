@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/designertools.h"
 
-#include "controls/errorstyles.h"
-#include "controls/prompts.h"
+#include "core/errorstyles.h"
+#include "core/prompts.h"
 #include "views/designerbarstate.h"
 #include "views/designercommands.h"
 #include "views/designermenus.h"

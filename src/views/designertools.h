@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/appcontext.h"
-#include "controls/designer.h"
+#include "core/appcontext.h"
+#include "core/designer.h"
 
 #include <QStringList>
 

@@ -5,8 +5,8 @@
 #include "views/quickviewrules.h"
 #include "ui_frmqv.h"
 
-#include "controls/editingcontrol.h"
-#include "controls/prompts.h"
+#include "core/editingcontrol.h"
+#include "core/prompts.h"
 
 #include <QAction>
 #include <QFileInfo>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/appcontext.h"
-#include "controls/editorfactory.h"
-#include "controls/quickviewer.h"
-#include "controls/result.h"
+#include "core/appcontext.h"
+#include "core/editorfactory.h"
+#include "core/quickviewer.h"
+#include "core/result.h"
 
 #include <QWidget>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/frmwebdisp.h"
 
-#include "controls/editingcontrol.h"
-#include "files/filestore.h"
-#include "controls/prompts.h"
-#include "controls/shell.h"
+#include "core/editingcontrol.h"
+#include "core/filestore.h"
+#include "core/prompts.h"
+#include "core/shell.h"
 #include "ui_frmwebdisp.h"
 #include "views/pagetext.h"
 

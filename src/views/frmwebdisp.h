@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/appcontext.h"
-#include "controls/editorfactory.h"
+#include "core/appcontext.h"
+#include "core/editorfactory.h"
 #include "views/pagefetcher.h"
 
 #include <QDialog>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/inserthtmldlg.h"
 
-#include "controls/appcontext.h"
-#include "controls/designer.h"
-#include "controls/errorstyles.h"
+#include "core/appcontext.h"
+#include "core/designer.h"
+#include "core/errorstyles.h"
 #include "ui_inserthtmldlg.h"
 
 namespace zephira {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/inserttabledlg.h"
 
-#include "controls/appcontext.h"
-#include "controls/designer.h"
-#include "controls/errorstyles.h"
-#include "controls/prompts.h"
+#include "core/appcontext.h"
+#include "core/designer.h"
+#include "core/errorstyles.h"
+#include "core/prompts.h"
 #include "ui_inserttabledlg.h"
 #include "views/tabledimension.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/browser.h"
-#include "controls/designer.h"
+#include "core/browser.h"
+#include "core/designer.h"
 
 namespace zephira {
 

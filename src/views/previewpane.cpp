@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/previewpane.h"
 
-#include "controls/browser.h"
+#include "core/browser.h"
 
 #include <QAction>
 #include <QKeyEvent>

@@ -6,7 +6,7 @@
 #include "views/inserthtmldlg.h"
 #include "views/inserttabledlg.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/editorfactory.h"
+#include "core/editorfactory.h"
 #include "views/pagefetcher.h"
 
 namespace zephira {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/tabledimension.h"
 
-#include "controls/vbtext.h"
+#include "core/vbtext.h"
 
 #include <algorithm>
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/workspaceviews.h"
 
-#include "controls/designer.h"
-#include "controls/documenthost.h"
-#include "controls/editingcontrol.h"
-#include "controls/errorstyles.h"
-#include "files/configuration.h"
-#include "files/filestore.h"
-#include "controls/prompts.h"
+#include "core/designer.h"
+#include "core/documenthost.h"
+#include "core/editingcontrol.h"
+#include "core/errorstyles.h"
+#include "core/configuration.h"
+#include "core/filestore.h"
+#include "core/prompts.h"
 
 #include <QFileInfo>
 #include <QUrl>

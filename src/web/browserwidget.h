@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/browser.h"
+#include "core/browser.h"
 
 #include <QWebEngineProfile>
 #include <QWidget>

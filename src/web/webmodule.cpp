@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/webmodule.h"
 
-#include "controls/quietmessages.h"
+#include "core/quietmessages.h"
 #include "web/browserwidget.h"
 #include "web/designer/designerwidget.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/frmtable.h"
 
-#include "controls/appcontext.h"
-#include "controls/inserter.h"
-#include "controls/prompts.h"
+#include "core/appcontext.h"
+#include "core/inserter.h"
+#include "core/prompts.h"
 #include "ui_frmtable.h"
 #include "wizards/tablemarkup.h"
 

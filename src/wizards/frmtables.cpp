@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/frmtables.h"
 
-#include "controls/appcontext.h"
-#include "controls/inserter.h"
-#include "controls/prompts.h"
+#include "core/appcontext.h"
+#include "core/inserter.h"
+#include "core/prompts.h"
 #include "ui_frmtables.h"
 #include "wizards/mdltable.h"
 #include "wizards/tablemarkup.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/registerforms.h"
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 #include "wizards/frmtable.h"
 #include "wizards/frmtables.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startdecision.h"
-#include "controls/errorstyles.h"
+#include "core/errorstyles.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/desktopprompts.h"
-#include "controls/qtvalues.h"
+#include "widgets/qtvalues.h"
 #include "support/testregistry.h"
 
 #include <QApplication>

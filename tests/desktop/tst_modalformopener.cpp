@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 #include "desktop/modalformopener.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"

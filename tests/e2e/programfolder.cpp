@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/programfolder.h"
 
-#include "files/configuration.h"
+#include "files/iniconfiguration.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/configuration.h"
+#include "files/iniconfiguration.h"
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editorfixture.h"
-#include "controls/qtvalues.h"
+#include "widgets/qtvalues.h"
 #include "editor/colouritems.h"
 #include "editor/editormargins.h"
 #include "support/testregistry.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/testregistry.h"
 
-#include "files/configuration.h"
+#include "files/iniconfiguration.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/itemroles.h"
+#include "core/itemroles.h"
 #include "ftp/filelistview.h"
 #include "ftp/ftpbench.h"
 #include "ftp/ftpserver.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/errorstyles.h"
+#include "core/errorstyles.h"
 #include "ftp/fakeviews.h"
 #include "ftp/ftpclient.h"
 #include "ftp/localcommands.h"

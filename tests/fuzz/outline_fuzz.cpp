@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pages of any kind: the outline is that of the scan written plainly, leaf by leaf and error by error.
-#include "controls/errorstyles.h"
+#include "core/errorstyles.h"
 #include "panes/plainoutline.h"
 
 #include <cstdlib>

@@ -25,9 +25,9 @@ constexpr Rule includeRules[] = {
     {uR"(^<Qsci/)", u"editor/", u"only editor includes QScintilla"},
     {uR"(^<(QWeb|QtWeb))", u"web/", u"only web includes the web engine"},
     {uR"(^<curl/)", u"views/fetch/", u"only the web viewer's fetch includes libcurl"},
-    {uR"(^<tidy)", u"controls/ tools/", u"only the tools include tidy"},
+    {uR"(^<tidy)", u"tools/", u"only the tools include tidy"},
     {uR"(^<(sys/socket|netdb|netinet/|arpa/))", u"ftp/net/", u"only the file transfer opens sockets"},
-    {uR"(^<hunspell/)", u"controls/", u"only the speller includes hunspell"},
+    {uR"(^<hunspell/)", u"tools/", u"only the speller includes hunspell"},
     {uR"(^"app/)", u"app/ start/", u"the folders below app include nothing of it"},
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/vbtext.h"
+#include "core/vbtext.h"
 #include "panes/outline.h"
 
 #include <QStringList>

@@ -2,7 +2,7 @@
 #include "panes/customtabs.h"
 
 #include "files/filenumber.h"
-#include "controls/itemroles.h"
+#include "core/itemroles.h"
 #include "support/fakes.h"
 #include "support/itemviews.h"
 #include "support/testregistry.h"

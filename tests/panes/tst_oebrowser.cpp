@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 #include "panes/registerforms.h"
 #include "panes/sotloader.h"
 #include "support/fakes.h"

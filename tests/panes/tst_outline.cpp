@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/errorstyles.h"
+#include "core/errorstyles.h"
 #include "panes/outline.h"
 #include "panes/plainoutline.h"
 #include "support/testregistry.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/errorstyles.h"
-#include "controls/itemroles.h"
+#include "core/errorstyles.h"
+#include "core/itemroles.h"
 #include "panes/outlinemodel.h"
 #include "panes/outlinetree.h"
 #include "support/testregistry.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/scriptlibrary.h"
 
-#include "controls/itemroles.h"
+#include "core/itemroles.h"
 #include "support/fakes.h"
 #include "support/itemviews.h"
 #include "support/testregistry.h"

@@ -3,7 +3,7 @@
 // ftpprobe put HOST PORT LOCAL REMOTE: stores the file LOCAL on the server as REMOTE.
 // ftpprobe list HOST PORT [PATTERN]: prints what the login folder, or a whole search path, holds: kind, size, time and
 // name of each entry. All log in without a name, in passive mode, and print nothing but what was listed.
-#include "controls/clock.h"
+#include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "ftp/net/netoperations.h"
 #include "ftp/remotename.h"

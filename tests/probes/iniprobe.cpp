@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // iniprobe FILE SECTION PREFIX COUNT: writes the keys PREFIX0, PREFIX1 … with the values 0, 1 …
 // iniprobe FILE SECTION KEY @VALUEFILE: writes one key, whose value is the content of a file.
-#include "files/configuration.h"
+#include "files/iniconfiguration.h"
 #include "files/diskfilestore.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "parsers.h"
 
-#include "controls/errorstyles.h"
+#include "core/errorstyles.h"
 #include "files/privateprofile.h"
 #include "files/textfile.h"
 #include "files/textlines.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // saveprobe IN OUT: opens IN and saves it as OUT, as the editing control does.
-#include "controls/clock.h"
+#include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "files/documentfile.h"
 #include "files/recoverycopies.h"

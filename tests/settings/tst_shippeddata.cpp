@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/configuration.h"
+#include "files/iniconfiguration.h"
 #include "support/testregistry.h"
 
 #include <QFile>

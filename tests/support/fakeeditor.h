@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/clipboard.h"
-#include "controls/editingcontrol.h"
-#include "files/filestore.h"
+#include "core/clipboard.h"
+#include "core/editingcontrol.h"
+#include "core/filestore.h"
 
 #include <QStringList>
 

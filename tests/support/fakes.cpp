@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/fakes.h"
 
-#include "controls/errorstyles.h"
+#include "core/errorstyles.h"
 
 using namespace Qt::StringLiterals;
 

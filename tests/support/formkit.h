@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/prompts.h"
+#include "core/prompts.h"
 
 #include <deque>
 #include <functional>

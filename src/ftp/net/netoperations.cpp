@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/net/netoperations.h"
 
-#include "controls/clock.h"
+#include "core/clock.h"
 #include "ftp/net/netconnection.h"
 #include "ftp/net/remotefile.h"
 

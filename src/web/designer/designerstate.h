@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "controls/designer.h"
+#include "core/designer.h"
 
 #include <QHash>
 #include <QVariantMap>

@@ -3,7 +3,7 @@
 
 #include "app/commandrouter.h"
 #include "app/windowcommands.h"
-#include "controls/inserttext.h"
+#include "core/inserttext.h"
 #include "support/fakes.h"
 
 #include <set>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controls/settingsnames.h"
+#include "core/settingsnames.h"
 #include "routerbench.h"
 #include "support/testregistry.h"
 

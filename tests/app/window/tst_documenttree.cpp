@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/windowbench.h"
-#include "controls/itemroles.h"
+#include "core/itemroles.h"
 #include "support/testregistry.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/windowbench.h"
-#include "controls/errorstyles.h"
-#include "controls/itemroles.h"
+#include "core/errorstyles.h"
+#include "core/itemroles.h"
 #include "support/itemviews.h"
 #include "support/testregistry.h"
 

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "app/frmmain.h"
-#include "files/configuration.h"
+#include "files/iniconfiguration.h"
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
-#include "controls/formcatalogue.h"
+#include "core/formcatalogue.h"
 #include "editor/codemax.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
-#include "controls/webviews.h"
+#include "core/webviews.h"
 #include "support/fakes.h"
 
 #include <QAction>

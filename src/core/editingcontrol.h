@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/prompts.h"
+#include "core/result.h"
+
+#include <QString>
+
+namespace zephira {
+
+/// A selection. Lines and columns count from 0, columns in characters (UTF-16 code units).
+struct CodeMaxRange {
+    int StartLineNo = 0;
+    int StartColNo = 0;
+    int EndLineNo = 0;
+    int EndColNo = 0;
+
+    friend bool operator==(const CodeMaxRange &, const CodeMaxRange &) = default;
+};
+
+/// Numbers of the editing control's built-in commands that the program runs.
+enum class EditorCommand : int {
+    SelectAll = 137,       ///< no argument
+    GoToLine = 168,        ///< a 0-based line number, or -1 for the control's own dialog
+    FindReplaceDialog = 169,
+    FindNext = 176,
+    FindDialog = 178,
+    PropertiesDialog = 224,
+};
+
+/// The code view as the rest of the program sees it. All text is UTF-16 with CR LF line ends (a text whose line ends are
+/// mixed keeps them as they are); the file's own line ends, byte order mark and encoding live behind OpenFile and SaveFile.
+class EditingControl
+{
+public:
+    virtual ~EditingControl() = default;
+
+    virtual QString text() const = 0;
+    /// Replaces the whole document; can be undone. Raises the change event.
+    virtual void setText(const QString &text) = 0;
+    /// Length of text() in UTF-16 code units, without making the text.
+    virtual int textLength() const = 0;
+    virtual QString selText() const = 0;
+    /// Replaces the selection, or inserts at the caret; the caret then stands behind the new text.
+    virtual void setSelText(const QString &text) = 0;
+    virtual int selLength() const = 0;
+    virtual QString currentWord() const = 0;
+    virtual int lineCount() const = 0;
+
+    /// Name of a registered language, without regard to case; "" for none.
+    virtual QString language() const = 0;
+    virtual void setLanguage(const QString &name) = 0;
+
+    virtual bool displayWhitespace() const = 0;
+    virtual void setDisplayWhitespace(bool on) = 0;
+    virtual bool displayLeftMargin() const = 0;
+    virtual void setDisplayLeftMargin(bool on) = 0;
+    virtual bool lineNumbering() const = 0;
+    virtual void setLineNumbering(bool on) = 0;
+    virtual bool selBounds() const = 0;
+    virtual void setSelBounds(bool on) = 0;
+    virtual bool enableDragDrop() const = 0;
+    virtual void setEnableDragDrop(bool on) = 0;
+    /// The 0-based line drawn in the highlight colour, -1 for none.
+    virtual int highlightedLine() const = 0;
+    virtual void setHighlightedLine(int line) = 0;
+    virtual FontChoice editorFont() const = 0;
+    virtual void setEditorFont(const FontChoice &font) = 0;
+
+    virtual bool canUndo() const = 0;
+    virtual bool canRedo() const = 0;
+    virtual bool canCopy() const = 0;
+
+    /// Replaces the text with the file's and empties the undo history. On failure the text stays as it was.
+    virtual Result<void> openFile(const QString &path) = 0;
+    /// Writes the text atomically in the encoding and line ends it came in.
+    virtual Result<void> saveFile(const QString &path, bool clearUndo) = 0;
+
+    virtual CodeMaxRange selection(bool normalized) const = 0;
+    virtual void select(const CodeMaxRange &range) = 0;
+
+    /// Colours are numbers with red in the lowest byte; items 0 to 30.
+    virtual void setColor(int item, quint32 colour) = 0;
+    virtual quint32 color(int item) const = 0;
+    /// Font styles, items 0 to 11: 0 normal, 1 bold, 2 italic, 3 bold italic, 4 underlined; other bits are kept.
+    virtual void setFontStyle(int item, int style) = 0;
+    virtual int fontStyle(int item) const = 0;
+
+    virtual void undo() = 0;
+    virtual void redo() = 0;
+    virtual void cut() = 0;
+    virtual void copy() = 0;
+    virtual void paste() = 0;
+    /// Removes the selection without touching the clipboard; with nothing selected, nothing.
+    virtual void clearSelection() = 0;
+    /// Runs a built-in command; numbers that aren't known do nothing.
+    virtual void executeCmd(int command, int argument = -1) = 0;
+    virtual void printContents(int device, int options) = 0;
+};
+
+} // namespace zephira

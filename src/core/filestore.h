@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/result.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <span>
+
+namespace zephira {
+
+/// What tells one state of a file on disk from another: device, inode, size in bytes, and modification time in
+/// nanoseconds since 1970. `exists` is false for a file that isn't there.
+struct FileSignature {
+    bool exists = false;
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = 0;
+    qint64 modifiedNs = 0;
+
+    friend bool operator==(const FileSignature &, const FileSignature &) = default;
+};
+
+/// A file's bytes for a short look. Copies of `bytes` must not outlive the owner, which may be the file itself, mapped.
+struct FileView {
+    QByteArray bytes;
+    std::shared_ptr<const void> owner = {};
+};
+
+/// Files by full path. The program works on the disk; tests work in memory or with a store that fails where they say.
+class FileStore
+{
+public:
+    virtual ~FileStore() = default;
+
+    virtual Result<QByteArray> read(const QString &path) const = 0;
+    /// The same without a copy where the store can do that.
+    virtual Result<FileView> view(const QString &path) const
+    {
+        Result<QByteArray> content = read(path);
+        return content ? Result<FileView>(FileView{std::move(content).value()}) : content.error();
+    }
+    /// Replaces the file with the pieces, joined, so that at every moment the old or the new content stands on the disk.
+    /// Mode, owner where possible, and a symbolic link's target are kept. `mode` is for a file that is new.
+    virtual Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) = 0;
+    /// As write(), for a copy of what can be had again: where the file is new, nothing waits for the disk, so that many
+    /// small files cost little. Such a file can be lost when the machine stops soon afterwards, but not when the program
+    /// does; one that takes another's place is as safe as ever.
+    virtual Result<void> writeCopy(const QString &path, std::span<const QByteArrayView> pieces)
+    {
+        return write(path, pieces);
+    }
+    virtual Result<void> remove(const QString &path) = 0;
+    /// True if the path can be opened for reading; an existing file that can't be read counts as absent.
+    virtual bool FileExists(const QString &path) const = 0;
+    virtual FileSignature signature(const QString &path) const = 0;
+
+    Result<void> write(const QString &path, QByteArrayView content, int mode = 0666)
+    {
+        return write(path, std::span<const QByteArrayView>(&content, 1), mode);
+    }
+};
+
+} // namespace zephira

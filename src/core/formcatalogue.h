@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/appcontext.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+
+class QWidget;
+
+namespace zephira {
+
+/// Every form of the program by name. Each folder adds its own in registerForms(); the program, the form tests and the
+/// screenshots make forms from this one list.
+class FormCatalogue
+{
+public:
+    using Factory = std::function<QWidget *(const AppContext &, QWidget *owner)>;
+
+    /// Adds a form. Its name is its objectName; adding a name twice is a programming error.
+    void add(const QString &name, Factory factory);
+    /// The usual case: a form whose constructor takes the context and the owner.
+    template<typename Form>
+    void add(const QString &name)
+    {
+        add(name, [](const AppContext &context, QWidget *owner) -> QWidget * { return new Form(context, owner); });
+    }
+    /// Names a form that is still to come: commands that open it are disabled and say so. Adding the form ends that.
+    void announce(const QString &name);
+
+    /// Whether the form can be made.
+    bool contains(const QString &name) const;
+    /// Whether the form is still to come.
+    bool isAnnounced(const QString &name) const;
+    /// The forms that can be made, in alphabetical order.
+    QStringList names() const;
+    /// A new form, owned by the caller through `owner`; nullptr for a name that isn't in the catalogue.
+    QWidget *make(const QString &name, const AppContext &context, QWidget *owner) const;
+
+private:
+    /// An announced form has an empty factory.
+    std::map<QString, Factory> m_factories;
+};
+
+} // namespace zephira

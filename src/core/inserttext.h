@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/designer.h"
+#include "core/editingcontrol.h"
+#include "core/inserter.h"
+
+namespace zephira {
+
+/// Puts text where the user works. In visual mode it is taken as markup, and the designer's dirty flag carries the
+/// change; otherwise it replaces the code view's selection.
+class TextInserter final : public Inserter
+{
+public:
+    TextInserter(EditingControl &editor, Designer &designer) : m_editor(editor), m_designer(designer) {}
+
+    void InsertAtCaret(const QString &text) override
+    {
+        if (m_designer.isShowing())
+            m_designer.pasteHtml(text);
+        else
+            m_editor.setSelText(text);
+    }
+
+private:
+    EditingControl &m_editor;
+    Designer &m_designer;
+};
+
+} // namespace zephira

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/vbtext.h"
+
+#include "core/errorstyles.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+void require(bool valid)
+{
+    if (!valid)
+        throw HandlerError{u"Invalid procedure call or argument"_s};
+}
+
+QStringView withoutBlanks(QStringView text)
+{
+    while (text.startsWith(u' '))
+        text = text.sliced(1);
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text;
+}
+
+/// The value of "&HFF" or "&O17"; nothing when the text isn't of this kind.
+std::optional<quint64> prefixedNumber(QStringView text)
+{
+    if (!text.startsWith(u'&') || text.size() < 3)
+        return {};
+    const QChar kind = text[1].toLower();
+    const int base = kind == u'h' ? 16 : kind == u'o' ? 8 : 0;
+    const QStringView digits = text.sliced(2);
+    const bool plain = std::all_of(digits.begin(), digits.end(),
+                                   [](QChar c) { return c < QChar(128) && c.isLetterOrNumber(); });
+    bool ok = false;
+    const quint64 value = base != 0 && plain ? digits.toULongLong(&ok, base) : 0;
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+double decimalNumber(QStringView text)
+{
+    // The library's own conversion knows "inf" and "nan", which are words here; "D" marks an exponent as "E" does.
+    constexpr QStringView allowed = u"0123456789+-.eEdD";
+    const bool plain = std::all_of(text.begin(), text.end(), [&](QChar c) { return allowed.contains(c); });
+    bool ok = false;
+    const double value = plain ? text.toString().replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive).toDouble(&ok) : 0;
+    if (plain && std::isinf(value))
+        throw HandlerError{u"Overflow"_s};
+    if (!ok)
+        throw HandlerError{u"Type mismatch"_s};
+    return value;
+}
+
+template<typename T>
+T rounded(double number)
+{
+    const double whole = std::nearbyint(number);
+    // Written so that a number that is none at all fails as well.
+    if (!(whole >= std::numeric_limits<T>::min() && whole <= std::numeric_limits<T>::max()))
+        throw HandlerError{u"Overflow"_s};
+    return static_cast<T>(whole);
+}
+
+template<typename T>
+T converted(const QString &text)
+{
+    const QStringView trimmed = withoutBlanks(text);
+    const std::optional<quint64> bits = prefixedNumber(trimmed);
+    if (!bits)
+        return rounded<T>(decimalNumber(trimmed));
+    if (*bits > std::numeric_limits<std::make_unsigned_t<T>>::max())
+        throw HandlerError{u"Overflow"_s};
+    return static_cast<T>(*bits);
+}
+
+} // namespace
+
+QString Mid(const QString &text, qsizetype start, std::optional<qsizetype> length)
+{
+    require(start >= 1 && length.value_or(0) >= 0);
+    if (start > text.size())
+        return QString();
+    return text.sliced(start - 1, std::min(length.value_or(text.size()), text.size() - start + 1));
+}
+
+QString Left(const QString &text, qsizetype length)
+{
+    require(length >= 0);
+    return text.first(std::min(length, text.size()));
+}
+
+QString Right(const QString &text, qsizetype length)
+{
+    require(length >= 0);
+    return text.last(std::min(length, text.size()));
+}
+
+qsizetype InStr(qsizetype start, const QString &text, const QString &find, Qt::CaseSensitivity compare)
+{
+    require(start >= 1);
+    if (start > text.size())
+        return 0;
+    return find.isEmpty() ? start : text.indexOf(find, start - 1, compare) + 1;
+}
+
+qsizetype InStr(const QString &text, const QString &find)
+{
+    return InStr(1, text, find);
+}
+
+qsizetype InStrRev(const QString &text, const QString &find, qsizetype start, Qt::CaseSensitivity compare)
+{
+    require(start >= 1 || start == -1);
+    const qsizetype end = start == -1 ? text.size() : start;
+    if (text.isEmpty() || end > text.size())
+        return 0;
+    return find.isEmpty() ? end : QStringView(text).first(end).lastIndexOf(find, -1, compare) + 1;
+}
+
+QString LCase(const QString &text)
+{
+    QString lower = text;
+    std::transform(lower.cbegin(), lower.cend(), lower.begin(), [](QChar c) { return c.toLower(); });
+    return lower;
+}
+
+QString UCase(const QString &text)
+{
+    QString upper = text;
+    std::transform(upper.cbegin(), upper.cend(), upper.begin(), [](QChar c) { return c.toUpper(); });
+    return upper;
+}
+
+QString LTrim(const QString &text)
+{
+    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c != u' '; });
+    return text.sliced(first - text.begin());
+}
+
+QString RTrim(const QString &text)
+{
+    const auto last = std::find_if(text.rbegin(), text.rend(), [](QChar c) { return c != u' '; });
+    return text.first(text.rend() - last);
+}
+
+QString Trim(const QString &text)
+{
+    return withoutBlanks(text).toString();
+}
+
+double CDbl(const QString &text)
+{
+    const QStringView trimmed = withoutBlanks(text);
+    const std::optional<quint64> bits = prefixedNumber(trimmed);
+    return bits ? static_cast<double>(*bits) : decimalNumber(trimmed);
+}
+
+qint16 CInt(double number)
+{
+    return rounded<qint16>(number);
+}
+
+qint16 CInt(const QString &text)
+{
+    return converted<qint16>(text);
+}
+
+qint32 CLng(double number)
+{
+    return rounded<qint32>(number);
+}
+
+qint32 CLng(const QString &text)
+{
+    return converted<qint32>(text);
+}
+
+QString CStr(double number)
+{
+    constexpr int significantDigits = 15;
+    return QString::number(number, 'g', significantDigits).toUpper();
+}
+
+QString Format(double number, QStringView mask)
+{
+    const qsizetype point = mask.indexOf(u'.');
+    const qsizetype decimals = point < 0 ? 0 : mask.size() - point - 1;
+    // By way of its text, a number that stands for a half in decimal is rounded as one.
+    const double scaled = CStr(std::abs(number) * std::pow(10.0, static_cast<double>(decimals))).toDouble();
+    QString digits = QString::number(std::round(scaled), 'f', 0).rightJustified(decimals + 1, u'0');
+    QString fraction = digits.last(decimals);
+    digits.chop(decimals);
+    while (fraction.endsWith(u'0'))
+        fraction.chop(1);
+
+    const bool negative = number < 0 && (digits != u"0" || !fraction.isEmpty());
+    if (mask.contains(u' ')) {
+        for (qsizetype group = digits.size() - 3; group > 0; group -= 3)
+            digits.insert(group, u' ');
+    }
+    return (negative ? u"-"_s : QString()) + digits + (fraction.isEmpty() ? QString() : u'.' + fraction);
+}
+
+} // namespace zephira

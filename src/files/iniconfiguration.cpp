@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/iniconfiguration.h"
+
+#include "files/atomicwrite.h"
+#include "files/diskfilestore.h"
+#include "files/filesystemcalls.h"
+#include "files/privateprofile.h"
+#include "files/textfile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+namespace zephira {
+
+namespace {
+
+constexpr qsizetype longestValue = 999;
+
+/// Keeps other processes that write a profile in the same folder waiting. The lock is on the folder itself, so that
+/// nothing is left beside the profile, and it goes with the process that holds it.
+class FolderLock
+{
+public:
+    explicit FolderLock(const QByteArray &folder) : m_file(m_calls.open(folder.constData(), O_RDONLY | O_DIRECTORY))
+    {
+        int result = -1;
+        while (m_file >= 0 && (result = flock(m_file, LOCK_EX)) != 0 && errno == EINTR) { }
+        // A file system that knows no locks takes writes all the same, and then the last one wins.
+        m_held = result == 0 || (m_file >= 0 && (errno == ENOLCK || errno == ENOTSUP || errno == EBADF));
+    }
+    ~FolderLock()
+    {
+        if (m_file >= 0)
+            m_calls.close(m_file);
+    }
+    FolderLock(const FolderLock &) = delete;
+    FolderLock &operator=(const FolderLock &) = delete;
+
+    bool isHeld() const { return m_held; }
+
+private:
+    FileSystemCalls m_calls;
+    int m_file;
+    bool m_held = false;
+};
+
+/// A profile as UTF-8. One in UTF-16 is converted; all others stay what they are, mark and invalid bytes included.
+struct Profile {
+    QByteArray bytes;
+    std::optional<TextFormat> converted;
+};
+
+Profile profileFrom(QByteArray bytes)
+{
+    if (!bytes.startsWith("\xFF\xFE") && !bytes.startsWith("\xFE\xFF"))
+        return {std::move(bytes), {}};
+    DecodedText text = decodeText(bytes);
+    if (text.format.encoding == Encoding::Windows1252)
+        return {std::move(bytes), {}};
+    return {std::move(text.utf8), text.format};
+}
+
+} // namespace
+
+QString ReadIni(const QString &section, const QString &key, const QString &file)
+{
+    Result<QByteArray> bytes = DiskFileStore().read(file);
+    if (!bytes)
+        return QString();
+    QString value = profileValue(profileFrom(std::move(bytes).value()).bytes, section, key).value_or(QString());
+    value.truncate(longestValue);
+    // The cut takes no half of a character with it.
+    if (value.size() == longestValue && value.back().isHighSurrogate())
+        value.chop(1);
+    return value;
+}
+
+bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode)
+{
+    FileSystemCalls calls;
+    DiskFileStore store;
+    // The lock belongs to the folder in which the file is replaced, and that is the one that a link leads to.
+    const Result<QByteArray> target = linkTarget(calls, file);
+    if (!target)
+        return false;
+    const QFileInfo info(QFile::decodeName(target.value()));
+    const FolderLock lock(QFile::encodeName(info.path()));
+    if (!lock.isHeld())
+        return false;
+
+    Result<QByteArray> bytes = store.read(info.filePath());
+    if (!bytes && bytes.error().code != Error::Code::NotFound)
+        return false;
+    const Profile profile = profileFrom(bytes.valueOr(QByteArray()));
+    const std::optional<QByteArray> changed = withProfileValue(profile.bytes, section, key, value);
+    if (!changed)
+        return false;
+    if (bytes && *changed == profile.bytes)
+        return true;
+    const Result<QByteArray> encoded = profile.converted ? encodeText(*changed, *profile.converted) : *changed;
+    return encoded.ok() && store.write(info.filePath(), encoded.value(), mode).ok();
+}
+
+} // namespace zephira

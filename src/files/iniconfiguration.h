@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/configuration.h"
+
+#include <QString>
+
+namespace zephira {
+
+/// Reads a value of a private profile file: names without regard to case, the first match wins, blanks around the value
+/// and one pair of quotes removed, at most 999 characters. A missing file, section or key reads as "".
+QString ReadIni(const QString &section, const QString &key, const QString &file);
+
+/// Writes one value at once; all other lines stay byte for byte. Returns false if the file can't be written. Safe
+/// against other processes that write the same file at the same time. Line breaks in the value become blanks. `mode` is
+/// for a file that is new.
+bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode = 0666);
+
+/// The configuration in a private profile file.
+class IniConfiguration final : public Configuration
+{
+public:
+    explicit IniConfiguration(QString file) : m_file(std::move(file)) {}
+
+    QString file() const { return m_file; }
+    QString value(const QString &section, const QString &key) const override { return ReadIni(section, key, m_file); }
+    bool setValue(const QString &section, const QString &key, const QString &value) override
+    {
+        return WriteIni(section, key, value, m_file);
+    }
+
+private:
+    QString m_file;
+};
+
+} // namespace zephira

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/iniconfiguration.h"
+
+#include "support/testregistry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <vector>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+class TstIniConfiguration : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString ini() const { return m_folder->filePath(u"zephira.ini"_s); }
+    void put(const QByteArray &content) const
+    {
+        QFile file(ini());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), qint64(content.size()));
+    }
+    QByteArray get() const
+    {
+        QFile file(ini());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+    }
+
+private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void sectionInAnySpelling_data()
+    {
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("read");
+        const QStringList spellings{u"startup"_s, u"Startup"_s, u"STARTUP"_s};
+        for (const QString &written : spellings) {
+            for (const QString &read : spellings)
+                QTest::addRow("%s as %s", qPrintable(written), qPrintable(read)) << written << read;
+        }
+    }
+
+    void sectionInAnySpelling()
+    {
+        QFETCH(QString, written);
+        QFETCH(QString, read);
+        put("[Startup]\r\nrootsel=2\r\n");
+        QVERIFY(WriteIni(written, u"selprj"_s, u"1"_s, ini()));
+        QCOMPARE(ReadIni(read, u"selprj"_s, ini()), u"1"_s);
+        QCOMPARE(get(), QByteArray("[Startup]\r\nrootsel=2\r\nselprj=1\r\n"));
+    }
+
+    void whatIsMissingReadsAsNothing()
+    {
+        QCOMPARE(ReadIni(u"options"_s, u"highlight"_s, ini()), QString());
+        put("[options]\r\n");
+        QCOMPARE(ReadIni(u"options"_s, u"highlight"_s, ini()), QString());
+        QCOMPARE(ReadIni(u"font"_s, u"name"_s, ini()), QString());
+        QCOMPARE(ReadIni(u"font"_s, u"name"_s, m_folder->path()), QString());
+    }
+
+    void valueIsCutOnReading_data()
+    {
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("read");
+        QTest::newRow("999") << QString(999, u'x') << QString(999, u'x');
+        QTest::newRow("1000") << QString(1000, u'x') << QString(999, u'x');
+        QTest::newRow("in quotes") << u' ' + QString(1000, u'x') << u' ' + QString(998, u'x');
+        QTest::newRow("letters of two bytes") << QString(1000, u'\u00E4') << QString(999, u'\u00E4');
+        QTest::newRow("pair at the cut") << QString(998, u'x') + u"\U0001F600"_s << QString(998, u'x');
+        QTest::newRow("pair before the cut") << QString(997, u'x') + u"\U0001F600\U0001F600"_s << QString(997, u'x') + u"\U0001F600"_s;
+    }
+
+    void valueIsCutOnReading()
+    {
+        QFETCH(QString, written);
+        QVERIFY(WriteIni(u"s"_s, u"k"_s, written, ini()));
+        QTEST(ReadIni(u"s"_s, u"k"_s, ini()), "read");
+        QVERIFY(get().contains(written.toUtf8()));
+    }
+
+    void fileThatIsMissingIsMade()
+    {
+        QVERIFY(WriteIni(u"s"_s, u"k"_s, u"v"_s, ini()));
+        QCOMPARE(get(), QByteArray("[s]\r\nk=v\r\n"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList{u"zephira.ini"_s});
+    }
+
+    void unwritableIsFalse()
+    {
+        QVERIFY(!WriteIni(u"s"_s, u"k"_s, u"v"_s, m_folder->filePath(u"none/zephira.ini"_s)));
+        QVERIFY(!WriteIni(u"s"_s, u"k"_s, u"v"_s, m_folder->path()));
+        QVERIFY(!WriteIni(u"s"_s, u"k"_s, u"v"_s, u"/proc/zephira.ini"_s));
+        put("[s]\r\nk=old\r\n");
+        QVERIFY(QFile::setPermissions(ini(), QFile::ReadOwner));
+        QVERIFY(!WriteIni(u"s"_s, u"k"_s, u"v"_s, ini()));
+        QVERIFY(!WriteIni(u"s"_s, u"k=x"_s, u"v"_s, ini()));
+        QCOMPARE(get(), QByteArray("[s]\r\nk=old\r\n"));
+    }
+
+    void linkIsKept()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"real"_s));
+        QCOMPARE(symlink("real/settings", QFile::encodeName(ini()).constData()), 0);
+        QVERIFY(WriteIni(u"s"_s, u"k"_s, u"v"_s, ini()));
+        QVERIFY(QFileInfo(ini()).isSymLink());
+        QCOMPARE(get(), QByteArray("[s]\r\nk=v\r\n"));
+    }
+
+    void utf16StaysUtf16()
+    {
+        put(QByteArray("\xFF\xFE[\0s\0]\0\n\0", 10));
+        QVERIFY(WriteIni(u"s"_s, u"k"_s, u"v"_s, ini()));
+        QCOMPARE(get(), QByteArray("\xFF\xFE[\0s\0]\0\n\0k\0=\0v\0\n\0", 18));
+        QCOMPARE(ReadIni(u"S"_s, u"K"_s, ini()), u"v"_s);
+    }
+
+    void configurationIsTheFile()
+    {
+        IniConfiguration configuration(ini());
+        QVERIFY(configuration.setValue(u"Filters"_s, u"Filters"_s, u"*.htm;*css"_s));
+        QCOMPARE(ReadIni(u"filters"_s, u"filters"_s, ini()), u"*.htm;*css"_s);
+        QVERIFY(WriteIni(u"font"_s, u"size"_s, u"12"_s, ini()));
+        QCOMPARE(configuration.value(u"Font"_s, u"Size"_s), u"12"_s);
+        QCOMPARE(configuration.file(), ini());
+    }
+
+    void eightProcessesLoseNothing()
+    {
+        put("; kept\r\n[shared]\r\nfirst=1\r\n");
+        constexpr int processes = 8;
+        constexpr int keys = 60;
+        std::vector<std::unique_ptr<QProcess>> writers;
+        for (int i = 0; i < processes; ++i) {
+            writers.push_back(std::make_unique<QProcess>());
+            writers.back()->start(QStringLiteral(INIPROBE),
+                                  {ini(), i % 2 ? u"Shared"_s : u"own%1"_s.arg(i), QString(QChar(u'a' + i)), QString::number(keys)});
+        }
+        for (const auto &writer : writers) {
+            QVERIFY(writer->waitForFinished(120'000));
+            QCOMPARE(writer->exitCode(), 0);
+        }
+        for (int i = 0; i < processes; ++i) {
+            for (int key = 0; key < keys; ++key)
+                QCOMPARE(ReadIni(i % 2 ? u"SHARED"_s : u"own%1"_s.arg(i), QChar(u'a' + i) + QString::number(key), ini()), QString::number(key));
+        }
+        QVERIFY(get().startsWith("; kept\r\n[shared]\r\nfirst=1\r\n"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList{u"zephira.ini"_s});
+    }
+};
+
+ZEPHIRA_TEST(TstIniConfiguration)
+
+} // namespace zephira
+
+#include "tst_iniconfiguration.moc"
