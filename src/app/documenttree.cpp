@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/documenttree.h"
 
-#include "app/documentwindow.h"
+#include "document/documentwindow.h"
 #include "editor/codemax.h"
 #include "panes/outlinetree.h"
 #include "panes/sidepane.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/filepanecommands.h"
 
-#include "app/commondialog.h"
-#include "app/document.h"
+#include "document/commondialog.h"
+#include "document/document.h"
 #include "app/menus.h"
 #include "core/errorstyles.h"
 #include "core/configuration.h"

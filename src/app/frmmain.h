@@ -2,9 +2,9 @@
 #pragma once
 
 #include "app/colourtable.h"
-#include "app/commondialog.h"
-#include "app/document.h"
-#include "app/documentwindow.h"
+#include "document/commondialog.h"
+#include "document/document.h"
+#include "document/documentwindow.h"
 #include "app/windowcommands.h"
 #include "app/windowservices.h"
 #include "core/appcontext.h"

@@ -5,7 +5,7 @@
 #include "app/commandrouter.h"
 #include "app/menus.h"
 #include "app/palette.h"
-#include "app/recoverykeeper.h"
+#include "document/recoverykeeper.h"
 #include "app/statuspanels.h"
 #include "app/viewswitch.h"
 #include "app/visualtools.h"

@@ -2,7 +2,7 @@
 #include "app/viewswitch.h"
 
 #include "app/designerbar.h"
-#include "app/document.h"
+#include "document/document.h"
 #include "app/menus.h"
 #include "app/menutable.h"
 #include "files/appfolder.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "start/templates.h"
 
-#include "app/languages.h"
+#include "document/languages.h"
 #include "core/filestore.h"
 #include "files/lineends.h"
 #include "files/textfile.h"

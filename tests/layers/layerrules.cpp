@@ -28,7 +28,7 @@ constexpr Rule includeRules[] = {
     {uR"(^<tidy)", u"tools/", u"only the tools include tidy"},
     {uR"(^<(sys/socket|netdb|netinet/|arpa/))", u"ftp/net/", u"only the file transfer opens sockets"},
     {uR"(^<hunspell/)", u"tools/", u"only the speller includes hunspell"},
-    {uR"(^"app/)", u"app/ start/", u"the folders below app include nothing of it"},
+    {uR"(^"app/)", u"app/", u"the folders below app include nothing of it"},
 };
 
 constexpr Rule codeRules[] = {

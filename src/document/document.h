@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/commondialog.h"
-#include "app/documentwindow.h"
+#include "document/commondialog.h"
+#include "document/documentwindow.h"
 #include "core/appcontext.h"
 #include "core/prompts.h"
 

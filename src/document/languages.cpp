@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/languages.h"
+#include "document/languages.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/document.h"
-#include "app/languages.h"
+#include "document/document.h"
+#include "document/languages.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/recoverykeeper.h"
+#include "document/recoverykeeper.h"
 
-#include "app/document.h"
+#include "document/document.h"
 #include "core/clock.h"
 #include "core/designer.h"
 #include "files/recoverycopies.h"

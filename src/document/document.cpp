@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/document.h"
+#include "document/document.h"
 
-#include "app/languages.h"
+#include "document/languages.h"
 #include "core/clipboard.h"
 #include "core/designer.h"
 #include "core/documenthost.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/commondialog.h"
+#include "document/commondialog.h"
 
 #include <QDir>
 
