@@ -3,7 +3,7 @@
 
 #include "document/commondialog.h"
 #include "document/document.h"
-#include "app/menus.h"
+#include "commands/menus.h"
 #include "core/errorstyles.h"
 #include "core/configuration.h"
 #include "core/inserter.h"

@@ -5,7 +5,7 @@
 #include "document/commondialog.h"
 #include "document/document.h"
 #include "document/documentwindow.h"
-#include "app/windowcommands.h"
+#include "commands/windowcommands.h"
 #include "app/windowservices.h"
 #include "core/appcontext.h"
 #include "core/documenthost.h"

@@ -2,9 +2,9 @@
 // What the document and the commands ask of the main window.
 #include "app/frmmain.h"
 
-#include "app/commandrouter.h"
-#include "app/menus.h"
-#include "app/palette.h"
+#include "commands/commandrouter.h"
+#include "commands/menus.h"
+#include "commands/palette.h"
 #include "document/recoverykeeper.h"
 #include "app/statuspanels.h"
 #include "app/viewswitch.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/loadhandler.h"
 
-#include "app/designerbar.h"
+#include "commands/designerbar.h"
 #include "app/frmmain.h"
 #include "app/sidelists.h"
 #include "app/startdecision.h"

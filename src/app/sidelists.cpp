@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/sidelists.h"
 
-#include "app/menus.h"
+#include "commands/menus.h"
 #include "core/appcontext.h"
 #include "panes/asptagtree.h"
 #include "panes/customtabs.h"

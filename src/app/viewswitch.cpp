@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/viewswitch.h"
 
-#include "app/designerbar.h"
+#include "commands/designerbar.h"
 #include "document/document.h"
-#include "app/menus.h"
-#include "app/menutable.h"
+#include "commands/menus.h"
+#include "commands/menutable.h"
 #include "files/appfolder.h"
 #include "core/errorstyles.h"
 #include "core/prompts.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/visualtools.h"
 
-#include "app/designerbar.h"
-#include "app/menus.h"
-#include "app/menutable.h"
+#include "commands/designerbar.h"
+#include "commands/menus.h"
+#include "commands/menutable.h"
 #include "core/designer.h"
 #include "views/designerbarstate.h"
 #include "views/designermenus.h"

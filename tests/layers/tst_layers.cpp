@@ -47,7 +47,7 @@ private slots:
         QTest::newRow("a logic header") << u"wizards/tablemarkup.h"_s << true << false;
         QTest::newRow("a logic source") << u"wizards/tablemarkup.cpp"_s << true << false;
         QTest::newRow("one of a subfolder") << u"ftp/net/socket.cpp"_s << true << false;
-        QTest::newRow("one behind a variable") << u"app/menutable.cpp"_s << true << false;
+        QTest::newRow("one behind a variable") << u"commands/menutable.cpp"_s << true << false;
         QTest::newRow("a form") << u"wizards/frmtables.h"_s << false << true;
         QTest::newRow("a widget") << u"wizards/sizepicker.h"_s << false << false;
     }

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/helppages.h"
+
+#include "core/prompts.h"
+#include "core/shell.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr QStringView websiteAddress = u"https://zephira.example/";
+
+void openOrTell(const AppContext &context, const QString &pathOrUrl)
+{
+    if (const Result<void> opened = context.shell.open(pathOrUrl); !opened)
+        context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
+}
+
+} // namespace
+
+void openHelp(const AppContext &context)
+{
+    openOrTell(context, context.appPath + u"/help/index.html"_s);
+}
+
+void openWebsite(const AppContext &context)
+{
+    openOrTell(context, websiteAddress.toString());
+}
+
+} // namespace zephira

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/menus.h"
+
+#include "commands/icons.h"
+#include "commands/menutable.h"
+#include "commands/tagsmenu.h"
+#include "core/formopener.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStringBuilder>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// Icons cost more than all the rest of a menu, so they wait until it opens for the first time.
+void setIconsAtFirstOpening(QMenu *menu, QAction *action, QStringView icon)
+{
+    if (icon.isEmpty())
+        return;
+    QObject::connect(menu, &QMenu::aboutToShow, action, [action, icon] {
+        if (action->icon().isNull())
+            action->setIcon(iconFor(icon));
+    });
+}
+
+/// The tag menu as menu rows.
+std::vector<MenuItem> tagItems()
+{
+    std::vector<MenuItem> items;
+    for (const QuickTag &tag : tagsMenu())
+        items.push_back({tag.key, tag.label, tag.shortcut, tag.icon, {}, tag.form()});
+    return items;
+}
+
+QString tagStatusTip(const QuickTag &tag)
+{
+    return tag.form().isEmpty() ? u"Insert "_s % tag.before % tag.after : u"Build a tag from its attributes"_s;
+}
+
+} // namespace
+
+Menus::Menus(QMenuBar *bar, QObject *owner)
+    : QObject(owner)
+{
+    for (const MenuItem &item : menuBarTable()) {
+        if (item.kind == MenuItem::Kind::Bar) {
+            QAction *text = bar->addAction(item.caption.toString());
+            text->setObjectName(item.name);
+            text->setEnabled(false);
+            m_actions.insert(text->objectName(), text);
+        } else {
+            bar->addMenu(makeMenu(item, bar));
+        }
+    }
+    fill(menu(u"Tags"_s), tagItems());
+    for (const QuickTag &tag : tagsMenu())
+        action(tag.key.toString())->setStatusTip(tagStatusTip(tag));
+    for (const QStringView name : visualMenus())
+        menu(name.toString())->setEnabled(false); // Its entry in the menu bar follows.
+    for (const MenuItem &item : popupTable())
+        makeMenu(item, bar);
+}
+
+QMenu *Menus::makeMenu(const MenuItem &item, QWidget *parent)
+{
+    QMenu *menu = new QMenu(item.caption.toString(), parent);
+    menu->setObjectName(item.name);
+    menu->setToolTipsVisible(true);
+    m_menus.insert(menu->objectName(), menu);
+    fill(menu, item.children);
+    return menu;
+}
+
+void Menus::fill(QMenu *menu, std::span<const MenuItem> items)
+{
+    for (const MenuItem &item : items) {
+        if (item.kind == MenuItem::Kind::Menu)
+            menu->addMenu(makeMenu(item, menu));
+        else
+            addEntry(menu, item);
+    }
+}
+
+void Menus::addEntry(QMenu *menu, const MenuItem &item)
+{
+    QAction *entry = new QAction(item.caption.toString(), menu);
+    entry->setObjectName(item.name);
+    entry->setSeparator(item.kind == MenuItem::Kind::Divider);
+    entry->setCheckable(item.kind == MenuItem::Kind::Check);
+    entry->setStatusTip(item.statusTip.toString());
+    if (!item.shortcut.isEmpty())
+        entry->setShortcut(QKeySequence::fromString(item.shortcut.toString(), QKeySequence::PortableText));
+    // macOS would otherwise move "About" and "Options" elsewhere by their words.
+    entry->setMenuRole(QAction::NoRole);
+    setIconsAtFirstOpening(menu, entry, item.icon);
+    menu->addAction(entry);
+    if (item.name.isEmpty() || entry->isSeparator())
+        return;
+    m_actions.insert(entry->objectName(), entry);
+    connect(entry, &QAction::triggered, this, [this, entry] {
+        // The check mark is the command's to set: undo what the click did to it.
+        if (entry->isCheckable())
+            entry->setChecked(!entry->isChecked());
+        emit triggered(entry->objectName());
+    });
+}
+
+void Menus::applyAvailability(const FormOpener &forms)
+{
+    for (auto [name, entry] : m_actions.asKeyValueRange()) {
+        const MenuItem *item = findMenuItem(name);
+        const QuickTag *tag = findTagsEntry(name);
+        const QStringView form = item ? item->form : tag ? tag->form() : QStringView();
+        const bool missing = item && item->kind == MenuItem::Kind::Missing;
+        if (missing || (!form.isEmpty() && !forms.isAvailable(form.toString())))
+            markNotAvailable(entry);
+    }
+}
+
+} // namespace zephira

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/palette.h"
+
+#include "commands/icons.h"
+#include "commands/palettetable.h"
+#include "core/formopener.h"
+
+#include <QAction>
+#include <QActionEvent>
+#include <QMenu>
+#include <QTabBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr int styleToolbar = 4;
+constexpr QStringView selectorKey = u"selector";
+
+} // namespace
+
+/// A toolbar of the palette. Its actions are there from the start, which is cheap; the buttons that show them, and the
+/// icons, are made when it is first shown.
+class PaletteBar : public QToolBar
+{
+public:
+    PaletteBar(const PaletteToolbar &table, QWidget *parent)
+        : QToolBar(table.caption.toString(), parent)
+        , m_table(table)
+    {
+        setIconSize({22, 22});
+        setMovable(false);
+    }
+
+    /// A box that stands behind the buttons. Until they are made it is a part of the toolbar that nobody sees.
+    void setBox(QWidget *box)
+    {
+        m_box = box;
+        box->setParent(this);
+        if (m_isBuilt)
+            addWidget(box);
+    }
+
+    void setVisible(bool visible) override
+    {
+        if (visible)
+            build();
+        QToolBar::setVisible(visible);
+    }
+
+protected:
+    void actionEvent(QActionEvent *event) override
+    {
+        if (m_isBuilt)
+            QToolBar::actionEvent(event);
+    }
+
+private:
+    void build()
+    {
+        if (m_isBuilt)
+            return;
+        m_isBuilt = true;
+        std::size_t row = 0;
+        for (QAction *action : actions()) {
+            const QStringView icon = m_table.buttons[row++].icon;
+            setCommandIcon(action, icon);
+            QActionEvent added(QEvent::ActionAdded, action);
+            QToolBar::actionEvent(&added);
+            if (auto *button = qobject_cast<QToolButton *>(widgetForAction(action))) {
+                button->setAccessibleName(action->text());
+                if (action->menu())
+                    button->setPopupMode(QToolButton::InstantPopup);
+            }
+        }
+        if (m_box)
+            addWidget(m_box);
+    }
+
+    const PaletteToolbar &m_table;
+    QWidget *m_box = nullptr;
+    bool m_isBuilt = false;
+};
+
+Palette::Palette(QWidget *parent)
+    : QWidget(parent)
+    , m_tabs(new QTabBar(this))
+{
+    m_tabs->setObjectName(u"toolpane"_s);
+    m_tabs->setAccessibleName(u"Tool palette"_s);
+    m_tabs->setDocumentMode(true);
+    m_tabs->setDrawBase(false);
+    m_tabs->setExpanding(false);
+
+    QVBoxLayout *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_tabs);
+
+    const std::span<const PaletteToolbar> table = paletteToolbars();
+    for (int index = 0; index < static_cast<int>(table.size()); ++index) {
+        const PaletteToolbar &row = table[static_cast<std::size_t>(index)];
+        m_tabs->setTabData(m_tabs->addTab(row.caption.toString()), row.caption.toString());
+        PaletteBar *bar = new PaletteBar(row, this);
+        bar->setObjectName(u"Toolbar_%1"_s.arg(index));
+        m_bars.push_back(bar);
+        fill(index);
+        bar->setVisible(index == 0);
+        layout->addWidget(bar);
+    }
+    connect(m_tabs, &QTabBar::currentChanged, this, &Palette::showToolbar);
+    connect(m_tabs, &QTabBar::tabBarClicked, this, [this](int index) {
+        // A change of the tab reports itself.
+        if (index == m_tabs->currentIndex())
+            emit tabClicked(index);
+    });
+}
+
+void Palette::fill(int index)
+{
+    PaletteBar *bar = m_bars[static_cast<std::size_t>(index)];
+    int position = 0;
+    for (const QuickTag &tag : paletteToolbars()[static_cast<std::size_t>(index)].buttons) {
+        ++position;
+        QAction *action = new QAction(tag.label.toString(), bar);
+        action->setSeparator(tag.kind == TagKind::Separator);
+        action->setObjectName(tag.key);
+        action->setToolTip(tag.label.toString());
+        action->setCheckable(tag.kind == TagKind::Selector);
+        bar->addAction(action);
+        if (tag.kind == TagKind::Headings)
+            addHeadings(action);
+        else
+            connect(action, &QAction::triggered, this, [this, index, key = tag.key, position] {
+                emit clicked(index, key.toString(), position);
+            });
+    }
+}
+
+void Palette::addHeadings(QAction *button)
+{
+    QMenu *menu = new QMenu(this);
+    for (int size = 1; size <= 6; ++size) {
+        QAction *entry = menu->addAction(u"Heading &%1"_s.arg(size));
+        entry->setObjectName(u"H%1"_s.arg(size));
+        connect(entry, &QAction::triggered, this, [this, size] { emit headingClicked(size); });
+    }
+    button->setMenu(menu);
+}
+
+void Palette::showToolbar(int index)
+{
+    // A row of texts alone would be lower than one with icons, and the window would jump.
+    m_bars[static_cast<std::size_t>(index)]->setMinimumHeight(m_bars[0]->sizeHint().height());
+    for (std::size_t i = 0; i < m_bars.size(); ++i)
+        m_bars[i]->setVisible(static_cast<int>(i) == index);
+    emit tabClicked(index);
+}
+
+QToolBar *Palette::toolBar(int index) const
+{
+    return m_bars[static_cast<std::size_t>(index)];
+}
+
+QAction *Palette::action(int index, const QString &key) const
+{
+    return toolBar(index)->findChild<QAction *>(key);
+}
+
+void Palette::addBox(int index, QWidget *box)
+{
+    m_bars[static_cast<std::size_t>(index)]->setBox(box);
+}
+
+bool Palette::isSelectorPressed() const
+{
+    return action(styleToolbar, selectorKey.toString())->isChecked();
+}
+
+void Palette::setSelectorPressed(bool pressed)
+{
+    action(styleToolbar, selectorKey.toString())->setChecked(pressed);
+}
+
+void Palette::applyAvailability(const FormOpener &forms)
+{
+    for (std::size_t index = 0; index < m_bars.size(); ++index) {
+        const std::span<const QuickTag> buttons = paletteToolbars()[index].buttons;
+        for (std::size_t i = 0; i < buttons.size(); ++i) {
+            const QStringView form = buttons[i].form();
+            if (buttons[i].kind == TagKind::Missing || (!form.isEmpty() && !forms.isAvailable(form.toString())))
+                markNotAvailable(m_bars[index]->actions()[static_cast<qsizetype>(i)]);
+        }
+    }
+}
+
+} // namespace zephira

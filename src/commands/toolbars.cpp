@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/toolbars.h"
+
+#include "commands/icons.h"
+#include "commands/toolbartable.h"
+#include "core/formopener.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace zephira {
+
+namespace {
+
+constexpr int lastMarkupPosition = 15;
+constexpr int firstOpenPosition = 13;
+
+} // namespace
+
+CommandToolBar::CommandToolBar(const ToolBarTable &table, QWidget *parent)
+    : QToolBar(table.title.toString(), parent)
+    , m_table(table)
+{
+    setObjectName(table.name);
+    setIconSize({22, 22});
+    for (const ToolButton &button : table.buttons) {
+        if (button.key.isEmpty())
+            addSeparator();
+        else
+            addButton(button);
+    }
+}
+
+void CommandToolBar::addButton(const ToolButton &button)
+{
+    const QString key = button.key.toString();
+    QAction *action = new QAction(button.tip.toString(), this);
+    action->setObjectName(key);
+    action->setToolTip(action->text());
+    setCommandIcon(action, button.icon);
+    addAction(action);
+    QToolButton *toolButton = qobject_cast<QToolButton *>(widgetForAction(action));
+    toolButton->setAccessibleName(action->text());
+    connect(action, &QAction::triggered, this, [this, key] { emit buttonClicked(key); });
+    if (button.pullDown.empty())
+        return;
+
+    QMenu *menu = new QMenu(this);
+    menu->setToolTipsVisible(true);
+    for (const PullDownEntry &row : button.pullDown) {
+        const QString entryKey = row.key.toString();
+        QAction *entry = menu->addAction(row.caption.toString());
+        entry->setObjectName(entryKey);
+        entry->setStatusTip(row.statusTip.toString());
+        connect(entry, &QAction::triggered, this, [this, entryKey] { emit pullDownClicked(entryKey); });
+        connect(menu, &QMenu::aboutToShow, entry, [entry, icon = row.icon] {
+            if (entry->icon().isNull())
+                entry->setIcon(iconFor(icon));
+        });
+    }
+    action->setMenu(menu);
+    toolButton->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+QAction *CommandToolBar::action(const QString &key) const
+{
+    return findChild<QAction *>(key);
+}
+
+void CommandToolBar::setPositionsEnabled(int first, int last, bool enabled)
+{
+    const QList<QAction *> buttons = actions();
+    for (int position = first; position <= std::min<int>(last, static_cast<int>(buttons.size())); ++position) {
+        QAction *button = buttons[position - 1];
+        button->setEnabled(enabled && !m_unavailable.contains(button));
+    }
+}
+
+void CommandToolBar::setMarkupOpen(bool open)
+{
+    setPositionsEnabled(1, lastMarkupPosition, open);
+    setPositionsEnabled(firstOpenPosition, lastMarkupPosition, true);
+}
+
+void CommandToolBar::applyAvailability(const FormOpener &forms)
+{
+    const auto closeWithout = [&](QStringView key, QStringView form) {
+        if (!form.isEmpty() && !forms.isAvailable(form.toString()))
+            close(key.toString());
+    };
+    for (const ToolButton &button : m_table.buttons) {
+        // A button whose pull-down has something to offer stays open for its sake.
+        const bool offersMore = std::ranges::any_of(button.pullDown, [&](const PullDownEntry &entry) {
+            return entry.form.isEmpty() || forms.isAvailable(entry.form.toString());
+        });
+        if (!offersMore)
+            closeWithout(button.key, button.form);
+        for (const PullDownEntry &entry : button.pullDown)
+            closeWithout(entry.key, entry.form);
+    }
+}
+
+void CommandToolBar::close(const QString &key)
+{
+    QAction *button = action(key);
+    markNotAvailable(button);
+    m_unavailable.insert(button);
+    // A button of whose pull-down nothing is left has no reason to stay open, unless it does something itself.
+    for (const ToolButton &owner : m_table.buttons) {
+        const bool holdsKey = std::ranges::any_of(owner.pullDown, [&](const PullDownEntry &entry) { return entry.key == key; });
+        const bool isSpent = std::ranges::all_of(
+            owner.pullDown, [&](const PullDownEntry &entry) { return m_unavailable.contains(action(entry.key.toString())); });
+        if (holdsKey && isSpent && !owner.form.isEmpty())
+            close(owner.key.toString());
+    }
+}
+
+} // namespace zephira

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/variablebox.h"
+
+#include "commands/palette.h"
+#include "commands/variablelists.h"
+#include "core/editingcontrol.h"
+
+#include <QWheelEvent>
+
+namespace zephira {
+
+VariableBox::VariableBox(const VariableList &list, EditingControl &editor)
+{
+    const QString caption = list.caption.toString();
+    setObjectName(list.name);
+    setAccessibleName(caption);
+    setToolTip(caption);
+    for (const QStringView item : list.items)
+        addItem(item.toString());
+    setPlaceholderText(caption);
+    setCurrentIndex(-1);
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // A click must not take the focus from the text that the item goes into.
+    setFocusPolicy(Qt::TabFocus);
+    connect(this, &QComboBox::textActivated, this, [&editor](const QString &item) { editor.setSelText(item); });
+}
+
+void VariableBox::wheelEvent(QWheelEvent *event)
+{
+    // Each step of the wheel would be an item in the text.
+    event->ignore();
+}
+
+void addVariableBoxes(Palette &palette, EditingControl &editor)
+{
+    for (const VariableList &list : variableLists())
+        palette.addBox(list.toolbar, new VariableBox(list, editor));
+}
+
+} // namespace zephira

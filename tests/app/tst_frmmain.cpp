@@ -1,0 +1,368 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowbench.h"
+#include "support/testregistry.h"
+
+#include <QComboBox>
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMenu>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolBar>
+
+using namespace zephira;
+using namespace Qt::StringLiterals;
+
+class TstFrmmain : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyPartIsThereOnce_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name :
+             {"rt",       "cboLang",     "PrjPath",     "cmdprojpath", "DRV",      "DIR",      "ListFiles", "file",
+              "Frame1",   "workspace",   "toolpane",    "tBar",        "Toolbar1", "Toolbar2", "FontCombo", "FontSizeCombo",
+              "Command1", "List1",       "CM",          "mnufile",     "edit",     "tools",    "Tags",      "View",        "Insert",      "Format",      "Table",    "d2d",      "mnuhid",    "mnuspell",
+              "cmenu",    "mnuplugins",  "Toolbar_0",   "Toolbar_5",   "Toolbar_11", "stBar",  "stBar_1",   "stBar_10",
+              "asptags",  "scriptfolder"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void everyPartIsThereOnce()
+    {
+        QFETCH(QString, name);
+        WindowBench bench;
+        bench.start();
+        QCOMPARE(bench.window->findChildren<QObject *>(name).size(), 1);
+    }
+
+    void theTabStripsShow()
+    {
+        WindowBench bench;
+        bench.start().show();
+        QVERIFY(QTest::qWaitForWindowExposed(bench.window.get()));
+        for (const QString &name : {u"Frame1"_s, u"workspace"_s, u"toolpane"_s}) {
+            const auto *tabs = bench.find<QTabBar>(name);
+            QVERIFY(tabs->isVisible());
+            QVERIFY2(tabs->width() >= 24 && tabs->height() >= 20, qPrintable(name));
+        }
+    }
+
+    void statusBarAtTheStart()
+    {
+        WindowBench bench;
+        bench.start();
+        QStringList texts;
+        for (int i = 1; i <= 10; ++i)
+            texts.append(bench.panel(i));
+        texts.removeAt(7); // The time has its own format.
+        QCOMPARE(texts, (QStringList{u"Line:"_s, u"1"_s, u"Total Lines:"_s, u"1"_s, u"CAPS"_s, u"NUM"_s, u"INS"_s,
+                                     u"Charecter Count"_s, u"File Name"_s}));
+    }
+
+    void theStatusBarFollowsTyping()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.rt().setSelText(u"one\r\ntwo\r\nthree"_s);
+        QCOMPARE(bench.panel(4), u"3"_s);
+        QCOMPARE(bench.panel(2), u"3"_s);
+        QCOMPARE(bench.panel(9), u"15"_s);
+        QVERIFY(window.docModified());
+        QCOMPARE(window.rt().highlightedLine(), 2);
+        bench.choose(u"highlightlines"_s);
+        QCOMPARE(window.rt().highlightedLine(), -1);
+        QCOMPARE(bench.configuration.value(u"options"_s, u"highlight"_s), u"0"_s);
+    }
+
+    void languagesOpenAndCloseTheMarkupTools_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("open");
+        QTest::addColumn<QString>("language");
+        const char *languages[] = {"", "HTML", "C/C++", "Perl", "XML", "Basic", "Pascal", "java", "java", "java"};
+        for (int row = 0; row < 10; ++row)
+            QTest::addRow("%d", row) << row << (row == 1 || row == 3 || row == 4 || row >= 7)
+                                     << QString::fromLatin1(languages[row]);
+    }
+
+    void languagesOpenAndCloseTheMarkupTools()
+    {
+        QFETCH(int, row);
+        QFETCH(bool, open);
+        WindowBench bench;
+        frmmain &window = bench.start();
+        bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(row == 0 ? 1 : 0);
+        bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(row);
+        QCOMPARE(bench.find<QMenu>(u"Tags"_s)->isEnabled(), open);
+        QCOMPARE(bench.find<QMenu>(u"Tags"_s)->menuAction()->isEnabled(), open);
+        QTEST(window.rt().language(), "language");
+        const QList<QAction *> buttons = bench.find<QToolBar>(u"Toolbar1"_s)->actions();
+        QVERIFY(buttons.size() >= 15);
+        QCOMPARE(buttons[0]->isEnabled(), open); // Bold.
+        QVERIFY(buttons[14]->isEnabled()); // Revert works on any text.
+    }
+
+    void theVisualMenusStartClosed()
+    {
+        WindowBench bench;
+        bench.start();
+        for (const QString &name : {u"View"_s, u"Insert"_s, u"Format"_s, u"Table"_s}) {
+            QVERIFY2(!bench.find<QMenu>(name)->isEnabled(), qPrintable(name));
+            QVERIFY2(!bench.find<QMenu>(name)->menuAction()->isEnabled(), qPrintable(name));
+        }
+    }
+
+    void openEditSaveKeepsEveryOtherByte_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        QTest::newRow("crlf") << QByteArray("a\r\nb\r\n") << QByteArray("X\r\nYa\r\nb\r\n");
+        QTest::newRow("lf") << QByteArray("a\nb\n") << QByteArray("X\nYa\nb\n");
+        QTest::newRow("cr") << QByteArray("a\rb\r") << QByteArray("X\rYa\rb\r");
+        QTest::newRow("utf-8 mark") << QByteArray("\xEF\xBB\xBF\xC3\xA9\n") << QByteArray("\xEF\xBB\xBFX\nY\xC3\xA9\n");
+        QTest::newRow("windows-1252") << QByteArray("\xE9\x81\x80\n") << QByteArray("X\nY\xE9\x81\x80\n");
+        QTest::newRow("utf-16") << QByteArray("\xFF\xFE" "a\0\n\0", 6) << QByteArray("\xFF\xFEX\0\n\0Y\0a\0\n\0", 12);
+        QTest::newRow("binary") << QByteArray("\0\xFF\x01\n\0", 5) << QByteArray("X\nY\0\xFF\x01\n\0", 8);
+    }
+
+    void openEditSaveKeepsEveryOtherByte()
+    {
+        QFETCH(QByteArray, before);
+        WindowBench bench;
+        const QString file = bench.write(u"täglich \"neu\".txt"_s, before);
+        frmmain &window = bench.start(file);
+        QVERIFY(window.doSave());
+        QCOMPARE(WindowBench::read(file), before);
+        window.rt().select({0, 0, 0, 0});
+        window.rt().setSelText(u"X\r\nY"_s);
+        QVERIFY(window.docModified());
+        bench.choose(u"save"_s);
+        QVERIFY(!window.docModified());
+        QTEST(WindowBench::read(file), "after");
+    }
+
+    void aQuickTagGoesIntoTheText()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.rt().setText(u"cell"_s);
+        window.rt().executeCmd(137);
+        bench.click(u"Toolbar_3"_s, u"td"_s);
+        QCOMPARE(window.rt().text(), u"<td>cell</td>"_s);
+        bench.click(u"Toolbar_7"_s, 18);
+        QCOMPARE(window.rt().text(), u"<td>cell</td><input type=\"reset\">"_s);
+        QVERIFY(window.docModified());
+        QCOMPARE(bench.panel(9), QString::number(window.rt().text().size()));
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"<td>cell</td>"_s);
+    }
+
+    void theToolbarsUndoSaysWhenNothingIsLeft()
+    {
+        WindowBench bench;
+        bench.start();
+        bench.prompts.expectTell(u"Sorry, there is nothing left to UNDO"_s, u"UNDO"_s);
+        bench.click(u"tBar"_s, u"undo"_s);
+    }
+
+    void theStylePropertyNoteLeadsToTheFirstCustomTab()
+    {
+        WindowBench bench;
+        bench.start();
+        bench.prompts.expect({u"By default, the first custom tab was shipped with a CSS Prop index file. You will now be taken "
+                              u"to the tab"_s, {}, Question::Icon::None, Question::Buttons::Ok},
+                             Answer::Ok);
+        bench.click(u"Toolbar_4"_s, u"prop"_s);
+        QCOMPARE(bench.find<QTabBar>(u"Frame1"_s)->currentIndex(), 6);
+    }
+
+    void closingAsks()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.show();
+        window.rt().setSelText(u"text"_s);
+        const Question prompt{u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel};
+        bench.prompts.expect(prompt, Answer::Cancel);
+        QVERIFY(!window.close());
+        QCOMPARE(bench.ended, 0);
+        QVERIFY(!bench.settings.values.contains(u"zephira/frmmain/Top"_s));
+        bench.prompts.expect(prompt, Answer::No);
+        QVERIFY(window.close());
+        QCOMPARE(bench.ended, 1);
+        QVERIFY(bench.settings.values.size() > 5);
+    }
+
+    void exitAsksNothingAndSavesNothing()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.rt().setSelText(u"text"_s);
+        const auto settings = bench.settings.values;
+        bench.choose(u"exit"_s);
+        QCOMPARE(bench.ended, 1);
+        QVERIFY(bench.settings.values == settings);
+    }
+
+    void updateEndsInAnyCase()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.show();
+        window.rt().setSelText(u"text"_s);
+        bench.prompts.expect({u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::Cancel);
+        bench.choose(u"mnuupdate"_s);
+        QCOMPARE(bench.ended, 1);
+        QCOMPARE(QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files).size(), 1);
+        QVERIFY(bench.shell.started.front() == (FakeShell::Start{bench.appPath() + u"/update.exe"_s, {}}));
+        QVERIFY(!bench.settings.values.contains(u"zephira/frmmain/Top"_s));
+    }
+
+    void fileExistsByName()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        for (const auto &[path, there] : {std::pair{bench.write(u"a.txt"_s, "a"), true}, {bench.folder(), false},
+                                          {bench.folder() + u"/none"_s, false}}) {
+            bool exists = !there;
+            QVERIFY(QMetaObject::invokeMethod(&window, "FileExists", Q_RETURN_ARG(bool, exists), Q_ARG(QString, path)));
+            QCOMPARE(exists, there);
+        }
+    }
+
+    void aSecondWindowIsASecondProcess()
+    {
+        WindowBench bench;
+        bench.start();
+        bench.choose(u"mnunewwindow"_s);
+        QVERIFY(bench.shell.started.front() == (FakeShell::Start{u"/opt/zephira/zephira"_s, {u"/nodialog"_s}}));
+    }
+
+    void aDroppedFileBecomesTheDocument()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        const QString file = bench.write(u"drop/a page.css"_s, "p { }\n");
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file), QUrl::fromLocalFile(u"/second"_s)});
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        static_cast<QObject &>(window).event(&drop);
+        QCOMPARE(window.docPath(), file);
+        QCOMPARE(window.rt().text(), u"p { }\r\n"_s);
+        QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentIndex(), 8);
+    }
+
+    void aDropOnTheWindowKeepsTheDesignersWork()
+    {
+        WindowBench bench;
+        const QString page = bench.write(u"page.html"_s, "<p>old</p>");
+        frmmain &window = bench.start(page);
+        auto *workspace = bench.find<QTabBar>(u"workspace"_s);
+        workspace->setCurrentIndex(2);
+        bench.webViews.designer.html = u"<p>designed</p>"_s;
+        bench.webViews.designer.dirty = true;
+        bench.prompts.expect({u"Document: "_s + page + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::Yes);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(bench.write(u"drop/a.css"_s, "p { }"))});
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        static_cast<QObject &>(window).event(&drop);
+        QCOMPARE(WindowBench::read(page), QByteArray("<p>designed</p>"));
+        QCOMPARE(workspace->currentIndex(), 0);
+        QCOMPARE(window.rt().text(), u"p { }"_s);
+    }
+
+    void anImageOfThePaneBecomesALink()
+    {
+        WindowBench bench;
+        const QString page = bench.write(u"site/a.html"_s, "");
+        const QByteArray gif = QByteArray::fromBase64("R0lGODlhAQABAIAAAAAAAP///ywAAAAAAQABAAACAUwAOw==");
+        bench.write(u"site/good.gif"_s, gif);
+        const QString bad = bench.write(u"site/bad.gif"_s, gif.first(12));
+        frmmain &window = bench.start(page);
+        auto *list = bench.find<QListWidget>(u"ListFiles"_s);
+        list->setCurrentItem(list->findItems(u"good.gif"_s, Qt::MatchExactly).value(0));
+        window.OpenAFile();
+        const QString link = u"<img src=\"good.gif\" width=\"1\" height=\"1\" alt=\"\" Border=\"0\">"_s;
+        QCOMPARE(window.rt().text(), link);
+        // A picture that is cut short is none.
+        list->setCurrentItem(list->findItems(u"bad.gif"_s, Qt::MatchExactly).value(0));
+        bench.prompts.expect({u"An error has occured.\r\nThe picture %1 can't be shown: Unable to read image data.\r\n"_s.arg(bad)
+                                  + u"The routine will now reset itself..."_s,
+                              {}, Question::Icon::Critical, Question::Buttons::Ok},
+                             Answer::Ok);
+        window.OpenAFile();
+        QCOMPARE(window.rt().text(), link);
+    }
+
+    void whatComesLaterIsClosedAndSaysSo()
+    {
+        WindowBench bench;
+        bench.start();
+        QVERIFY(!bench.find<QAction>(u"mnucp"_s)->isEnabled());
+        QCOMPARE(bench.find<QAction>(u"mnucp"_s)->toolTip(), u"Not available yet"_s);
+        QVERIFY(bench.find<QAction>(u"mnutblwiz"_s)->isEnabled());
+    }
+
+    void aRecoveryCopyStaysWhereASaveFailedAtTheClose()
+    {
+        WindowBench bench;
+        const QString file = bench.write(u"ro/a.txt"_s, "old");
+        frmmain &window = bench.start(file);
+        window.show();
+        window.rt().setSelText(u"new "_s);
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+        bench.prompts.expect({u"Document: "_s + file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::Yes);
+        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), {}, Question::Icon::Exclamation);
+        QVERIFY(window.close());
+        const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
+        QCOMPARE(copies.size(), 1);
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
+        QCOMPARE(WindowBench::read(file), QByteArray("old"));
+    }
+
+    void aRecoveryCopyStaysWhereASaveFailedBeforeTheTextIsReplaced()
+    {
+        WindowBench bench;
+        const QString file = bench.write(u"ro/a.txt"_s, "old");
+        frmmain &window = bench.start(file);
+        window.rt().setSelText(u"new "_s);
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+        bench.prompts.expect({u"Document: "_s + file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::None, Question::Buttons::YesNoCancel},
+                             Answer::Yes);
+        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), {}, Question::Icon::Exclamation);
+        window.doNew();
+        QCOMPARE(window.rt().text(), QString());
+        const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
+        QCOMPARE(copies.size(), 1);
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
+    }
+
+    void aFileThatChangedOnDiskIsKeptBeforeASave()
+    {
+        WindowBench bench;
+        const QString file = bench.write(u"a.txt"_s, "mine");
+        frmmain &window = bench.start(file);
+        bench.write(u"a.txt"_s, "somebody else's");
+        window.rt().setSelText(u"still "_s);
+        QVERIFY(window.doSave());
+        QCOMPARE(WindowBench::read(file), QByteArray("still mine"));
+        const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
+        QCOMPARE(copies.size(), 1);
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("somebody else's"));
+    }
+};
+
+ZEPHIRA_TEST(TstFrmmain)
+#include "tst_frmmain.moc"

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/windowbench.h"
+
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTest>
+#include <QToolBar>
+
+namespace zephira {
+
+/// The window over the real web engine, showing, with a document in a folder of its own.
+struct WebBench : WindowBench {
+    /// Milliseconds that a busy machine may need to start the engine and show a page.
+    static constexpr int patience = 60000;
+
+    /// Opens the file site/NAME with this content; without a name there is an empty document.
+    explicit WebBench(const QString &name = QStringLiteral("page.html"), const QByteArray &content = "<p>old</p>\r\n");
+
+    QTabBar &tabs() const { return *find<QTabBar>(QStringLiteral("workspace")); }
+    void select(int tab) const { tabs().setCurrentIndex(tab - 1); }
+    QObject &browser() const { return *find<QObject>(QStringLiteral("ww1")); }
+    QObject &designer() const { return *find<QObject>(QStringLiteral("DHTMLEdit1")); }
+
+    /// Selects the preview and waits until it shows the page of this title.
+    bool preview(const QString &title);
+    /// Waits until the preview shows a page of this title.
+    bool showsPage(const QString &title) const;
+    QString pageTitle() const;
+    /// Selects visual mode and waits until the page can be edited.
+    bool design();
+    QString html() const { return designer().property("DocumentHTML").toString(); }
+    void paste(const QString &markup) const;
+    void run(DesignerCommand command, const QVariant &argument = {}) const;
+    int status(DesignerCommand command) const;
+    /// What takes the keys and the mouse in a view, by the view's name.
+    QWidget *keyboardOf(const QString &view) const;
+
+    QString file;
+};
+
+} // namespace zephira

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowbench.h"
+
+#include "app/comingforms.h"
+#include "app/loadhandler.h"
+#include "ftp/registerforms.h"
+#include "panes/registerforms.h"
+#include "settings/registerforms.h"
+#include "start/registerforms.h"
+#include "tags/registerforms.h"
+#include "views/registerforms.h"
+#include "wizards/registerforms.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QTest>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+BrowserView FakeWebViews::makeBrowser(QWidget *parent)
+{
+    made.append(u"browser"_s);
+    auto *widget = new QWidget(parent);
+    widget->setObjectName(u"ww1"_s);
+    return {widget, &browser};
+}
+
+DesignerView FakeWebViews::makeDesigner(Prompts &, QWidget *parent)
+{
+    made.append(u"designer"_s);
+    auto *widget = new QWidget(parent);
+    widget->setObjectName(u"DHTMLEdit1"_s);
+    return {widget, &designer};
+}
+
+WindowBench::WindowBench()
+    : recovery(m_folder.path() + u"/recovery"_s, files, clock), configuration(m_folder.path() + u"/app/zephira.ini"_s)
+{
+    const QDir source(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data"));
+    QDirIterator data(source.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (data.hasNext()) {
+        const QString file = data.next();
+        // Written anew, because a copy of Qt's waits for the disk at each file.
+        write(u"app/"_s + source.relativeFilePath(file), read(file));
+    }
+    announceComingForms(catalogue);
+    wizards::registerForms(catalogue);
+    panes::registerForms(catalogue);
+    start::registerForms(catalogue);
+    ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
+    tags::registerForms(catalogue);
+    zephira::settings::registerForms(catalogue);
+    views::registerForms(catalogue, [this](QWidget *parent) -> EditorView {
+        auto *viewer = new CodeMax({files, recovery, prompts}, parent);
+        viewer->setReadOnly(true);
+        return {viewer, viewer};
+    }, []() -> Result<PageFetcher *> { return Error{Error::Code::Failed, u"no network"_s}; });
+}
+
+WindowBench::~WindowBench() = default;
+
+frmmain &WindowBench::start(const QString &argument)
+{
+    window = std::make_unique<frmmain>(WindowServices{.files = files,
+                                                      .recovery = recovery,
+                                                      .configuration = configuration,
+                                                      .settings = settings,
+                                                      .prompts = prompts,
+                                                      .shell = shell,
+                                                      .clipboard = clipboard,
+                                                      .clock = clock,
+                                                      .catalogue = catalogue,
+                                                      .webViews = loadWebViews,
+                                                      .appPath = appPath(),
+                                                      .iniFile = configuration.file(),
+                                                      .executable = u"/opt/zephira/zephira"_s,
+                                                      .endProcess = [this] { ++ended; }});
+    LoadHandler(*window, argument).run();
+    return *window;
+}
+
+QString WindowBench::write(const QString &name, const QByteArray &content) const
+{
+    const QString path = m_folder.path() + u'/' + name;
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("can't write %s", qPrintable(path));
+    return path;
+}
+
+QByteArray WindowBench::read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WindowBench::click(const QString &toolBar, const QString &key) const
+{
+    for (QAction *action : find<QToolBar>(toolBar)->actions()) {
+        if (action->objectName() == key) {
+            QVERIFY2(action->isEnabled(), qPrintable(key));
+            action->trigger();
+            return;
+        }
+    }
+    QFAIL(qPrintable(toolBar + u" has no button "_s + key));
+}
+
+void WindowBench::click(const QString &toolBar, int position) const
+{
+    const QList<QAction *> actions = find<QToolBar>(toolBar)->actions();
+    QVERIFY(position >= 1 && position <= actions.size());
+    QVERIFY(actions[position - 1]->isEnabled());
+    actions[position - 1]->trigger();
+}
+
+} // namespace zephira

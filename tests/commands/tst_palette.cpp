@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/icons.h"
+#include "commands/palette.h"
+#include "commands/palettetable.h"
+#include "support/fakes.h"
+#include "support/testregistry.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTabBar>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+class TstPalette : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { m_theme = std::make_unique<IconTheme>(*qGuiApp); }
+    void cleanupTestCase() { m_theme.reset(); }
+
+    void tabs();
+    void oneToolbarShows();
+    void namesAreThereFromTheStart();
+    void buttonsComeWithTheFirstShowing();
+    void everyButtonHasALook();
+    void keyedButtons();
+    void positionalButtons();
+    void headings();
+    void selectorIsAToggle();
+    void aTabReportsEveryClick();
+    void rowsAreEquallyHigh();
+    void whatIsNotAvailableSaysSo();
+
+private:
+    std::unique_ptr<IconTheme> m_theme;
+};
+
+void TstPalette::tabs()
+{
+    Palette palette;
+    const QTabBar *tabs = palette.findChild<QTabBar *>(u"toolpane"_s);
+    QCOMPARE(tabs, palette.tabs());
+    const QStringList captions{u"Tools"_s, u"Common"_s, u"Text"_s,  u"Tables"_s,  u"Style"_s, u"Frames"_s,
+                               u"Lists"_s, u"Forms"_s,  u"Scripts"_s, u"CFML"_s, u"ASP"_s,   u"SSI"_s};
+    QCOMPARE(tabs->count(), captions.size());
+    for (int i = 0; i < tabs->count(); ++i) {
+        QCOMPARE(tabs->tabText(i), captions[i]);
+        QCOMPARE(tabs->tabData(i).toString(), captions[i]);
+    }
+}
+
+void TstPalette::oneToolbarShows()
+{
+    Palette palette;
+    palette.show();
+    for (const int index : {0, 7, 11, 3}) {
+        palette.tabs()->setCurrentIndex(index);
+        for (int i = 0; i < 12; ++i)
+            QCOMPARE(palette.toolBar(i)->isVisible(), i == index);
+    }
+}
+
+void TstPalette::namesAreThereFromTheStart()
+{
+    Palette palette;
+    for (int i = 0; i < 12; ++i) {
+        QToolBar *bar = palette.findChild<QToolBar *>(u"Toolbar_%1"_s.arg(i));
+        QCOMPARE(bar, palette.toolBar(i));
+        const PaletteToolbar &table = paletteToolbars()[static_cast<std::size_t>(i)];
+        QCOMPARE(bar->actions().size(), static_cast<qsizetype>(table.buttons.size()));
+        for (std::size_t row = 0; row < table.buttons.size(); ++row) {
+            const QAction *action = bar->actions()[static_cast<qsizetype>(row)];
+            QCOMPARE(action->objectName(), table.buttons[row].key.toString());
+            QCOMPARE(action->isSeparator(), table.buttons[row].kind == TagKind::Separator);
+            if (!action->isSeparator())
+                QCOMPARE(action->toolTip(), table.buttons[row].label.toString());
+        }
+    }
+    QVERIFY(palette.findChild<QToolBar *>(u"Toolbar_3"_s)->findChild<QAction *>(u"td"_s));
+}
+
+void TstPalette::buttonsComeWithTheFirstShowing()
+{
+    Palette palette;
+    palette.show();
+    const auto buttons = [&](int index) { return palette.toolBar(index)->actions().first(); };
+    QVERIFY(palette.toolBar(0)->widgetForAction(buttons(0)));
+    QVERIFY(!palette.toolBar(6)->widgetForAction(buttons(6)));
+    palette.tabs()->setCurrentIndex(6);
+    QVERIFY(palette.toolBar(6)->widgetForAction(buttons(6)));
+    // The order of the buttons is the order of the actions.
+    int right = -1;
+    for (QAction *action : palette.toolBar(6)->actions()) {
+        const QWidget *button = palette.toolBar(6)->widgetForAction(action);
+        QVERIFY(button->x() > right);
+        right = button->geometry().right();
+    }
+}
+
+void TstPalette::everyButtonHasALook()
+{
+    Palette palette;
+    palette.resize(1600, 100);
+    palette.show();
+    for (int i = 0; i < 12; ++i) {
+        palette.tabs()->setCurrentIndex(i);
+        for (QAction *action : palette.toolBar(i)->actions()) {
+            if (action->isSeparator())
+                continue;
+            auto *button = qobject_cast<QToolButton *>(palette.toolBar(i)->widgetForAction(action));
+            QVERIFY2(button, qPrintable(action->text()));
+            const bool hasIcon = !button->icon().isNull() && !button->icon().pixmap(22, 22).isNull();
+            const bool hasShortText = button->icon().isNull() && button->text() != action->text();
+            // "##" is its own tool tip.
+            QVERIFY2(hasIcon || hasShortText || button->text() == u"##", qPrintable(action->text()));
+            QCOMPARE(button->accessibleName(), action->text());
+        }
+    }
+}
+
+void TstPalette::keyedButtons()
+{
+    Palette palette;
+    QSignalSpy clicked(&palette, &Palette::clicked);
+    palette.action(3, u"td"_s)->trigger();
+    palette.action(5, u"base"_s)->trigger();
+    QCOMPARE(clicked.size(), 2);
+    QCOMPARE(clicked[0], (QVariantList{3, u"td"_s, 3}));
+    QCOMPARE(clicked[1], (QVariantList{5, u"base"_s, 4}));
+}
+
+void TstPalette::positionalButtons()
+{
+    Palette palette;
+    QSignalSpy clicked(&palette, &Palette::clicked);
+    palette.toolBar(7)->actions()[3]->trigger();
+    palette.toolBar(11)->actions()[0]->trigger();
+    QCOMPARE(clicked.size(), 2);
+    QCOMPARE(clicked[0], (QVariantList{7, QString(), 4}));
+    QCOMPARE(clicked[1], (QVariantList{11, QString(), 1}));
+}
+
+void TstPalette::headings()
+{
+    Palette palette;
+    QSignalSpy clicked(&palette, &Palette::clicked);
+    QSignalSpy headings(&palette, &Palette::headingClicked);
+    const QMenu *menu = palette.toolBar(2)->actions()[5]->menu();
+    QVERIFY(menu);
+    QCOMPARE(menu->actions().size(), 6);
+    for (int size = 1; size <= 6; ++size) {
+        QAction *entry = menu->actions()[size - 1];
+        QCOMPARE(entry->objectName(), u"H%1"_s.arg(size));
+        QCOMPARE(palette.findChild<QAction *>(entry->objectName()), entry);
+        entry->trigger();
+        QCOMPARE(headings.takeFirst(), QVariantList{size});
+    }
+    QVERIFY(clicked.isEmpty());
+}
+
+void TstPalette::selectorIsAToggle()
+{
+    Palette palette;
+    QSignalSpy clicked(&palette, &Palette::clicked);
+    QAction *selector = palette.action(4, u"selector"_s);
+    QVERIFY(selector->isCheckable());
+    selector->trigger();
+    QVERIFY(palette.isSelectorPressed());
+    QCOMPARE(clicked.size(), 1);
+    palette.setSelectorPressed(false);
+    QVERIFY(!selector->isChecked());
+    QCOMPARE(clicked.size(), 1);
+}
+
+void TstPalette::aTabReportsEveryClick()
+{
+    Palette palette;
+    palette.show();
+    QSignalSpy tabs(&palette, &Palette::tabClicked);
+    const auto click = [&](int index) {
+        QTest::mouseClick(palette.tabs(), Qt::LeftButton, {}, palette.tabs()->tabRect(index).center());
+    };
+    click(2);
+    click(2);
+    palette.tabs()->setCurrentIndex(5);
+    QCOMPARE(tabs.size(), 3);
+    QCOMPARE(tabs[0], QVariantList{2});
+    QCOMPARE(tabs[1], QVariantList{2});
+    QCOMPARE(tabs[2], QVariantList{5});
+}
+
+void TstPalette::rowsAreEquallyHigh()
+{
+    Palette palette;
+    palette.show();
+    const int height = palette.toolBar(0)->height();
+    for (int i = 1; i < 12; ++i) {
+        palette.tabs()->setCurrentIndex(i);
+        QTest::qWait(0);
+        QVERIFY2(palette.toolBar(i)->height() >= height, qPrintable(QString::number(i)));
+        QCOMPARE(palette.sizeHint().height(), palette.tabs()->sizeHint().height() + height);
+    }
+}
+
+void TstPalette::whatIsNotAvailableSaysSo()
+{
+    Palette palette;
+    FakeFormOpener forms;
+    forms.unavailable = {u"ColorPick"_s, u"frmcsv"_s, u"frmvalidate"_s, u"SpellChecker1"_s};
+    palette.applyAvailability(forms);
+    const QList<QAction *> closed{palette.action(0, u"color"_s), palette.action(0, u"tidy"_s),
+                                  palette.action(0, u"spell"_s), palette.action(4, u"topstyle"_s),
+                                  palette.toolBar(9)->actions().first()};
+    for (const QAction *action : closed) {
+        QVERIFY2(!action->isEnabled(), qPrintable(action->text()));
+        QCOMPARE(action->toolTip(), u"Not available yet"_s);
+    }
+    QVERIFY(palette.action(0, u"imagemap"_s)->isEnabled());
+    QVERIFY(palette.action(3, u"td"_s)->isEnabled());
+}
+
+ZEPHIRA_TEST(TstPalette)
+#include "tst_palette.moc"

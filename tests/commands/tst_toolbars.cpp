@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/toolbars.h"
+#include "commands/toolbartable.h"
+#include "support/fakes.h"
+#include "support/testregistry.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+class TstToolBars : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void standard();
+    void formatting();
+    void buttonsReportTheirKeys();
+    void languagesCloseWhatIsAboutMarkup();
+    void unavailableButtonsStayClosed();
+    void aPullDownKeepsItsButtonOpen();
+};
+
+void TstToolBars::standard()
+{
+    CommandToolBar bar(standardToolBar());
+    QCOMPARE(bar.objectName(), u"tBar"_s);
+    QStringList keys;
+    for (const QAction *action : bar.actions()) {
+        if (action->isSeparator())
+            continue;
+        keys.append(action->objectName());
+        QVERIFY(!action->toolTip().isEmpty());
+        // A shortcut here would make the menu's ambiguous.
+        QVERIFY(action->shortcut().isEmpty());
+    }
+    QCOMPARE(keys, (QStringList{u"new"_s, u"open"_s, u"save"_s, u"print"_s, u"cut"_s, u"copy"_s, u"paste"_s, u"delete"_s,
+                                u"undo"_s, u"redo"_s}));
+}
+
+void TstToolBars::formatting()
+{
+    CommandToolBar bar(formattingToolBar());
+    QCOMPARE(bar.objectName(), u"Toolbar1"_s);
+    QCOMPARE(bar.actions().size(), 15);
+    for (const auto &[button, entry] : {std::pair{u"preview"_s, u"pie"_s}, std::pair{u"links"_s, u"linkextract"_s},
+                                        std::pair{u"htmltags"_s, u"dqw"_s}}) {
+        QAction *action = bar.action(button);
+        QVERIFY(action->menu()->actions().contains(bar.action(entry)));
+        const auto *toolButton = qobject_cast<QToolButton *>(bar.widgetForAction(action));
+        QCOMPARE(toolButton->popupMode(), QToolButton::MenuButtonPopup);
+    }
+    QVERIFY(!bar.action(u"nothing"_s));
+}
+
+void TstToolBars::buttonsReportTheirKeys()
+{
+    CommandToolBar bar(formattingToolBar());
+    QSignalSpy buttons(&bar, &CommandToolBar::buttonClicked);
+    QSignalSpy entries(&bar, &CommandToolBar::pullDownClicked);
+    bar.action(u"bold"_s)->trigger();
+    bar.action(u"preview"_s)->trigger();
+    bar.action(u"picb"_s)->trigger();
+    QCOMPARE(buttons.size(), 2);
+    QCOMPARE(buttons[0], QVariantList{u"bold"_s});
+    QCOMPARE(buttons[1], QVariantList{u"preview"_s});
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries[0], QVariantList{u"picb"_s});
+}
+
+void TstToolBars::languagesCloseWhatIsAboutMarkup()
+{
+    CommandToolBar bar(formattingToolBar());
+    bar.setMarkupOpen(false);
+    for (int position = 1; position <= 15; ++position)
+        QCOMPARE(bar.actions()[position - 1]->isEnabled(), position >= 13);
+    bar.setMarkupOpen(true);
+    for (const QAction *action : bar.actions())
+        QVERIFY(action->isEnabled());
+}
+
+void TstToolBars::unavailableButtonsStayClosed()
+{
+    CommandToolBar bar(formattingToolBar());
+    FakeFormOpener forms;
+    forms.unavailable = {u"frmmainftp"_s, u"frmDocSize"_s, u"frmTagEdit"_s};
+    bar.applyAvailability(forms);
+    bar.setMarkupOpen(false);
+    bar.setMarkupOpen(true);
+    for (const QString &key : {u"ftp"_s, u"loadtime"_s, u"dtw"_s}) {
+        QVERIFY2(!bar.action(key)->isEnabled(), qPrintable(key));
+        QCOMPARE(bar.action(key)->toolTip(), u"Not available yet"_s);
+    }
+    QVERIFY(bar.action(u"reset"_s)->isEnabled());
+    QVERIFY(bar.action(u"dts"_s)->isEnabled());
+}
+
+void TstToolBars::aPullDownKeepsItsButtonOpen()
+{
+    CommandToolBar bar(formattingToolBar());
+    FakeFormOpener forms;
+    forms.unavailable = {u"frmTags"_s, u"frmTagEdit"_s, u"frmlinkwiz"_s, u"frmlinkextract"_s};
+    bar.applyAvailability(forms);
+    // The tags in the side pane are there, so that the pull-down has something to offer; no link tool is.
+    QVERIFY(bar.action(u"htmltags"_s)->isEnabled());
+    QVERIFY(bar.action(u"dqw"_s)->isEnabled());
+    QVERIFY(!bar.action(u"dts"_s)->isEnabled());
+    QVERIFY(!bar.action(u"links"_s)->isEnabled());
+
+    // Without them nothing is left of it. The preview's button does something by itself.
+    bar.close(u"dqw"_s);
+    bar.setMarkupOpen(true);
+    QVERIFY(!bar.action(u"htmltags"_s)->isEnabled());
+    for (const QString &key : {u"pie"_s, u"pidb"_s, u"picb"_s})
+        bar.close(key);
+    QVERIFY(bar.action(u"preview"_s)->isEnabled());
+}
+
+ZEPHIRA_TEST(TstToolBars)
+#include "tst_toolbars.moc"
