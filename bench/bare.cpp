@@ -23,7 +23,8 @@ int main(int argc, char **argv)
         // there before the text, because it colours only what is seen then.
         editor->setLexer(new QsciLexerHTML(editor));
         const QByteArray content = file.readAll();
-        editor->SendScintilla(QsciScintilla::SCI_APPENDTEXT, static_cast<unsigned long>(content.size()), content.constData());
+        editor->SendScintilla(QsciScintilla::SCI_APPENDTEXT, static_cast<unsigned long>(content.size()),
+                              content.constData());
     }
     window.show();
     editor->setFocus();

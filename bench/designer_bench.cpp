@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // designer_bench PAGE: the ways into and out of the visual designer with a page, and the time from a key to the state that
 // the toolbar shows, in a page of one paragraph and in that page; and from selecting the whole of it.
-#include "web/designer/designerwidget.h"
 #include "noprompts.h"
+#include "web/designer/designerwidget.h"
 
 #include <benchmark/benchmark.h>
 
@@ -111,13 +111,18 @@ int main(int argc, char **argv)
     const auto add = [](const char *name, auto run, int iterations) {
         benchmark::RegisterBenchmark(name, run)->Iterations(iterations)->UseManualTime()->Unit(benchmark::kMillisecond);
     };
-    add("enter", [&](benchmark::State &state) { enter(state, designer, page); }, 1);
-    add("leave", [&](benchmark::State &state) { leave(state, designer, page); }, 1);
+    add(
+        "enter", [&](benchmark::State &state) { enter(state, designer, page); }, 1);
+    add(
+        "leave", [&](benchmark::State &state) { leave(state, designer, page); }, 1);
     const auto loadOne = [&] { designer.setDocumentHtml(u"<p>a</p>"_s); };
     const auto loadPage = [&] { designer.loadDocument(page); };
-    add("key", [&](benchmark::State &state) { key(state, designer, loadOne); }, 50);
-    add("key in the page", [&](benchmark::State &state) { key(state, designer, loadPage); }, 20);
-    add("select all", [&](benchmark::State &state) { selectAll(state, designer, page); }, 1);
+    add(
+        "key", [&](benchmark::State &state) { key(state, designer, loadOne); }, 50);
+    add(
+        "key in the page", [&](benchmark::State &state) { key(state, designer, loadPage); }, 20);
+    add(
+        "select all", [&](benchmark::State &state) { selectAll(state, designer, page); }, 1);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -130,21 +130,24 @@ int main(int argc, char **argv)
     };
     add("list server files", [&](benchmark::State &state) { askServer(state, shown, serverFiles); });
     add("show server files", [&](benchmark::State &state) {
-        show(state, shown.view(u"ListView2"_s), count, [&] { shown.list(serverFiles); },
-             [&] { shown.list(u"/empty/*.*"_s); });
+        show(
+            state, shown.view(u"ListView2"_s), count, [&] { shown.list(serverFiles); },
+            [&] { shown.list(u"/empty/*.*"_s); });
     });
     add("list server folders", [&](benchmark::State &state) { askServer(state, shown, serverFolders); });
     add("show server folders", [&](benchmark::State &state) {
-        show(state, shown.view(u"TView1"_s), count, [&] { shown.list(serverFolders); },
-             [&] {
-                 shown.ftp.client->desk->clearRemoteTree();
-                 shown.ftp.client->desk->addRemoteRoot();
-             });
+        show(
+            state, shown.view(u"TView1"_s), count, [&] { shown.list(serverFolders); },
+            [&] {
+                shown.ftp.client->desk->clearRemoteTree();
+                shown.ftp.client->desk->addRemoteRoot();
+            });
     });
     add("list local files", [&](benchmark::State &state) { listLocal(state, local); });
     add("show local files", [&](benchmark::State &state) {
-        show(state, shown.view(u"ListView1"_s), count, [&] { shown.window->setProperty("LocalFolder", local); },
-             [&] { shown.window->setProperty("LocalFolder", shown.ftp.path(u"."_s)); });
+        show(
+            state, shown.view(u"ListView1"_s), count, [&] { shown.window->setProperty("LocalFolder", local); },
+            [&] { shown.window->setProperty("LocalFolder", shown.ftp.path(u"."_s)); });
     });
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -49,7 +49,8 @@ double milliseconds(Clock::duration duration)
 
 /// Waits until the program is at rest and returns since when it has been. With `mustPaint` it is not at rest before it
 /// has painted a good part of the screen.
-Clock::time_point restAfter(Clock::time_point start, Screen &screen, ProcessTree &program, bool mustPaint, bool trace = false)
+Clock::time_point restAfter(Clock::time_point start, Screen &screen, ProcessTree &program, bool mustPaint,
+                            bool trace = false)
 {
     Clock::time_point since = start;
     Nanoseconds used = program.cpuTime();
@@ -87,7 +88,7 @@ Typing type(int count, Screen &screen, ProcessTree &program)
     std::vector<double> latencies;
     const Nanoseconds before = program.cpuTime();
     for (int i = 0; i < count; ++i) {
-        while (screen.look(0ms).anything) { }
+        while (screen.look(0ms).anything) {}
         const Clock::time_point pressed = Clock::now();
         screen.press(static_cast<std::uint32_t>('a' + i % 26));
         Painted painted = screen.look(2000ms);
@@ -99,7 +100,8 @@ Typing type(int count, Screen &screen, ProcessTree &program)
     }
     const Nanoseconds used = program.cpuTime() - before;
     std::ranges::nth_element(latencies, latencies.begin() + count / 2);
-    return {std::chrono::duration<double, std::micro>(used).count() / count, latencies[static_cast<std::size_t>(count / 2)]};
+    return {std::chrono::duration<double, std::micro>(used).count() / count,
+            latencies[static_cast<std::size_t>(count / 2)]};
 }
 
 /// Presses Ctrl+End and returns when the text there has been painted.
@@ -130,7 +132,7 @@ void measure(const Options &options, const std::vector<std::string> &command)
     Screen screen;
     // The server takes its artificial keyboard into use at the first key, and programs miss a key if they see that.
     screen.press(leftShift);
-    while (screen.look(100ms).anything) { }
+    while (screen.look(100ms).anything) {}
 
     const Clock::time_point start = Clock::now();
     ProcessTree program(command);

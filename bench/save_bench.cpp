@@ -23,7 +23,8 @@ bool copyAndSync(const char *from, const char *to)
     pid_t pid = 0;
     char *arguments[] = {const_cast<char *>("cp"), const_cast<char *>(from), const_cast<char *>(to), nullptr};
     int status = 1;
-    if (posix_spawnp(&pid, "cp", nullptr, nullptr, arguments, environ) != 0 || waitpid(pid, &status, 0) != pid || status != 0)
+    if (posix_spawnp(&pid, "cp", nullptr, nullptr, arguments, environ) != 0 || waitpid(pid, &status, 0) != pid
+        || status != 0)
         return false;
     const int file = open(to, O_RDONLY | O_CLOEXEC);
     return file >= 0 && fsync(file) == 0 && close(file) == 0;
@@ -44,18 +45,26 @@ int main(int argc, char **argv)
     if (!content)
         return 1;
 
-    benchmark::RegisterBenchmark("save", [&](benchmark::State &state) {
-        for (auto _ : state) {
-            if (!store.write(saved, QByteArrayView(content.value())))
-                state.SkipWithError("the file was not written");
-        }
-    })->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(5);
-    benchmark::RegisterBenchmark("copy", [&](benchmark::State &state) {
-        for (auto _ : state) {
-            if (!copyAndSync(argv[1], copied.constData()))
-                state.SkipWithError("the file was not copied");
-        }
-    })->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+    benchmark::RegisterBenchmark("save",
+                                 [&](benchmark::State &state) {
+                                     for (auto _ : state) {
+                                         if (!store.write(saved, QByteArrayView(content.value())))
+                                             state.SkipWithError("the file was not written");
+                                     }
+                                 })
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(5);
+    benchmark::RegisterBenchmark("copy",
+                                 [&](benchmark::State &state) {
+                                     for (auto _ : state) {
+                                         if (!copyAndSync(argv[1], copied.constData()))
+                                             state.SkipWithError("the file was not copied");
+                                     }
+                                 })
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(5);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

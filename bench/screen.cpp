@@ -94,8 +94,9 @@ void Screen::press(std::uint32_t keySymbol, bool control)
 
 void Screen::closeActiveWindow()
 {
-    const auto active = owned(xcb_get_property_reply(m_connection,
-        xcb_get_property(m_connection, 0, m_root, atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1), nullptr));
+    const auto active = owned(xcb_get_property_reply(
+        m_connection, xcb_get_property(m_connection, 0, m_root, atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1),
+        nullptr));
     if (!active || xcb_get_property_value_length(active.get()) != sizeof(xcb_window_t))
         return;
     xcb_client_message_event_t message{};
@@ -110,8 +111,8 @@ void Screen::closeActiveWindow()
 
 xcb_atom_t Screen::atom(const char *name) const
 {
-    const auto reply = owned(xcb_intern_atom_reply(m_connection,
-        xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name), nullptr));
+    const auto reply = owned(xcb_intern_atom_reply(
+        m_connection, xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name), nullptr));
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
@@ -124,8 +125,9 @@ xcb_keycode_t Screen::keyOf(std::uint32_t keySymbol) const
 {
     const xcb_setup_t *setup = xcb_get_setup(m_connection);
     const int count = setup->max_keycode - setup->min_keycode + 1;
-    const auto reply = owned(xcb_get_keyboard_mapping_reply(m_connection,
-        xcb_get_keyboard_mapping(m_connection, setup->min_keycode, static_cast<std::uint8_t>(count)), nullptr));
+    const auto reply = owned(xcb_get_keyboard_mapping_reply(
+        m_connection, xcb_get_keyboard_mapping(m_connection, setup->min_keycode, static_cast<std::uint8_t>(count)),
+        nullptr));
     if (reply) {
         const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
         // The first symbol of each key is the one without Shift.

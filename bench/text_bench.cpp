@@ -5,12 +5,12 @@
 #include "files/privateprofile.h"
 #include "files/textfile.h"
 #include "files/textlines.h"
-#include "syntax/foldlevels.h"
-#include "syntax/languageregistry.h"
-#include "syntax/syntaxengine.h"
 #include "panes/customtabfile.h"
 #include "panes/outline.h"
 #include "panes/sottree.h"
+#include "syntax/foldlevels.h"
+#include "syntax/languageregistry.h"
+#include "syntax/syntaxengine.h"
 #include "tags/tagfile.h"
 #include "tools/sourceformatter.h"
 
@@ -49,8 +49,12 @@ QString tablesOf(const QString &page)
 /// One input in the forms that the functions take.
 struct Input {
     explicit Input(const QByteArray &page)
-        : utf8(page), lf(QByteArray(page).replace("\r\n", "\n")), text(QString::fromUtf8(page)), tables(tablesOf(text)),
-          windows1252(QByteArray(page).replace("\xc3\xbc", "\xfc")), styles(static_cast<std::size_t>(page.size()))
+        : utf8(page)
+        , lf(QByteArray(page).replace("\r\n", "\n"))
+        , text(QString::fromUtf8(page))
+        , tables(tablesOf(text))
+        , windows1252(QByteArray(page).replace("\xc3\xbc", "\xfc"))
+        , styles(static_cast<std::size_t>(page.size()))
     {
         // A profile with as many lines as its size allows, in sections of a hundred.
         for (int line = 0; profile.size() < page.size(); ++line)
@@ -121,7 +125,9 @@ const TextFunction functions[] = {
     {"decodeText Windows-1252", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.windows1252)); }},
     {"encodeText UTF-8", [](Input &input) { benchmark::DoNotOptimize(encodeText(input.utf8, {})); }},
     {"encodeText UTF-16",
-     [](Input &input) { benchmark::DoNotOptimize(encodeText(input.utf8, {Encoding::Utf16LE, true, LineEnds::CrLf})); }},
+     [](Input &input) {
+         benchmark::DoNotOptimize(encodeText(input.utf8, {Encoding::Utf16LE, true, LineEnds::CrLf}));
+     }},
     {"lineEndsOf", [](Input &input) { benchmark::DoNotOptimize(lineEndsOf(input.utf8)); }},
     {"toLineEnds", [](Input &input) { benchmark::DoNotOptimize(toLineEnds(input.lf, LineEnds::CrLf)); }},
     {"toCrLf", [](Input &input) { benchmark::DoNotOptimize(toCrLf(input.text)); }},
@@ -175,14 +181,17 @@ int main(int argc, char **argv)
     }
     for (const TextFunction &function : functions) {
         for (const auto &[suffix, input] : {std::pair("/small", &inputs[0]), std::pair("/large", &inputs[1])}) {
-            benchmark::RegisterBenchmark((std::string(function.name) + suffix).c_str(), [&function, input](benchmark::State &state) {
-                for (auto _ : state) {
-                    state.PauseTiming();
-                    emptyCaches();
-                    state.ResumeTiming();
-                    function.run(*input);
-                }
-            })->Unit(benchmark::kMillisecond)->Iterations(5);
+            benchmark::RegisterBenchmark((std::string(function.name) + suffix).c_str(),
+                                         [&function, input](benchmark::State &state) {
+                                             for (auto _ : state) {
+                                                 state.PauseTiming();
+                                                 emptyCaches();
+                                                 state.ResumeTiming();
+                                                 function.run(*input);
+                                             }
+                                         })
+                ->Unit(benchmark::kMillisecond)
+                ->Iterations(5);
         }
     }
     benchmark::RunSpecifiedBenchmarks();

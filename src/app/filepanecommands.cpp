@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/filepanecommands.h"
 
-#include "document/commondialog.h"
-#include "document/document.h"
 #include "commands/menus.h"
-#include "core/errorstyles.h"
 #include "core/configuration.h"
+#include "core/errorstyles.h"
 #include "core/inserter.h"
 #include "core/prompts.h"
 #include "core/relativepath.h"
+#include "document/commondialog.h"
+#include "document/document.h"
 #include "panes/filepane.h"
 #include "panes/sidetabbar.h"
 
@@ -87,21 +87,22 @@ void FilePaneCommands::insertLink()
         return;
     // Without a project path there is nothing from which a link could be counted.
     tellingErrors(m_context.prompts, u"frmmain"_s, u"mnuinslink_Click"_s, {[&] {
-        const QString path = withSeparator(m_parts.pane.fileList().path()) + name;
-        const QString link = MakeRelativePath(m_parts.pane.projectPath(), path);
-        m_context.inserter.InsertAtCaret(u"<a href=\""_s + link + u"\">"_s + name + u"</a>"_s);
-    }});
+                      const QString path = withSeparator(m_parts.pane.fileList().path()) + name;
+                      const QString link = MakeRelativePath(m_parts.pane.projectPath(), path);
+                      m_context.inserter.InsertAtCaret(u"<a href=\""_s + link + u"\">"_s + name + u"</a>"_s);
+                  }});
 }
 
 void FilePaneCommands::editFilters()
 {
     const QString key = QStringView(filtersName).toString();
     Configuration &configuration = m_context.configuration;
-    QString filters = m_context.prompts
-                          .input({u"Please enter the extensions of the files you want to show, *.* indicates all, use ; to "
-                                  "seperate extensions, type RESET (all caps) to reset filters to Application Defaults"_s,
-                                  key, configuration.value(key, key)})
-                          .value_or(QString());
+    QString filters =
+        m_context.prompts
+            .input({u"Please enter the extensions of the files you want to show, *.* indicates all, use ; to "
+                    "seperate extensions, type RESET (all caps) to reset filters to Application Defaults"_s,
+                    key, configuration.value(key, key)})
+            .value_or(QString());
     if (filters.isEmpty())
         return;
     if (filters == u"RESET"_s)

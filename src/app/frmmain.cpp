@@ -1,27 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/frmmain.h"
 
-#include "commands/commandrouter.h"
-#include "commands/designerbar.h"
 #include "app/documenttree.h"
 #include "app/filepanecommands.h"
-#include "commands/icons.h"
-#include "document/languages.h"
-#include "commands/menus.h"
-#include "commands/palette.h"
-#include "document/recoverykeeper.h"
 #include "app/sidelists.h"
 #include "app/statuspanels.h"
-#include "commands/toolbars.h"
-#include "commands/toolbartable.h"
-#include "commands/variablebox.h"
 #include "app/viewswitch.h"
 #include "app/visualtools.h"
 #include "app/windowtabs.h"
-#include "desktop/keyboardlocks.h"
+#include "commands/commandrouter.h"
+#include "commands/designerbar.h"
+#include "commands/icons.h"
+#include "commands/menus.h"
+#include "commands/palette.h"
+#include "commands/toolbars.h"
+#include "commands/toolbartable.h"
+#include "commands/variablebox.h"
 #include "core/inserttext.h"
-#include "desktop/modalformopener.h"
 #include "core/quickviewer.h"
+#include "desktop/keyboardlocks.h"
+#include "desktop/modalformopener.h"
+#include "document/languages.h"
+#include "document/recoverykeeper.h"
 #include "editor/codemax.h"
 #include "panes/droppedfile.h"
 #include "panes/filepane.h"
@@ -150,9 +150,9 @@ void frmmain::buildWorkspace()
 {
     addTabs(*m_ui->workspace, workspaceTabs());
     m_ui->views->addWidget(m_rt);
-    m_viewSwitch = new ViewSwitch(*m_context,
-                                  {*m_document, *this, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
-                                  m_services.webViews, this);
+    m_viewSwitch = new ViewSwitch(
+        *m_context, {*m_document, *this, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
+        m_services.webViews, this);
     m_visualTools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
     connect(m_visualTools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
     connect(m_visualTools, &VisualTools::displayChanged, m_recoveryKeeper.get(), &RecoveryKeeper::textChanged);
@@ -177,7 +177,8 @@ void frmmain::connectCommands()
     connect(m_languages, &QComboBox::activated, this, &frmmain::languageChanged);
     connect(m_menus, &Menus::triggered, this, [this](const QString &name) { m_router->menu(name); });
     connect(m_standardBar, &CommandToolBar::buttonClicked, this, [this](const QString &key) { m_router->tBar(key); });
-    connect(m_formattingBar, &CommandToolBar::buttonClicked, this, [this](const QString &key) { m_router->toolbar1(key); });
+    connect(m_formattingBar, &CommandToolBar::buttonClicked, this,
+            [this](const QString &key) { m_router->toolbar1(key); });
     connect(m_formattingBar, &CommandToolBar::pullDownClicked, this,
             [this](const QString &key) { m_router->pullDown(key); });
     connect(m_palette, &Palette::clicked, this,

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "app/colourtable.h"
-#include "document/commondialog.h"
-#include "document/document.h"
-#include "document/documentwindow.h"
-#include "commands/windowcommands.h"
 #include "app/windowservices.h"
+#include "commands/windowcommands.h"
 #include "core/appcontext.h"
 #include "core/documenthost.h"
 #include "core/editingcontrol.h"
+#include "document/commondialog.h"
+#include "document/document.h"
+#include "document/documentwindow.h"
 #include "views/lateviews.h"
 
 #include <QMainWindow>

@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/loadhandler.h"
 
-#include "commands/designerbar.h"
 #include "app/frmmain.h"
 #include "app/sidelists.h"
 #include "app/startdecision.h"
 #include "app/statuspanels.h"
-#include "core/errorstyles.h"
+#include "commands/designerbar.h"
 #include "core/configuration.h"
+#include "core/errorstyles.h"
+#include "core/settingsnames.h"
 #include "core/usersettings.h"
 #include "desktop/formposition.h"
 #include "editor/codemax.h"
 #include "editor/codemaxglobals.h"
-#include "core/settingsnames.h"
-#include "syntax/languageregistry.h"
 #include "panes/asptagtree.h"
 #include "panes/filepane.h"
 #include "panes/scriptlibrary.h"
 #include "panes/selectorlist.h"
+#include "syntax/languageregistry.h"
 #include "tags/tagtree.h"
 
 #include <QCoreApplication>

@@ -4,22 +4,22 @@
 #include "app/comingforms.h"
 #include "app/failedstart.h"
 #include "app/frmmain.h"
+#include "app/startprocedure.h"
 #include "commands/icons.h"
 #include "commands/iconstates.h"
-#include "app/startprocedure.h"
-#include "files/appfolder.h"
 #include "core/clock.h"
+#include "core/errorstyles.h"
+#include "core/formcatalogue.h"
 #include "desktop/desktopclipboard.h"
 #include "desktop/desktopprompts.h"
 #include "desktop/desktopshell.h"
 #include "desktop/module.h"
-#include "core/errorstyles.h"
-#include "files/iniconfiguration.h"
-#include "files/diskfilestore.h"
-#include "files/recoverycopies.h"
-#include "files/desktopusersettings.h"
-#include "core/formcatalogue.h"
 #include "editor/codemax.h"
+#include "files/appfolder.h"
+#include "files/desktopusersettings.h"
+#include "files/diskfilestore.h"
+#include "files/iniconfiguration.h"
+#include "files/recoverycopies.h"
 #include "ftp/ftpclient.h"
 #include "ftp/net/netoperations.h"
 #include "ftp/registerforms.h"
@@ -97,11 +97,14 @@ int runProgram(QApplication &application, const QString &argument)
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);
-    views::registerForms(catalogue, [&](QWidget *parent) -> EditorView {
-        auto *viewer = new CodeMax({files, recovery, prompts}, parent);
-        viewer->setReadOnly(true);
-        return {viewer, viewer};
-    }, [] { return loadModuleAs<PageFetcher>(modulePath(u"zephirafetch.so"_s)); });
+    views::registerForms(
+        catalogue,
+        [&](QWidget *parent) -> EditorView {
+            auto *viewer = new CodeMax({files, recovery, prompts}, parent);
+            viewer->setReadOnly(true);
+            return {viewer, viewer};
+        },
+        [] { return loadModuleAs<PageFetcher>(modulePath(u"zephirafetch.so"_s)); });
 
     bool ended = false;
     frmmain window({.files = files,
@@ -117,10 +120,11 @@ int runProgram(QApplication &application, const QString &argument)
                     .appPath = appPath.value(),
                     .iniFile = iniFile,
                     .executable = QCoreApplication::applicationFilePath(),
-                    .endProcess = [&ended] {
-                        ended = true;
-                        QCoreApplication::exit(EXIT_SUCCESS);
-                    }});
+                    .endProcess =
+                        [&ended] {
+                            ended = true;
+                            QCoreApplication::exit(EXIT_SUCCESS);
+                        }});
     try {
         runStartProcedure(window, argument);
     } catch (const HandlerError &error) {

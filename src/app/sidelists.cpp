@@ -18,8 +18,10 @@ using namespace Qt::StringLiterals;
 namespace zephira {
 
 SideLists::SideLists(const AppContext &context, const Menus &menus, SidePane &pane)
-    : m_fileNumber(context.files), m_tags(new TagTree(context)), m_aspTags(new AspTagTree(context)),
-      m_scripts(new ScriptLibrary(context))
+    : m_fileNumber(context.files)
+    , m_tags(new TagTree(context))
+    , m_aspTags(new AspTagTree(context))
+    , m_scripts(new ScriptLibrary(context))
 {
     pane.setPage(u"html"_s, m_tags);
     pane.setPage(u"asp"_s, m_aspTags);

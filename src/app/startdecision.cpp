@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startdecision.h"
 
-#include "core/errorstyles.h"
 #include "core/configuration.h"
+#include "core/errorstyles.h"
 #include "core/vbtext.h"
 
 using namespace Qt::StringLiterals;
@@ -35,7 +35,8 @@ int requiredNumber(const Configuration &configuration, const QString &section, c
         return CLng(text);
     } catch (const HandlerError &) {
         const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
-        throw HandlerError{u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(key, section, file, problem)};
+        throw HandlerError{
+            u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(key, section, file, problem)};
     }
 }
 

@@ -16,10 +16,10 @@ StartArgument startArgument(const QString &argument);
 
 /// What appears once the window shows, in order.
 enum class StartAction {
-    ShowStartDialog,       ///< frmselprj, modal over the main window
-    ShowTip,               ///< frmTip, modal over the main window
+    ShowStartDialog,        ///< frmselprj, modal over the main window
+    ShowTip,                ///< frmTip, modal over the main window
     ShowTipOverStartDialog, ///< frmTip, modal over the loaded but hidden frmselprj
-    CheckViewTip,          ///< checks the menu entry of the tips
+    CheckViewTip,           ///< checks the menu entry of the tips
 };
 
 /// @param showTips  the setting as a number; only 1 shows tips

@@ -4,11 +4,11 @@
 #include "app/frmmain.h"
 #include "app/loadhandler.h"
 #include "app/startdecision.h"
-#include "files/appfolder.h"
 #include "core/configuration.h"
+#include "core/settingsnames.h"
 #include "core/usersettings.h"
 #include "desktop/modalformopener.h"
-#include "core/settingsnames.h"
+#include "files/appfolder.h"
 
 using namespace Qt::StringLiterals;
 

@@ -14,8 +14,8 @@ namespace zephira {
 namespace {
 
 struct PanelRow {
-    const char16_t *text;       ///< shown until there is a value
-    const char16_t *name;       ///< for assistive technology
+    const char16_t *text; ///< shown until there is a value
+    const char16_t *name; ///< for assistive technology
     int stretch = 0;
     const char16_t *widest = u""; ///< keeps the panel's place while its value changes
 };
@@ -49,7 +49,8 @@ StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar),
         if (row.widest[0])
             label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringView(row.widest).toString()) + 4);
         if (row.stretch)
-            label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // A long path is cut, never the window widened.
+            label->setSizePolicy(QSizePolicy::Ignored,
+                                 QSizePolicy::Preferred); // A long path is cut, never the window widened.
         bar.addWidget(label, row.stretch);
         m_panels[i] = label;
     }

@@ -2,12 +2,12 @@
 #include "app/viewswitch.h"
 
 #include "commands/designerbar.h"
-#include "document/document.h"
 #include "commands/menus.h"
 #include "commands/menutable.h"
-#include "files/appfolder.h"
 #include "core/errorstyles.h"
 #include "core/prompts.h"
+#include "document/document.h"
+#include "files/appfolder.h"
 #include "views/previewpane.h"
 
 #include <QEvent>

@@ -2,8 +2,8 @@
 #include "commands/browserpreview.h"
 
 #include "commands/windowcommands.h"
-#include "core/documenthost.h"
 #include "core/configuration.h"
+#include "core/documenthost.h"
 #include "core/filestore.h"
 #include "core/prompts.h"
 #include "core/shell.h"
@@ -26,9 +26,12 @@ std::optional<QString> browserPath(const AppContext &context)
     if (context.files.FileExists(path))
         return path;
 
-    const QString answer = context.prompts.input({
-        u"The default path to Internet Explorer was not found, please enter the path to Internet Explorer"_s,
-        u"Internet Explorer Path"_s, path}).value_or(QString());
+    const QString answer =
+        context.prompts
+            .input(
+                {u"The default path to Internet Explorer was not found, please enter the path to Internet Explorer"_s,
+                 u"Internet Explorer Path"_s, path})
+            .value_or(QString());
     if (!context.files.FileExists(answer)) {
         context.prompts.ask({u"Sorry, the new path was not found, Zephira will now exit this function..."_s});
         return std::nullopt;
@@ -49,7 +52,8 @@ void previewInNamedBrowser(const AppContext &context, WindowCommands &window)
     const std::optional<QString> browser = browserPath(context);
     if (!browser)
         return;
-    if (!mayShow(context.prompts, u"You must save your document to preview in Internet Explorer, would you like to save now?"_s))
+    if (!mayShow(context.prompts,
+                 u"You must save your document to preview in Internet Explorer, would you like to save now?"_s))
         return;
     window.saveDocument();
     // The document's path goes over as it would on a command line without quotes: blanks divide it.

@@ -8,14 +8,14 @@
 #include "commands/toolbartable.h"
 #include "commands/windowcommands.h"
 #include "core/clock.h"
+#include "core/configuration.h"
 #include "core/designer.h"
 #include "core/editingcontrol.h"
-#include "core/configuration.h"
 #include "core/filestore.h"
-#include "core/usersettings.h"
 #include "core/formopener.h"
 #include "core/prompts.h"
 #include "core/settingsnames.h"
+#include "core/usersettings.h"
 
 #include <QLocale>
 #include <QStringBuilder>
@@ -112,12 +112,8 @@ struct CommandRouter::OwnCommand {
 };
 
 CommandRouter::CommandRouter(const AppContext &context, WindowCommands &window)
-    : m_context(context)
-    , m_window(window)
-    , m_palette(context, window)
-    , m_formatting(context)
-{
-}
+    : m_context(context), m_window(window), m_palette(context, window), m_formatting(context)
+{}
 
 void CommandRouter::menu(const QString &name)
 {
@@ -263,10 +259,8 @@ void CommandRouter::pullDown(const QString &key)
     if (!entry || isRefused(Refusal::CodeView, m_context.designer, m_context.prompts))
         return;
     static constexpr OwnCommand ownCommands[] = {
-        {u"dtw", &CommandRouter::openTagEditor},
-        {u"dqw", &CommandRouter::showQuickTags},
-        {u"pie", &CommandRouter::previewInNamedBrowser},
-        {u"pidb", &CommandRouter::previewInDefaultBrowser},
+        {u"dtw", &CommandRouter::openTagEditor},         {u"dqw", &CommandRouter::showQuickTags},
+        {u"pie", &CommandRouter::previewInNamedBrowser}, {u"pidb", &CommandRouter::previewInDefaultBrowser},
         {u"picb", &CommandRouter::showPreview},
     };
     if (const OwnCommand *own = rowOf(ownCommands, key))

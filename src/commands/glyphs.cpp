@@ -19,8 +19,7 @@ constexpr qreal gridSize = 22;
 class Sketch
 {
 public:
-    Sketch(QPainter &painter, QIcon::Mode mode)
-        : m_painter(painter)
+    Sketch(QPainter &painter, QIcon::Mode mode) : m_painter(painter)
     {
         const QPalette palette = QGuiApplication::palette();
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
@@ -56,7 +55,10 @@ public:
     {
         m_painter.drawArc(QRectF(x, y, width, height), from * 16, span * 16);
     }
-    void fill(qreal x, qreal y, qreal width, qreal height) { m_painter.fillRect(QRectF(x, y, width, height), m_accent); }
+    void fill(qreal x, qreal y, qreal width, qreal height)
+    {
+        m_painter.fillRect(QRectF(x, y, width, height), m_accent);
+    }
     void fillPolygon(std::initializer_list<QPointF> points)
     {
         m_painter.save();
@@ -101,29 +103,35 @@ struct Shape {
     void (*draw)(Sketch &);
 };
 
+// clang-format off: a row a line
 constexpr Shape shapes[] = {
-    {u"alert", [](Sketch &s) {
+    {u"alert",
+     [](Sketch &s) {
          s.path({{11, 3.5}, {19, 18.5}, {3, 18.5}, {11, 3.5}, {12, 5.5}});
          s.accentuate();
          s.line(11, 8.5, 11, 13.5);
          s.line(11, 15, 11, 16.5);
      }},
-    {u"anchor", [](Sketch &s) {
+    {u"anchor",
+     [](Sketch &s) {
          s.circle(11, 5.5, 2);
          s.line(11, 7.5, 11, 18);
          s.line(7, 9.5, 15, 9.5);
          s.arc(4.5, 6, 13, 12.5, 190, 160);
      }},
-    {u"button", [](Sketch &s) {
+    {u"button",
+     [](Sketch &s) {
          s.box(2, 6, 18, 10, 2);
          s.fill(6, 10, 10, 2);
      }},
-    {u"checkbox", [](Sketch &s) {
+    {u"checkbox",
+     [](Sketch &s) {
          s.box(4, 4, 14, 14);
          s.accentuate();
          s.path({{7, 11}, {10, 14}, {15, 7.5}});
      }},
-    {u"combo", [](Sketch &s) {
+    {u"combo",
+     [](Sketch &s) {
          s.box(2, 6, 18, 10);
          s.line(13.5, 6, 13.5, 16);
          s.fillPolygon({{15, 10}, {19, 10}, {17, 12.5}});
@@ -135,23 +143,27 @@ constexpr Shape shapes[] = {
     {u"custom4", [](Sketch &s) { s.numberedPage(4); }},
     {u"custom5", [](Sketch &s) { s.numberedPage(5); }},
     {u"custom6", [](Sketch &s) { s.numberedPage(6); }},
-    {u"form", [](Sketch &s) {
+    {u"form",
+     [](Sketch &s) {
          s.box(3, 3, 16, 16);
          s.box(6, 6, 10, 3);
          s.box(6, 11, 10, 3);
          s.fill(11, 16, 5, 1);
      }},
-    {u"frame", [](Sketch &s) {
+    {u"frame",
+     [](Sketch &s) {
          s.box(3, 4, 16, 14);
          s.fill(4, 5, 14, 3);
      }},
-    {u"frameset", [](Sketch &s) {
+    {u"frameset",
+     [](Sketch &s) {
          s.box(3, 4, 16, 14);
          s.fill(4, 5, 4, 12);
          s.line(8.5, 4, 8.5, 18);
          s.line(8.5, 10.5, 19, 10.5);
      }},
-    {u"grid", [](Sketch &s) {
+    {u"grid",
+     [](Sketch &s) {
          s.box(3, 4, 16, 14);
          s.fill(4, 5, 14, 3);
          s.line(3, 8.5, 19, 8.5);
@@ -160,69 +172,82 @@ constexpr Shape shapes[] = {
          s.line(13.5, 4, 13.5, 18);
      }},
     {u"hidden", [](Sketch &s) { s.dashedBox(2, 6, 18, 10); }},
-    {u"iframe", [](Sketch &s) {
+    {u"iframe",
+     [](Sketch &s) {
          s.box(3, 4, 16, 14);
          s.fill(7, 8, 8, 6);
      }},
-    {u"imagemap", [](Sketch &s) {
+    {u"imagemap",
+     [](Sketch &s) {
          s.box(3, 4, 16, 14);
          s.fillPolygon({{6, 14}, {8, 8}, {13, 7}, {16, 11}, {12, 15}});
      }},
-    {u"layer", [](Sketch &s) {
+    {u"layer",
+     [](Sketch &s) {
          s.fill(9, 9, 10, 10);
          s.box(3, 3, 11, 11);
      }},
-    {u"listbox", [](Sketch &s) {
+    {u"listbox",
+     [](Sketch &s) {
          s.box(3, 3, 16, 16);
          s.line(6, 6.5, 16, 6.5);
          s.fill(4, 9, 14, 4);
          s.line(6, 15.5, 16, 15.5);
      }},
-    {u"noframe", [](Sketch &s) {
+    {u"noframe",
+     [](Sketch &s) {
          s.box(3, 4, 16, 14);
          s.accentuate();
          s.line(6, 14.5, 16, 7.5);
          s.line(6, 7.5, 16, 14.5);
      }},
-    {u"noscript", [](Sketch &s) {
+    {u"noscript",
+     [](Sketch &s) {
          s.path({{7, 6}, {3, 11}, {7, 16}});
          s.path({{15, 6}, {19, 11}, {15, 16}});
          s.accentuate();
          s.line(7.5, 17.5, 14.5, 4.5);
          s.line(7.5, 4.5, 14.5, 17.5);
      }},
-    {u"password", [](Sketch &s) {
+    {u"password",
+     [](Sketch &s) {
          s.box(2, 6, 18, 10);
          s.dot(6.5, 11, 1.5);
          s.dot(11, 11, 1.5);
          s.dot(15.5, 11, 1.5);
      }},
-    {u"radio", [](Sketch &s) {
+    {u"radio",
+     [](Sketch &s) {
          s.circle(11, 11, 7);
          s.dot(11, 11, 3);
      }},
-    {u"return", [](Sketch &s) {
+    {u"return",
+     [](Sketch &s) {
          s.path({{17.5, 5}, {17.5, 12.5}, {5, 12.5}});
          s.path({{8.5, 9}, {5, 12.5}, {8.5, 16}});
      }},
-    {u"tags", [](Sketch &s) {
+    {u"tags",
+     [](Sketch &s) {
          s.path({{7, 6}, {3, 11}, {7, 16}});
          s.path({{15, 6}, {19, 11}, {15, 16}});
          s.accentuate();
          s.line(9, 17, 13, 5);
      }},
-    {u"textarea", [](Sketch &s) {
+    {u"textarea",
+     [](Sketch &s) {
          s.box(3, 3, 16, 16);
          s.line(6, 7.5, 16, 7.5);
          s.line(6, 10.5, 13, 10.5);
          s.fillPolygon({{18, 13}, {18, 18}, {13, 18}});
      }},
-    {u"textfield", [](Sketch &s) {
+    {u"textfield",
+     [](Sketch &s) {
          s.box(2, 6, 18, 10);
          s.accentuate();
          s.line(6, 8.5, 6, 13.5);
      }},
 };
+// clang-format on
 
 /// Draws at whatever size is asked for, in the colours of the moment.
 class ShapeEngine final : public QIconEngine

@@ -28,8 +28,7 @@ void setCommandIcon(QAction *action, QStringView icon)
         action->setIcon(iconFor(icon));
 }
 
-IconTheme::IconTheme(QGuiApplication &application)
-    : QObject(&application)
+IconTheme::IconTheme(QGuiApplication &application) : QObject(&application)
 {
     QStringList folders = QIcon::themeSearchPaths();
     for (const QString &folder :

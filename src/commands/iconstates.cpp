@@ -20,7 +20,9 @@ constexpr qreal visibleContrast = 1.6;
 /// The relative luminance of a colour, 0 to 1, by the definition of sRGB.
 qreal luminance(const QColor &colour)
 {
-    const auto linear = [](qreal part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+    const auto linear = [](qreal part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
@@ -78,7 +80,8 @@ QPixmap IconStates::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
     case QIcon::Disabled:
         return faint(pixmap);
     case QIcon::Selected: {
-        const bool isVisible = contrast(meanColour(pixmap), option->palette.color(QPalette::Highlight)) >= visibleContrast;
+        const bool isVisible =
+            contrast(meanColour(pixmap), option->palette.color(QPalette::Highlight)) >= visibleContrast;
         return isVisible ? pixmap : inColour(pixmap, option->palette.color(QPalette::HighlightedText));
     }
     default:

@@ -44,8 +44,7 @@ QString tagStatusTip(const QuickTag &tag)
 
 } // namespace
 
-Menus::Menus(QMenuBar *bar, QObject *owner)
-    : QObject(owner)
+Menus::Menus(QMenuBar *bar, QObject *owner) : QObject(owner)
 {
     for (const MenuItem &item : menuBarTable()) {
         if (item.kind == MenuItem::Kind::Bar) {

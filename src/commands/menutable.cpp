@@ -42,7 +42,10 @@ constexpr MenuItem fileItems[] = {
     divider(),
     {u"save", u"&Save Document", u"Ctrl+S", u"document-save", u"Save the document"},
     {u"saveas", u"Save Document &As", {}, u"document-save-as", u"Save the document under another name"},
-    {u"mnusavetemplate", u"Save Document as &Template", {}, u"document-save-as-template",
+    {u"mnusavetemplate",
+     u"Save Document as &Template",
+     {},
+     u"document-save-as-template",
      u"Keep the document as a template for new ones"},
     divider(),
     {u"print", u"&Print", u"Ctrl+P", u"document-print", u"Print the document"},
@@ -170,21 +173,17 @@ constexpr MenuItem positionItems[] = {
 };
 
 // The menu Tags has a table of its own, tagsmenu.h.
+// clang-format off: a row a line
 constexpr MenuItem bar[] = {
-    menu(u"mnufile", u"&File", fileItems),
-    menu(u"edit", u"&Edit", editItems),
-    menu(u"tools", u"&Tools", toolItems),
-    menu(u"options", u"&Options", optionItems),
-    menu(u"Tags", u"&Fast Web Tags", {}),
-    menu(u"mnuplugins", u"Plugins", pluginItems),
-    menu(u"help", u"&Help", helpItems),
-    {u"mnusep", u"|", {}, {}, {}, {}, Kind::Bar},
-    menu(u"View", u"&View", viewItems),
-    menu(u"Insert", u"&Insert", insertItems),
-    menu(u"Format", u"F&ormat", formatItems),
-    menu(u"Table", u"T&able", tableItems),
+    menu(u"mnufile", u"&File", fileItems),    menu(u"edit", u"&Edit", editItems),
+    menu(u"tools", u"&Tools", toolItems),     menu(u"options", u"&Options", optionItems),
+    menu(u"Tags", u"&Fast Web Tags", {}),     menu(u"mnuplugins", u"Plugins", pluginItems),
+    menu(u"help", u"&Help", helpItems),       {u"mnusep", u"|", {}, {}, {}, {}, Kind::Bar},
+    menu(u"View", u"&View", viewItems),       menu(u"Insert", u"&Insert", insertItems),
+    menu(u"Format", u"F&ormat", formatItems), menu(u"Table", u"T&able", tableItems),
     menu(u"d2d", u"&2D", positionItems),
 };
+// clang-format on
 
 constexpr MenuItem fileListItems[] = {
     {u"mnuqv", u"QuickView", {}, u"quickview", u"Show the file without opening it"},

@@ -30,8 +30,7 @@ class PaletteBar : public QToolBar
 {
 public:
     PaletteBar(const PaletteToolbar &table, QWidget *parent)
-        : QToolBar(table.caption.toString(), parent)
-        , m_table(table)
+        : QToolBar(table.caption.toString(), parent), m_table(table)
     {
         setIconSize({22, 22});
         setMovable(false);
@@ -87,9 +86,7 @@ private:
     bool m_isBuilt = false;
 };
 
-Palette::Palette(QWidget *parent)
-    : QWidget(parent)
-    , m_tabs(new QTabBar(this))
+Palette::Palette(QWidget *parent) : QWidget(parent), m_tabs(new QTabBar(this))
 {
     m_tabs->setObjectName(u"toolpane"_s);
     m_tabs->setAccessibleName(u"Tool palette"_s);
@@ -136,9 +133,8 @@ void Palette::fill(int index)
         if (tag.kind == TagKind::Headings)
             addHeadings(action);
         else
-            connect(action, &QAction::triggered, this, [this, index, key = tag.key, position] {
-                emit clicked(index, key.toString(), position);
-            });
+            connect(action, &QAction::triggered, this,
+                    [this, index, key = tag.key, position] { emit clicked(index, key.toString(), position); });
     }
 }
 

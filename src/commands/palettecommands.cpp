@@ -55,8 +55,7 @@ void PaletteCommands::click(int toolbar, const QString &key, int position)
     }
     if (const Handler handler = handlerOf(*tag)) {
         // One statement: in every handler it is the last step that can fail, so that nothing is left to go on with.
-        tellingErrors(m_context.prompts, u"frmmain"_s, u"ToolBar_ButtonClick"_s,
-                      {[&] { (this->*handler)(*tag); }});
+        tellingErrors(m_context.prompts, u"frmmain"_s, u"ToolBar_ButtonClick"_s, {[&] { (this->*handler)(*tag); }});
     }
 }
 
@@ -82,8 +81,7 @@ void PaletteCommands::wrapDocument(const QuickTag &)
 
 void PaletteCommands::insertTitle(const QuickTag &)
 {
-    const std::optional<QString> title =
-        m_context.prompts.input({u"What do you wish the title to be?"_s, u"Title"_s});
+    const std::optional<QString> title = m_context.prompts.input({u"What do you wish the title to be?"_s, u"Title"_s});
     if (!title || title->isEmpty())
         return;
     const QString text = m_context.editor.text();
@@ -103,8 +101,8 @@ void PaletteCommands::insertMailLink(const QuickTag &)
 
 void PaletteCommands::insertSound(const QuickTag &)
 {
-    const std::optional<QString> path = m_context.prompts.input(
-        {u"What is the relative path to your sound file?"_s, u"Path"_s, u"<fill in later>"_s});
+    const std::optional<QString> path =
+        m_context.prompts.input({u"What is the relative path to your sound file?"_s, u"Path"_s, u"<fill in later>"_s});
     if (path && !path->isEmpty())
         m_context.inserter.InsertAtCaret(soundText(*path));
 }

@@ -95,8 +95,7 @@ constexpr QuickTag tables[] = {
 };
 
 constexpr QuickTag style[] = {
-    behind(u"styleblock", u":{ }", u"Insert Style Block",
-           u"<style type=\"text/css\">\r\n<!-- \r\n\r\n-->\r\n</style>"),
+    behind(u"styleblock", u":{ }", u"Insert Style Block", u"<style type=\"text/css\">\r\n<!-- \r\n\r\n-->\r\n</style>"),
     special(u"selector", u":.name", u"Insert Style Selector", TagKind::Selector, Refusal::WysiwygMode),
     special(u"prop", u":a: b", u"Insert Style Property", TagKind::Property),
     special(u"topstyle", u"document-edit", u"Edit in TopStyle", TagKind::Missing, Refusal::WysiwygMode),
@@ -146,12 +145,12 @@ constexpr QuickTag forms[] = {
 constexpr QuickTag scripts[] = {
     behind({}, u":applet", u"Java Applet",
            uR"(<applet code="code name" codebase="code base" name="name" alt="alt text" width="" height="">)"),
-    behind({}, u"dialog-scripts", u"Define Javascript",
-           uR"~(<script language="VBScript / LiveScript / Javascript / PHP / tcl" src="source" type="text/(language)">)~"
-           "\r\n<!--\r\n\r\n//-->\r\n</script>"),
+    behind(
+        {}, u"dialog-scripts", u"Define Javascript",
+        uR"~(<script language="VBScript / LiveScript / Javascript / PHP / tcl" src="source" type="text/(language)">)~"
+        "\r\n<!--\r\n\r\n//-->\r\n</script>"),
     wrap({}, u"#noscript", u"No Script", u"<noscript>", u"</noscript>"),
-    behind({}, u"#alert", u"Alert Dialog",
-           u"<script language=\"javascript\">\r\n    alert(\"warning\");\r\n</script>"),
+    behind({}, u"#alert", u"Alert Dialog", u"<script language=\"javascript\">\r\n    alert(\"warning\");\r\n</script>"),
     behind({}, u"question", u"Confirmation Dialog",
            u"<script language=\"javascript\">\r\n    confirm(\"are you sure?\");\r\n</script>"),
     behind({}, u":write()", u"Document.Write", u"document.write(\"\")"),
@@ -176,8 +175,9 @@ constexpr QuickTag scripts[] = {
            "type=\"application/x-director\"width=\"32\"height=\"32\">\r\n"
            "    </embed>\r\n"
            "</object>"),
-    behind({}, u"#layer", u"Insert DHTML Layer",
-           uR"(<div id="layer1" style="position:absolute; left:?px; top:?px; width:?px; height:?px; z-index:1"></div>)"),
+    behind(
+        {}, u"#layer", u"Insert DHTML Layer",
+        uR"(<div id="layer1" style="position:absolute; left:?px; top:?px; width:?px; height:?px; z-index:1"></div>)"),
 };
 
 constexpr QuickTag cfml[] = {
@@ -232,10 +232,9 @@ constexpr QuickTag ssi[] = {
 };
 
 constexpr PaletteToolbar toolbars[] = {
-    {u"Tools", tools, true},   {u"Common", common, true}, {u"Text", text, true},
-    {u"Tables", tables, true}, {u"Style", style, true},   {u"Frames", frames, true},
-    {u"Lists", lists},         {u"Forms", forms},         {u"Scripts", scripts},
-    {u"CFML", cfml},           {u"ASP", asp},             {u"SSI", ssi},
+    {u"Tools", tools, true}, {u"Common", common, true}, {u"Text", text, true}, {u"Tables", tables, true},
+    {u"Style", style, true}, {u"Frames", frames, true}, {u"Lists", lists},     {u"Forms", forms},
+    {u"Scripts", scripts},   {u"CFML", cfml},           {u"ASP", asp},         {u"SSI", ssi},
 };
 
 } // namespace

@@ -21,11 +21,11 @@ enum class TagKind {
     Tidy,          ///< a note, then the form named in `before`
     Spelling,
     Help,
-    Headings,      ///< a pull-down of the six heading sizes
-    Selector,      ///< shows and hides the list of style selectors
-    Property,      ///< a note, then the first custom tab
-    TagEditor,     ///< the tag editor on the page whose number is `before`
-    Missing,       ///< needs a program that this system doesn't have
+    Headings,  ///< a pull-down of the six heading sizes
+    Selector,  ///< shows and hides the list of style selectors
+    Property,  ///< a note, then the first custom tab
+    TagEditor, ///< the tag editor on the page whose number is `before`
+    Missing,   ///< needs a program that this system doesn't have
 };
 
 /// One row of the palette or of the tag menu.

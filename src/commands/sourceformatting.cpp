@@ -35,17 +35,17 @@ void SourceFormatting::simple()
 void SourceFormatting::hierarchical()
 {
     tellingErrors(m_prompts, u"frmmain"_s, u"mnuformath_Click"_s, {[this] {
-        unsigned pieces = 0;
-        const std::weak_ptr<Window> window = m_window;
-        const QString formatted = Hierarchical(m_editor.text(), [&] {
-            if (pieces++ % piecesBetweenPauses == 0)
-                QCoreApplication::processEvents();
-            return !window.expired();
-        });
-        // Without the window this object may be gone, too.
-        if (!window.expired())
-            m_editor.setText(formatted);
-    }});
+                      unsigned pieces = 0;
+                      const std::weak_ptr<Window> window = m_window;
+                      const QString formatted = Hierarchical(m_editor.text(), [&] {
+                          if (pieces++ % piecesBetweenPauses == 0)
+                              QCoreApplication::processEvents();
+                          return !window.expired();
+                      });
+                      // Without the window this object may be gone, too.
+                      if (!window.expired())
+                          m_editor.setText(formatted);
+                  }});
 }
 
 void SourceFormatting::abandon()

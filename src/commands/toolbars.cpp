@@ -21,8 +21,7 @@ constexpr int firstOpenPosition = 13;
 } // namespace
 
 CommandToolBar::CommandToolBar(const ToolBarTable &table, QWidget *parent)
-    : QToolBar(table.title.toString(), parent)
-    , m_table(table)
+    : QToolBar(table.title.toString(), parent), m_table(table)
 {
     setObjectName(table.name);
     setIconSize({22, 22});
@@ -110,9 +109,11 @@ void CommandToolBar::close(const QString &key)
     m_unavailable.insert(button);
     // A button of whose pull-down nothing is left has no reason to stay open, unless it does something itself.
     for (const ToolButton &owner : m_table.buttons) {
-        const bool holdsKey = std::ranges::any_of(owner.pullDown, [&](const PullDownEntry &entry) { return entry.key == key; });
-        const bool isSpent = std::ranges::all_of(
-            owner.pullDown, [&](const PullDownEntry &entry) { return m_unavailable.contains(action(entry.key.toString())); });
+        const bool holdsKey =
+            std::ranges::any_of(owner.pullDown, [&](const PullDownEntry &entry) { return entry.key == key; });
+        const bool isSpent = std::ranges::all_of(owner.pullDown, [&](const PullDownEntry &entry) {
+            return m_unavailable.contains(action(entry.key.toString()));
+        });
         if (holdsKey && isSpent && !owner.form.isEmpty())
             close(owner.key.toString());
     }

@@ -26,13 +26,15 @@ constexpr ToolButton standardButtons[] = {
 
 constexpr PullDownEntry previewEntries[] = {
     {u"pie", u"In Internet Explorer", {}, u"Save and show the document in the browser of your choice"},
-    {u"pidb", u"Preview in default browser", u"internet-services", u"Save and show the document in the default browser"},
+    {u"pidb", u"Preview in default browser", u"internet-services",
+     u"Save and show the document in the default browser"},
     {u"picb", u"In Zephira Browser", u"document-preview", u"Show the document in the preview"},
 };
 
 constexpr PullDownEntry linkEntries[] = {
     {u"linkwiz", u"Link Wizard", u"insert-link", u"Insert a link", u"frmlinkwiz"},
-    {u"linkextract", u"Extract Links from Document", u"view-list-text", u"List the document's links", u"frmlinkextract"},
+    {u"linkextract", u"Extract Links from Document", u"view-list-text", u"List the document's links",
+     u"frmlinkextract"},
 };
 
 constexpr PullDownEntry tagEntries[] = {
@@ -76,9 +78,8 @@ const ToolBarTable &formattingToolBar()
 
 const ToolButton *findFormattingButton(QStringView key)
 {
-    const auto row = std::ranges::find_if(formattingButtons, [&](const ToolButton &button) {
-        return !key.isEmpty() && button.key == key;
-    });
+    const auto row = std::ranges::find_if(
+        formattingButtons, [&](const ToolButton &button) { return !key.isEmpty() && button.key == key; });
     return row == std::end(formattingButtons) ? nullptr : &*row;
 }
 

@@ -20,8 +20,8 @@ struct CodeMaxRange {
 
 /// Numbers of the editing control's built-in commands that the program runs.
 enum class EditorCommand : int {
-    SelectAll = 137,       ///< no argument
-    GoToLine = 168,        ///< a 0-based line number, or -1 for the control's own dialog
+    SelectAll = 137, ///< no argument
+    GoToLine = 168,  ///< a 0-based line number, or -1 for the control's own dialog
     FindReplaceDialog = 169,
     FindNext = 176,
     FindDialog = 178,

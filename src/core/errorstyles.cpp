@@ -30,12 +30,13 @@ void tellingErrors(Prompts &prompts, const QString &form, const QString &procedu
         try {
             statement();
         } catch (const HandlerError &error) {
-            const Answer answer = prompts.ask({
-                u"An error has occured at: "_s + form + u" in Procedure: "_s + procedure + u"\r\n"_s
-                    + u"The error is as follows: "_s + error.description + u"\r\n"_s
-                    + u"Please Report this to the Zephira. team\r\n"_s
-                    + u"Click OK to continue, Cancel to Exit the current SUB"_s,
-                {}, Question::Icon::Critical, Question::Buttons::OkCancel});
+            const Answer answer = prompts.ask({u"An error has occured at: "_s + form + u" in Procedure: "_s + procedure
+                                                   + u"\r\n"_s + u"The error is as follows: "_s + error.description
+                                                   + u"\r\n"_s + u"Please Report this to the Zephira. team\r\n"_s
+                                                   + u"Click OK to continue, Cancel to Exit the current SUB"_s,
+                                               {},
+                                               Question::Icon::Critical,
+                                               Question::Buttons::OkCancel});
             if (answer == Answer::Cancel)
                 return;
         }

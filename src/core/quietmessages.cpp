@@ -18,7 +18,8 @@ constexpr QStringView knownBeginnings[] = {
 
 void passUnknown(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    const bool isKnown = std::ranges::any_of(knownBeginnings, [&](QStringView known) { return message.startsWith(known); });
+    const bool isKnown =
+        std::ranges::any_of(knownBeginnings, [&](QStringView known) { return message.startsWith(known); });
     if (!isKnown)
         std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
 }

@@ -12,7 +12,8 @@ public:
     virtual ~UserSettings() = default;
     virtual QString GetSetting(const QString &branch, const QString &section, const QString &key,
                                const QString &fallback) const = 0;
-    virtual void SaveSetting(const QString &branch, const QString &section, const QString &key, const QString &value) = 0;
+    virtual void SaveSetting(const QString &branch, const QString &section, const QString &key,
+                             const QString &value) = 0;
 };
 
 } // namespace zephira

@@ -37,8 +37,8 @@ std::optional<quint64> prefixedNumber(QStringView text)
     const QChar kind = text[1].toLower();
     const int base = kind == u'h' ? 16 : kind == u'o' ? 8 : 0;
     const QStringView digits = text.sliced(2);
-    const bool plain = std::all_of(digits.begin(), digits.end(),
-                                   [](QChar c) { return c < QChar(128) && c.isLetterOrNumber(); });
+    const bool plain =
+        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c < QChar(128) && c.isLetterOrNumber(); });
     bool ok = false;
     const quint64 value = base != 0 && plain ? digits.toULongLong(&ok, base) : 0;
     return ok ? std::optional(value) : std::nullopt;
@@ -50,7 +50,8 @@ double decimalNumber(QStringView text)
     constexpr QStringView allowed = u"0123456789+-.eEdD";
     const bool plain = std::all_of(text.begin(), text.end(), [&](QChar c) { return allowed.contains(c); });
     bool ok = false;
-    const double value = plain ? text.toString().replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive).toDouble(&ok) : 0;
+    const double value =
+        plain ? text.toString().replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive).toDouble(&ok) : 0;
     if (plain && std::isinf(value))
         throw HandlerError{u"Overflow"_s};
     if (!ok)

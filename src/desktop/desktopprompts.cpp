@@ -99,14 +99,15 @@ QWidget *DesktopPrompts::parent() const
 Answer DesktopPrompts::ask(const Question &question)
 {
     const ButtonRow &row = buttonRows[static_cast<int>(question.buttons)];
-    const QPointer<QMessageBox> box = new QMessageBox(icons[static_cast<int>(question.icon)],
-                                                      titleOr(question.title, programName), question.text, row.buttons,
-                                                      parent());
+    const QPointer<QMessageBox> box =
+        new QMessageBox(icons[static_cast<int>(question.icon)], titleOr(question.title, programName), question.text,
+                        row.buttons, parent());
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(row.first);
     box->setEscapeButton(row.escape);
     box->exec();
-    const Answer answer = answerOf(box && box->clickedButton() ? box->standardButton(box->clickedButton()) : row.escape);
+    const Answer answer =
+        answerOf(box && box->clickedButton() ? box->standardButton(box->clickedButton()) : row.escape);
     delete box;
     return answer;
 }
@@ -150,9 +151,8 @@ std::optional<QString> DesktopPrompts::folder(const QString &title, const QStrin
     auto dialog = fileDialog(parent(), titleOr(title, u"Choose a folder"_s), initialFolder, m_dialogs == Dialogs::OfQt);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    return answerFrom(std::move(dialog), [](const QFileDialog &done) {
-        return QDir::toNativeSeparators(done.selectedFiles().value(0));
-    });
+    return answerFrom(std::move(dialog),
+                      [](const QFileDialog &done) { return QDir::toNativeSeparators(done.selectedFiles().value(0)); });
 }
 
 std::optional<quint32> DesktopPrompts::colour(quint32 initial)

@@ -19,7 +19,7 @@ constexpr int answerTimeout = 5000; // milliseconds
 bool hasSessionBus()
 {
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")
-           || QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s);
+        || QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s);
 }
 
 } // namespace
@@ -32,8 +32,9 @@ bool showInFileManager(FileManagerView view, const QString &path)
     if (!bus.isConnected())
         return false;
     const QString operation = view == FileManagerView::ItemProperties ? u"ShowItemProperties"_s : u"ShowFolders"_s;
-    QDBusMessage request = QDBusMessage::createMethodCall(
-        u"org.freedesktop.FileManager1"_s, u"/org/freedesktop/FileManager1"_s, u"org.freedesktop.FileManager1"_s, operation);
+    QDBusMessage request =
+        QDBusMessage::createMethodCall(u"org.freedesktop.FileManager1"_s, u"/org/freedesktop/FileManager1"_s,
+                                       u"org.freedesktop.FileManager1"_s, operation);
     request << QStringList{QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)} << QString();
     return bus.call(request, QDBus::Block, answerTimeout).type() == QDBusMessage::ReplyMessage;
 }

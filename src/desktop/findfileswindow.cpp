@@ -23,8 +23,12 @@ constexpr int mostFound = 10000;
 } // namespace
 
 FindFilesWindow::FindFilesWindow(const QString &folder, QWidget *owner)
-    : QDialog(owner), m_pattern(new QLineEdit(u"*"_s, this)), m_folder(new QLineEdit(folder, this)),
-      m_find(new QPushButton(u"&Find"_s, this)), m_found(new QListWidget(this)), m_state(new QLabel(this))
+    : QDialog(owner)
+    , m_pattern(new QLineEdit(u"*"_s, this))
+    , m_folder(new QLineEdit(folder, this))
+    , m_find(new QPushButton(u"&Find"_s, this))
+    , m_found(new QListWidget(this))
+    , m_state(new QLabel(this))
 {
     setObjectName(u"findFiles"_s);
     setWindowTitle(u"Find Files"_s);

@@ -34,8 +34,7 @@ class Placement
 public:
     Placement(UserSettings &settings, QString branch, QString section)
         : m_settings(settings), m_branch(std::move(branch)), m_section(std::move(section))
-    {
-    }
+    {}
 
     void save(const QString &key, int number) const
     {

@@ -60,8 +60,7 @@ void runModally(QWidget *form)
 
 ModalFormOpener::ModalFormOpener(const FormCatalogue &catalogue, QWidget *owner)
     : m_catalogue(catalogue), m_owner(owner)
-{
-}
+{}
 
 bool ModalFormOpener::isAvailable(const QString &form) const
 {

@@ -21,7 +21,8 @@ Result<Interface *> loadModuleAs(const QString &file)
         return module.error();
     if (Interface *interface = qobject_cast<Interface *>(module.value()))
         return interface;
-    return Error{Error::Code::Malformed, QStringLiteral("The file %1 belongs to another version of the program.").arg(file)};
+    return Error{Error::Code::Malformed,
+                 QStringLiteral("The file %1 belongs to another version of the program.").arg(file)};
 }
 
 } // namespace zephira

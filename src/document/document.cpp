@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "document/document.h"
 
-#include "document/languages.h"
 #include "core/clipboard.h"
 #include "core/designer.h"
 #include "core/documenthost.h"
@@ -9,6 +8,7 @@
 #include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/relativepath.h"
+#include "document/languages.h"
 
 #include <array>
 
@@ -57,8 +57,7 @@ T orRaise(Result<T> result)
 
 Document::Document(const AppContext &context, CommonDialog &dialog, DocumentWindow &window)
     : m_context(context), m_dialog(dialog), m_window(window)
-{
-}
+{}
 
 void Document::textChanged()
 {
@@ -68,10 +67,10 @@ void Document::textChanged()
 
 Answer Document::askToSave(PromptIcon icon)
 {
-    return m_context.prompts.ask({u"Document: "_s + m_title + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
-                                  u"Document Modified."_s,
-                                  icon == PromptIcon::Shown ? Question::Icon::Question : Question::Icon::None,
-                                  Question::Buttons::YesNoCancel});
+    return m_context.prompts.ask(
+        {u"Document: "_s + m_title + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+         u"Document Modified."_s, icon == PromptIcon::Shown ? Question::Icon::Question : Question::Icon::None,
+         Question::Buttons::YesNoCancel});
 }
 
 bool Document::mayGoOn(PromptIcon icon)
@@ -187,8 +186,8 @@ void Document::open()
         return;
     m_dialog.title = u"Open a document..."_s;
     m_dialog.filter = QStringView(openFilter).toString();
-    const auto chosen = m_context.prompts.file(
-        {m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false, m_dialog.fileName});
+    const auto chosen =
+        m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false, m_dialog.fileName});
     if (!chosen || chosen->isEmpty())
         return;
     const QString name = *chosen;
@@ -226,16 +225,16 @@ bool Document::DoSaveAs()
 
     QString name;
     for (;;) {
-        const auto chosen = m_context.prompts.file(
-            {m_dialog.title, m_dialog.filter, m_dialog.initialFolder, true, m_dialog.fileName});
+        const auto chosen =
+            m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, true, m_dialog.fileName});
         if (!chosen || chosen->isEmpty() || *chosen == u" "_s)
             return false;
         name = *chosen;
         if (!m_context.files.FileExists(name))
             break;
-        const Answer answer = m_context.prompts.ask(
-            {u"File: "_s + name + u"\n\nThe file you have entered\nalready exists. Overwrite?"_s, u"Overwrite?"_s,
-             Question::Icon::Question, Question::Buttons::YesNoCancel});
+        const Answer answer =
+            m_context.prompts.ask({u"File: "_s + name + u"\n\nThe file you have entered\nalready exists. Overwrite?"_s,
+                                   u"Overwrite?"_s, Question::Icon::Question, Question::Buttons::YesNoCancel});
         if (answer == Answer::Cancel)
             return false;
         if (answer == Answer::Yes)
@@ -280,9 +279,11 @@ void Document::openFileOrImage(const QString &path)
         else
             openText(path);
     } catch (const HandlerError &error) {
-        m_context.prompts.ask({u"An error has occured.\r\n"_s + error.description
-                                   + u"\r\nThe routine will now reset itself..."_s,
-                               {}, Question::Icon::Critical, Question::Buttons::Ok});
+        m_context.prompts.ask(
+            {u"An error has occured.\r\n"_s + error.description + u"\r\nThe routine will now reset itself..."_s,
+             {},
+             Question::Icon::Critical,
+             Question::Buttons::Ok});
     }
 }
 
@@ -349,8 +350,10 @@ void Document::revert()
     if (m_dialog.fileName.isEmpty())
         return;
     const Answer answer = m_context.prompts.ask(
-        {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s, {},
-         Question::Icon::Question, Question::Buttons::YesNo});
+        {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
+         {},
+         Question::Icon::Question,
+         Question::Buttons::YesNo});
     if (answer != Answer::Yes)
         return;
     // Loading raises the change event; the flag is to stay what it was.
@@ -371,7 +374,8 @@ void Document::saveAsTemplate()
         return;
     }
     if (fileTitleOf(answer) != answer) {
-        m_context.prompts.tell(u"A template's name can't hold a folder: %1"_s.arg(answer), {}, Question::Icon::Exclamation);
+        m_context.prompts.tell(u"A template's name can't hold a folder: %1"_s.arg(answer), {},
+                               Question::Icon::Exclamation);
         return;
     }
     const Result<void> saved = m_context.editor.saveFile(m_context.appPath + u"/templates/custom/"_s + answer, false);

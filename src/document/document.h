@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "document/commondialog.h"
-#include "document/documentwindow.h"
 #include "core/appcontext.h"
 #include "core/prompts.h"
+#include "document/commondialog.h"
+#include "document/documentwindow.h"
 
 #include <QString>
 

@@ -14,29 +14,15 @@ struct ExtensionRow {
 };
 
 /// In the order of the passes: shorter tails first.
+// clang-format off: a row a line
 constexpr ExtensionRow extensionRows[] = {
-    {u".c", CCpp},
-    {u".h", CCpp, u"c/c++"},
-    {u".pl", Perl},
-    {u".js", JavaScript},
-    {u".txt", Text},
-    {u".ini", Text},
-    {u".log", Text},
-    {u".htm", Html},
-    {u".asp", Html},
-    {u".vbs", Html},
-    {u".cpp", CCpp},
-    {u".cgi", Perl},
-    {u".xml", Xml},
-    {u".bas", Basic},
-    {u".frm", Basic},
-    {u".vbp", Basic},
-    {u".pas", Pascal},
-    {u".css", StyleSheets},
-    {u".sql", Sql},
-    {u".html", Html},
+    {u".c", CCpp},          {u".h", CCpp, u"c/c++"}, {u".pl", Perl},         {u".js", JavaScript}, {u".txt", Text},
+    {u".ini", Text},        {u".log", Text},         {u".htm", Html},        {u".asp", Html},      {u".vbs", Html},
+    {u".cpp", CCpp},        {u".cgi", Perl},         {u".xml", Xml},         {u".bas", Basic},     {u".frm", Basic},
+    {u".vbp", Basic},       {u".pas", Pascal},       {u".css", StyleSheets}, {u".sql", Sql},       {u".html", Html},
     {u".java", JavaScript},
 };
+// clang-format on
 
 } // namespace
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "document/recoverykeeper.h"
 
-#include "document/document.h"
 #include "core/clock.h"
 #include "core/designer.h"
-#include "files/recoverycopies.h"
+#include "document/document.h"
 #include "editor/codemax.h"
+#include "files/recoverycopies.h"
 
 #include <array>
 
@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-RecoveryKeeper::RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, Designer &designer, const Document &document)
+RecoveryKeeper::RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, Designer &designer,
+                               const Document &document)
     : m_copies(copies), m_editor(editor), m_designer(designer), m_document(document)
 {
     m_running.start();

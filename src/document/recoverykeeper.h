@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "files/recoveryschedule.h"
 #include "core/result.h"
+#include "files/recoveryschedule.h"
 
 #include <QElapsedTimer>
 #include <QObject>

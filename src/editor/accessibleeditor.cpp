@@ -42,9 +42,9 @@ std::optional<QTextBoundaryFinder::BoundaryType> finderType(QAccessible::TextBou
 
 } // namespace
 
-AccessibleEditor::AccessibleEditor(CodeMax &editor) : QAccessibleWidget(&editor, QAccessible::EditableText), m_editor(editor)
-{
-}
+AccessibleEditor::AccessibleEditor(CodeMax &editor)
+    : QAccessibleWidget(&editor, QAccessible::EditableText), m_editor(editor)
+{}
 
 QAccessibleInterface *AccessibleEditor::make(const QString &, QObject *object)
 {
@@ -210,13 +210,15 @@ QString AccessibleEditor::textAtOffset(int offset, QAccessible::TextBoundaryType
     return given(stretchAt(offset, boundary), start, end);
 }
 
-QString AccessibleEditor::textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
+QString AccessibleEditor::textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int *start,
+                                           int *end) const
 {
     const Stretch here = stretchAt(offset, boundary);
     return given(here.start == 0 ? Stretch{0, 0} : stretchAt(here.start - 1, boundary), start, end);
 }
 
-QString AccessibleEditor::textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
+QString AccessibleEditor::textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int *start,
+                                          int *end) const
 {
     const Stretch here = stretchAt(offset, boundary);
     const int count = characterCount();
@@ -229,7 +231,8 @@ QRect AccessibleEditor::characterRect(int offset) const
     const auto coordinate = [&](unsigned int message, qsizetype at) {
         return static_cast<int>(engine().send(message, 0, at));
     };
-    const QPoint corner(coordinate(Sci::SCI_POINTXFROMPOSITION, position), coordinate(Sci::SCI_POINTYFROMPOSITION, position));
+    const QPoint corner(coordinate(Sci::SCI_POINTXFROMPOSITION, position),
+                        coordinate(Sci::SCI_POINTYFROMPOSITION, position));
     const int next = coordinate(Sci::SCI_POINTXFROMPOSITION, engine().send(Sci::SCI_POSITIONAFTER, position));
     const int height = static_cast<int>(engine().send(Sci::SCI_TEXTHEIGHT, engine().lineOf(position)));
     return {m_editor.viewport()->mapToGlobal(corner), QSize(std::max(next - corner.x(), 1), height)};

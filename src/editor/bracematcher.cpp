@@ -22,8 +22,8 @@ constexpr std::string_view closing = ")]}";
 bool isNameByte(char byte)
 {
     const auto c = static_cast<unsigned char>(byte);
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == ':' || c == '_'
-           || c >= 0x80;
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == ':'
+        || c == '_' || c >= 0x80;
 }
 
 bool sameName(QByteArrayView a, QByteArrayView b)

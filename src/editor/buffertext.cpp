@@ -11,8 +11,14 @@ namespace zephira {
 
 namespace {
 
-bool startsCharacter(char byte) { return (byte & 0xc0) != 0x80; }
-bool startsSurrogatePair(char byte) { return static_cast<unsigned char>(byte) >= 0xf0; }
+bool startsCharacter(char byte)
+{
+    return (byte & 0xc0) != 0x80;
+}
+bool startsSurrogatePair(char byte)
+{
+    return static_cast<unsigned char>(byte) >= 0xf0;
+}
 
 } // namespace
 

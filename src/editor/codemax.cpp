@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/codemax.h"
 
-#include "widgets/qtvalues.h"
 #include "editor/accessibleeditor.h"
 #include "editor/bracematcher.h"
 #include "editor/buffertext.h"
@@ -15,6 +14,7 @@
 #include "editor/idlecolouring.h"
 #include "editor/indicators.h"
 #include "editor/propertiesdialog.h"
+#include "widgets/qtvalues.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
@@ -69,10 +69,15 @@ constexpr std::array engineSettings{
 } // namespace
 
 CodeMax::CodeMax(EditorServices services, QWidget *parent)
-    : QsciScintillaBase(parent), m_services(services), m_engine(*this), m_globals(std::make_unique<CodeMaxGlobals>(this)),
-      m_appearance(std::make_unique<EditorAppearance>(m_engine)), m_margins(std::make_unique<EditorMargins>(m_engine)),
-      m_colouring(std::make_unique<IdleColouring>(m_engine)), m_braces(std::make_unique<BraceMatcher>(m_engine)),
-      m_file(services.files, services.recovery)
+    : QsciScintillaBase(parent)
+    , m_services(services)
+    , m_engine(*this)
+    , m_globals(std::make_unique<CodeMaxGlobals>(this))
+    , m_appearance(std::make_unique<EditorAppearance>(m_engine))
+    , m_margins(std::make_unique<EditorMargins>(m_engine))
+    , m_colouring(std::make_unique<IdleColouring>(m_engine))
+    , m_braces(std::make_unique<BraceMatcher>(m_engine))
+    , m_file(services.files, services.recovery)
 {
     // Asked before the editor library's own, whose objects cost a walk through the text at every key.
     QAccessible::installFactory(&AccessibleEditor::make);
@@ -115,9 +120,8 @@ void CodeMax::connectEngine()
         if (margin == EditorMargins::Bookmarks)
             m_margins->toggleBookmark(m_engine.lineOf(position));
     });
-    m_colouring->setLineFolded([this](qsizetype line, int level, int nextLevel) {
-        m_margins->setDivider(line, level > 0 && nextLevel == 0);
-    });
+    m_colouring->setLineFolded(
+        [this](qsizetype line, int level, int nextLevel) { m_margins->setDivider(line, level > 0 && nextLevel == 0); });
     connect(m_globals.get(), &CodeMaxGlobals::languageRegistered, this, [this](const QString &name) {
         if (name.compare(m_language, Qt::CaseInsensitive) == 0)
             setLanguage(m_language);
@@ -161,7 +165,8 @@ void CodeMax::noteChange()
     ++m_textVersion;
     m_changed = true;
     if (m_actions == 0)
-        QMetaObject::invokeMethod(this, [this] { perform([] {}); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { perform([] {}); }, Qt::QueuedConnection);
 }
 
 void CodeMax::endAction()

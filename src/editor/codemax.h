@@ -2,10 +2,10 @@
 #pragma once
 
 #include "core/editingcontrol.h"
-#include "files/documentfile.h"
-#include "files/textfile.h"
 #include "editor/editoroptions.h"
 #include "editor/sciengine.h"
+#include "files/documentfile.h"
+#include "files/textfile.h"
 
 #include <Qsci/qsciscintillabase.h>
 

@@ -24,7 +24,7 @@ namespace {
 bool isEngineCommand(int command)
 {
     return command >= QsciScintillaBase::SCI_START
-           && std::ranges::find(initialHotKeys(), command, &CodeMaxHotKey::command) != initialHotKeys().end();
+        && std::ranges::find(initialHotKeys(), command, &CodeMaxHotKey::command) != initialHotKeys().end();
 }
 
 /// Who has the modal window in front is who asks for a dialog.
@@ -186,7 +186,8 @@ void CodeMax::goToMatchingBrace(bool selecting)
         return;
     }
     perform([&] {
-        m_engine.send(SCI_SETSEL, std::min(pair->firstStart, pair->secondStart), std::max(pair->firstEnd, pair->secondEnd));
+        m_engine.send(SCI_SETSEL, std::min(pair->firstStart, pair->secondStart),
+                      std::max(pair->firstEnd, pair->secondEnd));
     });
 }
 

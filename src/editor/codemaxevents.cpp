@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keys, mouse, drops and the context menu of the editing control.
-#include "widgets/qtvalues.h"
 #include "editor/codemax.h"
 #include "editor/codemaxglobals.h"
 #include "editor/colouritems.h"
 #include "editor/editorappearance.h"
 #include "editor/editorcommands.h"
 #include "editor/editormargins.h"
+#include "widgets/qtvalues.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -218,8 +218,8 @@ void CodeMax::contextMenuEvent(QContextMenuEvent *event)
 {
     if (event->reason() == QContextMenuEvent::Mouse) {
         const qsizetype at = m_engine.send(SCI_POSITIONFROMPOINT, event->x(), event->y());
-        const bool inSelection = canCopy() && at >= m_engine.send(SCI_GETSELECTIONSTART)
-                                 && at <= m_engine.send(SCI_GETSELECTIONEND);
+        const bool inSelection =
+            canCopy() && at >= m_engine.send(SCI_GETSELECTIONSTART) && at <= m_engine.send(SCI_GETSELECTIONEND);
         if (!inSelection)
             perform([&] { m_engine.send(SCI_SETEMPTYSELECTION, at); });
     }

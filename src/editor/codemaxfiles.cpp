@@ -38,7 +38,8 @@ Result<void> CodeMax::store(const QString &path, bool becomesDocument)
     Result<void> saved = m_file.save(path, utf8Pieces(), m_format);
     if (saved || saved.error().code != Error::Code::Unencodable)
         return saved;
-    const Question question{saved.error().sentence + u"\n\nSave \"%1\" as UTF-8 instead?"_s.arg(QFileInfo(path).fileName()),
+    const Question question{saved.error().sentence
+                                + u"\n\nSave \"%1\" as UTF-8 instead?"_s.arg(QFileInfo(path).fileName()),
                             {},
                             Question::Icon::Exclamation,
                             Question::Buttons::YesNo};

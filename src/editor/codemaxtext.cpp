@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Text and selection of the editing control.
+#include "editor/bracematcher.h"
 #include "editor/buffertext.h"
 #include "editor/codemax.h"
-#include "editor/bracematcher.h"
 #include "editor/idlecolouring.h"
 
 #include <algorithm>
@@ -243,7 +243,8 @@ CodeMaxRange CodeMax::toRange(qsizetype start, qsizetype end) const
         const qsizetype lineStart = m_engine.lineStart(m_engine.lineOf(position));
         return static_cast<int>(utf16Length(m_engine.bytes(lineStart, position)));
     };
-    return {static_cast<int>(m_engine.lineOf(start)), column(start), static_cast<int>(m_engine.lineOf(end)), column(end)};
+    return {static_cast<int>(m_engine.lineOf(start)), column(start), static_cast<int>(m_engine.lineOf(end)),
+            column(end)};
 }
 
 /// The nearest position that the text has.

@@ -17,7 +17,16 @@ constexpr quint32 automaticColour = 0xffffffff;
 enum FontStyle : int { NormalStyle = 0, BoldStyle = 1, ItalicStyle = 2, BoldItalicStyle = 3, UnderlinedStyle = 4 };
 
 /// What a colour item paints.
-enum class ColourTarget { Window, LeftMargin, MarkerFore, MarkerBack, StyleFore, StyleBack, LineDivider, MarginDivider };
+enum class ColourTarget {
+    Window,
+    LeftMargin,
+    MarkerFore,
+    MarkerBack,
+    StyleFore,
+    StyleBack,
+    LineDivider,
+    MarginDivider
+};
 
 struct ColourItem {
     ColourTarget target;

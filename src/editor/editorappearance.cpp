@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorappearance.h"
 
-#include "widgets/qtvalues.h"
 #include "editor/editormargins.h"
+#include "widgets/qtvalues.h"
 
 #include <QPalette>
 
@@ -22,8 +22,14 @@ constexpr int lineNumberItem = 26;
 constexpr int firstFoldMarker = Sci::SC_MARKNUM_FOLDEREND;
 constexpr int lastFoldMarker = Sci::SC_MARKNUM_FOLDEROPEN;
 
-bool isItem(int item) { return item >= 0 && item < colourItemTotal; }
-bool isStyle(int item) { return item >= 0 && item < fontStyleTotal; }
+bool isItem(int item)
+{
+    return item >= 0 && item < colourItemTotal;
+}
+bool isStyle(int item)
+{
+    return item >= 0 && item < fontStyleTotal;
+}
 
 int engineColour(const QColor &colour)
 {
@@ -166,7 +172,8 @@ void EditorAppearance::applyContrast()
 {
     const QColor window = shown(windowItem);
     const QColor text = shown(textItem);
-    const QColor selection = mixed(window, m_engine.view().palette().color(QPalette::Active, QPalette::Highlight), 0.38);
+    const QColor selection =
+        mixed(window, m_engine.view().palette().color(QPalette::Active, QPalette::Highlight), 0.38);
     m_engine.send(Sci::SCI_SETCARETFORE, engineColour(text));
     m_engine.send(Sci::SCI_SETADDITIONALCARETFORE, engineColour(mixed(window, text, 0.6)));
     m_engine.send(Sci::SCI_SETSELBACK, true, engineColour(selection));
@@ -175,7 +182,8 @@ void EditorAppearance::applyContrast()
     m_engine.send(Sci::SCI_STYLESETFORE, Sci::STYLE_INDENTGUIDE, engineColour(mixed(window, text, 0.25)));
     for (int marker = firstFoldMarker; marker <= lastFoldMarker; ++marker) {
         m_engine.send(Sci::SCI_MARKERSETFORE, marker, engineColour(shown(leftMarginItem)));
-        m_engine.send(Sci::SCI_MARKERSETBACK, marker, engineColour(mixed(shown(leftMarginItem), shown(lineNumberItem), 0.8)));
+        m_engine.send(Sci::SCI_MARKERSETBACK, marker,
+                      engineColour(mixed(shown(leftMarginItem), shown(lineNumberItem), 0.8)));
     }
 }
 

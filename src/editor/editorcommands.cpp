@@ -83,7 +83,7 @@ bool isShortcutLike(QKeyCombination keys)
     const bool character = keys.key() >= Qt::Key_Space && keys.key() <= Qt::Key_ydiaeresis;
     const bool control = modifiers & Qt::ControlModifier && !(modifiers & Qt::AltModifier);
     return (character && control) || keys.key() == Qt::Key_Delete
-           || (keys.key() >= Qt::Key_F1 && keys.key() <= Qt::Key_F35);
+        || (keys.key() >= Qt::Key_F1 && keys.key() <= Qt::Key_F35);
 }
 
 } // namespace zephira

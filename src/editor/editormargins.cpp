@@ -93,7 +93,8 @@ void EditorMargins::updateWidths()
     const auto digits = std::max<size_t>(std::to_string(m_engine.lineCount()).size(), fewestDigits);
     const std::string widest = "_" + std::string(digits, '9');
     setWidth(Bookmarks, m_leftMargin ? lineHeight : 0);
-    setWidth(LineNumbers, m_lineNumbers ? m_engine.sendText(Sci::SCI_TEXTWIDTH, Sci::STYLE_LINENUMBER, widest.c_str()) + 4 : 0);
+    setWidth(LineNumbers,
+             m_lineNumbers ? m_engine.sendText(Sci::SCI_TEXTWIDTH, Sci::STYLE_LINENUMBER, widest.c_str()) + 4 : 0);
     setWidth(Folds, m_folds ? lineHeight * 4 / 5 : 0);
     setWidth(Divider, m_leftMargin || m_lineNumbers || m_folds ? 1 : 0);
 }

@@ -12,7 +12,7 @@ struct EditorOptions {
     bool foldMargin = true;
     bool matchBraces = true;
     bool highlightCaretLine = false; ///< in the highlighted line's colour
-    int edgeColumn = 0; ///< a line is drawn behind this column; 0 for none
+    int edgeColumn = 0;              ///< a line is drawn behind this column; 0 for none
 
     friend bool operator==(const EditorOptions &, const EditorOptions &) = default;
 };

@@ -18,7 +18,7 @@ struct SearchOutcome {
     bool found = false;
     bool wrapped = false; ///< only found beyond the text's end, or its beginning
     int replaced = 0;
-    QString error = {};   ///< a sentence, where the pattern itself is wrong
+    QString error = {}; ///< a sentence, where the pattern itself is wrong
 };
 
 /// The control's search: the pattern and options that the dialog sets and that the "find next" command goes on with.

@@ -64,7 +64,8 @@ void FindDialog::showOutcome(const SearchOutcome &outcome)
     if (!outcome.error.isEmpty())
         say(outcome.error, true);
     else if (!outcome.found)
-        say(outcome.replaced > 0 ? tr("Replaced; there is no other match.") : tr("Nothing found."), outcome.replaced == 0);
+        say(outcome.replaced > 0 ? tr("Replaced; there is no other match.") : tr("Nothing found."),
+            outcome.replaced == 0);
     else if (outcome.wrapped)
         say(m_search.options().backward ? tr("Went on from the end.") : tr("Went on from the beginning."));
     else

@@ -133,8 +133,7 @@ void IdleColouring::colourAll()
     m_timer.stop();
     if (!m_language)
         return;
-    while (!colourSome(m_wanted, immediateBytes)) {
-    }
+    while (!colourSome(m_wanted, immediateBytes)) {}
 }
 
 void IdleColouring::slice()
@@ -175,7 +174,7 @@ bool IdleColouring::colourSome(qsizetype target, qsizetype bytes)
         if (m_dirty.any() && mayStopEarly) {
             settled = [this, line](qsizetype index, LineState state) {
                 return line + index > m_dirty.last && line + index < m_colouredLines
-                       && static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line + index)) == state;
+                    && static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line + index)) == state;
             };
         }
         StateCollector lines(settled);

@@ -3,10 +3,10 @@
 
 #include "ui_propertiesdialog.h"
 
-#include "widgets/qtvalues.h"
 #include "editor/codemax.h"
 #include "editor/editorappearance.h"
 #include "editor/editormargins.h"
+#include "widgets/qtvalues.h"
 
 #include <QPushButton>
 
@@ -78,9 +78,8 @@ PropertiesDialog::PropertiesDialog(CodeMax &editor, QWidget *owner)
         connect(box, &QCheckBox::toggled, this, &PropertiesDialog::takeFont);
     connect(m_ui->spnTab, &QSpinBox::valueChanged, this, &PropertiesDialog::takeOptions);
     connect(m_ui->spnEdge, &QSpinBox::valueChanged, this, &PropertiesDialog::takeOptions);
-    for (const QCheckBox *box :
-         {m_ui->chkBlanks, m_ui->chkIndent, m_ui->chkWrap, m_ui->chkBraces, m_ui->chkWhitespace, m_ui->chkLineNumbers,
-          m_ui->chkLeftMargin, m_ui->chkFolds, m_ui->chkCaretLine})
+    for (const QCheckBox *box : {m_ui->chkBlanks, m_ui->chkIndent, m_ui->chkWrap, m_ui->chkBraces, m_ui->chkWhitespace,
+                                 m_ui->chkLineNumbers, m_ui->chkLeftMargin, m_ui->chkFolds, m_ui->chkCaretLine})
         connect(box, &QCheckBox::toggled, this, &PropertiesDialog::takeOptions);
     connect(m_ui->buttons, &QDialogButtonBox::clicked, this, &PropertiesDialog::clicked);
 }
@@ -246,9 +245,9 @@ void PropertiesDialog::takeFont()
 {
     if (m_filling)
         return;
-    m_draft.looks.font = {m_ui->cboFont->currentText(), m_ui->spnSize->value(), m_ui->chkBold->isChecked(),
-                          m_ui->chkItalic->isChecked(), m_ui->chkStrikethrough->isChecked(),
-                          m_ui->chkUnderline->isChecked()};
+    m_draft.looks.font = {m_ui->cboFont->currentText(),        m_ui->spnSize->value(),
+                          m_ui->chkBold->isChecked(),          m_ui->chkItalic->isChecked(),
+                          m_ui->chkStrikethrough->isChecked(), m_ui->chkUnderline->isChecked()};
     showPreview();
 }
 

@@ -28,9 +28,9 @@ Result<TextSearch> TextSearch::make(const SearchRequest &request)
     const QRegularExpression asTyped(request.regularExpression ? request.pattern : QString(), options);
     const QRegularExpression &checked = asTyped.isValid() ? expression : asTyped;
     if (!checked.isValid()) {
-        return Error{Error::Code::Malformed, u"The regular expression is wrong at character %1: %2."_s
-                                                 .arg(checked.patternErrorOffset() + 1)
-                                                 .arg(checked.errorString())};
+        return Error{Error::Code::Malformed,
+                     u"The regular expression is wrong at character %1: %2."_s.arg(checked.patternErrorOffset() + 1)
+                         .arg(checked.errorString())};
     }
     return TextSearch(expression, request.regularExpression);
 }
@@ -67,7 +67,8 @@ std::optional<TextMatch> TextSearch::previous(const QString &text, qsizetype fro
     }
 }
 
-std::vector<TextMatch> TextSearch::all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const
+std::vector<TextMatch> TextSearch::all(const QString &text, qsizetype start, qsizetype end,
+                                       const QString &replacement) const
 {
     std::vector<TextMatch> found;
     auto matches = m_expression.globalMatch(QStringView(text).first(end), start);

@@ -38,7 +38,8 @@ public:
     static Result<TextSearch> make(const SearchRequest &request);
 
     /// The first match from `from` on that ends at or before `limit`.
-    std::optional<TextMatch> next(const QString &text, qsizetype from, qsizetype limit, const QString &replacement) const;
+    std::optional<TextMatch> next(const QString &text, qsizetype from, qsizetype limit,
+                                  const QString &replacement) const;
     /// The last match that begins at or behind `limit` and ends at or before `from`.
     std::optional<TextMatch> previous(const QString &text, qsizetype from, qsizetype limit,
                                       const QString &replacement) const;
@@ -46,9 +47,9 @@ public:
     std::vector<TextMatch> all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const;
 
 private:
-    explicit TextSearch(QRegularExpression expression, bool groups) : m_expression(std::move(expression)), m_groups(groups)
-    {
-    }
+    explicit TextSearch(QRegularExpression expression, bool groups)
+        : m_expression(std::move(expression)), m_groups(groups)
+    {}
     TextMatch toMatch(const QRegularExpressionMatch &match, const QString &replacement) const;
 
     QRegularExpression m_expression;

@@ -68,9 +68,10 @@ bool isProgram(const QFileInfo &file)
 Result<void> fillFolder(const QString &source, const QString &target)
 {
     if (!QFileInfo::exists(source + u'/' + iniName)) {
-        return Error{Error::Code::NotFound,
-                     u"Zephira can't start: there is no %1 beside the program, and none in %2. Please install the program again."_s
-                         .arg(iniName, source)};
+        return Error{
+            Error::Code::NotFound,
+            u"Zephira can't start: there is no %1 beside the program, and none in %2. Please install the program again."_s
+                .arg(iniName, source)};
     }
     const QDir root(source);
     QDirIterator walk(source, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);

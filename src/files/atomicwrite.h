@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "files/filesystemcalls.h"
 #include "core/result.h"
+#include "files/filesystemcalls.h"
 
 #include <QByteArray>
 #include <QString>
@@ -31,8 +31,7 @@ public:
 
     AtomicWrite(FileSystemCalls &calls, QString path, Flush flush = Flush::Always)
         : m_calls(calls), m_path(std::move(path)), m_flush(flush)
-    {
-    }
+    {}
     /// A temporary file that did not take its place is removed.
     ~AtomicWrite();
     AtomicWrite(const AtomicWrite &) = delete;

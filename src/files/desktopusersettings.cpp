@@ -35,7 +35,8 @@ QString DesktopUserSettings::GetSetting(const QString &branch, const QString &se
     return settings.value(storeKey(branch, section, key), fallback).toString();
 }
 
-void DesktopUserSettings::SaveSetting(const QString &branch, const QString &section, const QString &key, const QString &value)
+void DesktopUserSettings::SaveSetting(const QString &branch, const QString &section, const QString &key,
+                                      const QString &value)
 {
     QSettings settings = store();
     settings.setValue(storeKey(branch, section, key), value);

@@ -37,8 +37,7 @@ std::optional<QByteArray> systemPath(const QString &path)
 
 Error tooLarge(const QString &path)
 {
-    return readError(path, Error::Code::TooLarge,
-                     u"it is larger than %1 MiB"_s.arg(maximumFileSize / (1024 * 1024)));
+    return readError(path, Error::Code::TooLarge, u"it is larger than %1 MiB"_s.arg(maximumFileSize / (1024 * 1024)));
 }
 
 } // namespace
@@ -106,7 +105,8 @@ Result<QByteArray> DiskFileStore::readOpen(const QString &path, OpenFile open) c
     for (;;) {
         if (length == content.size())
             content.resize(std::max<qsizetype>(2 * length, 65536));
-        const ssize_t got = m_calls.read(file, content.data() + length, static_cast<std::size_t>(content.size() - length));
+        const ssize_t got =
+            m_calls.read(file, content.data() + length, static_cast<std::size_t>(content.size() - length));
         if (got < 0)
             return readError(path, errno);
         if (got == 0)

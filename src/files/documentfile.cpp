@@ -44,7 +44,8 @@ Result<DecodedText> DocumentFile::open(const QString &path)
     return text;
 }
 
-Result<void> DocumentFile::save(const QString &path, std::span<const QByteArrayView> utf8Pieces, const TextFormat &format)
+Result<void> DocumentFile::save(const QString &path, std::span<const QByteArrayView> utf8Pieces,
+                                const TextFormat &format)
 {
     std::vector<QByteArrayView> pieces;
     QByteArray encoded;
@@ -73,10 +74,11 @@ Result<void> DocumentFile::keepUnseenVersion(const QString &path)
     if (seen == m_seen.constEnd() || !onDisk.exists || *seen == onDisk)
         return {};
     const auto refused = [&](const Error &error) {
-        return Error{error.code, u"The file \""_s + path
-                                     + u"\" was not saved, because the version on the disk, which is not the one that was "
-                                       u"opened, could not be kept. "_s
-                                     + error.sentence};
+        return Error{error.code,
+                     u"The file \""_s + path
+                         + u"\" was not saved, because the version on the disk, which is not the one that was "
+                           u"opened, could not be kept. "_s
+                         + error.sentence};
     };
     Result<QByteArray> bytes = m_files.read(path);
     if (!bytes)

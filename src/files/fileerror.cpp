@@ -62,7 +62,8 @@ Error saveError(const QString &path, int error)
 
 Error removeError(const QString &path, int error)
 {
-    return fileError(path, u"removed", error == ENOENT ? Error::Code::NotFound : Error::Code::Unwritable, reasonOf(error));
+    return fileError(path, u"removed", error == ENOENT ? Error::Code::NotFound : Error::Code::Unwritable,
+                     reasonOf(error));
 }
 
 Error readError(const QString &path, Error::Code code, const QString &reason)

@@ -16,8 +16,23 @@ class FileSystemCalls
 {
 public:
     enum class Call {
-        Open, Close, Read, Write, Sync, Rename, Unlink, Stat, LinkStat, HandleStat, ReadLink, Access, ChangeMode,
-        ChangeOwner, ListAttributes, GetAttribute, SetAttribute
+        Open,
+        Close,
+        Read,
+        Write,
+        Sync,
+        Rename,
+        Unlink,
+        Stat,
+        LinkStat,
+        HandleStat,
+        ReadLink,
+        Access,
+        ChangeMode,
+        ChangeOwner,
+        ListAttributes,
+        GetAttribute,
+        SetAttribute
     };
 
     virtual ~FileSystemCalls() = default;

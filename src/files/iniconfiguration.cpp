@@ -30,7 +30,7 @@ public:
     explicit FolderLock(const QByteArray &folder) : m_file(m_calls.open(folder.constData(), O_RDONLY | O_DIRECTORY))
     {
         int result = -1;
-        while (m_file >= 0 && (result = flock(m_file, LOCK_EX)) != 0 && errno == EINTR) { }
+        while (m_file >= 0 && (result = flock(m_file, LOCK_EX)) != 0 && errno == EINTR) {}
         // A file system that knows no locks takes writes all the same, and then the last one wins.
         m_held = result == 0 || (m_file >= 0 && (errno == ENOLCK || errno == ENOTSUP || errno == EBADF));
     }

@@ -39,7 +39,8 @@ template<typename Text, typename Char>
 Text withLineEnds(std::span<const Char> text, std::span<const Char> replacement)
 {
     std::size_t size = 0;
-    walkLines(text, [&](auto stretch) { size += stretch.size(); }, [&] { size += replacement.size(); });
+    walkLines(
+        text, [&](auto stretch) { size += stretch.size(); }, [&] { size += replacement.size(); });
     Text result(static_cast<qsizetype>(size), Qt::Uninitialized);
     auto *out = reinterpret_cast<Char *>(result.data());
     const auto put = [&](std::span<const Char> part) { out = std::copy(part.begin(), part.end(), out); };
@@ -102,8 +103,9 @@ QByteArray toLineEnds(QByteArray text, LineEnds kind)
 
 QString toCrLf(const QString &text)
 {
-    return withLineEnds<QString>(characters(std::u16string_view(QStringView(text).utf16(), static_cast<std::size_t>(text.size()))),
-                                 characters(std::u16string_view(u"\r\n")));
+    return withLineEnds<QString>(
+        characters(std::u16string_view(QStringView(text).utf16(), static_cast<std::size_t>(text.size()))),
+        characters(std::u16string_view(u"\r\n")));
 }
 
 } // namespace zephira

@@ -89,7 +89,9 @@ Line Lines::read(QByteArrayView text)
 class Name
 {
 public:
-    explicit Name(const QString &name) : m_bytes(withoutBlanks(name.toUtf8()).toByteArray()), m_name(QString::fromUtf8(m_bytes)) {}
+    explicit Name(const QString &name)
+        : m_bytes(withoutBlanks(name.toUtf8()).toByteArray()), m_name(QString::fromUtf8(m_bytes))
+    {}
 
     const QByteArray &bytes() const { return m_bytes; }
     bool matches(QByteArrayView other) const
@@ -101,7 +103,8 @@ public:
     /// Whether the name can be written without becoming something else when it is read.
     bool avoids(QByteArrayView characters) const
     {
-        return std::none_of(m_bytes.begin(), m_bytes.end(), [&](char c) { return c == '\0' || characters.contains(c); });
+        return std::none_of(m_bytes.begin(), m_bytes.end(),
+                            [&](char c) { return c == '\0' || characters.contains(c); });
     }
 
 private:
@@ -152,7 +155,8 @@ QByteArray writtenValue(const QString &value)
 {
     QByteArray bytes = value.toUtf8();
     bytes.replace("\r\n", " ");
-    std::replace_if(bytes.begin(), bytes.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+    std::replace_if(
+        bytes.begin(), bytes.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
     if (bytes.startsWith(' ') || bytes.endsWith(' ') || isQuoted(bytes))
         return '"' + bytes + '"';
     return bytes;

@@ -2,8 +2,8 @@
 #include "files/recoverycopies.h"
 
 #include "core/clock.h"
-#include "files/fileerror.h"
 #include "core/filestore.h"
+#include "files/fileerror.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -26,7 +26,8 @@ constexpr qsizetype maximumBaseName = 180;
 /// Time and process; in universal time, so that names in order of the alphabet are in order of their age.
 QString stamp(const Clock &clock)
 {
-    return clock.now().toUTC().toString(u"yyyyMMdd-HHmmss-zzz"_s) + u'-' + QString::number(QCoreApplication::applicationPid());
+    return clock.now().toUTC().toString(u"yyyyMMdd-HHmmss-zzz"_s) + u'-'
+        + QString::number(QCoreApplication::applicationPid());
 }
 
 /// The end of the file's name, as it holds the extension, cut between characters.
@@ -43,8 +44,7 @@ QString baseName(const QString &titleOrPath)
 
 RecoveryCopies::RecoveryCopies(QString folder, FileStore &files, const Clock &clock)
     : m_folder(std::move(folder)), m_files(files), m_clock(clock), m_ownPrefix(u"open-"_s + stamp(clock) + u'-')
-{
-}
+{}
 
 Result<QString> RecoveryCopies::keepDisk(const QString &path, QByteArrayView bytes)
 {

@@ -20,9 +20,10 @@ constexpr char littleMark[] = "\xFF\xFE";
 constexpr char bigMark[] = "\xFE\xFF";
 
 /// What the bytes 0x80 to 0x9F stand for in Windows-1252; the five that it leaves undefined stand for themselves.
-constexpr std::array<char16_t, 32> windowsLetters{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char16_t, 32> windowsLetters{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                  0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 std::optional<char> toWindows1252(char32_t codePoint)
 {
@@ -73,7 +74,8 @@ std::optional<DecodedText> fromMarkedUtf16(QByteArrayView bytes)
     const bool little = bytes.startsWith(littleMark);
     if (!little && !bytes.startsWith(bigMark))
         return {};
-    std::optional<QByteArray> utf8 = little ? fromUtf16(bytes.sliced(2), littleUnit) : fromUtf16(bytes.sliced(2), bigUnit);
+    std::optional<QByteArray> utf8 =
+        little ? fromUtf16(bytes.sliced(2), littleUnit) : fromUtf16(bytes.sliced(2), bigUnit);
     if (!utf8)
         return {};
     return DecodedText{std::move(*utf8), {little ? Encoding::Utf16LE : Encoding::Utf16BE, true}};
@@ -105,12 +107,13 @@ qsizetype lineBehind(QByteArrayView before)
 Error unencodable(QByteArrayView utf8, QByteArrayView rest, Encoding encoding)
 {
     const QString place = u" in line "_s + QString::number(lineBehind(utf8.first(utf8.size() - rest.size())))
-                          + u" can't be stored as "_s + encodingName(encoding) + u'.';
+        + u" can't be stored as "_s + encodingName(encoding) + u'.';
     const std::optional<char32_t> codePoint = Utf8Reader(rest).next();
     if (!codePoint)
         return {Error::Code::Unencodable, u"A byte that is not valid UTF-8"_s + place};
     const QString number = QString::number(*codePoint, 16).toUpper().rightJustified(4, u'0');
-    const QString shown = QChar::isPrint(*codePoint) ? u"\u201C"_s + QString::fromUcs4(&*codePoint, 1) + u"\u201D "_s : QString();
+    const QString shown =
+        QChar::isPrint(*codePoint) ? u"\u201C"_s + QString::fromUcs4(&*codePoint, 1) + u"\u201D "_s : QString();
     return {Error::Code::Unencodable, u"The character "_s + shown + u"(U+"_s + number + u")"_s + place};
 }
 
@@ -166,7 +169,9 @@ Result<QByteArray> encodeWindows1252(QByteArrayView utf8, const TextFormat &form
     if (!bytes)
         return bytes;
     const bool plain = bytes.value().size() == utf8.size();
-    const QString other = fromMarkedUtf16(bytes.value()) ? u"UTF-16"_s : !plain && isValidUtf8(bytes.value()) ? u"UTF-8"_s : QString();
+    const QString other = fromMarkedUtf16(bytes.value()) ? u"UTF-16"_s
+        : !plain && isValidUtf8(bytes.value())           ? u"UTF-8"_s
+                                                         : QString();
     if (other.isEmpty())
         return bytes;
     return Error{Error::Code::Unencodable,
@@ -199,7 +204,8 @@ Result<QByteArray> encodeText(QByteArrayView utf8, const TextFormat &format)
 
 QByteArray windows1252ToUtf8(QByteArrayView bytes)
 {
-    const auto foreign = std::count_if(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    const auto foreign =
+        std::count_if(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
     QByteArray utf8(bytes.size() + 2 * foreign, Qt::Uninitialized);
     char *out = utf8.data();
     for (const char c : bytes) {

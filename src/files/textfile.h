@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "files/lineends.h"
 #include "core/result.h"
+#include "files/lineends.h"
 
 #include <QByteArray>
 

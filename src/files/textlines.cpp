@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/textlines.h"
 
-#include "files/fileerror.h"
 #include "core/filestore.h"
+#include "files/fileerror.h"
 #include "files/textfile.h"
 
 #include <algorithm>

@@ -78,8 +78,7 @@ void DirListBox::fill()
     const QIcon closed = ftpImage(folderImage, *this);
     const QString inside = withSlash(m_path);
     QList<QTreeWidgetItem *> items;
-    const QStringList names =
-        QDir(m_path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    const QStringList names = QDir(m_path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     for (const QString &name : names)
         items.append(makeItem(inside + name, name, closed));
     current->addChildren(items);

@@ -12,8 +12,7 @@ class ExtensionChange
 public:
     ExtensionChange(const QString &oldName, const QString &newName)
         : m_old(extensionOf(oldName)), m_new(extensionOf(newName))
-    {
-    }
+    {}
 
     bool isNone() const { return m_old == m_new; }
     /// What is asked when they differ; anything but Yes calls the renaming off.
@@ -21,7 +20,9 @@ public:
     {
         return {QStringLiteral("Are you sure to exchange the file extension from: \"") + m_old
                     + QStringLiteral("\" to: \"") + m_new + u'"',
-                {}, Question::Icon::Question, Question::Buttons::YesNo};
+                {},
+                Question::Icon::Question,
+                Question::Buttons::YesNo};
     }
 
 private:

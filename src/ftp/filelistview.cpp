@@ -60,15 +60,15 @@ public:
 
     NameDelegate(QObject *parent, Started started, Ended ended)
         : QStyledItemDelegate(parent), m_started(std::move(started)), m_ended(std::move(ended))
-    {
-    }
+    {}
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         // All cells of a grid are alike, and the first name must not decide how much of the others is shown.
         constexpr QSize gap(6, 2);
         const auto *list = qobject_cast<const QListView *>(option.widget);
-        return list && list->gridSize().isValid() ? list->gridSize() - gap : QStyledItemDelegate::sizeHint(option, index);
+        return list && list->gridSize().isValid() ? list->gridSize() - gap
+                                                  : QStyledItemDelegate::sizeHint(option, index);
     }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -99,8 +99,9 @@ private:
 } // namespace
 
 FileListView::FileListView(QWidget *parent)
-    : QTreeView(parent), m_model(new FileRowsModel([this](int number) { return ftpImage(number, *this); }, this)),
-      m_icons(new IconList(this, [this] { Q_EMIT listClicked(); }))
+    : QTreeView(parent)
+    , m_model(new FileRowsModel([this](int number) { return ftpImage(number, *this); }, this))
+    , m_icons(new IconList(this, [this] { Q_EMIT listClicked(); }))
 {
     setModel(m_model);
     setRootIsDecorated(false);
@@ -136,7 +137,8 @@ void FileListView::prepare(QAbstractItemView &view)
         &view, [this](const QString &name) { Q_EMIT editStarted(name); },
         [this](const QPersistentModelIndex &cell, const QString &name) {
             // The editor must be gone before anybody is asked anything: a question takes its focus, which ends it again.
-            QMetaObject::invokeMethod(this, [this, cell, name] { endEdit(cell, name); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, cell, name] { endEdit(cell, name); }, Qt::QueuedConnection);
         }));
 }
 
@@ -278,7 +280,8 @@ bool FileListView::takeKey(const QWidget &view, const QKeyEvent &key)
 /// The press has to select its row before the menu opens.
 void FileListView::requestPopup(const QPoint &place)
 {
-    QMetaObject::invokeMethod(this, [this, place] { Q_EMIT popupRequested(place); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, place] { Q_EMIT popupRequested(place); }, Qt::QueuedConnection);
 }
 
 void FileListView::mouseReleaseEvent(QMouseEvent *event)

@@ -25,8 +25,7 @@ constexpr ColumnRow columns[] = {
 
 FileRowsModel::FileRowsModel(std::function<QIcon(int)> imageOf, QObject *parent)
     : QAbstractTableModel(parent), m_imageOf(std::move(imageOf))
-{
-}
+{}
 
 void FileRowsModel::setRows(std::vector<FileRow> rows)
 {

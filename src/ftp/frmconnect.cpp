@@ -162,34 +162,38 @@ void FrmConnect::connectToSite()
         return;
     }
     tellingErrors(m_context.prompts, objectName(), u"Command3_Click"_s, {[this] {
-        m_client.desk->clearRemoteTree();
-        m_client.desk->clearLog();
-        FtpSession &session = m_client.session;
-        session.ftpServer = m_ui->txtServer->text();
-        session.ftpUser = m_ui->txtUser->text();
-        session.ftpPassword = m_ui->txtPass->text();
-        session.ftpPort = CInt(m_ui->txtPort->text());
-        session.ftpRemoteFolder.clear();
-        if (m_ui->txtSiteName->text().isEmpty())
-            m_ui->txtSiteName->setText(applicationTitle);
-        const ConnectRequest request{m_ui->txtSiteName->text(), m_ui->Option1->isChecked(), m_ui->Option3->isChecked()};
-        if (FtpConnection(m_client, m_context.prompts).connectToServer(request, [this] { hide(); }))
-            accept();
-    }});
+                      m_client.desk->clearRemoteTree();
+                      m_client.desk->clearLog();
+                      FtpSession &session = m_client.session;
+                      session.ftpServer = m_ui->txtServer->text();
+                      session.ftpUser = m_ui->txtUser->text();
+                      session.ftpPassword = m_ui->txtPass->text();
+                      session.ftpPort = CInt(m_ui->txtPort->text());
+                      session.ftpRemoteFolder.clear();
+                      if (m_ui->txtSiteName->text().isEmpty())
+                          m_ui->txtSiteName->setText(applicationTitle);
+                      const ConnectRequest request{m_ui->txtSiteName->text(), m_ui->Option1->isChecked(),
+                                                   m_ui->Option3->isChecked()};
+                      if (FtpConnection(m_client, m_context.prompts).connectToServer(request, [this] { hide(); }))
+                          accept();
+                  }});
 }
 
 void FrmConnect::deleteProfile()
 {
-    if (m_context.prompts.ask({u"Are you sure you want to delete this profile: "_s + m_chosen + u"?"_s, {},
-                               Question::Icon::None, Question::Buttons::YesNo})
+    if (m_context.prompts.ask({u"Are you sure you want to delete this profile: "_s + m_chosen + u"?"_s,
+                               {},
+                               Question::Icon::None,
+                               Question::Buttons::YesNo})
         != Answer::Yes)
         return;
     tellingErrors(m_context.prompts, objectName(), u"Command5_Click"_s, {[this] {
-        if (const Result<void> removed = m_context.files.remove(m_context.appPath + u'/' + m_chosen); !removed)
-            throw HandlerError{removed.error().sentence};
-        buildTree();
-        m_ui->Command5->setEnabled(false);
-    }});
+                      if (const Result<void> removed = m_context.files.remove(m_context.appPath + u'/' + m_chosen);
+                          !removed)
+                          throw HandlerError{removed.error().sentence};
+                      buildTree();
+                      m_ui->Command5->setEnabled(false);
+                  }});
 }
 
 void FrmConnect::setAnonymous(bool ticked)

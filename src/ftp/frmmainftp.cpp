@@ -97,8 +97,11 @@ const frmmainftp::ViewCommand frmmainftp::viewCommands[] = {
 };
 
 frmmainftp::frmmainftp(FtpClient &client, const AppContext &context, QWidget *owner)
-    : QMainWindow(owner), m_ui(std::make_unique<Ui::frmmainftp>()), m_client(client), m_context(context),
-      m_connection(client, context.prompts)
+    : QMainWindow(owner)
+    , m_ui(std::make_unique<Ui::frmmainftp>())
+    , m_client(client)
+    , m_context(context)
+    , m_connection(client, context.prompts)
 {
     m_ui->setupUi(this);
     m_client.desk = this;
@@ -194,9 +197,8 @@ void frmmainftp::connectLocalPane()
         guard(u"ListView1_AfterLabelEdit"_s, [&] { stays = m_local->renameEnded(oldName, newName); });
         return stays;
     };
-    connect(m_localPane, &LocalPane::driveChosen, this, [this](const QString &drive) {
-        guard(u"Drive1_Change"_s, [&] { m_local->chooseDrive(drive); });
-    });
+    connect(m_localPane, &LocalPane::driveChosen, this,
+            [this](const QString &drive) { guard(u"Drive1_Change"_s, [&] { m_local->chooseDrive(drive); }); });
     connect(m_localPane, &LocalPane::folderChosen, this, [this] { m_local->refill(); });
     connect(m_localPane, &LocalPane::drivesClicked, this,
             [this] { setPanel(textPanel, u"Local: Chose local disk"_s); });

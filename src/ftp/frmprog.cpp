@@ -45,8 +45,12 @@ quint32 tickCount()
 } // namespace
 
 frmProg::frmProg(FtpClient &client, const AppContext &context, QWidget *owner)
-    : QDialog(owner), m_ui(std::make_unique<Ui::frmProg>()), m_client(client), m_prompts(context.prompts),
-      m_queue(std::exchange(client.queue, {})), m_engine(client, context.files, context.prompts, *this, tickCount)
+    : QDialog(owner)
+    , m_ui(std::make_unique<Ui::frmProg>())
+    , m_client(client)
+    , m_prompts(context.prompts)
+    , m_queue(std::exchange(client.queue, {}))
+    , m_engine(client, context.files, context.prompts, *this, tickCount)
 {
     m_ui->setupUi(this);
     showQueue();

@@ -21,7 +21,7 @@ bool isDigit(char c)
 int codeOf(QByteArrayView line)
 {
     const bool hasCode = line.size() >= 3 && line[0] >= '1' && line[0] <= '5' && isDigit(line[1]) && isDigit(line[2])
-                         && (line.size() == 3 || line[3] == ' ' || line[3] == '-');
+        && (line.size() == 3 || line[3] == ' ' || line[3] == '-');
     return hasCode ? (line[0] - '0') * 100 + (line[1] - '0') * 10 + (line[2] - '0') : 0;
 }
 
@@ -116,11 +116,11 @@ bool hasFeature(const FtpReply &reply, QByteArrayView feature)
 {
     const QList<QByteArray> lines = reply.text.split('\n');
     return reply.isSuccess() && std::any_of(lines.begin(), lines.end(), [&](const QByteArray &line) {
-        const QByteArray words = line.trimmed();
-        const QByteArrayView word = QByteArrayView(words).first(std::min(words.size(), feature.size()));
-        return word.compare(feature, Qt::CaseInsensitive) == 0
-               && (words.size() == word.size() || words[word.size()] == ' ');
-    });
+               const QByteArray words = line.trimmed();
+               const QByteArrayView word = QByteArrayView(words).first(std::min(words.size(), feature.size()));
+               return word.compare(feature, Qt::CaseInsensitive) == 0
+                   && (words.size() == word.size() || words[word.size()] == ' ');
+           });
 }
 
 } // namespace zephira

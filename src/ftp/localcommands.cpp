@@ -56,8 +56,7 @@ FileRow localFileRow(const QString &path)
 
 LocalCommands::LocalCommands(FtpClient &client, FtpDesk &desk, LocalView &view, const AppContext &context)
     : m_client(client), m_desk(desk), m_view(view), m_context(context)
-{
-}
+{}
 
 void LocalCommands::refuse(const QString &message)
 {
@@ -176,7 +175,8 @@ void LocalCommands::deleteFiles()
     if (!confirm(u"Are you sure to delete these files?\r\nif you are, don't look for them in recycle!"_s))
         return;
     for (const FileRow &file : files)
-        require(QFile::remove(pathOf(file)), QFileInfo::exists(pathOf(file)) ? u"Permission denied"_s : u"File not found"_s);
+        require(QFile::remove(pathOf(file)),
+                QFileInfo::exists(pathOf(file)) ? u"Permission denied"_s : u"File not found"_s);
     refill();
 }
 
@@ -245,8 +245,9 @@ void LocalCommands::showProperties()
 void LocalCommands::showSummary()
 {
     const std::vector<FileRow> files = m_view.files().selected();
-    m_desk.setPanel(textPanel, u"Local: "_s + QString::number(files.size()) + u" Files selected, "_s
-                                   + CStr(static_cast<double>(totalBytes(files)) / localKilobyte) + u" Kb"_s);
+    m_desk.setPanel(textPanel,
+                    u"Local: "_s + QString::number(files.size()) + u" Files selected, "_s
+                        + CStr(static_cast<double>(totalBytes(files)) / localKilobyte) + u" Kb"_s);
 }
 
 } // namespace zephira

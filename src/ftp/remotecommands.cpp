@@ -18,8 +18,7 @@ namespace zephira {
 
 RemoteCommands::RemoteCommands(FtpClient &client, FtpDesk &desk, RemoteView &view, const AppContext &context)
     : m_client(client), m_desk(desk), m_view(view), m_context(context)
-{
-}
+{}
 
 bool RemoteCommands::isConnected(const QString &refusal)
 {
@@ -51,8 +50,9 @@ void RemoteCommands::list()
     m_view.files().setRows(std::move(listing.files));
     m_desk.log(LogEntry::ListingDone);
     m_desk.setBusy(false);
-    m_desk.setPanel(textPanel, u"Server: "_s + QString::number(m_view.files().count()) + u" Files in folder: "_s
-                                   + session.ftpSearchPath);
+    m_desk.setPanel(textPanel,
+                    u"Server: "_s + QString::number(m_view.files().count()) + u" Files in folder: "_s
+                        + session.ftpSearchPath);
 }
 
 void RemoteCommands::openNode(const RemoteNode &node)
@@ -126,8 +126,10 @@ void RemoteCommands::removeFolder()
         m_context.prompts.tell(u"This is the root folder that can not be removed!"_s, {}, Question::Icon::Exclamation);
         return;
     }
-    if (m_context.prompts.ask({u"Are you sure to remove this folder: "_s + node->text + u"?"_s, {},
-                               Question::Icon::Question, Question::Buttons::YesNo})
+    if (m_context.prompts.ask({u"Are you sure to remove this folder: "_s + node->text + u"?"_s,
+                               {},
+                               Question::Icon::Question,
+                               Question::Buttons::YesNo})
         != Answer::Yes)
         return;
     const QString path = m_client.session.ftpRemoteFolder.chopped(1);
@@ -151,8 +153,8 @@ void RemoteCommands::deleteFiles()
         m_context.prompts.tell(u"No file is selected to be deleted!!"_s);
         return;
     }
-    if (m_context.prompts.ask({u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question,
-                               Question::Buttons::YesNo})
+    if (m_context.prompts.ask(
+            {u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question, Question::Buttons::YesNo})
         != Answer::Yes)
         return;
     m_desk.log(LogEntry::DeletionBegun);
@@ -237,8 +239,9 @@ void RemoteCommands::showSummary()
 {
     constexpr double kilobyte = 1000;
     const std::vector<FileRow> files = m_view.files().selected();
-    m_desk.setPanel(textPanel, u"Server: "_s + QString::number(files.size()) + u" Files selected, "_s
-                                   + CStr(static_cast<double>(totalBytes(files)) / kilobyte) + u" kb"_s);
+    m_desk.setPanel(textPanel,
+                    u"Server: "_s + QString::number(files.size()) + u" Files selected, "_s
+                        + CStr(static_cast<double>(totalBytes(files)) / kilobyte) + u" kb"_s);
 }
 
 } // namespace zephira

@@ -13,8 +13,8 @@ RemoteListing readRemoteListing(InternetOperations &operations, InternetHandle c
 {
     RemoteListing listing;
     FindData entry;
-    const InternetHandle find = operations.FtpFindFirstFileA(
-        connection, searchPath, entry, INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE, 0);
+    const InternetHandle find = operations.FtpFindFirstFileA(connection, searchPath, entry,
+                                                             INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE, 0);
     for (bool found = find != 0; found; found = operations.InternetFindNextFileA(find, entry)) {
         if (const qsizetype end = entry.fileName.indexOf(QChar::Null); end >= 0)
             entry.fileName.truncate(end);
@@ -44,7 +44,11 @@ QString remoteDateText(quint64 fileTime)
 {
     SystemTime time;
     FileTimeToSystemTime(fileTime, time);
-    return u"%1.%2.%3%4:%5"_s.arg(time.day).arg(time.month).arg(time.year).arg(time.hour).arg(time.minute, 2, 10, QChar(u'0'));
+    return u"%1.%2.%3%4:%5"_s.arg(time.day)
+        .arg(time.month)
+        .arg(time.year)
+        .arg(time.hour)
+        .arg(time.minute, 2, 10, QChar(u'0'));
 }
 
 } // namespace zephira

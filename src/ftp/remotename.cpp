@@ -24,7 +24,7 @@ bool isPlainName(std::basic_string_view<Unit> name)
         return (unit >= 0 && unit < 0x20) || unit == 0x7f || unit == '/' || unit == '\\';
     };
     return !name.empty() && name != std::basic_string_view(dots, 1) && name != std::basic_string_view(dots, 2)
-           && std::none_of(name.begin(), name.end(), isForbidden);
+        && std::none_of(name.begin(), name.end(), isForbidden);
 }
 
 template<typename Unit>
@@ -37,14 +37,12 @@ bool endsNoCommand(std::basic_string_view<Unit> text)
 
 bool isSafeRemoteName(QStringView name)
 {
-    return isPlainName(unitsOf(name.utf16(), name.size()))
-           && name.toUtf8().size() <= longestRemoteName;
+    return isPlainName(unitsOf(name.utf16(), name.size())) && name.toUtf8().size() <= longestRemoteName;
 }
 
 bool isSafeRemoteName(QByteArrayView name)
 {
-    return isPlainName(unitsOf(name.data(), name.size()))
-           && name.size() <= longestRemoteName;
+    return isPlainName(unitsOf(name.data(), name.size())) && name.size() <= longestRemoteName;
 }
 
 bool isSafeInCommand(QStringView text)

@@ -8,27 +8,27 @@ namespace zephira {
 
 /// What the session log tells. The comments name the parts that an entry takes, in their order.
 enum class LogEntry {
-    Banner,            ///< site name, server
+    Banner, ///< site name, server
     ServiceFailed,
     HostSearched,
     ServerFailed,
     Connected,
     Disconnected,
     ListingBegun,
-    FolderOpened,      ///< search path
+    FolderOpened, ///< search path
     ListingDone,
     DownloadQueued,
     UploadQueued,
-    QueuedFile,        ///< number, path
-    DownloadBegun,     ///< server path, local path
-    UploadBegun,       ///< local path, server path
+    QueuedFile,    ///< number, path
+    DownloadBegun, ///< server path, local path
+    UploadBegun,   ///< local path, server path
     Done,
     DownloadRefused,
     UploadRefused,
     UploadFailed,
-    LocalFileFailed,   ///< sentence
-    RenameBegun,       ///< old name, new name
-    Renamed,           ///< new name
+    LocalFileFailed, ///< sentence
+    RenameBegun,     ///< old name, new name
+    Renamed,         ///< new name
     RenameFailed,
     RenameError,
     FolderRemovalBegun, ///< path
@@ -39,7 +39,7 @@ enum class LogEntry {
     FolderCreationFailed,
     FolderCreationError,
     DeletionBegun,
-    FileDeletion,      ///< name
+    FileDeletion, ///< name
     DeletionFailed,
 };
 

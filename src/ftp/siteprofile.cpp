@@ -22,11 +22,8 @@ struct ProfileKey {
 };
 
 constexpr ProfileKey profileKeys[] = {
-    {u"sname", &SiteProfile::siteName, 50},
-    {u"adresa", &SiteProfile::server, 75},
-    {u"ID", &SiteProfile::user, 50},
-    {u"pass", &SiteProfile::password, 50},
-    {u"port", &SiteProfile::port, 50},
+    {u"sname", &SiteProfile::siteName, 50}, {u"adresa", &SiteProfile::server, 75}, {u"ID", &SiteProfile::user, 50},
+    {u"pass", &SiteProfile::password, 50},  {u"port", &SiteProfile::port, 50},
 };
 
 const QString section = u"PROFIL"_s;

@@ -40,7 +40,11 @@ public:
         }
         return m_chunks.back().data() + m_used;
     }
-    void take(quint32 count) { m_used += count; m_size += count; }
+    void take(quint32 count)
+    {
+        m_used += count;
+        m_size += count;
+    }
     qint64 size() const { return m_size; }
 
     std::vector<QByteArrayView> pieces() const
@@ -63,8 +67,7 @@ private:
 TransferEngine::TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, TransferDisplay &display,
                                std::function<quint32()> ticks)
     : m_client(client), m_files(files), m_prompts(prompts), m_display(display), m_ticks(std::move(ticks))
-{
-}
+{}
 
 TransferEngine::~TransferEngine() = default;
 

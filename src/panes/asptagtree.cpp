@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/asptagtree.h"
 
-#include "widgets/itemchoice.h"
 #include "core/pasteitem.h"
+#include "widgets/itemchoice.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +14,8 @@ AspTagTree::AspTagTree(const AppContext &context, QWidget *parent) : QTreeWidget
     setAccessibleName(u"ASP Codes / Tags"_s);
     setHeaderHidden(true);
     setRootIsDecorated(false);
-    onItemChosen(*this, this, [&context](const QModelIndex &index) { pasteInCodeView(context, index.data().toString()); });
+    onItemChosen(*this, this,
+                 [&context](const QModelIndex &index) { pasteInCodeView(context, index.data().toString()); });
 }
 
 void AspTagTree::addLines(const QStringList &lines)

@@ -3,12 +3,12 @@
 
 #include "core/appcontext.h"
 #include "core/configuration.h"
-#include "files/filenumber.h"
-#include "widgets/itemchoice.h"
 #include "core/itemroles.h"
 #include "core/pasteitem.h"
 #include "core/prompts.h"
+#include "files/filenumber.h"
 #include "panes/customtabfile.h"
+#include "widgets/itemchoice.h"
 
 #include <QContextMenuEvent>
 #include <QListWidget>
@@ -96,10 +96,11 @@ void CustomTabs::LoadCustomTab(const QString &filePath, QTreeWidget *listView, Q
     listView->clear();
     const Result<QStringList> lines = m_fileNumber.readLines(filePath, 1);
     if (!lines) {
-        m_context.prompts.ask({u"An error has occured, the error is most likely due to an empty custom code snips file. "
-                               "Here is an exact description of the error, please use this description when contacting "
-                               "support: "_s
-                               + lines.error().sentence});
+        m_context.prompts.ask(
+            {u"An error has occured, the error is most likely due to an empty custom code snips file. "
+             "Here is an exact description of the error, please use this description when contacting "
+             "support: "_s
+             + lines.error().sentence});
         return;
     }
     lineBuffer->addItems(lines.value());
@@ -118,9 +119,9 @@ void CustomTabs::addEntry()
 {
     const QString code =
         m_context.prompts.input({u"What is the code you wish to add?"_s, u"Add Entry - Code"_s}).value_or(QString());
-    const QString title = m_context.prompts
-                              .input({u"What is the title you wish to give to this entry?"_s, u"Add Entry - Title"_s, code})
-                              .value_or(QString());
+    const QString title =
+        m_context.prompts.input({u"What is the title you wish to give to this entry?"_s, u"Add Entry - Title"_s, code})
+            .value_or(QString());
     if (code.isEmpty() || title.isEmpty())
         return;
     // Title and code go in together, so that no entry is left with half of itself.

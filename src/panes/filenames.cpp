@@ -87,9 +87,8 @@ QStringList fileNames(const QString &folder, const QString &patterns)
         if (wanted.match(name))
             found.push_back({name.toCaseFolded(), std::move(name)});
     }
-    std::ranges::sort(found, [](const Name &a, const Name &b) {
-        return std::tie(a.folded, a.name) < std::tie(b.folded, b.name);
-    });
+    std::ranges::sort(
+        found, [](const Name &a, const Name &b) { return std::tie(a.folded, a.name) < std::tie(b.folded, b.name); });
     QStringList names;
     names.reserve(static_cast<qsizetype>(found.size()));
     for (Name &entry : found)

@@ -13,8 +13,11 @@ using namespace Qt::StringLiterals;
 namespace zephira {
 
 FilePane::FilePane(Prompts &prompts, QWidget *parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::FilePane>()), m_prompts(prompts), m_file(new FileListBox(this)),
-      m_watch(this)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::FilePane>())
+    , m_prompts(prompts)
+    , m_file(new FileListBox(this))
+    , m_watch(this)
 {
     m_ui->setupUi(this);
     m_file->setObjectName(u"file"_s);

@@ -87,8 +87,7 @@ void addNew(QTreeWidgetItem *item, const QStringList &names)
     }
     int row = 0;
     for (QTreeWidgetItem *child : fresh) {
-        while (row < item->childCount()
-               && item->child(row)->text(0).compare(child->text(0), Qt::CaseInsensitive) < 0)
+        while (row < item->childCount() && item->child(row)->text(0).compare(child->text(0), Qt::CaseInsensitive) < 0)
             ++row;
         item->insertChild(row, child);
     }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/ihtmltaglist.h"
 
-#include "widgets/itemchoice.h"
 #include "core/pasteitem.h"
 #include "panes/ihtmltags.h"
+#include "widgets/itemchoice.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,8 @@ IhtmlTagList::IhtmlTagList(const AppContext &context, QWidget *parent) : QListWi
     setUniformItemSizes(true);
     for (const QStringView tag : ihtmlTags())
         addItem(tag.toString());
-    onItemChosen(*this, this, [&context](const QModelIndex &index) { pasteInCodeView(context, index.data().toString()); });
+    onItemChosen(*this, this,
+                 [&context](const QModelIndex &index) { pasteInCodeView(context, index.data().toString()); });
 }
 
 } // namespace zephira

@@ -3,11 +3,11 @@
 
 #include "core/appcontext.h"
 #include "core/editingcontrol.h"
-#include "widgets/itemchoice.h"
 #include "core/prompts.h"
 #include "panes/objectbrowserlayout.h"
 #include "panes/sotloader.h"
 #include "ui_oebrowser.h"
+#include "widgets/itemchoice.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,7 +38,8 @@ void oebrowser::resizeEvent(QResizeEvent *event)
 
 void oebrowser::showTree(const QString &fileName)
 {
-    const Result<void> loaded = LoadSotTree(m_context.files, m_context.appPath + u"/deps/"_s + fileName, *m_ui->TreeView1);
+    const Result<void> loaded =
+        LoadSotTree(m_context.files, m_context.appPath + u"/deps/"_s + fileName, *m_ui->TreeView1);
     if (!loaded)
         m_context.prompts.tell(loaded.error().sentence, windowTitle(), Question::Icon::Exclamation);
 }

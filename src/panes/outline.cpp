@@ -40,7 +40,7 @@ constexpr std::array<OutlineRoot, 17> roots{{
 /// What a tag shows in the tree.
 enum class Show {
     Nothing,
-    Name,        ///< as it is written
+    Name, ///< as it is written
     UpperName,
     Attribute,   ///< the first that is present, else `otherwise`, else the whole inner text
     Anchor,      ///< a link where it has a target, else a bookmark
@@ -58,7 +58,8 @@ struct TagRule {
     bool beginsBlock = false;
 };
 
-constexpr std::array formAttributes{QStringView(u"NAME"), QStringView(u"ID"), QStringView(u"VALUE"), QStringView(u"TYPE")};
+constexpr std::array formAttributes{QStringView(u"NAME"), QStringView(u"ID"), QStringView(u"VALUE"),
+                                    QStringView(u"TYPE")};
 
 constexpr TagRule rules[] = {
     {u"body", Show::UpperName, Document},

@@ -47,7 +47,8 @@ std::size_t firstFixedChild(std::size_t parent)
 /// The group of an index that is a fixed node.
 std::size_t groupOf(const QModelIndex &index)
 {
-    return index.internalId() == noParent ? 0 : firstFixedChild(index.internalId()) + static_cast<std::size_t>(index.row());
+    return index.internalId() == noParent ? 0
+                                          : firstFixedChild(index.internalId()) + static_cast<std::size_t>(index.row());
 }
 
 } // namespace
@@ -58,7 +59,8 @@ void OutlineModel::parse(const QString &documentText)
     const auto end = qScopeGuard([this] { endResetModel(); });
     for (std::vector<OutlineLeaf> &leaves : m_leaves)
         leaves.clear();
-    scanOutline(documentText, [this](OutlineLeaf &&leaf) { m_leaves[numberOf(leaf.group)].push_back(std::move(leaf)); });
+    scanOutline(documentText,
+                [this](OutlineLeaf &&leaf) { m_leaves[numberOf(leaf.group)].push_back(std::move(leaf)); });
 }
 
 QModelIndex OutlineModel::groupIndex(OutlineGroup group) const

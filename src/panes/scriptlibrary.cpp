@@ -3,13 +3,13 @@
 
 #include "core/appcontext.h"
 #include "core/filestore.h"
-#include "files/textfile.h"
-#include "widgets/itemchoice.h"
 #include "core/itemroles.h"
 #include "core/pasteitem.h"
 #include "core/refusals.h"
+#include "files/textfile.h"
 #include "panes/filelistbox.h"
 #include "panes/foldertree.h"
+#include "widgets/itemchoice.h"
 
 #include <QListWidget>
 #include <QSplitter>
@@ -20,8 +20,11 @@ using namespace Qt::StringLiterals;
 namespace zephira {
 
 ScriptLibrary::ScriptLibrary(const AppContext &context, QWidget *parent)
-    : QGroupBox(u"Script Library"_s, parent), m_context(context), m_folders(new FolderTree), m_scripts(new QListWidget),
-      m_files(new FileListBox(this))
+    : QGroupBox(u"Script Library"_s, parent)
+    , m_context(context)
+    , m_folders(new FolderTree)
+    , m_scripts(new QListWidget)
+    , m_files(new FileListBox(this))
 {
     setObjectName(u"frmscripts"_s);
     m_folders->setObjectName(u"scriptfolder"_s);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/selectorlist.h"
 
-#include "widgets/itemchoice.h"
 #include "core/pasteitem.h"
+#include "widgets/itemchoice.h"
 
 #include <QKeyEvent>
 

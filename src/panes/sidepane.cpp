@@ -20,8 +20,11 @@ constexpr int margin = 4;
 } // namespace
 
 SidePane::SidePane(Prompts &prompts, QWidget *parent)
-    : QWidget(parent), m_prompts(prompts), m_tabs(new SideTabBar(this)), m_stack(new QStackedWidget(this)),
-      m_nothing(new QWidget(m_stack))
+    : QWidget(parent)
+    , m_prompts(prompts)
+    , m_tabs(new SideTabBar(this))
+    , m_stack(new QStackedWidget(this))
+    , m_nothing(new QWidget(m_stack))
 {
     setObjectName(u"sidePane"_s);
     m_tabs->setObjectName(u"Frame1"_s);

@@ -29,8 +29,9 @@ Result<void> LoadSotTree(const FileStore &files, const QString &filePath, QTreeW
     tree.addTopLevelItems(roots);
     if (content.faultyLine == 0)
         return {};
-    return Error{Error::Code::Malformed, u"The file \"%1\" was not read to its end: line %2 is indented too far."_s.arg(
-                                             filePath, QString::number(content.faultyLine))};
+    return Error{Error::Code::Malformed,
+                 u"The file \"%1\" was not read to its end: line %2 is indented too far."_s.arg(
+                     filePath, QString::number(content.faultyLine))};
 }
 
 } // namespace zephira

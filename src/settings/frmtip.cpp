@@ -5,9 +5,9 @@
 #include "ui_frmtip.h"
 
 #include "core/filestore.h"
-#include "files/textfile.h"
-#include "core/usersettings.h"
 #include "core/settingsnames.h"
+#include "core/usersettings.h"
+#include "files/textfile.h"
 
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -19,8 +19,7 @@ namespace zephira {
 
 frmTip::frmTip(const AppContext &context, QWidget *owner)
     : frmTip(context, owner, [] { return QRandomGenerator::global()->generateDouble(); })
-{
-}
+{}
 
 frmTip::frmTip(const AppContext &context, QWidget *owner, Random random)
     : QDialog(owner), m_context(context), m_random(std::move(random)), m_ui(std::make_unique<Ui::frmTip>())

@@ -7,9 +7,9 @@
 #include "start/templates.h"
 #include "ui_frmselprj.h"
 
+#include "core/configuration.h"
 #include "core/documenthost.h"
 #include "core/editingcontrol.h"
-#include "core/configuration.h"
 #include "core/prompts.h"
 
 #include <QAction>
@@ -33,8 +33,11 @@ constexpr QSize pictureSize(104, 78);
 } // namespace
 
 frmselprj::frmselprj(const AppContext &context, QWidget *owner)
-    : QDialog(owner), m_context(context), m_templateFolder(context.appPath + u"/templates/"_s),
-      m_customFolder(m_templateFolder + u"custom"_s), m_ui(std::make_unique<Ui::frmselprj>())
+    : QDialog(owner)
+    , m_context(context)
+    , m_templateFolder(context.appPath + u"/templates/"_s)
+    , m_customFolder(m_templateFolder + u"custom"_s)
+    , m_ui(std::make_unique<Ui::frmselprj>())
 {
     m_ui->setupUi(this);
     addTemplateButtons();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "start/templates.h"
 
-#include "document/languages.h"
 #include "core/filestore.h"
+#include "document/languages.h"
 #include "files/lineends.h"
 #include "files/textfile.h"
 
@@ -79,8 +79,9 @@ Result<QString> readTemplate(const FileStore &files, const QString &path)
     if (bytes.error().code != Error::Code::NotFound)
         return bytes.error();
     const qsizetype separator = path.lastIndexOf(u'/');
-    return Error{Error::Code::NotFound, u"The template file \"%1\" was not found in the folder\r\n%2"_s.arg(
-                                            path.mid(separator + 1), path.left(separator))};
+    return Error{Error::Code::NotFound,
+                 u"The template file \"%1\" was not found in the folder\r\n%2"_s.arg(path.mid(separator + 1),
+                                                                                     path.left(separator))};
 }
 
 } // namespace zephira

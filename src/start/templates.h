@@ -21,7 +21,7 @@ struct TemplateButton {
     QStringView name;    ///< objectName of the button
     QStringView caption; ///< "" where the button bears a picture
     QStringView file;    ///< in the folder `templates`, or ""
-    int language;            ///< row of the language list
+    int language;        ///< row of the language list
 };
 
 /// All buttons, page by page in the order in which they stand.

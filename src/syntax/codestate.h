@@ -30,7 +30,8 @@ struct CodeState {
     quint32 packed() const
     {
         const quint32 value = carriesEnding() ? ending : substitutions;
-        return static_cast<quint32>(kind) | value << 3 | (kind == Kind::Comment ? quint32{pair} << embeddedStateBits : 0u);
+        return static_cast<quint32>(kind) | value << 3
+            | (kind == Kind::Comment ? quint32{pair} << embeddedStateBits : 0u);
     }
 
     unsigned openSubstitutions() const { return substitutions & 3u; }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parts of a procedural language in which nothing counts but the sign that ends them: strings and comments.
-#include "syntax/numbers.h"
 #include "syntax/codewalk.h"
+#include "syntax/numbers.h"
 
 #include <algorithm>
 
@@ -40,10 +40,13 @@ quint32 ProceduralLexer::behindLineEnd(quint32 bits) const
 SyntaxStyle ProceduralLexer::lineEndStyle(quint32 bits) const
 {
     switch (CodeState::unpacked(bits).kind) {
-    case CodeState::Kind::Code: return SyntaxStyle::Text;
+    case CodeState::Kind::Code:
+        return SyntaxStyle::Text;
     case CodeState::Kind::Comment:
-    case CodeState::Kind::LineComment: return SyntaxStyle::Comment;
-    default: return SyntaxStyle::String;
+    case CodeState::Kind::LineComment:
+        return SyntaxStyle::Comment;
+    default:
+        return SyntaxStyle::String;
     }
 }
 

@@ -73,8 +73,7 @@ class CssWalk
 public:
     CssWalk(const StyleCanvas &canvas, const Byte *begin, const Byte *end, CssState state)
         : m_state(state), m_canvas(canvas), m_p(begin), m_end(end)
-    {
-    }
+    {}
 
     void run()
     {
@@ -113,7 +112,9 @@ private:
                 m_state.inside = Inside::Nothing;
             }
         } else {
-            const Byte close = m_state.inside == Inside::Url ? ')' : m_state.inside == Inside::DoubleQuotes ? '"' : '\'';
+            const Byte close = m_state.inside == Inside::Url ? ')'
+                : m_state.inside == Inside::DoubleQuotes     ? '"'
+                                                             : '\'';
             while (q < m_end && *q != close)
                 q += *q == '\\' ? 2 : 1;
             m_state.escapedLineEnd = q > m_end;
@@ -147,10 +148,13 @@ private:
                 m_state.part = partAt(m_p, m_end, m_state.depth);
             switch (m_state.part) {
             case Part::Start:
-            case Part::Selector: return selector();
-            case Part::Property: return property();
+            case Part::Selector:
+                return selector();
+            case Part::Property:
+                return property();
             case Part::AtRule:
-            case Part::Value: return value();
+            case Part::Value:
+                return value();
             }
         }
     }
@@ -261,9 +265,12 @@ quint32 CssLexer::behindLineEnd(quint32 bits) const
 SyntaxStyle CssLexer::lineEndStyle(quint32 bits) const
 {
     switch (CssState::unpacked(bits).inside) {
-    case Inside::Nothing: return SyntaxStyle::Text;
-    case Inside::Comment: return SyntaxStyle::Comment;
-    default: return SyntaxStyle::String;
+    case Inside::Nothing:
+        return SyntaxStyle::Text;
+    case Inside::Comment:
+        return SyntaxStyle::Comment;
+    default:
+        return SyntaxStyle::String;
     }
 }
 

@@ -45,8 +45,9 @@ constexpr QStringView phrases = u"#End If|#End Region|End If|Exit Sub|Exit Funct
                                 "Declare Sub|Declare Function|Declare PtrSafe Sub|Declare PtrSafe Function|"
                                 "Resume Next|For Input|For Output|For Append|For Binary|For Random|End Set|End Get";
 
-constexpr QStringView blockBeginnings = u"Sub|Function|Class|Property|Property Get|Property Let|Property Set|For|For Each|"
-                                        "Do|Do While|Do Until|While|Select|Select Case|With|Type|Enum";
+constexpr QStringView blockBeginnings =
+    u"Sub|Function|Class|Property|Property Get|Property Let|Property Set|For|For Each|"
+    "Do|Do While|Do Until|While|Select|Select Case|With|Type|Enum";
 
 constexpr QStringView blockEnds = u"End Sub|End Function|End Class|End Property|Next|Loop|Loop While|Loop Until|Wend|"
                                   "End While|End Select|End With|End Type|End Enum";

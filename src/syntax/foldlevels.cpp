@@ -16,13 +16,17 @@ enum Scope : Byte { Opens = 1, Closes = 2 };
 /// The elements whose end tag may not be left out, and the three that frame a document. Others would open folds that
 /// nobody closes.
 constexpr QByteArrayView foldedElements[] = {
-    "html", "head", "body", "a", "abbr", "address", "applet", "article", "aside", "audio", "b", "bdi", "bdo",
-    "blockquote", "button", "canvas", "caption", "center", "cite", "code", "data", "datalist", "del", "details", "dfn",
-    "dialog", "dir", "div", "dl", "em", "fieldset", "figcaption", "figure", "font", "footer", "form", "frameset", "h1",
-    "h2", "h3", "h4", "h5", "h6", "header", "hgroup", "i", "iframe", "ins", "kbd", "label", "legend", "main", "map",
-    "mark", "math", "menu", "meter", "nav", "noframes", "noscript", "object", "ol", "output", "picture", "pre",
-    "progress", "q", "s", "samp", "script", "search", "section", "select", "small", "span", "strong", "style", "sub",
-    "summary", "sup", "svg", "table", "template", "textarea", "time", "title", "tt", "u", "ul", "var", "video"};
+    "html",     "head",     "body",     "a",        "abbr",       "address",  "applet",  "article", "aside",
+    "audio",    "b",        "bdi",      "bdo",      "blockquote", "button",   "canvas",  "caption", "center",
+    "cite",     "code",     "data",     "datalist", "del",        "details",  "dfn",     "dialog",  "dir",
+    "div",      "dl",       "em",       "fieldset", "figcaption", "figure",   "font",    "footer",  "form",
+    "frameset", "h1",       "h2",       "h3",       "h4",         "h5",       "h6",      "header",  "hgroup",
+    "i",        "iframe",   "ins",      "kbd",      "label",      "legend",   "main",    "map",     "mark",
+    "math",     "menu",     "meter",    "nav",      "noframes",   "noscript", "object",  "ol",      "output",
+    "picture",  "pre",      "progress", "q",        "s",          "samp",     "script",  "search",  "section",
+    "select",   "small",    "span",     "strong",   "style",      "sub",      "summary", "sup",     "svg",
+    "table",    "template", "textarea", "time",     "title",      "tt",       "u",       "ul",      "var",
+    "video"};
 
 /// Styles that can change the depth.
 constexpr bool isFolding(Byte style)
@@ -102,8 +106,8 @@ FoldLine FoldRules::fold(QByteArrayView line, std::span<const unsigned char> sty
     }
 
     // A comment goes on where it has the line end, too.
-    const bool comment = end > textEnd
-        && styles[static_cast<std::size_t>(end - begin) - 1] == static_cast<Byte>(SyntaxStyle::Comment);
+    const bool comment =
+        end > textEnd && styles[static_cast<std::size_t>(end - begin) - 1] == static_cast<Byte>(SyntaxStyle::Comment);
     depth += static_cast<int>(comment) - static_cast<int>(state.inComment);
     depth = std::max(depth, 0);
     result.header = depth > result.level;

@@ -14,8 +14,8 @@ using namespace std::string_view_literals;
 /// A date literal is short; a longer stretch between two number signs is something else.
 constexpr std::ptrdiff_t longestDate = 40;
 
-constexpr std::string_view dateWords[] = {"am", "pm", "jan", "feb", "mar", "apr", "may", "jun",
-                                          "jul", "aug", "sep", "oct", "nov", "dec"};
+constexpr std::string_view dateWords[] = {"am",  "pm",  "jan", "feb", "mar", "apr", "may",
+                                          "jun", "jul", "aug", "sep", "oct", "nov", "dec"};
 
 bool isNumberByte(Byte byte)
 {
@@ -110,7 +110,9 @@ const Byte *signedNumberEnd(const Byte *p, const Byte *end, Dialect dialect)
     if (*p == '&' && has(dialect, Dialect::AmpersandNumbers) && room > 2) {
         const Byte form = p[1] | 32;
         const Byte *digits = p + 2;
-        const Byte *q = form == 'h' ? hexEnd(digits, end) : form == 'o' ? std::find_if_not(digits, end, isDigit) : digits;
+        const Byte *q = form == 'h' ? hexEnd(digits, end)
+            : form == 'o'           ? std::find_if_not(digits, end, isDigit)
+                                    : digits;
         if (q == digits || (q < end && (isNumberByte(*q) || *q >= 0x80)))
             return p;
         return q < end && *q == '&' ? q + 1 : q;

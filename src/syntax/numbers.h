@@ -6,10 +6,22 @@
 
 namespace zephira {
 
-constexpr bool isDigit(Byte byte) { return byte >= '0' && byte <= '9'; }
-constexpr bool isLetter(Byte byte) { return (byte | 32) >= 'a' && (byte | 32) <= 'z'; }
-constexpr bool isHexDigit(Byte byte) { return isDigit(byte) || ((byte | 32) >= 'a' && (byte | 32) <= 'f'); }
-constexpr bool isBlank(Byte byte) { return byte == ' ' || byte == '\t' || byte == '\f' || byte == '\v'; }
+constexpr bool isDigit(Byte byte)
+{
+    return byte >= '0' && byte <= '9';
+}
+constexpr bool isLetter(Byte byte)
+{
+    return (byte | 32) >= 'a' && (byte | 32) <= 'z';
+}
+constexpr bool isHexDigit(Byte byte)
+{
+    return isDigit(byte) || ((byte | 32) >= 'a' && (byte | 32) <= 'f');
+}
+constexpr bool isBlank(Byte byte)
+{
+    return byte == ' ' || byte == '\t' || byte == '\f' || byte == '\v';
+}
 
 /// The end of the number that begins at `p` with a digit, or a point and a digit: decimal, hexadecimal, octal and binary
 /// forms, fractions, exponents, separators and the letters behind ("10UL", "1.5e-3f", "12px"). "1..5" is two numbers.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syntax/procedurallexer.h"
 
-#include "syntax/numbers.h"
 #include "syntax/codewalk.h"
+#include "syntax/numbers.h"
 
 #include <algorithm>
 
@@ -26,13 +26,19 @@ constexpr QByteArrayView valueKeywords[] = {"this", "super", "null", "true", "fa
 constexpr SyntaxStyle styleOf(TokenKind kind)
 {
     switch (kind) {
-    case TokenKind::Keyword: return SyntaxStyle::Keyword;
-    case TokenKind::Operator: return SyntaxStyle::Operator;
-    case TokenKind::Scope: return SyntaxStyle::ScopeKeyword;
-    case TokenKind::String: return SyntaxStyle::String;
+    case TokenKind::Keyword:
+        return SyntaxStyle::Keyword;
+    case TokenKind::Operator:
+        return SyntaxStyle::Operator;
+    case TokenKind::Scope:
+        return SyntaxStyle::ScopeKeyword;
+    case TokenKind::String:
+        return SyntaxStyle::String;
     case TokenKind::LineComment:
-    case TokenKind::LongComment: return SyntaxStyle::Comment;
-    case TokenKind::None: break;
+    case TokenKind::LongComment:
+        return SyntaxStyle::Comment;
+    case TokenKind::None:
+        break;
     }
     return SyntaxStyle::Text;
 }
@@ -48,8 +54,8 @@ ProceduralLexer::ProceduralLexer(const LanguageDefinition &definition)
 {
     for (unsigned byte = 0; byte < 256; ++byte) {
         const Byte b = static_cast<Byte>(byte);
-        m_isWord[byte] = isLetter(b) || isDigit(b) || b == '_' || b >= 0x80
-            || (b == '$' && has(m_dialect, Dialect::DollarInWords));
+        m_isWord[byte] =
+            isLetter(b) || isDigit(b) || b == '_' || b >= 0x80 || (b == '$' && has(m_dialect, Dialect::DollarInWords));
     }
 
     const CodeMaxLanguage &language = definition.language;
@@ -93,14 +99,16 @@ void ProceduralLexer::addWords(const QString &list, TokenKind kind)
 
 void ProceduralLexer::addEntry(const QByteArray &entry, TokenKind kind, std::size_t index)
 {
-    const bool word = std::all_of(entry.begin(), entry.end(), [this](char c) { return m_isWord[static_cast<Byte>(c)]; });
+    const bool word =
+        std::all_of(entry.begin(), entry.end(), [this](char c) { return m_isWord[static_cast<Byte>(c)]; });
     if (word && kind != TokenKind::LongComment && kind != TokenKind::String)
         m_words.add(entry, static_cast<Byte>(kind));
     else
         m_symbols.add({entry, kind, static_cast<quint16>(index)});
     if (has(m_dialect, Dialect::Preprocessor) && entry.startsWith('#') && entry.size() > 1) {
         const QByteArray name = entry.sliced(1);
-        const bool file = std::find(std::begin(fileDirectives), std::end(fileDirectives), name) != std::end(fileDirectives);
+        const bool file =
+            std::find(std::begin(fileDirectives), std::end(fileDirectives), name) != std::end(fileDirectives);
         m_directives.add(name, file ? NamesFile : Plain);
     }
 }
@@ -124,9 +132,9 @@ void ProceduralLexer::classifyBytes()
         Dialect dialect;
         std::string_view bytes;
     } special[] = {
-        {Dialect::Templates, "`{}"},          {Dialect::TextBlocks, "\""}, {Dialect::RegularExpressions, "/"},
-        {Dialect::Preprocessor, "#"},         {Dialect::DateLiterals, "#"}, {Dialect::DollarNumbers, "#$"},
-        {Dialect::AmpersandNumbers, "&"},     {Dialect::PhpClosing, "?"},  {Dialect::HereDocuments, "<"},
+        {Dialect::Templates, "`{}"},      {Dialect::TextBlocks, "\""},  {Dialect::RegularExpressions, "/"},
+        {Dialect::Preprocessor, "#"},     {Dialect::DateLiterals, "#"}, {Dialect::DollarNumbers, "#$"},
+        {Dialect::AmpersandNumbers, "&"}, {Dialect::PhpClosing, "?"},   {Dialect::HereDocuments, "<"},
     };
     for (const auto &row : special) {
         for (const char byte : has(m_dialect, row.dialect) ? row.bytes : std::string_view())
@@ -140,14 +148,30 @@ const Byte *ProceduralLexer::paint(const StyleCanvas &canvas, const Byte *begin,
     Walk walk{canvas, begin, end, lineStart, CodeState::unpacked(state)};
     while (walk.p < end && !walk.stopped) {
         switch (walk.state.kind) {
-        case CodeState::Kind::Code: paintCode(walk); break;
-        case CodeState::Kind::Comment: paintComment(walk); break;
-        case CodeState::Kind::String: paintString(walk); break;
-        case CodeState::Kind::Template: paintTemplate(walk); break;
-        case CodeState::Kind::HereDocument: paintHereDocument(walk); break;
-        case CodeState::Kind::RawString: paintRawString(walk); break;
-        case CodeState::Kind::LineComment: paintLineComment(walk); break;
-        case CodeState::Kind::TextBlock: paintTextBlock(walk); break;
+        case CodeState::Kind::Code:
+            paintCode(walk);
+            break;
+        case CodeState::Kind::Comment:
+            paintComment(walk);
+            break;
+        case CodeState::Kind::String:
+            paintString(walk);
+            break;
+        case CodeState::Kind::Template:
+            paintTemplate(walk);
+            break;
+        case CodeState::Kind::HereDocument:
+            paintHereDocument(walk);
+            break;
+        case CodeState::Kind::RawString:
+            paintRawString(walk);
+            break;
+        case CodeState::Kind::LineComment:
+            paintLineComment(walk);
+            break;
+        case CodeState::Kind::TextBlock:
+            paintTextBlock(walk);
+            break;
         }
     }
     walk.flush();

@@ -78,8 +78,8 @@ const Symbol *SymbolTable::find(const Byte *p, const Byte *end) const
         const bool same = m_caseSensitive
             ? std::equal(bytes, bytes + size, p)
             : std::equal(bytes, bytes + size, p, [](Byte own, Byte other) { return own == lower(other); });
-        const bool insideWord = symbol.kind != TokenKind::String && size < room && m_isWord[bytes[size - 1]]
-            && m_isWord[p[size]];
+        const bool insideWord =
+            symbol.kind != TokenKind::String && size < room && m_isWord[bytes[size - 1]] && m_isWord[p[size]];
         if (same && !insideWord)
             return &symbol;
     }

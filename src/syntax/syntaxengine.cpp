@@ -56,8 +56,7 @@ std::unique_ptr<const LineLexer> makeLexer(const LanguageDefinition &definition)
 
 SyntaxEngine::SyntaxEngine(const LanguageDefinition &definition)
     : m_lexer(makeLexer(definition)), m_foldRules(definition)
-{
-}
+{}
 
 SyntaxEngine::~SyntaxEngine() = default;
 

@@ -93,13 +93,27 @@ quint32 TagLexer::paintLine(const StyleCanvas &canvas, const LineBytes &line, qu
             continue;
         }
         switch (state.mode) {
-        case Mode::Text: paintText(walk); break;
-        case Mode::Tag: paintTag(walk); break;
-        case Mode::Comment: paintComment(walk); break;
-        case Mode::Declaration: paintDeclaration(walk); break;
-        case Mode::Subset: paintSubset(walk); break;
-        case Mode::Cdata: paintCdata(walk); break;
-        case Mode::Block: paintBlock(walk); break;
+        case Mode::Text:
+            paintText(walk);
+            break;
+        case Mode::Tag:
+            paintTag(walk);
+            break;
+        case Mode::Comment:
+            paintComment(walk);
+            break;
+        case Mode::Declaration:
+            paintDeclaration(walk);
+            break;
+        case Mode::Subset:
+            paintSubset(walk);
+            break;
+        case Mode::Cdata:
+            paintCdata(walk);
+            break;
+        case Mode::Block:
+            paintBlock(walk);
+            break;
         }
     }
     // A line end inside a server block is the block's own; the outer text doesn't see it.
@@ -124,16 +138,20 @@ SyntaxStyle TagLexer::lineEndStyle(const TagState &state) const
                                                    : lexerOf(state.server)->lineEndStyle(state.serverDetail);
     }
     switch (state.mode) {
-    case Mode::Comment: return SyntaxStyle::Comment;
+    case Mode::Comment:
+        return SyntaxStyle::Comment;
     case Mode::Tag:
-    case Mode::Declaration: return state.value == Value::None ? SyntaxStyle::TagText : SyntaxStyle::String;
-    case Mode::Subset: return SyntaxStyle::TagText;
+    case Mode::Declaration:
+        return state.value == Value::None ? SyntaxStyle::TagText : SyntaxStyle::String;
+    case Mode::Subset:
+        return SyntaxStyle::TagText;
     case Mode::Block: {
         const CodeLexer *lexer = lexerOf(state.code);
         return lexer ? lexer->lineEndStyle(state.detail) : SyntaxStyle::Text;
     }
     case Mode::Text:
-    case Mode::Cdata: break;
+    case Mode::Cdata:
+        break;
     }
     return SyntaxStyle::Text;
 }

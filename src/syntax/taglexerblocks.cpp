@@ -31,12 +31,17 @@ bool endsBlock(const Byte *p, const Byte *end, QByteArrayView element)
 const CodeLexer *TagLexer::lexerOf(Code code) const
 {
     switch (code) {
-    case Code::JavaScript: return &m_embedded->javaScript;
-    case Code::VbScript: return &m_embedded->vbScript;
-    case Code::StyleSheet: return &m_embedded->styleSheet;
-    case Code::Php: return &m_embedded->php;
+    case Code::JavaScript:
+        return &m_embedded->javaScript;
+    case Code::VbScript:
+        return &m_embedded->vbScript;
+    case Code::StyleSheet:
+        return &m_embedded->styleSheet;
+    case Code::Php:
+        return &m_embedded->php;
     case Code::None:
-    case Code::Plain: break;
+    case Code::Plain:
+        break;
     }
     return nullptr;
 }

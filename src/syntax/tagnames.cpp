@@ -14,20 +14,32 @@ constexpr struct {
     QByteArrayView part;
     Code code;
 } scriptTypes[] = {
-    {"vbs", Code::VbScript},      {"javascript", Code::JavaScript},  {"ecmascript", Code::JavaScript},
-    {"jscript", Code::JavaScript}, {"livescript", Code::JavaScript}, {"typescript", Code::JavaScript},
-    {"module", Code::JavaScript}, {"json", Code::JavaScript},        {"importmap", Code::JavaScript},
-    {"babel", Code::JavaScript},  {"jsx", Code::JavaScript},         {"speculationrules", Code::JavaScript},
-    {"php", Code::Php},           {"html", Code::None},              {"template", Code::None},
-    {"tmpl", Code::None},         {"handlebars", Code::None},        {"mustache", Code::None},
+    {"vbs", Code::VbScript},
+    {"javascript", Code::JavaScript},
+    {"ecmascript", Code::JavaScript},
+    {"jscript", Code::JavaScript},
+    {"livescript", Code::JavaScript},
+    {"typescript", Code::JavaScript},
+    {"module", Code::JavaScript},
+    {"json", Code::JavaScript},
+    {"importmap", Code::JavaScript},
+    {"babel", Code::JavaScript},
+    {"jsx", Code::JavaScript},
+    {"speculationrules", Code::JavaScript},
+    {"php", Code::Php},
+    {"html", Code::None},
+    {"template", Code::None},
+    {"tmpl", Code::None},
+    {"handlebars", Code::None},
+    {"mustache", Code::None},
 };
 
-constexpr QByteArrayView serverDirectives[] = {"include", "exec", "echo", "config", "flastmod", "fsize", "set",
-                                               "printenv", "if", "elif", "else", "endif"};
+constexpr QByteArrayView serverDirectives[] = {"include", "exec",     "echo", "config", "flastmod", "fsize",
+                                               "set",     "printenv", "if",   "elif",   "else",     "endif"};
 
 constexpr QByteArrayView declarationWords[] = {
-    "PUBLIC", "SYSTEM", "EMPTY", "ANY", "CDATA", "NDATA", "ID", "IDREF", "IDREFS", "ENTITY", "ENTITIES", "NMTOKEN",
-    "NMTOKENS", "NOTATION", "#PCDATA", "#REQUIRED", "#IMPLIED", "#FIXED", "INCLUDE", "IGNORE"};
+    "PUBLIC",   "SYSTEM",  "EMPTY",    "ANY",      "CDATA",   "NDATA",     "ID",       "IDREF",  "IDREFS",  "ENTITY",
+    "ENTITIES", "NMTOKEN", "NMTOKENS", "NOTATION", "#PCDATA", "#REQUIRED", "#IMPLIED", "#FIXED", "INCLUDE", "IGNORE"};
 
 Byte lower(char c)
 {
@@ -63,9 +75,8 @@ bool isServerDirective(QByteArrayView word)
 
 bool isDeclarationWord(QByteArrayView word)
 {
-    return std::any_of(std::begin(declarationWords), std::end(declarationWords), [word](QByteArrayView known) {
-        return word.compare(known, Qt::CaseInsensitive) == 0;
-    });
+    return std::any_of(std::begin(declarationWords), std::end(declarationWords),
+                       [word](QByteArrayView known) { return word.compare(known, Qt::CaseInsensitive) == 0; });
 }
 
 bool saysServerScript(QByteArrayView directive, bool current)

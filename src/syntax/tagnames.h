@@ -12,11 +12,11 @@ namespace zephira {
 
 /// What a byte can be in a name in a tag.
 namespace tagbyte {
-constexpr Byte inName = 1;      ///< element names
+constexpr Byte inName = 1; ///< element names
 constexpr Byte beginsName = 2;
 constexpr Byte inAttribute = 4; ///< attribute names and everything else that isn't a sign
 constexpr Byte blank = 8;
-}
+} // namespace tagbyte
 
 consteval std::array<Byte, 256> makeTagBytes()
 {
@@ -26,7 +26,8 @@ consteval std::array<Byte, 256> makeTagBytes()
         const bool digit = byte >= '0' && byte <= '9';
         const bool begins = letter || byte == '_' || byte == ':';
         const bool blank = byte == ' ' || byte == '\t' || byte == '\f' || byte == '\v';
-        const bool sign = blank || byte == '"' || byte == '\'' || byte == '<' || byte == '>' || byte == '/' || byte == '=';
+        const bool sign =
+            blank || byte == '"' || byte == '\'' || byte == '<' || byte == '>' || byte == '/' || byte == '=';
         table[byte] = static_cast<Byte>((begins || digit || byte == '-' || byte == '.' ? tagbyte::inName : 0)
                                         | (begins ? tagbyte::beginsName : 0) | (sign ? 0 : tagbyte::inAttribute)
                                         | (blank ? tagbyte::blank : 0));

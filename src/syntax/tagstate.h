@@ -18,8 +18,8 @@ struct TagState {
     enum class Value : Byte { None, FirstQuote, SecondQuote, Unquoted };
 
     Mode mode = Mode::Text;
-    Code code = Code::None;  ///< of the block, or in a tag: of the block that the tag opens
-    Code server = Code::None; ///< the server block that interrupts the outer text
+    Code code = Code::None;    ///< of the block, or in a tag: of the block that the tag opens
+    Code server = Code::None;  ///< the server block that interrupts the outer text
     bool serverScript = false; ///< server blocks are JavaScript, because the page said so
     quint32 serverDetail = 0;
     /// In a block: its lexer's state.

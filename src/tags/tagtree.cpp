@@ -2,12 +2,12 @@
 #include "tags/tagtree.h"
 
 #include "core/appcontext.h"
-#include "files/textlines.h"
-#include "widgets/itemchoice.h"
 #include "core/itemroles.h"
 #include "core/pasteitem.h"
+#include "files/textlines.h"
 #include "tags/builtintags.h"
 #include "tags/tagfile.h"
+#include "widgets/itemchoice.h"
 
 #include <QIcon>
 
@@ -31,7 +31,8 @@ TagTree::TagTree(const AppContext &context, QWidget *parent) : QTreeWidget(paren
     setObjectName(u"TRV"_s);
     setAccessibleName(u"HTML Tags"_s);
     setHeaderHidden(true);
-    onItemChosen(*this, this, [this](const QModelIndex &index) { pasteInCodeView(m_context, index.data().toString()); });
+    onItemChosen(*this, this,
+                 [this](const QModelIndex &index) { pasteInCodeView(m_context, index.data().toString()); });
 }
 
 Result<void> TagTree::LoadTagTree()

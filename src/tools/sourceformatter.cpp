@@ -89,8 +89,7 @@ class PieceWalk
 public:
     explicit PieceWalk(QStringView text)
         : m_text(text), m_next(text.indexOf(u'<')), m_lastTagEnd(text.lastIndexOf(u'>'))
-    {
-    }
+    {}
 
     /// Goes to the next piece; false at the end of the text.
     bool advance()

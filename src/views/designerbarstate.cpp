@@ -16,8 +16,8 @@ bool hasValue(int status)
 /// What the designer names at the caret; nothing where the selection holds several.
 QVariant valueOf(Designer &designer, DesignerCommand query)
 {
-    return hasValue(designer.queryStatus(query))
-        ? designer.execCommand(query, DesignerPrompting::DontPromptUser) : QVariant();
+    return hasValue(designer.queryStatus(query)) ? designer.execCommand(query, DesignerPrompting::DontPromptUser)
+                                                 : QVariant();
 }
 
 bool isOpen(int status)

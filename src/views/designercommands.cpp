@@ -34,8 +34,8 @@ constexpr DesignerCommand tableCommands[] = {
 };
 
 constexpr DesignerCommand positionCommands[] = {
-    AbsolutePosition, BringToFront,   SendToBack,    BringForward, SendBackward,
-    BringAboveText,   SendBelowText, None,         LockElement,
+    AbsolutePosition, BringToFront,  SendToBack, BringForward, SendBackward,
+    BringAboveText,   SendBelowText, None,       LockElement,
 };
 
 struct MenuArray {

@@ -14,8 +14,7 @@ bool DesignerContextMenu::isAvailable(DesignerCommand command) const
 
 void DesignerContextMenu::add(const QString &text, DesignerCommand command)
 {
-    m_entries.append(
-        {text, command, isAvailable(command) ? DesignerMenuState::Unchecked : DesignerMenuState::Greyed});
+    m_entries.append({text, command, isAvailable(command) ? DesignerMenuState::Unchecked : DesignerMenuState::Greyed});
 }
 
 void DesignerContextMenu::show()

@@ -72,8 +72,8 @@ QList<DesignerMenuEntry> positionEntries(Designer &designer, const QStringList &
     const int position = designer.queryStatus(DesignerCommand::AbsolutePosition);
     DesignerMenuEntry &first = entries.first();
     first.enabled = position == DesignerStatus::On || position == DesignerStatus::Enabled;
-    first.caption = position == DesignerStatus::On ? u"Set Position Attribute To 1D"_s
-                                                   : u"Set Position Attribute To Absolute"_s;
+    first.caption =
+        position == DesignerStatus::On ? u"Set Position Attribute To 1D"_s : u"Set Position Attribute To Absolute"_s;
     entries.last().checked = designer.queryStatus(DesignerCommand::LockElement) == DesignerStatus::On;
     return entries;
 }
@@ -82,7 +82,8 @@ QList<DesignerMenuEntry> formatEntries(Designer &designer, const QStringList &bl
 {
     const bool isOpen = isAvailable(designer, DesignerCommand::GetBlockFormat);
     const QString current = isOpen
-        ? designer.execCommand(DesignerCommand::GetBlockFormat, DesignerPrompting::DontPromptUser).toString() : QString();
+        ? designer.execCommand(DesignerCommand::GetBlockFormat, DesignerPrompting::DontPromptUser).toString()
+        : QString();
     QList<DesignerMenuEntry> entries;
     for (qsizetype index = 0; index < blockFormats.size(); ++index)
         entries.append({entryName(blockFormatArray, index), isOpen, isOpen && blockFormats[index] == current});

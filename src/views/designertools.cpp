@@ -31,8 +31,8 @@ bool DesignerTools::documentComplete()
     if (m_designerReady)
         return false;
     endingQuietly([&] {
-        const QVariant names = m_context.designer.execCommand(DesignerCommand::GetBlockFormatNames,
-                                                              DesignerPrompting::DontPromptUser);
+        const QVariant names =
+            m_context.designer.execCommand(DesignerCommand::GetBlockFormatNames, DesignerPrompting::DontPromptUser);
         m_blockFormats = names.toStringList().mid(0, blockFormatEntries);
     });
     m_designerReady = true;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/frmqv.h"
 
+#include "ui_frmqv.h"
 #include "views/picturefile.h"
 #include "views/quickviewrules.h"
-#include "ui_frmqv.h"
 
 #include "core/editingcontrol.h"
 #include "core/prompts.h"
@@ -51,8 +51,7 @@ void frmqv::addButtons()
         {u"cate", u"Copy All Text to clipboard", u"edit-select-all", &frmqv::copyAll},
     };
     for (const Button &button : buttons) {
-        auto *action = new QAction(QIcon::fromTheme(button.icon.toString()),
-                                   button.caption.toString(), this);
+        auto *action = new QAction(QIcon::fromTheme(button.icon.toString()), button.caption.toString(), this);
         action->setObjectName(button.key);
         action->setToolTip(action->text());
         connect(action, &QAction::triggered, this, button.action);
@@ -122,7 +121,8 @@ void frmqv::copySelection()
 void frmqv::explain()
 {
     m_context.prompts.tell(u"Press the copy button to copy the SELECTED text, OR Select the Zephira button to copy "
-                           "everything displayed to the clipboard"_s, {}, Question::Icon::None);
+                           "everything displayed to the clipboard"_s,
+                           {}, Question::Icon::None);
 }
 
 void frmqv::copyAll()

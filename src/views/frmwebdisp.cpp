@@ -86,8 +86,8 @@ void frmwebdisp::copySource()
 
 void frmwebdisp::saveAs()
 {
-    const auto path = m_context.prompts.file(
-        {.filter = u"Text Files (*.txt)|*.txt|HTML Files (*.html)|*.html|"_s, .saving = true});
+    const auto path =
+        m_context.prompts.file({.filter = u"Text Files (*.txt)|*.txt|HTML Files (*.html)|*.html|"_s, .saving = true});
     if (!path || path->isEmpty())
         return;
     const Result<void> written = m_context.files.write(*path, m_source.control->text().toUtf8());

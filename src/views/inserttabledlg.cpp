@@ -13,7 +13,10 @@ using namespace Qt::StringLiterals;
 namespace zephira {
 
 InsertTableDlg::InsertTableDlg(const AppContext &context, QWidget *owner)
-    : QDialog(owner), m_ui(std::make_unique<Ui::InsertTableDlg>()), m_designer(context.designer), m_prompts(context.prompts)
+    : QDialog(owner)
+    , m_ui(std::make_unique<Ui::InsertTableDlg>())
+    , m_designer(context.designer)
+    , m_prompts(context.prompts)
 {
     m_ui->setupUi(this);
     const InsertTableParam defaults;
@@ -42,8 +45,7 @@ std::optional<int> InsertTableDlg::dimension(QLineEdit &box, const QString &mess
 
 void InsertTableDlg::insert()
 {
-    const auto rows =
-        dimension(*m_ui->Rows, u"Please specify a positive integer for the number of table rows."_s);
+    const auto rows = dimension(*m_ui->Rows, u"Please specify a positive integer for the number of table rows."_s);
     if (!rows)
         return;
     const auto columns =
@@ -63,7 +65,8 @@ void InsertTableDlg::insert()
         return;
     }
     endingQuietly([&] {
-        m_designer.execCommand(DesignerCommand::InsertTable, DesignerPrompting::DontPromptUser, QVariant::fromValue(table));
+        m_designer.execCommand(DesignerCommand::InsertTable, DesignerPrompting::DontPromptUser,
+                               QVariant::fromValue(table));
     });
     accept();
 }

@@ -19,8 +19,8 @@ namespace {
 constexpr qsizetype declarationRoom = 4096;
 
 /// Pages that call themselves so are written in Windows-1252, of which the named ones are parts.
-constexpr QStringView partsOfWindows1252[] = {u"iso-8859-1", u"iso8859-1", u"latin1", u"l1", u"us-ascii", u"ascii",
-                                              u"windows-1252", u"cp1252", u"x-cp1252"};
+constexpr QStringView partsOfWindows1252[] = {u"iso-8859-1", u"iso8859-1",    u"latin1", u"l1",      u"us-ascii",
+                                              u"ascii",      u"windows-1252", u"cp1252", u"x-cp1252"};
 
 QString decoded(QByteArrayView bytes, const QString &charset)
 {
@@ -47,7 +47,8 @@ QString declaredCharset(QByteArrayView page)
     static const QRegularExpression marks(
         uR"re(<meta\b[^>]*\bcharset\s*=\s*["']?\s*([^\s"';,>/]+)|^\s*<\?xml\b[^>]*\bencoding\s*=\s*["']([^"']+)|^@charset\s+"([^"]+)")re"_s,
         QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = marks.match(QString::fromLatin1(page.first(std::min(declarationRoom, page.size()))));
+    const QRegularExpressionMatch match =
+        marks.match(QString::fromLatin1(page.first(std::min(declarationRoom, page.size()))));
     return match.captured(1) + match.captured(2) + match.captured(3);
 }
 

@@ -36,9 +36,8 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
                          path, QString::number(size.width()), QString::number(size.height()))};
     }
     // The limit is one for the whole process, so it is lifted for this picture alone.
-    const auto restoreLimit = qScopeGuard([limit = QImageReader::allocationLimit()] {
-        QImageReader::setAllocationLimit(limit);
-    });
+    const auto restoreLimit =
+        qScopeGuard([limit = QImageReader::allocationLimit()] { QImageReader::setAllocationLimit(limit); });
     QImageReader::setAllocationLimit(memoryForLargestPicture);
     const QImage image = reader.read();
     if (image.isNull())

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/workspaceviews.h"
 
+#include "core/configuration.h"
 #include "core/designer.h"
 #include "core/documenthost.h"
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
-#include "core/configuration.h"
 #include "core/filestore.h"
 #include "core/prompts.h"
 
@@ -53,12 +53,13 @@ QString withoutFolder(const QString &path)
 /// The question before a page is copied into the server's folder under a name.
 Question serverQuestion(const QString &fileName, const QString &reason = {})
 {
-    return {u"You must save your ASP document to your web servers root directory in order to continue, press OK to save "
-            "this document to the directory you designated as your LOCAL web server's root directory, with the filename: "_s
-                + fileName + reason,
-            {},
-            Question::Icon::Question,
-            Question::Buttons::OkCancel};
+    return {
+        u"You must save your ASP document to your web servers root directory in order to continue, press OK to save "
+        "this document to the directory you designated as your LOCAL web server's root directory, with the filename: "_s
+            + fileName + reason,
+        {},
+        Question::Icon::Question,
+        Question::Buttons::OkCancel};
 }
 
 } // namespace
@@ -78,8 +79,7 @@ QString serverAddress(const QString &server, const QString &fileName)
 
 WorkspaceViews::WorkspaceViews(const AppContext &context, Browser &browser, WorkspaceWindow &window)
     : m_context(context), m_browser(browser), m_window(window)
-{
-}
+{}
 
 void WorkspaceViews::select(WorkspaceView view)
 {
@@ -191,10 +191,11 @@ void WorkspaceViews::previewThroughServer(const QString &name)
     const QString serverRoot = m_context.configuration.value(u"server"_s, u"root"_s);
     const QString server = m_context.configuration.value(u"server"_s, u"url"_s);
     const bool isTaken = m_context.files.FileExists(serverRoot + name);
-    const Question question =
-        isTaken ? serverQuestion(serverCopy, u" because a file with a name identical to yours already exists in your "
-                                             "root directory"_s)
-                : serverQuestion(name);
+    const Question question = isTaken
+        ? serverQuestion(serverCopy,
+                         u" because a file with a name identical to yours already exists in your "
+                         "root directory"_s)
+        : serverQuestion(name);
     if (m_context.prompts.ask(question) != Answer::Ok)
         return;
     const QString &copy = isTaken ? serverCopy : name;

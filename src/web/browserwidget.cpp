@@ -30,7 +30,8 @@ BrowserWidget::BrowserWidget(QWidget *parent)
     setFocusProxy(m_view.get());
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     // Queued, because the engine waits for the end of the signal.
-    connect(m_view.get(), &QWidget::customContextMenuRequested, this, &BrowserWidget::showContextMenu, Qt::QueuedConnection);
+    connect(m_view.get(), &QWidget::customContextMenuRequested, this, &BrowserWidget::showContextMenu,
+            Qt::QueuedConnection);
     // The address is known as soon as the page begins to show; a page that fails tells only at its end.
     connect(m_page, &QWebEnginePage::urlChanged, this, &BrowserWidget::NavigateComplete);
     connect(m_page, &QWebEnginePage::loadFinished, this, &BrowserWidget::NavigateComplete);

@@ -31,8 +31,8 @@ Result<QString> joined(TableSize size, const TableParts &parts)
     const qint64 room = maximumTableLength - parts.head.size() - parts.tail.size();
     // A division, because the product of two such counts doesn't fit in 64 bits.
     if (room < 0 || rows > room / rowLength) {
-        return Error{Error::Code::TooLarge, u"A table of %1 columns and %2 rows is too large for a page."_s
-                                                .arg(cells).arg(rows)};
+        return Error{Error::Code::TooLarge,
+                     u"A table of %1 columns and %2 rows is too large for a page."_s.arg(cells).arg(rows)};
     }
     const QString row = rows > 0 ? parts.rowStart + parts.cell.repeated(cells) + parts.rowEnd : QString();
     return parts.head + row.repeated(rows) + parts.tail;
@@ -57,9 +57,8 @@ QString widthAttribute(const TableFields &fields)
 QString tableTag(const QString &alignment, const QString &quotes, const TableFields &fields,
                  const TableAttributes &attributes)
 {
-    return u"<TABLE "_s + alignment + u" Border="_s + quotes + fields.borderSize + quotes
-        + u" cellpadding="_s + quotes + fields.cellPadding + quotes + attributes.width
-        + u" cellspacing="_s + quotes + fields.cellSpacing + quotes
+    return u"<TABLE "_s + alignment + u" Border="_s + quotes + fields.borderSize + quotes + u" cellpadding="_s + quotes
+        + fields.cellPadding + quotes + attributes.width + u" cellspacing="_s + quotes + fields.cellSpacing + quotes
         + attributes.background + attributes.border + attributes.lightAndDark + u">"_s;
 }
 
@@ -101,26 +100,28 @@ TableAttributes tableAttributes(const TableFields &fields)
 
 Result<QString> simpleTableMarkup(TableSize size)
 {
-    return joined(size, {
-        .head = u"<TABLE Align=\"center\" Border=\"0\">\r\n"_s,
-        .rowStart = u"<TR>\r\n"_s,
-        .cell = u"<TD> </TD>\r\n"_s,
-        // The next row, or the end of the table, goes on in the same line.
-        .rowEnd = u"\t</TR>"_s,
-        .tail = u"</TABLE>\r\n"_s,
-    });
+    return joined(size,
+                  {
+                      .head = u"<TABLE Align=\"center\" Border=\"0\">\r\n"_s,
+                      .rowStart = u"<TR>\r\n"_s,
+                      .cell = u"<TD> </TD>\r\n"_s,
+                      // The next row, or the end of the table, goes on in the same line.
+                      .rowEnd = u"\t</TR>"_s,
+                      .tail = u"</TABLE>\r\n"_s,
+                  });
 }
 
 Result<QString> plainTableMarkup(TableSize size, const TableFields &fields, const TableAttributes &attributes)
 {
     const QString alignment = fields.alignment.isEmpty() ? QString() : u"Align=\""_s + fields.alignment + u"\""_s;
-    return joined(size, {
-        .head = tableTag(alignment, u"\""_s, fields, attributes) + lineEnd,
-        .rowStart = u"<TR>\r\n"_s,
-        .cell = u"  <TD>&nbsp;</TD>\r\n"_s,
-        .rowEnd = u" </TR>\r\n"_s,
-        .tail = u"</TABLE>\r\n"_s,
-    });
+    return joined(size,
+                  {
+                      .head = tableTag(alignment, u"\""_s, fields, attributes) + lineEnd,
+                      .rowStart = u"<TR>\r\n"_s,
+                      .cell = u"  <TD>&nbsp;</TD>\r\n"_s,
+                      .rowEnd = u" </TR>\r\n"_s,
+                      .tail = u"</TABLE>\r\n"_s,
+                  });
 }
 
 Result<QString> aspTableMarkup(TableSize size, const TableFields &fields, const TableAttributes &attributes)
@@ -130,13 +131,15 @@ Result<QString> aspTableMarkup(TableSize size, const TableFields &fields, const 
         return fields.responseWrite ? u"response.write\""_s + markup + u"\""_s : markup;
     };
     const auto delimiter = [&](const QString &mark) { return fields.responseWrite ? mark : QString(); };
-    return joined(size, {
-        .head = delimiter(u"<%"_s) + lineEnd + line(tableTag(alignment, u"\"\""_s, fields, attributes)) + lineEnd,
-        .rowStart = lineEnd + line(u"<TR>"_s) + lineEnd,
-        .cell = line(u"<TD>&nbsp;</TD>"_s) + lineEnd,
-        .rowEnd = line(u"</TR>"_s),
-        .tail = lineEnd + line(u"</TABLE>"_s) + lineEnd + delimiter(u"%>"_s),
-    });
+    return joined(
+        size,
+        {
+            .head = delimiter(u"<%"_s) + lineEnd + line(tableTag(alignment, u"\"\""_s, fields, attributes)) + lineEnd,
+            .rowStart = lineEnd + line(u"<TR>"_s) + lineEnd,
+            .cell = line(u"<TD>&nbsp;</TD>"_s) + lineEnd,
+            .rowEnd = line(u"</TR>"_s),
+            .tail = lineEnd + line(u"</TABLE>"_s) + lineEnd + delimiter(u"%>"_s),
+        });
 }
 
 QString cellMarkup(const CellFields &fields)

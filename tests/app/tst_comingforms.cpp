@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comingforms.h"
+#include "app/windowbench.h"
 #include "commands/menutable.h"
 #include "commands/palettetable.h"
 #include "commands/tagsmenu.h"
 #include "commands/toolbartable.h"
-#include "app/windowbench.h"
 #include "support/testregistry.h"
 
 #include <QTest>

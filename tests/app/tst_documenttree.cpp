@@ -40,7 +40,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("goOn");
         const QString far = u"<a href=x>"_s + QString(32767, u' ') + u"<title>Home</title>\r\n"_s;
         QTest::newRow("short comment, OK") << u"<a href=x><!-->"_s << u"Invalid procedure call or argument"_s << true;
-        QTest::newRow("short comment, Cancel") << u"<a href=x><!-->"_s << u"Invalid procedure call or argument"_s << false;
+        QTest::newRow("short comment, Cancel")
+            << u"<a href=x><!-->"_s << u"Invalid procedure call or argument"_s << false;
         QTest::newRow("far title, OK") << far << u"Overflow"_s << true;
     }
 
@@ -54,10 +55,13 @@ private Q_SLOTS:
         window.show();
         window.rt().setText(text);
         bench.prompts.expect({u"An error has occured at: frmmain in Procedure: Frame1_Click\r\n"
-                              "The error is as follows: "_s + description
+                              "The error is as follows: "_s
+                                  + description
                                   + u"\r\nPlease Report this to the Zephira. team\r\n"
                                     "Click OK to continue, Cancel to Exit the current SUB"_s,
-                              {}, Question::Icon::Critical, Question::Buttons::OkCancel},
+                              {},
+                              Question::Icon::Critical,
+                              Question::Buttons::OkCancel},
                              goOn ? Answer::Ok : Answer::Cancel);
         showTree(bench);
         QVERIFY(bench.prompts.verify());
@@ -99,7 +103,8 @@ private:
     static QModelIndex leaf(const WindowBench &bench, const QString &caption)
     {
         const QAbstractItemModel *model = bench.find<QTreeView>(u"TreeView1"_s)->model();
-        return model->match(model->index(0, 0), Qt::DisplayRole, caption, 1, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+        return model->match(model->index(0, 0), Qt::DisplayRole, caption, 1, Qt::MatchExactly | Qt::MatchRecursive)
+            .value(0);
     }
 };
 

@@ -96,9 +96,10 @@ public:
 
     InputRequest filtersRequest(const QString &initial) const
     {
-        return {u"Please enter the extensions of the files you want to show, *.* indicates all, use ; to seperate extensions, "
-                u"type RESET (all caps) to reset filters to Application Defaults"_s,
-                u"Filters"_s, initial};
+        return {
+            u"Please enter the extensions of the files you want to show, *.* indicates all, use ; to seperate extensions, "
+            u"type RESET (all caps) to reset filters to Application Defaults"_s,
+            u"Filters"_s, initial};
     }
 };
 
@@ -122,20 +123,30 @@ private Q_SLOTS:
             QVERIFY(tabs->isTabEnabled(i));
             QVERIFY(!tabs->tabToolTip(i).isEmpty());
         }
-        QCOMPARE(keys, (QStringList{u"fileman"_s, u"asp"_s, u"html"_s, u"ihtml"_s, u"documenttree"_s, u"scripts"_s, u"c1"_s,
-                                    u"c2"_s, u"c3"_s, u"c4"_s, u"c5"_s, u"c6"_s}));
-        QCOMPARE(captions, (QStringList{u"File Manager"_s, u"ASP Codes / Tags"_s, u"HTML Tags"_s, u"IHTML Tags"_s,
-                                        u"Document Tree"_s, u"Script Library"_s, u""_s, u""_s, u""_s, u""_s, u""_s, u""_s}));
+        QCOMPARE(keys,
+                 (QStringList{u"fileman"_s, u"asp"_s, u"html"_s, u"ihtml"_s, u"documenttree"_s, u"scripts"_s, u"c1"_s,
+                              u"c2"_s, u"c3"_s, u"c4"_s, u"c5"_s, u"c6"_s}));
+        QCOMPARE(captions,
+                 (QStringList{u"File Manager"_s, u"ASP Codes / Tags"_s, u"HTML Tags"_s, u"IHTML Tags"_s,
+                              u"Document Tree"_s, u"Script Library"_s, u""_s, u""_s, u""_s, u""_s, u""_s, u""_s}));
     }
 
     void eachTabShowsItsControlsAlone()
     {
         Bench bench;
         frmmain &window = bench.start();
-        const QList<QStringList> controls{
-            {u"DRV"_s, u"cmdprojpath"_s, u"PrjPath"_s, u"DIR"_s, u"ListFiles"_s},
-            {u"asptags"_s}, {u"TRV"_s}, {u"ihtmltags"_s}, {u"TreeView1"_s}, {u"frmscripts"_s},
-            {u"c1"_s}, {u"c2"_s}, {u"c3"_s}, {u"c4"_s}, {u"c5"_s}, {u"c6"_s}};
+        const QList<QStringList> controls{{u"DRV"_s, u"cmdprojpath"_s, u"PrjPath"_s, u"DIR"_s, u"ListFiles"_s},
+                                          {u"asptags"_s},
+                                          {u"TRV"_s},
+                                          {u"ihtmltags"_s},
+                                          {u"TreeView1"_s},
+                                          {u"frmscripts"_s},
+                                          {u"c1"_s},
+                                          {u"c2"_s},
+                                          {u"c3"_s},
+                                          {u"c4"_s},
+                                          {u"c5"_s},
+                                          {u"c6"_s}};
         for (int tab = 0; tab < controls.size(); ++tab) {
             window.sidePane().click(tab);
             for (int other = 0; other < controls.size(); ++other) {
@@ -152,7 +163,8 @@ private Q_SLOTS:
         frmmain &window = bench.start();
         const auto leaves = [&] {
             const QAbstractItemModel *model = bench.find<QTreeView>(u"TreeView1"_s)->model();
-            return model->match(model->index(0, 0), Qt::DisplayRole, u"x.htm"_s, -1, Qt::MatchContains | Qt::MatchRecursive)
+            return model
+                ->match(model->index(0, 0), Qt::DisplayRole, u"x.htm"_s, -1, Qt::MatchContains | Qt::MatchRecursive)
                 .size();
         };
         window.sidePane().click(4);
@@ -273,10 +285,13 @@ private Q_SLOTS:
         window.document().setModified(false);
         bench.select(u"a.txt"_s);
         QVERIFY(QFile::remove(path));
-        bench.prompts.expect({u"An error has occured.\r\nThe file \"%1\" could not be read: it does not exist.\r\nThe routine will now reset itself..."_s
-                                  .arg(path),
-                              {}, Question::Icon::Critical, Question::Buttons::Ok},
-                             Answer::Ok);
+        bench.prompts.expect(
+            {u"An error has occured.\r\nThe file \"%1\" could not be read: it does not exist.\r\nThe routine will now reset itself..."_s
+                 .arg(path),
+             {},
+             Question::Icon::Critical,
+             Question::Buttons::Ok},
+            Answer::Ok);
         // At once, before the list follows the disk.
         Q_EMIT bench.list().doubleClicked(bench.list().currentIndex());
         QCOMPARE(window.rt().text(), u"mine"_s);
@@ -326,7 +341,8 @@ private Q_SLOTS:
         frmmain &window = bench.start();
         bench.listSite();
         bench.setLanguage(u"HTML"_s);
-        bench.prompts.expectTell(u"Please enter a Project Path to insert image links"_s, {}, Question::Icon::Exclamation);
+        bench.prompts.expectTell(u"Please enter a Project Path to insert image links"_s, {},
+                                 Question::Icon::Exclamation);
         bench.doubleClick(u"a.gif"_s);
         QCOMPARE(window.rt().text(), QString());
     }
@@ -435,11 +451,14 @@ private Q_SLOTS:
         bench.choose(u"mnuinslink"_s);
         QCOMPARE(window.rt().text(), u"<a href=\"%1/a.htm\">a.htm</a>"_s.arg(bench.site().mid(1)));
         bench.project().setText({});
-        bench.prompts.expect({u"An error has occured at: frmmain in Procedure: mnuinslink_Click\r\nThe error is as follows: "
-                              u"Invalid procedure call or argument\r\nPlease Report this to the Zephira. team\r\nClick OK to "
-                              u"continue, Cancel to Exit the current SUB"_s,
-                              {}, Question::Icon::Critical, Question::Buttons::OkCancel},
-                             Answer::Ok);
+        bench.prompts.expect(
+            {u"An error has occured at: frmmain in Procedure: mnuinslink_Click\r\nThe error is as follows: "
+             u"Invalid procedure call or argument\r\nPlease Report this to the Zephira. team\r\nClick OK to "
+             u"continue, Cancel to Exit the current SUB"_s,
+             {},
+             Question::Icon::Critical,
+             Question::Buttons::OkCancel},
+            Answer::Ok);
         const QString before = window.rt().text();
         bench.choose(u"mnuinslink"_s);
         QCOMPARE(window.rt().text(), before);
@@ -508,8 +527,7 @@ private Q_SLOTS:
         QVERIFY(bench.configuration.setValue(u"Filters"_s, u"Filters"_s, u"*.txt"_s));
         bench.start();
         bench.listSite();
-        bench.prompts.expectInput(bench.filtersRequest(u"*.txt"_s),
-                                  reply.isNull() ? std::optional<QString>() : reply);
+        bench.prompts.expectInput(bench.filtersRequest(u"*.txt"_s), reply.isNull() ? std::optional<QString>() : reply);
         bench.choose(u"mnuef"_s);
         QCOMPARE(bench.configuration.value(u"Filters"_s, u"Filters"_s), stored);
         QCOMPARE(bench.file().pattern(), stored);

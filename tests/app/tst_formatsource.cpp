@@ -69,10 +69,10 @@ private Q_SLOTS:
         frmmain &window = openedPage(bench);
         window.rt().setSelText(u"y"_s);
         runWhile(bench, [&] {
-            bench.prompts.expect({u"Document: "_s + window.docTitle()
-                                      + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
-                                  u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
-                                 Answer::Cancel);
+            bench.prompts.expect(
+                {u"Document: "_s + window.docTitle() + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                 u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                Answer::Cancel);
             QVERIFY(!window.close());
         });
         QCOMPARE(bench.ended, 0);

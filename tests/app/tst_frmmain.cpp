@@ -23,11 +23,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         for (const char *name :
-             {"rt",       "cboLang",     "PrjPath",     "cmdprojpath", "DRV",      "DIR",      "ListFiles", "file",
-              "Frame1",   "workspace",   "toolpane",    "tBar",        "Toolbar1", "Toolbar2", "FontCombo", "FontSizeCombo",
-              "Command1", "List1",       "CM",          "mnufile",     "edit",     "tools",    "Tags",      "View",        "Insert",      "Format",      "Table",    "d2d",      "mnuhid",    "mnuspell",
-              "cmenu",    "mnuplugins",  "Toolbar_0",   "Toolbar_5",   "Toolbar_11", "stBar",  "stBar_1",   "stBar_10",
-              "asptags",  "scriptfolder"})
+             {"rt",        "cboLang",       "PrjPath",   "cmdprojpath", "DRV",         "DIR",       "ListFiles",
+              "file",      "Frame1",        "workspace", "toolpane",    "tBar",        "Toolbar1",  "Toolbar2",
+              "FontCombo", "FontSizeCombo", "Command1",  "List1",       "CM",          "mnufile",   "edit",
+              "tools",     "Tags",          "View",      "Insert",      "Format",      "Table",     "d2d",
+              "mnuhid",    "mnuspell",      "cmenu",     "mnuplugins",  "Toolbar_0",   "Toolbar_5", "Toolbar_11",
+              "stBar",     "stBar_1",       "stBar_10",  "asptags",     "scriptfolder"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 
@@ -59,8 +60,9 @@ private Q_SLOTS:
         for (int i = 1; i <= 10; ++i)
             texts.append(bench.panel(i));
         texts.removeAt(7); // The time has its own format.
-        QCOMPARE(texts, (QStringList{u"Line:"_s, u"1"_s, u"Total Lines:"_s, u"1"_s, u"CAPS"_s, u"NUM"_s, u"INS"_s,
-                                     u"Charecter Count"_s, u"File Name"_s}));
+        QCOMPARE(texts,
+                 (QStringList{u"Line:"_s, u"1"_s, u"Total Lines:"_s, u"1"_s, u"CAPS"_s, u"NUM"_s, u"INS"_s,
+                              u"Charecter Count"_s, u"File Name"_s}));
     }
 
     void theStatusBarFollowsTyping()
@@ -103,7 +105,7 @@ private Q_SLOTS:
         const QList<QAction *> buttons = bench.find<QToolBar>(u"Toolbar1"_s)->actions();
         QVERIFY(buttons.size() >= 15);
         QCOMPARE(buttons[0]->isEnabled(), open); // Bold.
-        QVERIFY(buttons[14]->isEnabled()); // Revert works on any text.
+        QVERIFY(buttons[14]->isEnabled());       // Revert works on any text.
     }
 
     void theVisualMenusStartClosed()
@@ -125,7 +127,10 @@ private Q_SLOTS:
         QTest::newRow("cr") << QByteArray("a\rb\r") << QByteArray("X\rYa\rb\r");
         QTest::newRow("utf-8 mark") << QByteArray("\xEF\xBB\xBF\xC3\xA9\n") << QByteArray("\xEF\xBB\xBFX\nY\xC3\xA9\n");
         QTest::newRow("windows-1252") << QByteArray("\xE9\x81\x80\n") << QByteArray("X\nY\xE9\x81\x80\n");
-        QTest::newRow("utf-16") << QByteArray("\xFF\xFE" "a\0\n\0", 6) << QByteArray("\xFF\xFEX\0\n\0Y\0a\0\n\0", 12);
+        QTest::newRow("utf-16") << QByteArray("\xFF\xFE"
+                                              "a\0\n\0",
+                                              6)
+                                << QByteArray("\xFF\xFEX\0\n\0Y\0a\0\n\0", 12);
         QTest::newRow("binary") << QByteArray("\0\xFF\x01\n\0", 5) << QByteArray("X\nY\0\xFF\x01\n\0", 8);
     }
 
@@ -173,9 +178,13 @@ private Q_SLOTS:
     {
         WindowBench bench;
         bench.start();
-        bench.prompts.expect({u"By default, the first custom tab was shipped with a CSS Prop index file. You will now be taken "
-                              u"to the tab"_s, {}, Question::Icon::None, Question::Buttons::Ok},
-                             Answer::Ok);
+        bench.prompts.expect(
+            {u"By default, the first custom tab was shipped with a CSS Prop index file. You will now be taken "
+             u"to the tab"_s,
+             {},
+             Question::Icon::None,
+             Question::Buttons::Ok},
+            Answer::Ok);
         bench.click(u"Toolbar_4"_s, u"prop"_s);
         QCOMPARE(bench.find<QTabBar>(u"Frame1"_s)->currentIndex(), 6);
     }
@@ -229,7 +238,8 @@ private Q_SLOTS:
     {
         WindowBench bench;
         frmmain &window = bench.start();
-        for (const auto &[path, there] : {std::pair{bench.write(u"a.txt"_s, "a"), true}, {bench.folder(), false},
+        for (const auto &[path, there] : {std::pair{bench.write(u"a.txt"_s, "a"), true},
+                                          {bench.folder(), false},
                                           {bench.folder() + u"/none"_s, false}}) {
             bool exists = !there;
             QVERIFY(QMetaObject::invokeMethod(&window, "FileExists", Q_RETURN_ARG(bool, exists), Q_ARG(QString, path)));
@@ -295,10 +305,13 @@ private Q_SLOTS:
         QCOMPARE(window.rt().text(), link);
         // A picture that is cut short is none.
         list->setCurrentItem(list->findItems(u"bad.gif"_s, Qt::MatchExactly).value(0));
-        bench.prompts.expect({u"An error has occured.\r\nThe picture %1 can't be shown: Unable to read image data.\r\n"_s.arg(bad)
-                                  + u"The routine will now reset itself..."_s,
-                              {}, Question::Icon::Critical, Question::Buttons::Ok},
-                             Answer::Ok);
+        bench.prompts.expect(
+            {u"An error has occured.\r\nThe picture %1 can't be shown: Unable to read image data.\r\n"_s.arg(bad)
+                 + u"The routine will now reset itself..."_s,
+             {},
+             Question::Icon::Critical,
+             Question::Buttons::Ok},
+            Answer::Ok);
         window.OpenAFile();
         QCOMPARE(window.rt().text(), link);
     }
@@ -323,7 +336,8 @@ private Q_SLOTS:
         bench.prompts.expect({u"Document: "_s + file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
                               u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
                              Answer::Yes);
-        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), {}, Question::Icon::Exclamation);
+        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), {},
+                                 Question::Icon::Exclamation);
         QVERIFY(window.close());
         const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
         QCOMPARE(copies.size(), 1);
@@ -341,7 +355,8 @@ private Q_SLOTS:
         bench.prompts.expect({u"Document: "_s + file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
                               u"Document Modified."_s, Question::Icon::None, Question::Buttons::YesNoCancel},
                              Answer::Yes);
-        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), {}, Question::Icon::Exclamation);
+        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), {},
+                                 Question::Icon::Exclamation);
         window.doNew();
         QCOMPARE(window.rt().text(), QString());
         const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);

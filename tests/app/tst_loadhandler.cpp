@@ -21,12 +21,13 @@ private Q_SLOTS:
     void stepsRunInTheirOrder()
     {
         WindowBench bench;
-        const QStringList expected = {
-            u"restorePlacement"_s, u"setHelpFile"_s, u"setFilePattern"_s, u"recordProgramFolder"_s, u"fetchSelection"_s,
-            u"fillDesignerFonts"_s, u"disableDesigner"_s, u"readRootSelect"_s, u"createEditorGlobals"_s,
-            u"readDisplayModes"_s, u"applyFont"_s, u"applyDisplayModes"_s, u"applyColourTable"_s, u"registerLanguages"_s,
-            u"removeHotKeys"_s, u"readStyleSelectors"_s, u"rootScriptFolder"_s, u"fillTagTree"_s, u"clearModified"_s,
-            u"readAspTags"_s, u"openArgument"_s};
+        const QStringList expected = {u"restorePlacement"_s,    u"setHelpFile"_s,       u"setFilePattern"_s,
+                                      u"recordProgramFolder"_s, u"fetchSelection"_s,    u"fillDesignerFonts"_s,
+                                      u"disableDesigner"_s,     u"readRootSelect"_s,    u"createEditorGlobals"_s,
+                                      u"readDisplayModes"_s,    u"applyFont"_s,         u"applyDisplayModes"_s,
+                                      u"applyColourTable"_s,    u"registerLanguages"_s, u"removeHotKeys"_s,
+                                      u"readStyleSelectors"_s,  u"rootScriptFolder"_s,  u"fillTagTree"_s,
+                                      u"clearModified"_s,       u"readAspTags"_s,       u"openArgument"_s};
         QCOMPARE(bench.start().startSteps, expected);
         QCOMPARE(bench.window->property("startSteps").toStringList(), expected);
     }
@@ -41,8 +42,10 @@ private Q_SLOTS:
         } catch (const HandlerError &error) {
             message = error.description;
         }
-        QCOMPARE(message, u"Zephira can't start: the key \"whitespace\" in section [options] of %1 isn't a number (\"perhaps\")."_s
-                              .arg(bench.configuration.file()));
+        QCOMPARE(
+            message,
+            u"Zephira can't start: the key \"whitespace\" in section [options] of %1 isn't a number (\"perhaps\")."_s
+                .arg(bench.configuration.file()));
         QCOMPARE(bench.window->startSteps.last(), u"readDisplayModes"_s);
     }
 
@@ -149,7 +152,8 @@ private Q_SLOTS:
     {
         WindowBench bench;
         bench.start(bench.write(u".hidden/inner/a.txt"_s, "a"));
-        QCOMPARE(bench.find<QTreeWidget>(u"DIR"_s)->property("SelectedFolder").toString(), bench.folder() + u"/.hidden/inner"_s);
+        QCOMPARE(bench.find<QTreeWidget>(u"DIR"_s)->property("SelectedFolder").toString(),
+                 bench.folder() + u"/.hidden/inner"_s);
         QCOMPARE(bench.find<QObject>(u"file"_s)->property("Path").toString(), bench.folder() + u"/.hidden/inner"_s);
         QCOMPARE(bench.find<QListWidget>(u"ListFiles"_s)->item(0)->text(), u"a.txt"_s);
     }

@@ -128,7 +128,8 @@ private Q_SLOTS:
         bench.window->rt().setText(u"one two"_s);
         bench.window->rt().select({0, 0, 0, 3});
         bench.find<QTabBar>(u"Frame1"_s)->setCurrentIndex(5);
-        QCOMPARE(bench.find<QTreeWidget>(u"scriptfolder"_s)->property("RootFolder").toString(), bench.appPath() + u"/Scripts"_s);
+        QCOMPARE(bench.find<QTreeWidget>(u"scriptfolder"_s)->property("RootFolder").toString(),
+                 bench.appPath() + u"/Scripts"_s);
         doubleClickItem(*bench.find<QListWidget>(u"scriptlist"_s), u"00 First"_s);
         QCOMPARE(bench.window->rt().text(), u"one<script>\r\nhi()\r\n</script> two"_s);
     }
@@ -293,8 +294,9 @@ private Q_SLOTS:
     {
         ListsBench bench;
         bench.write(u"app/ctabs/entities.txt"_s, {});
-        const QString failure = u"An error has occured, the error is most likely due to an empty custom code snips file. Here is "
-                                "an exact description of the error, please use this description when contacting support: "_s;
+        const QString failure =
+            u"An error has occured, the error is most likely due to an empty custom code snips file. Here is "
+            "an exact description of the error, please use this description when contacting support: "_s;
         bench.prompts.expect({failure + u"Input past end of file"_s}, Answer::Ok);
         bench.selectTab(u"c6"_s);
         bench.prompts.expect({failure + u"File already open"_s}, Answer::Ok);
@@ -307,9 +309,10 @@ private Q_SLOTS:
     void thePropertyButtonLeadsToTheFirstCustomTab()
     {
         ListsBench bench;
-        bench.prompts.expect({u"By default, the first custom tab was shipped with a CSS Prop index file. You will now be taken "
-                              "to the tab"_s},
-                             Answer::Ok);
+        bench.prompts.expect(
+            {u"By default, the first custom tab was shipped with a CSS Prop index file. You will now be taken "
+             "to the tab"_s},
+            Answer::Ok);
         bench.click(u"Toolbar_4"_s, u"prop"_s);
         QCOMPARE(bench.find<QTabBar>(u"Frame1"_s)->currentIndex(), 6);
         QVERIFY(bench.find<QTreeWidget>(u"c1"_s)->isVisible());

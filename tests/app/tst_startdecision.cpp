@@ -48,8 +48,8 @@ private Q_SLOTS:
         QTest::newRow("tips 2 is not 1") << None << 2 << u"1"_s << Actions{ShowStartDialog};
         QTest::newRow("nothing") << None << 0 << u"0"_s << Actions{};
         QTest::newRow("file, tips off") << File << 0 << u"1"_s << Actions{};
-        QTest::newRow("tip, then start dialog") << None << 1 << u"1"_s
-                                                << Actions{ShowTipOverStartDialog, ShowStartDialog, CheckViewTip};
+        QTest::newRow("tip, then start dialog")
+            << None << 1 << u"1"_s << Actions{ShowTipOverStartDialog, ShowStartDialog, CheckViewTip};
         QTest::newRow("tip alone") << None << 1 << u"0"_s << tip;
         QTest::newRow("selprj must be exactly 1") << None << 1 << u"01"_s << tip;
         QTest::newRow("file has a tip, no start dialog") << File << 1 << u"1"_s << tip;
@@ -70,14 +70,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message"); // empty: converts
         QTest::newRow("one") << u"1"_s << u""_s;
         QTest::newRow("negative") << u"-7"_s << u""_s;
-        QTest::newRow("missing") << u""_s
-                                 << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini is missing."_s;
+        QTest::newRow("missing")
+            << u""_s
+            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini is missing."_s;
         QTest::newRow("word")
             << u"yes"_s
             << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini isn't a number (\"yes\")."_s;
-        QTest::newRow("too long") << u"99999999999"_s
-                                  << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini isn't a "
-                                     u"number (\"99999999999\")."_s;
+        QTest::newRow("too long")
+            << u"99999999999"_s
+            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini isn't a "
+               u"number (\"99999999999\")."_s;
     }
 
     void requiredNumber()

@@ -356,8 +356,9 @@ private Q_SLOTS:
         bench.choose(u"mnunewdoc"_s);
         bench.window->rt().setText(u"<i>new</i>"_s);
         bench.prompts.expect(saveQuestion, Answer::Ok);
-        bench.prompts.expectFile({u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.window->projectPath(), true, {}},
-                                 std::nullopt);
+        bench.prompts.expectFile(
+            {u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.window->projectPath(), true, {}},
+            std::nullopt);
         bench.select(3);
         QCOMPARE(bench.tabs().currentIndex(), 2);
         QVERIFY(bench.designer().loaded.isEmpty());
@@ -422,9 +423,10 @@ private Q_SLOTS:
         bench.select(3);
         bench.designer().html = u"<p>designed</p>"_s;
         bench.designer().dirty = true;
-        bench.prompts.expect({u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
-                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
-                             answer);
+        bench.prompts.expect(
+            {u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+             u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+            answer);
         QCOMPARE(bench.window->close(), closed);
         QTEST(WindowBench::read(bench.file), "file");
         if (!closed)
@@ -438,13 +440,15 @@ private Q_SLOTS:
         bench.select(3);
         bench.designer().html = u"<p>designed</p>"_s;
         bench.designer().dirty = true;
-        bench.prompts.expect({u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
-                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
-                             Answer::Cancel);
+        bench.prompts.expect(
+            {u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+             u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+            Answer::Cancel);
         bench.choose(u"mnuupdate"_s); // The process ends in any case.
         const QDir copies(bench.folder() + u"/recovery"_s);
         QCOMPARE(copies.entryList(QDir::Files).size(), 1);
-        QCOMPARE(WindowBench::read(copies.filePath(copies.entryList(QDir::Files).front())), QByteArray("<p>designed</p>"));
+        QCOMPARE(WindowBench::read(copies.filePath(copies.entryList(QDir::Files).front())),
+                 QByteArray("<p>designed</p>"));
     }
 
     void aDesignersChangeIsKeptInTime()
@@ -456,7 +460,8 @@ private Q_SLOTS:
         bench.designer().events.displayChanged();
         const QDir copies(bench.folder() + u"/recovery"_s);
         QTRY_COMPARE_WITH_TIMEOUT(copies.entryList(QDir::Files).size(), 1, 20000);
-        QCOMPARE(WindowBench::read(copies.filePath(copies.entryList(QDir::Files).front())), QByteArray("<p>designed</p>"));
+        QCOMPARE(WindowBench::read(copies.filePath(copies.entryList(QDir::Files).front())),
+                 QByteArray("<p>designed</p>"));
     }
 
     void resetGoesBackToTheTextFromBefore()
@@ -596,8 +601,9 @@ private Q_SLOTS:
         QVERIFY(!normal->isChecked() && heading->isChecked() && heading->isEnabled());
         QVERIFY(!bench.find<QAction>(u"FormatSub_2"_s)->isVisible());
         normal->trigger();
-        QVERIFY(designer.runs.back()
-                == (FakeDesigner::Run{DesignerCommand::SetBlockFormat, DesignerPrompting::DontPromptUser, u"Normal"_s}));
+        QVERIFY(
+            designer.runs.back()
+            == (FakeDesigner::Run{DesignerCommand::SetBlockFormat, DesignerPrompting::DontPromptUser, u"Normal"_s}));
     }
 
     void theOtherMenus()
@@ -637,8 +643,9 @@ private Q_SLOTS:
         FakeDesigner &designer = bench.designer();
         designer.statuses[DesignerCommand::AbsolutePosition] = DesignerStatus::Disabled;
         designer.events.showContextMenu({1, 1});
-        QCOMPARE(designer.menuEntries.mid(7), (QStringList{QString(), u"Insert Row"_s, u"Insert Column"_s, QString(),
-                                                           u"Delete Row"_s, u"Delete Column"_s}));
+        QCOMPARE(designer.menuEntries.mid(7),
+                 (QStringList{QString(), u"Insert Row"_s, u"Insert Column"_s, QString(), u"Delete Row"_s,
+                              u"Delete Column"_s}));
         designer.events.contextMenuAction(11);
         QCOMPARE(designer.commands.back(), 5007);
         designer.statuses[DesignerCommand::InsertRow] = DesignerStatus::Disabled;

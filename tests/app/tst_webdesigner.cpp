@@ -15,7 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray pageText("<!DOCTYPE html>\r\n<html><head><title>t</title></head>\r\n<body><p>old</p></body></html>\r\n");
+const QByteArray pageText(
+    "<!DOCTYPE html>\r\n<html><head><title>t</title></head>\r\n<body><p>old</p></body></html>\r\n");
 
 const Question saveQuestion{
     u"You must save your document in order to use the visual editor, please click OK to continue, or cancel to go back to code view"_s,
@@ -32,7 +33,8 @@ const QByteArray locked("<div style=\"position: absolute\" design_time_lock=\"tr
 QByteArray pageWith(const QByteArray &content)
 {
     return "<!DOCTYPE html><html><head><style>body, p, table, td, img, div { margin: 0; padding: 0; width: 200px; height: 90px }"
-           "</style></head><body>" + content + "</body></html>";
+           "</style></head><body>"
+        + content + "</body></html>";
 }
 
 struct MenuCloser {
@@ -106,8 +108,8 @@ private Q_SLOTS:
     void otherFilesAreEditedAsText_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char *extension : {"vbs", "js", "java", "xml", "css", "c", "cpp", "h", "pl", "cgi", "pas", "bas", "frm", "vbp",
-                                      "txt", "ini", "log", "sql"})
+        for (const char *extension : {"vbs", "js", "java", "xml", "css", "c", "cpp", "h", "pl", "cgi", "pas", "bas",
+                                      "frm", "vbp", "txt", "ini", "log", "sql"})
             QTest::newRow(extension) << u"a."_s + QLatin1StringView(extension);
     }
 
@@ -166,8 +168,9 @@ private Q_SLOTS:
         WebBench bench((QString()));
         bench.window->rt().setText(u"<p>never saved</p>"_s);
         bench.prompts.expect(saveQuestion, Answer::Ok);
-        bench.prompts.expectFile({u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.window->projectPath(), true, {}},
-                                 std::nullopt);
+        bench.prompts.expectFile(
+            {u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.window->projectPath(), true, {}},
+            std::nullopt);
         QVERIFY(bench.design());
         QCOMPARE(bench.html(), u"<p>never saved</p>"_s);
         bench.paste(u"<i>x</i>"_s);
@@ -192,9 +195,12 @@ private Q_SLOTS:
         QVERIFY(bench.design());
         bench.paste(u"<b>new</b>"_s);
         bench.write(u"site/page.html"_s, "<p>changed on the disk</p>");
-        bench.prompts.expect({u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s, {},
-                              Question::Icon::Question, Question::Buttons::YesNo},
-                             Answer::Yes);
+        bench.prompts.expect(
+            {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
+             {},
+             Question::Icon::Question,
+             Question::Buttons::YesNo},
+            Answer::Yes);
         bench.click(u"Toolbar1"_s, u"reset"_s);
         QCOMPARE(bench.html(), u"<p>changed on the disk</p>"_s);
         QCOMPARE(bench.window->rt().text(), u"<p>changed on the disk</p>"_s);
@@ -240,7 +246,8 @@ private Q_SLOTS:
         QVERIFY(indented.count(u"<ul"_s) + indented.count(u"<blockquote"_s) > before.count(u"<ul"_s));
         bench.click(u"Toolbar2"_s, u"Indent"_s);
         const QString outdented = bench.html();
-        QVERIFY(outdented.count(u"<ul"_s) + outdented.count(u"<blockquote"_s) < indented.count(u"<ul"_s) + indented.count(u"<blockquote"_s));
+        QVERIFY(outdented.count(u"<ul"_s) + outdented.count(u"<blockquote"_s)
+                < indented.count(u"<ul"_s) + indented.count(u"<blockquote"_s));
     }
 
     void fontsAndSizes()
@@ -279,7 +286,8 @@ private Q_SLOTS:
     {
         WebBench bench(u"page.html"_s, pageText);
         QVERIFY(bench.design());
-        QVERIFY(waitUntil([&] { return !bench.find<QAction>(u"FormatSub_0"_s)->text().isEmpty(); }, WebBench::patience));
+        QVERIFY(
+            waitUntil([&] { return !bench.find<QAction>(u"FormatSub_0"_s)->text().isEmpty(); }, WebBench::patience));
         QAction *heading = nullptr;
         for (int i = 0; i < 16; ++i) {
             if (QAction *entry = bench.find<QAction>(u"FormatSub_%1"_s.arg(i)); entry->text() == u"Heading 2")
@@ -345,7 +353,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("closed"); // Entries that are disabled.
         QTest::addColumn<QString>("position");
         QTest::addColumn<bool>("isLocked");
-        const QStringList table{u"TableSub_2"_s, u"TableSub_3"_s,  u"TableSub_4"_s, u"TableSub_6"_s,
+        const QStringList table{u"TableSub_2"_s, u"TableSub_3"_s, u"TableSub_4"_s, u"TableSub_6"_s,
                                 u"TableSub_7"_s, u"TableSub_8"_s, u"TableSub_10"_s};
         const QStringList split{u"TableSub_11"_s};
         const QStringList depth{u"D2DSub_1"_s, u"D2DSub_2"_s, u"D2DSub_3"_s, u"D2DSub_4"_s,
@@ -393,7 +401,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QStringList>("more"); // Behind the entries that are always there.
-        const QStringList table{QString(), u"Insert Row"_s, u"Insert Column"_s, QString(), u"Delete Row"_s, u"Delete Column"_s};
+        const QStringList table{QString(), u"Insert Row"_s, u"Insert Column"_s,
+                                QString(), u"Delete Row"_s, u"Delete Column"_s};
         QTest::newRow("text") << pageWith(text) << QStringList();
         QTest::newRow("cell") << pageWith(cell) << table;
         QTest::newRow("picture") << pageWith(picture) << QStringList{QString(), u"Make 2D"_s};
@@ -448,7 +457,8 @@ private Q_SLOTS:
         QVERIFY(menu);
         QVERIFY(menu->actions().value(index));
         menu->actions()[index]->trigger();
-        QVERIFY2(waitUntil([&] { return bench.html().count(tag) == count; }, WebBench::patience), qPrintable(bench.html()));
+        QVERIFY2(waitUntil([&] { return bench.html().count(tag) == count; }, WebBench::patience),
+                 qPrintable(bench.html()));
         QVERIFY(bench.designer().property("IsDirty").toBool());
         bench.choose(u"undo"_s);
         QCOMPARE(bench.html(), QString::fromLatin1(content));
@@ -522,7 +532,8 @@ private Q_SLOTS:
     void namesWithOddCharacters_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char16_t *name : {u"a b.html", u"\u00e4\u00f6\u00fc.html", u"a#1.html", u"50%.html", u"why?.html", u"a&b'c.html"})
+        for (const char16_t *name :
+             {u"a b.html", u"\u00e4\u00f6\u00fc.html", u"a#1.html", u"50%.html", u"why?.html", u"a&b'c.html"})
             QTest::newRow(qPrintable(QString::fromUtf16(name))) << QString::fromUtf16(name);
     }
 
@@ -564,8 +575,10 @@ private Q_SLOTS:
     {
         WebBench bench(u"page.html"_s, pageText);
         QVERIFY(bench.design());
-        for (const auto &[entry, property] : {std::pair{"ViewSub_0", "ShowBorders"}, {"ViewSub_1", "ShowDetails"},
-                                              {"ViewSub_2", "BrowseMode"}, {"ViewSub_10", "SnapToGrid"}}) {
+        for (const auto &[entry, property] : {std::pair{"ViewSub_0", "ShowBorders"},
+                                              {"ViewSub_1", "ShowDetails"},
+                                              {"ViewSub_2", "BrowseMode"},
+                                              {"ViewSub_10", "SnapToGrid"}}) {
             bench.choose(QString::fromLatin1(entry));
             QVERIFY2(bench.designer().property(property).toBool(), entry);
             QVERIFY2(bench.find<QAction>(QString::fromLatin1(entry))->isChecked(), entry);
@@ -579,9 +592,10 @@ private Q_SLOTS:
         WebBench bench(u"page.html"_s, pageText);
         QVERIFY(bench.design());
         bench.paste(u"<b>new</b>"_s);
-        bench.prompts.expect({u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
-                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
-                             Answer::Yes);
+        bench.prompts.expect(
+            {u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+             u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+            Answer::Yes);
         QVERIFY(bench.window->close());
         QVERIFY(WindowBench::read(bench.file).contains("<b>new</b><p>old"));
     }

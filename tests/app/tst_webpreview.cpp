@@ -20,7 +20,8 @@ const QByteArray pageOne("<!DOCTYPE html><title>one</title><p>text</p>\r\n");
 
 QString serverText(const QString &end)
 {
-    return u"You must save your ASP document to your web servers root directory in order to continue, press OK to save this document to the directory you designated as your LOCAL web server's root directory, with the filename: "_s + end;
+    return u"You must save your ASP document to your web servers root directory in order to continue, press OK to save this document to the directory you designated as your LOCAL web server's root directory, with the filename: "_s
+        + end;
 }
 
 } // namespace
@@ -36,15 +37,23 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("address"); // Beneath the bench's folder; where it begins with "@", beneath the program's.
+        QTest::addColumn<QString>(
+            "address"); // Beneath the bench's folder; where it begins with "@", beneath the program's.
         QTest::newRow("html") << u"page.html"_s << pageOne << u"one"_s << u"/site/page.htmltemp.html"_s;
-        QTest::newRow("htm with odd characters") << u"a b#1%.htm"_s << pageOne << u"one"_s << u"/site/a b#1%.htmtemp.htm"_s;
-        QTest::newRow("htm with a question") << u"warum?ä.htm"_s << pageOne << u"one"_s << u"/site/warum?ä.htmtemp.htm"_s;
-        QTest::newRow("script page") << u"page.vbs"_s << QByteArray("<title>vb</title>x = 1") << u"vb"_s << u"/site/page.vbstemp.vbs"_s;
-        QTest::newRow("xml") << u"page.xml"_s << QByteArray("<html xmlns='http://www.w3.org/1999/xhtml'><head><title>two</title></head><body/></html>")
-                             << u"two"_s << u"/site/page.xmltemp.xml"_s;
-        QTest::newRow("script") << u"code.js"_s << QByteArray("let x = 1;") << u"code.jstemp.js"_s << u"/site/code.jstemp.js"_s;
-        QTest::newRow("style sheet") << u"look.css"_s << QByteArray("p { color: red }") << u"Sample page"_s << u"@/deps/CSSpreview.html"_s;
+        QTest::newRow("htm with odd characters")
+            << u"a b#1%.htm"_s << pageOne << u"one"_s << u"/site/a b#1%.htmtemp.htm"_s;
+        QTest::newRow("htm with a question")
+            << u"warum?ä.htm"_s << pageOne << u"one"_s << u"/site/warum?ä.htmtemp.htm"_s;
+        QTest::newRow("script page") << u"page.vbs"_s << QByteArray("<title>vb</title>x = 1") << u"vb"_s
+                                     << u"/site/page.vbstemp.vbs"_s;
+        QTest::newRow("xml")
+            << u"page.xml"_s
+            << QByteArray("<html xmlns='http://www.w3.org/1999/xhtml'><head><title>two</title></head><body/></html>")
+            << u"two"_s << u"/site/page.xmltemp.xml"_s;
+        QTest::newRow("script") << u"code.js"_s << QByteArray("let x = 1;") << u"code.jstemp.js"_s
+                                << u"/site/code.jstemp.js"_s;
+        QTest::newRow("style sheet") << u"look.css"_s << QByteArray("p { color: red }") << u"Sample page"_s
+                                     << u"@/deps/CSSpreview.html"_s;
         for (const char *extension : {"c", "cpp", "h", "pl", "cgi", "pas", "bas", "frm", "vbp", "txt", "ini", "log"}) {
             QTest::newRow(extension) << u"file."_s + QLatin1StringView(extension) << QByteArray("x") << u"No preview"_s
                                      << u"@/deps/filenoprev.htm"_s;
@@ -61,7 +70,8 @@ private Q_SLOTS:
         if (title.startsWith(name)) {
             // A text has its address for a title, and not every kind of text has one.
             bench.select(2);
-            QVERIFY(waitUntil([&] { return bench.browser().property("LocationURL").toString().endsWith(title); }, WebBench::patience));
+            QVERIFY(waitUntil([&] { return bench.browser().property("LocationURL").toString().endsWith(title); },
+                              WebBench::patience));
         } else {
             QVERIFY2(bench.preview(title), qPrintable(bench.pageTitle()));
         }
@@ -71,7 +81,8 @@ private Q_SLOTS:
         QTRY_COMPARE(bench.find<QLineEdit>(u"txturl"_s)->text(), shown);
         QVERIFY(!bench.window->docModified());
         bench.select(1);
-        QVERIFY(waitUntil([&] { return bench.find<QLineEdit>(u"txturl"_s)->text() == u"about:blank"; }, WebBench::patience));
+        QVERIFY(waitUntil([&] { return bench.find<QLineEdit>(u"txturl"_s)->text() == u"about:blank"; },
+                          WebBench::patience));
     }
 
     void sqlShowsWhatTheViewHeld()
@@ -155,10 +166,12 @@ private Q_SLOTS:
         QGuiApplication::clipboard()->setText(u"before"_s);
         QTest::keyClick(page, Qt::Key_A, Qt::ControlModifier);
         // The page takes its keys one after the other, and the selection a moment after the key.
-        QVERIFY(waitUntil([&] {
-            QTest::keyClick(page, Qt::Key_C, Qt::ControlModifier);
-            return QGuiApplication::clipboard()->text() == u"text";
-        }, WebBench::patience));
+        QVERIFY(waitUntil(
+            [&] {
+                QTest::keyClick(page, Qt::Key_C, Qt::ControlModifier);
+                return QGuiApplication::clipboard()->text() == u"text";
+            },
+            WebBench::patience));
         for (const int key : {Qt::Key_X, Qt::Key_Z, Qt::Key_V})
             QTest::keyClick(page, Qt::Key(key), Qt::ControlModifier);
         QTest::keyClick(page, Qt::Key_Delete);
@@ -203,9 +216,15 @@ private Q_SLOTS:
         if (taken)
             bench.write(u"www/a.asp"_s, "<title>theirs</title>");
         const QString copy = taken ? u"prevzephirafile.asp"_s : u"a.asp"_s;
-        bench.prompts.expect({serverText(taken ? copy + u" because a file with a name identical to yours already exists in your root directory"_s : copy),
-                              {}, Question::Icon::Question, Question::Buttons::OkCancel},
-                             Answer::Ok);
+        bench.prompts.expect(
+            {serverText(
+                 taken
+                     ? copy + u" because a file with a name identical to yours already exists in your root directory"_s
+                     : copy),
+             {},
+             Question::Icon::Question,
+             Question::Buttons::OkCancel},
+            Answer::Ok);
         QVERIFY(bench.preview(u"mine"_s));
         QCOMPARE(bench.browser().property("LocationURL").toString(), server.address(u'/' + copy));
         QCOMPARE(bench.window->previewTarget(), taken ? QString() : server.address(u"/a.asp"_s));
@@ -218,7 +237,8 @@ private Q_SLOTS:
     void aRefusedServerPreviewStaysEmpty()
     {
         WebBench bench(u"a.asp"_s, "<title>mine</title>");
-        bench.prompts.expect({serverText(u"a.asp"_s), {}, Question::Icon::Question, Question::Buttons::OkCancel}, Answer::Cancel);
+        bench.prompts.expect({serverText(u"a.asp"_s), {}, Question::Icon::Question, Question::Buttons::OkCancel},
+                             Answer::Cancel);
         bench.select(2);
         QCOMPARE(bench.tabs().currentIndex(), 1);
         QCOMPARE(bench.pageTitle(), QString());

@@ -53,11 +53,16 @@ WindowBench::WindowBench()
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     zephira::settings::registerForms(catalogue);
-    views::registerForms(catalogue, [this](QWidget *parent) -> EditorView {
-        auto *viewer = new CodeMax({files, recovery, prompts}, parent);
-        viewer->setReadOnly(true);
-        return {viewer, viewer};
-    }, []() -> Result<PageFetcher *> { return Error{Error::Code::Failed, u"no network"_s}; });
+    views::registerForms(
+        catalogue,
+        [this](QWidget *parent) -> EditorView {
+            auto *viewer = new CodeMax({files, recovery, prompts}, parent);
+            viewer->setReadOnly(true);
+            return {viewer, viewer};
+        },
+        []() -> Result<PageFetcher *> {
+            return Error{Error::Code::Failed, u"no network"_s};
+        });
 }
 
 WindowBench::~WindowBench() = default;

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "app/frmmain.h"
-#include "files/iniconfiguration.h"
-#include "files/diskfilestore.h"
-#include "files/recoverycopies.h"
 #include "core/formcatalogue.h"
+#include "core/webviews.h"
 #include "editor/codemax.h"
+#include "files/diskfilestore.h"
+#include "files/iniconfiguration.h"
+#include "files/recoverycopies.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
-#include "core/webviews.h"
 #include "support/fakes.h"
 
 #include <QAction>

@@ -52,9 +52,9 @@ struct RouterBench {
     TestContext world;
     TextInserter inserter{world.editor, world.designer};
     FakeWindow window;
-    AppContext context{world.editor, inserter,    world.designer, world.document,  world.configuration, world.settings,
-                       world.files,  world.prompts, world.shell,  world.clipboard, world.clock,         world.forms,
-                       world.context.appPath};
+    AppContext context{world.editor,   inserter,    world.designer,       world.document, world.configuration,
+                       world.settings, world.files, world.prompts,        world.shell,    world.clipboard,
+                       world.clock,    world.forms, world.context.appPath};
     CommandRouter router{context, window};
 
     RouterBench() = default;

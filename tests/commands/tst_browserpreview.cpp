@@ -13,9 +13,12 @@ const QString nowhere = u"C:\\nonexist.iamcool.forever"_s;
 
 void expectSaveQuestion(RouterBench &bench, const QString &browser, Answer answer)
 {
-    bench.world.prompts.expect({u"You must save your document to preview in "_s + browser + u", would you like to save now?"_s,
-                                {}, Question::Icon::Question, Question::Buttons::YesNo},
-                               answer);
+    bench.world.prompts.expect(
+        {u"You must save your document to preview in "_s + browser + u", would you like to save now?"_s,
+         {},
+         Question::Icon::Question,
+         Question::Buttons::YesNo},
+        answer);
 }
 
 void expectPathQuestion(RouterBench &bench, const QString &initial, const std::optional<QString> &answer)
@@ -117,7 +120,8 @@ void TstBrowserPreview::aWrongPathChangesNothing()
     RouterBench bench;
     bench.world.configuration.put(u"Paths"_s, u"IEPATH"_s, kept);
     expectPathQuestion(bench, offered, answer);
-    bench.world.prompts.expect({u"Sorry, the new path was not found, Zephira will now exit this function..."_s}, Answer::Ok);
+    bench.world.prompts.expect({u"Sorry, the new path was not found, Zephira will now exit this function..."_s},
+                               Answer::Ok);
     bench.router.pullDown(u"pie"_s);
     QVERIFY(bench.world.prompts.verify());
     QVERIFY(bench.window.calls.isEmpty());

@@ -67,7 +67,8 @@ int lightnessOf(const QIcon &icon, QSize size)
 
 QPalette plainPalette(bool dark)
 {
-    return dark ? QPalette(QColor(49, 54, 59), QColor(35, 38, 41)) : QPalette(QColor(239, 240, 241), QColor(239, 240, 241));
+    return dark ? QPalette(QColor(49, 54, 59), QColor(35, 38, 41))
+                : QPalette(QColor(239, 240, 241), QColor(239, 240, 241));
 }
 
 } // namespace

@@ -198,9 +198,9 @@ void TstCommandRouter::formMenu()
 void TstCommandRouter::unknownNamesDoNothing_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"", "nothing", "D2DSub_1", "ViewSub_0", "FormatSub_3", "InsertSub_0", "InsertButton",
-                             "mnupluginoptions_0", "mnuqv", "mnuinslink", "mnuef", "mnuaddcentry", "sug_0",
-                             "mnufile", "TableSub_1"})
+    for (const char *name :
+         {"", "nothing", "D2DSub_1", "ViewSub_0", "FormatSub_3", "InsertSub_0", "InsertButton", "mnupluginoptions_0",
+          "mnuqv", "mnuinslink", "mnuef", "mnuaddcentry", "sug_0", "mnufile", "TableSub_1"})
         QTest::addRow("'%s'", name) << QString::fromLatin1(name);
 }
 
@@ -256,7 +256,7 @@ void TstCommandRouter::timeAndDateFollowTheSelection()
     const QLocale system = QLocale::system();
     const QDateTime now = bench.world.clock.time;
     const QString expected = u"now: "_s + system.toString(now.time(), QLocale::ShortFormat) + u' '
-                             + system.toString(now.date(), QLocale::ShortFormat);
+        + system.toString(now.date(), QLocale::ShortFormat);
     QCOMPARE(bench.result(), expected);
     QVERIFY(expected.contains(u"13:05") || expected.contains(u"1:05"));
 }
@@ -471,7 +471,9 @@ void TstCommandRouter::loadTime()
 {
     RouterBench bench;
     bench.world.editor.setText(u"<p>\u00e4</p>\r\n"_s);
-    bench.world.forms.onOpen = [&](const QString &) { QVERIFY(bench.world.files.contents.contains(u"/app/ldtemp.html"_s)); };
+    bench.world.forms.onOpen = [&](const QString &) {
+        QVERIFY(bench.world.files.contents.contains(u"/app/ldtemp.html"_s));
+    };
     bench.router.toolbar1(u"loadtime"_s);
     QCOMPARE(bench.world.files.contents[u"/app/ldtemp.html"_s], QByteArray("<p>\xc3\xa4</p>\r\n"));
     QCOMPARE(bench.world.forms.modal, QStringList{u"frmDocSize"_s});

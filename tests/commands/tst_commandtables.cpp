@@ -230,8 +230,9 @@ void TstCommandTables::formattingBarOrder()
     // What serves any language stands at 13 to 15.
     QCOMPARE(keys.mid(12), (QStringList{u"specchars"_s, u"ftp"_s, u"reset"_s}));
     keys.removeAll(QString());
-    QCOMPARE(keys, (QStringList{u"bold"_s, u"italic"_s, u"underline"_s, u"left"_s, u"center"_s, u"right"_s, u"preview"_s,
-                                u"links"_s, u"htmltags"_s, u"loadtime"_s, u"specchars"_s, u"ftp"_s, u"reset"_s}));
+    QCOMPARE(keys,
+             (QStringList{u"bold"_s, u"italic"_s, u"underline"_s, u"left"_s, u"center"_s, u"right"_s, u"preview"_s,
+                          u"links"_s, u"htmltags"_s, u"loadtime"_s, u"specchars"_s, u"ftp"_s, u"reset"_s}));
     QCOMPARE(findFormattingButton(u"reset")->tip, QStringView(u"Discard Changes and Reload document"));
 }
 
@@ -242,10 +243,11 @@ void TstCommandTables::pullDowns()
         for (const PullDownEntry &entry : button.pullDown)
             actual.append(button.key.toString() + u'/' + entry.key.toString() + u' ' + entry.caption.toString());
     }
-    QCOMPARE(actual, (QStringList{u"preview/pie In Internet Explorer"_s, u"preview/pidb Preview in default browser"_s,
-                                  u"preview/picb In Zephira Browser"_s, u"links/linkwiz Link Wizard"_s,
-                                  u"links/linkextract Extract Links from Document"_s, u"htmltags/dtw Tag Wizard"_s,
-                                  u"htmltags/dts Tag Selector"_s, u"htmltags/dqw Quick Tags"_s}));
+    QCOMPARE(actual,
+             (QStringList{u"preview/pie In Internet Explorer"_s, u"preview/pidb Preview in default browser"_s,
+                          u"preview/picb In Zephira Browser"_s, u"links/linkwiz Link Wizard"_s,
+                          u"links/linkextract Extract Links from Document"_s, u"htmltags/dtw Tag Wizard"_s,
+                          u"htmltags/dts Tag Selector"_s, u"htmltags/dqw Quick Tags"_s}));
 }
 
 void TstCommandTables::designerMenusFitTheMenuTree()

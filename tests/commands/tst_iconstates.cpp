@@ -55,10 +55,7 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
     }
 
-    void emptySelected()
-    {
-        QCOMPARE(drawn(QIcon::Selected, Qt::transparent, Qt::blue).pixelColor(8, 8).alpha(), 0);
-    }
+    void emptySelected() { QCOMPARE(drawn(QIcon::Selected, Qt::transparent, Qt::blue).pixelColor(8, 8).alpha(), 0); }
 
     void disabledIsFaint()
     {
@@ -67,10 +64,7 @@ private Q_SLOTS:
         QCOMPARE(colour.red(), 0);
     }
 
-    void activeIsTheSame()
-    {
-        QCOMPARE(drawn(QIcon::Active, Qt::red, Qt::blue).pixelColor(8, 8), QColor(Qt::red));
-    }
+    void activeIsTheSame() { QCOMPARE(drawn(QIcon::Active, Qt::red, Qt::blue).pixelColor(8, 8), QColor(Qt::red)); }
 };
 
 ZEPHIRA_TEST(TstIconStates)

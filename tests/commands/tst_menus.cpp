@@ -256,7 +256,8 @@ void TstMenus::entriesReportTheirNames()
     QStringList names;
     for (const QVariantList &arguments : triggered)
         names.append(arguments.first().toString());
-    QCOMPARE(names, (QStringList{u"save"_s, u"Bold"_s, u"mnufcomp"_s, u"mnuqv"_s, u"mnupluginoptions_0"_s, u"sug_0"_s}));
+    QCOMPARE(names,
+             (QStringList{u"save"_s, u"Bold"_s, u"mnufcomp"_s, u"mnuqv"_s, u"mnupluginoptions_0"_s, u"sug_0"_s}));
 }
 
 void TstMenus::shortcutsFireOnce_data()
@@ -324,7 +325,8 @@ void TstMenus::whatIsNotAvailableSaysSo()
         QVERIFY2(!entry->isEnabled(), qPrintable(name));
         QCOMPARE(entry->toolTip(), u"Not available yet"_s);
     }
-    for (const QString &name : {u"mnucp"_s, u"save"_s, u"Bold"_s, u"about"_s, u"mnufcomp"_s, u"mnuformath"_s, u"mnufsimple"_s})
+    for (const QString &name :
+         {u"mnucp"_s, u"save"_s, u"Bold"_s, u"about"_s, u"mnufcomp"_s, u"mnuformath"_s, u"mnufsimple"_s})
         QVERIFY2(w.menus.action(name)->isEnabled(), qPrintable(name));
     QVERIFY(w.menus.menu(u"tools"_s)->toolTipsVisible());
 }

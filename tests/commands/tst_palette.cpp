@@ -47,8 +47,8 @@ void TstPalette::tabs()
     Palette palette;
     const QTabBar *tabs = palette.findChild<QTabBar *>(u"toolpane"_s);
     QCOMPARE(tabs, palette.tabs());
-    const QStringList captions{u"Tools"_s, u"Common"_s, u"Text"_s,  u"Tables"_s,  u"Style"_s, u"Frames"_s,
-                               u"Lists"_s, u"Forms"_s,  u"Scripts"_s, u"CFML"_s, u"ASP"_s,   u"SSI"_s};
+    const QStringList captions{u"Tools"_s, u"Common"_s, u"Text"_s,    u"Tables"_s, u"Style"_s, u"Frames"_s,
+                               u"Lists"_s, u"Forms"_s,  u"Scripts"_s, u"CFML"_s,   u"ASP"_s,   u"SSI"_s};
     QCOMPARE(tabs->count(), captions.size());
     for (int i = 0; i < tabs->count(); ++i) {
         QCOMPARE(tabs->tabText(i), captions[i]);

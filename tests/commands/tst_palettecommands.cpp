@@ -128,8 +128,10 @@ void TstPaletteCommands::refusals()
 void TstPaletteCommands::tidyNotesFirst()
 {
     RouterBench bench;
-    const Question note{u"Note: This will only tidy the last saved copy of this document!"_s, {},
-                        Question::Icon::Information, Question::Buttons::Ok};
+    const Question note{u"Note: This will only tidy the last saved copy of this document!"_s,
+                        {},
+                        Question::Icon::Information,
+                        Question::Buttons::Ok};
     bench.world.prompts.expect(note, Answer::Ok, [&] { QVERIFY(bench.world.forms.modal.isEmpty()); });
     bench.router.palette(0, u"tidy"_s, 1);
     QVERIFY(bench.world.prompts.verify());
@@ -341,7 +343,9 @@ void TstPaletteCommands::errorsAreTold()
                         "The error is as follows: the form is broken\r\n"
                         "Please Report this to the Zephira. team\r\n"
                         "Click OK to continue, Cancel to Exit the current SUB"_s,
-                        {}, Question::Icon::Critical, Question::Buttons::OkCancel};
+                        {},
+                        Question::Icon::Critical,
+                        Question::Buttons::OkCancel};
     bench.world.prompts.expect(told, Answer::Ok);
     bench.router.palette(0, u"color"_s, 3);
     bench.world.prompts.expect(told, Answer::Cancel);

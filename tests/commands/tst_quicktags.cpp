@@ -79,9 +79,11 @@ const PaletteCase paletteCases[] = {
     {7, u"", 17, u"sel<input type=\"submit\">"},
     {7, u"", 18, u"sel<input type=\"reset\">"},
 
-    {8, u"", 1, u"sel<applet code=\"code name\" codebase=\"code base\" name=\"name\" alt=\"alt text\" width=\"\" height=\"\">"},
-    {8, u"", 2, u"sel<script language=\"VBScript / LiveScript / Javascript / PHP / tcl\" src=\"source\" "
-                u"type=\"text/(language)\">\r\n<!--\r\n\r\n//-->\r\n</script>"},
+    {8, u"", 1,
+     u"sel<applet code=\"code name\" codebase=\"code base\" name=\"name\" alt=\"alt text\" width=\"\" height=\"\">"},
+    {8, u"", 2,
+     u"sel<script language=\"VBScript / LiveScript / Javascript / PHP / tcl\" src=\"source\" "
+     u"type=\"text/(language)\">\r\n<!--\r\n\r\n//-->\r\n</script>"},
     {8, u"", 3, u"<noscript>sel</noscript>"},
     {8, u"", 4, u"sel<script language=\"javascript\">\r\n    alert(\"warning\");\r\n</script>"},
     {8, u"", 5, u"sel<script language=\"javascript\">\r\n    confirm(\"are you sure?\");\r\n</script>"},
@@ -104,21 +106,26 @@ const PaletteCase paletteCases[] = {
      u"type=\"application/x-director\"width=\"32\"height=\"32\">\r\n"
      u"    </embed>\r\n"
      u"</object>"},
-    {8, u"", 12, u"sel<div id=\"layer1\" style=\"position:absolute; left:?px; top:?px; width:?px; height:?px; z-index:1\"></div>"},
+    {8, u"", 12,
+     u"sel<div id=\"layer1\" style=\"position:absolute; left:?px; top:?px; width:?px; height:?px; z-index:1\"></div>"},
 
     {9, u"", 2, u"sel<cfif ></cfif>"},
     {9, u"", 3, u"sel<cfelse>"},
     {9, u"", 4, u"sel<cfelseif>"},
     {9, u"", 5, u"sel<cfset >"},
     {9, u"", 6, u"sel<cfcookie name=\"name\" value=\"value\" expires=\"now/never\" domain=\"domain\" path=\"path\">"},
-    {9, u"", 7, u"sel<cfquery name=\"name\" datasource=\"source\" maxrows=rows dbtype=\"ODBC\" blockfactor=\"block factor\" "
-                u"timeout=\"timeout\" username=\"username\" password=\"password\" dbserver=\"server\" dbname=\"DBname\">"
-                u"sql statement</cfquery>"},
+    {9, u"", 7,
+     u"sel<cfquery name=\"name\" datasource=\"source\" maxrows=rows dbtype=\"ODBC\" blockfactor=\"block factor\" "
+     u"timeout=\"timeout\" username=\"username\" password=\"password\" dbserver=\"server\" dbname=\"DBname\">"
+     u"sql statement</cfquery>"},
     {9, u"", 8, u"sel<cfmail to=\"to\" from=\"from\" subject=\"subject\" cc=\"cc\" bcc=\"bcc\">body</cfmail>"},
-    {9, u"", 9, u"sel<cffile action=\"UPLOAD\" filefield=\"field\" destination=\"path\" nameconflict=\"ERROR\" "
-                u"accept=\"accept\" attributes=\"atts\" mode=\"mode\">"},
-    {9, u"", 10, u"sel<cfdirectory action=\"LIST\" directory=\"dir\" name=\"query name\" filter=\"filter\" sort=\"sort\">"},
-    {9, u"", 11, u"sel<cftable query=\"query\" maxrows=\"max\" startrow=\"start row\" colspacing=\"column spacing\"></cftable>"},
+    {9, u"", 9,
+     u"sel<cffile action=\"UPLOAD\" filefield=\"field\" destination=\"path\" nameconflict=\"ERROR\" "
+     u"accept=\"accept\" attributes=\"atts\" mode=\"mode\">"},
+    {9, u"", 10,
+     u"sel<cfdirectory action=\"LIST\" directory=\"dir\" name=\"query name\" filter=\"filter\" sort=\"sort\">"},
+    {9, u"", 11,
+     u"sel<cftable query=\"query\" maxrows=\"max\" startrow=\"start row\" colspacing=\"column spacing\"></cftable>"},
     {9, u"", 12, u"sel<cfcol text=\"content\" header=\"caption\" width=\"width\" align=\"CENTER\">"},
     {9, u"", 13, u"sel<cfloop index=\"index\" from=\"from\" to=\"to\" step=\"step\"></cfloop>"},
     {9, u"", 14, u"sel<cfinclude template=\"temp\">"},

@@ -109,9 +109,7 @@ private slots:
     void allNestedRunsAreAbandoned()
     {
         Run run;
-        run.hierarchicalWhile([&] {
-            run.hierarchicalWhile([&] { run.formatting->abandon(); });
-        });
+        run.hierarchicalWhile([&] { run.hierarchicalWhile([&] { run.formatting->abandon(); }); });
         QVERIFY(run.written.isEmpty());
     }
 
@@ -141,7 +139,9 @@ private slots:
                                   "The error is as follows: Out of string space\r\n"
                                   "Please Report this to the Zephira. team\r\n"
                                   "Click OK to continue, Cancel to Exit the current SUB"_s,
-                                  {}, Question::Icon::Critical, Question::Buttons::OkCancel},
+                                  {},
+                                  Question::Icon::Critical,
+                                  Question::Buttons::OkCancel},
                                  Answer::Ok);
         run.formatting->hierarchical();
         QVERIFY(run.written.isEmpty());

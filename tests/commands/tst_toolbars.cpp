@@ -39,8 +39,9 @@ void TstToolBars::standard()
         // A shortcut here would make the menu's ambiguous.
         QVERIFY(action->shortcut().isEmpty());
     }
-    QCOMPARE(keys, (QStringList{u"new"_s, u"open"_s, u"save"_s, u"print"_s, u"cut"_s, u"copy"_s, u"paste"_s, u"delete"_s,
-                                u"undo"_s, u"redo"_s}));
+    QCOMPARE(keys,
+             (QStringList{u"new"_s, u"open"_s, u"save"_s, u"print"_s, u"cut"_s, u"copy"_s, u"paste"_s, u"delete"_s,
+                          u"undo"_s, u"redo"_s}));
 }
 
 void TstToolBars::formatting()

@@ -44,8 +44,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("count");
         QTest::addColumn<QString>("first");
         QTest::addColumn<QString>("last");
-        QTest::newRow("ssivar") << u"ssivar"_s << 11 << u"SSI variables"_s << 24 << u"CONTENT_LENGTH"_s << u"SERVER_SOFTWARE"_s;
-        QTest::newRow("Combo6") << u"Combo6"_s << 10 << u"Server Variables"_s << 22 << u"HTTP_REFERER"_s << u"SERVER_SOFTWARE"_s;
+        QTest::newRow("ssivar") << u"ssivar"_s << 11 << u"SSI variables"_s << 24 << u"CONTENT_LENGTH"_s
+                                << u"SERVER_SOFTWARE"_s;
+        QTest::newRow("Combo6") << u"Combo6"_s << 10 << u"Server Variables"_s << 22 << u"HTTP_REFERER"_s
+                                << u"SERVER_SOFTWARE"_s;
     }
 
     void lists()
@@ -63,7 +65,8 @@ private Q_SLOTS:
         QVERIFY(!box.isVisible());
         bench.palette.tabs()->setCurrentIndex(toolbar);
         QVERIFY(box.isVisible());
-        QCOMPARE(bench.palette.toolBar(toolbar)->widgetForAction(bench.palette.toolBar(toolbar)->actions().last()), &box);
+        QCOMPARE(bench.palette.toolBar(toolbar)->widgetForAction(bench.palette.toolBar(toolbar)->actions().last()),
+                 &box);
         for (const QAction *action : bench.palette.toolBar(toolbar)->actions().sliced(0, 5))
             QVERIFY(bench.palette.toolBar(toolbar)->widgetForAction(const_cast<QAction *>(action))->x() < box.x());
     }
@@ -109,7 +112,8 @@ private Q_SLOTS:
         Bench bench;
         VariableBox &box = bench.box(u"ssivar"_s);
         bench.palette.tabs()->setCurrentIndex(11);
-        QWheelEvent wheel({5, 5}, box.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QWheelEvent wheel({5, 5}, box.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                          false);
         QCoreApplication::sendEvent(&box, &wheel);
         QCOMPARE(box.currentIndex(), -1);
         QCOMPARE(bench.world.editor.text(), QString());

@@ -171,7 +171,8 @@ private slots:
         QTest::newRow("blanks") << u"  a b  "_s << u"a b  "_s << u"  a b"_s << u"a b"_s;
         QTest::newRow("tab") << u" \ta\t "_s << u"\ta\t "_s << u" \ta\t"_s << u"\ta\t"_s;
         QTest::newRow("line end") << u"\r\na\r\n"_s << u"\r\na\r\n"_s << u"\r\na\r\n"_s << u"\r\na\r\n"_s;
-        QTest::newRow("no-break space") << u"\u00A0a\u00A0"_s << u"\u00A0a\u00A0"_s << u"\u00A0a\u00A0"_s << u"\u00A0a\u00A0"_s;
+        QTest::newRow("no-break space") << u"\u00A0a\u00A0"_s << u"\u00A0a\u00A0"_s << u"\u00A0a\u00A0"_s
+                                        << u"\u00A0a\u00A0"_s;
         QTest::newRow("only blanks") << u"   "_s << u""_s << u""_s << u""_s;
         QTest::newRow("nothing") << u""_s << u""_s << u""_s << u""_s;
     }

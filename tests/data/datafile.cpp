@@ -29,7 +29,8 @@ QString faultOf(const QString &file, const QString &lineEnd, bool tabs)
     const QByteArray bytes = shippedBytes(file);
     if (bytes.isEmpty())
         return file + u" is missing or empty."_s;
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decoder(bytes);
     if (decoder.hasError() || text.startsWith(QChar::ByteOrderMark))
         return file + u" is no plain UTF-8."_s;

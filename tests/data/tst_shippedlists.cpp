@@ -78,17 +78,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("element");
         for (const char *name :
-             {"a",        "abbr",   "address",  "article", "aside",      "audio",    "b",        "bdi",    "bdo",     "blockquote",
-              "body",     "br",     "button",   "canvas",  "caption",    "cite",     "code",     "col",    "colgroup", "data",
-              "datalist", "dd",     "del",      "details", "dfn",        "dialog",   "div",      "dl",     "dt",      "em",
-              "fieldset", "figure", "figcaption", "footer", "form",      "h1",       "h4",       "h6",     "head",    "header",
-              "hgroup",   "hr",     "html",     "i",       "iframe",     "img",      "input",    "ins",    "kbd",     "label",
-              "legend",   "li",     "link",     "main",    "map",        "mark",     "menu",     "meta",   "meter",   "nav",
-              "noscript", "object", "ol",       "optgroup", "option",    "output",   "p",        "picture", "pre",    "progress",
-              "q",        "rp",     "rt",       "ruby",    "s",          "samp",     "script",   "search", "section", "select",
-              "slot",     "small",  "source",   "span",    "strong",     "style",    "sub",      "summary", "sup",    "table",
-              "tbody",    "td",     "template", "textarea", "tfoot",     "th",       "thead",    "time",   "title",   "tr",
-              "track",    "u",      "ul",       "var",     "video",      "wbr"})
+             {"a",          "abbr",   "address",  "article",  "aside",   "audio",      "b",        "bdi",    "bdo",
+              "blockquote", "body",   "br",       "button",   "canvas",  "caption",    "cite",     "code",   "col",
+              "colgroup",   "data",   "datalist", "dd",       "del",     "details",    "dfn",      "dialog", "div",
+              "dl",         "dt",     "em",       "fieldset", "figure",  "figcaption", "footer",   "form",   "h1",
+              "h4",         "h6",     "head",     "header",   "hgroup",  "hr",         "html",     "i",      "iframe",
+              "img",        "input",  "ins",      "kbd",      "label",   "legend",     "li",       "link",   "main",
+              "map",        "mark",   "menu",     "meta",     "meter",   "nav",        "noscript", "object", "ol",
+              "optgroup",   "option", "output",   "p",        "picture", "pre",        "progress", "q",      "rp",
+              "rt",         "ruby",   "s",        "samp",     "script",  "search",     "section",  "select", "slot",
+              "small",      "source", "span",     "strong",   "style",   "sub",        "summary",  "sup",    "table",
+              "tbody",      "td",     "template", "textarea", "tfoot",   "th",         "thead",    "time",   "title",
+              "tr",         "track",  "u",        "ul",       "var",     "video",      "wbr"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 
@@ -110,12 +111,26 @@ private Q_SLOTS:
     void aspObjects_data()
     {
         QTest::addColumn<QString>("entry");
-        for (const char *entry :
-             {"<%= %>", "<!-- #include virtual=\"\" -->", "<!-- #include file=\"\" -->", "<% Option Explicit %>",
-              "Request.Form(\"\")", "Request.QueryString(\"\")", "Request.Cookies(\"\")", "Request.ServerVariables(\"\")",
-              "Response.Write \"\"", "Response.Redirect \"\"", "Response.Cookies(\"\") = \"\"", "Server.MapPath(\"\")",
-              "Server.HTMLEncode(\"\")", "Server.CreateObject(\"\")", "Session(\"\")", "Session.Abandon",
-              "Application(\"\")", "Application.Lock", "Application.Unlock", "records.MoveNext"})
+        for (const char *entry : {"<%= %>",
+                                  "<!-- #include virtual=\"\" -->",
+                                  "<!-- #include file=\"\" -->",
+                                  "<% Option Explicit %>",
+                                  "Request.Form(\"\")",
+                                  "Request.QueryString(\"\")",
+                                  "Request.Cookies(\"\")",
+                                  "Request.ServerVariables(\"\")",
+                                  "Response.Write \"\"",
+                                  "Response.Redirect \"\"",
+                                  "Response.Cookies(\"\") = \"\"",
+                                  "Server.MapPath(\"\")",
+                                  "Server.HTMLEncode(\"\")",
+                                  "Server.CreateObject(\"\")",
+                                  "Session(\"\")",
+                                  "Session.Abandon",
+                                  "Application(\"\")",
+                                  "Application.Lock",
+                                  "Application.Unlock",
+                                  "records.MoveNext"})
             QTest::newRow(entry) << QString::fromLatin1(entry);
     }
 
@@ -128,13 +143,48 @@ private Q_SLOTS:
     void selectors_data()
     {
         QTest::addColumn<QString>("selector");
-        for (const char *selector :
-             {"*", "body", ".class", "#id", "[attribute]", "[attribute=\"value\"]", "[attribute^=\"start\"]",
-              "[attribute$=\"end\"]", "[attribute*=\"part\"]", "[attribute~=\"word\"]", "[attribute|=\"en\"]", "ul > li",
-              "h2 + p", "h2 ~ p", "article p", "&:hover", ":is()", ":where()", ":has()", ":not()", ":focus-visible",
-              ":focus-within", ":nth-child(2n+1)", ":nth-last-of-type(2)", ":checked", ":user-invalid", ":open", ":modal",
-              ":popover-open", ":target", ":host()", ":lang(en)", "::before", "::after", "::marker", "::placeholder",
-              "::selection", "::backdrop", "::part()", "::slotted()", "::view-transition", "::file-selector-button"})
+        for (const char *selector : {"*",
+                                     "body",
+                                     ".class",
+                                     "#id",
+                                     "[attribute]",
+                                     "[attribute=\"value\"]",
+                                     "[attribute^=\"start\"]",
+                                     "[attribute$=\"end\"]",
+                                     "[attribute*=\"part\"]",
+                                     "[attribute~=\"word\"]",
+                                     "[attribute|=\"en\"]",
+                                     "ul > li",
+                                     "h2 + p",
+                                     "h2 ~ p",
+                                     "article p",
+                                     "&:hover",
+                                     ":is()",
+                                     ":where()",
+                                     ":has()",
+                                     ":not()",
+                                     ":focus-visible",
+                                     ":focus-within",
+                                     ":nth-child(2n+1)",
+                                     ":nth-last-of-type(2)",
+                                     ":checked",
+                                     ":user-invalid",
+                                     ":open",
+                                     ":modal",
+                                     ":popover-open",
+                                     ":target",
+                                     ":host()",
+                                     ":lang(en)",
+                                     "::before",
+                                     "::after",
+                                     "::marker",
+                                     "::placeholder",
+                                     "::selection",
+                                     "::backdrop",
+                                     "::part()",
+                                     "::slotted()",
+                                     "::view-transition",
+                                     "::file-selector-button"})
             QTest::newRow(selector) << QString::fromLatin1(selector);
     }
 

@@ -95,8 +95,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, file);
         const QString text = shippedText(file);
-        for (const QString &element : {u"script"_s, u"style"_s, u"template"_s, u"dialog"_s, u"form"_s, u"nav"_s, u"table"_s,
-                                       u"button"_s, u"label"_s, u"ul"_s, u"ol"_s, u"div"_s, u"section"_s, u"figure"_s}) {
+        for (const QString &element :
+             {u"script"_s, u"style"_s, u"template"_s, u"dialog"_s, u"form"_s, u"nav"_s, u"table"_s, u"button"_s,
+              u"label"_s, u"ul"_s, u"ol"_s, u"div"_s, u"section"_s, u"figure"_s}) {
             const QRegularExpression begin(u"<%1[ >]"_s.arg(element));
             QCOMPARE(text.count(begin), text.count(u"</%1>"_s.arg(element)));
         }

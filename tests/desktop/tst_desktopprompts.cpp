@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/desktopprompts.h"
-#include "widgets/qtvalues.h"
 #include "support/testregistry.h"
+#include "widgets/qtvalues.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -105,8 +105,8 @@ void TstDesktopPrompts::messageBox_data()
     QTest::newRow("critical") << Question{u"Hello"_s, {}, Icon::Critical, Buttons::YesNo} << u"Zephira"_s
                               << QMessageBox::Critical << QStringList{u"Yes"_s, u"No"_s} << Answer::Yes << Answer::No;
     QTest::newRow("question") << Question{u"Hello"_s, u"Overwrite?"_s, Icon::Question, Buttons::YesNoCancel}
-                              << u"Overwrite?"_s << QMessageBox::Question
-                              << QStringList{u"Yes"_s, u"No"_s, u"Cancel"_s} << Answer::Yes << Answer::Cancel;
+                              << u"Overwrite?"_s << QMessageBox::Question << QStringList{u"Yes"_s, u"No"_s, u"Cancel"_s}
+                              << Answer::Yes << Answer::Cancel;
 }
 
 void TstDesktopPrompts::messageBox()
@@ -257,8 +257,8 @@ void TstDesktopPrompts::openFile()
         dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(u"page.HTML"_s);
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    const auto answer = m_prompts->file(
-        {u"Open a document..."_s, u"Html Files|*.html;*.htm|All Files|*.*"_s, m_folder->path(), false});
+    const auto answer =
+        m_prompts->file({u"Open a document..."_s, u"Html Files|*.html;*.htm|All Files|*.*"_s, m_folder->path(), false});
     QVERIFY(m_wasUp);
     QCOMPARE(answer, std::optional(path));
 }
@@ -296,8 +296,8 @@ void TstDesktopPrompts::savedNameTakesTheSuffix()
         dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(typed);
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    const auto answer = m_prompts->file({u"Save a document..."_s, u"HTML Files|*.html|ASP File|*.asp|All Files|*.*"_s,
-                                         m_folder->path(), true});
+    const auto answer = m_prompts->file(
+        {u"Save a document..."_s, u"HTML Files|*.html|ASP File|*.asp|All Files|*.*"_s, m_folder->path(), true});
     QVERIFY(m_wasUp);
     QCOMPARE(answer, std::optional(m_folder->filePath(saved)));
 }

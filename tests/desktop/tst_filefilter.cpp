@@ -26,8 +26,10 @@ void TstFileFilter::namesAndPatterns_data()
     QTest::newRow("one") << u"SQL Files|*.sql"_s << QStringList{u"SQL Files (*.sql)"_s};
     QTest::newRow("several patterns") << u"Html Files|*.html;*.htm|All Files|*.*"_s
                                       << QStringList{u"Html Files (*.html *.htm)"_s, u"All Files (*)"_s};
-    QTest::newRow("pattern without a dot") << u"Supported|*.java;*css;*.js"_s << QStringList{u"Supported (*.java *css *.js)"_s};
-    QTest::newRow("name with brackets") << u"Module (BAS) Files|*.bas"_s << QStringList{u"Module (BAS) Files (*.bas)"_s};
+    QTest::newRow("pattern without a dot")
+        << u"Supported|*.java;*css;*.js"_s << QStringList{u"Supported (*.java *css *.js)"_s};
+    QTest::newRow("name with brackets") << u"Module (BAS) Files|*.bas"_s
+                                        << QStringList{u"Module (BAS) Files (*.bas)"_s};
     QTest::newRow("blanks around patterns") << u"Pictures|*.gif; *.jpg ;"_s << QStringList{u"Pictures (*.gif *.jpg)"_s};
     QTest::newRow("name without patterns") << u"A|*.a|B"_s << QStringList{u"A (*.a)"_s};
 }

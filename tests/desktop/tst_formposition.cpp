@@ -166,10 +166,10 @@ void TstFormPosition::screens_data()
     const QRect right(1600, 200, 1000, 800);
     QTest::newRow("inside") << QRect(10, 20, 300, 200) << QList<QRect>{wide} << QRect(10, 20, 300, 200);
     QTest::newRow("partly outside") << QRect(1500, 900, 300, 200) << QList<QRect>{wide} << QRect(1500, 900, 300, 200);
-    QTest::newRow("on the second screen") << QRect(1700, 300, 300, 200) << QList<QRect>{wide, right}
-                                          << QRect(1700, 300, 300, 200);
-    QTest::newRow("second screen is gone") << QRect(1700, 300, 300, 200) << QList<QRect>{wide}
-                                           << QRect(1300, 300, 300, 200);
+    QTest::newRow("on the second screen")
+        << QRect(1700, 300, 300, 200) << QList<QRect>{wide, right} << QRect(1700, 300, 300, 200);
+    QTest::newRow("second screen is gone")
+        << QRect(1700, 300, 300, 200) << QList<QRect>{wide} << QRect(1300, 300, 300, 200);
     QTest::newRow("above") << QRect(10, -500, 300, 200) << QList<QRect>{wide} << QRect(10, 0, 300, 200);
     QTest::newRow("title bar above") << QRect(10, -30, 300, 200) << QList<QRect>{wide} << QRect(10, 0, 300, 200);
     QTest::newRow("a sliver is left") << QRect(1590, 0, 300, 200) << QList<QRect>{wide} << QRect(1300, 0, 300, 200);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/module.h"
 #include "core/webviews.h"
+#include "desktop/module.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
 #include "views/pagefetcher.h"

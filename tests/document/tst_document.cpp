@@ -248,7 +248,8 @@ private Q_SLOTS:
         bench.openFile(u"/a.txt"_s, "one");
         bench.fakes.editor.setText(u"two"_s);
         bench.fakes.editor.saveError = Error{Error::Code::Unwritable, u"/a.txt can't be written: the disk is full."_s};
-        bench.fakes.prompts.expectTell(u"/a.txt can't be written: the disk is full."_s, {}, Question::Icon::Exclamation);
+        bench.fakes.prompts.expectTell(u"/a.txt can't be written: the disk is full."_s, {},
+                                       Question::Icon::Exclamation);
         QVERIFY(!bench.document.doSave());
         QVERIFY(bench.document.docModified());
         QCOMPARE(bench.fakes.files.contents[u"/a.txt"_s], QByteArray("one"));
@@ -438,9 +439,12 @@ private Q_SLOTS:
         Bench bench;
         bench.window.file = u"gone.html"_s;
         bench.fakes.editor.openError = Error{Error::Code::NotFound, u"gone.html was not found."_s};
-        bench.fakes.prompts.expect({u"An error has occured.\r\ngone.html was not found.\r\nThe routine will now reset itself..."_s,
-                                    {}, Question::Icon::Critical, Question::Buttons::Ok},
-                                   Answer::Ok);
+        bench.fakes.prompts.expect(
+            {u"An error has occured.\r\ngone.html was not found.\r\nThe routine will now reset itself..."_s,
+             {},
+             Question::Icon::Critical,
+             Question::Buttons::Ok},
+            Answer::Ok);
         bench.document.OpenAFile();
         QVERIFY(!bench.document.docHasFile());
     }
@@ -452,8 +456,10 @@ private Q_SLOTS:
         bench.openFile(u"/a.html"_s, "saved");
         bench.fakes.editor.setText(u"changed"_s);
         const Question question{
-            u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s, {},
-            Question::Icon::Question, Question::Buttons::YesNo};
+            u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
+            {},
+            Question::Icon::Question,
+            Question::Buttons::YesNo};
         bench.fakes.prompts.expect(question, Answer::No);
         bench.document.revert();
         QCOMPARE(bench.fakes.editor.text(), u"changed"_s);
@@ -471,9 +477,12 @@ private Q_SLOTS:
         bench.fakes.editor.setText(u"changed"_s);
         bench.fakes.files.contents.erase(u"/a.html"_s);
         bench.fakes.designer.unreadable = true;
-        bench.fakes.prompts.expect({u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
-                                    {}, Question::Icon::Question, Question::Buttons::YesNo},
-                                   Answer::Yes);
+        bench.fakes.prompts.expect(
+            {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
+             {},
+             Question::Icon::Question,
+             Question::Buttons::YesNo},
+            Answer::Yes);
         bench.document.revert();
         QCOMPARE(bench.fakes.editor.text(), u"changed"_s);
         QVERIFY(bench.document.docModified());
@@ -482,7 +491,8 @@ private Q_SLOTS:
     void saveAsTemplate()
     {
         Bench bench;
-        const InputRequest request{u"What do you wish to call this file? (Please Include Extension)"_s, u"Save as Template"_s};
+        const InputRequest request{u"What do you wish to call this file? (Please Include Extension)"_s,
+                                   u"Save as Template"_s};
         bench.fakes.editor.setText(u"tpl"_s);
         bench.fakes.prompts.expectInput(request, u""_s);
         bench.fakes.prompts.expectTell(u"You did not enter a file name, the file will not be saved"_s);
@@ -497,15 +507,16 @@ private Q_SLOTS:
         QVERIFY(bench.document.docModified());
         QVERIFY(!bench.document.docHasFile());
         bench.fakes.prompts.expectInput(request, u"../my.html"_s);
-        bench.fakes.prompts.expectTell(u"A template's name can't hold a folder: ../my.html"_s, {}, Question::Icon::Exclamation);
+        bench.fakes.prompts.expectTell(u"A template's name can't hold a folder: ../my.html"_s, {},
+                                       Question::Icon::Exclamation);
         bench.document.saveAsTemplate();
     }
 
     void clearClipboard()
     {
         Bench bench;
-        const Question question{u"Are you sure you wish to clear the clipboard?"_s, u"Clipboard"_s, Question::Icon::Question,
-                                Question::Buttons::YesNo};
+        const Question question{u"Are you sure you wish to clear the clipboard?"_s, u"Clipboard"_s,
+                                Question::Icon::Question, Question::Buttons::YesNo};
         bench.fakes.clipboard.content = u"secret"_s;
         bench.fakes.prompts.expect(question, Answer::No);
         bench.document.clearClipboard();

@@ -80,7 +80,8 @@ QStringList RunningProgram::withoutSizeSignal()
 QStringList RunningProgram::windows() const
 {
     QStringList titles;
-    const QByteArray ids = xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
+    const QByteArray ids =
+        xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
     for (const QByteArray &id : ids.split('\n')) {
         if (!id.isEmpty())
             titles.append(QString::fromUtf8(xdotool({u"getwindowname"_s, QString::fromLatin1(id)})));
@@ -119,7 +120,8 @@ bool RunningProgram::waitUntilGone(const QString &title) const
 
 QString RunningProgram::windowId(const QString &title) const
 {
-    const QByteArray ids = xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
+    const QByteArray ids =
+        xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
     for (const QByteArray &id : ids.split('\n')) {
         const QString window = QString::fromLatin1(id);
         if (!id.isEmpty() && QString::fromUtf8(xdotool({u"getwindowname"_s, window})) == title)
@@ -181,9 +183,10 @@ void RunningProgram::close(const QString &title) const
 
 QString RunningProgram::middleColour(const QString &title) const
 {
-    const QByteArray colour = outputOf(u"import"_s, {u"-silent"_s, u"-window"_s, windowId(title), u"-gravity"_s, u"center"_s,
-                                                     u"-crop"_s, u"1x1+0+0"_s, u"-depth"_s, u"8"_s, u"-format"_s,
-                                                     u"%[hex:u.p{0,0}]"_s, u"info:"_s});
+    const QByteArray colour =
+        outputOf(u"import"_s,
+                 {u"-silent"_s, u"-window"_s, windowId(title), u"-gravity"_s, u"center"_s, u"-crop"_s, u"1x1+0+0"_s,
+                  u"-depth"_s, u"8"_s, u"-format"_s, u"%[hex:u.p{0,0}]"_s, u"info:"_s});
     return u'#' + QString::fromLatin1(colour.first(qMin(6, colour.size())));
 }
 

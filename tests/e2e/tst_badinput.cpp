@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/iniconfiguration.h"
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
+#include "files/iniconfiguration.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -30,7 +30,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("trouble");
         QTest::addColumn<bool>("named"); // The window bears the file's name.
-        QTest::addColumn<bool>("told"); // A message says why.
+        QTest::addColumn<bool>("told");  // A message says why.
         QTest::newRow("a folder") << u"folder"_s << true << false;
         QTest::newRow("a dangling link") << u"dangling"_s << false << false;
         QTest::newRow("a circle of links") << u"circle"_s << false << false;
@@ -79,7 +79,9 @@ private Q_SLOTS:
         QCOMPARE(::mkfifo(QFile::encodeName(site + u"/pipe.html"_s).constData(), 0600), 0);
         for (const char *name : {"/not text \xff\xfe.html", "/not text \xff\xfe folder"}) {
             const QByteArray place = QFile::encodeName(site) + name;
-            QCOMPARE(place.endsWith("folder") ? ::mkdir(place.constData(), 0700) : ::mknod(place.constData(), S_IFREG | 0600, 0), 0);
+            QCOMPARE(place.endsWith("folder") ? ::mkdir(place.constData(), 0700)
+                                              : ::mknod(place.constData(), S_IFREG | 0600, 0),
+                     0);
         }
         RunningProgram program(folder, {path}, RunningProgram::boundByPermissions());
         const QString caption = RunningProgram::captionOf(path);
@@ -123,7 +125,9 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("before");
         QTest::newRow("NULs") << QByteArray("\0a\0\0b\0", 6);
         QTest::newRow("not UTF-8") << QByteArray("\xC3\x28 \xE9\x81\x8D\xFF\xFE\n");
-        QTest::newRow("half a UTF-16 character") << QByteArray("\xFF\xFE" "a\0b", 5);
+        QTest::newRow("half a UTF-16 character") << QByteArray("\xFF\xFE"
+                                                               "a\0b",
+                                                               5);
         QTest::newRow("a lone surrogate in UTF-16") << QByteArray("\xFE\xFF\xD8\x00\x00x", 6);
         QTest::newRow("control characters") << QByteArray("\x01\x1B[31m\x7F\x0C\x0B\n");
         QByteArray all(256 * 256, Qt::Uninitialized);
@@ -152,13 +156,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("added");
         QTest::addColumn<bool>("inFront");
-        QTest::newRow("the first match counts") << QByteArray("[OPTIONS]\nHighLight =  1\nlinenumber='1'\nleftmargin=1\n"
-                                                              "whitespace = \"0\"\nselbounds=0\nhighlight=nonsense\n")
-                                                << true;
-        QTest::newRow("a section again") << QByteArray("\n[options]\nhighlight=nonsense\n[Colors]\nclr0bg=blue\n") << false;
+        QTest::newRow("the first match counts")
+            << QByteArray("[OPTIONS]\nHighLight =  1\nlinenumber='1'\nleftmargin=1\n"
+                          "whitespace = \"0\"\nselbounds=0\nhighlight=nonsense\n")
+            << true;
+        QTest::newRow("a section again") << QByteArray("\n[options]\nhighlight=nonsense\n[Colors]\nclr0bg=blue\n")
+                                         << false;
         QTest::newRow("lines without a meaning") << QByteArray("[\n]\n=\n==\n[]\n=5\n;\n]x[\n\0\xFF\n", 30) << true;
-        QTest::newRow("a very long line") << QByteArray("[" + QByteArray(200000, 'x') + "]\n" + QByteArray(200000, 'y') + "="
-                                                        + QByteArray(2000000, 'z') + "\n") << true;
+        QTest::newRow("a very long line") << QByteArray("[" + QByteArray(200000, 'x') + "]\n" + QByteArray(200000, 'y')
+                                                        + "=" + QByteArray(2000000, 'z') + "\n")
+                                          << true;
         QTest::newRow("empty values elsewhere") << QByteArray("[new]\na=\nb=\"\"\nc=''\n") << false;
         QTest::newRow("a byte order mark") << QByteArray("\xEF\xBB\xBF") << true;
     }

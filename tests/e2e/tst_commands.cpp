@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/iniconfiguration.h"
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
+#include "files/iniconfiguration.h"
 #include "support/testregistry.h"
 
 #include <QDateTime>
@@ -43,13 +43,16 @@ public:
     {
         QByteArray state;
         // The window manager notes the state a moment after the window is there.
-        const bool told = QTest::qWaitFor([&] {
-            const QByteArray window = outputOf(u"xdotool"_s, {u"search"_s, u"--all"_s, u"--pid"_s, QString::number(m_pid),
-                                                              u"--name"_s, u'^' + QRegularExpression::escape(title) + u'$'});
-            if (!window.isEmpty())
-                state = outputOf(u"xprop"_s, {u"-id"_s, QString::fromLatin1(window), u"WM_STATE"_s});
-            return state.contains("window state:");
-        }, patience);
+        const bool told = QTest::qWaitFor(
+            [&] {
+                const QByteArray window = outputOf(u"xdotool"_s,
+                                                   {u"search"_s, u"--all"_s, u"--pid"_s, QString::number(m_pid),
+                                                    u"--name"_s, u'^' + QRegularExpression::escape(title) + u'$'});
+                if (!window.isEmpty())
+                    state = outputOf(u"xprop"_s, {u"-id"_s, QString::fromLatin1(window), u"WM_STATE"_s});
+                return state.contains("window state:");
+            },
+            patience);
         return told ? state : QByteArray();
     }
 
@@ -90,7 +93,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QByteArray>("after");
-        const auto row = [](const char *title, const char *name, const char *before, const char *keys, const char *after) {
+        const auto row = [](const char *title, const char *name, const char *before, const char *keys,
+                            const char *after) {
             QTest::newRow(title) << QString::fromLatin1(name) << QByteArray(before) << QString::fromLatin1(keys)
                                  << QByteArray(after);
         };
@@ -246,7 +250,8 @@ private Q_SLOTS:
     {
         ProgramFolder folder;
         const QString told = folder.place(u"told"_s);
-        const QString opener = folder.write(u"tools/xdg-open"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"" + told.toUtf8() + "\"\n");
+        const QString opener =
+            folder.write(u"tools/xdg-open"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"" + told.toUtf8() + "\"\n");
         QVERIFY(QFile::setPermissions(opener, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         RunningProgram program(folder, {u"/nodialog"_s});
         QVERIFY(program.waitForWindow(untitled));
@@ -311,7 +316,8 @@ private:
         const QDateTime now = QDateTime::currentDateTime();
         const QLocale system = QLocale::system();
         return (system.toString(now.time(), QLocale::ShortFormat) + u' '
-                + system.toString(now.date(), QLocale::ShortFormat)).toUtf8();
+                + system.toString(now.date(), QLocale::ShortFormat))
+            .toUtf8();
     }
 };
 

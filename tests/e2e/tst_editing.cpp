@@ -31,7 +31,8 @@ private Q_SLOTS:
         program.type(RunningProgram::captionOf(path), u"!"_s);
         program.key(RunningProgram::captionOf(path), u"ctrl+s"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "one\r\ntwo!", patience);
-        QCOMPARE(program.waitForWindows({RunningProgram::captionOf(path)}), QStringList{RunningProgram::captionOf(path)});
+        QCOMPARE(program.waitForWindows({RunningProgram::captionOf(path)}),
+                 QStringList{RunningProgram::captionOf(path)});
     }
 
     void aNameWithoutAnExtensionGetsTheLanguages()
@@ -140,7 +141,8 @@ private Q_SLOTS:
             QCOMPARE(program.waitForEnd(), 0);
             QCOMPARE(folder.recoveryCopies(), QStringList());
         } else {
-            QCOMPARE(program.waitForWindows({RunningProgram::captionOf(path)}), QStringList{RunningProgram::captionOf(path)});
+            QCOMPARE(program.waitForWindows({RunningProgram::captionOf(path)}),
+                     QStringList{RunningProgram::captionOf(path)});
             QVERIFY(program.isRunning());
         }
         QCOMPARE(ProgramFolder::read(path), after);

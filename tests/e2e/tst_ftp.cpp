@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/iniconfiguration.h"
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
+#include "files/iniconfiguration.h"
 #include "ftp/ftpserver.h"
 #include "support/testregistry.h"
 
@@ -125,7 +125,8 @@ private Q_SLOTS:
     void filesGoBothWays_data()
     {
         QTest::addColumn<FtpServer::Kind>("kind");
-        QTest::addColumn<QString>("password"); // The program's own proposal would not tell whether the typed one is used.
+        QTest::addColumn<QString>(
+            "password"); // The program's own proposal would not tell whether the typed one is used.
         // Only root can have this server shut its guests into a folder, and elsewhere the keys would have to find their
         // way through the whole disk.
         if (geteuid() == 0)
@@ -176,9 +177,9 @@ private Q_SLOTS:
         session.saveLog();
         QVERIFY(isPrivate(session.savedLog()));
         const QByteArray log = ProgramFolder::read(session.savedLog());
-        for (const char *part : {" *** LOOPBACK ***\r\n", " > Connected to server.\r\n",
-                                 "\r\n > Downloading from: /pub/from the server.bin, to: ",
-                                 ", to: /pub/from here.up\r\n", " > OK\r\n"})
+        for (const char *part :
+             {" *** LOOPBACK ***\r\n", " > Connected to server.\r\n",
+              "\r\n > Downloading from: /pub/from the server.bin, to: ", ", to: /pub/from here.up\r\n", " > OK\r\n"})
             QVERIFY2(log.contains(part), log.constData());
         QVERIFY2(!log.contains(password.toUtf8()), log.constData());
         const QByteArray told = program.standardOutput() + program.standardError();

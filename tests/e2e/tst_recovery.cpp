@@ -83,7 +83,8 @@ private Q_SLOTS:
     void aCopyOutlivesTheNextStart()
     {
         ProgramFolder folder;
-        const QString copy = folder.write(u"home/.config/Zephira/recovery/open-20200101-000000-000-1-page.txt"_s, "lost");
+        const QString copy =
+            folder.write(u"home/.config/Zephira/recovery/open-20200101-000000-000-1-page.txt"_s, "lost");
         RunningProgram program(folder, {u"/nodialog"_s});
         QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
         program.close(untitled);

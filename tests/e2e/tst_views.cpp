@@ -16,7 +16,8 @@ namespace {
 /// A page that fills the view with one colour.
 QByteArray pageOf(const QByteArray &colour)
 {
-    return "<!DOCTYPE html>\r\n<html><head><title>t</title></head>\r\n<body bgcolor=\"" + colour + "\"><p>x</p></body></html>\r\n";
+    return "<!DOCTYPE html>\r\n<html><head><title>t</title></head>\r\n<body bgcolor=\"" + colour
+        + "\"><p>x</p></body></html>\r\n";
 }
 
 const QString previewColour = u"#12AB34"_s;
@@ -32,8 +33,7 @@ QByteArray pageOfTwoColours()
 struct PageInProgram {
     explicit PageInProgram(const QByteArray &content, const QString &name = u"site/page.html"_s)
         : file(folder.write(name, content)), program(folder, {file}), title(RunningProgram::captionOf(file))
-    {
-    }
+    {}
 
     bool isShown() const { return program.waitForWindow(title); }
     /// Goes to the next view, and waits until that shows its colour.
@@ -75,7 +75,8 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(copy));
         // The terminal is told nothing but what concerns it.
         for (const QByteArray &line : page.program.standardError().split('\n'))
-            QVERIFY2(line.isEmpty() || line.contains("superuser") || line.contains("XDG_RUNTIME_DIR"), line.constData());
+            QVERIFY2(line.isEmpty() || line.contains("superuser") || line.contains("XDG_RUNTIME_DIR"),
+                     line.constData());
     }
 
     void whatIsTypedInTheDesignerIsSaved()
@@ -89,8 +90,10 @@ private Q_SLOTS:
         page.program.key(page.title, u"ctrl+s"_s);
         QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(page.file) != content, patience);
         const QByteArray saved = ProgramFolder::read(page.file);
-        QVERIFY2(saved.startsWith("<!DOCTYPE html>\r\n") && saved.contains("<p>typed herex</p><script>document.body.bgColor = '#12AB34'</script></body></html>"),
-                 saved.constData());
+        QVERIFY2(
+            saved.startsWith("<!DOCTYPE html>\r\n")
+                && saved.contains("<p>typed herex</p><script>document.body.bgColor = '#12AB34'</script></body></html>"),
+            saved.constData());
         QVERIFY(page.close());
     }
 

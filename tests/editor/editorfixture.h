@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "files/recoverycopies.h"
 #include "editor/codemax.h"
 #include "editor/codemaxglobals.h"
 #include "editor/editorappearance.h"
 #include "editor/idlecolouring.h"
+#include "files/recoverycopies.h"
 #include "support/fakes.h"
 
 #include <QTemporaryDir>

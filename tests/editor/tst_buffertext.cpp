@@ -35,7 +35,8 @@ private slots:
         QCOMPARE(toBuffer(text, lineEnds), buffer);
         // In whatever two pieces the buffer comes, even in the middle of a character.
         for (qsizetype cut = 0; cut <= buffer.size(); ++cut) {
-            const std::array<QByteArrayView, 2> pieces{QByteArrayView(buffer).first(cut), QByteArrayView(buffer).sliced(cut)};
+            const std::array<QByteArrayView, 2> pieces{QByteArrayView(buffer).first(cut),
+                                                       QByteArrayView(buffer).sliced(cut)};
             QCOMPARE(fromBuffer(pieces, lineEnds), text);
         }
     }

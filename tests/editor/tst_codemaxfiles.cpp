@@ -42,9 +42,12 @@ private slots:
         QTest::newRow("mixed, mostly LF") << "a\nb\r\nc\n\rd\n"_ba << u"a\nb\r\nc\n\rd\n"_s << "é\na\nb\r\nc\n\rd\n"_ba;
         QTest::newRow("empty") << QByteArray() << QString() << "é\r\n"_ba;
         QTest::newRow("one line") << "one"_ba << u"one"_s << "é\r\none"_ba;
-        QTest::newRow("UTF-8 with mark") << "\xef\xbb\xbf" "ä\n"_ba << u"ä\r\n"_s << "\xef\xbb\xbf" "é\nä\n"_ba;
-        QTest::newRow("Windows-1252") << "\xe4 \x80\x81\r\n"_ba << u"ä €\u0081\r\n"_s
-                                    << "\xe9\r\n\xe4 \x80\x81\r\n"_ba;
+        QTest::newRow("UTF-8 with mark") << "\xef\xbb\xbf"
+                                            "ä\n"_ba
+                                         << u"ä\r\n"_s
+                                         << "\xef\xbb\xbf"
+                                            "é\nä\n"_ba;
+        QTest::newRow("Windows-1252") << "\xe4 \x80\x81\r\n"_ba << u"ä €\u0081\r\n"_s << "\xe9\r\n\xe4 \x80\x81\r\n"_ba;
         QTest::newRow("UTF-16 LE") << utf16(u"aß\n"_s, false) << u"aß\r\n"_s << utf16(u"é\naß\n"_s, false);
         QTest::newRow("UTF-16 BE") << utf16(u"\U0001f600\r\n"_s, true) << u"\U0001f600\r\n"_s
                                    << utf16(u"é\r\n\U0001f600\r\n"_s, true);
@@ -82,11 +85,14 @@ private slots:
     void writingTheWholeTextKeepsTheFormat()
     {
         EditorFixture f;
-        f.files.contents[path] = "\xef\xbb\xbf" "a\n";
+        f.files.contents[path] = "\xef\xbb\xbf"
+                                 "a\n";
         QVERIFY(f.editor.OpenFile(path));
         f.editor.setText(u"x\r\ny\r\n"_s);
         QVERIFY(f.editor.SaveFile(path, false));
-        QCOMPARE(f.files.contents[path], "\xef\xbb\xbf" "x\ny\n"_ba);
+        QCOMPARE(f.files.contents[path],
+                 "\xef\xbb\xbf"
+                 "x\ny\n"_ba);
     }
 
     /// The window starts a new document by emptying the text.
@@ -173,8 +179,10 @@ private slots:
         f.editor.setSelText(u"α"_s);
         const Result<QByteArray> encoded = encodeText("äα\r\n", f.editor.textFormat());
         QVERIFY(!encoded);
-        f.prompts.expect({encoded.error().sentence + u"\n\nSave \"page.html\" as UTF-8 instead?"_s, {},
-                          Question::Icon::Exclamation, Question::Buttons::YesNo},
+        f.prompts.expect({encoded.error().sentence + u"\n\nSave \"page.html\" as UTF-8 instead?"_s,
+                          {},
+                          Question::Icon::Exclamation,
+                          Question::Buttons::YesNo},
                          answer);
         QCOMPARE(f.editor.SaveFile(path, false), answer == Answer::Yes);
         QCOMPARE(f.files.contents[path], written);
@@ -196,8 +204,10 @@ private slots:
         QVERIFY(f.editor.OpenFile(path));
         f.editor.setSelText(u"α"_s);
         const Result<QByteArray> encoded = encodeText("αä", f.editor.textFormat());
-        f.prompts.expect({encoded.error().sentence + u"\n\nSave \"copy.html\" as UTF-8 instead?"_s, {},
-                          Question::Icon::Exclamation, Question::Buttons::YesNo},
+        f.prompts.expect({encoded.error().sentence + u"\n\nSave \"copy.html\" as UTF-8 instead?"_s,
+                          {},
+                          Question::Icon::Exclamation,
+                          Question::Buttons::YesNo},
                          Answer::Yes);
         QVERIFY(f.editor.SaveFile(u"/temp/copy.html"_s, false));
         QCOMPARE(f.files.contents[u"/temp/copy.html"_s], "αä"_ba);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editorfixture.h"
 #include "editor/codemaxglobals.h"
 #include "editor/editorcommands.h"
 #include "editor/finddialog.h"
+#include "editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QAction>
@@ -79,9 +79,10 @@ private slots:
     void menusComeFirst_data()
     {
         QTest::addColumn<QKeySequence>("shortcut");
-        for (const char *key : {"Ctrl+N", "Ctrl+T", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Z", "Ctrl+Y", "Ctrl+X", "Ctrl+C",
-                                "Ctrl+V", "Ctrl+F", "Ctrl+R", "Ctrl+G", "Ctrl+A", "Ctrl+W", "Ctrl+H", "Del", "Shift+Del",
-                                "F1", "F3", "F5", "F6", "F7", "F8", "F12"})
+        for (const char *key :
+             {"Ctrl+N", "Ctrl+T", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Z", "Ctrl+Y", "Ctrl+X", "Ctrl+C",
+              "Ctrl+V", "Ctrl+F", "Ctrl+R", "Ctrl+G", "Ctrl+A", "Ctrl+W", "Ctrl+H", "Del",    "Shift+Del",
+              "F1",     "F3",     "F5",     "F6",     "F7",     "F8",     "F12"})
             QTest::newRow(key) << QKeySequence(QString::fromLatin1(key));
     }
     void menusComeFirst()
@@ -142,7 +143,8 @@ private slots:
         for (const CodeMaxHotKey &hotKey : initialHotKeys())
             globals.UnregisterHotKey(hotKey);
         for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key) {
-            for (const Qt::KeyboardModifiers shift : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier)}) {
+            for (const Qt::KeyboardModifiers shift :
+                 {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier)}) {
                 const QString control(QChar(key - Qt::Key_A + 1));
                 QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier | shift, control);
                 QCoreApplication::sendEvent(&f.editor, &press);
@@ -294,8 +296,9 @@ private slots:
         QStringList entries;
         for (const QAction *action : menu->actions())
             entries += action->isSeparator() ? u"-"_s : action->text().remove(u'&');
-        QCOMPARE(entries, (QStringList{u"Undo"_s, u"Redo"_s, u"-"_s, u"Cut"_s, u"Copy"_s, u"Paste"_s, u"Delete"_s, u"-"_s,
-                                       u"Select All"_s, u"Toggle Bookmark"_s, u"-"_s, u"Properties…"_s}));
+        QCOMPARE(entries,
+                 (QStringList{u"Undo"_s, u"Redo"_s, u"-"_s, u"Cut"_s, u"Copy"_s, u"Paste"_s, u"Delete"_s, u"-"_s,
+                              u"Select All"_s, u"Toggle Bookmark"_s, u"-"_s, u"Properties…"_s}));
         menu->close();
     }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editorfixture.h"
-#include "widgets/qtvalues.h"
 #include "editor/colouritems.h"
 #include "editor/editormargins.h"
+#include "editorfixture.h"
 #include "support/testregistry.h"
+#include "widgets/qtvalues.h"
 
 #include <QSet>
 

@@ -2,8 +2,8 @@
 #include "editorfixture.h"
 #include "support/testregistry.h"
 
-#include <QMetaMethod>
 #include <QDialog>
+#include <QMetaMethod>
 #include <QMetaProperty>
 
 using namespace Qt::StringLiterals;
@@ -93,13 +93,15 @@ private slots:
         QVERIFY(f.editor.setProperty("Text", u"one\ntwo"_s));
         QCOMPARE(f.editor.property("Text").toString(), u"one\r\ntwo"_s);
         QCOMPARE(f.editor.property("LineCount").toInt(), 2);
-        QVERIFY(QMetaObject::invokeMethod(&f.editor, "SetSel", Q_ARG(int, 0), Q_ARG(int, 1), Q_ARG(int, 1), Q_ARG(int, 2)));
+        QVERIFY(
+            QMetaObject::invokeMethod(&f.editor, "SetSel", Q_ARG(int, 0), Q_ARG(int, 1), Q_ARG(int, 1), Q_ARG(int, 2)));
         QCOMPARE(f.editor.property("SelText").toString(), u"ne\r\ntw"_s);
         QCOMPARE(f.editor.property("SelLength").toInt(), 6);
         QVERIFY(f.editor.property("CanCopy").toBool());
         QVariantMap range;
         QVERIFY(QMetaObject::invokeMethod(&f.editor, "GetSel", Q_RETURN_ARG(QVariantMap, range), Q_ARG(bool, true)));
-        QCOMPARE(range, (QVariantMap{{u"StartLineNo"_s, 0}, {u"StartColNo"_s, 1}, {u"EndLineNo"_s, 1}, {u"EndColNo"_s, 2}}));
+        QCOMPARE(range,
+                 (QVariantMap{{u"StartLineNo"_s, 0}, {u"StartColNo"_s, 1}, {u"EndLineNo"_s, 1}, {u"EndColNo"_s, 2}}));
         QVERIFY(f.editor.setProperty("SelText", u"-"_s));
         QCOMPARE(f.editor.property("Text").toString(), u"o-o"_s);
         QCOMPARE(f.editor.property("CurrentWord").toString(), u"o"_s);
@@ -185,8 +187,8 @@ private slots:
         EditorFixture f;
         f.editor.setText(u"text"_s);
         for (int number = -10; number < 3000; ++number) {
-            const bool known = f.editor.globals().hotKeyCount(number) > 0 || number == 137 || number == 168 || number == 169
-                               || number == 176 || number == 178 || number == 224;
+            const bool known = f.editor.globals().hotKeyCount(number) > 0 || number == 137 || number == 168
+                || number == 169 || number == 176 || number == 178 || number == 224;
             if (!known)
                 f.editor.ExecuteCmd(number, 0);
         }

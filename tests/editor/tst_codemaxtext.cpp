@@ -287,7 +287,8 @@ private slots:
         f.files.contents[u"/file"_s] = file;
         QVERIFY(f.editor.openFile(u"/file"_s));
         QRandomGenerator random(99);
-        const QStringList pieces{u"a"_s, u"é€"_s, u"\U0001f600"_s, u"\r\n"_s, u"\n"_s, u"\r"_s, QString(QChar(0)), QString()};
+        const QStringList pieces{u"a"_s,  u"é€"_s, u"\U0001f600"_s,   u"\r\n"_s,
+                                 u"\n"_s, u"\r"_s, QString(QChar(0)), QString()};
         for (int i = 0; i < 2000; ++i) {
             const auto number = [&](int below) { return static_cast<int>(random.bounded(below)); };
             const int doing = number(12);

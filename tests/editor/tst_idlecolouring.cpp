@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editorfixture.h"
 #include "editor/codemaxglobals.h"
 #include "editor/colouritems.h"
+#include "editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QRandomGenerator>
@@ -131,13 +131,17 @@ private slots:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QStringList>("pieces");
-        QTest::newRow("HTML") << u"HTML"_s
-                              << QStringList{u"<!--"_s, u"-->"_s, u"<p class=\"a\">"_s, u"</p>"_s, u"<div>"_s, u"</div>"_s,
-                                             u"<script>"_s, u"</script>"_s, u"<% "_s, u" %>"_s, u"\r\n"_s, u"\r\n"_s, u"\r"_s,
-                                             u"\n"_s, u"\""_s, u"{"_s, u"}"_s, u"text é "_s, u"/*"_s, u"*/"_s};
+        QTest::newRow("HTML") << u"HTML"_s << QStringList{u"<!--"_s,     u"-->"_s,       u"<p class=\"a\">"_s,
+                                                          u"</p>"_s,     u"<div>"_s,     u"</div>"_s,
+                                                          u"<script>"_s, u"</script>"_s, u"<% "_s,
+                                                          u" %>"_s,      u"\r\n"_s,      u"\r\n"_s,
+                                                          u"\r"_s,       u"\n"_s,        u"\""_s,
+                                                          u"{"_s,        u"}"_s,         u"text é "_s,
+                                                          u"/*"_s,       u"*/"_s};
         QTest::newRow("C/C++") << u"C/C++"_s
-                               << QStringList{u"/*"_s, u"*/"_s, u"//"_s, u"{"_s, u"}"_s, u"{"_s, u"}"_s, u"\r\n"_s, u"\n"_s,
-                                              u"\r"_s, u"\""_s, u"int x = 5;"_s, u"\\\r\n"_s, u"return "_s, u"R\"(\r\n"_s};
+                               << QStringList{u"/*"_s, u"*/"_s,         u"//"_s,     u"{"_s,       u"}"_s,
+                                              u"{"_s,  u"}"_s,          u"\r\n"_s,   u"\n"_s,      u"\r"_s,
+                                              u"\""_s, u"int x = 5;"_s, u"\\\r\n"_s, u"return "_s, u"R\"(\r\n"_s};
     }
     /// Any edits, coloured line by line as the window asks for them, leave what colouring everything anew leaves.
     void editsColourAsTheWholeTextDoes()
@@ -145,7 +149,9 @@ private slots:
         QFETCH(QString, language);
         QFETCH(QStringList, pieces);
         QRandomGenerator random(4711);
-        const auto number = [&](qsizetype below) { return static_cast<qsizetype>(random.bounded(static_cast<quint32>(below))); };
+        const auto number = [&](qsizetype below) {
+            return static_cast<qsizetype>(random.bounded(static_cast<quint32>(below)));
+        };
         for (int round = 0; round < 60; ++round) {
             EditorFixture f;
             const SciEngine &engine = f.editor.engine();
@@ -162,9 +168,11 @@ private slots:
                 const qsizetype safe = engine.send(Sci::SCI_POSITIONBEFORE, position);
                 const auto doing = number(10);
                 if (doing < 5) {
-                    f.editor.perform([&] { f.editor.replaceBytes(safe, safe, pieces[number(pieces.size())].toUtf8()); });
+                    f.editor.perform(
+                        [&] { f.editor.replaceBytes(safe, safe, pieces[number(pieces.size())].toUtf8()); });
                 } else if (doing < 8) {
-                    const qsizetype end = engine.send(Sci::SCI_POSITIONAFTER, std::min(safe + number(30), engine.length()));
+                    const qsizetype end =
+                        engine.send(Sci::SCI_POSITIONAFTER, std::min(safe + number(30), engine.length()));
                     f.editor.perform([&] { f.editor.replaceBytes(safe, std::max(safe, end), {}); });
                 } else if (doing == 8) {
                     f.editor.undo();

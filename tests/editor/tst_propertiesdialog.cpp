@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editorfixture.h"
 #include "editor/propertiesdialog.h"
+#include "editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QCheckBox>
@@ -59,10 +59,11 @@ private slots:
         auto &list = d.child<QListWidget>(u"lstItems"_s);
         for (int i = 0; i < list.count(); ++i)
             items += list.item(i)->text();
-        QCOMPARE(items, (QStringList{u"Bookmark"_s, u"Comment"_s, u"Horizontal divider lines"_s, u"Vertical divider lines"_s,
-                                     u"Highlighted line"_s, u"Keyword"_s, u"Left margin"_s, u"Line number"_s, u"Number"_s,
-                                     u"Operator"_s, u"Scope keyword"_s, u"String"_s, u"Tag element name"_s, u"Tag entity"_s,
-                                     u"Tag attribute name"_s, u"Tag text"_s, u"Text"_s, u"Window"_s}));
+        QCOMPARE(items,
+                 (QStringList{u"Bookmark"_s, u"Comment"_s, u"Horizontal divider lines"_s, u"Vertical divider lines"_s,
+                              u"Highlighted line"_s, u"Keyword"_s, u"Left margin"_s, u"Line number"_s, u"Number"_s,
+                              u"Operator"_s, u"Scope keyword"_s, u"String"_s, u"Tag element name"_s, u"Tag entity"_s,
+                              u"Tag attribute name"_s, u"Tag text"_s, u"Text"_s, u"Window"_s}));
     }
 
     void coloursGoToTheirItems_data()
@@ -89,7 +90,8 @@ private slots:
         d.choose(row);
         f.prompts.expectColour(f.editor.color(foreground), 0x0000ff);
         d.child<QPushButton>(u"cmdForeground"_s).click();
-        QCOMPARE(d.child<QPushButton>(u"cmdBackground"_s).isEnabled() || d.child<QCheckBox>(u"chkAutomatic"_s).isEnabled(),
+        QCOMPARE(d.child<QPushButton>(u"cmdBackground"_s).isEnabled()
+                     || d.child<QCheckBox>(u"chkAutomatic"_s).isEnabled(),
                  background >= 0);
         if (background >= 0) {
             auto &automatic = d.child<QCheckBox>(u"chkAutomatic"_s);
@@ -155,8 +157,8 @@ private slots:
         d.child<QCheckBox>(u"chkStrikethrough"_s).click();
         d.child<QSpinBox>(u"spnTab"_s).setValue(7);
         d.child<QSpinBox>(u"spnEdge"_s).setValue(80);
-        for (const char *name : {"chkBlanks", "chkIndent", "chkWrap", "chkBraces", "chkFolds", "chkCaretLine", "chkWhitespace",
-                                 "chkLineNumbers", "chkLeftMargin"})
+        for (const char *name : {"chkBlanks", "chkIndent", "chkWrap", "chkBraces", "chkFolds", "chkCaretLine",
+                                 "chkWhitespace", "chkLineNumbers", "chkLeftMargin"})
             d.child<QCheckBox>(QString::fromLatin1(name)).click();
         d.press(QDialogButtonBox::Ok);
         QCOMPARE(f.editor.editorFont(), (FontChoice{u"Liberation Mono"_s, 12.5, true, false, true, false}));

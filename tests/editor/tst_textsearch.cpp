@@ -41,7 +41,8 @@ private slots:
         QTest::newRow("ends of lines") << u"a\nb"_s << u"$"_s << u"r"_s << u";"_s << u"a;\nb;"_s;
         QTest::newRow("empty matches") << u"axb"_s << u"x*"_s << u"r"_s << u"-"_s << u"-a--b-"_s;
         QTest::newRow("over lines") << u"a\nb\nc"_s << u"a\\nb"_s << u"r"_s << u"\\n\\t\\\\"_s << u"\n\t\\\nc"_s;
-        QTest::newRow("alternatives as words") << u"cat cats dog"_s << u"cat|dog"_s << u"rw"_s << u"x"_s << u"x cats x"_s;
+        QTest::newRow("alternatives as words")
+            << u"cat cats dog"_s << u"cat|dog"_s << u"rw"_s << u"x"_s << u"x cats x"_s;
         QTest::newRow("whole match") << u"ab"_s << u"b"_s << u"r"_s << u"[\\0]"_s << u"a[b]"_s;
         QTest::newRow("surrogates") << u"\U0001f600\U0001f601"_s << u"."_s << u"r"_s << u"x"_s << u"xx"_s;
         QTest::newRow("nothing") << u"abc"_s << u"x"_s << u""_s << u"y"_s << u"abc"_s;
@@ -53,8 +54,7 @@ private slots:
         QFETCH(QString, flags);
         QFETCH(QString, replacement);
         QFETCH(QString, result);
-        const TextSearch search =
-            searchFor(pattern, flags.contains(u'r'), flags.contains(u'c'), flags.contains(u'w'));
+        const TextSearch search = searchFor(pattern, flags.contains(u'r'), flags.contains(u'c'), flags.contains(u'w'));
         const auto matches = search.all(text, 0, text.size(), replacement);
         QString replaced = text;
         for (size_t i = matches.size(); i-- > 0;)
@@ -98,10 +98,11 @@ private slots:
     {
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("sentence");
-        QTest::newRow("parenthesis") << u"a(b"_s
-                                     << u"The regular expression is wrong at character 4: missing closing parenthesis."_s;
-        QTest::newRow("star") << u"*"_s
-                              << u"The regular expression is wrong at character 1: quantifier does not follow a repeatable item."_s;
+        QTest::newRow("parenthesis")
+            << u"a(b"_s << u"The regular expression is wrong at character 4: missing closing parenthesis."_s;
+        QTest::newRow("star")
+            << u"*"_s
+            << u"The regular expression is wrong at character 1: quantifier does not follow a repeatable item."_s;
     }
     void wrongExpressionsSayWhere()
     {

@@ -183,8 +183,10 @@ void TstAppFolder::missingDataIsAnError()
     const Result<QString> path = prepare();
     QVERIFY(!path.ok());
     QCOMPARE(path.error().code, Error::Code::NotFound);
-    QCOMPARE(path.error().sentence,
-             u"Zephira can't start: there is no zephira.ini beside the program, and none in %1. Please install the program again."_s.arg(at(u"share"_s)));
+    QCOMPARE(
+        path.error().sentence,
+        u"Zephira can't start: there is no zephira.ini beside the program, and none in %1. Please install the program again."_s
+            .arg(at(u"share"_s)));
 }
 
 void TstAppFolder::placeTakenByAFile()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/atomicwrite.h"
 
-#include "files/diskfilestore.h"
 #include "faultycalls.h"
+#include "files/diskfilestore.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -46,7 +46,8 @@ void put(const QString &path, const QByteArray &content)
 
 QStringList namesIn(const QTemporaryDir &folder)
 {
-    return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    return QDir(folder.path())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
 /// What the child process makes of its body: its exit status.
@@ -164,8 +165,8 @@ private slots:
                 QCOMPARE(contentOf(path), newContent);
                 const auto end = calls.made().begin() + failing;
                 const bool isInPlace = std::find(calls.made().begin(), end, Call::Rename) != end;
-                const bool isFolder = call == Call::Open && error == EACCES
-                                      && std::find(calls.made().begin(), end, Call::Open) == end;
+                const bool isFolder =
+                    call == Call::Open && error == EACCES && std::find(calls.made().begin(), end, Call::Open) == end;
                 const bool isExtra = call == Call::GetAttribute || call == Call::ListAttributes;
                 QVERIFY2(isFolder || isExtra || (call == Call::Close && isInPlace), "a failure was passed over");
             } else {
@@ -176,7 +177,8 @@ private slots:
                 const bool isFolderFlush = call == Call::Sync && contentOf(path) == newContent;
                 QCOMPARE(contentOf(path), isFolderFlush ? newContent : before);
             }
-            QCOMPARE(namesIn(folder), QStringList(replaces || written || contentOf(path) == newContent ? 1 : 0, u"a.htm"_s));
+            QCOMPARE(namesIn(folder),
+                     QStringList(replaces || written || contentOf(path) == newContent ? 1 : 0, u"a.htm"_s));
         }
         QVERIFY2(failures >= 7, "the failures were not seen");
     }
@@ -278,7 +280,8 @@ private slots:
             return 0;
         };
         QVERIFY(DiskFileStore(calls).write(path, newContent));
-        QCOMPARE(duringWrite & (QFile::ReadOwner | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+        QCOMPARE(duringWrite
+                     & (QFile::ReadOwner | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
                  QFile::Permissions(QFile::ReadOwner));
         QVERIFY(flushedBeforeRename);
         QCOMPARE(calls.made()[static_cast<std::size_t>(calls.count()) - 2], Call::Sync);

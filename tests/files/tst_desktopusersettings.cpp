@@ -33,9 +33,8 @@ private slots:
         QTest::addColumn<QString>("section");
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
-        const auto row = [](const char *name, const QString &branch, const QString &section, const QString &key, const QString &value) {
-            QTest::newRow(name) << branch << section << key << value;
-        };
+        const auto row = [](const char *name, const QString &branch, const QString &section, const QString &key,
+                            const QString &value) { QTest::newRow(name) << branch << section << key << value; };
         row("tips", u"zephira"_s, u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
         row("placement", u"zephira"_s, u"frmmain"_s, u"Top"_s, u"-120"_s);
         row("folder", u"Zephira"_s, u"data"_s, u"apppath"_s, u"/home/me/My Program, new\\"_s);

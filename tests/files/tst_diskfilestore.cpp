@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/diskfilestore.h"
 
-#include "files/textfile.h"
 #include "faultycalls.h"
+#include "files/textfile.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -199,9 +199,9 @@ private slots:
     void accessListIsKept()
     {
         // Version 2, then tag, rights and id of: owner rw, user 4711 rw, group -, mask rw, others -.
-        constexpr unsigned char list[] = {2, 0, 0, 0, 1, 0, 6, 0, 255, 255, 255, 255, 2, 0, 6, 0, 0x67, 0x12, 0, 0,
-                                          4, 0, 0, 0, 255, 255, 255, 255, 0x10, 0, 6, 0, 255, 255, 255, 255,
-                                          0x20, 0, 0, 0, 255, 255, 255, 255};
+        constexpr unsigned char list[] = {2, 0,    0,    0,   1,   0,   6,    0, 255, 255, 255, 255, 2,   0,    6,
+                                          0, 0x67, 0x12, 0,   0,   4,   0,    0, 0,   255, 255, 255, 255, 0x10, 0,
+                                          6, 0,    255,  255, 255, 255, 0x20, 0, 0,   0,   255, 255, 255, 255};
         constexpr char name[] = "system.posix_acl_access";
         put(u"a"_s, "old");
         if (setxattr(native(u"a"_s).constData(), name, list, sizeof list, 0) != 0) {

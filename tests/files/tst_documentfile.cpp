@@ -59,7 +59,10 @@ struct Desk {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
     }
-    Result<void> save(QByteArrayView text, const TextFormat &format = {}) { return document.save(path, {&text, 1}, format); }
+    Result<void> save(QByteArrayView text, const TextFormat &format = {})
+    {
+        return document.save(path, {&text, 1}, format);
+    }
     QList<QByteArray> kept() const
     {
         QList<QByteArray> contents;
@@ -83,7 +86,9 @@ private slots:
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("LF") << QByteArray("a\nb\n");
         QTest::newRow("UTF-8 with mark") << QByteArray("\xEF\xBB\xBF<p>\xC3\xA4\r\n");
-        QTest::newRow("UTF-16") << QByteArray("\xFF\xFE" "a\0\r\0\n\0", 8);
+        QTest::newRow("UTF-16") << QByteArray("\xFF\xFE"
+                                              "a\0\r\0\n\0",
+                                              8);
         QTest::newRow("Windows-1252") << QByteArray("caf\xE9\x81\r");
         QTest::newRow("NULs") << QByteArray("a\0b\xFF", 4);
     }
@@ -105,9 +110,12 @@ private slots:
         Desk desk;
         const QByteArrayView pieces[] = {"before the gap ", "behind it"};
         QVERIFY(desk.document.save(desk.path, pieces, {Encoding::Utf8, true}));
-        QCOMPARE(desk.get(), QByteArray("\xEF\xBB\xBF" "before the gap behind it"));
+        QCOMPARE(desk.get(),
+                 QByteArray("\xEF\xBB\xBF"
+                            "before the gap behind it"));
         QCOMPARE(desk.files.lastPieces.size(), std::size_t(3));
-        QVERIFY(desk.files.lastPieces[1].data() == pieces[0].data() && desk.files.lastPieces[2].data() == pieces[1].data());
+        QVERIFY(desk.files.lastPieces[1].data() == pieces[0].data()
+                && desk.files.lastPieces[2].data() == pieces[1].data());
     }
 
     void ownSavesKeepNothing()
@@ -200,10 +208,11 @@ private slots:
         QFile::setPermissions(blocked, QFile::ReadOwner | QFile::WriteOwner);
         const Result<void> saved = desk.save("ours");
         QVERIFY(!saved);
-        QVERIFY2(saved.error().sentence.startsWith(
-                     u"The file \"%1\" was not saved, because the version on the disk, which is not the one that was opened, "
-                     "could not be kept. The file \"%2/disk-"_s.arg(desk.path, blocked)),
-                 qPrintable(saved.error().sentence));
+        QVERIFY2(
+            saved.error().sentence.startsWith(
+                u"The file \"%1\" was not saved, because the version on the disk, which is not the one that was opened, "
+                "could not be kept. The file \"%2/disk-"_s.arg(desk.path, blocked)),
+            qPrintable(saved.error().sentence));
         QCOMPARE(desk.get(), QByteArray("foreign"));
     }
 

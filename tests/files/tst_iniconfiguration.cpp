@@ -80,7 +80,8 @@ private slots:
         QTest::newRow("in quotes") << u' ' + QString(1000, u'x') << u' ' + QString(998, u'x');
         QTest::newRow("letters of two bytes") << QString(1000, u'\u00E4') << QString(999, u'\u00E4');
         QTest::newRow("pair at the cut") << QString(998, u'x') + u"\U0001F600"_s << QString(998, u'x');
-        QTest::newRow("pair before the cut") << QString(997, u'x') + u"\U0001F600\U0001F600"_s << QString(997, u'x') + u"\U0001F600"_s;
+        QTest::newRow("pair before the cut")
+            << QString(997, u'x') + u"\U0001F600\U0001F600"_s << QString(997, u'x') + u"\U0001F600"_s;
     }
 
     void valueIsCutOnReading()
@@ -146,8 +147,9 @@ private slots:
         std::vector<std::unique_ptr<QProcess>> writers;
         for (int i = 0; i < processes; ++i) {
             writers.push_back(std::make_unique<QProcess>());
-            writers.back()->start(QStringLiteral(INIPROBE),
-                                  {ini(), i % 2 ? u"Shared"_s : u"own%1"_s.arg(i), QString(QChar(u'a' + i)), QString::number(keys)});
+            writers.back()->start(
+                QStringLiteral(INIPROBE),
+                {ini(), i % 2 ? u"Shared"_s : u"own%1"_s.arg(i), QString(QChar(u'a' + i)), QString::number(keys)});
         }
         for (const auto &writer : writers) {
             QVERIFY(writer->waitForFinished(120'000));
@@ -155,7 +157,9 @@ private slots:
         }
         for (int i = 0; i < processes; ++i) {
             for (int key = 0; key < keys; ++key)
-                QCOMPARE(ReadIni(i % 2 ? u"SHARED"_s : u"own%1"_s.arg(i), QChar(u'a' + i) + QString::number(key), ini()), QString::number(key));
+                QCOMPARE(
+                    ReadIni(i % 2 ? u"SHARED"_s : u"own%1"_s.arg(i), QChar(u'a' + i) + QString::number(key), ini()),
+                    QString::number(key));
         }
         QVERIFY(get().startsWith("; kept\r\n[shared]\r\nfirst=1\r\n"));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),

@@ -21,8 +21,10 @@ private slots:
         QTest::addColumn<QString>("section");
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const QByteArray &profile, const QString &expected, const QString &section = u"s"_s,
-                            const QString &key = u"k"_s) { QTest::newRow(name) << profile << section << key << expected; };
+        const auto row = [](const char *name, const QByteArray &profile, const QString &expected,
+                            const QString &section = u"s"_s, const QString &key = u"k"_s) {
+            QTest::newRow(name) << profile << section << key << expected;
+        };
         const QString none = u"<none>"_s;
         row("plain", "[s]\r\nk=v\r\n", u"v"_s);
         row("last line without an end", "[s]\r\nk=v", u"v"_s);
@@ -76,9 +78,8 @@ private slots:
         QTest::addColumn<QByteArray>("profile");
         QTest::addColumn<QString>("value");
         QTest::addColumn<QByteArray>("expected");
-        const auto row = [](const char *name, const QByteArray &profile, const QByteArray &expected, const QString &value = u"v"_s) {
-            QTest::newRow(name) << profile << value << expected;
-        };
+        const auto row = [](const char *name, const QByteArray &profile, const QByteArray &expected,
+                            const QString &value = u"v"_s) { QTest::newRow(name) << profile << value << expected; };
         row("no file", "", "[s]\r\nk=v\r\n");
         row("byte order mark alone", "\xEF\xBB\xBF", "\xEF\xBB\xBF[s]\r\nk=v\r\n");
         row("replaced", "[s]\r\nk=old\r\nx=1\r\n", "[s]\r\nk=v\r\nx=1\r\n");
@@ -126,7 +127,8 @@ private slots:
         QVERIFY(written(u"a=b;c"_s, u"c;[d]"_s));
         for (const QString &section : {u"a]b"_s, u"a\nb"_s, u"a\rb"_s, u"a"_s + QChar(u'\0')})
             QVERIFY(!written(section, u"k"_s));
-        for (const QString &key : {u""_s, u" "_s, u"a=b"_s, u"a\nb"_s, u"a\rb"_s, u"[a"_s, u" ;a"_s, u"a"_s + QChar(u'\0')})
+        for (const QString &key :
+             {u""_s, u" "_s, u"a=b"_s, u"a\nb"_s, u"a\rb"_s, u"[a"_s, u" ;a"_s, u"a"_s + QChar(u'\0')})
             QVERIFY(!written(u"s"_s, key));
     }
 
@@ -157,7 +159,8 @@ private slots:
             QCOMPARE(after.size(), before.size() + (isNew ? 1 : 0));
             int different = 0;
             for (std::size_t i = 0, j = 0; i < after.size() && j < before.size(); ++i) {
-                const bool same = after[i].section == before[j].section && after[i].key == before[j].key && after[i].value == before[j].value;
+                const bool same = after[i].section == before[j].section && after[i].key == before[j].key
+                    && after[i].value == before[j].value;
                 different += !same;
                 j += same || !isNew;
             }
@@ -176,7 +179,8 @@ private slots:
         }
         QCOMPARE(profileValue(profile, u"section999"_s, u"key299"_s), std::optional(u"a value of some length"_s));
         const QByteArray changed = withProfileValue(profile, u"section500"_s, u"key150"_s, u"short"_s).value();
-        QCOMPARE(changed.size(), profile.size() - qsizetype(std::char_traits<char>::length("a value of some length")) + 5);
+        QCOMPARE(changed.size(),
+                 profile.size() - qsizetype(std::char_traits<char>::length("a value of some length")) + 5);
         QCOMPARE(profileValue(changed, u"section500"_s, u"key150"_s), std::optional(u"short"_s));
         QVERIFY(!profileValue(QByteArray(10'000'000, '['), u"s"_s, u"k"_s));
         QVERIFY(!profileValue(QByteArray(10'000'000, '='), u"s"_s, u"k"_s));

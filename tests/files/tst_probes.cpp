@@ -72,11 +72,13 @@ private slots:
     {
         const Outcome missing = run(saveProbe, {at(u"none"_s), at(u"out2"_s)});
         QCOMPARE(missing.status, 1);
-        QCOMPARE(missing.errors, u"The file \"%1\" could not be read: it does not exist.\n"_s.arg(at(u"none"_s)).toUtf8());
+        QCOMPARE(missing.errors,
+                 u"The file \"%1\" could not be read: it does not exist.\n"_s.arg(at(u"none"_s)).toUtf8());
         put(u"in"_s, "x");
         const Outcome unwritable = run(saveProbe, {at(u"in"_s), at(u"none/out"_s)});
         QCOMPARE(unwritable.status, 1);
-        QCOMPARE(unwritable.errors, u"The file \"%1\" could not be saved: its folder does not exist.\n"_s.arg(at(u"none/out"_s)).toUtf8());
+        QCOMPARE(unwritable.errors,
+                 u"The file \"%1\" could not be saved: its folder does not exist.\n"_s.arg(at(u"none/out"_s)).toUtf8());
         QCOMPARE(run(saveProbe, {}).status, 1);
     }
 
@@ -98,8 +100,12 @@ private slots:
         QTest::addColumn<QByteArray>("input");
         QTest::addColumn<QByteArray>("output");
         QTest::newRow("ini") << u"ini"_s << QByteArray("[s]\nk = 'v'\n") << QByteArray("s\tk\tv\n");
-        QTest::newRow("textfile") << u"textfile"_s << QByteArray("\xE4\r\n") << QByteArray("Windows-1252 plain CRLF\n\xC3\xA4\r\n");
-        QTest::newRow("textfile, mark") << u"textfile"_s << QByteArray("\xEF\xBB\xBF" "a\n") << QByteArray("UTF-8 mark LF\na\n");
+        QTest::newRow("textfile") << u"textfile"_s << QByteArray("\xE4\r\n")
+                                  << QByteArray("Windows-1252 plain CRLF\n\xC3\xA4\r\n");
+        QTest::newRow("textfile, mark") << u"textfile"_s
+                                        << QByteArray("\xEF\xBB\xBF"
+                                                      "a\n")
+                                        << QByteArray("UTF-8 mark LF\na\n");
         QTest::newRow("textfile, empty") << u"textfile"_s << QByteArray() << QByteArray("UTF-8 plain CRLF\n");
     }
 

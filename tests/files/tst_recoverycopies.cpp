@@ -46,7 +46,10 @@ class TstRecoveryCopies : public QObject
 
     QString folder() const { return m_parent->filePath(u"data/recovery"_s); }
     QStringList names() const { return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
-    QByteArray content(const QString &name) const { return m_files.read(folder() + u'/' + name).valueOr("<unreadable>"); }
+    QByteArray content(const QString &name) const
+    {
+        return m_files.read(folder() + u'/' + name).valueOr("<unreadable>");
+    }
     static Result<void> write(RecoveryCopies &copies, const QString &title, QByteArrayView text)
     {
         return copies.write(title, {&text, 1});
@@ -130,14 +133,16 @@ private slots:
         QVERIFY(write(copies, u"New Document"_s, "one"));
         QVERIFY(write(copies, u"New Document"_s, "two"));
         QVERIFY(write(second, u"New Document"_s, "other"));
-        QCOMPARE(names(), (QStringList{u"open-20240229-120000-000-"_s + process + u"-New Document"_s,
-                                       u"open-20240229-120000-001-"_s + process + u"-New Document"_s}));
+        QCOMPARE(names(),
+                 (QStringList{u"open-20240229-120000-000-"_s + process + u"-New Document"_s,
+                              u"open-20240229-120000-001-"_s + process + u"-New Document"_s}));
         QCOMPARE(content(names()[0]), QByteArray("two"));
         QCOMPARE(content(names()[1]), QByteArray("other"));
         // Another name for the document takes the copy along.
         QVERIFY(write(copies, u"/home/me/a.htm"_s, "three"));
-        QCOMPARE(names(), (QStringList{u"open-20240229-120000-000-"_s + process + u"-a.htm"_s,
-                                       u"open-20240229-120000-001-"_s + process + u"-New Document"_s}));
+        QCOMPARE(names(),
+                 (QStringList{u"open-20240229-120000-000-"_s + process + u"-a.htm"_s,
+                              u"open-20240229-120000-001-"_s + process + u"-New Document"_s}));
         copies.removeOwn();
         QCOMPARE(names().size(), 1);
         QCOMPARE(copies.ownCopy(), QString());
@@ -180,7 +185,8 @@ private slots:
         QFile blocked(m_parent->filePath(u"data"_s));
         QVERIFY(blocked.open(QIODevice::WriteOnly));
         RecoveryCopies copies(folder(), m_files, m_clock);
-        const QString sentence = u"The file \"%1\" could not be saved: a part of its path is not a folder."_s.arg(folder());
+        const QString sentence =
+            u"The file \"%1\" could not be saved: a part of its path is not a folder."_s.arg(folder());
         QCOMPARE(copies.keepDisk(u"a"_s, "x").error().sentence, sentence);
         QCOMPARE(write(copies, u"a"_s, "x").error().sentence, sentence);
         QCOMPARE(copies.ownCopy(), QString());

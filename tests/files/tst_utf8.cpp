@@ -17,7 +17,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<bool>("valid");
-        const auto row = [](const char *name, const QByteArray &bytes, bool valid) { QTest::newRow(name) << bytes << valid; };
+        const auto row = [](const char *name, const QByteArray &bytes, bool valid) {
+            QTest::newRow(name) << bytes << valid;
+        };
         row("empty", "", true);
         row("ASCII", "abc", true);
         row("NUL", QByteArray(3, '\0'), true);

@@ -2,9 +2,9 @@
 #include "forms/allforms.h"
 
 #include "core/clock.h"
+#include "editor/codemax.h"
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
-#include "editor/codemax.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
 #include "ftp/registerforms.h"
@@ -51,11 +51,16 @@ FormCatalogue allForms()
     const auto ftpParts = std::make_shared<FtpParts>();
     ftp::registerForms(catalogue, {ftpParts, &ftpParts->client});
     const auto parts = std::make_shared<EditorParts>();
-    views::registerForms(catalogue, [parts](QWidget *parent) -> EditorView {
-        auto *viewer = new CodeMax({parts->files, parts->recovery, parts->prompts}, parent);
-        viewer->setReadOnly(true);
-        return {viewer, viewer};
-    }, []() -> Result<PageFetcher *> { return Error{Error::Code::Failed, u"no network"_s}; });
+    views::registerForms(
+        catalogue,
+        [parts](QWidget *parent) -> EditorView {
+            auto *viewer = new CodeMax({parts->files, parts->recovery, parts->prompts}, parent);
+            viewer->setReadOnly(true);
+            return {viewer, viewer};
+        },
+        []() -> Result<PageFetcher *> {
+            return Error{Error::Code::Failed, u"no network"_s};
+        });
     return catalogue;
 }
 

@@ -48,9 +48,12 @@ FormCatalogue sampleCatalogue()
 
 QList<NamedControl> sampleNames()
 {
-    return {{u"frmSample"_s, u"QDialog"_s, u"Sample"_s},    {u"lblName"_s, u"QLabel"_s, u"Name"_s},
-            {u"Text1"_s, u"QLineEdit"_s, {}},               {u"Check1"_s, u"QCheckBox"_s, u"Check"_s},
-            {u"Combo1"_s, u"QComboBox"_s, {}},              {u"Command1"_s, u"QPushButton"_s, u"&Close"_s}};
+    return {{u"frmSample"_s, u"QDialog"_s, u"Sample"_s},
+            {u"lblName"_s, u"QLabel"_s, u"Name"_s},
+            {u"Text1"_s, u"QLineEdit"_s, {}},
+            {u"Check1"_s, u"QCheckBox"_s, u"Check"_s},
+            {u"Combo1"_s, u"QComboBox"_s, {}},
+            {u"Command1"_s, u"QPushButton"_s, u"&Close"_s}};
 }
 
 } // namespace
@@ -111,13 +114,16 @@ private slots:
         QTest::addColumn<std::function<void(QDialog &)>>("spoil");
         QTest::addColumn<QString>("difference");
         using Spoil = std::function<void(QDialog &)>;
-        QTest::newRow("name") << Spoil([](QDialog &f) { f.findChild<QWidget *>(u"Check1"_s)->setObjectName(u"Check2"_s); })
-                              << u"Check1 is missing in the form\nCheck2 of the form isn't in the list"_s;
-        QTest::newRow("twice") << Spoil([](QDialog &f) { f.findChild<QWidget *>(u"Check1"_s)->setObjectName(u"Text1"_s); })
+        QTest::newRow("name") << Spoil([](QDialog &f) {
+            f.findChild<QWidget *>(u"Check1"_s)->setObjectName(u"Check2"_s);
+        }) << u"Check1 is missing in the form\nCheck2 of the form isn't in the list"_s;
+        QTest::newRow("twice") << Spoil(
+            [](QDialog &f) { f.findChild<QWidget *>(u"Check1"_s)->setObjectName(u"Text1"_s); })
                                << u"Text1 stands twice in the form\nCheck1 is missing in the form\n"
                                   "the tab order is Text1 Text1 Combo1 Command1, not Text1 Combo1 Command1"_s;
-        QTest::newRow("caption") << Spoil([](QDialog &f) { f.findChild<QCheckBox *>(u"Check1"_s)->setText(u"check"_s); })
-                                 << u"Check1 reads \"check\", not \"Check\""_s;
+        QTest::newRow("caption") << Spoil([](QDialog &f) {
+            f.findChild<QCheckBox *>(u"Check1"_s)->setText(u"check"_s);
+        }) << u"Check1 reads \"check\", not \"Check\""_s;
         QTest::newRow("title") << Spoil([](QDialog &f) { f.setWindowTitle(u"Simple"_s); })
                                << u"frmSample reads \"Simple\", not \"Sample\""_s;
         QTest::newRow("accessible name") << Spoil([](QDialog &f) {

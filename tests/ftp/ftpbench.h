@@ -19,8 +19,8 @@ struct FtpBench {
     QTemporaryDir folder;
     TestContext world;
     DiskFileStore files;
-    AppContext context{world.editor,   world.inserter, world.designer, world.document,  world.configuration,
-                       world.settings, files,          world.prompts,  world.shell,     world.clipboard,
+    AppContext context{world.editor,   world.inserter, world.designer, world.document, world.configuration,
+                       world.settings, files,          world.prompts,  world.shell,    world.clipboard,
                        world.clock,    world.forms,    folder.path()};
     RecordingOperations operations;
     std::shared_ptr<FtpClient> client;

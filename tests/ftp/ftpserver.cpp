@@ -119,8 +119,13 @@ QStringList FtpServer::command() const
 {
     if (m_kind == Kind::Vsftpd)
         return {u"/usr/sbin/vsftpd"_s, m_root.filePath(u"vsftpd.conf"_s)};
-    return {u"/usr/bin/python3"_s, QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/ftp/ftpserver.py"), m_host,
-            QString::number(m_port), user(), password(), m_root.filePath(u"served"_s)};
+    return {u"/usr/bin/python3"_s,
+            QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/ftp/ftpserver.py"),
+            m_host,
+            QString::number(m_port),
+            user(),
+            password(),
+            m_root.filePath(u"served"_s)};
 }
 
 QByteArray FtpServer::vsftpdSettings() const
@@ -130,8 +135,9 @@ QByteArray FtpServer::vsftpdSettings() const
            "anonymous_enable=YES\nno_anon_password=NO\nanon_world_readable_only=NO\nanon_umask=022\n"
            "write_enable=YES\nanon_upload_enable=YES\nanon_mkdir_write_enable=YES\nanon_other_write_enable=YES\n"
            "connect_from_port_20=NO\nxferlog_enable=NO\nutf8_filesystem=YES\n"
-           "listen_address=" + m_host.toLatin1() + "\nlisten_port=" + QByteArray::number(m_port) + "\nanon_root=" + root
-           + "/served\nsecure_chroot_dir=" + root + "/empty\n" + (isRoot() ? "" : "run_as_launching_user=YES\n");
+           "listen_address="
+        + m_host.toLatin1() + "\nlisten_port=" + QByteArray::number(m_port) + "\nanon_root=" + root
+        + "/served\nsecure_chroot_dir=" + root + "/empty\n" + (isRoot() ? "" : "run_as_launching_user=YES\n");
 }
 
 bool FtpServer::answers() const

@@ -42,21 +42,22 @@ bool RecordingOperations::succeeds(const char *operation, const QStringList &arg
 InternetHandle RecordingOperations::InternetOpenA(const QString &agent, quint32 accessType, const QString &proxy,
                                                   const QString &proxyBypass, quint32 flags)
 {
-    return succeeds("InternetOpenA", {quoted(agent), QString::number(accessType), quoted(proxy), quoted(proxyBypass),
-                                      hexadecimal(flags)})
-               ? nextHandle()
-               : 0;
+    return succeeds(
+               "InternetOpenA",
+               {quoted(agent), QString::number(accessType), quoted(proxy), quoted(proxyBypass), hexadecimal(flags)})
+        ? nextHandle()
+        : 0;
 }
 
 InternetHandle RecordingOperations::InternetConnectA(InternetHandle open, const QString &server, quint16 port,
                                                      const QString &user, const QString &password, quint32 service,
                                                      quint32 flags, quintptr context)
 {
-    return succeeds("InternetConnectA", {QString::number(open), quoted(server), QString::number(port), quoted(user),
-                                         quoted(password), QString::number(service), hexadecimal(flags),
-                                         QString::number(context)})
-               ? nextHandle()
-               : 0;
+    return succeeds("InternetConnectA",
+                    {QString::number(open), quoted(server), QString::number(port), quoted(user), quoted(password),
+                     QString::number(service), hexadecimal(flags), QString::number(context)})
+        ? nextHandle()
+        : 0;
 }
 
 bool RecordingOperations::FtpGetCurrentDirectoryA(InternetHandle connection, QString &buffer, quint32 &length)
@@ -76,8 +77,9 @@ bool RecordingOperations::FtpSetCurrentDirectoryA(InternetHandle connection, con
 InternetHandle RecordingOperations::FtpFindFirstFileA(InternetHandle connection, const QString &search, FindData &found,
                                                       quint32 flags, quintptr context)
 {
-    const bool success = succeeds("FtpFindFirstFileA", {QString::number(connection), quoted(search), hexadecimal(flags),
-                                                        QString::number(context)});
+    const bool success =
+        succeeds("FtpFindFirstFileA",
+                 {QString::number(connection), quoted(search), hexadecimal(flags), QString::number(context)});
     const auto folder = folders.find(search);
     if (!success || folder == folders.end() || folder->second.empty())
         return 0;
@@ -103,8 +105,9 @@ bool RecordingOperations::InternetFindNextFileA(InternetHandle find, FindData &f
 InternetHandle RecordingOperations::FtpOpenFileA(InternetHandle connection, const QString &file, quint32 access,
                                                  quint32 flags, quintptr context)
 {
-    if (!succeeds("FtpOpenFileA", {QString::number(connection), quoted(file), hexadecimal(access),
-                                   QString::number(flags), QString::number(context)}))
+    if (!succeeds("FtpOpenFileA",
+                  {QString::number(connection), quoted(file), hexadecimal(access), QString::number(flags),
+                   QString::number(context)}))
         return 0;
     if (access == GENERIC_WRITE)
         files[file].clear();

@@ -37,8 +37,7 @@ struct RecordingOperations final : InternetOperations {
     InternetHandle InternetOpenA(const QString &agent, quint32 accessType, const QString &proxy,
                                  const QString &proxyBypass, quint32 flags) override;
     InternetHandle InternetConnectA(InternetHandle open, const QString &server, quint16 port, const QString &user,
-                                    const QString &password, quint32 service, quint32 flags,
-                                    quintptr context) override;
+                                    const QString &password, quint32 service, quint32 flags, quintptr context) override;
     bool FtpGetCurrentDirectoryA(InternetHandle connection, QString &buffer, quint32 &length) override;
     bool FtpSetCurrentDirectoryA(InternetHandle connection, const QString &folder) override;
     InternetHandle FtpFindFirstFileA(InternetHandle connection, const QString &search, FindData &found, quint32 flags,

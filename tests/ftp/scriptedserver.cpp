@@ -110,7 +110,7 @@ qsizetype Session::receivePiece(qsizetype size)
 void Session::stall()
 {
     char byte;
-    while (m_control.receive(&byte, 1, Deadline(patience)) > 0) { }
+    while (m_control.receive(&byte, 1, Deadline(patience)) > 0) {}
 }
 
 void Session::reset()
@@ -161,8 +161,9 @@ void Session::answer(const QByteArray &line)
 }
 
 ScriptedServer::ScriptedServer(std::map<QByteArray, Handler> handlers)
-    : m_handlers(std::move(handlers)), m_listener(Socket::listeningAt(loopback())),
-      m_port(m_listener.localAddress().port())
+    : m_handlers(std::move(handlers))
+    , m_listener(Socket::listeningAt(loopback()))
+    , m_port(m_listener.localAddress().port())
 {
     m_handlers.merge(usualHandlers());
     m_thread = std::thread([this] {

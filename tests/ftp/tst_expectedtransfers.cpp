@@ -117,18 +117,22 @@ private slots:
     {
         QTest::addColumn<QByteArray>("port");
         QTest::addColumn<QByteArray>("last");
-        QTest::newRow("nobody is there") << "229 Here (|||1|)"_ba << "EPSV PASV RETR"_ba;
-        QTest::newRow("nonsense") << "229 Here"_ba << "EPSV PASV RETR"_ba;
-        QTest::newRow("not now") << "425 Not now"_ba << "EPSV PASV RETR"_ba;
-        QTest::newRow("not any more") << "500 What?"_ba << "PASV RETR"_ba;
+        QTest::newRow("nobody is there") << "229 Here (|||1|)"_ba
+                                         << "EPSV PASV RETR"_ba;
+        QTest::newRow("nonsense") << "229 Here"_ba
+                                  << "EPSV PASV RETR"_ba;
+        QTest::newRow("not now") << "425 Not now"_ba
+                                 << "EPSV PASV RETR"_ba;
+        QTest::newRow("not any more") << "500 What?"_ba
+                                      << "PASV RETR"_ba;
     }
 
     void portOfNoUse()
     {
         QFETCH(QByteArray, port);
         QFETCH(QByteArray, last);
-        ScriptedServer server({{"EPSV", onceWell([port](Session &session) { session.reply(port); })},
-                               {"PASV", openPlainPort}});
+        ScriptedServer server(
+            {{"EPSV", onceWell([port](Session &session) { session.reply(port); })}, {"PASV", openPlainPort}});
         {
             NetClient client(longLimit);
             QVERIFY(client.connectTo(host, server.port()));

@@ -21,9 +21,9 @@ QByteArray described(const std::vector<ListedEntry> &entries)
         SystemTime time;
         FileTimeToSystemTime(entry.lastWriteTime, time);
         const char *kind = entry.isFolder ? "folder" : entry.isLink ? "link" : "file";
-        const QString line = QString::asprintf("%s %llu %04d-%02d-%02d %02d:%02d [", kind,
-                                               static_cast<unsigned long long>(entry.size), time.year, time.month,
-                                               time.day, time.hour, time.minute);
+        const QString line =
+            QString::asprintf("%s %llu %04d-%02d-%02d %02d:%02d [", kind, static_cast<unsigned long long>(entry.size),
+                              time.year, time.month, time.day, time.hour, time.minute);
         text += line.toLatin1() + entry.name + "]\n";
     }
     return text;
@@ -49,8 +49,7 @@ private slots:
             "-rw-r--r--    1 106      113          4096 Feb 29 13:05 index.htm\r\n"
             "drwxr-xr-x    2 106      113         61440 Dec 31 23:59 many\r\n",
             "file 4096 2024-02-29 13:05 [index.htm]\nfolder 0 2023-12-31 23:59 [many]\n");
-        row("vsftpd: above half a year",
-            "-rw-r--r--    1 106      113            12 Mar 05  2001 old.htm\r\n",
+        row("vsftpd: above half a year", "-rw-r--r--    1 106      113            12 Mar 05  2001 old.htm\r\n",
             "file 12 2001-03-05 00:00 [old.htm]\n");
         row("proftpd",
             "drwxr-xr-x   2 ftp      nogroup      4096 Mar  5 09:07 sub\r\n"
@@ -101,8 +100,7 @@ private slots:
         row("name that begins with blanks", unixFile + "  a\r\n", "file 12 2024-03-05 09:07 [  a]\n");
         row("file with an arrow in its name", unixFile + "a -> b\r\n", "file 12 2024-03-05 09:07 [a -> b]\n");
         row("name like a date", unixFile + "12 Mar  6 10:08 x\r\n", "file 12 2024-03-05 09:07 [12 Mar  6 10:08 x]\n");
-        row("name in UTF-8", unixFile + "žluťoučký 日本.htm\r\n",
-            "file 12 2024-03-05 09:07 [žluťoučký 日本.htm]\n");
+        row("name in UTF-8", unixFile + "žluťoučký 日本.htm\r\n", "file 12 2024-03-05 09:07 [žluťoučký 日本.htm]\n");
         row("name in Latin-1", unixFile + "caf\xe9\r\n", "file 12 2024-03-05 09:07 [caf\xe9]\n");
         row("link with an arrow in its name", "lrwxrwxrwx 1 ftp ftp 1 Mar  5 09:07 a -> b -> c\r\n",
             "link 0 2024-03-05 09:07 [a -> b]\n");
@@ -138,7 +136,8 @@ private slots:
                 + unixFile + ".\r\n" + unixFile + "a\tb\r\n" + unixFile + "a\x1b[2J\r\n" + unixFile + "a\x7f\r\n"
                 + unixFile + QByteArray("a\0b\r\n", 5) + unixFile + "a\rb\r\n" + unixFile + "\r\n" + unixFile + " \r\n",
             "file 12 2024-03-05 09:07 [ ]\n");
-        row("names of 259 and 260 bytes", unixFile + QByteArray(259, 'x') + '\n' + unixFile + QByteArray(260, 'y') + '\n',
+        row("names of 259 and 260 bytes",
+            unixFile + QByteArray(259, 'x') + '\n' + unixFile + QByteArray(260, 'y') + '\n',
             "file 12 2024-03-05 09:07 [" + QByteArray(259, 'x') + "]\n");
         row("equal names", "-rw-r--r-- 1 ftp ftp 1 Mar  5 09:07 a\r\ndrwxr-xr-x 1 ftp ftp 2 Mar  5 09:07 a\r\n",
             "file 1 2024-03-05 09:07 [a]\n");
@@ -184,8 +183,8 @@ private slots:
             "file 5 2001-03-05 09:07 [a.htm]\n");
         row("upper case and fractions", "Type=FILE;Size=5;Modify=20010305090700.123; a.htm\r\n",
             "file 5 2001-03-05 09:07 [a.htm]\n");
-        row("names with what divides facts",
-            "type=file;size=5; a; b=c;  d\r\n", "file 5 1601-01-01 00:00 [a; b=c;  d]\n");
+        row("names with what divides facts", "type=file;size=5; a; b=c;  d\r\n",
+            "file 5 1601-01-01 00:00 [a; b=c;  d]\n");
         row("name that begins with a blank", "type=file;size=5;  a\r\n", "file 5 1601-01-01 00:00 [ a]\n");
         row("no facts at all", " a\r\n", "file 0 1601-01-01 00:00 [a]\n");
         row("links", "type=OS.unix=slink:/var;size=3; a\r\ntype=OS.unix=slink; b\r\ntype=OS.unix=symlink; c\r\n",
@@ -212,7 +211,8 @@ private slots:
     {
         QByteArray listing;
         for (int i = 0; i < 10'000; ++i)
-            listing += "-rw-r--r--    1 106      113          4096 Mar 05 09:07 file" + QByteArray::number(i) + ".htm\r\n";
+            listing +=
+                "-rw-r--r--    1 106      113          4096 Mar 05 09:07 file" + QByteArray::number(i) + ".htm\r\n";
         const std::vector<ListedEntry> entries = readList(listing, today);
         QCOMPARE(entries.size(), 10'000);
         QCOMPARE(entries.back().name, "file9999.htm"_ba);

@@ -25,7 +25,8 @@ struct Bench : FtpBench {
     Bench()
     {
         client->desk = &desk;
-        write(u"home.ftp"_s, "[PROFIL]\r\nsname=My Home\r\nadresa=home.example.com\r\nID=me\r\npass=secret\r\nport=2121\r\n");
+        write(u"home.ftp"_s,
+              "[PROFIL]\r\nsname=My Home\r\nadresa=home.example.com\r\nID=me\r\npass=secret\r\nport=2121\r\n");
         write(u"mirror.ftp"_s, "[PROFIL]\r\nsname=mirror\r\nadresa=mirror.example.com\r\nID=anonymous\r\nport=21\r\n");
         write(u"readme.txt"_s, "no profile");
     }
@@ -273,8 +274,9 @@ void TstFrmConnect::save()
     bench.form->press(u"Check2"_s);
     bench.expectSaved();
     bench.form->press(u"Command1"_s);
-    QCOMPARE(bench.read(u"Größe.ftp"_s), QByteArray("[PROFIL]\r\nsname=Größe\r\nadresa=ftp.example.com\r\nID=you\r\n"
-                                                    "pass=pass word\r\nport=21\r\n"));
+    QCOMPARE(bench.read(u"Größe.ftp"_s),
+             QByteArray("[PROFIL]\r\nsname=Größe\r\nadresa=ftp.example.com\r\nID=you\r\n"
+                        "pass=pass word\r\nport=21\r\n"));
     QCOMPARE(bench.profiles(), (QStringList{u"Größe.ftp"_s, u"home.ftp"_s, u"mirror.ftp"_s}));
     QVERIFY(!bench.canDelete());
     QVERIFY(bench.form->isOpen());
@@ -346,7 +348,9 @@ void TstFrmConnect::deleteProfile()
     Bench bench;
     bench.open();
     bench.click(u"home.ftp"_s);
-    bench.world.prompts.expect({u"Are you sure you want to delete this profile: home.ftp?"_s, {}, Question::Icon::None,
+    bench.world.prompts.expect({u"Are you sure you want to delete this profile: home.ftp?"_s,
+                                {},
+                                Question::Icon::None,
                                 Question::Buttons::YesNo},
                                Answer::Yes);
     bench.form->press(u"Command5"_s);
@@ -360,7 +364,9 @@ void TstFrmConnect::deleteNotSure()
     Bench bench;
     bench.open();
     bench.click(u"home.ftp"_s);
-    bench.world.prompts.expect({u"Are you sure you want to delete this profile: home.ftp?"_s, {}, Question::Icon::None,
+    bench.world.prompts.expect({u"Are you sure you want to delete this profile: home.ftp?"_s,
+                                {},
+                                Question::Icon::None,
                                 Question::Buttons::YesNo},
                                Answer::No);
     bench.form->press(u"Command5"_s);
@@ -375,8 +381,10 @@ void TstFrmConnect::deleteKey()
     bench.click(u"mirror.ftp"_s);
     bench.form->press(u"Option2"_s);
     QVERIFY(!bench.canDelete());
-    bench.world.prompts.expect({u"Are you sure you want to delete this profile: mirror.ftp?"_s, {},
-                                Question::Icon::None, Question::Buttons::YesNo},
+    bench.world.prompts.expect({u"Are you sure you want to delete this profile: mirror.ftp?"_s,
+                                {},
+                                Question::Icon::None,
+                                Question::Buttons::YesNo},
                                Answer::Yes);
     QTest::keyClick(&bench.tree(), Qt::Key_Delete);
     QCOMPARE(bench.profiles(), QStringList{u"home.ftp"_s});
@@ -388,7 +396,9 @@ void TstFrmConnect::deleteKeyOnTheRoot()
     bench.open();
     QTest::keyClick(&bench.tree(), Qt::Key_Delete); // Nothing is selected yet.
     bench.click(u"Profiles"_s);
-    bench.world.prompts.expect({u"Are you sure you want to delete this profile: Profiles?"_s, {}, Question::Icon::None,
+    bench.world.prompts.expect({u"Are you sure you want to delete this profile: Profiles?"_s,
+                                {},
+                                Question::Icon::None,
                                 Question::Buttons::YesNo},
                                Answer::Yes);
     const Result<void> removed = bench.files.remove(bench.path(u"Profiles"_s));
@@ -397,7 +407,9 @@ void TstFrmConnect::deleteKeyOnTheRoot()
                                     + removed.error().sentence
                                     + u"\r\nPlease Report this to the Zephira. team\r\n"
                                       "Click OK to continue, Cancel to Exit the current SUB"_s,
-                                {}, Question::Icon::Critical, Question::Buttons::OkCancel},
+                                {},
+                                Question::Icon::Critical,
+                                Question::Buttons::OkCancel},
                                Answer::Ok);
     QTest::keyClick(&bench.tree(), Qt::Key_Delete);
     QCOMPARE(bench.profiles().size(), 2);
@@ -474,8 +486,9 @@ void TstFrmConnect::connectWithOtherRadios()
     bench.form->press(u"Option4"_s);
     bench.form->press(u"Option5"_s);
     bench.form->press(u"Command3"_s);
-    QCOMPARE(bench.operations.log[1], u"InternetConnectA(1, \"www.example.com\", 80, \"anonymous\", "
-                                      "\"anonymous@example.com\", 1, 0x20000000, 0)"_s);
+    QCOMPARE(bench.operations.log[1],
+             u"InternetConnectA(1, \"www.example.com\", 80, \"anonymous\", "
+             "\"anonymous@example.com\", 1, 0x20000000, 0)"_s);
     QCOMPARE(bench.client->session.ftpTransferType, 1);
 }
 
@@ -511,7 +524,9 @@ void TstFrmConnect::wrongPort()
                                     + error
                                     + u"\r\nPlease Report this to the Zephira. team\r\n"
                                       "Click OK to continue, Cancel to Exit the current SUB"_s,
-                                {}, Question::Icon::Critical, Question::Buttons::OkCancel},
+                                {},
+                                Question::Icon::Critical,
+                                Question::Buttons::OkCancel},
                                Answer::Ok);
     bench.form->press(u"Command3"_s);
     QVERIFY(bench.form->isOpen());

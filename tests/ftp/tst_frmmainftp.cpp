@@ -82,13 +82,15 @@ struct Bench : FtpBench {
     static void clickHead(const FileListView &list, int column)
     {
         QHeaderView *head = list.header();
-        QTest::mouseClick(head->viewport(), Qt::LeftButton, {},
-                          QPoint(head->sectionViewportPosition(column) + head->sectionSize(column) / 2, head->height() / 2));
+        QTest::mouseClick(
+            head->viewport(), Qt::LeftButton, {},
+            QPoint(head->sectionViewportPosition(column) + head->sectionSize(column) / 2, head->height() / 2));
     }
     QTreeWidgetItem *node(const QString &key) const
     {
         const QList<QTreeWidgetItem *> all = tree().findItems(u"*"_s, Qt::MatchWildcard | Qt::MatchRecursive);
-        const auto found = std::ranges::find_if(all, [&](QTreeWidgetItem *item) { return item->data(0, KeyRole) == key; });
+        const auto found =
+            std::ranges::find_if(all, [&](QTreeWidgetItem *item) { return item->data(0, KeyRole) == key; });
         return found == all.end() ? nullptr : *found;
     }
     QStringList keys() const
@@ -120,8 +122,8 @@ struct Bench : FtpBench {
 QString unhandled(const QString &procedure, const QString &error)
 {
     return u"An error has occured at: frmmainftp in Procedure: %1\r\nThe error is as follows: %2\r\n"
-           "Please Report this to the Zephira. team\r\nClick OK to continue, Cancel to Exit the current SUB"_s.arg(procedure,
-                                                                                                                 error);
+           "Please Report this to the Zephira. team\r\nClick OK to continue, Cancel to Exit the current SUB"_s.arg(
+               procedure, error);
 }
 
 } // namespace
@@ -215,7 +217,7 @@ void TstFrmmainftp::menus()
         for (const QAction *entry : entries) {
             const QMenu *menu = entry->menu();
             text += QString(depth * 2, u' ') + (menu ? menu->objectName() : entry->objectName()) + u" \""_s
-                    + entry->text() + u"\"\n"_s;
+                + entry->text() + u"\"\n"_s;
             if (menu)
                 text += self(self, menu->actions(), depth + 1);
         }
@@ -280,8 +282,9 @@ void TstFrmmainftp::toolBar()
         if (!key->isSeparator())
             keys.append(key->objectName());
     }
-    QCOMPARE(keys.join(u' '), u"Connect Disconnect Reload Upload NewFolder DelFolder DelFile Rename "
-                              "Reload2 DownLoad NewFolder2 DelFolder2 DelFile2 Rename2"_s);
+    QCOMPARE(keys.join(u' '),
+             u"Connect Disconnect Reload Upload NewFolder DelFolder DelFile Rename "
+             "Reload2 DownLoad NewFolder2 DelFolder2 DelFile2 Rename2"_s);
     bench.choose(u"Connect"_s);
     QCOMPARE(bench.world.forms.modal, QStringList{u"FrmConnect"_s});
     bench.write(u"new.txt"_s, "x");
@@ -437,9 +440,9 @@ void TstFrmmainftp::deleteRemoteFileWithTheKey()
     bench.operations.log.clear();
     QTest::keyPress(&bench.remote(), Qt::Key_Delete);
     QVERIFY2(bench.operations.log.isEmpty(), "the key counts when it is released");
-    bench.world.prompts.expect({u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question,
-                                Question::Buttons::YesNo},
-                               Answer::Yes);
+    bench.world.prompts.expect(
+        {u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question, Question::Buttons::YesNo},
+        Answer::Yes);
     QTest::keyRelease(&bench.remote(), Qt::Key_Delete);
     QCOMPARE(bench.operations.log.first(), u"FtpDeleteFileA(902, \"/a.zip\")"_s);
 }
@@ -485,8 +488,8 @@ void TstFrmmainftp::sortingSizesAsText()
     bench.open();
     Bench::clickHead(bench.local(), FileRowsModel::Size);
     Bench::clickHead(bench.local(), FileRowsModel::Size);
-    QCOMPARE(bench.names(bench.local()), (QStringList{u"c"_s, u"A.gif"_s, u"b.htm"_s, u"size10000"_s, u"size100000"_s,
-                                                      u"size9000"_s}));
+    QCOMPARE(bench.names(bench.local()),
+             (QStringList{u"c"_s, u"A.gif"_s, u"b.htm"_s, u"size10000"_s, u"size100000"_s, u"size9000"_s}));
 }
 
 void TstFrmmainftp::sortingStays()
@@ -518,7 +521,8 @@ void TstFrmmainftp::views()
         // The icons show the same rows, and what is clicked in them counts.
         bench.choose(prefix + views[0]);
         QCOMPARE(icons->size(), list->size());
-        QTest::mouseClick(icons->viewport(), Qt::LeftButton, {}, icons->visualRect(icons->model()->index(1, 0)).center());
+        QTest::mouseClick(icons->viewport(), Qt::LeftButton, {},
+                          icons->visualRect(icons->model()->index(1, 0)).center());
         QCOMPARE(list->selected().size(), std::size_t(1));
         QVERIFY(bench.panel(2).contains(u" 1 Files selected, "_s));
         list->setProperty("View", 99);
@@ -530,7 +534,8 @@ void TstFrmmainftp::popups()
 {
     Bench bench;
     bench.openConnected();
-    for (const auto &[list, name] : {std::pair(&bench.local(), u"zLocal"_s), std::pair(&bench.remote(), u"zRemote"_s)}) {
+    for (const auto &[list, name] :
+         {std::pair(&bench.local(), u"zLocal"_s), std::pair(&bench.remote(), u"zRemote"_s)}) {
         QMenu &menu = bench.form->get<QMenu>(name);
         const QPoint place = list->visualRect(list->model()->index(1, 0)).center();
         QTest::mousePress(list->viewport(), Qt::RightButton, {}, place);
@@ -571,8 +576,10 @@ void TstFrmmainftp::renameHereCancelled()
     Bench::click(bench.local(), 1);
     bench.choose(u"Rename"_s);
     bool asked = false;
-    bench.world.prompts.expect({u"Are you sure to exchange the file extension from: \"htm\" to: \"html\""_s, {},
-                                Question::Icon::Question, Question::Buttons::YesNo},
+    bench.world.prompts.expect({u"Are you sure to exchange the file extension from: \"htm\" to: \"html\""_s,
+                                {},
+                                Question::Icon::Question,
+                                Question::Buttons::YesNo},
                                Answer::No, [&] { asked = true; });
     bench.typeName(bench.local(), u"b.html"_s);
     QTRY_VERIFY(asked);
@@ -580,8 +587,10 @@ void TstFrmmainftp::renameHereCancelled()
     // A name that leads elsewhere is an error that no message covers.
     bench.choose(u"Rename"_s);
     asked = false;
-    bench.world.prompts.expect({unhandled(u"ListView1_AfterLabelEdit"_s, u"Bad file name or number"_s), {},
-                                Question::Icon::Critical, Question::Buttons::OkCancel},
+    bench.world.prompts.expect({unhandled(u"ListView1_AfterLabelEdit"_s, u"Bad file name or number"_s),
+                                {},
+                                Question::Icon::Critical,
+                                Question::Buttons::OkCancel},
                                Answer::Ok, [&] { asked = true; });
     bench.typeName(bench.local(), u"Logon/b.htm"_s);
     QTRY_VERIFY(asked);
@@ -652,10 +661,11 @@ void TstFrmmainftp::deleteHereWithTheKey()
     Bench bench;
     bench.open();
     Bench::click(bench.local(), 0);
-    bench.world.prompts.expect(
-        {u"Are you sure to delete these files?\r\nif you are, don't look for them in recycle!"_s, {},
-         Question::Icon::Question, Question::Buttons::YesNo},
-        Answer::Yes);
+    bench.world.prompts.expect({u"Are you sure to delete these files?\r\nif you are, don't look for them in recycle!"_s,
+                                {},
+                                Question::Icon::Question,
+                                Question::Buttons::YesNo},
+                               Answer::Yes);
     QTest::keyClick(&bench.local(), Qt::Key_Delete);
     QCOMPARE(bench.names(bench.local()), (QStringList{u"b.htm"_s, u"c"_s}));
     QVERIFY(!QFile::exists(bench.path(u"A.gif"_s)));
@@ -721,7 +731,9 @@ void TstFrmmainftp::removeFolderHere()
     bench.folders().setProperty("Path", bench.path(u"full"_s));
     bench.world.prompts.expect({question.arg(u"full"), {}, Question::Icon::Question, Question::Buttons::YesNo},
                                Answer::Yes);
-    bench.world.prompts.expect({unhandled(u"zLokDF_Click"_s, u"Path/File access error"_s), {}, Question::Icon::Critical,
+    bench.world.prompts.expect({unhandled(u"zLokDF_Click"_s, u"Path/File access error"_s),
+                                {},
+                                Question::Icon::Critical,
                                 Question::Buttons::OkCancel},
                                Answer::Ok);
     bench.choose(u"zLokDF"_s);
@@ -762,7 +774,9 @@ void TstFrmmainftp::drives()
     drives.hidePopup();
     Q_EMIT drives.textActivated(u"/"_s);
     QCOMPARE(bench.client->session.ftpLocalFolder, u"/"_s);
-    bench.world.prompts.expect({unhandled(u"Drive1_Change"_s, u"Device unavailable"_s), {}, Question::Icon::Critical,
+    bench.world.prompts.expect({unhandled(u"Drive1_Change"_s, u"Device unavailable"_s),
+                                {},
+                                Question::Icon::Critical,
                                 Question::Buttons::OkCancel},
                                Answer::Ok);
     Q_EMIT drives.textActivated(u"/no/such/drive"_s);
@@ -827,16 +841,18 @@ void TstFrmmainftp::missingLogFolder()
     Bench bench;
     bench.open();
     QVERIFY(QDir(bench.path(u"Logon"_s)).removeRecursively());
-    bench.world.prompts.expect({unhandled(u"zOpen_Click"_s, u"Path not found"_s), {}, Question::Icon::Critical,
-                                Question::Buttons::OkCancel},
-                               Answer::Ok);
+    bench.world.prompts.expect(
+        {unhandled(u"zOpen_Click"_s, u"Path not found"_s), {}, Question::Icon::Critical, Question::Buttons::OkCancel},
+        Answer::Ok);
     bench.choose(u"zOpen"_s);
     QCOMPARE(bench.client->session.ftpLocalFolder, bench.here());
     const Result<void> unwritten = bench.files.write(bench.path(u"Logon/x.txt"_s), QByteArrayView("x"));
     QVERIFY(!unwritten);
     bench.client->desk->log(LogEntry::Done);
     bench.world.prompts.expectInput({u"Type name for the log file:"_s, u"Log File"_s}, u"x"_s);
-    bench.world.prompts.expect({unhandled(u"zSave_Click"_s, unwritten.error().sentence), {}, Question::Icon::Critical,
+    bench.world.prompts.expect({unhandled(u"zSave_Click"_s, unwritten.error().sentence),
+                                {},
+                                Question::Icon::Critical,
                                 Question::Buttons::OkCancel},
                                Answer::Ok);
     bench.choose(u"zSave"_s);

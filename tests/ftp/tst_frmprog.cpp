@@ -214,7 +214,9 @@ void TstFrmProg::queueIsTakenOnce()
 {
     Transfer transfer;
     transfer.queue(TransferQueue::Direction::Download, {{u"a"_s, 1}});
-    { const LivingForm form = transfer.form(); }
+    {
+        const LivingForm form = transfer.form();
+    }
     const LivingForm form = transfer.form();
     QVERIFY(rows(form.get<QListWidget>(u"List1"_s)).isEmpty());
 }

@@ -75,9 +75,8 @@ void TstFtpConnection::order()
     QCOMPARE(bench.client.session.ftpRemoteFolder, u"/"_s);
     QVERIFY(bench.client.session.isConnected());
     QCOMPARE(bench.desk.logged,
-             logText(LogEntry::Banner, bench.desk.now, {u"MY SITE"_s, u"ftp.example.com"_s})
-                 + bench.time + u" > Connected to service, looking for host.\r\n"_s + bench.time
-                 + u" > Connected to server.\r\n"_s);
+             logText(LogEntry::Banner, bench.desk.now, {u"MY SITE"_s, u"ftp.example.com"_s}) + bench.time
+                 + u" > Connected to service, looking for host.\r\n"_s + bench.time + u" > Connected to server.\r\n"_s);
     QVERIFY2(!bench.desk.logged.contains(u"secret"_s), "a password must not stand in the log");
 }
 
@@ -154,8 +153,9 @@ void TstFtpConnection::serviceFails()
     bench.operations.failures[u"InternetOpenA"_s] = 1;
     bench.prompts.expectTell(u"Connection to service failed!"_s, {}, Question::Icon::Exclamation);
     QVERIFY(!bench.connectToServer());
-    QCOMPARE(bench.operations.log, (QStringList{u"InternetOpenA(\"My Site\", 1, \"\", \"\", 0x4000000)"_s, u"hide"_s,
-                                                u"InternetCloseHandle(0)"_s}));
+    QCOMPARE(bench.operations.log,
+             (QStringList{u"InternetOpenA(\"My Site\", 1, \"\", \"\", 0x4000000)"_s, u"hide"_s,
+                          u"InternetCloseHandle(0)"_s}));
     QCOMPARE(bench.desk.logged, u"Connection to service failed.\r\n"_s);
     QVERIFY(!bench.client.session.isConnected());
     QVERIFY(bench.desk.calls.isEmpty());

@@ -52,14 +52,14 @@ private:
     QTemporaryDir m_folder;
 };
 
-constexpr QFile::Permissions ownerOnly =
-    QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
 
 void TstFtpFiles::profileBytes()
 {
     const QString file = path(u"My Site.ftp"_s);
     QVERIFY(writeSiteProfile({u"My Site"_s, u"ftp.example.com"_s, u"me"_s, {}, u"21"_s}, file));
-    QCOMPARE(read(file), QByteArray("[PROFIL]\r\nsname=My Site\r\nadresa=ftp.example.com\r\nID=me\r\npass=\r\nport=21\r\n"));
+    QCOMPARE(read(file),
+             QByteArray("[PROFIL]\r\nsname=My Site\r\nadresa=ftp.example.com\r\nID=me\r\npass=\r\nport=21\r\n"));
 }
 
 void TstFtpFiles::profileRoundTrip_data()
@@ -108,8 +108,9 @@ void TstFtpFiles::profileOverwritesOnlyItsKeys()
     const QString file = path(u"mine.ftp"_s);
     write(file, "; by hand\r\n[PROFIL]\r\nPASS=old\r\nnote=stays\r\n[other]\r\npass=stays too\r\n");
     QVERIFY(writeSiteProfile({u"mine"_s, u"example.com"_s, u"me"_s, {}, u"21"_s}, file));
-    QCOMPARE(read(file), QByteArray("; by hand\r\n[PROFIL]\r\nPASS=\r\nnote=stays\r\nsname=mine\r\n"
-                                    "adresa=example.com\r\nID=me\r\nport=21\r\n[other]\r\npass=stays too\r\n"));
+    QCOMPARE(read(file),
+             QByteArray("; by hand\r\n[PROFIL]\r\nPASS=\r\nnote=stays\r\nsname=mine\r\n"
+                        "adresa=example.com\r\nID=me\r\nport=21\r\n[other]\r\npass=stays too\r\n"));
 }
 
 void TstFtpFiles::missingProfile()

@@ -86,7 +86,8 @@ private slots:
                                           session.reply("426 Cut");
                                       }}});
         const QTemporaryDir here;
-        QVERIFY(ftpprobe({u"get"_s, u"127.0.0.1"_s, QString::number(server.port()), u"/a.htm"_s, here.path()}).status > 0);
+        QVERIFY(ftpprobe({u"get"_s, u"127.0.0.1"_s, QString::number(server.port()), u"/a.htm"_s, here.path()}).status
+                > 0);
         QVERIFY(!QFile::exists(here.filePath(u"a.htm"_s)));
     }
 

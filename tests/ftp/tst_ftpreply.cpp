@@ -137,13 +137,20 @@ private slots:
     {
         QTest::addColumn<QByteArray>("reply");
         QTest::addColumn<QByteArray>("folder");
-        QTest::newRow("root") << "257 \"/\" is the current directory"_ba << "/"_ba;
-        QTest::newRow("blanks") << "257 \"/a b\" is current"_ba << "/a b"_ba;
-        QTest::newRow("quotes") << "257 \"/a \"\"b\"\"\" is current"_ba << "/a \"b\""_ba;
-        QTest::newRow("nothing behind") << "257 \"/home\""_ba << "/home"_ba;
-        QTest::newRow("not ended") << "257 \"/home"_ba << "none"_ba;
-        QTest::newRow("no quotes") << "257 /home"_ba << "none"_ba;
-        QTest::newRow("refused") << "550 \"/home\""_ba << "none"_ba;
+        QTest::newRow("root") << "257 \"/\" is the current directory"_ba
+                              << "/"_ba;
+        QTest::newRow("blanks") << "257 \"/a b\" is current"_ba
+                                << "/a b"_ba;
+        QTest::newRow("quotes") << "257 \"/a \"\"b\"\"\" is current"_ba
+                                << "/a \"b\""_ba;
+        QTest::newRow("nothing behind") << "257 \"/home\""_ba
+                                        << "/home"_ba;
+        QTest::newRow("not ended") << "257 \"/home"_ba
+                                   << "none"_ba;
+        QTest::newRow("no quotes") << "257 /home"_ba
+                                   << "none"_ba;
+        QTest::newRow("refused") << "550 \"/home\""_ba
+                                 << "none"_ba;
     }
 
     void folders()

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/filetypes.h"
 #include "ftp/extensionchange.h"
+#include "ftp/filetypes.h"
 #include "ftp/ftpcommandtables.h"
 #include "ftp/localpaths.h"
 #include "ftp/recordingoperations.h"
@@ -178,9 +178,8 @@ void TstFtpRules::listing()
     hiddenFolder.attributes |= 2;
     FindData oddFile = foundFile(u"odd.gif"_s, 2);
     oddFile.attributes = 0xffffffef;
-    operations.folders[u"/*.*"_s] = {foundFolder(u"pub"_s), foundFile({}, 1),        cut,
-                                     hiddenFolder,          foundFolder(u".."_s),    foundFile(u"a/b"_s, 1),
-                                     oddFile,               foundFile(u"..\\x"_s, 1)};
+    operations.folders[u"/*.*"_s] = {foundFolder(u"pub"_s), foundFile({}, 1),       cut,     hiddenFolder,
+                                     foundFolder(u".."_s),  foundFile(u"a/b"_s, 1), oddFile, foundFile(u"..\\x"_s, 1)};
     const RemoteListing listing = readRemoteListing(operations, 7, u"/*.*"_s);
     QCOMPARE(listing.folders, (QStringList{u"pub"_s, u"docs"_s}));
     QCOMPARE(listing.files.size(), std::size_t(2));
@@ -192,8 +191,8 @@ void TstFtpRules::listing()
     operations.log.clear();
     const RemoteListing nothing = readRemoteListing(operations, 7, u"/empty/*.*"_s);
     QVERIFY(nothing.folders.isEmpty() && nothing.files.empty());
-    QCOMPARE(operations.log, (QStringList{u"FtpFindFirstFileA(7, \"/empty/*.*\", 0x84000000, 0)"_s,
-                                          u"InternetCloseHandle(0)"_s}));
+    QCOMPARE(operations.log,
+             (QStringList{u"FtpFindFirstFileA(7, \"/empty/*.*\", 0x84000000, 0)"_s, u"InternetCloseHandle(0)"_s}));
 }
 
 void TstFtpRules::shownFolder_data()
@@ -334,8 +333,9 @@ void TstFtpRules::everyToolKeyHasItsEntry()
             keys.append(key.key.toString());
         }
     }
-    QCOMPARE(keys.join(u' '), u"Connect Disconnect Reload Upload NewFolder DelFolder DelFile Rename "
-                              "Reload2 DownLoad NewFolder2 DelFolder2 DelFile2 Rename2"_s);
+    QCOMPARE(keys.join(u' '),
+             u"Connect Disconnect Reload Upload NewFolder DelFolder DelFile Rename "
+             "Reload2 DownLoad NewFolder2 DelFolder2 DelFile2 Rename2"_s);
 }
 
 ZEPHIRA_TEST(TstFtpRules)

@@ -161,9 +161,9 @@ void TstFtpSession::wholeSession()
     QCOMPARE(bench.names(), QStringList{u"renamed.bin"_s});
     bench.choose(u"zAll2"_s);
     bench.select(u"ListView2"_s, u"renamed.bin"_s);
-    bench.ftp.world.prompts.expect({u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question,
-                                    Question::Buttons::YesNo},
-                                   Answer::Yes);
+    bench.ftp.world.prompts.expect(
+        {u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question, Question::Buttons::YesNo},
+        Answer::Yes);
     bench.choose(u"zRemDS"_s);
     QCOMPARE(bench.names(), (QStringList{u"Größe.gif"_s, u"a b#c%20;.htm"_s}));
     QVERIFY(!QFile::exists(bench.server.localFolder() + u"renamed.bin"_s));
@@ -211,9 +211,9 @@ void TstFtpSession::serverGoesAway()
     QCOMPARE(bench.names(), QStringList{u"a.htm"_s});
     bench.server.kill();
     bench.select(u"ListView2"_s, u"a.htm"_s);
-    bench.ftp.world.prompts.expect({u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question,
-                                    Question::Buttons::YesNo},
-                                   Answer::Yes);
+    bench.ftp.world.prompts.expect(
+        {u"Are you sure to delete all of these files?"_s, {}, Question::Icon::Question, Question::Buttons::YesNo},
+        Answer::Yes);
     bench.ftp.world.prompts.expectTell(u"An error occured while deleting file!"_s, {}, Question::Icon::Exclamation);
     bench.choose(u"zRemDS"_s);
     QCOMPARE(bench.names(), QStringList{u"a.htm"_s});

@@ -69,8 +69,7 @@ struct Bench {
 };
 
 const QString removeQuestion = u"? Make sure it contains no files!\r\nIf you are, don't look for it in recycle!"_s;
-const QString deleteQuestion =
-    u"Are you sure to delete these files?\r\nif you are, don't look for them in recycle!"_s;
+const QString deleteQuestion = u"Are you sure to delete these files?\r\nif you are, don't look for them in recycle!"_s;
 
 } // namespace
 
@@ -254,8 +253,9 @@ void TstLocalCommands::upload()
     QCOMPARE(bench.client.queue.files, (std::vector<TransferQueue::File>{{u"a.htm"_s, 1024}, {u"c"_s, 4'000'000}}));
     QCOMPARE(bench.desk.calls, (QStringList{u"openModal frmProg"_s, u"refreshRemote"_s}));
     const QString folder = bench.folder.path();
-    QCOMPARE(bench.desk.logged, bench.time + u" > Colecting files information:\r\n1.) "_s + folder
-                                    + u"/a.htm\r\n2.) "_s + folder + u"/c\r\n"_s);
+    QCOMPARE(bench.desk.logged,
+             bench.time + u" > Colecting files information:\r\n1.) "_s + folder + u"/a.htm\r\n2.) "_s + folder
+                 + u"/c\r\n"_s);
 }
 
 void TstLocalCommands::newFolder()

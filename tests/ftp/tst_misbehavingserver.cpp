@@ -60,7 +60,6 @@ ScriptedServer::Handler doing(void (*act)(Session &session))
     return [act](Session &session, const QByteArray &) { act(session); };
 }
 
-
 } // namespace
 
 /// Servers that stall, drop, lie and worse. Nothing may hang, crash or claim success.
@@ -99,12 +98,18 @@ private slots:
     {
         QTest::addColumn<QByteArray>("command");
         QTest::addColumn<QByteArray>("reply");
-        QTest::newRow("at the greeting") << ""_ba << "421 Too many"_ba;
-        QTest::newRow("the user") << "USER"_ba << "530 No"_ba;
-        QTest::newRow("an account is wanted") << "USER"_ba << "332 Account?"_ba;
-        QTest::newRow("the password") << "PASS"_ba << "530 No"_ba;
-        QTest::newRow("an account behind the password") << "PASS"_ba << "332 Account?"_ba;
-        QTest::newRow("binary transfers") << "TYPE"_ba << "504 No"_ba;
+        QTest::newRow("at the greeting") << ""_ba
+                                         << "421 Too many"_ba;
+        QTest::newRow("the user") << "USER"_ba
+                                  << "530 No"_ba;
+        QTest::newRow("an account is wanted") << "USER"_ba
+                                              << "332 Account?"_ba;
+        QTest::newRow("the password") << "PASS"_ba
+                                      << "530 No"_ba;
+        QTest::newRow("an account behind the password") << "PASS"_ba
+                                                        << "332 Account?"_ba;
+        QTest::newRow("binary transfers") << "TYPE"_ba
+                                          << "504 No"_ba;
     }
 
     void refusedLogins()
@@ -121,14 +126,21 @@ private slots:
         QTest::addColumn<QByteArray>("command");
         QTest::addColumn<QByteArray>("reply");
         QTest::addColumn<QString>("folder");
-        QTest::newRow("a long greeting") << ""_ba << "220-Hello\r\n530 is no end\r\n220 there"_ba << u"/"_s;
-        QTest::newRow("a busy greeting") << ""_ba << "120 Soon\r\n220 Now"_ba << u"/"_s;
-        QTest::newRow("no password wanted") << "USER"_ba << "230 Welcome"_ba << u"/"_s;
-        QTest::newRow("no folder") << "PWD"_ba << "550 No"_ba << u"failed"_s;
-        QTest::newRow("a deeper folder") << "PWD"_ba << "257 \"/home/me\" is it"_ba << u"/home/me"_s;
-        QTest::newRow("a folder of 259 characters") << "PWD"_ba << "257 \"/" + QByteArray(258, 'x') + "\""
-                                                    << u'/' + QString(258, u'x');
-        QTest::newRow("a folder that doesn't fit") << "PWD"_ba << "257 \"/" + QByteArray(259, 'x') + "\"" << u"failed"_s;
+        QTest::newRow("a long greeting") << ""_ba
+                                         << "220-Hello\r\n530 is no end\r\n220 there"_ba << u"/"_s;
+        QTest::newRow("a busy greeting") << ""_ba
+                                         << "120 Soon\r\n220 Now"_ba << u"/"_s;
+        QTest::newRow("no password wanted") << "USER"_ba
+                                            << "230 Welcome"_ba << u"/"_s;
+        QTest::newRow("no folder") << "PWD"_ba
+                                   << "550 No"_ba << u"failed"_s;
+        QTest::newRow("a deeper folder") << "PWD"_ba
+                                         << "257 \"/home/me\" is it"_ba << u"/home/me"_s;
+        QTest::newRow("a folder of 259 characters")
+            << "PWD"_ba
+            << "257 \"/" + QByteArray(258, 'x') + "\"" << u'/' + QString(258, u'x');
+        QTest::newRow("a folder that doesn't fit") << "PWD"_ba
+                                                   << "257 \"/" + QByteArray(259, 'x') + "\"" << u"failed"_s;
     }
 
     void unusualLogins()
@@ -197,12 +209,30 @@ private slots:
         timer.start();
         constexpr void (*ends[])(Session &) = {
             [](Session &session) { session.stall(); },
-            [](Session &session) { session.drop(); session.closeData(); },
-            [](Session &session) { session.resetData(); session.reply("426 Cut"); },
-            [](Session &session) { session.reset(); session.resetData(); },
-            [](Session &session) { session.closeData(); session.reply("426 Cut"); },
-            [](Session &session) { session.closeData(); session.stall(); },
-            [](Session &session) { session.closeData(); session.drop(); },
+            [](Session &session) {
+                session.drop();
+                session.closeData();
+            },
+            [](Session &session) {
+                session.resetData();
+                session.reply("426 Cut");
+            },
+            [](Session &session) {
+                session.reset();
+                session.resetData();
+            },
+            [](Session &session) {
+                session.closeData();
+                session.reply("426 Cut");
+            },
+            [](Session &session) {
+                session.closeData();
+                session.stall();
+            },
+            [](Session &session) {
+                session.closeData();
+                session.drop();
+            },
         };
         const auto end = ends[which];
         ScriptedServer server({{"RETR", [end](Session &session, const QByteArray &) {
@@ -232,8 +262,8 @@ private slots:
                 session.reply("226 Done");
             };
         };
-        for (const char *reply : {"150 Opening (0 bytes)", "150 Opening (17 bytes)",
-                                  "150 Opening (99999999999999999999 bytes)"}) {
+        for (const char *reply :
+             {"150 Opening (0 bytes)", "150 Opening (17 bytes)", "150 Opening (99999999999999999999 bytes)"}) {
             const ScriptedServer server({{"RETR", sending(reply)}});
             NetClient client;
             QVERIFY(client.connectTo(host, server.port()));
@@ -247,8 +277,9 @@ private slots:
     {
         QTest::addColumn<int>("which");
         int which = 0;
-        for (const char *name : {"says that the disk is full at the end", "closes in the middle", "resets in the middle",
-                                 "takes nothing", "says nothing at the end", "drops before the end's reply"})
+        for (const char *name :
+             {"says that the disk is full at the end", "closes in the middle", "resets in the middle", "takes nothing",
+              "says nothing at the end", "drops before the end's reply"})
             QTest::newRow(name) << which++;
     }
 
@@ -258,12 +289,32 @@ private slots:
         QElapsedTimer timer;
         timer.start();
         constexpr void (*ends[])(Session &) = {
-            [](Session &session) { session.receiveData(); session.reply("452 Full"); },
-            [](Session &session) { session.sendData({}); session.closeData(); session.reply("452 Full"); },
-            [](Session &session) { session.sendData({}); session.resetData(); session.reply("426 Cut"); },
-            [](Session &session) { session.sendData({}); session.stall(); },
-            [](Session &session) { session.receiveData(); session.stall(); },
-            [](Session &session) { session.receiveData(); session.drop(); },
+            [](Session &session) {
+                session.receiveData();
+                session.reply("452 Full");
+            },
+            [](Session &session) {
+                session.sendData({});
+                session.closeData();
+                session.reply("452 Full");
+            },
+            [](Session &session) {
+                session.sendData({});
+                session.resetData();
+                session.reply("426 Cut");
+            },
+            [](Session &session) {
+                session.sendData({});
+                session.stall();
+            },
+            [](Session &session) {
+                session.receiveData();
+                session.stall();
+            },
+            [](Session &session) {
+                session.receiveData();
+                session.drop();
+            },
         };
         const auto end = ends[which];
         ScriptedServer server({{"STOR", [end](Session &session, const QByteArray &) {
@@ -282,10 +333,10 @@ private slots:
     void smallUploadOnAFullDisk()
     {
         const ScriptedServer server({{"STOR", [](Session &session, const QByteArray &) {
-                                    session.reply("150 Send");
-                                    session.receiveData();
-                                    session.reply("452 Full");
-                                }}});
+                                          session.reply("150 Send");
+                                          session.receiveData();
+                                          session.reply("452 Full");
+                                      }}});
         NetClient client;
         QVERIFY(client.connectTo(host, server.port()));
         QVERIFY(!client.put(u"/a.htm"_s, "hello"));
@@ -310,10 +361,14 @@ private slots:
     {
         QTest::addColumn<QByteArray>("extended");
         QTest::addColumn<QByteArray>("passive");
-        QTest::newRow("no port") << "229 Here (|||0|)"_ba << "227 Here (127,0,0,1,0,0)"_ba;
-        QTest::newRow("a port where nobody is") << "229 Here (|||1|)"_ba << "227 Here (127,0,0,1,0,1)"_ba;
-        QTest::newRow("nonsense") << "229 Here"_ba << "227 Here"_ba;
-        QTest::newRow("refused") << "500 What?"_ba << "500 What?"_ba;
+        QTest::newRow("no port") << "229 Here (|||0|)"_ba
+                                 << "227 Here (127,0,0,1,0,0)"_ba;
+        QTest::newRow("a port where nobody is") << "229 Here (|||1|)"_ba
+                                                << "227 Here (127,0,0,1,0,1)"_ba;
+        QTest::newRow("nonsense") << "229 Here"_ba
+                                  << "227 Here"_ba;
+        QTest::newRow("refused") << "500 What?"_ba
+                                 << "500 What?"_ba;
     }
 
     void passiveAnswersThatLie()
@@ -330,12 +385,12 @@ private slots:
     void passiveAddressIsTheServersOwn()
     {
         // The address in the reply belongs to a network that leads nowhere.
-        ScriptedServer server({{"EPSV", replying("500 What?")},
-                               {"PASV", [](Session &session, const QByteArray &) {
-                                    const quint16 port = session.openDataPort();
-                                    session.reply("227 Here (192,0,2,1," + QByteArray::number(port / 256) + ','
-                                                  + QByteArray::number(port % 256) + ")");
-                                }}});
+        ScriptedServer server(
+            {{"EPSV", replying("500 What?")}, {"PASV", [](Session &session, const QByteArray &) {
+                                                   const quint16 port = session.openDataPort();
+                                                   session.reply("227 Here (192,0,2,1," + QByteArray::number(port / 256)
+                                                                 + ',' + QByteArray::number(port % 256) + ")");
+                                               }}});
         {
             NetClient client;
             QVERIFY(client.connectTo(host, server.port()));
@@ -348,11 +403,10 @@ private slots:
 
     void activeServerThatNeverConnects()
     {
-        ScriptedServer server({{"EPRT", replying("200 Fine")},
-                               {"LIST", [](Session &session, const QByteArray &) {
-                                    session.reply("150 Here it comes");
-                                    session.stall();
-                                }}});
+        ScriptedServer server({{"EPRT", replying("200 Fine")}, {"LIST", [](Session &session, const QByteArray &) {
+                                                                    session.reply("150 Here it comes");
+                                                                    session.stall();
+                                                                }}});
         NetClient client(shortLimit);
         QVERIFY(client.connectTo(host, server.port(), u"me"_s, u"secret"_s, INTERNET_FLAG_EXISTING_CONNECT));
         QCOMPARE(client.list(u"/*.*"_s), QStringList());

@@ -152,9 +152,9 @@ private slots:
         QTest::addColumn<quint32>("flags");
         QTest::addColumn<QString>("name");
         forEachServerAndMode([](const QByteArray &mode, int server, quint32 flags) {
-            for (const char16_t *name : {u"a b  c.htm", u" begins with a blank", u"#1 100% a;type=a?b&c",
-                                         u"žluťoučký 日本 😀.htm", u"a -> b", u"-l", u"*[x]?{y}~", u"\"quoted\"",
-                                         u"%41%2F", u"a..b"}) {
+            for (const char16_t *name :
+                 {u"a b  c.htm", u" begins with a blank", u"#1 100% a;type=a?b&c", u"žluťoučký 日本 😀.htm", u"a -> b",
+                  u"-l", u"*[x]?{y}~", u"\"quoted\"", u"%41%2F", u"a..b"}) {
                 const QString text = QString::fromUtf16(name);
                 QTest::newRow((mode + ' ' + text.toUtf8()).constData()) << server << flags << text;
             }
@@ -223,7 +223,8 @@ private slots:
         QVERIFY(file.setFileTime(QDateTime(QDate(2001, 3, 5), QTime(0, 0), Qt::UTC), QFile::FileModificationTime));
         file.close();
         FindData entry;
-        QVERIFY(client.operations.FtpFindFirstFileA(client.connection, server.folder() + u"old.htm"_s, entry, 0, 0) != 0);
+        QVERIFY(client.operations.FtpFindFirstFileA(client.connection, server.folder() + u"old.htm"_s, entry, 0, 0)
+                != 0);
         SystemTime time;
         QVERIFY(FileTimeToSystemTime(entry.lastWriteTime, time));
         QCOMPARE(time, (SystemTime{2001, 3, 5, 0, 0, 0}));
@@ -309,10 +310,12 @@ private slots:
         QVERIFY(!operations.InternetCloseHandle(0));
         QVERIFY(!operations.InternetCloseHandle(77));
         QCOMPARE(operations.InternetConnectA(0, server.host(), server.port(), server.user(), server.password(),
-                                             INTERNET_SERVICE_FTP, INTERNET_FLAG_PASSIVE, 0), 0U);
+                                             INTERNET_SERVICE_FTP, INTERNET_FLAG_PASSIVE, 0),
+                 0U);
         QVERIFY(client.connectTo(server.host(), server.port(), server.user(), server.password()));
         QCOMPARE(operations.InternetConnectA(client.open, server.host(), server.port(), server.user(),
-                                             server.password(), 3, INTERNET_FLAG_PASSIVE, 0), 0U);
+                                             server.password(), 3, INTERNET_FLAG_PASSIVE, 0),
+                 0U);
 
         QVERIFY(client.put(server.folder() + u"a.htm"_s, "hello"));
         QVERIFY(client.put(server.folder() + u"b.htm"_s, "hello"));

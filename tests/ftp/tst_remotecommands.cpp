@@ -40,10 +40,7 @@ struct Bench {
     {
         return {name, u"shown size"_s, u"shown date"_s, QString::number(size), 10};
     }
-    void expectExclamation(const QString &text)
-    {
-        world.prompts.expectTell(text, {}, Question::Icon::Exclamation);
-    }
+    void expectExclamation(const QString &text) { world.prompts.expectTell(text, {}, Question::Icon::Exclamation); }
     void expectYesNo(const QString &text, Answer answer)
     {
         world.prompts.expect({text, {}, Question::Icon::Question, Question::Buttons::YesNo}, answer);
@@ -124,9 +121,9 @@ void TstRemoteCommands::notConnected()
     QFETCH(int, command);
     QFETCH(QString, message);
     using Run = void (RemoteCommands::*)();
-    constexpr Run runs[] = {&RemoteCommands::list,         &RemoteCommands::refresh,     &RemoteCommands::download,
-                            &RemoteCommands::newFolder,    &RemoteCommands::removeFolder, &RemoteCommands::deleteFiles,
-                            &RemoteCommands::rename,       &RemoteCommands::patternAll};
+    constexpr Run runs[] = {&RemoteCommands::list,      &RemoteCommands::refresh,      &RemoteCommands::download,
+                            &RemoteCommands::newFolder, &RemoteCommands::removeFolder, &RemoteCommands::deleteFiles,
+                            &RemoteCommands::rename,    &RemoteCommands::patternAll};
     // Either handle alone is no connection.
     for (const InternetHandle open : {0u, 5u}) {
         Bench bench;
@@ -164,7 +161,8 @@ void TstRemoteCommands::list()
     QStringList waiting;
     bench.operations.onCall = [&](const QString &call) {
         if (call.startsWith(u"FtpFindFirst"))
-            waiting = {bench.panel(), QString::number(bench.view.list.count()), bench.desk.busy ? u"busy"_s : u"idle"_s};
+            waiting = {bench.panel(), QString::number(bench.view.list.count()),
+                       bench.desk.busy ? u"busy"_s : u"idle"_s};
     };
     bench.commands.list();
     const QString clock = timeOfDay(bench.world.clock.time);
@@ -180,9 +178,9 @@ void TstRemoteCommands::list()
     QVERIFY(!bench.desk.busy);
     QCOMPARE(bench.panel(), u"Server: 2 Files in folder: /pub/*.*"_s);
     QCOMPARE(bench.view.pathText, u"/pub/*.*"_s);
-    QCOMPARE(bench.desk.logged, bench.time + u" > Transfering data...\r\n"_s + bench.time
-                                    + u" > Opening folder: \"/pub/*.*\"\r\n"_s + bench.time
-                                    + u" > Data transfer completed succesfully.\r\n"_s);
+    QCOMPARE(bench.desk.logged,
+             bench.time + u" > Transfering data...\r\n"_s + bench.time + u" > Opening folder: \"/pub/*.*\"\r\n"_s
+                 + bench.time + u" > Data transfer completed succesfully.\r\n"_s);
 }
 
 void TstRemoteCommands::emptyFolder()
@@ -227,8 +225,7 @@ void TstRemoteCommands::openFolder()
     bench.operations.failures[u"FtpSetCurrentDirectoryA"_s] = -1;
     bench.commands.openNode({u"/pub/docs/"_s, u"docs"_s});
     QCOMPARE(bench.client.session.ftpRemoteFolder, u"/pub/docs/"_s);
-    QCOMPARE(bench.view.keys,
-             (QStringList{u"/"_s, u"/pub/"_s, u"/pub/docs/"_s, u"/pub/old/"_s, u"/pub/docs/new/"_s}));
+    QCOMPARE(bench.view.keys, (QStringList{u"/"_s, u"/pub/"_s, u"/pub/docs/"_s, u"/pub/old/"_s, u"/pub/docs/new/"_s}));
     QCOMPARE(bench.view.pathText, u"/pub/docs/*.*"_s);
     QCOMPARE(bench.operations.log.first(), u"FtpSetCurrentDirectoryA(1, \"/pub/docs/*.*\")"_s);
 }
@@ -263,8 +260,8 @@ void TstRemoteCommands::download()
     QCOMPARE(bench.client.queue.files, (std::vector<TransferQueue::File>{{u"a.htm"_s, 1024}, {u"c"_s, 4'000'000}}));
     QCOMPARE(bench.client.queue.total(), 4'001'024);
     QCOMPARE(bench.desk.calls, (QStringList{u"openModal frmProg"_s, u"refreshLocal"_s}));
-    QCOMPARE(bench.desk.logged, bench.time + u" > Colecting informations about files:\r\n"_s
-                                    + u"1.) /pub/a.htm\r\n2.) /pub/c\r\n"_s);
+    QCOMPARE(bench.desk.logged,
+             bench.time + u" > Colecting informations about files:\r\n"_s + u"1.) /pub/a.htm\r\n2.) /pub/c\r\n"_s);
 
     bench.view.list.selection = {u"b.gif"_s};
     bench.commands.download();
@@ -310,8 +307,9 @@ void TstRemoteCommands::newFolderFails()
     bench.world.prompts.expectInput({u"Type name for the new folder"_s, u"New Folder"_s}, u"x"_s);
     bench.expectExclamation(u"An error osccured while creating folder!"_s);
     bench.commands.newFolder();
-    QCOMPARE(bench.desk.logged, bench.time + u" > Sending request to create folder: /pub/x\r\n"_s + bench.time
-                                    + u" > An error osccured while creating folder!\r\n"_s);
+    QCOMPARE(bench.desk.logged,
+             bench.time + u" > Sending request to create folder: /pub/x\r\n"_s + bench.time
+                 + u" > An error osccured while creating folder!\r\n"_s);
     QCOMPARE(bench.operations.log.size(), 1);
 }
 
@@ -406,8 +404,9 @@ void TstRemoteCommands::deleteFiles()
     bench.view.list.selection = {u"b.gif"_s, u"a.htm"_s};
     bench.expectYesNo(u"Are you sure to delete all of these files?"_s, Answer::Yes);
     bench.commands.deleteFiles();
-    QCOMPARE(bench.operations.log, (QStringList{u"FtpDeleteFileA(2, \"/pub/a.htm\")"_s,
-                                                u"FtpDeleteFileA(2, \"/pub/b.gif\")"_s} + refreshCalls()));
+    QCOMPARE(
+        bench.operations.log,
+        (QStringList{u"FtpDeleteFileA(2, \"/pub/a.htm\")"_s, u"FtpDeleteFileA(2, \"/pub/b.gif\")"_s} + refreshCalls()));
     const QString &t = bench.time;
     QVERIFY(bench.desk.logged.startsWith(t + u" > Sending request.\r\n"_s + t + u" > Deleting: a.htm\r\n"_s + t
                                          + u" > OK\r\n"_s + t + u" > Deleting: b.gif\r\n"_s + t + u" > OK\r\n"_s));
@@ -436,8 +435,8 @@ void TstRemoteCommands::deleteStopsAtAFailure()
     bench.expectYesNo(u"Are you sure to delete all of these files?"_s, Answer::Yes);
     bench.expectExclamation(u"An error occured while deleting file!"_s);
     bench.commands.deleteFiles();
-    QCOMPARE(bench.operations.log, (QStringList{u"FtpDeleteFileA(2, \"/pub/a.htm\")"_s,
-                                                u"FtpDeleteFileA(2, \"/pub/b.gif\")"_s}));
+    QCOMPARE(bench.operations.log,
+             (QStringList{u"FtpDeleteFileA(2, \"/pub/a.htm\")"_s, u"FtpDeleteFileA(2, \"/pub/b.gif\")"_s}));
     QCOMPARE(bench.view.list.count(), 3);
     QVERIFY(bench.desk.logged.endsWith(bench.time + u" > Deleting: b.gif\r\n"_s + bench.time
                                        + u" > An error occured while deleting file!\r\n"_s));
@@ -470,7 +469,8 @@ void TstRemoteCommands::rename()
     QVERIFY(bench.commands.renameEnded(u"a.htm"_s, u"z.htm"_s));
     QCOMPARE(bench.operations.log,
              QStringList{u"FtpRenameFileA(2, \"/pub/a.htm\", \"/pub/z.htm\")"_s} + refreshCalls());
-    QVERIFY(bench.desk.logged.startsWith(bench.time + u" > Sending request to rename file: \"a.htm\" to: \"z.htm\"\r\n"_s
+    QVERIFY(bench.desk.logged.startsWith(bench.time
+                                         + u" > Sending request to rename file: \"a.htm\" to: \"z.htm\"\r\n"_s
                                          + bench.time + u" > File renamed to: \"z.htm\"\r\n"_s));
 }
 

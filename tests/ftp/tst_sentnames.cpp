@@ -79,9 +79,9 @@ private slots:
         const QByteArray path = '/' + bytes;
         QList<QByteArray> commands = server.commands().mid(5);
         commands.removeAll("EPSV");
-        QCOMPARE(commands, (QList<QByteArray>{"MKD " + path, "STOR " + path, "RETR " + path, "RNFR " + path,
-                                              "RNTO " + path + '2', "DELE " + path, "RMD " + path, "CWD " + path,
-                                              "LIST", "CWD " + path, "QUIT"}));
+        QCOMPARE(commands,
+                 (QList<QByteArray>{"MKD " + path, "STOR " + path, "RETR " + path, "RNFR " + path, "RNTO " + path + '2',
+                                    "DELE " + path, "RMD " + path, "CWD " + path, "LIST", "CWD " + path, "QUIT"}));
     }
 
     void listedNames_data()

@@ -187,13 +187,15 @@ void TstTransferEngine::orderOfDownload()
     run.operations.files[u"/pub/a.htm"_s] = sample(1030);
     run.prompts.expectTell(u"Data transfer completed."_s);
     run.move(Direction::Download, {{u"a.htm"_s, 1030}});
-    QCOMPARE(run.operations.log, (QStringList{u"FtpOpenFileA(2, \"/pub/a.htm\", 0x80000000, 2, 0)"_s,
-                                              u"InternetReadFile(1, 1024)"_s, u"InternetReadFile(1, 1024)"_s,
-                                              u"InternetCloseHandle(1)"_s}));
-    QCOMPARE(run.display.shown, (QStringList{u"run of 1030, bar to 1054.72"_s,
-                                             u"1: Downloading File: a.htm / 1030 bytù., bar to 1054.72"_s}));
-    QCOMPARE(run.desk.logged, u"%1 > Accomplishing data transfer...\r\n > Downloading from: /pub/a.htm, to: %2\r\n"
-                              "%1 > OK\r\n"_s.arg(noted(), run.path(u"a.htm"_s)));
+    QCOMPARE(run.operations.log,
+             (QStringList{u"FtpOpenFileA(2, \"/pub/a.htm\", 0x80000000, 2, 0)"_s, u"InternetReadFile(1, 1024)"_s,
+                          u"InternetReadFile(1, 1024)"_s, u"InternetCloseHandle(1)"_s}));
+    QCOMPARE(
+        run.display.shown,
+        (QStringList{u"run of 1030, bar to 1054.72"_s, u"1: Downloading File: a.htm / 1030 bytù., bar to 1054.72"_s}));
+    QCOMPARE(run.desk.logged,
+             u"%1 > Accomplishing data transfer...\r\n > Downloading from: /pub/a.htm, to: %2\r\n"
+             "%1 > OK\r\n"_s.arg(noted(), run.path(u"a.htm"_s)));
     QCOMPARE(run.desk.panels[2], u"Transfering data..., wait."_s);
 }
 
@@ -203,13 +205,14 @@ void TstTransferEngine::orderOfUpload()
     run.putLocal(u"a.htm"_s, sample(1030));
     run.prompts.expectTell(u"Data transfer completed."_s);
     run.move(Direction::Upload, {{u"a.htm"_s, 1030}});
-    QCOMPARE(run.operations.log, (QStringList{u"FtpOpenFileA(2, \"/pub/a.htm\", 0x40000000, 2, 0)"_s,
-                                              u"InternetWriteFile(1, 1024)"_s, u"InternetWriteFile(1, 6)"_s,
-                                              u"InternetCloseHandle(1)"_s}));
-    QCOMPARE(run.display.shown, (QStringList{u"run of 1030, bar to 1030"_s,
-                                             u"1: Uploading file: a.htm / 1030 bytes., bar to 1030"_s}));
-    QCOMPARE(run.desk.logged, u"%1 > Begining data transfer...\r\n > Uploading from: %2, to: /pub/a.htm\r\n"
-                              "%1 > OK\r\n"_s.arg(noted(), run.path(u"a.htm"_s)));
+    QCOMPARE(run.operations.log,
+             (QStringList{u"FtpOpenFileA(2, \"/pub/a.htm\", 0x40000000, 2, 0)"_s, u"InternetWriteFile(1, 1024)"_s,
+                          u"InternetWriteFile(1, 6)"_s, u"InternetCloseHandle(1)"_s}));
+    QCOMPARE(run.display.shown,
+             (QStringList{u"run of 1030, bar to 1030"_s, u"1: Uploading file: a.htm / 1030 bytes., bar to 1030"_s}));
+    QCOMPARE(run.desk.logged,
+             u"%1 > Begining data transfer...\r\n > Uploading from: %2, to: /pub/a.htm\r\n"
+             "%1 > OK\r\n"_s.arg(noted(), run.path(u"a.htm"_s)));
     QCOMPARE(run.desk.panels[2], u"uploading data..., wait."_s);
 }
 
@@ -370,9 +373,9 @@ void TstTransferEngine::unwritableFile()
     QVERIFY(QDir(run.folder.path()).mkdir(u"a"_s));
     run.operations.files[u"/pub/a"_s] = "text";
     bool told = false;
-    run.prompts.expect({run.files.write(run.path(u"a"_s), QByteArrayView("text")).error().sentence, {},
-                        Question::Icon::Exclamation},
-                       Answer::Ok, [&told] { told = true; });
+    run.prompts.expect(
+        {run.files.write(run.path(u"a"_s), QByteArrayView("text")).error().sentence, {}, Question::Icon::Exclamation},
+        Answer::Ok, [&told] { told = true; });
     QCOMPARE(run.move(Direction::Download, {{u"a"_s, 4}}), TransferEngine::Outcome::Stopped);
     QVERIFY(told);
     QCOMPARE(run.calls(u"InternetCloseHandle"_s).size(), 1);

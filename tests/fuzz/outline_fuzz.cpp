@@ -23,7 +23,7 @@ QString errorOf(Scan scan)
 bool same(const OutlineLeaf &one, const OutlineLeaf &other)
 {
     return one.group == other.group && one.caption == other.caption && one.tagText == other.tagText
-           && one.position == other.position;
+        && one.position == other.position;
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 // The designer's way with pages that anybody wrote: pieces without a gap, server code that comes back to the letter, and
 // no harm from whatever the engine may make of a page.
 #include "files/textfile.h"
-#include "web/designer/pagetext.h"
 #include "fuzz/check.h"
+#include "web/designer/pagetext.h"
 
 using namespace Qt::StringLiterals;
 using namespace zephira;

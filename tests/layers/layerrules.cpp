@@ -35,8 +35,8 @@ constexpr Rule codeRules[] = {
     {uR"(\bQ(MessageBox|InputDialog|FileDialog|ColorDialog|FontDialog)\b)", u"desktop/",
      u"only desktop uses the dialog classes"},
     // Programs, event loops, menus and drags have an exec() of their own, which is no dialog's.
-    {uR"((?<!application)(?<!loop)(?<!menu)(?<!drag)(?:\.|->|::|\b(?<!\.)(?<!->)(?<!::))exec\s*\()",
-     u"desktop/", u"only the form opener runs a dialog"},
+    {uR"((?<!application)(?<!loop)(?<!menu)(?<!drag)(?:\.|->|::|\b(?<!\.)(?<!->)(?<!::))exec\s*\()", u"desktop/",
+     u"only the form opener runs a dialog"},
 };
 
 constexpr auto guiModules = uR"(^<Qt(Widgets|Gui|Svg|PrintSupport|Network|DBus|WebEngine\w*|WebChannel)\b)";

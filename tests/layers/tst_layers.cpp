@@ -32,7 +32,8 @@ private slots:
         while (files.hasNext()) {
             QFile file(files.next());
             QVERIFY(file.open(QIODevice::ReadOnly));
-            broken += violations(QDir(root).relativeFilePath(file.fileName()), QString::fromUtf8(file.readAll()), layers);
+            broken +=
+                violations(QDir(root).relativeFilePath(file.fileName()), QString::fromUtf8(file.readAll()), layers);
             ++sources;
         }
         QVERIFY(sources > 50);
@@ -108,7 +109,8 @@ private slots:
         row("the opener", u"desktop/modalformopener.cpp"_s, u"int i = dialog->exec();\n"_s, {});
         row("a header twice", u"app/a.h"_s, u"int a;\n"_s, u"app/a.h:1: a header is included once"_s);
         row("a thousand lines", u"app/a.cpp"_s, QString(999, u'\n'), {});
-        row("more lines", u"app/a.cpp"_s, QString(1000, u'\n'), u"app/a.cpp:1001: no source has more than 1000 lines"_s);
+        row("more lines", u"app/a.cpp"_s, QString(1000, u'\n'),
+            u"app/a.cpp:1001: no source has more than 1000 lines"_s);
     }
 
     void rules()

@@ -76,8 +76,8 @@ public:
                 inBlock = false;
             if (Left(written, 1) == u"/")
                 continue;
-            const QStringList none{u"p"_s,  u"br"_s, u"li"_s,         u"html"_s, u"b"_s,  u"i"_s,  u"u"_s,
-                                   u"em"_s, u"blockquote"_s, QString(), u"tr"_s,  u"td"_s, u"th"_s, u"center"_s};
+            const QStringList none{u"p"_s,  u"br"_s,         u"li"_s,   u"html"_s, u"b"_s,  u"i"_s,  u"u"_s,
+                                   u"em"_s, u"blockquote"_s, QString(), u"tr"_s,   u"td"_s, u"th"_s, u"center"_s};
             if (name == u"body" || name == u"head") {
                 add(Document, UCase(written));
             } else if (name == u"img" || name == u"bgsound") {

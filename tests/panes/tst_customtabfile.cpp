@@ -102,9 +102,17 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QByteArray>("after");
         QTest::newRow("ASCII") << QByteArray("a") << QByteArray("a\xc3\xbc");
-        QTest::newRow("UTF-8 with a mark") << QByteArray("\xef\xbb\xbf" "a") << QByteArray("\xef\xbb\xbf" "a\xc3\xbc");
+        QTest::newRow("UTF-8 with a mark") << QByteArray("\xef\xbb\xbf"
+                                                         "a")
+                                           << QByteArray("\xef\xbb\xbf"
+                                                         "a\xc3\xbc");
         QTest::newRow("Windows-1252") << QByteArray("\xe4 ") << QByteArray("\xe4 \xfc");
-        QTest::newRow("UTF-16") << QByteArray("\xff\xfe" "a\0", 4) << QByteArray("\xff\xfe" "a\0\xfc\0", 6);
+        QTest::newRow("UTF-16") << QByteArray("\xff\xfe"
+                                              "a\0",
+                                              4)
+                                << QByteArray("\xff\xfe"
+                                              "a\0\xfc\0",
+                                              6);
     }
 
     void theEncodingStays()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/customtabs.h"
 
-#include "files/filenumber.h"
 #include "core/itemroles.h"
+#include "files/filenumber.h"
 #include "support/fakes.h"
 #include "support/itemviews.h"
 #include "support/testregistry.h"
@@ -18,8 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString failure = u"An error has occured, the error is most likely due to an empty custom code snips file. Here is an "
-                        "exact description of the error, please use this description when contacting support: "_s;
+const QString failure =
+    u"An error has occured, the error is most likely due to an empty custom code snips file. Here is an "
+    "exact description of the error, please use this description when contacting support: "_s;
 const InputRequest askForCode{u"What is the code you wish to add?"_s, u"Add Entry - Code"_s};
 
 InputRequest askForTitle(const QString &code)
@@ -205,7 +206,8 @@ private Q_SLOTS:
     void aFileThatCannotBeWrittenIsTold()
     {
         CustomTabsBench bench;
-        bench.world.files.unwritable.emplace(u"/app/ctabs/css.txt"_s, Error{Error::Code::Unwritable, u"The disk is full."_s});
+        bench.world.files.unwritable.emplace(u"/app/ctabs/css.txt"_s,
+                                             Error{Error::Code::Unwritable, u"The disk is full."_s});
         bench.world.prompts.expectInput(askForCode, u"code"_s);
         bench.world.prompts.expectInput(askForTitle(u"code"_s), u"title"_s);
         bench.world.prompts.expectTell(u"The disk is full."_s, {}, Question::Icon::Exclamation);

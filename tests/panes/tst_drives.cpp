@@ -21,8 +21,8 @@ private Q_SLOTS:
         QTest::newRow("root first") << QStringList{u"/home"_s, u"/"_s} << QStringList{u"/"_s, u"/home"_s};
         QTest::newRow("by mount point") << QStringList{u"/media/b"_s, u"/"_s, u"/boot"_s, u"/media/a"_s}
                                         << QStringList{u"/"_s, u"/boot"_s, u"/media/a"_s, u"/media/b"_s};
-        QTest::newRow("mounted over another") << QStringList{u"/mnt"_s, u"/"_s, u"/mnt"_s, u"/"_s}
-                                              << QStringList{u"/"_s, u"/mnt"_s};
+        QTest::newRow("mounted over another")
+            << QStringList{u"/mnt"_s, u"/"_s, u"/mnt"_s, u"/"_s} << QStringList{u"/"_s, u"/mnt"_s};
     }
 
     void order()

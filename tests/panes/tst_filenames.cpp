@@ -17,8 +17,9 @@ using namespace zephira;
 
 namespace {
 
-const QString everyFilter = u"*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;"
-                            u"*.bas;*.frm;*.vbp;*.gif;*.bmp;*.jpg;*.java;*.sql"_s;
+const QString everyFilter =
+    u"*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;"
+    u"*.bas;*.frm;*.vbp;*.gif;*.bmp;*.jpg;*.java;*.sql"_s;
 
 void touch(const QString &path)
 {
@@ -118,8 +119,8 @@ private Q_SLOTS:
     void namesInOrder()
     {
         const QTemporaryDir folder;
-        const QStringList inOrder{u"10.txt"_s, u"a b.txt"_s, u"Alpha.txt"_s, u"beta.TXT"_s, u"Ärger.txt"_s, u"Жук.txt"_s,
-                                  u"日本.txt"_s, u"\U0001F600.txt"_s};
+        const QStringList inOrder{u"10.txt"_s,    u"a b.txt"_s, u"Alpha.txt"_s, u"beta.TXT"_s,
+                                  u"Ärger.txt"_s, u"Жук.txt"_s, u"日本.txt"_s,  u"\U0001F600.txt"_s};
         for (const QString &name : inOrder)
             touch(folder.filePath(name));
         touch(folder.filePath(u"other.png"_s));

@@ -69,7 +69,8 @@ private Q_SLOTS:
         bench.places.makeFile(u"site/c.png"_s);
         bench.tree.setSelectedFolder(bench.places.path());
         bench.tree.currentItem()->setExpanded(true);
-        bench.tree.setCurrentItem(bench.tree.itemBelow(bench.tree.itemBelow(bench.tree.itemBelow(bench.tree.currentItem()))));
+        bench.tree.setCurrentItem(
+            bench.tree.itemBelow(bench.tree.itemBelow(bench.tree.itemBelow(bench.tree.currentItem()))));
         QCOMPARE(bench.path(), bench.places.path(u"site"_s));
         QCOMPARE(bench.listed(), (QStringList{u"A.htm"_s, u"b.txt"_s}));
         QCOMPARE(bench.pane.fileList().fileName(), u"A.htm"_s);
@@ -165,7 +166,8 @@ private Q_SLOTS:
         Bench bench;
         bench.pane.showFolder(bench.places.path());
         bench.drives.addItem(u"/media/unmounted"_s);
-        bench.prompts.expectTell(u"The drive /media/unmounted isn't there any more."_s, {}, Question::Icon::Exclamation);
+        bench.prompts.expectTell(u"The drive /media/unmounted isn't there any more."_s, {},
+                                 Question::Icon::Exclamation);
         bench.chooseDrive(u"/media/unmounted"_s);
         QCOMPARE(bench.drives.currentText(), u"/"_s);
         QCOMPARE(bench.drives.findText(u"/media/unmounted"_s), -1);

@@ -46,7 +46,8 @@ private Q_SLOTS:
     void theDesktopsOwnFoldersStandAtTheTop()
     {
         FolderTree tree;
-        QCOMPARE(childrenOf(tree.invisibleRootItem()), (QStringList{u"Desktop"_s, u"My Documents"_s, u"My Computer"_s}));
+        QCOMPARE(childrenOf(tree.invisibleRootItem()),
+                 (QStringList{u"Desktop"_s, u"My Documents"_s, u"My Computer"_s}));
         QCOMPARE(childrenOf(tree.topLevelItem(2)), QStringList{u"/"_s});
         QCOMPARE(tree.selectedFolder(), QString());
         tree.setCurrentItem(tree.topLevelItem(0));
@@ -206,7 +207,8 @@ private Q_SLOTS:
         child(rootItem(tree), u"a"_s)->setExpanded(true);
         QVERIFY(QDir(m_places->path(u"root/a"_s)).removeRecursively());
         m_places->makeFolder(u"root/a/new"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(child(rootItem(tree), u"a"_s) && !child(child(rootItem(tree), u"a"_s), u"old"_s), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(child(rootItem(tree), u"a"_s) && !child(child(rootItem(tree), u"a"_s), u"old"_s),
+                                 patience);
         child(rootItem(tree), u"a"_s)->setExpanded(true);
         QTRY_COMPARE_WITH_TIMEOUT(childrenOf(child(rootItem(tree), u"a"_s)), QStringList{u"new"_s}, patience);
     }

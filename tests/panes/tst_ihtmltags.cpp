@@ -35,7 +35,8 @@ private Q_SLOTS:
     void irregularRowsStay_data()
     {
         QTest::addColumn<QString>("tag");
-        for (const char *tag : {"<<irandom>", "<ireplace><irndnum>", "<iset></isql>", "<isqltrans></islqtrans>", "<imultipartt>"})
+        for (const char *tag :
+             {"<<irandom>", "<ireplace><irndnum>", "<iset></isql>", "<isqltrans></islqtrans>", "<imultipartt>"})
             QTest::newRow(tag) << QString::fromLatin1(tag);
     }
 

@@ -120,8 +120,9 @@ private Q_SLOTS:
         QTRY_COMPARE(browser.tree().geometry(), QRect(2, 2, 303, 297));
         for (const QString &name : {u"objectshow"_s, u"eventshow"_s})
             QCOMPARE(browser.form.get<QPushButton>(name).x(), 313);
-        QVERIFY(!browser.form.get<QPushButton>(u"objectshow"_s).geometry().intersects(
-            browser.form.get<QPushButton>(u"eventshow"_s).geometry()));
+        QVERIFY(!browser.form.get<QPushButton>(u"objectshow"_s)
+                     .geometry()
+                     .intersects(browser.form.get<QPushButton>(u"eventshow"_s).geometry()));
     }
 
     void escapeCloses()

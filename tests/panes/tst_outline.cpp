@@ -68,13 +68,16 @@ QTestData &row(const char *name, const QString &text, const QStringList &lines, 
 }
 
 const QStringList pieces{
-    u"<"_s, u">"_s, u"<a"_s, u"<A "_s, u"<img "_s, u"<bgsound"_s, u"<body>"_s, u"<Head "_s, u"<TABLE"_s, u"<form "_s,
-    u"<input "_s, u"<select"_s, u"<textarea "_s, u"<font "_s, u"<div "_s, u"<script"_s, u"</Script>"_s, u"</style"_s,
-    u"<style>"_s, u"<layer "_s, u"<title>"_s, u"</title>"_s, u"<h1>"_s, u"<H6 "_s, u"<h7>"_s, u"<ol>"_s, u"<d>"_s,
-    u"<dl>"_s, u"<dt "_s, u"<p>"_s, u"<br>"_s, u"<blockquote>"_s, u"<center>"_s, u"<meta "_s, u"<!DOCTYPE "_s,
-    u"<!-- "_s, u" -->"_s, u"--"_s, u"<%"_s, u"%>"_s, u"/"_s, u" "_s, u"\t"_s, u"\r\n"_s, u"="_s, u"\""_s, u"'"_s, u"x"_s,
-    u"ü"_s, u"name="_s, u"NAME="_s, u"id="_s, u"valid=1"_s, u"Value="_s, u"type="_s, u"href="_s, u"HREF='"_s, u"src=\""_s,
-    u"face="_s, u"color="_s, u"size="_s, u"language="_s, u"http-equiv="_s, u"\u0131d="_s, u"\u017Frc="_s, u"some words"_s,
+    u"<"_s,        u">"_s,         u"<a"_s,         u"<A "_s,          u"<img "_s,    u"<bgsound"_s,   u"<body>"_s,
+    u"<Head "_s,   u"<TABLE"_s,    u"<form "_s,     u"<input "_s,      u"<select"_s,  u"<textarea "_s, u"<font "_s,
+    u"<div "_s,    u"<script"_s,   u"</Script>"_s,  u"</style"_s,      u"<style>"_s,  u"<layer "_s,    u"<title>"_s,
+    u"</title>"_s, u"<h1>"_s,      u"<H6 "_s,       u"<h7>"_s,         u"<ol>"_s,     u"<d>"_s,        u"<dl>"_s,
+    u"<dt "_s,     u"<p>"_s,       u"<br>"_s,       u"<blockquote>"_s, u"<center>"_s, u"<meta "_s,     u"<!DOCTYPE "_s,
+    u"<!-- "_s,    u" -->"_s,      u"--"_s,         u"<%"_s,           u"%>"_s,       u"/"_s,          u" "_s,
+    u"\t"_s,       u"\r\n"_s,      u"="_s,          u"\""_s,           u"'"_s,        u"x"_s,          u"ü"_s,
+    u"name="_s,    u"NAME="_s,     u"id="_s,        u"valid=1"_s,      u"Value="_s,   u"type="_s,      u"href="_s,
+    u"HREF='"_s,   u"src=\""_s,    u"face="_s,      u"color="_s,       u"size="_s,    u"language="_s,  u"http-equiv="_s,
+    u"\u0131d="_s, u"\u017Frc="_s, u"some words"_s,
 };
 
 } // namespace
@@ -88,26 +91,17 @@ private slots:
     {
         QStringList lines;
         for (const OutlineRoot &root : outlineRoots())
-            lines.append(u"%1|%2|%3|%4"_s.arg(root.caption, root.key,
-                                              outlineRoots()[static_cast<size_t>(root.parent)].key)
-                             .arg(static_cast<int>(root.picture)));
-        QCOMPARE(lines, (QStringList{u"HTML Outline|Main|Main|1"_s,
-                                     u"Document|document|Main|4"_s,
-                                     u"Declaration|declare|Main|4"_s,
-                                     u"Page Title|title|Main|4"_s,
-                                     u"Anchors|bookmarks|document|3"_s,
-                                     u"Comments|comments|document|3"_s,
-                                     u"Divisions|divisions|document|3"_s,
-                                     u"Forms|forms|document|3"_s,
-                                     u"Headings|headings|document|3"_s,
-                                     u"Images|images|document|3"_s,
-                                     u"Layers|layers|document|3"_s,
-                                     u"Links|links|document|3"_s,
-                                     u"Lists|lists|document|3"_s,
-                                     u"Scripts|scripts|document|3"_s,
-                                     u"Styles|styles|document|3"_s,
-                                     u"Tables|tables|document|3"_s,
-                                     u"Others|other|document|3"_s}));
+            lines.append(
+                u"%1|%2|%3|%4"_s.arg(root.caption, root.key, outlineRoots()[static_cast<size_t>(root.parent)].key)
+                    .arg(static_cast<int>(root.picture)));
+        QCOMPARE(lines,
+                 (QStringList{
+                     u"HTML Outline|Main|Main|1"_s, u"Document|document|Main|4"_s, u"Declaration|declare|Main|4"_s,
+                     u"Page Title|title|Main|4"_s, u"Anchors|bookmarks|document|3"_s, u"Comments|comments|document|3"_s,
+                     u"Divisions|divisions|document|3"_s, u"Forms|forms|document|3"_s,
+                     u"Headings|headings|document|3"_s, u"Images|images|document|3"_s, u"Layers|layers|document|3"_s,
+                     u"Links|links|document|3"_s, u"Lists|lists|document|3"_s, u"Scripts|scripts|document|3"_s,
+                     u"Styles|styles|document|3"_s, u"Tables|tables|document|3"_s, u"Others|other|document|3"_s}));
     }
 
     void tags_data()
@@ -189,7 +183,8 @@ private slots:
         row("a short one in a script", u"<script><!--></script>"_s, {u"scripts: script"_s});
         row("other tags in a script", u"<script><div><!-- x -->"_s, {u"scripts: script"_s, u"divisions: DIV"_s});
         row("behind a script", u"<script></SCRIPT><!-- x -->"_s, {u"scripts: script"_s, u"comments: x"_s});
-        row("either closing tag ends a block", u"<script></style ><!-- x -->"_s, {u"scripts: script"_s, u"comments: x"_s});
+        row("either closing tag ends a block", u"<script></style ><!-- x -->"_s,
+            {u"scripts: script"_s, u"comments: x"_s});
         row("a second block", u"<style></style><script><!-- x -->"_s, {u"other: style"_s, u"scripts: script"_s});
     }
 

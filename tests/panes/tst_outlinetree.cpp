@@ -36,16 +36,17 @@ QStringList describe(const OutlineTree &tree)
 
 QModelIndex nodeOf(const OutlineTree &tree, const QString &caption)
 {
-    return tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole, caption, 1, Qt::MatchExactly | Qt::MatchRecursive)
+    return tree.model()
+        ->match(tree.model()->index(0, 0), Qt::DisplayRole, caption, 1, Qt::MatchExactly | Qt::MatchRecursive)
         .value(0);
 }
 
 const QStringList emptyOutline{
-    u"HTML Outline (Main, 1)+"_s,     u"  Document (document, 4)+"_s,   u"    Anchors (bookmarks, 3)"_s,
+    u"HTML Outline (Main, 1)+"_s,     u"  Document (document, 4)+"_s,    u"    Anchors (bookmarks, 3)"_s,
     u"    Comments (comments, 3)"_s,  u"    Divisions (divisions, 3)"_s, u"    Forms (forms, 3)"_s,
-    u"    Headings (headings, 3)"_s,  u"    Images (images, 3)"_s,      u"    Layers (layers, 3)"_s,
-    u"    Links (links, 3)"_s,        u"    Lists (lists, 3)"_s,        u"    Scripts (scripts, 3)"_s,
-    u"    Styles (styles, 3)"_s,      u"    Tables (tables, 3)"_s,      u"    Others (other, 3)"_s,
+    u"    Headings (headings, 3)"_s,  u"    Images (images, 3)"_s,       u"    Layers (layers, 3)"_s,
+    u"    Links (links, 3)"_s,        u"    Lists (lists, 3)"_s,         u"    Scripts (scripts, 3)"_s,
+    u"    Styles (styles, 3)"_s,      u"    Tables (tables, 3)"_s,       u"    Others (other, 3)"_s,
     u"  Declaration (declare, 4)+"_s, u"  Page Title (title, 4)+"_s,
 };
 
@@ -197,13 +198,14 @@ private slots:
 
     void allNodesHavePictures()
     {
-        QIcon::setThemeSearchPaths(
-            QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, u"icons"_s, QStandardPaths::LocateDirectory));
+        QIcon::setThemeSearchPaths(QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, u"icons"_s,
+                                                             QStandardPaths::LocateDirectory));
         QIcon::setThemeName(u"breeze"_s);
         OutlineModel model;
         model.parse(u"<body>"_s);
         const QModelIndex document = model.groupIndex(OutlineGroup::Document);
-        for (const QModelIndex &node : {model.index(0, 0), document, model.index(0, 0, document), model.index(13, 0, document)})
+        for (const QModelIndex &node :
+             {model.index(0, 0), document, model.index(0, 0, document), model.index(13, 0, document)})
             QVERIFY2(!node.data(Qt::DecorationRole).value<QIcon>().isNull(), qPrintable(node.data().toString()));
     }
 };

@@ -40,7 +40,8 @@ struct Bench {
 
     void fill(const QString &name, const QWidget *page)
     {
-        log.append(name + (plain->isVisible() || tree->isVisible() || custom->isVisible() ? u" in view"_s : u" hidden"_s));
+        log.append(name
+                   + (plain->isVisible() || tree->isVisible() || custom->isVisible() ? u" in view"_s : u" hidden"_s));
         if (page->isVisible() != log.last().endsWith(u"in view"_s))
             log.append(u"another page shows"_s);
         if (!failure.isEmpty())
@@ -54,9 +55,12 @@ struct Bench {
 
     static Question told(const QString &description)
     {
-        return {u"An error has occured at: frmmain in Procedure: Frame1_Click\r\nThe error is as follows: "_s + description
-                    + u"\r\nPlease Report this to the Zephira. team\r\nClick OK to continue, Cancel to Exit the current SUB"_s,
-                {}, Question::Icon::Critical, Question::Buttons::OkCancel};
+        return {
+            u"An error has occured at: frmmain in Procedure: Frame1_Click\r\nThe error is as follows: "_s + description
+                + u"\r\nPlease Report this to the Zephira. team\r\nClick OK to continue, Cancel to Exit the current SUB"_s,
+            {},
+            Question::Icon::Critical,
+            Question::Buttons::OkCancel};
     }
 };
 

@@ -61,13 +61,15 @@ private Q_SLOTS:
         QTest::newRow("roots") << u"a\r\nb"_s << QStringList{u"a"_s, u"b"_s} << 0;
         QTest::newRow("a grandchild, then a root")
             << u"a\n\tb\n\t\tc\nd"_s << QStringList{u"a"_s, u"a/b"_s, u"a/b/c"_s, u"d"_s} << 0;
-        QTest::newRow("back by one") << u"a\n\tb\n\t\tc\n\td"_s << QStringList{u"a"_s, u"a/b"_s, u"a/b/c"_s, u"a/d"_s} << 0;
+        QTest::newRow("back by one") << u"a\n\tb\n\t\tc\n\td"_s << QStringList{u"a"_s, u"a/b"_s, u"a/b/c"_s, u"a/d"_s}
+                                     << 0;
         QTest::newRow("under a node of an earlier branch")
             << u"a\n\tb\nc\n\t\td"_s << QStringList{u"a"_s, u"a/b"_s, u"c"_s, u"a/b/d"_s} << 0;
         QTest::newRow("too deep at once") << u"a\n\t\tb\nc"_s << QStringList{u"a"_s} << 2;
         QTest::newRow("the first line too deep") << u"\ta"_s << QStringList() << 1;
         QTest::newRow("a blank line is a node") << u"a\n\nb"_s << QStringList{u"a"_s, u""_s, u"b"_s} << 0;
-        QTest::newRow("a node of nothing but tabs") << u"a\n\t\n\t\tb"_s << QStringList{u"a"_s, u"a/"_s, u"a//b"_s} << 0;
+        QTest::newRow("a node of nothing but tabs")
+            << u"a\n\t\n\t\tb"_s << QStringList{u"a"_s, u"a/"_s, u"a//b"_s} << 0;
         QTest::newRow("tabs within stay") << u"a\tb\n \tc"_s << QStringList{u"a\tb"_s, u" \tc"_s} << 0;
     }
 

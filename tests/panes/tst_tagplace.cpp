@@ -19,9 +19,8 @@ private slots:
         QTest::addColumn<QString>("tagText");
         QTest::addColumn<qsizetype>("position");
         QTest::addColumn<qsizetype>("found");
-        const auto row = [](const char *name, const QString &text, const QString &tagText, qsizetype position, qsizetype found) {
-            QTest::newRow(name) << text << tagText << position << found;
-        };
+        const auto row = [](const char *name, const QString &text, const QString &tagText, qsizetype position,
+                            qsizetype found) { QTest::newRow(name) << text << tagText << position << found; };
         row("where it stood", u"<b>1<b>2<b>"_s, u"b"_s, 4, 4);
         row("moved down", u"new <b>"_s, u"b"_s, 0, 4);
         row("moved up", u"<b>"_s, u"b"_s, 40, 0);

@@ -80,8 +80,8 @@ int put(InternetOperations &operations, InternetHandle connection, const QString
 int list(InternetOperations &operations, InternetHandle connection, const QStringList &arguments)
 {
     FindData entry;
-    const InternetHandle find = operations.FtpFindFirstFileA(connection, arguments.value(0, u"*.*"_s), entry,
-                                                             INTERNET_FLAG_RELOAD, 0);
+    const InternetHandle find =
+        operations.FtpFindFirstFileA(connection, arguments.value(0, u"*.*"_s), entry, INTERNET_FLAG_RELOAD, 0);
     for (bool found = find != 0; found; found = operations.InternetFindNextFileA(find, entry)) {
         SystemTime time;
         FileTimeToSystemTime(entry.lastWriteTime, time);
@@ -117,10 +117,11 @@ int main(int argc, char **argv)
         const SystemClock clock;
         NetOperations operations(clock);
         const InternetHandle open = operations.InternetOpenA(u"ftpprobe"_s, INTERNET_OPEN_TYPE_DIRECT, {}, {}, 0);
-        const InternetHandle connection = operations.InternetConnectA(
-            open, arguments[2], arguments[3].toUShort(), u"anonymous"_s, u"anonymous@example.com"_s,
-            INTERNET_SERVICE_FTP, INTERNET_FLAG_PASSIVE, 0);
+        const InternetHandle connection =
+            operations.InternetConnectA(open, arguments[2], arguments[3].toUShort(), u"anonymous"_s,
+                                        u"anonymous@example.com"_s, INTERNET_SERVICE_FTP, INTERNET_FLAG_PASSIVE, 0);
         return connection != 0 ? task.run(operations, connection, rest) : fail(u"the server lets nobody in"_s);
     }
-    return fail(u"usage: ftpprobe get HOST PORT REMOTE LOCALDIR | put HOST PORT LOCAL REMOTE | list HOST PORT [PATTERN]"_s);
+    return fail(
+        u"usage: ftpprobe get HOST PORT REMOTE LOCALDIR | put HOST PORT LOCAL REMOTE | list HOST PORT [PATTERN]"_s);
 }

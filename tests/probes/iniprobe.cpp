@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // iniprobe FILE SECTION PREFIX COUNT: writes the keys PREFIX0, PREFIX1 … with the values 0, 1 …
 // iniprobe FILE SECTION KEY @VALUEFILE: writes one key, whose value is the content of a file.
-#include "files/iniconfiguration.h"
 #include "files/diskfilestore.h"
+#include "files/iniconfiguration.h"
 
 #include <QCoreApplication>
 
@@ -35,7 +35,8 @@ int main(int argc, char **argv)
         const Result<QByteArray> value = DiskFileStore().read(arguments[4].sliced(1));
         if (!value)
             return fail(value.error().sentence);
-        return WriteIni(section, key, QString::fromUtf8(value.value()), file) ? 0 : fail(u"The value was not written."_s);
+        return WriteIni(section, key, QString::fromUtf8(value.value()), file) ? 0
+                                                                              : fail(u"The value was not written."_s);
     }
     bool isNumber = false;
     const int count = arguments[4].toInt(&isNumber);

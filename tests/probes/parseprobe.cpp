@@ -22,7 +22,7 @@ int main(int argc, char **argv)
             return 1;
         const QByteArray printed = parser.print(input.readAll());
         const bool written = std::fwrite(printed.constData(), 1, static_cast<std::size_t>(printed.size()), stdout)
-                             == static_cast<std::size_t>(printed.size());
+            == static_cast<std::size_t>(printed.size());
         return written && std::fflush(stdout) == 0 ? 0 : 1;
     }
     if (named)

@@ -5,18 +5,18 @@
 #include "files/privateprofile.h"
 #include "files/textfile.h"
 #include "files/textlines.h"
-#include "syntax/describestyles.h"
-#include "web/designer/pagetext.h"
-#include "web/designer/servermarks.h"
 #include "ftp/folderlisting.h"
 #include "ftp/ftpreply.h"
 #include "panes/customtabfile.h"
 #include "panes/outline.h"
 #include "panes/sottree.h"
+#include "syntax/describestyles.h"
 #include "tags/tagfile.h"
 #include "tools/sourceformatter.h"
 #include "views/pagefetcher.h"
 #include "views/pagetext.h"
+#include "web/designer/pagetext.h"
+#include "web/designer/servermarks.h"
 
 namespace zephira {
 
@@ -51,7 +51,7 @@ QByteArray printTextFile(const QByteArray &input)
 {
     const DecodedText text = decodeText(input);
     return encodingName(text.format.encoding).toUtf8() + (text.format.byteOrderMark ? " mark " : " plain ")
-           + lineEndsName(text.format.lineEnds) + '\n' + text.utf8;
+        + lineEndsName(text.format.lineEnds) + '\n' + text.utf8;
 }
 
 QStringList linesOf(const QByteArray &input)
@@ -118,7 +118,7 @@ QByteArray printOutline(const QByteArray &input)
         scanOutline(textOf(input), [&out](OutlineLeaf &&leaf) {
             const OutlineRoot &group = outlineRoots()[static_cast<std::size_t>(leaf.group)];
             out += group.key.toUtf8() + '\t' + QByteArray::number(leaf.position) + '\t' + escaped(leaf.caption) + '\t'
-                   + escaped(leaf.tagText) + '\n';
+                + escaped(leaf.tagText) + '\n';
         });
     } catch (const HandlerError &error) {
         out += "error\t" + error.description.toUtf8() + '\n';
@@ -160,8 +160,8 @@ QByteArray printEntries(const std::vector<ListedEntry> &entries)
     QByteArray out;
     for (const ListedEntry &entry : entries) {
         out += entry.isFolder ? "folder" : entry.isLink ? "link" : "file";
-        out += '\t' + QByteArray::number(entry.size) + '\t' + QByteArray::number(entry.lastWriteTime) + '\t' + entry.name
-               + '\n';
+        out += '\t' + QByteArray::number(entry.size) + '\t' + QByteArray::number(entry.lastWriteTime) + '\t'
+            + entry.name + '\n';
     }
     return out;
 }
@@ -189,7 +189,7 @@ QByteArray printReply(const QByteArray &input)
         return "none\n";
     const FtpReply &reply = reader.reply();
     return QByteArray::number(reply.code) + '\t' + QByteArray::number(extendedPassivePort(reply).value_or(0)) + '\t'
-           + QByteArray::number(passivePort(reply).value_or(0)) + '\t' + quotedFolder(reply).value_or(QByteArray()) + '\n';
+        + QByteArray::number(passivePort(reply).value_or(0)) + '\t' + quotedFolder(reply).value_or(QByteArray()) + '\n';
 }
 
 /// The character set that a page names, then its text.

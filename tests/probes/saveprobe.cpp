@@ -32,7 +32,8 @@ int main(int argc, char **argv)
 
     DiskFileStore files;
     const SystemClock clock;
-    RecoveryCopies recovery(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/recovery"_s, files, clock);
+    RecoveryCopies recovery(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/recovery"_s, files,
+                            clock);
     DocumentFile document(files, recovery);
     const Result<DecodedText> text = document.open(arguments[1]);
     if (!text)

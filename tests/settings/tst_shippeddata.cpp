@@ -27,7 +27,8 @@ double luminance(int colour)
         const double part = value / 255.0;
         return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * channel(colour & 0xff) + 0.7152 * channel(colour >> 8 & 0xff) + 0.0722 * channel(colour >> 16 & 0xff);
+    return 0.2126 * channel(colour & 0xff) + 0.7152 * channel(colour >> 8 & 0xff)
+        + 0.0722 * channel(colour >> 16 & 0xff);
 }
 
 double contrast(int a, int b)
@@ -59,11 +60,21 @@ void TstShippedData::values_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
     const char *rows[][3] = {
-        {"Startup", "selprj", "0"},     {"startup", "rootsel", "2"},      {"options", "highlight", "1"},
-        {"options", "linenumber", "1"}, {"Options", "leftmargin", "1"},   {"options", "whitespace", "0"},
-        {"options", "selbounds", "0"},  {"Font", "name", "Liberation Mono"}, {"font", "size", "10"},
-        {"font", "bold", "False"},      {"font", "italic", "False"},      {"font", "strikethrough", "False"},
-        {"font", "underline", "False"}, {"Paths", "IEPATH", ""},          {"SERVER", "root", ""},
+        {"Startup", "selprj", "0"},
+        {"startup", "rootsel", "2"},
+        {"options", "highlight", "1"},
+        {"options", "linenumber", "1"},
+        {"Options", "leftmargin", "1"},
+        {"options", "whitespace", "0"},
+        {"options", "selbounds", "0"},
+        {"Font", "name", "Liberation Mono"},
+        {"font", "size", "10"},
+        {"font", "bold", "False"},
+        {"font", "italic", "False"},
+        {"font", "strikethrough", "False"},
+        {"font", "underline", "False"},
+        {"Paths", "IEPATH", ""},
+        {"SERVER", "root", ""},
         {"Filters", "Filters",
          "*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;*.bas;*.frm;*.vbp;"
          "*.gif;*.bmp;*.jpg;*.java;*.sql"},

@@ -120,8 +120,8 @@ void TstFrmSelPrj::tabs()
     QStringList captions;
     for (int i = 0; i < tabs.count(); ++i)
         captions.append(tabs.tabText(i));
-    QCOMPARE(captions, (QStringList{u"HTML"_s, u"Frames"_s, u"CSS"_s, u"Web"_s, u"Win32"_s, u"User Templates"_s,
-                                    u"Wizards"_s}));
+    QCOMPARE(captions,
+             (QStringList{u"HTML"_s, u"Frames"_s, u"CSS"_s, u"Web"_s, u"Win32"_s, u"User Templates"_s, u"Wizards"_s}));
     QCOMPARE(tabs.currentIndex(), 0);
     QCOMPARE(m_form->widget().windowTitle(), u"Select Template"_s);
     QCOMPARE(m_form->value(u"CancelButton"_s), u"Cancel"_s);
@@ -320,7 +320,8 @@ void TstFrmSelPrj::renaming()
     open();
     rename(u"letter.html"_s, u"mail.html"_s);
     const QString folder = m_folder->filePath(u"templates/custom/"_s);
-    QCOMPARE(m_world->files.log, (QStringList{u"write "_s + folder + u"mail.html"_s, u"remove "_s + folder + u"letter.html"_s}));
+    QCOMPARE(m_world->files.log,
+             (QStringList{u"write "_s + folder + u"mail.html"_s, u"remove "_s + folder + u"letter.html"_s}));
     QVERIFY(m_form->isOpen());
 }
 

@@ -176,8 +176,7 @@ void TstTemplates::missingFile()
 {
     const Result<QString> text = readTemplate(MemoryFileStore(), u"/app/templates/faq.html"_s);
     QVERIFY(!text.ok());
-    QCOMPARE(text.error().sentence,
-             u"The template file \"faq.html\" was not found in the folder\r\n/app/templates"_s);
+    QCOMPARE(text.error().sentence, u"The template file \"faq.html\" was not found in the folder\r\n/app/templates"_s);
 }
 
 void TstTemplates::unreadableFile()

@@ -5,14 +5,14 @@
 #include "core/browser.h"
 #include "core/clipboard.h"
 #include "core/clock.h"
+#include "core/configuration.h"
 #include "core/designer.h"
 #include "core/documenthost.h"
-#include "core/configuration.h"
 #include "core/filestore.h"
-#include "core/usersettings.h"
 #include "core/formopener.h"
 #include "core/inserter.h"
 #include "core/shell.h"
+#include "core/usersettings.h"
 #include "support/fakeeditor.h"
 #include "support/scriptedprompts.h"
 
@@ -232,9 +232,8 @@ struct TestContext {
     FakeShell shell;
     FakeClock clock;
     FakeFormOpener forms;
-    AppContext context{editor,  inserter, designer, document,  configuration, settings,
-                       files,   prompts,  shell,    clipboard, clock,         forms,
-                       QStringLiteral("/app")};
+    AppContext context{editor, inserter,  designer, document, configuration,         settings, files, prompts,
+                       shell,  clipboard, clock,    forms,    QStringLiteral("/app")};
 
     TestContext() = default;
     Q_DISABLE_COPY_MOVE(TestContext)

@@ -95,8 +95,8 @@ void ModalGuard::look()
     QWidget *modal = QApplication::activeModalWidget();
     if (!modal || modal == m_allowed)
         return;
-    QString message = u"an unexpected modal window: %1 \"%2\""_s
-                          .arg(QString::fromLatin1(modal->metaObject()->className()), modal->windowTitle());
+    QString message = u"an unexpected modal window: %1 \"%2\""_s.arg(
+        QString::fromLatin1(modal->metaObject()->className()), modal->windowTitle());
     if (const auto *box = qobject_cast<const QMessageBox *>(modal))
         message += u": "_s + box->text();
     if (onFailure)

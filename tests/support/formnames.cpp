@@ -48,7 +48,8 @@ QString captionOf(const QObject &object)
 bool isOurs(const QObject &object)
 {
     const QString name = object.objectName();
-    const bool isPart = qobject_cast<const QTabBar *>(object.parent()) || name.startsWith(u"qt_") || name.startsWith(u"_q_");
+    const bool isPart =
+        qobject_cast<const QTabBar *>(object.parent()) || name.startsWith(u"qt_") || name.startsWith(u"_q_");
     return !name.isEmpty() && !isPart;
 }
 
@@ -125,8 +126,8 @@ QList<NamedControl> readUiFile(const QString &path)
             open.append(controls.size());
             // An action that isn't a widget's child names no class.
             const QString className = xml.attributes().value(u"class"_s).toString();
-            controls.append({xml.attributes().value(u"name"_s).toString(),
-                             className.isEmpty() ? u"QAction"_s : className, {}});
+            controls.append(
+                {xml.attributes().value(u"name"_s).toString(), className.isEmpty() ? u"QAction"_s : className, {}});
         } else if (token == QXmlStreamReader::EndElement && isControl) {
             open.removeLast();
         } else if (token == QXmlStreamReader::StartElement && xml.name() == u"item") {
@@ -142,9 +143,8 @@ QList<NamedControl> readUiFile(const QString &path)
         } else if (token == QXmlStreamReader::StartElement && xml.name() == u"string" && !open.isEmpty()
                    && open.last() >= 0) {
             NamedControl &control = controls[open.last()];
-            const bool isCaption = std::ranges::any_of(captionProperties, [&](const char *name) {
-                return property == QLatin1StringView(name);
-            });
+            const bool isCaption = std::ranges::any_of(
+                captionProperties, [&](const char *name) { return property == QLatin1StringView(name); });
             if (isCaption && hasCaption(control.className))
                 control.caption = oneLine(xml.readElementText());
         }
@@ -157,8 +157,8 @@ QList<NamedControl> livingControls(const QWidget &form)
     QList<NamedControl> controls;
     const auto add = [&](const QObject &object) {
         if (isOurs(object))
-            controls.append({object.objectName(), QString::fromLatin1(object.metaObject()->className()),
-                             captionOf(object)});
+            controls.append(
+                {object.objectName(), QString::fromLatin1(object.metaObject()->className()), captionOf(object)});
     };
     const QList<QWidget *> widgets = chain(form);
     for (const QWidget *widget : widgets)

@@ -39,11 +39,14 @@ HttpServer::HttpServer()
         });
     });
     m_thread.start();
-    QMetaObject::invokeMethod(server, [this, server] {
-        if (!server->listen(QHostAddress::LocalHost))
-            qFatal("no port is free");
-        m_port = server->serverPort();
-    }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(
+        server,
+        [this, server] {
+            if (!server->listen(QHostAddress::LocalHost))
+                qFatal("no port is free");
+            m_port = server->serverPort();
+        },
+        Qt::BlockingQueuedConnection);
 }
 
 HttpServer::~HttpServer()

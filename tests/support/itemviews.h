@@ -19,8 +19,8 @@ inline void doubleClickItem(QAbstractItemView &view, const QModelIndex &index)
 /// The same with the first top-level item of a text.
 inline void doubleClickItem(QAbstractItemView &view, const QString &text)
 {
-    const QModelIndexList found =
-        view.model()->match(view.model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    const QModelIndexList found = view.model()->match(view.model()->index(0, 0), Qt::DisplayRole, text, 1,
+                                                      Qt::MatchExactly | Qt::MatchCaseSensitive);
     QVERIFY2(!found.isEmpty(), qPrintable(text));
     doubleClickItem(view, found.first());
 }

@@ -31,11 +31,16 @@ QString quoted(const QString &text)
 QString nameOf(Question::Icon icon)
 {
     switch (icon) {
-    case Question::Icon::None: return u"none"_s;
-    case Question::Icon::Information: return u"information"_s;
-    case Question::Icon::Question: return u"question"_s;
-    case Question::Icon::Exclamation: return u"exclamation"_s;
-    case Question::Icon::Critical: return u"critical"_s;
+    case Question::Icon::None:
+        return u"none"_s;
+    case Question::Icon::Information:
+        return u"information"_s;
+    case Question::Icon::Question:
+        return u"question"_s;
+    case Question::Icon::Exclamation:
+        return u"exclamation"_s;
+    case Question::Icon::Critical:
+        return u"critical"_s;
     }
     Q_UNREACHABLE();
 }
@@ -43,10 +48,14 @@ QString nameOf(Question::Icon icon)
 QString nameOf(Question::Buttons buttons)
 {
     switch (buttons) {
-    case Question::Buttons::Ok: return u"OK"_s;
-    case Question::Buttons::OkCancel: return u"OK, Cancel"_s;
-    case Question::Buttons::YesNo: return u"Yes, No"_s;
-    case Question::Buttons::YesNoCancel: return u"Yes, No, Cancel"_s;
+    case Question::Buttons::Ok:
+        return u"OK"_s;
+    case Question::Buttons::OkCancel:
+        return u"OK, Cancel"_s;
+    case Question::Buttons::YesNo:
+        return u"Yes, No"_s;
+    case Question::Buttons::YesNoCancel:
+        return u"Yes, No, Cancel"_s;
     }
     Q_UNREACHABLE();
 }
@@ -61,17 +70,18 @@ QString described(const QString &kind, std::initializer_list<std::pair<const cha
 
 QString described(const Question &question)
 {
-    return described(u"message box"_s, {{"title", quoted(question.title)},
-                                        {"text", quoted(question.text)},
-                                        {"icon", nameOf(question.icon)},
-                                        {"buttons", nameOf(question.buttons)}});
+    return described(u"message box"_s,
+                     {{"title", quoted(question.title)},
+                      {"text", quoted(question.text)},
+                      {"icon", nameOf(question.icon)},
+                      {"buttons", nameOf(question.buttons)}});
 }
 
 QString described(const InputRequest &request)
 {
-    return described(u"input box"_s, {{"title", quoted(request.title)},
-                                      {"text", quoted(request.text)},
-                                      {"initial", quoted(request.initial)}});
+    return described(
+        u"input box"_s,
+        {{"title", quoted(request.title)}, {"text", quoted(request.text)}, {"initial", quoted(request.initial)}});
 }
 
 QString described(const FileRequest &request)
@@ -96,12 +106,13 @@ QString describedColour(quint32 initial)
 QString described(const FontChoice &font)
 {
     const auto word = [](bool on) { return on ? u"yes"_s : u"no"_s; };
-    return described(u"font dialog"_s, {{"name", quoted(font.name)},
-                                        {"size", QString::number(font.size)},
-                                        {"bold", word(font.bold)},
-                                        {"italic", word(font.italic)},
-                                        {"strike", word(font.strikethrough)},
-                                        {"under", word(font.underline)}});
+    return described(u"font dialog"_s,
+                     {{"name", quoted(font.name)},
+                      {"size", QString::number(font.size)},
+                      {"bold", word(font.bold)},
+                      {"italic", word(font.italic)},
+                      {"strike", word(font.strikethrough)},
+                      {"under", word(font.underline)}});
 }
 
 } // namespace

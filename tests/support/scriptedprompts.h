@@ -25,8 +25,7 @@ public:
 
     void expect(const Question &question, Answer answer, During during = {});
     /// A note that has only OK; the defaults are those of Prompts::tell().
-    void expectTell(const QString &text, const QString &title = {},
-                    Question::Icon icon = Question::Icon::Information);
+    void expectTell(const QString &text, const QString &title = {}, Question::Icon icon = Question::Icon::Information);
     void expectInput(const InputRequest &request, const std::optional<QString> &answer, During during = {});
     void expectFile(const FileRequest &request, const std::optional<QString> &answer, During during = {});
     void expectFolder(const QString &title, const QString &initialFolder, const std::optional<QString> &answer);

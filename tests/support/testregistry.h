@@ -25,5 +25,5 @@ struct TestRegistration {
 } // namespace zephira
 
 /// Makes a test class known to its program; the same name stands under CLASSES in CMakeLists.txt.
-#define ZEPHIRA_TEST(Class) \
+#define ZEPHIRA_TEST(Class)                                                                                            \
     static const zephira::TestRegistration registerTest_##Class(#Class, [] { return new Class; });

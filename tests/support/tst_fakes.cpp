@@ -42,17 +42,18 @@ private slots:
         }
         QCOMPARE(failures.size(), 3);
         QVERIFY(failures[0].contains(u"no question was expected"_s));
-        QCOMPARE(failures[1], u"the question differs.\n"
-                              "  expected: message box\n"
-                              "    title    \"\"\n"
-                              "    text     \"One\\r\\nline\"\n"
-                              "    icon     none\n"
-                              "    buttons  OK\n"
-                              "  asked:    message box\n"
-                              "    title    \"\"\n"
-                              "    text     \"One\\nline\"\n"
-                              "    icon     none\n"
-                              "    buttons  OK"_s);
+        QCOMPARE(failures[1],
+                 u"the question differs.\n"
+                 "  expected: message box\n"
+                 "    title    \"\"\n"
+                 "    text     \"One\\r\\nline\"\n"
+                 "    icon     none\n"
+                 "    buttons  OK\n"
+                 "  asked:    message box\n"
+                 "    title    \"\"\n"
+                 "    text     \"One\\nline\"\n"
+                 "    icon     none\n"
+                 "    buttons  OK"_s);
         QVERIFY(failures[2].contains(u"expected and not asked"_s));
     }
 

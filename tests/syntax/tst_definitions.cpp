@@ -102,16 +102,19 @@ void TstDefinitions::listHolds_data()
     QTest::addColumn<QString>("words");
 
     const CodeMaxLanguage html = htmlDefinition().language;
-    QTest::newRow("HTML elements") << html.TagElementNames
-                                   << u"a body div h1 h6 marquee font frameset blink section dialog search svg script cf*"_s;
+    QTest::newRow("HTML elements")
+        << html.TagElementNames
+        << u"a body div h1 h6 marquee font frameset blink section dialog search svg script cf*"_s;
     QTest::newRow("HTML attributes") << html.TagAttributeNames
                                      << u"href src class style bgcolor http-equiv popover onclick data-* aria-* on*"_s;
     QTest::newRow("HTML entities") << html.TagEntities << u"nbsp amp lt gt quot apos eacute Eacute euro hellip check"_s;
     QTest::newRow("XML entities") << xmlDefinition().language.TagEntities << u"amp lt gt quot apos"_s;
-    QTest::newRow("C++ keywords") << cppDefinition().language.Keywords
-                                  << u"int class co_await concept constinit consteval requires char8_t #include #define vector"_s;
+    QTest::newRow("C++ keywords")
+        << cppDefinition().language.Keywords
+        << u"int class co_await concept constinit consteval requires char8_t #include #define vector"_s;
     QTest::newRow("Basic keywords") << basicDefinition().language.Keywords << u"Dim If Then MsgBox Option vbCrLf"_s;
-    QTest::newRow("Pascal keywords") << pascalDefinition().language.Keywords << u"procedure unit uses var string Integer"_s;
+    QTest::newRow("Pascal keywords") << pascalDefinition().language.Keywords
+                                     << u"procedure unit uses var string Integer"_s;
     QTest::newRow("Java keywords") << javaDefinition().language.Keywords
                                    << u"sealed permits record yield when var function typeof async await @Override"_s;
     QTest::newRow("PHP keywords") << phpDefinition().language.Keywords << u"echo function match readonly enum $"_s;

@@ -25,7 +25,8 @@ QString foldsOf(const SyntaxEngine &engine, const QByteArray &text)
         const FoldLine fold = engine.foldRules().fold(
             QByteArrayView(text).sliced(starts[line], size),
             std::span(styles).subspan(static_cast<std::size_t>(starts[line]), static_cast<std::size_t>(size)), state);
-        result += QString::number(fold.level) + (fold.header ? u"+"_s : QString()) + (fold.blank ? u"."_s : QString()) + u' ';
+        result +=
+            QString::number(fold.level) + (fold.header ? u"+"_s : QString()) + (fold.blank ? u"."_s : QString()) + u' ';
     }
     return result.trimmed();
 }

@@ -28,7 +28,8 @@ private slots:
 
 void TstLanguageRegistry::builtInNames()
 {
-    QCOMPARE(LanguageRegistry().names(), (QStringList{u"Basic"_s, u"C/C++"_s, u"HTML"_s, u"Java"_s, u"Pascal"_s, u"XML"_s}));
+    QCOMPARE(LanguageRegistry().names(),
+             (QStringList{u"Basic"_s, u"C/C++"_s, u"HTML"_s, u"Java"_s, u"Pascal"_s, u"XML"_s}));
 }
 
 void TstLanguageRegistry::caseMakesNoDifference_data()

@@ -95,7 +95,10 @@ void TstLineStates::lineStartsAreReported_data()
     QTest::newRow("carriage returns") << QByteArray("a\rb\r\rc\r") << QList<int>{2, 4, 5, 7};
     QTest::newRow("mixed") << QByteArray("\n\r\r\n\r\n\n\r") << QList<int>{1, 2, 4, 6, 7, 8};
     QTest::newRow("one line") << QByteArray("abc") << QList<int>{};
-    QTest::newRow("other line separators are text") << QByteArray("a\xe2\x80\xa8" "b\x0c" "c\xc2\x85") << QList<int>{};
+    QTest::newRow("other line separators are text") << QByteArray("a\xe2\x80\xa8"
+                                                                  "b\x0c"
+                                                                  "c\xc2\x85")
+                                                    << QList<int>{};
 }
 
 void TstLineStates::lineStartsAreReported()
@@ -206,8 +209,8 @@ void TstLineStates::editsRestyleUntilTheStatesAgree()
         };
         std::vector<unsigned char> styles(old.styles.begin(), old.styles.begin() + begin);
         std::vector<unsigned char> part(static_cast<std::size_t>(after.size() - begin));
-        const StyledRange range
-            = engine.styleRange(QByteArrayView(after).sliced(begin), old.states.at(begin), part, recorder);
+        const StyledRange range =
+            engine.styleRange(QByteArrayView(after).sliced(begin), old.states.at(begin), part, recorder);
         styles.insert(styles.end(), part.begin(), part.begin() + range.end);
         styles.insert(styles.end(), old.styles.begin() + begin + range.end - shift, old.styles.end());
         QVERIFY2(styles == styleAll(engine, after).styles, after.toPercentEncoding(" <>/").constData());
@@ -262,8 +265,9 @@ void TstLineStates::longLinesTakeLinearTime_data()
     };
 
     for (const char *language : {"HTML", "XML"}) {
-        rows(language, "", {"<", "</", "<!", "<!-", "<!--#", "<!---", "<%", "<%@", "<%=%>", "<?", "<a ", "<a b='", "<a b=", "&",
-                            "&#", "&amp", "<![", "<!DOCTYPE ", "<!DOCTYPE [", "]]", "a-", "<p x=<%1%>"});
+        rows(language, "", {"<",     "</",         "<!",          "<!-",    "<!--#", "<!---",     "<%", "<%@",
+                            "<%=%>", "<?",         "<a ",         "<a b='", "<a b=", "&",         "&#", "&amp",
+                            "<![",   "<!DOCTYPE ", "<!DOCTYPE [", "]]",     "a-",    "<p x=<%1%>"});
     }
     rows("HTML", "<script>", {"=/[", "`${", "/*", "<", "</scrip", "<%1%>", "=/a", "'", "\\", "{", "<?"});
     rows("HTML", "<style>", {"a", "a:", "a{", "url(", "/*", "@", "-", "'\\", ";", "}", "a,", "<!--"});

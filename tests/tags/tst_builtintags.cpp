@@ -68,15 +68,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("attributes");
         QTest::newRow("with values") << u"LINK"_s << u" rel=\"\"| href=\"\"| type=\"\"| title=\"\""_s;
-        QTest::newRow("a bare one") << u"HR"_s
-                                    << u" align=\"\"| size=\"\"| color=\"\"| width=\"\"| noshade| style=\"\"| id=\"\"| class=\"\"| title=\"\""_s;
+        QTest::newRow("a bare one")
+            << u"HR"_s
+            << u" align=\"\"| size=\"\"| color=\"\"| width=\"\"| noshade| style=\"\"| id=\"\"| class=\"\"| title=\"\""_s;
         QTest::newRow("a hyphen within") << u"META"_s << u" id=\"\"| http-equiv=\"\"| name=\"\"| content=\"\""_s;
         QTest::newRow("id twice")
             << u"SCRIPT"_s
             << u" id=\"\"| type=\"\"| language=\"\"| src=\"\"| for=\"\"| defer=\"\"| runat=\"\"| id=\"\"| charset=\"\""_s;
-        QTest::newRow("nowrap with a value") << u"TR"_s
-                                             << u" bgcolor=\"\"| bordercolor=\"\"| bordercolorlight=\"\"| bordercolordark=\"\"| align=\"\"| "
-                                                "valign=\"\"| nowrap=\"\"| style=\"\"| id=\"\"| class=\"\"| title=\"\""_s;
+        QTest::newRow("nowrap with a value")
+            << u"TR"_s
+            << u" bgcolor=\"\"| bordercolor=\"\"| bordercolorlight=\"\"| bordercolordark=\"\"| align=\"\"| "
+               "valign=\"\"| nowrap=\"\"| style=\"\"| id=\"\"| class=\"\"| title=\"\""_s;
     }
 
     void attributes()
@@ -94,9 +96,10 @@ private Q_SLOTS:
                     bare.append(tag.key.toString() + caption);
             }
         }
-        QCOMPARE(bare, (QStringList{u"Frame noresize"_s, u"HR noshade"_s, u"IMG controls"_s, u"INPUT notab"_s,
-                                    u"INPUT checked"_s, u"INPUT border"_s, u"INPUT width"_s, u"INPUT height"_s,
-                                    u"INPUT vspace"_s, u"INPUT hspace"_s, u"TABLE nowrap"_s}));
+        QCOMPARE(bare,
+                 (QStringList{u"Frame noresize"_s, u"HR noshade"_s, u"IMG controls"_s, u"INPUT notab"_s,
+                              u"INPUT checked"_s, u"INPUT border"_s, u"INPUT width"_s, u"INPUT height"_s,
+                              u"INPUT vspace"_s, u"INPUT hspace"_s, u"TABLE nowrap"_s}));
     }
 
     void eachKeyOnce()

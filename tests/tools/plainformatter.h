@@ -66,8 +66,8 @@ inline QString plainTabs(qsizetype level)
 inline QString plainIndentTags(const QString &text)
 {
     using namespace Qt::StringLiterals;
-    const QStringList flat{u"br"_s, u"hr"_s, u"img"_s, u"meta"_s, u"applet"_s, u"p"_s, u"!--"_s, u"input"_s,
-                           u"!doctype"_s, u"area"_s};
+    const QStringList flat{u"br"_s, u"hr"_s,  u"img"_s,   u"meta"_s,     u"applet"_s,
+                           u"p"_s,  u"!--"_s, u"input"_s, u"!doctype"_s, u"area"_s};
     qsizetype position = 0;
     qsizetype level = 0;
     QString result;

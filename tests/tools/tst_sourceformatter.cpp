@@ -11,11 +11,14 @@ using namespace zephira;
 
 namespace {
 
-const QStringList pieces{u"<"_s,      u">"_s,     u"</"_s,        u"<b>"_s,       u"</b>"_s,   u"<p>"_s,
-                         u"<br>"_s,   u"<BR/>"_s, u"<Br a=x>"_s,  u"<!-- x -->"_s, u"<!doctype a>"_s, u"<input"_s,
-                         u"<img src=a>"_s, u"<area>"_s, u"<hrx>"_s, u"<applet "_s, u" "_s,     u"  "_s,
-                         u"     "_s,  u"\t"_s,    u"\r\n"_s,      u"\r"_s,        u"\n"_s,     u"x"_s,
-                         u"ü"_s,      u"p"_s,     u"!--"_s,       u"/"_s,         QString(37, u' ')};
+const QStringList pieces{u"<"_s,           u">"_s,          u"</"_s,           u"<b>"_s,
+                         u"</b>"_s,        u"<p>"_s,        u"<br>"_s,         u"<BR/>"_s,
+                         u"<Br a=x>"_s,    u"<!-- x -->"_s, u"<!doctype a>"_s, u"<input"_s,
+                         u"<img src=a>"_s, u"<area>"_s,     u"<hrx>"_s,        u"<applet "_s,
+                         u" "_s,           u"  "_s,         u"     "_s,        u"\t"_s,
+                         u"\r\n"_s,        u"\r"_s,         u"\n"_s,           u"x"_s,
+                         u"ü"_s,           u"p"_s,          u"!--"_s,          u"/"_s,
+                         QString(37, u' ')};
 
 void addTexts()
 {
@@ -163,7 +166,8 @@ private slots:
         row("blank runs stay", u"<a>x   y</a>"_s, u"\r\n<a>x   y\r\n</a>"_s);
         row("tabs are deleted", u"<a>x\ty</a>"_s, u"\r\n<a>xy\r\n</a>"_s);
         row("blanks beside tags go, but for those at a line's end", u"<a > x </a >"_s, u"\r\n<a>x \r\n</a>"_s);
-        row("a script loses its line ends", u"<script>\r\n// a\r\nb()\r\n</script>"_s, u"\r\n<script>// ab()\r\n</script>"_s);
+        row("a script loses its line ends", u"<script>\r\n// a\r\nb()\r\n</script>"_s,
+            u"\r\n<script>// ab()\r\n</script>"_s);
         row("a beginning alone", u"<"_s, u"\r\n<"_s);
         row("an end alone", u">"_s, u">"_s);
         row("nothing", {}, {});
@@ -178,10 +182,7 @@ private slots:
         QTEST(Hierarchical(text), "expected");
     }
 
-    void indentTagsAloneKeepsBlanks()
-    {
-        QCOMPARE(IndentTags(u"<a > x\r\n</a>"_s), u"\r\n<a > x\r\n\r\n</a>"_s);
-    }
+    void indentTagsAloneKeepsBlanks() { QCOMPARE(IndentTags(u"<a > x\r\n</a>"_s), u"\r\n<a > x\r\n\r\n</a>"_s); }
 
     void nextTagText_data()
     {

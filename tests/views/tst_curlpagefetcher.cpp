@@ -23,8 +23,8 @@ private slots:
         QTest::addColumn<QString>("charset");
         const QByteArray html("Content-Type: text/html\r\n");
         QTest::newRow("plain") << html << QByteArray("<p>\xE9") << QByteArray("<p>\xE9") << QString();
-        QTest::newRow("with a character set") << QByteArray("content-type: text/html;charset=KOI8-R\r\n") << QByteArray("x")
-                                              << QByteArray("x") << u"KOI8-R"_s;
+        QTest::newRow("with a character set") << QByteArray("content-type: text/html;charset=KOI8-R\r\n")
+                                              << QByteArray("x") << QByteArray("x") << u"KOI8-R"_s;
         QTest::newRow("zeros") << html << QByteArray("a\0b", 3) << QByteArray("a\0b", 3) << QString();
         QTest::newRow("no content type") << QByteArray() << QByteArray("x") << QByteArray("x") << QString();
         QTest::newRow("compressed") << html + "Content-Encoding: gzip\r\n"
@@ -49,7 +49,9 @@ private slots:
     {
         HttpServer server;
         server.putRaw(u"/old"_s, "HTTP/1.1 302 Found\r\nLocation: /newer\r\nContent-Length: 0\r\n\r\n");
-        server.putRaw(u"/newer"_s, "HTTP/1.1 301 Moved\r\nLocation: " + server.address(u"/new"_s).toLatin1() + "\r\nContent-Length: 0\r\n\r\n");
+        server.putRaw(u"/newer"_s,
+                      "HTTP/1.1 301 Moved\r\nLocation: " + server.address(u"/new"_s).toLatin1()
+                          + "\r\nContent-Length: 0\r\n\r\n");
         server.put(u"/new"_s, "here");
         const Result<FetchedPage> page = CurlPageFetcher().fetch(server.address(u"/old"_s));
         QVERIFY(page.ok());
@@ -69,10 +71,14 @@ private slots:
         row("cut short", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nabc", Error::Code::Failed);
         row("no answer", {}, Error::Code::TimedOut);
         row("no server of this kind", "220 ready\r\n", Error::Code::Refused);
-        row("to a file", "HTTP/1.1 302 Found\r\nLocation: file:///etc/passwd\r\nContent-Length: 0\r\n\r\n", Error::Code::Refused);
-        row("round and round", "HTTP/1.1 302 Found\r\nLocation: /page\r\nContent-Length: 0\r\n\r\n", Error::Code::Failed);
-        row("too large", "HTTP/1.1 200 OK\r\nContent-Length: 2000\r\n\r\n" + QByteArray(2000, 'x'), Error::Code::TooLarge);
-        row("a bad compression", "HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\nContent-Length: 3\r\n\r\nabc", Error::Code::Failed);
+        row("to a file", "HTTP/1.1 302 Found\r\nLocation: file:///etc/passwd\r\nContent-Length: 0\r\n\r\n",
+            Error::Code::Refused);
+        row("round and round", "HTTP/1.1 302 Found\r\nLocation: /page\r\nContent-Length: 0\r\n\r\n",
+            Error::Code::Failed);
+        row("too large", "HTTP/1.1 200 OK\r\nContent-Length: 2000\r\n\r\n" + QByteArray(2000, 'x'),
+            Error::Code::TooLarge);
+        row("a bad compression", "HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\nContent-Length: 3\r\n\r\nabc",
+            Error::Code::Failed);
     }
 
     void failures()

@@ -43,9 +43,10 @@ private slots:
         FakeDesigner designer;
         designer.statuses[DesignerCommand::InsertRow] = DesignerStatus::Disabled;
         designer.statuses[DesignerCommand::MergeCells] = DesignerStatus::NotSupported;
-        QCOMPARE(described(designerMenuEntries(u"Table"_s, designer, formats)),
-                 (QStringList{u"TableSub_0 +"_s, u"TableSub_2 -"_s, u"TableSub_3 +"_s, u"TableSub_4 +"_s, u"TableSub_6 +"_s,
-                              u"TableSub_7 +"_s, u"TableSub_8 +"_s, u"TableSub_10 -"_s, u"TableSub_11 +"_s}));
+        QCOMPARE(
+            described(designerMenuEntries(u"Table"_s, designer, formats)),
+            (QStringList{u"TableSub_0 +"_s, u"TableSub_2 -"_s, u"TableSub_3 +"_s, u"TableSub_4 +"_s, u"TableSub_6 +"_s,
+                         u"TableSub_7 +"_s, u"TableSub_8 +"_s, u"TableSub_10 -"_s, u"TableSub_11 +"_s}));
     }
 
     void insertFollowsTheSelection_data()
@@ -64,8 +65,9 @@ private slots:
         FakeDesigner designer;
         designer.selected = type;
         designer.statuses[DesignerCommand::Hyperlink] = DesignerStatus::Disabled;
-        QCOMPARE(described(designerMenuEntries(u"Insert"_s, designer, formats)),
-                 (QStringList{u"InsertSub_0 +"_s, u"InsertSub_1 -"_s, u"InsertButton "_s + mark, u"InsertHTML "_s + mark}));
+        QCOMPARE(
+            described(designerMenuEntries(u"Insert"_s, designer, formats)),
+            (QStringList{u"InsertSub_0 +"_s, u"InsertSub_1 -"_s, u"InsertButton "_s + mark, u"InsertHTML "_s + mark}));
     }
 
     void positionsCaption_data()
@@ -87,8 +89,9 @@ private slots:
         designer.statuses[DesignerCommand::BringToFront] = DesignerStatus::Disabled;
         const QStringList entries = described(designerMenuEntries(u"d2d"_s, designer, formats));
         QTEST(entries.value(0), "first");
-        QCOMPARE(entries.mid(1), (QStringList{u"D2DSub_1 -"_s, u"D2DSub_2 +"_s, u"D2DSub_3 +"_s, u"D2DSub_4 +"_s,
-                                              u"D2DSub_5 +"_s, u"D2DSub_6 +"_s, u"D2DSub_8 + o"_s}));
+        QCOMPARE(entries.mid(1),
+                 (QStringList{u"D2DSub_1 -"_s, u"D2DSub_2 +"_s, u"D2DSub_3 +"_s, u"D2DSub_4 +"_s, u"D2DSub_5 +"_s,
+                              u"D2DSub_6 +"_s, u"D2DSub_8 + o"_s}));
     }
 
     void aLockedElementIsChecked()
@@ -145,14 +148,15 @@ private slots:
         QTest::addColumn<QList<int>>("commands");
         const QStringList fixed{u"Cut"_s, u"Copy"_s, u"Paste"_s, QString(), u"Select All"_s, QString(), u"Font..."_s};
         const QList<int> fixedCommands{5003, 5002, 5032, 0, 5035, 0, 5009};
-        const QStringList table{QString(), u"Insert Row"_s, u"Insert Column"_s, QString(), u"Delete Row"_s, u"Delete Column"_s};
+        const QStringList table{QString(), u"Insert Row"_s, u"Insert Column"_s,
+                                QString(), u"Delete Row"_s, u"Delete Column"_s};
         const QList<int> tableCommands{0, 5021, 5020, 0, 5007, 5006};
         QTest::newRow("text") << 1 << 1 << 1 << fixed << fixedCommands;
         QTest::newRow("in a table") << 1 << 1 << 3 << fixed + table << fixedCommands + tableCommands;
         QTest::newRow("an element") << 3 << 1 << 1 << fixed + QStringList{QString(), u"Make 2D"_s}
                                     << fixedCommands + QList<int>{0, 5028};
-        QTest::newRow("a positioned element") << 7 << 3 << 1 << fixed + QStringList{QString(), u"Make 1D"_s}
-                                              << fixedCommands + QList<int>{0, 5028};
+        QTest::newRow("a positioned element")
+            << 7 << 3 << 1 << fixed + QStringList{QString(), u"Make 1D"_s} << fixedCommands + QList<int>{0, 5028};
         QTest::newRow("a positioned element in a table")
             << 7 << 3 << 3 << fixed + QStringList{QString(), u"Make 1D"_s} + table
             << fixedCommands + QList<int>{0, 5028} + tableCommands;
@@ -180,8 +184,9 @@ private slots:
             if (command == 0)
                 QVERIFY(designer.runs.empty());
             else
-                QVERIFY(designer.runs == std::vector<FakeDesigner::Run>(
-                            {{DesignerCommand(command), DesignerPrompting::Default, {}}}));
+                QVERIFY(
+                    designer.runs
+                    == std::vector<FakeDesigner::Run>({{DesignerCommand(command), DesignerPrompting::Default, {}}}));
         }
     }
 
@@ -190,7 +195,8 @@ private slots:
         FakeDesigner designer;
         designer.statuses[DesignerCommand::AbsolutePosition] = DesignerStatus::Disabled;
         designer.statuses[DesignerCommand::InsertRow] = DesignerStatus::Enabled;
-        for (const DesignerCommand command : {DesignerCommand::Cut, DesignerCommand::Font, DesignerCommand::DeleteColumns})
+        for (const DesignerCommand command :
+             {DesignerCommand::Cut, DesignerCommand::Font, DesignerCommand::DeleteColumns})
             designer.statuses[command] = DesignerStatus::Disabled;
         DesignerContextMenu(designer).show();
         QStringList grey;

@@ -40,9 +40,10 @@ private slots:
         QStringList actual;
         for (const DesignerButton &button : designerButtons())
             actual.append(button.key.toString() + u' ' + QString::number(static_cast<int>(button.command)));
-        QCOMPARE(actual, (QStringList{u"Bold 5000"_s, u"Italic 5023"_s, u"Underline 5048"_s, u"Numbers 5030"_s,
-                                      u"Bullets 5051"_s, u"Outdent 5018"_s, u"Indent 5031"_s, u"LeftJustify 5025"_s,
-                                      u"Center 5024"_s, u"RightJustify 5026"_s, u"Color 5046"_s}));
+        QCOMPARE(actual,
+                 (QStringList{u"Bold 5000"_s, u"Italic 5023"_s, u"Underline 5048"_s, u"Numbers 5030"_s,
+                              u"Bullets 5051"_s, u"Outdent 5018"_s, u"Indent 5031"_s, u"LeftJustify 5025"_s,
+                              u"Center 5024"_s, u"RightJustify 5026"_s, u"Color 5046"_s}));
     }
 
     void menuArrays_data()
@@ -282,7 +283,8 @@ private slots:
                 QTest::newRow(qPrintable(entry)) << entry << (entry == u"TableSub_0" ? 0 : int(command));
             }
         }
-        for (const char *other : {"InsertSub_2", "TableSub_12", "TableSub_-1", "TableSub_", "TableSub", "InsertHTML", "undo", ""})
+        for (const char *other :
+             {"InsertSub_2", "TableSub_12", "TableSub_-1", "TableSub_", "TableSub", "InsertHTML", "undo", ""})
             QTest::newRow(other) << QString::fromLatin1(other) << 0;
     }
 
@@ -305,7 +307,8 @@ private slots:
         bench.makeReady();
         bench.tools.clickMenu(u"FormatSub_1"_s);
         bench.tools.clickMenu(u"FormatSub_2"_s); // An entry without a name.
-        QVERIFY(bench.designer.runs == std::vector<Run>({{DesignerCommand::SetBlockFormat, DontPromptUser, u"Heading 1"_s}}));
+        QVERIFY(bench.designer.runs
+                == std::vector<Run>({{DesignerCommand::SetBlockFormat, DontPromptUser, u"Heading 1"_s}}));
     }
 
     void aButtonIsPasted()
@@ -319,8 +322,10 @@ private slots:
     {
         Bench bench;
         FakeDesigner &designer = bench.designer;
-        for (const auto &[entry, value] : {std::pair{u"ViewSub_0"_s, &designer.borders}, {u"ViewSub_1"_s, &designer.details},
-                                           {u"ViewSub_2"_s, &designer.browsing}, {u"ViewSub_10"_s, &designer.snapping}}) {
+        for (const auto &[entry, value] : {std::pair{u"ViewSub_0"_s, &designer.borders},
+                                           {u"ViewSub_1"_s, &designer.details},
+                                           {u"ViewSub_2"_s, &designer.browsing},
+                                           {u"ViewSub_10"_s, &designer.snapping}}) {
             bench.tools.clickMenu(entry);
             QVERIFY2(*value, qPrintable(entry));
             bench.tools.clickMenu(entry);

@@ -53,9 +53,11 @@ void TstFrmQv::init()
 {
     m_world = std::make_unique<TestContext>();
     FormCatalogue catalogue;
-    views::registerForms(catalogue, [this](QWidget *parent) {
-        return EditorView{new QWidget(parent), &m_world->editor};
-    }, {});
+    views::registerForms(catalogue,
+                         [this](QWidget *parent) {
+                             return EditorView{new QWidget(parent), &m_world->editor};
+                         },
+                         {});
     m_form = std::make_unique<LivingForm>(catalogue, u"frmqv"_s, *m_world);
     m_world->files.contents[u"/a.txt"_s] = "alpha";
     m_world->files.contents[u"/b.txt"_s] = "beta";
@@ -194,9 +196,10 @@ void TstFrmQv::copyAll()
 
 void TstFrmQv::help()
 {
-    m_world->prompts.expectTell(u"Press the copy button to copy the SELECTED text, OR Select the Zephira button to copy "
-                                "everything displayed to the clipboard"_s,
-                                {}, Question::Icon::None);
+    m_world->prompts.expectTell(
+        u"Press the copy button to copy the SELECTED text, OR Select the Zephira button to copy "
+        "everything displayed to the clipboard"_s,
+        {}, Question::Icon::None);
     press(u"help"_s);
 }
 

@@ -40,7 +40,10 @@ struct Viewer {
     {
         FormCatalogue forms;
         views::registerForms(
-            forms, [this](QWidget *parent) { return EditorView{new QWidget(parent), &world.editor}; },
+            forms,
+            [this](QWidget *parent) {
+                return EditorView{new QWidget(parent), &world.editor};
+            },
             [this]() -> Result<PageFetcher *> {
                 if (moduleError)
                     return *moduleError;

@@ -55,7 +55,8 @@ private slots:
         QCOMPARE(real.loaded, QStringList{u"/a"_s});
         QCOMPARE(designer.baseFile(), u"/b"_s);
         QCOMPARE(real.pasted, QStringList{u"<i>"_s});
-        QVERIFY(real.runs.front() == (FakeDesigner::Run{DesignerCommand::SetFontSize, DesignerPrompting::DontPromptUser, 3}));
+        QVERIFY(real.runs.front()
+                == (FakeDesigner::Run{DesignerCommand::SetFontSize, DesignerPrompting::DontPromptUser, 3}));
         QVERIFY(designer.showBorders() && designer.showDetails() && designer.browseMode() && designer.snapToGrid());
         QVERIFY(real.borders && real.details && real.browsing && real.snapping);
         QCOMPARE(real.menuEntries, QStringList{u"Cut"_s});

@@ -31,7 +31,8 @@ private slots:
         row("japanese", "\x83\x65\x83\x58", u"Shift_JIS"_s, u"テス"_s);
         row("chinese", "\xD6\xD0\xCE\xC4", u"gb2312"_s, u"中文"_s);
         row("korean", "\xC7\xD1", u"euc-kr"_s, u"한"_s);
-        row("the server goes before the page", "<meta charset=koi8-r>\xCF", u"windows-1251"_s, u"<meta charset=koi8-r>П"_s);
+        row("the server goes before the page", "<meta charset=koi8-r>\xCF", u"windows-1251"_s,
+            u"<meta charset=koi8-r>П"_s);
         row("the mark goes before the server", "\xEF\xBB\xBF\xC3\xA9", u"windows-1251"_s, u"é"_s);
         row("UTF-16 by its mark", QByteArray("\xFF\xFE\xE9\0", 4), {}, u"é"_s);
         row("UTF-16, big end first", QByteArray("\xFE\xFF\0\xE9", 4), {}, u"é"_s);
@@ -52,7 +53,8 @@ private slots:
         QTest::addColumn<QByteArray>("page");
         QTest::addColumn<QString>("charset");
         QTest::newRow("short") << QByteArray("<html><META CHARSET='koi8-r'>") << u"koi8-r"_s;
-        QTest::newRow("long") << QByteArray("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\">") << u"big5"_s;
+        QTest::newRow("long") << QByteArray("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\">")
+                              << u"big5"_s;
         QTest::newRow("blanks") << QByteArray("<meta  charset = \"utf-8\" />") << u"utf-8"_s;
         QTest::newRow("xml") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-5\"?>") << u"ISO-8859-5"_s;
         QTest::newRow("style sheet") << QByteArray("@charset \"utf-8\";") << u"utf-8"_s;

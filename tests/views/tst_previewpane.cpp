@@ -51,7 +51,8 @@ private slots:
     {
         FakeBrowser browser;
         const PreviewPane pane(browser);
-        for (const char *name : {"cbtop", "toolbarnav", "txturl", "cmdgo", "back", "forward", "stop", "refresh", "home"})
+        for (const char *name :
+             {"cbtop", "toolbarnav", "txturl", "cmdgo", "back", "forward", "stop", "refresh", "home"})
             QCOMPARE(pane.findChildren<QObject *>(QString::fromLatin1(name)).size(), 1);
     }
 

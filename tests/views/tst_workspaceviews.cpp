@@ -92,8 +92,12 @@ const Question saveQuestion{
 
 Question serverQuestion(const QString &end)
 {
-    return {u"You must save your ASP document to your web servers root directory in order to continue, press OK to save this document to the directory you designated as your LOCAL web server's root directory, with the filename: "_s + end,
-            {}, Question::Icon::Question, Question::Buttons::OkCancel};
+    return {
+        u"You must save your ASP document to your web servers root directory in order to continue, press OK to save this document to the directory you designated as your LOCAL web server's root directory, with the filename: "_s
+            + end,
+        {},
+        Question::Icon::Question,
+        Question::Buttons::OkCancel};
 }
 
 const QString takenEnd =
@@ -150,7 +154,8 @@ private slots:
         QTest::newRow("Basic") << 5 << QString() << none << QString();
         QTest::newRow("Pascal") << 6 << QString() << none << QString();
         QTest::newRow("Java / Script") << 7 << copy << QStringList{copy} << copy;
-        QTest::newRow("Style Sheets") << 8 << u"/app/deps/style.css"_s << QStringList{u"/app/deps/CSSpreview.html"_s} << QString();
+        QTest::newRow("Style Sheets") << 8 << u"/app/deps/style.css"_s << QStringList{u"/app/deps/CSSpreview.html"_s}
+                                      << QString();
         QTest::newRow("SQL") << 9 << QString() << QStringList() << QString();
         QTest::newRow("no row") << -1 << QString() << QStringList() << QString();
     }
@@ -306,8 +311,8 @@ private slots:
         QTest::newRow("another server") << u"/site/a.asp"_s << u"http://127.0.0.1:8080"_s << false << true << u"a.asp"_s
                                         << u"/www/a.asp"_s << u"http://127.0.0.1:8080/a.asp"_s
                                         << u"http://127.0.0.1:8080/a.asp"_s;
-        QTest::newRow("a blank") << u"/site/a b#.asp"_s << u"http://127.0.0.1:8080/x/"_s << false << true << u"a b#.asp"_s
-                                 << u"/www/a b#.asp"_s << u"http://127.0.0.1:8080/x/a%20b%23.asp"_s
+        QTest::newRow("a blank") << u"/site/a b#.asp"_s << u"http://127.0.0.1:8080/x/"_s << false << true
+                                 << u"a b#.asp"_s << u"/www/a b#.asp"_s << u"http://127.0.0.1:8080/x/a%20b%23.asp"_s
                                  << u"http://127.0.0.1:8080/x/a%20b%23.asp"_s;
     }
 

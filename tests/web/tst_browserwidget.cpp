@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/browserwidget.h"
 #include "support/eventwait.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
+#include "web/browserwidget.h"
 
 #include <QDir>
 #include <QFile>
@@ -88,7 +88,8 @@ private slots:
     {
         QFETCH(QString, name);
         Bench bench;
-        const QString path = bench.write(u"site/"_s + name, title + "<body><p>Grüße <b>1</b></p><script src=s.js></script>");
+        const QString path =
+            bench.write(u"site/"_s + name, title + "<body><p>Grüße <b>1</b></p><script src=s.js></script>");
         bench.write(u"site/s.js"_s, "document.title = 'script beside it'");
         bench.browser.setHome(path, FileKind::Page);
         for (const auto go : {&BrowserWidget::goHome, &BrowserWidget::refresh}) {
@@ -218,21 +219,24 @@ private slots:
         }
         for (const char *kind : {"js", "css", "html", "svg"}) {
             const QString name = u"link."_s + QLatin1StringView(kind);
-            QFile::link(bench.folder.path() + u"/secret/own."_s + QLatin1StringView(kind), bench.folder.path() + u"/site/"_s + name);
+            QFile::link(bench.folder.path() + u"/secret/own."_s + QLatin1StringView(kind),
+                        bench.folder.path() + u"/site/"_s + name);
         }
         QFile::link(bench.folder.path() + u"/secret"_s, bench.folder.path() + u"/site/out"_s);
         file.replace(u"FOLDER"_s, QUrl::fromLocalFile(bench.folder.path()).toString());
         const QString stem = file.chopped(2);
-        const QString html = u"<!DOCTYPE html><link rel=stylesheet href='%1css'><p id=p>x</p><img id=i src='%1svg'>"
-                             "<script>window.frame = ''; onmessage = e => window.frame = e.data;</script>"
-                             "<script src='%1js'></script><iframe src='%1html'></iframe>"
-                             "<script>window.read = ''; const r = new XMLHttpRequest; r.open('GET', '%1js');"
-                             "r.onload = () => window.read = r.responseText ? 'yes' : 'empty'; r.onerror = () => window.read = 'no';"
-                             "try { r.send() } catch (e) { window.read = 'no' }</script>"_s.arg(stem);
+        const QString html =
+            u"<!DOCTYPE html><link rel=stylesheet href='%1css'><p id=p>x</p><img id=i src='%1svg'>"
+            "<script>window.frame = ''; onmessage = e => window.frame = e.data;</script>"
+            "<script src='%1js'></script><iframe src='%1html'></iframe>"
+            "<script>window.read = ''; const r = new XMLHttpRequest; r.open('GET', '%1js');"
+            "r.onload = () => window.read = r.responseText ? 'yes' : 'empty'; r.onerror = () => window.read = 'no';"
+            "try { r.send() } catch (e) { window.read = 'no' }</script>"_s.arg(stem);
         QVERIFY(bench.show(bench.write(u"site/page.html"_s, html.toUtf8())));
         QVERIFY(bench.comesTo(u"window.read ? 'done' : ''"_s, u"done"_s));
         QCOMPARE(bench.ask(u"window.came || 'no'"_s), readable ? u"yes"_s : u"no"_s);
-        QCOMPARE(bench.ask(u"getComputedStyle(document.getElementById('p')).marginLeft"_s), readable ? u"7px"_s : u"0px"_s);
+        QCOMPARE(bench.ask(u"getComputedStyle(document.getElementById('p')).marginLeft"_s),
+                 readable ? u"7px"_s : u"0px"_s);
         QCOMPARE(bench.ask(u"String(document.getElementById('i').naturalWidth)"_s), readable ? u"5"_s : u"0"_s);
         QCOMPARE(bench.ask(u"window.read"_s), readable ? u"yes"_s : u"no"_s);
         if (readable)
@@ -246,7 +250,8 @@ private slots:
         QTest::addColumn<QString>("way");
         QTest::newRow("by script") << u"<script>location = '../secret/own.html'</script>"_s;
         QTest::newRow("by itself") << u"<meta http-equiv=refresh content='0;url=../secret/own.html'>"_s;
-        QTest::newRow("by a form") << u"<form action='../secret/own.html'></form><script>document.forms[0].submit()</script>"_s;
+        QTest::newRow("by a form")
+            << u"<form action='../secret/own.html'></form><script>document.forms[0].submit()</script>"_s;
     }
 
     void aPageCannotLeadOutOfItsFolder()
@@ -258,7 +263,9 @@ private slots:
         QSignalSpy loaded(&bench.page(), &QWebEnginePage::loadFinished);
         bench.browser.navigate(page);
         // The page itself ends well, the refused one doesn't.
-        QVERIFY(waitUntil([&] { return std::ranges::any_of(loaded, [](const QList<QVariant> &end) { return !end[0].toBool(); }); }, patience));
+        QVERIFY(waitUntil(
+            [&] { return std::ranges::any_of(loaded, [](const QList<QVariant> &end) { return !end[0].toBool(); }); },
+            patience));
         QVERIFY(!bench.ask(u"document.body.innerText"_s).contains(u"the secret"_s));
     }
 
@@ -266,9 +273,12 @@ private slots:
     {
         HttpServer server;
         Bench bench;
-        const QString file = QUrl::fromLocalFile(bench.write(u"own.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' width='5'/>")).toString();
+        const QString file =
+            QUrl::fromLocalFile(bench.write(u"own.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' width='5'/>"))
+                .toString();
         QVERIFY(bench.show(bench.write(u"page.html"_s, title))); // Its folder has been opened before.
-        server.put(u"/"_s, "<title>t</title><img id=i src='" + file.toUtf8() + "' onerror=\"document.title='refused'\">");
+        server.put(u"/"_s,
+                   "<title>t</title><img id=i src='" + file.toUtf8() + "' onerror=\"document.title='refused'\">");
         QVERIFY(bench.show(server.address(u"/"_s)));
         QVERIFY(bench.comesTo(u"document.title"_s, u"refused"_s));
     }
@@ -277,7 +287,8 @@ private slots:
     {
         Bench bench;
         bench.write(u"site/two.html"_s, title + "two");
-        QVERIFY(bench.show(bench.write(u"site/page.html"_s, title + "<script>window.w = window.open('two.html')</script>one")));
+        QVERIFY(bench.show(
+            bench.write(u"site/page.html"_s, title + "<script>window.w = window.open('two.html')</script>one")));
         QCOMPARE(bench.ask(u"String(window.w)"_s), u"null"_s);
         QCOMPARE(bench.ask(u"document.body.innerText"_s), u"one"_s);
     }
@@ -286,7 +297,10 @@ private slots:
     {
         Bench bench;
         bench.write(u"site/two.html"_s, title + "<body>two");
-        QVERIFY(bench.show(bench.write(u"site/page.html"_s, title + "<body style='margin:0'><a target=_blank href=two.html style='display:block;height:200px'>go</a>")));
+        QVERIFY(bench.show(bench.write(
+            u"site/page.html"_s,
+            title
+                + "<body style='margin:0'><a target=_blank href=two.html style='display:block;height:200px'>go</a>")));
         QTest::mouseClick(bench.browser.findChild<QWebEngineView *>()->focusProxy(), Qt::LeftButton, {}, {50, 50});
         QVERIFY(bench.comesTo(u"document.body.innerText"_s, u"two"_s));
     }
@@ -294,7 +308,8 @@ private slots:
     void permissionsAreDenied()
     {
         HttpServer server;
-        server.put(u"/"_s, "<title>t</title><script>Notification.requestPermission().then(p => document.title = p)</script>");
+        server.put(u"/"_s,
+                   "<title>t</title><script>Notification.requestPermission().then(p => document.title = p)</script>");
         Bench bench;
         QVERIFY(bench.show(server.address(u"/"_s)));
         QVERIFY(bench.comesTo(u"document.title"_s, u"denied"_s));
@@ -304,7 +319,9 @@ private slots:
     {
         HttpServer server;
         server.put(u"/file"_s, "x", "Content-Type: application/octet-stream\r\nContent-Disposition: attachment\r\n");
-        server.put(u"/"_s, "<title>t</title><a id=a href=/file download>x</a><script>document.getElementById('a').click()</script>");
+        server.put(
+            u"/"_s,
+            "<title>t</title><a id=a href=/file download>x</a><script>document.getElementById('a').click()</script>");
         Bench bench;
         QList<QWebEngineDownloadRequest::DownloadState> states;
         connect(bench.page().profile(), &QWebEngineProfile::downloadRequested, this,

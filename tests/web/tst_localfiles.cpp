@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/testregistry.h"
 #include "web/localfiles.h"
 #include "web/pageaddress.h"
-#include "support/testregistry.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,8 +19,8 @@ struct Site {
 
     Site()
     {
-        for (const QString &name : {u"site/page.html"_s, u"site/img/a.png"_s, u"site/sub/deep.html"_s, u"secret/key.txt"_s,
-                                    u"site2/other.html"_s}) {
+        for (const QString &name : {u"site/page.html"_s, u"site/img/a.png"_s, u"site/sub/deep.html"_s,
+                                    u"secret/key.txt"_s, u"site2/other.html"_s}) {
             QDir(folder.path()).mkpath(name.section(u'/', 0, -2));
             QFile file(path(name));
             if (!file.open(QIODevice::WriteOnly))
@@ -77,9 +77,11 @@ private slots:
     {
         QTest::addColumn<QString>("address");
         QTest::addColumn<bool>("allowed");
-        for (const char *open : {"http://example.org/", "https://example.org/", "ws://example.org/", "data:text/html,x", "blob:x", "about:blank"})
+        for (const char *open : {"http://example.org/", "https://example.org/", "ws://example.org/", "data:text/html,x",
+                                 "blob:x", "about:blank"})
             QTest::newRow(open) << QString::fromLatin1(open) << true;
-        for (const char *closed : {"chrome://version", "qrc:/x", "view-source:http://example.org/", "ftp://example.org/", "mailto:a@b", "filesystem:http://x/"})
+        for (const char *closed : {"chrome://version", "qrc:/x", "view-source:http://example.org/",
+                                   "ftp://example.org/", "mailto:a@b", "filesystem:http://x/"})
             QTest::newRow(closed) << QString::fromLatin1(closed) << false;
     }
 
@@ -165,7 +167,8 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("address");
         QTest::newRow("file") << u"/site/page.html"_s << u"file:///site/page.html"_s;
-        QTest::newRow("file with odd characters") << u"/site/50% off#1?.html"_s << u"file:///site/50%25 off%231%3F.html"_s;
+        QTest::newRow("file with odd characters")
+            << u"/site/50% off#1?.html"_s << u"file:///site/50%25 off%231%3F.html"_s;
         QTest::newRow("address") << u"https://example.org/a?b#c"_s << u"https://example.org/a?b#c"_s;
         QTest::newRow("host") << u" example.org/a "_s << u"http://example.org/a"_s;
         QTest::newRow("empty page") << u"about:blank"_s << u"about:blank"_s;

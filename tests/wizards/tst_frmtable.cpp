@@ -29,7 +29,6 @@ struct Wizard {
     }
 };
 
-
 } // namespace
 
 class TstFrmTable final : public QObject
@@ -43,11 +42,27 @@ private slots:
         QTest::addColumn<QString>("value");
         const QString none = u"Default"_s;
         const QString rows[][2] = {
-            {u"frmTable"_s, u"Insert Tables"_s}, {u"Text1"_s, u"1"_s}, {u"Text2"_s, u"1"_s}, {u"Combo1"_s, {}},
-            {u"Text3"_s, u"0"_s}, {u"Text4"_s, u"1"_s}, {u"Text5"_s, u"1"_s}, {u"Check1"_s, u"off"_s},
-            {u"Text6"_s, u"100"_s}, {u"Option1_0"_s, u"on"_s}, {u"Option1_1"_s, u"off"_s}, {u"Check2"_s, u"off"_s},
-            {u"Check3"_s, u"off"_s}, {u"Text8"_s, none}, {u"bordercol"_s, none}, {u"lightcol"_s, none},
-            {u"darkcol"_s, none}, {u"Combo4"_s, {}}, {u"Text7"_s, {}}, {u"Combo5"_s, none}, {u"Combo7"_s, none},
+            {u"frmTable"_s, u"Insert Tables"_s},
+            {u"Text1"_s, u"1"_s},
+            {u"Text2"_s, u"1"_s},
+            {u"Combo1"_s, {}},
+            {u"Text3"_s, u"0"_s},
+            {u"Text4"_s, u"1"_s},
+            {u"Text5"_s, u"1"_s},
+            {u"Check1"_s, u"off"_s},
+            {u"Text6"_s, u"100"_s},
+            {u"Option1_0"_s, u"on"_s},
+            {u"Option1_1"_s, u"off"_s},
+            {u"Check2"_s, u"off"_s},
+            {u"Check3"_s, u"off"_s},
+            {u"Text8"_s, none},
+            {u"bordercol"_s, none},
+            {u"lightcol"_s, none},
+            {u"darkcol"_s, none},
+            {u"Combo4"_s, {}},
+            {u"Text7"_s, {}},
+            {u"Combo5"_s, none},
+            {u"Combo7"_s, none},
         };
         for (const auto &[control, value] : rows)
             QTest::newRow(qPrintable(control)) << control << value;
@@ -169,10 +184,12 @@ private slots:
     {
         QTest::addColumn<QByteArray>("method");
         QTest::addColumn<QString>("text");
-        QTest::newRow("plain") << QByteArray("AddTable")
+        QTest::newRow("plain")
+            << QByteArray("AddTable")
             << u"<TABLE Align=\"Left\" Border=\"0\" cellpadding=\"1\" w cellspacing=\"1\" bg bc ld>\r\n"
                "<TR>\r\n  <TD>&nbsp;</TD>\r\n </TR>\r\n</TABLE>\r\n"_s;
-        QTest::newRow("script") << QByteArray("AddTableAsp")
+        QTest::newRow("script")
+            << QByteArray("AddTableAsp")
             << u"\r\n<TABLE  Align=\"\"Left\"\" Border=\"\"0\"\" cellpadding=\"\"1\"\" w cellspacing=\"\"1\"\" bg bc ld>\r\n"
                "\r\n<TR>\r\n<TD>&nbsp;</TD>\r\n</TR>\r\n</TABLE>\r\n"_s;
     }

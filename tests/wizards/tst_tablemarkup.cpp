@@ -19,8 +19,13 @@ constexpr qint32 largest = std::numeric_limits<qint32>::max();
 /// The fields that the full form begins with.
 TableFields defaults()
 {
-    return {.borderSize = u"0"_s, .cellPadding = u"1"_s, .cellSpacing = u"1"_s, .width = u"100"_s,
-            .backgroundColour = u"Default"_s, .borderColour = u"Default"_s, .lightColour = u"Default"_s,
+    return {.borderSize = u"0"_s,
+            .cellPadding = u"1"_s,
+            .cellSpacing = u"1"_s,
+            .width = u"100"_s,
+            .backgroundColour = u"Default"_s,
+            .borderColour = u"Default"_s,
+            .lightColour = u"Default"_s,
             .darkColour = u"Default"_s};
 }
 
@@ -187,14 +192,14 @@ private slots:
         QTest::newRow("no columns") << 0 << 1 << head + u"<TR>\r\n"_s + cell + u"\t</TR></TABLE>\r\n"_s;
         QTest::newRow("fewer than no columns") << -5 << 1 << head + u"<TR>\r\n"_s + cell + u"\t</TR></TABLE>\r\n"_s;
         QTest::newRow("two by two") << 2 << 2
-            << u"<TABLE Align=\"center\" Border=\"0\">\r\n"
-               "<TR>\r\n"
-               "<TD> </TD>\r\n"
-               "<TD> </TD>\r\n"
-               "\t</TR><TR>\r\n"
-               "<TD> </TD>\r\n"
-               "<TD> </TD>\r\n"
-               "\t</TR></TABLE>\r\n"_s;
+                                    << u"<TABLE Align=\"center\" Border=\"0\">\r\n"
+                                       "<TR>\r\n"
+                                       "<TD> </TD>\r\n"
+                                       "<TD> </TD>\r\n"
+                                       "\t</TR><TR>\r\n"
+                                       "<TD> </TD>\r\n"
+                                       "<TD> </TD>\r\n"
+                                       "\t</TR></TABLE>\r\n"_s;
     }
 
     void simple()
@@ -213,12 +218,19 @@ private slots:
                             const TableAttributes &attributes) { QTest::newRow(name) << with(change) << attributes; };
         row("defaults", [](TableFields &) {}, {});
         row("width in pixels", [](TableFields &f) { f.hasWidth = true; }, {.width = u" width=100"_s});
-        row("width in percent", [](TableFields &f) { f.hasWidth = true; f.widthUnit = Unit::Percent; },
+        row("width in percent",
+            [](TableFields &f) {
+                f.hasWidth = true;
+                f.widthUnit = Unit::Percent;
+            },
             {.width = u" width=100%"_s});
         row("width for a script", [](TableFields &f) { f.hasWidth = f.asp = true; },
             {.width = u" width=\"\"100\"\""_s});
         row("percent for a script",
-            [](TableFields &f) { f.hasWidth = f.asp = true; f.widthUnit = Unit::Percent; },
+            [](TableFields &f) {
+                f.hasWidth = f.asp = true;
+                f.widthUnit = Unit::Percent;
+            },
             {.width = u" width=\"\"100%\"\""_s});
         row("background", [](TableFields &f) { f.backgroundColour = u"red"_s; }, {.background = u" bgcolor=red"_s});
         row("empty background", [](TableFields &f) { f.backgroundColour.clear(); }, {.background = u" bgcolor="_s});
@@ -227,9 +239,17 @@ private slots:
         row("border", [](TableFields &f) { f.borderColour = u"#00ff00"_s; }, {.border = u" bordercolor=#00ff00"_s});
         row("light alone", [](TableFields &f) { f.lightColour = u"white"_s; }, {});
         row("dark alone", [](TableFields &f) { f.darkColour = u"black"_s; }, {});
-        row("light and dark", [](TableFields &f) { f.lightColour = u"white"_s; f.darkColour = u"black"_s; },
+        row("light and dark",
+            [](TableFields &f) {
+                f.lightColour = u"white"_s;
+                f.darkColour = u"black"_s;
+            },
             {.lightAndDark = u" bordercolorlight=white bordercolordark=black"_s});
-        row("empty light", [](TableFields &f) { f.lightColour.clear(); f.darkColour = u"black"_s; },
+        row("empty light",
+            [](TableFields &f) {
+                f.lightColour.clear();
+                f.darkColour = u"black"_s;
+            },
             {.lightAndDark = u" bordercolorlight= bordercolordark=black"_s});
     }
 
@@ -250,12 +270,15 @@ private slots:
         QTest::addColumn<QString>("text");
         const QString plainRow = u"<TR>\r\n  <TD>&nbsp;</TD>\r\n </TR>\r\n</TABLE>\r\n"_s;
         QTest::newRow("defaults") << defaults()
-            << u"<TABLE  Border=\"0\" cellpadding=\"1\" cellspacing=\"1\">\r\n"_s + plainRow;
-        QTest::newRow("alignment keeps its case") << with([](TableFields &f) { f.alignment = u"Center"_s; })
+                                  << u"<TABLE  Border=\"0\" cellpadding=\"1\" cellspacing=\"1\">\r\n"_s + plainRow;
+        QTest::newRow("alignment keeps its case")
+            << with([](TableFields &f) { f.alignment = u"Center"_s; })
             << u"<TABLE Align=\"Center\" Border=\"0\" cellpadding=\"1\" cellspacing=\"1\">\r\n"_s + plainRow;
-        QTest::newRow("width between padding and spacing") << with([](TableFields &f) { f.hasWidth = true; })
+        QTest::newRow("width between padding and spacing")
+            << with([](TableFields &f) { f.hasWidth = true; })
             << u"<TABLE  Border=\"0\" cellpadding=\"1\" width=100 cellspacing=\"1\">\r\n"_s + plainRow;
-        QTest::newRow("script without statements") << with([](TableFields &f) { f.asp = true; })
+        QTest::newRow("script without statements")
+            << with([](TableFields &f) { f.asp = true; })
             << u"\r\n"
                "<TABLE  Border=\"\"0\"\" cellpadding=\"\"1\"\" cellspacing=\"\"1\"\">\r\n"
                "\r\n"
@@ -264,7 +287,10 @@ private slots:
                "</TR>\r\n"
                "</TABLE>\r\n"_s;
         QTest::newRow("script with statements")
-            << with([](TableFields &f) { f.asp = f.responseWrite = true; f.alignment = u"Right"_s; })
+            << with([](TableFields &f) {
+                   f.asp = f.responseWrite = true;
+                   f.alignment = u"Right"_s;
+               })
             << u"<%\r\n"
                "response.write\"<TABLE  Align=\"\"Right\"\" Border=\"\"0\"\" cellpadding=\"\"1\"\" cellspacing=\"\"1\"\">\"\r\n"
                "\r\n"
@@ -309,7 +335,8 @@ private slots:
     {
         QRandomGenerator random(7);
         for (int round = 0; round < 2000; ++round) {
-            const TableSize size{static_cast<qint32>(random.bounded(-2, 9)), static_cast<qint32>(random.bounded(-2, 9))};
+            const TableSize size{static_cast<qint32>(random.bounded(-2, 9)),
+                                 static_cast<qint32>(random.bounded(-2, 9))};
             const TableFields fields = generated(random);
             QCOMPARE(table(size, fields), fields.asp ? aspReference(size, fields) : plainReference(size, fields));
             QCOMPARE(simpleTableMarkup(size).value(), simpleReference(size));
@@ -335,8 +362,9 @@ private slots:
         QFETCH(qint32, rows);
         QFETCH(bool, fits);
         const TableFields fields = defaults();
-        for (const Result<QString> &markup : {simpleTableMarkup({columns, rows}), plainTableMarkup({columns, rows}, fields, {}),
-                                              aspTableMarkup({columns, rows}, fields, {})}) {
+        for (const Result<QString> &markup :
+             {simpleTableMarkup({columns, rows}), plainTableMarkup({columns, rows}, fields, {}),
+              aspTableMarkup({columns, rows}, fields, {})}) {
             QCOMPARE(markup.ok(), fits);
             if (!fits) {
                 QCOMPARE(markup.error().code, Error::Code::TooLarge);
@@ -355,7 +383,6 @@ private slots:
         QVERIFY(!simpleTableMarkup({1, rows + 1}).ok());
     }
 };
-
 
 ZEPHIRA_TEST(TstTableMarkup)
 

@@ -72,7 +72,8 @@ FtpReply ControlConnection::readReplyBehind(const Socket &data)
     constexpr auto betweenLooks = 200ms;
     int waiting = data.unacknowledged();
     Deadline deadline(m_limit);
-    while (waiting > 0 && m_input.isEmpty() && !m_socket.waitForInput(Deadline(betweenLooks)) && !deadline.hasPassed()) {
+    while (waiting > 0 && m_input.isEmpty() && !m_socket.waitForInput(Deadline(betweenLooks))
+           && !deadline.hasPassed()) {
         const int left = data.unacknowledged();
         if (left < waiting)
             deadline = Deadline(m_limit);

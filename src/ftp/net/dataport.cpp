@@ -88,15 +88,15 @@ bool DataPort::prepareActive()
     const bool isIpv4 = address.family() == AF_INET;
     const QByteArray host = address.host();
     if (m_extended) {
-        const QByteArray extended = "EPRT |" + QByteArray(isIpv4 ? "1" : "2") + '|' + host + '|'
-                                    + QByteArray::number(address.port()) + '|';
+        const QByteArray extended =
+            "EPRT |" + QByteArray(isIpv4 ? "1" : "2") + '|' + host + '|' + QByteArray::number(address.port()) + '|';
         const FtpReply reply = m_control.ask(extended);
         if (reply.isSuccess())
             return true;
         m_extended = !isUnknownCommand(reply);
     }
     const QByteArray numbers = QByteArray(host).replace('.', ',') + ',' + QByteArray::number(address.port() >> 8) + ','
-                               + QByteArray::number(address.port() & 0xff);
+        + QByteArray::number(address.port() & 0xff);
     return isIpv4 && m_control.ask("PORT " + numbers).isSuccess();
 }
 

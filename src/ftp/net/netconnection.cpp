@@ -45,7 +45,7 @@ bool NetConnection::execute(const char *name, const QString &path)
 bool NetConnection::rename(const QString &from, const QString &to)
 {
     return !from.isEmpty() && !to.isEmpty()
-           && m_conversation.rename(m_names.sent(absolutePath(from)), m_names.sent(absolutePath(to)));
+        && m_conversation.rename(m_names.sent(absolutePath(from)), m_names.sent(absolutePath(to)));
 }
 
 std::vector<FindData> NetConnection::find(const QString &search, QDate today)

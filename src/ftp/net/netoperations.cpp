@@ -21,7 +21,8 @@ using Found = std::deque<FindData>;
 
 struct NetHandle {
     InternetHandle parent = 0;
-    std::variant<Opening, std::unique_ptr<NetConnection>, Found, std::unique_ptr<FileReader>, std::unique_ptr<FileWriter>>
+    std::variant<Opening, std::unique_ptr<NetConnection>, Found, std::unique_ptr<FileReader>,
+                 std::unique_ptr<FileWriter>>
         content;
 };
 
@@ -109,7 +110,8 @@ bool NetOperations::InternetFindNextFileA(InternetHandle find, FindData &found)
     return true;
 }
 
-InternetHandle NetOperations::FtpOpenFileA(InternetHandle handle, const QString &file, quint32 access, quint32, quintptr)
+InternetHandle NetOperations::FtpOpenFileA(InternetHandle handle, const QString &file, quint32 access, quint32,
+                                           quintptr)
 {
     NetConnection *with = connection(handle);
     if (!with)

@@ -14,8 +14,7 @@ constexpr qsizetype bufferSize = 256 << 10;
 
 FileReader::FileReader(FtpConversation &conversation)
     : m_conversation(conversation), m_buffer(bufferSize, Qt::Uninitialized)
-{
-}
+{}
 
 bool FileReader::read(char *block, quint32 size, quint32 &count)
 {

@@ -79,8 +79,9 @@ Result<FetchedPage> CurlPageFetcher::fetch(const QString &address)
     if (body.isTooLarge)
         return Error{Error::Code::TooLarge, u"The document %1 is too large."_s.arg(address)};
     if (outcome != CURLE_OK) {
-        return Error{kindOf(outcome), u"The document %1 can't be fetched: %2."_s.arg(
-                                          address, QString::fromUtf8(curl_easy_strerror(outcome)))};
+        return Error{
+            kindOf(outcome),
+            u"The document %1 can't be fetched: %2."_s.arg(address, QString::fromUtf8(curl_easy_strerror(outcome)))};
     }
     if (body.bytes.isEmpty())
         return Error{Error::Code::NotFound, u"There is nothing at %1."_s.arg(address)};

@@ -34,7 +34,7 @@ constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Se
 
 /// In the order in which they build upon each other.
 constexpr QStringView scriptNames[] = {
-    u"nodes",  u"selection", u"history", u"styles", u"marks",     u"plaintext", u"blocks", u"lists", u"fonts",
+    u"nodes",  u"selection", u"history", u"styles", u"marks",     u"plaintext", u"blocks", u"lists",    u"fonts",
     u"insert", u"tables",    u"looks",   u"typing", u"positions", u"commands",  u"events", u"designer",
 };
 

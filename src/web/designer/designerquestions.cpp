@@ -12,8 +12,8 @@ namespace zephira {
 std::optional<QString> DesignerQuestions::picture(const QString &baseFile)
 {
     const QString folder = baseFile.isEmpty() ? QString() : QFileInfo(baseFile).path();
-    const auto file = m_prompts.file({u"Picture"_s,
-                                      u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s, folder});
+    const auto file =
+        m_prompts.file({u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s, folder});
     return file ? std::optional(fileAddress(baseFile, *file)) : std::nullopt;
 }
 

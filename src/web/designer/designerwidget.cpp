@@ -51,8 +51,11 @@ QString readPage(const QString &path)
 } // namespace
 
 DesignerWidget::DesignerWidget(Prompts &prompts, QWidget *parent)
-    : QWidget(parent), m_questions(prompts), m_view(std::make_unique<QWebEngineView>(this)),
-      m_page(new DesignerPage(m_profile, m_view.get())), m_handles(new DesignerHandles(m_view.get()))
+    : QWidget(parent)
+    , m_questions(prompts)
+    , m_view(std::make_unique<QWebEngineView>(this))
+    , m_page(new DesignerPage(m_profile, m_view.get()))
+    , m_handles(new DesignerHandles(m_view.get()))
 {
     m_view->setPage(m_page);
     auto *layout = new QVBoxLayout(this);

@@ -31,15 +31,15 @@ InsertTableParam tableFrom(const QVariant &argument)
 
 QVariantMap fontMap(const FontChoice &font)
 {
-    return {{u"name"_s, font.name},           {u"size"_s, font.size},
-            {u"bold"_s, font.bold},           {u"italic"_s, font.italic},
-            {u"underline"_s, font.underline}, {u"strikethrough"_s, font.strikethrough}};
+    return {{u"name"_s, font.name},     {u"size"_s, font.size},           {u"bold"_s, font.bold},
+            {u"italic"_s, font.italic}, {u"underline"_s, font.underline}, {u"strikethrough"_s, font.strikethrough}};
 }
 
 FontChoice fontChoice(const QVariantMap &font)
 {
-    return {font.value(u"name"_s).toString(), font.value(u"size"_s).toDouble(),   font.value(u"bold"_s).toBool(),
-            font.value(u"italic"_s).toBool(), font.value(u"strikethrough"_s).toBool(), font.value(u"underline"_s).toBool()};
+    return {font.value(u"name"_s).toString(),        font.value(u"size"_s).toDouble(),
+            font.value(u"bold"_s).toBool(),          font.value(u"italic"_s).toBool(),
+            font.value(u"strikethrough"_s).toBool(), font.value(u"underline"_s).toBool()};
 }
 
 } // namespace
@@ -94,8 +94,8 @@ QVariant DesignerWidget::execCommand(DesignerCommand command, DesignerPrompting 
         return {};
     const QPointer<DesignerWidget> self(this);
     const auto road = std::ranges::find(roads, command, &Road::command);
-    const QVariant result = road == std::end(roads) ? runWith(command, argument)
-                                                    : (this->*road->run)(prompting, argument);
+    const QVariant result =
+        road == std::end(roads) ? runWith(command, argument) : (this->*road->run)(prompting, argument);
     // A question to the user may have outlived the window.
     if (self)
         announceDisplay();
@@ -142,9 +142,8 @@ void DesignerWidget::useClipboard(const QVariantMap &request)
         QStringView name;
         DesignerCommand command;
     };
-    static constexpr Kind kinds[] = {{u"copy", DesignerCommand::Copy},
-                                     {u"cut", DesignerCommand::Cut},
-                                     {u"paste", DesignerCommand::Paste}};
+    static constexpr Kind kinds[] = {
+        {u"copy", DesignerCommand::Copy}, {u"cut", DesignerCommand::Cut}, {u"paste", DesignerCommand::Paste}};
     const QString kind = request.value(u"kind"_s).toString();
     const auto row = std::ranges::find(kinds, kind, [](const Kind &each) { return each.name; });
     if (row != std::end(kinds))

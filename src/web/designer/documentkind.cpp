@@ -10,8 +10,8 @@ namespace zephira {
 namespace {
 
 constexpr QStringView plainExtensions[] = {
-    u"bas", u"c",   u"cgi", u"conf", u"cpp", u"css", u"csv", u"frm", u"h",   u"ini", u"java", u"js",  u"json",
-    u"log", u"md",  u"pas", u"pl",   u"py",  u"sh",  u"sql", u"txt", u"vbp", u"vbs", u"xml",  u"yaml", u"yml",
+    u"bas", u"c",  u"cgi", u"conf", u"cpp", u"css", u"csv", u"frm", u"h",   u"ini", u"java", u"js",   u"json",
+    u"log", u"md", u"pas", u"pl",   u"py",  u"sh",  u"sql", u"txt", u"vbp", u"vbs", u"xml",  u"yaml", u"yml",
 };
 
 } // namespace

@@ -20,10 +20,10 @@ QString insertedTableMarkup(const InsertTableParam &table)
         return {};
     const QString cell = startTag(u"td"_s, table.cellAttributes) + u"<br></td>\n"_s;
     const QString row = u"<tr>\n"_s + cell.repeated(table.columns) + u"</tr>\n"_s;
-    const QString caption = table.caption.isEmpty() ? QString()
-                                                    : u"<caption>%1</caption>\n"_s.arg(table.caption.toHtmlEscaped());
+    const QString caption =
+        table.caption.isEmpty() ? QString() : u"<caption>%1</caption>\n"_s.arg(table.caption.toHtmlEscaped());
     return startTag(u"table"_s, table.tableAttributes) + u'\n' + caption + u"<tbody>\n"_s + row.repeated(table.rows)
-           + u"</tbody>\n</table>"_s;
+        + u"</tbody>\n</table>"_s;
 }
 
 } // namespace zephira

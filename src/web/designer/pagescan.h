@@ -9,16 +9,16 @@ namespace zephira {
 
 /// What a run of characters in a page's source is.
 enum class PieceKind {
-    Text,         ///< between tags; character references count
-    Markup,       ///< angle brackets, names, blanks and quotes of tags
-    Value,        ///< an attribute's value without its quotes; character references count
-    PlainText,    ///< inside elements that hold text alone, such as title; character references count
-    RawText,      ///< inside script, style and their like
-    Comment,      ///< comments, and declarations that a browser takes for one
+    Text,      ///< between tags; character references count
+    Markup,    ///< angle brackets, names, blanks and quotes of tags
+    Value,     ///< an attribute's value without its quotes; character references count
+    PlainText, ///< inside elements that hold text alone, such as title; character references count
+    RawText,   ///< inside script, style and their like
+    Comment,   ///< comments, and declarations that a browser takes for one
     Doctype,
-    ServerText,   ///< server code, or a tag that is the server's, where text could stand
-    ServerTag,    ///< server code inside a tag, where an attribute or a part of its name could stand
-    ServerPlain,  ///< server code inside a value, or inside text that holds no tags
+    ServerText,  ///< server code, or a tag that is the server's, where text could stand
+    ServerTag,   ///< server code inside a tag, where an attribute or a part of its name could stand
+    ServerPlain, ///< server code inside a value, or inside text that holds no tags
 };
 
 /// A run of characters: positions are 0-based UTF-16 code units, `end` is behind the last one.

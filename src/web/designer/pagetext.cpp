@@ -18,17 +18,17 @@ constexpr QStringView bodyEnd = u"</body>";
 constexpr QStringView rootEnd = u"</html>";
 
 constexpr QStringView lonelyAttributes[] = {
-    u"allowfullscreen", u"async",   u"autofocus", u"autoplay", u"checked",  u"compact",    u"controls", u"declare",
-    u"default",         u"defer",   u"disabled",  u"hidden",   u"ismap",    u"itemscope",  u"loop",     u"multiple",
-    u"muted",           u"nohref",  u"nomodule",  u"noresize", u"noshade",  u"novalidate", u"nowrap",   u"open",
-    u"playsinline",     u"readonly", u"required", u"reversed", u"selected",
+    u"allowfullscreen", u"async",    u"autofocus", u"autoplay", u"checked",  u"compact",    u"controls", u"declare",
+    u"default",         u"defer",    u"disabled",  u"hidden",   u"ismap",    u"itemscope",  u"loop",     u"multiple",
+    u"muted",           u"nohref",   u"nomodule",  u"noresize", u"noshade",  u"novalidate", u"nowrap",   u"open",
+    u"playsinline",     u"readonly", u"required",  u"reversed", u"selected",
 };
 
 /// Elements that begin on a line of their own when one of them ends before. Blocks that style sheets like to lay side by
 /// side aren't among them, since a line end would put a gap between them.
 constexpr QStringView blocks[] = {
-    u"address", u"blockquote", u"dd", u"dl", u"dt", u"h1", u"h2",  u"h3",    u"h4", u"h5",
-    u"h6",      u"hr",         u"ol", u"p",  u"pre", u"table", u"tr", u"ul",
+    u"address", u"blockquote", u"dd", u"dl", u"dt", u"h1",  u"h2",    u"h3", u"h4",
+    u"h5",      u"h6",         u"hr", u"ol", u"p",  u"pre", u"table", u"tr", u"ul",
 };
 
 constexpr QStringView rootElements[] = {u"html", u"head", u"body", u"frameset"};
@@ -242,9 +242,10 @@ void PageText::splitEnds(std::vector<PagePiece> &pieces)
     const auto outside = [source](const PagePiece &piece) { return isOutside(piece, source); };
     const auto rootEndPiece = [source](const PagePiece &piece) { return isRootEnd(piece, source); };
     const auto root = std::ranges::find_if_not(pieces, outside);
-    const auto trailing = std::find_if_not(pieces.rbegin(), std::make_reverse_iterator(root),
-                                           [&](const PagePiece &piece) { return outside(piece) || rootEndPiece(piece); })
-                              .base();
+    const auto trailing =
+        std::find_if_not(pieces.rbegin(), std::make_reverse_iterator(root), [&](const PagePiece &piece) {
+            return outside(piece) || rootEndPiece(piece);
+        }).base();
     const auto tail = std::find_if(trailing, pieces.end(), rootEndPiece);
     m_prolog = source.first(root == pieces.end() ? source.size() : root->begin).toString();
     m_tail = source.sliced(tail == pieces.end() ? source.size() : tail->begin).toString();
@@ -253,9 +254,8 @@ void PageText::splitEnds(std::vector<PagePiece> &pieces)
         m_tailEndsBody = m_tailEndsBody || name == u"body";
         m_tailEndsRoot = m_tailEndsRoot || name == u"html";
     }
-    m_isFragment = !isBlankText(source) && std::ranges::all_of(pieces, [source](const PagePiece &piece) {
-        return rootTag(piece, source).isEmpty();
-    });
+    m_isFragment = !isBlankText(source)
+        && std::ranges::all_of(pieces, [source](const PagePiece &piece) { return rootTag(piece, source).isEmpty(); });
     if (!pieces.empty() && isOpen(pieces.back(), source))
         m_openEnd = pieces.back().in(source).toString();
     // The engine drops a doctype that comes too late.
@@ -263,9 +263,8 @@ void PageText::splitEnds(std::vector<PagePiece> &pieces)
         if (piece->kind == PieceKind::Doctype)
             piece->kind = PieceKind::Comment;
     }
-    const auto doctype = std::find_if(pieces.begin(), root, [](const PagePiece &piece) {
-        return piece.kind == PieceKind::Doctype;
-    });
+    const auto doctype =
+        std::find_if(pieces.begin(), root, [](const PagePiece &piece) { return piece.kind == PieceKind::Doctype; });
     if (doctype != root)
         m_forEngine = doctype->in(source).toString();
     m_forEngine += m_marks.mask(source, {root, tail});

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/scriptedprompts.h"
 #include "web/designer/designerpage.h"
 #include "web/designer/designerwidget.h"
-#include "support/scriptedprompts.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

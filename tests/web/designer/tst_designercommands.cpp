@@ -40,7 +40,8 @@ void TstDesignerCommands::commands_data()
     row("bold at the caret", Bold, {}, u"<p>a|</p>"_s, 3, u"<p>a|</p>"_s);
     row("italic", Italic, {}, u"<p>[a]</p>"_s, 3, u"<p><i>[a]</i></p>"_s);
     row("underline", Underline, {}, u"<p>[a]</p>"_s, 3, u"<p><u>[a]</u></p>"_s);
-    row("font name", SetFontName, u"Courier New"_s, u"<p>[a]</p>"_s, 3, u"<p><font face=\"Courier New\">[a]</font></p>"_s);
+    row("font name", SetFontName, u"Courier New"_s, u"<p>[a]</p>"_s, 3,
+        u"<p><font face=\"Courier New\">[a]</font></p>"_s);
     row("font size", SetFontSize, 5, u"<p>[a]</p>"_s, 3, u"<p><font size=\"5\">[a]</font></p>"_s);
     row("font size as text", SetFontSize, u"7"_s, u"<p>[a]</p>"_s, 3, u"<p><font size=\"7\">[a]</font></p>"_s);
     row("a size that is none", SetFontSize, 8, u"<p>[a]</p>"_s, 3, u"<p>[a]</p>"_s);
@@ -60,16 +61,19 @@ void TstDesignerCommands::commands_data()
     row("centre", JustifyCenter, {}, u"<p>a|</p>"_s, 3, u"<p style=\"text-align: center;\">a|</p>"_s);
     row("right keeps the style", JustifyRight, {}, u"<p style=\"COLOR:red; -x-own: 1\">a|</p>"_s, 3,
         u"<p style=\"COLOR:red; -x-own: 1; text-align: right\">a|</p>"_s);
-    row("left", JustifyLeft, {}, u"<p style=\"text-align: center\">a|</p>"_s, 3, u"<p style=\"text-align: left\">a|</p>"_s);
+    row("left", JustifyLeft, {}, u"<p style=\"text-align: center\">a|</p>"_s, 3,
+        u"<p style=\"text-align: left\">a|</p>"_s);
 
     row("bold over a whole", Bold, {}, u"<p>[<b>a</b>b]</p>"_s, 11, u"<p><b>[ab]</b></p>"_s);
     row("a name that is none", SetFontName, u"A \"B\" & <C>"_s, u"<p>[a]</p>"_s, 3, u"<p>[a]</p>"_s);
     row("several colours", SetForeColor, u"#00ff00"_s, u"<p>[a<font color=\"red\">b</font>]</p>"_s, 3,
         u"<p><font color=\"#00ff00\">[ab]</font></p>"_s);
-    row("bulleted, partly", UnorderedList, {}, u"<p>[a</p><ul><li>b]</li></ul>"_s, 11, u"<ul><li>[a</li><li>b]</li></ul>"_s);
+    row("bulleted, partly", UnorderedList, {}, u"<p>[a</p><ul><li>b]</li></ul>"_s, 11,
+        u"<ul><li>[a</li><li>b]</li></ul>"_s);
     row("a list in a cell", OrderedList, {}, u"<table><tbody><tr><td>a|</td></tr></tbody></table>"_s, 3,
         u"<table><tbody><tr><td><ol><li>a|</li></ol></td></tr></tbody></table>"_s);
-    row("a list of a picture", OrderedList, {}, u"<p>{<img src=\"x\"></p>"_s, 3, u"<ol><li>{<img src=\"x\"></li></ol>"_s);
+    row("a list of a picture", OrderedList, {}, u"<p>{<img src=\"x\"></p>"_s, 3,
+        u"<ol><li>{<img src=\"x\"></li></ol>"_s);
     row("centre a picture", JustifyCenter, {}, u"<p>{<img src=\"x\"></p>"_s, 3,
         u"<p style=\"text-align: center;\">{<img src=\"x\"></p>"_s);
     row("an item deeper", Indent, {}, u"<ul><li>a</li><li>b|</li><li>c</li></ul>"_s, 3,
@@ -83,23 +87,25 @@ void TstDesignerCommands::commands_data()
     row("an item out of the list", Outdent, {}, u"<ul><li>a</li><li align=\"center\">b|</li></ul>"_s, 3,
         u"<ul><li>a</li></ul><p align=\"center\">b|</p>"_s);
 
-    row("heading", SetBlockFormat, u"Heading 2"_s, u"<p id=\"i\" class=\"c\">a|</p>"_s, 3, u"<h2 id=\"i\" class=\"c\">a|</h2>"_s);
+    row("heading", SetBlockFormat, u"Heading 2"_s, u"<p id=\"i\" class=\"c\">a|</p>"_s, 3,
+        u"<h2 id=\"i\" class=\"c\">a|</h2>"_s);
     row("normal", SetBlockFormat, u"Normal"_s, u"<h1>a|</h1>"_s, 3, u"<p>a|</p>"_s);
     row("paragraph", SetBlockFormat, u"Paragraph"_s, u"<pre>a|</pre>"_s, 3, u"<p>a|</p>"_s);
     row("formatted", SetBlockFormat, u"Formatted"_s, u"a<b>b|</b>"_s, 3, u"<pre>a<b>b|</b></pre>"_s);
     row("address of several", SetBlockFormat, u"Address"_s, u"<p>[a</p><h1>b]</h1><p>c</p>"_s, 3,
         u"<address>[a</address><address>b]</address><p>c</p>"_s);
     row("format of an empty page", SetBlockFormat, u"Heading 1"_s, u""_s, 3, u"<h1>|<br></h1>"_s);
-    row("format in a cell", SetBlockFormat, u"Heading 3"_s,
-        u"<table><tbody><tr><td>a|</td></tr></tbody></table>"_s, 3,
+    row("format in a cell", SetBlockFormat, u"Heading 3"_s, u"<table><tbody><tr><td>a|</td></tr></tbody></table>"_s, 3,
         u"<table><tbody><tr><td><h3>a|</h3></td></tr></tbody></table>"_s);
-    row("numbered by name", SetBlockFormat, u"Numbered List"_s, u"<p>[a</p><p>b]</p>"_s, 3, u"<ol><li>[a</li><li>b]</li></ol>"_s);
+    row("numbered by name", SetBlockFormat, u"Numbered List"_s, u"<p>[a</p><p>b]</p>"_s, 3,
+        u"<ol><li>[a</li><li>b]</li></ol>"_s);
     row("bulleted by name", SetBlockFormat, u"Bulleted List"_s, u"<ul><li>a</li></ul><p>b|</p>"_s, 3,
         u"<ul><li>a</li><li>b|</li></ul>"_s);
     row("directory", SetBlockFormat, u"Directory List"_s, u"<p>a|</p>"_s, 3, u"<dir><li>a|</li></dir>"_s);
     row("menu", SetBlockFormat, u"Menu List"_s, u"<ol><li>a|</li></ol>"_s, 3, u"<menu><li>a|</li></menu>"_s);
     row("term", SetBlockFormat, u"Definition Term"_s, u"<p>a|</p>"_s, 3, u"<dl><dt>a|</dt></dl>"_s);
-    row("definition", SetBlockFormat, u"Definition"_s, u"<dl><dt>a</dt></dl><p>b|</p>"_s, 3, u"<dl><dt>a</dt><dd>b|</dd></dl>"_s);
+    row("definition", SetBlockFormat, u"Definition"_s, u"<dl><dt>a</dt></dl><p>b|</p>"_s, 3,
+        u"<dl><dt>a</dt><dd>b|</dd></dl>"_s);
     row("out of the middle of a list", SetBlockFormat, u"Normal"_s, u"<ol><li>a</li><li>b|</li><li>c</li></ol>"_s, 3,
         u"<ol><li>a</li></ol><p>b|</p><ol><li>c</li></ol>"_s);
     row("a format that is none", SetBlockFormat, u"Nonsense"_s, u"<p>a|</p>"_s, 3, u"<p>a|</p>"_s);
@@ -121,7 +127,8 @@ void TstDesignerCommands::commands_data()
     row("picture over paragraphs", Image, u"x&\"y.gif"_s, u"<p>[a</p><p>b]</p>"_s, 3,
         u"<p>{<img src=\"x&amp;&quot;y.gif\" alt=\"\"></p>"_s);
     row("link", Hyperlink, u"x.html"_s, u"<p>[a]</p>"_s, 3, u"<p><a href=\"x.html\">[a]</a></p>"_s);
-    row("link changed", Hyperlink, u"y.html"_s, u"<p><a href=\"x.html\">a|b</a></p>"_s, 3, u"<p><a href=\"y.html\">a|b</a></p>"_s);
+    row("link changed", Hyperlink, u"y.html"_s, u"<p><a href=\"x.html\">a|b</a></p>"_s, 3,
+        u"<p><a href=\"y.html\">a|b</a></p>"_s);
     row("link taken away", Hyperlink, u""_s, u"<p><a href=\"x.html\">a|b</a></p>"_s, 3, u"<p>a|b</p>"_s);
     row("link without a text", Hyperlink, u"x.html"_s, u"<p>a|</p>"_s, 3, u"<p>a<a href=\"x.html\">x.html</a>|</p>"_s);
     row("unlink", Unlink, {}, u"<p><a href=\"x.html\">a|b</a></p>"_s, 3, u"<p>a|b</p>"_s);
@@ -130,12 +137,12 @@ void TstDesignerCommands::commands_data()
         u"<p>a|b</p>"_s, 3,
         u"<p>a</p><table border=\"1\">\n<caption>C</caption>\n<tbody>\n<tr>\n<td align=\"left\">|<br></td>\n"
         u"<td align=\"left\"><br></td>\n</tr>\n</tbody>\n</table><p>b</p>"_s);
-    row("table by a map", InsertTable,
-        QVariantMap{{u"NumRows"_s, 1}, {u"NumCols"_s, 1}, {u"TableAttrs"_s, u""_s}}, u"|"_s, 3,
-        u"<table>\n<tbody>\n<tr>\n<td>|<br></td>\n</tr>\n</tbody>\n</table>"_s);
+    row("table by a map", InsertTable, QVariantMap{{u"NumRows"_s, 1}, {u"NumCols"_s, 1}, {u"TableAttrs"_s, u""_s}},
+        u"|"_s, 3, u"<table>\n<tbody>\n<tr>\n<td>|<br></td>\n</tr>\n</tbody>\n</table>"_s);
 
     row("table with hostile words", InsertTable,
-        QVariant::fromValue(InsertTableParam{1, 1, u"title='a>b' onclick=x"_s, u"bgcolor=\"<\" >x<script>y</script"_s, u"<b>&"_s}),
+        QVariant::fromValue(
+            InsertTableParam{1, 1, u"title='a>b' onclick=x"_s, u"bgcolor=\"<\" >x<script>y</script"_s, u"<b>&"_s}),
         u"|"_s, 3,
         u"<table title=\"a>b\" onclick=\"x\">\n<caption>&lt;b&gt;&amp;</caption>\n<tbody>\n<tr>\n"
         u"<td bgcolor=\"<\">|x<script>y</script><br></td>\n</tr>\n</tbody>\n</table>"_s);
@@ -144,7 +151,8 @@ void TstDesignerCommands::commands_data()
         u"<ul><li>x<table>\n<tbody>\n<tr>\n<td>|<br></td>\n</tr>\n</tbody>\n</table></li></ul>"_s);
     row("no table of no rows", InsertTable, QVariantMap{{u"NumRows"_s, 0}}, u"<p>a|</p>"_s, 3, u"<p>a|</p>"_s);
 
-    const QString square = u"<table><tbody><tr><td>%1</td><td>%2</td></tr><tr><td>%3</td><td>%4</td></tr></tbody></table>"_s;
+    const QString square =
+        u"<table><tbody><tr><td>%1</td><td>%2</td></tr><tr><td>%3</td><td>%4</td></tr></tbody></table>"_s;
     const auto cells = [&](const QString &a, const QString &b, const QString &c, const QString &d) {
         return square.arg(a, b, c, d);
     };
@@ -177,11 +185,12 @@ void TstDesignerCommands::commands_data()
     row("merge down", MergeCells, {}, body(u"<tr><td>[a</td></tr><tr><td>b]</td></tr>"_s), 3,
         body(u"<tr><td rowspan=\"2\">|a<br>b</td></tr><tr></tr>"_s));
     row("delete the low half's row", DeleteRows, {},
-        body(u"<tr><td rowspan=\"2\">a</td><td>b</td></tr><tr><td>c|</td></tr>"_s), 3, body(u"<tr><td>a</td><td>|b</td></tr>"_s));
+        body(u"<tr><td rowspan=\"2\">a</td><td>b</td></tr><tr><td>c|</td></tr>"_s), 3,
+        body(u"<tr><td>a</td><td>|b</td></tr>"_s));
     row("delete all rows of a high cell", DeleteRows, {},
         u"<p>x</p>"_s + body(u"<tr><td rowspan=\"2\">a|</td><td>b</td></tr><tr><td>c</td></tr>"_s), 3, u"<p>x</p>|"_s);
-    row("delete the only column", DeleteColumns, {}, u"<p>x</p>"_s + body(u"<tr><td>a|</td></tr><tr><td>b</td></tr>"_s), 3,
-        u"<p>x</p>|"_s);
+    row("delete the only column", DeleteColumns, {}, u"<p>x</p>"_s + body(u"<tr><td>a|</td></tr><tr><td>b</td></tr>"_s),
+        3, u"<p>x</p>|"_s);
     row("delete the only cell", DeleteCells, {}, u"<p>x</p>"_s + body(u"<tr><td>a|</td></tr>"_s), 3, u"<p>x</p>|"_s);
     row("delete the only row of a section", DeleteRows, {},
         u"<table><thead><tr><th>h</th></tr></thead><tbody><tr><td>a|</td></tr></tbody></table>"_s, 3,
@@ -200,12 +209,12 @@ void TstDesignerCommands::commands_data()
         body(u"<tr><td>a|</td><td><br></td><td>b</td></tr><tr><td colspan=\"2\">c</td><td>d</td></tr>"_s));
     row("split a wide cell", SplitCell, {}, body(u"<tr><td colspan=\"3\">a|</td></tr>"_s), 3,
         body(u"<tr><td colspan=\"2\">a|</td><td><br></td></tr>"_s));
-    row("split a high cell", SplitCell, {}, body(u"<tr><td rowspan=\"2\">a|</td><td>b</td></tr><tr><td>c</td></tr>"_s), 3,
-        body(u"<tr><td>a|</td><td>b</td></tr><tr><td><br></td><td>c</td></tr>"_s));
+    row("split a high cell", SplitCell, {}, body(u"<tr><td rowspan=\"2\">a|</td><td>b</td></tr><tr><td>c</td></tr>"_s),
+        3, body(u"<tr><td>a|</td><td>b</td></tr><tr><td><br></td><td>c</td></tr>"_s));
 
     const QString placed = u"<div style=\"position: absolute; z-index: %1\">%2</div>"_s;
-    row("to a place of its own", AbsolutePosition, {}, u"<body style=\"margin: 8px\">{<img src=\"x\" width=\"10\" height=\"9\">"_s,
-        3,
+    row("to a place of its own", AbsolutePosition, {},
+        u"<body style=\"margin: 8px\">{<img src=\"x\" width=\"10\" height=\"9\">"_s, 3,
         u"{<img src=\"x\" width=\"10\" height=\"9\" style=\"position: absolute; left: 8px; top: 8px; z-index: 100\">"_s);
     row("back into the text", AbsolutePosition, {},
         u"{<img src=\"x\" style=\"border:0;position: absolute; left: 1px; top: 2px; z-index: 3\">"_s, 7,
@@ -213,7 +222,7 @@ void TstDesignerCommands::commands_data()
     const QString three = placed.arg(u"1"_s, u"a|"_s) + placed.arg(u"2"_s, u"b"_s) + placed.arg(u"7"_s, u"c"_s);
     const auto order = [&](int a, int b, int c) {
         return placed.arg(QString::number(a), u"a|"_s) + placed.arg(QString::number(b), u"b"_s)
-               + placed.arg(QString::number(c), u"c"_s);
+            + placed.arg(QString::number(c), u"c"_s);
     };
     row("to the front", BringToFront, {}, three, 3, order(7, 1, 2));
     row("forward", BringForward, {}, three, 3, order(2, 1, 7));
@@ -229,7 +238,8 @@ void TstDesignerCommands::commands_data()
         u"<body style=\"margin: 8px\">{<table border=\"1\"><tbody><tr><td>a</td></tr></tbody></table>"_s, 3,
         u"{<table border=\"1\" style=\"position: absolute; left: 8px; top: 8px; z-index: 100\"><tbody><tr><td>a</td></tr></tbody></table>"_s);
     row("back with its lock", AbsolutePosition, {},
-        u"<div design_time_lock=\"true\" style=\"position: absolute; left: 1px\" id=\"i\">a|</div>"_s, 7, u"<div id=\"i\">a|</div>"_s);
+        u"<div design_time_lock=\"true\" style=\"position: absolute; left: 1px\" id=\"i\">a|</div>"_s, 7,
+        u"<div id=\"i\">a|</div>"_s);
     row("to the back", SendToBack, {}, placed.arg(u"1"_s, u"a"_s) + placed.arg(u"2"_s, u"b|"_s), 3,
         placed.arg(u"2"_s, u"a"_s) + placed.arg(u"1"_s, u"b|"_s));
     row("backward among equals", SendBackward, {}, placed.arg(u"5"_s, u"a"_s) + placed.arg(u"5"_s, u"b|"_s), 3,
@@ -322,9 +332,10 @@ void TstDesignerCommands::statuses_data()
     row("locked", LockElement, u"<div style=\"position:absolute\" design_time_lock=\"true\">a|</div>"_s, 7);
     row("in a positioned box", AbsolutePosition, u"<div style=\"position:absolute\">a|</div>"_s, 7);
     row("forward of a positioned box", BringForward, u"<div style=\"position:absolute\">a|</div>"_s, 3);
-    for (const DesignerCommand command : {Bold, Italic, Underline, OrderedList, UnorderedList, Indent, JustifyCenter,
-                                          JustifyRight, SetForeColor, SetFontName, SetFontSize, SetBlockFormat, GetFontName,
-                                          GetFontSize, GetBlockFormat, Font, SelectAll, FindText, Image, Hyperlink, InsertTable})
+    for (const DesignerCommand command :
+         {Bold,           Italic,       Underline,   OrderedList, UnorderedList,  Indent,      JustifyCenter,
+          JustifyRight,   SetForeColor, SetFontName, SetFontSize, SetBlockFormat, GetFontName, GetFontSize,
+          GetBlockFormat, Font,         SelectAll,   FindText,    Image,          Hyperlink,   InsertTable})
         row(qPrintable(u"empty page %1"_s.arg(static_cast<int>(command))), command, u""_s, 3);
     for (const DesignerCommand command : {Undo, Redo, Cut, Copy, Outdent, InsertRow, DeleteCells, MergeCells, SplitCell,
                                           AbsolutePosition, BringToFront, SendToBack, LockElement, Unlink})

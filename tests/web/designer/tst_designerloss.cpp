@@ -132,8 +132,9 @@ void TstDesignerLoss::pageThatHangs()
     const int patience = m_bench->designer.page().patience();
     m_bench->designer.page().setPatience(200);
     bool ended = false;
-    m_bench->designer.page().runJavaScript(u"{ const end = performance.now() + 3000; while (performance.now() < end); } null"_s,
-                                           QWebEngineScript::ApplicationWorld, [&](const QVariant &) { ended = true; });
+    m_bench->designer.page().runJavaScript(
+        u"{ const end = performance.now() + 3000; while (performance.now() < end); } null"_s,
+        QWebEngineScript::ApplicationWorld, [&](const QVariant &) { ended = true; });
     QElapsedTimer time;
     time.start();
     QCOMPARE(m_bench->designer.documentHtml(), u"<p>ab</p>"_s);

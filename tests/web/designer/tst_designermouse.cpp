@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/designerhandles.h"
 #include "designerbench.h"
 #include "support/testregistry.h"
+#include "web/designer/designerhandles.h"
 
 #include <QWebEngineView>
 
@@ -30,7 +30,8 @@ private:
     /// A positioned box with its upper left corner at 100, 50.
     QString box(const QString &more = {}) const
     {
-        return u"<div style=\"position: absolute; left: 100px; top: 50px; width: 80px; height: 40px\"%1>box</div>"_s.arg(more);
+        return u"<div style=\"position: absolute; left: 100px; top: 50px; width: 80px; height: 40px\"%1>box</div>"_s
+            .arg(more);
     }
     bool comesTo(const QString &type)
     {
@@ -39,9 +40,11 @@ private:
     /// What the element's style says; the numbers of one property.
     bool styleComesTo(const QString &style)
     {
-        return QTest::qWaitFor([&] {
-            return m_bench->ask(u"document.querySelector('div,img').getAttribute('style')"_s).toString() == style;
-        }, DesignerBench::patience);
+        return QTest::qWaitFor(
+            [&] {
+                return m_bench->ask(u"document.querySelector('div,img').getAttribute('style')"_s).toString() == style;
+            },
+            DesignerBench::patience);
     }
 
     std::unique_ptr<DesignerBench> m_bench;
@@ -77,7 +80,8 @@ void TstDesignerMouse::secondClickOpens()
     m_bench->click({120, 60});
     QVERIFY(comesTo(u"None"_s));
     m_bench->type(u"x"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(m_bench->body().contains(u"x</div>") || m_bench->body().contains(u"x"), DesignerBench::patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_bench->body().contains(u"x</div>") || m_bench->body().contains(u"x"),
+                             DesignerBench::patience);
     QVERIFY(m_bench->ask(u"document.querySelector('div').textContent"_s).toString().size() == 4);
 }
 
@@ -88,18 +92,19 @@ void TstDesignerMouse::drags_data()
     QTest::addColumn<QPoint>("to");
     QTest::addColumn<QString>("style");
     const QString same = u"position: absolute; left: 100px; top: 50px; width: 80px; height: 40px"_s;
-    const auto row = [](const char *name, const QString &more, const QPoint &from, const QPoint &to, const QString &style) {
-        QTest::newRow(name) << more << from << to << style;
-    };
+    const auto row = [](const char *name, const QString &more, const QPoint &from, const QPoint &to,
+                        const QString &style) { QTest::newRow(name) << more << from << to << style; };
     row("moved", {}, {140, 70}, {160, 100}, u"position: absolute; left: 120px; top: 80px; width: 80px; height: 40px"_s);
     row("hardly moved", {}, {140, 70}, {141, 71}, same);
     row("locked", u" design_time_lock=\"true\""_s, {140, 70}, {160, 100}, same);
-    row("right side", {}, {180, 70}, {200, 90}, u"position: absolute; left: 100px; top: 50px; width: 100px; height: 40px"_s);
+    row("right side", {}, {180, 70}, {200, 90},
+        u"position: absolute; left: 100px; top: 50px; width: 100px; height: 40px"_s);
     row("lower right corner", {}, {180, 90}, {190, 110},
         u"position: absolute; left: 100px; top: 50px; width: 90px; height: 60px"_s);
     row("upper left corner", {}, {100, 50}, {90, 60},
         u"position: absolute; left: 90px; top: 60px; width: 90px; height: 30px"_s);
-    row("smaller than nothing", {}, {180, 70}, {20, 70}, u"position: absolute; left: 100px; top: 50px; width: 1px; height: 40px"_s);
+    row("smaller than nothing", {}, {180, 70}, {20, 70},
+        u"position: absolute; left: 100px; top: 50px; width: 1px; height: 40px"_s);
 }
 
 void TstDesignerMouse::drags()
@@ -130,10 +135,12 @@ void TstDesignerMouse::snapsToTheGrid()
     m_bench->click({140, 70});
     QVERIFY(comesTo(u"Control"_s));
     m_bench->drag({140, 70}, {170, 100});
-    QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 80px; height: 40px"_s), qPrintable(m_bench->body()));
+    QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 80px; height: 40px"_s),
+             qPrintable(m_bench->body()));
     // Of a size, the dragged side goes to the grid.
     m_bench->drag({230, 140}, {240, 160});
-    QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 100px; height: 50px"_s), qPrintable(m_bench->body()));
+    QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 100px; height: 50px"_s),
+             qPrintable(m_bench->body()));
     m_bench->designer.setSnapToGrid(false);
 }
 
@@ -153,7 +160,8 @@ void TstDesignerMouse::handlesFollow()
     m_bench->click({140, 70});
     QTRY_COMPARE_WITH_TIMEOUT(m_bench->designer.handles().grips().size(), 3, DesignerBench::patience);
     m_bench->drag({180, 90}, {200, 100});
-    QTRY_COMPARE_WITH_TIMEOUT(m_bench->body(), u"<img src=\"x\" width=\"100\" height=\"50\">"_s, DesignerBench::patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->body(), u"<img src=\"x\" width=\"100\" height=\"50\">"_s,
+                              DesignerBench::patience);
 }
 
 void TstDesignerMouse::tabGoesFromCellToCell()

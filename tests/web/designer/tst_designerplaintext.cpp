@@ -47,7 +47,8 @@ void TstDesignerPlainText::load(const QByteArray &content, const QString &name)
 void TstDesignerPlainText::select(int from, int to)
 {
     m_bench->ask(u"{ const text = document.querySelector('pre').firstChild;"
-                 "getSelection().setBaseAndExtent(text, %1, text, %2); } null"_s.arg(from).arg(to));
+                 "getSelection().setBaseAndExtent(text, %1, text, %2); } null"_s.arg(from)
+                     .arg(to));
 }
 
 void TstDesignerPlainText::typing_data()
@@ -75,7 +76,10 @@ void TstDesignerPlainText::typing_data()
     row("into nothing", "", 0, 0, {u"a"_s, u"\n"_s, u"b"_s}, u"a\r\nb"_s);
     row("all taken out", "a", 0, 1, {u"\b"_s}, u""_s);
     row("a first line that is empty", "\n\na", 0, 0, {u"x"_s}, u"x\r\n\r\na"_s);
-    row("a byte order mark", "\xef\xbb\xbf" "a", 1, 1, {u"x"_s}, u"ax"_s);
+    row("a byte order mark",
+        "\xef\xbb\xbf"
+        "a",
+        1, 1, {u"x"_s}, u"ax"_s);
 }
 
 void TstDesignerPlainText::typing()
@@ -118,7 +122,8 @@ void TstDesignerPlainText::untouched()
 void TstDesignerPlainText::shownAsItStands()
 {
     load("<b>a</b>\n  <script>b</script>", u"a.js"_s);
-    QCOMPARE(m_bench->ask(u"document.querySelector('pre').textContent"_s).toString(), u"<b>a</b>\n  <script>b</script>"_s);
+    QCOMPARE(m_bench->ask(u"document.querySelector('pre').textContent"_s).toString(),
+             u"<b>a</b>\n  <script>b</script>"_s);
     QCOMPARE(m_bench->ask(u"getComputedStyle(document.querySelector('pre')).whiteSpace"_s).toString(), u"pre-wrap"_s);
 }
 
@@ -133,7 +138,8 @@ void TstDesignerPlainText::commands()
     for (const DesignerCommand command :
          {DesignerCommand::Bold, DesignerCommand::Image, DesignerCommand::InsertTable, DesignerCommand::SetBlockFormat,
           DesignerCommand::SetFontName, DesignerCommand::GetFontName, DesignerCommand::GetBlockFormat,
-          DesignerCommand::Font, DesignerCommand::OrderedList, DesignerCommand::JustifyCenter, DesignerCommand::AbsolutePosition})
+          DesignerCommand::Font, DesignerCommand::OrderedList, DesignerCommand::JustifyCenter,
+          DesignerCommand::AbsolutePosition})
         QCOMPARE(m_bench->status(command), 1);
     m_bench->run(DesignerCommand::Bold);
     m_bench->press(Qt::Key_B, Qt::ControlModifier);

@@ -112,11 +112,13 @@ void TstDesignerText::edited_data()
         "<frame src=\"b.html\" noresize>\r\n<noframes><body>no <b>frames</b></body></noframes>\r\n</frameset>\r\n</html>\r\n"_s);
     row("text elements", u"<pre>\r\n\r\na\r\n</pre>\r\n<textarea>\r\n\r\nb</textarea>"_s);
     row("lonely words", u"<input type=\"checkbox\" checked disabled value=\"\"><img src=\"a\" alt=\"\">"_s);
-    row("references as they were", u"&#8217; &quot;a&quot; &euro; <a title=\"&lt;b&gt; &amp; &eacute;\">\u00a0</a> x -> y"_s);
+    row("references as they were",
+        u"&#8217; &quot;a&quot; &euro; <a title=\"&lt;b&gt; &amp; &eacute;\">\u00a0</a> x -> y"_s);
     row("a drawing", u"<svg viewBox=\"0 0 1 1\"><linearGradient id=\"a\"></linearGradient></svg>"_s);
     row("no script", u"<noscript><img src=\"a\"></noscript>"_s);
     row("conditional comments", u"<!--[if IE]><p>a</p><![endif]--><![if !IE]>b<![endif]>"_s);
-    row("a mark of the bytes' order", u"\ufeff<!DOCTYPE html>\r\n<html>\r\n<head></head>\r\n<body>\r\n<p>a</p>\r\n</body>\r\n</html>\r\n"_s);
+    row("a mark of the bytes' order",
+        u"\ufeff<!DOCTYPE html>\r\n<html>\r\n<head></head>\r\n<body>\r\n<p>a</p>\r\n</body>\r\n</html>\r\n"_s);
     row("that mark before a fragment", u"\ufeff<p>a</p>"_s);
     row("text before the doctype", u"a<!DOCTYPE html><html><body><p>b</p></body></html>"_s,
         u"<html>\r\n<head></head>\r\n<body>a<!DOCTYPE html><p>b</p></body></html>"_s);
@@ -134,11 +136,13 @@ void TstDesignerText::edited_data()
     row("examples", u"<xmp><b>x</b>&amp;</xmp>"_s);
     row("a template", u"<template><p>a</p><% x %><!-- c --></template>"_s);
     row("names of others", u"<p>a<o:p></o:p> b<o:p>&nbsp;</o:p></p>"_s);
-    row("a form in a form", u"<form action=\"a\"><form action=\"b\"><input></form></form>"_s, u"<form action=\"a\"><input></form>"_s);
+    row("a form in a form", u"<form action=\"a\"><form action=\"b\"><input></form></form>"_s,
+        u"<form action=\"a\"><input></form>"_s);
     row("a table in a cell", u"<table><tr><td>a<table><tr><td>b</table></table>"_s,
         u"<table><tbody><tr><td>a<table><tbody><tr><td>b</td></tr></tbody></table></td></tr></tbody></table>"_s);
     row("text between rows", u"<table>a<tr><td>b</table>"_s, u"a<table><tbody><tr><td>b</td></tr></tbody></table>"_s);
-    row("ColdFusion between rows", u"<table><tbody><cfoutput query=\"q\"><tr><td>a</td></tr></cfoutput></tbody></table>"_s);
+    row("ColdFusion between rows",
+        u"<table><tbody><cfoutput query=\"q\"><tr><td>a</td></tr></cfoutput></tbody></table>"_s);
     row("PHP between rows", u"<table><tbody><?php a ?><tr><td>b</td></tr><?php } ?></tbody></table>"_s);
     row("PHP between options", u"<select><?php a ?><option>b</option><?php } ?></select>"_s);
     row("a tag's attribute under a condition", u"<option <?php if ?>selected<?php end ?>>a</option>"_s);
@@ -166,10 +170,11 @@ void TstDesignerText::edited()
 /// Whatever the page: after one edit and reload the text doesn't change any more.
 void TstDesignerText::anyMarkupSettles()
 {
-    const QStringList pieces{u"<p>"_s,     u"</p>"_s,     u"<div>"_s,  u"</div>"_s, u"<b>"_s,    u"</b>"_s,  u"text"_s,
-                             u" "_s,       u"\r\n"_s,     u"&amp;"_s,  u"&eacute;"_s, u"<br>"_s, u"<!-- c -->"_s,
-                             u"<% s %>"_s, u"<ul><li>"_s, u"</ul>"_s,  u"<td>"_s,   u"<table>"_s, u"</table>"_s,
-                             u"<img a=\"<?= 1 ?>\">"_s,   u"<h1>"_s,   u"</h1>"_s,  u"<pre>"_s,  u"</pre>"_s};
+    const QStringList pieces{u"<p>"_s,      u"</p>"_s,  u"<div>"_s,      u"</div>"_s,   u"<b>"_s,
+                             u"</b>"_s,     u"text"_s,  u" "_s,          u"\r\n"_s,     u"&amp;"_s,
+                             u"&eacute;"_s, u"<br>"_s,  u"<!-- c -->"_s, u"<% s %>"_s,  u"<ul><li>"_s,
+                             u"</ul>"_s,    u"<td>"_s,  u"<table>"_s,    u"</table>"_s, u"<img a=\"<?= 1 ?>\">"_s,
+                             u"<h1>"_s,     u"</h1>"_s, u"<pre>"_s,      u"</pre>"_s};
     QRandomGenerator random(3);
     for (int round = 0; round < 40; ++round) {
         QString page;
@@ -185,14 +190,44 @@ void TstDesignerText::anyMarkupSettles()
 /// One letter is changed, and changed back in the text that came of it: everything else is what it was.
 void TstDesignerText::oneLetterThereAndBack()
 {
-    const QStringList pieces{u"<p class=\"a\">text</p>"_s, u"<% a %>"_s, u"<?php b ?>"_s, u"<!--#include file=\"c\" -->"_s,
-                             u"<cfif d gt 1>"_s, u"</cfif>"_s, u"<p title=\"<%= e %>\">"_s, u"<td <?= f ?>>"_s,
-                             u"<table><tr><td>"_s, u"</td></tr>"_s, u"</table>"_s, u"<!-- g -->"_s, u"&eacute;"_s, u"é"_s,
-                             u"<script>if (h < 1 && i) \"<% j %>\"</script>"_s, u"<style>k{}</style>"_s, u"<title><%= l %></title>"_s,
-                             u"<textarea>\n\n<% m %></textarea>"_s, u"<xmp><b></xmp>"_s, u"<noscript><i></noscript>"_s,
-                             u"<svg><title>n</title></svg>"_s, u"<o:p></o:p>"_s, u"<![if IE]>"_s, u"<body bgcolor=\"red\">"_s,
-                             u"<!DOCTYPE html>"_s, u"<html>"_s, u"</body>"_s, u"</html>"_s, u"\r\n"_s, u"\n"_s, u"</form>"_s,
-                             u"<form>"_s, u"<select><option>"_s, u"<b>"_s, u"</b>"_s, u"<li>"_s, u"<h1>"_s, u"</p>"_s};
+    const QStringList pieces{u"<p class=\"a\">text</p>"_s,
+                             u"<% a %>"_s,
+                             u"<?php b ?>"_s,
+                             u"<!--#include file=\"c\" -->"_s,
+                             u"<cfif d gt 1>"_s,
+                             u"</cfif>"_s,
+                             u"<p title=\"<%= e %>\">"_s,
+                             u"<td <?= f ?>>"_s,
+                             u"<table><tr><td>"_s,
+                             u"</td></tr>"_s,
+                             u"</table>"_s,
+                             u"<!-- g -->"_s,
+                             u"&eacute;"_s,
+                             u"é"_s,
+                             u"<script>if (h < 1 && i) \"<% j %>\"</script>"_s,
+                             u"<style>k{}</style>"_s,
+                             u"<title><%= l %></title>"_s,
+                             u"<textarea>\n\n<% m %></textarea>"_s,
+                             u"<xmp><b></xmp>"_s,
+                             u"<noscript><i></noscript>"_s,
+                             u"<svg><title>n</title></svg>"_s,
+                             u"<o:p></o:p>"_s,
+                             u"<![if IE]>"_s,
+                             u"<body bgcolor=\"red\">"_s,
+                             u"<!DOCTYPE html>"_s,
+                             u"<html>"_s,
+                             u"</body>"_s,
+                             u"</html>"_s,
+                             u"\r\n"_s,
+                             u"\n"_s,
+                             u"</form>"_s,
+                             u"<form>"_s,
+                             u"<select><option>"_s,
+                             u"<b>"_s,
+                             u"</b>"_s,
+                             u"<li>"_s,
+                             u"<h1>"_s,
+                             u"</p>"_s};
     const auto changed = [this](const QString &page, const QString &from, const QString &to) {
         m_bench->load(page);
         const QString change = uR"js((() => {
@@ -216,8 +251,8 @@ void TstDesignerText::oneLetterThereAndBack()
         QVERIFY2(there.contains(u"lettre") && !there.contains(u"letter"), report());
         QVERIFY2(back == QString(there).replace(u"lettre"_s, u"letter"_s), report());
         QVERIFY2(changed(back, u"letter"_s, u"lettre"_s) == there, report());
-        for (const QString &piece : {u"<% a %>"_s, u"<?php b ?>"_s, u"<!--#include file=\"c\" -->"_s, u"<cfif d gt 1>"_s,
-                                     u"<%= l %>"_s, u"<!-- g -->"_s, u"<!DOCTYPE html>"_s})
+        for (const QString &piece : {u"<% a %>"_s, u"<?php b ?>"_s, u"<!--#include file=\"c\" -->"_s,
+                                     u"<cfif d gt 1>"_s, u"<%= l %>"_s, u"<!-- g -->"_s, u"<!DOCTYPE html>"_s})
             QVERIFY2(back.count(piece) == page.count(piece), report());
     }
 }
@@ -249,10 +284,12 @@ void TstDesignerText::serverCodeThatIsPastedIn()
 /// Elements whose names are those of the document's own members.
 void TstDesignerText::namesThatHideTheDocument()
 {
-    const QString page = u"<img name=\"body\"><img name=\"documentElement\"><img name=\"createElement\"><img name=\"open\">"
-                         "<img name=\"execCommand\"><img name=\"addEventListener\"><form name=\"designMode\"></form><p>a</p>"_s;
+    const QString page =
+        u"<img name=\"body\"><img name=\"documentElement\"><img name=\"createElement\"><img name=\"open\">"
+        "<img name=\"execCommand\"><img name=\"addEventListener\"><form name=\"designMode\"></form><p>a</p>"_s;
     m_bench->load(page);
-    m_bench->ask(u"getSelection().selectAllChildren(window.Document.prototype.querySelector.call(document, 'p')); null"_s);
+    m_bench->ask(
+        u"getSelection().selectAllChildren(window.Document.prototype.querySelector.call(document, 'p')); null"_s);
     m_bench->run(DesignerCommand::Bold);
     QCOMPARE(m_bench->designer.documentHtml(), QString(page).replace(u">a<"_s, u"><b>a</b><"_s));
 }

@@ -44,12 +44,14 @@ void TstDesignerTrust::scriptsDoNotRun_data()
     row("onerror", u"<body><img src=\"none.gif\" onerror=\"%1\">"_s.arg(harm));
     row("onfocus", u"<body><input autofocus onfocus=\"%1\">"_s.arg(harm));
     row("ontoggle", u"<body><details open ontoggle=\"%1\"></details>"_s.arg(harm));
-    row("animation", u"<style>@keyframes a{}</style><p style=\"animation:a 1ms\" onanimationstart=\"%1\">x</p>"_s.arg(harm));
+    row("animation",
+        u"<style>@keyframes a{}</style><p style=\"animation:a 1ms\" onanimationstart=\"%1\">x</p>"_s.arg(harm));
     row("drawing", u"<svg onload=\"%1\"><script>%1</script></svg>"_s.arg(harm));
     row("frame with a script", u"<iframe src=\"javascript:parent.%1\"></iframe>"_s.arg(harm));
     row("frame with a document", u"<iframe srcdoc=\"&lt;script&gt;parent.%1&lt;/script&gt;\"></iframe>"_s.arg(harm));
     row("object", u"<object data=\"javascript:%1\"></object><embed src=\"javascript:%1\">"_s.arg(harm));
-    row("template of a worker", u"<link rel=\"preload\" as=\"script\" href=\"harm.js\"><script src=\"harm.js\" async></script>"_s);
+    row("template of a worker",
+        u"<link rel=\"preload\" as=\"script\" href=\"harm.js\"><script src=\"harm.js\" async></script>"_s);
     row("refresh to a script", u"<meta http-equiv=\"refresh\" content=\"0;javascript:%1\">"_s.arg(harm));
 }
 
@@ -61,8 +63,9 @@ void TstDesignerTrust::scriptsDoNotRun()
     m_bench->awaitComplete();
     m_bench->ask(u"document.body?.click(); null"_s);
     // Whatever is going to happen by itself happens before a picture that is asked for afterwards has failed to load.
-    m_bench->ask(u"window.settled = 0; { const i = new Image(); i.onerror = () => setTimeout(() => window.settled = 1, 50);"
-                 "i.src = 'no-such-picture.gif'; } null"_s);
+    m_bench->ask(
+        u"window.settled = 0; { const i = new Image(); i.onerror = () => setTimeout(() => window.settled = 1, 50);"
+        "i.src = 'no-such-picture.gif'; } null"_s);
     QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"window.settled"_s).toInt(), 1, DesignerBench::patience);
     QCOMPARE(m_bench->ask(u"document.documentElement.id"_s).toString(), QString());
     QVERIFY(!m_bench->designer.isDirty());
@@ -81,10 +84,12 @@ void TstDesignerTrust::staysWhereItIs_data()
     row("link of a script", u"<a href=\"javascript:document.title='harmed'\">a</a>"_s, u"document.links[0].click()"_s);
     row("link to a window", u"<a href=\"other.html\" target=\"_blank\">a</a>"_s, u"document.links[0].click()"_s);
     row("form", u"<form action=\"other.html\"><input name=\"a\"></form>"_s, u"document.forms[0].submit()"_s);
-    row("form to a window", u"<form action=\"other.html\" target=\"_blank\"></form>"_s, u"document.forms[0].submit()"_s);
+    row("form to a window", u"<form action=\"other.html\" target=\"_blank\"></form>"_s,
+        u"document.forms[0].submit()"_s);
     row("frame", u"<iframe src=\"other.html\"></iframe>"_s, u""_s);
     row("frameset", u"<frameset cols=\"*,*\"><frame src=\"other.html\"><frame src=\"other.html\"></frameset>"_s, u""_s);
-    row("base", u"<base href=\"other.html\" target=\"_top\"><a href=\"other.html\">a</a>"_s, u"document.links[0].click()"_s);
+    row("base", u"<base href=\"other.html\" target=\"_top\"><a href=\"other.html\">a</a>"_s,
+        u"document.links[0].click()"_s);
 }
 
 void TstDesignerTrust::staysWhereItIs()
@@ -104,8 +109,11 @@ void TstDesignerTrust::staysWhereItIs()
     QCOMPARE(m_bench->designer.page().url(), address);
     QCOMPARE(moves.count(), 0);
     QVERIFY(m_bench->designer.page().title() != u"other");
-    QCOMPARE(m_bench->ask(u"[...document.querySelectorAll('iframe,frame')].filter(f => "
-                          "f.contentDocument?.body?.textContent.includes('other')).length"_s).toInt(), 0);
+    QCOMPARE(m_bench
+                 ->ask(u"[...document.querySelectorAll('iframe,frame')].filter(f => "
+                       "f.contentDocument?.body?.textContent.includes('other')).length"_s)
+                 .toInt(),
+             0);
     QCOMPARE(m_bench->designer.documentHtml(), page);
 }
 
@@ -138,9 +146,9 @@ void TstDesignerTrust::nothingOfTheDesignerIsWithinReach()
 {
     m_bench->load(u"<p>a</p>"_s);
     std::optional<QString> found;
-    m_bench->designer.page().runJavaScript(
-        u"[typeof zephiraDesigner, typeof QWebChannel, typeof qt].join()"_s, QWebEngineScript::MainWorld,
-        [&](const QVariant &value) { found = value.toString(); });
+    m_bench->designer.page().runJavaScript(u"[typeof zephiraDesigner, typeof QWebChannel, typeof qt].join()"_s,
+                                           QWebEngineScript::MainWorld,
+                                           [&](const QVariant &value) { found = value.toString(); });
     QTRY_VERIFY_WITH_TIMEOUT(found.has_value(), DesignerBench::patience);
     QCOMPARE(*found, u"undefined,undefined,undefined"_s);
 }

@@ -45,15 +45,19 @@ void TstDesignerTyping::keys_data()
     row("bare text", u"ab|cd<hr>"_s, {u"Enter"_s}, u"<p>ab</p><p>|cd</p><hr>"_s);
     row("behind a coloured word", u"<p><font color=\"red\">a|</font></p>"_s, {u"Enter"_s, u"x"_s},
         u"<p><font color=\"red\">a</font></p><p><font color=\"red\">x|</font></p>"_s);
-    row("behind a link", u"<p><a href=\"x\">a|</a></p>"_s, {u"Enter"_s, u"x"_s}, u"<p><a href=\"x\">a</a></p><p>x|</p>"_s);
+    row("behind a link", u"<p><a href=\"x\">a|</a></p>"_s, {u"Enter"_s, u"x"_s},
+        u"<p><a href=\"x\">a</a></p><p>x|</p>"_s);
     row("a new item", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"b"_s}, u"<ul><li>a</li><li>b|</li></ul>"_s);
-    row("out of a list", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"Enter"_s, u"b"_s}, u"<ul><li>a</li></ul><p>b|</p>"_s);
+    row("out of a list", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"Enter"_s, u"b"_s},
+        u"<ul><li>a</li></ul><p>b|</p>"_s);
     row("a line break in an item", u"<ul><li>a|b</li></ul>"_s, {u"Shift+Enter"_s}, u"<ul><li>a<br>|b</li></ul>"_s);
     row("a new term", u"<dl><dt>a|</dt></dl>"_s, {u"Enter"_s, u"x"_s}, u"<dl><dt>a</dt><dt>x|</dt></dl>"_s);
-    row("in a quotation", u"<blockquote>a|</blockquote>"_s, {u"Enter"_s, u"b"_s}, u"<blockquote><p>a</p><p>b|</p></blockquote>"_s);
+    row("in a quotation", u"<blockquote>a|</blockquote>"_s, {u"Enter"_s, u"b"_s},
+        u"<blockquote><p>a</p><p>b|</p></blockquote>"_s);
     row("in a box", u"<div style=\"position: absolute\">a|b</div>"_s, {u"Enter"_s},
         u"<div style=\"position: absolute\"><p>a</p><p>|b</p></div>"_s);
-    row("in a division with a name", u"<div class=\"x\">a|b</div>"_s, {u"Enter"_s}, u"<div class=\"x\"><p>a</p><p>|b</p></div>"_s);
+    row("in a division with a name", u"<div class=\"x\">a|b</div>"_s, {u"Enter"_s},
+        u"<div class=\"x\"><p>a</p><p>|b</p></div>"_s);
     row("in a division that is a line", u"<div>a|b</div>"_s, {u"Enter"_s}, u"<div>a</div><div>|b</div>"_s);
     row("in formatted text", u"<pre>a|b</pre>"_s, {u"Enter"_s, u"x"_s}, u"<pre>a\nx|b</pre>"_s);
     const QString cell = u"<table><tbody><tr><td>%1</td><td>c</td></tr></tbody></table>"_s;
@@ -62,35 +66,43 @@ void TstDesignerTyping::keys_data()
     row("a line break in a cell", cell.arg(u"ab|"_s), {u"Shift+Enter"_s, u"x"_s}, cell.arg(u"ab<br>x|"_s));
     row("in the place of a selection", u"<p>a[b]c</p>"_s, {u"Enter"_s}, u"<p>a</p><p>|c</p>"_s);
 
-    row("back into a heading", u"<h1 id=\"h\">a</h1><p class=\"c\">|b <b>c</b> <span style=\"COLOR: red\" class=\"k\">d</span></p>"_s,
+    row("back into a heading",
+        u"<h1 id=\"h\">a</h1><p class=\"c\">|b <b>c</b> <span style=\"COLOR: red\" class=\"k\">d</span></p>"_s,
         {u"Backspace"_s}, u"<h1 id=\"h\">a|b <b>c</b> <span style=\"COLOR: red\" class=\"k\">d</span></h1>"_s);
     // It comes to stand in the head, out of the way.
-    const QString styles = u"<link rel=\"stylesheet\" href=\"data:text/css,h1%7Bfont-size:40px;color:red%7Dp,li%7Bcolor:blue%7D\">"_s;
-    row("styles of a style sheet", styles + u"<h1>a|</h1><p>b <b>c</b></p>"_s, {u"Delete"_s}, u"<h1>a|b <b>c</b></h1>"_s);
-    row("an item into a heading", styles + u"<h1>x</h1><ul><li>|a</li><li>b</li></ul>"_s, {u"Backspace"_s}, u"<h1>x|a</h1><ul><li>b</li></ul>"_s);
-    row("into a division", styles + u"<div><h1>x</h1></div><p>|a</p>"_s, {u"Backspace"_s}, u"<div><h1>x|a</h1></div>"_s);
+    const QString styles =
+        u"<link rel=\"stylesheet\" href=\"data:text/css,h1%7Bfont-size:40px;color:red%7Dp,li%7Bcolor:blue%7D\">"_s;
+    row("styles of a style sheet", styles + u"<h1>a|</h1><p>b <b>c</b></p>"_s, {u"Delete"_s},
+        u"<h1>a|b <b>c</b></h1>"_s);
+    row("an item into a heading", styles + u"<h1>x</h1><ul><li>|a</li><li>b</li></ul>"_s, {u"Backspace"_s},
+        u"<h1>x|a</h1><ul><li>b</li></ul>"_s);
+    row("into a division", styles + u"<div><h1>x</h1></div><p>|a</p>"_s, {u"Backspace"_s},
+        u"<div><h1>x|a</h1></div>"_s);
     row("bare text into a heading", styles + u"<h1>a</h1>|b"_s, {u"Backspace"_s}, u"<h1>a|b</h1>"_s);
     row("into bare text", styles + u"a<p>|b</p>c"_s, {u"Backspace"_s}, u"a|b<br>c"_s);
     row("items", u"<ul><li>a</li><li>|b</li></ul>"_s, {u"Backspace"_s}, u"<ul><li>a|b</li></ul>"_s);
     row("a paragraph into an item", u"<ul><li>a</li></ul><p>|b</p>"_s, {u"Backspace"_s}, u"<ul><li>a|b</li></ul>"_s);
-    row("the last item into a paragraph", u"<p>a|</p><ul><li>b</li></ul><p>c</p>"_s, {u"Delete"_s}, u"<p>a|b</p><p>c</p>"_s);
+    row("the last item into a paragraph", u"<p>a|</p><ul><li>b</li></ul><p>c</p>"_s, {u"Delete"_s},
+        u"<p>a|b</p><p>c</p>"_s);
     row("an empty paragraph before", u"<p>|<br></p><h1 id=\"h\">c</h1>"_s, {u"Delete"_s}, u"<h1 id=\"h\">|c</h1>"_s);
     row("an empty paragraph behind", u"<p>a</p><p>|<br></p><p>c</p>"_s, {u"Backspace"_s}, u"<p>a|</p><p>c</p>"_s);
     row("blanks where two meet", u"<p>a\n</p>\n<p>\n|b</p>"_s, {u"Backspace"_s}, u"<p>a|b</p>\n"_s);
-    row("a table in front", u"<table><tbody><tr><td>a</td></tr></tbody></table><p class=\"k\">|y</p>"_s, {u"Backspace"_s},
-        u"{<table><tbody><tr><td>a</td></tr></tbody></table><p class=\"k\">y</p>"_s);
+    row("a table in front", u"<table><tbody><tr><td>a</td></tr></tbody></table><p class=\"k\">|y</p>"_s,
+        {u"Backspace"_s}, u"{<table><tbody><tr><td>a</td></tr></tbody></table><p class=\"k\">y</p>"_s);
     row("that table", u"<table><tbody><tr><td>a</td></tr></tbody></table><p class=\"k\">|y</p>"_s,
         {u"Backspace"_s, u"Backspace"_s}, u"<p class=\"k\">|y</p>"_s);
     row("not out of a cell", cell.arg(u"a</td><td>|b"_s), {u"Backspace"_s, u"x"_s}, cell.arg(u"a</td><td>x|b"_s));
-    row("a selection over two", styles + u"<h1>a[x</h1><p>b]<i>c</i></p>"_s, {u"Backspace"_s}, u"<h1>a|<i>c</i></h1>"_s);
-    row("a selection into a division", styles + u"<h1>a[x</h1><div><p>b]c</p></div>"_s, {u"Delete"_s}, u"<h1>a|c</h1>"_s);
+    row("a selection over two", styles + u"<h1>a[x</h1><p>b]<i>c</i></p>"_s, {u"Backspace"_s},
+        u"<h1>a|<i>c</i></h1>"_s);
+    row("a selection into a division", styles + u"<h1>a[x</h1><div><p>b]c</p></div>"_s, {u"Delete"_s},
+        u"<h1>a|c</h1>"_s);
     row("a selection over cells", cell.arg(u"a[b</td><td>c]d"_s), {u"Backspace"_s}, cell.arg(u"a|</td><td>d"_s));
     row("typing over two", styles + u"<h1>a[x</h1><p>b]c</p>"_s, {u"y"_s, u"z"_s}, u"<h1>ayz|c</h1>"_s);
     row("an element", u"<p>a{<img src=\"x\">b</p>"_s, {u"Backspace"_s}, u"<p>a|b</p>"_s);
     row("typing over an element", u"<p>a{<img src=\"x\">b</p>"_s, {u"x"_s}, u"<p>ax|b</p>"_s);
     row("a whole heading", styles + u"<h1>[ab</h1><p>]c</p>"_s, {u"Backspace"_s}, u"<p>|c</p>"_s);
-    row("the author's spans into bare text", styles + u"a<p>|<span style=\"color: green\">b</span></p>"_s, {u"Backspace"_s},
-        u"a|<span style=\"color: green\">b</span>"_s);
+    row("the author's spans into bare text", styles + u"a<p>|<span style=\"color: green\">b</span></p>"_s,
+        {u"Backspace"_s}, u"a|<span style=\"color: green\">b</span>"_s);
     row("the whole page", u"<p>[a</p><p>b]</p>"_s, {u"Backspace"_s, u"x"_s}, u"<p>x|</p>"_s);
     row("a word", u"<p>a word|</p>"_s, {u"Control+Backspace"_s}, u"<p>a&nbsp;|</p>"_s);
 }
@@ -103,8 +115,10 @@ void TstDesignerTyping::press(const QString &key)
         Qt::KeyboardModifiers modifiers;
     };
     static const Row rows[] = {
-        {u"Enter", Qt::Key_Return, Qt::NoModifier},         {u"Shift+Enter", Qt::Key_Return, Qt::ShiftModifier},
-        {u"Backspace", Qt::Key_Backspace, Qt::NoModifier},  {u"Delete", Qt::Key_Delete, Qt::NoModifier},
+        {u"Enter", Qt::Key_Return, Qt::NoModifier},
+        {u"Shift+Enter", Qt::Key_Return, Qt::ShiftModifier},
+        {u"Backspace", Qt::Key_Backspace, Qt::NoModifier},
+        {u"Delete", Qt::Key_Delete, Qt::NoModifier},
         {u"Control+Backspace", Qt::Key_Backspace, Qt::ControlModifier},
     };
     const auto row = std::ranges::find(rows, key, &Row::name);
@@ -126,7 +140,8 @@ void TstDesignerTyping::keys()
     QFETCH(QStringList, keys);
     QFETCH(QString, after);
     m_bench->show(before);
-    QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"document.readyState"_s).toString(), u"complete"_s, DesignerBench::patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"document.readyState"_s).toString(), u"complete"_s,
+                              DesignerBench::patience);
     const QString untouched = m_bench->body();
     for (const QString &key : keys)
         press(key);
@@ -144,8 +159,8 @@ void TstDesignerTyping::commentsOutliveAJoin()
     m_bench->load(u"<p>a<!-- one --></p><!-- two --><p>b<% three %><!-- four -->c</p>"_s);
     m_bench->ask(u"getSelection().collapse(document.body.lastChild, 0); null"_s);
     m_bench->press(Qt::Key_Backspace);
-    QTRY_COMPARE_WITH_TIMEOUT(m_bench->designer.documentHtml(), u"<p>a<!-- one -->b<% three %><!-- four -->c</p><!-- two -->"_s,
-                              DesignerBench::patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->designer.documentHtml(),
+                              u"<p>a<!-- one -->b<% three %><!-- four -->c</p><!-- two -->"_s, DesignerBench::patience);
 }
 
 ZEPHIRA_TEST(TstDesignerTyping)

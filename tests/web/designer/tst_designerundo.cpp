@@ -39,7 +39,8 @@ private:
         const QString body = m_bench->body();
         const auto differing = std::mismatch(body.begin(), body.end(), expected.begin(), expected.end());
         const qsizetype from = std::max<qsizetype>(0, differing.first - body.begin() - 100);
-        return u"%1 of step %2\n%3\ninstead of\n%4"_s.arg(way).arg(step).arg(body.mid(from, 400), expected.mid(from, 400));
+        return u"%1 of step %2\n%3\ninstead of\n%4"_s.arg(way).arg(step).arg(body.mid(from, 400),
+                                                                             expected.mid(from, 400));
     }
 
     std::unique_ptr<DesignerBench> m_bench;
@@ -121,7 +122,9 @@ void TstDesignerUndo::selectAtRandom(QRandomGenerator &random)
         const begin = texts[a % texts.length];
         const end = d % 3 === 0 ? texts[b % texts.length] : begin;
         getSelection().setBaseAndExtent(begin, c % (begin.length + 1), end, b % (end.length + 1));
-    })(%1, %2, %3, %4))js"_s.arg(random.bounded(10000)).arg(random.bounded(10000)).arg(random.bounded(10000))
+    })(%1, %2, %3, %4))js"_s.arg(random.bounded(10000))
+                     .arg(random.bounded(10000))
+                     .arg(random.bounded(10000))
                      .arg(random.bounded(10000)));
 }
 
@@ -129,12 +132,38 @@ void TstDesignerUndo::doSomething(QRandomGenerator &random)
 {
     using enum DesignerCommand;
     static const std::pair<DesignerCommand, QVariant> work[] = {
-        {Bold, {}}, {Italic, {}}, {Underline, {}}, {OrderedList, {}}, {UnorderedList, {}}, {Indent, {}}, {Outdent, {}},
-        {JustifyCenter, {}}, {JustifyRight, {}}, {SetFontName, u"Arial"_s}, {SetFontSize, 5}, {SetForeColor, u"#00ff00"_s},
-        {SetBlockFormat, u"Heading 1"_s}, {SetBlockFormat, u"Normal"_s}, {SetBlockFormat, u"Definition"_s}, {Delete, {}},
-        {Hyperlink, u"x"_s}, {Unlink, {}}, {Image, u"x.gif"_s}, {InsertTable, QVariantMap{{u"NumRows"_s, 2}, {u"NumCols"_s, 2}}},
-        {InsertRow, {}}, {InsertColumn, {}}, {InsertCell, {}}, {DeleteRows, {}}, {DeleteColumns, {}}, {DeleteCells, {}},
-        {MergeCells, {}}, {SplitCell, {}}, {AbsolutePosition, {}}, {BringToFront, {}}, {SendBelowText, {}}, {LockElement, {}},
+        {Bold, {}},
+        {Italic, {}},
+        {Underline, {}},
+        {OrderedList, {}},
+        {UnorderedList, {}},
+        {Indent, {}},
+        {Outdent, {}},
+        {JustifyCenter, {}},
+        {JustifyRight, {}},
+        {SetFontName, u"Arial"_s},
+        {SetFontSize, 5},
+        {SetForeColor, u"#00ff00"_s},
+        {SetBlockFormat, u"Heading 1"_s},
+        {SetBlockFormat, u"Normal"_s},
+        {SetBlockFormat, u"Definition"_s},
+        {Delete, {}},
+        {Hyperlink, u"x"_s},
+        {Unlink, {}},
+        {Image, u"x.gif"_s},
+        {InsertTable, QVariantMap{{u"NumRows"_s, 2}, {u"NumCols"_s, 2}}},
+        {InsertRow, {}},
+        {InsertColumn, {}},
+        {InsertCell, {}},
+        {DeleteRows, {}},
+        {DeleteColumns, {}},
+        {DeleteCells, {}},
+        {MergeCells, {}},
+        {SplitCell, {}},
+        {AbsolutePosition, {}},
+        {BringToFront, {}},
+        {SendBelowText, {}},
+        {LockElement, {}},
     };
     const int choice = random.bounded(static_cast<int>(std::size(work)) + 3);
     if (choice < static_cast<int>(std::size(work)))

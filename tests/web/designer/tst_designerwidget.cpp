@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/designerhandles.h"
 #include "designerbench.h"
 #include "support/testregistry.h"
+#include "web/designer/designerhandles.h"
 
 #include <QClipboard>
 #include <QElapsedTimer>
@@ -96,9 +96,10 @@ void TstDesignerWidget::byName()
     QVERIFY(QMetaObject::invokeMethod(widget, "QueryStatus", Q_RETURN_ARG(int, status), Q_ARG(int, 5000)));
     QCOMPARE(status, 3);
     QCOMPARE(widget->property("selectionType").toString(), u"Text"_s);
-    QVERIFY(QMetaObject::invokeMethod(widget, "ExecCommand", Q_RETURN_ARG(QVariant, result), Q_ARG(int, 5044), Q_ARG(int, 2),
-                                      Q_ARG(QVariant, u"Arial"_s)));
-    QVERIFY(QMetaObject::invokeMethod(widget, "ExecCommand", Q_RETURN_ARG(QVariant, result), Q_ARG(int, 5013), Q_ARG(int, 2)));
+    QVERIFY(QMetaObject::invokeMethod(widget, "ExecCommand", Q_RETURN_ARG(QVariant, result), Q_ARG(int, 5044),
+                                      Q_ARG(int, 2), Q_ARG(QVariant, u"Arial"_s)));
+    QVERIFY(QMetaObject::invokeMethod(widget, "ExecCommand", Q_RETURN_ARG(QVariant, result), Q_ARG(int, 5013),
+                                      Q_ARG(int, 2)));
     QCOMPARE(result.toString(), u"Arial"_s);
     QVERIFY(QMetaObject::invokeMethod(widget, "pasteHTML", Q_ARG(QString, u"<b>c</b>"_s)));
     QCOMPARE(widget->property("IsDirty").toBool(), true);
@@ -211,7 +212,9 @@ void TstDesignerWidget::browseMode()
 
 void TstDesignerWidget::looks()
 {
-    const auto outline = [&] { return m_bench->ask(u"getComputedStyle(document.querySelector('td')).outlineStyle"_s).toString(); };
+    const auto outline = [&] {
+        return m_bench->ask(u"getComputedStyle(document.querySelector('td')).outlineStyle"_s).toString();
+    };
     m_bench->designer.setShowBorders(true);
     awaitComplete([&] { m_bench->designer.setDocumentHtml(u"<table><tr><td>a</table>"_s); });
     QCOMPARE(outline(), u"dotted"_s);
@@ -222,8 +225,10 @@ void TstDesignerWidget::looks()
 void TstDesignerWidget::details()
 {
     const auto shown = [&](const QString &selector) {
-        return m_bench->ask(u"[getComputedStyle(document.querySelector('%1')).display, "
-                            "getComputedStyle(document.querySelector('%1'), '::before').content].join()"_s.arg(selector)).toString();
+        return m_bench
+            ->ask(u"[getComputedStyle(document.querySelector('%1')).display, "
+                  "getComputedStyle(document.querySelector('%1'), '::before').content].join()"_s.arg(selector))
+            .toString();
     };
     awaitComplete([&] {
         m_bench->designer.setDocumentHtml(u"<body>x<% a %><!-- c --><script>s</script><form>f</form><a name=n></a>"_s);
@@ -272,8 +277,9 @@ void TstDesignerWidget::everythingUnseenIsShown()
     const QString page = u"<p>a</p>"_s + element;
     m_bench->load(page);
     m_bench->designer.setShowDetails(true);
-    const QString shown = u"(e => [getComputedStyle(e, '::before').content, e.getBoundingClientRect().width > 10].join())"
-                          "(document.body.children[1])"_s;
+    const QString shown =
+        u"(e => [getComputedStyle(e, '::before').content, e.getBoundingClientRect().width > 10].join())"
+        "(document.body.children[1])"_s;
     QCOMPARE(m_bench->ask(shown).toString(), u"\"%1\",true"_s.arg(word));
     m_bench->ask(u"document.body.firstChild.firstChild.appendData('b'); null"_s);
     QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
@@ -322,8 +328,9 @@ void TstDesignerWidget::contextMenu()
     int chosen = -1;
     m_bench->designer.setEvents({.contextMenuAction = [&](int index) { chosen = index; }});
     QSignalSpy signalled(&m_bench->designer, &DesignerWidget::ContextMenuAction);
-    m_bench->designer.setContextMenu({u"Cut"_s, u""_s, u"Bold"_s},
-                                     {DesignerMenuState::Greyed, DesignerMenuState::Unchecked, DesignerMenuState::Checked});
+    m_bench->designer.setContextMenu(
+        {u"Cut"_s, u""_s, u"Bold"_s},
+        {DesignerMenuState::Greyed, DesignerMenuState::Unchecked, DesignerMenuState::Checked});
     const auto *menu = m_bench->designer.findChild<QMenu *>(u"DesignerContextMenu"_s);
     QVERIFY(menu);
     const QList<QAction *> actions = menu->actions();
@@ -340,7 +347,8 @@ void TstDesignerWidget::contextMenu()
 
 void TstDesignerWidget::rightClick()
 {
-    m_bench->show(u"<body style=\"margin:0\"><table style=\"font-size:40px\"><tbody><tr><td>a</td></tr></tbody></table>|"_s);
+    m_bench->show(
+        u"<body style=\"margin:0\"><table style=\"font-size:40px\"><tbody><tr><td>a</td></tr></tbody></table>|"_s);
     int tableStatus = 0;
     QPoint place;
     m_bench->designer.setEvents({.showContextMenu = [&](const QPoint &where) {
@@ -364,9 +372,9 @@ void TstDesignerWidget::pictureIsAskedFor()
     const QString folder = m_bench->folder.path();
     m_bench->designer.setBaseFile(folder + u"/site/page.html"_s);
     m_bench->show(u"<p>a|</p>"_s);
-    m_bench->prompts.expectFile({u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s,
-                                 folder + u"/site"_s},
-                                folder + u"/my pics/1#2.gif"_s);
+    m_bench->prompts.expectFile(
+        {u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s, folder + u"/site"_s},
+        folder + u"/my pics/1#2.gif"_s);
     m_bench->designer.execCommand(DesignerCommand::Image, DesignerPrompting::Default, {});
     QCOMPARE(m_bench->text(), u"<p>a{<img src=\"../my%20pics/1%232.gif\" alt=\"\"></p>"_s);
     m_bench->designer.setBaseFile({});
@@ -377,7 +385,8 @@ void TstDesignerWidget::pictureIsAskedFor()
 void TstDesignerWidget::pictureIsNotChosen()
 {
     m_bench->show(u"<p>a|</p>"_s);
-    m_bench->prompts.expectFile({u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s}, {});
+    m_bench->prompts.expectFile({u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s},
+                                {});
     m_bench->designer.execCommand(DesignerCommand::Image, DesignerPrompting::Default, {});
     QVERIFY(!m_bench->designer.isDirty());
 }
@@ -440,8 +449,8 @@ void TstDesignerWidget::fontDialog()
 void TstDesignerWidget::promptsCanBeForbidden()
 {
     m_bench->show(u"<p>[a]</p>"_s);
-    for (const DesignerCommand command : {DesignerCommand::Image, DesignerCommand::Hyperlink, DesignerCommand::FindText,
-                                          DesignerCommand::Font})
+    for (const DesignerCommand command :
+         {DesignerCommand::Image, DesignerCommand::Hyperlink, DesignerCommand::FindText, DesignerCommand::Font})
         QCOMPARE(m_bench->designer.execCommand(command, DesignerPrompting::DontPromptUser, {}), QVariant());
     QVERIFY(!m_bench->designer.isDirty());
 }
@@ -471,8 +480,8 @@ void TstDesignerWidget::clipboardFromElsewhere_data()
     const auto row = [](const char *name, const QString &html, const QString &text, const QString &page,
                         const QString &expected) { QTest::newRow(name) << html << text << page << expected; };
     row("text", {}, u"<b>  \r\nc"_s, u"<p>x|y</p>"_s, u"<p>x&lt;b&gt; &nbsp;<br>c|y</p>"_s);
-    row("markup with rubbish", u"<meta charset=x><style>p{}</style><!--StartFragment--><i>a</i><!--EndFragment-->"_s, u"a"_s,
-        u"<p>x|y</p>"_s, u"<p>x<i>a</i>|y</p>"_s);
+    row("markup with rubbish", u"<meta charset=x><style>p{}</style><!--StartFragment--><i>a</i><!--EndFragment-->"_s,
+        u"a"_s, u"<p>x|y</p>"_s, u"<p>x<i>a</i>|y</p>"_s);
     row("blocks into a paragraph", u"<p>a</p><p>b</p>"_s, {}, u"<p id=\"i\">x|y</p>"_s,
         u"<p id=\"i\">x</p><p>a</p><p>b</p>|<p>y</p>"_s);
     row("blocks in the place of a selection", u"<ul><li>a</li></ul>"_s, {}, u"<p>[x]</p>"_s, u"<ul><li>a</li></ul>|"_s);
@@ -516,13 +525,13 @@ void TstDesignerWidget::framesets()
 {
     const QString page = u"<html><frameset cols=\"*,*\"><frame src=\"a\"><frame src=\"b\"></frameset></html>"_s;
     awaitComplete([&] { m_bench->designer.setDocumentHtml(page); });
-    for (const DesignerCommand command : {DesignerCommand::Bold, DesignerCommand::SetBlockFormat, DesignerCommand::InsertTable,
-                                          DesignerCommand::Image, DesignerCommand::Delete, DesignerCommand::JustifyCenter,
-                                          DesignerCommand::OrderedList, DesignerCommand::Indent, DesignerCommand::Outdent,
-                                          DesignerCommand::Hyperlink, DesignerCommand::Unlink, DesignerCommand::Font,
-                                          DesignerCommand::GetFontName, DesignerCommand::GetBlockFormat,
-                                          DesignerCommand::SelectAll, DesignerCommand::InsertRow,
-                                          DesignerCommand::AbsolutePosition, DesignerCommand::Undo})
+    for (const DesignerCommand command :
+         {DesignerCommand::Bold, DesignerCommand::SetBlockFormat, DesignerCommand::InsertTable, DesignerCommand::Image,
+          DesignerCommand::Delete, DesignerCommand::JustifyCenter, DesignerCommand::OrderedList,
+          DesignerCommand::Indent, DesignerCommand::Outdent, DesignerCommand::Hyperlink, DesignerCommand::Unlink,
+          DesignerCommand::Font, DesignerCommand::GetFontName, DesignerCommand::GetBlockFormat,
+          DesignerCommand::SelectAll, DesignerCommand::InsertRow, DesignerCommand::AbsolutePosition,
+          DesignerCommand::Undo})
         QCOMPARE(m_bench->designer.queryStatus(command), 1);
     m_bench->designer.pasteHtml(u"<b>x</b>"_s);
     QCOMPARE(m_bench->designer.documentHtml(), page);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/documentkind.h"
 #include "support/testregistry.h"
+#include "web/designer/documentkind.h"
 
 #include <QTest>
 
@@ -15,10 +15,12 @@ private slots:
     void byName_data()
     {
         QTest::addColumn<bool>("isPlain");
-        for (const char *name : {"", "/site/page", "/site/a.htm", "/site/a.HTML", "/site/a.asp", "/site/a.php", "/a.css/b"})
+        for (const char *name :
+             {"", "/site/page", "/site/a.htm", "/site/a.HTML", "/site/a.asp", "/site/a.php", "/a.css/b"})
             QTest::newRow(name) << false;
-        for (const char *name : {"/a.vbs", "/a.js", "/a.java", "/a.xml", "/a.css", "/a.c", "/a.cpp", "/a.h", "/a.pl", "/a.cgi",
-                                 "/a.pas", "/a.bas", "/a.frm", "/a.vbp", "/a.txt", "/a.ini", "/a.log", "/a.sql", "/a.html.TXT"})
+        for (const char *name :
+             {"/a.vbs", "/a.js", "/a.java", "/a.xml", "/a.css", "/a.c", "/a.cpp", "/a.h", "/a.pl", "/a.cgi", "/a.pas",
+              "/a.bas", "/a.frm", "/a.vbp", "/a.txt", "/a.ini", "/a.log", "/a.sql", "/a.html.TXT"})
             QTest::newRow(name) << true;
     }
 

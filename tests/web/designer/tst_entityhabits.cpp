@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/testregistry.h"
 #include "web/designer/entityhabits.h"
 #include "web/designer/entitynames.h"
-#include "support/testregistry.h"
 
 #include <QTest>
 
@@ -58,7 +58,9 @@ private slots:
         QTest::addColumn<QString>("inText");
         QTest::addColumn<QString>("inValue");
         const auto row = [](const char *name, const QString &source, const QString &characters, const QString &inText,
-                            const QString &inValue) { QTest::newRow(name) << source << characters << inText << inValue; };
+                            const QString &inValue) {
+            QTest::newRow(name) << source << characters << inText << inValue;
+        };
         row("what must be spelled", u""_s, u"a & b < c > d \" e"_s, u"a &amp; b &lt; c &gt; d \" e"_s,
             u"a &amp; b < c > d &quot; e"_s);
         row("always a reference", u"caf&eacute;"_s, u"é, è"_s, u"&eacute;, è"_s, u"&eacute;, è"_s);
@@ -95,7 +97,8 @@ private slots:
 
     void engineText()
     {
-        QCOMPARE(readEngineText(u"a &amp;lt; &lt;b&gt; &quot;&nbsp;&eacute; & &"), u"a &lt; <b> \"\u00a0&eacute; & &"_s);
+        QCOMPARE(readEngineText(u"a &amp;lt; &lt;b&gt; &quot;&nbsp;&eacute; & &"),
+                 u"a &lt; <b> \"\u00a0&eacute; & &"_s);
     }
 };
 

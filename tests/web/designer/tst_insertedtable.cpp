@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/insertedtable.h"
 #include "support/testregistry.h"
+#include "web/designer/insertedtable.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/pagescan.h"
 #include "support/testregistry.h"
 #include "support/textgenerator.h"
+#include "web/designer/pagescan.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -105,10 +105,10 @@ private slots:
     /// Pieces follow each other from the first character to the last, whatever the text.
     void leavesNoGaps()
     {
-        const QStringList pieces{u"<"_s,   u">"_s,       u"/"_s,        u"\""_s,  u"'"_s,      u"="_s,    u" "_s,
-                                 u"a"_s,   u"<%"_s,      u"%>"_s,       u"<!--"_s, u"-->"_s,   u"<?php"_s, u"?>"_s,
-                                 u"<cf"_s, u"script"_s,  u"title"_s,    u"<svg"_s, u"<!---"_s, u"--->"_s, u"<!"_s,
-                                 u":"_s,   u"cfscript"_s, u"</"_s,      u"-"_s};
+        const QStringList pieces{u"<"_s,   u">"_s,        u"/"_s,     u"\""_s,   u"'"_s,     u"="_s,     u" "_s,
+                                 u"a"_s,   u"<%"_s,       u"%>"_s,    u"<!--"_s, u"-->"_s,   u"<?php"_s, u"?>"_s,
+                                 u"<cf"_s, u"script"_s,   u"title"_s, u"<svg"_s, u"<!---"_s, u"--->"_s,  u"<!"_s,
+                                 u":"_s,   u"cfscript"_s, u"</"_s,    u"-"_s};
         QRandomGenerator random(1);
         for (int round = 0; round < 20000; ++round) {
             const QString source = generatedText(random, pieces, 30);
@@ -126,9 +126,9 @@ private slots:
     void takesTimeInProportion_data()
     {
         QTest::addColumn<QString>("unit");
-        for (const QString &unit : {u"<"_s, u"<a b=\""_s, u"<!--"_s, u"<!---"_s, u"<?"_s, u"<? "_s, u"<%"_s, u"<script>"_s,
-                                    u"<cfscript>"_s, u"<![CDATA["_s, u"<title"_s, u"</"_s, u"<p <% %>"_s, u"<!-- --!"_s,
-                                    u"<<% %>"_s, u"<svg>"_s, u"&"_s})
+        for (const QString &unit :
+             {u"<"_s, u"<a b=\""_s, u"<!--"_s, u"<!---"_s, u"<?"_s, u"<? "_s, u"<%"_s, u"<script>"_s, u"<cfscript>"_s,
+              u"<![CDATA["_s, u"<title"_s, u"</"_s, u"<p <% %>"_s, u"<!-- --!"_s, u"<<% %>"_s, u"<svg>"_s, u"&"_s})
             QTest::newRow(qPrintable(unit)) << unit;
     }
 

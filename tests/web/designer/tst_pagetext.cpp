@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/pagetext.h"
 #include "support/testregistry.h"
+#include "web/designer/pagetext.h"
 
 #include <QTest>
 
@@ -42,9 +42,8 @@ private slots:
         QTest::addColumn<QString>("source");
         QTest::addColumn<QString>("serialised");
         QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const QString &source, const QString &serialised, const QString &expected) {
-            QTest::newRow(name) << source << serialised << expected;
-        };
+        const auto row = [](const char *name, const QString &source, const QString &serialised,
+                            const QString &expected) { QTest::newRow(name) << source << serialised << expected; };
         row("nothing", u""_s, u"<html><head></head><body></body></html>"_s,
             u"<html>\r\n<head></head>\r\n<body>\r\n</body>\r\n</html>\r\n"_s);
         row("ends to the letter",
@@ -65,11 +64,13 @@ private slots:
             u"<html><head></head><frameset cols=\"*,*\"><frame noresize=\"\"></frameset></html>"_s,
             u"<html>\r\n<head></head>\r\n<frameset cols=\"*,*\"><frame noresize></frameset></html>\r\n"_s);
         row("text without an end", u"<p>x<plaintext>y"_s,
-            u"<html><head></head><body><p>x</p><plaintext>y</b></plaintext></body></html>"_s, u"<p>x</p><plaintext>y</b>"_s);
+            u"<html><head></head><body><p>x</p><plaintext>y</b></plaintext></body></html>"_s,
+            u"<p>x</p><plaintext>y</b>"_s);
         row("more behind a text without an end", u"<plaintext>y"_s,
-            u"<html><head></head><body><plaintext>y</plaintext>z</body></html>"_s, u"<plaintext>y</plaintext>z</body></html>"_s);
-        row("an end that nobody closed", u"<html><body>x<% y"_s, u"<html><head></head><body>x<!--zsx0s--></body></html>"_s,
-            u"<html>\r\n<head></head>\r\n<body>x<% y"_s);
+            u"<html><head></head><body><plaintext>y</plaintext>z</body></html>"_s,
+            u"<plaintext>y</plaintext>z</body></html>"_s);
+        row("an end that nobody closed", u"<html><body>x<% y"_s,
+            u"<html><head></head><body>x<!--zsx0s--></body></html>"_s, u"<html>\r\n<head></head>\r\n<body>x<% y"_s);
         row("an end that nobody closed and that moved", u"<html><body>x<% y"_s,
             u"<html><head></head><body><!--zsx0s-->x</body></html>"_s,
             u"<html>\r\n<head></head>\r\n<body><% yx\r\n</body>\r\n</html>\r\n"_s);
@@ -78,15 +79,17 @@ private slots:
         row("lonely words", u"x"_s,
             u"<html><head></head><body><input checked=\"\" value=\"\" disabled=\"\"></body></html>"_s,
             u"<input checked value=\"\" disabled>"_s);
-        row("lines for blocks", u"x"_s, u"<html><head></head><body><p>a</p><p>b</p><hr><ul><li>c</li></ul><i>d</i></body></html>"_s,
+        row("lines for blocks", u"x"_s,
+            u"<html><head></head><body><p>a</p><p>b</p><hr><ul><li>c</li></ul><i>d</i></body></html>"_s,
             u"<p>a</p>\r\n<p>b</p>\r\n<hr>\r\n<ul><li>c</li></ul><i>d</i>"_s);
         row("a first line end that would be lost", u"x"_s,
-            u"<html><head></head><body><pre>\na</pre><pre>b</pre></body></html>"_s, u"<pre>\r\n\r\na</pre>\r\n<pre>b</pre>"_s);
+            u"<html><head></head><body><pre>\na</pre><pre>b</pre></body></html>"_s,
+            u"<pre>\r\n\r\na</pre>\r\n<pre>b</pre>"_s);
         row("references", u"&eacute; <a title=\"&uuml;\">"_s,
             u"<html><head></head><body>é ü <a title=\"é ü\"></a></body></html>"_s,
             u"&eacute; ü <a title=\"é &uuml;\"></a>"_s);
-        row("scripts aren't spelled", u"&eacute;"_s, u"<html><head></head><body><script>é && \"<\"</script></body></html>"_s,
-            u"<script>é && \"<\"</script>"_s);
+        row("scripts aren't spelled", u"&eacute;"_s,
+            u"<html><head></head><body><script>é && \"<\"</script></body></html>"_s, u"<script>é && \"<\"</script>"_s);
         row("marks", u"<td <% a %>><% b %><!-- c -->"_s,
             u"<html><head></head><body><zephira-mark mark=\"zsx1s\"></zephira-mark><p zsx0a=\"\"><!--zsx2c--></p></body></html>"_s,
             u"<% b %><p <% a %>><!-- c --></p>"_s);
@@ -106,7 +109,8 @@ private slots:
     {
         PageText page(u"x<% a %>"_s, u"zs"_s);
         QCOMPARE(page.fragmentForEngine(u"<b><%= c %></b>"_s), u"<b><!--zsx1s--></b>"_s);
-        QCOMPARE(page.fragmentFromEngine(u"<zephira-mark mark=\"zsx1s\"></zephira-mark> &amp; é"_s), u"<%= c %> &amp; é"_s);
+        QCOMPARE(page.fragmentFromEngine(u"<zephira-mark mark=\"zsx1s\"></zephira-mark> &amp; é"_s),
+                 u"<%= c %> &amp; é"_s);
     }
 };
 

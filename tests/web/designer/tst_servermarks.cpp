@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/servermarks.h"
 #include "support/testregistry.h"
 #include "support/textgenerator.h"
+#include "web/designer/servermarks.h"
 
 #include <QTest>
 
@@ -73,9 +73,10 @@ private slots:
 
     void anyTextComesBack()
     {
-        const QStringList pieces{u"<"_s,    u">"_s,   u"/"_s,   u"\""_s,   u"="_s,     u" "_s,     u"a"_s,
-                                 u"<%"_s,   u"%>"_s,  u"<!--"_s, u"-->"_s, u"<?php "_s, u"?>"_s,   u"<cfif"_s,
-                                 u"<td "_s, u"<a b="_s, u"<script>"_s, u"</script>"_s, u"<title>"_s, u"</title>"_s};
+        const QStringList pieces{u"<"_s,     u">"_s,        u"/"_s,         u"\""_s,      u"="_s,
+                                 u" "_s,     u"a"_s,        u"<%"_s,        u"%>"_s,      u"<!--"_s,
+                                 u"-->"_s,   u"<?php "_s,   u"?>"_s,        u"<cfif"_s,   u"<td "_s,
+                                 u"<a b="_s, u"<script>"_s, u"</script>"_s, u"<title>"_s, u"</title>"_s};
         QRandomGenerator random(2);
         for (int round = 0; round < 20000; ++round) {
             const QString source = generatedText(random, pieces, 30);
