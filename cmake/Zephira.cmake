@@ -20,6 +20,7 @@ target_compile_options(zephira_rules INTERFACE
   $<$<AND:$<NOT:$<CONFIG:Debug>>,$<NOT:$<BOOL:${ZEPHIRA_SANITIZE}>>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>)
 target_compile_definitions(zephira_rules INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS
+  QT_NO_KEYWORDS QT_NO_FOREACH
   ZEPHIRA_VERSION="${PROJECT_VERSION}")
 target_include_directories(zephira_rules INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_link_options(zephira_rules INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--as-needed)
@@ -32,12 +33,26 @@ endif()
 include(CheckPIESupported)
 check_pie_supported()
 
+# Two precompiled headers serve the whole tree, one for what links Qt6::Core alone and one for widgets: each is larger than
+# all objects together.
+foreach(kind IN ITEMS Core Widgets)
+  string(TOLOWER ${kind} header)
+  add_library(zephira_${header}_precompiled OBJECT ${CMAKE_SOURCE_DIR}/cmake/precompiled.cpp)
+  target_link_libraries(zephira_${header}_precompiled PUBLIC zephira_rules Qt6::${kind})
+  target_precompile_headers(zephira_${header}_precompiled PRIVATE ${CMAKE_SOURCE_DIR}/cmake/${header}.pch.h)
+endforeach()
+# zephira_precompiled(TARGET core|widgets): compiles the target with one of them.
+function(zephira_precompiled target header)
+  target_precompile_headers(${target} REUSE_FROM zephira_${header}_precompiled)
+endfunction()
+
 # zephira_logic(NAME SOURCES ... [LINK ...]): text rules, parsers, writers, state machines. Links Qt6::Core alone.
 function(zephira_logic name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PUBLIC zephira_rules Qt6::Core ${ARG_LINK})
+  zephira_precompiled(${name} core)
 endfunction()
 
 # zephira_forms(NAME SOURCES ... [UI ...] [LINK ...]): forms and widgets. The .ui files go through qt6_wrap_ui because
@@ -51,7 +66,7 @@ function(zephira_forms name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
   target_link_libraries(${name} PUBLIC zephira_rules Qt6::Widgets ${ARG_LINK})
-  target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/widgets.pch.h)
+  zephira_precompiled(${name} widgets)
 endfunction()
 
 # zephira_tests(NAME SOURCES ... CLASSES ... [LINK ...] [FORMS | WEB] [LABELS ...]): one program for a folder and kind; each
@@ -67,11 +82,13 @@ function(zephira_tests name)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_CURRENT_BINARY_DIR})
   if(ARG_WEB)
     target_link_libraries(${name} PRIVATE zephira_test_web ${ARG_LINK})
+    zephira_precompiled(${name} widgets)
   elseif(ARG_FORMS)
     target_link_libraries(${name} PRIVATE zephira_test_forms ${ARG_LINK})
-    target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/widgets.pch.h)
+    zephira_precompiled(${name} widgets)
   else()
     target_link_libraries(${name} PRIVATE zephira_test_logic ${ARG_LINK})
+    zephira_precompiled(${name} core)
   endif()
   foreach(class IN LISTS ARG_CLASSES)
     set(test ${ZEPHIRA_TEST_PREFIX}${name}.${class})

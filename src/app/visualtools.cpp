@@ -29,7 +29,7 @@ void VisualTools::connectDesigner()
                                   .displayChanged =
                                       [this] {
                                           showState();
-                                          emit displayChanged();
+                                          Q_EMIT displayChanged();
                                       },
                                   .showContextMenu = [this](const QPoint &) { m_contextMenu.show(); },
                                   .contextMenuAction = [this](int index) { m_contextMenu.run(index); }});
@@ -40,21 +40,21 @@ void VisualTools::connectBar()
     connect(&m_bar, &DesignerBar::buttonClicked, this, [this](const QString &key) {
         m_tools.clickButton(key);
         showState(); // The click has turned the button over, whatever became of the command.
-        emit finished();
+        Q_EMIT finished();
     });
     connect(&m_bar, &DesignerBar::fontChosen, this, [this](const QString &name) {
         m_tools.chooseFont(name);
-        emit finished();
+        Q_EMIT finished();
     });
     connect(&m_bar, &DesignerBar::fontSizeChosen, this, [this](int size) {
         m_tools.chooseFontSize(size);
-        emit finished();
+        Q_EMIT finished();
     });
     connect(&m_bar, &DesignerBar::fontSizeTyped, this, [this](const QString &text) {
         if (const std::optional<QString> before = m_tools.enterFontSize(text))
             m_bar.showFontSize(*before);
         else
-            emit finished();
+            Q_EMIT finished();
     });
 }
 

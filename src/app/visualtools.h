@@ -23,7 +23,7 @@ public:
 
     bool designerReady() const { return m_tools.designerReady(); }
 
-signals:
+Q_SIGNALS:
     /// A command of the toolbar is done: the keyboard belongs to the page again.
     void finished();
     /// Something happened in the page, which may be a change.

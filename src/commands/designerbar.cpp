@@ -37,12 +37,12 @@ DesignerBar::DesignerBar(QWidget *parent) : QToolBar(u"Visual designer"_s, paren
     m_font = addBox(u"FontCombo"_s, u"Font"_s);
     m_size = addBox(u"FontSizeCombo"_s, u"Font size"_s);
     connect(m_font, &QComboBox::textActivated, this, &DesignerBar::fontChosen);
-    connect(m_size, &QComboBox::activated, this, [this](int row) { emit fontSizeChosen(row + 1); });
+    connect(m_size, &QComboBox::activated, this, [this](int row) { Q_EMIT fontSizeChosen(row + 1); });
     for (const DesignerButton &button : designerButtons()) {
         QAction *action = addAction(button.tip.toString());
         action->setObjectName(button.key);
         action->setCheckable(true);
-        connect(action, &QAction::triggered, this, [this, &button] { emit buttonClicked(button.key.toString()); });
+        connect(action, &QAction::triggered, this, [this, &button] { Q_EMIT buttonClicked(button.key.toString()); });
     }
     m_reset = new QPushButton(u"Reset"_s, this);
     m_reset->setObjectName(u"Command1"_s);
@@ -114,9 +114,9 @@ bool DesignerBar::eventFilter(QObject *watched, QEvent *event)
     if (key != Qt::Key_Return && key != Qt::Key_Enter)
         return QToolBar::eventFilter(watched, event);
     if (watched == m_font->lineEdit())
-        emit fontChosen(m_font->currentText());
+        Q_EMIT fontChosen(m_font->currentText());
     else
-        emit fontSizeTyped(m_size->currentText());
+        Q_EMIT fontSizeTyped(m_size->currentText());
     return true;
 }
 

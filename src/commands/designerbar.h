@@ -27,7 +27,7 @@ public:
     void showState(const DesignerBarState &state);
     void showFontSize(const QString &text);
 
-signals:
+Q_SIGNALS:
     void buttonClicked(const QString &key);
     /// A name was chosen from the list, or typed.
     void fontChosen(const QString &name);

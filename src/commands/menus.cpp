@@ -105,7 +105,7 @@ void Menus::addEntry(QMenu *menu, const MenuItem &item)
         // The check mark is the command's to set: undo what the click did to it.
         if (entry->isCheckable())
             entry->setChecked(!entry->isChecked());
-        emit triggered(entry->objectName());
+        Q_EMIT triggered(entry->objectName());
     });
 }
 

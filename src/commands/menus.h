@@ -32,7 +32,7 @@ public:
     /// Disables the entries whose form can't be opened yet and says so in their tool tips.
     void applyAvailability(const FormOpener &forms);
 
-signals:
+Q_SIGNALS:
     /// An entry was chosen, by mouse, key or shortcut. Its check mark stands as before: the command sets it.
     void triggered(const QString &name);
 

@@ -114,7 +114,7 @@ Palette::Palette(QWidget *parent) : QWidget(parent), m_tabs(new QTabBar(this))
     connect(m_tabs, &QTabBar::tabBarClicked, this, [this](int index) {
         // A change of the tab reports itself.
         if (index == m_tabs->currentIndex())
-            emit tabClicked(index);
+            Q_EMIT tabClicked(index);
     });
 }
 
@@ -134,7 +134,7 @@ void Palette::fill(int index)
             addHeadings(action);
         else
             connect(action, &QAction::triggered, this,
-                    [this, index, key = tag.key, position] { emit clicked(index, key.toString(), position); });
+                    [this, index, key = tag.key, position] { Q_EMIT clicked(index, key.toString(), position); });
     }
 }
 
@@ -144,7 +144,7 @@ void Palette::addHeadings(QAction *button)
     for (int size = 1; size <= 6; ++size) {
         QAction *entry = menu->addAction(u"Heading &%1"_s.arg(size));
         entry->setObjectName(u"H%1"_s.arg(size));
-        connect(entry, &QAction::triggered, this, [this, size] { emit headingClicked(size); });
+        connect(entry, &QAction::triggered, this, [this, size] { Q_EMIT headingClicked(size); });
     }
     button->setMenu(menu);
 }
@@ -155,7 +155,7 @@ void Palette::showToolbar(int index)
     m_bars[static_cast<std::size_t>(index)]->setMinimumHeight(m_bars[0]->sizeHint().height());
     for (std::size_t i = 0; i < m_bars.size(); ++i)
         m_bars[i]->setVisible(static_cast<int>(i) == index);
-    emit tabClicked(index);
+    Q_EMIT tabClicked(index);
 }
 
 QToolBar *Palette::toolBar(int index) const

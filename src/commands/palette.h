@@ -39,7 +39,7 @@ public:
     /// Disables what needs a form that can't be opened yet and says so in its tool tip.
     void applyAvailability(const FormOpener &forms);
 
-signals:
+Q_SIGNALS:
     /// `key` is empty where buttons are known by `position`, which counts from 1, separators included.
     void clicked(int index, const QString &key, int position);
     void headingClicked(int size);

@@ -43,7 +43,7 @@ void CommandToolBar::addButton(const ToolButton &button)
     addAction(action);
     QToolButton *toolButton = qobject_cast<QToolButton *>(widgetForAction(action));
     toolButton->setAccessibleName(action->text());
-    connect(action, &QAction::triggered, this, [this, key] { emit buttonClicked(key); });
+    connect(action, &QAction::triggered, this, [this, key] { Q_EMIT buttonClicked(key); });
     if (button.pullDown.empty())
         return;
 
@@ -54,7 +54,7 @@ void CommandToolBar::addButton(const ToolButton &button)
         QAction *entry = menu->addAction(row.caption.toString());
         entry->setObjectName(entryKey);
         entry->setStatusTip(row.statusTip.toString());
-        connect(entry, &QAction::triggered, this, [this, entryKey] { emit pullDownClicked(entryKey); });
+        connect(entry, &QAction::triggered, this, [this, entryKey] { Q_EMIT pullDownClicked(entryKey); });
         connect(menu, &QMenu::aboutToShow, entry, [entry, icon = row.icon] {
             if (entry->icon().isNull())
                 entry->setIcon(iconFor(icon));

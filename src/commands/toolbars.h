@@ -33,7 +33,7 @@ public:
     /// The same for one button or pull-down entry, and for the button of a pull-down of which nothing is left.
     void close(const QString &key);
 
-signals:
+Q_SIGNALS:
     void buttonClicked(const QString &key);
     void pullDownClicked(const QString &key);
 

@@ -178,7 +178,7 @@ void CodeMax::endAction()
     const bool changed = std::exchange(m_changed, false);
     if (changed) {
         showStrikethrough();
-        emit Change();
+        Q_EMIT Change();
     }
     // A slot may do anything, even close the window.
     if (alive && m_actions == 0) {
@@ -207,7 +207,7 @@ void CodeMax::noteSelection()
         QAccessibleTextCursorEvent moved(this, caret);
         tell(moved);
     }
-    emit SelChange();
+    Q_EMIT SelChange();
 }
 
 bool CodeMax::isListenedTo() const
@@ -396,7 +396,7 @@ void CodeMax::setOvertype(bool on)
         return;
     m_overtype = on;
     m_engine.send(SCI_SETCARETSTYLE, on ? CARETSTYLE_BLOCK : CARETSTYLE_LINE);
-    emit OvertypeChanged(on);
+    Q_EMIT OvertypeChanged(on);
 }
 
 EditorSearch &CodeMax::search()

@@ -7,7 +7,7 @@
 #include "files/documentfile.h"
 #include "files/textfile.h"
 
-#include <Qsci/qsciscintillabase.h>
+#include "editor/qsci.h"
 
 #include <QFont>
 #include <QPointer>
@@ -194,7 +194,7 @@ public:
         endAction();
     }
 
-signals:
+Q_SIGNALS:
     /// The text has changed; once for each write to Text or SelText, within the call, and once for each of the user's actions.
     void Change();
     /// The selection or the caret has moved.

@@ -227,7 +227,7 @@ void CodeMax::contextMenuEvent(QContextMenuEvent *event)
     const QPointer<CodeMax> alive(this);
     const QPoint at = event->globalPos();
     bool handled = false;
-    emit RClick(&handled);
+    Q_EMIT RClick(&handled);
     if (alive && !handled)
         showContextMenu(at);
 }

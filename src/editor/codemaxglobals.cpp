@@ -19,7 +19,7 @@ CodeMaxGlobals::CodeMaxGlobals(QObject *parent) : QObject(parent)
 void CodeMaxGlobals::RegisterLanguage(const QString &name, const CodeMaxLanguage &language)
 {
     m_languages.RegisterLanguage(name, language);
-    emit languageRegistered(name);
+    Q_EMIT languageRegistered(name);
 }
 
 int CodeMaxGlobals::hotKeyCount(int command) const

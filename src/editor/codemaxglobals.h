@@ -41,7 +41,7 @@ public:
     /// What a key combination runs. The keypad's keys count as the others.
     std::optional<int> commandFor(QKeyCombination keys) const;
 
-signals:
+Q_SIGNALS:
     void languageRegistered(const QString &name);
 
 private:

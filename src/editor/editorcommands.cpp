@@ -3,7 +3,7 @@
 
 #include "core/editingcontrol.h"
 
-#include <Qsci/qsciscintillabase.h>
+#include "editor/qsci.h"
 
 #include <array>
 

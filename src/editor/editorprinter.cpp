@@ -4,8 +4,7 @@
 #include "editor/codemax.h"
 #include "editor/idlecolouring.h"
 #include "editor/indicators.h"
-
-#include <Qsci/qsciprinter.h>
+#include "editor/qsci.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

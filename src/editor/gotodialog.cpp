@@ -36,7 +36,7 @@ void GoToDialog::accept()
         return;
     }
     QDialog::accept();
-    emit chosen(line);
+    Q_EMIT chosen(line);
 }
 
 } // namespace zephira

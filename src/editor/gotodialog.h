@@ -23,7 +23,7 @@ public:
     void ask(int currentLine, int lineCount);
     void accept() override;
 
-signals:
+Q_SIGNALS:
     /// A 1-based line number within the range.
     void chosen(int line);
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <Qsci/qsciscintillabase.h>
+#include "editor/qsci.h"
 
 #include <QByteArrayView>
 

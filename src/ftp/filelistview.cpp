@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMetaProperty>
 #include <QStyledItemDelegate>
 
 #include <algorithm>

@@ -40,7 +40,7 @@ public:
     void setHome(const QString &address, FileKind kind = FileKind::ByName) override;
     void onNavigateComplete(std::function<void()> handler) override;
 
-signals:
+Q_SIGNALS:
     void NavigateComplete();
 
 private:

@@ -69,9 +69,9 @@ SizeSquare *SizePicker::addSquare(int row, int column, int pixels)
     square->setCursor(Qt::ArrowCursor);
     square->setAccessibleName(tr("%1 rows, %2 columns").arg(row).arg(column));
     square->setToolTip(square->accessibleName());
-    connect(square, &SizeSquare::clicked, this, [this, row, column] { emit picked(row, column); });
+    connect(square, &SizeSquare::clicked, this, [this, row, column] { Q_EMIT picked(row, column); });
     connect(square, &SizeSquare::stepped, this, [this, row, column](int rows, int columns) {
-        emit picked(qBound(1, row + rows, sideLength), qBound(1, column + columns, sideLength));
+        Q_EMIT picked(qBound(1, row + rows, sideLength), qBound(1, column + columns, sideLength));
     });
     return square;
 }

@@ -26,7 +26,7 @@ public:
     /// Paints the squares of that size in the highlight colour; leaves the others.
     void highlight(int rows, int columns);
 
-signals:
+Q_SIGNALS:
     void picked(int rows, int columns);
 
 private:

@@ -43,7 +43,7 @@ void SizeSquare::keyPressEvent(QKeyEvent *event)
     if (step == std::end(steps))
         QAbstractButton::keyPressEvent(event);
     else
-        emit stepped(step->rows, step->columns);
+        Q_EMIT stepped(step->rows, step->columns);
 }
 
 void SizeSquare::paintEvent(QPaintEvent *)

@@ -17,7 +17,7 @@ public:
     bool isHighlighted() const { return backgroundRole() == QPalette::Highlight; }
     void setHighlighted(bool highlighted);
 
-signals:
+Q_SIGNALS:
     /// An arrow key was pressed; each step is -1, 0 or 1.
     void stepped(int rows, int columns);
 

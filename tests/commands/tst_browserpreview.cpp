@@ -35,7 +35,7 @@ class TstBrowserPreview : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void namedBrowser();
     void blanksDivideThePath();
     void noPreviewWithoutSaving();

@@ -77,7 +77,7 @@ class TstCommandIcons : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void cleanup() { QGuiApplication::setPalette(QPalette()); }
 
     void everyNamedIconExists_data();

@@ -23,7 +23,7 @@ class TstCommandRouter : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void windowCommands_data();
     void windowCommands();
     void editMenu_data();

@@ -17,7 +17,7 @@ class TstCommandTables : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void namesAreUnique();
     void shortcutsAreUnique();
     void paletteButtons();

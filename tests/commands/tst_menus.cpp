@@ -53,7 +53,7 @@ class TstMenus : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void tree();
     void popups();
     void everyNameIsFoundOnce();
@@ -337,7 +337,7 @@ void TstMenus::iconsComeWithTheFirstOpening()
     Window w;
     QMenu *menu = w.menus.menu(u"edit"_s);
     QVERIFY(w.menus.action(u"undo"_s)->icon().isNull());
-    emit menu->aboutToShow();
+    Q_EMIT menu->aboutToShow();
     QVERIFY(!w.menus.action(u"undo"_s)->icon().isNull());
     QVERIFY(w.menus.action(u"save"_s)->icon().isNull());
 }

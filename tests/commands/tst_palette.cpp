@@ -21,7 +21,7 @@ class TstPalette : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { m_theme = std::make_unique<IconTheme>(*qGuiApp); }
     void cleanupTestCase() { m_theme.reset(); }
 

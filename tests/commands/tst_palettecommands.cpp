@@ -21,7 +21,7 @@ class TstPaletteCommands : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void formButtons_data();
     void formButtons();
     void refusals_data();

@@ -191,7 +191,7 @@ class TstQuickTags : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void paletteInCodeView_data();
     void paletteInCodeView();
     void paletteInVisualMode_data() { paletteInCodeView_data(); }

@@ -45,7 +45,7 @@ class TstSourceFormatting final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theWholeTextIsReplacedOnce_data()
     {
         QTest::addColumn<bool>("visual");

@@ -17,7 +17,7 @@ class TstToolBars : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void standard();
     void formatting();
     void buttonsReportTheirKeys();

@@ -14,7 +14,7 @@ class TstRelativePath : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void reference_data()
     {
         QTest::addColumn<QString>("base");

@@ -36,7 +36,7 @@ class TstVbText : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void mid_data()
     {
         QTest::addColumn<QString>("text");

@@ -16,7 +16,7 @@ class TstModule final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aModuleIsLoadedOnce()
     {
         const Result<PageFetcher *> fetcher = loadModuleAs<PageFetcher>(QStringLiteral(ZEPHIRA_FETCH_MODULE));

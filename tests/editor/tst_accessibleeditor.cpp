@@ -38,7 +38,7 @@ class TstAccessibleEditor : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void roleNameAndState()
     {
         EditorFixture f;

@@ -13,7 +13,7 @@ class TstBraceMatcher : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void pairs_data()
     {
         QTest::addColumn<QString>("language");

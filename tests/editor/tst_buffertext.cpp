@@ -12,7 +12,7 @@ class TstBufferText : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void textOfTheBuffer_data()
     {
         QTest::addColumn<QByteArray>("buffer");

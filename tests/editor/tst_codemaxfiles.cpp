@@ -30,7 +30,7 @@ class TstCodeMaxFiles : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void formats_data()
     {
         QTest::addColumn<QByteArray>("bytes");

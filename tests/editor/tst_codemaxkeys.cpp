@@ -23,7 +23,7 @@ class TstCodeMaxKeys : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void commandsThatAMenuReplacesLoseTheirKeys_data()
     {
         QTest::addColumn<int>("command");

@@ -42,7 +42,7 @@ class TstCodeMaxLooks : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyColourReadsBackExactly()
     {
         EditorFixture f;

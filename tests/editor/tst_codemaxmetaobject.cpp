@@ -15,7 +15,7 @@ class TstCodeMaxMetaObject : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void properties_data()
     {
         QTest::addColumn<QByteArray>("name");

@@ -15,7 +15,7 @@ class TstCodeMaxText : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aNewDocumentIsEmpty()
     {
         EditorFixture f;

@@ -16,7 +16,7 @@ class TstEditorPrinter : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theWholeTextIsPrinted_data()
     {
         QTest::addColumn<int>("lines");

@@ -54,7 +54,7 @@ class TstFindDialog : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void twoShapes()
     {
         EditorFixture f;

@@ -14,7 +14,7 @@ class TstGoToDialog : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aLineIsChosen()
     {
         EditorFixture f;

@@ -47,7 +47,7 @@ class TstIdleColouring : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void onlyWhatShowsIsColoured()
     {
         EditorFixture f;

@@ -48,7 +48,7 @@ class TstPropertiesDialog : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theListNamesEveryItem()
     {
         EditorFixture f;
@@ -104,7 +104,7 @@ private slots:
         QCOMPARE(styles.isEnabled(), style >= 0);
         if (style >= 0) {
             styles.setCurrentIndex(3);
-            emit styles.activated(3);
+            Q_EMIT styles.activated(3);
         }
         // The preview has it at once, the control with OK.
         QCOMPARE(d.preview().color(foreground), 0x0000ffu);

@@ -22,7 +22,7 @@ class TstTextSearch : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void allMatches_data()
     {
         QTest::addColumn<QString>("text");

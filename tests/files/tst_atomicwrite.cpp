@@ -70,7 +70,7 @@ class TstAtomicWrite : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void joinsPieces()
     {
         const QTemporaryDir folder;

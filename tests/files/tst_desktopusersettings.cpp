@@ -19,7 +19,7 @@ class TstDesktopUserSettings : public QObject
     QTemporaryDir m_folder;
     DesktopUserSettings m_settings;
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path()); }
 
     void fallbackWhereNothingIsStored()

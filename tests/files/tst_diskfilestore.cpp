@@ -63,7 +63,7 @@ class TstDiskFileStore : public QObject
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
     }
 
-private slots:
+private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
     void reads_data()

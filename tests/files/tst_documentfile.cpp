@@ -79,7 +79,7 @@ class TstDocumentFile : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void roundTrip_data()
     {
         QTest::addColumn<QByteArray>("bytes");

@@ -38,7 +38,7 @@ class TstIniConfiguration : public QObject
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
     }
 
-private slots:
+private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
     void sectionInAnySpelling_data()

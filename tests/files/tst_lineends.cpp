@@ -14,7 +14,7 @@ class TstLineEnds : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void kind_data()
     {
         QTest::addColumn<QByteArray>("text");

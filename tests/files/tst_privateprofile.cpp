@@ -14,7 +14,7 @@ class TstPrivateProfile : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void reading_data()
     {
         QTest::addColumn<QByteArray>("profile");

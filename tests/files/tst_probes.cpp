@@ -57,7 +57,7 @@ class TstProbes : public QObject
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
     }
 
-private slots:
+private Q_SLOTS:
     void saveProbeCopiesEveryByte()
     {
         const QByteArray bytes("\xFF\xFE odd \r\n\0\x81\n", 13);

@@ -55,7 +55,7 @@ class TstRecoveryCopies : public QObject
         return copies.write(title, {&text, 1});
     }
 
-private slots:
+private Q_SLOTS:
     void init()
     {
         m_parent = std::make_unique<QTemporaryDir>();

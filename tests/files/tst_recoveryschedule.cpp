@@ -13,7 +13,7 @@ class TstRecoverySchedule : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void quietDocumentIsNeverDue()
     {
         const RecoverySchedule schedule;

@@ -44,7 +44,7 @@ class TstTextFile : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void decoding_data()
     {
         QTest::addColumn<QByteArray>("bytes");

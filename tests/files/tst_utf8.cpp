@@ -12,7 +12,7 @@ class TstUtf8 : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void validity_data()
     {
         QTest::addColumn<QByteArray>("bytes");

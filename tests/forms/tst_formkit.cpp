@@ -63,7 +63,7 @@ class TstFormKit final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void drivesByName()
     {
         TestContext world;

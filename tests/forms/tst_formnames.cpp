@@ -15,7 +15,7 @@ class TstFormNames final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void drawn_data() { addForms(); }
     void drawn()
     {

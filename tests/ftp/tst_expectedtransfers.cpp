@@ -61,7 +61,7 @@ class TstExpectedTransfers final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void nextPortIsAskedForAtTheEnd()
     {
         std::counting_semaphore asked(0);

@@ -36,7 +36,7 @@ class TstFolderListing final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void list_data()
     {
         QTest::addColumn<QByteArray>("listing");

@@ -62,7 +62,7 @@ class TstFrmProg : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void queueIsShown_data();
     void queueIsShown();
     void nothingMovesBeforeTheStart();

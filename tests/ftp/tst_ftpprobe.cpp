@@ -49,7 +49,7 @@ class TstFtpProbe final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void bothWays()
     {
         const FtpServer server(FtpServer::Kind::Vsftpd);

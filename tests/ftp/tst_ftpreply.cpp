@@ -34,7 +34,7 @@ class TstFtpReply final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void reading_data()
     {
         QTest::addColumn<QByteArray>("lines");

@@ -67,7 +67,7 @@ class TstMisbehavingServer final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void loginFails_data()
     {
         QTest::addColumn<QByteArray>("command");

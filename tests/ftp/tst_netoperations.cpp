@@ -33,7 +33,7 @@ class TstNetOperations final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase()
     {
         m_servers[0] = std::make_unique<FtpServer>(FtpServer::Kind::Vsftpd);

@@ -15,7 +15,7 @@ class TstRemoteNames final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void safeNames_data()
     {
         QTest::addColumn<QString>("name");

@@ -19,7 +19,7 @@ class TstSentNames final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void texts_data()
     {
         QTest::addColumn<QString>("text");

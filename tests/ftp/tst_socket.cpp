@@ -32,7 +32,7 @@ class TstSocket final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void addresses_data()
     {
         QTest::addColumn<QString>("host");

@@ -100,7 +100,7 @@ class TstTransferEngine : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void download_data();
     void download();
     void upload_data();

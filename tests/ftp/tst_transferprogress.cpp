@@ -13,7 +13,7 @@ class TstTransferProgress : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void amounts_data();
     void amounts();
     void rateIsAveragedWithTheValueBefore();

@@ -21,7 +21,7 @@ class TstLayers final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void sourcesKeepTheRules()
     {
         const QString root = QStringLiteral(ZEPHIRA_SOURCE_DIR "/src");

@@ -86,7 +86,7 @@ class TstOutline final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void fixedNodes()
     {
         QStringList lines;

@@ -56,7 +56,7 @@ class TstOutlineTree final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void anEmptyDocument()
     {
         OutlineTree tree;

@@ -12,7 +12,7 @@ class TstTagPlace final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void find_data()
     {
         QTest::addColumn<QString>("text");

@@ -12,7 +12,7 @@ class TstFakes final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void promptsAnswerInOrder()
     {
         ScriptedPrompts prompts;

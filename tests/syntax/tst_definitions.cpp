@@ -34,7 +34,7 @@ class TstDefinitions : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void perl();
     void perlHas166KeywordsAndTheDollarSign();
     void wordListsTakeAnyBlanks();

@@ -14,7 +14,7 @@ class TstDescribeStyles : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void runs_data();
     void runs();
     void unknownLanguages();

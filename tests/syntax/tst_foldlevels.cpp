@@ -37,7 +37,7 @@ class TstFoldLevels : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void folds_data();
     void folds();
     void resumesAtAnyLine_data();

@@ -14,7 +14,7 @@ class TstLanguageRegistry : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void builtInNames();
     void caseMakesNoDifference_data();
     void caseMakesNoDifference();

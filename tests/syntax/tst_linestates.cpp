@@ -64,7 +64,7 @@ class TstLineStates : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void lineStartsAreReported_data();
     void lineStartsAreReported();
     void theSinkEndsTheRun();

@@ -12,7 +12,7 @@ class TstNumbers : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void plain_data();
     void plain() { check(numberEnd); }
     void withSign_data();

@@ -24,7 +24,7 @@ class TstOwnLanguages : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void procedural_data();
     void procedural();
     void tagAware_data();

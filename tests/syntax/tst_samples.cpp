@@ -27,7 +27,7 @@ class TstSyntaxSamples : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void sample_data();
     void sample();
     void crLfChangesNothing_data() { sample_data(); }

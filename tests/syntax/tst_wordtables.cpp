@@ -13,7 +13,7 @@ class TstWordTables : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void anEmptyTableFindsNothing();
     void words();
     void wordsWithoutRegardToCase();

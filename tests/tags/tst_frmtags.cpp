@@ -44,7 +44,7 @@ class TstFrmTags final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theLastRowStandsFirst()
     {
         const Palette palette;

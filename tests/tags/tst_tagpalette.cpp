@@ -12,7 +12,7 @@ class TstTagPalette final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void rowsInTheirOrder()
     {
         QStringList rows;

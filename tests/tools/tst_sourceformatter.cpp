@@ -43,7 +43,7 @@ class TstSourceFormatter final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void replaceAll_data()
     {
         QTest::addColumn<QString>("text");

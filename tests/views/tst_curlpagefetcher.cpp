@@ -14,7 +14,7 @@ class TstCurlPageFetcher final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void fetches_data()
     {
         QTest::addColumn<QByteArray>("headers");

@@ -37,7 +37,7 @@ class TstDesignerMenus final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void tableFollowsTheStatuses()
     {
         FakeDesigner designer;

@@ -34,7 +34,7 @@ class TstDesignerTools final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void buttonsAreCrossed()
     {
         QStringList actual;

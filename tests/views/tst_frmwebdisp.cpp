@@ -63,7 +63,7 @@ class TstFrmWebDisp final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void begin()
     {
         const Viewer viewer;

@@ -37,7 +37,7 @@ class TstInsertDialogs final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theTableBeginsWithTheDefaults()
     {
         const Dialog dialog(u"InsertTableDlg"_s);

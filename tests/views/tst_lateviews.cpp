@@ -12,7 +12,7 @@ class TstLateViews final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aDesignerThatIsNotThereHoldsNothing()
     {
         LateDesigner designer;

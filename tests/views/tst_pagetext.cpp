@@ -12,7 +12,7 @@ class TstPageText final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void texts_data()
     {
         QTest::addColumn<QByteArray>("bytes");

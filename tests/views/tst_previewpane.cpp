@@ -46,7 +46,7 @@ class TstPreviewPane final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyPartIsThereOnce()
     {
         FakeBrowser browser;

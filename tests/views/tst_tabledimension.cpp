@@ -11,7 +11,7 @@ class TstTableDimension final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void numbers_data()
     {
         QTest::addColumn<QString>("text");

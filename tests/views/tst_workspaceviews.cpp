@@ -109,7 +109,7 @@ class TstWorkspaceViews final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void controlsAndMenus_data()
     {
         QTest::addColumn<QList<int>>("way"); // Views selected one after the other: 0 code, 1 preview, 2 visual.

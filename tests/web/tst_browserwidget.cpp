@@ -76,7 +76,7 @@ class TstBrowserWidget final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aFileMayBeToldToBeAPage_data()
     {
         QTest::addColumn<QString>("name");

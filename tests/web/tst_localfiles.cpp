@@ -42,7 +42,7 @@ class TstLocalFiles final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void loading_data()
     {
         QTest::addColumn<QString>("file");

@@ -35,7 +35,7 @@ class TstFrmTable final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void defaults_data()
     {
         QTest::addColumn<QString>("control");

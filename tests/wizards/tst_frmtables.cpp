@@ -50,7 +50,7 @@ class TstFrmTables final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void beginsWithOneCell()
     {
         const Wizard wizard;

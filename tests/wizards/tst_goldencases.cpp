@@ -12,7 +12,7 @@ class TstWizardGoldenCases final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void text_data() { addGoldenCases(QStringLiteral("wizards")); }
     void text()
     {

@@ -151,7 +151,7 @@ class TstTableMarkup final : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void counts_data()
     {
         QTest::addColumn<QString>("typed");

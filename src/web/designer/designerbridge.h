@@ -18,12 +18,12 @@ class DesignerBridge final : public QObject
 public:
     using QObject::QObject;
 
-    Q_INVOKABLE void stateChanged(const QVariantMap &state) { emit stateArrived(state); }
-    Q_INVOKABLE void placeChanged(const QVariantMap &place) { emit placeArrived(place); }
-    Q_INVOKABLE void pageKept(const QVariantMap &copy) { emit copyArrived(copy); }
-    Q_INVOKABLE void clipboardWanted(const QVariantMap &request) { emit clipboardRequested(request); }
+    Q_INVOKABLE void stateChanged(const QVariantMap &state) { Q_EMIT stateArrived(state); }
+    Q_INVOKABLE void placeChanged(const QVariantMap &place) { Q_EMIT placeArrived(place); }
+    Q_INVOKABLE void pageKept(const QVariantMap &copy) { Q_EMIT copyArrived(copy); }
+    Q_INVOKABLE void clipboardWanted(const QVariantMap &request) { Q_EMIT clipboardRequested(request); }
 
-signals:
+Q_SIGNALS:
     /// The members are those of DesignerState::fromPage().
     void stateArrived(const QVariantMap &state);
     /// The member "place" says where the selected element stands; see DesignerHandles.

@@ -126,7 +126,7 @@ void DesignerPage::lookForEmptyPage()
     const QString question = u"document.querySelector('meta[name=opening]')?.content === '%1'"_s.arg(m_opening);
     runJavaScript(question, world, [self = QPointer<DesignerPage>(this), opening = m_opening](const QVariant &isThere) {
         if (self && self->m_opening == opening && isThere.toBool() && std::exchange(self->m_isOpening, false))
-            emit self->ready(true);
+            Q_EMIT self->ready(true);
     });
 }
 

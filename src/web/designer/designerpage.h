@@ -37,7 +37,7 @@ public:
     /// In milliseconds.
     void setPatience(int patience) { m_patience = patience; }
 
-signals:
+Q_SIGNALS:
     void ready(bool ok);
 
 protected:

@@ -149,7 +149,7 @@ void DesignerWidget::complete(const QVariant &answer)
     m_isComplete = true;
     m_view->focusProxy()->installEventFilter(this);
     takeAnswer(answer);
-    emit DocumentComplete();
+    Q_EMIT DocumentComplete();
     if (m_events.documentComplete)
         m_events.documentComplete();
     announceDisplay();
@@ -227,7 +227,7 @@ void DesignerWidget::takeCopy(const DesignerCopy &copy)
 
 void DesignerWidget::announceDisplay()
 {
-    emit DisplayChanged();
+    Q_EMIT DisplayChanged();
     if (m_events.displayChanged)
         m_events.displayChanged();
 }
@@ -304,7 +304,7 @@ void DesignerWidget::setContextMenu(const QStringList &entries, const QList<Desi
         action->setCheckable(state == DesignerMenuState::Checked);
         action->setChecked(state == DesignerMenuState::Checked);
         connect(action, &QAction::triggered, this, [this, index] {
-            emit ContextMenuAction(index);
+            Q_EMIT ContextMenuAction(index);
             if (m_events.contextMenuAction)
                 m_events.contextMenuAction(index);
         });
@@ -317,7 +317,7 @@ void DesignerWidget::requestContextMenu(const QPoint &place)
     ask(u"state"_s);
     const QPoint onScreen = m_view->mapToGlobal(place);
     setContextMenu({}, {});
-    emit ShowContextMenu(onScreen.x(), onScreen.y());
+    Q_EMIT ShowContextMenu(onScreen.x(), onScreen.y());
     if (m_events.showContextMenu)
         m_events.showContextMenu(onScreen);
     if (!m_menu->isEmpty())

@@ -74,7 +74,7 @@ public:
     DesignerPage &page() { return *m_page; }
     const DesignerHandles &handles() const { return *m_handles; }
 
-signals:
+Q_SIGNALS:
     void DocumentComplete();
     void DisplayChanged();
     /// A place of the screen.

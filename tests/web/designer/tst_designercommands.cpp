@@ -10,7 +10,7 @@ class TstDesignerCommands : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { m_bench = std::make_unique<DesignerBench>(); }
     void cleanupTestCase() { m_bench.reset(); }
 

@@ -16,7 +16,7 @@ class TstDesignerLoss : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { m_bench = std::make_unique<DesignerBench>(); }
     void cleanup() { m_bench.reset(); }
 

@@ -13,7 +13,7 @@ class TstDesignerText : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { m_bench = std::make_unique<DesignerBench>(); }
     void cleanupTestCase() { m_bench.reset(); }
 

@@ -12,7 +12,7 @@ class TstDesignerUndo : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { m_bench = std::make_unique<DesignerBench>(); }
     void cleanupTestCase() { m_bench.reset(); }
 

@@ -19,7 +19,7 @@ class TstDesignerWidget : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { m_bench = std::make_unique<DesignerBench>(); }
     void init() { m_bench->designer.setEvents({}); }
     void cleanup();

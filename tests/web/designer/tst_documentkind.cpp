@@ -11,7 +11,7 @@ class TstDocumentKind : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void byName_data()
     {
         QTest::addColumn<bool>("isPlain");

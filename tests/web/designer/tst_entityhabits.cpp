@@ -12,7 +12,7 @@ class TstEntityHabits : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void characters_data()
     {
         QTest::addColumn<QString>("reference");

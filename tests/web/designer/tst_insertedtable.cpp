@@ -11,7 +11,7 @@ class TstInsertedTable : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void allParts()
     {
         QCOMPARE(insertedTableMarkup({2, 1, u" border=0 "_s, u"align=left"_s, u"A & B"_s}),

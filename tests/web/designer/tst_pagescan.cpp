@@ -29,7 +29,7 @@ class TstPageScan : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void pieces_data()
     {
         QTest::addColumn<QString>("source");

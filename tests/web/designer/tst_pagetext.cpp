@@ -12,7 +12,7 @@ class TstPageText : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void forEngine_data()
     {
         QTest::addColumn<QString>("source");

@@ -12,7 +12,7 @@ class TstServerMarks : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void masks_data()
     {
         QTest::addColumn<QString>("source");
