@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What logic and its tests include most; see zephira_precompiled() in Zephira.cmake.
+#pragma once
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QList>
+#include <QLocale>
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QRect>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QSet>
+#include <QString>
+#include <QStringBuilder>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QUrl>
+#include <QVariant>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
