@@ -83,9 +83,9 @@ private Q_SLOTS:
         row("the editing widget at home", u"editor/a.cpp"_s, u"#include <Qsci/qsciscintilla.h>\n"_s, {});
         row("the web engine", u"views/a.cpp"_s, u"#include <QWebEngineView>\n"_s,
             u"views/a.cpp:2: only web includes the web engine"_s);
-        row("the program from below", u"panes/a.cpp"_s, u"#include \"document/document.h\"\n"_s,
+        row("the program from below", u"panes/a.cpp"_s, u"#include \"app/program.h\"\n"_s,
             u"panes/a.cpp:2: the folders below app include nothing of it"_s);
-        row("the program itself", u"app/a.cpp"_s, u"#include \"document/document.h\"\n"_s, {});
+        row("the program itself", u"app/a.cpp"_s, u"#include \"app/program.h\"\n"_s, {});
         row("curl", u"app/a.cpp"_s, u"#include <curl/curl.h>\n"_s,
             u"app/a.cpp:2: only the web viewer's fetch includes libcurl"_s);
         row("a socket", u"ftp/a.cpp"_s, u"#include <netinet/in.h>\n"_s,

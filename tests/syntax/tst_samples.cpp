@@ -42,7 +42,7 @@ void TstSyntaxSamples::sample_data()
 
     for (const auto &row : sampleFiles) {
         const QString name = QString::fromUtf16(row.file);
-        QFile file(QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/controls/syntax/samples/") + name);
+        QFile file(QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/syntax/samples/") + name);
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
         // What stands before the first case explains the file.
         QByteArrayList cases = file.readAll().split('\n');
