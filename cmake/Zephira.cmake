@@ -39,7 +39,9 @@ foreach(kind IN ITEMS Core Widgets)
   string(TOLOWER ${kind} header)
   add_library(zephira_${header}_precompiled OBJECT ${CMAKE_SOURCE_DIR}/cmake/precompiled.cpp)
   target_link_libraries(zephira_${header}_precompiled PUBLIC zephira_rules Qt6::${kind})
-  target_precompile_headers(zephira_${header}_precompiled PRIVATE ${CMAKE_SOURCE_DIR}/cmake/${header}.pch.h)
+  # Named without its folder, so that the compiler cache serves any checkout.
+  target_include_directories(zephira_${header}_precompiled PRIVATE ${CMAKE_SOURCE_DIR}/cmake)
+  target_precompile_headers(zephira_${header}_precompiled PRIVATE <${header}.pch.h>)
 endforeach()
 # zephira_precompiled(TARGET core|widgets): compiles the target with one of them.
 function(zephira_precompiled target header)
