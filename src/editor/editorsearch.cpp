@@ -20,7 +20,7 @@ constexpr size_t fewReplacements = 1000;
 Result<void> EditorSearch::setOptions(const Options &options)
 {
     if (!m_search || options.request != m_options.request) {
-        Result<TextSearch> search = TextSearch::make(options.request);
+        Result<PatternSearch> search = PatternSearch::make(options.request);
         if (!search)
             return search.error();
         m_search.reset();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/textsearch.h"
+#include "editor/patternsearch.h"
 
 #include <QString>
 
@@ -66,7 +66,7 @@ private:
 
     CodeMax &m_editor;
     Options m_options;
-    std::optional<TextSearch> m_search;
+    std::optional<PatternSearch> m_search;
     std::optional<Range> m_scope; ///< byte positions
     /// The text with line feeds for line ends, and where its lines begin; good for one version of the editor's text.
     QString m_text;

@@ -2,7 +2,7 @@
 #include "syntax/csslexer.h"
 
 #include "syntax/numbers.h"
-#include "syntax/textsearch.h"
+#include "syntax/bytescan.h"
 
 #include <algorithm>
 

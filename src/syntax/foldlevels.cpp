@@ -3,7 +3,7 @@
 
 #include "syntax/linelexer.h"
 #include "syntax/numbers.h"
-#include "syntax/textsearch.h"
+#include "syntax/bytescan.h"
 
 #include <algorithm>
 

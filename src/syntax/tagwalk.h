@@ -2,7 +2,7 @@
 #pragma once
 
 #include "syntax/taglexer.h"
-#include "syntax/textsearch.h"
+#include "syntax/bytescan.h"
 
 namespace zephira {
 

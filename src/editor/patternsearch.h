@@ -31,11 +31,11 @@ struct TextMatch {
 
 /// Finds a pattern in a text whose lines end in line feeds. In a regular expression "^" and "$" mean each line's
 /// beginning and end, and a match may hold line feeds. Empty matches count; a search never stays at one.
-class TextSearch
+class PatternSearch
 {
 public:
     /// Fails with Code::Malformed, naming what is wrong with a regular expression and where.
-    static Result<TextSearch> make(const SearchRequest &request);
+    static Result<PatternSearch> make(const SearchRequest &request);
 
     /// The first match from `from` on that ends at or before `limit`.
     std::optional<TextMatch> next(const QString &text, qsizetype from, qsizetype limit,
@@ -47,7 +47,7 @@ public:
     std::vector<TextMatch> all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const;
 
 private:
-    explicit TextSearch(QRegularExpression expression, bool groups)
+    explicit PatternSearch(QRegularExpression expression, bool groups)
         : m_expression(std::move(expression)), m_groups(groups)
     {}
     TextMatch toMatch(const QRegularExpressionMatch &match, const QString &replacement) const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/textsearch.h"
+#include "editor/patternsearch.h"
 #include "support/testregistry.h"
 
 #include <QTest>
@@ -10,15 +10,15 @@ namespace zephira {
 
 namespace {
 
-TextSearch searchFor(const QString &pattern, bool regularExpression, bool matchCase = false, bool wholeWord = false)
+PatternSearch searchFor(const QString &pattern, bool regularExpression, bool matchCase = false, bool wholeWord = false)
 {
-    Result<TextSearch> search = TextSearch::make({pattern, matchCase, wholeWord, regularExpression});
+    Result<PatternSearch> search = PatternSearch::make({pattern, matchCase, wholeWord, regularExpression});
     return std::move(search).value();
 }
 
 } // namespace
 
-class TstTextSearch : public QObject
+class TstPatternSearch : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +54,8 @@ private Q_SLOTS:
         QFETCH(QString, flags);
         QFETCH(QString, replacement);
         QFETCH(QString, result);
-        const TextSearch search = searchFor(pattern, flags.contains(u'r'), flags.contains(u'c'), flags.contains(u'w'));
+        const PatternSearch search =
+            searchFor(pattern, flags.contains(u'r'), flags.contains(u'c'), flags.contains(u'w'));
         const auto matches = search.all(text, 0, text.size(), replacement);
         QString replaced = text;
         for (size_t i = matches.size(); i-- > 0;)
@@ -79,7 +80,7 @@ private Q_SLOTS:
     void previousLooksAsFarAsItMust()
     {
         const QString text = u"needle\n"_s + QString(100'000, u'x') + u"\nhay\n"_s + QString(50'000, u'\n');
-        const TextSearch search = searchFor(u"needle"_s, false);
+        const PatternSearch search = searchFor(u"needle"_s, false);
         QCOMPARE(search.previous(text, text.size(), 0, {}), (TextMatch{0, 6}));
         QCOMPARE(search.previous(text, text.size(), 1, {}), std::nullopt);
         QCOMPARE(search.previous(text, 5, 0, {}), std::nullopt);
@@ -87,7 +88,7 @@ private Q_SLOTS:
 
     void limits()
     {
-        const TextSearch search = searchFor(u"ab"_s, false);
+        const PatternSearch search = searchFor(u"ab"_s, false);
         const QString text = u"ab ab ab"_s;
         QCOMPARE(search.next(text, 1, 8, {}), (TextMatch{3, 5}));
         QCOMPARE(search.next(text, 1, 4, {}), std::nullopt);
@@ -109,17 +110,17 @@ private Q_SLOTS:
         QFETCH(QString, pattern);
         QFETCH(QString, sentence);
         for (const bool wholeWord : {false, true}) {
-            const auto search = TextSearch::make({pattern, false, wholeWord, true});
+            const auto search = PatternSearch::make({pattern, false, wholeWord, true});
             QVERIFY(!search);
             QCOMPARE(search.error().code, Error::Code::Malformed);
             QCOMPARE(search.error().sentence, sentence);
         }
-        QVERIFY(TextSearch::make({pattern, false, false, false}).ok());
+        QVERIFY(PatternSearch::make({pattern, false, false, false}).ok());
     }
 };
 
-ZEPHIRA_TEST(TstTextSearch)
+ZEPHIRA_TEST(TstPatternSearch)
 
 } // namespace zephira
 
-#include "tst_textsearch.moc"
+#include "tst_patternsearch.moc"

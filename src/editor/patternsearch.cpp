@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/textsearch.h"
+#include "editor/patternsearch.h"
 
 #include <algorithm>
 
@@ -14,7 +14,7 @@ constexpr qsizetype firstWindow = 16 * 1024;
 
 } // namespace
 
-Result<TextSearch> TextSearch::make(const SearchRequest &request)
+Result<PatternSearch> PatternSearch::make(const SearchRequest &request)
 {
     QString pattern = request.regularExpression ? request.pattern : QRegularExpression::escape(request.pattern);
     if (request.wholeWord)
@@ -32,16 +32,16 @@ Result<TextSearch> TextSearch::make(const SearchRequest &request)
                      u"The regular expression is wrong at character %1: %2."_s.arg(checked.patternErrorOffset() + 1)
                          .arg(checked.errorString())};
     }
-    return TextSearch(expression, request.regularExpression);
+    return PatternSearch(expression, request.regularExpression);
 }
 
-TextMatch TextSearch::toMatch(const QRegularExpressionMatch &match, const QString &replacement) const
+TextMatch PatternSearch::toMatch(const QRegularExpressionMatch &match, const QString &replacement) const
 {
     return {match.capturedStart(), match.capturedEnd(), m_groups ? expandReplacement(replacement, match) : replacement};
 }
 
-std::optional<TextMatch> TextSearch::next(const QString &text, qsizetype from, qsizetype limit,
-                                          const QString &replacement) const
+std::optional<TextMatch> PatternSearch::next(const QString &text, qsizetype from, qsizetype limit,
+                                             const QString &replacement) const
 {
     const QRegularExpressionMatch match = m_expression.match(QStringView(text).first(limit), from);
     if (!match.hasMatch())
@@ -49,8 +49,8 @@ std::optional<TextMatch> TextSearch::next(const QString &text, qsizetype from, q
     return toMatch(match, replacement);
 }
 
-std::optional<TextMatch> TextSearch::previous(const QString &text, qsizetype from, qsizetype limit,
-                                              const QString &replacement) const
+std::optional<TextMatch> PatternSearch::previous(const QString &text, qsizetype from, qsizetype limit,
+                                                 const QString &replacement) const
 {
     const QStringView searched = QStringView(text).first(from);
     for (qsizetype window = firstWindow;; window *= 4) {
@@ -67,8 +67,8 @@ std::optional<TextMatch> TextSearch::previous(const QString &text, qsizetype fro
     }
 }
 
-std::vector<TextMatch> TextSearch::all(const QString &text, qsizetype start, qsizetype end,
-                                       const QString &replacement) const
+std::vector<TextMatch> PatternSearch::all(const QString &text, qsizetype start, qsizetype end,
+                                          const QString &replacement) const
 {
     std::vector<TextMatch> found;
     auto matches = m_expression.globalMatch(QStringView(text).first(end), start);
