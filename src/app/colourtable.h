@@ -17,22 +17,8 @@ struct ColourEntry {
     int fontStyle = 0;
 };
 
-/// Rows 0 to 17 are used.
+/// By the rows of appearanceRows; the last two are spare.
 using ColourTable = std::array<ColourEntry, 20>;
-
-/// The row's items in the editing control; -1 where the row has none.
-struct ColourItems {
-    int foreground = -1;
-    int background = -1;
-    int fontStyle = -1;
-};
-
-constexpr int colourRowCount = 18;
-constexpr int colourItemCount = 31;
-constexpr int fontStyleItemCount = 12;
-
-/// Bookmark, comment, divider lines, … window, in the order of the settings' rows.
-const std::array<ColourItems, colourRowCount> &colourItems();
 
 /// Reads the keys clr0bg, clr0fr, clr0fnt to clr17fnt of [Colors]. Raises HandlerError naming the first key that is missing
 /// or not a number.

@@ -7,6 +7,7 @@
 #include "app/statuspanels.h"
 #include "commands/designerbar.h"
 #include "core/configuration.h"
+#include "core/editorcommand.h"
 #include "core/errorstyles.h"
 #include "core/settingsnames.h"
 #include "core/usersettings.h"
@@ -30,7 +31,10 @@ namespace zephira {
 namespace {
 
 /// Commands of the editing control whose keys the menus want, in the order in which they lose them.
-constexpr int commandsWithoutKeys[] = {197, 140, 198, 161, 129, 139, 160};
+constexpr EditorCommand commandsWithoutKeys[] = {
+    EditorCommand::TransposeLines, EditorCommand::CutByOldKey,  EditorCommand::SelectWord, EditorCommand::FindNextByKey,
+    EditorCommand::FindByKey,      EditorCommand::ReplaceByKey, EditorCommand::GoToByKey,
+};
 
 bool isTrue(const QString &text)
 {
@@ -211,7 +215,8 @@ void LoadHandler::registerLanguages()
 void LoadHandler::removeHotKeys()
 {
     CodeMaxGlobals &globals = m_window.rt().globals();
-    for (const int command : commandsWithoutKeys) {
+    for (const EditorCommand named : commandsWithoutKeys) {
+        const int command = numberOf(named);
         for (int i = globals.hotKeyCount(command) - 1; i >= 0; --i)
             globals.UnregisterHotKey(globals.hotKey(command, i));
     }

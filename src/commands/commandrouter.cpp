@@ -149,7 +149,7 @@ bool CommandRouter::runCodeViewCommand(const QString &name)
     if (!command)
         return false;
     if (!isRefused(Refusal::CodeView, m_context.designer, m_context.prompts))
-        m_context.editor.executeCmd(static_cast<int>(command->command), -1);
+        m_context.editor.executeCmd(command->command, -1);
     return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/editorcommand.h"
 #include "core/prompts.h"
 #include "core/result.h"
 
@@ -16,16 +17,6 @@ struct CodeMaxRange {
     int EndColNo = 0;
 
     friend bool operator==(const CodeMaxRange &, const CodeMaxRange &) = default;
-};
-
-/// Numbers of the editing control's built-in commands that the program runs.
-enum class EditorCommand : int {
-    SelectAll = 137, ///< no argument
-    GoToLine = 168,  ///< a 0-based line number, or -1 for the control's own dialog
-    FindReplaceDialog = 169,
-    FindNext = 176,
-    FindDialog = 178,
-    PropertiesDialog = 224,
 };
 
 /// The code view as the rest of the program sees it. All text is UTF-16 with CR LF line ends (a text whose line ends are
@@ -79,10 +70,10 @@ public:
     virtual CodeMaxRange selection(bool normalized) const = 0;
     virtual void select(const CodeMaxRange &range) = 0;
 
-    /// Colours are numbers with red in the lowest byte; items 0 to 30.
+    /// Colours are numbers with red in the lowest byte; items are those of ColourItem.
     virtual void setColor(int item, quint32 colour) = 0;
     virtual quint32 color(int item) const = 0;
-    /// Font styles, items 0 to 11: 0 normal, 1 bold, 2 italic, 3 bold italic, 4 underlined; other bits are kept.
+    /// Font styles, items are those of FontStyleItem: 0 normal, 1 bold, 2 italic, 3 bold italic, 4 underlined; other bits are kept.
     virtual void setFontStyle(int item, int style) = 0;
     virtual int fontStyle(int item) const = 0;
 
@@ -95,6 +86,7 @@ public:
     virtual void clearSelection() = 0;
     /// Runs a built-in command; numbers that aren't known do nothing.
     virtual void executeCmd(int command, int argument = -1) = 0;
+    void executeCmd(EditorCommand command, int argument = -1) { executeCmd(numberOf(command), argument); }
     virtual void printContents(int device, int options) = 0;
 };
 

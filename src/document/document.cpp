@@ -197,7 +197,7 @@ void Document::open()
     readInto(name);
     adopt(name);
     m_window.setCountPanel(m_context.editor.textLength());
-    m_context.editor.executeCmd(int(EditorCommand::GoToLine), 0);
+    m_context.editor.executeCmd(EditorCommand::GoToLine, 0);
     m_window.selectCodeTab();
 }
 
@@ -313,7 +313,7 @@ void Document::openText(const QString &path)
     adopt(path);
     SetSyntax();
     m_context.document.setProjectPath(folderOf(path));
-    m_context.editor.executeCmd(int(EditorCommand::GoToLine), 0);
+    m_context.editor.executeCmd(EditorCommand::GoToLine, 0);
     m_window.setCountPanel(m_context.editor.textLength());
 }
 

@@ -303,7 +303,7 @@ void CodeMax::showStrikethrough()
     if (!on && !m_strikeShown)
         return;
     m_engine.send(SCI_SETINDICATORCURRENT, StrikeIndicator);
-    m_engine.send(SCI_INDICSETFORE, StrikeIndicator, static_cast<int>(m_appearance->colour(4) & 0xffffff));
+    m_engine.send(SCI_INDICSETFORE, StrikeIndicator, static_cast<int>(m_appearance->colour(TextFore) & 0xffffff));
     m_engine.send(on ? SCI_INDICATORFILLRANGE : SCI_INDICATORCLEARRANGE, 0, m_engine.length());
     m_strikeShown = on;
 }

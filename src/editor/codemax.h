@@ -137,6 +137,7 @@ public:
     void paste() override;
     void clearSelection() override;
     void executeCmd(int command, int argument = -1) override;
+    using EditingControl::executeCmd;
     /// Shows the print dialog and prints the whole text on the printer chosen there. `device` and `options` are those of
     /// the call and change nothing.
     void printContents(int device, int options) override;

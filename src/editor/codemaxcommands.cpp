@@ -40,7 +40,7 @@ void CodeMax::executeCmd(int command, int argument)
 {
     if (isEngineCommand(command))
         perform([&] { m_engine.send(static_cast<unsigned int>(command)); });
-    else if (command == static_cast<int>(EditorCommand::GoToLine))
+    else if (command == numberOf(EditorCommand::GoToLine))
         goToLine(argument);
     else
         runCommand(command);
@@ -48,17 +48,17 @@ void CodeMax::executeCmd(int command, int argument)
 
 void CodeMax::runCommand(int command)
 {
+    using enum EditorCommand;
     struct Row {
-        int command;
+        EditorCommand command;
         void (*run)(CodeMax &);
     };
     static constexpr Row rows[] = {
-        {static_cast<int>(EditorCommand::SelectAll),
-         [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_SELECTALL); }); }},
-        {static_cast<int>(EditorCommand::FindDialog), [](CodeMax &editor) { editor.showFindDialog(false); }},
-        {static_cast<int>(EditorCommand::FindReplaceDialog), [](CodeMax &editor) { editor.showFindDialog(true); }},
-        {static_cast<int>(EditorCommand::FindNext), [](CodeMax &editor) { editor.findNext(false); }},
-        {static_cast<int>(EditorCommand::PropertiesDialog), [](CodeMax &editor) { editor.showProperties(); }},
+        {SelectAll, [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_SELECTALL); }); }},
+        {FindDialog, [](CodeMax &editor) { editor.showFindDialog(false); }},
+        {FindReplaceDialog, [](CodeMax &editor) { editor.showFindDialog(true); }},
+        {FindNext, [](CodeMax &editor) { editor.findNext(false); }},
+        {PropertiesDialog, [](CodeMax &editor) { editor.showProperties(); }},
         {FindByKey, [](CodeMax &editor) { editor.showFindDialog(false); }},
         {ReplaceByKey, [](CodeMax &editor) { editor.showFindDialog(true); }},
         {CutByOldKey, [](CodeMax &editor) { editor.cut(); }},
@@ -89,7 +89,7 @@ void CodeMax::runCommand(int command)
         {PasteText, [](CodeMax &editor) { editor.paste(); }},
         {DeleteText, [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_CLEAR); }); }},
     };
-    const auto row = std::ranges::find(rows, command, &Row::command);
+    const auto row = std::ranges::find(rows, static_cast<EditorCommand>(command), &Row::command);
     if (row != std::end(rows))
         row->run(*this);
 }

@@ -21,9 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int lineNumberFontStyle = 11;
-constexpr int lineNumberColourItem = 26;
-
 bool isLineBreak(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -188,7 +185,7 @@ void CodeMax::showEvent(QShowEvent *event)
 void CodeMax::paintEvent(QPaintEvent *event)
 {
     QsciScintillaBase::paintEvent(event);
-    if (m_margins->lineNumbers() && m_appearance->fontStyle(lineNumberFontStyle) & UnderlinedStyle)
+    if (m_margins->lineNumbers() && m_appearance->fontStyle(LineNumberFont) & UnderlinedStyle)
         underlineNumbers();
 }
 
@@ -200,7 +197,7 @@ void CodeMax::underlineNumbers()
     const qsizetype right = width(EditorMargins::Bookmarks) + width(EditorMargins::LineNumbers) - padding;
     const qsizetype bottom = m_engine.send(SCI_TEXTHEIGHT, 0) - 2;
     QPainter painter(viewport());
-    painter.setPen(toQColor(m_appearance->colour(lineNumberColourItem)));
+    painter.setPen(toQColor(m_appearance->colour(LineNumberFore)));
     const qsizetype first = m_engine.send(SCI_GETFIRSTVISIBLELINE);
     const qsizetype last = m_engine.send(SCI_DOCLINEFROMVISIBLE, first + m_engine.send(SCI_LINESONSCREEN));
     for (qsizetype line = m_engine.send(SCI_DOCLINEFROMVISIBLE, first); line <= last; ++line) {
@@ -238,25 +235,25 @@ void CodeMax::showContextMenu(const QPoint &at)
     menu->setObjectName(u"editorMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const bool writable = !isReadOnly();
-    const auto add = [&](const QString &text, int command, bool enabled) {
+    const auto add = [&](const QString &text, EditorCommand command, bool enabled) {
         QAction *action = menu->addAction(text);
         action->setEnabled(enabled);
-        for (int i = 0; i < m_globals->hotKeyCount(command) && i < 1; ++i)
-            action->setShortcut(m_globals->hotKey(command, i).keys);
+        for (int i = 0; i < m_globals->hotKeyCount(numberOf(command)) && i < 1; ++i)
+            action->setShortcut(m_globals->hotKey(numberOf(command), i).keys);
         connect(action, &QAction::triggered, this, [this, command] { executeCmd(command); });
     };
-    add(tr("&Undo"), UndoText, writable && canUndo());
-    add(tr("&Redo"), RedoText, writable && canRedo());
+    add(tr("&Undo"), EditorCommand::UndoText, writable && canUndo());
+    add(tr("&Redo"), EditorCommand::RedoText, writable && canRedo());
     menu->addSeparator();
-    add(tr("Cu&t"), CutText, writable && canCopy());
-    add(tr("&Copy"), CopyText, canCopy());
-    add(tr("&Paste"), PasteText, writable && m_engine.send(SCI_CANPASTE));
-    add(tr("&Delete"), DeleteText, writable && canCopy());
+    add(tr("Cu&t"), EditorCommand::CutText, writable && canCopy());
+    add(tr("&Copy"), EditorCommand::CopyText, canCopy());
+    add(tr("&Paste"), EditorCommand::PasteText, writable && m_engine.send(SCI_CANPASTE));
+    add(tr("&Delete"), EditorCommand::DeleteText, writable && canCopy());
     menu->addSeparator();
-    add(tr("Select &All"), static_cast<int>(EditorCommand::SelectAll), true);
-    add(tr("Toggle &Bookmark"), ToggleBookmark, true);
+    add(tr("Select &All"), EditorCommand::SelectAll, true);
+    add(tr("Toggle &Bookmark"), EditorCommand::ToggleBookmark, true);
     menu->addSeparator();
-    add(tr("Propert&ies…"), static_cast<int>(EditorCommand::PropertiesDialog), true);
+    add(tr("Propert&ies…"), EditorCommand::PropertiesDialog, true);
     menu->popup(at);
 }
 

@@ -15,10 +15,6 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr int windowItem = 0;
-constexpr int leftMarginItem = 1;
-constexpr int textItem = 4;
-constexpr int lineNumberItem = 26;
 constexpr int firstFoldMarker = Sci::SC_MARKNUM_FOLDEREND;
 constexpr int lastFoldMarker = Sci::SC_MARKNUM_FOLDEROPEN;
 
@@ -46,7 +42,7 @@ QColor mixed(const QColor &a, const QColor &b, double share)
 
 EditorAppearance::EditorAppearance(SciEngine engine) : m_engine(engine)
 {
-    std::ranges::transform(colourItemTable, m_looks.colours.begin(), &ColourItem::initial);
+    std::ranges::transform(colourItemTable, m_looks.colours.begin(), &ColourItemRow::initial);
     applyAll();
 }
 
@@ -94,7 +90,7 @@ void EditorAppearance::applyAll()
 {
     applyFont();
     for (int item = 0; item < colourItemTotal; ++item) {
-        if (item != windowItem)
+        if (item != WindowColour)
             applyColour(item);
     }
     for (int item = 0; item < fontStyleTotal; ++item)
@@ -108,8 +104,8 @@ void EditorAppearance::applyFont()
     if (m_looks.font.size > 0)
         m_engine.send(Sci::SCI_STYLESETSIZEFRACTIONAL, Sci::STYLE_DEFAULT,
                       std::lround(m_looks.font.size * int{Sci::SC_FONT_SIZE_MULTIPLIER}));
-    m_engine.send(Sci::SCI_STYLESETFORE, Sci::STYLE_DEFAULT, engineColour(shown(textItem)));
-    m_engine.send(Sci::SCI_STYLESETBACK, Sci::STYLE_DEFAULT, engineColour(shown(windowItem)));
+    m_engine.send(Sci::SCI_STYLESETFORE, Sci::STYLE_DEFAULT, engineColour(shown(TextFore)));
+    m_engine.send(Sci::SCI_STYLESETBACK, Sci::STYLE_DEFAULT, engineColour(shown(WindowColour)));
     m_engine.send(Sci::SCI_STYLESETBOLD, Sci::STYLE_DEFAULT, m_looks.font.bold);
     m_engine.send(Sci::SCI_STYLESETITALIC, Sci::STYLE_DEFAULT, m_looks.font.italic);
     m_engine.send(Sci::SCI_STYLESETUNDERLINE, Sci::STYLE_DEFAULT, m_looks.font.underline);
@@ -130,7 +126,7 @@ void EditorAppearance::applyStyle(int item)
 
 void EditorAppearance::applyColour(int item)
 {
-    const auto [target, index, initial] = colourItemTable[static_cast<size_t>(item)];
+    const auto [name, target, index, initial] = colourItemTable[static_cast<size_t>(item)];
     const int plain = engineColour(shown(item));
     switch (target) {
     case ColourTarget::Window:
@@ -153,7 +149,7 @@ void EditorAppearance::applyColour(int item)
         break;
     case ColourTarget::StyleFore:
         m_engine.send(Sci::SCI_STYLESETFORE, index, plain);
-        if (item == textItem || item == lineNumberItem)
+        if (item == TextFore || item == LineNumberFore)
             applyContrast();
         break;
     case ColourTarget::StyleBack:
@@ -170,8 +166,8 @@ void EditorAppearance::applyColour(int item)
 /// window's colour, the fold marks from the line numbers'.
 void EditorAppearance::applyContrast()
 {
-    const QColor window = shown(windowItem);
-    const QColor text = shown(textItem);
+    const QColor window = shown(WindowColour);
+    const QColor text = shown(TextFore);
     const QColor selection =
         mixed(window, m_engine.view().palette().color(QPalette::Active, QPalette::Highlight), 0.38);
     m_engine.send(Sci::SCI_SETCARETFORE, engineColour(text));
@@ -181,9 +177,9 @@ void EditorAppearance::applyContrast()
     m_engine.send(Sci::SCI_SETWHITESPACEFORE, true, engineColour(mixed(window, text, 0.35)));
     m_engine.send(Sci::SCI_STYLESETFORE, Sci::STYLE_INDENTGUIDE, engineColour(mixed(window, text, 0.25)));
     for (int marker = firstFoldMarker; marker <= lastFoldMarker; ++marker) {
-        m_engine.send(Sci::SCI_MARKERSETFORE, marker, engineColour(shown(leftMarginItem)));
+        m_engine.send(Sci::SCI_MARKERSETFORE, marker, engineColour(shown(LeftMarginColour)));
         m_engine.send(Sci::SCI_MARKERSETBACK, marker,
-                      engineColour(mixed(shown(leftMarginItem), shown(lineNumberItem), 0.8)));
+                      engineColour(mixed(shown(LeftMarginColour), shown(LineNumberFore), 0.8)));
     }
 }
 
@@ -192,12 +188,12 @@ QColor EditorAppearance::shown(int item) const
     const quint32 number = m_looks.colours[static_cast<size_t>(item)];
     if (number != automaticColour)
         return toQColor(number);
-    return item == windowItem ? QColor(Qt::white) : item == textItem ? QColor(Qt::black) : shown(textItem);
+    return item == WindowColour ? QColor(Qt::white) : item == TextFore ? QColor(Qt::black) : shown(TextFore);
 }
 
 QColor EditorAppearance::background(int item) const
 {
-    return m_looks.colours[static_cast<size_t>(item)] == automaticColour ? shown(windowItem) : shown(item);
+    return m_looks.colours[static_cast<size_t>(item)] == automaticColour ? shown(WindowColour) : shown(item);
 }
 
 } // namespace zephira

@@ -27,10 +27,10 @@ class EditorAppearance
 public:
     explicit EditorAppearance(SciEngine engine);
 
-    /// Items 0 to 30; others are left alone and read as 0.
+    /// Items are those of ColourItem; others are left alone and read as 0.
     void setColour(int item, quint32 colour);
     quint32 colour(int item) const;
-    /// Items 0 to 11; others are left alone and read as 0.
+    /// Items are those of FontStyleItem; others are left alone and read as 0.
     void setFontStyle(int item, int style);
     int fontStyle(int item) const;
     void setFont(const FontChoice &font);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorcommands.h"
 
-#include "core/editingcontrol.h"
+#include "core/editorcommand.h"
 
 #include "editor/qsci.h"
 
@@ -19,6 +19,14 @@ constexpr auto Alt = Qt::AltModifier;
 constexpr Qt::KeyboardModifiers CtrlShift = Qt::ControlModifier | Qt::ShiftModifier;
 constexpr Qt::KeyboardModifiers None;
 
+using enum EditorCommand;
+
+constexpr CodeMaxHotKey row(EditorCommand command, Qt::KeyboardModifiers modifiers, Qt::Key key)
+{
+    return {numberOf(command), QKeyCombination(modifiers, key)};
+}
+
+/// A row for a command of the editor engine.
 constexpr CodeMaxHotKey row(int command, Qt::KeyboardModifiers modifiers, Qt::Key key)
 {
     return {command, QKeyCombination(modifiers, key)};
@@ -45,7 +53,7 @@ constexpr std::array hotKeys{
     row(PasteText, Ctrl, Qt::Key_V),
     row(PasteText, Shift, Qt::Key_Insert),
     row(DeleteText, None, Qt::Key_Delete),
-    row(static_cast<int>(EditorCommand::SelectAll), Ctrl, Qt::Key_A),
+    row(SelectAll, Ctrl, Qt::Key_A),
 
     row(FindPrevious, Shift, Qt::Key_F3),
     row(ToggleBookmark, Ctrl, Qt::Key_F2),

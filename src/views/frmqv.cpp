@@ -127,7 +127,7 @@ void frmqv::explain()
 
 void frmqv::copyAll()
 {
-    m_viewer.control->executeCmd(static_cast<int>(EditorCommand::SelectAll));
+    m_viewer.control->executeCmd(EditorCommand::SelectAll);
     m_viewer.control->copy();
 }
 

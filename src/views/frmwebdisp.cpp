@@ -79,7 +79,7 @@ void frmwebdisp::viewPage()
 
 void frmwebdisp::copySource()
 {
-    m_source.control->executeCmd(static_cast<int>(EditorCommand::SelectAll));
+    m_source.control->executeCmd(EditorCommand::SelectAll);
     m_source.control->copy();
     m_context.prompts.tell(u"The source code has been placed on the clipboard"_s);
 }

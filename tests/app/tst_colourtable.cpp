@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/colourtable.h"
+#include "core/editoritems.h"
 #include "core/errorstyles.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
@@ -16,9 +17,9 @@ class TstColourTable : public QObject
 private Q_SLOTS:
     void everyItemComesFromExactlyOneKey()
     {
-        std::array<int, colourItemCount> colours{};
-        std::array<int, fontStyleItemCount> styles{};
-        for (const ColourItems &items : colourItems()) {
+        std::array<int, colourItemTotal> colours{};
+        std::array<int, fontStyleTotal> styles{};
+        for (const AppearanceRow &items : appearanceRows) {
             for (const int item : {items.foreground, items.background}) {
                 if (item >= 0)
                     ++colours[size_t(item)];

@@ -319,7 +319,7 @@ private Q_SLOTS:
         bench.find<FilePane>(u"FilePane"_s)->showFolder(bench.site() + u"/img"_s);
         bench.setLanguage(language);
         window.rt().setText(u"old"_s);
-        window.rt().executeCmd(137);
+        window.rt().executeCmd(EditorCommand::SelectAll);
         bench.doubleClick(u"Red.BMP"_s);
         auto *viewer = bench.window->findChild<QWidget *>(u"frmqv"_s);
         if (link) {
@@ -423,7 +423,7 @@ private Q_SLOTS:
         bench.listSite();
         bench.select(name);
         window.rt().setText(u"selected"_s);
-        window.rt().executeCmd(137);
+        window.rt().executeCmd(EditorCommand::SelectAll);
         bench.choose(u"mnuinslink"_s);
         // The link takes the place of the selection.
         QCOMPARE(window.rt().text(), u"<a href=\"%1\">%2</a>"_s.arg(link, name));

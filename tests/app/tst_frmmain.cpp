@@ -155,7 +155,7 @@ private Q_SLOTS:
         WindowBench bench;
         frmmain &window = bench.start();
         window.rt().setText(u"cell"_s);
-        window.rt().executeCmd(137);
+        window.rt().executeCmd(EditorCommand::SelectAll);
         bench.click(u"Toolbar_3"_s, u"td"_s);
         QCOMPARE(window.rt().text(), u"<td>cell</td>"_s);
         bench.click(u"Toolbar_7"_s, 18);

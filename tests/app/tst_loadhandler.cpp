@@ -60,8 +60,8 @@ private Q_SLOTS:
         QVERIFY(!rt.displayWhitespace());
         QVERIFY(!rt.selBounds());
         QCOMPARE(rt.editorFont().name, bench.configuration.value(u"font"_s, u"name"_s));
-        QCOMPARE(rt.color(8), quint32(bench.configuration.value(u"Colors"_s, u"clr5fr"_s).toInt()));
-        QCOMPARE(rt.fontStyle(2), bench.configuration.value(u"Colors"_s, u"clr5fnt"_s).toInt());
+        QCOMPARE(rt.color(KeywordFore), quint32(bench.configuration.value(u"Colors"_s, u"clr5fr"_s).toInt()));
+        QCOMPARE(rt.fontStyle(KeywordFont), bench.configuration.value(u"Colors"_s, u"clr5fnt"_s).toInt());
         QVERIFY(bench.find<QAction>(u"highlightlines"_s)->isChecked());
         QVERIFY(!bench.find<QAction>(u"mnuviewtip"_s)->isChecked());
         QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentIndex(), 0);

@@ -160,7 +160,7 @@ private Q_SLOTS:
         QVERIFY(bench.preview(u"one"_s));
         bench.window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(bench.window.get()));
-        bench.window->rt().executeCmd(int(EditorCommand::SelectAll));
+        bench.window->rt().executeCmd(EditorCommand::SelectAll);
         QWidget *page = bench.keyboardOf(u"ww1"_s);
         page->setFocus();
         QGuiApplication::clipboard()->setText(u"before"_s);

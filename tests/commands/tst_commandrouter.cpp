@@ -128,11 +128,11 @@ void TstCommandRouter::codeViewMenu_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("number");
-    QTest::newRow("find") << u"find"_s << 178;
-    QTest::newRow("findnext") << u"findnext"_s << 176;
-    QTest::newRow("mnreplace") << u"mnreplace"_s << 169;
-    QTest::newRow("goto") << u"goto"_s << 168;
-    QTest::newRow("selectall") << u"selectall"_s << 137;
+    QTest::newRow("find") << u"find"_s << numberOf(EditorCommand::FindDialog);
+    QTest::newRow("findnext") << u"findnext"_s << numberOf(EditorCommand::FindNext);
+    QTest::newRow("mnreplace") << u"mnreplace"_s << numberOf(EditorCommand::FindReplaceDialog);
+    QTest::newRow("goto") << u"goto"_s << numberOf(EditorCommand::GoToLine);
+    QTest::newRow("selectall") << u"selectall"_s << numberOf(EditorCommand::SelectAll);
 }
 
 void TstCommandRouter::codeViewMenu()

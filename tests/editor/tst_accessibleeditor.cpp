@@ -163,9 +163,9 @@ private Q_SLOTS:
         EditorFixture f;
         f.editor.setLanguage(u"C/C++"_s);
         f.editor.setText(u"int x; // y"_s);
-        f.editor.setColor(8, 0x030201);
-        f.editor.setColor(9, 0x060504);
-        f.editor.setFontStyle(2, 1);
+        f.editor.setColor(KeywordFore, 0x030201);
+        f.editor.setColor(KeywordBack, 0x060504);
+        f.editor.setFontStyle(KeywordFont, 1);
         f.editor.colouring().colourAll();
         auto *text = QAccessible::queryAccessibleInterface(&f.editor)->textInterface();
         int start = -1;

@@ -77,7 +77,7 @@ private Q_SLOTS:
         QTest::keyClick(&f.editor, Qt::Key_Return);
         QVERIFY(f.editor.SaveFile(path, false));
         QCOMPARE(f.files.contents[path], edited);
-        f.editor.executeCmd(static_cast<int>(EditorCommand::SelectAll));
+        f.editor.executeCmd(EditorCommand::SelectAll);
         QCOMPARE(f.editor.selText(), f.editor.text());
         QCOMPARE(f.editor.selLength(), f.editor.textLength());
     }

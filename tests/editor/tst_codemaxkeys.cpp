@@ -27,8 +27,10 @@ private Q_SLOTS:
     void commandsThatAMenuReplacesLoseTheirKeys_data()
     {
         QTest::addColumn<int>("command");
-        for (const int command : {197, 140, 198, 161, 129, 139, 160})
-            QTest::addRow("%d", command) << command;
+        using enum EditorCommand;
+        for (const EditorCommand command :
+             {TransposeLines, CutByOldKey, SelectWord, FindNextByKey, FindByKey, ReplaceByKey, GoToByKey})
+            QTest::addRow("%d", numberOf(command)) << numberOf(command);
     }
     void commandsThatAMenuReplacesLoseTheirKeys()
     {

@@ -72,16 +72,16 @@ private Q_SLOTS:
             f.editor.setFontStyle(item, 1);
             QCOMPARE(f.editor.fontStyle(item), 0);
         }
-        f.editor.setFontStyle(12, 1);
-        QCOMPARE(f.editor.fontStyle(12), 0);
+        f.editor.setFontStyle(fontStyleTotal, 1);
+        QCOMPARE(f.editor.fontStyle(fontStyleTotal), 0);
     }
 
     void aNegativeColourByNameIsTheAutomaticOne()
     {
         EditorFixture f;
-        f.editor.SetColor(5, -1);
-        QCOMPARE(f.editor.GetColor(5), -1);
-        QCOMPARE(f.editor.color(5), automaticColour);
+        f.editor.SetColor(TextBack, -1);
+        QCOMPARE(f.editor.GetColor(TextBack), -1);
+        QCOMPARE(f.editor.color(TextBack), automaticColour);
     }
 
     void everyColourShows_data()
@@ -129,19 +129,19 @@ private Q_SLOTS:
     void anAutomaticBackgroundIsTheWindows()
     {
         EditorFixture f;
-        f.editor.setColor(0, 0x303030);
-        f.editor.setColor(15, automaticColour);
+        f.editor.setColor(WindowColour, 0x303030);
+        f.editor.setColor(CommentBack, automaticColour);
         QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBACK, 5), 0x303030);
-        f.editor.setColor(0, 0x404040);
+        f.editor.setColor(WindowColour, 0x404040);
         QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBACK, 5), 0x404040);
-        f.editor.setColor(15, 0x00ff00);
+        f.editor.setColor(CommentBack, 0x00ff00);
         QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBACK, 5), 0x00ff00);
     }
 
     void theFontReachesEveryStyle()
     {
         EditorFixture f;
-        f.editor.setFontStyle(2, 1);
+        f.editor.setFontStyle(KeywordFont, 1);
         f.editor.setEditorFont({u"Liberation Mono"_s, 14.5, false, true, false, true});
         for (int style = 0; style <= 10; ++style) {
             QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETSIZEFRACTIONAL, style), 1450);

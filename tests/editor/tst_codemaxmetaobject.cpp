@@ -6,9 +6,16 @@
 #include <QMetaMethod>
 #include <QMetaProperty>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
+
+constexpr EditorCommand namedCommands[] = {
+    EditorCommand::SelectAll, EditorCommand::GoToLine,   EditorCommand::FindReplaceDialog,
+    EditorCommand::FindNext,  EditorCommand::FindDialog, EditorCommand::PropertiesDialog,
+};
 
 /// The control as scripts see it: everything is read, written and called by name.
 class TstCodeMaxMetaObject : public QObject
@@ -182,13 +189,23 @@ private Q_SLOTS:
         QVERIFY(f.editor.metaObject()->indexOfMethod("PrintContents(int,int)") >= 0);
     }
 
+    /// Callers from outside know the commands by these numbers.
+    void commandsHaveTheirNumbers()
+    {
+        QCOMPARE(numberOf(EditorCommand::SelectAll), 137);
+        QCOMPARE(numberOf(EditorCommand::GoToLine), 168);
+        QCOMPARE(numberOf(EditorCommand::FindReplaceDialog), 169);
+        QCOMPARE(numberOf(EditorCommand::FindNext), 176);
+        QCOMPARE(numberOf(EditorCommand::FindDialog), 178);
+    }
+
     void unknownCommandsDoNothing()
     {
         EditorFixture f;
         f.editor.setText(u"text"_s);
         for (int number = -10; number < 3000; ++number) {
-            const bool known = f.editor.globals().hotKeyCount(number) > 0 || number == 137 || number == 168
-                || number == 169 || number == 176 || number == 178 || number == 224;
+            const bool known = f.editor.globals().hotKeyCount(number) > 0
+                || std::ranges::find(namedCommands, number, numberOf) != std::end(namedCommands);
             if (!known)
                 f.editor.ExecuteCmd(number, 0);
         }

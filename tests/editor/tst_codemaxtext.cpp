@@ -228,7 +228,7 @@ private Q_SLOTS:
         QCOMPARE(moves.count(), 1);
         f.editor.setSelText(u"x"_s);
         QCOMPARE(moves.count(), 2);
-        f.editor.executeCmd(static_cast<int>(EditorCommand::GoToLine), 0);
+        f.editor.executeCmd(EditorCommand::GoToLine, 0);
         QCOMPARE(moves.count(), 3);
     }
 
@@ -373,7 +373,7 @@ private Q_SLOTS:
         QTest::keyClicks(&f.editor, u"x"_s);
         QTest::keyClick(&f.editor, Qt::Key_Return);
         f.editor.paste();
-        f.editor.executeCmd(static_cast<int>(EditorCommand::SelectAll));
+        f.editor.executeCmd(EditorCommand::SelectAll);
         f.editor.cut();
         f.editor.clearSelection();
         QCOMPARE(f.editor.text(), u"abc"_s);

@@ -17,13 +17,13 @@ namespace zephira {
 
 namespace {
 
-constexpr int replaceCommand = 169;
-constexpr int findNextCommand = 176;
-constexpr int findCommand = 178;
+constexpr auto replaceCommand = EditorCommand::FindReplaceDialog;
+constexpr auto findNextCommand = EditorCommand::FindNext;
+constexpr auto findCommand = EditorCommand::FindDialog;
 
 /// The dialog, driven through its widgets.
 struct Driver {
-    explicit Driver(EditorFixture &fixture, int command) : editor(fixture.editor)
+    explicit Driver(EditorFixture &fixture, EditorCommand command) : editor(fixture.editor)
     {
         editor.executeCmd(command);
         dialog = editor.findChild<FindDialog *>();

@@ -21,7 +21,7 @@ private Q_SLOTS:
         f.show();
         f.editor.setText(u"1\r\n2\r\n3"_s);
         f.editor.select({1, 0, 1, 0});
-        f.editor.executeCmd(168, -1);
+        f.editor.executeCmd(EditorCommand::GoToLine, -1);
         auto *dialog = f.editor.findChild<GoToDialog *>();
         QVERIFY(dialog && dialog->isVisible());
         auto *line = dialog->findChild<QLineEdit *>(u"txtLine"_s);
@@ -32,7 +32,7 @@ private Q_SLOTS:
         QVERIFY(!dialog->isVisible());
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{2, 0, 2, 0}));
         // The same dialog serves the next time, with the line of then.
-        f.editor.executeCmd(168);
+        f.editor.executeCmd(EditorCommand::GoToLine);
         QCOMPARE(f.editor.findChildren<GoToDialog *>().size(), 1);
         QCOMPARE(line->text(), u"3"_s);
         QTest::keyClick(dialog, Qt::Key_Escape);
@@ -52,7 +52,7 @@ private Q_SLOTS:
         EditorFixture f;
         f.show();
         f.editor.setText(u"1\r\n2\r\n3"_s);
-        f.editor.executeCmd(168, -1);
+        f.editor.executeCmd(EditorCommand::GoToLine, -1);
         auto *dialog = f.editor.findChild<GoToDialog *>();
         auto *line = dialog->findChild<QLineEdit *>(u"txtLine"_s);
         line->setText(typed);
@@ -70,9 +70,9 @@ private Q_SLOTS:
     {
         EditorFixture f;
         f.editor.setText(u"1\r\n2\r\n3"_s);
-        f.editor.executeCmd(168, 99);
+        f.editor.executeCmd(EditorCommand::GoToLine, 99);
         QCOMPARE(f.editor.selection(false).EndLineNo, 2);
-        f.editor.executeCmd(168, 0);
+        f.editor.executeCmd(EditorCommand::GoToLine, 0);
         QCOMPARE(f.editor.selection(false), CodeMaxRange());
         QVERIFY(!f.editor.findChild<QDialog *>());
     }

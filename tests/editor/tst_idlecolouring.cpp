@@ -71,7 +71,7 @@ private Q_SLOTS:
         const qsizetype end = engine.length();
         QVERIFY(end > 2'000'000);
         const qint64 before = f.editor.colouring().work();
-        f.editor.executeCmd(168, f.editor.lineCount() - 1);
+        f.editor.executeCmd(EditorCommand::GoToLine, f.editor.lineCount() - 1);
         f.editor.viewport()->repaint();
         const qint64 painting = f.editor.colouring().work() - before;
         QVERIFY2(painting < 2'000'000, qPrintable(QString::number(painting)));
@@ -99,7 +99,7 @@ private Q_SLOTS:
         f.editor.setLanguage(u"HTML"_s);
         f.editor.setText(bigPage(200000));
         f.show();
-        f.editor.executeCmd(168, line);
+        f.editor.executeCmd(EditorCommand::GoToLine, line);
         f.waitForColours();
         const qint64 before = f.editor.colouring().work();
         for (int i = 0; i < 20; ++i) {

@@ -20,7 +20,7 @@ namespace {
 struct Driver {
     explicit Driver(EditorFixture &fixture)
     {
-        fixture.editor.executeCmd(static_cast<int>(EditorCommand::PropertiesDialog));
+        fixture.editor.executeCmd(EditorCommand::PropertiesDialog);
         dialog = fixture.editor.findChild<PropertiesDialog *>();
     }
     template<typename T>
@@ -124,16 +124,16 @@ private Q_SLOTS:
         f.show();
         Driver d(f);
         d.choose(u"Keyword"_s);
-        f.prompts.expectColour(f.editor.color(8), std::nullopt);
+        f.prompts.expectColour(f.editor.color(KeywordFore), std::nullopt);
         d.child<QPushButton>(u"cmdForeground"_s).click();
-        QCOMPARE(d.preview().color(8), f.editor.color(8));
+        QCOMPARE(d.preview().color(KeywordFore), f.editor.color(KeywordFore));
     }
 
     void anAutomaticBackgroundIsAChoice()
     {
         EditorFixture f;
         f.show();
-        f.editor.setColor(15, 0x112233);
+        f.editor.setColor(CommentBack, 0x112233);
         Driver d(f);
         d.choose(u"Comment"_s);
         auto &automatic = d.child<QCheckBox>(u"chkAutomatic"_s);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         automatic.click();
         QVERIFY(!d.child<QPushButton>(u"cmdBackground"_s).isEnabled());
         d.press(QDialogButtonBox::Apply);
-        QCOMPARE(f.editor.color(15), automaticColour);
+        QCOMPARE(f.editor.color(CommentBack), automaticColour);
         QVERIFY(d.dialog->isVisible());
     }
 
@@ -174,37 +174,37 @@ private Q_SLOTS:
         EditorFixture f;
         f.show();
         f.editor.setEditorFont({u"Liberation Mono"_s, 10});
-        f.editor.setFontStyle(2, 5);
+        f.editor.setFontStyle(KeywordFont, 5);
         const EditorLooks looks = f.editor.appearance().looks();
         const EditorOptions options = f.editor.options();
         Driver d(f);
         d.choose(u"Keyword"_s);
-        f.prompts.expectColour(f.editor.color(8), 0x010203);
+        f.prompts.expectColour(f.editor.color(KeywordFore), 0x010203);
         d.child<QPushButton>(u"cmdForeground"_s).click();
         d.child<QDoubleSpinBox>(u"spnSize"_s).setValue(20);
         d.child<QCheckBox>(u"chkWrap"_s).click();
         d.child<QCheckBox>(u"chkWhitespace"_s).click();
         d.press(QDialogButtonBox::Apply);
-        QCOMPARE(f.editor.color(8), 0x010203u);
+        QCOMPARE(f.editor.color(KeywordFore), 0x010203u);
         QCOMPARE(f.editor.editorFont().size, 20.0);
         d.press(QDialogButtonBox::Cancel);
         QVERIFY(!d.dialog->isVisible());
         QCOMPARE(f.editor.appearance().looks(), looks);
         QCOMPARE(f.editor.options(), options);
         QVERIFY(!f.editor.displayWhitespace());
-        QCOMPARE(f.editor.fontStyle(2), 5);
+        QCOMPARE(f.editor.fontStyle(KeywordFont), 5);
         // Opened again, the dialog begins with what the control has.
-        f.editor.executeCmd(224);
+        f.editor.executeCmd(EditorCommand::PropertiesDialog);
         QCOMPARE(d.child<QDoubleSpinBox>(u"spnSize"_s).value(), 10.0);
-        QCOMPARE(d.preview().color(8), looks.colours[8]);
+        QCOMPARE(d.preview().color(KeywordFore), looks.colours[KeywordFore]);
     }
 
     void anUntouchedDialogChangesNothing()
     {
         EditorFixture f;
         f.show();
-        f.editor.setColor(12, 0xdeadbeef);
-        f.editor.setFontStyle(3, 9);
+        f.editor.setColor(ScopeKeywordFore, 0xdeadbeef);
+        f.editor.setFontStyle(OperatorFont, 9);
         f.editor.setEditorFont({u"No Such Font"_s, 10.25});
         const EditorLooks looks = f.editor.appearance().looks();
         Driver d(f);

@@ -102,6 +102,7 @@ public:
     void paste() override;
     void clearSelection() override;
     void executeCmd(int command, int argument = -1) override;
+    using EditingControl::executeCmd;
     void printContents(int device, int options) override;
 
 private:

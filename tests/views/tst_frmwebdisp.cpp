@@ -148,7 +148,8 @@ private Q_SLOTS:
         viewer.form.press(u"Command1"_s);
         viewer.world.prompts.expectTell(u"The source code has been placed on the clipboard"_s);
         viewer.choose(u"mnucopy"_s);
-        QVERIFY(viewer.world.editor.commands == std::vector<FakeEditor::Command>({{137, -1}}));
+        QVERIFY(viewer.world.editor.commands
+                == std::vector<FakeEditor::Command>({{numberOf(EditorCommand::SelectAll), -1}}));
         QVERIFY(viewer.world.editor.calls.contains(u"copy"_s));
     }
 

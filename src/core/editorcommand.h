@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace zephira {
+
+/// Numbers of the editing control's built-in commands. Keys run a few of the editor engine's too, whose numbers are from
+/// 2000 to 2999 and bear the engine's names.
+enum class EditorCommand : int {
+    // What the program runs.
+    SelectAll = 137, ///< no argument
+    GoToLine = 168,  ///< a 0-based line number, or -1 for the control's own dialog
+    FindReplaceDialog = 169,
+    FindNext = 176,
+    FindDialog = 178,
+    PropertiesDialog = 224,
+
+    // What menus usually do as well; a program with such menus takes their keys away.
+    FindByKey = 129,
+    ReplaceByKey = 139,
+    CutByOldKey = 140,
+    GoToByKey = 160,
+    FindNextByKey = 161,
+    TransposeLines = 197,
+    SelectWord = 198,
+
+    // The control's own.
+    FindPrevious = 1000,
+    ToggleBookmark,
+    NextBookmark,
+    PreviousBookmark,
+    ClearBookmarks,
+    ToggleOvertype,
+    ToggleFold,
+    ToggleAllFolds,
+    GoToMatchingBrace,
+    SelectToMatchingBrace,
+    ResetZoom,
+    UndoText,
+    RedoText,
+    CutText,
+    CopyText,
+    PasteText,
+    DeleteText,
+};
+
+constexpr int numberOf(EditorCommand command)
+{
+    return static_cast<int>(command);
+}
+
+} // namespace zephira
