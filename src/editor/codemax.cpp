@@ -78,6 +78,9 @@ CodeMax::CodeMax(EditorServices services, QWidget *parent)
     , m_colouring(std::make_unique<IdleColouring>(m_engine))
     , m_braces(std::make_unique<BraceMatcher>(m_engine))
     , m_file(services.files, services.recovery)
+    , m_format(m_engine)
+    , m_typing(m_engine)
+    , m_news(*this, m_engine)
 {
     // Asked before the editor library's own, whose objects cost a walk through the text at every key.
     QAccessible::installFactory(&AccessibleEditor::make);
@@ -94,7 +97,6 @@ void CodeMax::setUpEngine()
         m_engine.send(message, first, second);
     m_engine.send(SCI_SETCARETPERIOD, QGuiApplication::styleHints()->cursorFlashTime() / 2);
     m_appearance->applyAll();
-    applyLineEnds();
     setOptions({});
     m_margins->setLeftMargin(false);
     m_seen = {0, 0, 1, 1};
@@ -106,7 +108,7 @@ void CodeMax::connectEngine()
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
             [this](int position, int type, const char *, int length, int, int, int, int, int token) {
                 if (type & SC_MOD_CONTAINER)
-                    formatChangeUndone(token, type & SC_PERFORMED_UNDO);
+                    m_format.changeWasUndone(token, type & SC_PERFORMED_UNDO);
                 else
                     beforeEdit(position, type, length);
             });
@@ -137,11 +139,7 @@ void CodeMax::beforeEdit(int position, int type, int length)
         return;
     }
     m_units -= utf16Length(m_engine.bytes(position, position + length));
-    if (isListenedTo()) {
-        QAccessibleTextRemoveEvent event(this, AccessibleEditor::offsetOf(m_engine, position),
-                                         fromBuffer(m_engine.bytes(position, position + length), LineEnds::Mixed));
-        tell(event);
-    }
+    m_news.willRemove(position, length);
 }
 
 /// Counts an insertion that has been announced. Its text is only there behind it.
@@ -151,11 +149,7 @@ void CodeMax::settleInsertion()
     if (length == 0)
         return;
     m_units += utf16Length(m_engine.bytes(position, position + length));
-    if (isListenedTo()) {
-        QAccessibleTextInsertEvent event(this, AccessibleEditor::offsetOf(m_engine, position),
-                                         fromBuffer(m_engine.bytes(position, position + length), LineEnds::Mixed));
-        tell(event);
-    }
+    m_news.inserted(position, length);
 }
 
 /// Comes in front of each of the engine's changes, of which one action may make several. A change that no action of the
@@ -198,29 +192,8 @@ void CodeMax::noteSelection()
     m_seen = now;
     showBraces();
     showSelectionBounds();
-    if (isListenedTo()) {
-        const int anchor = AccessibleEditor::offsetOf(m_engine, now.anchor);
-        const int caret = AccessibleEditor::offsetOf(m_engine, now.caret);
-        QAccessibleTextSelectionEvent selected(this, std::min(anchor, caret), std::max(anchor, caret));
-        selected.setCursorPosition(caret);
-        tell(selected);
-        QAccessibleTextCursorEvent moved(this, caret);
-        tell(moved);
-    }
+    m_news.selectionMoved(now.anchor, now.caret);
     Q_EMIT SelChange();
-}
-
-bool CodeMax::isListenedTo() const
-{
-    return m_listener || QAccessible::isActive();
-}
-
-void CodeMax::tell(QAccessibleEvent &event)
-{
-    if (m_listener)
-        m_listener(&event);
-    else
-        QAccessible::updateAccessibility(&event);
 }
 
 void CodeMax::showBraces()
@@ -365,6 +338,7 @@ void CodeMax::setOptions(const EditorOptions &options)
 {
     m_options = options;
     m_options.tabWidth = std::clamp(options.tabWidth, 1, 32);
+    m_typing.setOptions(m_options);
     m_engine.send(SCI_SETTABWIDTH, m_options.tabWidth);
     m_engine.send(SCI_SETINDENT, m_options.tabWidth);
     m_engine.send(SCI_SETUSETABS, !m_options.tabsAsBlanks);
@@ -388,14 +362,11 @@ bool CodeMax::isReadOnly() const
     return m_engine.send(SCI_GETREADONLY);
 }
 
-/// The engine's own overtype caret is a line below the character. A block says more; so the engine overtypes only while it
-/// handles a key.
 void CodeMax::setOvertype(bool on)
 {
-    if (on == m_overtype)
+    if (on == overtype())
         return;
-    m_overtype = on;
-    m_engine.send(SCI_SETCARETSTYLE, on ? CARETSTYLE_BLOCK : CARETSTYLE_LINE);
+    m_typing.setOvertype(on);
     Q_EMIT OvertypeChanged(on);
 }
 

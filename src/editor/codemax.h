@@ -2,8 +2,11 @@
 #pragma once
 
 #include "core/editingcontrol.h"
+#include "editor/accessiblenews.h"
 #include "editor/editoroptions.h"
 #include "editor/sciengine.h"
+#include "editor/typingrules.h"
+#include "editor/undoableformat.h"
 #include "files/documentfile.h"
 #include "files/textfile.h"
 
@@ -14,11 +17,7 @@
 #include <QVariantMap>
 
 #include <array>
-#include <functional>
 #include <memory>
-#include <vector>
-
-class QAccessibleEvent;
 
 namespace zephira {
 
@@ -110,13 +109,13 @@ public:
     bool isReadOnly() const;
     void setReadOnly(bool on);
     /// Whether typed characters replace the ones under the caret.
-    bool overtype() const { return m_overtype; }
+    bool overtype() const { return m_typing.overtype(); }
     void setOvertype(bool on);
 
     Result<void> openFile(const QString &path) override;
     Result<void> saveFile(const QString &path, bool clearUndo) override;
     /// How the document stands in its file: encoding, byte order mark, line ends.
-    const TextFormat &textFormat() const { return m_format; }
+    const TextFormat &textFormat() const { return m_format.current(); }
     /// The document's bytes in UTF-8 with its own line ends, in two pieces that stay valid until the text changes.
     std::array<QByteArrayView, 2> utf8Pieces() const;
 
@@ -171,9 +170,9 @@ public:
     /// Changes with every change of the text.
     quint64 textVersion() const { return m_textVersion; }
     /// The line end that the Enter key types: the text's own, of several kinds the most frequent.
-    LineEnds typedLineEnds() const;
+    LineEnds typedLineEnds() const { return m_format.typedLineEnds(); }
     /// Puts UTF-8 in the place of the bytes from start up to end.
-    void replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8);
+    void replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8) { m_engine.replace(start, end, utf8); }
 
     // The parts, for the control's own dialogs and for whatever must look closer than the contract allows.
     const SciEngine &engine() const { return m_engine; }
@@ -183,7 +182,7 @@ public:
     EditorSearch &search();
     EditorPrinter &printer();
     /// Hears what assistive technology is told, in its place, and also while none is running.
-    void setAccessibleListener(std::function<void(QAccessibleEvent *)> listener) { m_listener = std::move(listener); }
+    void setAccessibleListener(AccessibleNews::Listener listener) { m_news.setListener(std::move(listener)); }
     Prompts &prompts() { return m_services.prompts; }
     const EditorServices &services() const { return m_services; }
     /// Runs something that changes text or selection as one action: Change and SelChange come once, at its end.
@@ -222,10 +221,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    struct FormatChange {
-        TextFormat before;
-        TextFormat after;
-    };
     struct Insertion {
         qsizetype position = 0;
         qsizetype length = 0;
@@ -243,11 +238,8 @@ private:
     void endAction();
     void noteChange();
     void noteSelection();
-    void replaceDocument(QByteArrayView utf8);
+    void replaceDocument(const DecodedText &document);
     qsizetype widthOfFirstLines() const;
-    void applyLineEnds();
-    void startNewFormat();
-    void formatChangeUndone(int index, bool undone);
     CodeMaxRange toRange(qsizetype start, qsizetype end) const;
     qsizetype toPosition(int line, int column) const;
     Result<void> store(const QString &path, bool becomesDocument);
@@ -256,11 +248,7 @@ private:
     void showBraces();
     void beforeEdit(int position, int type, int length);
     void settleInsertion();
-    bool isListenedTo() const;
-    void tell(QAccessibleEvent &event);
     void runCommand(int command);
-    void type(QKeyEvent *event);
-    void indentNewLine();
     void toggleFold();
     void goToBookmark(bool backward);
     void goToMatchingBrace(bool selecting);
@@ -283,9 +271,9 @@ private:
     std::unique_ptr<EditorSearch> m_search;
     std::unique_ptr<EditorPrinter> m_printer;
     DocumentFile m_file;
-    TextFormat m_format;
-    /// Changes of the format that undoing takes back, by the number that the undo history knows them by.
-    std::vector<FormatChange> m_formatChanges;
+    UndoableFormat m_format;
+    TypingRules m_typing;
+    AccessibleNews m_news;
     EditorOptions m_options;
     QString m_language;
     QString m_path;
@@ -293,14 +281,12 @@ private:
     Selection m_seen;
     /// An insertion that has been announced and is still to be counted.
     Insertion m_inserted;
-    std::function<void(QAccessibleEvent *)> m_listener;
     quint64 m_textVersion = 1;
     /// Length of the buffer in UTF-16 code units.
     qsizetype m_units = 0;
     int m_actions = 0;
     bool m_changed = false;
     bool m_selBounds = false;
-    bool m_overtype = false;
     bool m_boundsShown = false;
     bool m_strikeShown = false;
     bool m_dragDrop = true;

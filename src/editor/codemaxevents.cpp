@@ -19,30 +19,12 @@ namespace zephira {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool isLineBreak(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-qsizetype leadingBlanks(QByteArrayView line)
-{
-    qsizetype count = 0;
-    while (count < line.size() && (line[count] == ' ' || line[count] == '\t'))
-        ++count;
-    return count;
-}
-
-} // namespace
-
 bool CodeMax::event(QEvent *event)
 {
     // The key deletes the next character where nothing is selected; a menu entry on the same key only knows selections.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->key() == Qt::Key_Delete && !(key->modifiers() & ~Qt::KeypadModifier) && !isReadOnly()
-            && m_engine.send(SCI_GETSELECTIONEMPTY)) {
+        if (TypingRules::isPlainDelete(*key) && !isReadOnly() && m_engine.send(SCI_GETSELECTIONEMPTY)) {
             event->accept();
             return true;
         }
@@ -52,52 +34,14 @@ bool CodeMax::event(QEvent *event)
 
 void CodeMax::keyPressEvent(QKeyEvent *event)
 {
-    const QKeyCombination keys = event->keyCombination();
-    if (const auto command = m_globals->commandFor(keys)) {
+    if (const auto command = m_globals->commandFor(event->keyCombination())) {
         executeCmd(*command);
         event->accept();
-    } else if (isShortcutLike(QKeyCombination(keys.keyboardModifiers() & ~Qt::KeypadModifier, keys.key()))
-               || (keys.keyboardModifiers() & Qt::AltModifier && !(keys.keyboardModifiers() & Qt::ControlModifier)
-                   && !event->text().isEmpty())) {
-        // Alt and a letter that no menu takes is no text either.
+    } else if (TypingRules::isLeftToWindow(*event)) {
         event->ignore();
     } else {
-        perform([&] { type(event); });
+        perform([&] { m_typing.type(*event, [&] { QsciScintillaBase::keyPressEvent(event); }); });
     }
-}
-
-void CodeMax::type(QKeyEvent *event)
-{
-    if (m_overtype)
-        m_engine.send(SCI_SETOVERTYPE, true);
-    if (isLineBreak(*event)) {
-        // A new line and its indentation go away in one step.
-        m_engine.send(SCI_BEGINUNDOACTION);
-        QsciScintillaBase::keyPressEvent(event);
-        if (m_options.autoIndent && !isReadOnly())
-            indentNewLine();
-        m_engine.send(SCI_ENDUNDOACTION);
-    } else {
-        QsciScintillaBase::keyPressEvent(event);
-    }
-    m_engine.send(SCI_SETOVERTYPE, false);
-}
-
-/// Gives the line at the caret the indentation of the line above, and one step more behind an opening brace.
-void CodeMax::indentNewLine()
-{
-    const qsizetype caret = m_engine.caret();
-    const qsizetype line = m_engine.lineOf(caret);
-    if (m_engine.send(SCI_GETSELECTIONS) > 1 || line == 0 || caret != m_engine.lineStart(line))
-        return;
-    const QByteArrayView above = m_engine.bytes(m_engine.lineStart(line - 1), m_engine.lineEnd(line - 1));
-    QByteArray indent = above.first(leadingBlanks(above)).toByteArray();
-    if (above.trimmed().endsWith('{'))
-        indent += m_options.tabsAsBlanks ? QByteArray(m_options.tabWidth, ' ') : QByteArray("\t");
-    replaceBytes(caret, caret, indent);
-    m_engine.send(SCI_SETEMPTYSELECTION, caret + indent.size());
-    m_engine.send(SCI_SCROLLCARET);
-    m_engine.send(SCI_CHOOSECARETX);
 }
 
 void CodeMax::inputMethodEvent(QInputMethodEvent *event)

@@ -14,9 +14,8 @@ Result<void> CodeMax::openFile(const QString &path)
     if (!opened)
         return opened.error();
     perform([&] {
-        m_format = opened.value().format;
         m_path = path;
-        replaceDocument(opened.value().utf8);
+        replaceDocument(opened.value());
     });
     return {};
 }
@@ -35,7 +34,7 @@ Result<void> CodeMax::saveFile(const QString &path, bool clearUndo)
 /// over only with its own file; a copy elsewhere leaves it what it was.
 Result<void> CodeMax::store(const QString &path, bool becomesDocument)
 {
-    Result<void> saved = m_file.save(path, utf8Pieces(), m_format);
+    Result<void> saved = m_file.save(path, utf8Pieces(), textFormat());
     if (saved || saved.error().code != Error::Code::Unencodable)
         return saved;
     const Question question{saved.error().sentence
@@ -45,12 +44,12 @@ Result<void> CodeMax::store(const QString &path, bool becomesDocument)
                             Question::Buttons::YesNo};
     if (m_services.prompts.ask(question) != Answer::Yes)
         return saved;
-    TextFormat format = m_format;
+    TextFormat format = textFormat();
     format.encoding = Encoding::Utf8;
     format.byteOrderMark = false;
     saved = m_file.save(path, utf8Pieces(), format);
     if (saved && (becomesDocument || path == m_path))
-        m_format = format;
+        m_format.setStored(format);
     return saved;
 }
 

@@ -28,10 +28,6 @@ private:
     qsizetype m_readOnly;
 };
 
-/// The engine's names for CR LF, LF and CR, in the order of LineEnds.
-constexpr std::array<qsizetype, 3> engineLineEnds{QsciScintillaBase::SC_EOL_CRLF, QsciScintillaBase::SC_EOL_LF,
-                                                  QsciScintillaBase::SC_EOL_CR};
-
 } // namespace
 
 std::array<QByteArrayView, 2> CodeMax::utf8Pieces() const
@@ -42,7 +38,7 @@ std::array<QByteArrayView, 2> CodeMax::utf8Pieces() const
 
 QString CodeMax::text() const
 {
-    return fromBuffer(utf8Pieces(), m_format.lineEnds);
+    return fromBuffer(utf8Pieces(), m_format.current().lineEnds);
 }
 
 void CodeMax::setText(const QString &text)
@@ -50,9 +46,9 @@ void CodeMax::setText(const QString &text)
     perform([&] {
         const WritableWhile writable(m_engine);
         m_engine.send(SCI_BEGINUNDOACTION);
-        replaceBytes(0, m_engine.length(), toBuffer(text, m_format.lineEnds));
+        replaceBytes(0, m_engine.length(), toBuffer(text, m_format.current().lineEnds));
         if (text.isEmpty())
-            startNewFormat();
+            m_format.startAnew();
         m_engine.send(SCI_ENDUNDOACTION);
         m_engine.send(SCI_SETEMPTYSELECTION, 0);
         m_engine.send(SCI_SCROLLTOSTART);
@@ -65,7 +61,7 @@ int CodeMax::textLength() const
 {
     const qsizetype units =
         m_units + utf16Length(m_engine.bytes(m_inserted.position, m_inserted.position + m_inserted.length));
-    const bool oneByteEnds = m_format.lineEnds == LineEnds::Lf || m_format.lineEnds == LineEnds::Cr;
+    const bool oneByteEnds = m_format.current().lineEnds == LineEnds::Lf || m_format.current().lineEnds == LineEnds::Cr;
     return static_cast<int>(units + (oneByteEnds ? m_engine.lineCount() - 1 : 0));
 }
 
@@ -74,12 +70,12 @@ QString CodeMax::selText() const
     const bool simple = m_engine.send(SCI_GETSELECTIONS) == 1 && !m_engine.send(SCI_SELECTIONISRECTANGLE);
     if (simple)
         return fromBuffer(m_engine.bytes(m_engine.send(SCI_GETSELECTIONSTART), m_engine.send(SCI_GETSELECTIONEND)),
-                          m_format.lineEnds);
+                          m_format.current().lineEnds);
     // The engine's size includes a NUL at the end.
     QByteArray joined(m_engine.send(SCI_GETSELTEXT), Qt::Uninitialized);
     m_engine.sendText(SCI_GETSELTEXT, 0, joined.data());
     joined.chop(1);
-    return fromBuffer(joined, m_format.lineEnds);
+    return fromBuffer(joined, m_format.current().lineEnds);
 }
 
 void CodeMax::setSelText(const QString &text)
@@ -92,7 +88,7 @@ void CodeMax::setSelText(const QString &text)
             m_engine.send(SCI_SETEMPTYSELECTION, m_engine.caret());
         }
         const qsizetype start = m_engine.send(SCI_GETSELECTIONSTART);
-        const QByteArray utf8 = toBuffer(text, m_format.lineEnds);
+        const QByteArray utf8 = toBuffer(text, m_format.current().lineEnds);
         replaceBytes(start, m_engine.send(SCI_GETSELECTIONEND), utf8);
         m_engine.send(SCI_ENDUNDOACTION);
         m_engine.send(SCI_SETEMPTYSELECTION, start + utf8.size());
@@ -108,7 +104,7 @@ int CodeMax::selLength() const
         return static_cast<int>(selText().size());
     const qsizetype start = m_engine.send(SCI_GETSELECTIONSTART);
     const qsizetype end = m_engine.send(SCI_GETSELECTIONEND);
-    const bool oneByteEnds = m_format.lineEnds == LineEnds::Lf || m_format.lineEnds == LineEnds::Cr;
+    const bool oneByteEnds = m_format.current().lineEnds == LineEnds::Lf || m_format.current().lineEnds == LineEnds::Cr;
     const qsizetype lineEnds = oneByteEnds ? m_engine.lineOf(end) - m_engine.lineOf(start) : 0;
     return static_cast<int>(utf16Length(m_engine.bytes(start, end)) + lineEnds);
 }
@@ -124,14 +120,6 @@ QString CodeMax::currentWord() const
 int CodeMax::lineCount() const
 {
     return static_cast<int>(m_engine.lineCount());
-}
-
-void CodeMax::replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8)
-{
-    m_engine.send(SCI_BEGINUNDOACTION);
-    m_engine.send(SCI_SETTARGETRANGE, start, end);
-    m_engine.sendText(SCI_REPLACETARGET, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
-    m_engine.send(SCI_ENDUNDOACTION);
 }
 
 /// Width in pixels of the widest line that the first picture may show. With it the scroll bar is right from the start;
@@ -155,14 +143,14 @@ qsizetype CodeMax::widthOfFirstLines() const
 }
 
 /// Puts a text in place without an undo step, and with nothing left of the one before.
-void CodeMax::replaceDocument(QByteArrayView utf8)
+void CodeMax::replaceDocument(const DecodedText &document)
 {
+    const QByteArrayView utf8 = document.utf8;
     const WritableWhile writable(m_engine);
     const qsizetype events = m_engine.send(SCI_GETMODEVENTMASK);
     m_engine.send(SCI_SETMODEVENTMASK, 0);
     m_engine.send(SCI_SETUNDOCOLLECTION, false);
     m_engine.send(SCI_EMPTYUNDOBUFFER);
-    m_formatChanges.clear();
     m_engine.send(SCI_CLEARALL);
     m_engine.send(SCI_MARKERDELETEALL, -1);
     // An index that assistive technology asked for would be kept up to date at each line that is read.
@@ -181,42 +169,8 @@ void CodeMax::replaceDocument(QByteArrayView utf8)
     m_engine.send(SCI_SETSCROLLWIDTH, widthOfFirstLines());
     m_colouring->restart();
     m_braces->clear();
-    applyLineEnds();
+    m_format.restart(document.format);
     m_changed = true;
-}
-
-/// A text that begins anew is no longer bound to the encoding and the line ends of the file before it.
-void CodeMax::startNewFormat()
-{
-    if (m_format == TextFormat())
-        return;
-    m_engine.send(SCI_ADDUNDOACTION, std::ssize(m_formatChanges), 0);
-    m_formatChanges.push_back({m_format, {}});
-    m_format = {};
-    applyLineEnds();
-}
-
-void CodeMax::formatChangeUndone(int index, bool undone)
-{
-    if (index < 0 || index >= std::ssize(m_formatChanges))
-        return;
-    const FormatChange &change = m_formatChanges[static_cast<size_t>(index)];
-    m_format = undone ? change.before : change.after;
-    applyLineEnds();
-}
-
-void CodeMax::applyLineEnds()
-{
-    LineEnds typed = m_format.lineEnds;
-    if (typed == LineEnds::Mixed)
-        typed = mostFrequentLineEnd(m_engine.bytes(0, m_engine.length()));
-    m_engine.send(SCI_SETEOLMODE, engineLineEnds.at(static_cast<size_t>(typed)));
-}
-
-LineEnds CodeMax::typedLineEnds() const
-{
-    const auto found = std::ranges::find(engineLineEnds, m_engine.send(SCI_GETEOLMODE));
-    return static_cast<LineEnds>(found - engineLineEnds.begin());
 }
 
 CodeMaxRange CodeMax::selection(bool normalized) const

@@ -153,78 +153,106 @@ bool IdleColouring::colourSome(qsizetype target, qsizetype bytes)
 {
     settleEdit();
     const qsizetype targetLine = m_engine.lineOf(target);
+    const auto isReached = [&] { return nextLine() > targetLine || nextLine() >= m_engine.lineCount(); };
     bool mayStopEarly = true;
-    bool reached = false;
-    while (true) {
-        if (m_dirty.first >= m_colouredLines)
-            m_dirty = {};
-        const qsizetype next = m_dirty.any() ? m_dirty.first : m_colouredLines;
-        reached = next > targetLine || next >= m_engine.lineCount();
-        if (reached || bytes <= 0)
-            break;
-        // The line in front of a changed one is coloured again, because the engine may have moved its state along with
-        // the lines that were inserted or removed.
-        const qsizetype line = m_dirty.any() ? std::max<qsizetype>(0, next - 1) : next;
-        const qsizetype start = m_engine.lineStart(line);
-        const qsizetype lastLine = std::min(targetLine, m_engine.lineOf(std::min(start + bytes, m_engine.length())));
-        const QByteArrayView text = m_engine.bytes(start, m_engine.lineStart(std::max(lastLine, next) + 1));
-        m_styles.resize(static_cast<size_t>(text.size()));
-
-        StateCollector::Settled settled;
-        if (m_dirty.any() && mayStopEarly) {
-            settled = [this, line](qsizetype index, LineState state) {
-                return line + index > m_dirty.last && line + index < m_colouredLines
-                    && static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line + index)) == state;
-            };
-        }
-        StateCollector lines(settled);
-        const LineState state = line == 0 ? 0 : static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line));
-        const StyledRange styled = m_language->styleRange(text, state, m_styles, lines);
-        if (!lines.stopped && endsLine(text) && (lines.offsets.empty() || lines.offsets.back() < text.size())) {
-            lines.offsets.push_back(text.size());
-            lines.states.push_back(styled.state);
-        }
-        const qsizetype done = lines.stopped ? lines.offsets.back() : styled.end;
-        bytes -= std::max<qsizetype>(done, 1);
-        m_work += done;
-
-        m_engine.send(Sci::SCI_STARTSTYLING, start);
-        m_engine.sendText(Sci::SCI_SETSTYLINGEX, done, reinterpret_cast<const char *>(m_styles.data()));
-
-        FoldState fold = foldStateAt(line);
-        qsizetype current = line;
-        qsizetype offset = 0;
-        const auto foldLine = [&](qsizetype end) {
-            const FoldLine folded = m_language->foldRules().fold(
-                text.sliced(offset, end - offset),
-                std::span(m_styles).subspan(static_cast<size_t>(offset), static_cast<size_t>(end - offset)), fold);
-            setFold(current, packedFold(folded, fold.level));
-            if (m_lineFolded)
-                m_lineFolded(current, folded.level, fold.level);
-            offset = end;
-            ++current;
-        };
-        for (size_t i = 0; i < lines.offsets.size(); ++i) {
-            foldLine(lines.offsets[i]);
-            m_engine.send(Sci::SCI_SETLINESTATE, current, static_cast<int>(lines.states[i]));
-        }
-        if (offset < done || (current < m_engine.lineCount() && m_engine.lineStart(current) == m_engine.length()))
-            foldLine(done);
-
-        const qsizetype drawnLevel =
-            (m_engine.send(Sci::SCI_GETFOLDLEVEL, current) & Sci::SC_FOLDLEVELNUMBERMASK) - Sci::SC_FOLDLEVELBASE;
-        if (lines.stopped && drawnLevel == std::min(fold.level, deepestDrawnLevel)) {
-            m_dirty = {};
-        } else if (current >= m_colouredLines) {
-            m_colouredLines = current;
-            m_dirty = {};
-        } else {
-            m_dirty = {current, std::max(m_dirty.last, current)};
-            mayStopEarly = !lines.stopped;
-        }
+    while (!isReached() && bytes > 0) {
+        const Stretch stretch = nextStretch(targetLine, bytes);
+        const StyledLines styled = styleStretch(stretch, mayStopEarly);
+        bytes -= std::max<qsizetype>(styled.size, 1);
+        const FoldedLines folded = foldStretch(stretch, styled);
+        mayStopEarly = noteColoured(styled, folded);
     }
     markColoured();
-    return reached;
+    return isReached();
+}
+
+/// The first line that awaits its colours.
+qsizetype IdleColouring::nextLine() const
+{
+    return m_dirty.any() ? m_dirty.first : m_colouredLines;
+}
+
+/// The lines to colour next, at most about `bytes` of them. The line in front of a changed one is coloured again, because
+/// the engine may have moved its state along with the lines that were inserted or removed.
+IdleColouring::Stretch IdleColouring::nextStretch(qsizetype targetLine, qsizetype bytes) const
+{
+    const qsizetype next = nextLine();
+    const qsizetype line = m_dirty.any() ? std::max<qsizetype>(0, next - 1) : next;
+    const qsizetype start = m_engine.lineStart(line);
+    const qsizetype lastLine = std::min(targetLine, m_engine.lineOf(std::min(start + bytes, m_engine.length())));
+    return {line, start, m_engine.bytes(start, m_engine.lineStart(std::max(lastLine, next) + 1))};
+}
+
+/// Gives the stretch its styles, which stay in m_styles. May stop where a changed line has no more effect on those behind
+/// it.
+IdleColouring::StyledLines IdleColouring::styleStretch(const Stretch &stretch, bool mayStopEarly)
+{
+    const auto [line, start, text] = stretch;
+    m_styles.resize(static_cast<size_t>(text.size()));
+    StateCollector::Settled settled;
+    if (m_dirty.any() && mayStopEarly) {
+        settled = [this, first = line](qsizetype index, LineState state) {
+            return first + index > m_dirty.last && first + index < m_colouredLines
+                && static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, first + index)) == state;
+        };
+    }
+    StateCollector lines(settled);
+    const LineState state = line == 0 ? 0 : static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line));
+    const StyledRange styled = m_language->styleRange(text, state, m_styles, lines);
+    if (!lines.stopped && endsLine(text) && (lines.offsets.empty() || lines.offsets.back() < text.size())) {
+        lines.offsets.push_back(text.size());
+        lines.states.push_back(styled.state);
+    }
+    const qsizetype size = lines.stopped ? lines.offsets.back() : styled.end;
+    m_work += size;
+    m_engine.send(Sci::SCI_STARTSTYLING, start);
+    m_engine.sendText(Sci::SCI_SETSTYLINGEX, size, reinterpret_cast<const char *>(m_styles.data()));
+    return {std::move(lines.offsets), std::move(lines.states), size, lines.stopped};
+}
+
+/// Gives the lines of a styled stretch their places in the folds, and the engine the states that they begin with.
+IdleColouring::FoldedLines IdleColouring::foldStretch(const Stretch &stretch, const StyledLines &styled)
+{
+    FoldState fold = foldStateAt(stretch.line);
+    qsizetype line = stretch.line;
+    qsizetype offset = 0;
+    const auto foldLine = [&](qsizetype end) {
+        const FoldLine folded = m_language->foldRules().fold(
+            stretch.text.sliced(offset, end - offset),
+            std::span(m_styles).subspan(static_cast<size_t>(offset), static_cast<size_t>(end - offset)), fold);
+        setFold(line, packedFold(folded, fold.level));
+        if (m_lineFolded)
+            m_lineFolded(line, folded.level, fold.level);
+        offset = end;
+        ++line;
+    };
+    for (size_t i = 0; i < styled.offsets.size(); ++i) {
+        foldLine(styled.offsets[i]);
+        m_engine.send(Sci::SCI_SETLINESTATE, line, static_cast<int>(styled.states[i]));
+    }
+    const bool lastIsEmpty = line < m_engine.lineCount() && m_engine.lineStart(line) == m_engine.length();
+    if (offset < styled.size || lastIsEmpty)
+        foldLine(styled.size);
+    return {line, fold.level};
+}
+
+/// Takes down how far the colours have come. False when the text has found its old state and its folds haven't: the next
+/// stretch must not stop at once again.
+bool IdleColouring::noteColoured(const StyledLines &styled, const FoldedLines &folded)
+{
+    const auto drawn = m_engine.send(Sci::SCI_GETFOLDLEVEL, folded.nextLine) & Sci::SC_FOLDLEVELNUMBERMASK;
+    const bool sameFold = drawn - Sci::SC_FOLDLEVELBASE == std::min(folded.level, deepestDrawnLevel);
+    bool mayStopEarly = true;
+    if (styled.stopped && sameFold) {
+        m_dirty = {};
+    } else if (folded.nextLine >= m_colouredLines) {
+        m_colouredLines = folded.nextLine;
+        m_dirty = {};
+    } else {
+        m_dirty = {folded.nextLine, std::max(m_dirty.last, folded.nextLine)};
+        mayStopEarly = !styled.stopped;
+    }
+    return mayStopEarly;
 }
 
 /// Gives a line its place in the folds. Where that changes while blocks are folded away, nothing may stay hidden below a
@@ -261,8 +289,7 @@ FoldState IdleColouring::foldStateAt(qsizetype line) const
 /// Tells the engine where colours are missing from, so that it asks for them before it paints that part.
 void IdleColouring::markColoured()
 {
-    const qsizetype next = m_dirty.any() ? m_dirty.first : m_colouredLines;
-    m_engine.send(Sci::SCI_STARTSTYLING, m_engine.lineStart(next));
+    m_engine.send(Sci::SCI_STARTSTYLING, m_engine.lineStart(nextLine()));
 }
 
 } // namespace zephira

@@ -51,9 +51,34 @@ private:
         bool any() const { return last >= 0; }
     };
 
+    /// Whole lines of the text, from a 0-based line and its byte position on.
+    struct Stretch {
+        qsizetype line = 0;
+        qsizetype start = 0;
+        QByteArrayView text;
+    };
+    /// What came of styling a stretch: where its further lines begin, as offsets, and the states they begin with; how many
+    /// of its bytes have styles; and whether it stopped where the text had found its old state.
+    struct StyledLines {
+        std::vector<qsizetype> offsets;
+        std::vector<LineState> states;
+        qsizetype size = 0;
+        bool stopped = false;
+    };
+    /// The line behind those that were folded, and its nesting depth.
+    struct FoldedLines {
+        qsizetype nextLine = 0;
+        int level = 0;
+    };
+
     void settleEdit();
     void slice();
     bool colourSome(qsizetype target, qsizetype bytes);
+    qsizetype nextLine() const;
+    Stretch nextStretch(qsizetype targetLine, qsizetype bytes) const;
+    StyledLines styleStretch(const Stretch &stretch, bool mayStopEarly);
+    FoldedLines foldStretch(const Stretch &stretch, const StyledLines &styled);
+    bool noteColoured(const StyledLines &styled, const FoldedLines &folded);
     void setFold(qsizetype line, qsizetype level);
     FoldState foldStateAt(qsizetype line) const;
     void markColoured();

@@ -49,6 +49,15 @@ public:
         return {reinterpret_cast<const char *>(address), end - start};
     }
 
+    /// Puts UTF-8 in the place of the bytes from start up to end, in one step that can be undone.
+    void replace(qsizetype start, qsizetype end, QByteArrayView utf8) const
+    {
+        send(QsciScintillaBase::SCI_BEGINUNDOACTION);
+        send(QsciScintillaBase::SCI_SETTARGETRANGE, start, end);
+        sendText(QsciScintillaBase::SCI_REPLACETARGET, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
+        send(QsciScintillaBase::SCI_ENDUNDOACTION);
+    }
+
     QsciScintillaBase &view() const { return *m_view; }
 
 private:

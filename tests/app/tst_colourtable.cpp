@@ -66,7 +66,7 @@ private Q_SLOTS:
 private:
     static void fill(MemoryConfiguration &configuration)
     {
-        for (int row = 0; row < colourRowCount; ++row) {
+        for (int row = 0; row < std::ssize(appearanceRows); ++row) {
             const QString key = u"clr%1"_s.arg(row);
             configuration.put(u"Colors"_s, key + u"bg"_s, QString::number(row * 100));
             configuration.put(u"Colors"_s, key + u"fr"_s, QString::number(row * 100 + 1));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowbench.h"
+#include "core/editoritems.h"
 #include "core/errorstyles.h"
 #include "support/testregistry.h"
 
