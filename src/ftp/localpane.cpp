@@ -3,8 +3,8 @@
 
 #include "ftp/dirlistbox.h"
 #include "ftp/filelistview.h"
-#include "panes/drivebox.h"
-#include "panes/filelistbox.h"
+#include "widgets/drivebox.h"
+#include "widgets/filelistbox.h"
 
 #include <QAction>
 #include <QEvent>

@@ -2,8 +2,8 @@
 #include "panes/filepane.h"
 
 #include "core/prompts.h"
-#include "panes/filenames.h"
 #include "ui_filepane.h"
+#include "widgets/filenames.h"
 
 #include <QDir>
 #include <QScrollBar>

@@ -7,8 +7,8 @@
 #include "core/pasteitem.h"
 #include "core/refusals.h"
 #include "files/textfile.h"
-#include "panes/filelistbox.h"
 #include "panes/foldertree.h"
+#include "widgets/filelistbox.h"
 #include "widgets/itemchoice.h"
 
 #include <QListWidget>

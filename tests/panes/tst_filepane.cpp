@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/drivebox.h"
-#include "panes/drives.h"
 #include "panes/filelist.h"
 #include "panes/filepane.h"
 #include "panes/foldertree.h"
 #include "panes/placefolders.h"
 #include "support/scriptedprompts.h"
 #include "support/testregistry.h"
+#include "widgets/drivebox.h"
+#include "widgets/drives.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>

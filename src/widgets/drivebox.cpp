@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/drivebox.h"
+#include "widgets/drivebox.h"
 
-#include "panes/drives.h"
+#include "widgets/drives.h"
 
 #include <QIcon>
 #include <QSignalBlocker>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/filelistbox.h"
+#include "widgets/filelistbox.h"
 
-#include "panes/filenames.h"
+#include "widgets/filenames.h"
 
 namespace zephira {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/filenames.h"
+#include "widgets/filenames.h"
 
 #include "core/vbtext.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/drives.h"
+#include "widgets/drives.h"
 
 #include <QDir>
 #include <QFileInfo>

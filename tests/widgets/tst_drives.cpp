@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/drives.h"
 #include "support/testregistry.h"
+#include "widgets/drives.h"
 
 #include <QFileInfo>
 #include <QTest>

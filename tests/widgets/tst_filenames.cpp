@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/filenames.h"
 #include "support/testregistry.h"
+#include "widgets/filenames.h"
 
 #include <QDir>
 #include <QFile>
