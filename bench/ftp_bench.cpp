@@ -7,9 +7,9 @@
 #include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
-#include "ftp/ftpdesk.h"
 #include "ftp/net/netoperations.h"
 #include "ftp/remotelisting.h"
+#include "ftp/sessiondisplay.h"
 #include "ftp/transferengine.h"
 #include "noprompts.h"
 
@@ -36,19 +36,11 @@ struct CountingPrompts final : NoPrompts {
 };
 
 /// A window that shows nothing.
-struct BlankDesk final : FtpDesk {
+struct BlankWindow final : LogDisplay, PanelDisplay {
     void log(LogEntry, const QStringList &) override {}
     void clearLog() override {}
     void setPanel(int, const QString &) override {}
     void setBusy(bool) override {}
-    void markTransferType(bool) override {}
-    void markPassive(bool) override {}
-    void clearRemoteTree() override {}
-    void addRemoteRoot() override {}
-    void List() override {}
-    void openModal(const QString &) override {}
-    void refreshLocal() override {}
-    void refreshRemote() override {}
 };
 
 struct BlankDisplay final : TransferDisplay {
@@ -63,10 +55,12 @@ bool transfer(FtpClient &client, const TransferQueue &queue)
 {
     DiskFileStore files;
     CountingPrompts prompts;
+    BlankWindow window;
     BlankDisplay display;
     QElapsedTimer time;
     time.start();
-    TransferEngine engine(client, files, prompts, display, [&time] { return static_cast<quint32>(time.elapsed()); });
+    TransferEngine engine(client, files, prompts, {window, window, display},
+                          [&time] { return static_cast<quint32>(time.elapsed()); });
     return engine.run(queue) == TransferEngine::Outcome::Completed && prompts.failures == 0;
 }
 
@@ -131,8 +125,7 @@ int main(int argc, char **argv)
             continue;
         const SystemClock clock;
         NetOperations operations(clock);
-        BlankDesk desk;
-        FtpClient client{.operations = operations, .desk = &desk};
+        FtpClient client{.operations = operations};
         client.session.ftpOpenHandle = operations.InternetOpenA(u"ftp_bench"_s, INTERNET_OPEN_TYPE_DIRECT, {}, {}, 0);
         client.session.ftpConnectHandle =
             operations.InternetConnectA(client.session.ftpOpenHandle, arguments[2], arguments[3].toUShort(), {}, {},

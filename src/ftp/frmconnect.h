@@ -15,17 +15,18 @@ namespace Ui {
 class FrmConnect;
 }
 
+class FtpDesk;
 struct FtpClient;
 struct SiteProfile;
 
-/// The sites: keeps profiles, fills its fields from the one that is chosen, and connects. It can connect only while the
-/// FTP window is open.
+/// The sites: keeps profiles, fills its fields from the one that is chosen, and connects.
 class FrmConnect final : public QDialog
 {
     Q_OBJECT
 
 public:
-    FrmConnect(FtpClient &client, const AppContext &context, QWidget *owner);
+    /// `desk` is the FTP window that opens the form; without one nothing can be connected.
+    FrmConnect(FtpClient &client, FtpDesk *desk, const AppContext &context, QWidget *owner);
     ~FrmConnect() override;
 
 protected:
@@ -49,6 +50,7 @@ private:
 
     const std::unique_ptr<Ui::FrmConnect> m_ui;
     FtpClient &m_client;
+    FtpDesk *const m_desk;
     const AppContext &m_context;
     /// The profile that Delete means: the text of the node that was chosen last.
     QString m_chosen;

@@ -101,10 +101,9 @@ frmmainftp::frmmainftp(FtpClient &client, const AppContext &context, QWidget *ow
     , m_ui(std::make_unique<Ui::frmmainftp>())
     , m_client(client)
     , m_context(context)
-    , m_connection(client, context.prompts)
+    , m_connection(client, *this, context.prompts)
 {
     m_ui->setupUi(this);
-    m_client.desk = this;
     m_sinceLogPainted.start();
     m_menus = new FtpMenus(*m_ui->menubar, *m_ui->Toolbar1, this);
     connect(m_menus, &FtpMenus::triggered, this, &frmmainftp::run);
@@ -122,11 +121,7 @@ frmmainftp::frmmainftp(FtpClient &client, const AppContext &context, QWidget *ow
     m_ui->ListView1->setFocus();
 }
 
-frmmainftp::~frmmainftp()
-{
-    if (m_client.desk == this)
-        m_client.desk = nullptr;
-}
+frmmainftp::~frmmainftp() = default;
 
 void frmmainftp::makePanels()
 {

@@ -44,13 +44,13 @@ quint32 tickCount()
 
 } // namespace
 
-frmProg::frmProg(FtpClient &client, const AppContext &context, QWidget *owner)
+frmProg::frmProg(FtpClient &client, LogDisplay &log, PanelDisplay &panels, const AppContext &context, QWidget *owner)
     : QDialog(owner)
     , m_ui(std::make_unique<Ui::frmProg>())
     , m_client(client)
     , m_prompts(context.prompts)
     , m_queue(std::exchange(client.queue, {}))
-    , m_engine(client, context.files, context.prompts, *this, tickCount)
+    , m_engine(client, context.files, context.prompts, {log, panels, *this}, tickCount)
 {
     m_ui->setupUi(this);
     showQueue();

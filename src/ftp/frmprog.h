@@ -23,8 +23,8 @@ class frmProg final : public QDialog, private TransferDisplay
     Q_OBJECT
 
 public:
-    /// Takes the queue out of the client.
-    frmProg(FtpClient &client, const AppContext &context, QWidget *owner);
+    /// Takes the queue out of the client. Log and panels outlive the form.
+    frmProg(FtpClient &client, LogDisplay &log, PanelDisplay &panels, const AppContext &context, QWidget *owner);
     ~frmProg() override;
 
 private:

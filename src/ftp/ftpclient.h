@@ -6,16 +6,12 @@
 
 namespace zephira {
 
-class FtpDesk;
-
 /// What the windows of the file transfer share. There is one for the process, so that a window that is closed and opened
 /// again finds the session as it was left.
 struct FtpClient {
     InternetOperations &operations;
     FtpSession session = {};
     TransferQueue queue = {};
-    /// The FTP window while it is open.
-    FtpDesk *desk = nullptr;
 };
 
 } // namespace zephira

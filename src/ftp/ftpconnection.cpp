@@ -22,47 +22,45 @@ constexpr qint32 binaryTransfer = 2;
 
 bool FtpConnection::connectToServer(const ConnectRequest &request, const std::function<void()> &hideDialog)
 {
-    FtpDesk &desk = *m_client.desk;
     FtpSession &session = m_client.session;
     setTransferType(request.binary);
-    desk.markPassive(request.passive);
+    m_desk.markPassive(request.passive);
     const quint32 flags = request.passive ? INTERNET_FLAG_PASSIVE : INTERNET_FLAG_EXISTING_CONNECT;
     if (!openConnection(request, flags, hideDialog)) {
         m_client.operations.InternetCloseHandle(session.ftpOpenHandle);
         return false;
     }
-    desk.log(LogEntry::HostSearched);
-    desk.setPanel(connectionPanel, u"Online"_s);
+    m_desk.log(LogEntry::HostSearched);
+    m_desk.setPanel(connectionPanel, u"Online"_s);
     session.ftpSearchPath = loginSearchPath();
-    desk.log(LogEntry::Connected);
-    desk.addRemoteRoot();
+    m_desk.log(LogEntry::Connected);
+    m_desk.addRemoteRoot();
     // The list shows the login folder, but until a folder is clicked commands build their paths from the root.
     session.ftpRemoteFolder = u"/"_s;
-    desk.List();
+    m_desk.List();
     return true;
 }
 
 bool FtpConnection::openConnection(const ConnectRequest &request, quint32 flags,
                                    const std::function<void()> &hideDialog)
 {
-    FtpDesk &desk = *m_client.desk;
     FtpSession &session = m_client.session;
     session.ftpOpenHandle = m_client.operations.InternetOpenA(request.siteName, INTERNET_OPEN_TYPE_DIRECT, {}, {},
                                                               INTERNET_FLAG_NO_CACHE_WRITE);
     hideDialog();
     if (session.ftpOpenHandle == 0) {
         m_prompts.tell(u"Connection to service failed!"_s, {}, Question::Icon::Exclamation);
-        desk.log(LogEntry::ServiceFailed);
+        m_desk.log(LogEntry::ServiceFailed);
         return false;
     }
-    desk.log(LogEntry::Banner, {UCase(request.siteName), session.ftpServer});
+    m_desk.log(LogEntry::Banner, {UCase(request.siteName), session.ftpServer});
     // The port is a word without a sign on the wire, so that a negative number stands for one above 32767.
     session.ftpConnectHandle = m_client.operations.InternetConnectA(
         session.ftpOpenHandle, session.ftpServer, static_cast<quint16>(session.ftpPort), session.ftpUser,
         session.ftpPassword, INTERNET_SERVICE_FTP, flags, 0);
     if (session.ftpConnectHandle == 0) {
         m_prompts.tell(u"Connection to server failed!"_s, {}, Question::Icon::Exclamation);
-        desk.log(LogEntry::ServerFailed);
+        m_desk.log(LogEntry::ServerFailed);
         return false;
     }
     return true;
@@ -84,7 +82,7 @@ QString FtpConnection::loginSearchPath()
 void FtpConnection::setTransferType(bool binary)
 {
     m_client.session.ftpTransferType = binary ? binaryTransfer : asciiTransfer;
-    m_client.desk->markTransferType(binary);
+    m_desk.markTransferType(binary);
 }
 
 void FtpConnection::disconnectFromServer()
@@ -92,7 +90,7 @@ void FtpConnection::disconnectFromServer()
     closeHandles();
     m_client.session.ftpConnectHandle = 0;
     m_client.session.ftpOpenHandle = 0;
-    m_client.desk->log(LogEntry::Disconnected);
+    m_desk.log(LogEntry::Disconnected);
 }
 
 void FtpConnection::closeHandles()

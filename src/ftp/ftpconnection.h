@@ -7,6 +7,7 @@
 
 namespace zephira {
 
+class FtpDesk;
 class Prompts;
 struct FtpClient;
 
@@ -18,11 +19,13 @@ struct ConnectRequest {
     bool passive = true;
 };
 
-/// Opens and closes the session's connection. The client's desk must be there.
+/// Opens and closes the session's connection, and shows that on the desk.
 class FtpConnection
 {
 public:
-    FtpConnection(FtpClient &client, Prompts &prompts) : m_client(client), m_prompts(prompts) {}
+    FtpConnection(FtpClient &client, FtpDesk &desk, Prompts &prompts)
+        : m_client(client), m_desk(desk), m_prompts(prompts)
+    {}
 
     /// Connects, logs in and lists the login folder. `hideDialog` is called once the service is asked for. A failure is
     /// told and logged, and leaves the session unconnected; false then.
@@ -41,6 +44,7 @@ private:
     QString loginSearchPath();
 
     FtpClient &m_client;
+    FtpDesk &m_desk;
     Prompts &m_prompts;
 };
 

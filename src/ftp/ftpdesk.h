@@ -1,27 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ftp/sessionlog.h"
+#include "ftp/sessiondisplay.h"
 
 namespace zephira {
 
-// Panels of the status bar, from 1: the one for passing texts, and the one for the connection.
-constexpr int textPanel = 2;
-constexpr int connectionPanel = 3;
-
-/// The FTP window as its commands and the other two windows of the file transfer see it.
-class FtpDesk
+/// The FTP window as its commands and the connection see it.
+class FtpDesk : public LogDisplay, public PanelDisplay
 {
 public:
-    virtual ~FtpDesk() = default;
-
-    /// Puts an entry into the log, in the place of its selection; logText() tells which parts it takes.
-    virtual void log(LogEntry entry, const QStringList &parts = {}) = 0;
-    virtual void clearLog() = 0;
-    virtual void setPanel(int panel, const QString &text) = 0;
-    /// Shows the hourglass while something is waited for.
-    virtual void setBusy(bool busy) = 0;
-
     // The check marks of the transfer menu.
     virtual void markTransferType(bool binary) = 0;
     virtual void markPassive(bool passive) = 0;

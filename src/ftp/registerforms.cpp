@@ -7,28 +7,51 @@
 #include "ftp/frmprog.h"
 #include "ftp/ftpclient.h"
 
+#include <QWidget>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira::ftp {
 
 namespace {
 
-/// A form that takes the client too.
-template<typename Form>
-void add(FormCatalogue &catalogue, const QString &name, const std::shared_ptr<FtpClient> &client)
+/// Stands for the FTP window where a form is made without one.
+class NoDisplay final : public LogDisplay, public PanelDisplay
 {
-    catalogue.add(name, [client](const AppContext &context, QWidget *owner) -> QWidget * {
-        return new Form(*client, context, owner);
-    });
+public:
+    void log(LogEntry, const QStringList &) override {}
+    void clearLog() override {}
+    void setPanel(int, const QString &) override {}
+    void setBusy(bool) override {}
+};
+
+/// The FTP window over which a form is opened, or nullptr.
+FtpDesk *deskOf(QWidget *owner)
+{
+    for (QWidget *window = owner; window; window = window->parentWidget()) {
+        if (auto *desk = dynamic_cast<FtpDesk *>(window))
+            return desk;
+    }
+    return nullptr;
 }
 
 } // namespace
 
 void registerForms(FormCatalogue &catalogue, const std::shared_ptr<FtpClient> &client)
 {
-    add<FrmConnect>(catalogue, u"FrmConnect"_s, client);
-    add<frmProg>(catalogue, u"frmProg"_s, client);
-    add<frmmainftp>(catalogue, u"frmmainftp"_s, client);
+    catalogue.add(u"FrmConnect"_s, [client](const AppContext &context, QWidget *owner) -> QWidget * {
+        return new FrmConnect(*client, deskOf(owner), context, owner);
+    });
+    catalogue.add(
+        u"frmProg"_s,
+        [client, nowhere = std::make_shared<NoDisplay>()](const AppContext &context, QWidget *owner) -> QWidget * {
+            if (FtpDesk *desk = deskOf(owner))
+                return new frmProg(*client, *desk, *desk, context, owner);
+            return new frmProg(*client, *nowhere, *nowhere, context, owner);
+        });
+    catalogue.add(u"frmmainftp"_s, [client](const AppContext &context, QWidget *owner) -> QWidget * {
+        return new frmmainftp(*client, context, owner);
+    });
 }
 
 } // namespace zephira::ftp

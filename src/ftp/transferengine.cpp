@@ -4,8 +4,8 @@
 #include "core/filestore.h"
 #include "core/prompts.h"
 #include "ftp/ftpclient.h"
-#include "ftp/ftpdesk.h"
 #include "ftp/remotename.h"
+#include "ftp/sessiondisplay.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -64,9 +64,9 @@ private:
     qint64 m_size = 0;
 };
 
-TransferEngine::TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, TransferDisplay &display,
+TransferEngine::TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, const Displays &displays,
                                std::function<quint32()> ticks)
-    : m_client(client), m_files(files), m_prompts(prompts), m_display(display), m_ticks(std::move(ticks))
+    : m_client(client), m_files(files), m_prompts(prompts), m_displays(displays), m_ticks(std::move(ticks))
 {}
 
 TransferEngine::~TransferEngine() = default;
@@ -78,7 +78,7 @@ TransferEngine::Outcome TransferEngine::run(const TransferQueue &queue)
     m_progress = {.total = queue.total()};
     m_number = 0;
     m_count = static_cast<int>(queue.files.size());
-    m_display.beginRun(m_progress.total, double(m_progress.total) * (downloads ? downloadSlack : 1));
+    m_displays.progress.beginRun(m_progress.total, double(m_progress.total) * (downloads ? downloadSlack : 1));
     for (const TransferQueue::File &file : queue.files) {
         if (!(this->*move)(file))
             return Outcome::Stopped;
@@ -96,11 +96,11 @@ bool TransferEngine::download(const TransferQueue::File &file)
         return refuse(u"This name can't stand for a file here: %1"_s.arg(file.name));
     const QString local = m_client.session.ftpLocalFolder + file.name;
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
-    m_client.desk->log(LogEntry::DownloadBegun, {remote, local});
-    m_client.desk->setPanel(textPanel, u"Transfering data..., wait."_s);
+    m_displays.log.log(LogEntry::DownloadBegun, {remote, local});
+    m_displays.panels.setPanel(textPanel, u"Transfering data..., wait."_s);
     if (!open(remote, GENERIC_READ)) {
         m_prompts.tell(u"Can't open file path!"_s, u"Problém s URL"_s, Question::Icon::Exclamation);
-        m_client.desk->log(LogEntry::DownloadRefused);
+        m_displays.log.log(LogEntry::DownloadRefused);
         return false;
     }
 
@@ -109,10 +109,10 @@ bool TransferEngine::download(const TransferQueue::File &file)
     const Result<void> stored = store(local, received);
     m_progress.endFile();
     close();
-    m_display.endFile(m_progress);
+    m_displays.progress.endFile(m_progress);
     if (!stored)
         return refuse(stored.error().sentence);
-    m_client.desk->log(LogEntry::Done);
+    m_displays.log.log(LogEntry::Done);
     return true;
 }
 
@@ -150,15 +150,15 @@ bool TransferEngine::upload(const TransferQueue::File &file)
     beginFile(u"Uploading file: %1 / %2 bytes."_s.arg(file.name, QString::number(file.size)), double(file.size));
     const QString path = m_client.session.ftpLocalFolder + file.name;
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
-    m_client.desk->log(LogEntry::UploadBegun, {path, remote});
-    m_client.desk->setPanel(textPanel, u"uploading data..., wait."_s);
+    m_displays.log.log(LogEntry::UploadBegun, {path, remote});
+    m_displays.panels.setPanel(textPanel, u"uploading data..., wait."_s);
     // The local file comes first: one that can't be read must not make the server's empty.
     QFile local(path);
     if (!local.open(QIODevice::ReadOnly))
         return refuse(u"Can't open the file %1: %2"_s.arg(path, local.errorString()));
     if (!open(remote, GENERIC_WRITE)) {
         m_prompts.tell(u"Cant create requested file on server"_s, {}, Question::Icon::Exclamation);
-        m_client.desk->log(LogEntry::UploadRefused);
+        m_displays.log.log(LogEntry::UploadRefused);
         return false;
     }
 
@@ -167,13 +167,13 @@ bool TransferEngine::upload(const TransferQueue::File &file)
         tellUploadFailure();
     local.close();
     m_progress.endFile();
-    m_display.endFile(m_progress);
+    m_displays.progress.endFile(m_progress);
     // The server may find only now that it can't keep the file, for instance on a full disk.
     if (!close() && outcome == Sending::Complete)
         tellUploadFailure();
     if (outcome == Sending::Unreadable)
         return refuse(u"Can't read the file %1 to its end"_s.arg(path));
-    m_client.desk->log(LogEntry::Done);
+    m_displays.log.log(LogEntry::Done);
     return true;
 }
 
@@ -200,12 +200,12 @@ TransferEngine::Sending TransferEngine::send(QFile &local)
 void TransferEngine::tellUploadFailure()
 {
     m_prompts.tell(u"Could Not Download!"_s, {}, Question::Icon::Exclamation);
-    m_client.desk->log(LogEntry::UploadFailed);
+    m_displays.log.log(LogEntry::UploadFailed);
 }
 
 void TransferEngine::beginFile(const QString &line, double barMaximum)
 {
-    m_display.beginFile(++m_number, line, barMaximum);
+    m_displays.progress.beginFile(++m_number, line, barMaximum);
 }
 
 bool TransferEngine::open(const QString &remote, quint32 access)
@@ -221,7 +221,7 @@ void TransferEngine::countBlock(qint64 bytes)
 {
     // The difference is right even where the ticks wrapped around in between.
     m_progress.addBlock(bytes, qint32(m_ticks() - m_startTicks));
-    m_display.moved(m_progress);
+    m_displays.progress.moved(m_progress);
 }
 
 bool TransferEngine::close()
@@ -232,7 +232,7 @@ bool TransferEngine::close()
 bool TransferEngine::refuse(const QString &sentence)
 {
     m_prompts.tell(sentence, {}, Question::Icon::Exclamation);
-    m_client.desk->log(LogEntry::LocalFileFailed, {sentence});
+    m_displays.log.log(LogEntry::LocalFileFailed, {sentence});
     return false;
 }
 

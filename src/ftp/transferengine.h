@@ -15,11 +15,13 @@ namespace zephira {
 
 struct FtpClient;
 class FileStore;
+class LogDisplay;
+class PanelDisplay;
 class Prompts;
 template<typename T>
 class Result;
 
-/// Where a run shows itself. It must stay alive while a run lasts.
+/// Where a run shows how far it has come. It must stay alive while a run lasts.
 class TransferDisplay
 {
 public:
@@ -51,8 +53,15 @@ public:
         Stopped,
     };
 
+    /// What a run is seen in.
+    struct Displays {
+        LogDisplay &log;
+        PanelDisplay &panels;
+        TransferDisplay &progress;
+    };
+
     /// `ticks` gives a time in milliseconds from any beginning, which may wrap around. All references outlive the engine.
-    TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, TransferDisplay &display,
+    TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, const Displays &displays,
                    std::function<quint32()> ticks);
     ~TransferEngine();
     Q_DISABLE_COPY_MOVE(TransferEngine)
@@ -85,7 +94,7 @@ private:
     FtpClient &m_client;
     FileStore &m_files;
     Prompts &m_prompts;
-    TransferDisplay &m_display;
+    const Displays m_displays;
     const std::function<quint32()> m_ticks;
     TransferProgress m_progress;
     InternetHandle m_handle = 0;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/itemroles.h"
+#include "ftp/frmconnect.h"
 #include "ftp/ftpbench.h"
 #include "ftp/recordingdesk.h"
 #include "support/testregistry.h"
@@ -20,11 +21,14 @@ const QString placeholder = u"anonymous@example.com"_s;
 /// The form over a desk, with some profiles beside the program.
 struct Bench : FtpBench {
     RecordingDesk desk;
+    FormCatalogue forms;
     std::unique_ptr<LivingForm> form;
 
     Bench()
     {
-        client->desk = &desk;
+        forms.add(u"FrmConnect"_s, [this](const AppContext &world, QWidget *owner) -> QWidget * {
+            return new FrmConnect(*client, &desk, world, owner);
+        });
         write(u"home.ftp"_s,
               "[PROFIL]\r\nsname=My Home\r\nadresa=home.example.com\r\nID=me\r\npass=secret\r\nport=2121\r\n");
         write(u"mirror.ftp"_s, "[PROFIL]\r\nsname=mirror\r\nadresa=mirror.example.com\r\nID=anonymous\r\nport=21\r\n");
@@ -33,7 +37,7 @@ struct Bench : FtpBench {
 
     LivingForm &open()
     {
-        form = std::make_unique<LivingForm>(catalogue, u"FrmConnect"_s, context);
+        form = std::make_unique<LivingForm>(forms, u"FrmConnect"_s, context);
         return *form;
     }
     QTreeWidget &tree() const { return form->get<QTreeWidget>(u"TView1"_s); }
@@ -558,8 +562,7 @@ void TstFrmConnect::failedConnection()
 void TstFrmConnect::withoutTheWindow()
 {
     Bench bench;
-    bench.client->desk = nullptr;
-    bench.open();
+    bench.form = std::make_unique<LivingForm>(bench.catalogue, u"FrmConnect"_s, bench.context);
     QVERIFY(!bench.form->get<QPushButton>(u"Command3"_s).isEnabled());
 }
 

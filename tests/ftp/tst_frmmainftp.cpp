@@ -52,12 +52,13 @@ struct Bench : FtpBench {
     {
         open();
         connectSession();
-        client->desk->addRemoteRoot();
-        client->desk->List();
+        desk().addRemoteRoot();
+        desk().List();
         operations.log.clear();
         form->get<QPlainTextEdit>(u"txtInfo"_s).clear();
         return *form;
     }
+    FtpDesk &desk() const { return dynamic_cast<FtpDesk &>(form->widget()); }
     void choose(const QString &entry) const { form->get<QAction>(entry).trigger(); }
     QString panel(int number) const { return form->value(u"stBar_%1"_s.arg(number)); }
     QString log() const { return form->get<QPlainTextEdit>(u"txtInfo"_s).toPlainText(); }
@@ -803,17 +804,17 @@ void TstFrmmainftp::logStartsAtTheCaret()
     Bench bench;
     bench.open();
     auto &log = bench.form->get<QPlainTextEdit>(u"txtInfo"_s);
-    bench.client->desk->log(LogEntry::ServiceFailed);
-    bench.client->desk->log(LogEntry::QueuedFile, {u"1"_s, u"/x"_s});
+    bench.desk().log(LogEntry::ServiceFailed);
+    bench.desk().log(LogEntry::QueuedFile, {u"1"_s, u"/x"_s});
     QCOMPARE(log.toPlainText(), u"Connection to service failed.\n1.) /x\n"_s);
     QTextCursor cursor = log.textCursor();
     cursor.setPosition(0);
     cursor.setPosition(10, QTextCursor::KeepAnchor);
     log.setTextCursor(cursor);
-    bench.client->desk->log(LogEntry::QueuedFile, {u"2"_s, u"/y"_s});
-    bench.client->desk->log(LogEntry::QueuedFile, {u"3"_s, u"/z"_s});
+    bench.desk().log(LogEntry::QueuedFile, {u"2"_s, u"/y"_s});
+    bench.desk().log(LogEntry::QueuedFile, {u"3"_s, u"/z"_s});
     QCOMPARE(log.toPlainText(), u"2.) /y\n3.) /z\n to service failed.\n1.) /x\n"_s);
-    bench.client->desk->clearLog();
+    bench.desk().clearLog();
     QCOMPARE(log.toPlainText(), QString());
 }
 
@@ -824,8 +825,8 @@ void TstFrmmainftp::saveAndOpenLogs()
     bench.world.prompts.expectTell(u"Nothing to be saved!"_s, {}, Question::Icon::Exclamation);
     bench.choose(u"zSave"_s);
     for (const QString &path : {u"/a/long/path"_s, u"/x"_s}) {
-        bench.client->desk->clearLog();
-        bench.client->desk->log(LogEntry::QueuedFile, {u"1"_s, path});
+        bench.desk().clearLog();
+        bench.desk().log(LogEntry::QueuedFile, {u"1"_s, path});
         bench.world.prompts.expectInput({u"Type name for the log file:"_s, u"Log File"_s}, u"today"_s);
         bench.world.prompts.expectTell(u"File saved as: \r\n"_s + bench.path(u"Logon/today.txt"_s));
         bench.choose(u"zSave"_s);
@@ -848,7 +849,7 @@ void TstFrmmainftp::missingLogFolder()
     QCOMPARE(bench.client->session.ftpLocalFolder, bench.here());
     const Result<void> unwritten = bench.files.write(bench.path(u"Logon/x.txt"_s), QByteArrayView("x"));
     QVERIFY(!unwritten);
-    bench.client->desk->log(LogEntry::Done);
+    bench.desk().log(LogEntry::Done);
     bench.world.prompts.expectInput({u"Type name for the log file:"_s, u"Log File"_s}, u"x"_s);
     bench.world.prompts.expect({unhandled(u"zSave_Click"_s, unwritten.error().sentence),
                                 {},
@@ -862,7 +863,7 @@ void TstFrmmainftp::disconnect()
 {
     Bench bench;
     bench.openConnected();
-    bench.client->desk->setPanel(connectionPanel, u"Online"_s);
+    bench.desk().setPanel(connectionPanel, u"Online"_s);
     bench.choose(u"zDisconnect"_s);
     QCOMPARE(bench.operations.log, (QStringList{u"InternetCloseHandle(902)"_s, u"InternetCloseHandle(901)"_s}));
     QCOMPARE(bench.log(), timeOfDay(bench.world.clock.time) + u" > Server disconnected.\n"_s);
@@ -884,7 +885,6 @@ void TstFrmmainftp::closeAndReopen()
     QVERIFY(!bench.form->isOpen());
     QCOMPARE(bench.operations.log, (QStringList{u"InternetCloseHandle(902)"_s, u"InternetCloseHandle(901)"_s}));
     bench.form.reset();
-    QVERIFY(!bench.client->desk);
     bench.open();
     QVERIFY(bench.client->session.isConnected());
     bench.operations.failures[u"FtpFindFirstFileA"_s] = -1;

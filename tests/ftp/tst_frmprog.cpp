@@ -32,12 +32,11 @@ struct Transfer {
 
     Transfer()
     {
-        client.desk = &desk;
         client.session.ftpConnectHandle = 2;
         client.session.ftpLocalFolder = folder.path() + u'/';
         client.session.ftpRemoteFolder = u"/"_s;
         catalogue.add(u"frmProg"_s, [this](const AppContext &context, QWidget *owner) -> QWidget * {
-            return new frmProg(client, context, owner);
+            return new frmProg(client, desk, desk, context, owner);
         });
     }
 

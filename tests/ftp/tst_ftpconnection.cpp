@@ -17,8 +17,8 @@ struct Bench {
     ScriptedPrompts prompts;
     RecordingOperations operations;
     RecordingDesk desk;
-    FtpClient client{operations, {}, {}, &desk};
-    FtpConnection connection{client, prompts};
+    FtpClient client{operations};
+    FtpConnection connection{client, desk, prompts};
     QString time = timeOfDay(desk.now);
 
     Bench()

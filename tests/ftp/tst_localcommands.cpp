@@ -24,7 +24,7 @@ struct Bench {
     RecordingOperations operations;
     RecordingDesk desk;
     FakeLocalView view;
-    FtpClient client{operations, {}, {}, &desk};
+    FtpClient client{operations};
     LocalCommands commands{client, desk, view, world};
     QString time = timeOfDay(desk.now);
 

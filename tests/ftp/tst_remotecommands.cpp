@@ -19,7 +19,7 @@ struct Bench {
     RecordingOperations operations;
     RecordingDesk desk;
     FakeRemoteView view;
-    FtpClient client{operations, {}, {}, &desk};
+    FtpClient client{operations};
     RemoteCommands commands{client, desk, view, world};
     QString time = timeOfDay(desk.now);
 

@@ -56,11 +56,10 @@ struct Run {
     KeptDisplay display;
     FtpClient client{operations};
     quint32 ticks = 0;
-    TransferEngine engine{client, files, prompts, display, [this] { return ticks += 10; }};
+    TransferEngine engine{client, files, prompts, {desk, desk, display}, [this] { return ticks += 10; }};
 
     Run()
     {
-        client.desk = &desk;
         client.session.ftpOpenHandle = 1;
         client.session.ftpConnectHandle = 2;
         client.session.ftpLocalFolder = folder.path() + u'/';
