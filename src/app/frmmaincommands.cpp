@@ -234,7 +234,7 @@ void frmmain::showFtp()
     const QString form = u"frmmainftp"_s;
     m_forms->openModeless(form);
     QWidget *window = m_forms->openForm(form);
-    if (window && projectPath() != u"Project Path"_s)
+    if (window && hasProject(*this))
         window->setProperty("LocalFolder", projectPath());
 }
 

@@ -5,6 +5,9 @@
 
 namespace zephira {
 
+/// What the box of the project folder shows while no project is set.
+inline constexpr QStringView noProjectPath = u"Project Path";
+
 /// What forms may ask of the window's document and its project.
 class DocumentHost
 {
@@ -16,12 +19,18 @@ public:
     virtual QString languageText() const = 0;
     virtual void setLanguageRow(int row) = 0;
 
-    /// Text of the project folder's box; the literal "Project Path" means that none is set.
+    /// Text of the project folder's box, whatever it is; hasProject() tells whether it stands for a folder.
     virtual QString projectPath() const = 0;
     virtual void setProjectPath(const QString &path) = 0;
 
     /// The common dialog's file name, which is the document's path, or empty.
     virtual QString commonDialogFile() const = 0;
 };
+
+/// Whether the user has set a project folder. The folder needn't exist.
+inline bool hasProject(const DocumentHost &host)
+{
+    return host.projectPath() != noProjectPath;
+}
 
 } // namespace zephira

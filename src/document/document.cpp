@@ -24,8 +24,6 @@ constexpr auto openFilter =
     u"Java / Script Files|*.js;*.java|Style Sheets|*.cs|C/C++ Files|*.c;*.cpp;*.h|Perl Files|*.pl|CGI/Perl Files|*.cgi|"
     u"XML Files|*.xml|Pascal Files|*.pas|Basic Files|*.bas;*.frm;*.vbp|ASP / VBScript Files|*.asp;*.vbs|SQL Files|*.sql";
 
-constexpr auto noProjectPath = u"Project Path";
-
 /// Languages in which an image of the file pane becomes a link. "Java Script" is no row of the list; it never matches.
 constexpr std::array imageLinkLanguages = {u"HTML", u"XML", u"Perl", u"Java Script"};
 
@@ -293,14 +291,14 @@ void Document::openImage(const QString &path)
         orRaise(m_window.showPicture(path));
         return;
     }
-    const QString base = m_context.document.projectPath();
-    if (base == QStringView(noProjectPath)) {
+    if (!hasProject(m_context.document)) {
         m_context.prompts.tell(u"Please enter a Project Path to insert image links"_s, {}, Question::Icon::Exclamation);
         return;
     }
     const QSize size = orRaise(m_window.pictureSize(path));
     const QString tag = u"<img src=\"%1\" width=\"%2\" height=\"%3\" alt=\"\" Border=\"0\">"_s.arg(
-        MakeRelativePath(base, path), QString::number(size.width()), QString::number(size.height()));
+        MakeRelativePath(m_context.document.projectPath(), path), QString::number(size.width()),
+        QString::number(size.height()));
     m_context.editor.setSelText(m_context.editor.selText() + tag);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/filepane.h"
 
+#include "core/documenthost.h"
 #include "core/prompts.h"
 #include "ui_filepane.h"
 #include "widgets/filenames.h"
@@ -20,6 +21,7 @@ FilePane::FilePane(Prompts &prompts, QWidget *parent)
     , m_watch(this)
 {
     m_ui->setupUi(this);
+    m_ui->PrjPath->setText(noProjectPath.toString());
     m_file->setObjectName(u"file"_s);
     m_file->setToolTip(u"Available Files"_s);
     m_file->setAccessibleName(u"Available Files"_s);

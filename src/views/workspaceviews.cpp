@@ -21,7 +21,6 @@ namespace zephira {
 namespace {
 
 const QString emptyPage = u"about:blank"_s;
-const QString noProjectPath = u"Project Path"_s;
 const QString serverCopy = u"prevzephirafile.asp"_s;
 
 /// What the preview makes of a document.
@@ -179,7 +178,7 @@ QString WorkspaceViews::temporaryFile(const QString &name) const
     if (!name.isEmpty())
         return previewCopyName(name);
     const QString project = m_context.document.projectPath();
-    if (project != noProjectPath && QFileInfo(project).isDir())
+    if (hasProject(m_context.document) && QFileInfo(project).isDir())
         return project + u"zephiratempfile.htm"_s;
     return m_window.scratchFolder() + u"/temp.html"_s;
 }
