@@ -9,6 +9,7 @@
 #include "core/configuration.h"
 #include "core/editorcommand.h"
 #include "core/errorstyles.h"
+#include "core/paths.h"
 #include "core/settingsnames.h"
 #include "core/usersettings.h"
 #include "desktop/formposition.h"

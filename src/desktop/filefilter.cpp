@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/filefilter.h"
 
+#include "core/paths.h"
+
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +27,7 @@ QStringList nameFilters(const QString &filter)
 
 QString withSuffixOf(const QString &nameFilter, const QString &path)
 {
-    const QString name = path.mid(path.lastIndexOf(u'/') + 1);
+    const QString name = lastName(path);
     if (name.isEmpty() || name.contains(u'.'))
         return path;
     static const QRegularExpression firstPattern(uR"(\(\*(\.[^*?\[\] .)]+)(?: [^(]*)?\)$)"_s);

@@ -30,11 +30,4 @@ public:
     QString initialFolder;
 };
 
-/// What follows the last separator, "\" and "/" alike.
-QString fileTitleOf(const QString &path);
-/// The path up to and with its last separator.
-QString folderOf(const QString &path);
-/// The folder with a separator at its end.
-QString withSeparator(const QString &folder);
-
 } // namespace zephira

@@ -7,6 +7,7 @@
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
 #include "core/filestore.h"
+#include "core/paths.h"
 #include "core/relativepath.h"
 #include "document/languages.h"
 

@@ -3,6 +3,7 @@
 
 #include "core/clock.h"
 #include "core/filestore.h"
+#include "core/paths.h"
 #include "files/fileerror.h"
 
 #include <QCoreApplication>
@@ -33,7 +34,7 @@ QString stamp(const Clock &clock)
 /// The end of the file's name, as it holds the extension, cut between characters.
 QString baseName(const QString &titleOrPath)
 {
-    QString name = titleOrPath.sliced(titleOrPath.lastIndexOf(u'/') + 1);
+    QString name = lastName(titleOrPath);
     name.replace(QChar(u'\0'), QChar(u'_'));
     while (name.toUtf8().size() > maximumBaseName)
         name.remove(0, name.size() > 1 && name[0].isHighSurrogate() ? 2 : 1);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/dirlistbox.h"
 
+#include "core/paths.h"
 #include "ftp/filetypes.h"
 #include "ftp/ftpimages.h"
-#include "ftp/localpaths.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/ftpconnection.h"
 
+#include "core/paths.h"
 #include "core/prompts.h"
 #include "core/vbtext.h"
 #include "ftp/ftpclient.h"
@@ -76,7 +77,7 @@ QString FtpConnection::loginSearchPath()
         folder.clear();
     if (const qsizetype end = folder.indexOf(QChar::Null); end >= 0)
         folder.truncate(end);
-    return folder + (folder.endsWith(u'/') ? u"*.*"_s : u"/*.*"_s);
+    return withSlash(folder) + u"*.*"_s;
 }
 
 void FtpConnection::setTransferType(bool binary)

@@ -3,15 +3,16 @@
 
 #include "core/appcontext.h"
 #include "core/errorstyles.h"
+#include "core/paths.h"
 #include "core/prompts.h"
 #include "core/shell.h"
 #include "core/vbtext.h"
 #include "ftp/extensionchange.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
-#include "ftp/localpaths.h"
 #include "ftp/localview.h"
 #include "ftp/sessionlogfile.h"
+#include "ftp/shownfolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -158,7 +159,7 @@ void LocalCommands::removeFolder()
         refuse(u"This is the program folder that can't be removed!"_s);
         return;
     }
-    if (!confirm(u"Are you sure to remove this folder: "_s + folderName(folder)
+    if (!confirm(u"Are you sure to remove this folder: "_s + lastName(folder)
                  + u"? Make sure it contains no files!\r\nIf you are, don't look for it in recycle!"_s))
         return;
     require(QDir().rmdir(folder), u"Path/File access error"_s);

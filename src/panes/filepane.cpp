@@ -2,6 +2,7 @@
 #include "panes/filepane.h"
 
 #include "core/documenthost.h"
+#include "core/paths.h"
 #include "core/prompts.h"
 #include "ui_filepane.h"
 #include "widgets/filenames.h"
@@ -122,7 +123,7 @@ void FilePane::chooseProjectPath()
     const auto folder = m_prompts.folder(u"Please choose the folder of your project"_s, projectPath());
     if (!folder || folder->isEmpty())
         return;
-    m_ui->PrjPath->setText(folder->endsWith(u'/') ? *folder : *folder + u'/');
+    m_ui->PrjPath->setText(withSlash(*folder));
 }
 
 } // namespace zephira

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/foldertree.h"
 
+#include "core/paths.h"
+
 #include <QDir>
 #include <QIcon>
 #include <QKeyEvent>
@@ -23,11 +25,6 @@ constexpr int ReadRole = Qt::UserRole + 2;
 QString pathOf(const QTreeWidgetItem *item)
 {
     return item->data(0, PathRole).toString();
-}
-
-QString withSlash(const QString &folder)
-{
-    return folder.endsWith(u'/') ? folder : folder + u'/';
 }
 
 /// The folder as it is watched, or empty for an item that is no folder.

@@ -7,6 +7,7 @@
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
 #include "core/filestore.h"
+#include "core/paths.h"
 #include "core/prompts.h"
 
 #include <QFileInfo>
@@ -44,11 +45,6 @@ PreviewKind previewKind(int languageRow)
                                                                          : PreviewKind::Unchanged;
 }
 
-QString withoutFolder(const QString &path)
-{
-    return path.mid(qMax(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\')) + 1);
-}
-
 /// The question before a page is copied into the server's folder under a name.
 Question serverQuestion(const QString &fileName, const QString &reason = {})
 {
@@ -65,7 +61,7 @@ Question serverQuestion(const QString &fileName, const QString &reason = {})
 
 QString previewCopyName(const QString &name)
 {
-    const QString title = withoutFolder(name);
+    const QString title = fileTitleOf(name);
     const qsizetype dot = title.lastIndexOf(u'.');
     return name + u"temp."_s + (dot < 0 ? QString() : title.mid(dot + 1));
 }
@@ -73,7 +69,7 @@ QString previewCopyName(const QString &name)
 QString serverAddress(const QString &server, const QString &fileName)
 {
     const QString base = server.isEmpty() ? u"http://localhost/"_s : server;
-    return base + (base.endsWith(u'/') ? QString() : u"/"_s) + QString::fromLatin1(QUrl::toPercentEncoding(fileName));
+    return withSlash(base) + QString::fromLatin1(QUrl::toPercentEncoding(fileName));
 }
 
 WorkspaceViews::WorkspaceViews(const AppContext &context, Browser &browser, WorkspaceWindow &window)
@@ -164,7 +160,7 @@ void WorkspaceViews::previewFile(FileKind kind)
 {
     const QString name = m_context.document.commonDialogFile();
     if (name.endsWith(u".asp", Qt::CaseInsensitive)) {
-        previewThroughServer(withoutFolder(name));
+        previewThroughServer(fileTitleOf(name));
         return;
     }
     const QString copy = temporaryFile(name);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/localfiles.h"
 
+#include "core/paths.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -29,7 +31,7 @@ QString fileBehind(const QUrl &address)
 
 bool liesBeneath(const QString &file, const QString &folder)
 {
-    return file == folder || file.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+    return file == folder || file.startsWith(withSlash(folder));
 }
 
 } // namespace

@@ -2,10 +2,10 @@
 #include "ftp/extensionchange.h"
 #include "ftp/filetypes.h"
 #include "ftp/ftpcommandtables.h"
-#include "ftp/localpaths.h"
 #include "ftp/recordingoperations.h"
 #include "ftp/remotelisting.h"
 #include "ftp/sessionlog.h"
+#include "ftp/shownfolder.h"
 #include "ftp/transferqueue.h"
 #include "support/testregistry.h"
 
@@ -33,8 +33,6 @@ private Q_SLOTS:
     void listing();
     void shownFolder_data();
     void shownFolder();
-    void folders_data();
-    void folders();
     void queueTexts();
     void logForms_data();
     void logForms();
@@ -213,25 +211,6 @@ void TstFtpRules::shownFolder()
 {
     QFETCH(QString, folder);
     QTEST(zephira::shownFolder(folder), "shown");
-}
-
-void TstFtpRules::folders_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("separated");
-    QTest::addColumn<QString>("parent");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("deep") << u"/a/b"_s << u"/a/b/"_s << u"/a"_s << u"b"_s;
-    QTest::newRow("below the root") << u"/a"_s << u"/a/"_s << u"/"_s << u"a"_s;
-    QTest::newRow("root") << u"/"_s << u"/"_s << u"/"_s << QString();
-}
-
-void TstFtpRules::folders()
-{
-    QFETCH(QString, folder);
-    QTEST(withSlash(folder), "separated");
-    QTEST(parentFolder(folder), "parent");
-    QTEST(folderName(folder), "name");
 }
 
 void TstFtpRules::queueTexts()

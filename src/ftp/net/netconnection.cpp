@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/net/netconnection.h"
 
+#include "core/paths.h"
 #include "ftp/namepattern.h"
 
 using namespace Qt::StringLiterals;
@@ -75,7 +76,7 @@ QString NetConnection::absolutePath(const QString &path) const
 {
     if (path.startsWith(u'/'))
         return path;
-    return (m_folder.endsWith(u'/') ? m_folder : m_folder + u'/') + path;
+    return withSlash(m_folder) + path;
 }
 
 QByteArray NetConnection::command(const char *name, const QString &path) const
