@@ -142,7 +142,7 @@ void frmmain::newWindow()
 {
     const Result<void> started = m_services.shell.start(m_services.executable, {u"/nodialog"_s});
     if (!started)
-        m_services.prompts.tell(started.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_services.prompts, started.error());
 }
 
 void frmmain::exitNow()
@@ -155,7 +155,7 @@ void frmmain::updateProgram()
 {
     const Result<void> started = m_services.shell.start(m_services.appPath + u"/update.exe"_s, {});
     if (!started)
-        m_services.prompts.tell(started.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_services.prompts, started.error());
     if (!close()) {
         // The process ends in any case; what wasn't saved stays as a recovery copy.
         m_recoveryKeeper->writeNow();

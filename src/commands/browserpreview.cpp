@@ -4,6 +4,7 @@
 #include "commands/windowcommands.h"
 #include "core/configuration.h"
 #include "core/documenthost.h"
+#include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/prompts.h"
 #include "core/shell.h"
@@ -59,7 +60,7 @@ void previewInNamedBrowser(const AppContext &context, WindowCommands &window)
     // The document's path goes over as it would on a command line without quotes: blanks divide it.
     const QStringList arguments = context.document.commonDialogFile().split(u' ', Qt::SkipEmptyParts);
     if (const Result<void> started = context.shell.start(*browser, arguments); !started)
-        context.prompts.tell(started.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(context.prompts, started.error());
 }
 
 void previewInDefaultBrowser(const AppContext &context, WindowCommands &window)

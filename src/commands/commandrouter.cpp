@@ -11,6 +11,7 @@
 #include "core/configuration.h"
 #include "core/designer.h"
 #include "core/editingcontrol.h"
+#include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/formopener.h"
 #include "core/prompts.h"
@@ -368,7 +369,7 @@ void CommandRouter::weighDocument()
     if (written)
         m_context.forms.openModal(u"frmDocSize"_s);
     else
-        m_context.prompts.tell(written.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, written.error());
 }
 
 } // namespace zephira

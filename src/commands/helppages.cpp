@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/helppages.h"
 
+#include "core/errorstyles.h"
 #include "core/prompts.h"
 #include "core/shell.h"
 
@@ -15,7 +16,7 @@ constexpr QStringView websiteAddress = u"https://zephira.example/";
 void openOrTell(const AppContext &context, const QString &pathOrUrl)
 {
     if (const Result<void> opened = context.shell.open(pathOrUrl); !opened)
-        context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(context.prompts, opened.error());
 }
 
 } // namespace

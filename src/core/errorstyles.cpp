@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/errorstyles.h"
 
-#include "core/prompts.h"
-
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -41,6 +39,11 @@ void tellingErrors(Prompts &prompts, const QString &form, const QString &procedu
                 return;
         }
     }
+}
+
+void tellError(Prompts &prompts, const Error &error, const QString &title, Question::Icon icon)
+{
+    prompts.tell(error.sentence, title, icon);
 }
 
 } // namespace zephira

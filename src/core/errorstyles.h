@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/prompts.h"
+#include "core/result.h"
+
 #include <QString>
 
 #include <functional>
+#include <initializer_list>
+#include <type_traits>
+#include <utility>
 
 namespace zephira {
-
-class Prompts;
 
 /// Raised by a statement that fails inside a handler; caught only by the three error styles below.
 struct HandlerError {
@@ -26,5 +30,19 @@ bool endingQuietly(const Statement &body);
 /// procedure. OK goes on with the next statement, Cancel leaves the rest undone.
 void tellingErrors(Prompts &prompts, const QString &form, const QString &procedure,
                    std::initializer_list<Statement> statements);
+
+/// The result's value. A failed result becomes the error that handlers are written for.
+template<typename T>
+T orRaise(Result<T> result)
+{
+    if (!result)
+        throw HandlerError{result.error().sentence};
+    if constexpr (!std::is_void_v<T>)
+        return std::move(result).value();
+}
+
+/// Tells the user what went wrong, in a box with OK. An empty title stands for the program's name.
+void tellError(Prompts &prompts, const Error &error, const QString &title = {},
+               Question::Icon icon = Question::Icon::Exclamation);
 
 } // namespace zephira

@@ -42,16 +42,6 @@ QString extensionOf(const QString &name)
     return dot < 0 ? QString() : name.mid(dot + 1).toLower();
 }
 
-/// A failed result becomes the error that handlers are written for.
-template<typename T>
-T orRaise(Result<T> result)
-{
-    if (!result)
-        throw HandlerError{result.error().sentence};
-    if constexpr (!std::is_void_v<T>)
-        return std::move(result).value();
-}
-
 } // namespace
 
 Document::Document(const AppContext &context, CommonDialog &dialog, DocumentWindow &window)
@@ -172,7 +162,7 @@ void Document::readInto(const QString &path)
     if (opened)
         return;
     if (opened.error().code == Error::Code::TooLarge)
-        m_context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, opened.error());
     else
         m_window.notice(opened.error().sentence);
 }
@@ -206,7 +196,7 @@ bool Document::doSave()
         return DoSaveAs();
     const Result<void> saved = m_context.editor.saveFile(m_path, false);
     if (!saved) {
-        m_context.prompts.tell(saved.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, saved.error());
         return false;
     }
     m_modified = false;
@@ -323,7 +313,7 @@ bool Document::openDropped(const QString &path)
         return false;
     const Result<void> opened = m_context.editor.openFile(path);
     if (!opened) {
-        m_context.prompts.tell(opened.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, opened.error());
         return false;
     }
     // A designer that is in front would go on with the page from before, and carry that back over the new one.
@@ -379,7 +369,7 @@ void Document::saveAsTemplate()
     }
     const Result<void> saved = m_context.editor.saveFile(m_context.appPath + u"/templates/custom/"_s + answer, false);
     if (!saved)
-        m_context.prompts.tell(saved.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, saved.error());
 }
 
 void Document::print()

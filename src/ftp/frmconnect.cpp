@@ -189,9 +189,7 @@ void FrmConnect::deleteProfile()
         != Answer::Yes)
         return;
     tellingErrors(m_context.prompts, objectName(), u"Command5_Click"_s, {[this] {
-                      if (const Result<void> removed = m_context.files.remove(m_context.appPath + u'/' + m_chosen);
-                          !removed)
-                          throw HandlerError{removed.error().sentence};
+                      orRaise(m_context.files.remove(m_context.appPath + u'/' + m_chosen));
                       buildTree();
                       m_ui->Command5->setEnabled(false);
                   }});

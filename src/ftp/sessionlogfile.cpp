@@ -41,8 +41,7 @@ void saveSessionLog(const AppContext &context, const QString &log)
         return;
     }
     const QString path = logFolder(context) + u'/' + name + u".txt"_s;
-    if (const Result<void> written = writeOver(context.files, path, log.toUtf8()); !written)
-        throw HandlerError{written.error().sentence};
+    orRaise(writeOver(context.files, path, log.toUtf8()));
     context.prompts.tell(u"File saved as: \r\n"_s + path);
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/appcontext.h"
 #include "core/configuration.h"
+#include "core/errorstyles.h"
 #include "core/itemroles.h"
 #include "core/pasteitem.h"
 #include "core/prompts.h"
@@ -127,7 +128,7 @@ void CustomTabs::addEntry()
     // Title and code go in together, so that no entry is left with half of itself.
     const Result<void> added = AppendToFile(m_context.files, filePath(m_menuTab), customTabEntry(title, code));
     if (!added)
-        m_context.prompts.tell(added.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, added.error());
 }
 
 } // namespace zephira

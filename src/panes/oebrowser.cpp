@@ -3,6 +3,7 @@
 
 #include "core/appcontext.h"
 #include "core/editingcontrol.h"
+#include "core/errorstyles.h"
 #include "core/prompts.h"
 #include "panes/objectbrowserlayout.h"
 #include "panes/sotloader.h"
@@ -41,7 +42,7 @@ void oebrowser::showTree(const QString &fileName)
     const Result<void> loaded =
         LoadSotTree(m_context.files, m_context.appPath + u"/deps/"_s + fileName, *m_ui->TreeView1);
     if (!loaded)
-        m_context.prompts.tell(loaded.error().sentence, windowTitle(), Question::Icon::Exclamation);
+        tellError(m_context.prompts, loaded.error(), windowTitle());
 }
 
 } // namespace zephira

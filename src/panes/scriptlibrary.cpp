@@ -2,6 +2,7 @@
 #include "panes/scriptlibrary.h"
 
 #include "core/appcontext.h"
+#include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/itemroles.h"
 #include "core/pasteitem.h"
@@ -72,7 +73,7 @@ void ScriptLibrary::paste(const QString &fileName)
     if (bytes)
         pasteBehindSelection(m_context, QString::fromUtf8(decodeText(std::move(bytes).value()).utf8));
     else
-        m_context.prompts.tell(bytes.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, bytes.error());
 }
 
 } // namespace zephira

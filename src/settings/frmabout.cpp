@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/frmabout.h"
 
-#include "settings/systeminformation.h"
-#include "ui_frmabout.h"
-
+#include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/prompts.h"
 #include "core/shell.h"
+#include "settings/systeminformation.h"
+#include "ui_frmabout.h"
 
 #include <QIcon>
 #include <QPushButton>
@@ -79,7 +79,7 @@ void frmAbout::addCredits()
 void frmAbout::openLink(const QString &address)
 {
     if (const Result<void> opened = m_context.shell.open(address); !opened)
-        m_context.prompts.tell(opened.error().sentence, windowTitle(), Question::Icon::Exclamation);
+        tellError(m_context.prompts, opened.error(), windowTitle());
 }
 
 void frmAbout::StartSysInfo()

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "start/frmselprj.h"
 
+#include "core/configuration.h"
+#include "core/documenthost.h"
+#include "core/editingcontrol.h"
+#include "core/errorstyles.h"
+#include "core/prompts.h"
 #include "start/customtemplates.h"
 #include "start/framepicture.h"
 #include "start/labeleditdelegate.h"
 #include "start/templates.h"
 #include "ui_frmselprj.h"
-
-#include "core/configuration.h"
-#include "core/documenthost.h"
-#include "core/editingcontrol.h"
-#include "core/prompts.h"
 
 #include <QAction>
 #include <QGridLayout>
@@ -121,7 +121,7 @@ void frmselprj::useTemplate(const TemplateButton &button)
     if (!file.isEmpty()) {
         const Result<QString> text = readTemplate(m_context.files, m_templateFolder + file);
         if (!text) {
-            m_context.prompts.tell(text.error().sentence, windowTitle(), Question::Icon::Critical);
+            tellError(m_context.prompts, text.error(), windowTitle(), Question::Icon::Critical);
             return;
         }
         m_context.editor.setText(text.value());
@@ -136,7 +136,7 @@ void frmselprj::useCustomTemplate(const QListWidgetItem *item)
         return;
     const Result<QString> text = readTemplate(m_context.files, m_customFolder + u'/' + item->text());
     if (!text) {
-        m_context.prompts.tell(text.error().sentence, windowTitle(), Question::Icon::Critical);
+        tellError(m_context.prompts, text.error(), windowTitle(), Question::Icon::Critical);
         return;
     }
     if (!text.value().isEmpty())
@@ -153,7 +153,7 @@ void frmselprj::renameCustom(const QString &oldName, const QString &newName)
 {
     const Result<void> renamed = renameCustomTemplate(m_context.files, m_customFolder, oldName, newName);
     if (!renamed)
-        m_context.prompts.tell(renamed.error().sentence, windowTitle(), Question::Icon::Critical);
+        tellError(m_context.prompts, renamed.error(), windowTitle(), Question::Icon::Critical);
 }
 
 } // namespace zephira

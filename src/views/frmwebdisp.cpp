@@ -2,6 +2,7 @@
 #include "views/frmwebdisp.h"
 
 #include "core/editingcontrol.h"
+#include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/prompts.h"
 #include "core/shell.h"
@@ -92,7 +93,7 @@ void frmwebdisp::saveAs()
         return;
     const Result<void> written = m_context.files.write(*path, m_source.control->text().toUtf8());
     if (!written)
-        m_context.prompts.tell(written.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, written.error());
 }
 
 } // namespace zephira

@@ -2,6 +2,7 @@
 #include "wizards/frmtable.h"
 
 #include "core/appcontext.h"
+#include "core/errorstyles.h"
 #include "core/inserter.h"
 #include "core/prompts.h"
 #include "ui_frmtable.h"
@@ -85,11 +86,12 @@ std::optional<qint32> frmTable::countIn(QLineEdit *field)
 
 bool frmTable::insert(const Result<QString> &markup)
 {
-    if (markup)
-        m_inserter.InsertAtCaret(markup.value());
-    else
-        m_prompts.tell(markup.error().sentence, windowTitle(), Question::Icon::Exclamation);
-    return markup.ok();
+    if (!markup) {
+        tellError(m_prompts, markup.error(), windowTitle());
+        return false;
+    }
+    m_inserter.InsertAtCaret(markup.value());
+    return true;
 }
 
 void frmTable::insertTable()

@@ -2,6 +2,7 @@
 #include "wizards/frmtables.h"
 
 #include "core/appcontext.h"
+#include "core/errorstyles.h"
 #include "core/inserter.h"
 #include "core/prompts.h"
 #include "ui_frmtables.h"
@@ -26,11 +27,12 @@ frmTables::~frmTables() = default;
 bool frmTables::AddTable(qint32 columns, qint32 rows)
 {
     const Result<QString> markup = simpleTableMarkup({.columns = columns, .rows = rows});
-    if (markup)
-        m_inserter.InsertAtCaret(markup.value());
-    else
-        m_prompts.tell(markup.error().sentence, windowTitle(), Question::Icon::Exclamation);
-    return markup.ok();
+    if (!markup) {
+        tellError(m_prompts, markup.error(), windowTitle());
+        return false;
+    }
+    m_inserter.InsertAtCaret(markup.value());
+    return true;
 }
 
 void frmTables::CleanUp()
