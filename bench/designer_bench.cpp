@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // designer_bench PAGE: the ways into and out of the visual designer with a page, and the time from a key to the state that
 // the toolbar shows, in a page of one paragraph and in that page; and from selecting the whole of it.
+#include "files/diskfilestore.h"
 #include "noprompts.h"
 #include "web/designer/designerwidget.h"
 
@@ -105,7 +106,8 @@ int main(int argc, char **argv)
         qFatal("usage: designer_bench PAGE");
     const QString page = QString::fromLocal8Bit(argv[1]);
     NoPrompts prompts;
-    DesignerWidget designer(prompts);
+    const DiskFileStore files;
+    DesignerWidget designer(files, prompts);
     designer.resize(800, 600);
     designer.show();
     const auto add = [](const char *name, auto run, int iterations) {

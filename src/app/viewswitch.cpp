@@ -91,10 +91,7 @@ void ViewSwitch::setPreviewTarget(const QString &target)
 
 QString ViewSwitch::scratchFolder() const
 {
-    Result<QString> folder = zephira::scratchFolder();
-    if (!folder)
-        throw HandlerError{folder.error().sentence};
-    return std::move(folder).value();
+    return orRaise(zephira::scratchFolder());
 }
 
 void ViewSwitch::notice(const QString &sentence)
@@ -113,11 +110,11 @@ Result<void> ViewSwitch::make(WorkspaceView view)
     if (!views)
         return views.error();
     if (view == WorkspaceView::Preview) {
-        const BrowserView browser = views.value()->makeBrowser(m_preview);
+        const BrowserView browser = views.value()->makeBrowser(m_context.files, m_preview);
         m_preview->setBrowserWidget(browser.widget);
         m_browser.attach(*browser.control);
     } else {
-        const DesignerView designer = views.value()->makeDesigner(m_context.prompts, &m_parts.pages);
+        const DesignerView designer = views.value()->makeDesigner(m_context.files, m_context.prompts, &m_parts.pages);
         m_designerWidget = designer.widget;
         m_parts.pages.addWidget(m_designerWidget);
         m_parts.designer.attach(*designer.control);
@@ -129,7 +126,7 @@ bool ViewSwitch::prepare(WorkspaceView view)
 {
     const Result<void> made = make(view);
     if (!made)
-        m_context.prompts.tell(made.error().sentence, {}, Question::Icon::Exclamation);
+        tellError(m_context.prompts, made.error());
     return made.ok();
 }
 

@@ -13,6 +13,7 @@ namespace zephira {
 
 class Browser;
 class Designer;
+class FileStore;
 class Prompts;
 
 /// A browser, or a designer, and the widget that it is: two views of one object that belongs to the widget's parent.
@@ -33,9 +34,10 @@ class WebViews
 public:
     virtual ~WebViews() = default;
 
-    virtual BrowserView makeBrowser(QWidget *parent) = 0;
+    /// Both read the pages that they are told to open from `files`, which outlive them.
+    virtual BrowserView makeBrowser(const FileStore &files, QWidget *parent) = 0;
     /// The designer asks the user through `prompts`, which outlive it.
-    virtual DesignerView makeDesigner(Prompts &prompts, QWidget *parent) = 0;
+    virtual DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) = 0;
 };
 
 /// Gives the views, loading their module at the first call; fails where it can't be loaded.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/browserpage.h"
 
-#include "files/diskfilestore.h"
+#include "core/filestore.h"
 #include "files/textfile.h"
 #include "web/pageaddress.h"
 
@@ -25,7 +25,8 @@ constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
 
 } // namespace
 
-BrowserPage::BrowserPage(QWebEngineProfile &profile, QObject *parent) : QWebEnginePage(&profile, parent)
+BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QObject *parent)
+    : QWebEnginePage(&profile, parent), m_files(files)
 {
     setUrlRequestInterceptor(&m_fence);
     for (const QWebEngineSettings::WebAttribute attribute : closedToPages)
@@ -50,7 +51,7 @@ void BrowserPage::open(const QUrl &address)
 
 void BrowserPage::openAsPage(const QUrl &file)
 {
-    Result<QByteArray> content = DiskFileStore().read(file.toLocalFile());
+    Result<QByteArray> content = m_files.read(file.toLocalFile());
     if (isNamedAsPage(file) || !content || content.value().size() > mostGivenBytes) {
         open(file);
         return;

@@ -9,6 +9,8 @@ class QWebEngineNewWindowRequest;
 
 namespace zephira {
 
+class FileStore;
+
 /// The page inside the browser. It is held to its own folder on the disk, may not download, open windows, ask for
 /// permissions or start other programs; a link that wants a window of its own opens in this one.
 class BrowserPage final : public QWebEnginePage
@@ -16,7 +18,7 @@ class BrowserPage final : public QWebEnginePage
     Q_OBJECT
 
 public:
-    BrowserPage(QWebEngineProfile &profile, QObject *parent);
+    BrowserPage(const FileStore &files, QWebEngineProfile &profile, QObject *parent);
 
     /// Goes to an address in the user's name.
     void open(const QUrl &address);
@@ -30,6 +32,7 @@ protected:
 private:
     void openInPlace(const QWebEngineNewWindowRequest &request);
 
+    const FileStore &m_files;
     LocalFileFence m_fence;
 };
 

@@ -20,8 +20,10 @@ constexpr QWebEnginePage::WebAction contextActions[] = {
 
 } // namespace
 
-BrowserWidget::BrowserWidget(QWidget *parent)
-    : QWidget(parent), m_view(std::make_unique<QWebEngineView>(this)), m_page(new BrowserPage(m_profile, m_view.get()))
+BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
+    : QWidget(parent)
+    , m_view(std::make_unique<QWebEngineView>(this))
+    , m_page(new BrowserPage(files, m_profile, m_view.get()))
 {
     m_view->setPage(m_page);
     auto *layout = new QVBoxLayout(this);

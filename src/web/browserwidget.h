@@ -11,6 +11,7 @@ class QWebEngineView;
 namespace zephira {
 
 class BrowserPage;
+class FileStore;
 
 /// The browser as a widget that holds its web view. Its operations can be called by name. Nothing that a page leaves
 /// behind outlives it: the profile is kept in memory alone.
@@ -20,7 +21,8 @@ class BrowserWidget final : public QWidget, public Browser
     Q_PROPERTY(QString LocationURL READ locationUrl NOTIFY NavigateComplete)
 
 public:
-    explicit BrowserWidget(QWidget *parent = nullptr);
+    /// The store outlives the widget.
+    explicit BrowserWidget(const FileStore &files, QWidget *parent = nullptr);
     ~BrowserWidget() override;
 
     Q_INVOKABLE void Navigate(const QString &address) { navigate(address); }

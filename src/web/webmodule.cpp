@@ -26,17 +26,17 @@ WebModule::WebModule()
     const QWebEngineProfile first; // Starts the engine.
 }
 
-BrowserView WebModule::makeBrowser(QWidget *parent)
+BrowserView WebModule::makeBrowser(const FileStore &files, QWidget *parent)
 {
-    auto *browser = new BrowserWidget(parent);
+    auto *browser = new BrowserWidget(files, parent);
     browser->setObjectName(u"ww1"_s);
     browser->setAccessibleName(u"Preview of the document"_s);
     return {browser, browser};
 }
 
-DesignerView WebModule::makeDesigner(Prompts &prompts, QWidget *parent)
+DesignerView WebModule::makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent)
 {
-    auto *designer = new DesignerWidget(prompts, parent);
+    auto *designer = new DesignerWidget(files, prompts, parent);
     designer->setObjectName(u"DHTMLEdit1"_s);
     designer->setAccessibleName(u"Visual editor of the document"_s);
     return {designer, designer};

@@ -18,8 +18,8 @@ public:
     /// Starts the engine.
     WebModule();
 
-    BrowserView makeBrowser(QWidget *parent) override;
-    DesignerView makeDesigner(Prompts &prompts, QWidget *parent) override;
+    BrowserView makeBrowser(const FileStore &files, QWidget *parent) override;
+    DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) override;
 };
 
 } // namespace zephira

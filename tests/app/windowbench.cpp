@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-BrowserView FakeWebViews::makeBrowser(QWidget *parent)
+BrowserView FakeWebViews::makeBrowser(const FileStore &, QWidget *parent)
 {
     made.append(u"browser"_s);
     auto *widget = new QWidget(parent);
@@ -28,7 +28,7 @@ BrowserView FakeWebViews::makeBrowser(QWidget *parent)
     return {widget, &browser};
 }
 
-DesignerView FakeWebViews::makeDesigner(Prompts &, QWidget *parent)
+DesignerView FakeWebViews::makeDesigner(const FileStore &, Prompts &, QWidget *parent)
 {
     made.append(u"designer"_s);
     auto *widget = new QWidget(parent);

@@ -26,8 +26,8 @@ struct FakeWebViews final : WebViews {
     /// What was made, in order: "browser", "designer".
     QStringList made;
 
-    BrowserView makeBrowser(QWidget *parent) override;
-    DesignerView makeDesigner(Prompts &prompts, QWidget *parent) override;
+    BrowserView makeBrowser(const FileStore &files, QWidget *parent) override;
+    DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) override;
 };
 
 /// The main window over a program folder of its own, with the shipped data and real files. Prompts, per-user settings,

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/diskfilestore.h"
 #include "support/eventwait.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
@@ -23,7 +24,8 @@ constexpr int patience = 60000;
 /// A browser that shows, and a site below a temporary folder.
 struct Bench {
     QTemporaryDir folder;
-    BrowserWidget browser;
+    DiskFileStore files;
+    BrowserWidget browser{files};
 
     Bench()
     {
@@ -332,7 +334,8 @@ private Q_SLOTS:
 
     void nothingIsKeptOnTheDisk()
     {
-        const BrowserWidget browser;
+        const DiskFileStore files;
+        const BrowserWidget browser(files);
         QVERIFY(browser.findChild<QWebEngineView *>()->page()->profile()->isOffTheRecord());
     }
 };

@@ -2,7 +2,7 @@
 #include "web/designer/designerwidget.h"
 
 #include "core/errorstyles.h"
-#include "files/diskfilestore.h"
+#include "core/filestore.h"
 #include "files/textfile.h"
 #include "web/designer/designerclipboard.h"
 #include "web/designer/designerhandles.h"
@@ -38,20 +38,18 @@ void pass(int milliseconds)
 }
 
 /// The file's text as the editor would show it.
-QString readPage(const QString &path)
+QString readPage(const FileStore &files, const QString &path)
 {
-    Result<QByteArray> content = DiskFileStore().read(path);
-    if (!content)
-        throw HandlerError{content.error().sentence};
-    const DecodedText text = decodeText(std::move(content).value());
+    const DecodedText text = decodeText(orRaise(files.read(path)));
     const bool isMixed = text.format.lineEnds == LineEnds::Mixed;
     return QString::fromUtf8(isMixed ? text.utf8 : toLineEnds(text.utf8, LineEnds::CrLf));
 }
 
 } // namespace
 
-DesignerWidget::DesignerWidget(Prompts &prompts, QWidget *parent)
+DesignerWidget::DesignerWidget(const FileStore &files, Prompts &prompts, QWidget *parent)
     : QWidget(parent)
+    , m_files(files)
     , m_questions(prompts)
     , m_view(std::make_unique<QWebEngineView>(this))
     , m_page(new DesignerPage(m_profile, m_view.get()))
@@ -109,7 +107,7 @@ void DesignerWidget::setDocumentHtml(const QString &html)
 
 void DesignerWidget::loadDocument(const QString &path)
 {
-    const QString html = readPage(path);
+    const QString html = readPage(m_files, path);
     m_baseFile = path;
     setDocumentHtml(html);
 }

@@ -18,6 +18,7 @@ namespace zephira {
 
 class DesignerHandles;
 class DesignerPage;
+class FileStore;
 
 /// The visual designer as a widget that holds its web view. Its operations can be called by name. What is asked for often
 /// (statuses, the dirty flag) is known beforehand; the rest waits for the page, within bounds. A page whose process dies
@@ -35,8 +36,8 @@ class DesignerWidget final : public QWidget, public Designer
     Q_PROPERTY(QString selectionType READ selectionType)
 
 public:
-    /// The prompts outlive the widget, which is hidden at first.
-    explicit DesignerWidget(Prompts &prompts, QWidget *parent = nullptr);
+    /// The store and the prompts outlive the widget, which is hidden at first.
+    DesignerWidget(const FileStore &files, Prompts &prompts, QWidget *parent = nullptr);
     ~DesignerWidget() override;
 
     /// A file that can't be read leaves everything as it was.
@@ -120,6 +121,7 @@ private:
     QVariant find(DesignerPrompting prompting, const QVariant &argument);
     QVariant chooseFont(DesignerPrompting prompting, const QVariant &argument);
 
+    const FileStore &m_files;
     DesignerQuestions m_questions;
     DesignerEvents m_events;
     QWebEngineProfile m_profile;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "files/diskfilestore.h"
 #include "support/scriptedprompts.h"
 #include "web/designer/designerpage.h"
 #include "web/designer/designerwidget.h"
@@ -47,8 +48,9 @@ public:
     QString write(const QString &name, const QByteArray &content) const;
 
     QTemporaryDir folder;
+    DiskFileStore files;
     ScriptedPrompts prompts;
-    DesignerWidget designer{prompts};
+    DesignerWidget designer{files, prompts};
 
     /// Milliseconds that a busy machine may need.
     static constexpr int patience = 60000;

@@ -73,7 +73,7 @@ void TstDesignerWidget::awaitComplete(const std::function<void()> &load)
 
 void TstDesignerWidget::beforeTheFirstPage()
 {
-    DesignerWidget designer(m_bench->prompts);
+    DesignerWidget designer(m_bench->files, m_bench->prompts);
     QVERIFY(!designer.isShowing());
     QVERIFY(!designer.isDirty());
     QCOMPARE(designer.documentHtml(), QString());
