@@ -33,19 +33,37 @@ missing_packages() {
     )
 }
 
+# Seconds that another package run is waited for.
+package_patience=1800
+
+# apt_get WORD...: apt-get as root or through sudo, once no other package run is under way. Its own time-out covers the lock
+# of the installation alone; where the package lists or the archive are locked it fails at once, so it is asked again.
+apt_get() {
+    local prefix=() said status end=$((SECONDS + package_patience))
+    ((EUID == 0)) || prefix=(sudo)
+    said=$(mktemp)
+    while
+        status=0
+        "${prefix[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive \
+            apt-get -o "DPkg::Lock::Timeout=$package_patience" "$@" 2>&1 | tee "$said" >&2 || status=${PIPESTATUS[0]}
+        ((status != 0 && SECONDS < end)) && grep -q 'Could not get lock' "$said"
+    do
+        say "Another package run is under way; waiting for its end."
+        sleep 2
+    done
+    rm -f "$said"
+    return "$status"
+}
+
 # install_missing LIST...: installs what is not there yet, as root or through sudo.
 install_missing() {
-    local missing prefix=()
+    local missing
     mapfile -t missing < <(missing_packages "$@")
     ((${#missing[@]})) || return 0
     command -v apt-get >/dev/null || die "These packages are missing, and there is no apt-get to install them: ${missing[*]}"
-    if ((EUID != 0)); then
-        command -v sudo >/dev/null || die "These packages are missing; install them as root: ${missing[*]}"
-        prefix=(sudo)
-    fi
+    ((EUID == 0)) || command -v sudo >/dev/null || die "These packages are missing; install them as root: ${missing[*]}"
     say "Installing ${#missing[@]} packages: ${missing[*]}"
-    "${prefix[@]}" apt-get update -q >&2
-    "${prefix[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" >&2
+    apt_get update -q && apt_get install -y -q --no-install-recommends "${missing[@]}"
 }
 
 # configured_tree PRESET: makes the preset's build tree unless it stands already; ninja keeps it up to date by itself.
