@@ -79,8 +79,6 @@ function(zephira_tests name)
   cmake_parse_arguments(ARG "FORMS;WEB" "" "SOURCES;CLASSES;LINK;LABELS;ENVIRONMENT" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
-  target_compile_definitions(${name} PRIVATE ZEPHIRA_GOLDEN_DIR="${CMAKE_SOURCE_DIR}/tests/golden"
-    ZEPHIRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_CURRENT_BINARY_DIR})
   if(ARG_WEB)
     target_link_libraries(${name} PRIVATE zephira_test_web ${ARG_LINK})
@@ -98,6 +96,12 @@ function(zephira_tests name)
     set_tests_properties(${test} PROPERTIES TIMEOUT 300 LABELS "${ARG_LABELS}"
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${ARG_ENVIRONMENT}")
   endforeach()
+endfunction()
+
+# zephira_test_path(SOURCE NAME PATH): gives one source of a test the path of something built. The paths differ from
+# checkout to checkout, and the compiler cache has to serve the program's other sources in all of them.
+function(zephira_test_path source name path)
+  set_property(SOURCE ${source} APPEND PROPERTY COMPILE_DEFINITIONS "${name}=\"${path}\"")
 endfunction()
 
 # zephira_display_test(NAME COMMAND ...): a test of the real program in a real window. It runs on a display of its own,

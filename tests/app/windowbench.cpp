@@ -7,6 +7,7 @@
 #include "panes/registerforms.h"
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
+#include "support/sourcefolder.h"
 #include "tags/registerforms.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
@@ -39,7 +40,7 @@ DesignerView FakeWebViews::makeDesigner(const FileStore &, Prompts &, QWidget *p
 WindowBench::WindowBench()
     : recovery(m_folder.path() + u"/recovery"_s, files, clock), configuration(m_folder.path() + u"/app/zephira.ini"_s)
 {
-    const QDir source(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data"));
+    const QDir source(sourcePath(u"data"_s));
     QDirIterator data(source.path(), QDir::Files, QDirIterator::Subdirectories);
     while (data.hasNext()) {
         const QString file = data.next();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/datafile.h"
 
+#include "support/sourcefolder.h"
+
 #include <QFile>
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -21,7 +23,7 @@ QByteArray shippedBytes(const QString &name)
 
 QString shippedFolder()
 {
-    return QStringLiteral(ZEPHIRA_SOURCE_DIR "/data/");
+    return sourcePath(u"data/"_s);
 }
 
 QString faultOf(const QString &file, const QString &lineEnd, bool tabs)

@@ -2,6 +2,7 @@
 #include "e2e/programfolder.h"
 
 #include "files/iniconfiguration.h"
+#include "support/sourcefolder.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -34,7 +35,7 @@ ProgramFolder::ProgramFolder()
 {
     const QString program = QStringLiteral(ZEPHIRA_PROGRAM);
     QVERIFY2(QFile::exists(program), qPrintable(program));
-    copyTree(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data"), path());
+    copyTree(sourcePath(u"data"_s), path());
     QVERIFY(QDir().mkpath(home()));
     QVERIFY(QFile::copy(program, executable()));
     // The modules lie beside the program.

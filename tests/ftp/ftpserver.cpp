@@ -3,6 +3,7 @@
 
 #include "ftp/net/hostlookup.h"
 #include "ftp/net/socket.h"
+#include "support/sourcefolder.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -120,7 +121,7 @@ QStringList FtpServer::command() const
     if (m_kind == Kind::Vsftpd)
         return {u"/usr/sbin/vsftpd"_s, m_root.filePath(u"vsftpd.conf"_s)};
     return {u"/usr/bin/python3"_s,
-            QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/ftp/ftpserver.py"),
+            sourcePath(u"tests/ftp/ftpserver.py"_s),
             m_host,
             QString::number(m_port),
             user(),

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "layers/layerrules.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -24,7 +25,7 @@ class TstLayers final : public QObject
 private Q_SLOTS:
     void sourcesKeepTheRules()
     {
-        const QString root = QStringLiteral(ZEPHIRA_SOURCE_DIR "/src");
+        const QString root = sourcePath(u"src"_s);
         const Layers layers = readLayers(root);
         int sources = 0;
         QStringList broken;
@@ -56,7 +57,7 @@ private Q_SLOTS:
     void knowsLogicAndForms()
     {
         QFETCH(QString, path);
-        const Layers layers = readLayers(QStringLiteral(ZEPHIRA_SOURCE_DIR "/src"));
+        const Layers layers = readLayers(sourcePath(u"src"_s));
         QTEST(layers.logicFiles.contains(path), "isLogic");
         QTEST(layers.formHeaders.contains(path), "isForm");
     }

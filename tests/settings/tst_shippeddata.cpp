@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/iniconfiguration.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
 #include <QFile>
@@ -13,7 +14,7 @@ using namespace zephira;
 
 namespace {
 
-const QString dataFolder = QStringLiteral(ZEPHIRA_SOURCE_DIR "/data/");
+const QString dataFolder = sourcePath(u"data/"_s);
 
 QString shipped(const QString &section, const QString &key)
 {
@@ -144,4 +145,5 @@ void TstShippedData::documentsArePresent()
 }
 
 ZEPHIRA_TEST(TstShippedData)
+
 #include "tst_shippeddata.moc"

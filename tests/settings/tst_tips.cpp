@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/tips.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
 #include <QFile>
@@ -67,7 +68,7 @@ void TstTips::instructions()
 
 void TstTips::shippedTips()
 {
-    QFile file(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data/TIPOFDAY.TXT"));
+    QFile file(sourcePath(u"data/TIPOFDAY.TXT"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList tips = tipLines(QString::fromUtf8(file.readAll()));
     QVERIFY(tips.size() >= 20);
@@ -76,4 +77,5 @@ void TstTips::shippedTips()
 }
 
 ZEPHIRA_TEST(TstTips)
+
 #include "tst_tips.moc"

@@ -2,6 +2,7 @@
 #include "start/customtemplates.h"
 #include "start/templates.h"
 #include "support/fakes.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -112,7 +113,7 @@ void TstTemplates::everyButtonOnce()
 
 void TstTemplates::everyFileIsShipped()
 {
-    const QDir folder(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data/templates"));
+    const QDir folder(sourcePath(u"data/templates"_s));
     for (const TemplateButton &button : templateButtons()) {
         if (!button.file.isEmpty())
             QVERIFY2(folder.exists(button.file.toString()), qPrintable(button.file.toString()));
@@ -226,4 +227,5 @@ void TstTemplates::renamingFails()
 }
 
 ZEPHIRA_TEST(TstTemplates)
+
 #include "tst_templates.moc"

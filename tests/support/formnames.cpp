@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/formnames.h"
 
+#include "support/sourcefolder.h"
+
 #include <QAccessible>
 #include <QAction>
 #include <QDirIterator>
@@ -89,7 +91,7 @@ const NamedControl *named(const QList<NamedControl> &controls, const QString &na
 
 QList<NamedControl> readFormNames(const QString &form)
 {
-    QFile file(QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/forms/names/") + form + u".txt"_s);
+    QFile file(sourcePath(u"tests/forms/names/"_s) + form + u".txt"_s);
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QList<NamedControl> controls;
@@ -105,8 +107,7 @@ QList<NamedControl> readFormNames(const QString &form)
 
 QString uiFileOf(const QString &form)
 {
-    QDirIterator files(QStringLiteral(ZEPHIRA_SOURCE_DIR "/src"), {form.toLower() + u".ui"_s}, QDir::Files,
-                       QDirIterator::Subdirectories);
+    QDirIterator files(sourcePath(u"src"_s), {form.toLower() + u".ui"_s}, QDir::Files, QDirIterator::Subdirectories);
     return files.hasNext() ? files.next() : QString();
 }
 

@@ -3,6 +3,7 @@
 
 #include "support/fakes.h"
 #include "support/formkit.h"
+#include "support/sourcefolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,7 +40,7 @@ void play(const LivingForm &form, const QString &step)
 void addGoldenCases(const QString &area)
 {
     QTest::addColumn<QString>("folder");
-    const QDir folder(QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/golden/") + area);
+    const QDir folder(sourcePath(u"tests/golden/"_s) + area);
     const QStringList cases = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     QVERIFY2(!cases.isEmpty(), qPrintable(folder.path()));
     for (const QString &name : cases)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "corpus.h"
+#include "syntax/corpus.h"
 
 #include <iterator>
 

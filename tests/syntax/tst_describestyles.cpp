@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syntax/describestyles.h"
 
-#include "styled.h"
 #include "support/testregistry.h"
+#include "syntax/styled.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "corpus.h"
-#include "styled.h"
+#include "syntax/corpus.h"
+#include "syntax/styled.h"
 
 #include "support/testregistry.h"
 

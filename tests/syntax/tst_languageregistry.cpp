@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syntax/languageregistry.h"
 
-#include "styled.h"
 #include "support/testregistry.h"
+#include "syntax/styled.h"
 
 #include <QTest>
 

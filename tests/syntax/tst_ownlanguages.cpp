@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "styled.h"
+#include "syntax/styled.h"
 
 #include "support/testregistry.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "styled.h"
-
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
+#include "syntax/styled.h"
 
 #include <QFile>
 #include <QTest>
@@ -42,7 +42,7 @@ void TstSyntaxSamples::sample_data()
 
     for (const auto &row : sampleFiles) {
         const QString name = QString::fromUtf16(row.file);
-        QFile file(QStringLiteral(ZEPHIRA_SOURCE_DIR "/tests/syntax/samples/") + name);
+        QFile file(sourcePath(u"tests/syntax/samples/"_s) + name);
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
         // What stands before the first case explains the file.
         QByteArrayList cases = file.readAll().split('\n');

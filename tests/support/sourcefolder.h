@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace zephira {
+
+/// The full path of a file or folder of the source tree, named from its root. The root stands in this one source, so that
+/// the compiler cache serves all others in any checkout.
+QString sourcePath(const QString &path);
+
+} // namespace zephira
