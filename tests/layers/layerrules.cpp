@@ -12,6 +12,12 @@ namespace zephira {
 
 namespace {
 
+/// A folder of the sources, and those below it, divided by blanks.
+struct FolderRow {
+    const char16_t *folder;
+    const char16_t *below;
+};
+
 /// A pattern that only some folders or files may use.
 struct Rule {
     /// Matched against what stands behind #include, or against the code.
@@ -21,6 +27,28 @@ struct Rule {
     const char16_t *sentence;
 };
 
+/// Which folders a folder may include, itself apart. Each stands below the rows that name it, so that there is no circle.
+constexpr FolderRow folderRows[] = {
+    {u"core", u""},
+    {u"files", u"core"},
+    {u"syntax", u"core"},
+    {u"widgets", u"core"},
+    {u"editor", u"core files syntax widgets"},
+    {u"web", u"core files widgets"},
+    {u"desktop", u"core files widgets"},
+    {u"tools", u"core files"},
+    {u"tags", u"core files widgets"},
+    {u"panes", u"core files widgets"},
+    {u"views", u"core files widgets"},
+    {u"wizards", u"core files widgets"},
+    {u"settings", u"core files widgets"},
+    {u"ftp", u"core files widgets panes"},
+    {u"document", u"core files editor widgets"},
+    {u"start", u"core files widgets document"},
+    {u"commands", u"core files tools views widgets document"},
+    {u"app", u"core files syntax widgets editor desktop tags panes views wizards settings ftp document start commands"},
+};
+
 constexpr Rule includeRules[] = {
     {uR"(^<Qsci/)", u"editor/", u"only editor includes QScintilla"},
     {uR"(^<(QWeb|QtWeb))", u"web/", u"only web includes the web engine"},
@@ -28,7 +56,6 @@ constexpr Rule includeRules[] = {
     {uR"(^<tidy)", u"tools/", u"only the tools include tidy"},
     {uR"(^<(sys/socket|netdb|netinet/|arpa/))", u"ftp/net/", u"only the file transfer opens sockets"},
     {uR"(^<hunspell/)", u"tools/", u"only the speller includes hunspell"},
-    {uR"(^"app/)", u"app/", u"the folders below app include nothing of it"},
 };
 
 constexpr Rule codeRules[] = {
@@ -37,6 +64,10 @@ constexpr Rule codeRules[] = {
     // Programs, event loops, menus and drags have an exec() of their own, which is no dialog's.
     {uR"((?<!application)(?<!loop)(?<!menu)(?<!drag)(?:\.|->|::|\b(?<!\.)(?<!->)(?<!::))exec\s*\()", u"desktop/",
      u"only the form opener runs a dialog"},
+    // The program makes the one store. The transfer sends files of any size block by block, where the store takes them
+    // whole, and the designer reads what is compiled into it. Names, dates and folders are anybody's.
+    {uR"((?<!include <)\b(QFile|QSaveFile|QTemporaryFile|DiskFileStore)\b(?!\s*::)|(?<![:\w])::open\s*\(|\bfopen\s*\(|\bi?o?fstream\b)",
+     u"files/ app/program.cpp ftp/transferengine. web/designer/designerpage.cpp", u"only files opens files"},
 };
 
 constexpr auto guiModules = uR"(^<Qt(Widgets|Gui|Svg|PrintSupport|Network|DBus|WebEngine\w*|WebChannel)\b)";
@@ -52,10 +83,20 @@ qsizetype lineOf(const QString &text, qsizetype offset)
     return QStringView(text).left(offset).count(u'\n') + 1;
 }
 
+QStringList words(const char16_t *list)
+{
+    return QString::fromUtf16(list).split(u' ', Qt::SkipEmptyParts);
+}
+
 bool beginsWithOneOf(const QString &path, const char16_t *beginnings)
 {
-    const QStringList list = QString::fromUtf16(beginnings).split(u' ');
-    return std::ranges::any_of(list, [&](const QString &beginning) { return path.startsWith(beginning); });
+    return std::ranges::any_of(words(beginnings), [&](const QString &beginning) { return path.startsWith(beginning); });
+}
+
+/// The first folder of a path.
+QString folderOf(const QString &path)
+{
+    return path.section(u'/', 0, 0);
 }
 
 /// The blank-divided words of each call or variable that matches.
@@ -64,10 +105,10 @@ QStringList listedSources(const QString &cmake)
     static const QRegularExpression lists(
         uR"((?:zephira_logic\(\w+|target_sources\(\w+_logic\s+\w+|set\(\w+_LOGIC|list\(APPEND \w+_LOGIC)\s([^)]*)\))"_s);
     static const QRegularExpression blanks(uR"(\s+)"_s);
-    QStringList words;
+    QStringList sources;
     for (const QRegularExpressionMatch &match : lists.globalMatch(cmake))
-        words += match.captured(1).split(blanks, Qt::SkipEmptyParts);
-    return words;
+        sources += match.captured(1).split(blanks, Qt::SkipEmptyParts);
+    return sources;
 }
 
 QString report(const QString &path, qsizetype line, const QString &sentence)
@@ -88,6 +129,9 @@ QStringList includeViolations(const QString &path, const QString &text, const La
                 && !beginsWithOneOf(path, rule.allowed))
                 result.append(report(path, line, QString::fromUtf16(rule.sentence)));
         }
+        if (header.startsWith(u'"') && header.contains(u'/') && !mayInclude(folderOf(path), folderOf(header.mid(1))))
+            result.append(
+                report(path, line, u"%1 includes nothing of %2"_s.arg(folderOf(path), folderOf(header.mid(1)))));
         if (layers.logicFiles.contains(path) && header.contains(gui))
             result.append(report(path, line, u"logic includes no more than Qt Core"_s));
         const QString own = header.mid(1, header.size() - 2);
@@ -144,6 +188,44 @@ Layers readLayers(const QString &sourceFolder)
         }
     }
     return layers;
+}
+
+QStringList folders()
+{
+    QStringList names;
+    for (const FolderRow &row : folderRows)
+        names.append(QString::fromUtf16(row.folder));
+    return names;
+}
+
+QStringList foldersBelow(const QString &folder)
+{
+    const auto row =
+        std::ranges::find(folderRows, folder, [](const FolderRow &each) { return QString::fromUtf16(each.folder); });
+    return row == std::end(folderRows) ? QStringList() : words(row->below);
+}
+
+bool mayInclude(const QString &folder, const QString &other)
+{
+    return folder == other || foldersBelow(folder).contains(other);
+}
+
+QStringList linkViolations(const QString &path, const QString &cmake)
+{
+    static const QRegularExpression logic(uR"(zephira_logic\(\s*(\w+)\s([^)]*)\))"_s);
+    static const QRegularExpression blanks(uR"(\s+)"_s);
+    // The modules that wait for a connection or a page are logic on a library of the system.
+    static const QRegularExpression allowed(u"^(core|\\w+_logic|Threads::Threads|CURL::libcurl)$"_s);
+    QStringList result;
+    for (const QRegularExpressionMatch &match : logic.globalMatch(cmake)) {
+        const QStringList libraries = match.captured(2).section(u"LINK"_s, 1).split(blanks, Qt::SkipEmptyParts);
+        for (const QString &library : libraries) {
+            if (match.captured(1) == u"core" || !library.contains(allowed))
+                result.append(report(path, lineOf(cmake, match.capturedStart()),
+                                     u"%1 doesn't link %2"_s.arg(match.captured(1), library)));
+        }
+    }
+    return result;
 }
 
 QStringList violations(const QString &path, const QString &text, const Layers &layers)

@@ -21,9 +21,21 @@ Layers readLayers(const QString &sourceFolder);
 /// Where a source breaks a rule: one sentence each, with the 1-based number of the first line concerned.
 QStringList violations(const QString &path, const QString &text, const Layers &layers);
 
+/// The folders below src/, each behind those that it may include.
+QStringList folders();
+
+/// The folders that one may include, itself apart.
+QStringList foldersBelow(const QString &folder);
+
+bool mayInclude(const QString &folder, const QString &other);
+
+/// Where a CMake file links a library of logic to what logic does without, as violations() tells it.
+QStringList linkViolations(const QString &path, const QString &cmake);
+
 /// The source without comments and without what stands in string and character literals; line ends are kept.
 QString codeOf(const QString &text);
 
 constexpr int maximumLines = 1000;
+constexpr qsizetype maximumFolderLines = 7500;
 
 } // namespace zephira

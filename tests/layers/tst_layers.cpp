@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +24,93 @@ class TstLayers final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theTableNamesEachFolder()
+    {
+        QStringList named = folders();
+        named.sort();
+        QCOMPARE(named, QDir(sourcePath(u"src"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name));
+    }
+
+    void noArrowPointsUp()
+    {
+        QStringList above;
+        const QStringList all = folders();
+        for (const QString &folder : all) {
+            const QStringList below = foldersBelow(folder);
+            for (const QString &other : below)
+                QVERIFY2(above.contains(other), qPrintable(folder + u" includes "_s + other));
+            above.append(folder);
+        }
+    }
+
+    void foldersStaySmall()
+    {
+        const QStringList all = folders();
+        for (const QString &folder : all) {
+            qsizetype lines = 0;
+            QDirIterator files(sourcePath(u"src/"_s) + folder, {u"*.h"_s, u"*.cpp"_s}, QDir::Files,
+                               QDirIterator::Subdirectories);
+            while (files.hasNext()) {
+                QFile file(files.next());
+                QVERIFY(file.open(QIODevice::ReadOnly));
+                lines += file.readAll().count('\n');
+            }
+            QVERIFY2(lines > 0 && lines < maximumFolderLines, qPrintable(u"%1 has %2 lines"_s.arg(folder).arg(lines)));
+        }
+    }
+
+    void testsMirrorTheSources()
+    {
+        const QDir sources(sourcePath(u"src"_s));
+        const QDir tests(sourcePath(u"tests"_s));
+        const QStringList all = folders();
+        for (const QString &folder : all)
+            QVERIFY2(tests.exists(folder + u"/CMakeLists.txt"_s), qPrintable(folder + u" has no tests"_s));
+        // What is tested there is no folder of the sources.
+        static const QRegularExpression others(u"^(data|e2e|forms|fuzz|layers|probes|scripts|support)$"_s);
+        QDirIterator files(tests.path(), {u"CMakeLists.txt"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString folder = tests.relativeFilePath(QFileInfo(files.next()).path());
+            if (!folder.contains(others))
+                QVERIFY2(sources.exists(folder), qPrintable(u"the sources have no folder "_s + folder));
+        }
+    }
+
+    void logicLinksLogic()
+    {
+        const QDir root(sourcePath(u"src"_s));
+        QStringList broken;
+        QDirIterator files(root.path(), {u"CMakeLists.txt"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            broken += linkViolations(root.relativeFilePath(file.fileName()), QString::fromUtf8(file.readAll()));
+        }
+        QVERIFY2(broken.isEmpty(), qPrintable(broken.join(u'\n')));
+    }
+
+    void linkRules_data()
+    {
+        QTest::addColumn<QString>("cmake");
+        QTest::addColumn<QString>("violation");
+        QTest::newRow("logic on logic") << u"zephira_logic(a_logic SOURCES\n  a.cpp\n  LINK core b_logic)"_s
+                                        << QString();
+        QTest::newRow("core alone") << u"zephira_logic(core SOURCES a.h)"_s << QString();
+        QTest::newRow("core with logic") << u"\nzephira_logic(core SOURCES a.h LINK a_logic)"_s
+                                         << u"a/CMakeLists.txt:2: core doesn't link a_logic"_s;
+        QTest::newRow("logic on forms") << u"zephira_logic(a_logic SOURCES a.h LINK core panes)"_s
+                                        << u"a/CMakeLists.txt:1: a_logic doesn't link panes"_s;
+        QTest::newRow("logic on widgets") << u"zephira_logic(a_logic SOURCES a.h LINK Qt6::Widgets)"_s
+                                          << u"a/CMakeLists.txt:1: a_logic doesn't link Qt6::Widgets"_s;
+        QTest::newRow("forms on widgets") << u"zephira_forms(a SOURCES a.h LINK Qt6::Svg)"_s << QString();
+    }
+
+    void linkRules()
+    {
+        QFETCH(QString, cmake);
+        QTEST(linkViolations(u"a/CMakeLists.txt"_s, cmake).join(u'\n'), "violation");
+    }
+
     void sourcesKeepTheRules()
     {
         const QString root = sourcePath(u"src"_s);
@@ -85,7 +173,15 @@ private Q_SLOTS:
         row("the web engine", u"views/a.cpp"_s, u"#include <QWebEngineView>\n"_s,
             u"views/a.cpp:2: only web includes the web engine"_s);
         row("the program from below", u"panes/a.cpp"_s, u"#include \"app/program.h\"\n"_s,
-            u"panes/a.cpp:2: the folders below app include nothing of it"_s);
+            u"panes/a.cpp:2: panes includes nothing of app"_s);
+        row("a folder beside", u"panes/a.cpp"_s, u"#include \"views/a.h\"\n"_s,
+            u"panes/a.cpp:2: panes includes nothing of views"_s);
+        row("a folder that nobody knows", u"panes/a.cpp"_s, u"#include \"other/a.h\"\n"_s,
+            u"panes/a.cpp:2: panes includes nothing of other"_s);
+        row("from a folder that nobody knows", u"other/a.cpp"_s, u"#include \"core/a.h\"\n"_s,
+            u"other/a.cpp:2: other includes nothing of core"_s);
+        row("a folder below", u"panes/a.cpp"_s, u"#include \"core/a.h\"\n#include \"ui_a.h\"\n"_s, {});
+        row("one's own subfolder", u"ftp/a.cpp"_s, u"#include \"ftp/net/a.h\"\n"_s, {});
         row("the program itself", u"app/a.cpp"_s, u"#include \"app/program.h\"\n"_s, {});
         row("curl", u"app/a.cpp"_s, u"#include <curl/curl.h>\n"_s,
             u"app/a.cpp:2: only the web viewer's fetch includes libcurl"_s);
@@ -108,6 +204,20 @@ private Q_SLOTS:
             u"int i = QApplication::exec() + loop.exec() + m_menu->exec() + application.exec();\n"_s, {});
         row("names that hold the word", u"app/a.cpp"_s, u"void f() { designer.execCommand(1); executive(); }\n"_s, {});
         row("the opener", u"desktop/modalformopener.cpp"_s, u"int i = dialog->exec();\n"_s, {});
+        row("a file", u"panes/a.cpp"_s, u"#include <QFile>\nQFile file(path);\n"_s,
+            u"panes/a.cpp:3: only files opens files"_s);
+        row("a file behind a pointer", u"panes/a.cpp"_s, u"auto f = std::make_unique<QFile>(path);\n"_s,
+            u"panes/a.cpp:2: only files opens files"_s);
+        row("a store of one's own", u"web/a.cpp"_s, u"auto content = DiskFileStore().read(path);\n"_s,
+            u"web/a.cpp:2: only files opens files"_s);
+        row("a stream", u"panes/a.cpp"_s, u"std::ofstream out(path);\n"_s, u"panes/a.cpp:2: only files opens files"_s);
+        row("a file of the system's", u"panes/a.cpp"_s, u"int f = ::open(path, 0);\n"_s,
+            u"panes/a.cpp:2: only files opens files"_s);
+        row("a file of C's", u"panes/a.cpp"_s, u"FILE *f = fopen(path, mode);\n"_s,
+            u"panes/a.cpp:2: only files opens files"_s);
+        row("a file at home", u"files/a.cpp"_s, u"QFile file(path);\n"_s, {});
+        row("names of files", u"panes/a.cpp"_s,
+            u"#include <QFile>\nbool there = QFile::exists(path) && QDialog::open();\n"_s, {});
         row("a header twice", u"app/a.h"_s, u"int a;\n"_s, u"app/a.h:1: a header is included once"_s);
         row("a thousand lines", u"app/a.cpp"_s, QString(999, u'\n'), {});
         row("more lines", u"app/a.cpp"_s, QString(1000, u'\n'),
