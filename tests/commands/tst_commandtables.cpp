@@ -80,7 +80,8 @@ void TstCommandTables::paletteButtons()
     for (const PaletteToolbar &bar : paletteToolbars()) {
         actual.append(bar.caption.toString());
         for (const QuickTag &tag : bar.buttons)
-            actual.append(u"  "_s + tag.key.toString() + u" | "_s + tag.label.toString());
+            actual.append(u"  "_s + tag.key.toString() + u" | "_s
+                          + (tag.label.isEmpty() ? u"-"_s : tag.label.toString()));
     }
     const QStringList expected = uR"(Tools
   tidy | Tidy your HTML/XML code with Zepphira technology
@@ -153,20 +154,20 @@ Lists
 Forms
    | Form Wizard
    | Form Tags
-   | 
+   | -
    | Button
    | Check Box
    | Option
    | Drop Down List
    | List
    | Form Image
-   | 
+   | -
    | Browse For...
    | Password
    | Text
    | Hidden
    | Text Area
-   | 
+   | -
    | Submit Button
    | Reset Button
 Scripts
