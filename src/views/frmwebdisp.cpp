@@ -7,7 +7,7 @@
 #include "core/prompts.h"
 #include "core/shell.h"
 #include "ui_frmwebdisp.h"
-#include "views/pagetext.h"
+#include "views/fetchedtext.h"
 
 #include <QGuiApplication>
 #include <QScopeGuard>
@@ -40,7 +40,7 @@ Result<QString> frmwebdisp::sourceOf(const QString &address) const
     if (!fetcher)
         return fetcher.error();
     const Result<FetchedPage> page = fetcher.value()->fetch(address);
-    return page ? Result<QString>(pageText(page.value())) : page.error();
+    return page ? Result<QString>(fetchedText(page.value())) : page.error();
 }
 
 void frmwebdisp::grabSource()

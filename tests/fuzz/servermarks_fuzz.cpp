@@ -3,7 +3,7 @@
 // no harm from whatever the engine may make of a page.
 #include "files/textfile.h"
 #include "fuzz/check.h"
-#include "web/designer/pagetext.h"
+#include "web/designer/pageroundtrip.h"
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     const QString prefix = freshMarkPrefix(text);
     ServerMarks marks(prefix);
     check(marks.unmask(marks.mask(text)) == text);
-    PageText page(text, prefix);
+    PageRoundTrip page(text, prefix);
     page.fromEngine(text);
     page.fromEngine(page.forEngine());
     page.fragmentFromEngine(page.fragmentForEngine(text));

@@ -13,9 +13,9 @@
 #include "syntax/describestyles.h"
 #include "tags/tagfile.h"
 #include "tools/sourceformatter.h"
+#include "views/fetchedtext.h"
 #include "views/pagefetcher.h"
-#include "views/pagetext.h"
-#include "web/designer/pagetext.h"
+#include "web/designer/pageroundtrip.h"
 #include "web/designer/servermarks.h"
 
 namespace zephira {
@@ -150,7 +150,7 @@ QByteArray printServerMarks(const QByteArray &input)
 /// What the designer makes of a page if its engine gives it back as it was.
 QByteArray printDesignerText(const QByteArray &input)
 {
-    const PageText page(textOf(input), QStringLiteral("mark"));
+    const PageRoundTrip page(textOf(input), QStringLiteral("mark"));
     return page.fromEngine(page.forEngine()).toUtf8();
 }
 
@@ -195,7 +195,7 @@ QByteArray printReply(const QByteArray &input)
 /// The character set that a page names, then its text.
 QByteArray printWebPage(const QByteArray &input)
 {
-    return declaredCharset(input).toUtf8() + '\n' + pageText({input, {}}).toUtf8();
+    return declaredCharset(input).toUtf8() + '\n' + fetchedText({input, {}}).toUtf8();
 }
 
 constexpr char16_t html[] = u"HTML";

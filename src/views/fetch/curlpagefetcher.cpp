@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/fetch/curlpagefetcher.h"
 
-#include "views/pagetext.h"
+#include "views/fetchedtext.h"
 
 #include <curl/curl.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/designer/designerclipboard.h"
 
-#include "web/designer/pagetext.h"
+#include "web/designer/pageroundtrip.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -31,7 +31,7 @@ QString textAsMarkup(const QString &text)
 
 } // namespace
 
-void copyToClipboard(const PageText &page, const QString &markup)
+void copyToClipboard(const PageRoundTrip &page, const QString &markup)
 {
     const QString text = page.fragmentFromEngine(markup);
     auto data = std::make_unique<QMimeData>();
@@ -45,7 +45,7 @@ void copyToClipboard(const PageText &page, const QString &markup)
     QGuiApplication::clipboard()->setMimeData(data.release());
 }
 
-ClipboardMarkup clipboardMarkup(const PageText &page)
+ClipboardMarkup clipboardMarkup(const PageRoundTrip &page)
 {
     const QMimeData *data = clipboardData();
     if (!data)

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-class PageText;
+class PageRoundTrip;
 
 /// Markup on the clipboard, in exchange with other programs and with the designer itself.
 struct ClipboardMarkup {
@@ -16,11 +16,11 @@ struct ClipboardMarkup {
 
 /// Puts a part of the page on the clipboard: its markup with server code and comments in their places, and its text; of
 /// plain text that alone. `markup` is as the engine writes it.
-void copyToClipboard(const PageText &page, const QString &markup);
+void copyToClipboard(const PageRoundTrip &page, const QString &markup);
 
 /// What the clipboard holds as markup for a page; a text becomes some, with a line break for each line end. For plain text
 /// it is the text.
-ClipboardMarkup clipboardMarkup(const PageText &page);
+ClipboardMarkup clipboardMarkup(const PageRoundTrip &page);
 bool clipboardHasMarkup();
 
 } // namespace zephira

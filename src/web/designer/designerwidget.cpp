@@ -94,7 +94,7 @@ void DesignerWidget::connectPage()
 
 void DesignerWidget::takeText(const QString &source)
 {
-    m_text = PageText(source, freshMarkPrefix(source), documentKind(m_baseFile));
+    m_text = PageRoundTrip(source, freshMarkPrefix(source), documentKind(m_baseFile));
 }
 
 void DesignerWidget::setDocumentHtml(const QString &html)

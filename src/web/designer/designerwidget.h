@@ -4,7 +4,7 @@
 #include "core/designer.h"
 #include "web/designer/designerquestions.h"
 #include "web/designer/designerstate.h"
-#include "web/designer/pagetext.h"
+#include "web/designer/pageroundtrip.h"
 
 #include <QWebEngineProfile>
 #include <QWidget>
@@ -131,7 +131,7 @@ private:
     DesignerHandles *m_handles = nullptr;
     QMenu *m_menu = nullptr;
 
-    PageText m_text;
+    PageRoundTrip m_text;
     QString m_baseFile;
     QVariantMap m_looks;
     /// What the page told last; reading it may have to wait for keys on their way.

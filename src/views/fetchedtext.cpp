@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/pagetext.h"
+#include "views/fetchedtext.h"
 
 #include "files/textfile.h"
 #include "views/pagefetcher.h"
@@ -52,7 +52,7 @@ QString declaredCharset(QByteArrayView page)
     return match.captured(1) + match.captured(2) + match.captured(3);
 }
 
-QString pageText(const FetchedPage &page)
+QString fetchedText(const FetchedPage &page)
 {
     if (const auto mark = QStringConverter::encodingForData(page.bytes))
         return QStringDecoder(*mark)(page.bytes);

@@ -19,13 +19,13 @@ namespace zephira {
 /// and body stays one.
 ///
 /// A document that is plain text goes to the engine as it stands, with LF, and comes back as it stands there, with CR LF.
-class PageText
+class PageRoundTrip
 {
 public:
     /// A page without a word of text.
-    PageText() : PageText(QString(), QStringLiteral("zs")) {}
+    PageRoundTrip() : PageRoundTrip(QString(), QStringLiteral("zs")) {}
     /// The prefix is one of freshMarkPrefix().
-    PageText(QString source, const QString &markPrefix, DocumentKind kind = DocumentKind::Markup);
+    PageRoundTrip(QString source, const QString &markPrefix, DocumentKind kind = DocumentKind::Markup);
 
     const QString &source() const { return m_source; }
     bool isPlain() const { return m_kind == DocumentKind::PlainText; }

@@ -10,7 +10,7 @@ struct FetchedPage;
 /// The text of a page. A byte order mark tells the character set, else the server, else the page itself at its start
 /// (`<meta charset>`, `<?xml encoding?>`, `@charset`); where none of them does, or the one named isn't known, it is UTF-8 if
 /// the bytes are, else Windows-1252.
-QString pageText(const FetchedPage &page);
+QString fetchedText(const FetchedPage &page);
 
 /// The character set that a page names at its start, or empty.
 ///

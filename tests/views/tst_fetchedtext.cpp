@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/testregistry.h"
+#include "views/fetchedtext.h"
 #include "views/pagefetcher.h"
-#include "views/pagetext.h"
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-class TstPageText final : public QObject
+class TstFetchedText final : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, charset);
-        QTEST(pageText({bytes, charset}), "text");
+        QTEST(fetchedText({bytes, charset}), "text");
     }
 
     void declarations_data()
@@ -85,5 +85,5 @@ private Q_SLOTS:
     }
 };
 
-ZEPHIRA_TEST(TstPageText)
-#include "tst_pagetext.moc"
+ZEPHIRA_TEST(TstFetchedText)
+#include "tst_fetchedtext.moc"

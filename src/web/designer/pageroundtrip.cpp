@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/pagetext.h"
+#include "web/designer/pageroundtrip.h"
 
 #include <QRegularExpression>
 
@@ -223,7 +223,7 @@ private:
 
 } // namespace
 
-PageText::PageText(QString source, const QString &markPrefix, DocumentKind kind)
+PageRoundTrip::PageRoundTrip(QString source, const QString &markPrefix, DocumentKind kind)
     : m_source(std::move(source)), m_kind(kind), m_marks(markPrefix)
 {
     if (isPlain()) {
@@ -236,7 +236,7 @@ PageText::PageText(QString source, const QString &markPrefix, DocumentKind kind)
 }
 
 /// Takes what stands in front of the root and behind the body from the engine; it needs the doctype alone.
-void PageText::splitEnds(std::vector<PagePiece> &pieces)
+void PageRoundTrip::splitEnds(std::vector<PagePiece> &pieces)
 {
     const QStringView source = m_source;
     const auto outside = [source](const PagePiece &piece) { return isOutside(piece, source); };
@@ -270,7 +270,7 @@ void PageText::splitEnds(std::vector<PagePiece> &pieces)
     m_forEngine += m_marks.mask(source, {root, tail});
 }
 
-void PageText::learn(const std::vector<PagePiece> &pieces)
+void PageRoundTrip::learn(const std::vector<PagePiece> &pieces)
 {
     for (const PagePiece &piece : pieces) {
         if (piece.kind == PieceKind::Text || piece.kind == PieceKind::PlainText)
@@ -280,22 +280,22 @@ void PageText::learn(const std::vector<PagePiece> &pieces)
     }
 }
 
-QString PageText::tidied(QStringView markup) const
+QString PageRoundTrip::tidied(QStringView markup) const
 {
     return TidyWriter(markup, m_textHabits, m_valueHabits).write();
 }
 
-QString PageText::fragmentForEngine(const QString &markup)
+QString PageRoundTrip::fragmentForEngine(const QString &markup)
 {
     return isPlain() ? withLf(markup) : m_marks.mask(markup);
 }
 
-QString PageText::fragmentFromEngine(const QString &markup) const
+QString PageRoundTrip::fragmentFromEngine(const QString &markup) const
 {
     return isPlain() ? withCrLf(markup) : m_marks.unmask(tidied(markup));
 }
 
-QString PageText::fromEngine(const QString &rootElement) const
+QString PageRoundTrip::fromEngine(const QString &rootElement) const
 {
     if (isPlain())
         return withCrLf(rootElement);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/testregistry.h"
-#include "web/designer/pagetext.h"
+#include "web/designer/pageroundtrip.h"
 
 #include <QTest>
 
@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 using namespace zephira;
 
 /// The engine's part is played by what it is known to write; the designer's own tests have the engine itself.
-class TstPageText : public QObject
+class TstPageRoundTrip : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private Q_SLOTS:
     void forEngine()
     {
         QFETCH(QString, source);
-        QTEST(PageText(source, u"zs"_s).forEngine(), "expected");
+        QTEST(PageRoundTrip(source, u"zs"_s).forEngine(), "expected");
     }
 
     void fromEngine_data()
@@ -102,17 +102,17 @@ private Q_SLOTS:
     {
         QFETCH(QString, source);
         QFETCH(QString, serialised);
-        QTEST(PageText(source, u"zs"_s).fromEngine(serialised), "expected");
+        QTEST(PageRoundTrip(source, u"zs"_s).fromEngine(serialised), "expected");
     }
 
     void fragments()
     {
-        PageText page(u"x<% a %>"_s, u"zs"_s);
+        PageRoundTrip page(u"x<% a %>"_s, u"zs"_s);
         QCOMPARE(page.fragmentForEngine(u"<b><%= c %></b>"_s), u"<b><!--zsx1s--></b>"_s);
         QCOMPARE(page.fragmentFromEngine(u"<zephira-mark mark=\"zsx1s\"></zephira-mark> &amp; é"_s),
                  u"<%= c %> &amp; é"_s);
     }
 };
 
-ZEPHIRA_TEST(TstPageText)
-#include "tst_pagetext.moc"
+ZEPHIRA_TEST(TstPageRoundTrip)
+#include "tst_pageroundtrip.moc"
