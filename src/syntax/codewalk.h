@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "syntax/procedurallexer.h"
 #include "syntax/bytescan.h"
+#include "syntax/procedurallexer.h"
 
 namespace zephira {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syntax/csslexer.h"
 
-#include "syntax/numbers.h"
 #include "syntax/bytescan.h"
+#include "syntax/numbers.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syntax/foldlevels.h"
 
+#include "syntax/bytescan.h"
 #include "syntax/linelexer.h"
 #include "syntax/numbers.h"
-#include "syntax/bytescan.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "syntax/taglexer.h"
 #include "syntax/bytescan.h"
+#include "syntax/taglexer.h"
 
 namespace zephira {
 

@@ -42,7 +42,7 @@ constexpr FolderRow folderRows[] = {
     {u"views", u"core files widgets"},
     {u"wizards", u"core files widgets"},
     {u"settings", u"core files widgets"},
-    {u"ftp", u"core files widgets panes"},
+    {u"ftp", u"core files widgets"},
     {u"document", u"core files editor widgets"},
     {u"start", u"core files widgets document"},
     {u"commands", u"core files tools views widgets document"},
