@@ -6,11 +6,18 @@
 
 namespace zephira {
 
-/// What the page's side of the designer reports by itself. Only the designer's own script reaches it; it lives in a
-/// world that the page's scripts can't enter.
+/// The one way by which the page's side of the designer reports by itself. Only the designer's own script reaches it; it
+/// lives in a world that the page's scripts can't enter.
 ///
-/// Every report names the page that it is about, by the prefix of its marks, and bears a number that grows within the
+/// Every report names its kind, the page that it is about, by the prefix of its marks, and a number that grows within the
 /// page: reports may arrive after another page has taken the place of theirs, or after newer ones.
+///
+/// | "kind"  | further members |
+/// |---------|-----------------|
+/// | state   | those of DesignerState::fromPage() |
+/// | place   | "place": where the selected element stands; see DesignerHandles |
+/// | copy    | those of DesignerCopy::fromPage() |
+/// | command | "command": the number of one that the user wants by the keyboard |
 class DesignerBridge final : public QObject
 {
     Q_OBJECT
@@ -18,20 +25,10 @@ class DesignerBridge final : public QObject
 public:
     using QObject::QObject;
 
-    Q_INVOKABLE void stateChanged(const QVariantMap &state) { Q_EMIT stateArrived(state); }
-    Q_INVOKABLE void placeChanged(const QVariantMap &place) { Q_EMIT placeArrived(place); }
-    Q_INVOKABLE void pageKept(const QVariantMap &copy) { Q_EMIT copyArrived(copy); }
-    Q_INVOKABLE void clipboardWanted(const QVariantMap &request) { Q_EMIT clipboardRequested(request); }
+    Q_INVOKABLE void tell(const QVariantMap &report) { Q_EMIT told(report); }
 
 Q_SIGNALS:
-    /// The members are those of DesignerState::fromPage().
-    void stateArrived(const QVariantMap &state);
-    /// The member "place" says where the selected element stands; see DesignerHandles.
-    void placeArrived(const QVariantMap &report);
-    /// The members are those of DesignerCopy::fromPage().
-    void copyArrived(const QVariantMap &copy);
-    /// The user wants to "copy", "cut" or "paste" by the keyboard, which the member "kind" tells.
-    void clipboardRequested(const QVariantMap &request);
+    void told(const QVariantMap &report);
 };
 
 } // namespace zephira

@@ -32,12 +32,6 @@ constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Se
                                   u"script-src 'none'; object-src 'none'; worker-src 'none'; connect-src 'none'; "
                                   u"frame-src 'none'; form-action 'none'\"><meta name=opening content=%1>";
 
-/// In the order in which they build upon each other.
-constexpr QStringView scriptNames[] = {
-    u"nodes",  u"selection", u"history", u"styles", u"marks",     u"plaintext", u"blocks", u"lists",    u"fonts",
-    u"insert", u"tables",    u"looks",   u"typing", u"positions", u"commands",  u"events", u"designer",
-};
-
 struct Setting {
     QWebEngineSettings::WebAttribute attribute;
     bool on;
@@ -65,13 +59,10 @@ QString resource(const QString &path)
     return QString::fromUtf8(file.readAll());
 }
 
-/// All scripts in one function, so that their names stay among themselves.
+/// What the page's side needs, and that side itself.
 QString designerScript()
 {
-    QString script = resource(u":/qtwebchannel/qwebchannel.js"_s) + u"\n(() => {\n"_s;
-    for (const QStringView name : scriptNames)
-        script += resource(u":/designer/%1.js"_s.arg(name));
-    return script + u"})();\n"_s;
+    return resource(u":/qtwebchannel/qwebchannel.js"_s) + resource(u":/designer/designer.js"_s);
 }
 
 } // namespace

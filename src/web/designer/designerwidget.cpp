@@ -18,6 +18,9 @@
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -74,22 +77,52 @@ DesignerWidget::~DesignerWidget()
 /// While the engine delivers a message it delivers no other, so that nobody who may wait for an answer is called then.
 void DesignerWidget::connectPage()
 {
-    const DesignerBridge &bridge = m_page->bridge();
     connect(m_page, &DesignerPage::ready, this, &DesignerWidget::write, Qt::QueuedConnection);
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &DesignerWidget::takeLoss);
     connect(m_view.get(), &QWidget::customContextMenuRequested, this, &DesignerWidget::requestContextMenu,
             Qt::QueuedConnection);
-    connect(&bridge, &DesignerBridge::clipboardRequested, this, &DesignerWidget::useClipboard, Qt::QueuedConnection);
-    connect(&bridge, &DesignerBridge::stateArrived, this, [this](const QVariantMap &report) {
-        if (takeReport(report))
-            QMetaObject::invokeMethod(this, &DesignerWidget::announceDisplay, Qt::QueuedConnection);
-    });
-    connect(&bridge, &DesignerBridge::placeArrived, this, [this](const QVariantMap &report) {
-        if (DesignerStamp::fromPage(report).isOf(m_text.markPrefix()))
-            m_handles->show(report.value(u"place"_s).toMap(), m_view->zoomFactor());
-    });
-    connect(&bridge, &DesignerBridge::copyArrived, this,
-            [this](const QVariantMap &copy) { takeCopy(DesignerCopy::fromPage(copy)); });
+    connect(&m_page->bridge(), &DesignerBridge::told, this, &DesignerWidget::hear);
+}
+
+/// All that the page tells by itself arrives here.
+void DesignerWidget::hear(const QVariantMap &report)
+{
+    struct Kind {
+        QStringView name;
+        void (DesignerWidget::*take)(const QVariantMap &report);
+    };
+    static constexpr Kind kinds[] = {
+        {u"state", &DesignerWidget::takeState},
+        {u"place", &DesignerWidget::takePlace},
+        {u"copy", &DesignerWidget::takeCopyReport},
+        {u"command", &DesignerWidget::takeCommand},
+    };
+    const QString name = report.value(u"kind"_s).toString();
+    const auto kind = std::ranges::find(kinds, name, [](const Kind &each) { return each.name; });
+    if (kind != std::end(kinds) && DesignerStamp::fromPage(report).isOf(m_text.markPrefix()))
+        (this->*kind->take)(report);
+}
+
+void DesignerWidget::takeState(const QVariantMap &report)
+{
+    if (takeReport(report))
+        QMetaObject::invokeMethod(this, &DesignerWidget::announceDisplay, Qt::QueuedConnection);
+}
+
+void DesignerWidget::takePlace(const QVariantMap &report)
+{
+    m_handles->show(report.value(u"place"_s).toMap(), m_view->zoomFactor());
+}
+
+void DesignerWidget::takeCopyReport(const QVariantMap &report)
+{
+    takeCopy(DesignerCopy::fromPage(report));
+}
+
+void DesignerWidget::takeCommand(const QVariantMap &report)
+{
+    const auto run = [this, report] { runFromPage(report); };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
 }
 
 void DesignerWidget::takeText(const QString &source)
@@ -148,8 +181,6 @@ void DesignerWidget::complete(const QVariant &answer)
     m_view->focusProxy()->installEventFilter(this);
     takeAnswer(answer);
     Q_EMIT DocumentComplete();
-    if (m_events.documentComplete)
-        m_events.documentComplete();
     announceDisplay();
 }
 
@@ -226,8 +257,6 @@ void DesignerWidget::takeCopy(const DesignerCopy &copy)
 void DesignerWidget::announceDisplay()
 {
     Q_EMIT DisplayChanged();
-    if (m_events.displayChanged)
-        m_events.displayChanged();
 }
 
 /// The page learns of a key a moment after the window does.
@@ -301,11 +330,7 @@ void DesignerWidget::setContextMenu(const QStringList &entries, const QList<Desi
         action->setEnabled(state != DesignerMenuState::Greyed);
         action->setCheckable(state == DesignerMenuState::Checked);
         action->setChecked(state == DesignerMenuState::Checked);
-        connect(action, &QAction::triggered, this, [this, index] {
-            Q_EMIT ContextMenuAction(index);
-            if (m_events.contextMenuAction)
-                m_events.contextMenuAction(index);
-        });
+        connect(action, &QAction::triggered, this, [this, index] { Q_EMIT ContextMenuAction(index); });
     }
 }
 
@@ -316,10 +341,23 @@ void DesignerWidget::requestContextMenu(const QPoint &place)
     const QPoint onScreen = m_view->mapToGlobal(place);
     setContextMenu({}, {});
     Q_EMIT ShowContextMenu(onScreen.x(), onScreen.y());
-    if (m_events.showContextMenu)
-        m_events.showContextMenu(onScreen);
     if (!m_menu->isEmpty())
         m_menu->popup(onScreen);
+}
+
+void DesignerWidget::setEvents(DesignerEvents events)
+{
+    m_host = std::make_unique<QObject>();
+    if (events.documentComplete)
+        connect(this, &DesignerWidget::DocumentComplete, m_host.get(), events.documentComplete);
+    if (events.displayChanged)
+        connect(this, &DesignerWidget::DisplayChanged, m_host.get(), events.displayChanged);
+    if (events.contextMenuAction)
+        connect(this, &DesignerWidget::ContextMenuAction, m_host.get(), events.contextMenuAction);
+    if (events.showContextMenu)
+        connect(this, &DesignerWidget::ShowContextMenu, m_host.get(), [show = events.showContextMenu](int x, int y) {
+            show({x, y});
+        });
 }
 
 bool DesignerWidget::eventFilter(QObject *watched, QEvent *event)

@@ -69,7 +69,7 @@ public:
     bool snapToGrid() const override { return m_looks.value(QStringLiteral("snapToGrid")).toBool(); }
     void setSnapToGrid(bool on) override { setLook(QStringLiteral("snapToGrid"), on); }
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
-    void setEvents(DesignerEvents events) override { m_events = std::move(events); }
+    void setEvents(DesignerEvents events) override;
 
     QWebEngineView &view() { return *m_view; }
     DesignerPage &page() { return *m_page; }
@@ -87,6 +87,11 @@ protected:
 
 private:
     void connectPage();
+    void hear(const QVariantMap &report);
+    void takeState(const QVariantMap &report);
+    void takePlace(const QVariantMap &report);
+    void takeCopyReport(const QVariantMap &report);
+    void takeCommand(const QVariantMap &report);
     void takeText(const QString &source);
     void open();
     void write(bool ready);
@@ -101,7 +106,7 @@ private:
     void announceDisplay();
     void awaitKeys() const;
     void setLook(const QString &name, bool on);
-    void useClipboard(const QVariantMap &request);
+    void runFromPage(const QVariantMap &report);
     void requestContextMenu(const QPoint &place);
 
     /// How a command reaches the page.
@@ -123,7 +128,8 @@ private:
 
     const FileStore &m_files;
     DesignerQuestions m_questions;
-    DesignerEvents m_events;
+    /// Stands for the host that setEvents() has connected to the signals.
+    std::unique_ptr<QObject> m_host;
     QWebEngineProfile m_profile;
     /// Deleted before the profile, which must outlive its page.
     std::unique_ptr<QWebEngineView> m_view;

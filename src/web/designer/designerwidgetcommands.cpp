@@ -134,20 +134,15 @@ QVariant DesignerWidget::paste(DesignerPrompting, const QVariant &)
     return {};
 }
 
-void DesignerWidget::useClipboard(const QVariantMap &request)
+/// The page may have gone since it told, and a page isn't trusted with more than it has keys for.
+void DesignerWidget::runFromPage(const QVariantMap &report)
 {
-    if (!DesignerStamp::fromPage(request).isOf(m_text.markPrefix()))
-        return;
-    struct Kind {
-        QStringView name;
-        DesignerCommand command;
-    };
-    static constexpr Kind kinds[] = {
-        {u"copy", DesignerCommand::Copy}, {u"cut", DesignerCommand::Cut}, {u"paste", DesignerCommand::Paste}};
-    const QString kind = request.value(u"kind"_s).toString();
-    const auto row = std::ranges::find(kinds, kind, [](const Kind &each) { return each.name; });
-    if (row != std::end(kinds))
-        execCommand(row->command, DesignerPrompting::Default, {});
+    static constexpr DesignerCommand commandsOfKeys[] = {DesignerCommand::Copy, DesignerCommand::Cut,
+                                                         DesignerCommand::Paste};
+    const DesignerCommand command{report.value(u"command"_s).toInt()};
+    if (DesignerStamp::fromPage(report).isOf(m_text.markPrefix())
+        && std::ranges::find(commandsOfKeys, command) != std::end(commandsOfKeys))
+        execCommand(command, DesignerPrompting::Default, {});
 }
 
 /// The argument where there is one, else the user's answer where asking is allowed.

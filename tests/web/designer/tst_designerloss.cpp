@@ -84,13 +84,14 @@ void TstDesignerLoss::lateReports()
     QVERIFY(!m_bench->designer.isDirty());
     // The answer to a command is the newest report; this one follows it.
     QVariantMap report = lastReport();
-    bridge().stateChanged(report);
+    report[u"kind"_s] = u"state"_s;
+    bridge().tell(report);
     report[u"number"_s] = report.value(u"number"_s).toLongLong() + step;
     report[u"dirty"_s] = true;
     report[u"selection"_s] = u"Control"_s;
     if (!isOfThisPage)
         report[u"page"_s] = u"zsother"_s;
-    bridge().stateChanged(report);
+    bridge().tell(report);
     QCOMPARE(m_bench->designer.selectionType(), counts ? u"Control"_s : u"None"_s);
     QCOMPARE(m_bench->designer.isDirty(), counts);
 }
@@ -98,12 +99,17 @@ void TstDesignerLoss::lateReports()
 void TstDesignerLoss::lateClipboardKey()
 {
     m_bench->show(u"<p>a[b]c</p>"_s);
-    bridge().clipboardWanted({{u"page"_s, u"zsother"_s}, {u"number"_s, 1000}, {u"kind"_s, u"cut"_s}});
-    const QVariantMap own = lastReport();
-    bridge().clipboardWanted({{u"page"_s, own.value(u"page"_s)}, {u"number"_s, 1000}, {u"kind"_s, u"copy"_s}});
-    QCoreApplication::processEvents();
+    const auto tell = [this](const QString &page, int number, DesignerCommand command) {
+        bridge().tell(
+            {{u"kind"_s, u"command"_s}, {u"page"_s, page}, {u"number"_s, number}, {u"command"_s, int(command)}});
+        QCoreApplication::processEvents();
+    };
+    const QString own = lastReport().value(u"page"_s).toString();
+    tell(u"zsother"_s, 1000, DesignerCommand::Cut);
+    tell(own, 1000, DesignerCommand::Copy);
+    tell(own, 1001, DesignerCommand::Delete);
     QCOMPARE(m_bench->body(), u"<p>abc</p>"_s);
-    bridge().clipboardWanted({{u"page"_s, own.value(u"page"_s)}, {u"number"_s, 1001}, {u"kind"_s, u"cut"_s}});
+    tell(own, 1002, DesignerCommand::Cut);
     QTRY_COMPARE_WITH_TIMEOUT(m_bench->body(), u"<p>ac</p>"_s, DesignerBench::patience);
 }
 
@@ -111,11 +117,16 @@ void TstDesignerLoss::lateClipboardKey()
 void TstDesignerLoss::copiesAreKeptWhileTyping()
 {
     m_bench->load(u"<p>a</p>"_s);
-    QSignalSpy copies(&bridge(), &DesignerBridge::copyArrived);
+    QList<DesignerCopy> copies;
+    const QObject listener;
+    connect(&bridge(), &DesignerBridge::told, &listener, [&](const QVariantMap &report) {
+        if (report.value(u"kind"_s).toString() == u"copy")
+            copies.append(DesignerCopy::fromPage(report));
+    });
     m_bench->ask(u"setInterval(() => document.querySelector('p').firstChild.appendData('x'), 20)"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(copies.count() >= 2, DesignerBench::patience);
-    const DesignerCopy first = DesignerCopy::fromPage(copies[0][0].toMap());
-    const DesignerCopy second = DesignerCopy::fromPage(copies[1][0].toMap());
+    QTRY_VERIFY_WITH_TIMEOUT(copies.size() >= 2, DesignerBench::patience);
+    const DesignerCopy first = copies[0];
+    const DesignerCopy second = copies[1];
     QVERIFY(second.stamp.number > first.stamp.number);
     QVERIFY(second.text.size() > first.text.size());
     killPage();

@@ -1,7 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+// Paragraphs and their formats.
+
+import {
+    bodyElement, closestBlock, containsBlock, createElement, elementOf, isBlankText, isBlock, isEmptyElement, isNamed,
+    paragraphNames, tightNames, wordSet
+} from './nodes.js';
+import {currentRange, reaches} from './selection.js';
+import {tableCellNames} from './tables.js';
+
 // Block formats by the names that menus show. A block of the first format that fits bears its name.
-const blockFormats = [
+export const blockFormats = [
     {name: 'Normal', tag: 'p'},
     {name: 'Formatted', tag: 'pre'},
     {name: 'Address', tag: 'address'},
@@ -20,13 +29,13 @@ const blockFormats = [
     {name: 'Paragraph', tag: 'p'},
 ];
 
-const listNames = wordSet('ol ul dir menu dl');
-const itemSelector = 'li,dt,dd';
-const itemNames = wordSet('li dt dd');
+export const listNames = wordSet('ol ul dir menu dl');
+export const itemSelector = 'li,dt,dd';
+export const itemNames = wordSet('li dt dd');
 
-const blockFormatNames = () => blockFormats.map(format => format.name);
+export const blockFormatNames = () => blockFormats.map(format => format.name);
 
-const formatOf = node => {
+export const formatOf = node => {
     for (let element = elementOf(node); element && element !== bodyElement(); element = element.parentElement) {
         const format = blockFormats.find(each => each.tag === element.localName
             && (!each.list || each.tag !== 'li' || each.list === element.parentElement.localName));
@@ -64,7 +73,7 @@ const paragraphsIn = function* (parent, range) {
         yield {parent, nodes: run};
 };
 
-const selectedParagraphs = (most = Infinity) => {
+export const selectedParagraphs = (most = Infinity) => {
     const range = currentRange();
     const block = closestBlock(range.commonAncestorContainer) ?? bodyElement();
     if (isNamed(block, paragraphNames))
@@ -78,17 +87,17 @@ const selectedParagraphs = (most = Infinity) => {
     return isEmptyPlace ? [{parent: block, nodes: [...block.childNodes]}] : paragraphs;
 };
 
-const startOf = paragraph => paragraph.element ?? paragraph.nodes[0] ?? paragraph.parent;
+export const startOf = paragraph => paragraph.element ?? paragraph.nodes[0] ?? paragraph.parent;
 
 // The block formats of the selection, or of the first paragraphs in it, each once.
-const selectedFormats = (most = Infinity) => {
+export const selectedFormats = (most = Infinity) => {
     const range = currentRange();
     if (range.collapsed)
         return [formatOf(range.startContainer)];
     return [...new Set(selectedParagraphs(most).map(paragraph => formatOf(startOf(paragraph))))];
 };
 
-const wrapParagraph = ({parent, nodes}, name) => {
+export const wrapParagraph = ({parent, nodes}, name) => {
     const block = createElement(name);
     parent.insertBefore(block, nodes[0] ?? null);
     for (const node of nodes)
@@ -96,60 +105,4 @@ const wrapParagraph = ({parent, nodes}, name) => {
     if (isEmptyElement(block) && !block.querySelector('br'))
         block.append(createElement('br'));
     return block;
-};
-
-// Gives a paragraph an element of that name; `replaced` learns what has taken whose place.
-const makeBlock = (paragraph, name, replaced) => {
-    if (!paragraph.element)
-        return wrapParagraph(paragraph, name);
-    if (paragraph.element.localName === name)
-        return paragraph.element;
-    const block = renameElement(paragraph.element, name);
-    replaced.set(paragraph.element, block);
-    return block;
-};
-
-// Puts blocks that follow each other into one list, together with a list of the same kind before them.
-const makeList = (blocks, format, replaced) => {
-    let list = null;
-    for (const block of blocks) {
-        let before = block.previousSibling;
-        while (before && isBlankText(before))
-            before = before.previousSibling;
-        if (!list || before !== list) {
-            list = before && isElement(before) && before.localName === format.list ? before : createElement(format.list);
-            if (list !== before)
-                block.before(list);
-        }
-        const item = createElement(format.tag);
-        list.append(item);
-        moveChildren(block, item);
-        block.remove();
-        replaced.set(block, item);
-    }
-};
-
-const setBlockFormat = name => {
-    const format = blockFormats.find(each => each.name === name);
-    if (!format)
-        return;
-    if (format.list || format.tag === 'p')
-        liftSelectedItems();
-    const mark = bookmark();
-    const replaced = new Map();
-    const blocks = selectedParagraphs().map(paragraph =>
-        makeBlock(paragraph, format.list ? 'p' : format.tag, replaced));
-    if (format.list)
-        makeList(blocks, format, replaced);
-    restore(mark, replaced);
-    if (blocks.length > 0 && getSelection().anchorNode === bodyElement())
-        placeCaretIn(replaced.get(blocks[0]) ?? blocks[0]);
-};
-
-// Makes a list of the selection, or text of the list.
-const toggleList = name => {
-    if (selectedFormats().every(format => format === name))
-        setBlockFormat('Normal');
-    else
-        setBlockFormat(name);
 };

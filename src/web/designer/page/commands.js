@@ -1,9 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The commands by their published numbers. Each tells its status, and most do something; a command with `reads` changes
-// nothing. Statuses: 0 not supported, 1 not available, 3 enabled, 7 on, 11 mixed.
+// The commands. Each tells its status, and most do something; a command with `reads` changes nothing. Statuses: 0 not
+// supported, 1 not available, 3 enabled, 7 on, 11 mixed.
 
-const status = {disabled: 1, enabled: 3, on: 7, mixed: 11};
+import {blockFormatNames, formatOf, selectedFormats} from './blocks.js';
+import {Command} from './command.js';
+import {applyFont, fontName, fontSize, isMixed, setFontSize} from './fonts.js';
+import {setBlockFormat, toggleList} from './formats.js';
+import {history} from './history.js';
+import {deleteSelection, hasLink, insertImage, insertTable, selectionMarkup, setLink, unlink} from './insert.js';
+import {changeDepth, deepenItem, raiseItem} from './lists.js';
+import {looks} from './looks.js';
+import {bodyElement, closest, nativeCommand, nativeEnabled, nativeMixed, nativeState} from './nodes.js';
+import {isPlain, plainCommands} from './plaintext.js';
+import {crossText, isLocked, positionedTarget, positionTarget, reorder, toggleAbsolute, toggleLock} from './positions.js';
+import {currentRange, isAbsolute, mostLookedAt, selectionType} from './selection.js';
+import {runNative} from './styles.js';
+import {
+    deleteCells, deleteColumns, deleteRows, insertCell, insertColumn, insertRow, mergeCells, selectedCells, selectedGrid,
+    splitCell
+} from './tables.js';
+
+const status = Object.freeze({disabled: 1, enabled: 3, on: 7, mixed: 11});
 const enabledIf = condition => condition ? status.enabled : status.disabled;
 const onIf = condition => condition ? status.on : status.enabled;
 
@@ -17,10 +35,6 @@ const nativeStatus = name => {
         return status.mixed;
     return onIf(nativeState(name));
 };
-
-// Runs a command of the engine, leaving style texts as their authors wrote them.
-const runNative = (name, value = null) =>
-    keepStyleTexts(history.changesOf(() => nativeCommand(name, false, value)));
 
 const toggle = name => ({status: () => nativeStatus(name), run: () => runNative(name)});
 const toggleText = name => ({status: () => hasText() ? nativeStatus(name) : status.disabled, run: () => runNative(name)});
@@ -49,75 +63,75 @@ const tableCommand = (run, allowed = cells => cells.length > 0) => ({
 const depthCommand = run => ({status: () => enabledIf(positionedTarget()), run});
 
 const commands = {
-    5000: toggleText('bold'),
-    5002: {status: () => enabledIf(selectionType() !== 'None'), run: selectionMarkup, reads: true},
-    5003: {status: () => enabledIf(selectionType() !== 'None'), run: () => {
+    [Command.Bold]: toggleText('bold'),
+    [Command.Copy]: {status: () => enabledIf(selectionType() !== 'None'), run: selectionMarkup, reads: true},
+    [Command.Cut]: {status: () => enabledIf(selectionType() !== 'None'), run: () => {
         const markup = selectionMarkup();
         deleteSelection();
         return markup;
     }},
-    5004: {status: () => enabledIf(!isFrameset()), run: deleteSelection},
-    5005: tableCommand(deleteCells),
-    5006: tableCommand(deleteColumns),
-    5007: tableCommand(deleteRows),
-    5008: {status: () => status.enabled, reads: true,
+    [Command.Delete]: {status: () => enabledIf(!isFrameset()), run: deleteSelection},
+    [Command.DeleteCells]: tableCommand(deleteCells),
+    [Command.DeleteColumns]: tableCommand(deleteColumns),
+    [Command.DeleteRows]: tableCommand(deleteRows),
+    [Command.FindText]: {status: () => status.enabled, reads: true,
         run: text => text !== '' && window.find(text, false, false, true, false, false, false)},
-    5009: {status: () => enabledIf(hasText()), run: applyFont},
-    5011: {
+    [Command.Font]: {status: () => enabledIf(hasText()), run: applyFont},
+    [Command.GetBlockFormat]: {
         status: ({formats}) => hasText() ? (formats.length > 1 ? status.mixed : status.enabled) : status.disabled,
         run: () => formatOf(currentRange().startContainer),
         reads: true,
     },
-    5012: {status: () => status.enabled, run: blockFormatNames, reads: true},
-    5013: fontCommand('fontFamily', fontName),
-    5014: fontCommand('fontSize', fontSize),
-    5016: {status: () => enabledIf(!isFrameset()), run: setLink},
-    5017: {status: () => enabledIf(!isFrameset()), run: insertImage},
-    5018: {status: () => nativeStatus('indent'), run: () => changeDepth(deepenItem, 'indent')},
-    5019: tableCommand(insertCell),
-    5020: tableCommand(insertColumn),
-    5021: tableCommand(insertRow),
-    5022: {status: () => enabledIf(!isFrameset()), run: insertTable},
-    5023: toggleText('italic'),
-    5024: toggle('justifyCenter'),
-    5025: toggle('justifyLeft'),
-    5026: toggle('justifyRight'),
-    5027: {
+    [Command.GetBlockFormatNames]: {status: () => status.enabled, run: blockFormatNames, reads: true},
+    [Command.GetFontName]: fontCommand('fontFamily', fontName),
+    [Command.GetFontSize]: fontCommand('fontSize', fontSize),
+    [Command.Hyperlink]: {status: () => enabledIf(!isFrameset()), run: setLink},
+    [Command.Image]: {status: () => enabledIf(!isFrameset()), run: insertImage},
+    [Command.Indent]: {status: () => nativeStatus('indent'), run: () => changeDepth(deepenItem, 'indent')},
+    [Command.InsertCell]: tableCommand(insertCell),
+    [Command.InsertColumn]: tableCommand(insertColumn),
+    [Command.InsertRow]: tableCommand(insertRow),
+    [Command.InsertTable]: {status: () => enabledIf(!isFrameset()), run: insertTable},
+    [Command.Italic]: toggleText('italic'),
+    [Command.JustifyCenter]: toggle('justifyCenter'),
+    [Command.JustifyLeft]: toggle('justifyLeft'),
+    [Command.JustifyRight]: toggle('justifyRight'),
+    [Command.LockElement]: {
         status: () => positionedTarget() ? onIf(isLocked(positionedTarget())) : status.disabled,
         run: toggleLock,
     },
-    5028: {
+    [Command.AbsolutePosition]: {
         status: () => positionTarget() ? onIf(isAbsolute(positionTarget())) : status.disabled,
         run: toggleAbsolute,
     },
-    5029: tableCommand(mergeCells, cells => cells.length > 1),
-    5030: listCommand('insertOrderedList', 'Numbered List'),
-    5031: {
+    [Command.MergeCells]: tableCommand(mergeCells, cells => cells.length > 1),
+    [Command.OrderedList]: listCommand('insertOrderedList', 'Numbered List'),
+    [Command.Outdent]: {
         status: () => enabledIf(hasText() && closest(currentRange().commonAncestorContainer, 'blockquote,ol,ul,dir,menu')),
         run: () => changeDepth(raiseItem, 'outdent'),
     },
-    5033: {status: () => enabledIf(history.canRedo), run: () => history.redo(), turns: true},
-    5035: {status: () => enabledIf(!isFrameset()), run: () => nativeCommand('selectAll', false, null), reads: true},
-    5036: depthCommand(() => reorder(place => place - 1)),
-    5037: depthCommand(() => reorder(place => place + 1)),
-    5038: depthCommand(() => crossText(false)),
-    5039: depthCommand(() => crossText(true)),
-    5040: depthCommand(() => reorder(() => 0)),
-    5041: depthCommand(() => reorder((place, count) => count - 1)),
-    5042: {status: () => enabledIf(hasText()), run: colour => runNative('backColor', colour)},
-    5043: {status: () => enabledIf(hasText()), run: setBlockFormat},
-    5044: {status: () => enabledIf(hasText()), run: name => runNative('fontName', name)},
-    5045: {status: () => enabledIf(hasText()), run: setFontSize},
-    5046: {status: () => enabledIf(hasText()), run: colour => runNative('foreColor', colour)},
-    5047: tableCommand(splitCell, cells => cells.length === 1),
-    5048: toggleText('underline'),
-    5049: {status: () => enabledIf(history.canUndo), run: () => history.undo(), turns: true},
-    5050: {status: () => enabledIf(!isFrameset() && hasLink()), run: unlink},
-    5051: listCommand('insertUnorderedList', 'Bulleted List'),
+    [Command.Redo]: {status: () => enabledIf(history.canRedo), run: () => history.redo(), turns: true},
+    [Command.SelectAll]: {status: () => enabledIf(!isFrameset()), run: () => nativeCommand('selectAll', false, null), reads: true},
+    [Command.SendBackward]: depthCommand(() => reorder(place => place - 1)),
+    [Command.BringForward]: depthCommand(() => reorder(place => place + 1)),
+    [Command.SendBelowText]: depthCommand(() => crossText(false)),
+    [Command.BringAboveText]: depthCommand(() => crossText(true)),
+    [Command.SendToBack]: depthCommand(() => reorder(() => 0)),
+    [Command.BringToFront]: depthCommand(() => reorder((place, count) => count - 1)),
+    [Command.SetBackColor]: {status: () => enabledIf(hasText()), run: colour => runNative('backColor', colour)},
+    [Command.SetBlockFormat]: {status: () => enabledIf(hasText()), run: setBlockFormat},
+    [Command.SetFontName]: {status: () => enabledIf(hasText()), run: name => runNative('fontName', name)},
+    [Command.SetFontSize]: {status: () => enabledIf(hasText()), run: setFontSize},
+    [Command.SetForeColor]: {status: () => enabledIf(hasText()), run: colour => runNative('foreColor', colour)},
+    [Command.SplitCell]: tableCommand(splitCell, cells => cells.length === 1),
+    [Command.Underline]: toggleText('underline'),
+    [Command.Undo]: {status: () => enabledIf(history.canUndo), run: () => history.undo(), turns: true},
+    [Command.Unlink]: {status: () => enabledIf(!isFrameset() && hasLink()), run: unlink},
+    [Command.UnorderedList]: listCommand('insertUnorderedList', 'Bulleted List'),
 };
 
-// To copy, find and select all: nothing else can be done with a page that is only looked at.
-const browseCommands = new Set([5002, 5008, 5035]);
+// Nothing else can be done with a page that is only looked at.
+const browseCommands = new Set([Command.Copy, Command.FindText, Command.SelectAll]);
 
 const isOpen = number => (!looks.browseMode || browseCommands.has(number)) && (!isPlain || plainCommands.has(number));
 
@@ -127,16 +141,16 @@ const selectionFacts = () => ({
     formats: isFrameset() ? [] : selectedFormats(mostLookedAt),
 });
 
-const allStatuses = () => {
+export const allStatuses = () => {
     const facts = selectionFacts();
     return Object.fromEntries(Object.entries(commands).map(([number, command]) =>
         [number, isOpen(Number(number)) ? command.status(facts) : status.disabled]));
 };
 
 // What a command reads, as long as the whole selection agrees on it.
-const valueOf = (number, statuses, none) => statuses[number] === status.enabled ? commands[number].run() : none;
+export const valueOf = (number, statuses, none) => statuses[number] === status.enabled ? commands[number].run() : none;
 
-const runCommand = (number, argument) => {
+export const runCommand = (number, argument) => {
     const command = commands[number];
     if (!command || !isOpen(number) || command.status(selectionFacts()) < status.enabled)
         return null;

@@ -2,15 +2,21 @@
 
 // The designer's side within the page: it takes commands from the program and tells it what the page looks like.
 
-// Set as soon as the channel to the program stands.
-let bridge = {stateChanged() {}, placeChanged() {}, pageKept() {}, clipboardWanted() {}};
-let keysSeen = 0;
-let reporting = false;
-let reportsMade = 0;
-let keepTimer = 0;
+import {Command} from './command.js';
+import {allStatuses, runCommand, valueOf} from './commands.js';
+import {keysSeen, listen} from './events.js';
+import {describeFont} from './fonts.js';
+import {history} from './history.js';
+import {insertMarkup, linkAddress} from './insert.js';
+import {looks, showLooks, signsInSight} from './looks.js';
+import {gatherComments, setMarkPrefix, showMarks} from './marks.js';
+import {bodyElement, closeDocument, openDocument, rootElement, writeDocument} from './nodes.js';
+import {isPlain, plainShell, plainText, setPlain, showPlainText} from './plaintext.js';
+import {gripsOf} from './positions.js';
+import {reportBy, reportCopy, reportState, reportTo, stamped} from './reports.js';
+import {selectedControl, selectionType, selectStart} from './selection.js';
 
-// Whoever gets a report knows by this which page it is about, and whether there has been a newer one.
-const stamped = report => ({...report, page: markPrefix, number: ++reportsMade});
+let keepTimer = 0;
 
 // A copy of the page goes to the program a while after the first change since the last copy, however fast further changes
 // come: after this many milliseconds at least, and so many times what it took to write the last one.
@@ -18,18 +24,18 @@ const keepRest = 1000;
 const keepShare = 10;
 let keepCost = 0;
 
-const history = new History(() => {
+history.changed = () => {
     reportState();
     if (keepTimer === 0)
         keepTimer = setTimeout(keepPage, Math.max(keepRest, keepShare * keepCost));
-});
+};
 
-const copyOfPage = () => stamped({text: isPlain ? plainText() : rootElement().outerHTML});
+const copyOfPage = () => ({text: isPlain ? plainText() : rootElement().outerHTML});
 
 const keepPage = () => {
     const begin = performance.now();
     keepTimer = 0;
-    bridge.pageKept(copyOfPage());
+    reportCopy();
     keepCost = performance.now() - begin;
 };
 
@@ -44,44 +50,27 @@ const place = () => {
 
 const state = () => {
     const statuses = allStatuses();
-    return stamped({
+    return {
         statuses,
         selection: selectionType(),
-        fontName: valueOf(5013, statuses, ''),
-        fontSize: valueOf(5014, statuses, 0),
-        blockFormat: valueOf(5011, statuses, ''),
+        fontName: valueOf(Command.GetFontName, statuses, ''),
+        fontSize: valueOf(Command.GetFontSize, statuses, 0),
+        blockFormat: valueOf(Command.GetBlockFormat, statuses, ''),
         dirty: Boolean(history.isChanged),
         keys: keysSeen,
         place: place(),
-    });
+    };
 };
 
-// Many events in a row make one report.
-const reportState = () => {
-    if (reporting)
-        return;
-    reporting = true;
-    queueMicrotask(() => {
-        reporting = false;
-        bridge.stateChanged(state());
-    });
-};
+reportBy({state, place: () => ({place: place()}), copy: copyOfPage});
 
-const reportPlace = () => bridge.placeChanged(stamped({place: place()}));
-
-const wantClipboard = kind => bridge.clipboardWanted(stamped({kind}));
-
-const answer = (value = null) => ({value, state: state()});
+const answer = (value = null) => ({value, state: stamped(state())});
 
 globalThis.zephiraDesigner = {
-    connect(channel) {
-        bridge = channel.objects.bridge;
-    },
-
     load(text, prefix, wantedLooks, wantsPlain) {
         history.reset();
-        markPrefix = prefix;
-        isPlain = wantsPlain;
+        setMarkPrefix(prefix);
+        setPlain(wantsPlain);
         Object.assign(looks, wantedLooks);
         openDocument();
         writeDocument(isPlain ? plainShell : text);
@@ -113,9 +102,9 @@ globalThis.zephiraDesigner = {
     },
 
     state: () => answer(),
-    text: () => answer(copyOfPage()),
+    text: () => answer(stamped(copyOfPage())),
     font: () => answer(describeFont()),
     link: () => answer(linkAddress()),
 };
 
-new QWebChannel(qt.webChannelTransport, zephiraDesigner.connect);
+new QWebChannel(qt.webChannelTransport, channel => reportTo(report => channel.objects.bridge.tell(report)));

@@ -2,6 +2,21 @@
 
 // What the user does on the page with mouse and keys, where the engine's own way isn't the designer's.
 
+import {Command} from './command.js';
+import {history} from './history.js';
+import {insertMarkup, selectionMarkup} from './insert.js';
+import {cursorSheet, looks} from './looks.js';
+import {bodyElement, caretRangeFromPoint, closest, elementOf, isNamed} from './nodes.js';
+import {insertPlainText, isPlain, onPlainInput} from './plaintext.js';
+import {Drag, gripAt, isLocked} from './positions.js';
+import {reportPlace, reportState, wantCommand} from './reports.js';
+import {controlNames, isAbsolute, placeCaret, placeCaretIn, selectedControl, selectElement} from './selection.js';
+import {currentTable} from './tables.js';
+import {beforeInputActions, inputActions} from './typing.js';
+
+// How many key presses the page has seen.
+export let keysSeen = 0;
+
 let drag = null;
 // The element that a click selected and a second click may open for typing.
 let clicked = null;
@@ -100,12 +115,12 @@ const keyActions = {
     'control+z': () => history.undo(),
     'control+shift+z': () => history.redo(),
     'control+y': () => history.redo(),
-    'control+x': () => wantClipboard('cut'),
-    'shift+delete': () => wantClipboard('cut'),
-    'control+c': () => wantClipboard('copy'),
-    'control+insert': () => wantClipboard('copy'),
-    'control+v': () => wantClipboard('paste'),
-    'shift+insert': () => wantClipboard('paste'),
+    'control+x': () => wantCommand(Command.Cut),
+    'shift+delete': () => wantCommand(Command.Cut),
+    'control+c': () => wantCommand(Command.Copy),
+    'control+insert': () => wantCommand(Command.Copy),
+    'control+v': () => wantCommand(Command.Paste),
+    'shift+insert': () => wantCommand(Command.Paste),
     'tab': () => isPlain ? history.run(() => insertPlainText('\t')) : moveToCell(currentTable(), 1),
     'shift+tab': () => moveToCell(currentTable(), -1),
 };
@@ -187,7 +202,7 @@ const listeners = {
 };
 
 // Opening a document anew takes its listeners away.
-const listen = () => {
+export const listen = () => {
     for (const [type, listener] of Object.entries(listeners))
         document.addEventListener(type, listener, {capture: true});
     window.addEventListener('resize', reportPlace);

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+// The font of the selection.
+
+import {nativeCommand, nativeState, nativeValue} from './nodes.js';
+import {currentRange, mostLookedAt, selectedTexts} from './selection.js';
+
 // Sizes 1 to 7 of the font element in points.
 const pointSizes = [8, 10, 12, 14, 18, 24, 36];
 
-const fontName = () => nativeValue('fontName').replaceAll('"', '').replaceAll("'", '');
+export const fontName = () => nativeValue('fontName').replaceAll('"', '').replaceAll("'", '');
 
-const fontSize = () => Number(nativeValue('fontSize')) || 0;
+export const fontSize = () => Number(nativeValue('fontSize')) || 0;
 
 // Whether the texts of the selection differ in a property.
-const isMixed = property => {
+export const isMixed = property => {
     const range = currentRange();
     if (range.collapsed)
         return false;
@@ -21,14 +26,14 @@ const isMixed = property => {
     return false;
 };
 
-const setFontSize = argument => {
+export const setFontSize = argument => {
     const size = Number(argument);
     if (Number.isInteger(size) && size >= 1 && size <= 7)
         nativeCommand('fontSize', false, String(size));
 };
 
 // What the font dialog starts with, and what it gives back: sizes in points.
-const describeFont = () => ({
+export const describeFont = () => ({
     name: fontName(),
     size: pointSizes[fontSize() - 1] ?? pointSizes[2],
     bold: nativeState('bold'),
@@ -43,7 +48,7 @@ const nearestSize = points => {
 };
 
 // Changes no more than what differs from the font that is there.
-const applyFont = font => {
+export const applyFont = font => {
     const before = describeFont();
     if (font.name !== before.name)
         nativeCommand('fontName', false, font.name);

@@ -2,13 +2,19 @@
 
 // One history for everything that happens to the page: typing, the engine's commands and the designer's own. It records
 // what the document tells of its changes and turns that round, step by step.
+
+import {isElement} from './nodes.js';
+import {bookmark, restore} from './selection.js';
+
 class History {
     // Typing becomes a step of its own after this many milliseconds of rest.
     static typingRest = 600;
     static mostSteps = 1000;
 
-    constructor(changed) {
-        this.changed = changed;
+    // What is called after each change; whoever wants to know sets it.
+    changed = () => {};
+
+    constructor() {
         this.observer = new MutationObserver(records => {
             this.#record(records);
             this.#endLater();
@@ -212,3 +218,5 @@ class History {
         }
     }
 }
+
+export const history = new History();

@@ -1,5 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+// What is put into the page and taken out of it.
+
+import {showMarks} from './marks.js';
+import {
+    bodyElement, closest, closestBlock, containsBlock, createElement, createTreeWalker, elementOf, indexOf, isBlock,
+    isEmptyElement, isNamed, isText, nativeCommand, paragraphNames, splitElement, unwrapElement, wordSet
+} from './nodes.js';
+import {insertPlainText, isPlain, selectedPlainText} from './plaintext.js';
+import {
+    bookmark, currentRange, placeCaret, placeCaretIn, reaches, restore, selectedControl, selectElement
+} from './selection.js';
+import {deleteAcrossLines} from './typing.js';
+
 // Markup from elsewhere comes with its own style sheets and notes to other programs.
 const foreignSelector = 'meta,link,style,script,title,base';
 
@@ -49,7 +62,7 @@ const placeCaretBehind = node => {
 
 // Puts markup in the place of the selection and the caret behind it; into plain text, as text. Gives the nodes that were
 // put in.
-const insertMarkup = (markup, isForeign) => {
+export const insertMarkup = (markup, isForeign) => {
     if (isPlain)
         return insertPlainText(markup);
     const range = clearSelection(currentRange());
@@ -72,7 +85,7 @@ const insertMarkup = (markup, isForeign) => {
     return nodes;
 };
 
-const insertTable = markup => {
+export const insertTable = markup => {
     const table = insertMarkup(markup, false).find(node => node.localName === 'table');
     const cell = table?.querySelector('td,th');
     if (cell)
@@ -82,15 +95,15 @@ const insertTable = markup => {
 const linkElement = () => closest(currentRange().commonAncestorContainer, 'a[href]')
     ?? selectedControl()?.closest('a[href]') ?? null;
 
-const hasLink = () => {
+export const hasLink = () => {
     const range = currentRange();
     const scope = elementOf(range.commonAncestorContainer);
     return linkElement() !== null || [...scope.querySelectorAll('a[href]')].some(link => reaches(range, link));
 };
 
-const linkAddress = () => linkElement()?.getAttribute('href') ?? '';
+export const linkAddress = () => linkElement()?.getAttribute('href') ?? '';
 
-const unlink = () => {
+export const unlink = () => {
     const link = linkElement();
     const mark = bookmark();
     if (link)
@@ -101,7 +114,7 @@ const unlink = () => {
 };
 
 // An empty address takes the link away. Where nothing is selected the address becomes the text.
-const setLink = address => {
+export const setLink = address => {
     const link = linkElement();
     if (address === '') {
         unlink();
@@ -118,7 +131,7 @@ const setLink = address => {
     }
 };
 
-const insertImage = address => {
+export const insertImage = address => {
     const range = clearSelection(currentRange());
     const image = createElement('img');
     image.setAttribute('src', address);
@@ -133,7 +146,7 @@ const wholeNames = wordSet('table ol ul dir menu dl');
 const partNames = wordSet('table thead tbody tfoot tr ol ul dir menu dl');
 
 // The selection as markup, or as the plain text that it is, with the inline elements around it and what a part of a list or table needs to be one.
-const selectionMarkup = () => {
+export const selectionMarkup = () => {
     if (isPlain)
         return selectedPlainText();
     const range = currentRange();
@@ -158,7 +171,7 @@ const selectionMarkup = () => {
     return box.innerHTML;
 };
 
-const deleteSelection = () => {
+export const deleteSelection = () => {
     const control = selectedControl();
     const range = currentRange();
     if (control) {

@@ -2,6 +2,11 @@
 
 // Items of lists on their way from one depth to another.
 
+import {itemSelector, listNames, selectedParagraphs, startOf} from './blocks.js';
+import {closest, containsBlock, emptyTwin, isElement, isNamed, renameElement, unwrapElement} from './nodes.js';
+import {bookmark, restore} from './selection.js';
+import {runNative} from './styles.js';
+
 // Cuts a list in two behind an item, which comes to stand between the halves. Gives the second one, or null.
 const cutList = item => {
     const list = item.parentNode;
@@ -32,7 +37,7 @@ const liftItem = item => {
         renameElement(item, 'p');
 };
 
-const liftSelectedItems = () => {
+export const liftSelectedItems = () => {
     const mark = bookmark();
     const items = new Set(selectedParagraphs().map(paragraph => closest(startOf(paragraph), itemSelector)));
     for (const item of items) {
@@ -50,7 +55,7 @@ const selectedItems = () => {
 };
 
 // Into a list of its own kind within the item before it; the first item goes into one that stands in its place.
-const deepenItem = item => {
+export const deepenItem = item => {
     const list = item.parentNode;
     const before = item.previousElementSibling;
     const last = before?.localName === 'li' ? before.lastElementChild : before;
@@ -66,7 +71,7 @@ const deepenItem = item => {
 };
 
 // Behind the item that holds its list; the items that followed it stay below it.
-const raiseItem = item => {
+export const raiseItem = item => {
     const outer = item.parentNode.parentNode;
     if (outer.localName !== 'li' && !isNamed(outer, listNames)) {
         liftItem(item);
@@ -81,7 +86,7 @@ const raiseItem = item => {
 };
 
 // Moves the selected items, or, where there are none, has the engine move the paragraphs.
-const changeDepth = (moveItem, name) => {
+export const changeDepth = (moveItem, name) => {
     const items = selectedItems();
     if (items.length === 0) {
         runNative(name);

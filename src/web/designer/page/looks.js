@@ -3,7 +3,11 @@
 // What is shown beside the page itself. It is in style sheets that belong to the view or painted by the program, so that
 // nothing of it can get into the page's text.
 
-const looks = {borders: false, details: false, browseMode: false, snapToGrid: false};
+import {markName} from './marks.js';
+import {bodyElement, nativeCommand, setDocumentMember} from './nodes.js';
+import {isPlain, plainRules} from './plaintext.js';
+
+export const looks = {borders: false, details: false, browseMode: false, snapToGrid: false};
 
 const glyphLook = `all: initial; display: inline-block !important; font: 10px/14px sans-serif; padding: 0 2px;
     margin: 0 1px; border: 1px solid #b08000; border-radius: 2px; background: #fff4c8; color: #604800;
@@ -50,7 +54,7 @@ const placeOfUnseen = element => {
 };
 
 // The signs that the program paints, from the part of the page that is in sight.
-const signsInSight = () => {
+export const signsInSight = () => {
     if (!looks.details || looks.browseMode || isPlain || !bodyElement())
         return [];
     const selector = paintedSigns.map(([each]) => each).join(',');
@@ -88,7 +92,7 @@ const markRules = () => [
 const hiddenMarkRules = () => [`${markName} { display: none !important; }`];
 
 // The pointer over a grip.
-const cursorSheet = new CSSStyleSheet();
+export const cursorSheet = new CSSStyleSheet();
 
 const sheetOf = rules => {
     const sheet = new CSSStyleSheet();
@@ -96,7 +100,7 @@ const sheetOf = rules => {
     return sheet;
 };
 
-const showLooks = () => {
+export const showLooks = () => {
     const rules = isPlain ? plainRules
         : looks.browseMode ? hiddenMarkRules()
         : [...markRules(), ...looks.details ? detailRules() : [], ...looks.borders ? borderRules() : []];

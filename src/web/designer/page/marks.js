@@ -2,14 +2,21 @@
 
 // What stands for server code and comments arrives as comments of one word. Where a sign can be shown, an element takes
 // the comment's place, so that a user sees it, and can select, move and delete it.
-const markName = 'zephira-mark';
 
-let markPrefix = 'zs';
+import {bodyElement, closest, createElement, createTreeWalker, isNamed, rootElement, tightNames} from './nodes.js';
+
+export const markName = 'zephira-mark';
+
+export let markPrefix = 'zs';
+
+export const setMarkPrefix = prefix => {
+    markPrefix = prefix;
+};
 
 const isMarkComment = node => new RegExp(`^${markPrefix}x\\d+[sc]$`).test(node.data);
 
 // Behind stray end tags a comment finds its place outside the root element; there nobody would see it or keep it.
-const gatherComments = () => {
+export const gatherComments = () => {
     const host = bodyElement() ?? rootElement();
     const outside = [...document.childNodes].filter(node => node.nodeType === Node.COMMENT_NODE);
     const isBefore = node => node.compareDocumentPosition(rootElement()) & Node.DOCUMENT_POSITION_FOLLOWING;
@@ -18,7 +25,7 @@ const gatherComments = () => {
     host.append(...after);
 };
 
-const showMarks = root => {
+export const showMarks = root => {
     const walker = createTreeWalker(root, NodeFilter.SHOW_COMMENT);
     const comments = [];
     while (walker.nextNode())

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-'use strict';
 
 // Elements of the page can bear names that hide the document's own members (<img name=body>), so that those are taken
 // from the prototype.
@@ -9,58 +8,58 @@ const documentMember = name => {
     return member.get ? () => member.get.call(document) : member.value.bind(document);
 };
 
-const rootElement = documentMember('documentElement');
-const bodyElement = documentMember('body');
-const createElement = documentMember('createElement');
-const createTreeWalker = documentMember('createTreeWalker');
-const caretRangeFromPoint = documentMember('caretRangeFromPoint');
-const nativeCommand = documentMember('execCommand');
-const nativeEnabled = documentMember('queryCommandEnabled');
-const nativeState = documentMember('queryCommandState');
-const nativeMixed = documentMember('queryCommandIndeterm');
-const nativeValue = documentMember('queryCommandValue');
-const openDocument = documentMember('open');
-const writeDocument = documentMember('write');
-const closeDocument = documentMember('close');
-const setDocumentMember = (name, value) =>
+export const rootElement = documentMember('documentElement');
+export const bodyElement = documentMember('body');
+export const createElement = documentMember('createElement');
+export const createTreeWalker = documentMember('createTreeWalker');
+export const caretRangeFromPoint = documentMember('caretRangeFromPoint');
+export const nativeCommand = documentMember('execCommand');
+export const nativeEnabled = documentMember('queryCommandEnabled');
+export const nativeState = documentMember('queryCommandState');
+export const nativeMixed = documentMember('queryCommandIndeterm');
+export const nativeValue = documentMember('queryCommandValue');
+export const openDocument = documentMember('open');
+export const writeDocument = documentMember('write');
+export const closeDocument = documentMember('close');
+export const setDocumentMember = (name, value) =>
     Object.getOwnPropertyDescriptor(Document.prototype, name).set.call(document, value);
 
-const wordSet = words => new Set(words.split(/\s+/));
+export const wordSet = words => new Set(words.split(/\s+/));
 
 const blockNames = wordSet(`address article aside blockquote body caption center dd details dialog dir div dl dt fieldset
     figcaption figure footer form h1 h2 h3 h4 h5 h6 header hr li main menu nav ol p pre section table tbody td tfoot th
     thead tr ul`);
 const blockSelector = [...blockNames].join(',');
 // Blocks whose content a browser ends at the first tag of another block.
-const paragraphNames = wordSet('p h1 h2 h3 h4 h5 h6 pre address');
+export const paragraphNames = wordSet('p h1 h2 h3 h4 h5 h6 pre address');
 // Places where nothing but certain elements may stand, so that nothing can be shown there.
-const tightNames = wordSet('html head frameset table thead tbody tfoot tr colgroup select optgroup datalist');
+export const tightNames = wordSet('html head frameset table thead tbody tfoot tr colgroup select optgroup datalist');
 
-const isElement = node => node.nodeType === Node.ELEMENT_NODE;
-const isText = node => node.nodeType === Node.TEXT_NODE;
-const isNamed = (node, names) => isElement(node) && names.has(node.localName);
-const isBlock = node => isNamed(node, blockNames);
-const isBlankText = node => isText(node) && /^[ \t\r\n\f]*$/.test(node.data);
+export const isElement = node => node.nodeType === Node.ELEMENT_NODE;
+export const isText = node => node.nodeType === Node.TEXT_NODE;
+export const isNamed = (node, names) => isElement(node) && names.has(node.localName);
+export const isBlock = node => isNamed(node, blockNames);
+export const isBlankText = node => isText(node) && /^[ \t\r\n\f]*$/.test(node.data);
 
-const elementOf = node => isElement(node) ? node : node.parentElement;
-const closest = (node, selector) => elementOf(node)?.closest(selector) ?? null;
-const closestBlock = node => {
+export const elementOf = node => isElement(node) ? node : node.parentElement;
+export const closest = (node, selector) => elementOf(node)?.closest(selector) ?? null;
+export const closestBlock = node => {
     let block = elementOf(node);
     while (block && !isBlock(block))
         block = block.parentElement;
     return block;
 };
-const containsBlock = node => isElement(node) && node.querySelector(blockSelector) !== null;
-const indexOf = node => Array.prototype.indexOf.call(node.parentNode.childNodes, node);
+export const containsBlock = node => isElement(node) && node.querySelector(blockSelector) !== null;
+export const indexOf = node => Array.prototype.indexOf.call(node.parentNode.childNodes, node);
 
 // Whether a user sees anything in an element.
-const isEmptyElement = element =>
+export const isEmptyElement = element =>
     /^[ \t\r\n\f]*$/.test(element.textContent) && !element.querySelector('img,input,button,select,textarea,hr,table,'
         + 'object,embed,iframe,video,audio,canvas,svg,a[name],zephira-mark');
 
 // Changes inside a subtree that isn't in the document are seen by nobody and can't be undone. So new elements go into the
 // document first, and live nodes are moved into them one by one.
-const moveChildren = (from, to) => {
+export const moveChildren = (from, to) => {
     while (from.firstChild)
         to.append(from.firstChild);
 };
@@ -69,7 +68,7 @@ const moveChildren = (from, to) => {
 // gives them their places again.
 const plainName = /^[a-z_:][\w:.-]*$/i;
 
-const dropAttribute = (element, name) => {
+export const dropAttribute = (element, name) => {
     const names = element.getAttributeNames();
     const behind = names.slice(names.indexOf(name) + 1).map(each => [each, element.getAttribute(each)]);
     if (!names.includes(name) || !behind.every(([each]) => plainName.test(each))) {
@@ -83,7 +82,7 @@ const dropAttribute = (element, name) => {
         element.setAttribute(each, value);
 };
 
-const renameElement = (element, name) => {
+export const renameElement = (element, name) => {
     const renamed = createElement(name);
     for (const attribute of element.attributes)
         renamed.setAttributeNode(attribute.cloneNode());
@@ -93,21 +92,21 @@ const renameElement = (element, name) => {
     return renamed;
 };
 
-const unwrapElement = element => {
+export const unwrapElement = element => {
     while (element.firstChild)
         element.before(element.firstChild);
     element.remove();
 };
 
 // An empty element like another one, for what is cut off from it. A name stays with the first.
-const emptyTwin = element => {
+export const emptyTwin = element => {
     const twin = element.cloneNode(false);
     twin.removeAttribute('id');
     return twin;
 };
 
 // Cuts an element in two at a place within it; gives the second part, which follows the first.
-const splitElement = (element, node, offset) => {
+export const splitElement = (element, node, offset) => {
     let rest;
     if (isText(node)) {
         rest = node.splitText(offset);

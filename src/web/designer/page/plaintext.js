@@ -3,15 +3,26 @@
 // Documents that are no markup, as programs and style sheets: their text stands in one element as it is, is edited as
 // text, and comes back as it stands there.
 
-let isPlain = false;
+import {Command} from './command.js';
+import {history} from './history.js';
+import {bodyElement, createElement, isBlock, isText} from './nodes.js';
+import {reportState} from './reports.js';
+import {currentRange, placeCaret} from './selection.js';
 
-const plainShell = '<!DOCTYPE html><pre></pre>';
+export let isPlain = false;
+
+export const setPlain = wanted => {
+    isPlain = wanted;
+};
+
+export const plainShell = '<!DOCTYPE html><pre></pre>';
 
 // Whatever the engine puts around the text, blanks and line ends keep their meaning in it.
-const plainRules = ['* { white-space: pre-wrap !important; overflow-wrap: anywhere !important; }'];
+export const plainRules = ['* { white-space: pre-wrap !important; overflow-wrap: anywhere !important; }'];
 
-// To copy, cut, delete, find, paste, redo, select all and undo. All others make markup.
-const plainCommands = new Set([5002, 5003, 5004, 5008, 5032, 5033, 5035, 5049]);
+// All others make markup.
+export const plainCommands = new Set([Command.Copy, Command.Cut, Command.Delete, Command.FindText, Command.Paste, Command.Redo,
+    Command.SelectAll, Command.Undo]);
 
 const lastLeaf = root => {
     let leaf = root;
@@ -27,7 +38,7 @@ const openLastLine = () => {
         (isText(leaf) ? leaf.parentNode : leaf).append(createElement('br'));
 };
 
-const showPlainText = text => {
+export const showPlainText = text => {
     bodyElement().firstChild.append(new Text(text));
     openLastLine();
 };
@@ -65,11 +76,11 @@ const textIn = root => {
     return text;
 };
 
-const plainText = () => textIn(bodyElement());
-const selectedPlainText = () => textIn(currentRange().cloneContents());
+export const plainText = () => textIn(bodyElement());
+export const selectedPlainText = () => textIn(currentRange().cloneContents());
 
 // Puts a text in the place of the selection and the caret behind it.
-const insertPlainText = text => {
+export const insertPlainText = text => {
     const range = currentRange();
     range.deleteContents();
     moveIntoText(range);
@@ -82,7 +93,7 @@ const insertPlainText = text => {
 const lineEndInputs = new Set(['insertParagraph', 'insertLineBreak']);
 
 // The engine would end lines by elements, and knows keys that format.
-const onPlainInput = event => {
+export const onPlainInput = event => {
     if (lineEndInputs.has(event.inputType))
         history.run(() => insertPlainText('\n'));
     else if (!event.inputType.startsWith('format'))

@@ -2,14 +2,20 @@
 
 // Elements that stand at a place of their own: position, order of depth, lock, and the mouse.
 
+import {looks} from './looks.js';
+import {markName} from './marks.js';
+import {bodyElement, dropAttribute, elementOf, isNamed, wordSet} from './nodes.js';
+import {isAbsolute, selectedControl} from './selection.js';
+import {setStyle, styleValueOf} from './styles.js';
+
 const lockAttribute = 'design_time_lock';
 const gridSize = 50;
 const firstDepth = 100;
 
-const isLocked = element => element.hasAttribute(lockAttribute);
+export const isLocked = element => element.hasAttribute(lockAttribute);
 
 // The element that the commands for positions mean: the selected one, or the positioned one around the caret.
-const positionTarget = () => {
+export const positionTarget = () => {
     const control = selectedControl();
     if (control)
         return control.localName === markName ? null : control;
@@ -23,7 +29,7 @@ const positionTarget = () => {
     return null;
 };
 
-const positionedTarget = () => {
+export const positionedTarget = () => {
     const target = positionTarget();
     return target && isAbsolute(target) ? target : null;
 };
@@ -32,7 +38,7 @@ const depthOf = element => Number.parseInt(getComputedStyle(element).zIndex, 10)
 
 const positionedElements = () => [...bodyElement().querySelectorAll('*')].filter(isAbsolute);
 
-const toggleAbsolute = () => {
+export const toggleAbsolute = () => {
     const target = positionTarget();
     if (isAbsolute(target)) {
         for (const property of ['position', 'left', 'top', 'z-index'])
@@ -53,7 +59,7 @@ const toggleAbsolute = () => {
     setStyle(target, 'z-index', String(Math.max(firstDepth - 1, ...depths) + 1));
 };
 
-const toggleLock = () => {
+export const toggleLock = () => {
     const target = positionedTarget();
     if (isLocked(target))
         dropAttribute(target, lockAttribute);
@@ -88,7 +94,7 @@ const setOrder = (layers, depths, isAbove) => {
 };
 
 // `placeFor` gives the new place in the order from the old one and the number of elements.
-const reorder = placeFor => {
+export const reorder = placeFor => {
     const target = positionedTarget();
     const isAbove = depthOf(target) >= 0;
     const layers = layersOf(isAbove);
@@ -103,7 +109,7 @@ const reorder = placeFor => {
 };
 
 // Crosses the text: to the place that is nearest to it on the other side.
-const crossText = toAbove => {
+export const crossText = toAbove => {
     const target = positionedTarget();
     if ((depthOf(target) >= 0) === toAbove)
         return;
@@ -126,13 +132,13 @@ const grips = [
 const isSizable = element => element.localName !== markName && !isLocked(element);
 
 // An element in the flow of the text keeps its upper left corner.
-const gripsOf = element => {
+export const gripsOf = element => {
     if (!isSizable(element))
         return [];
     return isAbsolute(element) ? grips : grips.filter(grip => grip.x + grip.y >= 1 && grip.x > 0 && grip.y > 0);
 };
 
-const gripAt = (x, y) => {
+export const gripAt = (x, y) => {
     const element = selectedControl();
     const box = element?.getBoundingClientRect();
     return element && gripsOf(element).find(grip => Math.abs(box.left + box.width * grip.x - x) <= gripReach
@@ -157,7 +163,7 @@ const lengthOfStyle = (element, property, fallback) => {
 
 // A movement of the mouse with the button down. It begins after a few pixels, so that a click is no movement, and is one
 // step of the history.
-class Drag {
+export class Drag {
     static threshold = 3;
 
     constructor(event, element, grip) {

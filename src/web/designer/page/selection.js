@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+// The selection, and what lies in it.
+
+import {bodyElement, createTreeWalker, isBlankText, isElement, isNamed, isText, rootElement, wordSet} from './nodes.js';
+
 // Elements that a click selects as a whole.
-const controlNames = wordSet(`img input select textarea button object embed applet iframe hr video audio canvas table
+export const controlNames = wordSet(`img input select textarea button object embed applet iframe hr video audio canvas table
     marquee zephira-mark`);
 
-const isAbsolute = element => getComputedStyle(element).position === 'absolute';
+export const isAbsolute = element => getComputedStyle(element).position === 'absolute';
 const isControl = node => isElement(node) && node !== bodyElement() && (isNamed(node, controlNames) || isAbsolute(node));
 
 // The selection outlives the focus, but not every change of the page.
 let lastRange = null;
 
-const currentRange = () => {
+export const currentRange = () => {
     const selection = getSelection();
     if (selection.rangeCount > 0 && rootElement().contains(selection.getRangeAt(0).commonAncestorContainer))
         lastRange = selection.getRangeAt(0);
@@ -21,22 +25,22 @@ const currentRange = () => {
     return getSelection().getRangeAt(0);
 };
 
-const selectStart = () => getSelection().collapse(bodyElement() ?? rootElement(), 0);
-const placeCaret = (node, offset) => getSelection().collapse(node, offset);
-const selectElement = element => {
+export const selectStart = () => getSelection().collapse(bodyElement() ?? rootElement(), 0);
+export const placeCaret = (node, offset) => getSelection().collapse(node, offset);
+export const selectElement = element => {
     const range = new Range();
     range.selectNode(element);
     const selection = getSelection();
     selection.removeAllRanges();
     selection.addRange(range);
 };
-const placeCaretIn = element => {
+export const placeCaretIn = element => {
     const first = element.firstChild;
     placeCaret(first && isText(first) ? first : element, 0);
 };
 
 // The element that is selected as a whole, or null.
-const selectedControl = () => {
+export const selectedControl = () => {
     const selection = getSelection();
     if (selection.rangeCount === 0)
         return null;
@@ -47,14 +51,14 @@ const selectedControl = () => {
     return node && isControl(node) ? node : null;
 };
 
-const selectionType = () => {
+export const selectionType = () => {
     const selection = getSelection();
     if (selection.rangeCount === 0 || selection.isCollapsed)
         return 'None';
     return selectedControl() ? 'Control' : 'Text';
 };
 
-const bookmark = () => {
+export const bookmark = () => {
     const selection = getSelection();
     return selection.rangeCount === 0 ? null : {
         anchorNode: selection.anchorNode, anchorOffset: selection.anchorOffset,
@@ -65,7 +69,7 @@ const bookmark = () => {
 const lengthOf = node => isElement(node) ? node.childNodes.length : node.length;
 
 // A bookmark whose nodes have gone is left alone. `replaced` tells what stands in the place of elements.
-const restore = (mark, replaced = new Map()) => {
+export const restore = (mark, replaced = new Map()) => {
     if (!mark)
         return;
     const anchor = replaced.get(mark.anchorNode) ?? mark.anchorNode;
@@ -76,7 +80,7 @@ const restore = (mark, replaced = new Map()) => {
 };
 
 // Whether a range reaches into a node, and not only to its edge.
-const reaches = (range, node) => {
+export const reaches = (range, node) => {
     if (!range.intersectsNode(node))
         return false;
     if (range.collapsed || !node.contains(range.endContainer) || node.contains(range.startContainer))
@@ -88,10 +92,10 @@ const reaches = (range, node) => {
 };
 
 // How many texts and paragraphs of a selection are looked at for what they have in common.
-const mostLookedAt = 500;
+export const mostLookedAt = 500;
 
 // The text nodes of a range that show something, `most` of them at most.
-const selectedTexts = (range, most) => {
+export const selectedTexts = (range, most) => {
     const texts = [];
     if (isText(range.commonAncestorContainer))
         return [range.commonAncestorContainer];

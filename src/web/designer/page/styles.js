@@ -3,6 +3,9 @@
 // The engine rewrites a style attribute as a whole when one property changes, and drops what it doesn't know. Here the
 // author's text stays, apart from the property in question.
 
+import {history} from './history.js';
+import {createElement, dropAttribute, nativeCommand} from './nodes.js';
+
 const declarationsOf = text => {
     const declarations = [];
     let begin = 0;
@@ -44,7 +47,7 @@ const styleTextWith = (text, property, value) => {
     return others.join(';');
 };
 
-const setStyle = (element, property, value) => {
+export const setStyle = (element, property, value) => {
     const text = styleTextWith(element.getAttribute('style') ?? '', property, value);
     if (text === '')
         dropAttribute(element, 'style');
@@ -52,12 +55,12 @@ const setStyle = (element, property, value) => {
         element.setAttribute('style', text);
 };
 
-const styleValueOf = (element, property) => {
+export const styleValueOf = (element, property) => {
     const declaration = declarationsOf(element.getAttribute('style') ?? '').findLast(each => propertyOf(each) === property);
     return declaration === undefined ? '' : declaration.slice(declaration.indexOf(':') + 1).trim();
 };
 
-const parsedStyle = text => {
+export const parsedStyle = text => {
     const scratch = createElement('span');
     scratch.setAttribute('style', text);
     return scratch.style;
@@ -81,3 +84,7 @@ const keepStyleTexts = changes => {
             target.setAttribute('style', text);
     }
 };
+
+// Runs a command of the engine, leaving style texts as their authors wrote them.
+export const runNative = (name, value = null) =>
+    keepStyleTexts(history.changesOf(() => nativeCommand(name, false, value)));

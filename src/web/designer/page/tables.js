@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-const tableCellNames = wordSet('td th');
+// Tables as grids of cells, and what changes them.
+
+import {closest, createElement, dropAttribute, indexOf, isEmptyElement, moveChildren, wordSet} from './nodes.js';
+import {placeCaret, placeCaretIn, reaches} from './selection.js';
+
+export const tableCellNames = wordSet('td th');
 
 // A table as a grid: each place knows its cell, and each cell where it begins and how far it reaches.
 class Grid {
@@ -63,13 +68,13 @@ const setSpan = (cell, name, count) => {
         dropAttribute(cell, name);
 };
 
-const currentTable = () => {
+export const currentTable = () => {
     const node = getSelection().rangeCount > 0 ? getSelection().getRangeAt(0).commonAncestorContainer : null;
     return node && closest(node, 'table');
 };
 
 // The cells that the caret stands in or the selection touches, in the order of the table.
-const selectedCells = () => {
+export const selectedCells = () => {
     const table = currentTable();
     if (!table)
         return [];
@@ -98,7 +103,7 @@ const boundsOf = spots => ({
     right: Math.max(...spots.map(spot => spot.column + spot.columns - 1)),
 });
 
-const selectedGrid = () => {
+export const selectedGrid = () => {
     const cells = selectedCells();
     if (cells.length === 0)
         return null;
@@ -108,7 +113,7 @@ const selectedGrid = () => {
 };
 
 // Below the selected rows.
-const insertRow = ({grid, bottom}) => {
+export const insertRow = ({grid, bottom}) => {
     const model = grid.rows[bottom];
     const row = model.cloneNode(false);
     row.removeAttribute('id');
@@ -127,7 +132,7 @@ const insertRow = ({grid, bottom}) => {
 };
 
 // To the right of the selected columns.
-const insertColumn = ({grid, top, right}) => {
+export const insertColumn = ({grid, top, right}) => {
     let first = null;
     const widened = new Set();
     grid.rows.forEach((row, y) => {
@@ -159,7 +164,7 @@ const eachColumn = (table, index, action) => {
         action(columns[index]);
 };
 
-const insertCell = ({spots}) => {
+export const insertCell = ({spots}) => {
     const model = spots.at(-1).cell;
     const cell = cellLike(model);
     model.after(cell);
@@ -203,14 +208,14 @@ const removeRow = (table, y) => {
     grid.rows[y].remove();
 };
 
-const deleteRows = ({grid, spots, top, left}) => {
+export const deleteRows = ({grid, spots, top, left}) => {
     const rows = new Set(spots.flatMap(spot => Array.from({length: spot.rows}, (_, i) => spot.row + i)));
     for (const y of [...rows].sort((a, b) => b - a))
         removeRow(grid.table, y);
     tidyTable(grid.table, top, left);
 };
 
-const deleteColumns = ({grid, top, left, right}) => {
+export const deleteColumns = ({grid, top, left, right}) => {
     for (const spot of grid.spots.values()) {
         const gone = Math.min(spot.column + spot.columns - 1, right) - Math.max(spot.column, left) + 1;
         if (gone >= spot.columns)
@@ -223,7 +228,7 @@ const deleteColumns = ({grid, top, left, right}) => {
     tidyTable(grid.table, top, left);
 };
 
-const deleteCells = ({grid, spots, top, left}) => {
+export const deleteCells = ({grid, spots, top, left}) => {
     for (const spot of spots)
         spot.cell.remove();
     tidyTable(grid.table, top, left);
@@ -248,7 +253,7 @@ const closedBounds = (grid, spots) => {
     return {bounds, spots};
 };
 
-const mergeCells = ({grid, spots}) => {
+export const mergeCells = ({grid, spots}) => {
     const {bounds, spots: merged} = closedBounds(grid, spots);
     const [first, ...others] = merged;
     for (const {cell} of others) {
@@ -268,7 +273,7 @@ const mergeCells = ({grid, spots}) => {
 
 // Into two cells side by side, or, for a cell that is only high, into two on top of each other. A cell of one place makes
 // room by widening the others of its column.
-const splitCell = ({grid, spots}) => {
+export const splitCell = ({grid, spots}) => {
     const [spot] = spots;
     const fresh = cellLike(spot.cell);
     if (spot.columns === 1 && spot.rows > 1) {

@@ -3,6 +3,17 @@
 // What the keys do to paragraphs, where the engine would write the paragraph anew: it gives what it joins styles of its
 // own, and loses comments and the order of attributes. Here the author's own nodes move.
 
+import {itemNames, listNames, selectedParagraphs, wrapParagraph} from './blocks.js';
+import {history} from './history.js';
+import {markName} from './marks.js';
+import {
+    bodyElement, closest, closestBlock, containsBlock, createElement, dropAttribute, indexOf, isBlankText, isElement,
+    isEmptyElement, isNamed, isText, moveChildren, nativeCommand, paragraphNames, rootElement, tightNames, unwrapElement
+} from './nodes.js';
+import {reportState} from './reports.js';
+import {bookmark, currentRange, isAbsolute, placeCaret, placeCaretIn, restore, selectElement} from './selection.js';
+import {parsedStyle} from './styles.js';
+
 // Blocks that are one paragraph as long as they hold no others.
 const lineNames = new Set([...paragraphNames, 'div', 'li', 'dt', 'dd']);
 const isLine = node => isNamed(node, lineNames) && !containsBlock(node) && !isAbsolute(node);
@@ -95,7 +106,7 @@ const linesAcross = range => {
 };
 
 // Takes out a selection that reaches from one line into another and joins what is left of them. Gives whether it did.
-const deleteAcrossLines = range => {
+export const deleteAcrossLines = range => {
     const lines = linesAcross(range);
     if (!lines)
         return false;
@@ -196,7 +207,7 @@ const dropJoinStyles = changes => {
     restore(mark);
 };
 
-const inputActions = {
+export const inputActions = {
     insertParagraph: nameOnce,
     deleteContentBackward: dropJoinStyles,
     deleteContentForward: dropJoinStyles,
@@ -204,7 +215,7 @@ const inputActions = {
     deleteWordForward: dropJoinStyles,
 };
 
-const beforeInputActions = {
+export const beforeInputActions = {
     insertParagraph: beginParagraph,
     insertText: () => deleteAcrossLines(currentRange()),
     insertLineBreak: () => deleteAcrossLines(currentRange()),
