@@ -5,7 +5,10 @@
 #include "core/prompts.h"
 #include "core/result.h"
 
+#include <QByteArrayView>
 #include <QString>
+
+#include <array>
 
 namespace zephira {
 
@@ -31,6 +34,9 @@ public:
     virtual void setText(const QString &text) = 0;
     /// Length of text() in UTF-16 code units, without making the text.
     virtual int textLength() const = 0;
+    /// The text as it will be written but for its encoding: UTF-8 with the line ends of the file, in two pieces that
+    /// are valid until the next change.
+    virtual std::array<QByteArrayView, 2> utf8Pieces() const = 0;
     virtual QString selText() const = 0;
     /// Replaces the selection, or inserts at the caret; the caret then stands behind the new text.
     virtual void setSelText(const QString &text) = 0;

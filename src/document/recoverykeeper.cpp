@@ -3,8 +3,8 @@
 
 #include "core/clock.h"
 #include "core/designer.h"
+#include "core/editingcontrol.h"
 #include "document/document.h"
-#include "editor/codemax.h"
 #include "files/recoverycopies.h"
 
 #include <array>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-RecoveryKeeper::RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, Designer &designer,
+RecoveryKeeper::RecoveryKeeper(RecoveryCopies &copies, const EditingControl &editor, Designer &designer,
                                const Document &document)
     : m_copies(copies), m_editor(editor), m_designer(designer), m_document(document)
 {

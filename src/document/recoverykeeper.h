@@ -10,9 +10,9 @@
 
 namespace zephira {
 
-class CodeMax;
 class Designer;
 class Document;
+class EditingControl;
 class RecoveryCopies;
 
 /// Keeps a recovery copy of the modified document on disk, or of what visual mode has made of it. It is driven by change
@@ -22,7 +22,7 @@ class RecoveryKeeper : public QObject
     Q_OBJECT
 
 public:
-    RecoveryKeeper(RecoveryCopies &copies, const CodeMax &editor, Designer &designer, const Document &document);
+    RecoveryKeeper(RecoveryCopies &copies, const EditingControl &editor, Designer &designer, const Document &document);
 
     /// The editing control raised its change event, or something happened in the designer that may be a change.
     void textChanged();
@@ -40,7 +40,7 @@ private:
     void due();
 
     RecoveryCopies &m_copies;
-    const CodeMax &m_editor;
+    const EditingControl &m_editor;
     Designer &m_designer;
     const Document &m_document;
     RecoverySchedule m_schedule;

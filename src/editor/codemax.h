@@ -117,7 +117,7 @@ public:
     /// How the document stands in its file: encoding, byte order mark, line ends.
     const TextFormat &textFormat() const { return m_format.current(); }
     /// The document's bytes in UTF-8 with its own line ends, in two pieces that stay valid until the text changes.
-    std::array<QByteArrayView, 2> utf8Pieces() const;
+    std::array<QByteArrayView, 2> utf8Pieces() const override;
 
     CodeMaxRange selection(bool normalized) const override;
     void select(const CodeMaxRange &range) override;

@@ -129,6 +129,12 @@ Result<void> FakeEditor::openFile(const QString &path)
     return {};
 }
 
+std::array<QByteArrayView, 2> FakeEditor::utf8Pieces() const
+{
+    m_utf8 = m_text.toUtf8();
+    return {m_utf8, {}};
+}
+
 Result<void> FakeEditor::saveFile(const QString &path, bool clearUndo)
 {
     if (saveError)

@@ -63,6 +63,7 @@ public:
     QString text() const override { return m_text; }
     void setText(const QString &text) override;
     int textLength() const override { return static_cast<int>(m_text.size()); }
+    std::array<QByteArrayView, 2> utf8Pieces() const override;
     QString selText() const override;
     void setSelText(const QString &text) override;
     int selLength() const override;
@@ -114,6 +115,8 @@ private:
     Clipboard *m_clipboard = nullptr;
     FileStore *m_files = nullptr;
     QString m_text;
+    /// What utf8Pieces() gave last.
+    mutable QByteArray m_utf8;
     int m_anchor = 0;
     int m_caret = 0;
 };
