@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/filepanecommands.h"
 
+#include "app/quickview.h"
 #include "commands/menus.h"
 #include "core/configuration.h"
 #include "core/errorstyles.h"
 #include "core/inserter.h"
 #include "core/paths.h"
 #include "core/prompts.h"
+#include "core/quickviewer.h"
 #include "core/relativepath.h"
 #include "document/document.h"
 #include "panes/filepane.h"
 #include "panes/sidetabbar.h"
+#include "views/workspaceviews.h"
 
 #include <QAction>
 #include <QMenu>
@@ -35,7 +38,6 @@ FilePaneCommands::FilePaneCommands(const AppContext &context, const Parts &parts
 {
     connect(&parts.pane, &FilePane::fileActivated, this, &FilePaneCommands::openListedFile);
     connect(&parts.pane, &FilePane::menuWanted, this, &FilePaneCommands::showMenu);
-    connect(&parts.menus, &Menus::triggered, this, &FilePaneCommands::run);
     connect(&parts.tabs, &SideTabBar::fileDropped, this, &FilePaneCommands::openDroppedFile);
 }
 
@@ -45,7 +47,7 @@ void FilePaneCommands::openListedFile()
         [this] { m_parts.document.flushDesigner(); },
         [this] { m_parts.document.discardPreview(); },
         [this] { m_parts.document.OpenAFile(); },
-        [this] { m_parts.window.selectCodeTab(); },
+        [this] { m_parts.views.selectTab(WorkspaceView::Code); },
     });
 }
 
@@ -57,27 +59,13 @@ void FilePaneCommands::showMenu(const QPoint &place)
     m_parts.menus.menu(u"mnufilerc"_s)->popup(place);
 }
 
-void FilePaneCommands::run(const QString &entry)
-{
-    struct Row {
-        QStringView entry;
-        void (FilePaneCommands::*run)();
-    };
-    static constexpr Row rows[] = {
-        {u"mnuqv", &FilePaneCommands::showInQuickView},
-        {u"mnuinslink", &FilePaneCommands::insertLink},
-        {u"mnuef", &FilePaneCommands::editFilters},
-    };
-    for (const Row &row : rows) {
-        if (row.entry == entry)
-            (this->*row.run)();
-    }
-}
-
 void FilePaneCommands::showInQuickView()
 {
-    if (const QString name = m_parts.pane.selectedFile(); !name.isEmpty())
-        m_parts.quickView(withSeparator(m_parts.pane.fileList().path()) + name);
+    const QString name = m_parts.pane.selectedFile();
+    if (name.isEmpty())
+        return;
+    if (QuickViewer *viewer = quickViewer(m_parts.forms))
+        viewer->showFile(withSeparator(m_parts.pane.fileList().path()) + name);
 }
 
 void FilePaneCommands::insertLink()

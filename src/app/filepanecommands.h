@@ -1,48 +1,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/commandparts.h"
 #include "core/appcontext.h"
 
 #include <QObject>
-
-#include <functional>
 
 class QPoint;
 
 namespace zephira {
 
 class Document;
-class DocumentWindow;
 class FilePane;
 class Menus;
+class ModalFormOpener;
 class SideTabBar;
 
 /// What the file manager does with the document: a double click opens a file, the list's menu shows one, links to one or
 /// changes the filters, and a file dropped on the side pane's strip becomes the document.
-class FilePaneCommands : public QObject
+class FilePaneCommands final : public QObject, public FileListCommands
 {
 public:
     struct Parts {
         Document &document;
-        DocumentWindow &window;
+        ViewTabs &views;
         SideTabBar &tabs;
         FilePane &pane;
         Menus &menus;
-        /// Shows a file in the quick view, by its full path.
-        std::function<void(const QString &)> quickView;
+        ModalFormOpener &forms;
     };
 
     FilePaneCommands(const AppContext &context, const Parts &parts, QObject *owner);
 
+    // FileListCommands
+    void showInQuickView() override;
+    void insertLink() override;
+    void editFilters() override;
+
 private:
     void openListedFile();
     void showMenu(const QPoint &place);
-    void run(const QString &entry);
     void openDroppedFile(const QString &path);
-
-    void showInQuickView();
-    void insertLink();
-    void editFilters();
 
     const AppContext &m_context;
     const Parts m_parts;

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/frmmain.h"
 
+#include "app/documentcontrols.h"
+#include "app/documentsurface.h"
 #include "app/documenttree.h"
 #include "app/filepanecommands.h"
+#include "app/sidecommands.h"
 #include "app/sidelists.h"
 #include "app/statuspanels.h"
 #include "app/viewswitch.h"
 #include "app/visualtools.h"
+#include "app/windowend.h"
 #include "app/windowtabs.h"
 #include "commands/commandrouter.h"
 #include "commands/designerbar.h"
@@ -17,7 +21,6 @@
 #include "commands/toolbartable.h"
 #include "commands/variablebox.h"
 #include "core/inserttext.h"
-#include "core/quickviewer.h"
 #include "desktop/keyboardlocks.h"
 #include "desktop/modalformopener.h"
 #include "document/languages.h"
@@ -59,32 +62,43 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_commonDialog.setObjectName(u"CM"_s);
-    m_rt = new CodeMax({services.files, services.recovery, services.prompts}, this);
-    m_rt->setObjectName(u"rt"_s);
-    m_rt->setAccessibleName(u"Source of the document"_s);
-
-    m_inserter = std::make_unique<TextInserter>(*m_rt, m_designer);
-    m_forms = std::make_unique<ModalFormOpener>(services.catalogue, this);
-    m_context = std::make_unique<const AppContext>(
-        AppContext{*m_rt, *m_inserter, m_designer, *this, services.configuration, services.settings, services.files,
-                   services.prompts, services.shell, services.clipboard, services.clock, *m_forms, services.appPath});
-    m_forms->setContext(*m_context);
-    m_document = std::make_unique<Document>(*m_context, m_commonDialog, *this);
-    m_router = std::make_unique<CommandRouter>(*m_context, *this);
-    m_recoveryKeeper = std::make_unique<RecoveryKeeper>(services.recovery, *m_rt, m_designer, *m_document);
-
-    m_panels = new StatusPanels(*m_ui->stBar, services.clock);
-    m_panels->setLit(StatusPanels::CapsLock, false);
-    m_panels->setLit(StatusPanels::NumLock, false);
+    buildDocument();
     buildBars();
     buildSidePane();
     buildWorkspace();
+    buildCommands();
     connectEditor();
     connectCommands();
+    applyAvailability();
     m_rt->setFocus();
 }
 
 frmmain::~frmmain() = default;
+
+/// The document and what it stands on.
+void frmmain::buildDocument()
+{
+    m_rt = new CodeMax({m_services.files, m_services.recovery, m_services.prompts}, this);
+    m_rt->setObjectName(u"rt"_s);
+    m_rt->setAccessibleName(u"Source of the document"_s);
+    m_panels = new StatusPanels(*m_ui->stBar, m_services.clock);
+    m_panels->setLit(StatusPanels::CapsLock, false);
+    m_panels->setLit(StatusPanels::NumLock, false);
+    m_filePane = new FilePane(m_services.prompts, this);
+    m_documentControls = new DocumentControls(m_commonDialog, *m_filePane, this);
+
+    m_inserter = std::make_unique<TextInserter>(*m_rt, m_designer);
+    m_forms = std::make_unique<ModalFormOpener>(m_services.catalogue, this);
+    m_context = std::make_unique<const AppContext>(
+        AppContext{*m_rt, *m_inserter, m_designer, *m_documentControls, m_services.configuration, m_services.settings,
+                   m_services.files, m_services.prompts, m_services.shell, m_services.clipboard, m_services.clock,
+                   *m_forms, m_services.appPath});
+    m_forms->setContext(*m_context);
+    m_surface = std::make_unique<DocumentSurface>(
+        DocumentSurface::Parts{*this, *m_panels, *m_filePane, m_services.files, *m_forms});
+    m_document = std::make_unique<Document>(*m_context, m_commonDialog, *m_surface);
+    m_recoveryKeeper = std::make_unique<RecoveryKeeper>(m_services.recovery, *m_rt, m_designer, *m_document);
+}
 
 void frmmain::buildBars()
 {
@@ -92,15 +106,8 @@ void frmmain::buildBars()
 
     m_standardBar = new CommandToolBar(standardToolBar(), this);
     m_formattingBar = new CommandToolBar(formattingToolBar(), this);
-    m_languages = new QComboBox(m_standardBar);
-    m_languages->setObjectName(u"cboLang"_s);
-    m_languages->setToolTip(u"Language of the document"_s);
-    m_languages->setAccessibleName(u"Language of the document"_s);
-    m_languages->setFocusPolicy(Qt::TabFocus);
-    for (const LanguageRow &row : languageRows())
-        m_languages->addItem(QStringView(row.text).toString());
     m_standardBar->addSeparator();
-    m_standardBar->addWidget(m_languages);
+    m_standardBar->addWidget(m_documentControls->languages());
     addToolBar(m_standardBar);
     addToolBar(m_formattingBar);
 
@@ -129,21 +136,11 @@ void frmmain::buildSidePane()
     m_sidePane = new SidePane(m_services.prompts, m_ui->mainSplitter);
     m_ui->mainSplitter->insertWidget(0, m_sidePane);
     addTabs(*m_sidePane->tabs(), sideTabs());
-    m_filePane = new FilePane(m_services.prompts, m_sidePane);
     m_sidePane->setPage(u"fileman"_s, m_filePane);
-
     m_sideLists = std::make_unique<SideLists>(*m_context, *m_menus, *m_sidePane);
-    addDocumentTree(*m_sidePane, *m_rt, *this);
-
+    addDocumentTree(*m_sidePane, *m_rt, *m_surface);
     m_ui->mainSplitter->setSizes({sidePaneWidth, width() - sidePaneWidth});
     m_ui->mainSplitter->setStretchFactor(1, 1);
-    new FilePaneCommands(*m_context,
-                         {*m_document, *this, *m_sidePane->tabs(), *m_filePane, *m_menus,
-                          [this](const QString &path) {
-                              if (QuickViewer *viewer = quickViewer())
-                                  viewer->showFile(path);
-                          }},
-                         this);
 }
 
 void frmmain::buildWorkspace()
@@ -151,11 +148,25 @@ void frmmain::buildWorkspace()
     addTabs(*m_ui->workspace, workspaceTabs());
     m_ui->views->addWidget(m_rt);
     m_viewSwitch = new ViewSwitch(
-        *m_context, {*m_document, *this, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
+        *m_context, {*m_document, *m_surface, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
         m_services.webViews, this);
+    m_surface->attach(*m_viewSwitch, *m_recoveryKeeper);
     m_visualTools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
     connect(m_visualTools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
     connect(m_visualTools, &VisualTools::displayChanged, m_recoveryKeeper.get(), &RecoveryKeeper::textChanged);
+}
+
+/// The commands and the parts that they work on.
+void frmmain::buildCommands()
+{
+    m_filePaneCommands = new FilePaneCommands(
+        *m_context, {*m_document, *m_viewSwitch, *m_sidePane->tabs(), *m_filePane, *m_menus, *m_forms}, this);
+    m_sideCommands = std::make_unique<SideCommands>(
+        SideCommands::Parts{*m_context, *m_sidePane, *m_sideLists, *m_palette, *m_selectorList, *m_rt, *m_forms});
+    m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
+    m_router =
+        std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus, *m_sideCommands,
+                                                     *m_filePaneCommands, *m_end, m_visualTools->tools()});
 }
 
 void frmmain::connectEditor()
@@ -172,24 +183,39 @@ void frmmain::connectEditor()
 
 void frmmain::connectCommands()
 {
-    connect(m_languages, &QComboBox::currentIndexChanged, this, &frmmain::languageChanged);
-    // Choosing the row that is selected already runs the handler too.
-    connect(m_languages, &QComboBox::activated, this, &frmmain::languageChanged);
-    connect(m_menus, &Menus::triggered, this, [this](const QString &name) { m_router->menu(name); });
-    connect(m_standardBar, &CommandToolBar::buttonClicked, this, [this](const QString &key) { m_router->tBar(key); });
-    connect(m_formattingBar, &CommandToolBar::buttonClicked, this,
-            [this](const QString &key) { m_router->toolbar1(key); });
-    connect(m_formattingBar, &CommandToolBar::pullDownClicked, this,
-            [this](const QString &key) { m_router->pullDown(key); });
-    connect(m_palette, &Palette::clicked, this,
-            [this](int index, const QString &key, int position) { m_router->palette(index, key, position); });
+    connect(m_documentControls, &DocumentControls::languageSet, this, &frmmain::languageSet);
+    const auto run = [this](const Command &command) { m_router->run(command); };
+    connect(m_menus, &Menus::chosen, this, run);
+    connect(m_standardBar, &CommandToolBar::chosen, this, run);
+    connect(m_formattingBar, &CommandToolBar::chosen, this, run);
+    connect(m_palette, &Palette::clicked, this, [this](const QuickTag &tag) { m_router->runTag(tag); });
     connect(m_palette, &Palette::headingClicked, this, [this](int size) { m_router->heading(size); });
-    connect(m_palette, &Palette::tabClicked, this, [this] { setSelectorListVisible(false); });
-    connect(m_selectorList, &SelectorList::finished, this, [this] { setSelectorListVisible(false); });
+    const auto hideSelectors = [this] { m_sideCommands->setSelectorListVisible(false); };
+    connect(m_palette, &Palette::tabClicked, this, hideSelectors);
+    connect(m_selectorList, &SelectorList::finished, this, hideSelectors);
+}
+
+void frmmain::applyAvailability()
+{
     m_menus->applyAvailability(*m_forms);
     m_standardBar->applyAvailability(*m_forms);
     m_formattingBar->applyAvailability(*m_forms);
     m_palette->applyAvailability(*m_forms);
+}
+
+void frmmain::InsertAtCaret(const QString &text)
+{
+    m_inserter->InsertAtCaret(text);
+}
+
+QString frmmain::designerBase() const
+{
+    return m_viewSwitch->designerBase();
+}
+
+bool frmmain::designerReady() const
+{
+    return m_visualTools->designerReady();
 }
 
 bool frmmain::FileExists(const QString &path) const
@@ -197,7 +223,7 @@ bool frmmain::FileExists(const QString &path) const
     return m_services.files.FileExists(path);
 }
 
-void frmmain::languageChanged(int row)
+void frmmain::languageSet(int row)
 {
     if (row < 0 || row >= languageCount)
         return;
@@ -210,16 +236,16 @@ void frmmain::languageChanged(int row)
 
 void frmmain::selectionChanged()
 {
-    selRange = m_rt->selection(true);
+    m_state.selection = m_rt->selection(true);
     showLinePanels();
-    if (modes.highlight == 1)
-        m_rt->setHighlightedLine(selRange.EndLineNo);
+    if (m_state.modes.highlight == 1)
+        m_rt->setHighlightedLine(m_state.selection.EndLineNo);
 }
 
 void frmmain::showLinePanels()
 {
     m_panels->setText(StatusPanels::TotalLines, QString::number(m_rt->lineCount()));
-    m_panels->setText(StatusPanels::Line, QString::number(selRange.EndLineNo + 1));
+    m_panels->setText(StatusPanels::Line, QString::number(m_state.selection.EndLineNo + 1));
 }
 
 void frmmain::showKeyboardLocks()
@@ -248,13 +274,7 @@ bool frmmain::eventFilter(QObject *watched, QEvent *event)
 
 void frmmain::closeEvent(QCloseEvent *event)
 {
-    if (!m_document->askToClose()) {
-        event->ignore();
-        return;
-    }
-    unload();
-    event->accept();
-    endProcess();
+    event->setAccepted(m_end->close());
 }
 
 void frmmain::dragEnterEvent(QDragEnterEvent *event)
@@ -272,7 +292,7 @@ void frmmain::dropEvent(QDropEvent *event)
     // The designer's work belongs to the page from before, so that it goes back to that one first.
     m_document->flushDesigner();
     m_document->openFileOrImage(path);
-    selectCodeTab();
+    m_surface->selectCodeTab();
 }
 
 } // namespace zephira

@@ -1,22 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/colourtable.h"
 #include "app/windowservices.h"
-#include "commands/windowcommands.h"
+#include "app/windowstate.h"
 #include "core/appcontext.h"
-#include "core/documenthost.h"
-#include "core/editingcontrol.h"
+#include "core/inserter.h"
 #include "document/commondialog.h"
 #include "document/document.h"
-#include "document/documentwindow.h"
 #include "views/lateviews.h"
 
 #include <QMainWindow>
 
 #include <memory>
-
-class QComboBox;
 
 namespace zephira {
 
@@ -24,26 +19,30 @@ class CodeMax;
 class CommandRouter;
 class CommandToolBar;
 class DesignerBar;
+class DocumentControls;
+class DocumentSurface;
 class FilePane;
+class FilePaneCommands;
 class Menus;
 class ModalFormOpener;
 class Palette;
-class QuickViewer;
 class RecoveryKeeper;
 class SelectorList;
+class SideCommands;
 class SideLists;
 class SidePane;
 class StatusPanels;
 class ViewSwitch;
 class VisualTools;
+class WindowEnd;
 
 namespace Ui {
 class frmmain;
 }
 
-/// The main window: one document under its menus, toolbars, panes and views. The window holds the parts and connects
+/// The main window: one document under its menus, toolbars, panes and views. The window makes the parts and connects
 /// them; what they do is theirs.
-class frmmain : public QMainWindow, public DocumentHost, public DocumentWindow, public WindowCommands
+class frmmain : public QMainWindow
 {
     Q_OBJECT
     Q_PROPERTY(bool docModified READ docModified)
@@ -53,9 +52,9 @@ class frmmain : public QMainWindow, public DocumentHost, public DocumentWindow, 
     Q_PROPERTY(QString previewTarget READ previewTarget)
     Q_PROPERTY(QString designerBase READ designerBase)
     Q_PROPERTY(bool designerReady READ designerReady)
-    Q_PROPERTY(bool rootSelect MEMBER rootSelect)
+    Q_PROPERTY(bool rootSelect READ rootSelect)
     Q_PROPERTY(QString AppPath READ appPath)
-    Q_PROPERTY(QStringList startSteps MEMBER startSteps)
+    Q_PROPERTY(QStringList startSteps READ startSteps)
     Q_PROPERTY(int highlightMode READ highlightMode)
     Q_PROPERTY(int lineNumberMode READ lineNumberMode)
     Q_PROPERTY(int leftMarginMode READ leftMarginMode)
@@ -63,15 +62,6 @@ class frmmain : public QMainWindow, public DocumentHost, public DocumentWindow, 
     Q_PROPERTY(int selBoundsMode READ selBoundsMode)
 
 public:
-    /// The five display options of the configuration, kept for the life of the process.
-    struct DisplayModes {
-        int highlight = 0;
-        int lineNumber = 0;
-        int leftMargin = 0;
-        int whitespace = 0;
-        int selBounds = 0;
-    };
-
     explicit frmmain(const WindowServices &services, QWidget *parent = nullptr);
     ~frmmain() override;
 
@@ -82,12 +72,14 @@ public:
     QString previewTarget() const { return m_document->previewTarget(); }
     QString designerBase() const;
     bool designerReady() const;
+    bool rootSelect() const { return m_state.rootSelect; }
     QString appPath() const { return m_services.appPath; }
-    int highlightMode() const { return modes.highlight; }
-    int lineNumberMode() const { return modes.lineNumber; }
-    int leftMarginMode() const { return modes.leftMargin; }
-    int whitespaceMode() const { return modes.whitespace; }
-    int selBoundsMode() const { return modes.selBounds; }
+    QStringList startSteps() const { return m_state.startSteps; }
+    int highlightMode() const { return m_state.modes.highlight; }
+    int lineNumberMode() const { return m_state.modes.lineNumber; }
+    int leftMarginMode() const { return m_state.modes.leftMargin; }
+    int whitespaceMode() const { return m_state.modes.whitespace; }
+    int selBoundsMode() const { return m_state.modes.selBounds; }
 
     // The document's operations by name; Document tells what they do.
     Q_INVOKABLE void doNew() { m_document->doNew(); }
@@ -99,7 +91,19 @@ public:
     /// The one way for text into the document: see Inserter.
     Q_INVOKABLE void InsertAtCaret(const QString &text);
 
-    // The parts, for the start that fills them.
+    const WindowState &state() const { return m_state; }
+    /// Notes that a step of the start begins.
+    void noteStartStep(const QString &name) { m_state.startSteps.append(name); }
+    void setRootSelect(bool on) { m_state.rootSelect = on; }
+    void setDisplayModes(const DisplayModes &modes) { m_state.modes = modes; }
+    /// 1: the caret's line is drawn in the highlight colour from the next selection change on; 0: it isn't.
+    void setHighlightMode(int mode) { m_state.modes.highlight = mode; }
+    void setColours(const ColourTable &colours) { m_state.colours = colours; }
+    void setSelection(const CodeMaxRange &range) { m_state.selection = range; }
+    /// Panels 2 and 4: the selection's end line, and the line count.
+    void showLinePanels();
+
+    // The parts, for the start that fills them and the end that puts them away.
     const WindowServices &services() const { return m_services; }
     const AppContext &context() const { return *m_context; }
     Document &document() { return *m_document; }
@@ -112,63 +116,7 @@ public:
     SelectorList &selectorList() { return *m_selectorList; }
     SideLists &sideLists() { return *m_sideLists; }
     ModalFormOpener &forms() { return *m_forms; }
-
-    /// Panels 2 and 4: the selection's end line, and the line count.
-    void showLinePanels();
-
-    bool rootSelect = false;
-    DisplayModes modes;
-    ColourTable clrTable;
-    CodeMaxRange selRange;
-    /// Names of the start's steps, in the order in which they ran.
-    QStringList startSteps;
-
-    // DocumentHost
-    int languageRow() const override;
-    QString languageText() const override;
-    void setLanguageRow(int row) override;
-    QString projectPath() const override;
-    void setProjectPath(const QString &path) override;
-    QString commonDialogFile() const override { return m_commonDialog.fileName; }
-
-    // DocumentWindow
-    void setCaption(const QString &caption) override;
-    void setCountPanel(int characters) override;
-    void setPathPanel(const QString &text) override;
-    void notice(const QString &sentence) override;
-    void selectCodeTab() override;
-    void documentSettled() override;
-    void keepUnsavedText() override;
-    void showTemplateChooser() override;
-    QString listedFile() const override;
-    QString listedFolder() const override;
-    Result<QSize> pictureSize(const QString &path) const override;
-    Result<void> showPicture(const QString &path) override;
-
-    // WindowCommands
-    void newDocument() override { m_document->newDocument(); }
-    void newFromTemplate() override { m_document->newFromTemplate(); }
-    void newWindow() override;
-    void openDocument() override { m_document->open(); }
-    void saveDocument() override { m_document->save(); }
-    void saveDocumentAs() override { m_document->saveAs(); }
-    void saveAsTemplate() override { m_document->saveAsTemplate(); }
-    void printDocument() override { m_document->print(); }
-    void clearClipboard() override { m_document->clearClipboard(); }
-    void exitNow() override;
-    void updateProgram() override;
-    void revert() override { m_document->revert(); }
-    void nextView() override;
-    void selectView(int tab) override;
-    void selectSideTab(int tab) override;
-    void setSelectorListVisible(bool visible) override;
-    bool isChecked(const QString &name) const override;
-    void setChecked(const QString &name, bool checked) override;
-    void setHighlightMode(int mode) override { modes.highlight = mode; }
-    void showReadme() override;
-    void showFtp() override;
-    void openTagEditor(int page) override;
-    void checkSpelling() override;
+    CommandRouter &router() { return *m_router; }
 
 protected:
     bool event(QEvent *event) override;
@@ -178,24 +126,25 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void buildDocument();
     void buildBars();
     void buildSidePane();
     void buildWorkspace();
+    void buildCommands();
     void connectEditor();
     void connectCommands();
-    void languageChanged(int row);
+    void applyAvailability();
+    void languageSet(int row);
     void selectionChanged();
     void showKeyboardLocks();
-    QuickViewer *quickViewer();
-    void unload();
-    void endProcess();
 
     const WindowServices m_services;
+    WindowState m_state;
     std::unique_ptr<Ui::frmmain> m_ui;
     CommonDialog m_commonDialog;
     LateDesigner m_designer;
     CodeMax *m_rt = nullptr;
-    QComboBox *m_languages = nullptr;
+    DocumentControls *m_documentControls = nullptr;
     SidePane *m_sidePane = nullptr;
     FilePane *m_filePane = nullptr;
     DesignerBar *m_designerBar = nullptr;
@@ -207,13 +156,17 @@ private:
     CommandToolBar *m_standardBar = nullptr;
     CommandToolBar *m_formattingBar = nullptr;
     Palette *m_palette = nullptr;
+    FilePaneCommands *m_filePaneCommands = nullptr;
     std::unique_ptr<Inserter> m_inserter;
     std::unique_ptr<ModalFormOpener> m_forms;
     std::unique_ptr<const AppContext> m_context;
+    std::unique_ptr<DocumentSurface> m_surface;
     std::unique_ptr<Document> m_document;
-    std::unique_ptr<SideLists> m_sideLists;
-    std::unique_ptr<CommandRouter> m_router;
     std::unique_ptr<RecoveryKeeper> m_recoveryKeeper;
+    std::unique_ptr<SideLists> m_sideLists;
+    std::unique_ptr<SideCommands> m_sideCommands;
+    std::unique_ptr<WindowEnd> m_end;
+    std::unique_ptr<CommandRouter> m_router;
 };
 
 } // namespace zephira

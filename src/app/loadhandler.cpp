@@ -6,7 +6,9 @@
 #include "app/startdecision.h"
 #include "app/statuspanels.h"
 #include "commands/designerbar.h"
+#include "commands/menus.h"
 #include "core/configuration.h"
+#include "core/documenthost.h"
 #include "core/editorcommand.h"
 #include "core/errorstyles.h"
 #include "core/paths.h"
@@ -78,7 +80,7 @@ LoadHandler::LoadHandler(frmmain &window, const QString &argument) : m_window(wi
 void LoadHandler::run()
 {
     for (const Step &step : steps) {
-        m_window.startSteps.append(QStringView(step.name).toString());
+        m_window.noteStartStep(QStringView(step.name).toString());
         (this->*step.run)();
     }
 }
@@ -132,7 +134,7 @@ void LoadHandler::recordProgramFolder()
 
 void LoadHandler::fetchSelection()
 {
-    m_window.selRange = m_window.rt().selection(false);
+    m_window.setSelection(m_window.rt().selection(false));
 }
 
 void LoadHandler::fillDesignerFonts()
@@ -148,8 +150,8 @@ void LoadHandler::disableDesigner()
 
 void LoadHandler::readRootSelect()
 {
-    m_window.rootSelect = number(u"startup"_s, u"rootsel"_s) == 1;
-    m_window.filePane().setRootSelect(m_window.rootSelect);
+    m_window.setRootSelect(number(u"startup"_s, u"rootsel"_s) == 1);
+    m_window.filePane().setRootSelect(m_window.rootSelect());
 }
 
 void LoadHandler::createEditorGlobals()
@@ -160,13 +162,13 @@ void LoadHandler::createEditorGlobals()
 void LoadHandler::readDisplayModes()
 {
     const QString section = u"options"_s;
-    m_window.modes = {.highlight = number(section, u"highlight"_s),
-                      .lineNumber = number(section, u"linenumber"_s),
-                      .leftMargin = number(section, u"leftmargin"_s),
-                      .whitespace = number(section, u"whitespace"_s),
-                      .selBounds = number(section, u"selbounds"_s)};
-    if (m_window.modes.highlight == 1)
-        m_window.setChecked(u"highlightlines"_s, true);
+    m_window.setDisplayModes({.highlight = number(section, u"highlight"_s),
+                              .lineNumber = number(section, u"linenumber"_s),
+                              .leftMargin = number(section, u"leftmargin"_s),
+                              .whitespace = number(section, u"whitespace"_s),
+                              .selBounds = number(section, u"selbounds"_s)});
+    if (m_window.highlightMode() == 1)
+        m_window.menus().setChecked(u"highlightlines", true);
 }
 
 void LoadHandler::applyFont()
@@ -189,7 +191,7 @@ void LoadHandler::applyFont()
 void LoadHandler::applyDisplayModes()
 {
     EditingControl &editor = m_window.rt();
-    const frmmain::DisplayModes &modes = m_window.modes;
+    const DisplayModes &modes = m_window.state().modes;
     if (modes.whitespace == 1)
         editor.setDisplayWhitespace(true);
     if (modes.leftMargin == 1)
@@ -203,14 +205,14 @@ void LoadHandler::applyDisplayModes()
 void LoadHandler::applyColourTable()
 {
     const WindowServices &services = m_window.services();
-    m_window.clrTable = readColours(services.configuration, services.iniFile);
-    applyColours(m_window.clrTable, m_window.rt());
+    m_window.setColours(readColours(services.configuration, services.iniFile));
+    applyColours(m_window.state().colours, m_window.rt());
 }
 
 void LoadHandler::registerLanguages()
 {
     m_window.rt().globals().RegisterLanguage(u"Perl"_s, perlLanguage());
-    m_window.setLanguageRow(0);
+    m_window.context().document.setLanguageRow(0);
 }
 
 void LoadHandler::removeHotKeys()
@@ -257,11 +259,11 @@ void LoadHandler::openArgument()
         // The long form of a path that isn't there is empty; with an empty name nothing is opened.
         const QFileInfo file(argument);
         const QString path = file.exists() ? file.absoluteFilePath() : QString();
-        m_window.setProjectPath(folderOf(path));
+        m_window.context().document.setProjectPath(folderOf(path));
         if (!path.isEmpty())
             m_window.document().openAtStart(path);
         else
-            m_window.notice(u"The file %1 was not found."_s.arg(argument));
+            m_window.panels().notice(u"The file %1 was not found."_s.arg(argument));
     }
     m_window.showLinePanels();
 }

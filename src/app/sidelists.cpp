@@ -10,7 +10,6 @@
 #include "panes/sidepane.h"
 #include "tags/tagtree.h"
 
-#include <QAction>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
@@ -22,17 +21,17 @@ SideLists::SideLists(const AppContext &context, const Menus &menus, SidePane &pa
     , m_tags(new TagTree(context))
     , m_aspTags(new AspTagTree(context))
     , m_scripts(new ScriptLibrary(context))
+    , m_custom(new CustomTabs(context, m_fileNumber, *menus.menu(u"cmenu"_s), &pane))
 {
     pane.setPage(u"html"_s, m_tags);
     pane.setPage(u"asp"_s, m_aspTags);
     pane.setPage(u"ihtml"_s, new IhtmlTagList(context));
     pane.setPage(u"scripts"_s, m_scripts);
 
-    auto *custom = new CustomTabs(context, m_fileNumber, *menus.menu(u"cmenu"_s), &pane);
-    QObject::connect(menus.action(u"mnuaddcentry"_s), &QAction::triggered, custom, &CustomTabs::addEntry);
     for (int tab = 1; tab <= CustomTabs::count; ++tab) {
-        QWidget *list = custom->list(tab);
-        pane.setPage(list->objectName(), list, SidePane::Fill::AfterShowing, [custom, tab] { custom->load(tab); });
+        QWidget *list = m_custom->list(tab);
+        pane.setPage(list->objectName(), list, SidePane::Fill::AfterShowing,
+                     [custom = m_custom, tab] { custom->load(tab); });
     }
 }
 

@@ -7,6 +7,7 @@ namespace zephira {
 
 struct AppContext;
 class AspTagTree;
+class CustomTabs;
 class Menus;
 class ScriptLibrary;
 class SidePane;
@@ -23,6 +24,7 @@ public:
     TagTree &tags() const { return *m_tags; }
     AspTagTree &aspTags() const { return *m_aspTags; }
     ScriptLibrary &scripts() const { return *m_scripts; }
+    CustomTabs &customTabs() const { return *m_custom; }
     /// The file number of the lists, which the start reads through as well.
     FileNumber &fileNumber() { return m_fileNumber; }
 
@@ -31,6 +33,7 @@ private:
     TagTree *m_tags;
     AspTagTree *m_aspTags;
     ScriptLibrary *m_scripts;
+    CustomTabs *m_custom;
 };
 
 } // namespace zephira

@@ -4,6 +4,7 @@
 #include "app/frmmain.h"
 #include "app/loadhandler.h"
 #include "app/startdecision.h"
+#include "commands/menus.h"
 #include "core/configuration.h"
 #include "core/settingsnames.h"
 #include "core/usersettings.h"
@@ -29,7 +30,7 @@ void take(StartAction action, frmmain &window)
         window.forms().openModalOver(u"frmTip"_s, u"frmselprj"_s);
         break;
     case StartAction::CheckViewTip:
-        window.setChecked(u"mnuviewtip"_s, true);
+        window.menus().setChecked(u"mnuviewtip", true);
         break;
     }
 }
@@ -40,7 +41,7 @@ void runStartProcedure(frmmain &window, const QString &argument)
 {
     LoadHandler(window, argument).run();
 
-    const auto begin = [&window](const char16_t *step) { window.startSteps.append(QStringView(step).toString()); };
+    const auto begin = [&window](const char16_t *step) { window.noteStartStep(QStringView(step).toString()); };
     begin(u"makeScratchFolder");
     [[maybe_unused]] const Result<QString> scratch = scratchFolder();
     begin(u"showWindow");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/commandparts.h"
 #include "core/webviews.h"
 #include "views/lateviews.h"
 #include "views/workspaceviews.h"
@@ -21,7 +22,7 @@ class PreviewPane;
 
 /// The tabs of the workspace and what they show. The web engine's module is loaded when the preview or the designer is
 /// wanted for the first time, or a moment before: when the pointer comes to the tabs.
-class ViewSwitch final : public QObject, public WorkspaceWindow
+class ViewSwitch final : public QObject, public WorkspaceWindow, public ViewTabs
 {
     Q_OBJECT
 
@@ -39,13 +40,14 @@ public:
 
     ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner);
 
-    /// From the third view back to the first.
-    void selectNext();
     /// Gives the keyboard to the view that shows.
     void focusView();
     QString designerBase() const { return m_views.designerBase(); }
 
-    // WorkspaceWindow
+    // ViewTabs
+    void selectNext() override;
+
+    // WorkspaceWindow; the last is a part of ViewTabs too
     bool docModified() const override;
     void markModified() override;
     bool doSave() override;

@@ -64,10 +64,6 @@ void VisualTools::connectMenus()
         const QString menu = name.toString();
         connect(m_menus.menu(menu), &QMenu::aboutToShow, this, [this, menu] { updateMenu(menu); });
     }
-    connect(&m_menus, &Menus::triggered, this, [this](const QString &entry) {
-        m_tools.clickMenu(entry);
-        updateMenu(u"View"_s); // Its check marks show what the click made of the switches.
-    });
 }
 
 void VisualTools::documentComplete()

@@ -21,6 +21,7 @@ class VisualTools final : public QObject
 public:
     VisualTools(const AppContext &context, DesignerBar &bar, Menus &menus, QObject *owner);
 
+    DesignerTools &tools() { return m_tools; }
     bool designerReady() const { return m_tools.designerReady(); }
 
 Q_SIGNALS:

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/browserpreview.h"
 
-#include "commands/windowcommands.h"
+#include "commands/commandparts.h"
+#include "core/appcontext.h"
 #include "core/configuration.h"
 #include "core/documenthost.h"
 #include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/prompts.h"
 #include "core/shell.h"
+#include "document/document.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,27 +50,29 @@ bool mayShow(Prompts &prompts, const QString &question)
 
 } // namespace
 
-void previewInNamedBrowser(const AppContext &context, WindowCommands &window)
+void previewInNamedBrowser(const CommandParts &parts)
 {
+    const AppContext &context = parts.context;
     const std::optional<QString> browser = browserPath(context);
     if (!browser)
         return;
     if (!mayShow(context.prompts,
                  u"You must save your document to preview in Internet Explorer, would you like to save now?"_s))
         return;
-    window.saveDocument();
+    parts.document.save();
     // The document's path goes over as it would on a command line without quotes: blanks divide it.
     const QStringList arguments = context.document.commonDialogFile().split(u' ', Qt::SkipEmptyParts);
     if (const Result<void> started = context.shell.start(*browser, arguments); !started)
         tellError(context.prompts, started.error());
 }
 
-void previewInDefaultBrowser(const AppContext &context, WindowCommands &window)
+void previewInDefaultBrowser(const CommandParts &parts)
 {
+    const AppContext &context = parts.context;
     if (!mayShow(context.prompts,
                  u"You must save your document to preview in your default browser, would you like to save now?"_s))
         return;
-    window.saveDocument();
+    parts.document.save();
     // Cancelling the save of a new document leaves no name: nothing is shown then, and nothing is said.
     if (!context.shell.open(context.document.commonDialogFile()))
         return;

@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/appcontext.h"
-
 namespace zephira {
 
-class WindowCommands;
+struct CommandParts;
 
 /// Previews of the document in a browser outside. Both show the file on the disk, so they ask to save it first, even if
 /// nothing has changed; a "No" ends them.
 
 /// In the browser whose path is kept in the configuration; it is asked for when it isn't there.
-void previewInNamedBrowser(const AppContext &context, WindowCommands &window);
+void previewInNamedBrowser(const CommandParts &parts);
 
 /// In the program that the desktop opens such a file with.
-void previewInDefaultBrowser(const AppContext &context, WindowCommands &window);
+void previewInDefaultBrowser(const CommandParts &parts);
 
 } // namespace zephira

@@ -33,7 +33,7 @@ std::vector<MenuItem> tagItems()
 {
     std::vector<MenuItem> items;
     for (const QuickTag &tag : tagsMenu())
-        items.push_back({tag.key, tag.label, tag.shortcut, tag.icon, {}, tag.form()});
+        items.push_back({tag.key, tag.label, tag.shortcut, tag.icon, {}, {InsertsTag{&tag}}, tag.form()});
     return items;
 }
 
@@ -101,12 +101,22 @@ void Menus::addEntry(QMenu *menu, const MenuItem &item)
     if (item.name.isEmpty() || entry->isSeparator())
         return;
     m_actions.insert(entry->objectName(), entry);
-    connect(entry, &QAction::triggered, this, [this, entry] {
+    connect(entry, &QAction::triggered, this, [this, entry, command = item.command] {
         // The check mark is the command's to set: undo what the click did to it.
         if (entry->isCheckable())
             entry->setChecked(!entry->isChecked());
-        Q_EMIT triggered(entry->objectName());
+        Q_EMIT chosen(command);
     });
+}
+
+bool Menus::isChecked(QStringView entry) const
+{
+    return m_actions[entry.toString()]->isChecked();
+}
+
+void Menus::setChecked(QStringView entry, bool checked)
+{
+    m_actions[entry.toString()]->setChecked(checked);
 }
 
 void Menus::applyAvailability(const FormOpener &forms)

@@ -1,83 +1,158 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/menutable.h"
 
+#include "commands/commandfunctions.h"
+#include "commands/commandparts.h"
+#include "commands/helppages.h"
+#include "commands/sourceformatting.h"
+#include "core/designer.h"
+#include "document/document.h"
+
 namespace zephira {
 
 namespace {
 
 using Kind = MenuItem::Kind;
 
-constexpr MenuItem check(QStringView name, QStringView caption, QStringView shortcut = {}, QStringView statusTip = {})
+constexpr MenuItem check(QStringView name, QStringView caption, const Command &command, QStringView shortcut = {},
+                         QStringView statusTip = {})
 {
-    return {name, caption, shortcut, {}, statusTip, {}, Kind::Check};
+    return {name, caption, shortcut, {}, statusTip, command, {}, Kind::Check};
 }
 
 constexpr MenuItem menu(QStringView name, QStringView caption, std::span<const MenuItem> children)
 {
-    return {name, caption, {}, {}, {}, {}, Kind::Menu, children};
+    return {name, caption, {}, {}, {}, {}, {}, Kind::Menu, children};
 }
 
 /// An entry that opens a form.
 constexpr MenuItem opens(QStringView name, QStringView caption, QStringView form, QStringView icon,
                          QStringView statusTip, QStringView shortcut = {})
 {
-    return {name, caption, shortcut, icon, statusTip, form};
+    return {name, caption, shortcut, icon, statusTip, {OpensForm{form}}, form};
+}
+
+/// An entry whose feature isn't there yet.
+constexpr MenuItem missing(QStringView name, QStringView caption)
+{
+    return {name, caption, {}, {}, {}, {}, {}, Kind::Missing};
+}
+
+/// A command of the designer.
+constexpr MenuItem designs(QStringView name, QStringView caption, DesignerCommand command, QStringView icon = {})
+{
+    return {name, caption, {}, icon, {}, {command}};
+}
+
+/// A switch of the designer.
+constexpr MenuItem turns(QStringView name, QStringView caption, bool (Designer::*get)() const,
+                         void (Designer::*set)(bool))
+{
+    return check(name, caption, {TurnsSwitch{name, get, set}});
+}
+
+/// A block format of the designer. The captions are the formats' names, which the designer tells when its first document
+/// is complete.
+constexpr MenuItem formats(QStringView name, int number)
+{
+    return check(name, {}, {SetsBlockFormat{number}});
 }
 
 constexpr MenuItem divider(QStringView name = {})
 {
-    return {name, {}, {}, {}, {}, {}, Kind::Divider};
+    return {name, {}, {}, {}, {}, {}, {}, Kind::Divider};
+}
+
+/// A built-in command of the code view.
+constexpr Command inCodeView(EditorCommand command)
+{
+    return {command, Refusal::CodeView};
+}
+
+/// An editing command of the view that shows.
+constexpr Command inView(DesignerCommand designer, void (EditingControl::*editor)())
+{
+    return {EditsView{designer, editor}};
 }
 
 constexpr MenuItem newItems[] = {
-    opens(u"mnufromtemp", u"From Template", u"frmselprj", u"document-new-from-template",
-          u"Start a document from a template", u"Ctrl+T"),
-    {u"mnunewdoc", u"Blank Document", u"Ctrl+N", u"document-new", u"Start an empty document"},
-    {u"mnunewwindow", u"Window", u"F12", u"window-new", u"Open another window"},
+    {u"mnufromtemp",
+     u"From Template",
+     u"Ctrl+T",
+     u"document-new-from-template",
+     u"Start a document from a template",
+     {&Document::newFromTemplate},
+     u"frmselprj"},
+    {u"mnunewdoc", u"Blank Document", u"Ctrl+N", u"document-new", u"Start an empty document", {&Document::newDocument}},
+    {u"mnunewwindow", u"Window", u"F12", u"window-new", u"Open another window", {&WindowCommands::newWindow}},
 };
 
 constexpr MenuItem fileItems[] = {
     menu(u"new", u"&New...", newItems),
-    {u"open", u"&Open Document", u"Ctrl+O", u"document-open", u"Open a document"},
+    {u"open", u"&Open Document", u"Ctrl+O", u"document-open", u"Open a document", {&Document::open}},
     divider(),
-    {u"save", u"&Save Document", u"Ctrl+S", u"document-save", u"Save the document"},
-    {u"saveas", u"Save Document &As", {}, u"document-save-as", u"Save the document under another name"},
+    {u"save", u"&Save Document", u"Ctrl+S", u"document-save", u"Save the document", {&Document::save}},
+    {u"saveas",
+     u"Save Document &As",
+     {},
+     u"document-save-as",
+     u"Save the document under another name",
+     {&Document::saveAs}},
     {u"mnusavetemplate",
      u"Save Document as &Template",
      {},
      u"document-save-as-template",
-     u"Keep the document as a template for new ones"},
+     u"Keep the document as a template for new ones",
+     {&Document::saveAsTemplate}},
     divider(),
-    {u"print", u"&Print", u"Ctrl+P", u"document-print", u"Print the document"},
-    {u"clearclip", u"&Clear Clipboard", {}, u"edit-clear-history", u"Empty the clipboard"},
+    {u"print", u"&Print", u"Ctrl+P", u"document-print", u"Print the document", {&Document::print}},
+    {u"clearclip", u"&Clear Clipboard", {}, u"edit-clear-history", u"Empty the clipboard", {&Document::clearClipboard}},
     divider(),
-    {u"exit", u"&Exit", {}, u"application-exit", u"Leave at once, without saving"},
+    {u"exit", u"&Exit", {}, u"application-exit", u"Leave at once, without saving", {&WindowCommands::exitNow}},
 };
 
 constexpr MenuItem editItems[] = {
-    {u"undo", u"&Undo", u"Ctrl+Z", u"edit-undo", u"Take the last change back"},
-    {u"redo", u"&Redo", u"Ctrl+Y", u"edit-redo", u"Make the change again"},
+    {u"undo", u"&Undo", u"Ctrl+Z", u"edit-undo", u"Take the last change back",
+     inView(DesignerCommand::Undo, &EditingControl::undo)},
+    {u"redo", u"&Redo", u"Ctrl+Y", u"edit-redo", u"Make the change again",
+     inView(DesignerCommand::Redo, &EditingControl::redo)},
     divider(),
-    {u"cut", u"C&ut", u"Ctrl+X", u"edit-cut", u"Move the selection to the clipboard"},
-    {u"copy", u"&Copy", u"Ctrl+C", u"edit-copy", u"Copy the selection to the clipboard"},
-    {u"paste", u"&Paste", u"Ctrl+V", u"edit-paste", u"Insert the clipboard's text"},
-    {u"delete", u"&Delete", u"Del", u"edit-delete", u"Remove the selection"},
+    {u"cut", u"C&ut", u"Ctrl+X", u"edit-cut", u"Move the selection to the clipboard",
+     inView(DesignerCommand::Cut, &EditingControl::cut)},
+    {u"copy", u"&Copy", u"Ctrl+C", u"edit-copy", u"Copy the selection to the clipboard",
+     inView(DesignerCommand::Copy, &EditingControl::copy)},
+    {u"paste", u"&Paste", u"Ctrl+V", u"edit-paste", u"Insert the clipboard's text",
+     inView(DesignerCommand::Paste, &EditingControl::paste)},
+    {u"delete", u"&Delete", u"Del", u"edit-delete", u"Remove the selection",
+     inView(DesignerCommand::Delete, &EditingControl::clearSelection)},
     divider(),
-    {u"find", u"&Find", u"Ctrl+F", u"edit-find", u"Find a text"},
-    {u"findnext", u"Find &Next", u"F3", u"go-down-search", u"Find the text again"},
-    {u"mnreplace", u"&Replace", u"Ctrl+R", u"edit-find-replace", u"Find a text and replace it"},
-    {u"goto", u"&Go To...", u"Ctrl+G", u"go-jump", u"Go to a line"},
+    {u"find", u"&Find", u"Ctrl+F", u"edit-find", u"Find a text", inCodeView(EditorCommand::FindDialog)},
+    {u"findnext", u"Find &Next", u"F3", u"go-down-search", u"Find the text again", inCodeView(EditorCommand::FindNext)},
+    {u"mnreplace", u"&Replace", u"Ctrl+R", u"edit-find-replace", u"Find a text and replace it",
+     inCodeView(EditorCommand::FindReplaceDialog)},
+    {u"goto", u"&Go To...", u"Ctrl+G", u"go-jump", u"Go to a line", inCodeView(EditorCommand::GoToLine)},
     divider(),
-    {u"selectall", u"&Select All", u"Ctrl+A", u"edit-select-all", u"Select the whole text"},
-    {u"Timedate", u"&Time/Date", u"F5", u"clock", u"Insert the time and the date behind the selection"},
+    {u"selectall", u"&Select All", u"Ctrl+A", u"edit-select-all", u"Select the whole text",
+     inCodeView(EditorCommand::SelectAll)},
+    {u"Timedate",
+     u"&Time/Date",
+     u"F5",
+     u"clock",
+     u"Insert the time and the date behind the selection",
+     {insertTimeAndDate, Refusal::CodeView}},
     divider(),
-    {u"mnunextview", u"Next View", u"F8", u"go-next-view", u"Go to the next view of the document"},
+    {u"mnunextview",
+     u"Next View",
+     u"F8",
+     u"go-next-view",
+     u"Go to the next view of the document",
+     {&ViewTabs::selectNext}},
 };
 
 constexpr MenuItem formatSourceItems[] = {
-    {u"mnufcomp", u"Compact", {}, {}, u"Write the source as short as it can be"},
-    {u"mnuformath", u"Hierarchical", {}, {}, u"Indent the source by its structure"},
-    {u"mnufsimple", u"Simple", {}, {}, u"Give each tag a line"},
+    {u"mnufcomp", u"Compact", {}, {}, u"Write the source as short as it can be", {&SourceFormatting::compact}},
+    {u"mnuformath", u"Hierarchical", {}, {}, u"Indent the source by its structure", {&SourceFormatting::hierarchical}},
+    {u"mnufsimple", u"Simple", {}, {}, u"Give each tag a line", {&SourceFormatting::simple}},
 };
 
 constexpr MenuItem toolItems[] = {
@@ -89,7 +164,13 @@ constexpr MenuItem toolItems[] = {
     opens(u"mnuformwiz", u"Form Wizard", u"FormWizard", u"#form", u"Build a form"),
     menu(u"mnufsc", u"Format Source Code", formatSourceItems),
     opens(u"mnuframewiz", u"Frames Wizard", u"frmFramesWiz", u"#frameset", u"Build a page of frames"),
-    opens(u"mnuftpclient", u"&FTP Client", u"frmmainftp", u"folder-sync", u"Move files to and from a server"),
+    {u"mnuftpclient",
+     u"&FTP Client",
+     {},
+     u"folder-sync",
+     u"Move files to and from a server",
+     {openFtpClient},
+     u"frmmainftp"},
     opens(u"mnuimw", u"Image Wizard", u"ImageWizard", u"insert-image", u"Insert a picture"),
     opens(u"mnuinsbreakd", u"Insert Break...", u"frminsbreak", u"#return", u"Insert a line break with attributes"),
     opens(u"mnule", u"&Link Extractor", u"frmlinkextract", u"view-list-text", u"List the document's links"),
@@ -105,71 +186,80 @@ constexpr MenuItem toolItems[] = {
 
 constexpr MenuItem optionItems[] = {
     opens(u"main", u"Main Options", u"frmOptions", u"configure", u"Settings of the program"),
-    check(u"highlightlines", u"&Highlighted Lines", u"Ctrl+H", u"Highlight the line of the caret"),
+    check(u"highlightlines", u"&Highlighted Lines", {toggleHighlightedLines}, u"Ctrl+H",
+          u"Highlight the line of the caret"),
     opens(u"fileassociations", u"&Setup File Associations", u"frmfa", {}, u"Choose what opens with this program"),
-    {u"font", u"&Font", u"F7", u"preferences-desktop-font", u"Choose the font of the code view"},
-    check(u"mnuviewtip", u"View Tip of The Day", {}, u"Show a tip at each start"),
+    {u"font", u"&Font", u"F7", u"preferences-desktop-font", u"Choose the font of the code view", {chooseFont}},
+    check(u"mnuviewtip", u"View Tip of The Day", {toggleTips}, {}, u"Show a tip at each start"),
 };
 
 constexpr MenuItem pluginItems[] = {
-    {u"mnupluginoptions_0", u"No Plugins Installed", {}, {}, {}, {}, Kind::Missing},
+    missing(u"mnupluginoptions_0", u"No Plugins Installed"),
 };
 
 constexpr MenuItem helpItems[] = {
-    {u"helpme", u"&General Help", u"F1", u"help-contents", u"Open the guide"},
-    {u"readme", u"&Readme", {}, u"documentinfo", u"Show the read-me file"},
-    {u"mnuupdate", u"Update Zephira.", {}, u"system-upgrade", u"Look for a newer version"},
-    {u"website", u"Zephira Website", {}, u"internet-services", u"Open the program's site"},
+    {u"helpme", u"&General Help", u"F1", u"help-contents", u"Open the guide", {openHelp}},
+    {u"readme", u"&Readme", {}, u"documentinfo", u"Show the read-me file", {&PaneCommands::showReadme}},
+    {u"mnuupdate",
+     u"Update Zephira.",
+     {},
+     u"system-upgrade",
+     u"Look for a newer version",
+     {&WindowCommands::updateProgram}},
+    {u"website", u"Zephira Website", {}, u"internet-services", u"Open the program's site", {openWebsite}},
     opens(u"about", u"&About", u"frmAbout", u"help-about", u"About this program", u"F6"),
 };
 
 constexpr MenuItem viewItems[] = {
-    check(u"ViewSub_0", u"Borders"),
-    check(u"ViewSub_1", u"Document Details"),
-    check(u"ViewSub_2", u"Preview"),
-    check(u"ViewSub_10", u"Snap to Grid"),
+    turns(u"ViewSub_0", u"Borders", &Designer::showBorders, &Designer::setShowBorders),
+    turns(u"ViewSub_1", u"Document Details", &Designer::showDetails, &Designer::setShowDetails),
+    turns(u"ViewSub_2", u"Preview", &Designer::browseMode, &Designer::setBrowseMode),
+    turns(u"ViewSub_10", u"Snap to Grid", &Designer::snapToGrid, &Designer::setSnapToGrid),
 };
 
 constexpr MenuItem insertItems[] = {
-    {u"InsertSub_0", u"Picture", {}, u"insert-image"},
-    {u"InsertSub_1", u"Anchor", {}, u"insert-link"},
-    {u"InsertButton", u"Insert &Button", {}, u"#button"},
+    designs(u"InsertSub_0", u"Picture", DesignerCommand::Image, u"insert-image"),
+    designs(u"InsertSub_1", u"Anchor", DesignerCommand::Hyperlink, u"insert-link"),
+    {u"InsertButton", u"Insert &Button", {}, u"#button", {}, {insertFormButton}},
     opens(u"InsertHTML", u"Insert &HTML...", u"InsertHTMLDlg", {}, {}),
 };
 
-// The captions are the designer's block formats, which it names when its first document is complete.
+// clang-format off: a row a line
 constexpr MenuItem formatItems[] = {
-    check(u"FormatSub_0", {}),  check(u"FormatSub_1", {}),  check(u"FormatSub_2", {}),  check(u"FormatSub_3", {}),
-    check(u"FormatSub_4", {}),  check(u"FormatSub_5", {}),  check(u"FormatSub_6", {}),  check(u"FormatSub_7", {}),
-    check(u"FormatSub_8", {}),  check(u"FormatSub_9", {}),  check(u"FormatSub_10", {}), check(u"FormatSub_11", {}),
-    check(u"FormatSub_12", {}), check(u"FormatSub_13", {}), check(u"FormatSub_14", {}), check(u"FormatSub_15", {}),
+    formats(u"FormatSub_0", 0),   formats(u"FormatSub_1", 1),   formats(u"FormatSub_2", 2),
+    formats(u"FormatSub_3", 3),   formats(u"FormatSub_4", 4),   formats(u"FormatSub_5", 5),
+    formats(u"FormatSub_6", 6),   formats(u"FormatSub_7", 7),   formats(u"FormatSub_8", 8),
+    formats(u"FormatSub_9", 9),   formats(u"FormatSub_10", 10), formats(u"FormatSub_11", 11),
+    formats(u"FormatSub_12", 12), formats(u"FormatSub_13", 13), formats(u"FormatSub_14", 14),
+    formats(u"FormatSub_15", 15),
 };
+// clang-format on
 
 constexpr MenuItem tableItems[] = {
     opens(u"TableSub_0", u"Insert Table", u"InsertTableDlg", u"insert-table", {}),
     divider(u"TableSub_1"),
-    {u"TableSub_2", u"Insert Row", {}, u"edit-table-insert-row-below"},
-    {u"TableSub_3", u"Insert Collumn", {}, u"edit-table-insert-column-right"},
-    {u"TableSub_4", u"Insert Cell"},
+    designs(u"TableSub_2", u"Insert Row", DesignerCommand::InsertRow, u"edit-table-insert-row-below"),
+    designs(u"TableSub_3", u"Insert Collumn", DesignerCommand::InsertColumn, u"edit-table-insert-column-right"),
+    designs(u"TableSub_4", u"Insert Cell", DesignerCommand::InsertCell),
     divider(u"TableSub_5"),
-    {u"TableSub_6", u"Delete Rows", {}, u"edit-table-delete-row"},
-    {u"TableSub_7", u"Delete Collumns", {}, u"edit-table-delete-column"},
-    {u"TableSub_8", u"Delete Cells"},
+    designs(u"TableSub_6", u"Delete Rows", DesignerCommand::DeleteRows, u"edit-table-delete-row"),
+    designs(u"TableSub_7", u"Delete Collumns", DesignerCommand::DeleteColumns, u"edit-table-delete-column"),
+    designs(u"TableSub_8", u"Delete Cells", DesignerCommand::DeleteCells),
     divider(u"TableSub_9"),
-    {u"TableSub_10", u"Merge Cells", {}, u"edit-table-cell-merge"},
-    {u"TableSub_11", u"Split Cell", {}, u"edit-table-cell-split"},
+    designs(u"TableSub_10", u"Merge Cells", DesignerCommand::MergeCells, u"edit-table-cell-merge"),
+    designs(u"TableSub_11", u"Split Cell", DesignerCommand::SplitCell, u"edit-table-cell-split"),
 };
 
 constexpr MenuItem positionItems[] = {
-    {u"D2DSub_0", u"Set position to absolute"},
-    {u"D2DSub_1", u"Bring to front", {}, u"object-order-front"},
-    {u"D2DSub_2", u"Send to back", {}, u"object-order-back"},
-    {u"D2DSub_3", u"Bring forward", {}, u"object-order-raise"},
-    {u"D2DSub_4", u"Send back", {}, u"object-order-lower"},
-    {u"D2DSub_5", u"Bring above text"},
-    {u"D2DSub_6", u"Send below text"},
+    designs(u"D2DSub_0", u"Set position to absolute", DesignerCommand::AbsolutePosition),
+    designs(u"D2DSub_1", u"Bring to front", DesignerCommand::BringToFront, u"object-order-front"),
+    designs(u"D2DSub_2", u"Send to back", DesignerCommand::SendToBack, u"object-order-back"),
+    designs(u"D2DSub_3", u"Bring forward", DesignerCommand::BringForward, u"object-order-raise"),
+    designs(u"D2DSub_4", u"Send back", DesignerCommand::SendBackward, u"object-order-lower"),
+    designs(u"D2DSub_5", u"Bring above text", DesignerCommand::BringAboveText),
+    designs(u"D2DSub_6", u"Send below text", DesignerCommand::SendBelowText),
     divider(u"D2DSub_7"),
-    check(u"D2DSub_8", u"Lock element"),
+    check(u"D2DSub_8", u"Lock element", {DesignerCommand::LockElement}),
 };
 
 // The menu Tags has a table of its own, tagsmenu.h.
@@ -178,7 +268,7 @@ constexpr MenuItem bar[] = {
     menu(u"mnufile", u"&File", fileItems),    menu(u"edit", u"&Edit", editItems),
     menu(u"tools", u"&Tools", toolItems),     menu(u"options", u"&Options", optionItems),
     menu(u"Tags", u"&Fast Web Tags", {}),     menu(u"mnuplugins", u"Plugins", pluginItems),
-    menu(u"help", u"&Help", helpItems),       {u"mnusep", u"|", {}, {}, {}, {}, Kind::Bar},
+    menu(u"help", u"&Help", helpItems),       {u"mnusep", u"|", {}, {}, {}, {}, {}, Kind::Bar},
     menu(u"View", u"&View", viewItems),       menu(u"Insert", u"&Insert", insertItems),
     menu(u"Format", u"F&ormat", formatItems), menu(u"Table", u"T&able", tableItems),
     menu(u"d2d", u"&2D", positionItems),
@@ -186,17 +276,32 @@ constexpr MenuItem bar[] = {
 // clang-format on
 
 constexpr MenuItem fileListItems[] = {
-    {u"mnuqv", u"QuickView", {}, u"quickview", u"Show the file without opening it"},
-    {u"mnuinslink", u"Insert Link to this file", {}, u"insert-link", u"Insert a link to the file"},
-    {u"mnuef", u"Edit Filters", {}, u"view-filter", u"Choose which files the list shows"},
+    {u"mnuqv",
+     u"QuickView",
+     {},
+     u"quickview",
+     u"Show the file without opening it",
+     {&FileListCommands::showInQuickView}},
+    {u"mnuinslink",
+     u"Insert Link to this file",
+     {},
+     u"insert-link",
+     u"Insert a link to the file",
+     {&FileListCommands::insertLink}},
+    {u"mnuef",
+     u"Edit Filters",
+     {},
+     u"view-filter",
+     u"Choose which files the list shows",
+     {&FileListCommands::editFilters}},
 };
 
 constexpr MenuItem hiddenItems[] = {menu(u"mnufilerc", u"filerc", fileListItems)};
 
-constexpr MenuItem suggestionItems[] = {{u"sug_0", u"- Spelling Suggestions -", {}, {}, {}, {}, Kind::Missing}};
+constexpr MenuItem suggestionItems[] = {missing(u"sug_0", u"- Spelling Suggestions -")};
 
 constexpr MenuItem customTabItems[] = {
-    {u"mnuaddcentry", u"Add Entry", {}, u"list-add", u"Add an entry to this tab"},
+    {u"mnuaddcentry", u"Add Entry", {}, u"list-add", u"Add an entry to this tab", {&PaneCommands::addCustomEntry}},
 };
 
 constexpr MenuItem popups[] = {
@@ -204,6 +309,19 @@ constexpr MenuItem popups[] = {
     menu(u"mnuspell", u"Spelling", suggestionItems),
     menu(u"cmenu", u"cmenu", customTabItems),
 };
+
+/// Each entry that can be chosen has an effect, and nothing else has one.
+constexpr bool eachEntryActs(std::span<const MenuItem> items)
+{
+    for (const MenuItem &item : items) {
+        const bool canBeChosen = item.kind == Kind::Entry || item.kind == Kind::Check;
+        if (hasEffect(item.command) != canBeChosen || !eachEntryActs(item.children))
+            return false;
+    }
+    return true;
+}
+
+static_assert(eachEntryActs(bar) && eachEntryActs(popups));
 
 constexpr QStringView visualOnly[] = {u"View", u"Insert", u"Format", u"Table", u"d2d"};
 

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/command.h"
+
 #include <QString>
 
 #include <span>
 
 namespace zephira {
 
-/// One row of the menu tree.
+/// One row of the menu tree: name, looks, effect, and what it needs.
 struct MenuItem {
     enum class Kind {
         Entry,
@@ -24,7 +26,9 @@ struct MenuItem {
     /// See icons.h.
     QStringView icon = {};
     QStringView statusTip = {};
-    /// The form that the entry opens modally, or that its command needs.
+    /// What choosing the entry does.
+    Command command = {};
+    /// The form that has to be there for the entry to be enabled, or empty.
     QStringView form = {};
     Kind kind = Kind::Entry;
     std::span<const MenuItem> children = {};

@@ -121,9 +121,7 @@ Palette::Palette(QWidget *parent) : QWidget(parent), m_tabs(new QTabBar(this))
 void Palette::fill(int index)
 {
     PaletteBar *bar = m_bars[static_cast<std::size_t>(index)];
-    int position = 0;
     for (const QuickTag &tag : paletteToolbars()[static_cast<std::size_t>(index)].buttons) {
-        ++position;
         QAction *action = new QAction(tag.label.toString(), bar);
         action->setSeparator(tag.kind == TagKind::Separator);
         action->setObjectName(tag.key);
@@ -133,8 +131,7 @@ void Palette::fill(int index)
         if (tag.kind == TagKind::Headings)
             addHeadings(action);
         else
-            connect(action, &QAction::triggered, this,
-                    [this, index, key = tag.key, position] { Q_EMIT clicked(index, key.toString(), position); });
+            connect(action, &QAction::triggered, this, [this, &tag] { Q_EMIT clicked(tag); });
     }
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/quicktag.h"
+
 #include <QWidget>
 
 #include <vector>
@@ -40,8 +42,8 @@ public:
     void applyAvailability(const FormOpener &forms);
 
 Q_SIGNALS:
-    /// `key` is empty where buttons are known by `position`, which counts from 1, separators included.
-    void clicked(int index, const QString &key, int position);
+    /// A button was clicked, but for the pull-down of the headings.
+    void clicked(const zephira::QuickTag &tag);
     void headingClicked(int size);
     /// A tab was clicked or chosen by key, also the one that is selected already: pop-ups over the palette should hide.
     void tabClicked(int index);

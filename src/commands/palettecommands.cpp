@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/palettecommands.h"
 
+#include "commands/commandparts.h"
 #include "commands/helppages.h"
-#include "commands/palettetable.h"
-#include "commands/windowcommands.h"
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
 #include "core/formopener.h"
@@ -17,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-PaletteCommands::Handler PaletteCommands::handlerOf(const QuickTag &tag)
+PaletteCommands::Handler PaletteCommands::handlerOf(TagKind kind)
 {
     struct Row {
         TagKind kind;
@@ -38,24 +37,21 @@ PaletteCommands::Handler PaletteCommands::handlerOf(const QuickTag &tag)
         {TagKind::Selector, &PaletteCommands::showSelectors},
         {TagKind::Property, &PaletteCommands::showProperties},
     }};
-    const auto row = std::ranges::find(rows, tag.kind, &Row::kind);
+    const auto row = std::ranges::find(rows, kind, &Row::kind);
     return row == rows.end() ? nullptr : row->handler;
 }
 
-void PaletteCommands::click(int toolbar, const QString &key, int position)
+void PaletteCommands::run(const QuickTag &tag)
 {
-    const QuickTag *tag = findPaletteButton(toolbar, key, position);
-    if (!tag)
-        return;
-    if (isRefused(tag->refusal, m_context.designer, m_context.prompts)) {
+    if (isRefused(tag.refusal, m_context.designer, m_context.prompts)) {
         // The click has pressed the toggle already, and nothing shows that would release it.
-        if (tag->kind == TagKind::Selector)
-            m_window.setChecked(tag->key.toString(), false);
+        if (tag.kind == TagKind::Selector)
+            m_panes.setSelectorPressed(false);
         return;
     }
-    if (const Handler handler = handlerOf(*tag)) {
+    if (const Handler handler = handlerOf(tag.kind)) {
         // One statement: in every handler it is the last step that can fail, so that nothing is left to go on with.
-        tellingErrors(m_context.prompts, u"frmmain"_s, u"ToolBar_ButtonClick"_s, {[&] { (this->*handler)(*tag); }});
+        tellingErrors(m_context.prompts, u"frmmain"_s, u"ToolBar_ButtonClick"_s, {[&] { (this->*handler)(tag); }});
     }
 }
 
@@ -113,9 +109,9 @@ void PaletteCommands::tidy(const QuickTag &tag)
     openForm(tag);
 }
 
-void PaletteCommands::checkSpelling(const QuickTag &)
+void PaletteCommands::checkSpelling(const QuickTag &tag)
 {
-    m_window.checkSpelling();
+    m_context.forms.openModal(tag.form().toString());
 }
 
 void PaletteCommands::openHelp(const QuickTag &)
@@ -123,16 +119,16 @@ void PaletteCommands::openHelp(const QuickTag &)
     zephira::openHelp(m_context);
 }
 
-void PaletteCommands::showSelectors(const QuickTag &tag)
+void PaletteCommands::showSelectors(const QuickTag &)
 {
-    m_window.setSelectorListVisible(m_window.isChecked(tag.key.toString()));
+    m_panes.setSelectorListVisible(m_panes.isSelectorPressed());
 }
 
 void PaletteCommands::showProperties(const QuickTag &)
 {
     m_context.prompts.ask({u"By default, the first custom tab was shipped with a CSS Prop index file. "
                            "You will now be taken to the tab"_s});
-    m_window.selectSideTab(7);
+    m_panes.selectSideTab(7);
 }
 
 } // namespace zephira

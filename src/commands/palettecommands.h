@@ -1,31 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/quicktag.h"
 #include "core/appcontext.h"
 
 #include <QString>
 
 namespace zephira {
 
-struct QuickTag;
-class WindowCommands;
+class PaneCommands;
 
 /// The clicks of the tool palette. A click either makes its text and inserts it once, at its end, or opens a form or
 /// shows a message and inserts nothing. Errors are told to the user.
 class PaletteCommands
 {
 public:
-    PaletteCommands(const AppContext &context, WindowCommands &window) : m_context(context), m_window(window) {}
+    PaletteCommands(const AppContext &context, PaneCommands &panes) : m_context(context), m_panes(panes) {}
 
-    /// A button of toolbar 0 to 11: by its key in toolbars 0 to 5, by its position from 1 on, separators counted, in the
-    /// others. A button that isn't there does nothing.
-    void click(int toolbar, const QString &key, int position);
+    void run(const QuickTag &tag);
     /// The heading of size 1 to 6 around the selection.
     void heading(int size);
 
+    /// Whether a click on a button of that kind does something.
+    static bool hasEffect(TagKind kind) { return handlerOf(kind); }
+
 private:
     using Handler = void (PaletteCommands::*)(const QuickTag &);
-    static Handler handlerOf(const QuickTag &tag);
+    static Handler handlerOf(TagKind kind);
 
     void insertText(const QuickTag &tag);
     void openForm(const QuickTag &tag);
@@ -40,7 +41,7 @@ private:
     void showProperties(const QuickTag &tag);
 
     const AppContext m_context;
-    WindowCommands &m_window;
+    PaneCommands &m_panes;
 };
 
 } // namespace zephira

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/palettetable.h"
 
-#include <algorithm>
-
 namespace zephira {
 
 namespace {
@@ -232,9 +230,9 @@ constexpr QuickTag ssi[] = {
 };
 
 constexpr PaletteToolbar toolbars[] = {
-    {u"Tools", tools, true}, {u"Common", common, true}, {u"Text", text, true}, {u"Tables", tables, true},
-    {u"Style", style, true}, {u"Frames", frames, true}, {u"Lists", lists},     {u"Forms", forms},
-    {u"Scripts", scripts},   {u"CFML", cfml},           {u"ASP", asp},         {u"SSI", ssi},
+    {u"Tools", tools},     {u"Common", common}, {u"Text", text},   {u"Tables", tables},
+    {u"Style", style},     {u"Frames", frames}, {u"Lists", lists}, {u"Forms", forms},
+    {u"Scripts", scripts}, {u"CFML", cfml},     {u"ASP", asp},     {u"SSI", ssi},
 };
 
 } // namespace
@@ -242,20 +240,6 @@ constexpr PaletteToolbar toolbars[] = {
 std::span<const PaletteToolbar> paletteToolbars()
 {
     return toolbars;
-}
-
-const QuickTag *findPaletteButton(int toolbar, const QString &key, int position)
-{
-    if (toolbar < 0 || toolbar >= static_cast<int>(std::size(toolbars)))
-        return nullptr;
-    const PaletteToolbar &bar = toolbars[toolbar];
-    if (bar.keyed) {
-        const auto row = std::ranges::find_if(bar.buttons, [&](const QuickTag &tag) { return tag.key == key; });
-        return row == bar.buttons.end() ? nullptr : &*row;
-    }
-    if (position < 1 || position > static_cast<int>(bar.buttons.size()))
-        return nullptr;
-    return &bar.buttons[static_cast<std::size_t>(position) - 1];
 }
 
 } // namespace zephira

@@ -43,7 +43,7 @@ void CommandToolBar::addButton(const ToolButton &button)
     addAction(action);
     QToolButton *toolButton = qobject_cast<QToolButton *>(widgetForAction(action));
     toolButton->setAccessibleName(action->text());
-    connect(action, &QAction::triggered, this, [this, key] { Q_EMIT buttonClicked(key); });
+    connect(action, &QAction::triggered, this, [this, &button] { Q_EMIT chosen(button.command); });
     if (button.pullDown.empty())
         return;
 
@@ -54,7 +54,7 @@ void CommandToolBar::addButton(const ToolButton &button)
         QAction *entry = menu->addAction(row.caption.toString());
         entry->setObjectName(entryKey);
         entry->setStatusTip(row.statusTip.toString());
-        connect(entry, &QAction::triggered, this, [this, entryKey] { Q_EMIT pullDownClicked(entryKey); });
+        connect(entry, &QAction::triggered, this, [this, &row] { Q_EMIT chosen(row.command); });
         connect(menu, &QMenu::aboutToShow, entry, [entry, icon = row.icon] {
             if (entry->icon().isNull())
                 entry->setIcon(iconFor(icon));

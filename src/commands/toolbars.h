@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/command.h"
+
 #include <QSet>
 #include <QToolBar>
 
@@ -34,8 +36,8 @@ public:
     void close(const QString &key);
 
 Q_SIGNALS:
-    void buttonClicked(const QString &key);
-    void pullDownClicked(const QString &key);
+    /// A button, or an entry of a pull-down, was clicked.
+    void chosen(const zephira::Command &command);
 
 private:
     void addButton(const ToolButton &button);

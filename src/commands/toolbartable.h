@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/command.h"
+
 #include <QString>
 
 #include <span>
@@ -13,7 +15,9 @@ struct PullDownEntry {
     QStringView caption = {};
     QStringView icon = {};
     QStringView statusTip = {};
-    /// The form that the entry opens modally, or that its command needs.
+    /// What choosing the entry does.
+    Command command = {};
+    /// The form that has to be there for the entry to be enabled, or empty.
     QStringView form = {};
 };
 
@@ -22,10 +26,9 @@ struct ToolButton {
     QStringView key = {};
     QStringView tip = {};
     QStringView icon = {};
+    Command command = {};
+    /// As in PullDownEntry.
     QStringView form = {};
-    /// Markup around the selection, for buttons that only do that.
-    QStringView before = {};
-    QStringView after = {};
     std::span<const PullDownEntry> pullDown = {};
 };
 
@@ -42,9 +45,5 @@ const ToolBarTable &standardToolBar();
 /// (positions count from 1, separators included). The two separators put special characters, FTP and revert, which
 /// serve any language, at 13 to 15, and all that is about markup at 1 to 12.
 const ToolBarTable &formattingToolBar();
-
-/// The formatting toolbar's button or pull-down entry of a key, or nullptr.
-const ToolButton *findFormattingButton(QStringView key);
-const PullDownEntry *findPullDownEntry(QStringView key);
 
 } // namespace zephira

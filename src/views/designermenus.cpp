@@ -11,11 +11,17 @@ namespace zephira {
 
 namespace {
 
+/// An entry of the menu View and the switch of the designer that it shows.
+struct DesignerSwitch {
+    QStringView entry;
+    bool (Designer::*get)() const;
+};
+
 constexpr DesignerSwitch switches[] = {
-    {u"ViewSub_0", &Designer::showBorders, &Designer::setShowBorders},
-    {u"ViewSub_1", &Designer::showDetails, &Designer::setShowDetails},
-    {u"ViewSub_2", &Designer::browseMode, &Designer::setBrowseMode},
-    {u"ViewSub_10", &Designer::snapToGrid, &Designer::setSnapToGrid},
+    {u"ViewSub_0", &Designer::showBorders},
+    {u"ViewSub_1", &Designer::showDetails},
+    {u"ViewSub_2", &Designer::browseMode},
+    {u"ViewSub_10", &Designer::snapToGrid},
 };
 
 constexpr QStringView blockFormatArray = u"FormatSub";
@@ -23,15 +29,6 @@ constexpr QStringView blockFormatArray = u"FormatSub";
 QString entryName(QStringView array, qsizetype index)
 {
     return u"%1_%2"_s.arg(array).arg(index);
-}
-
-/// Splits the name of an array's element; the index is -1 where the name is none.
-std::pair<QStringView, int> elementOf(QStringView name)
-{
-    const qsizetype line = name.lastIndexOf(u'_');
-    bool isNumber = false;
-    const int index = line < 0 ? -1 : name.mid(line + 1).toInt(&isNumber);
-    return {name.left(line), isNumber ? index : -1};
 }
 
 bool isAvailable(const Designer &designer, DesignerCommand command)
@@ -109,25 +106,6 @@ constexpr MenuRow menus[] = {
 };
 
 } // namespace
-
-const DesignerSwitch *findDesignerSwitch(QStringView entry)
-{
-    const auto row = std::ranges::find(switches, entry, &DesignerSwitch::entry);
-    return row == std::end(switches) ? nullptr : row;
-}
-
-DesignerCommand designerMenuCommand(QStringView entry)
-{
-    const auto [array, index] = elementOf(entry);
-    const auto commands = designerMenuCommands(array);
-    return index >= 0 && size_t(index) < commands.size() ? commands[size_t(index)] : DesignerCommand::None;
-}
-
-int blockFormatIndex(QStringView entry)
-{
-    const auto [array, index] = elementOf(entry);
-    return array == blockFormatArray ? index : -1;
-}
 
 QList<DesignerMenuEntry> designerMenuEntries(QStringView menu, Designer &designer, const QStringList &blockFormats)
 {

@@ -10,24 +10,8 @@
 
 namespace zephira {
 
-/// An entry of the menu View and the switch of the designer that it turns.
-struct DesignerSwitch {
-    QStringView entry;
-    bool (Designer::*get)() const;
-    void (Designer::*set)(bool);
-};
-
-/// The switch of an entry, or nullptr.
-const DesignerSwitch *findDesignerSwitch(QStringView entry);
-
-/// The command of an entry of InsertSub, TableSub or D2DSub, such as "TableSub_2"; None for a separator, and for every
-/// other name.
-DesignerCommand designerMenuCommand(QStringView entry);
-
 /// The menu Format has this many entries, FormatSub_0 and so on.
 constexpr int blockFormatEntries = 16;
-/// The 0-based number of such an entry; -1 for any other name.
-int blockFormatIndex(QStringView entry);
 
 /// How an entry looks; what isn't named stays as it is.
 struct DesignerMenuEntry {

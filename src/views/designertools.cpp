@@ -93,19 +93,4 @@ std::optional<QString> DesignerTools::enterFontSize(const QString &text)
     return std::nullopt;
 }
 
-void DesignerTools::clickMenu(const QString &name)
-{
-    Designer &designer = m_context.designer;
-    if (const DesignerSwitch *row = findDesignerSwitch(name)) {
-        (designer.*row->set)(!(designer.*row->get)());
-    } else if (name == u"InsertButton") {
-        endingQuietly([&] { designer.pasteHtml(u"<BUTTON TITLE=Button>Button!</BUTTON>"_s); });
-    } else if (const int format = blockFormatIndex(name); format >= 0 && format < m_blockFormats.size()) {
-        run(DesignerCommand::SetBlockFormat, m_blockFormats[format], DesignerPrompting::DontPromptUser);
-    } else if (const DesignerCommand command = designerMenuCommand(name);
-               command != DesignerCommand::None && command != DesignerCommand::InsertTable) {
-        run(command);
-    }
-}
-
 } // namespace zephira

@@ -10,7 +10,7 @@
 
 namespace zephira {
 
-/// What the designer's toolbar and menus do. Errors end a command without a word.
+/// What the designer's toolbar does, and what its menus show. Errors end a command without a word.
 class DesignerTools
 {
 public:
@@ -32,9 +32,6 @@ public:
     /// A size that was typed. What is no size from 1 to 7 changes nothing, and comes back as the text that the box is to
     /// show instead.
     std::optional<QString> enterFontSize(const QString &text);
-
-    /// An entry of the five menus, by name. Entries that open a form, and all others, are left alone.
-    void clickMenu(const QString &name);
 
 private:
     void run(DesignerCommand command, const QVariant &argument = {},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowbench.h"
 #include "core/itemroles.h"
+#include "panes/sidepane.h"
 #include "support/testregistry.h"
 
 #include <QTest>
@@ -96,7 +97,7 @@ private:
         const auto *tabs = bench.find<QTabBar>(u"Frame1"_s);
         for (int tab = 0; tab < tabs->count(); ++tab) {
             if (tabs->tabData(tab).toString() == u"documenttree")
-                bench.window->selectSideTab(tab + 1);
+                bench.window->sidePane().click(tab);
         }
     }
 

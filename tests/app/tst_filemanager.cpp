@@ -178,7 +178,7 @@ private Q_SLOTS:
     {
         Bench bench;
         frmmain &window = bench.start();
-        window.setLanguageRow(1);
+        window.context().document.setLanguageRow(1);
         bench.find<QAction>(u"dqw"_s)->trigger();
         QCOMPARE(bench.find<QTabBar>(u"Frame1"_s)->currentIndex(), 2);
     }
@@ -480,7 +480,7 @@ private Q_SLOTS:
         bench.writePicture(u"site/a.gif"_s, {2000, 1500});
         bench.write(u"site/b.txt"_s, "text");
         frmmain &window = bench.start();
-        window.setLanguageRow(1);
+        window.context().document.setLanguageRow(1);
         window.rt().setText(u"document"_s);
         window.document().setModified(false);
         bench.listSite();

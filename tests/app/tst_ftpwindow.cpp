@@ -49,7 +49,7 @@ void TstFtpWindow::menuEntryStartsInTheProgramFolder()
 {
     WindowBench bench;
     bench.start();
-    bench.window->setProjectPath(bench.folder());
+    bench.window->context().document.setProjectPath(bench.folder());
     bench.choose(u"mnuftpclient"_s);
     QVERIFY(ftpWindow(bench));
     QVERIFY(ftpWindow(bench)->isVisible());
@@ -61,14 +61,14 @@ void TstFtpWindow::buttonPresetsTheProjectFolder()
     WindowBench bench;
     const QString project = QFileInfo(bench.write(u"project/index.htm"_s, "x")).path();
     bench.start();
-    bench.window->setProjectPath(project + u'/');
+    bench.window->context().document.setProjectPath(project + u'/');
     bench.click(u"Toolbar1"_s, u"ftp"_s);
     QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), project + u'/');
     // The command finds the window that is open, wherever it has gone meanwhile.
     ftpWindow(bench)->setProperty("LocalFolder", bench.appPath());
     bench.click(u"Toolbar1"_s, u"ftp"_s);
     QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), project + u'/');
-    bench.window->setProjectPath(u"/no/such/folder/"_s);
+    bench.window->context().document.setProjectPath(u"/no/such/folder/"_s);
     bench.click(u"Toolbar1"_s, u"ftp"_s);
     QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), project + u'/');
 }
@@ -77,7 +77,7 @@ void TstFtpWindow::buttonWithoutAProject()
 {
     WindowBench bench;
     bench.start();
-    QCOMPARE(bench.window->projectPath(), u"Project Path"_s);
+    QCOMPARE(bench.window->context().document.projectPath(), u"Project Path"_s);
     bench.click(u"Toolbar1"_s, u"ftp"_s);
     QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), bench.appPath() + u'/');
 }

@@ -29,7 +29,7 @@ private Q_SLOTS:
                                       u"applyColourTable"_s,    u"registerLanguages"_s, u"removeHotKeys"_s,
                                       u"readStyleSelectors"_s,  u"rootScriptFolder"_s,  u"fillTagTree"_s,
                                       u"clearModified"_s,       u"readAspTags"_s,       u"openArgument"_s};
-        QCOMPARE(bench.start().startSteps, expected);
+        QCOMPARE(bench.start().startSteps(), expected);
         QCOMPARE(bench.window->property("startSteps").toStringList(), expected);
     }
 
@@ -47,7 +47,7 @@ private Q_SLOTS:
             message,
             u"Zephira can't start: the key \"whitespace\" in section [options] of %1 isn't a number (\"perhaps\")."_s
                 .arg(bench.configuration.file()));
-        QCOMPARE(bench.window->startSteps.last(), u"readDisplayModes"_s);
+        QCOMPARE(bench.window->startSteps().last(), u"readDisplayModes"_s);
     }
 
     void theShippedSettingsAreApplied()
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QFETCH(QString, value);
         WindowBench bench;
         QVERIFY(bench.configuration.setValue(u"startup"_s, u"rootsel"_s, value));
-        QTEST(bench.start().rootSelect, "root");
+        QTEST(bench.start().rootSelect(), "root");
     }
 
     void theDesignersToolbarStartsEmptyAndDisabled()

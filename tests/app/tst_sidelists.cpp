@@ -234,7 +234,7 @@ private Q_SLOTS:
             message = error.description;
         }
         QCOMPARE(message, u"Zephira can't start: The file \"%1\" could not be read: it does not exist."_s.arg(path));
-        QTEST(bench.window->startSteps.last(), "step");
+        QTEST(bench.window->startSteps().last(), "step");
     }
 
     void emptyDataFilesAreNoFailure()

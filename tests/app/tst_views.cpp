@@ -329,7 +329,7 @@ private Q_SLOTS:
         ViewBench bench;
         bench.select(3);
         QCOMPARE(bench.designer().loaded, QStringList{bench.file});
-        QCOMPARE(bench.window->designerBase(), bench.window->projectPath());
+        QCOMPARE(bench.window->designerBase(), bench.window->context().document.projectPath());
         QVERIFY(!bench.window->docModified());
     }
 
@@ -356,9 +356,12 @@ private Q_SLOTS:
         bench.choose(u"mnunewdoc"_s);
         bench.window->rt().setText(u"<i>new</i>"_s);
         bench.prompts.expect(saveQuestion, Answer::Ok);
-        bench.prompts.expectFile(
-            {u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.window->projectPath(), true, {}},
-            std::nullopt);
+        bench.prompts.expectFile({u"Save a document..."_s,
+                                  u"Text Files|*.txt|All Files|*.*"_s,
+                                  bench.window->context().document.projectPath(),
+                                  true,
+                                  {}},
+                                 std::nullopt);
         bench.select(3);
         QCOMPARE(bench.tabs().currentIndex(), 2);
         QVERIFY(bench.designer().loaded.isEmpty());

@@ -168,9 +168,12 @@ private Q_SLOTS:
         WebBench bench((QString()));
         bench.window->rt().setText(u"<p>never saved</p>"_s);
         bench.prompts.expect(saveQuestion, Answer::Ok);
-        bench.prompts.expectFile(
-            {u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.window->projectPath(), true, {}},
-            std::nullopt);
+        bench.prompts.expectFile({u"Save a document..."_s,
+                                  u"Text Files|*.txt|All Files|*.*"_s,
+                                  bench.window->context().document.projectPath(),
+                                  true,
+                                  {}},
+                                 std::nullopt);
         QVERIFY(bench.design());
         QCOMPARE(bench.html(), u"<p>never saved</p>"_s);
         bench.paste(u"<i>x</i>"_s);

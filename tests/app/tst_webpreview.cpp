@@ -103,7 +103,7 @@ private Q_SLOTS:
         const auto restore = qScopeGuard([home = qgetenv("HOME")] { qputenv("HOME", home); });
         qputenv("HOME", QFile::encodeName(bench.folder()));
         bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(1);
-        bench.window->setProjectPath(u"Project Path"_s);
+        bench.window->context().document.setProjectPath(u"Project Path"_s);
         bench.window->rt().setText(u"<title>new</title>"_s);
         QVERIFY(bench.preview(u"new"_s));
         QVERIFY(bench.window->previewTarget().startsWith(bench.folder()));
@@ -116,7 +116,7 @@ private Q_SLOTS:
         WebBench bench((QString()));
         const QString project = bench.write(u"project/picture.svg"_s, "<svg/>").chopped(11);
         bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(1);
-        bench.window->setProjectPath(project);
+        bench.window->context().document.setProjectPath(project);
         bench.window->rt().setText(u"<title>new</title>"_s);
         QVERIFY(bench.preview(u"new"_s));
         QCOMPARE(bench.window->previewTarget(), project + u"zephiratempfile.htm"_s);

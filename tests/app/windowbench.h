@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/frmmain.h"
+#include "core/documenthost.h"
 #include "core/formcatalogue.h"
 #include "core/webviews.h"
 #include "editor/codemax.h"

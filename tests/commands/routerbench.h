@@ -2,63 +2,143 @@
 #pragma once
 
 #include "commands/commandrouter.h"
-#include "commands/windowcommands.h"
+#include "commands/menutable.h"
+#include "commands/palettetable.h"
+#include "commands/tagsmenu.h"
+#include "commands/toolbartable.h"
 #include "core/inserttext.h"
+#include "document/commondialog.h"
+#include "document/document.h"
 #include "support/fakes.h"
+#include "views/designertools.h"
+#include "views/workspaceviews.h"
 
+#include <algorithm>
 #include <set>
 
 namespace zephira {
 
-/// The main window as commands see it: it keeps what it was asked for, as "name" or "name argument".
-struct FakeWindow final : WindowCommands {
+/// The window's parts as commands see them: it keeps what it was asked for, as "name" or "name argument".
+struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, WindowCommands {
     QStringList calls;
     std::set<QString> checked;
+    bool selectorPressed = false;
 
-    void newDocument() override { calls.append(QStringLiteral("newDocument")); }
-    void newFromTemplate() override { calls.append(QStringLiteral("newFromTemplate")); }
-    void newWindow() override { calls.append(QStringLiteral("newWindow")); }
-    void openDocument() override { calls.append(QStringLiteral("openDocument")); }
-    void saveDocument() override { calls.append(QStringLiteral("saveDocument")); }
-    void saveDocumentAs() override { calls.append(QStringLiteral("saveDocumentAs")); }
-    void saveAsTemplate() override { calls.append(QStringLiteral("saveAsTemplate")); }
-    void printDocument() override { calls.append(QStringLiteral("printDocument")); }
-    void clearClipboard() override { calls.append(QStringLiteral("clearClipboard")); }
-    void revert() override { calls.append(QStringLiteral("revert")); }
-    void exitNow() override { calls.append(QStringLiteral("exitNow")); }
-    void updateProgram() override { calls.append(QStringLiteral("updateProgram")); }
-    void nextView() override { calls.append(QStringLiteral("nextView")); }
-    void selectView(int tab) override { calls.append(QStringLiteral("selectView %1").arg(tab)); }
-    void selectSideTab(int tab) override { calls.append(QStringLiteral("selectSideTab %1").arg(tab)); }
-    void setSelectorListVisible(bool on) override { calls.append(QStringLiteral("setSelectorListVisible %1").arg(on)); }
-    bool isChecked(const QString &name) const override { return checked.contains(name); }
-    void setChecked(const QString &name, bool on) override
+    // ViewTabs
+    void selectNext() override { calls.append(QStringLiteral("selectNext")); }
+    void selectTab(WorkspaceView view) override { calls.append(QStringLiteral("selectTab %1").arg(int(view))); }
+
+    // CheckMarks
+    bool isChecked(QStringView name) const override { return checked.contains(name.toString()); }
+    void setChecked(QStringView name, bool on) override
     {
         if (on)
-            checked.insert(name);
+            checked.insert(name.toString());
         else
-            checked.erase(name);
+            checked.erase(name.toString());
     }
-    void setHighlightMode(int mode) override { calls.append(QStringLiteral("setHighlightMode %1").arg(mode)); }
+
+    // PaneCommands
+    void selectSideTab(int tab) override { calls.append(QStringLiteral("selectSideTab %1").arg(tab)); }
+    void addCustomEntry() override { calls.append(QStringLiteral("addCustomEntry")); }
+    void setSelectorListVisible(bool on) override { calls.append(QStringLiteral("setSelectorListVisible %1").arg(on)); }
+    bool isSelectorPressed() const override { return selectorPressed; }
+    void setSelectorPressed(bool pressed) override { selectorPressed = pressed; }
     void showReadme() override { calls.append(QStringLiteral("showReadme")); }
     void showFtp() override { calls.append(QStringLiteral("showFtp")); }
-    void openTagEditor(int page) override { calls.append(QStringLiteral("openTagEditor %1").arg(page)); }
-    void checkSpelling() override { calls.append(QStringLiteral("checkSpelling")); }
+
+    // FileListCommands
+    void showInQuickView() override { calls.append(QStringLiteral("showInQuickView")); }
+    void insertLink() override { calls.append(QStringLiteral("insertLink")); }
+    void editFilters() override { calls.append(QStringLiteral("editFilters")); }
+
+    // WindowCommands
+    void newWindow() override { calls.append(QStringLiteral("newWindow")); }
+    void exitNow() override { calls.append(QStringLiteral("exitNow")); }
+    void updateProgram() override { calls.append(QStringLiteral("updateProgram")); }
+    void setHighlightMode(int mode) override { calls.append(QStringLiteral("setHighlightMode %1").arg(mode)); }
 };
 
-/// A router between a fake world and a fake window. Text goes through the program's own inserter, so that a test sees what
-/// becomes of the document.
+/// Where the document shows itself, as far as commands are about it.
+struct FakeSurface final : DocumentWindow {
+    QStringList captions;
+    QStringList notices;
+    int choosers = 0;
+
+    void setCaption(const QString &caption) override { captions.append(caption); }
+    void setCountPanel(int) override {}
+    void setPathPanel(const QString &) override {}
+    void notice(const QString &sentence) override { notices.append(sentence); }
+    void selectCodeTab() override {}
+    void documentSettled() override {}
+    void keepUnsavedText() override {}
+    void showTemplateChooser() override { ++choosers; }
+    QString listedFile() const override { return {}; }
+    QString listedFolder() const override { return {}; }
+    Result<QSize> pictureSize(const QString &) const override { return QSize(); }
+    Result<void> showPicture(const QString &) override { return {}; }
+};
+
+/// A router between a fake world and a real document. Text goes through the program's own inserter, so that a test sees
+/// what becomes of the document.
 struct RouterBench {
     TestContext world;
     TextInserter inserter{world.editor, world.designer};
-    FakeWindow window;
+    FakeParts window;
     AppContext context{world.editor,   inserter,    world.designer,       world.document, world.configuration,
                        world.settings, world.files, world.prompts,        world.shell,    world.clipboard,
                        world.clock,    world.forms, world.context.appPath};
-    CommandRouter router{context, window};
+    CommonDialog dialog;
+    FakeSurface surface;
+    Document document{context, dialog, surface};
+    DesignerTools designer{context};
+    CommandRouter router{{context, document, window, window, window, window, window, designer}};
+
+    /// Chooses a menu entry, also one of the tag menu.
+    void menu(const QString &name)
+    {
+        if (const MenuItem *item = findMenuItem(name))
+            router.run(item->command);
+        else if (const QuickTag *tag = findTagsEntry(name))
+            router.run({InsertsTag{tag}});
+        else
+            qFatal("no menu entry is named %s", qPrintable(name));
+    }
+    /// Clicks a button of the standard toolbar, of the formatting toolbar, or an entry of a pull-down.
+    void tBar(const QString &key) { router.run(button(standardToolBar(), key).command); }
+    void toolbar1(const QString &key) { router.run(button(formattingToolBar(), key).command); }
+    void pullDown(const QString &key)
+    {
+        for (const ToolButton &button : formattingToolBar().buttons) {
+            for (const PullDownEntry &entry : button.pullDown) {
+                if (entry.key == key)
+                    return router.run(entry.command);
+            }
+        }
+        qFatal("no pull-down has %s", qPrintable(key));
+    }
+    /// Clicks a button of the palette, known by its key, or by its position from 1 on where buttons have none.
+    void palette(int index, const QString &key, int position)
+    {
+        const std::span<const QuickTag> buttons = paletteToolbars()[static_cast<std::size_t>(index)].buttons;
+        const auto row = key.isEmpty()
+            ? buttons.begin() + (position - 1)
+            : std::ranges::find_if(buttons, [&](const QuickTag &tag) { return tag.key == key; });
+        if (row >= buttons.end())
+            qFatal("toolbar %d has no %s", index, qPrintable(key));
+        router.runTag(*row);
+    }
 
     RouterBench() = default;
     Q_DISABLE_COPY_MOVE(RouterBench)
+
+    static const ToolButton &button(const ToolBarTable &bar, const QString &key)
+    {
+        const auto row = std::ranges::find_if(bar.buttons, [&](const ToolButton &button) { return button.key == key; });
+        if (row == bar.buttons.end())
+            qFatal("no button has the key %s", qPrintable(key));
+        return *row;
+    }
 
     /// A text with `selected` selected in its middle: "[" and "]" around it show what a command leaves alone.
     void select(const QString &selected)

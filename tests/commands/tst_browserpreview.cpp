@@ -55,9 +55,10 @@ void TstBrowserPreview::namedBrowser()
     bench.world.configuration.put(u"Paths"_s, u"IEPATH"_s, u"/usr/bin/browser"_s);
     bench.world.files.contents[u"/usr/bin/browser"_s] = {};
     bench.world.document.dialogFile = u"/home/me/page.html"_s;
+    bench.document.openAtStart(u"/home/me/page.html"_s);
     expectSaveQuestion(bench, u"Internet Explorer"_s, Answer::Yes);
-    bench.router.pullDown(u"pie"_s);
-    QCOMPARE(bench.window.calls, QStringList{u"saveDocument"_s});
+    bench.pullDown(u"pie"_s);
+    QVERIFY(bench.world.files.contents.contains(u"/home/me/page.html"_s));
     QCOMPARE(bench.world.shell.started,
              (std::vector<FakeShell::Start>{{u"/usr/bin/browser"_s, {u"/home/me/page.html"_s}}}));
     QVERIFY(bench.world.configuration.log.isEmpty());
@@ -69,8 +70,9 @@ void TstBrowserPreview::blanksDivideThePath()
     bench.world.configuration.put(u"Paths"_s, u"IEPATH"_s, u"/opt/my browser"_s);
     bench.world.files.contents[u"/opt/my browser"_s] = {};
     bench.world.document.dialogFile = u"/home/my page.html"_s;
+    bench.document.openAtStart(u"/home/my page.html"_s);
     expectSaveQuestion(bench, u"Internet Explorer"_s, Answer::Yes);
-    bench.router.pullDown(u"pie"_s);
+    bench.pullDown(u"pie"_s);
     QCOMPARE(bench.world.shell.started,
              (std::vector<FakeShell::Start>{{u"/opt/my browser"_s, {u"/home/my"_s, u"page.html"_s}}}));
 }
@@ -81,9 +83,9 @@ void TstBrowserPreview::noPreviewWithoutSaving()
     bench.world.configuration.put(u"Paths"_s, u"IEPATH"_s, u"/usr/bin/browser"_s);
     bench.world.files.contents[u"/usr/bin/browser"_s] = {};
     expectSaveQuestion(bench, u"Internet Explorer"_s, Answer::No);
-    bench.router.pullDown(u"pie"_s);
+    bench.pullDown(u"pie"_s);
     expectSaveQuestion(bench, u"your default browser"_s, Answer::No);
-    bench.router.pullDown(u"pidb"_s);
+    bench.pullDown(u"pidb"_s);
     QVERIFY(bench.world.prompts.verify());
     QVERIFY(bench.window.calls.isEmpty());
     QVERIFY(bench.world.shell.started.empty());
@@ -95,9 +97,10 @@ void TstBrowserPreview::asksForThePath()
     RouterBench bench;
     bench.world.files.contents[u"/usr/bin/other"_s] = {};
     bench.world.document.dialogFile = u"/p.html"_s;
+    bench.document.openAtStart(u"/p.html"_s);
     expectPathQuestion(bench, nowhere, u"/usr/bin/other"_s);
     expectSaveQuestion(bench, u"Internet Explorer"_s, Answer::Yes);
-    bench.router.pullDown(u"pie"_s);
+    bench.pullDown(u"pie"_s);
     QCOMPARE(bench.world.configuration.log, QStringList{u"[Paths] IEPATH=/usr/bin/other"_s});
     QCOMPARE(bench.world.shell.started, (std::vector<FakeShell::Start>{{u"/usr/bin/other"_s, {u"/p.html"_s}}}));
 }
@@ -122,7 +125,7 @@ void TstBrowserPreview::aWrongPathChangesNothing()
     expectPathQuestion(bench, offered, answer);
     bench.world.prompts.expect({u"Sorry, the new path was not found, Zephira will now exit this function..."_s},
                                Answer::Ok);
-    bench.router.pullDown(u"pie"_s);
+    bench.pullDown(u"pie"_s);
     QVERIFY(bench.world.prompts.verify());
     QVERIFY(bench.window.calls.isEmpty());
     QVERIFY(bench.world.configuration.log.isEmpty());
@@ -132,12 +135,13 @@ void TstBrowserPreview::aWrongPathChangesNothing()
 void TstBrowserPreview::aBrowserThatDoesNotStart()
 {
     RouterBench bench;
+    bench.document.openAtStart(u"/home/me/page.html"_s);
     bench.world.configuration.put(u"Paths"_s, u"IEPATH"_s, u"/etc/passwd"_s);
     bench.world.files.contents[u"/etc/passwd"_s] = {};
     bench.world.shell.failure = Error{Error::Code::Failed, u"It is not a program."_s};
     expectSaveQuestion(bench, u"Internet Explorer"_s, Answer::Yes);
     bench.world.prompts.expectTell(u"It is not a program."_s, {}, Question::Icon::Exclamation);
-    bench.router.pullDown(u"pie"_s);
+    bench.pullDown(u"pie"_s);
     QVERIFY(bench.world.prompts.verify());
 }
 
@@ -145,9 +149,10 @@ void TstBrowserPreview::defaultBrowser()
 {
     RouterBench bench;
     bench.world.document.dialogFile = u"/home/my page.html"_s;
+    bench.document.openAtStart(u"/home/my page.html"_s);
     expectSaveQuestion(bench, u"your default browser"_s, Answer::Yes);
-    bench.router.pullDown(u"pidb"_s);
-    QCOMPARE(bench.window.calls, QStringList{u"saveDocument"_s});
+    bench.pullDown(u"pidb"_s);
+    QVERIFY(bench.world.files.contents.contains(u"/home/my page.html"_s));
     QCOMPARE(bench.world.shell.opened, QStringList{u"/home/my page.html"_s});
 }
 
@@ -156,7 +161,10 @@ void TstBrowserPreview::defaultBrowserWithoutAName()
     RouterBench bench;
     bench.world.shell.failure = Error{};
     expectSaveQuestion(bench, u"your default browser"_s, Answer::Yes);
-    bench.router.pullDown(u"pidb"_s);
+    bench.world.prompts.expectFile(
+        {u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.world.document.project, true},
+        std::nullopt);
+    bench.pullDown(u"pidb"_s);
     QVERIFY(bench.world.prompts.verify());
     QCOMPARE(bench.world.shell.opened, QStringList{QString()});
 }
@@ -174,7 +182,7 @@ void TstBrowserPreview::refusedInVisualMode()
     RouterBench bench;
     bench.world.designer.showing = true;
     bench.expectLimitation(u"Sorry, these tools can only be used in Code View"_s);
-    bench.router.pullDown(key);
+    bench.pullDown(key);
     QVERIFY(bench.world.prompts.verify());
     QVERIFY(bench.window.calls.isEmpty());
 }

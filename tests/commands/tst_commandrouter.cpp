@@ -2,6 +2,7 @@
 #include "core/settingsnames.h"
 #include "routerbench.h"
 #include "support/testregistry.h"
+#include "views/designercommands.h"
 
 #include <QLocale>
 #include <QTest>
@@ -24,16 +25,24 @@ class TstCommandRouter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void windowCommands_data();
-    void windowCommands();
+    void commandsOfParts_data();
+    void commandsOfParts();
+    void documentCommands();
+    void saving();
+    void opening();
     void editMenu_data();
     void editMenu();
     void codeViewMenu_data();
     void codeViewMenu();
     void formMenu_data();
     void formMenu();
-    void unknownNamesDoNothing_data();
-    void unknownNamesDoNothing();
+    void rowsWithoutAnEffect_data();
+    void rowsWithoutAnEffect();
+    void designerMenus_data();
+    void designerMenus();
+    void aBlockFormatIsSetByItsName();
+    void aFormButtonIsPasted();
+    void designerSwitches();
     void sourceFormats_data();
     void sourceFormats();
     void helpAndWebsite();
@@ -44,8 +53,6 @@ private Q_SLOTS:
     void fontIsAppliedAndKept();
     void fontKeepsWhatTheControlMadeOfIt();
     void fontCancelled();
-    void standardBar_data();
-    void standardBar();
     void standardBarEditsTheCodeViewInVisualMode();
     void standardDelete();
     void standardUndoAndRedo();
@@ -63,36 +70,96 @@ private Q_SLOTS:
     void pullDownsAreRefused();
 };
 
-void TstCommandRouter::windowCommands_data()
+void TstCommandRouter::commandsOfParts_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("call");
     const auto row = [](const char *name, const char *call) {
         QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(call);
     };
-    row("mnunewdoc", "newDocument");
-    row("mnufromtemp", "newFromTemplate");
     row("mnunewwindow", "newWindow");
-    row("open", "openDocument");
-    row("save", "saveDocument");
-    row("saveas", "saveDocumentAs");
-    row("mnusavetemplate", "saveAsTemplate");
-    row("print", "printDocument");
-    row("clearclip", "clearClipboard");
     row("exit", "exitNow");
-    row("mnunextview", "nextView");
-    row("readme", "showReadme");
     row("mnuupdate", "updateProgram");
+    row("mnunextview", "selectNext");
+    row("readme", "showReadme");
+    row("mnuaddcentry", "addCustomEntry");
+    row("mnuqv", "showInQuickView");
+    row("mnuinslink", "insertLink");
+    row("mnuef", "editFilters");
 }
 
-void TstCommandRouter::windowCommands()
+void TstCommandRouter::commandsOfParts()
 {
     QFETCH(QString, name);
     QFETCH(QString, call);
     RouterBench bench;
-    bench.router.menu(name);
+    bench.menu(name);
     QCOMPARE(bench.window.calls, QStringList{call});
     QVERIFY(bench.world.forms.modal.isEmpty());
+}
+
+/// Each of them shows itself by what it asks or writes.
+void TstCommandRouter::documentCommands()
+{
+    RouterBench bench;
+    ScriptedPrompts &prompts = bench.world.prompts;
+    bench.menu(u"mnunewdoc"_s);
+    bench.tBar(u"new"_s);
+    QCOMPARE(bench.surface.captions, QStringList(2, u"Zephira - [New Document]"_s));
+    QCOMPARE(bench.surface.choosers, 0);
+    bench.menu(u"mnufromtemp"_s);
+    QCOMPARE(bench.surface.captions.size(), 3);
+    QCOMPARE(bench.surface.choosers, 1);
+
+    bench.menu(u"print"_s);
+    bench.tBar(u"print"_s);
+    QCOMPARE(bench.world.editor.calls, (QStringList{u"print"_s, u"print"_s}));
+
+    bench.world.clipboard.content = u"kept"_s;
+    prompts.expect({u"Are you sure you wish to clear the clipboard?"_s, u"Clipboard"_s, Question::Icon::Question,
+                    Question::Buttons::YesNo},
+                   Answer::Yes);
+    bench.menu(u"clearclip"_s);
+    QCOMPARE(bench.world.clipboard.content, QString());
+
+    prompts.expectInput({u"What do you wish to call this file? (Please Include Extension)"_s, u"Save as Template"_s},
+                        u"mine.htm"_s);
+    bench.menu(u"mnusavetemplate"_s);
+    QVERIFY(bench.world.files.contents.contains(u"/app/templates/custom/mine.htm"_s));
+    QVERIFY(prompts.verify());
+}
+
+void TstCommandRouter::saving()
+{
+    RouterBench bench;
+    ScriptedPrompts &prompts = bench.world.prompts;
+    const auto expectDialog = [&](const QString &answer) {
+        prompts.expectFile({u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.world.document.project,
+                            true, bench.dialog.fileName},
+                           answer);
+    };
+    expectDialog(u"/a.txt"_s);
+    bench.menu(u"save"_s);
+    bench.tBar(u"save"_s); // It has its name now.
+    QVERIFY(prompts.verify());
+    expectDialog(u"/b.txt"_s);
+    bench.menu(u"saveas"_s);
+    QCOMPARE(bench.document.docPath(), u"/b.txt"_s);
+    QVERIFY(prompts.verify());
+}
+
+void TstCommandRouter::opening()
+{
+    RouterBench bench;
+    for (const auto open : {+[](RouterBench &b) { b.menu(u"open"_s); }, +[](RouterBench &b) { b.tBar(u"open"_s); }}) {
+        // Only opening asks with this picture.
+        bench.document.setModified(true);
+        bench.world.prompts.expect({u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
+                                    u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                                   Answer::Cancel);
+        open(bench);
+        QVERIFY(bench.world.prompts.verify());
+    }
 }
 
 void TstCommandRouter::editMenu_data()
@@ -114,12 +181,12 @@ void TstCommandRouter::editMenu()
     QFETCH(QString, call);
     QFETCH(int, designerCommand);
     RouterBench bench;
-    bench.router.menu(name);
+    bench.menu(name);
     QCOMPARE(bench.world.editor.calls, QStringList{call});
     QVERIFY(bench.world.designer.commands.empty());
 
     bench.world.designer.showing = true;
-    bench.router.menu(name);
+    bench.menu(name);
     QCOMPARE(bench.world.editor.calls, QStringList{call});
     QCOMPARE(bench.world.designer.commands, std::vector<int>{designerCommand});
 }
@@ -141,12 +208,12 @@ void TstCommandRouter::codeViewMenu()
     QFETCH(int, number);
     RouterBench bench;
     // Whether code view or preview shows makes no difference.
-    bench.router.menu(name);
+    bench.menu(name);
     QCOMPARE(bench.world.editor.commands, (Commands{{number, -1}}));
 
     bench.world.designer.showing = true;
     bench.expectLimitation(inCodeView);
-    bench.router.menu(name);
+    bench.menu(name);
     QVERIFY(bench.world.prompts.verify());
     QCOMPARE(bench.world.editor.commands.size(), std::size_t(1));
     QVERIFY(bench.world.designer.commands.empty());
@@ -189,34 +256,91 @@ void TstCommandRouter::formMenu()
     QFETCH(QString, name);
     QFETCH(QString, form);
     RouterBench bench;
-    bench.router.menu(name);
+    bench.menu(name);
     QCOMPARE(bench.world.forms.modal, QStringList{form});
     QVERIFY(bench.world.forms.modeless.isEmpty());
     QVERIFY(bench.window.calls.isEmpty());
 }
 
-void TstCommandRouter::unknownNamesDoNothing_data()
+/// What isn't there yet, and what only holds or parts entries, does nothing.
+void TstCommandRouter::rowsWithoutAnEffect_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name :
-         {"", "nothing", "D2DSub_1", "ViewSub_0", "FormatSub_3", "InsertSub_0", "InsertButton", "mnupluginoptions_0",
-          "mnuqv", "mnuinslink", "mnuef", "mnuaddcentry", "sug_0", "mnufile", "TableSub_1"})
-        QTest::addRow("'%s'", name) << QString::fromLatin1(name);
+    for (const char *name : {"mnupluginoptions_0", "sug_0", "mnufile", "TableSub_1", "mnusep"})
+        QTest::addRow("%s", name) << QString::fromLatin1(name);
 }
 
-void TstCommandRouter::unknownNamesDoNothing()
+void TstCommandRouter::rowsWithoutAnEffect()
 {
     QFETCH(QString, name);
     RouterBench bench;
     bench.select(u"sel"_s);
-    bench.router.menu(name);
-    bench.router.tBar(name);
-    bench.router.toolbar1(name);
-    bench.router.pullDown(name);
+    bench.menu(name);
     QVERIFY(bench.window.calls.isEmpty());
     QVERIFY(bench.world.editor.calls.isEmpty());
     QVERIFY(bench.world.forms.modal.isEmpty());
     QCOMPARE(bench.result(), u"sel"_s);
+}
+
+void TstCommandRouter::designerMenus_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("command");
+    for (const QString &array : {u"InsertSub"_s, u"TableSub"_s, u"D2DSub"_s}) {
+        int index = 0;
+        for (const DesignerCommand command : designerMenuCommands(array)) {
+            const QString entry = u"%1_%2"_s.arg(array).arg(index++);
+            // A table is asked for by a form.
+            if (command != DesignerCommand::None && command != DesignerCommand::InsertTable)
+                QTest::newRow(qPrintable(entry)) << entry << int(command);
+        }
+    }
+}
+
+void TstCommandRouter::designerMenus()
+{
+    QFETCH(QString, name);
+    QFETCH(int, command);
+    RouterBench bench;
+    bench.menu(name);
+    QCOMPARE(bench.world.designer.commands, std::vector<int>{command});
+}
+
+void TstCommandRouter::aBlockFormatIsSetByItsName()
+{
+    RouterBench bench;
+    FakeDesigner &designer = bench.world.designer;
+    designer.results[DesignerCommand::GetBlockFormatNames] = QStringList{u"Normal"_s, u"Heading 1"_s};
+    QVERIFY(bench.designer.documentComplete());
+    designer.runs.clear();
+    bench.menu(u"FormatSub_1"_s);
+    bench.menu(u"FormatSub_2"_s); // An entry without a name.
+    QVERIFY(designer.runs
+            == std::vector<FakeDesigner::Run>(
+                {{DesignerCommand::SetBlockFormat, DesignerPrompting::DontPromptUser, u"Heading 1"_s}}));
+}
+
+void TstCommandRouter::aFormButtonIsPasted()
+{
+    RouterBench bench;
+    bench.menu(u"InsertButton"_s);
+    QCOMPARE(bench.world.designer.pasted, QStringList{u"<BUTTON TITLE=Button>Button!</BUTTON>"_s});
+}
+
+void TstCommandRouter::designerSwitches()
+{
+    RouterBench bench;
+    FakeDesigner &designer = bench.world.designer;
+    for (const auto &[entry, value] :
+         {std::pair{u"ViewSub_0"_s, &designer.borders}, std::pair{u"ViewSub_1"_s, &designer.details},
+          std::pair{u"ViewSub_2"_s, &designer.browsing}, std::pair{u"ViewSub_10"_s, &designer.snapping}}) {
+        bench.menu(entry);
+        QVERIFY2(*value, qPrintable(entry));
+        QVERIFY2(bench.window.isChecked(entry), qPrintable(entry));
+        bench.menu(entry);
+        QVERIFY2(!*value, qPrintable(entry));
+        QVERIFY2(!bench.window.isChecked(entry), qPrintable(entry));
+    }
 }
 
 void TstCommandRouter::sourceFormats_data()
@@ -234,17 +358,17 @@ void TstCommandRouter::sourceFormats()
     RouterBench bench;
     bench.world.editor.setText(u"<a>\r\n<b>x</b>\t</a>"_s);
     bench.world.designer.showing = true;
-    bench.router.menu(name);
+    bench.menu(name);
     QTEST(bench.world.editor.text(), "text");
 }
 
 void TstCommandRouter::helpAndWebsite()
 {
     RouterBench bench;
-    bench.router.menu(u"helpme"_s);
-    bench.router.menu(u"website"_s);
+    bench.menu(u"helpme"_s);
+    bench.menu(u"website"_s);
     QCOMPARE(bench.world.shell.opened, (QStringList{u"/app/help/index.html"_s, u"https://zephira.example/"_s}));
-    bench.router.menu(u"mnuftpclient"_s);
+    bench.menu(u"mnuftpclient"_s);
     QCOMPARE(bench.world.forms.modeless, QStringList{u"frmmainftp"_s});
 }
 
@@ -252,7 +376,7 @@ void TstCommandRouter::timeAndDateFollowTheSelection()
 {
     RouterBench bench;
     bench.select(u"now: "_s);
-    bench.router.menu(u"Timedate"_s);
+    bench.menu(u"Timedate"_s);
     const QLocale system = QLocale::system();
     const QDateTime now = bench.world.clock.time;
     const QString expected = u"now: "_s + system.toString(now.time(), QLocale::ShortFormat) + u' '
@@ -267,7 +391,7 @@ void TstCommandRouter::timeAndDateIsRefused()
     bench.select(u"sel"_s);
     bench.world.designer.showing = true;
     bench.expectLimitation(inCodeView);
-    bench.router.menu(u"Timedate"_s);
+    bench.menu(u"Timedate"_s);
     QCOMPARE(bench.result(), u"sel"_s);
     QVERIFY(bench.world.designer.pasted.isEmpty());
 }
@@ -276,13 +400,13 @@ void TstCommandRouter::highlightedLinesToggle()
 {
     RouterBench bench;
     bench.world.editor.highlighted = 4;
-    bench.router.menu(u"highlightlines"_s);
+    bench.menu(u"highlightlines"_s);
     QVERIFY(bench.window.isChecked(u"highlightlines"_s));
     QCOMPARE(bench.world.configuration.value(u"options"_s, u"highlight"_s), u"1"_s);
     // The line is drawn at the next change of the selection, not now.
     QCOMPARE(bench.world.editor.highlighted, 4);
 
-    bench.router.menu(u"highlightlines"_s);
+    bench.menu(u"highlightlines"_s);
     QVERIFY(!bench.window.isChecked(u"highlightlines"_s));
     QCOMPARE(bench.world.configuration.value(u"options"_s, u"highlight"_s), u"0"_s);
     QCOMPARE(bench.world.editor.highlighted, -1);
@@ -295,10 +419,10 @@ void TstCommandRouter::tipsToggle()
     const auto stored = [&] {
         return bench.world.settings.GetSetting(executableBranch(), u"Options"_s, u"Show Tips at Startup"_s, u"none"_s);
     };
-    bench.router.menu(u"mnuviewtip"_s);
+    bench.menu(u"mnuviewtip"_s);
     QVERIFY(bench.window.isChecked(u"mnuviewtip"_s));
     QCOMPARE(stored(), u"1"_s);
-    bench.router.menu(u"mnuviewtip"_s);
+    bench.menu(u"mnuviewtip"_s);
     QVERIFY(!bench.window.isChecked(u"mnuviewtip"_s));
     QCOMPARE(stored(), u"0"_s);
 }
@@ -309,7 +433,7 @@ void TstCommandRouter::fontIsAppliedAndKept()
     const FontChoice before = bench.world.editor.font;
     const FontChoice chosen{u"Courier New"_s, 12.5, true, false, true, false};
     bench.world.prompts.expectFont(before, chosen);
-    bench.router.menu(u"font"_s);
+    bench.menu(u"font"_s);
     QCOMPARE(bench.world.editor.font, chosen);
     QCOMPARE(bench.world.configuration.log,
              (QStringList{u"[Font] Bold=True"_s, u"[Font] Italic=False"_s, u"[Font] Name=Courier New"_s,
@@ -321,7 +445,7 @@ void TstCommandRouter::fontKeepsWhatTheControlMadeOfIt()
     RouterBench bench;
     const FontChoice chosen{u"Mono"_s, 10, false, true, false, true};
     bench.world.prompts.expectFont(bench.world.editor.font, chosen);
-    bench.router.menu(u"font"_s);
+    bench.menu(u"font"_s);
     QCOMPARE(bench.world.configuration.log,
              (QStringList{u"[Font] Bold=False"_s, u"[Font] Italic=True"_s, u"[Font] Name=Mono"_s, u"[Font] Size=10"_s,
                           u"[Font] Strikethrough=False"_s, u"[Font] Underline=True"_s}));
@@ -332,28 +456,9 @@ void TstCommandRouter::fontCancelled()
     RouterBench bench;
     const FontChoice before = bench.world.editor.font;
     bench.world.prompts.expectFont(before, std::nullopt);
-    bench.router.menu(u"font"_s);
+    bench.menu(u"font"_s);
     QCOMPARE(bench.world.editor.font, before);
     QVERIFY(bench.world.configuration.log.isEmpty());
-}
-
-void TstCommandRouter::standardBar_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("call");
-    QTest::newRow("new") << u"new"_s << u"newDocument"_s;
-    QTest::newRow("open") << u"open"_s << u"openDocument"_s;
-    QTest::newRow("save") << u"save"_s << u"saveDocument"_s;
-    QTest::newRow("print") << u"print"_s << u"printDocument"_s;
-}
-
-void TstCommandRouter::standardBar()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, call);
-    RouterBench bench;
-    bench.router.tBar(key);
-    QCOMPARE(bench.window.calls, QStringList{call});
 }
 
 void TstCommandRouter::standardBarEditsTheCodeViewInVisualMode()
@@ -362,7 +467,7 @@ void TstCommandRouter::standardBarEditsTheCodeViewInVisualMode()
     bench.select(u"sel"_s);
     bench.world.designer.showing = true;
     for (const QString &key : {u"copy"_s, u"cut"_s, u"paste"_s})
-        bench.router.tBar(key);
+        bench.tBar(key);
     QCOMPARE(bench.world.editor.calls, (QStringList{u"copy"_s, u"cut"_s, u"paste"_s}));
     QVERIFY(bench.world.designer.commands.empty());
     QCOMPARE(bench.world.clipboard.content, u"sel"_s);
@@ -374,7 +479,7 @@ void TstCommandRouter::standardDelete()
     bench.select(u"sel"_s);
     bench.world.clipboard.content = u"kept"_s;
     bench.world.designer.showing = true;
-    bench.router.tBar(u"delete"_s);
+    bench.tBar(u"delete"_s);
     QCOMPARE(bench.world.editor.text(), u"[]"_s);
     QCOMPARE(bench.world.clipboard.content, u"kept"_s);
     QVERIFY(bench.world.designer.commands.empty());
@@ -385,16 +490,16 @@ void TstCommandRouter::standardUndoAndRedo()
     RouterBench bench;
     bench.world.editor.undoable = true;
     bench.world.editor.redoable = true;
-    bench.router.tBar(u"undo"_s);
-    bench.router.tBar(u"redo"_s);
+    bench.tBar(u"undo"_s);
+    bench.tBar(u"redo"_s);
     QCOMPARE(bench.world.editor.calls, (QStringList{u"undo"_s, u"redo"_s}));
 
     bench.world.editor.undoable = false;
     bench.world.editor.redoable = false;
     bench.world.prompts.expectTell(u"Sorry, there is nothing left to UNDO"_s, u"UNDO"_s);
-    bench.router.tBar(u"undo"_s);
+    bench.tBar(u"undo"_s);
     bench.world.prompts.expectTell(u"Sorry, there is nothing left to redo"_s, u"REDO"_s);
-    bench.router.tBar(u"redo"_s);
+    bench.tBar(u"redo"_s);
     QVERIFY(bench.world.prompts.verify());
     QCOMPARE(bench.world.editor.calls.size(), 2);
 }
@@ -405,9 +510,9 @@ void TstCommandRouter::standardUndoAndRedoInVisualMode()
     bench.world.designer.showing = true;
     bench.world.editor.undoable = true;
     bench.world.editor.redoable = true;
-    bench.router.tBar(u"undo"_s);
-    bench.router.tBar(u"redo"_s);
-    bench.router.menu(u"redo"_s);
+    bench.tBar(u"undo"_s);
+    bench.tBar(u"redo"_s);
+    bench.menu(u"redo"_s);
     QCOMPARE(bench.world.designer.commands, (std::vector<int>{5049, 5049, 5033}));
     QVERIFY(bench.world.editor.calls.isEmpty());
 }
@@ -430,7 +535,7 @@ void TstCommandRouter::formattingBarWraps()
     QFETCH(QString, expected);
     RouterBench bench;
     bench.select(u"sel"_s);
-    bench.router.toolbar1(key);
+    bench.toolbar1(key);
     QCOMPARE(bench.result(), expected);
 }
 
@@ -448,7 +553,7 @@ void TstCommandRouter::formattingBarRefuses()
     bench.select(u"sel"_s);
     bench.world.designer.showing = true;
     bench.expectLimitation(inCodeViewForNow);
-    bench.router.toolbar1(key);
+    bench.toolbar1(key);
     QVERIFY(bench.world.prompts.verify());
     QCOMPARE(bench.result(), u"sel"_s);
     QVERIFY(bench.world.designer.pasted.isEmpty());
@@ -458,13 +563,22 @@ void TstCommandRouter::formattingBarRefuses()
 void TstCommandRouter::formattingBarElsewhere()
 {
     RouterBench bench;
-    bench.router.toolbar1(u"htmltags"_s);
+    bench.toolbar1(u"htmltags"_s);
     // These work in every view.
     bench.world.designer.showing = true;
-    for (const QString &key : {u"preview"_s, u"links"_s, u"specchars"_s, u"ftp"_s, u"reset"_s})
-        bench.router.toolbar1(key);
+    for (const QString &key : {u"preview"_s, u"links"_s, u"specchars"_s, u"ftp"_s})
+        bench.toolbar1(key);
+    bench.dialog.fileName = u"/a.htm"_s;
+    bench.world.prompts.expect(
+        {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
+         {},
+         Question::Icon::Question,
+         Question::Buttons::YesNo},
+        Answer::No);
+    bench.toolbar1(u"reset"_s);
+    QVERIFY(bench.world.prompts.verify());
     QCOMPARE(bench.world.forms.modal, (QStringList{u"frmTags"_s, u"frmlinkwiz"_s, u"frmChar"_s}));
-    QCOMPARE(bench.window.calls, (QStringList{u"selectView 2"_s, u"showFtp"_s, u"revert"_s}));
+    QCOMPARE(bench.window.calls, (QStringList{u"selectTab 1"_s, u"showFtp"_s}));
 }
 
 void TstCommandRouter::loadTime()
@@ -474,7 +588,7 @@ void TstCommandRouter::loadTime()
     bench.world.forms.onOpen = [&](const QString &) {
         QVERIFY(bench.world.files.contents.contains(u"/app/ldtemp.html"_s));
     };
-    bench.router.toolbar1(u"loadtime"_s);
+    bench.toolbar1(u"loadtime"_s);
     QCOMPARE(bench.world.files.contents[u"/app/ldtemp.html"_s], QByteArray("<p>\xc3\xa4</p>\r\n"));
     QCOMPARE(bench.world.forms.modal, QStringList{u"frmDocSize"_s});
 }
@@ -484,7 +598,7 @@ void TstCommandRouter::loadTimeTellsAFailure()
     RouterBench bench;
     bench.world.files.unwritable[u"/app/ldtemp.html"_s] = Error{Error::Code::Unwritable, u"The disk is full."_s};
     bench.world.prompts.expectTell(u"The disk is full."_s, {}, Question::Icon::Exclamation);
-    bench.router.toolbar1(u"loadtime"_s);
+    bench.toolbar1(u"loadtime"_s);
     QVERIFY(bench.world.prompts.verify());
     QVERIFY(bench.world.forms.modal.isEmpty());
 }
@@ -494,10 +608,10 @@ void TstCommandRouter::pullDowns_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QStringList>("calls");
     QTest::addColumn<QStringList>("forms");
-    QTest::newRow("dtw") << u"dtw"_s << QStringList{u"openTagEditor 0"_s} << QStringList{};
+    QTest::newRow("dtw") << u"dtw"_s << QStringList{} << QStringList{u"frmTagEdit"_s};
     QTest::newRow("dts") << u"dts"_s << QStringList{} << QStringList{u"frmTags"_s};
     QTest::newRow("dqw") << u"dqw"_s << QStringList{u"selectSideTab 3"_s} << QStringList{};
-    QTest::newRow("picb") << u"picb"_s << QStringList{u"selectView 2"_s} << QStringList{};
+    QTest::newRow("picb") << u"picb"_s << QStringList{u"selectTab 1"_s} << QStringList{};
     QTest::newRow("linkwiz") << u"linkwiz"_s << QStringList{} << QStringList{u"frmlinkwiz"_s};
     QTest::newRow("linkextract") << u"linkextract"_s << QStringList{} << QStringList{u"frmlinkextract"_s};
 }
@@ -508,7 +622,7 @@ void TstCommandRouter::pullDowns()
     QFETCH(QStringList, calls);
     QFETCH(QStringList, forms);
     RouterBench bench;
-    bench.router.pullDown(key);
+    bench.pullDown(key);
     QCOMPARE(bench.window.calls, calls);
     QCOMPARE(bench.world.forms.modal, forms);
 }
@@ -519,7 +633,7 @@ void TstCommandRouter::pullDownsAreRefused()
     RouterBench bench;
     bench.world.designer.showing = true;
     bench.expectLimitation(inCodeView);
-    bench.router.pullDown(key);
+    bench.pullDown(key);
     QVERIFY(bench.world.prompts.verify());
     QVERIFY(bench.window.calls.isEmpty());
     QVERIFY(bench.world.forms.modal.isEmpty());

@@ -270,68 +270,6 @@ private Q_SLOTS:
         QVERIFY(state.font == (DesignerBarState::Box{fontText, enabled}));
         QVERIFY(state.size == (DesignerBarState::Box{sizeText, enabled}));
     }
-
-    void menuCommands_data()
-    {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<int>("command");
-        for (const QString &array : {u"InsertSub"_s, u"TableSub"_s, u"D2DSub"_s}) {
-            int index = 0;
-            for (const DesignerCommand command : designerMenuCommands(array)) {
-                const QString entry = u"%1_%2"_s.arg(array).arg(index++);
-                // A table is asked for by a form.
-                QTest::newRow(qPrintable(entry)) << entry << (entry == u"TableSub_0" ? 0 : int(command));
-            }
-        }
-        for (const char *other :
-             {"InsertSub_2", "TableSub_12", "TableSub_-1", "TableSub_", "TableSub", "InsertHTML", "undo", ""})
-            QTest::newRow(other) << QString::fromLatin1(other) << 0;
-    }
-
-    void menuCommands()
-    {
-        QFETCH(QString, entry);
-        QFETCH(int, command);
-        Bench bench;
-        bench.tools.clickMenu(entry);
-        if (command == 0)
-            QVERIFY(bench.designer.runs.empty());
-        else
-            QVERIFY(bench.designer.runs == std::vector<Run>({{DesignerCommand(command), Default, {}}}));
-    }
-
-    void aBlockFormatIsSetByItsName()
-    {
-        Bench bench;
-        bench.designer.results[DesignerCommand::GetBlockFormatNames] = QStringList{u"Normal"_s, u"Heading 1"_s};
-        bench.makeReady();
-        bench.tools.clickMenu(u"FormatSub_1"_s);
-        bench.tools.clickMenu(u"FormatSub_2"_s); // An entry without a name.
-        QVERIFY(bench.designer.runs
-                == std::vector<Run>({{DesignerCommand::SetBlockFormat, DontPromptUser, u"Heading 1"_s}}));
-    }
-
-    void aButtonIsPasted()
-    {
-        Bench bench;
-        bench.tools.clickMenu(u"InsertButton"_s);
-        QCOMPARE(bench.designer.pasted, QStringList{u"<BUTTON TITLE=Button>Button!</BUTTON>"_s});
-    }
-
-    void switches()
-    {
-        Bench bench;
-        FakeDesigner &designer = bench.designer;
-        for (const auto &[entry, value] : {std::pair{u"ViewSub_0"_s, &designer.borders},
-                                           {u"ViewSub_1"_s, &designer.details},
-                                           {u"ViewSub_2"_s, &designer.browsing},
-                                           {u"ViewSub_10"_s, &designer.snapping}}) {
-            bench.tools.clickMenu(entry);
-            QVERIFY2(*value, qPrintable(entry));
-            bench.tools.clickMenu(entry);
-            QVERIFY2(!*value, qPrintable(entry));
-        }
-    }
 };
 
 ZEPHIRA_TEST(TstDesignerTools)

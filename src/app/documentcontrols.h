@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/documenthost.h"
+
+#include <QObject>
+
+class QComboBox;
+
+namespace zephira {
+
+class CommonDialog;
+class FilePane;
+
+/// The controls that say in which language the document is and to which project it belongs.
+class DocumentControls final : public QObject, public DocumentHost
+{
+    Q_OBJECT
+
+public:
+    /// Makes the language list `cboLang` for whoever takes it into a layout.
+    DocumentControls(const CommonDialog &dialog, FilePane &files, QObject *owner);
+
+    QComboBox *languages() const { return m_languages; }
+
+    // DocumentHost
+    int languageRow() const override;
+    QString languageText() const override;
+    void setLanguageRow(int row) override;
+    QString projectPath() const override;
+    void setProjectPath(const QString &path) override;
+    QString commonDialogFile() const override;
+
+Q_SIGNALS:
+    /// A row was set or chosen, also the one that was selected already.
+    void languageSet(int row);
+
+private:
+    const CommonDialog &m_dialog;
+    FilePane &m_files;
+    QComboBox *m_languages;
+};
+
+} // namespace zephira

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/documentsurface.h"
+
+#include "app/quickview.h"
+#include "app/statuspanels.h"
+#include "commands/commandparts.h"
+#include "core/quickviewer.h"
+#include "desktop/modalformopener.h"
+#include "document/recoverykeeper.h"
+#include "panes/filepane.h"
+#include "views/picturefile.h"
+#include "views/workspaceviews.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+void DocumentSurface::attach(ViewTabs &views, RecoveryKeeper &recovery)
+{
+    m_views = &views;
+    m_recovery = &recovery;
+}
+
+void DocumentSurface::setCaption(const QString &caption)
+{
+    m_parts.window.setWindowTitle(caption);
+}
+
+void DocumentSurface::setCountPanel(int characters)
+{
+    m_parts.panels.setText(StatusPanels::Count, QString::number(characters));
+}
+
+void DocumentSurface::setPathPanel(const QString &text)
+{
+    m_parts.panels.setText(StatusPanels::FileName, text);
+}
+
+void DocumentSurface::notice(const QString &sentence)
+{
+    m_parts.panels.notice(sentence);
+}
+
+void DocumentSurface::selectCodeTab()
+{
+    m_views->selectTab(WorkspaceView::Code);
+}
+
+void DocumentSurface::documentSettled()
+{
+    m_recovery->discard();
+}
+
+void DocumentSurface::keepUnsavedText()
+{
+    m_recovery->keepForGood();
+}
+
+void DocumentSurface::showTemplateChooser()
+{
+    m_parts.forms.openModal(u"frmselprj"_s);
+}
+
+QString DocumentSurface::listedFile() const
+{
+    return m_parts.files.selectedFile();
+}
+
+QString DocumentSurface::listedFolder() const
+{
+    return m_parts.files.fileList().path();
+}
+
+Result<QSize> DocumentSurface::pictureSize(const QString &path) const
+{
+    // Read whole, because a picture that is cut short has a size all the same.
+    const Result<QPixmap> picture = readPicture(m_parts.store, path);
+    return picture ? Result<QSize>(picture.value().size()) : picture.error();
+}
+
+Result<void> DocumentSurface::showPicture(const QString &path)
+{
+    const Result<QSize> size = pictureSize(path);
+    if (!size)
+        return size.error();
+    if (QuickViewer *viewer = quickViewer(m_parts.forms))
+        viewer->showPicture(path);
+    return {};
+}
+
+} // namespace zephira

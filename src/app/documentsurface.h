@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "document/documentwindow.h"
+
+class QWidget;
+
+namespace zephira {
+
+class FilePane;
+class FileStore;
+class ModalFormOpener;
+class RecoveryKeeper;
+class StatusPanels;
+class ViewTabs;
+
+/// Where the document shows itself: caption, status bar, tabs, file list and quick view.
+class DocumentSurface final : public DocumentWindow
+{
+public:
+    struct Parts {
+        QWidget &window;
+        StatusPanels &panels;
+        FilePane &files;
+        FileStore &store;
+        ModalFormOpener &forms;
+    };
+
+    explicit DocumentSurface(const Parts &parts) : m_parts(parts) {}
+    /// Views and recovery stand on the document, which stands on this: they come before the document's first use.
+    void attach(ViewTabs &views, RecoveryKeeper &recovery);
+
+    // DocumentWindow
+    void setCaption(const QString &caption) override;
+    void setCountPanel(int characters) override;
+    void setPathPanel(const QString &text) override;
+    void notice(const QString &sentence) override;
+    void selectCodeTab() override;
+    void documentSettled() override;
+    void keepUnsavedText() override;
+    void showTemplateChooser() override;
+    QString listedFile() const override;
+    QString listedFolder() const override;
+    Result<QSize> pictureSize(const QString &path) const override;
+    Result<void> showPicture(const QString &path) override;
+
+private:
+    const Parts m_parts;
+    ViewTabs *m_views = nullptr;
+    RecoveryKeeper *m_recovery = nullptr;
+};
+
+} // namespace zephira

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "commands/commandparts.h"
+
+class QWidget;
+
+namespace zephira {
+
+class ModalFormOpener;
+class Palette;
+class SelectorList;
+class SideLists;
+class SidePane;
+
+/// The commands that are about what stands beside the document: the side pane, the list over the palette, quick view and
+/// FTP window.
+class SideCommands final : public PaneCommands
+{
+public:
+    struct Parts {
+        const AppContext &context;
+        SidePane &pane;
+        SideLists &lists;
+        Palette &palette;
+        SelectorList &selectors;
+        /// Gets the keyboard when the list of selectors goes.
+        QWidget &codeView;
+        ModalFormOpener &forms;
+    };
+
+    explicit SideCommands(const Parts &parts) : m_parts(parts) {}
+
+    // PaneCommands
+    void selectSideTab(int tab) override;
+    void addCustomEntry() override;
+    void setSelectorListVisible(bool visible) override;
+    bool isSelectorPressed() const override;
+    void setSelectorPressed(bool pressed) override;
+    void showReadme() override;
+    void showFtp() override;
+
+private:
+    const Parts m_parts;
+};
+
+} // namespace zephira

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowend.h"
+
+#include "app/frmmain.h"
+#include "commands/commandrouter.h"
+#include "core/errorstyles.h"
+#include "core/settingsnames.h"
+#include "core/shell.h"
+#include "desktop/formposition.h"
+#include "desktop/modalformopener.h"
+#include "document/document.h"
+#include "document/recoverykeeper.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+bool WindowEnd::close()
+{
+    if (!m_window.document().askToClose())
+        return false;
+    unload();
+    endProcess();
+    return true;
+}
+
+void WindowEnd::start(const QString &program, const QStringList &arguments)
+{
+    const Result<void> started = m_services.shell.start(program, arguments);
+    if (!started)
+        tellError(m_services.prompts, started.error());
+}
+
+void WindowEnd::newWindow()
+{
+    start(m_services.executable, {u"/nodialog"_s});
+}
+
+void WindowEnd::exitNow()
+{
+    m_recovery.discard();
+    endProcess();
+}
+
+void WindowEnd::updateProgram()
+{
+    start(m_services.appPath + u"/update.exe"_s, {});
+    if (!m_window.close()) {
+        // The process ends in any case; what wasn't saved stays as a recovery copy.
+        m_recovery.writeNow();
+        endProcess();
+    }
+}
+
+void WindowEnd::setHighlightMode(int mode)
+{
+    m_window.setHighlightMode(mode);
+}
+
+/// Ends the process as soon as the commands that run have come to their end.
+void WindowEnd::endProcess()
+{
+    m_window.router().abandon();
+    m_services.endProcess();
+}
+
+/// What is done once the window may close, each step whatever became of the one before.
+void WindowEnd::unload()
+{
+    ignoringErrors({
+        [this] { FormPosition(m_window, true, m_services.settings, executableBranch()); },
+        [this] { m_window.forms().closeAll(); },
+        [this] { m_window.document().discardPreview(); },
+        [this] {
+            // A text that was to be saved and isn't stays as a recovery copy.
+            if (m_window.document().saveFailedAtClose())
+                m_recovery.writeNow();
+            else
+                m_recovery.discard();
+        },
+    });
+}
+
+} // namespace zephira

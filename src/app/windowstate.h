@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/colourtable.h"
+#include "core/editingcontrol.h"
+
+#include <QStringList>
+
+namespace zephira {
+
+/// The five display options of the configuration, kept for the life of the process.
+struct DisplayModes {
+    int highlight = 0;
+    int lineNumber = 0;
+    int leftMargin = 0;
+    int whitespace = 0;
+    int selBounds = 0;
+};
+
+/// What the main window remembers beside its parts.
+struct WindowState {
+    DisplayModes modes;
+    ColourTable colours;
+    /// The code view's selection at its last change, its ends in the order of the text.
+    CodeMaxRange selection;
+    bool rootSelect = false;
+    /// Names of the start's steps, in the order in which they ran.
+    QStringList startSteps;
+};
+
+} // namespace zephira

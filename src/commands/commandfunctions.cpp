@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/commandfunctions.h"
+
+#include "commands/commandparts.h"
+#include "core/clock.h"
+#include "core/configuration.h"
+#include "core/designer.h"
+#include "core/editingcontrol.h"
+#include "core/errorstyles.h"
+#include "core/filestore.h"
+#include "core/formopener.h"
+#include "core/prompts.h"
+#include "core/settingsnames.h"
+#include "core/usersettings.h"
+#include "views/workspaceviews.h"
+
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// The tab of the side pane that lists the tags.
+constexpr int tagsTab = 3;
+
+} // namespace
+
+void insertTimeAndDate(const AppContext &context)
+{
+    const QDateTime now = context.clock.now();
+    const QLocale system = QLocale::system();
+    context.editor.setSelText(context.editor.selText() + system.toString(now.time(), QLocale::ShortFormat) + u' '
+                              + system.toString(now.date(), QLocale::ShortFormat));
+}
+
+void chooseFont(const AppContext &context)
+{
+    const std::optional<FontChoice> choice = context.prompts.font(context.editor.editorFont());
+    if (!choice)
+        return;
+    context.editor.setEditorFont(*choice);
+
+    // What is kept is what the control made of the choice.
+    const FontChoice font = context.editor.editorFont();
+    const auto flag = [](bool value) { return value ? u"True"_s : u"False"_s; };
+    const std::pair<QString, QString> values[] = {
+        {u"Bold"_s, flag(font.bold)},
+        {u"Italic"_s, flag(font.italic)},
+        {u"Name"_s, font.name},
+        {u"Size"_s, QString::number(font.size)},
+        {u"Strikethrough"_s, flag(font.strikethrough)},
+        {u"Underline"_s, flag(font.underline)},
+    };
+    for (const auto &[key, value] : values)
+        context.configuration.setValue(u"Font"_s, key, value);
+}
+
+void openFtpClient(const AppContext &context)
+{
+    context.forms.openModeless(u"frmmainftp"_s);
+}
+
+void weighDocument(const AppContext &context)
+{
+    const Result<void> written =
+        context.files.write(context.appPath + u"/ldtemp.html"_s, context.editor.text().toUtf8());
+    if (written)
+        context.forms.openModal(u"frmDocSize"_s);
+    else
+        tellError(context.prompts, written.error());
+}
+
+void insertFormButton(const AppContext &context)
+{
+    endingQuietly([&] { context.designer.pasteHtml(u"<BUTTON TITLE=Button>Button!</BUTTON>"_s); });
+}
+
+void undoFromToolbar(const AppContext &context)
+{
+    if (context.designer.isShowing())
+        context.designer.execCommand(DesignerCommand::Undo);
+    else if (context.editor.canUndo())
+        context.editor.undo();
+    else
+        context.prompts.tell(u"Sorry, there is nothing left to UNDO"_s, u"UNDO"_s);
+}
+
+void redoFromToolbar(const AppContext &context)
+{
+    // In visual mode this button undoes; only the menu entry redoes. Both have always been so.
+    if (context.designer.isShowing())
+        context.designer.execCommand(DesignerCommand::Undo);
+    else if (context.editor.canRedo())
+        context.editor.redo();
+    else
+        context.prompts.tell(u"Sorry, there is nothing left to redo"_s, u"REDO"_s);
+}
+
+void deleteSelectedText(const AppContext &context)
+{
+    context.editor.setSelText({});
+}
+
+void toggleHighlightedLines(const CommandParts &parts)
+{
+    constexpr QStringView entry = u"highlightlines";
+    const bool on = !parts.marks.isChecked(entry);
+    parts.context.configuration.setValue(u"options"_s, u"highlight"_s, on ? u"1"_s : u"0"_s);
+    parts.marks.setChecked(entry, on);
+    parts.window.setHighlightMode(on ? 1 : 0);
+    // Switched on, the line is drawn from the next change of the selection on.
+    if (!on)
+        parts.context.editor.setHighlightedLine(-1);
+}
+
+void toggleTips(const CommandParts &parts)
+{
+    constexpr QStringView entry = u"mnuviewtip";
+    const bool on = !parts.marks.isChecked(entry);
+    parts.context.settings.SaveSetting(executableBranch(), optionsSection(), showTipsKey(), on ? u"1"_s : u"0"_s);
+    parts.marks.setChecked(entry, on);
+}
+
+void showPreview(const CommandParts &parts)
+{
+    parts.views.selectTab(WorkspaceView::Preview);
+}
+
+void showQuickTags(const CommandParts &parts)
+{
+    parts.panes.selectSideTab(tagsTab);
+}
+
+} // namespace zephira
