@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowbench.h"
+#include "commands/designerbar.h"
+#include "commands/menus.h"
+#include "commands/menutable.h"
+#include "commands/palette.h"
+#include "commands/palettecommands.h"
+#include "commands/palettetable.h"
+#include "commands/tagsmenu.h"
+#include "commands/toolbars.h"
+#include "commands/toolbartable.h"
+#include "core/documenthost.h"
+#include "document/languages.h"
+#include "support/testregistry.h"
+
+#include <QMenuBar>
+#include <QTest>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+/// Who listens to a signal, which QObject tells its heirs alone.
+struct Listeners : QObject {
+    static int to(const QObject &sender, const char *signal) { return (sender.*&Listeners::receivers)(signal); }
+};
+
+/// How many listen to an action beside the widgets that show it. What those listen with is counted on an action that
+/// stands beside it and does nothing.
+int effectsOf(QAction &action)
+{
+    QAction idle(nullptr);
+    for (QObject *holder : action.associatedObjects()) {
+        if (auto *menu = qobject_cast<QMenu *>(holder))
+            menu->addAction(&idle);
+        else if (auto *bar = qobject_cast<QToolBar *>(holder))
+            bar->addAction(&idle);
+    }
+    const char *signal = SIGNAL(triggered(bool));
+    return Listeners::to(action, signal) - Listeners::to(idle, signal);
+}
+
+/// What is wrong with an action: one that can be chosen has exactly one effect, one that opens a menu may have one.
+QStringList faultsOf(QAction &action)
+{
+    if (action.isSeparator() || !action.isEnabled())
+        return {};
+    const int effects = effectsOf(action);
+    if (effects == 1 || (effects == 0 && action.menu()))
+        return {};
+    return {u"%1 \"%2\" has %3 effects"_s.arg(action.objectName(), action.text()).arg(effects)};
+}
+
+/// All actions of a menu or toolbar and of the menus in it.
+QList<QAction *> actionsOf(const QWidget &holder)
+{
+    QList<QAction *> found;
+    for (QAction *action : holder.actions()) {
+        found.append(action);
+        if (action->menu())
+            found.append(actionsOf(*action->menu()));
+    }
+    return found;
+}
+
+/// All rows of the window: menus, pop-ups, toolbars with their pull-downs, and the palette.
+QList<QAction *> actionsOf(const WindowBench &bench)
+{
+    QList<QAction *> found = actionsOf(*bench.window->menuBar());
+    for (const MenuItem &popup : popupTable())
+        found.append(actionsOf(*bench.find<QMenu>(popup.name.toString())));
+    QStringList bars{u"tBar"_s, u"Toolbar1"_s, u"Toolbar2"_s};
+    for (int palette = 0; palette < 12; ++palette)
+        bars.append(u"Toolbar_%1"_s.arg(palette));
+    for (const QString &bar : bars)
+        found.append(actionsOf(*bench.find<QToolBar>(bar)));
+    // Boxes and buttons in a toolbar are actions too, which nobody can choose.
+    found.removeIf([](QAction *action) { return action->text().isEmpty() && !action->isCheckable(); });
+    return found;
+}
+
+} // namespace
+
+/// Everything that can be chosen in the real window does one thing.
+class TstCommandRows final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachRowHasOneEffect()
+    {
+        WindowBench bench;
+        bench.start();
+        // The language that opens every toolbar.
+        bench.window->context().document.setLanguageRow(Html);
+        const QList<QAction *> actions = actionsOf(bench);
+        QStringList faults;
+        int enabled = 0;
+        for (QAction *action : actions) {
+            faults.append(faultsOf(*action));
+            enabled += action->isEnabled() && !action->isSeparator();
+        }
+        QCOMPARE(faults, QStringList());
+        // A walk that has lost its way would find no fault either.
+        QVERIFY2(actions.size() > 300, qPrintable(QString::number(actions.size())));
+        QVERIFY2(enabled > 230, qPrintable(QString::number(enabled)));
+    }
+
+    /// What a row says goes to one place.
+    void oneListensToEachSource()
+    {
+        WindowBench bench;
+        bench.start();
+        const auto command = SIGNAL(chosen(zephira::Command));
+        QCOMPARE(Listeners::to(bench.window->menus(), command), 1);
+        QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"tBar"_s), command), 1);
+        QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"Toolbar1"_s), command), 1);
+        const Palette *palette = bench.window->findChild<Palette *>();
+        QVERIFY(palette);
+        QCOMPARE(Listeners::to(*palette, SIGNAL(clicked(zephira::QuickTag))), 1);
+        QCOMPARE(Listeners::to(*palette, SIGNAL(headingClicked(int))), 1);
+        QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"Toolbar2"_s), SIGNAL(buttonClicked(QString))), 1);
+    }
+
+    /// What needs a form that is to come is closed, and only that.
+    void whatIsClosedIsToCome()
+    {
+        WindowBench bench;
+        bench.start();
+        bench.window->context().document.setLanguageRow(Html);
+        for (const QAction *action : actionsOf(*bench.window->menuBar())) {
+            const MenuItem *item = findMenuItem(action->objectName());
+            const QuickTag *tag = findTagsEntry(action->objectName());
+            if (!item && !tag)
+                continue;
+            const QString form = (item ? item->form : tag->form()).toString();
+            const bool isMissing = item && (item->kind == MenuItem::Kind::Missing || item->kind == MenuItem::Kind::Bar);
+            const bool isOpen = !isMissing && (form.isEmpty() || bench.catalogue.contains(form));
+            if (!action->menu())
+                QVERIFY2(action->isEnabled() == isOpen, qPrintable(action->objectName()));
+        }
+    }
+
+    /// The walk sees what is wrong.
+    void aWrongRowIsFound()
+    {
+        WindowBench bench;
+        bench.start();
+        QMenu *menu = bench.find<QMenu>(u"mnufile"_s);
+        QToolBar *bar = bench.find<QToolBar>(u"tBar"_s);
+        QAction *none = menu->addAction(u"None"_s);
+        none->setObjectName(u"none"_s);
+        bar->addAction(none);
+        QCOMPARE(faultsOf(*none), QStringList{u"none \"None\" has 0 effects"_s});
+
+        QAction *one = bench.find<QAction>(u"clearclip"_s);
+        QCOMPARE(faultsOf(*one), QStringList());
+        connect(one, &QAction::triggered, this, [] {});
+        QCOMPARE(faultsOf(*one), QStringList{u"clearclip \"&Clear Clipboard\" has 2 effects"_s});
+        connect(none, &QAction::triggered, this, [] {});
+        QCOMPARE(faultsOf(*none), QStringList());
+
+        QStringList all;
+        for (QAction *action : actionsOf(bench))
+            all.append(faultsOf(*action));
+        QCOMPARE(all, QStringList{u"clearclip \"&Clear Clipboard\" has 2 effects"_s});
+    }
+};
+
+ZEPHIRA_TEST(TstCommandRows)
+#include "tst_commandrows.moc"
