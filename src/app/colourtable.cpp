@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/colourtable.h"
 
-#include "app/startdecision.h"
+#include "core/colourrows.h"
 #include "core/editingcontrol.h"
 #include "core/editoritems.h"
-
-using namespace Qt::StringLiterals;
+#include "core/settings.h"
 
 namespace zephira {
 
 ColourTable readColours(const Configuration &configuration, const QString &file)
 {
     ColourTable table;
-    for (size_t row = 0; row < appearanceRows.size(); ++row) {
-        const auto number = [&](const QString &part) {
-            return requiredNumber(configuration, u"Colors"_s, u"clr%1%2"_s.arg(row).arg(part), file);
+    for (int row = 0; row < std::ssize(appearanceRows); ++row) {
+        const auto number = [&](ColourPart part) {
+            return requiredNumber(configuration, colourSetting(row, part), file);
         };
-        ColourEntry &entry = table[row];
-        entry.background = number(u"bg"_s);
-        entry.foreground = number(u"fr"_s);
-        entry.fontStyle = number(u"fnt"_s);
+        ColourEntry &entry = table[size_t(row)];
+        entry.background = number(ColourPart::Background);
+        entry.foreground = number(ColourPart::Foreground);
+        entry.fontStyle = number(ColourPart::FontStyle);
     }
     return table;
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/documentcontrols.h"
 
+#include "core/languages.h"
 #include "document/commondialog.h"
-#include "document/languages.h"
 #include "panes/filepane.h"
 
 #include <QComboBox>
@@ -19,7 +19,7 @@ DocumentControls::DocumentControls(const CommonDialog &dialog, FilePane &files, 
     m_languages->setAccessibleName(u"Language of the document"_s);
     m_languages->setFocusPolicy(Qt::TabFocus);
     for (const LanguageRow &row : languageRows())
-        m_languages->addItem(QStringView(row.text).toString());
+        m_languages->addItem(row.text.toString());
     connect(m_languages, &QComboBox::currentIndexChanged, this, &DocumentControls::languageSet);
     // Choosing the row that is selected already runs the handler too.
     connect(m_languages, &QComboBox::activated, this, &DocumentControls::languageSet);

@@ -6,6 +6,7 @@
 #include "core/configuration.h"
 #include "core/errorstyles.h"
 #include "core/inserter.h"
+#include "core/languages.h"
 #include "core/paths.h"
 #include "core/prompts.h"
 #include "core/quickviewer.h"
@@ -21,17 +22,6 @@
 using namespace Qt::StringLiterals;
 
 namespace zephira {
-
-namespace {
-
-/// The filters as they were shipped. The pattern for style sheets has no dot.
-constexpr auto defaultFilters =
-    u"*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;*.bas;*.frm;*.vbp;"
-    u"*.gif;*.bmp;*.jpg;*.java;*.sql";
-
-constexpr auto filtersName = u"Filters";
-
-} // namespace
 
 FilePaneCommands::FilePaneCommands(const AppContext &context, const Parts &parts, QObject *owner)
     : QObject(owner), m_context(context), m_parts(parts)
@@ -83,21 +73,20 @@ void FilePaneCommands::insertLink()
 
 void FilePaneCommands::editFilters()
 {
-    const QString key = QStringView(filtersName).toString();
     Configuration &configuration = m_context.configuration;
     QString filters =
         m_context.prompts
             .input({u"Please enter the extensions of the files you want to show, *.* indicates all, use ; to "
                     "seperate extensions, type RESET (all caps) to reset filters to Application Defaults"_s,
-                    key, configuration.value(key, key)})
+                    u"Filters"_s, configuration.value(Setting::FileFilters)})
             .value_or(QString());
     if (filters.isEmpty())
         return;
     if (filters == u"RESET"_s)
-        filters = QStringView(defaultFilters).toString();
-    if (!configuration.setValue(key, key, filters))
+        filters = defaultFilters();
+    if (!configuration.setValue(Setting::FileFilters, filters))
         m_context.prompts.tell(u"The filters could not be saved."_s, {}, Question::Icon::Exclamation);
-    m_parts.pane.fileList().setPattern(configuration.value(key, key));
+    m_parts.pane.fileList().setPattern(configuration.value(Setting::FileFilters));
 }
 
 void FilePaneCommands::openDroppedFile(const QString &path)

@@ -11,8 +11,8 @@
 #include "core/documenthost.h"
 #include "core/editorcommand.h"
 #include "core/errorstyles.h"
+#include "core/languages.h"
 #include "core/paths.h"
-#include "core/settingsnames.h"
 #include "core/usersettings.h"
 #include "desktop/formposition.h"
 #include "editor/codemax.h"
@@ -38,11 +38,6 @@ constexpr EditorCommand commandsWithoutKeys[] = {
     EditorCommand::TransposeLines, EditorCommand::CutByOldKey,  EditorCommand::SelectWord, EditorCommand::FindNextByKey,
     EditorCommand::FindByKey,      EditorCommand::ReplaceByKey, EditorCommand::GoToByKey,
 };
-
-bool isTrue(const QString &text)
-{
-    return text.compare(u"True"_s, Qt::CaseInsensitive) == 0;
-}
 
 HandlerError startError(const Error &error)
 {
@@ -85,15 +80,10 @@ void LoadHandler::run()
     }
 }
 
-int LoadHandler::number(const QString &section, const QString &key) const
+int LoadHandler::number(Setting setting) const
 {
     const WindowServices &services = m_window.services();
-    return requiredNumber(services.configuration, section, key, services.iniFile);
-}
-
-QString LoadHandler::text(const QString &section, const QString &key) const
-{
-    return m_window.services().configuration.value(section, key);
+    return requiredNumber(services.configuration, setting, services.iniFile);
 }
 
 /// The lines of a list of the installation, without which the program can't start.
@@ -108,7 +98,7 @@ QStringList LoadHandler::dataLines(const QString &name) const
 
 void LoadHandler::restorePlacement()
 {
-    FormPosition(m_window, false, m_window.services().settings, executableBranch());
+    FormPosition(m_window, false, m_window.services().settings);
 }
 
 void LoadHandler::setHelpFile()
@@ -118,18 +108,16 @@ void LoadHandler::setHelpFile()
 
 void LoadHandler::setFilePattern()
 {
-    m_window.filePane().fileList().setPattern(text(u"Filters"_s, u"Filters"_s));
+    m_window.filePane().fileList().setPattern(m_window.services().configuration.value(Setting::FileFilters));
 }
 
 void LoadHandler::recordProgramFolder()
 {
     UserSettings &settings = m_window.services().settings;
-    const QString branch = sharedBranch();
-    const QString section = u"data"_s;
-    if (settings.GetSetting(branch, section, u"apppath"_s, {}) == m_window.appPath())
+    if (settings.GetSetting(UserSetting::ProgramFolder) == m_window.appPath())
         return;
-    settings.SaveSetting(branch, section, u"version"_s, QCoreApplication::applicationVersion().remove(u'.'));
-    settings.SaveSetting(branch, section, u"apppath"_s, m_window.appPath());
+    settings.SaveSetting(UserSetting::ProgramVersion, QCoreApplication::applicationVersion().remove(u'.'));
+    settings.SaveSetting(UserSetting::ProgramFolder, m_window.appPath());
 }
 
 void LoadHandler::fetchSelection()
@@ -150,7 +138,7 @@ void LoadHandler::disableDesigner()
 
 void LoadHandler::readRootSelect()
 {
-    m_window.setRootSelect(number(u"startup"_s, u"rootsel"_s) == 1);
+    m_window.setRootSelect(number(Setting::RootSelection) == 1);
     m_window.filePane().setRootSelect(m_window.rootSelect());
 }
 
@@ -161,12 +149,11 @@ void LoadHandler::createEditorGlobals()
 
 void LoadHandler::readDisplayModes()
 {
-    const QString section = u"options"_s;
-    m_window.setDisplayModes({.highlight = number(section, u"highlight"_s),
-                              .lineNumber = number(section, u"linenumber"_s),
-                              .leftMargin = number(section, u"leftmargin"_s),
-                              .whitespace = number(section, u"whitespace"_s),
-                              .selBounds = number(section, u"selbounds"_s)});
+    m_window.setDisplayModes({.highlight = number(Setting::HighlightLine),
+                              .lineNumber = number(Setting::LineNumbers),
+                              .leftMargin = number(Setting::LeftMargin),
+                              .whitespace = number(Setting::Whitespace),
+                              .selBounds = number(Setting::SelectionBounds)});
     if (m_window.highlightMode() == 1)
         m_window.menus().setChecked(u"highlightlines", true);
 }
@@ -175,16 +162,16 @@ void LoadHandler::applyFont()
 {
     EditingControl &editor = m_window.rt();
     editor.setEnableDragDrop(true);
-    const QString section = u"font"_s;
+    const Configuration &configuration = m_window.services().configuration;
     FontChoice font = editor.editorFont();
-    font.bold = isTrue(text(section, u"bold"_s));
-    font.italic = isTrue(text(section, u"italic"_s));
-    if (const QString name = text(section, u"name"_s); !name.isEmpty())
+    font.bold = isTrue(configuration, Setting::FontBold);
+    font.italic = isTrue(configuration, Setting::FontItalic);
+    if (const QString name = configuration.value(Setting::FontName); !name.isEmpty())
         font.name = name;
-    if (const double size = text(section, u"size"_s).toDouble(); size > 0)
+    if (const double size = configuration.value(Setting::FontSize).toDouble(); size > 0)
         font.size = size;
-    font.strikethrough = isTrue(text(section, u"strikethrough"_s));
-    font.underline = isTrue(text(section, u"underline"_s));
+    font.strikethrough = isTrue(configuration, Setting::FontStrikethrough);
+    font.underline = isTrue(configuration, Setting::FontUnderline);
     editor.setEditorFont(font);
 }
 
@@ -211,8 +198,8 @@ void LoadHandler::applyColourTable()
 
 void LoadHandler::registerLanguages()
 {
-    m_window.rt().globals().RegisterLanguage(u"Perl"_s, perlLanguage());
-    m_window.context().document.setLanguageRow(0);
+    m_window.rt().globals().RegisterLanguage(languageRows()[language::Perl].editorLanguage.toString(), perlLanguage());
+    m_window.context().document.setLanguageRow(language::Text);
 }
 
 void LoadHandler::removeHotKeys()

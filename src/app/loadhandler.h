@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/settings.h"
+
 #include <QString>
 
 namespace zephira {
@@ -47,8 +49,7 @@ private:
     void readAspTags();
     void openArgument();
 
-    int number(const QString &section, const QString &key) const;
-    QString text(const QString &section, const QString &key) const;
+    int number(Setting setting) const;
     QStringList dataLines(const QString &name) const;
 
     frmmain &m_window;

@@ -7,8 +7,6 @@
 
 namespace zephira {
 
-class Configuration;
-
 /// What the command line asks for. The whole argument string is compared as one string.
 enum class StartArgument { None, NoDialog, File };
 
@@ -25,9 +23,5 @@ enum class StartAction {
 /// @param showTips  the setting as a number; only 1 shows tips
 /// @param selprj    the setting as a string; only "1" shows the start dialog
 std::vector<StartAction> startActions(StartArgument argument, int showTips, const QString &selprj);
-
-/// A number of the configuration that the start can't do without. Raises HandlerError with a sentence that names key,
-/// section and file if it is missing or not a whole number of 32 bits.
-int requiredNumber(const Configuration &configuration, const QString &section, const QString &key, const QString &file);
 
 } // namespace zephira

@@ -6,7 +6,6 @@
 #include "app/startdecision.h"
 #include "commands/menus.h"
 #include "core/configuration.h"
-#include "core/settingsnames.h"
 #include "core/usersettings.h"
 #include "desktop/modalformopener.h"
 #include "files/appfolder.h"
@@ -47,11 +46,9 @@ void runStartProcedure(frmmain &window, const QString &argument)
     begin(u"showWindow");
     window.show();
     begin(u"readShowTips");
-    const UserSettings &settings = window.services().settings;
-    const int showTips =
-        settings.GetSetting(executableBranch(), optionsSection(), showTipsKey(), showTipsDefault()).toInt();
+    const int showTips = window.services().settings.GetSetting(UserSetting::ShowTips).toInt();
     begin(u"readSelprj");
-    const QString selprj = window.services().configuration.value(u"Startup"_s, u"selprj"_s);
+    const QString selprj = window.services().configuration.value(Setting::StartDialog);
     begin(u"showDialogs");
     for (const StartAction action : startActions(startArgument(argument), showTips, selprj))
         take(action, window);

@@ -4,7 +4,6 @@
 #include "app/frmmain.h"
 #include "commands/commandrouter.h"
 #include "core/errorstyles.h"
-#include "core/settingsnames.h"
 #include "core/shell.h"
 #include "desktop/formposition.h"
 #include "desktop/modalformopener.h"
@@ -68,7 +67,7 @@ void WindowEnd::endProcess()
 void WindowEnd::unload()
 {
     ignoringErrors({
-        [this] { FormPosition(m_window, true, m_services.settings, executableBranch()); },
+        [this] { FormPosition(m_window, true, m_services.settings); },
         [this] { m_window.forms().closeAll(); },
         [this] { m_window.document().discardPreview(); },
         [this] {

@@ -23,7 +23,7 @@ constexpr QStringView nowhere = u"C:\\nonexist.iamcool.forever";
 /// The path of the browser, asked for where the kept one leads nowhere; nothing when the new one does too.
 std::optional<QString> browserPath(const AppContext &context)
 {
-    QString path = context.configuration.value(u"Paths"_s, u"IEPATH"_s);
+    QString path = context.configuration.value(Setting::BrowserPath);
     if (path.isEmpty())
         path = nowhere.toString();
     if (context.files.FileExists(path))
@@ -39,8 +39,8 @@ std::optional<QString> browserPath(const AppContext &context)
         context.prompts.ask({u"Sorry, the new path was not found, Zephira will now exit this function..."_s});
         return std::nullopt;
     }
-    context.configuration.setValue(u"Paths"_s, u"IEPATH"_s, answer);
-    return context.configuration.value(u"Paths"_s, u"IEPATH"_s);
+    context.configuration.setValue(Setting::BrowserPath, answer);
+    return context.configuration.value(Setting::BrowserPath);
 }
 
 bool mayShow(Prompts &prompts, const QString &question)

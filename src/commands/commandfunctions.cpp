@@ -10,7 +10,7 @@
 #include "core/filestore.h"
 #include "core/formopener.h"
 #include "core/prompts.h"
-#include "core/settingsnames.h"
+#include "core/settings.h"
 #include "core/usersettings.h"
 #include "views/workspaceviews.h"
 
@@ -44,17 +44,13 @@ void chooseFont(const AppContext &context)
 
     // What is kept is what the control made of the choice.
     const FontChoice font = context.editor.editorFont();
-    const auto flag = [](bool value) { return value ? u"True"_s : u"False"_s; };
-    const std::pair<QString, QString> values[] = {
-        {u"Bold"_s, flag(font.bold)},
-        {u"Italic"_s, flag(font.italic)},
-        {u"Name"_s, font.name},
-        {u"Size"_s, QString::number(font.size)},
-        {u"Strikethrough"_s, flag(font.strikethrough)},
-        {u"Underline"_s, flag(font.underline)},
-    };
-    for (const auto &[key, value] : values)
-        context.configuration.setValue(u"Font"_s, key, value);
+    Configuration &configuration = context.configuration;
+    writeTruth(configuration, Setting::FontBold, font.bold);
+    writeTruth(configuration, Setting::FontItalic, font.italic);
+    configuration.setValue(Setting::FontName, font.name);
+    configuration.setValue(Setting::FontSize, QString::number(font.size));
+    writeTruth(configuration, Setting::FontStrikethrough, font.strikethrough);
+    writeTruth(configuration, Setting::FontUnderline, font.underline);
 }
 
 void openFtpClient(const AppContext &context)
@@ -107,7 +103,7 @@ void toggleHighlightedLines(const CommandParts &parts)
 {
     constexpr QStringView entry = u"highlightlines";
     const bool on = !parts.marks.isChecked(entry);
-    parts.context.configuration.setValue(u"options"_s, u"highlight"_s, on ? u"1"_s : u"0"_s);
+    writeSwitch(parts.context.configuration, Setting::HighlightLine, on);
     parts.marks.setChecked(entry, on);
     parts.window.setHighlightMode(on ? 1 : 0);
     // Switched on, the line is drawn from the next change of the selection on.
@@ -119,7 +115,7 @@ void toggleTips(const CommandParts &parts)
 {
     constexpr QStringView entry = u"mnuviewtip";
     const bool on = !parts.marks.isChecked(entry);
-    parts.context.settings.SaveSetting(executableBranch(), optionsSection(), showTipsKey(), on ? u"1"_s : u"0"_s);
+    parts.context.settings.SaveSetting(UserSetting::ShowTips, on ? u"1"_s : u"0"_s);
     parts.marks.setChecked(entry, on);
 }
 

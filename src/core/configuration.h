@@ -1,18 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/settings.h"
+
 #include <QString>
 
 namespace zephira {
 
 /// The settings that belong to the installation, zephira.ini in the program folder. Nothing is kept in memory: each call
-/// goes to the store.
+/// goes to the store. Only the rows of settingRows() can be read and written.
 class Configuration
 {
 public:
     virtual ~Configuration() = default;
-    virtual QString value(const QString &section, const QString &key) const = 0;
-    virtual bool setValue(const QString &section, const QString &key, const QString &value) = 0;
+
+    /// A missing key reads as the row's fallback.
+    QString value(Setting setting) const
+    {
+        const SettingRow &row = settingRow(setting);
+        const QString kept = read(row.section, row.key);
+        return kept.isEmpty() ? row.fallback : kept;
+    }
+    /// Writes at once. Returns false if the store couldn't be written.
+    bool setValue(Setting setting, const QString &value)
+    {
+        const SettingRow &row = settingRow(setting);
+        return write(row.section, row.key, value);
+    }
+
+private:
+    /// Section and key without regard to case; "" for what isn't there.
+    virtual QString read(const QString &section, const QString &key) const = 0;
+    virtual bool write(const QString &section, const QString &key, const QString &value) = 0;
 };
 
 } // namespace zephira

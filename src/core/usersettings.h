@@ -1,19 +1,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/settings.h"
+
 #include <QString>
 
 namespace zephira {
 
-/// The per-user store: branch, section, key. All values are strings and are written at once.
+/// The per-user store: branch, section, key. All values are strings and are written at once. Only the rows of
+/// userSettingRows() can be read and written.
 class UserSettings
 {
 public:
     virtual ~UserSettings() = default;
-    virtual QString GetSetting(const QString &branch, const QString &section, const QString &key,
-                               const QString &fallback) const = 0;
-    virtual void SaveSetting(const QString &branch, const QString &section, const QString &key,
-                             const QString &value) = 0;
+
+    /// A missing value reads as the row's fallback.
+    QString GetSetting(UserSetting setting) const
+    {
+        const UserSettingRow &row = userSettingRow(setting);
+        return read(row.branch, row.section, row.key, row.fallback);
+    }
+    void SaveSetting(UserSetting setting, const QString &value)
+    {
+        const UserSettingRow &row = userSettingRow(setting);
+        write(row.branch, row.section, row.key, value);
+    }
+
+    /// The same for a value that each form has, in the section that bears the form's name.
+    QString GetSetting(UserSetting setting, const QString &form, const QString &fallback) const
+    {
+        const UserSettingRow &row = userSettingRow(setting);
+        return read(row.branch, form, row.key, fallback);
+    }
+    void SaveSetting(UserSetting setting, const QString &form, const QString &value)
+    {
+        const UserSettingRow &row = userSettingRow(setting);
+        write(row.branch, form, row.key, value);
+    }
+
+private:
+    virtual QString read(const QString &branch, const QString &section, const QString &key,
+                         const QString &fallback) const = 0;
+    virtual void write(const QString &branch, const QString &section, const QString &key, const QString &value) = 0;
 };
 
 } // namespace zephira

@@ -11,8 +11,6 @@
 #include <array>
 #include <cmath>
 
-using namespace Qt::StringLiterals;
-
 namespace zephira {
 
 namespace {
@@ -32,37 +30,34 @@ int stateNumber(const QWidget &form)
 class Placement
 {
 public:
-    Placement(UserSettings &settings, QString branch, QString section)
-        : m_settings(settings), m_branch(std::move(branch)), m_section(std::move(section))
-    {}
+    Placement(UserSettings &settings, QString form) : m_settings(settings), m_form(std::move(form)) {}
 
-    void save(const QString &key, int number) const
+    void save(UserSetting setting, int number) const
     {
-        m_settings.SaveSetting(m_branch, m_section, key, QString::number(number));
+        m_settings.SaveSetting(setting, m_form, QString::number(number));
     }
 
-    void savePixels(const QString &key, int pixels) const
+    void savePixels(UserSetting setting, int pixels) const
     {
-        save(key, static_cast<int>(std::lround(pixels * twipsPerPixel)));
+        save(setting, static_cast<int>(std::lround(pixels * twipsPerPixel)));
     }
 
-    int number(const QString &key, int fallback) const
+    int number(UserSetting setting, int fallback) const
     {
         bool converted = false;
-        const int value = m_settings.GetSetting(m_branch, m_section, key, QString::number(fallback)).toInt(&converted);
+        const int value = m_settings.GetSetting(setting, m_form, QString::number(fallback)).toInt(&converted);
         return converted ? value : fallback;
     }
 
-    int pixels(const QString &key, int fallback) const
+    int pixels(UserSetting setting, int fallback) const
     {
-        const int twips = number(key, static_cast<int>(std::lround(fallback * twipsPerPixel)));
+        const int twips = number(setting, static_cast<int>(std::lround(fallback * twipsPerPixel)));
         return static_cast<int>(std::lround(twips / twipsPerPixel));
     }
 
 private:
     UserSettings &m_settings;
-    QString m_branch;
-    QString m_section;
+    QString m_form;
 };
 
 void save(QWidget &form, const Placement &placement)
@@ -70,22 +65,22 @@ void save(QWidget &form, const Placement &placement)
     const int state = stateNumber(form);
     // The window manager makes the window normal some time later; where it will stand then is known already.
     const QRect place = state == 0 ? QRect(form.pos(), form.size()) : form.normalGeometry();
-    placement.save(u"WindowState"_s, state);
+    placement.save(UserSetting::WindowState, state);
     if (state != 0)
         form.setWindowState(Qt::WindowNoState);
-    placement.savePixels(u"Top"_s, place.y());
-    placement.savePixels(u"Left"_s, place.x());
-    placement.savePixels(u"Height"_s, place.height());
-    placement.savePixels(u"Width"_s, place.width());
+    placement.savePixels(UserSetting::WindowTop, place.y());
+    placement.savePixels(UserSetting::WindowLeft, place.x());
+    placement.savePixels(UserSetting::WindowHeight, place.height());
+    placement.savePixels(UserSetting::WindowWidth, place.width());
 }
 
 void restore(QWidget &form, const Placement &placement)
 {
     QRect place(form.pos(), form.size());
-    place.moveTop(placement.pixels(u"Top"_s, place.y()));
-    place.moveLeft(placement.pixels(u"Left"_s, place.x()));
-    place.setHeight(placement.pixels(u"Height"_s, place.height()));
-    place.setWidth(placement.pixels(u"Width"_s, place.width()));
+    place.moveTop(placement.pixels(UserSetting::WindowTop, place.y()));
+    place.moveLeft(placement.pixels(UserSetting::WindowLeft, place.x()));
+    place.setHeight(placement.pixels(UserSetting::WindowHeight, place.height()));
+    place.setWidth(placement.pixels(UserSetting::WindowWidth, place.width()));
 
     QList<QRect> screens;
     for (const QScreen *screen : QGuiApplication::screens())
@@ -94,7 +89,7 @@ void restore(QWidget &form, const Placement &placement)
     form.move(place.topLeft());
     form.resize(place.size());
 
-    const int state = placement.number(u"WindowState"_s, stateNumber(form));
+    const int state = placement.number(UserSetting::WindowState, stateNumber(form));
     if (state >= 0 && state < static_cast<int>(windowStates.size()))
         form.setWindowState(windowStates[static_cast<std::size_t>(state)]);
 }
@@ -118,9 +113,9 @@ QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens)
     return place;
 }
 
-void FormPosition(QWidget &form, bool saving, UserSettings &settings, const QString &branch)
+void FormPosition(QWidget &form, bool saving, UserSettings &settings)
 {
-    const Placement placement(settings, branch, form.objectName());
+    const Placement placement(settings, form.objectName());
     if (saving)
         save(form, placement);
     else

@@ -17,7 +17,7 @@ class UserSettings;
 /// Saving writes the state first and then returns the window to normal, so that the place kept is the one it has when it
 /// is neither minimised nor maximised. Restoring takes a value that is missing or no number as the window's own, sets
 /// the state last, and brings a window whose stored place no screen shows back to the first screen.
-void FormPosition(QWidget &form, bool saving, UserSettings &settings, const QString &branch);
+void FormPosition(QWidget &form, bool saving, UserSettings &settings);
 
 /// The wanted place if enough of the window's upper edge to grab it lies on a screen, else the nearest place on the first
 /// screen, made small enough to fit. Without screens the place is as wanted.

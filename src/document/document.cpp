@@ -7,42 +7,13 @@
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
 #include "core/filestore.h"
+#include "core/languages.h"
 #include "core/paths.h"
 #include "core/relativepath.h"
-#include "document/languages.h"
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
-
-namespace {
-
-constexpr auto openFilter =
-    u"All Supported Files|*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*.java;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;"
-    u"*.pas;*.bas;*.frm;*.vbp;*.sql|All Files|*.*|Text / INI / LOG Files|*.txt;*.ini;*.log|Html Files|*.html;*.htm|"
-    u"Java / Script Files|*.js;*.java|Style Sheets|*.cs|C/C++ Files|*.c;*.cpp;*.h|Perl Files|*.pl|CGI/Perl Files|*.cgi|"
-    u"XML Files|*.xml|Pascal Files|*.pas|Basic Files|*.bas;*.frm;*.vbp|ASP / VBScript Files|*.asp;*.vbs|SQL Files|*.sql";
-
-/// Languages in which an image of the file pane becomes a link. "Java Script" is no row of the list; it never matches.
-constexpr std::array imageLinkLanguages = {u"HTML", u"XML", u"Perl", u"Java Script"};
-
-constexpr std::array imageExtensions = {u"gif", u"bmp", u"jpg"};
-
-bool holds(const auto &words, const QString &word)
-{
-    return std::any_of(words.begin(), words.end(), [&](const char16_t *entry) { return word == QStringView(entry); });
-}
-
-/// What follows the last dot, in lower case; empty for a name without a dot.
-QString extensionOf(const QString &name)
-{
-    const qsizetype dot = name.lastIndexOf(u'.');
-    return dot < 0 ? QString() : name.mid(dot + 1).toLower();
-}
-
-} // namespace
 
 Document::Document(const AppContext &context, CommonDialog &dialog, DocumentWindow &window)
     : m_context(context), m_dialog(dialog), m_window(window)
@@ -94,7 +65,7 @@ void Document::setPreviewTarget(const QString &target)
 
 void Document::discardPreview()
 {
-    if (m_previewTarget.isEmpty() || m_previewTarget.endsWith(u".asp", Qt::CaseInsensitive))
+    if (m_previewTarget.isEmpty() || isServerPage(m_previewTarget))
         return;
     [[maybe_unused]] const Result<void> removed = m_context.files.remove(m_previewTarget);
 }
@@ -109,7 +80,7 @@ void Document::doNew()
     m_hasFile = false;
     m_path.clear();
     m_title = u"New Document"_s;
-    m_context.document.setLanguageRow(Text);
+    m_context.document.setLanguageRow(language::Text);
     m_window.setCaption(u"Zephira - [New Document]"_s);
     m_window.setPathPanel(u"Untitled"_s);
     m_dialog.fileName.clear();
@@ -132,11 +103,12 @@ void Document::newFromTemplate()
 
 void Document::SetSyntax()
 {
-    for (const SyntaxStep &step : syntaxSteps(m_dialog.fileName)) {
-        m_context.document.setLanguageRow(step.row);
-        if (step.editorLanguage)
-            m_context.editor.setLanguage(*step.editorLanguage);
-    }
+    const std::optional<LanguageChoice> choice = languageOfFile(m_dialog.fileName);
+    if (!choice)
+        return;
+    m_context.document.setLanguageRow(choice->row);
+    if (!choice->editorLanguage.isEmpty())
+        m_context.editor.setLanguage(choice->editorLanguage);
 }
 
 /// Makes `path` the document's file. The text is on disk under that name now.
@@ -174,7 +146,7 @@ void Document::open()
     if (!mayGoOn(PromptIcon::Shown))
         return;
     m_dialog.title = u"Open a document..."_s;
-    m_dialog.filter = QStringView(openFilter).toString();
+    m_dialog.filter = openFilter();
     const auto chosen =
         m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false, m_dialog.fileName});
     if (!chosen || chosen->isEmpty())
@@ -208,9 +180,8 @@ bool Document::DoSaveAs()
 {
     m_dialog.title = u"Save a document..."_s;
     m_dialog.initialFolder = m_context.document.projectPath();
-    const int row = m_context.document.languageRow();
-    if (row >= 0 && row < languageCount)
-        m_dialog.filter = QStringView(languageRows()[size_t(row)].saveFilter).toString();
+    if (const LanguageRow *row = languageRow(m_context.document.languageRow()))
+        m_dialog.filter = row->saveFilter.toString();
 
     QString name;
     for (;;) {
@@ -263,7 +234,8 @@ void Document::OpenAFile()
 void Document::openFileOrImage(const QString &path)
 {
     try {
-        if (holds(imageExtensions, extensionOf(fileTitleOf(path))))
+        const FileType *type = fileTypeOf(fileTitleOf(path));
+        if (type && type->isImage)
             openImage(path);
         else
             openText(path);
@@ -278,7 +250,7 @@ void Document::openFileOrImage(const QString &path)
 
 void Document::openImage(const QString &path)
 {
-    if (!holds(imageLinkLanguages, m_context.document.languageText())) {
+    if (!linksImages(m_context.document.languageText())) {
         orRaise(m_window.showPicture(path));
         return;
     }

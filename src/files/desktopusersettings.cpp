@@ -28,15 +28,14 @@ QString storeKey(const QString &branch, const QString &section, const QString &k
 
 } // namespace
 
-QString DesktopUserSettings::GetSetting(const QString &branch, const QString &section, const QString &key,
-                                        const QString &fallback) const
+QString DesktopUserSettings::read(const QString &branch, const QString &section, const QString &key,
+                                  const QString &fallback) const
 {
     const QSettings settings = store();
     return settings.value(storeKey(branch, section, key), fallback).toString();
 }
 
-void DesktopUserSettings::SaveSetting(const QString &branch, const QString &section, const QString &key,
-                                      const QString &value)
+void DesktopUserSettings::write(const QString &branch, const QString &section, const QString &key, const QString &value)
 {
     QSettings settings = store();
     settings.setValue(storeKey(branch, section, key), value);

@@ -11,9 +11,9 @@ namespace zephira {
 class DesktopUserSettings final : public UserSettings
 {
 public:
-    QString GetSetting(const QString &branch, const QString &section, const QString &key,
-                       const QString &fallback) const override;
-    void SaveSetting(const QString &branch, const QString &section, const QString &key, const QString &value) override;
+    QString read(const QString &branch, const QString &section, const QString &key,
+                 const QString &fallback) const override;
+    void write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
 
     /// Full path of the file that holds the store; what else belongs to the user lies beside it.
     static QString fileName();

@@ -23,13 +23,14 @@ public:
     explicit IniConfiguration(QString file) : m_file(std::move(file)) {}
 
     QString file() const { return m_file; }
-    QString value(const QString &section, const QString &key) const override { return ReadIni(section, key, m_file); }
-    bool setValue(const QString &section, const QString &key, const QString &value) override
+
+private:
+    QString read(const QString &section, const QString &key) const override { return ReadIni(section, key, m_file); }
+    bool write(const QString &section, const QString &key, const QString &value) override
     {
         return WriteIni(section, key, value, m_file);
     }
 
-private:
     QString m_file;
 };
 

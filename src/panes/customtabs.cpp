@@ -83,7 +83,7 @@ void CustomTabs::openMenu(int tab, const QPoint &position)
 
 QString CustomTabs::filePath(int tab) const
 {
-    return m_context.appPath + u"/ctabs/"_s + m_context.configuration.value(u"ctab"_s, QString::number(tab));
+    return m_context.appPath + u"/ctabs/"_s + m_context.configuration.value(customTabSetting(tab));
 }
 
 void CustomTabs::load(int tab)

@@ -5,7 +5,6 @@
 #include "ui_frmtip.h"
 
 #include "core/filestore.h"
-#include "core/settingsnames.h"
 #include "core/usersettings.h"
 #include "files/textfile.h"
 
@@ -30,8 +29,7 @@ frmTip::frmTip(const AppContext &context, QWidget *owner, Random random)
     m_ui->picTip->setPixmap(hint.pixmap(QSize(side, side), devicePixelRatioF()));
     m_ui->tipFrame->setBackgroundRole(QPalette::Base);
 
-    const QString shown =
-        context.settings.GetSetting(executableBranch(), optionsSection(), showTipsKey(), showTipsDefault());
+    const QString shown = context.settings.GetSetting(UserSetting::ShowTips);
     m_ui->chkLoadTipsAtStartup->setChecked(shown.toInt() != 0);
 
     connect(m_ui->chkLoadTipsAtStartup, &QCheckBox::clicked, this, &frmTip::saveSwitch);
@@ -61,7 +59,7 @@ void frmTip::showNextTip()
 
 void frmTip::saveSwitch(bool ticked)
 {
-    m_context.settings.SaveSetting(executableBranch(), optionsSection(), showTipsKey(), ticked ? u"1"_s : u"0"_s);
+    m_context.settings.SaveSetting(UserSetting::ShowTips, ticked ? u"1"_s : u"0"_s);
 }
 
 } // namespace zephira

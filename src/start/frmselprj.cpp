@@ -5,6 +5,7 @@
 #include "core/documenthost.h"
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
+#include "core/languages.h"
 #include "core/prompts.h"
 #include "start/customtemplates.h"
 #include "start/framepicture.h"
@@ -23,9 +24,6 @@ namespace zephira {
 
 namespace {
 
-const QString startupSection = u"Startup"_s;
-const QString startDialogKey = u"selprj"_s;
-
 constexpr int textColumns = 3;
 constexpr int pictureColumns = 4;
 constexpr QSize pictureSize(104, 78);
@@ -43,10 +41,9 @@ frmselprj::frmselprj(const AppContext &context, QWidget *owner)
     addTemplateButtons();
     listCustomTemplates();
 
-    m_ui->Check1->setChecked(context.configuration.value(startupSection, startDialogKey) == u"1"_s);
-    connect(m_ui->Check1, &QCheckBox::clicked, this, [this](bool ticked) {
-        m_context.configuration.setValue(startupSection, startDialogKey, ticked ? u"1"_s : u"0"_s);
-    });
+    m_ui->Check1->setChecked(isSwitchedOn(context.configuration, Setting::StartDialog));
+    connect(m_ui->Check1, &QCheckBox::clicked, this,
+            [this](bool ticked) { writeSwitch(m_context.configuration, Setting::StartDialog, ticked); });
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &frmselprj::reject);
 }
 

@@ -2,7 +2,7 @@
 #include "start/templates.h"
 
 #include "core/filestore.h"
-#include "document/languages.h"
+#include "core/languages.h"
 #include "files/lineends.h"
 #include "files/textfile.h"
 
@@ -15,6 +15,7 @@ namespace zephira {
 namespace {
 
 using Page = TemplatePage;
+using enum language::Row;
 
 constexpr std::array buttons = {
     TemplateButton{Page::Html, u"Command2", u"Blank Page", u"blank.html", Html},
@@ -58,17 +59,6 @@ constexpr std::array buttons = {
 std::span<const TemplateButton> templateButtons()
 {
     return buttons;
-}
-
-std::optional<TemplateLanguage> languageOfTemplate(const QString &fileName)
-{
-    const auto endsIn = [&](QStringView tail) { return fileName.endsWith(tail, Qt::CaseInsensitive); };
-    const std::vector<SyntaxStep> steps = syntaxSteps(fileName);
-    // SQL and Java sources aren't told by their names here.
-    if (steps.empty() || endsIn(u".sql") || endsIn(u".java"))
-        return {};
-    const bool namesLanguage = endsIn(u".c") || endsIn(u".h");
-    return TemplateLanguage{steps.back().row, namesLanguage ? u"c/c++"_s : QString()};
 }
 
 Result<QString> readTemplate(const FileStore &files, const QString &path)

@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <optional>
 #include <span>
 
 namespace zephira {
@@ -26,18 +25,6 @@ struct TemplateButton {
 
 /// All buttons, page by page in the order in which they stand.
 std::span<const TemplateButton> templateButtons();
-
-/// The language that a custom template's file name stands for.
-struct TemplateLanguage {
-    int row;
-    /// What the editing control is given after the row is chosen, or "" to leave it with the row's own.
-    QString editorLanguage = {};
-
-    friend bool operator==(const TemplateLanguage &, const TemplateLanguage &) = default;
-};
-
-/// Chooses by the name's ending, without regard to case. An unknown ending gives nothing: the language stays.
-std::optional<TemplateLanguage> languageOfTemplate(const QString &fileName);
 
 /// Text of a template file, with CR LF line ends. The error of a missing file names file and folder.
 Result<QString> readTemplate(const FileStore &files, const QString &path);

@@ -7,13 +7,12 @@
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
 #include "core/filestore.h"
+#include "core/languages.h"
 #include "core/paths.h"
 #include "core/prompts.h"
 
 #include <QFileInfo>
 #include <QUrl>
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -24,25 +23,10 @@ namespace {
 const QString emptyPage = u"about:blank"_s;
 const QString serverCopy = u"prevzephirafile.asp"_s;
 
-/// What the preview makes of a document.
-enum class PreviewKind {
-    None,       ///< a page that says that there is no preview
-    Page,       ///< the document itself, which is a page whatever its name says
-    File,       ///< the document itself, as a browser shows such a file
-    StyleSheet, ///< a sample page that the document styles
-    Unchanged,  ///< the view goes on showing what it held
-};
-
-/// By the rows of the language list.
-constexpr std::array previewKinds = {
-    PreviewKind::None, PreviewKind::Page, PreviewKind::None, PreviewKind::None,       PreviewKind::File,
-    PreviewKind::None, PreviewKind::None, PreviewKind::File, PreviewKind::StyleSheet, PreviewKind::Unchanged,
-};
-
-PreviewKind previewKind(int languageRow)
+PreviewKind previewKind(int row)
 {
-    return languageRow >= 0 && size_t(languageRow) < previewKinds.size() ? previewKinds[size_t(languageRow)]
-                                                                         : PreviewKind::Unchanged;
+    const LanguageRow *language = languageRow(row);
+    return language ? language->preview : PreviewKind::Unchanged;
 }
 
 /// The question before a page is copied into the server's folder under a name.
@@ -159,7 +143,7 @@ void WorkspaceViews::previewStyleSheet()
 void WorkspaceViews::previewFile(FileKind kind)
 {
     const QString name = m_context.document.commonDialogFile();
-    if (name.endsWith(u".asp", Qt::CaseInsensitive)) {
+    if (isServerPage(name)) {
         previewThroughServer(fileTitleOf(name));
         return;
     }
@@ -183,8 +167,8 @@ QString WorkspaceViews::temporaryFile(const QString &name) const
 /// It stays there: nothing but the server's own files tells who needs it.
 void WorkspaceViews::previewThroughServer(const QString &name)
 {
-    const QString serverRoot = m_context.configuration.value(u"server"_s, u"root"_s);
-    const QString server = m_context.configuration.value(u"server"_s, u"url"_s);
+    const QString serverRoot = m_context.configuration.value(Setting::ServerRoot);
+    const QString server = m_context.configuration.value(Setting::ServerAddress);
     const bool isTaken = m_context.files.FileExists(serverRoot + name);
     const Question question = isTaken
         ? serverQuestion(serverCopy,

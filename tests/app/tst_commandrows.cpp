@@ -10,7 +10,7 @@
 #include "commands/toolbars.h"
 #include "commands/toolbartable.h"
 #include "core/documenthost.h"
-#include "document/languages.h"
+#include "core/languages.h"
 #include "support/testregistry.h"
 
 #include <QMenuBar>

@@ -188,7 +188,7 @@ private Q_SLOTS:
         Bench bench;
         bench.write(u"site/a.one"_s, "");
         bench.write(u"site/a.txt"_s, "");
-        QVERIFY(bench.configuration.setValue(u"Filters"_s, u"Filters"_s, u"*.one"_s));
+        QVERIFY(bench.configuration.setValue(Setting::FileFilters, u"*.one"_s));
         bench.start();
         bench.listSite();
         QCOMPARE(bench.list().names(), QStringList{u"a.one"_s});
@@ -351,7 +351,7 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.write(u"site/a.jpeg"_s, "bytes");
-        QVERIFY(bench.configuration.setValue(u"Filters"_s, u"Filters"_s, u"*.*"_s));
+        QVERIFY(bench.configuration.setValue(Setting::FileFilters, u"*.*"_s));
         frmmain &window = bench.start();
         bench.listSite();
         bench.setLanguage(u"HTML"_s);
@@ -373,7 +373,7 @@ private Q_SLOTS:
         QFETCH(bool, open);
         Bench bench;
         bench.write(u"site/a.txt"_s, "a");
-        QVERIFY(bench.configuration.setValue(u"Filters"_s, u"Filters"_s, filters));
+        QVERIFY(bench.configuration.setValue(Setting::FileFilters, filters));
         bench.start();
         bench.listSite();
         bench.openMenu();
@@ -524,12 +524,12 @@ private Q_SLOTS:
         Bench bench;
         bench.write(u"site/a.txt"_s, "");
         bench.write(u"site/b.htm"_s, "");
-        QVERIFY(bench.configuration.setValue(u"Filters"_s, u"Filters"_s, u"*.txt"_s));
+        QVERIFY(bench.configuration.setValue(Setting::FileFilters, u"*.txt"_s));
         bench.start();
         bench.listSite();
         bench.prompts.expectInput(bench.filtersRequest(u"*.txt"_s), reply.isNull() ? std::optional<QString>() : reply);
         bench.choose(u"mnuef"_s);
-        QCOMPARE(bench.configuration.value(u"Filters"_s, u"Filters"_s), stored);
+        QCOMPARE(bench.configuration.value(Setting::FileFilters), stored);
         QCOMPARE(bench.file().pattern(), stored);
         QCOMPARE(bench.list().names(), QStringList{u"a.txt"_s}); // Until the next folder is chosen.
     }
@@ -651,7 +651,7 @@ private Q_SLOTS:
         QFETCH(bool, root);
         Bench bench;
         const QString file = bench.write(u"site/a.txt"_s, "a");
-        QVERIFY(bench.configuration.setValue(u"startup"_s, u"rootsel"_s, value));
+        QVERIFY(bench.configuration.setValue(Setting::RootSelection, value));
         bench.start(file);
         QCOMPARE(bench.tree().rootFolder(), root ? bench.site() : QString());
         QCOMPARE(bench.tree().selectedFolder(), bench.site());

@@ -77,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(window.rt().highlightedLine(), 2);
         bench.choose(u"highlightlines"_s);
         QCOMPARE(window.rt().highlightedLine(), -1);
-        QCOMPARE(bench.configuration.value(u"options"_s, u"highlight"_s), u"0"_s);
+        QCOMPARE(bench.configuration.value(Setting::HighlightLine), u"0"_s);
     }
 
     void languagesOpenAndCloseTheMarkupTools_data()

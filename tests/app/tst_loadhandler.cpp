@@ -36,7 +36,7 @@ private Q_SLOTS:
     void aFailingStepEndsTheStart()
     {
         WindowBench bench;
-        bench.configuration.setValue(u"options"_s, u"whitespace"_s, u"perhaps"_s);
+        bench.configuration.setValue(Setting::Whitespace, u"perhaps"_s);
         QString message;
         try {
             bench.start();
@@ -60,9 +60,10 @@ private Q_SLOTS:
         QVERIFY(rt.displayLeftMargin());
         QVERIFY(!rt.displayWhitespace());
         QVERIFY(!rt.selBounds());
-        QCOMPARE(rt.editorFont().name, bench.configuration.value(u"font"_s, u"name"_s));
-        QCOMPARE(rt.color(KeywordFore), quint32(bench.configuration.value(u"Colors"_s, u"clr5fr"_s).toInt()));
-        QCOMPARE(rt.fontStyle(KeywordFont), bench.configuration.value(u"Colors"_s, u"clr5fnt"_s).toInt());
+        QCOMPARE(rt.editorFont().name, bench.configuration.value(Setting::FontName));
+        QCOMPARE(rt.color(KeywordFore),
+                 quint32(bench.configuration.value(colourSetting(5, ColourPart::Foreground)).toInt()));
+        QCOMPARE(rt.fontStyle(KeywordFont), bench.configuration.value(colourSetting(5, ColourPart::FontStyle)).toInt());
         QVERIFY(bench.find<QAction>(u"highlightlines"_s)->isChecked());
         QVERIFY(!bench.find<QAction>(u"mnuviewtip"_s)->isChecked());
         QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentIndex(), 0);
@@ -73,12 +74,12 @@ private Q_SLOTS:
     void otherSettingsAreAppliedToo()
     {
         WindowBench bench;
-        for (const auto &[key, value] : std::map<QString, QString>{{u"highlight"_s, u"0"_s},
-                                                                   {u"linenumber"_s, u"0"_s},
-                                                                   {u"leftmargin"_s, u"0"_s},
-                                                                   {u"whitespace"_s, u"1"_s},
-                                                                   {u"selbounds"_s, u"1"_s}})
-            QVERIFY(bench.configuration.setValue(u"OPTIONS"_s, key, value));
+        for (const auto &[setting, value] : std::map<Setting, QString>{{Setting::HighlightLine, u"0"_s},
+                                                                       {Setting::LineNumbers, u"0"_s},
+                                                                       {Setting::LeftMargin, u"0"_s},
+                                                                       {Setting::Whitespace, u"1"_s},
+                                                                       {Setting::SelectionBounds, u"1"_s}})
+            QVERIFY(bench.configuration.setValue(setting, value));
         frmmain &window = bench.start();
         QVERIFY(!bench.find<QAction>(u"highlightlines"_s)->isChecked());
         QVERIFY(!window.rt().lineNumbering());
@@ -98,7 +99,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, value);
         WindowBench bench;
-        QVERIFY(bench.configuration.setValue(u"startup"_s, u"rootsel"_s, value));
+        QVERIFY(bench.configuration.setValue(Setting::RootSelection, value));
         QTEST(bench.start().rootSelect(), "root");
     }
 

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startdecision.h"
-#include "core/errorstyles.h"
-#include "support/fakes.h"
 #include "support/testregistry.h"
 
 #include <QTest>
@@ -62,42 +60,6 @@ private Q_SLOTS:
         QFETCH(QString, selprj);
         QFETCH(Actions, actions);
         QVERIFY(startActions(argument, tips, selprj) == actions);
-    }
-
-    void requiredNumber_data()
-    {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("message"); // empty: converts
-        QTest::newRow("one") << u"1"_s << u""_s;
-        QTest::newRow("negative") << u"-7"_s << u""_s;
-        QTest::newRow("missing")
-            << u""_s
-            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini is missing."_s;
-        QTest::newRow("word")
-            << u"yes"_s
-            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini isn't a number (\"yes\")."_s;
-        QTest::newRow("too long")
-            << u"99999999999"_s
-            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini isn't a "
-               u"number (\"99999999999\")."_s;
-    }
-
-    void requiredNumber()
-    {
-        QFETCH(QString, value);
-        QFETCH(QString, message);
-        MemoryConfiguration configuration;
-        configuration.put(u"options"_s, u"highlight"_s, value);
-        QString raised;
-        int number = 0;
-        try {
-            number = zephira::requiredNumber(configuration, u"options"_s, u"highlight"_s, u"/x/zephira.ini"_s);
-        } catch (const HandlerError &error) {
-            raised = error.description;
-        }
-        QCOMPARE(raised, message);
-        if (message.isEmpty())
-            QCOMPARE(QString::number(number), value);
     }
 };
 

@@ -211,8 +211,8 @@ private Q_SLOTS:
         WebBench bench(u"a.asp"_s, "<title>mine</title>");
         const QString root = bench.write(u"www/other.txt"_s, "x").chopped(9);
         server.serveFolder(root);
-        QVERIFY(bench.configuration.setValue(u"server"_s, u"root"_s, root));
-        QVERIFY(bench.configuration.setValue(u"server"_s, u"url"_s, server.address({})));
+        QVERIFY(bench.configuration.setValue(Setting::ServerRoot, root));
+        QVERIFY(bench.configuration.setValue(Setting::ServerAddress, server.address({})));
         if (taken)
             bench.write(u"www/a.asp"_s, "<title>theirs</title>");
         const QString copy = taken ? u"prevzephirafile.asp"_s : u"a.asp"_s;

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/settingsnames.h"
 #include "routerbench.h"
 #include "support/testregistry.h"
 #include "views/designercommands.h"
@@ -416,9 +415,7 @@ void TstCommandRouter::highlightedLinesToggle()
 void TstCommandRouter::tipsToggle()
 {
     RouterBench bench;
-    const auto stored = [&] {
-        return bench.world.settings.GetSetting(executableBranch(), u"Options"_s, u"Show Tips at Startup"_s, u"none"_s);
-    };
+    const auto stored = [&] { return bench.world.settings.values[u"zephira/Options/Show Tips at Startup"_s]; };
     bench.menu(u"mnuviewtip"_s);
     QVERIFY(bench.window.isChecked(u"mnuviewtip"_s));
     QCOMPARE(stored(), u"1"_s);
@@ -436,8 +433,8 @@ void TstCommandRouter::fontIsAppliedAndKept()
     bench.menu(u"font"_s);
     QCOMPARE(bench.world.editor.font, chosen);
     QCOMPARE(bench.world.configuration.log,
-             (QStringList{u"[Font] Bold=True"_s, u"[Font] Italic=False"_s, u"[Font] Name=Courier New"_s,
-                          u"[Font] Size=12.5"_s, u"[Font] Strikethrough=True"_s, u"[Font] Underline=False"_s}));
+             (QStringList{u"[font] bold=True"_s, u"[font] italic=False"_s, u"[font] name=Courier New"_s,
+                          u"[font] size=12.5"_s, u"[font] strikethrough=True"_s, u"[font] underline=False"_s}));
 }
 
 void TstCommandRouter::fontKeepsWhatTheControlMadeOfIt()
@@ -447,8 +444,8 @@ void TstCommandRouter::fontKeepsWhatTheControlMadeOfIt()
     bench.world.prompts.expectFont(bench.world.editor.font, chosen);
     bench.menu(u"font"_s);
     QCOMPARE(bench.world.configuration.log,
-             (QStringList{u"[Font] Bold=False"_s, u"[Font] Italic=True"_s, u"[Font] Name=Mono"_s, u"[Font] Size=10"_s,
-                          u"[Font] Strikethrough=False"_s, u"[Font] Underline=True"_s}));
+             (QStringList{u"[font] bold=False"_s, u"[font] italic=True"_s, u"[font] name=Mono"_s, u"[font] size=10"_s,
+                          u"[font] strikethrough=False"_s, u"[font] underline=True"_s}));
 }
 
 void TstCommandRouter::fontCancelled()

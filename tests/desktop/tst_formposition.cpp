@@ -16,16 +16,18 @@ struct OrderedSettings final : UserSettings {
     MemoryUserSettings store;
     mutable QStringList keys;
 
-    QString GetSetting(const QString &branch, const QString &section, const QString &key,
-                       const QString &fallback) const override
+private:
+    QString read(const QString &branch, const QString &section, const QString &key,
+                 const QString &fallback) const override
     {
         keys.append(key);
-        return store.GetSetting(branch, section, key, fallback);
+        const auto entry = store.values.find(branch + u'/' + section + u'/' + key);
+        return entry == store.values.end() ? fallback : entry->second;
     }
-    void SaveSetting(const QString &branch, const QString &section, const QString &key, const QString &value) override
+    void write(const QString &branch, const QString &section, const QString &key, const QString &value) override
     {
         keys.append(key);
-        store.SaveSetting(branch, section, key, value);
+        store.values[branch + u'/' + section + u'/' + key] = value;
     }
 };
 
@@ -57,7 +59,7 @@ private:
     {
         m_settings->store.values[u"zephira/frmmain/"_s + QLatin1StringView(key)] = value;
     }
-    void position(bool saving) { FormPosition(*m_form, saving, *m_settings, u"zephira"_s); }
+    void position(bool saving) { FormPosition(*m_form, saving, *m_settings); }
 
     std::unique_ptr<OrderedSettings> m_settings;
     std::unique_ptr<QWidget> m_form;
@@ -143,7 +145,7 @@ void TstFormPosition::maximisedAndBack()
 
     QWidget next;
     next.setObjectName(u"frmmain"_s);
-    FormPosition(next, false, *m_settings, u"zephira"_s);
+    FormPosition(next, false, *m_settings);
     QVERIFY(next.isMaximized());
     next.show();
     next.setWindowState(Qt::WindowNoState);

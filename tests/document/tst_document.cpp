@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/languages.h"
 #include "document/document.h"
-#include "document/languages.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 
@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto openFilter =
+constexpr auto requiredOpenFilter =
     u"All Supported Files|*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*.java;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;"
     u"*.bas;*.frm;*.vbp;*.sql|All Files|*.*|Text / INI / LOG Files|*.txt;*.ini;*.log|Html Files|*.html;*.htm|Java / Script "
     u"Files|*.js;*.java|Style Sheets|*.cs|C/C++ Files|*.c;*.cpp;*.h|Perl Files|*.pl|CGI/Perl Files|*.cgi|XML Files|*.xml|"
@@ -77,7 +77,7 @@ struct Bench {
 
     FileRequest openRequest() const
     {
-        return {u"Open a document..."_s, QStringView(openFilter).toString(), {}, false, dialog.fileName};
+        return {u"Open a document..."_s, QStringView(requiredOpenFilter).toString(), {}, false, dialog.fileName};
     }
 
     FileRequest saveRequest(const QString &filter = u"Text Files|*.txt|All Files|*.*"_s,

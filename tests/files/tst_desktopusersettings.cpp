@@ -24,7 +24,7 @@ private Q_SLOTS:
 
     void fallbackWhereNothingIsStored()
     {
-        QCOMPARE(m_settings.GetSetting(u"zephira"_s, u"Options"_s, u"Show Tips at Startup"_s, u"1"_s), u"1"_s);
+        QCOMPARE(m_settings.read(u"zephira"_s, u"Options"_s, u"Show Tips at Startup"_s, u"1"_s), u"1"_s);
     }
 
     void valuesComeBack_data()
@@ -56,20 +56,20 @@ private Q_SLOTS:
         QFETCH(QString, section);
         QFETCH(QString, key);
         QFETCH(QString, value);
-        m_settings.SaveSetting(branch, section, key, value);
-        QCOMPARE(DesktopUserSettings().GetSetting(branch, section, key, u"fallback"_s), value);
+        m_settings.write(branch, section, key, value);
+        QCOMPARE(DesktopUserSettings().read(branch, section, key, u"fallback"_s), value);
     }
 
     void allAreKeptApart()
     {
-        QCOMPARE(m_settings.GetSetting(u"a/b"_s, u"c"_s, u"d"_s, u""_s), u"1"_s);
-        QCOMPARE(m_settings.GetSetting(u"a"_s, u"b/c"_s, u"d"_s, u""_s), u"2"_s);
-        QCOMPARE(m_settings.GetSetting(u"a%2Fb"_s, u"c"_s, u"d"_s, u""_s), u"4"_s);
+        QCOMPARE(m_settings.read(u"a/b"_s, u"c"_s, u"d"_s, u""_s), u"1"_s);
+        QCOMPARE(m_settings.read(u"a"_s, u"b/c"_s, u"d"_s, u""_s), u"2"_s);
+        QCOMPARE(m_settings.read(u"a%2Fb"_s, u"c"_s, u"d"_s, u""_s), u"4"_s);
     }
 
     void isWrittenAtOnce()
     {
-        m_settings.SaveSetting(u"Zephira"_s, u"data"_s, u"version"_s, u"210"_s);
+        m_settings.write(u"Zephira"_s, u"data"_s, u"version"_s, u"210"_s);
         QVERIFY(DesktopUserSettings::fileName().startsWith(m_folder.path() + u"/Zephira/"_s));
         QFile file(DesktopUserSettings::fileName());
         QVERIFY(file.open(QIODevice::ReadOnly));

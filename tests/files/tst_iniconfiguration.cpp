@@ -132,10 +132,10 @@ private Q_SLOTS:
     void configurationIsTheFile()
     {
         IniConfiguration configuration(ini());
-        QVERIFY(configuration.setValue(u"Filters"_s, u"Filters"_s, u"*.htm;*css"_s));
+        QVERIFY(configuration.setValue(Setting::FileFilters, u"*.htm;*css"_s));
         QCOMPARE(ReadIni(u"filters"_s, u"filters"_s, ini()), u"*.htm;*css"_s);
         QVERIFY(WriteIni(u"font"_s, u"size"_s, u"12"_s, ini()));
-        QCOMPARE(configuration.value(u"Font"_s, u"Size"_s), u"12"_s);
+        QCOMPARE(configuration.value(Setting::FontSize), u"12"_s);
         QCOMPARE(configuration.file(), ini());
     }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/settings.h"
 #include "files/iniconfiguration.h"
 #include "support/sourcefolder.h"
 #include "support/testregistry.h"
@@ -48,6 +49,7 @@ class TstShippedData : public QObject
 private Q_SLOTS:
     void values_data();
     void values();
+    void isTheTableOfSettings();
     void colourRows();
     void textIsReadable_data();
     void textIsReadable();
@@ -91,6 +93,27 @@ void TstShippedData::values()
     QFETCH(QString, section);
     QFETCH(QString, key);
     QTEST(shipped(section, key), "value");
+}
+
+void TstShippedData::isTheTableOfSettings()
+{
+    QStringList expected;
+    for (const SettingRow &row : settingRows())
+        expected.append(u"[%1] %2=%3"_s.arg(row.section.toLower(), row.key, row.shipped));
+    QFile file(dataFolder + u"zephira.ini"_s);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QStringList found;
+    QString section;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        if (line.startsWith(u'['))
+            section = line.toLower();
+        else if (!line.isEmpty() && !line.startsWith(u';'))
+            found.append(section + u' ' + line);
+    }
+    // Within a colour the file puts the foreground first, as one reads it.
+    expected.sort();
+    found.sort();
+    QCOMPARE(found, expected);
 }
 
 void TstShippedData::colourRows()

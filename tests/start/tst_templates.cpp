@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/languages.h"
 #include "start/customtemplates.h"
 #include "start/templates.h"
 #include "support/fakes.h"
@@ -149,7 +150,7 @@ void TstTemplates::languageByName()
     const auto language = languageOfTemplate(name);
     QCOMPARE(language.has_value(), row >= 0);
     if (language)
-        QCOMPARE(*language, (TemplateLanguage{row, editorLanguage}));
+        QCOMPARE(*language, (LanguageChoice{row, editorLanguage}));
 }
 
 void TstTemplates::text_data()

@@ -122,13 +122,13 @@ FileSignature MemoryFileStore::signature(const QString &path) const
     return {true, 1, 1, entry->second.size(), static_cast<qint64>(qHash(entry->second))};
 }
 
-QString MemoryConfiguration::value(const QString &section, const QString &key) const
+QString MemoryConfiguration::read(const QString &section, const QString &key) const
 {
     const auto entry = m_values.find(keyOf(section, key));
     return entry == m_values.end() ? QString() : entry->second;
 }
 
-bool MemoryConfiguration::setValue(const QString &section, const QString &key, const QString &value)
+bool MemoryConfiguration::write(const QString &section, const QString &key, const QString &value)
 {
     if (!writable)
         return false;
@@ -142,15 +142,14 @@ void MemoryConfiguration::put(const QString &section, const QString &key, const 
     m_values[keyOf(section, key)] = value;
 }
 
-QString MemoryUserSettings::GetSetting(const QString &branch, const QString &section, const QString &key,
-                                       const QString &fallback) const
+QString MemoryUserSettings::read(const QString &branch, const QString &section, const QString &key,
+                                 const QString &fallback) const
 {
     const auto entry = values.find(branch + u'/' + section + u'/' + key);
     return entry == values.end() ? fallback : entry->second;
 }
 
-void MemoryUserSettings::SaveSetting(const QString &branch, const QString &section, const QString &key,
-                                     const QString &value)
+void MemoryUserSettings::write(const QString &branch, const QString &section, const QString &key, const QString &value)
 {
     values[branch + u'/' + section + u'/' + key] = value;
 }

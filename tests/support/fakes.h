@@ -200,12 +200,16 @@ struct MemoryConfiguration final : Configuration {
     /// Values written, in order: "[section] key=value".
     QStringList log;
 
-    QString value(const QString &section, const QString &key) const override;
-    bool setValue(const QString &section, const QString &key, const QString &value) override;
+    using Configuration::value;
+    /// What is there, by its names.
+    QString value(const QString &section, const QString &key) const { return read(section, key); }
     /// Sets a value before the test, without an entry in the log.
     void put(const QString &section, const QString &key, const QString &value);
 
 private:
+    QString read(const QString &section, const QString &key) const override;
+    bool write(const QString &section, const QString &key, const QString &value) override;
+
     std::map<QString, QString> m_values;
 };
 
@@ -213,9 +217,10 @@ struct MemoryUserSettings final : UserSettings {
     /// Values by "branch/section/key".
     std::map<QString, QString> values;
 
-    QString GetSetting(const QString &branch, const QString &section, const QString &key,
-                       const QString &fallback) const override;
-    void SaveSetting(const QString &branch, const QString &section, const QString &key, const QString &value) override;
+private:
+    QString read(const QString &branch, const QString &section, const QString &key,
+                 const QString &fallback) const override;
+    void write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
 };
 
 /// One of each, and the context made of them. The prompts come first, so that what they find left over is told last.

@@ -133,10 +133,10 @@ private Q_SLOTS:
         configuration.put(u"Font"_s, u"Name"_s, u"Mono"_s);
         QCOMPARE(configuration.value(u"FONT"_s, u"name"_s), u"Mono"_s);
         QVERIFY(configuration.log.isEmpty());
-        QVERIFY(configuration.setValue(u"font"_s, u"Size"_s, u"9"_s));
-        QCOMPARE(configuration.log, QStringList{u"[font] Size=9"_s});
+        QVERIFY(configuration.setValue(Setting::FontSize, u"9"_s));
+        QCOMPARE(configuration.log, QStringList{u"[font] size=9"_s});
         configuration.writable = false;
-        QVERIFY(!configuration.setValue(u"font"_s, u"Size"_s, u"10"_s));
+        QVERIFY(!configuration.setValue(Setting::FontSize, u"10"_s));
         QCOMPARE(configuration.value(u"Font"_s, u"SIZE"_s), u"9"_s);
     }
 

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/settings.h"
+
+#include "core/configuration.h"
+#include "core/editoritems.h"
+#include "core/errorstyles.h"
+#include "core/languages.h"
+#include "core/vbtext.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr int customTabCount = int(Setting::LastCustomTab) - int(Setting::FirstCustomTab) + 1;
+constexpr int partsOfColour = 3;
+
+Setting behind(Setting first, int places)
+{
+    return static_cast<Setting>(static_cast<int>(first) + places);
+}
+
+void addCustomTabs(std::vector<SettingRow> &rows)
+{
+    const QString files[customTabCount] = {u"css.txt"_s,     u"atrules.txt"_s, u"html.txt"_s,
+                                           u"scripts.txt"_s, u"aria.txt"_s,    u"entities.txt"_s};
+    for (int tab = 1; tab <= customTabCount; ++tab) {
+        rows.push_back({customTabSetting(tab), u"ctab"_s, QString::number(tab), SettingKind::Path,
+                        SettingApplies::AtUse, files[tab - 1]});
+    }
+}
+
+/// What ships for a kind of text.
+struct ShippedColours {
+    int foreground;
+    int background = -1;
+    int fontStyle = 0;
+};
+
+constexpr std::array<ShippedColours, appearanceRows.size()> shippedColours{{
+    {11034398, 16246486}, // bookmark
+    {6253403, -1, 2},     // comment
+    {14275017},           // horizontal divider lines
+    {15328221},           // vertical divider lines
+    {16512753},           // highlighted line
+    {10366586, -1, 1},    // keyword
+    {16447734},           // left margin
+    {7760735, 16447734},  // line number
+    {19087},              // number
+    {5721151},            // operator
+    {7299072, -1, 1},     // scope keyword
+    {3435290},            // string
+    {10835211, -1, 1},    // tag element name
+    {8007562},            // tag entity
+    {999577},             // tag attribute name
+    {3352863},            // tag text
+    {3352863},            // text
+    {16777215},           // window
+}};
+
+void addColours(std::vector<SettingRow> &rows)
+{
+    for (int row = 0; row < std::ssize(shippedColours); ++row) {
+        const ShippedColours &shipped = shippedColours[size_t(row)];
+        const auto add = [&](ColourPart part, QStringView end, SettingKind kind, int value) {
+            rows.push_back({colourSetting(row, part), u"Colors"_s, u"clr%1%2"_s.arg(row).arg(end), kind,
+                            SettingApplies::InEditor, QString::number(value), true});
+        };
+        add(ColourPart::Background, u"bg", SettingKind::Colour, shipped.background);
+        add(ColourPart::Foreground, u"fr", SettingKind::Colour, shipped.foreground);
+        add(ColourPart::FontStyle, u"fnt", SettingKind::FontStyle, shipped.fontStyle);
+    }
+}
+
+std::vector<SettingRow> makeSettingRows()
+{
+    using enum Setting;
+    using enum SettingKind;
+    using enum SettingApplies;
+    // clang-format off: a row a line
+    std::vector<SettingRow> rows = {
+        {StartDialog, u"Startup"_s, u"selprj"_s, Switch, AtStart, u"0"_s},
+        {RootSelection, u"startup"_s, u"rootsel"_s, Number, AtStart, u"2"_s, true},
+        {HighlightLine, u"options"_s, u"highlight"_s, Switch, AtStart, u"1"_s, true},
+        {LineNumbers, u"options"_s, u"linenumber"_s, Switch, InEditor, u"1"_s, true},
+        {LeftMargin, u"options"_s, u"leftmargin"_s, Switch, InEditor, u"1"_s, true},
+        {Whitespace, u"options"_s, u"whitespace"_s, Switch, InEditor, u"0"_s, true},
+        {SelectionBounds, u"options"_s, u"selbounds"_s, Switch, InEditor, u"0"_s, true},
+        {FontName, u"font"_s, u"name"_s, Text, InEditor, u"Liberation Mono"_s},
+        {FontSize, u"font"_s, u"size"_s, Measure, InEditor, u"10"_s},
+        {FontBold, u"font"_s, u"bold"_s, Truth, InEditor, u"False"_s},
+        {FontItalic, u"font"_s, u"italic"_s, Truth, InEditor, u"False"_s},
+        {FontStrikethrough, u"font"_s, u"strikethrough"_s, Truth, InEditor, u"False"_s},
+        {FontUnderline, u"font"_s, u"underline"_s, Truth, InEditor, u"False"_s},
+        {FileFilters, u"Filters"_s, u"Filters"_s, Patterns, AtStart, defaultFilters()},
+    };
+    addCustomTabs(rows);
+    rows.insert(rows.end(),
+                {
+                    {BrowserPath, u"Paths"_s, u"IEPATH"_s, Path, AtUse, {}},
+                    {ServerRoot, u"server"_s, u"root"_s, Path, AtUse, {}},
+                    {ServerAddress, u"server"_s, u"url"_s, Text, AtUse, {}},
+                });
+    // clang-format on
+    addColours(rows);
+    return rows;
+}
+
+std::vector<UserSettingRow> makeUserSettingRows()
+{
+    using enum UserSetting;
+    using enum SettingKind;
+    using enum SettingApplies;
+    // The branch of this executable, and the one that every copy of the program shares, whatever it is called.
+    const QString own = u"zephira"_s;
+    const QString shared = u"Zephira"_s;
+    // clang-format off: a row a line
+    return {
+        {ShowTips, own, u"Options"_s, u"Show Tips at Startup"_s, Switch, AtStart, u"1"_s},
+        {ProgramFolder, shared, u"data"_s, u"apppath"_s, Path, AtStart},
+        {ProgramVersion, shared, u"data"_s, u"version"_s, Text, AtStart},
+        {WindowState, own, {}, u"WindowState"_s, Number, AtStart},
+        {WindowTop, own, {}, u"Top"_s, Number, AtStart},
+        {WindowLeft, own, {}, u"Left"_s, Number, AtStart},
+        {WindowHeight, own, {}, u"Height"_s, Number, AtStart},
+        {WindowWidth, own, {}, u"Width"_s, Number, AtStart},
+    };
+    // clang-format on
+}
+
+} // namespace
+
+const std::vector<SettingRow> &settingRows()
+{
+    static const std::vector<SettingRow> rows = makeSettingRows();
+    return rows;
+}
+
+const SettingRow &settingRow(Setting setting)
+{
+    return settingRows().at(static_cast<size_t>(setting));
+}
+
+Setting customTabSetting(int tab)
+{
+    return behind(Setting::FirstCustomTab, tab - 1);
+}
+
+Setting colourSetting(int row, ColourPart part)
+{
+    return behind(Setting::FirstColour, row * partsOfColour + static_cast<int>(part));
+}
+
+bool isSwitchedOn(const Configuration &configuration, Setting setting)
+{
+    return configuration.value(setting) == u"1"_s;
+}
+
+bool writeSwitch(Configuration &configuration, Setting setting, bool on)
+{
+    return configuration.setValue(setting, on ? u"1"_s : u"0"_s);
+}
+
+bool isTrue(const Configuration &configuration, Setting setting)
+{
+    return configuration.value(setting).compare(u"True"_s, Qt::CaseInsensitive) == 0;
+}
+
+bool writeTruth(Configuration &configuration, Setting setting, bool value)
+{
+    return configuration.setValue(setting, value ? u"True"_s : u"False"_s);
+}
+
+int requiredNumber(const Configuration &configuration, Setting setting, const QString &file)
+{
+    const QString text = configuration.value(setting);
+    try {
+        return CLng(text);
+    } catch (const HandlerError &) {
+        const SettingRow &row = settingRow(setting);
+        const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
+        throw HandlerError{u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section,
+                                                                                                  file, problem)};
+    }
+}
+
+const std::vector<UserSettingRow> &userSettingRows()
+{
+    static const std::vector<UserSettingRow> rows = makeUserSettingRows();
+    return rows;
+}
+
+const UserSettingRow &userSettingRow(UserSetting setting)
+{
+    return userSettingRows().at(static_cast<size_t>(setting));
+}
+
+} // namespace zephira

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/editoritems.h"
+#include "core/errorstyles.h"
+#include "support/fakes.h"
+#include "support/testregistry.h"
+
+#include <QSet>
+#include <QTest>
+
+using namespace zephira;
+using namespace Qt::StringLiterals;
+
+class TstSettings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rowsStandWhereTheirNamesSay()
+    {
+        for (size_t i = 0; i < settingRows().size(); ++i)
+            QCOMPARE(size_t(settingRows()[i].setting), i);
+        for (size_t i = 0; i < userSettingRows().size(); ++i)
+            QCOMPARE(size_t(userSettingRows()[i].setting), i);
+    }
+
+    void everyKeyStandsOnce()
+    {
+        QSet<QString> keys;
+        for (const SettingRow &row : settingRows())
+            keys.insert(u"[%1] %2"_s.arg(row.section, row.key).toLower());
+        QCOMPARE(size_t(keys.size()), settingRows().size());
+    }
+
+    void keys_data()
+    {
+        QTest::addColumn<Setting>("setting");
+        QTest::addColumn<QString>("key"); // "[section] key"
+        QTest::addColumn<bool>("isRequired");
+        const auto add = [](Setting setting, const char *key, bool isRequired) {
+            QTest::newRow(key) << setting << QString::fromLatin1(key) << isRequired;
+        };
+        add(Setting::StartDialog, "[startup] selprj", false);
+        add(Setting::RootSelection, "[startup] rootsel", true);
+        add(Setting::HighlightLine, "[options] highlight", true);
+        add(Setting::LineNumbers, "[options] linenumber", true);
+        add(Setting::LeftMargin, "[options] leftmargin", true);
+        add(Setting::Whitespace, "[options] whitespace", true);
+        add(Setting::SelectionBounds, "[options] selbounds", true);
+        add(Setting::FontName, "[font] name", false);
+        add(Setting::FontSize, "[font] size", false);
+        add(Setting::FontBold, "[font] bold", false);
+        add(Setting::FontItalic, "[font] italic", false);
+        add(Setting::FontStrikethrough, "[font] strikethrough", false);
+        add(Setting::FontUnderline, "[font] underline", false);
+        add(Setting::FileFilters, "[filters] filters", false);
+        add(customTabSetting(1), "[ctab] 1", false);
+        add(customTabSetting(6), "[ctab] 6", false);
+        add(Setting::BrowserPath, "[paths] iepath", false);
+        add(Setting::ServerRoot, "[server] root", false);
+        add(Setting::ServerAddress, "[server] url", false);
+        add(colourSetting(0, ColourPart::Background), "[colors] clr0bg", true);
+        add(colourSetting(3, ColourPart::Foreground), "[colors] clr3fr", true);
+        add(colourSetting(17, ColourPart::FontStyle), "[colors] clr17fnt", true);
+    }
+
+    void keys()
+    {
+        QFETCH(Setting, setting);
+        const SettingRow &row = settingRow(setting);
+        QTEST(u"[%1] %2"_s.arg(row.section, row.key).toLower(), "key");
+        QTEST(row.isRequired, "isRequired");
+    }
+
+    void coloursAreTheLastRows()
+    {
+        QCOMPARE(settingRows().size(), size_t(Setting::FirstColour) + 3 * appearanceRows.size());
+        QCOMPARE(settingRows().back().setting, colourSetting(17, ColourPart::FontStyle));
+    }
+
+    void userValues_data()
+    {
+        QTest::addColumn<UserSetting>("setting");
+        QTest::addColumn<QString>("place"); // branch/section/key, a form's own section under "frmmain"
+        QTest::newRow("tips") << UserSetting::ShowTips << u"zephira/Options/Show Tips at Startup"_s;
+        QTest::newRow("folder") << UserSetting::ProgramFolder << u"Zephira/data/apppath"_s;
+        QTest::newRow("version") << UserSetting::ProgramVersion << u"Zephira/data/version"_s;
+        QTest::newRow("state") << UserSetting::WindowState << u"zephira/frmmain/WindowState"_s;
+        QTest::newRow("top") << UserSetting::WindowTop << u"zephira/frmmain/Top"_s;
+        QTest::newRow("left") << UserSetting::WindowLeft << u"zephira/frmmain/Left"_s;
+        QTest::newRow("height") << UserSetting::WindowHeight << u"zephira/frmmain/Height"_s;
+        QTest::newRow("width") << UserSetting::WindowWidth << u"zephira/frmmain/Width"_s;
+    }
+
+    void userValues()
+    {
+        QFETCH(UserSetting, setting);
+        QFETCH(QString, place);
+        MemoryUserSettings settings;
+        if (userSettingRow(setting).section.isEmpty())
+            settings.SaveSetting(setting, u"frmmain"_s, u"here"_s);
+        else
+            settings.SaveSetting(setting, u"here"_s);
+        QCOMPARE(settings.values, (std::map<QString, QString>{{place, u"here"_s}}));
+    }
+
+    void tipsShowUntilTheyAreSwitchedOff()
+    {
+        MemoryUserSettings settings;
+        QCOMPARE(settings.GetSetting(UserSetting::ShowTips), u"1"_s);
+        settings.SaveSetting(UserSetting::ShowTips, u"0"_s);
+        QCOMPARE(settings.GetSetting(UserSetting::ShowTips), u"0"_s);
+    }
+
+    void switchesAreExact()
+    {
+        MemoryConfiguration configuration;
+        const Configuration &read = configuration;
+        QVERIFY(!isSwitchedOn(read, Setting::StartDialog));
+        for (const QString &value : {u"01"_s, u"0"_s, u"True"_s}) {
+            configuration.put(u"Startup"_s, u"selprj"_s, value);
+            QVERIFY(!isSwitchedOn(read, Setting::StartDialog));
+        }
+        writeSwitch(configuration, Setting::StartDialog, true);
+        QVERIFY(isSwitchedOn(read, Setting::StartDialog));
+        writeSwitch(configuration, Setting::StartDialog, false);
+        QCOMPARE(configuration.log, (QStringList{u"[Startup] selprj=1"_s, u"[Startup] selprj=0"_s}));
+    }
+
+    void truthIsAWord()
+    {
+        MemoryConfiguration configuration;
+        QVERIFY(!isTrue(configuration, Setting::FontBold));
+        configuration.put(u"font"_s, u"bold"_s, u"tRUE"_s);
+        QVERIFY(isTrue(configuration, Setting::FontBold));
+        writeTruth(configuration, Setting::FontBold, false);
+        QVERIFY(!isTrue(configuration, Setting::FontBold));
+        writeTruth(configuration, Setting::FontBold, true);
+        QCOMPARE(configuration.log, (QStringList{u"[font] bold=False"_s, u"[font] bold=True"_s}));
+    }
+
+    void requiredNumber_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("message"); // empty: converts
+        QTest::newRow("one") << u"1"_s << u""_s;
+        QTest::newRow("negative") << u"-7"_s << u""_s;
+        QTest::newRow("missing")
+            << u""_s
+            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini is missing."_s;
+        QTest::newRow("word")
+            << u"yes"_s
+            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini isn't a number (\"yes\")."_s;
+        QTest::newRow("too long")
+            << u"99999999999"_s
+            << u"Zephira can't start: the key \"highlight\" in section [options] of /x/zephira.ini isn't a "
+               u"number (\"99999999999\")."_s;
+    }
+
+    void requiredNumber()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, message);
+        MemoryConfiguration configuration;
+        configuration.put(u"options"_s, u"highlight"_s, value);
+        QString raised;
+        int number = 0;
+        try {
+            number = zephira::requiredNumber(configuration, Setting::HighlightLine, u"/x/zephira.ini"_s);
+        } catch (const HandlerError &error) {
+            raised = error.description;
+        }
+        QCOMPARE(raised, message);
+        if (message.isEmpty())
+            QCOMPARE(QString::number(number), value);
+    }
+};
+
+ZEPHIRA_TEST(TstSettings)
+#include "tst_settings.moc"
