@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/frmtable.h"
 
-#include "core/appcontext.h"
 #include "core/errorstyles.h"
-#include "core/inserter.h"
+#include "core/pasteitem.h"
 #include "core/prompts.h"
 #include "ui_frmtable.h"
 #include "wizards/tablemarkup.h"
@@ -11,7 +10,7 @@
 namespace zephira {
 
 frmTable::frmTable(const AppContext &context, QWidget *owner)
-    : QDialog(owner), m_ui(std::make_unique<Ui::frmTable>()), m_inserter(context.inserter), m_prompts(context.prompts)
+    : QDialog(owner), m_ui(std::make_unique<Ui::frmTable>()), m_context(context)
 {
     m_ui->setupUi(this);
     // What is typed stands as it is: a completer would make "Row" of "row".
@@ -87,10 +86,10 @@ std::optional<qint32> frmTable::countIn(QLineEdit *field)
 bool frmTable::insert(const Result<QString> &markup)
 {
     if (!markup) {
-        tellError(m_prompts, markup.error(), windowTitle());
+        tellError(m_context.prompts, markup.error(), windowTitle());
         return false;
     }
-    m_inserter.InsertAtCaret(markup.value());
+    pasteBehindSelection(m_context, markup.value());
     return true;
 }
 
@@ -111,7 +110,7 @@ void frmTable::insertTable()
 
 void frmTable::insertCell()
 {
-    m_inserter.InsertAtCaret(cellMarkup(cellFields()));
+    pasteBehindSelection(m_context, cellMarkup(cellFields()));
 }
 
 } // namespace zephira

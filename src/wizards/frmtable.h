@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/appcontext.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -14,16 +16,14 @@ namespace Ui {
 class frmTable;
 }
 
-struct AppContext;
 struct CellFields;
 struct TableFields;
-class Inserter;
-class Prompts;
 template<typename T>
 class Result;
 
 /// The full table wizard: size, layout and colours of a table, in plain markup or for a server-side script, and single
-/// cells that are inserted while the window stays open.
+/// cells that are inserted while the window stays open. All goes in behind the selection,
+/// which stays.
 class frmTable final : public QDialog
 {
     Q_OBJECT
@@ -50,8 +50,7 @@ private:
     void insertCell();
 
     const std::unique_ptr<Ui::frmTable> m_ui;
-    Inserter &m_inserter;
-    Prompts &m_prompts;
+    const AppContext m_context;
 };
 
 } // namespace zephira

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/frmtables.h"
 
-#include "core/appcontext.h"
 #include "core/errorstyles.h"
-#include "core/inserter.h"
+#include "core/pasteitem.h"
 #include "core/prompts.h"
 #include "ui_frmtables.h"
 #include "wizards/mdltable.h"
@@ -12,7 +11,7 @@
 namespace zephira {
 
 frmTables::frmTables(const AppContext &context, QWidget *owner)
-    : QDialog(owner), m_ui(std::make_unique<Ui::frmTables>()), m_inserter(context.inserter), m_prompts(context.prompts)
+    : QDialog(owner), m_ui(std::make_unique<Ui::frmTables>()), m_context(context)
 {
     m_ui->setupUi(this);
     new WindowDragger(m_ui->Frame1);
@@ -28,10 +27,10 @@ bool frmTables::AddTable(qint32 columns, qint32 rows)
 {
     const Result<QString> markup = simpleTableMarkup({.columns = columns, .rows = rows});
     if (!markup) {
-        tellError(m_prompts, markup.error(), windowTitle());
+        tellError(m_context.prompts, markup.error(), windowTitle());
         return false;
     }
-    m_inserter.InsertAtCaret(markup.value());
+    pasteBehindSelection(m_context, markup.value());
     return true;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/appcontext.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -11,11 +13,8 @@ namespace Ui {
 class frmTables;
 }
 
-struct AppContext;
-class Inserter;
-class Prompts;
-
-/// The quick table wizard: a click on a grid of squares gives the size, everything else is fixed.
+/// The quick table wizard: a click on a grid of squares gives the size, everything else is fixed. The table goes in
+/// behind the selection, which stays.
 class frmTables final : public QDialog
 {
     Q_OBJECT
@@ -35,8 +34,7 @@ private:
     void create();
 
     const std::unique_ptr<Ui::frmTables> m_ui;
-    Inserter &m_inserter;
-    Prompts &m_prompts;
+    const AppContext m_context;
 };
 
 } // namespace zephira

@@ -131,6 +131,24 @@ private Q_SLOTS:
         QCOMPARE(wizard.form.value(u"Check3"_s), u"off"_s);
     }
 
+    void theSelectionStaysInFront_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("table") << u"Command1"_s;
+        QTest::newRow("cell") << u"Command3"_s;
+    }
+
+    void theSelectionStaysInFront()
+    {
+        QFETCH(QString, button);
+        Wizard wizard;
+        wizard.world.editor.setText(u"<p>chosen</p>"_s);
+        QVERIFY(wizard.world.editor.selectPart(u"chosen"_s));
+        wizard.form.press(button);
+        QCOMPARE(wizard.world.inserter.inserted.size(), 1);
+        QVERIFY(wizard.world.inserter.inserted.first().startsWith(u"chosen<T"_s));
+    }
+
     void aCellLeavesTheFormOpen()
     {
         const Wizard wizard;

@@ -129,6 +129,15 @@ private Q_SLOTS:
         QCOMPARE(wizard.world.inserter.inserted, QStringList{simpleTableMarkup({1, 12}).value()});
     }
 
+    void theSelectionStaysInFront()
+    {
+        Wizard wizard;
+        wizard.world.editor.setText(u"<p>chosen</p>"_s);
+        QVERIFY(wizard.world.editor.selectPart(u"chosen"_s));
+        wizard.form.press(u"cmdCreate"_s);
+        QCOMPARE(wizard.world.inserter.inserted, QStringList{u"chosen"_s + simpleTableMarkup({1, 1}).value()});
+    }
+
     void cleanUpPaintsAllSquares()
     {
         const Wizard wizard;
