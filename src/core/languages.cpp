@@ -41,11 +41,22 @@ constexpr FileType types[] = {
     {.extension = u"gif", .isImage = true},
     {.extension = u"bmp", .isImage = true},
     {.extension = u"jpg", .isImage = true},
-    // Files without a row of their own that the designer shows as they stand.
+    // Files without a row of their own.
+    {.extension = u"png", .isAdded = true},
+    {.extension = u"svg", .isAdded = true},
+    {.extension = u"webp", .isAdded = true},
+    {.extension = u"jpeg", .isAdded = true},
+    {.extension = u"avif", .isAdded = true},
+    {.extension = u"ico", .isAdded = true},
+    {.extension = u"json", .kind = PlainText, .isAdded = true},
+    {.extension = u"php", .isAdded = true},
+    {.extension = u"xhtml", .isAdded = true},
+    {.extension = u"md", .kind = PlainText, .isAdded = true},
+    {.extension = u"woff2", .isAdded = true},
+    {.extension = u"mjs", .kind = PlainText, .isAdded = true},
+    {.extension = u"ts", .kind = PlainText, .isAdded = true},
     {.extension = u"conf", .kind = PlainText},
     {.extension = u"csv", .kind = PlainText},
-    {.extension = u"json", .kind = PlainText},
-    {.extension = u"md", .kind = PlainText},
     {.extension = u"py", .kind = PlainText},
     {.extension = u"sh", .kind = PlainText},
     {.extension = u"yaml", .kind = PlainText},
@@ -189,6 +200,16 @@ QString defaultFilters()
             (type.isListedLast ? last : texts).append(patternOf(type));
     }
     return (texts + pictures + last).join(u';');
+}
+
+QString shippedFilters()
+{
+    QString filters = defaultFilters();
+    for (const FileType &type : types) {
+        if (type.isAdded)
+            filters += u';' + patternOf(type);
+    }
+    return filters;
 }
 
 } // namespace zephira

@@ -67,6 +67,7 @@ struct FileType {
     bool isImage = false;      ///< shown as a picture, or linked, and never the document
     bool isServerPage = false; ///< has to be seen through a web server
     bool isListedLast = false; ///< stands behind the pictures in the patterns of the file pane
+    bool isAdded = false;      ///< not among the program's own patterns, but among those that are installed
 };
 
 /// In the order in which the open dialog lists them.
@@ -97,5 +98,8 @@ QString openFilter();
 
 /// The patterns of the file pane when they are put back to the program's own.
 QString defaultFilters();
+
+/// The patterns of the file pane that are installed: the program's own, and what people make pages of besides.
+QString shippedFilters();
 
 } // namespace zephira

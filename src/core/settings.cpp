@@ -82,7 +82,7 @@ std::vector<SettingRow> makeSettingRows()
     using enum SettingApplies;
     // clang-format off: a row a line
     std::vector<SettingRow> rows = {
-        {StartDialog, u"Startup"_s, u"selprj"_s, Switch, AtStart, u"0"_s},
+        {StartDialog, u"Startup"_s, u"selprj"_s, Switch, AtStart, u"1"_s},
         {RootSelection, u"startup"_s, u"rootsel"_s, Number, AtStart, u"2"_s, true},
         {HighlightLine, u"options"_s, u"highlight"_s, Switch, AtStart, u"1"_s, true},
         {LineNumbers, u"options"_s, u"linenumber"_s, Switch, InEditor, u"1"_s, true},
@@ -95,7 +95,7 @@ std::vector<SettingRow> makeSettingRows()
         {FontItalic, u"font"_s, u"italic"_s, Truth, InEditor, u"False"_s},
         {FontStrikethrough, u"font"_s, u"strikethrough"_s, Truth, InEditor, u"False"_s},
         {FontUnderline, u"font"_s, u"underline"_s, Truth, InEditor, u"False"_s},
-        {FileFilters, u"Filters"_s, u"Filters"_s, Patterns, AtStart, defaultFilters()},
+        {FileFilters, u"Filters"_s, u"Filters"_s, Patterns, AtStart, shippedFilters()},
     };
     addCustomTabs(rows);
     rows.insert(rows.end(),

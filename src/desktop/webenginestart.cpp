@@ -3,7 +3,69 @@
 
 #include "core/quietmessages.h"
 
+#include <QStringList>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
 namespace zephira {
+
+namespace {
+
+/// The library meets a missing display with sentences of its own and an abort. While one of these lives, its messages are
+/// held back, and what would be the abort is an orderly end.
+class OrderlyEnd
+{
+public:
+    OrderlyEnd() : m_usual(qInstallMessageHandler(hold)) {}
+    ~OrderlyEnd()
+    {
+        qInstallMessageHandler(m_usual);
+        for (const Message &message : held())
+            m_usual(message.type, QMessageLogContext(nullptr, 0, nullptr, message.category.constData()), message.text);
+        held().clear();
+    }
+    Q_DISABLE_COPY_MOVE(OrderlyEnd)
+
+private:
+    struct Message {
+        QtMsgType type;
+        QByteArray category;
+        QString text;
+    };
+
+    static std::vector<Message> &held()
+    {
+        static std::vector<Message> messages;
+        return messages;
+    }
+
+    static void hold(QtMsgType type, const QMessageLogContext &context, const QString &text)
+    {
+        if (type == QtFatalMsg)
+            end(text);
+        held().push_back({type, context.category, text});
+    }
+
+    [[noreturn]] static void end(const QString &reason)
+    {
+        const bool hasNoDisplay = std::ranges::any_of(
+            held(), [](const Message &message) { return message.text.contains(u"could not connect to display"); });
+        if (hasNoDisplay) {
+            std::fputs("Zephira can't start: there is no display to show its window on.\n", stderr);
+        } else {
+            for (const Message &message : held())
+                std::fprintf(stderr, "%s\n", qPrintable(message.text));
+            std::fprintf(stderr, "Zephira can't start: %s\n", qPrintable(reason));
+        }
+        std::_Exit(EXIT_FAILURE);
+    }
+
+    const QtMessageHandler m_usual;
+};
+
+} // namespace
 
 std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
 {
@@ -12,6 +74,7 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
     qputenv("QT_QUICK_BACKEND", "software");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     const QuietMessages quiet;
+    const OrderlyEnd orderly;
     return std::make_unique<QApplication>(argc, argv);
 }
 

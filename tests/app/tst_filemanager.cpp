@@ -20,7 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto shippedFilters =
+/// What RESET puts back.
+constexpr auto ownFilters =
     u"*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;*.bas;*.frm;*.vbp;*.gif;"
     u"*.bmp;*.jpg;*.java;*.sql";
 
@@ -194,11 +195,19 @@ private Q_SLOTS:
         QCOMPARE(bench.list().names(), QStringList{u"a.one"_s});
     }
 
-    void theShippedFiltersAreTheDefault()
+    void theShippedFiltersShowWhatPagesAreMadeOf()
     {
         Bench bench;
+        const QStringList names = {u"a.avif"_s, u"a.css"_s,  u"a.html"_s,  u"a.ico"_s,  u"a.jpeg"_s, u"a.jpg"_s,
+                                   u"a.json"_s, u"a.md"_s,   u"a.mjs"_s,   u"a.php"_s,  u"a.png"_s,  u"a.svg"_s,
+                                   u"a.ts"_s,   u"a.webp"_s, u"a.woff2"_s, u"a.xhtml"_s};
+        for (const QString &name : names)
+            bench.write(u"site/"_s + name, "");
+        bench.write(u"site/a.zip"_s, "");
         bench.start();
-        QCOMPARE(bench.file().pattern(), QStringView(shippedFilters).toString());
+        QVERIFY(bench.file().pattern().startsWith(QStringView(ownFilters)));
+        bench.listSite();
+        QCOMPARE(bench.list().names(), names);
     }
 
     void aDoubleClickOpensAFile()
@@ -510,7 +519,7 @@ private Q_SLOTS:
         QTest::newRow("cancel") << QString() << u"*.txt"_s;
         QTest::newRow("empty") << u""_s << u"*.txt"_s;
         QTest::newRow("new list") << u"*.htm;*.css"_s << u"*.htm;*.css"_s;
-        QTest::newRow("RESET") << u"RESET"_s << QStringView(shippedFilters).toString();
+        QTest::newRow("RESET") << u"RESET"_s << QStringView(ownFilters).toString();
         QTest::newRow("reset is a filter") << u"reset"_s << u"reset"_s;
         QTest::newRow("with a blank") << u"RESET "_s << u"RESET "_s;
         QTest::newRow("nonsense") << u"[[;;*;?"_s << u"[[;;*;?"_s;
@@ -542,7 +551,7 @@ private Q_SLOTS:
         bench.write(u"other/c.htm"_s, "");
         bench.start();
         bench.listSite();
-        bench.prompts.expectInput(bench.filtersRequest(QStringView(shippedFilters).toString()), u"*.htm"_s);
+        bench.prompts.expectInput(bench.filtersRequest(settingRow(Setting::FileFilters).shipped), u"*.htm"_s);
         bench.choose(u"mnuef"_s);
         QCOMPARE(bench.list().names(), (QStringList{u"a.txt"_s, u"b.htm"_s}));
         bench.find<FilePane>(u"FilePane"_s)->showFolder(bench.folder() + u"/other"_s);

@@ -165,6 +165,13 @@ private Q_SLOTS:
                  u"*.frm;*.vbp;*.gif;*.bmp;*.jpg;*.java;*.sql"_s);
     }
 
+    void shippedFiltersAddWhatIsNewer()
+    {
+        QCOMPARE(shippedFilters(),
+                 defaultFilters()
+                     + u";*.png;*.svg;*.webp;*.jpeg;*.avif;*.ico;*.json;*.php;*.xhtml;*.md;*.woff2;*.mjs;*.ts"_s);
+    }
+
     void saveFilters()
     {
         const QStringList filters = {

@@ -69,6 +69,25 @@ private Q_SLOTS:
         QCOMPARE(program.standardOutput(), QByteArray());
     }
 
+    void withoutADisplayOneSentenceSaysSo()
+    {
+        ProgramFolder folder;
+        RunningProgram program(folder, {}, {u"env"_s, u"-u"_s, u"WAYLAND_DISPLAY"_s, u"DISPLAY=:none"_s});
+        QCOMPARE(program.waitForEnd(), 1);
+        QCOMPARE(program.standardOutput(), QByteArray());
+        QCOMPARE(program.standardError(),
+                 QByteArray("Zephira can't start: there is no display to show its window on.\n"));
+    }
+
+    void theFirstStartShowsTheStartDialog()
+    {
+        ProgramFolder folder;
+        QVERIFY(QFile::remove(folder.place(u"zephira.ini"_s)));
+        QVERIFY(QFile::copy(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data/zephira.ini"), folder.place(u"zephira.ini"_s)));
+        RunningProgram program(folder, {});
+        QCOMPARE(program.waitForWindows({untitled, chooser}), sorted({untitled, chooser}));
+    }
+
     void severalWordsAreOneName()
     {
         ProgramFolder folder;

@@ -63,7 +63,7 @@ void TstShippedData::values_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
     const char *rows[][3] = {
-        {"Startup", "selprj", "0"},
+        {"Startup", "selprj", "1"},
         {"startup", "rootsel", "2"},
         {"options", "highlight", "1"},
         {"options", "linenumber", "1"},
@@ -80,7 +80,8 @@ void TstShippedData::values_data()
         {"SERVER", "root", ""},
         {"Filters", "Filters",
          "*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;*.bas;*.frm;*.vbp;"
-         "*.gif;*.bmp;*.jpg;*.java;*.sql"},
+         "*.gif;*.bmp;*.jpg;*.java;*.sql;*.png;*.svg;*.webp;*.jpeg;*.avif;*.ico;*.json;*.php;*.xhtml;*.md;*.woff2;"
+         "*.mjs;*.ts"},
     };
     for (const auto &[section, key, value] : rows) {
         QTest::addRow("%s %s", section, key)

@@ -18,9 +18,9 @@ private Q_SLOTS:
         for (const char *name :
              {"", "/site/page", "/site/a.htm", "/site/a.HTML", "/site/a.asp", "/site/a.php", "/a.css/b"})
             QTest::newRow(name) << false;
-        for (const char *name :
-             {"/a.vbs", "/a.js", "/a.java", "/a.xml", "/a.css", "/a.c", "/a.cpp", "/a.h", "/a.pl", "/a.cgi", "/a.pas",
-              "/a.bas", "/a.frm", "/a.vbp", "/a.txt", "/a.ini", "/a.log", "/a.sql", "/a.html.TXT"})
+        for (const char *name : {"/a.vbs", "/a.js",  "/a.java", "/a.xml", "/a.css", "/a.c",   "/a.cpp",
+                                 "/a.h",   "/a.pl",  "/a.cgi",  "/a.pas", "/a.bas", "/a.frm", "/a.vbp",
+                                 "/a.txt", "/a.ini", "/a.log",  "/a.sql", "/a.mjs", "/a.ts",  "/a.html.TXT"})
             QTest::newRow(name) << true;
     }
 
