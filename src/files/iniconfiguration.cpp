@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -66,19 +67,31 @@ Profile profileFrom(QByteArray bytes)
     return {std::move(text.utf8), text.format};
 }
 
-} // namespace
-
-QString ReadIni(const QString &section, const QString &key, const QString &file)
+QString shortValue(QByteArrayView profile, const QString &section, const QString &key)
 {
-    Result<QByteArray> bytes = DiskFileStore().read(file);
-    if (!bytes)
-        return QString();
-    QString value = profileValue(profileFrom(std::move(bytes).value()).bytes, section, key).value_or(QString());
+    QString value = profileValue(profile, section, key).value_or(QString());
     value.truncate(longestValue);
     // The cut takes no half of a character with it.
     if (value.size() == longestValue && value.back().isHighSurrogate())
         value.chop(1);
     return value;
+}
+
+/// Whether a file that changes once more is sure to have another time then: the clock of a file system may stand still for
+/// some milliseconds, and on some for two seconds.
+bool isSettled(const FileSignature &signature)
+{
+    constexpr std::chrono::nanoseconds coarsest = std::chrono::seconds(2);
+    const std::chrono::nanoseconds now = std::chrono::system_clock::now().time_since_epoch();
+    return signature.modifiedNs < (now - coarsest).count();
+}
+
+} // namespace
+
+QString ReadIni(const QString &section, const QString &key, const QString &file)
+{
+    Result<QByteArray> bytes = DiskFileStore().read(file);
+    return bytes ? shortValue(profileFrom(std::move(bytes).value()).bytes, section, key) : QString();
 }
 
 bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode)
@@ -105,6 +118,26 @@ bool WriteIni(const QString &section, const QString &key, const QString &value, 
         return true;
     const Result<QByteArray> encoded = profile.converted ? encodeText(*changed, *profile.converted) : *changed;
     return encoded.ok() && store.write(info.filePath(), encoded.value(), mode).ok();
+}
+
+IniConfiguration::IniConfiguration(QString file) : m_file(std::move(file)) {}
+
+IniConfiguration::IniConfiguration(QString file, FileSystemCalls &calls) : m_file(std::move(file)), m_store(calls) {}
+
+QString IniConfiguration::read(const QString &section, const QString &key) const
+{
+    const FileSignature signature = m_store.signature(m_file);
+    if (!signature.exists || signature != m_signature) {
+        Result<QByteArray> bytes = m_store.read(m_file);
+        m_profile = bytes ? profileFrom(std::move(bytes).value()).bytes : QByteArray();
+        m_signature = bytes.ok() && isSettled(signature) ? signature : FileSignature();
+    }
+    return shortValue(m_profile, section, key);
+}
+
+bool IniConfiguration::write(const QString &section, const QString &key, const QString &value)
+{
+    return WriteIni(section, key, value, m_file);
 }
 
 } // namespace zephira

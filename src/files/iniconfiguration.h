@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/configuration.h"
+#include "files/diskfilestore.h"
 
 #include <QString>
 
@@ -16,22 +17,26 @@ QString ReadIni(const QString &section, const QString &key, const QString &file)
 /// for a file that is new.
 bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode = 0666);
 
-/// The configuration in a private profile file.
+/// The configuration in a private profile file. Each value is the one that the file holds at that moment; only a file that
+/// didn't change since it was read last isn't read again.
 class IniConfiguration final : public Configuration
 {
 public:
-    explicit IniConfiguration(QString file) : m_file(std::move(file)) {}
+    explicit IniConfiguration(QString file);
+    /// Reads through calls that a test watches; they must outlive the configuration.
+    IniConfiguration(QString file, FileSystemCalls &calls);
 
     QString file() const { return m_file; }
 
 private:
-    QString read(const QString &section, const QString &key) const override { return ReadIni(section, key, m_file); }
-    bool write(const QString &section, const QString &key, const QString &value) override
-    {
-        return WriteIni(section, key, value, m_file);
-    }
+    QString read(const QString &section, const QString &key) const override;
+    bool write(const QString &section, const QString &key, const QString &value) override;
 
     QString m_file;
+    DiskFileStore m_store;
+    /// The profile as it was read last, in UTF-8, and the file that it was then.
+    mutable QByteArray m_profile;
+    mutable FileSignature m_signature;
 };
 
 } // namespace zephira

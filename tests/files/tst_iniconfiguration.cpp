@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/iniconfiguration.h"
 
+#include "files/faultycalls.h"
 #include "support/testregistry.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -36,6 +39,14 @@ class TstIniConfiguration : public QObject
     {
         QFile file(ini());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+    }
+
+    /// Makes the file one that was written some time ago.
+    void letRest() const
+    {
+        QFile file(ini());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime));
     }
 
 private Q_SLOTS:
@@ -137,6 +148,40 @@ private Q_SLOTS:
         QVERIFY(WriteIni(u"font"_s, u"size"_s, u"12"_s, ini()));
         QCOMPARE(configuration.value(Setting::FontSize), u"12"_s);
         QCOMPARE(configuration.file(), ini());
+    }
+
+    /// A start asks for some seventy values.
+    void aFileThatRestsIsReadOnce()
+    {
+        put("[font]\nsize=12\n[Colors]\nclr0bg=7\n");
+        letRest();
+        FaultyCalls calls;
+        const IniConfiguration configuration(ini(), calls);
+        for (int i = 0; i < 70; ++i) {
+            QCOMPARE(configuration.value(Setting::FontSize), u"12"_s);
+            QCOMPARE(configuration.value(colourSetting(0, ColourPart::Background)), u"7"_s);
+        }
+        QCOMPARE(std::ranges::count(calls.made(), FileSystemCalls::Call::Open), 1);
+    }
+
+    void everyChangeOfTheFileShowsAtOnce()
+    {
+        IniConfiguration configuration(ini());
+        QCOMPARE(configuration.value(Setting::FontSize), QString());
+        put("[font]\nsize=12\n");
+        letRest();
+        QCOMPARE(configuration.value(Setting::FontSize), u"12"_s);
+        // As long as before and, for a coarse clock, in the same moment.
+        for (const char *size : {"13", "14", "15", "16"}) {
+            put("[font]\nsize=" + QByteArray(size) + '\n');
+            QCOMPARE(configuration.value(Setting::FontSize), QString::fromLatin1(size));
+        }
+        letRest();
+        QCOMPARE(configuration.value(Setting::FontSize), u"16"_s);
+        QVERIFY(configuration.setValue(Setting::FontSize, u"17"_s));
+        QCOMPARE(configuration.value(Setting::FontSize), u"17"_s);
+        QVERIFY(QFile::remove(ini()));
+        QCOMPARE(configuration.value(Setting::FontSize), QString());
     }
 
     void eightProcessesLoseNothing()
