@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/colourtable.h"
 
-#include "core/colourrows.h"
 #include "core/editingcontrol.h"
 #include "core/editoritems.h"
 #include "core/settings.h"
