@@ -44,7 +44,7 @@ constexpr FolderRow folderRows[] = {
     {u"settings", u"core files widgets"},
     {u"ftp", u"core files widgets"},
     {u"document", u"core files editor widgets"},
-    {u"start", u"core files widgets document"},
+    {u"start", u"core files widgets"},
     {u"commands", u"core files tools views widgets document"},
     {u"app", u"core files syntax widgets editor desktop tags panes views wizards settings ftp document start commands"},
 };
