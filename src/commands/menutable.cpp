@@ -157,8 +157,8 @@ constexpr MenuItem formatSourceItems[] = {
 
 constexpr MenuItem toolItems[] = {
     opens(u"mnuascwiz", u"Ascii Wizard", u"frmascii", {}, u"The code of a key in three notations"),
-    opens(u"mnucp", u"Color Picker", u"ColorPick", u"color-picker", u"Choose a colour"),
-    opens(u"colors", u"&Color Spy", u"frmColorSpy", u"crosshairs", u"Read a colour from the screen"),
+    opens(u"mnucp", u"Color Picker", u"ColorPick", u"color-picker", u"Choose a color"),
+    opens(u"colors", u"&Color Spy", u"frmColorSpy", u"crosshairs", u"Read a color from the screen"),
     opens(u"mnucw", u"Cookie Wizard", u"frmwizcookie", {}, u"Build a script that sets a cookie"),
     opens(u"mnuddg", u"Drop Down Generator", u"frmdropdown", u"#combo", u"Build a drop-down list"),
     opens(u"mnuformwiz", u"Form Wizard", u"FormWizard", u"#form", u"Build a form"),

@@ -21,7 +21,7 @@ constexpr DesignerButton buttons[] = {
     {u"LeftJustify", JustifyLeft, u"Align left", u"format-justify-left"},
     {u"Center", JustifyCenter, u"Center", u"format-justify-center"},
     {u"RightJustify", JustifyRight, u"Align right", u"format-justify-right"},
-    {u"Color", SetForeColor, u"Colour of the text", u"format-text-color"},
+    {u"Color", SetForeColor, u"Color of the text", u"format-text-color"},
 };
 
 constexpr DesignerCommand editCommands[] = {Undo, Redo, None, Cut, Copy, Paste, SelectAll, None, FindText};
