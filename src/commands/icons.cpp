@@ -58,7 +58,10 @@ void IconTheme::followPalette()
 
 void markNotAvailable(QAction *action)
 {
-    const QString notYet = u"Not available yet"_s;
+    QString name = action->text().remove(u'&');
+    while (name.endsWith(u'.'))
+        name.chop(1);
+    const QString notYet = u"%1 (not available yet)"_s.arg(name);
     action->setEnabled(false);
     action->setToolTip(notYet);
     action->setStatusTip(notYet);

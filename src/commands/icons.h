@@ -35,7 +35,7 @@ private:
     void followPalette();
 };
 
-/// Disables an action whose form or feature isn't there yet, and says so in its tool tip.
+/// Disables an action whose form or feature isn't there yet. Its tips say what it is, and then that.
 void markNotAvailable(QAction *action);
 
 } // namespace zephira

@@ -19,13 +19,13 @@ constexpr ToolButton standardButtons[] = {
     {u"save", u"Save the document (Ctrl+S)", u"document-save", {&Document::save}},
     {u"print", u"Print the document (Ctrl+P)", u"document-print", {&Document::print}},
     separator,
-    {u"cut", u"Cut", u"edit-cut", {EditsText{&EditingControl::cut}}},
-    {u"copy", u"Copy", u"edit-copy", {EditsText{&EditingControl::copy}}},
-    {u"paste", u"Paste", u"edit-paste", {EditsText{&EditingControl::paste}}},
-    {u"delete", u"Delete", u"edit-delete", {deleteSelectedText}},
+    {u"cut", u"Cut (Ctrl+X)", u"edit-cut", {EditsText{&EditingControl::cut}}},
+    {u"copy", u"Copy (Ctrl+C)", u"edit-copy", {EditsText{&EditingControl::copy}}},
+    {u"paste", u"Paste (Ctrl+V)", u"edit-paste", {EditsText{&EditingControl::paste}}},
+    {u"delete", u"Delete (Del)", u"edit-delete", {deleteSelectedText}},
     separator,
-    {u"undo", u"Undo", u"edit-undo", {undoFromToolbar}},
-    {u"redo", u"Redo", u"edit-redo", {redoFromToolbar}},
+    {u"undo", u"Undo (Ctrl+Z)", u"edit-undo", {undoFromToolbar}},
+    {u"redo", u"Redo (Ctrl+Y)", u"edit-redo", {redoFromToolbar}},
 };
 
 /// An entry of a pull-down, which works in the code view alone.

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void shortcutsAreUnique();
     void paletteButtons();
     void formattingBarOrder();
+    void tipsNameTheirKeys();
     void pullDowns();
     void designerMenusFitTheMenuTree();
 };
@@ -235,6 +236,18 @@ void TstCommandTables::formattingBarOrder()
              (QStringList{u"bold"_s, u"italic"_s, u"underline"_s, u"left"_s, u"center"_s, u"right"_s, u"preview"_s,
                           u"links"_s, u"htmltags"_s, u"loadtime"_s, u"specchars"_s, u"ftp"_s, u"reset"_s}));
     QCOMPARE(formattingToolBar().buttons.back().tip, QStringView(u"Discard Changes and Reload document"));
+}
+
+/// A button of the standard toolbar does what a menu entry does; its tip names that entry's keys.
+void TstCommandTables::tipsNameTheirKeys()
+{
+    for (const ToolButton &button : standardToolBar().buttons) {
+        if (button.key.isEmpty())
+            continue;
+        const MenuItem *item = findMenuItem(button.key == u"new" ? u"mnunewdoc" : button.key);
+        QVERIFY(item);
+        QVERIFY2(button.tip.endsWith(u" (%1)"_s.arg(item->shortcut)), qPrintable(button.tip.toString()));
+    }
 }
 
 void TstCommandTables::pullDowns()

@@ -220,7 +220,7 @@ void TstPalette::whatIsNotAvailableSaysSo()
                                   palette.toolBar(9)->actions().first()};
     for (const QAction *action : closed) {
         QVERIFY2(!action->isEnabled(), qPrintable(action->text()));
-        QCOMPARE(action->toolTip(), u"Not available yet"_s);
+        QCOMPARE(action->toolTip(), action->text() + u" (not available yet)"_s);
     }
     QVERIFY(palette.action(0, u"imagemap"_s)->isEnabled());
     QVERIFY(palette.action(3, u"td"_s)->isEnabled());
