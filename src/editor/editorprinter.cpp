@@ -58,7 +58,8 @@ public:
     PagePrinter(QString title, const QString &documentName)
         : QsciPrinter(QPrinter::HighResolution), m_title(std::move(title))
     {
-        setDocName(documentName);
+        // The print dialog makes its proposal of what stands before a dot, and of nothing where there is none.
+        setDocName(documentName.contains(u'.') ? documentName : documentName + u".pdf"_s);
         setWrapMode(QsciScintilla::WrapWord);
         const QMarginsF margins(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres);
         setPageMargins(margins, QPageLayout::Millimeter);

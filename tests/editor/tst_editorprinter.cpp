@@ -4,6 +4,7 @@
 #include "support/testregistry.h"
 
 #include <QFile>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -69,6 +70,10 @@ private Q_SLOTS:
         f.editor.PrintContents(0, 12);
         auto *dialog = f.editor.findChild<QPrintDialog *>();
         QVERIFY(dialog && dialog->isVisible());
+        // A text without a file is offered a name all the same.
+        const auto *name = dialog->findChild<QLineEdit *>(u"filename"_s);
+        QVERIFY(name);
+        QVERIFY2(name->text().endsWith(u"/Untitled.pdf"), qPrintable(name->text()));
         QPointer<QPrintDialog> gone(dialog);
         dialog->reject();
         QTRY_VERIFY(!gone);
