@@ -4,6 +4,7 @@
 #include "desktop/filefilter.h"
 #include "widgets/qtvalues.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
@@ -105,6 +106,10 @@ Answer DesktopPrompts::ask(const Question &question)
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(row.first);
     box->setEscapeButton(row.escape);
+    // The style gives both the same picture.
+    const QIcon refusal = QIcon::fromTheme(u"window-close"_s);
+    if (QAbstractButton *no = box->button(QMessageBox::No); no && !refusal.isNull())
+        no->setIcon(refusal);
     box->exec();
     const Answer answer =
         answerOf(box && box->clickedButton() ? box->standardButton(box->clickedButton()) : row.escape);
@@ -142,7 +147,10 @@ std::optional<QString> DesktopPrompts::file(const FileRequest &request)
         dialog->selectFile(current.fileName());
     return answerFrom(std::move(dialog), [&](const QFileDialog &done) {
         const QString path = done.selectedFiles().value(0);
-        return QDir::toNativeSeparators(request.saving ? withSuffixOf(done.selectedNameFilter(), path) : path);
+        // A document keeps the name that it has, and so does a file that is there, also one without a dot.
+        const bool isNewName =
+            request.saving && QFileInfo(path).fileName() != current.fileName() && !QFileInfo::exists(path);
+        return QDir::toNativeSeparators(isNewName ? withSuffixOf(done.selectedNameFilter(), path) : path);
     });
 }
 

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void openFileCancelled();
     void savedNameTakesTheSuffix_data();
     void savedNameTakesTheSuffix();
+    void aNameWithoutASuffixStays();
+    void noAndCancelHavePicturesOfTheirOwn();
     void savingDoesNotAskAboutOverwriting();
     void folder();
     void colour();
@@ -300,6 +302,37 @@ void TstDesktopPrompts::savedNameTakesTheSuffix()
         {u"Save a document..."_s, u"HTML Files|*.html|ASP File|*.asp|All Files|*.*"_s, m_folder->path(), true});
     QVERIFY(m_wasUp);
     QCOMPARE(answer, std::optional(m_folder->filePath(saved)));
+}
+
+/// A document that has no suffix keeps its name, and so does a file that is there.
+void TstDesktopPrompts::aNameWithoutASuffixStays()
+{
+    QVERIFY(QFile(m_folder->filePath(u"README"_s)).open(QIODevice::WriteOnly));
+    for (const QString &name : {u"Makefile"_s, u"README"_s}) {
+        whileUp<QFileDialog>([&](QFileDialog &dialog) {
+            dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(name);
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        const auto answer = m_prompts->file(
+            {{}, u"Text Files|*.txt|All Files|*.*"_s, m_folder->path(), true, u"/elsewhere/Makefile"_s});
+        QCOMPARE(answer, std::optional(m_folder->filePath(name)));
+    }
+}
+
+/// Two answers that differ must not look alike.
+void TstDesktopPrompts::noAndCancelHavePicturesOfTheirOwn()
+{
+    QIcon::setFallbackSearchPaths({u"/usr/share/icons/breeze/actions/16"_s});
+    QIcon::setThemeName(u"breeze"_s);
+    whileUp<QMessageBox>([](QMessageBox &box) {
+        const QImage no = box.button(QMessageBox::No)->icon().pixmap(16, 16).toImage();
+        const QImage cancel = box.button(QMessageBox::Cancel)->icon().pixmap(16, 16).toImage();
+        QVERIFY(!no.isNull());
+        QVERIFY(no != cancel);
+        box.reject();
+    });
+    m_prompts->ask({u"Really?"_s, {}, Question::Icon::Question, Question::Buttons::YesNoCancel});
+    QVERIFY(m_wasUp);
 }
 
 void TstDesktopPrompts::savingDoesNotAskAboutOverwriting()
