@@ -27,6 +27,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -38,6 +40,10 @@ constexpr EditorCommand commandsWithoutKeys[] = {
     EditorCommand::TransposeLines, EditorCommand::CutByOldKey,  EditorCommand::SelectWord, EditorCommand::FindNextByKey,
     EditorCommand::FindByKey,      EditorCommand::ReplaceByKey, EditorCommand::GoToByKey,
 };
+
+/// Sizes in points at which a text can be read, or shown to a hall.
+constexpr double smallestFont = 4;
+constexpr double largestFont = 144;
 
 HandlerError startError(const Error &error)
 {
@@ -169,7 +175,7 @@ void LoadHandler::applyFont()
     if (const QString name = configuration.value(Setting::FontName); !name.isEmpty())
         font.name = name;
     if (const double size = configuration.value(Setting::FontSize).toDouble(); size > 0)
-        font.size = size;
+        font.size = std::clamp(size, smallestFont, largestFont);
     font.strikethrough = isTrue(configuration, Setting::FontStrikethrough);
     font.underline = isTrue(configuration, Setting::FontUnderline);
     editor.setEditorFont(font);

@@ -17,6 +17,9 @@ namespace {
 
 constexpr double twipsPerPixel = 15.0;
 
+/// What the window manager puts around a window, which isn't known before the window shows.
+constexpr QSize frame(16, 48);
+
 /// By number; the system has more states, which count as normal.
 constexpr std::array windowStates = {Qt::WindowNoState, Qt::WindowMinimized, Qt::WindowMaximized};
 
@@ -49,6 +52,8 @@ public:
         return converted ? value : fallback;
     }
 
+    bool has(UserSetting setting) const { return !m_settings.GetSetting(setting, m_form, QString()).isEmpty(); }
+
     int pixels(UserSetting setting, int fallback) const
     {
         const int twips = number(setting, static_cast<int>(std::lround(fallback * twipsPerPixel)));
@@ -77,6 +82,9 @@ void save(QWidget &form, const Placement &placement)
 void restore(QWidget &form, const Placement &placement)
 {
     QRect place(form.pos(), form.size());
+    const QScreen *screen = form.screen();
+    if (screen && !placement.has(UserSetting::WindowWidth) && !placement.has(UserSetting::WindowHeight))
+        place.setSize(place.size().boundedTo(screen->availableSize() - frame));
     place.moveTop(placement.pixels(UserSetting::WindowTop, place.y()));
     place.moveLeft(placement.pixels(UserSetting::WindowLeft, place.x()));
     place.setHeight(placement.pixels(UserSetting::WindowHeight, place.height()));
@@ -99,15 +107,21 @@ void restore(QWidget &form, const Placement &placement)
 QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens)
 {
     constexpr QSize grip(80, 24);
-    const QRect upperEdge(wanted.topLeft(), QSize(wanted.width(), grip.height()));
+    QRect all;
+    for (const QRect &screen : screens)
+        all |= screen;
+    if (all.isEmpty())
+        return wanted;
+    QRect place(wanted.topLeft(), wanted.size().boundedTo(all.size()).expandedTo(grip));
+    const QRect upperEdge(place.topLeft(), QSize(place.width(), grip.height()));
     const bool reachable = std::any_of(screens.begin(), screens.end(), [&](const QRect &screen) {
         const QRect shown = screen & upperEdge;
-        return shown.width() >= std::min(grip.width(), wanted.width()) && shown.height() >= grip.height() / 2;
+        return shown.width() >= grip.width() && shown.height() >= grip.height() / 2;
     });
-    if (reachable || screens.isEmpty())
-        return wanted;
+    if (reachable)
+        return place;
     const QRect &screen = screens.first();
-    QRect place(wanted.topLeft(), wanted.size().boundedTo(screen.size()));
+    place.setSize(place.size().boundedTo(screen.size()));
     place.moveLeft(std::clamp(place.x(), screen.x(), screen.x() + screen.width() - place.width()));
     place.moveTop(std::clamp(place.y(), screen.y(), screen.y() + screen.height() - place.height()));
     return place;

@@ -16,11 +16,13 @@ class UserSettings;
 ///
 /// Saving writes the state first and then returns the window to normal, so that the place kept is the one it has when it
 /// is neither minimised nor maximised. Restoring takes a value that is missing or no number as the window's own, sets
-/// the state last, and brings a window whose stored place no screen shows back to the first screen.
+/// the state last, and brings a window whose stored place no screen shows back to the first screen. A window without a
+/// stored size is made to fit its screen.
 void FormPosition(QWidget &form, bool saving, UserSettings &settings);
 
-/// The wanted place if enough of the window's upper edge to grab it lies on a screen, else the nearest place on the first
-/// screen, made small enough to fit. Without screens the place is as wanted.
+/// The wanted place, no larger than all screens together and no smaller than a title bar, if enough of the window's upper
+/// edge to grab it lies on a screen; else the nearest place on the first screen, made small enough to fit. Without
+/// screens the place is as wanted.
 QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens);
 
 } // namespace zephira

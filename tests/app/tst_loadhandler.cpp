@@ -87,6 +87,24 @@ private Q_SLOTS:
         QVERIFY(window.rt().selBounds());
     }
 
+    /// A size that nobody can read, or that fills the screen with a letter, is brought into range.
+    void aFontSizeBeyondSense_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<double>("size");
+        QTest::newRow("tiny") << u"0.5"_s << 4.0;
+        QTest::newRow("huge") << u"100000"_s << 144.0;
+        QTest::newRow("in range") << u"23"_s << 23.0;
+    }
+
+    void aFontSizeBeyondSense()
+    {
+        QFETCH(QString, stored);
+        WindowBench bench;
+        bench.configuration.setValue(u"font"_s, u"size"_s, stored);
+        QTEST(bench.start().rt().editorFont().size, "size");
+    }
+
     void onlyOneIsRoot_data()
     {
         QTest::addColumn<QString>("value");

@@ -3,6 +3,7 @@
 #include "support/fakes.h"
 #include "support/testregistry.h"
 
+#include <QScreen>
 #include <QTest>
 #include <QWidget>
 
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void restoringNonsense();
     void maximisedAndBack();
     void stateIsUsedAsItStands();
+    void aFirstSizeFitsTheScreen();
     void screens_data();
     void screens();
 
@@ -159,6 +161,19 @@ void TstFormPosition::stateIsUsedAsItStands()
     QVERIFY(m_form->isMinimized());
 }
 
+/// The first start: nothing is stored, and the form would be larger than the screen.
+void TstFormPosition::aFirstSizeFitsTheScreen()
+{
+    const QSize screen = m_form->screen()->availableSize();
+    m_form->resize(screen * 2);
+    position(false);
+    QVERIFY(m_form->width() < screen.width());
+    QVERIFY(m_form->height() <= screen.height() - 40); // Room for the frame.
+    m_form->resize(300, 200);
+    position(false);
+    QCOMPARE(m_form->size(), QSize(300, 200));
+}
+
 void TstFormPosition::screens_data()
 {
     QTest::addColumn<QRect>("wanted");
@@ -176,6 +191,11 @@ void TstFormPosition::screens_data()
     QTest::newRow("title bar above") << QRect(10, -30, 300, 200) << QList<QRect>{wide} << QRect(10, 0, 300, 200);
     QTest::newRow("a sliver is left") << QRect(1590, 0, 300, 200) << QList<QRect>{wide} << QRect(1300, 0, 300, 200);
     QTest::newRow("too large and outside") << QRect(5000, 5000, 3000, 2000) << QList<QRect>{wide} << wide;
+    QTest::newRow("larger than the screen")
+        << QRect(10, 20, 9000, 7000) << QList<QRect>{wide} << QRect(10, 20, 1600, 1000);
+    QTest::newRow("over two screens") << QRect(10, 20, 2400, 900) << QList<QRect>{wide, right}
+                                      << QRect(10, 20, 2400, 900);
+    QTest::newRow("no size") << QRect(10, 20, 0, -5) << QList<QRect>{wide} << QRect(10, 20, 80, 24);
     QTest::newRow("no screen") << QRect(5000, 5000, 30, 20) << QList<QRect>{} << QRect(5000, 5000, 30, 20);
 }
 
