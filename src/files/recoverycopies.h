@@ -33,6 +33,7 @@ public:
     Result<void> write(const QString &titleOrPath, std::span<const QByteArrayView> pieces);
     /// Removes the copy of the document. There being none is fine.
     void removeOwn();
+    QString folder() const { return m_folder; }
     /// The document's copy, or "".
     QString ownCopy() const { return m_own; }
 

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/leftcopies.h"
+
+#include "files/fileerror.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+constexpr QStringView openMark = u"open-";
+constexpr QStringView asideMark = u"kept-";
+
+/// What the system calls a process; empty where there is none.
+QByteArray commandOf(const QString &process)
+{
+    QFile file(u"/proc/%1/comm"_s.arg(process));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Numbers of processes come again, so that another program's process is not the one that wrote the copy.
+bool isLookedAfter(const QString &process)
+{
+    const QByteArray command = commandOf(process);
+    return !command.isEmpty() && command == commandOf(u"self"_s);
+}
+
+} // namespace
+
+QList<LeftCopy> leftCopies(const QString &folder)
+{
+    static const QRegularExpression pattern(uR"(^open-(\d{8}-\d{6}-\d{3})-(\d+)-(.+)$)"_s);
+    QList<LeftCopy> copies;
+    const QDir dir(folder);
+    // Names in the order of the alphabet are in order of their age.
+    QStringList names = dir.entryList({openMark + u'*'}, QDir::Files | QDir::Hidden, QDir::Name);
+    std::ranges::reverse(names);
+    for (const QString &name : std::as_const(names)) {
+        const QRegularExpressionMatch match = pattern.match(name);
+        if (!match.hasMatch() || isLookedAfter(match.captured(2)))
+            continue;
+        QDateTime began = QDateTime::fromString(match.captured(1), u"yyyyMMdd-HHmmss-zzz"_s);
+        began.setTimeSpec(Qt::UTC);
+        copies.append({dir.filePath(name), match.captured(3), began.toLocalTime()});
+    }
+    return copies;
+}
+
+Result<void> putAside(const LeftCopy &copy)
+{
+    QString kept = copy.path;
+    const qsizetype name = kept.lastIndexOf(u'/') + 1;
+    kept.replace(name, openMark.size(), asideMark);
+    if (std::rename(QFile::encodeName(copy.path).constData(), QFile::encodeName(kept).constData()) != 0)
+        return saveError(kept, errno);
+    return {};
+}
+
+} // namespace zephira

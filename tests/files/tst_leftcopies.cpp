@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/leftcopies.h"
+#include "support/testregistry.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+QString write(const QTemporaryDir &folder, const QString &name)
+{
+    const QString path = folder.filePath(name);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write("text") != 4)
+        qFatal("can't write %s", qPrintable(path));
+    return path;
+}
+
+/// The number of a process that is no more.
+qint64 endedProcess()
+{
+    QProcess process;
+    process.start(u"true"_s, QStringList());
+    const qint64 number = process.waitForStarted() ? process.processId() : 0;
+    process.waitForFinished();
+    return number;
+}
+
+} // namespace
+
+/// The copies that ended programs left.
+class TstLeftCopies final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void copiesOfEndedProcesses()
+    {
+        const QTemporaryDir folder;
+        const QString ended = QString::number(endedProcess());
+        const QString first = write(folder, u"open-20240229-120000-000-%1-a-b.htm"_s.arg(ended));
+        const QString second = write(folder, u"open-20240301-130509-123-%1-New Document"_s.arg(ended));
+        // A process of that number that is no such program.
+        const QString third = write(folder, u"open-20240302-000000-000-1-c.css"_s);
+        // What nobody asks about: a running program's own, versions of files, and what was put aside.
+        write(folder, u"open-20240302-000000-000-%1-mine.htm"_s.arg(QCoreApplication::applicationPid()));
+        write(folder, u"disk-20240229-120000-000-%1-001-d.htm"_s.arg(ended));
+        write(folder, u"kept-20240229-120000-000-%1-e.htm"_s.arg(ended));
+        write(folder, u"open-"_s);
+        write(folder, u"open-20240229-x.htm"_s);
+
+        const QList<LeftCopy> copies = leftCopies(folder.path());
+        QCOMPARE(copies.size(), 3);
+        QCOMPARE(copies[0].path, third);
+        QCOMPARE(copies[1],
+                 (LeftCopy{second, u"New Document"_s,
+                           QDateTime(QDate(2024, 3, 1), QTime(13, 5, 9, 123), Qt::UTC).toLocalTime()}));
+        QCOMPARE(copies[2].path, first);
+        QCOMPARE(copies[2].name, u"a-b.htm"_s);
+        QCOMPARE(leftCopies(folder.path() + u"/none"_s), QList<LeftCopy>());
+    }
+
+    void aCopyIsPutAside()
+    {
+        const QTemporaryDir folder;
+        write(folder, u"open-20240229-120000-000-1-open-a.htm"_s);
+        const LeftCopy copy = leftCopies(folder.path()).value(0);
+        QVERIFY(putAside(copy));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{u"kept-20240229-120000-000-1-open-a.htm"_s});
+        QCOMPARE(leftCopies(folder.path()), QList<LeftCopy>());
+        const Result<void> again = putAside(copy);
+        QVERIFY(!again);
+        QVERIFY2(again.error().sentence.contains(u"could not be saved"), qPrintable(again.error().sentence));
+    }
+};
+
+ZEPHIRA_TEST(TstLeftCopies)
+#include "tst_leftcopies.moc"
