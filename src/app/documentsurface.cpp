@@ -4,6 +4,7 @@
 #include "app/quickview.h"
 #include "app/statuspanels.h"
 #include "commands/commandparts.h"
+#include "core/paths.h"
 #include "core/quickviewer.h"
 #include "desktop/modalformopener.h"
 #include "document/recoverykeeper.h"
@@ -39,6 +40,11 @@ void DocumentSurface::setPathPanel(const QString &text)
     m_parts.panels.setText(StatusPanels::FileName, text);
 }
 
+void DocumentSurface::showModified(bool modified)
+{
+    m_parts.panels.setUnsaved(modified);
+}
+
 void DocumentSurface::notice(const QString &sentence)
 {
     m_parts.panels.notice(sentence);
@@ -72,6 +78,12 @@ QString DocumentSurface::listedFile() const
 QString DocumentSurface::listedFolder() const
 {
     return m_parts.files.fileList().path();
+}
+
+void DocumentSurface::selectListedFile(const QString &path)
+{
+    if (withSlash(m_parts.files.fileList().path()) == folderOf(path))
+        m_parts.files.selectFile(fileTitleOf(path));
 }
 
 Result<QSize> DocumentSurface::pictureSize(const QString &path) const

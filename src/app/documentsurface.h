@@ -34,6 +34,7 @@ public:
     void setCaption(const QString &caption) override;
     void setCountPanel(int characters) override;
     void setPathPanel(const QString &text) override;
+    void showModified(bool modified) override;
     void notice(const QString &sentence) override;
     void selectCodeTab() override;
     void documentSettled() override;
@@ -41,6 +42,7 @@ public:
     void showTemplateChooser() override;
     QString listedFile() const override;
     QString listedFolder() const override;
+    void selectListedFile(const QString &path) override;
     Result<QSize> pictureSize(const QString &path) const override;
     Result<void> showPicture(const QString &path) override;
 

@@ -5,7 +5,9 @@
 
 #include <QLabel>
 #include <QLocale>
+#include <QPainter>
 #include <QStatusBar>
+#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -35,13 +37,30 @@ constexpr std::array<PanelRow, 10> panelRows = {{
 
 constexpr int noticeMilliseconds = 10000;
 
+/// A text that is cut in its middle where it is painted, and stays whole for everybody else.
+class PathLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const QRect room = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
+        style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()), foregroundRole());
+    }
+};
+
 } // namespace
 
 StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar), m_bar(bar), m_clock(clock)
 {
     for (size_t i = 0; i < panelRows.size(); ++i) {
         const PanelRow &row = panelRows[i];
-        auto *label = new QLabel(QStringView(row.text).toString(), &bar);
+        const QString text = QStringView(row.text).toString();
+        QLabel *label = row.stretch ? new PathLabel(text, &bar) : new QLabel(text, &bar);
         label->setObjectName(u"stBar_%1"_s.arg(i + 1));
         label->setAccessibleName(QStringView(row.name).toString());
         label->setTextFormat(Qt::PlainText);
@@ -76,6 +95,15 @@ void StatusPanels::setText(int panel, const QString &text)
 void StatusPanels::setLit(int panel, bool lit)
 {
     m_panels[size_t(panel - 1)]->setEnabled(lit);
+}
+
+void StatusPanels::setUnsaved(bool unsaved)
+{
+    QLabel *label = m_panels[FileName - 1];
+    QFont font = label->font();
+    font.setBold(unsaved);
+    label->setFont(font);
+    label->setAccessibleDescription(unsaved ? u"The text has changes that are not saved"_s : QString());
 }
 
 void StatusPanels::notice(const QString &sentence)

@@ -28,6 +28,8 @@ public:
     void setText(int panel, const QString &text);
     /// Greys a keyboard panel out while its state is off.
     void setLit(int panel, bool lit);
+    /// Shows at the path that the text differs from its file.
+    void setUnsaved(bool unsaved);
     /// Shows a sentence over the panels for a while.
     void notice(const QString &sentence);
 

@@ -19,9 +19,17 @@ Document::Document(const AppContext &context, CommonDialog &dialog, DocumentWind
     : m_context(context), m_dialog(dialog), m_window(window)
 {}
 
+void Document::setModified(bool modified)
+{
+    if (modified == m_modified)
+        return;
+    m_modified = modified;
+    m_window.showModified(modified);
+}
+
 void Document::textChanged()
 {
-    m_modified = true;
+    setModified(true);
     m_window.setCountPanel(m_context.editor.textLength());
 }
 
@@ -76,16 +84,22 @@ void Document::doNew()
         return;
     m_context.editor.setText({});
     m_context.editor.setLanguage({});
-    m_modified = false;
+    becomeNew();
+    setModified(false);
+    m_context.document.setLanguageRow(language::Text);
+    m_window.documentSettled();
+    m_window.selectCodeTab();
+}
+
+/// The text has no file.
+void Document::becomeNew()
+{
     m_hasFile = false;
     m_path.clear();
     m_title = u"New Document"_s;
-    m_context.document.setLanguageRow(language::Text);
+    m_dialog.fileName.clear();
     m_window.setCaption(u"Zephira - [New Document]"_s);
     m_window.setPathPanel(u"Untitled"_s);
-    m_dialog.fileName.clear();
-    m_window.documentSettled();
-    m_window.selectCodeTab();
 }
 
 void Document::newDocument()
@@ -103,7 +117,12 @@ void Document::newFromTemplate()
 
 void Document::SetSyntax()
 {
-    const std::optional<LanguageChoice> choice = languageOfFile(m_dialog.fileName);
+    chooseLanguage(m_dialog.fileName);
+}
+
+void Document::chooseLanguage(const QString &fileName)
+{
+    const std::optional<LanguageChoice> choice = languageOfFile(fileName);
     if (!choice)
         return;
     m_context.document.setLanguageRow(choice->row);
@@ -114,7 +133,7 @@ void Document::SetSyntax()
 /// Makes `path` the document's file. The text is on disk under that name now.
 void Document::adopt(const QString &path)
 {
-    m_modified = false;
+    setModified(false);
     m_hasFile = true;
     m_path = path;
     m_title = path;
@@ -157,6 +176,7 @@ void Document::open()
     SetSyntax();
     readInto(name);
     adopt(name);
+    m_window.selectListedFile(name);
     m_window.setCountPanel(m_context.editor.textLength());
     m_context.editor.executeCmd(EditorCommand::GoToLine, 0);
     m_window.selectCodeTab();
@@ -171,7 +191,7 @@ bool Document::doSave()
         tellError(m_context.prompts, saved.error());
         return false;
     }
-    m_modified = false;
+    setModified(false);
     m_window.documentSettled();
     return true;
 }
@@ -202,13 +222,14 @@ bool Document::DoSaveAs()
     }
     const Result<void> saved = m_context.editor.saveFile(name, true);
     if (!saved) {
-        m_window.notice(saved.error().sentence);
+        tellError(m_context.prompts, saved.error());
         return false;
     }
     m_dialog.fileName = name;
     SetSyntax();
     adopt(name);
     m_context.document.setProjectPath(folderOf(name));
+    m_window.selectListedFile(name);
     return true;
 }
 
@@ -274,6 +295,7 @@ void Document::openText(const QString &path)
     adopt(path);
     SetSyntax();
     m_context.document.setProjectPath(folderOf(path));
+    m_window.selectListedFile(path);
     m_context.editor.executeCmd(EditorCommand::GoToLine, 0);
     m_window.setCountPanel(m_context.editor.textLength());
 }
@@ -301,9 +323,26 @@ void Document::openAtStart(const QString &path)
 {
     m_dialog.fileName = path;
     adopt(path);
+    m_window.selectListedFile(path);
     SetSyntax();
     readInto(path);
-    m_modified = false;
+    setModified(false);
+}
+
+void Document::openRecovered(const QString &copy, const QString &name)
+{
+    flushDesigner();
+    if (!mayGoOn(PromptIcon::Shown))
+        return;
+    if (const Result<void> opened = m_context.editor.openFile(copy); !opened) {
+        tellError(m_context.prompts, opened.error());
+        return;
+    }
+    becomeNew();
+    setModified(true);
+    chooseLanguage(name);
+    m_window.setCountPanel(m_context.editor.textLength());
+    m_window.selectCodeTab();
 }
 
 void Document::revert()
@@ -319,9 +358,11 @@ void Document::revert()
         return;
     // Loading raises the change event; the flag is to stay what it was.
     const bool modified = m_modified;
-    readInto(m_dialog.fileName);
-    endingQuietly([&] { m_context.designer.loadDocument(m_dialog.fileName); });
-    m_modified = modified;
+    if (const Result<void> opened = m_context.editor.openFile(m_dialog.fileName); !opened)
+        tellError(m_context.prompts, opened.error());
+    else
+        endingQuietly([&] { m_context.designer.loadDocument(m_dialog.fileName); });
+    setModified(modified);
 }
 
 void Document::saveAsTemplate()

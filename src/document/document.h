@@ -26,7 +26,7 @@ public:
     /// The last temporary preview file, or the address of a preview.
     QString previewTarget() const { return m_previewTarget; }
 
-    void setModified(bool modified) { m_modified = modified; }
+    void setModified(bool modified);
     /// A copy that was made for another preview goes, since nobody would know of it any more.
     void setPreviewTarget(const QString &target);
 
@@ -60,6 +60,10 @@ public:
     /// Opens the file of the command line. Errors are ignored.
     void openAtStart(const QString &path);
 
+    /// Opens a recovery copy as a changed text without a file. `name` is that of the file it was made of, which chooses
+    /// the language. Asks about changes first; a copy that can't be read is told.
+    void openRecovered(const QString &copy, const QString &name);
+
     /// Before the window closes: asks about changes, also about those that only the designer holds. Returns false if the
     /// user refused.
     bool askToClose();
@@ -79,6 +83,8 @@ private:
     Answer askToSave(PromptIcon icon);
     /// The save prompt where there are changes; false if the user chose to stay.
     bool mayGoOn(PromptIcon icon);
+    void becomeNew();
+    void chooseLanguage(const QString &fileName);
     void adopt(const QString &path);
     void readInto(const QString &path);
     void openImage(const QString &path);

@@ -18,6 +18,8 @@ public:
     /// Panels 9 and 10 of the status bar.
     virtual void setCountPanel(int characters) = 0;
     virtual void setPathPanel(const QString &text) = 0;
+    /// Whether the text differs from its file, to be seen at the path.
+    virtual void showModified(bool modified) = 0;
     /// Says something that went wrong without stopping the user.
     virtual void notice(const QString &sentence) = 0;
     /// Selects the first tab of the workspace, which runs the change of view.
@@ -31,6 +33,8 @@ public:
     /// The file pane: the selected item's text, or empty; and the folder that is listed.
     virtual QString listedFile() const = 0;
     virtual QString listedFolder() const = 0;
+    /// Selects the file in the file pane where its folder is listed.
+    virtual void selectListedFile(const QString &path) = 0;
     /// Width and height of a picture in pixels. Fails for a file that isn't one, or is too large to show.
     virtual Result<QSize> pictureSize(const QString &path) const = 0;
     virtual Result<void> showPicture(const QString &path) = 0;

@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QScrollBar>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -55,6 +57,14 @@ QString FilePane::selectedFile() const
     return item ? item->text() : QString();
 }
 
+void FilePane::selectFile(const QString &name)
+{
+    const auto row = static_cast<int>(m_ui->ListFiles->names().indexOf(name));
+    m_awaited = row < 0 ? name : QString();
+    if (row >= 0)
+        m_ui->ListFiles->setCurrentRow(row);
+}
+
 void FilePane::showFolder(const QString &folder)
 {
     setFolder(folder);
@@ -74,6 +84,7 @@ void FilePane::setFolder(const QString &folder)
 /// The folder selection changed. "My Computer" is no folder, so that the files of the one before are listed again.
 void FilePane::listFolder()
 {
+    m_awaited.clear();
     const QString folder = m_ui->DIR->selectedFolder();
     if (!folder.isEmpty())
         m_file->setPath(folder);
@@ -98,7 +109,8 @@ void FilePane::refresh()
         return;
     if (!names.contains(m_file->fileName()))
         m_file->setFileName(names.value(0));
-    const QString selected = selectedFile();
+    const bool hasCome = !m_awaited.isEmpty() && names.contains(m_awaited);
+    const QString selected = hasCome ? std::exchange(m_awaited, QString()) : selectedFile();
     const int row = list.currentRow();
     const int place = list.verticalScrollBar()->value();
     list.setNames(names);

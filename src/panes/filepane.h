@@ -37,6 +37,9 @@ public:
     /// Text of the selected item of `ListFiles`, or empty.
     QString selectedFile() const;
 
+    /// Selects a file's row; one that isn't listed yet, once it is.
+    void selectFile(const QString &name);
+
     /// Moves the folder tree to the folder and lists it. A folder that isn't there leaves the tree where it is.
     void showFolder(const QString &folder);
 
@@ -59,6 +62,8 @@ private:
     FolderWatch m_watch;
     /// The pattern that the list was filled by. A newer one waits for the next change of the folder.
     QString m_listedPattern;
+    /// A file whose row is to be selected when it comes.
+    QString m_awaited;
     bool m_rootSelect = false;
 };
 

@@ -68,6 +68,7 @@ struct FakeSurface final : DocumentWindow {
     void setCaption(const QString &caption) override { captions.append(caption); }
     void setCountPanel(int) override {}
     void setPathPanel(const QString &) override {}
+    void showModified(bool) override {}
     void notice(const QString &sentence) override { notices.append(sentence); }
     void selectCodeTab() override {}
     void documentSettled() override {}
@@ -75,6 +76,7 @@ struct FakeSurface final : DocumentWindow {
     void showTemplateChooser() override { ++choosers; }
     QString listedFile() const override { return {}; }
     QString listedFolder() const override { return {}; }
+    void selectListedFile(const QString &) override {}
     Result<QSize> pictureSize(const QString &) const override { return QSize(); }
     Result<void> showPicture(const QString &) override { return {}; }
 };

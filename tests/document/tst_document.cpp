@@ -22,6 +22,8 @@ struct FakeWindow final : DocumentWindow {
     QString caption;
     int count = -1;
     QString pathPanel;
+    bool modifiedShown = false;
+    QStringList selected;
     QStringList notices;
     int codeTabs = 0;
     int settled = 0;
@@ -35,6 +37,7 @@ struct FakeWindow final : DocumentWindow {
     void setCaption(const QString &text) override { caption = text; }
     void setCountPanel(int characters) override { count = characters; }
     void setPathPanel(const QString &text) override { pathPanel = text; }
+    void showModified(bool modified) override { modifiedShown = modified; }
     void notice(const QString &sentence) override { notices.append(sentence); }
     /// Is called when the code view is selected.
     std::function<void()> onCodeTab;
@@ -49,6 +52,7 @@ struct FakeWindow final : DocumentWindow {
     void showTemplateChooser() override { ++choosers; }
     QString listedFile() const override { return file; }
     QString listedFolder() const override { return folder; }
+    void selectListedFile(const QString &path) override { selected.append(path); }
     Result<QSize> pictureSize(const QString &) const override { return size; }
     Result<void> showPicture(const QString &path) override
     {
@@ -263,12 +267,67 @@ private Q_SLOTS:
         bench.fakes.editor.setText(u"two"_s);
         bench.fakes.editor.saveError = Error{Error::Code::Unwritable, u"no"_s};
         bench.fakes.prompts.expectFile(bench.saveRequest(u"Text Files|*.txt|All Files|*.*"_s, u"/"_s), u"/b.css"_s);
+        bench.fakes.prompts.expectTell(u"no"_s, {}, Question::Icon::Exclamation);
         bench.document.saveAs();
+        QVERIFY(bench.fakes.prompts.verify());
         QCOMPARE(bench.document.docPath(), u"/a.txt"_s);
         QCOMPARE(bench.dialog.fileName, u"/a.txt"_s);
         QCOMPARE(bench.fakes.document.row, 0);
         QVERIFY(bench.document.docModified());
-        QCOMPARE(bench.window.notices, QStringList{u"no"_s});
+        QCOMPARE(bench.window.notices, QStringList());
+    }
+
+    void theWindowShowsWhatIsUnsaved()
+    {
+        Bench bench;
+        bench.openFile(u"/a.txt"_s, "one");
+        QVERIFY(!bench.window.modifiedShown);
+        bench.fakes.editor.setText(u"two"_s);
+        QVERIFY(bench.window.modifiedShown);
+        QVERIFY(bench.document.doSave());
+        QVERIFY(!bench.window.modifiedShown);
+        bench.fakes.editor.setText(u"three"_s);
+        bench.fakes.prompts.expect(Bench::savePrompt(u"/a.txt"_s, Question::Icon::None), Answer::No);
+        bench.document.doNew();
+        QVERIFY(!bench.window.modifiedShown);
+    }
+
+    void theFileIsSelectedInItsList()
+    {
+        Bench bench;
+        bench.openFile(u"/a.txt"_s, "one");
+        bench.fakes.prompts.expectFile(bench.saveRequest(u"Text Files|*.txt|All Files|*.*"_s, u"/"_s), u"/b.txt"_s);
+        bench.document.saveAs();
+        bench.document.openFileOrImage(u"/a.txt"_s);
+        bench.document.openAtStart(u"/b.txt"_s);
+        QCOMPARE(bench.window.selected, (QStringList{u"/a.txt"_s, u"/b.txt"_s, u"/a.txt"_s, u"/b.txt"_s}));
+    }
+
+    void aRecoveredTextIsANewChangedDocument()
+    {
+        Bench bench;
+        bench.openFile(u"/a.txt"_s, "one");
+        bench.fakes.editor.setText(u"changed"_s);
+        bench.fakes.files.contents[u"/recovery/open-1-1-b.css"_s] = "p { }";
+        bench.fakes.prompts.expect(Bench::savePrompt(u"/a.txt"_s), Answer::Cancel);
+        bench.document.openRecovered(u"/recovery/open-1-1-b.css"_s, u"b.css"_s);
+        QCOMPARE(bench.fakes.editor.text(), u"changed"_s);
+
+        bench.fakes.prompts.expect(Bench::savePrompt(u"/a.txt"_s), Answer::No);
+        bench.document.openRecovered(u"/recovery/open-1-1-b.css"_s, u"b.css"_s);
+        QCOMPARE(bench.fakes.editor.text(), u"p { }"_s);
+        QCOMPARE(bench.window.caption, u"Zephira - [New Document]"_s);
+        QCOMPARE(bench.window.pathPanel, u"Untitled"_s);
+        QCOMPARE(bench.fakes.document.row, 8);
+        QCOMPARE(bench.dialog.fileName, QString());
+        QVERIFY(bench.document.docModified());
+        QVERIFY(!bench.document.docHasFile());
+
+        bench.fakes.prompts.expect(Bench::savePrompt(u"New Document"_s), Answer::No);
+        bench.fakes.editor.openError = Error{Error::Code::Unreadable, u"It is gone."_s};
+        bench.fakes.prompts.expectTell(u"It is gone."_s, {}, Question::Icon::Exclamation);
+        bench.document.openRecovered(u"/recovery/none"_s, u"c.htm"_s);
+        QCOMPARE(bench.fakes.editor.text(), u"p { }"_s);
     }
 
     void noAtTheOverwritePromptOpensTheDialogAgain()
@@ -478,15 +537,18 @@ private Q_SLOTS:
         bench.openFile(u"/a.html"_s, "saved");
         bench.fakes.editor.setText(u"changed"_s);
         bench.fakes.files.contents.erase(u"/a.html"_s);
-        bench.fakes.designer.unreadable = true;
+        bench.fakes.editor.openError = Error{Error::Code::Unreadable, u"/a.html isn't there."_s};
         bench.fakes.prompts.expect(
             {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
              {},
              Question::Icon::Question,
              Question::Buttons::YesNo},
             Answer::Yes);
+        bench.fakes.prompts.expectTell(u"/a.html isn't there."_s, {}, Question::Icon::Exclamation);
         bench.document.revert();
+        QVERIFY(bench.fakes.prompts.verify());
         QCOMPARE(bench.fakes.editor.text(), u"changed"_s);
+        QCOMPARE(bench.fakes.designer.loaded, QStringList());
         QVERIFY(bench.document.docModified());
     }
 
