@@ -94,6 +94,7 @@ void FilePaneCommands::openDroppedFile(const QString &path)
     if (!m_parts.document.openDropped(path))
         return;
     m_parts.pane.showFolder(folderOf(path));
+    m_parts.pane.selectFile(fileTitleOf(path));
     m_parts.document.SetSyntax();
 }
 

@@ -5,6 +5,7 @@
 #include "app/documentsurface.h"
 #include "app/documenttree.h"
 #include "app/filepanecommands.h"
+#include "app/recoverybar.h"
 #include "app/sidecommands.h"
 #include "app/sidelists.h"
 #include "app/statuspanels.h"
@@ -20,12 +21,16 @@
 #include "commands/toolbars.h"
 #include "commands/toolbartable.h"
 #include "commands/variablebox.h"
+#include "core/errorstyles.h"
+#include "core/filestore.h"
 #include "core/inserttext.h"
 #include "core/languages.h"
 #include "desktop/keyboardlocks.h"
 #include "desktop/modalformopener.h"
 #include "document/recoverykeeper.h"
 #include "editor/codemax.h"
+#include "files/leftcopies.h"
+#include "files/recoverycopies.h"
 #include "panes/droppedfile.h"
 #include "panes/filepane.h"
 #include "panes/selectorlist.h"
@@ -67,6 +72,7 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
     buildSidePane();
     buildWorkspace();
     buildCommands();
+    offerLeftCopies();
     connectEditor();
     connectCommands();
     applyAvailability();
@@ -146,6 +152,8 @@ void frmmain::buildSidePane()
 void frmmain::buildWorkspace()
 {
     addTabs(*m_ui->workspace, workspaceTabs());
+    m_recoveryBar = new RecoveryBar(m_ui->documentPane);
+    m_ui->documentLayout->insertWidget(m_ui->documentLayout->indexOf(m_ui->views), m_recoveryBar);
     m_ui->views->addWidget(m_rt);
     m_viewSwitch = new ViewSwitch(
         *m_context, {*m_document, *m_surface, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
@@ -153,7 +161,10 @@ void frmmain::buildWorkspace()
     m_surface->attach(*m_viewSwitch, *m_recoveryKeeper);
     m_visualTools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
     connect(m_visualTools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
-    connect(m_visualTools, &VisualTools::displayChanged, m_recoveryKeeper.get(), &RecoveryKeeper::textChanged);
+    connect(m_visualTools, &VisualTools::displayChanged, this, [this] {
+        m_recoveryKeeper->textChanged();
+        m_surface->showModified(m_document->docModified() || m_document->holdsDesignersWork());
+    });
 }
 
 /// The commands and the parts that they work on.
@@ -167,6 +178,27 @@ void frmmain::buildCommands()
     m_router =
         std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus, *m_sideCommands,
                                                      *m_filePaneCommands, *m_end, m_visualTools->tools()});
+}
+
+/// What earlier programs could not save is told of above the text, and nowhere else.
+void frmmain::offerLeftCopies()
+{
+    connect(m_recoveryBar, &RecoveryBar::showWanted, this,
+            [this](const LeftCopy &copy) { m_document->openRecovered(copy.path, copy.name); });
+    connect(m_recoveryBar, &RecoveryBar::keepWanted, this, [this](const LeftCopy &copy) {
+        if (const Result<void> kept = putAside(copy); kept || !m_services.files.signature(copy.path).exists)
+            m_recoveryBar->answered(copy);
+        else
+            tellError(m_services.prompts, kept.error());
+    });
+    connect(m_recoveryBar, &RecoveryBar::deleteWanted, this, [this](const LeftCopy &copy) {
+        if (const Result<void> removed = m_services.files.remove(copy.path);
+            removed || !m_services.files.signature(copy.path).exists)
+            m_recoveryBar->answered(copy);
+        else
+            tellError(m_services.prompts, removed.error());
+    });
+    m_recoveryBar->setCopies(leftCopies(m_services.recovery.folder()));
 }
 
 void frmmain::connectEditor()

@@ -26,6 +26,7 @@ class FilePaneCommands;
 class Menus;
 class ModalFormOpener;
 class Palette;
+class RecoveryBar;
 class RecoveryKeeper;
 class SelectorList;
 class SideCommands;
@@ -117,6 +118,7 @@ public:
     SideLists &sideLists() { return *m_sideLists; }
     ModalFormOpener &forms() { return *m_forms; }
     CommandRouter &router() { return *m_router; }
+    WindowEnd &windowEnd() { return *m_end; }
 
 protected:
     bool event(QEvent *event) override;
@@ -131,6 +133,7 @@ private:
     void buildSidePane();
     void buildWorkspace();
     void buildCommands();
+    void offerLeftCopies();
     void connectEditor();
     void connectCommands();
     void applyAvailability();
@@ -148,6 +151,7 @@ private:
     SidePane *m_sidePane = nullptr;
     FilePane *m_filePane = nullptr;
     DesignerBar *m_designerBar = nullptr;
+    RecoveryBar *m_recoveryBar = nullptr;
     ViewSwitch *m_viewSwitch = nullptr;
     VisualTools *m_visualTools = nullptr;
     StatusPanels *m_panels = nullptr;

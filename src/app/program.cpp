@@ -2,9 +2,11 @@
 #include "app/program.h"
 
 #include "app/comingforms.h"
+#include "app/endsignals.h"
 #include "app/failedstart.h"
 #include "app/frmmain.h"
 #include "app/startprocedure.h"
+#include "app/windowend.h"
 #include "commands/icons.h"
 #include "commands/iconstates.h"
 #include "core/clock.h"
@@ -32,6 +34,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QSessionManager>
 #include <QStandardPaths>
 
 #include <cstdlib>
@@ -125,6 +128,16 @@ int runProgram(QApplication &application, const QString &argument)
                             ended = true;
                             QCoreApplication::exit(EXIT_SUCCESS);
                         }});
+    const EndSignals endSignals;
+    QObject::connect(&endSignals, &EndSignals::received, &window, [&window] { window.windowEnd().endNow(); });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, [&window](QSessionManager &session) {
+        const bool canAsk = session.allowsInteraction();
+        const bool agreed = window.windowEnd().agreesToSessionEnd(canAsk);
+        if (canAsk)
+            session.release();
+        if (!agreed)
+            session.cancel();
+    });
     try {
         runStartProcedure(window, argument);
     } catch (const HandlerError &error) {

@@ -23,6 +23,31 @@ bool WindowEnd::close()
     return true;
 }
 
+void WindowEnd::keepWhatIsUnsaved()
+{
+    const Document &document = m_window.document();
+    if (document.docModified() || document.holdsDesignersWork())
+        m_recovery.writeNow();
+    else
+        m_recovery.discard();
+}
+
+void WindowEnd::endNow()
+{
+    keepWhatIsUnsaved();
+    m_window.document().discardPreview();
+    endProcess();
+}
+
+bool WindowEnd::agreesToSessionEnd(bool canAsk)
+{
+    if (canAsk && !m_window.document().askToClose())
+        return false;
+    // Whatever the answer was: the session may go on after all, and a copy too many is deleted by a click.
+    keepWhatIsUnsaved();
+    return true;
+}
+
 void WindowEnd::start(const QString &program, const QStringList &arguments)
 {
     const Result<void> started = m_services.shell.start(program, arguments);

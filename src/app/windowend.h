@@ -21,6 +21,12 @@ public:
     /// Asks about changes, then leaves everything in order and ends the process. False if the user chose to stay.
     bool close();
 
+    /// The system ends the process, and nobody can be asked: what is not saved stays as a recovery copy.
+    void endNow();
+    /// The session ends. Where the user can be asked, it may go on only if the user agrees; else what is not saved is
+    /// written into a recovery copy, and it goes on.
+    bool agreesToSessionEnd(bool canAsk);
+
     // WindowCommands
     void newWindow() override;
     void exitNow() override;
@@ -30,6 +36,7 @@ public:
 private:
     void start(const QString &program, const QStringList &arguments);
     void unload();
+    void keepWhatIsUnsaved();
     void endProcess();
 
     frmmain &m_window;

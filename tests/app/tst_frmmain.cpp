@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/recoverybar.h"
+#include "app/statuspanels.h"
 #include "app/windowbench.h"
+#include "app/windowend.h"
 #include "support/testregistry.h"
 
 #include <QComboBox>
@@ -7,7 +10,9 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QStackedWidget>
 #include <QTest>
 #include <QToolBar>
 
@@ -321,7 +326,7 @@ private Q_SLOTS:
         WindowBench bench;
         bench.start();
         QVERIFY(!bench.find<QAction>(u"mnucp"_s)->isEnabled());
-        QCOMPARE(bench.find<QAction>(u"mnucp"_s)->toolTip(), u"Not available yet"_s);
+        QCOMPARE(bench.find<QAction>(u"mnucp"_s)->toolTip(), u"Color Picker (not available yet)"_s);
         QVERIFY(bench.find<QAction>(u"mnutblwiz"_s)->isEnabled());
     }
 
@@ -362,6 +367,172 @@ private Q_SLOTS:
         const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
         QCOMPARE(copies.size(), 1);
         QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
+    }
+
+    void aFailedSaveAsIsTold()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.rt().setSelText(u"text"_s);
+        const QString path = bench.folder() + u"/none/a.txt"_s;
+        bench.prompts.expectFile({u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s,
+                                  window.context().document.projectPath(), true},
+                                 path);
+        bench.prompts.expectTell(u"The file \"%1\" could not be saved: its folder does not exist."_s.arg(path), {},
+                                 Question::Icon::Exclamation);
+        bench.choose(u"saveas"_s);
+        QVERIFY(bench.prompts.verify());
+        QVERIFY(window.docModified());
+        QVERIFY(!window.docHasFile());
+    }
+
+    /// The system ends the process: what is typed is in a copy at once, and nothing is asked.
+    void aForcedEndKeepsWhatIsUnsaved()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        const auto copies = [&] { return QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files); };
+        window.windowEnd().endNow();
+        QCOMPARE(bench.ended, 1);
+        QCOMPARE(copies(), QStringList());
+        window.rt().setSelText(u"typed"_s);
+        window.windowEnd().endNow();
+        QCOMPARE(bench.ended, 2);
+        QCOMPARE(copies().size(), 1);
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies().front()), QByteArray("typed"));
+    }
+
+    void theEndOfTheSessionAsksWhereItMay()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        const auto copies = [&] { return QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files); };
+        QVERIFY(window.windowEnd().agreesToSessionEnd(true));
+        window.rt().setSelText(u"typed"_s);
+        const Question prompt{u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel};
+        bench.prompts.expect(prompt, Answer::Cancel);
+        QVERIFY(!window.windowEnd().agreesToSessionEnd(true));
+        QCOMPARE(copies(), QStringList());
+        QVERIFY(window.windowEnd().agreesToSessionEnd(false));
+        QCOMPARE(copies().size(), 1);
+        QCOMPARE(bench.ended, 0); // Ending is the session's.
+    }
+
+    void textsThatACrashLeftAreOfferedAboveTheText()
+    {
+        WindowBench bench;
+        const QString page = bench.write(u"recovery/open-20240229-120000-000-1-page.html"_s, "<p>lost</p>");
+        const QString notes = bench.write(u"recovery/open-20240301-120000-000-1-notes.txt"_s, "lost notes");
+        frmmain &window = bench.start();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto *bar = bench.find<RecoveryBar>(u"recoveryBar"_s);
+        QVERIFY(bar->isVisible());
+        QVERIFY(bar->geometry().bottom() < bench.find<QStackedWidget>(u"views"_s)->geometry().top());
+        QVERIFY(window.rt().hasFocus());
+        QVERIFY(
+            bench.find<QLabel>(u"recoveryText_0"_s)->text().startsWith(u"notes.txt was not saved when the program"));
+        QVERIFY(
+            bench.find<QLabel>(u"recoveryText_1"_s)->text().startsWith(u"page.html was not saved when the program"));
+
+        bench.find<QPushButton>(u"recoveryShow_1"_s)->click();
+        QCOMPARE(window.rt().text(), u"<p>lost</p>"_s);
+        QVERIFY(window.docModified());
+        QVERIFY(!window.docHasFile());
+        QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentText(), u"HTML"_s);
+        QVERIFY(QFile::exists(page)); // It is shown, not answered.
+        QCOMPARE(bar->copies().size(), 2);
+
+        bench.find<QPushButton>(u"recoveryDelete_1"_s)->click();
+        QVERIFY(!QFile::exists(page));
+        QVERIFY(QFile::exists(notes));
+        QVERIFY(bar->isVisible());
+        bench.find<QPushButton>(u"recoveryKeep_0"_s)->click();
+        QVERIFY(!bar->isVisible());
+        QVERIFY(!QFile::exists(notes));
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/kept-20240301-120000-000-1-notes.txt"_s),
+                 QByteArray("lost notes"));
+    }
+
+    void theBarTellsOfManyOneAfterAnother()
+    {
+        WindowBench bench;
+        for (int i = 0; i < RecoveryBar::lines + 2; ++i)
+            bench.write(u"recovery/open-20240229-12000%1-000-1-a.txt"_s.arg(i), "x");
+        bench.start().show();
+        auto *bar = bench.find<RecoveryBar>(u"recoveryBar"_s);
+        for (int left = RecoveryBar::lines + 2; left > 0; --left) {
+            QVERIFY(bar->isVisible());
+            QCOMPARE(bar->copies().size(), left);
+            QVERIFY(!bench.window->findChild<QPushButton *>(u"recoveryDelete_%1"_s.arg(RecoveryBar::lines)));
+            bench.find<QPushButton>(u"recoveryDelete_0"_s)->click();
+        }
+        QVERIFY(!bar->isVisible());
+    }
+
+    void nothingIsOfferedWithoutACrash()
+    {
+        WindowBench bench;
+        bench.write(u"recovery/open-20240229-120000-000-%1-mine.txt"_s.arg(QCoreApplication::applicationPid()), "x");
+        bench.start().show();
+        QVERIFY(!bench.find<RecoveryBar>(u"recoveryBar"_s)->isVisible());
+    }
+
+    void thePathShowsWhatIsUnsaved()
+    {
+        WindowBench bench;
+        const QString file = bench.write(u"a.txt"_s, "old");
+        frmmain &window = bench.start(file);
+        const auto *panel = bench.find<QLabel>(u"stBar_10"_s);
+        QVERIFY(!panel->font().bold());
+        window.rt().setSelText(u"new "_s);
+        QVERIFY(panel->font().bold());
+        QVERIFY(!panel->accessibleDescription().isEmpty());
+        QCOMPARE(panel->text(), file);
+        QVERIFY(window.doSave());
+        QVERIFY(!panel->font().bold());
+        QCOMPARE(panel->accessibleDescription(), QString());
+    }
+
+    /// Beginning and end of a path that is too long for its place are seen, and the text stays whole.
+    void aLongPathIsCutInItsMiddle()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.show();
+        auto *panel = bench.find<QLabel>(u"stBar_10"_s);
+        const auto picture = [&](const QString &path) {
+            bench.window->panels().setText(StatusPanels::FileName, path);
+            return panel->grab().toImage();
+        };
+        const QString path = u'/' + QString(500, u'm') + u"/a.txt"_s;
+        const QImage one = picture(path);
+        QCOMPARE(panel->text(), path);
+        QCOMPARE(panel->toolTip(), path);
+        QVERIFY(one != picture(u'/' + QString(500, u'm') + u"/b.txt"_s));
+        QVERIFY(one != picture(u"/l"_s + QString(499, u'm') + u"/a.txt"_s));
+        // What the middle holds can't be seen.
+        QCOMPARE(one, picture(u'/' + QString(250, u'm') + u'x' + QString(249, u'm') + u"/a.txt"_s));
+    }
+
+    void theOpenFilesRowIsSelected()
+    {
+        WindowBench bench;
+        bench.write(u"site/a.html"_s, "a");
+        const QString page = bench.write(u"site/m.html"_s, "m");
+        bench.write(u"site/z.html"_s, "z");
+        frmmain &window = bench.start(page);
+        const auto *list = bench.find<QListWidget>(u"ListFiles"_s);
+        QCOMPARE(list->currentItem()->text(), u"m.html"_s);
+        // A file that a save makes is selected as soon as the list has it.
+        const QString made = bench.folder() + u"/site/new.html"_s;
+        bench.prompts.expectFile({u"Save a document..."_s,
+                                  u"HTML Files|*.html|ASP File|*.asp|VBScript File|*.vbs|All Files|*.*"_s,
+                                  window.context().document.projectPath(), true, page},
+                                 made);
+        bench.choose(u"saveas"_s);
+        QTRY_COMPARE(list->currentItem()->text(), u"new.html"_s);
     }
 
     void aFileThatChangedOnDiskIsKeptBeforeASave()

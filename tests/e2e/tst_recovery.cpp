@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <csignal>
+
 #include <sys/stat.h>
 
 #include <array>
@@ -77,6 +79,32 @@ private Q_SLOTS:
         QCOMPARE(left.program.waitForEnd(), 0);
         QCOMPARE(left.folder.recoveryCopies(), QStringList());
         QCOMPARE(ProgramFolder::read(left.path), "text");
+    }
+
+    /// A process that is told to end writes what was typed a moment ago. What it leaves is told of by the next one.
+    void aTextOutlivesTheEndOfItsProcess_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::newRow("SIGHUP") << SIGHUP;
+        QTest::newRow("SIGINT") << SIGINT;
+    }
+
+    void aTextOutlivesTheEndOfItsProcess()
+    {
+        QFETCH(int, signal);
+        ProgramFolder folder;
+        const QString path = folder.write(u"page.txt"_s, "text");
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        program.type(caption, u"unsaved "_s);
+        QCOMPARE(folder.recoveryCopies(), QStringList());
+        QCOMPARE(::kill(static_cast<pid_t>(program.pid()), signal), 0);
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(folder.recoveryCopies().size(), 1);
+        QCOMPARE(ProgramFolder::read(folder.recoveryCopies().first()), "unsaved text");
+        QCOMPARE(ProgramFolder::read(path), "text");
     }
 
     /// The copy of a killed process is the user's to find: a later start leaves it alone and asks nothing.

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/endsignals.h"
+
+#include <QSocketNotifier>
+
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace zephira {
+
+namespace {
+
+/// What the system calls at a signal knows nothing but what is here: the end of the pipe to write to.
+std::atomic<int> writeEnd{-1};
+static_assert(std::atomic<int>::is_always_lock_free);
+
+constexpr int endings[] = {SIGTERM, SIGHUP, SIGINT};
+
+/// Runs between any two instructions of the program, so that it does next to nothing.
+void tell(int)
+{
+    const int error = errno;
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t written = write(writeEnd, &byte, 1);
+    errno = error;
+}
+
+} // namespace
+
+EndSignals::EndSignals(QObject *owner) : QObject(owner)
+{
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
+        return; // The signals end the process as they always did.
+    m_readEnd = ends[0];
+    writeEnd = ends[1];
+    auto *notifier = new QSocketNotifier(m_readEnd, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this] {
+        char byte = 0;
+        while (read(m_readEnd, &byte, 1) == 1) {}
+        Q_EMIT received();
+    });
+    struct sigaction action = {};
+    action.sa_handler = tell;
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+    for (const int number : endings) {
+        struct sigaction before = {};
+        // Who starts a program that is to outlive its terminal has it ignore the hang-up.
+        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
+            sigaction(number, &action, nullptr);
+    }
+}
+
+EndSignals::~EndSignals()
+{
+    if (m_readEnd < 0)
+        return;
+    for (const int number : endings) {
+        struct sigaction before = {};
+        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler == tell)
+            signal(number, SIG_DFL);
+    }
+    close(writeEnd.exchange(-1));
+    close(m_readEnd);
+}
+
+} // namespace zephira
