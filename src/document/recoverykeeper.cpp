@@ -49,8 +49,7 @@ QString RecoveryKeeper::documentName() const
 
 void RecoveryKeeper::keepForGood()
 {
-    const auto [front, back] = m_editor.utf8Pieces();
-    [[maybe_unused]] const Result<QString> kept = m_copies.keepDisk(documentName(), front.toByteArray().append(back));
+    [[maybe_unused]] const Result<void> kept = m_copies.keepUnsaved(documentName(), m_editor.utf8Pieces());
 }
 
 Result<void> RecoveryKeeper::write()

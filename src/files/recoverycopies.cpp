@@ -25,10 +25,9 @@ constexpr int ownerOnly = 0600;
 constexpr qsizetype maximumBaseName = 180;
 
 /// Time and process; in universal time, so that names in order of the alphabet are in order of their age.
-QString stamp(const Clock &clock)
+QString stamp(const QDateTime &time)
 {
-    return clock.now().toUTC().toString(u"yyyyMMdd-HHmmss-zzz"_s) + u'-'
-        + QString::number(QCoreApplication::applicationPid());
+    return time.toUTC().toString(u"yyyyMMdd-HHmmss-zzz"_s) + u'-' + QString::number(QCoreApplication::applicationPid());
 }
 
 /// The end of the file's name, as it holds the extension, cut between characters.
@@ -44,14 +43,14 @@ QString baseName(const QString &titleOrPath)
 } // namespace
 
 RecoveryCopies::RecoveryCopies(QString folder, FileStore &files, const Clock &clock)
-    : m_folder(std::move(folder)), m_files(files), m_clock(clock), m_ownPrefix(u"open-"_s + stamp(clock) + u'-')
+    : m_folder(std::move(folder)), m_files(files), m_clock(clock), m_ownPrefix(u"open-"_s + stamp(clock.now()) + u'-')
 {}
 
 Result<QString> RecoveryCopies::keepDisk(const QString &path, QByteArrayView bytes)
 {
     if (Result<void> made = makeFolder(); !made)
         return made.error();
-    const QString start = m_folder + u"/disk-"_s + stamp(m_clock) + u'-';
+    const QString start = m_folder + u"/disk-"_s + stamp(m_clock.now()) + u'-';
     QString copy;
     do {
         copy = start + QString::number(++m_counter).rightJustified(3, u'0') + u'-' + baseName(path);
@@ -74,6 +73,20 @@ Result<void> RecoveryCopies::write(const QString &titleOrPath, std::span<const Q
         removeOwn();
     m_own = copy;
     return {};
+}
+
+Result<void> RecoveryCopies::keepUnsaved(const QString &titleOrPath, std::span<const QByteArrayView> pieces)
+{
+    if (Result<void> made = makeFolder(); !made)
+        return made;
+    // A name of its own, also beside the document's copy and within one tick of the clock.
+    QDateTime time = m_clock.now();
+    QString copy;
+    do {
+        time = time.addMSecs(1);
+        copy = m_folder + u"/open-"_s + stamp(time) + u'-' + baseName(titleOrPath);
+    } while (copy.startsWith(m_folder + u'/' + m_ownPrefix) || m_files.signature(copy).exists);
+    return m_files.write(copy, pieces, ownerOnly);
 }
 
 void RecoveryCopies::removeOwn()

@@ -366,6 +366,7 @@ private Q_SLOTS:
         QCOMPARE(window.rt().text(), QString());
         const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
         QCOMPARE(copies.size(), 1);
+        QVERIFY(copies.front().startsWith(u"open-")); // The next start tells of it.
         QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
     }
 

@@ -150,6 +150,20 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList());
     }
 
+    void aTextThatGaveWayStays()
+    {
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        const auto keep = [&](QByteArrayView text) { return copies.keepUnsaved(u"/home/me/a.htm"_s, {&text, 1}); };
+        QVERIFY(write(copies, u"/home/me/a.htm"_s, "mine"));
+        QVERIFY(keep("one"));
+        QVERIFY(keep("two"));
+        copies.removeOwn();
+        const QString start = u"open-20240229-120000-00%1-"_s + process + u"-a.htm"_s;
+        QCOMPARE(names(), (QStringList{start.arg(1), start.arg(2)}));
+        QCOMPARE(content(start.arg(1)), "one");
+        QCOMPARE(content(start.arg(2)), "two");
+    }
+
     void piecesAreJoined()
     {
         RecoveryCopies copies(folder(), m_files, m_clock);
