@@ -29,6 +29,8 @@ void VisualTools::connectDesigner()
                                   .displayChanged =
                                       [this] {
                                           showState();
+                                          // Also for those who read a menu without opening it.
+                                          updateMenu(u"Format"_s);
                                           Q_EMIT displayChanged();
                                       },
                                   .showContextMenu = [this](const QPoint &) { m_contextMenu.show(); },

@@ -603,6 +603,10 @@ private Q_SLOTS:
         QCOMPARE(heading->text(), u"Heading 1"_s);
         QVERIFY(!normal->isChecked() && heading->isChecked() && heading->isEnabled());
         QVERIFY(!bench.find<QAction>(u"FormatSub_2"_s)->isVisible());
+        // The ticks follow the caret, whether the menu opens or not.
+        designer.results[DesignerCommand::GetBlockFormat] = u"Normal"_s;
+        designer.events.displayChanged();
+        QVERIFY(normal->isChecked() && !heading->isChecked());
         normal->trigger();
         QVERIFY(
             designer.runs.back()
