@@ -94,7 +94,7 @@ private Q_SLOTS:
         WindowBench bench;
         bench.start();
         // The language that opens every toolbar.
-        bench.window->context().document.setLanguageRow(Html);
+        bench.window->context().document.setLanguageRow(language::Html);
         const QList<QAction *> actions = actionsOf(bench);
         QStringList faults;
         int enabled = 0;
@@ -129,7 +129,7 @@ private Q_SLOTS:
     {
         WindowBench bench;
         bench.start();
-        bench.window->context().document.setLanguageRow(Html);
+        bench.window->context().document.setLanguageRow(language::Html);
         for (const QAction *action : actionsOf(*bench.window->menuBar())) {
             const MenuItem *item = findMenuItem(action->objectName());
             const QuickTag *tag = findTagsEntry(action->objectName());
