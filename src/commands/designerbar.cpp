@@ -7,7 +7,6 @@
 
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -62,7 +61,8 @@ QComboBox *DesignerBar::addBox(const QString &name, const QString &tip)
     box->setCompleter(nullptr);
     box->setToolTip(tip);
     box->setAccessibleName(tip);
-    box->lineEdit()->installEventFilter(this);
+    // The box has the keys and hands them on to its field by itself, so that the field is sent none.
+    box->installEventFilter(this);
     addWidget(box);
     return box;
 }
@@ -113,7 +113,7 @@ bool DesignerBar::eventFilter(QObject *watched, QEvent *event)
     const int key = static_cast<QKeyEvent *>(event)->key();
     if (key != Qt::Key_Return && key != Qt::Key_Enter)
         return QToolBar::eventFilter(watched, event);
-    if (watched == m_font->lineEdit())
+    if (watched == m_font)
         Q_EMIT fontChosen(m_font->currentText());
     else
         Q_EMIT fontSizeTyped(m_size->currentText());

@@ -557,17 +557,17 @@ private Q_SLOTS:
         Q_EMIT font->textActivated(font->itemText(4));
         QCOMPARE(ran(DesignerCommand::SetFontName, u"Verdana"_s), 1);
         font->setEditText(u"Arial"_s); // In the list, but typed.
-        QTest::keyClick(font->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(font, Qt::Key_Return);
         QCOMPARE(ran(DesignerCommand::SetFontName, u"Arial"_s), 1);
 
         auto *size = bench.find<QComboBox>(u"FontSizeCombo"_s);
         Q_EMIT size->activated(6);
         QCOMPARE(ran(DesignerCommand::SetFontSize, 7), 1);
         size->setEditText(u"9"_s);
-        QTest::keyClick(size->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(size, Qt::Key_Return);
         QCOMPARE(size->currentText(), u"3"_s);
         size->setEditText(u"2"_s);
-        QTest::keyClick(size->lineEdit(), Qt::Key_Enter);
+        QTest::keyClick(size, Qt::Key_Enter);
         QCOMPARE(ran(DesignerCommand::SetFontSize, u"2"_s), 1);
         QCOMPARE(std::ranges::count(designer.runs, DesignerCommand::SetFontSize, &FakeDesigner::Run::command), 2);
     }
