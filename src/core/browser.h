@@ -35,6 +35,12 @@ public:
     virtual void setHome(const QString &address, FileKind kind = FileKind::ByName) = 0;
     /// Is called after each navigation that has come to its end.
     virtual void onNavigateComplete(std::function<void()> handler) = 0;
+    /// Is called when the process that shows the page has ended by itself.
+    virtual void onProcessLost(std::function<void()> handler) = 0;
+
+    /// Pages that lie in this folder, or below it, may load files from all of it, and others from their own folder and
+    /// below. Empty for none; it counts from the next navigation on.
+    virtual void setProjectFolder(const QString &folder) = 0;
 };
 
 } // namespace zephira

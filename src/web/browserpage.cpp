@@ -4,11 +4,19 @@
 #include "core/filestore.h"
 #include "files/textfile.h"
 #include "web/pageaddress.h"
+#include "web/scriptmessagebar.h"
 
+#include <QPointer>
+#include <QTimer>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
+
+#include <csignal>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace zephira {
 
@@ -33,7 +41,18 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
         settings()->setAttribute(attribute, false);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 
-    connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl &address) { m_fence.files().shown(address); });
+    connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl &address) {
+        m_isAlive = true;
+        m_fence.files().shown(address);
+    });
+    const auto takeEnd = [this] {
+        m_isAlive = true;
+        if (const auto again = std::exchange(m_again, {}))
+            again();
+        else
+            Q_EMIT processLost();
+    };
+    connect(this, &QWebEnginePage::renderProcessTerminated, this, takeEnd, Qt::QueuedConnection);
     connect(this, &QWebEnginePage::newWindowRequested, this,
             [this](const QWebEngineNewWindowRequest &request) { openInPlace(request); });
     connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
@@ -45,6 +64,7 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
 
 void BrowserPage::open(const QUrl &address)
 {
+    endIfHanging([this, address] { setUrl(address); });
     m_fence.files().open(address);
     setUrl(address);
 }
@@ -56,8 +76,55 @@ void BrowserPage::openAsPage(const QUrl &file)
         open(file);
         return;
     }
+    const QString html = QString::fromUtf8(decodeText(std::move(content).value()).utf8);
+    endIfHanging([this, html, file] { setHtml(html, file); });
     m_fence.files().open(file);
-    setHtml(QString::fromUtf8(decodeText(std::move(content).value()).utf8), file);
+    setHtml(html, file);
+}
+
+void BrowserPage::reload()
+{
+    endIfHanging([this] { triggerAction(Reload); });
+    triggerAction(Reload);
+}
+
+/// The page that shows has to take part in what replaces it. One that is busy with a script that never ends can't.
+void BrowserPage::endIfHanging(std::function<void()> again)
+{
+    const int navigation = ++m_navigation;
+    m_again = {};
+    if (renderProcessPid() <= 0)
+        return;
+    m_isAlive = false;
+    runJavaScript(u"0"_s, [self = QPointer<BrowserPage>(this), navigation](const QVariant &) {
+        if (self && self->m_navigation == navigation)
+            self->m_isAlive = true;
+    });
+    QTimer::singleShot(patience, this, [this, navigation, again] {
+        const qint64 process = renderProcessPid();
+        if (m_navigation != navigation || m_isAlive || process <= 0)
+            return;
+        m_again = again;
+        ::kill(static_cast<pid_t>(process), SIGKILL);
+    });
+}
+
+void BrowserPage::javaScriptAlert(const QUrl &, const QString &message)
+{
+    if (m_messages)
+        m_messages->ask(ScriptMessageBar::Kind::Alert, message);
+}
+
+bool BrowserPage::javaScriptConfirm(const QUrl &, const QString &message)
+{
+    return m_messages && m_messages->ask(ScriptMessageBar::Kind::Confirm, message).has_value();
+}
+
+bool BrowserPage::javaScriptPrompt(const QUrl &, const QString &message, const QString &preset, QString *result)
+{
+    const auto answer = m_messages ? m_messages->ask(ScriptMessageBar::Kind::Prompt, message, preset) : std::nullopt;
+    *result = answer.value_or(QString());
+    return answer.has_value();
 }
 
 /// Only a click opens anything, and the page's own rights go with it: to the fence the user went nowhere.

@@ -3,6 +3,7 @@
 
 #include "web/browserpage.h"
 #include "web/pageaddress.h"
+#include "web/scriptmessagebar.h"
 
 #include <QMenu>
 #include <QVBoxLayout>
@@ -22,13 +23,17 @@ constexpr QWebEnginePage::WebAction contextActions[] = {
 
 BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
     : QWidget(parent)
+    , m_messages(new ScriptMessageBar(this))
     , m_view(std::make_unique<QWebEngineView>(this))
     , m_page(new BrowserPage(files, m_profile, m_view.get()))
 {
     m_view->setPage(m_page);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_view.get());
+    layout->setSpacing(0);
+    layout->addWidget(m_messages);
+    layout->addWidget(m_view.get(), 1);
+    m_page->setMessages(*m_messages);
     setFocusProxy(m_view.get());
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     // Queued, because the engine waits for the end of the signal.
@@ -37,6 +42,8 @@ BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
     // The address is known as soon as the page begins to show; a page that fails tells only at its end.
     connect(m_page, &QWebEnginePage::urlChanged, this, &BrowserWidget::NavigateComplete);
     connect(m_page, &QWebEnginePage::loadFinished, this, &BrowserWidget::NavigateComplete);
+    connect(m_page, &QWebEnginePage::urlChanged, m_messages, &ScriptMessageBar::listen);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, m_messages, &ScriptMessageBar::listen);
 }
 
 BrowserWidget::~BrowserWidget()
@@ -47,6 +54,8 @@ BrowserWidget::~BrowserWidget()
 
 void BrowserWidget::navigate(const QString &address)
 {
+    // Whatever the page has still to say, the user is on the way to another one.
+    m_messages->silence();
     const QUrl target = pageAddress(address);
     if (m_homeKind == FileKind::Page && target == pageAddress(m_home))
         m_page->openAsPage(target);
@@ -77,11 +86,12 @@ void BrowserWidget::goHome()
 
 void BrowserWidget::refresh()
 {
+    m_messages->silence();
     // The engine would take the file of a page for what its name says.
     if (m_homeKind == FileKind::Page && m_page->url() == pageAddress(m_home))
         goHome();
     else
-        m_page->triggerAction(QWebEnginePage::Reload);
+        m_page->reload();
 }
 
 void BrowserWidget::stop()
@@ -97,6 +107,16 @@ QString BrowserWidget::locationUrl() const
 void BrowserWidget::onNavigateComplete(std::function<void()> handler)
 {
     connect(this, &BrowserWidget::NavigateComplete, this, handler);
+}
+
+void BrowserWidget::onProcessLost(std::function<void()> handler)
+{
+    connect(m_page, &BrowserPage::processLost, this, handler);
+}
+
+void BrowserWidget::setProjectFolder(const QString &folder)
+{
+    m_page->setProjectFolder(folder);
 }
 
 void BrowserWidget::showContextMenu(const QPoint &place)

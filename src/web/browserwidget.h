@@ -12,6 +12,7 @@ namespace zephira {
 
 class BrowserPage;
 class FileStore;
+class ScriptMessageBar;
 
 /// The browser as a widget that holds its web view. Its operations can be called by name. Nothing that a page leaves
 /// behind outlives it: the profile is kept in memory alone.
@@ -41,6 +42,8 @@ public:
     QString locationUrl() const override;
     void setHome(const QString &address, FileKind kind = FileKind::ByName) override;
     void onNavigateComplete(std::function<void()> handler) override;
+    void onProcessLost(std::function<void()> handler) override;
+    void setProjectFolder(const QString &folder) override;
 
 Q_SIGNALS:
     void NavigateComplete();
@@ -48,6 +51,7 @@ Q_SIGNALS:
 private:
     void showContextMenu(const QPoint &place);
 
+    ScriptMessageBar *m_messages = nullptr;
     QWebEngineProfile m_profile;
     /// Deleted before the profile, which must outlive it.
     std::unique_ptr<QWebEngineView> m_view;

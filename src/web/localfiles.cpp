@@ -41,10 +41,17 @@ void LocalFiles::open(const QUrl &address)
     m_coming = address;
     if (!address.isLocalFile())
         return;
-    const QString folder = QFileInfo(QFileInfo(address.toLocalFile()).path()).canonicalFilePath();
+    QString folder = QFileInfo(QFileInfo(address.toLocalFile()).path()).canonicalFilePath();
+    if (!folder.isEmpty() && !m_projectFolder.isEmpty() && liesBeneath(folder, m_projectFolder))
+        folder = m_projectFolder;
     m_folders.removeAll(folder);
     if (!folder.isEmpty())
         m_folders.append(folder);
+}
+
+void LocalFiles::setProjectFolder(const QString &folder)
+{
+    m_projectFolder = folder.isEmpty() ? QString() : QFileInfo(folder).canonicalFilePath();
 }
 
 void LocalFiles::shown(const QUrl &address)

@@ -4,14 +4,20 @@
 #include "support/httpserver.h"
 #include "support/testregistry.h"
 #include "web/browserwidget.h"
+#include "web/scriptmessagebar.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineView>
+
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -59,6 +65,13 @@ struct Bench {
     {
         return waitUntil([&] { return ask(script) == text; }, patience);
     }
+
+    ScriptMessageBar &messages() const { return *browser.findChild<ScriptMessageBar *>(); }
+    bool hasMessage() const
+    {
+        return waitUntil([&] { return messages().isVisible(); }, patience);
+    }
+    void click(const QString &button) const { messages().findChild<QPushButton *>(button)->click(); }
 
     /// Goes to a page and waits until it is there or has failed; returns which.
     bool show(const QString &address)
@@ -110,6 +123,116 @@ private Q_SLOTS:
         bench.browser.setHome(path);
         QVERIFY(bench.show(bench.write(u"site/plain.txt"_s, "<b>x")));
         QCOMPARE(bench.ask(u"document.body.innerText"_s), u"<b>x"_s);
+    }
+
+    void scriptsSpeakAndAsk()
+    {
+        Bench bench;
+        bench.browser.navigate(bench.write(
+            u"page.html"_s,
+            title
+                + "<script>alert('one'); const a = confirm('two'), b = confirm('three'), c = prompt('four', 'x');"
+                  "document.title = a + ' ' + b + ' ' + c</script>"));
+        QVERIFY(bench.hasMessage());
+        const auto *noMore = bench.messages().findChild<QCheckBox *>();
+        QVERIFY(!noMore->isVisible());
+        QVERIFY(!bench.messages().findChild<QPushButton *>(u"ScriptMessageCancel"_s)->isVisible());
+        bench.click(u"ScriptMessageOk"_s);
+        for (const auto &button : {u"ScriptMessageOk"_s, u"ScriptMessageCancel"_s}) {
+            const auto *cancel = bench.messages().findChild<QPushButton *>(u"ScriptMessageCancel"_s);
+            QVERIFY(waitUntil([&] { return bench.messages().isVisible() && cancel->isVisible(); }, patience));
+            QVERIFY(noMore->isVisible());
+            bench.click(button);
+            // The next question comes when the page has got the answer.
+            QVERIFY(waitUntil([&] { return !bench.messages().isVisible(); }, patience));
+        }
+        auto *input = bench.messages().findChild<QLineEdit *>();
+        QVERIFY(waitUntil([&] { return input->isVisible(); }, patience));
+        QCOMPARE(input->text(), u"x"_s);
+        input->setText(u"typed"_s);
+        bench.click(u"ScriptMessageOk"_s);
+        QVERIFY(bench.comesTo(u"document.title"_s, u"true false typed"_s));
+    }
+
+    void noMoreMessages()
+    {
+        Bench bench;
+        const QString page = bench.write(
+            u"page.html"_s, title + "<script>for (let i = 0; i < 50; ++i) alert(i); document.title = 'end'</script>");
+        bench.browser.navigate(page);
+        QVERIFY(bench.hasMessage());
+        bench.click(u"ScriptMessageOk"_s);
+        auto *noMore = bench.messages().findChild<QCheckBox *>();
+        QVERIFY(waitUntil([&] { return noMore->isVisible(); }, patience));
+        noMore->setChecked(true);
+        bench.click(u"ScriptMessageOk"_s);
+        QVERIFY(bench.comesTo(u"document.title"_s, u"end"_s));
+        QVERIFY(!bench.messages().isVisible());
+        // Another page speaks again.
+        bench.browser.navigate(bench.write(u"other.html"_s, title + "<script>alert('x')</script>"));
+        QVERIFY(bench.hasMessage());
+        bench.click(u"ScriptMessageOk"_s);
+    }
+
+    void aPageThatDoesNotLetGo_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::newRow("messages without an end") << QByteArray("for (;;) alert('x')");
+        QTest::newRow("a script without an end") << QByteArray("for (;;);");
+    }
+
+    /// The next page shows all the same, in a process of its own, and the old one is ended.
+    void aPageThatDoesNotLetGo()
+    {
+        QFETCH(QByteArray, script);
+        Bench bench;
+        QVERIFY(bench.show(bench.write(u"page.html"_s, title)));
+        const qint64 old = bench.page().renderProcessPid();
+        bench.ask(u"setTimeout(() => { %1 }, 0); 1"_s.arg(QString::fromLatin1(script)));
+        if (script.contains("alert"))
+            QVERIFY(bench.hasMessage());
+        else
+            QTest::qWait(200);
+        int losses = 0;
+        bench.browser.onProcessLost([&] { ++losses; });
+        bench.browser.navigate(bench.write(u"next.html"_s, "<!DOCTYPE html><title>next</title>"));
+        QVERIFY(waitUntil([&] { return bench.page().title() == u"next"; }, patience));
+        QVERIFY(bench.page().renderProcessPid() != old);
+        QVERIFY(waitUntil([&] { return ::kill(static_cast<pid_t>(old), 0) != 0; }, patience));
+        QVERIFY(!bench.messages().isVisible());
+        QCOMPARE(losses, 0);
+    }
+
+    void theLossOfAProcessIsTold()
+    {
+        Bench bench;
+        QVERIFY(bench.show(bench.write(u"page.html"_s, title)));
+        int losses = 0;
+        bench.browser.onProcessLost([&] { ++losses; });
+        ::kill(static_cast<pid_t>(bench.page().renderProcessPid()), SIGKILL);
+        QVERIFY(waitUntil([&] { return losses == 1; }, patience));
+    }
+
+    void theProjectFolderIsOpenToItsPages_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("none") << QString() << u"refused"_s;
+        QTest::newRow("the page's") << u"/site"_s << u"loaded"_s;
+        QTest::newRow("another one") << u"/site/other"_s << u"refused"_s;
+    }
+
+    void theProjectFolderIsOpenToItsPages()
+    {
+        QFETCH(QString, project);
+        Bench bench;
+        bench.write(u"site/js/s.js"_s, "document.title = 'loaded'");
+        bench.write(u"site/other/x.txt"_s, "x");
+        bench.browser.setProjectFolder(project.isEmpty() ? project : bench.folder.path() + project);
+        QVERIFY(
+            bench.show(bench.write(u"site/pages/page.html"_s,
+                                   title + "<script src=../js/s.js onerror=\"document.title='refused'\"></script>")));
+        QTEST(bench.ask(u"document.title"_s), "title");
     }
 
     void aPageThatIsNotThereIsNamedAsSuch()
