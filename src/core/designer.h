@@ -109,6 +109,15 @@ public:
     /// Entries of the context menu that is about to show; an empty text is a separator. Both lists have one length.
     virtual void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) = 0;
     virtual void setEvents(DesignerEvents events) = 0;
+
+    /// The view is being left, which takes a while: whoever asks isShowing() meanwhile runs `finish` first, after which
+    /// visual mode has ended and its text is home. Empty once it has been left.
+    virtual void setLeaving(std::function<void()> finish) = 0;
+    /// Is called when the process that shows the page has ended by itself; the page as it was known last is loaded again.
+    virtual void onProcessLost(std::function<void()> handler) = 0;
+    /// A page that lies in this folder, or below it, may load files from all of it, and another one from its own folder
+    /// and below. Empty for none; it counts from the next load on.
+    virtual void setProjectFolder(const QString &folder) = 0;
 };
 
 /// Stands for the designer as long as the visual view has not been opened: never showing, never dirty.
@@ -136,6 +145,9 @@ public:
     void setSnapToGrid(bool) override {}
     void setContextMenu(const QStringList &, const QList<DesignerMenuState> &) override {}
     void setEvents(DesignerEvents) override {}
+    void setLeaving(std::function<void()>) override {}
+    void onProcessLost(std::function<void()>) override {}
+    void setProjectFolder(const QString &) override {}
 };
 
 } // namespace zephira

@@ -9,6 +9,24 @@ void LateDesigner::attach(Designer &designer)
 {
     m_designer = &designer;
     m_designer->setEvents(std::exchange(m_events, {}));
+    if (m_processLost)
+        m_designer->onProcessLost(std::exchange(m_processLost, {}));
+}
+
+void LateDesigner::onProcessLost(std::function<void()> handler)
+{
+    if (isAttached())
+        m_designer->onProcessLost(std::move(handler));
+    else
+        m_processLost = std::move(handler);
+}
+
+bool LateDesigner::isShowing() const
+{
+    // A copy, since it is taken away when it has done its work.
+    if (const auto finish = m_finishLeaving)
+        finish();
+    return m_isShowing;
 }
 
 void LateDesigner::setEvents(DesignerEvents events)
@@ -24,6 +42,22 @@ void LateBrowser::attach(Browser &browser)
     m_browser = &browser;
     if (m_navigateComplete)
         m_browser->onNavigateComplete(std::exchange(m_navigateComplete, {}));
+    if (m_processLost)
+        m_browser->onProcessLost(std::exchange(m_processLost, {}));
+}
+
+void LateBrowser::onProcessLost(std::function<void()> handler)
+{
+    if (m_browser)
+        m_browser->onProcessLost(std::move(handler));
+    else
+        m_processLost = std::move(handler);
+}
+
+void LateBrowser::setProjectFolder(const QString &folder)
+{
+    if (m_browser)
+        m_browser->setProjectFolder(folder);
 }
 
 void LateBrowser::navigate(const QString &address)

@@ -16,7 +16,7 @@ public:
     bool isAttached() const { return m_designer != &m_none; }
 
     /// Visual mode is what the window says it is, not whether the designer can be seen just now.
-    bool isShowing() const override { return m_isShowing; }
+    bool isShowing() const override;
     void setShowing(bool showing) { m_isShowing = showing; }
     bool isDirty() const override { return m_designer->isDirty(); }
     QString documentHtml() override { return m_designer->documentHtml(); }
@@ -45,11 +45,16 @@ public:
     }
     /// Handlers that were given before the real designer came are handed on to it.
     void setEvents(DesignerEvents events) override;
+    void setLeaving(std::function<void()> finish) override { m_finishLeaving = std::move(finish); }
+    void onProcessLost(std::function<void()> handler) override;
+    void setProjectFolder(const QString &folder) override { m_designer->setProjectFolder(folder); }
 
 private:
     NoDesigner m_none;
     Designer *m_designer = &m_none;
     DesignerEvents m_events;
+    std::function<void()> m_finishLeaving;
+    std::function<void()> m_processLost;
     bool m_isShowing = false;
 };
 
@@ -69,10 +74,13 @@ public:
     QString locationUrl() const override;
     void setHome(const QString &address, FileKind kind) override;
     void onNavigateComplete(std::function<void()> handler) override;
+    void onProcessLost(std::function<void()> handler) override;
+    void setProjectFolder(const QString &folder) override;
 
 private:
     Browser *m_browser = nullptr;
     std::function<void()> m_navigateComplete;
+    std::function<void()> m_processLost;
 };
 
 } // namespace zephira

@@ -58,16 +58,30 @@ QString serverAddress(const QString &server, const QString &fileName)
 
 WorkspaceViews::WorkspaceViews(const AppContext &context, Browser &browser, WorkspaceWindow &window)
     : m_context(context), m_browser(browser), m_window(window)
-{}
+{
+    m_browser.onProcessLost([this] { m_window.notice(u"The preview's process has ended. Load the page again."_s); });
+    m_context.designer.onProcessLost([this] {
+        m_window.notice(u"The designer's process has ended. The page is shown again as it was known last."_s);
+    });
+}
+
+void WorkspaceViews::tellProjectFolder()
+{
+    const QString folder = hasProject(m_context.document) ? m_context.document.projectPath() : QString();
+    m_browser.setProjectFolder(folder);
+    m_context.designer.setProjectFolder(folder);
+}
 
 void WorkspaceViews::select(WorkspaceView view)
 {
+    ++m_change;
     if (view == m_current && view != WorkspaceView::Preview)
         return;
     if (!m_window.prepare(view)) {
         m_window.selectTab(WorkspaceView::Code);
         return;
     }
+    tellProjectFolder();
     endingQuietly([&] {
         switch (view) {
         case WorkspaceView::Code:
@@ -88,13 +102,26 @@ void WorkspaceViews::reset()
     endingQuietly([&] { m_context.designer.setDocumentHtml(m_context.editor.text()); });
 }
 
-void WorkspaceViews::carryBack()
+/// Brings the designer's text home on the way to another view. The designer takes a moment to answer, in which commands may
+/// come: those that ask whether it is showing bring the text home themselves, and then go on. Returns false where another
+/// change of view has come in between, which counts.
+bool WorkspaceViews::carryBack(WorkspaceView next)
 {
+    if (m_current != WorkspaceView::Visual)
+        return true;
     Designer &designer = m_context.designer;
-    if (!designer.isShowing() || !designer.isDirty())
-        return;
-    m_context.editor.setText(designer.documentHtml());
-    m_window.markModified();
+    const int change = m_change;
+    designer.setLeaving([this, next] { select(next); });
+    const bool isDirty = designer.isDirty();
+    const QString text = isDirty && change == m_change ? designer.documentHtml() : QString();
+    designer.setLeaving({});
+    if (change != m_change)
+        return false;
+    if (isDirty) {
+        m_context.editor.setText(text);
+        m_window.markModified();
+    }
+    return true;
 }
 
 void WorkspaceViews::show(WorkspaceView view)
@@ -109,13 +136,14 @@ void WorkspaceViews::show(WorkspaceView view)
 void WorkspaceViews::selectCode()
 {
     m_browser.navigate(emptyPage);
-    carryBack();
-    show(WorkspaceView::Code);
+    if (carryBack(WorkspaceView::Code))
+        show(WorkspaceView::Code);
 }
 
 void WorkspaceViews::selectPreview()
 {
-    carryBack();
+    if (!carryBack(WorkspaceView::Preview))
+        return;
     show(WorkspaceView::Preview);
     switch (previewKind(m_context.document.languageRow())) {
     case PreviewKind::None:

@@ -57,10 +57,11 @@ public:
     QString designerBase() const { return m_designerBase; }
 
 private:
+    void tellProjectFolder();
     void selectCode();
     void selectPreview();
     void selectVisual();
-    void carryBack();
+    bool carryBack(WorkspaceView next);
     void show(WorkspaceView view);
 
     void previewStyleSheet();
@@ -74,6 +75,8 @@ private:
     Browser &m_browser;
     WorkspaceWindow &m_window;
     WorkspaceView m_current = WorkspaceView::Code;
+    /// Tells a change of view from those that come while it waits for the designer.
+    int m_change = 0;
     QString m_designerBase;
 };
 

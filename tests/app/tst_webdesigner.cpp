@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRandomGenerator>
 #include <QTimer>
 
 using namespace zephira;
@@ -126,6 +127,41 @@ private Q_SLOTS:
         QVERIFY(bench.design());
         bench.select(1);
         QCOMPARE(bench.window->rt().text(), QString::fromLatin1("3 < 4" + content));
+    }
+
+    /// Commands that come while the designer is being left find its text at home; nothing is lost, and nothing late.
+    void commandsWhileTheDesignerIsLeft()
+    {
+        constexpr int runs = 200;
+        constexpr int latest = 60;
+        QRandomGenerator random(11);
+        WebBench bench(u"page.html"_s, pageText);
+        for (int run = 0; run < runs; ++run) {
+            QVERIFY(bench.design());
+            const QString word = u"word%1"_s.arg(run);
+            bench.paste(word);
+            bool isSaved = false;
+            bool isInserted = false;
+            const int saveAfter = random.bounded(latest);
+            const int insertAfter = random.bounded(latest);
+            const QString late = u"late%1"_s.arg(run);
+            QTimer::singleShot(saveAfter, bench.window.get(), [&] {
+                bench.choose(u"save"_s);
+                isSaved = true;
+            });
+            QTimer::singleShot(insertAfter, bench.window.get(), [&] {
+                bench.window->InsertAtCaret(late);
+                isInserted = true;
+            });
+            bench.select(1);
+            QVERIFY(waitUntil([&] { return isSaved && isInserted; }, WebBench::patience));
+            const QString text = bench.window->rt().text();
+            QVERIFY2(text.contains(word), qPrintable(u"run %1: "_s.arg(run) + text));
+            QVERIFY2(text.count(late) == 1, qPrintable(u"run %1: "_s.arg(run) + text));
+            QVERIFY2(WindowBench::read(bench.file).contains(word.toUtf8()), qPrintable(u"run %1"_s.arg(run)));
+            bench.choose(u"save"_s);
+            QCOMPARE(QString::fromUtf8(WindowBench::read(bench.file)), bench.window->rt().text());
+        }
     }
 
     void savingBringsTheTextHome()
@@ -263,25 +299,25 @@ private Q_SLOTS:
         QVERIFY(waitUntil([&] { return font->isEnabled() && size->isEnabled(); }, WebBench::patience));
         QCOMPARE(size->currentText(), u"3"_s);
         font->setEditText(u"Courier New"_s);
-        QTest::keyClick(font->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(font, Qt::Key_Return);
         QVERIFY2(bench.html().contains(u"Courier New"_s), qPrintable(bench.html()));
         QVERIFY(waitUntil([&] { return font->currentText() == u"Courier New"; }, WebBench::patience));
         size->setEditText(u"5"_s);
-        QTest::keyClick(size->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(size, Qt::Key_Return);
         QVERIFY2(bench.html().contains(u"size=\"5\""_s), qPrintable(bench.html()));
         const QString before = bench.html();
         for (const char16_t *text : {u"9", u"0", u"x", u"", u"nan", u"1.5"}) {
             size->setEditText(QString::fromUtf16(text));
-            QTest::keyClick(size->lineEdit(), Qt::Key_Return);
+            QTest::keyClick(size, Qt::Key_Return);
             QVERIFY(waitUntil([&] { return size->currentText() == u"5"; }, WebBench::patience));
             QCOMPARE(bench.html(), before);
         }
         font->setEditText(QString());
-        QTest::keyClick(font->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(font, Qt::Key_Return);
         QVERIFY(waitUntil([&] { return font->currentText() == u"Courier New"; }, WebBench::patience));
         QCOMPARE(bench.html(), before);
         size->setEditText(u" 3 "_s);
-        QTest::keyClick(size->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(size, Qt::Key_Return);
         QVERIFY(waitUntil([&] { return size->currentText() == u"3"; }, WebBench::patience));
     }
 

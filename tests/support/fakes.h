@@ -68,10 +68,21 @@ struct FakeDesigner final : Designer {
     QStringList menuEntries;
     QList<DesignerMenuState> menuStates;
     DesignerEvents events;
+    std::function<void()> leaving;
+    std::function<void()> processLost;
+    QString projectFolder;
+    /// Runs while the text is on its way.
+    std::function<void()> meanwhile;
 
     bool isShowing() const override { return showing; }
     bool isDirty() const override { return dirty; }
-    QString documentHtml() override { return html; }
+    QString documentHtml() override
+    {
+        const QString text = html;
+        if (const auto act = std::exchange(meanwhile, {}))
+            act();
+        return text;
+    }
     void setDocumentHtml(const QString &text) override { html = text; }
     void loadDocument(const QString &path) override;
     QString baseFile() const override { return base; }
@@ -90,6 +101,9 @@ struct FakeDesigner final : Designer {
     void setSnapToGrid(bool on) override { snapping = on; }
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
     void setEvents(DesignerEvents handlers) override { events = std::move(handlers); }
+    void setLeaving(std::function<void()> finish) override { leaving = std::move(finish); }
+    void onProcessLost(std::function<void()> handler) override { processLost = std::move(handler); }
+    void setProjectFolder(const QString &folder) override { projectFolder = folder; }
 };
 
 struct FakeBrowser final : Browser {
@@ -99,6 +113,8 @@ struct FakeBrowser final : Browser {
     QString home;
     FileKind homeKind = FileKind::ByName;
     std::function<void()> navigateComplete;
+    std::function<void()> processLost;
+    QString projectFolder;
 
     void navigate(const QString &address) override { calls.append(address); }
     void goBack() override { calls.append(QStringLiteral("back")); }
@@ -112,6 +128,8 @@ struct FakeBrowser final : Browser {
         home = address;
         homeKind = kind;
     }
+    void onProcessLost(std::function<void()> handler) override { processLost = std::move(handler); }
+    void setProjectFolder(const QString &folder) override { projectFolder = folder; }
     void onNavigateComplete(std::function<void()> handler) override { navigateComplete = std::move(handler); }
 };
 

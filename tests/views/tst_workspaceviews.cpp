@@ -110,6 +110,57 @@ class TstWorkspaceViews final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void commandsWhileTheDesignerIsLeft_data()
+    {
+        QTest::addColumn<bool>("asks");
+        QTest::addColumn<int>("next");
+        QTest::newRow("nothing") << false << 0;
+        QTest::newRow("a command on the way to code") << true << 0;
+        QTest::newRow("a command on the way to the preview") << true << 1;
+    }
+
+    /// Who asks for visual mode while the designer's text is on its way has it at home first, and what is done then stays.
+    void commandsWhileTheDesignerIsLeft()
+    {
+        QFETCH(bool, asks);
+        QFETCH(int, next);
+        Bench bench;
+        bench.openFile(u"/site/page.html"_s, u"old"_s);
+        bench.select(WorkspaceView::Visual);
+        bench.world.designer.dirty = true;
+        bench.world.designer.html = u"new"_s;
+        bench.world.designer.meanwhile = [&] {
+            if (!asks)
+                return;
+            QVERIFY(bench.world.designer.leaving);
+            const auto finish = bench.world.designer.leaving;
+            finish();
+            QVERIFY(!bench.world.designer.leaving);
+            QVERIFY(!bench.world.designer.showing);
+            QCOMPARE(bench.world.editor.text(), u"new"_s);
+            bench.world.editor.setText(u"newer"_s);
+        };
+        bench.select(WorkspaceView(next));
+        QCOMPARE(bench.world.editor.text(), asks ? u"newer"_s : u"new"_s);
+        QVERIFY(bench.window.modified);
+        QCOMPARE(int(bench.window.shown), next);
+        QVERIFY(!bench.world.designer.leaving);
+    }
+
+    /// Whoever goes back to the designer before it has been left stays there.
+    void goingBackToTheDesignerMeanwhile()
+    {
+        Bench bench;
+        bench.openFile(u"/site/page.html"_s, u"old"_s);
+        bench.select(WorkspaceView::Visual);
+        bench.world.designer.dirty = true;
+        bench.world.designer.meanwhile = [&] { bench.select(WorkspaceView::Visual); };
+        bench.select(WorkspaceView::Code);
+        QCOMPARE(bench.window.shown, WorkspaceView::Visual);
+        QCOMPARE(bench.world.editor.text(), u"old"_s);
+        QVERIFY(!bench.world.designer.leaving);
+    }
+
     void controlsAndMenus_data()
     {
         QTest::addColumn<QList<int>>("way"); // Views selected one after the other: 0 code, 1 preview, 2 visual.
