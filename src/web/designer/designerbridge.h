@@ -12,11 +12,12 @@ namespace zephira {
 /// Every report names its kind, the page that it is about, by the prefix of its marks, and a number that grows within the
 /// page: reports may arrive after another page has taken the place of theirs, or after newer ones.
 ///
-/// | "kind"  | further members |
-/// |---------|-----------------|
-/// | state   | those of DesignerState::fromPage() |
-/// | place   | "place": where the selected element stands; see DesignerHandles |
-/// | copy    | those of DesignerCopy::fromPage() |
+/// | "kind" | further members |
+/// |---|---|
+/// | complete | those of DesignerState::fromPage(), of a page that had to wait for a style sheet and is there now |
+/// | state | those of DesignerState::fromPage() |
+/// | place | "place": where the selected element stands; see DesignerHandles |
+/// | copy | those of DesignerCopy::fromPage() |
 /// | command | "command": the number of one that the user wants by the keyboard |
 class DesignerBridge final : public QObject
 {

@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -60,9 +62,14 @@ bool DesignerHandles::eventFilter(QObject *watched, QEvent *event)
 void DesignerHandles::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintSigns(painter);
-    if (!m_frame.isNull())
+    if (!m_frame.isNull()) {
         paintFrame(painter);
+        // What is selected isn't covered by signs, and neither are its grips.
+        const int around = int(std::ceil(gripSize / 2)) + 1;
+        painter.setClipRegion(
+            QRegion(rect()).subtracted(m_frame.toAlignedRect().adjusted(-around, -around, around, around)));
+    }
+    paintSigns(painter);
 }
 
 /// Like the signs that stand in the page itself. Signs at one place follow each other.

@@ -81,8 +81,8 @@ DesignerPage::DesignerPage(QWebEngineProfile &profile, QObject *parent) : QWebEn
         if (m_isOpening && ok)
             lookForEmptyPage();
     });
-    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { m_unanswered = 0; });
-    connect(this, &DesignerPage::ready, this, [this] { m_unanswered = 0; });
+    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { m_late = 0; });
+    connect(this, &DesignerPage::ready, this, [this] { m_late = 0; });
     connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
         setFeaturePermission(origin, feature, PermissionDeniedByUser);
     });
@@ -135,10 +135,10 @@ void DesignerPage::call(const QString &function, const QVariantList &arguments,
 }
 
 /// What a page before was asked is of no account any more.
-void DesignerPage::answered(int opening)
+void DesignerPage::answeredLate(int opening)
 {
-    if (opening == m_opening && m_unanswered > 0)
-        --m_unanswered;
+    if (opening == m_opening && m_late > 0)
+        --m_late;
 }
 
 std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const QVariantList &arguments)
@@ -153,20 +153,26 @@ std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const
     const auto wait = std::make_shared<Wait>();
     const std::weak_ptr<Wait> waiting = wait;
     const QPointer<DesignerPage> self(this);
-    ++m_unanswered;
-    call(function, arguments, [self, waiting, opening = m_opening](const QVariant &answer) {
-        if (self)
-            self->answered(opening);
+    const int opening = m_opening;
+    call(function, arguments, [self, waiting, opening](const QVariant &answer) {
         if (const auto still = waiting.lock()) {
             still->answer = answer;
             still->loop.quit();
+        } else if (self) {
+            self->answeredLate(opening);
         }
     });
-    QTimer::singleShot(m_patience, &wait->loop, &QEventLoop::quit);
+    QTimer::singleShot(patience(), &wait->loop, &QEventLoop::quit);
+    connect(this, &DesignerPage::late, &wait->loop, &QEventLoop::quit);
     connect(this, &QWebEnginePage::renderProcessTerminated, &wait->loop, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &wait->loop, &QEventLoop::quit);
     if (!wait->answer)
         waitIn(wait->loop);
+    // Who asked while this waited needn't wait for as long again.
+    if (self && !wait->answer && opening == m_opening) {
+        ++m_late;
+        Q_EMIT late();
+    }
     return wait->answer;
 }
 

@@ -20,6 +20,7 @@ class DesignerPage final : public QWebEnginePage
 public:
     DesignerPage(QWebEngineProfile &profile, QObject *parent);
 
+    void setProjectFolder(const QString &folder) { m_fence.files().setProjectFolder(folder); }
     /// Loads an empty page that relative addresses lead from; ready() says when it can take a document.
     void open(const QUrl &base);
 
@@ -27,18 +28,21 @@ public:
     void call(const QString &function, const QVariantList &arguments,
               const std::function<void(const QVariant &)> &answered);
     /// Calls one and waits for its answer, at most `patience()`. Nothing where the page doesn't answer; then further
-    /// calls don't wait at all until it does.
+    /// calls don't wait at all until it does. While it waits other callers may come: each gets its own answer.
     std::optional<QVariant> callAndWait(const QString &function, const QVariantList &arguments = {});
 
     DesignerBridge &bridge() { return m_bridge; }
-    bool isResponding() const { return m_unanswered == 0; }
+    bool isResponding() const { return m_late == 0; }
 
-    int patience() const { return m_patience; }
-    /// In milliseconds.
+    /// In milliseconds; what a large page needs comes on top.
+    int patience() const { return m_patience + m_allowance; }
     void setPatience(int patience) { m_patience = patience; }
+    void setAllowance(int allowance) { m_allowance = allowance; }
 
 Q_SIGNALS:
     void ready(bool ok);
+    /// Somebody has waited for an answer as long as anybody should.
+    void late();
 
 protected:
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
@@ -47,7 +51,7 @@ protected:
 
 private:
     void installScript();
-    void answered(int opening);
+    void answeredLate(int opening);
     void lookForEmptyPage();
 
     LocalFileFence m_fence;
@@ -56,8 +60,10 @@ private:
     bool m_isOpening = false;
     /// Tells one empty page from the next.
     int m_opening = 0;
-    int m_unanswered = 0;
-    int m_patience = 10000;
+    /// Questions that nobody waits for any more.
+    int m_late = 0;
+    int m_patience = 2000;
+    int m_allowance = 0;
 };
 
 } // namespace zephira

@@ -26,11 +26,14 @@ struct DesignerStamp {
 struct DesignerCopy {
     DesignerStamp stamp;
     QString text;
+    /// How many changes are in it; see DesignerState::changes.
+    qint64 changes = 0;
 
     bool isThere() const { return stamp.number > 0; }
     static DesignerCopy fromPage(const QVariantMap &copy)
     {
-        return {DesignerStamp::fromPage(copy), copy.value(QStringLiteral("text")).toString()};
+        return {DesignerStamp::fromPage(copy), copy.value(QStringLiteral("text")).toString(),
+                copy.value(QStringLiteral("changes")).toLongLong()};
     }
 };
 
@@ -44,6 +47,8 @@ struct DesignerState {
     int fontSize = 0;
     QString blockFormat;
     bool isDirty = false;
+    /// How often the page has changed since it was loaded; undoing counts, too.
+    qint64 changes = 0;
     /// How many key presses the page has seen.
     int keys = 0;
     QVariantMap place;
@@ -61,6 +66,7 @@ struct DesignerState {
         state.fontSize = report.value(QStringLiteral("fontSize")).toInt();
         state.blockFormat = report.value(QStringLiteral("blockFormat")).toString();
         state.isDirty = report.value(QStringLiteral("dirty")).toBool();
+        state.changes = report.value(QStringLiteral("changes")).toLongLong();
         state.keys = report.value(QStringLiteral("keys")).toInt();
         state.place = report.value(QStringLiteral("place")).toMap();
         return state;

@@ -32,6 +32,11 @@ constexpr int keyPatience = 300;
 constexpr int keyInterval = 5;
 /// A page that takes its process down again and again isn't loaded any more.
 constexpr int mostLosses = 3;
+/// How often a page is asked for its text that changes again and again.
+constexpr int mostTries = 5;
+/// A load may take this many times as long as an answer, and an answer a millisecond more for this many characters.
+constexpr int loadShare = 5;
+constexpr int charactersInMillisecond = 1000;
 
 void pass(int milliseconds)
 {
@@ -92,9 +97,8 @@ void DesignerWidget::hear(const QVariantMap &report)
         void (DesignerWidget::*take)(const QVariantMap &report);
     };
     static constexpr Kind kinds[] = {
-        {u"state", &DesignerWidget::takeState},
-        {u"place", &DesignerWidget::takePlace},
-        {u"copy", &DesignerWidget::takeCopyReport},
+        {u"complete", &DesignerWidget::takeComplete}, {u"state", &DesignerWidget::takeState},
+        {u"place", &DesignerWidget::takePlace},       {u"copy", &DesignerWidget::takeCopyReport},
         {u"command", &DesignerWidget::takeCommand},
     };
     const QString name = report.value(u"kind"_s).toString();
@@ -128,6 +132,7 @@ void DesignerWidget::takeCommand(const QVariantMap &report)
 void DesignerWidget::takeText(const QString &source)
 {
     m_text = PageRoundTrip(source, freshMarkPrefix(source), documentKind(m_baseFile));
+    m_page->setAllowance(int(source.size() / charactersInMillisecond));
 }
 
 void DesignerWidget::setDocumentHtml(const QString &html)
@@ -165,21 +170,27 @@ void DesignerWidget::write(bool ready)
     const QPointer<DesignerWidget> self(this);
     m_page->call(u"load"_s, {m_text.forEngine(), m_text.markPrefix(), m_looks, m_text.isPlain()},
                  [self, load = m_load](const QVariant &answer) {
-                     const auto finish = [self, load, answer] {
-                         if (self->m_load == load)
-                             self->complete(answer);
-                     };
-                     // The host is going to ask for more.
-                     if (self)
-                         QMetaObject::invokeMethod(self, finish, Qt::QueuedConnection);
+                     // A page that isn't there yet tells when it is.
+                     if (self && self->m_load == load && !answer.toMap().isEmpty())
+                         self->takeComplete(answer.toMap().value(u"state"_s).toMap());
                  });
 }
 
-void DesignerWidget::complete(const QVariant &answer)
+/// The host is going to ask for more.
+void DesignerWidget::takeComplete(const QVariantMap &state)
+{
+    const auto finish = [this, load = m_load, state] {
+        if (m_load == load)
+            complete(state);
+    };
+    QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+}
+
+void DesignerWidget::complete(const QVariantMap &state)
 {
     m_isComplete = true;
     m_view->focusProxy()->installEventFilter(this);
-    takeAnswer(answer);
+    takeReport(state);
     Q_EMIT DocumentComplete();
     announceDisplay();
 }
@@ -199,6 +210,7 @@ void DesignerWidget::takeLoss()
         if (m_load == load && !isGivenUp())
             open();
         announceDisplay();
+        Q_EMIT ProcessLost();
     };
     QMetaObject::invokeMethod(this, reopen, Qt::QueuedConnection);
 }
@@ -215,7 +227,7 @@ bool DesignerWidget::waitUntilComplete()
     time.start();
     while (!m_isComplete && !m_isLate && m_load > 0 && !isGivenUp()) {
         pass(keyInterval);
-        m_isLate = time.elapsed() >= m_page->patience();
+        m_isLate = time.elapsed() >= loadShare * m_page->patience();
     }
     return m_isComplete;
 }
@@ -287,8 +299,12 @@ QString DesignerWidget::documentHtml()
     awaitKeys();
     if (!m_state.isDirty)
         return m_text.source();
-    takeCopy(DesignerCopy::fromPage(ask(u"text"_s).toMap()));
-    return m_copy.isThere() ? m_text.fromEngine(m_copy.text) : m_text.source();
+    // Others may change the page while its text is on the way.
+    int tries = 0;
+    do {
+        takeCopy(DesignerCopy::fromPage(ask(u"text"_s).toMap()));
+    } while (m_isComplete && m_copy.changes < m_state.changes && ++tries < mostTries);
+    return m_copy.isThere() && m_state.isDirty ? m_text.fromEngine(m_copy.text) : m_text.source();
 }
 
 void DesignerWidget::pasteHtml(const QString &html)
@@ -358,6 +374,16 @@ void DesignerWidget::setEvents(DesignerEvents events)
         connect(this, &DesignerWidget::ShowContextMenu, m_host.get(), [show = events.showContextMenu](int x, int y) {
             show({x, y});
         });
+}
+
+void DesignerWidget::onProcessLost(std::function<void()> handler)
+{
+    connect(this, &DesignerWidget::ProcessLost, this, handler);
+}
+
+void DesignerWidget::setProjectFolder(const QString &folder)
+{
+    m_page->setProjectFolder(folder);
 }
 
 bool DesignerWidget::eventFilter(QObject *watched, QEvent *event)

@@ -70,6 +70,9 @@ public:
     void setSnapToGrid(bool on) override { setLook(QStringLiteral("snapToGrid"), on); }
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
     void setEvents(DesignerEvents events) override;
+    void setLeaving(std::function<void()>) override {}
+    void onProcessLost(std::function<void()> handler) override;
+    void setProjectFolder(const QString &folder) override;
 
     QWebEngineView &view() { return *m_view; }
     DesignerPage &page() { return *m_page; }
@@ -81,6 +84,7 @@ Q_SIGNALS:
     /// A place of the screen.
     void ShowContextMenu(int x, int y);
     void ContextMenuAction(int index);
+    void ProcessLost();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -88,6 +92,7 @@ protected:
 private:
     void connectPage();
     void hear(const QVariantMap &report);
+    void takeComplete(const QVariantMap &state);
     void takeState(const QVariantMap &report);
     void takePlace(const QVariantMap &report);
     void takeCopyReport(const QVariantMap &report);
@@ -95,7 +100,7 @@ private:
     void takeText(const QString &source);
     void open();
     void write(bool ready);
-    void complete(const QVariant &answer);
+    void complete(const QVariantMap &state);
     void takeLoss();
     bool isGivenUp() const;
     bool waitUntilComplete();

@@ -53,23 +53,45 @@ void EntityHabits::learn(QStringView source)
             const qsizetype length = referenceLength(rest);
             if (const char32_t character = entityCharacter(rest.first(length))) {
                 Habit &habit = m_habits[character];
+                const QString spelling = u"&%1;"_s.arg(rest.first(length));
                 if (habit.spelling.isEmpty())
-                    habit.spelling = u"&%1;"_s.arg(rest.first(length));
+                    habit.spelling = spelling;
+                if (character >= m_plainAscii.size())
+                    habit.all.append(spelling);
                 place += 1 + length + rest.sliced(length).startsWith(u';');
                 continue;
             }
         }
         const char32_t character = nextCharacter(source, place);
-        if (character < m_plainAscii.size())
+        if (character < m_plainAscii.size()) {
             m_plainAscii.set(character);
-        else
-            m_habits[character].seenPlain = true;
+        } else {
+            Habit &habit = m_habits[character];
+            habit.seenPlain = true;
+            habit.all.append(QString());
+        }
     }
 }
 
-QString EntityHabits::spellingOf(char32_t character) const
+void EntityHabits::expect(QStringView characters, Progress &progress) const
+{
+    for (qsizetype place = 0; place < characters.size();) {
+        const char32_t character = nextCharacter(characters, place);
+        if (character >= m_plainAscii.size())
+            ++progress.expected[character];
+    }
+}
+
+QString EntityHabits::spellingOf(char32_t character, Progress *progress) const
 {
     const auto habit = m_habits.constFind(character);
+    if (progress && habit != m_habits.constEnd() && progress->expected.value(character) == habit->all.size()) {
+        const qsizetype place = progress->written[character]++;
+        if (const QString spelling = habit->all.value(place); !spelling.isEmpty())
+            return spelling;
+        if (character >= m_plainAscii.size())
+            return QString::fromUcs4(&character, 1);
+    }
     const bool isSpelled = habit != m_habits.constEnd() && !habit->spelling.isEmpty();
     const bool isPlain = character < m_plainAscii.size() ? m_plainAscii.test(character)
                                                          : habit != m_habits.constEnd() && habit->seenPlain;
@@ -80,13 +102,13 @@ QString EntityHabits::spellingOf(char32_t character) const
     case U'&':
         return u"&amp;"_s;
     case U'<':
-        return m_place == Place::Value ? u"<"_s : u"&lt;"_s;
+        return m_place == Place::Value && !m_isXml ? u"<"_s : u"&lt;"_s;
     case U'>':
         return m_place == Place::Value || staysPlain ? u">"_s : u"&gt;"_s;
     case U'"':
         return m_place == Place::Value ? u"&quot;"_s : u"\""_s;
     case noBreakSpace:
-        return staysPlain ? QString(QChar(noBreakSpace)) : u"&nbsp;"_s;
+        return staysPlain ? QString(QChar(noBreakSpace)) : m_isXml ? u"&#160;"_s : u"&nbsp;"_s;
     case U'\r':
         return u"&#13;"_s;
     case U'\n':
@@ -96,7 +118,7 @@ QString EntityHabits::spellingOf(char32_t character) const
     }
 }
 
-QString EntityHabits::write(QStringView characters) const
+QString EntityHabits::write(QStringView characters, Progress *progress) const
 {
     QString text;
     text.reserve(characters.size());
@@ -113,7 +135,7 @@ QString EntityHabits::write(QStringView characters) const
         const qsizetype before = place;
         const char32_t character = nextCharacter(characters, place);
         // A half of a pair is no character and stays as it is.
-        text += place == before + 1 && c.isSurrogate() ? QString(c) : spellingOf(character);
+        text += place == before + 1 && c.isSurrogate() ? QString(c) : spellingOf(character, progress);
         done = place;
     }
     text += characters.sliced(done);

@@ -31,6 +31,12 @@ constexpr QStringView blocks[] = {
     u"h5",      u"h6",         u"hr", u"ol", u"p",  u"pre", u"table", u"tr", u"ul",
 };
 
+/// Elements that have no end.
+constexpr QStringView voidElements[] = {
+    u"area", u"base",  u"basefont", u"br",   u"col",   u"embed",  u"frame", u"hr",
+    u"img",  u"input", u"link",     u"meta", u"param", u"source", u"track", u"wbr",
+};
+
 constexpr QStringView rootElements[] = {u"html", u"head", u"body", u"frameset"};
 
 /// Elements whose first line end a browser leaves out.
@@ -112,6 +118,14 @@ std::optional<QString> withoutRootTags(QStringView root)
     return text;
 }
 
+/// Whether a page says that it is XML: by its declaration, its doctype or its root.
+bool isXmlPage(QStringView prolog, QStringView root)
+{
+    return prolog.contains(u"<?xml ") || prolog.contains(u"//DTD XHTML", Qt::CaseInsensitive)
+        || (root.startsWith(u"<html", Qt::CaseInsensitive)
+            && root.first(root.indexOf(u'>') + 1).contains(u"http://www.w3.org/1999/xhtml"));
+}
+
 QString withCrLf(QStringView text)
 {
     return text.toString().replace(u'\n', u"\r\n"_s);
@@ -127,15 +141,22 @@ QString withLf(QString text)
 class TidyWriter
 {
 public:
-    TidyWriter(QStringView source, const EntityHabits &text, const EntityHabits &values)
-        : m_source(source), m_text(text), m_values(values)
+    TidyWriter(QStringView source, const EntityHabits &text, const EntityHabits &values, bool isXml)
+        : m_source(source), m_text(text), m_values(values), m_isXml(isXml)
     {
         m_out.reserve(source.size());
     }
 
     QString write()
     {
-        for (const PagePiece &piece : scanPage(m_source)) {
+        const std::vector<PagePiece> pieces = scanPage(m_source);
+        for (const PagePiece &piece : pieces) {
+            if (isSpelled(piece.kind))
+                m_text.expect(readEngineText(piece.in(m_source)), m_textProgress);
+            else if (piece.kind == PieceKind::Value)
+                m_values.expect(readEngineText(piece.in(m_source)), m_valueProgress);
+        }
+        for (const PagePiece &piece : pieces) {
             const QStringView text = piece.in(m_source);
             if (m_insideMark && piece.kind == PieceKind::Value && m_isMarkValue)
                 m_out += u"<!--%1-->"_s.arg(text);
@@ -148,6 +169,24 @@ public:
     }
 
 private:
+    static bool isSpelled(PieceKind kind) { return kind == PieceKind::Text || kind == PieceKind::PlainText; }
+
+    /// Whether the tag is of a group of rows that the engine has put around rows without one: those of the author and of
+    /// the designer bear an attribute.
+    bool isAddedGroup(QStringView text, QStringView name, bool isEnd)
+    {
+        if (name != u"tbody")
+            return false;
+        if (!isEnd)
+            m_addedGroups.push_back(text == u"<tbody>");
+        else if (m_addedGroups.empty())
+            return false;
+        const bool isAdded = m_addedGroups.back();
+        if (isEnd)
+            m_addedGroups.pop_back();
+        return isAdded;
+    }
+
     void writeMarkup(QStringView text)
     {
         bool isEnd = false;
@@ -159,6 +198,8 @@ private:
             m_afterBlock = m_afterLined = false;
             return;
         }
+        if (isAddedGroup(text, name, isEnd))
+            return;
         if (!name.isEmpty()) {
             m_name = name;
             m_isEnd = isEnd;
@@ -168,6 +209,10 @@ private:
         m_out += m_afterLonely && text.startsWith(u'"') ? text.sliced(1) : text;
         m_afterLonely = false;
         const bool ends = text.endsWith(u'>');
+        if (ends && m_isXml && !m_isEnd && isOneOf(m_name, voidElements)) {
+            m_out.chop(1);
+            m_out += u" />";
+        }
         m_afterBlock = ends && (m_isEnd || m_name == u"hr") && isOneOf(m_name, blocks);
         m_afterLined = ends && !m_isEnd && isOneOf(m_name, linedElements);
     }
@@ -186,31 +231,38 @@ private:
         if (kind == PieceKind::Value) {
             if (text.isEmpty())
                 makeAttributeLonely();
-            m_out += m_values.write(readEngineText(text));
+            m_out += m_values.write(readEngineText(text), &m_valueProgress);
             return;
         }
         if (m_afterLined && text.startsWith(u'\n'))
             m_out += lineEnd;
         m_afterBlock = m_afterLined = false;
-        const bool isSpelled = kind == PieceKind::Text || kind == PieceKind::PlainText;
-        m_out += isSpelled ? m_text.write(readEngineText(text)) : withCrLf(text);
+        m_out += isSpelled(kind) ? m_text.write(readEngineText(text), &m_textProgress) : withCrLf(text);
     }
 
-    /// An attribute that needs no value has just got an opening quote.
+    /// An attribute that needs no value has just got an opening quote. In XML its name is its value.
     void makeAttributeLonely()
     {
         constexpr QStringView opening = u"=\"";
         const QStringView written = m_out;
         const QStringView name = written.chopped(opening.size()).sliced(written.lastIndexOf(u' ') + 1);
-        m_afterLonely = isOneOf(name, lonelyAttributes);
+        const bool isLonely = isOneOf(name, lonelyAttributes);
+        m_afterLonely = isLonely && !m_isXml;
         if (m_afterLonely)
             m_out.chop(opening.size());
+        else if (isLonely)
+            m_out += name.toString();
     }
 
     const QStringView m_source;
     const EntityHabits &m_text;
     const EntityHabits &m_values;
+    const bool m_isXml;
+    EntityHabits::Progress m_textProgress;
+    EntityHabits::Progress m_valueProgress;
     QString m_out;
+    /// Of the groups of rows that are open, from the outside in, whether the engine has added them.
+    std::vector<bool> m_addedGroups;
     /// The tag that was begun last.
     QStringView m_name;
     bool m_isEnd = false;
@@ -263,6 +315,9 @@ void PageRoundTrip::splitEnds(std::vector<PagePiece> &pieces)
         if (piece->kind == PieceKind::Doctype)
             piece->kind = PieceKind::Comment;
     }
+    m_isXml = isXmlPage(m_prolog, source.sliced(m_prolog.size()));
+    m_textHabits.setXml(m_isXml);
+    m_valueHabits.setXml(m_isXml);
     const auto doctype =
         std::find_if(pieces.begin(), root, [](const PagePiece &piece) { return piece.kind == PieceKind::Doctype; });
     if (doctype != root)
@@ -282,7 +337,7 @@ void PageRoundTrip::learn(const std::vector<PagePiece> &pieces)
 
 QString PageRoundTrip::tidied(QStringView markup) const
 {
-    return TidyWriter(markup, m_textHabits, m_valueHabits).write();
+    return TidyWriter(markup, m_textHabits, m_valueHabits, m_isXml).write();
 }
 
 QString PageRoundTrip::fragmentForEngine(const QString &markup)

@@ -15,8 +15,8 @@ namespace zephira {
 /// A page on its way into the engine and back. What stands in front of the root element and behind the body stays here
 /// and comes back to the letter, as do server code, comments and malformed declarations; the engine's text is tidied:
 /// lower-case names, double quotes, CR LF, references where the author wrote some, lone words for attributes without a
-/// value, and a line of its own for each paragraph, heading, list, table and row. A source without the tags of root, head
-/// and body stays one.
+/// value, and a line of its own for each paragraph, heading, list, table and row. A page that says that it is XML stays
+/// well-formed. A source without the tags of root, head and body stays one, and so does a table without a group of rows.
 ///
 /// A document that is plain text goes to the engine as it stands, with LF, and comes back as it stands there, with CR LF.
 class PageRoundTrip
@@ -56,6 +56,7 @@ private:
     /// A comment or a block of server code at the end of the page that nobody closed.
     QString m_openEnd;
     bool m_isFragment = false;
+    bool m_isXml = false;
     bool m_tailEndsBody = false;
     bool m_tailEndsRoot = false;
 };

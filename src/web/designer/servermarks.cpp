@@ -36,7 +36,42 @@ Mark readMark(QStringView html, qsizetype place)
     return mark;
 }
 
+/// How much of a tag its bracket and its name take up, if it begins such an element; else 0.
+qsizetype beginOf(QStringView element, QStringView tag)
+{
+    bool isEnd = false;
+    const QStringView name = tagNameOf(tag, &isEnd);
+    return !isEnd && name.compare(element, Qt::CaseInsensitive) == 0 ? name.size() + 1 : 0;
+}
+
+/// Whether a tag says itself for which browsers it is.
+bool tellsOfModules(QStringView source, std::vector<PagePiece>::const_iterator tag,
+                    std::vector<PagePiece>::const_iterator end)
+{
+    for (auto piece = tag; piece != end; ++piece) {
+        const QStringView text = piece->in(source);
+        if (piece->kind == PieceKind::Markup && text.contains(u"nomodule", Qt::CaseInsensitive))
+            return true;
+        if (piece->kind == PieceKind::Markup && text.endsWith(u'>'))
+            return false;
+    }
+    return false;
+}
+
 } // namespace
+
+/// By it the engine takes a script for one that is meant for other browsers: it doesn't wait for what the script would have
+/// to wait for.
+QString ServerMarks::idleAttribute() const
+{
+    return u" nomodule=\"%1\""_s.arg(m_prefix);
+}
+
+/// Tells what the author wrote from what the engine adds.
+QString ServerMarks::writtenAttribute() const
+{
+    return u" %1t=\"\""_s.arg(m_prefix);
+}
 
 QString ServerMarks::mask(QStringView source)
 {
@@ -47,9 +82,18 @@ QString ServerMarks::mask(QStringView source, const std::vector<PagePiece> &piec
 {
     QString masked;
     masked.reserve(source.size());
-    for (const PagePiece &piece : pieces) {
-        const QStringView text = piece.in(source);
-        switch (piece.kind) {
+    for (auto place = pieces.begin(); place != pieces.end(); ++place) {
+        const QStringView text = place->in(source);
+        switch (place->kind) {
+        case PieceKind::Markup:
+            if (const qsizetype name = beginOf(u"script", text);
+                name > 0 && !tellsOfModules(source, place, pieces.end()))
+                masked.append(text.first(name)).append(idleAttribute()).append(text.sliced(name));
+            else if (const qsizetype body = beginOf(u"tbody", text); body > 0)
+                masked.append(text.first(body)).append(writtenAttribute()).append(text.sliced(body));
+            else
+                masked += text;
+            break;
         case PieceKind::ServerText:
             masked += u"<!--%1-->"_s.arg(markFor(text, u's'));
             break;
@@ -101,7 +145,7 @@ QString ServerMarks::unmask(QStringView html) const
         done = found = end;
     }
     text += html.sliced(done);
-    return text;
+    return text.remove(idleAttribute()).remove(writtenAttribute());
 }
 
 QString freshMarkPrefix(const QString &source)

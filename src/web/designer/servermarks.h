@@ -18,6 +18,14 @@ namespace zephira {
 ///
 /// The last letter of a mark tells where it stands: "s" server code between tags, "c" a comment there, "a" in the place
 /// of an attribute or in its name, "v" inside a value or inside text that holds no tags.
+///
+/// Scripts get an attribute that keeps the engine from waiting for them, as long as it has the page:
+///
+///     <script nomodule="zs1f0" src="menu.js"></script>
+///
+/// and the groups of rows that the author wrote one that tells them from those that the engine adds:
+///
+///     <tbody zs1f0t="">
 class ServerMarks
 {
 public:
@@ -36,6 +44,8 @@ public:
 
 private:
     QString markFor(QStringView block, char16_t kind);
+    QString idleAttribute() const;
+    QString writtenAttribute() const;
 
     QString m_prefix;
     QStringList m_blocks;

@@ -148,12 +148,18 @@ int DesignerBench::status(DesignerCommand command)
 
 QString DesignerBench::text()
 {
-    return ask(showSelection).toString();
+    return withoutOwnAttributes(ask(showSelection).toString());
 }
 
 QString DesignerBench::body()
 {
-    return ask(u"document.body.innerHTML"_s).toString();
+    return withoutOwnAttributes(ask(u"document.body.innerHTML"_s).toString());
+}
+
+QString DesignerBench::withoutOwnAttributes(QString markup)
+{
+    static const QRegularExpression own(u" (zs[0-9a-f]+t=\"\"|nomodule=\"zs[0-9a-f]+\")"_s);
+    return markup.remove(own);
 }
 
 QWidget &DesignerBench::target()

@@ -56,6 +56,8 @@ public:
     static constexpr int patience = 60000;
 
 private:
+    /// Markup of the engine without the attributes that only the designer needs.
+    static QString withoutOwnAttributes(QString markup);
     QWidget &target();
 
     int m_completed = 0;

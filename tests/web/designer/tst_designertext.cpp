@@ -101,7 +101,7 @@ void TstDesignerText::edited_data()
         "<asp:TextBox ID=\"T\" runat=\"server\" />\r\n<h<%= n %>>j</h<%= n %>>\r\n</body>\r\n</html>\r\n<% response.end %>\r\n"_s,
         u"<%@ Language=VBScript %>\r\n<!--#include file=\"a.inc\" -->\r\n<html>\r\n<head>\r\n<title><%= title %></title>\r\n"
         "<script>var a = \"<%= a %>\";</script>\r\n<% head %>\r\n</head>\r\n<body <%= attributes %>>\r\n"
-        "<table border=\"1\">\r\n<% do while not rs.eof %>\r\n<tbody><tr <% if x > 1 then %>><td><%= rs(\"a\") %></td></tr>\r\n<% loop %>\r\n</tbody></table>\r\n"
+        "<table border=\"1\">\r\n<% do while not rs.eof %>\r\n<tr <% if x > 1 then %>><td><%= rs(\"a\") %></td></tr>\r\n<% loop %>\r\n</table>\r\n"
         "<select>\r\n<% for each y %><option value=\"<%= y %>\"><%= y %></option><% next %>\r\n</select>\r\n"
         "<textarea><%= z %></textarea>\r\n<a href=\"a.asp?b=<%= \"c\" %>&amp;d\"><%= e %></a>\r\n"
         "<?php if ($a > 1) { ?>f<?php } ?>\r\n<cfif g gt 1>h<cfelse>i</cfif>\r\n"
@@ -139,8 +139,20 @@ void TstDesignerText::edited_data()
     row("a form in a form", u"<form action=\"a\"><form action=\"b\"><input></form></form>"_s,
         u"<form action=\"a\"><input></form>"_s);
     row("a table in a cell", u"<table><tr><td>a<table><tr><td>b</table></table>"_s,
-        u"<table><tbody><tr><td>a<table><tbody><tr><td>b</td></tr></tbody></table></td></tr></tbody></table>"_s);
-    row("text between rows", u"<table>a<tr><td>b</table>"_s, u"a<table><tbody><tr><td>b</td></tr></tbody></table>"_s);
+        u"<table><tr><td>a<table><tr><td>b</td></tr></table></td></tr></table>"_s);
+    row("text between rows", u"<table>a<tr><td>b</table>"_s, u"a<table><tr><td>b</td></tr></table>"_s);
+    row("groups of rows",
+        u"<table><thead><tr><td>a</td></tr></thead><tbody><tr><td>b<table><tr><td>c</td></tr></table></td></tr></tbody><tbody id=\"d\"><tr><td>e</td></tr></tbody></table>"_s);
+    row("rows behind a head", u"<table><thead><tr><td>a</td></tr></thead><tr><td>b</td></tr></table>"_s);
+    row("PHP between rows without a group", u"<table><?php a ?><tr><td>b</td></tr><?php } ?></table>"_s);
+    row("statements",
+        u"<% if a %><p>b</p><% else %><p>c</p><% end if %><table><% do %><tr><td>d</td></tr><% loop %></table>"_s);
+    row("characters now spelled, now not", u"<p title=\"&auml;ä\">&auml; ä &#228; ä &eacute;é</p>"_s);
+    row("XHTML",
+        u"<?xml version=\"1.0\"?>\r\n<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 Strict//EN\" \"http://www.w3.org/TR/xhtml1/DTD/xhtml1-strict.dtd\">\r\n"
+        "<html xmlns=\"http://www.w3.org/1999/xhtml\" xml:lang=\"en\">\r\n<head>\r\n<meta name=\"a\" content=\"b &lt; c\" />\r\n<title>t</title>\r\n</head>\r\n"
+        "<body>\r\n<p>a<br />b<img src=\"c\" alt=\"\" /></p>\r\n<hr />\r\n<p><input type=\"checkbox\" checked=\"checked\" value=\"\" />&auml;</p>\r\n"
+        "<table><tr><td>d</td></tr></table>\r\n</body>\r\n</html>\r\n"_s);
     row("ColdFusion between rows",
         u"<table><tbody><cfoutput query=\"q\"><tr><td>a</td></tr></cfoutput></tbody></table>"_s);
     row("PHP between rows", u"<table><tbody><?php a ?><tr><td>b</td></tr><?php } ?></tbody></table>"_s);

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QImage>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void everythingUnseenIsShown_data();
     void everythingUnseenIsShown();
     void signsArePainted();
+    void signsLeaveTheSelectedAlone();
     void contextMenu();
     void rightClick();
     void pictureIsAskedFor();
@@ -287,6 +289,35 @@ void TstDesignerWidget::everythingUnseenIsShown()
     QCOMPARE(m_bench->designer.documentHtml(), edited);
     m_bench->designer.setShowDetails(false);
     QCOMPARE(m_bench->designer.documentHtml(), edited);
+}
+
+void TstDesignerWidget::signsLeaveTheSelectedAlone()
+{
+    QWidget view;
+    view.resize(120, 100);
+    DesignerHandles handles(&view);
+    const auto sign = [](int x, int y) { return QVariantMap{{u"x"_s, x}, {u"y"_s, y}, {u"word"_s, u"hidden"_s}}; };
+    handles.show({{u"x"_s, 40},
+                  {u"y"_s, 30},
+                  {u"width"_s, 60},
+                  {u"height"_s, 40},
+                  {u"signs"_s, QVariantList{sign(30, 45), sign(2, 2)}}},
+                 1);
+    QImage picture(view.size(), QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    handles.render(&picture, {}, {}, {});
+    const auto isPainted = [&](const QRect &part) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                if (qAlpha(picture.pixel(x, y)) > 0)
+                    return true;
+            }
+        }
+        return false;
+    };
+    QVERIFY(!isPainted({41, 31, 57, 37}));
+    QVERIFY(isPainted({2, 2, 20, 10}));
+    QVERIFY(isPainted({31, 46, 3, 8}));
 }
 
 /// What the engine gives no place is painted on top.

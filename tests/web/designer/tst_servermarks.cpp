@@ -25,7 +25,10 @@ private Q_SLOTS:
             u"<td zsx0a><!--zsx1c--><!--zsx2s--></td>"_s);
         row("a value", u"<a href=\"<%= \"x\" %>\">"_s, u"<a href=\"zsx0v\">"_s);
         row("a title and a script", u"<title><%= t %></title><script>a=<?= 1 ?></script>"_s,
-            u"<title>zsx0v</title><script>a=zsx1v</script>"_s);
+            u"<title>zsx0v</title><script nomodule=\"zs\">a=zsx1v</script>"_s);
+        row("scripts", u"<SCRIPT src=a></SCRIPT><script nomodule>b</script><scripts>"_s,
+            u"<SCRIPT nomodule=\"zs\" src=a></SCRIPT><script nomodule>b</script><scripts>"_s);
+        row("groups of rows", u"<table><TBODY id=a><tr></TBODY>"_s, u"<table><TBODY zst=\"\" id=a><tr></TBODY>"_s);
         row("an option", u"<select><% for %><option></select>"_s, u"<select><!--zsx0s--><option></select>"_s);
     }
 

@@ -10,17 +10,17 @@ import {history} from './history.js';
 import {insertMarkup, linkAddress} from './insert.js';
 import {looks, showLooks, signsInSight} from './looks.js';
 import {gatherComments, setMarkPrefix, showMarks} from './marks.js';
-import {bodyElement, closeDocument, openDocument, rootElement, writeDocument} from './nodes.js';
+import {bodyElement, closeDocument, openDocument, readyState, rootElement, writeDocument} from './nodes.js';
 import {isPlain, plainShell, plainText, setPlain, showPlainText} from './plaintext.js';
 import {gripsOf} from './positions.js';
-import {reportBy, reportCopy, reportState, reportTo, stamped} from './reports.js';
+import {reportBy, reportCopy, reportState, reportTo, stamped, tell} from './reports.js';
 import {selectedControl, selectionType, selectStart} from './selection.js';
 
 let keepTimer = 0;
 
 // A copy of the page goes to the program a while after the first change since the last copy, however fast further changes
 // come: after this many milliseconds at least, and so many times what it took to write the last one.
-const keepRest = 1000;
+const keepRest = 100;
 const keepShare = 10;
 let keepCost = 0;
 
@@ -30,7 +30,7 @@ history.changed = () => {
         keepTimer = setTimeout(keepPage, Math.max(keepRest, keepShare * keepCost));
 };
 
-const copyOfPage = () => ({text: isPlain ? plainText() : rootElement().outerHTML});
+const copyOfPage = () => ({text: isPlain ? plainText() : rootElement().outerHTML, changes: history.changes});
 
 const keepPage = () => {
     const begin = performance.now();
@@ -57,6 +57,7 @@ const state = () => {
         fontSize: valueOf(Command.GetFontSize, statuses, 0),
         blockFormat: valueOf(Command.GetBlockFormat, statuses, ''),
         dirty: Boolean(history.isChanged),
+        changes: history.changes,
         keys: keysSeen,
         place: place(),
     };
@@ -65,6 +66,19 @@ const state = () => {
 reportBy({state, place: () => ({place: place()}), copy: copyOfPage});
 
 const answer = (value = null) => ({value, state: stamped(state())});
+
+// The whole page is there: from now on whatever happens to it is a change.
+const begin = text => {
+    if (isPlain)
+        showPlainText(text);
+    listen();
+    gatherComments();
+    if (bodyElement())
+        showMarks(bodyElement());
+    showLooks();
+    selectStart();
+    history.start();
+};
 
 globalThis.zephiraDesigner = {
     load(text, prefix, wantedLooks, wantsPlain) {
@@ -75,16 +89,16 @@ globalThis.zephiraDesigner = {
         openDocument();
         writeDocument(isPlain ? plainShell : text);
         closeDocument();
-        if (isPlain)
-            showPlainText(text);
-        listen();
-        gatherComments();
-        if (bodyElement())
-            showMarks(bodyElement());
-        showLooks();
-        selectStart();
-        history.start();
-        return answer();
+        if (readyState() !== 'loading') {
+            begin(text);
+            return answer();
+        }
+        // A style sheet in the body holds up what follows it.
+        document.addEventListener('DOMContentLoaded', () => {
+            begin(text);
+            tell('complete', state());
+        }, {once: true});
+        return null;
     },
 
     run: (number, argument) => answer(runCommand(number, argument)),
@@ -102,7 +116,11 @@ globalThis.zephiraDesigner = {
     },
 
     state: () => answer(),
-    text: () => answer(stamped(copyOfPage())),
+    text() {
+        // What has happened, but hasn't been told of, is in the text, too.
+        history.openChanges();
+        return answer(stamped(copyOfPage()));
+    },
     font: () => answer(describeFont()),
     link: () => answer(linkAddress()),
 };

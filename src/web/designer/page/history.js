@@ -32,6 +32,7 @@ class History {
         this.forgotten = false;
         this.open = null;
         this.held = false;
+        this.changes = 0;
     }
 
     start() {
@@ -142,7 +143,7 @@ class History {
     #settle(selection) {
         this.observer.takeRecords();
         restore(selection);
-        this.changed();
+        this.#tell();
     }
 
     #endLater() {
@@ -158,6 +159,11 @@ class History {
         this.undone = [];
         for (const record of records)
             this.#add(record);
+        this.#tell();
+    }
+
+    #tell() {
+        ++this.changes;
         this.changed();
     }
 

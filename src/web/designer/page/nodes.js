@@ -21,6 +21,7 @@ export const nativeValue = documentMember('queryCommandValue');
 export const openDocument = documentMember('open');
 export const writeDocument = documentMember('write');
 export const closeDocument = documentMember('close');
+export const readyState = documentMember('readyState');
 export const setDocumentMember = (name, value) =>
     Object.getOwnPropertyDescriptor(Document.prototype, name).set.call(document, value);
 

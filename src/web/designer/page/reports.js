@@ -5,7 +5,9 @@
 
 import {markPrefix} from './marks.js';
 
-let send = () => {};
+// What is told before the way to the program stands waits for it.
+let early = [];
+let send = report => early.push(report);
 let describe = {state: () => ({}), place: () => ({}), copy: () => ({})};
 let reporting = false;
 let reportsMade = 0;
@@ -13,6 +15,8 @@ let reportsMade = 0;
 // As soon as the way to the program stands.
 export const reportTo = wanted => {
     send = wanted;
+    early.forEach(send);
+    early = [];
 };
 
 // Who knows what is to be told.
@@ -23,7 +27,7 @@ export const reportBy = wanted => {
 // Whoever gets a report knows by this which page it is about, and whether there has been a newer one.
 export const stamped = report => ({...report, page: markPrefix, number: ++reportsMade});
 
-const tell = (kind, report) => send(stamped({...report, kind}));
+export const tell = (kind, report) => send(stamped({...report, kind}));
 
 // Many events in a row make one report.
 export const reportState = () => {
