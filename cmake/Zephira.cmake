@@ -28,7 +28,9 @@ if(ZEPHIRA_SANITIZE)
   # One test run covers both trees, so the names tell which of them a test is from.
   set(ZEPHIRA_TEST_PREFIX asan.)
   target_compile_options(zephira_rules INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
-  target_link_options(zephira_rules INTERFACE -fsanitize=address,undefined)
+  # The checks bring a relocation for each place that they name, which this writes in a twentieth of the room.
+  target_link_options(zephira_rules INTERFACE -fsanitize=address,undefined
+    -Wl,-z,pack-relative-relocs -Wl,--compress-debug-sections=zlib)
 endif()
 include(CheckPIESupported)
 check_pie_supported()
