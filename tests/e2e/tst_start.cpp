@@ -3,6 +3,7 @@
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -83,7 +84,7 @@ private Q_SLOTS:
     {
         ProgramFolder folder;
         QVERIFY(QFile::remove(folder.place(u"zephira.ini"_s)));
-        QVERIFY(QFile::copy(QStringLiteral(ZEPHIRA_SOURCE_DIR "/data/zephira.ini"), folder.place(u"zephira.ini"_s)));
+        QVERIFY(QFile::copy(sourcePath(u"data/zephira.ini"_s), folder.place(u"zephira.ini"_s)));
         RunningProgram program(folder, {});
         QCOMPARE(program.waitForWindows({untitled, chooser}), sorted({untitled, chooser}));
     }
