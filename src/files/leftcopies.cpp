@@ -17,8 +17,8 @@ namespace zephira {
 
 namespace {
 
-constexpr QStringView openMark = u"open-";
-constexpr QStringView asideMark = u"kept-";
+const QString openMark = u"open-"_s;
+const QString asideMark = u"kept-"_s;
 
 /// What the system calls a process; empty where there is none.
 QByteArray commandOf(const QString &process)
