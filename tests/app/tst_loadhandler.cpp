@@ -101,7 +101,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, stored);
         WindowBench bench;
-        bench.configuration.setValue(u"font"_s, u"size"_s, stored);
+        bench.configuration.setValue(Setting::FontSize, stored);
         QTEST(bench.start().rt().editorFont().size, "size");
     }
 
