@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/appfolder.h"
 
+#include "files/diskfilestore.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -88,13 +90,22 @@ Result<void> fillFolder(const QString &source, const QString &target)
     return copyMissing(source + u'/' + iniName, target + u'/' + iniName);
 }
 
+/// The folder, if the configuration in it can be read. Otherwise each setting would seem to be missing.
+Result<QString> readableFolder(const QString &folder)
+{
+    const Result<QByteArray> settings = DiskFileStore().read(folder + u'/' + iniName);
+    if (!settings)
+        return Error{settings.error().code, u"Zephira can't start: "_s + settings.error().sentence};
+    return folder;
+}
+
 } // namespace
 
 Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome)
 {
     const bool isPortable = QFileInfo::exists(executableFolder + u'/' + iniName);
     if (isPortable && QFileInfo(executableFolder).isWritable())
-        return QDir::cleanPath(executableFolder);
+        return readableFolder(QDir::cleanPath(executableFolder));
 
     const QString source = isPortable ? executableFolder : installedData;
     const QString folder = QDir::cleanPath(dataHome + u"/zephira"_s);
@@ -104,7 +115,7 @@ Result<QString> prepareAppPath(const QString &executableFolder, const QString &i
         if (const Result<void> filled = fillFolder(QDir::cleanPath(source), folder); !filled)
             return filled.error();
     }
-    return folder;
+    return readableFolder(folder);
 }
 
 Result<QString> scratchFolder(const QString &cacheHome)

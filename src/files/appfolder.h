@@ -13,7 +13,7 @@ namespace zephira {
 /// below `dataHome`; on the first start that is filled from the folder of the executable where it holds zephira.ini, as
 /// one that another user unpacked does, and else from `installedData`, with mode 0700 for folders and 0600 for files. A
 /// file that is there already is never overwritten, and a folder that holds zephira.ini counts as filled. Fails if the
-/// folder can't be made or filled.
+/// folder can't be made or filled, or zephira.ini there can't be read.
 Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome);
 
 /// The fixed folder for temporary files, "zephira/scratch" below `cacheHome`, made with mode 0700 if it isn't there.

@@ -73,6 +73,8 @@ private Q_SLOTS:
     void filledFolderIsLeftAlone();
     void interruptedFillGoesOn();
     void missingDataIsAnError();
+    void configurationThatIsAFolder();
+    void configurationThatCannotBeRead();
     void placeTakenByAFile();
     void scratchIsMade();
     void scratchIsNarrowed();
@@ -187,6 +189,36 @@ void TstAppFolder::missingDataIsAnError()
         path.error().sentence,
         u"Zephira can't start: there is no zephira.ini beside the program, and none in %1. Please install the program again."_s
             .arg(at(u"share"_s)));
+}
+
+void TstAppFolder::configurationThatIsAFolder()
+{
+    QVERIFY(QDir().mkpath(at(u"bin/zephira.ini"_s)));
+    QCOMPARE(
+        prepare().error().sentence,
+        u"Zephira can't start: The file \"%1\" could not be read: it is a folder."_s.arg(at(u"bin/zephira.ini"_s)));
+    QVERIFY(QDir().rmdir(at(u"bin/zephira.ini"_s)));
+    QVERIFY(QDir().mkpath(at(u"home/zephira/zephira.ini"_s)));
+    QCOMPARE(prepare().error().sentence,
+             u"Zephira can't start: The file \"%1\" could not be read: it is a folder."_s.arg(
+                 at(u"home/zephira/zephira.ini"_s)));
+}
+
+void TstAppFolder::configurationThatCannotBeRead()
+{
+    put(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
+    QVERIFY(QFile::setPermissions(at(u"bin/zephira.ini"_s), QFile::Permissions()));
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions::fromInt(0x7755)));
+    // The superuser reads everything.
+    constexpr uid_t nobody = 65534;
+    const bool wasSuperuser = ::geteuid() == 0;
+    QVERIFY(!wasSuperuser || ::seteuid(nobody) == 0);
+    const Result<QString> path = prepare();
+    QVERIFY(!wasSuperuser || ::seteuid(0) == 0);
+    QVERIFY(!path);
+    QCOMPARE(path.error().sentence,
+             u"Zephira can't start: The file \"%1\" could not be read: permission was denied."_s.arg(
+                 at(u"bin/zephira.ini"_s)));
 }
 
 void TstAppFolder::placeTakenByAFile()
