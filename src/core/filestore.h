@@ -53,6 +53,15 @@ public:
     {
         return write(path, pieces);
     }
+    /// Whether write() would part the file from other names that it has, or can't replace it because its folder allows no
+    /// new files. False for a file that isn't there.
+    virtual bool mustBeWrittenInPlace(const QString &) const { return false; }
+    /// Writes over what stands in the file, with all that goes with it. What is killed in the middle leaves neither the old
+    /// nor the new content: whoever calls this has a copy.
+    virtual Result<void> writeInPlace(const QString &path, std::span<const QByteArrayView> pieces)
+    {
+        return write(path, pieces);
+    }
     virtual Result<void> remove(const QString &path) = 0;
     /// True if the path can be opened for reading; an existing file that can't be read counts as absent.
     virtual bool FileExists(const QString &path) const = 0;

@@ -3,6 +3,7 @@
 
 #include "core/result.h"
 #include "files/filesystemcalls.h"
+#include "files/writetarget.h"
 
 #include <QByteArray>
 #include <QString>
@@ -11,18 +12,15 @@
 
 namespace zephira {
 
-/// The file that a path leads to when the symbolic links at its end are followed, whether it exists or not. Both paths
-/// are in the system's encoding. Fails with the errno of the call that failed, ELOOP for links that go round.
-Result<QByteArray> linkTarget(FileSystemCalls &calls, const QString &path);
-
 /// Replaces a file so that at every moment, even if the process is killed or the machine stops, either the old or the
 /// new content stands under its name: the new one goes into a temporary file in the same folder, is flushed to the disk
 /// and takes the name over.
 ///
 /// Mode, owner and group, access list and user attributes are those of the old file. Where the group can't be kept, its
 /// members get no more than everybody. Other hard links to the old file keep the old content. A folder that takes no new
-/// file makes the write fail even where the file itself could be overwritten, because overwriting in place would risk
-/// the old content.
+/// file makes the write fail even where the file itself could be overwritten; see writeInPlace().
+///
+/// What killed writers have left in the folder is removed behind a write that is flushed.
 class AtomicWrite
 {
 public:
@@ -43,28 +41,24 @@ public:
 private:
     // Each step gives 0 or an errno.
     int createTemporary(mode_t newMode);
-    int writePieces(std::span<const QByteArrayView> pieces);
     int keepOwner();
     int keepMode();
     int keepAttributes();
     int flush();
-    bool flushes() const { return m_replaces || m_flush == Flush::Always; }
+    bool flushes() const { return m_target.exists || m_flush == Flush::Always; }
     int takePlace();
-
-    Result<void> examineTarget();
-    QByteArray folder() const;
 
     FileSystemCalls &m_calls;
     QString m_path;
     const Flush m_flush;
-    QByteArray m_target;
+    WriteTarget m_target;
     QByteArray m_temporary;
-    struct stat m_old = {};
-    bool m_replaces = false;
     bool m_ownerKept = true;
     bool m_groupKept = true;
     bool m_hasAccessList = false;
     int m_file = -1;
+    /// Keeps the temporary file claimed while it waits for its place.
+    int m_claim = -1;
     int m_folder = -1;
 };
 

@@ -4,6 +4,7 @@
 #include "files/atomicwrite.h"
 #include "files/fileerror.h"
 #include "files/filesystemcalls.h"
+#include "files/inplacewrite.h"
 #include "files/mappedfile.h"
 #include "files/textfile.h"
 
@@ -127,6 +128,16 @@ Result<void> DiskFileStore::write(const QString &path, std::span<const QByteArra
 Result<void> DiskFileStore::writeCopy(const QString &path, std::span<const QByteArrayView> pieces)
 {
     return AtomicWrite(m_calls, path, AtomicWrite::Flush::WhenReplacing).run(pieces, 0666);
+}
+
+bool DiskFileStore::mustBeWrittenInPlace(const QString &path) const
+{
+    return zephira::mustBeWrittenInPlace(m_calls, path);
+}
+
+Result<void> DiskFileStore::writeInPlace(const QString &path, std::span<const QByteArrayView> pieces)
+{
+    return zephira::writeInPlace(m_calls, path, pieces);
 }
 
 Result<void> DiskFileStore::remove(const QString &path)

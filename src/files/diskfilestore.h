@@ -26,6 +26,8 @@ public:
     /// See AtomicWrite for what is kept of the old file.
     Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) override;
     Result<void> writeCopy(const QString &path, std::span<const QByteArrayView> pieces) override;
+    bool mustBeWrittenInPlace(const QString &path) const override;
+    Result<void> writeInPlace(const QString &path, std::span<const QByteArrayView> pieces) override;
     Result<void> remove(const QString &path) override;
     bool FileExists(const QString &path) const override;
     FileSignature signature(const QString &path) const override;

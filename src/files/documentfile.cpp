@@ -59,33 +59,49 @@ Result<void> DocumentFile::save(const QString &path, std::span<const QByteArrayV
         encoded = std::move(bytes).value();
         pieces.push_back(encoded);
     }
-    if (Result<void> kept = keepUnseenVersion(path); !kept)
-        return kept;
-    Result<void> written = m_files.write(path, pieces);
+    const bool isInPlace = m_files.mustBeWrittenInPlace(path);
+    const bool isUnknown = isUnseen(path);
+    QString copy;
+    if (isUnknown || isInPlace) {
+        Result<QString> kept = keepVersion(path);
+        if (!kept)
+            return kept.error();
+        copy = std::move(kept).value();
+    }
+    Result<void> written = isInPlace ? m_files.writeInPlace(path, pieces) : m_files.write(path, pieces);
     if (written)
         m_seen[QDir::cleanPath(path)] = m_files.signature(path);
+    // A version that was seen here needed its copy only while it was being written over.
+    if (written && !isUnknown && !copy.isEmpty())
+        static_cast<void>(m_files.remove(copy));
     return written;
 }
 
-Result<void> DocumentFile::keepUnseenVersion(const QString &path)
+/// Whether the disk holds a version that hasn't been read or written here.
+bool DocumentFile::isUnseen(const QString &path) const
 {
     const auto seen = m_seen.constFind(QDir::cleanPath(path));
+    if (seen == m_seen.constEnd())
+        return false;
     const FileSignature onDisk = m_files.signature(path);
-    if (seen == m_seen.constEnd() || !onDisk.exists || *seen == onDisk)
-        return {};
+    return onDisk.exists && *seen != onDisk;
+}
+
+/// Keeps a copy of what stands on the disk, and gives its path.
+Result<QString> DocumentFile::keepVersion(const QString &path)
+{
     const auto refused = [&](const Error &error) {
+        const QString version = isUnseen(path) ? u"the version on the disk, which is not the one that was opened,"_s
+                                               : u"the version on the disk, which it writes over,"_s;
         return Error{error.code,
-                     u"The file \""_s + path
-                         + u"\" was not saved, because the version on the disk, which is not the one that was "
-                           u"opened, could not be kept. "_s
+                     u"The file \""_s + path + u"\" was not saved, because "_s + version + u" could not be kept. "_s
                          + error.sentence};
     };
     Result<QByteArray> bytes = m_files.read(path);
     if (!bytes)
         return refused(bytes.error());
-    if (const Result<QString> copy = m_recovery.keepDisk(path, bytes.value()); !copy)
-        return refused(copy.error());
-    return {};
+    Result<QString> copy = m_recovery.keepDisk(path, bytes.value());
+    return copy ? copy : refused(copy.error());
 }
 
 } // namespace zephira

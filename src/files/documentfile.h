@@ -18,6 +18,9 @@ class RecoveryCopies;
 /// seen. It remembers the state of each file that it read or wrote; where the disk holds another state when that file is
 /// saved, or the file could not be read when it was opened, the bytes on the disk are kept as a recovery copy first.
 /// A path that was never opened or saved here is overwritten as asked.
+///
+/// A file with several names (hard links), or in a folder that allows no new files, is written in place, once the bytes on
+/// the disk are kept: then neither a kill nor a failing disk can take them.
 class DocumentFile
 {
 public:
@@ -31,7 +34,8 @@ public:
     Result<void> save(const QString &path, std::span<const QByteArrayView> utf8Pieces, const TextFormat &format);
 
 private:
-    Result<void> keepUnseenVersion(const QString &path);
+    bool isUnseen(const QString &path) const;
+    Result<QString> keepVersion(const QString &path);
 
     FileStore &m_files;
     RecoveryCopies &m_recovery;

@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -118,6 +119,26 @@ ssize_t FileSystemCalls::getxattr(const char *path, const char *name, void *valu
 int FileSystemCalls::fsetxattr(int file, const char *name, const void *value, std::size_t size)
 {
     return make(Call::SetAttribute, [&] { return ::fsetxattr(file, name, value, size, 0); });
+}
+
+int FileSystemCalls::lock(int file)
+{
+    return make(Call::Lock, [&] { return ::flock(file, LOCK_EX | LOCK_NB); });
+}
+
+int FileSystemCalls::duplicate(int file)
+{
+    return make(Call::Duplicate, [&] { return ::fcntl(file, F_DUPFD_CLOEXEC, 0); });
+}
+
+int FileSystemCalls::allocate(int file, off_t size)
+{
+    return make(Call::Allocate, [&] { return ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, size); });
+}
+
+int FileSystemCalls::ftruncate(int file, off_t size)
+{
+    return make(Call::Truncate, [&] { return ::ftruncate(file, size); });
 }
 
 } // namespace zephira

@@ -32,7 +32,11 @@ public:
         ChangeOwner,
         ListAttributes,
         GetAttribute,
-        SetAttribute
+        SetAttribute,
+        Lock,
+        Duplicate,
+        Allocate,
+        Truncate
     };
 
     virtual ~FileSystemCalls() = default;
@@ -56,6 +60,12 @@ public:
     ssize_t listxattr(const char *path, char *names, std::size_t size);
     ssize_t getxattr(const char *path, const char *name, void *value, std::size_t size);
     int fsetxattr(int file, const char *name, const void *value, std::size_t size);
+    /// Takes the whole file for this opening of it alone, without waiting.
+    int lock(int file);
+    int duplicate(int file);
+    /// Makes sure of room for so many bytes; the file keeps its size.
+    int allocate(int file, off_t size);
+    int ftruncate(int file, off_t size);
 
 protected:
     /// An errno with which the call is to fail instead of being made, or 0.

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/iniconfiguration.h"
 
-#include "files/atomicwrite.h"
 #include "files/diskfilestore.h"
 #include "files/filesystemcalls.h"
 #include "files/privateprofile.h"
 #include "files/textfile.h"
+#include "files/writetarget.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/diskfilestore.h"
 
-#include "faultycalls.h"
+#include "files/faultycalls.h"
 #include "files/textfile.h"
 #include "support/testregistry.h"
 

@@ -23,6 +23,10 @@ class WatchingStore final : public FileStore
 public:
     std::vector<QByteArrayView> lastPieces;
     bool writesFail = false;
+    bool writesInPlaceFail = false;
+    /// What stood in the folder of the recovery copies when a file was written in place.
+    QString recovery;
+    QStringList copiesInPlace;
 
     Result<QByteArray> read(const QString &path) const override { return m_disk.read(path); }
     Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode) override
@@ -31,6 +35,14 @@ public:
         if (writesFail)
             return Error{Error::Code::Unwritable, u"No."_s};
         return m_disk.write(path, pieces, mode);
+    }
+    bool mustBeWrittenInPlace(const QString &path) const override { return m_disk.mustBeWrittenInPlace(path); }
+    Result<void> writeInPlace(const QString &path, std::span<const QByteArrayView> pieces) override
+    {
+        copiesInPlace = QDir(recovery).entryList(QDir::Files, QDir::Name);
+        if (writesInPlaceFail)
+            return Error{Error::Code::Unwritable, u"No."_s};
+        return m_disk.writeInPlace(path, pieces);
     }
     Result<void> remove(const QString &path) override { return m_disk.remove(path); }
     bool FileExists(const QString &path) const override { return m_disk.FileExists(path); }
@@ -47,6 +59,8 @@ struct Desk {
     RecoveryCopies recovery{folder.filePath(u"recovery"_s), files, clock};
     DocumentFile document{files, recovery};
     QString path = folder.filePath(u"page.htm"_s);
+
+    Desk() { files.recovery = folder.filePath(u"recovery"_s); }
 
     void put(const QByteArray &content) const
     {
@@ -193,6 +207,68 @@ private Q_SLOTS:
         QVERIFY(desk.save("ours"));
         QCOMPARE(desk.get(), QByteArray("ours"));
         QCOMPARE(desk.kept(), QList<QByteArray>());
+    }
+
+    void allNamesOfAFileShowWhatIsSaved()
+    {
+        Desk desk;
+        desk.put("opened");
+        const QString other = desk.folder.filePath(u"other.htm"_s);
+        QCOMPARE(link(QFile::encodeName(desk.path).constData(), QFile::encodeName(other).constData()), 0);
+        QVERIFY(desk.document.open(desk.path));
+        QVERIFY(desk.save("ours"));
+        QCOMPARE(desk.get(), QByteArray("ours"));
+        QCOMPARE(desk.files.read(other).value(), QByteArray("ours"));
+        // The copy was there while it was needed, and no longer.
+        QCOMPARE(desk.files.copiesInPlace.size(), 1);
+        QCOMPARE(desk.kept(), QList<QByteArray>());
+    }
+
+    void whatWasWrittenOverInVainIsKept()
+    {
+        Desk desk;
+        desk.put("opened");
+        const QString other = desk.folder.filePath(u"other.htm"_s);
+        QCOMPARE(link(QFile::encodeName(desk.path).constData(), QFile::encodeName(other).constData()), 0);
+        QVERIFY(desk.document.open(desk.path));
+        desk.files.writesInPlaceFail = true;
+        QVERIFY(!desk.save("ours"));
+        QCOMPARE(desk.kept(), QList<QByteArray>{"opened"});
+    }
+
+    void aForeignVersionStaysKept()
+    {
+        Desk desk;
+        desk.put("opened");
+        const QString other = desk.folder.filePath(u"other.htm"_s);
+        QCOMPARE(link(QFile::encodeName(desk.path).constData(), QFile::encodeName(other).constData()), 0);
+        QVERIFY(desk.document.open(desk.path));
+        desk.put("a foreign version");
+        QVERIFY(desk.save("ours"));
+        QCOMPARE(desk.files.read(other).value(), QByteArray("ours"));
+        QCOMPARE(desk.kept(), QList<QByteArray>{"a foreign version"});
+    }
+
+    void nothingIsWrittenOverWithoutACopy()
+    {
+        Desk desk;
+        desk.put("opened");
+        const QString other = desk.folder.filePath(u"other.htm"_s);
+        QCOMPARE(link(QFile::encodeName(desk.path).constData(), QFile::encodeName(other).constData()), 0);
+        QVERIFY(desk.document.open(desk.path));
+        const QString blocked = desk.folder.filePath(u"recovery"_s);
+        QFile file(blocked);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QFile::setPermissions(blocked, QFile::ReadOwner | QFile::WriteOwner);
+        const Result<void> saved = desk.save("ours");
+        QVERIFY(!saved);
+        QVERIFY2(
+            saved.error().sentence.startsWith(
+                u"The file \"%1\" was not saved, because the version on the disk, which it writes over, could not be "
+                "kept. "_s.arg(desk.path)),
+            qPrintable(saved.error().sentence));
+        QCOMPARE(desk.get(), QByteArray("opened"));
     }
 
     void saveFailsWhereTheForeignVersionCannotBeKept()
