@@ -170,7 +170,7 @@ void Document::open()
         m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false, m_dialog.fileName});
     if (!chosen || chosen->isEmpty())
         return;
-    const QString name = *chosen;
+    const QString &name = *chosen;
     m_dialog.fileName = name;
     m_context.document.setProjectPath(folderOf(name));
     SetSyntax();

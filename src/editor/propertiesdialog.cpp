@@ -8,6 +8,7 @@
 #include "editor/editormargins.h"
 #include "widgets/qtvalues.h"
 
+#include <QPainter>
 #include <QPushButton>
 
 #include <array>

@@ -4,6 +4,7 @@
 #include "files/fileerror.h"
 #include "files/temporaryfiles.h"
 
+#include <QList>
 #include <QRandomGenerator>
 
 #include <algorithm>

@@ -129,8 +129,8 @@ QString IniConfiguration::read(const QString &section, const QString &key) const
     const FileSignature signature = m_store.signature(m_file);
     if (!signature.exists || signature != m_signature) {
         Result<QByteArray> bytes = m_store.read(m_file);
+        m_signature = bytes && isSettled(signature) ? signature : FileSignature();
         m_profile = bytes ? profileFrom(std::move(bytes).value()).bytes : QByteArray();
-        m_signature = bytes.ok() && isSettled(signature) ? signature : FileSignature();
     }
     return shortValue(m_profile, section, key);
 }

@@ -120,7 +120,7 @@ void TstDesktopPrompts::messageBox()
     QFETCH(Answer, byReturn);
     QFETCH(Answer, byEscape);
     for (const auto &[key, expected] : {std::pair(Qt::Key_Return, byReturn), std::pair(Qt::Key_Escape, byEscape)}) {
-        whileUp<QMessageBox>([&](QMessageBox &box) {
+        whileUp<QMessageBox>([&, key = key](QMessageBox &box) {
             QCOMPARE(box.windowTitle(), title);
             QCOMPARE(box.text(), question.text);
             QCOMPARE(box.icon(), icon);

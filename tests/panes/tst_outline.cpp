@@ -301,7 +301,7 @@ private Q_SLOTS:
         const QStringList names{u"name"_s, u"id"_s, u"src"_s, u"Http-Equiv"_s, u"x"_s};
         for (int round = 0; round < 20000; ++round) {
             const QString inner = generatedText(random, pieces, 12);
-            const QString name = names[random.bounded(names.size())];
+            const QString &name = names[random.bounded(names.size())];
             QCOMPARE(GetTagAttribute(name, inner), plainTagAttribute(name, inner));
         }
     }

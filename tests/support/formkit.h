@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 

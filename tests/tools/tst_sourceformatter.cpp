@@ -245,8 +245,8 @@ private Q_SLOTS:
             QCOMPARE(Simple(text), plainSimple(text));
             QCOMPARE(IndentTags(text), plainIndentTags(text));
             QCOMPARE(Hierarchical(text), plainHierarchical(text));
-            const QString find = pieces[random.bounded(pieces.size())];
-            const QString replacement = pieces[random.bounded(pieces.size())];
+            const QString &find = pieces[random.bounded(pieces.size())];
+            const QString &replacement = pieces[random.bounded(pieces.size())];
             QCOMPARE(ReplaceAll(text, find, replacement), QString(text).replace(find, replacement));
         }
     }

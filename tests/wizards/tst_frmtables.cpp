@@ -7,6 +7,7 @@
 #include "wizards/sizesquare.h"
 #include "wizards/tablemarkup.h"
 
+#include <QPushButton>
 #include <QTest>
 
 using namespace Qt::StringLiterals;

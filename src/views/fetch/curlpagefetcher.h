@@ -17,7 +17,7 @@ public:
         qint64 bytes = 256LL * 1024 * 1024;
     };
 
-    CurlPageFetcher() = default;
+    CurlPageFetcher() : CurlPageFetcher(Limits()) {}
     explicit CurlPageFetcher(const Limits &limits) : m_limits(limits) {}
 
     Result<FetchedPage> fetch(const QString &address) override;
