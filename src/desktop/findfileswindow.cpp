@@ -40,7 +40,7 @@ FindFilesWindow::FindFilesWindow(const QString &folder, QWidget *owner)
     m_found->setObjectName(u"found"_s);
     m_found->setUniformItemSizes(true);
     m_found->setAccessibleName(u"Files found"_s);
-    m_found->setToolTip(u"Double click a file to open it"_s);
+    m_found->setToolTip(u"Double-click a file to open it"_s);
     m_state->setObjectName(u"state"_s);
     m_state->setTextFormat(Qt::PlainText);
 
