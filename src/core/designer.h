@@ -28,7 +28,7 @@ enum class DesignerPrompting : int { Default = 0, PromptUser = 1, DontPromptUser
 /// How an entry of the designer's context menu looks.
 enum class DesignerMenuState : int { Unchecked = 0, Checked = 1, Greyed = 2 };
 
-/// The argument of InsertTable. The attributes are markup without the angle brackets and are taken as they stand.
+/// The argument of InsertTable. The attributes are markup without the angle brackets and are taken as they are.
 struct InsertTableParam {
     int rows = 3;
     int columns = 3;
@@ -75,7 +75,7 @@ public:
     /// Full path of the file that relative addresses lead from, or empty; it counts from the next load on.
     virtual QString baseFile() const = 0;
     virtual void setBaseFile(const QString &path) = 0;
-    /// Puts markup in the place of the designer's selection.
+    /// Puts markup in place of the designer's selection.
     virtual void pasteHtml(const QString &html) = 0;
 
     /// Runs a command; one whose status is below Enabled does nothing. What a command takes and gives:

@@ -38,7 +38,7 @@ public:
     /// are valid until the next change.
     virtual std::array<QByteArrayView, 2> utf8Pieces() const = 0;
     virtual QString selText() const = 0;
-    /// Replaces the selection, or inserts at the caret; the caret then stands behind the new text.
+    /// Replaces the selection, or inserts at the caret; the caret then stands after the new text.
     virtual void setSelText(const QString &text) = 0;
     virtual int selLength() const = 0;
     virtual QString currentWord() const = 0;

@@ -43,7 +43,7 @@ public:
         Result<QByteArray> content = read(path);
         return content ? Result<FileView>(FileView{std::move(content).value()}) : content.error();
     }
-    /// Replaces the file with the pieces, joined, so that at every moment the old or the new content stands on the disk.
+    /// Replaces the file with the pieces, joined, so that at every moment the old or the new content is on the disk.
     /// Mode, owner where possible, and a symbolic link's target are kept. `mode` is for a file that is new.
     virtual Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) = 0;
     /// As write(), for a copy of what can be had again: where the file is new, nothing waits for the disk, so that many

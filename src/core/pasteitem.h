@@ -7,7 +7,7 @@ namespace zephira {
 
 struct AppContext;
 
-/// Puts an item of a side list, or what a wizard made, behind the text that is selected in the code view. The selected text stays; with an empty
+/// Puts an item of a side list, or what a wizard made, after the text that is selected in the code view. The selected text stays; with an empty
 /// item nothing happens at all. In visual mode the designer gets both.
 void pasteBehindSelection(const AppContext &context, const QString &item);
 

@@ -20,7 +20,7 @@ QString withSeparator(const QString &folder);
 QString withSlash(const QString &folder);
 /// The path before the last separator; that of the root where nothing stands before it.
 QString parentFolder(const QString &folder);
-/// What stands behind the last separator.
+/// What follows the last separator.
 QString lastName(const QString &path);
 
 } // namespace zephira

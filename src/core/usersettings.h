@@ -26,7 +26,7 @@ public:
         write(row.branch, row.section, row.key, value);
     }
 
-    /// The same for a value that each form has, in the section that bears the form's name.
+    /// The same for a value that each form has, in the section named for the form.
     QString GetSetting(UserSetting setting, const QString &form, const QString &fallback) const
     {
         const UserSettingRow &row = userSettingRow(setting);

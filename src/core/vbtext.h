@@ -10,7 +10,7 @@ namespace zephira {
 // Text functions in the manner of Basic, in which many of the program's text rules are stated. Positions are 1-based and
 // count UTF-16 code units. Where Basic would fail they raise HandlerError with Basic's own description.
 
-/// The part of the text from `start` on, `length` units long or to the end. A start behind the end gives "". A start
+/// The part of the text from `start` on, `length` units long or to the end. A start after the end gives "". A start
 /// below 1 or a negative length is an error ("Invalid procedure call or argument").
 QString Mid(const QString &text, qsizetype start, std::optional<qsizetype> length = {});
 
@@ -18,8 +18,8 @@ QString Mid(const QString &text, qsizetype start, std::optional<qsizetype> lengt
 QString Left(const QString &text, qsizetype length);
 QString Right(const QString &text, qsizetype length);
 
-/// Position of the first `find` at or behind `start`; 0 when there is none. An empty `find` is found at `start`, unless
-/// that lies behind the text. A start below 1 is an error.
+/// Position of the first `find` at or after `start`; 0 when there is none. An empty `find` is found at `start`, unless
+/// that lies after the text. A start below 1 is an error.
 qsizetype InStr(qsizetype start, const QString &text, const QString &find,
                 Qt::CaseSensitivity compare = Qt::CaseSensitive);
 qsizetype InStr(const QString &text, const QString &find);
@@ -54,7 +54,7 @@ qint32 CLng(const QString &text);
 /// has no say.
 QString CStr(double number);
 
-/// A number in a mask of "#" with an optional point: at most as many decimals as stand behind the point, without zeros at
+/// A number in a mask of "#" with an optional point: at most as many decimals as stand after the point, without zeros at
 /// their end, and groups of three digits divided by blanks if the mask has any. Digits in front of the point are never
 /// lost, halves are rounded away from zero, and there is always a digit in front of the point.
 ///

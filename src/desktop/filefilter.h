@@ -12,7 +12,7 @@ namespace zephira {
 ///     nameFilters("Html Files|*.html;*.htm|All Files|*.*") == {"Html Files (*.html *.htm)", "All Files (*)"}
 QStringList nameFilters(const QString &filter);
 
-/// The path with the extension of the filter's first pattern behind it if the file's name has no dot; a pattern that
+/// The path with the extension of the filter's first pattern after it if the file's name has no dot; a pattern that
 /// isn't an asterisk, a dot and plain characters adds nothing.
 ///
 ///     withSuffixOf("HTML Files (*.html)", "/home/me/page") == "/home/me/page.html"

@@ -20,7 +20,7 @@ namespace zephira {
 /// members get no more than everybody. Other hard links to the old file keep the old content. A folder that takes no new
 /// file makes the write fail even where the file itself could be overwritten; see writeInPlace().
 ///
-/// What killed writers have left in the folder is removed behind a write that is flushed.
+/// What killed writers have left in the folder is removed after a write that is flushed.
 class AtomicWrite
 {
 public:

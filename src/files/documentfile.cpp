@@ -87,7 +87,7 @@ bool DocumentFile::isUnseen(const QString &path) const
     return onDisk.exists && *seen != onDisk;
 }
 
-/// Keeps a copy of what stands on the disk, and gives its path.
+/// Keeps a copy of what is on the disk, and gives its path.
 Result<QString> DocumentFile::keepVersion(const QString &path)
 {
     const auto refused = [&](const Error &error) {

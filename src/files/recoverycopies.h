@@ -25,7 +25,7 @@ public:
     /// The folder is a full path without a separator at its end; store and clock outlive this.
     RecoveryCopies(QString folder, FileStore &files, const Clock &clock);
 
-    /// Keeps what stands on the disk under `path` and gives back the copy's path. A copy is never overwritten; of all of
+    /// Keeps what is on the disk under `path` and gives back the copy's path. A copy is never overwritten; of all of
     /// them the newest 50 are kept.
     Result<QString> keepDisk(const QString &path, QByteArrayView bytes);
 

@@ -117,7 +117,7 @@ Error unencodable(QByteArrayView utf8, QByteArrayView rest, Encoding encoding)
     return {Error::Code::Unencodable, u"The character "_s + shown + u"(U+"_s + number + u")"_s + place};
 }
 
-/// Writes each code point through `put`, which gives the place behind it, or nullptr for one that it can't hold.
+/// Writes each code point through `put`, which gives the place after it, or nullptr for one that it can't hold.
 template<typename Put>
 Result<QByteArray> encodeWith(QByteArrayView utf8, const TextFormat &format, qsizetype largest, Put put)
 {

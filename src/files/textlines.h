@@ -9,7 +9,7 @@ namespace zephira {
 
 class FileStore;
 
-/// The lines of a text without their ends, which may be CR LF, LF or CR, also mixed. An end behind the last line begins
+/// The lines of a text without their ends, which may be CR LF, LF or CR, also mixed. An end after the last line begins
 /// no further line, so that an empty text has none and a line end alone is one blank line.
 QStringList textLines(const QString &text);
 

@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// The lines of a tip file, one tip each, in the order of the file. A line end behind the last line adds no tip; a blank
+/// The lines of a tip file, one tip each, in the order of the file. A line end after the last line adds no tip; a blank
 /// line within is one.
 QStringList tipLines(const QString &text);
 

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// The captions that the lines of tags.dat give: each line as it stands, blanks at its ends included, but for those that
+/// The captions that the lines of tags.dat give: each line as it is, blanks at its ends included, but for those that
 /// are empty or hold nothing but blanks.
 QStringList tagCaptions(const QStringList &lines);
 

@@ -10,7 +10,7 @@ namespace zephira {
 struct AppContext;
 
 /// The tree of tags in the side pane: the lines of tags.dat, then the built-in tags with their attributes. A double click
-/// pastes a node's caption behind the selection; attributes are pasted one by one into a tag.
+/// pastes a node's caption after the selection; attributes are pasted one by one into a tag.
 class TagTree final : public QTreeWidget
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ QString Hierarchical(const QString &text, const FormatterYield &yield = {});
 /// maximumFormattedLength characters raises HandlerError ("Out of string space").
 QString IndentTags(const QString &text, const FormatterYield &yield = {});
 
-/// From the first `<` behind the 1-based position up to the first `>` behind that. Raises HandlerError where there is no
+/// From the first `<` after the 1-based position up to the first `>` after that. Raises HandlerError where there is no
 /// such tag.
 QString NextTagText(const QString &text, qsizetype position);
 

@@ -13,7 +13,7 @@ class DriveBox : public QComboBox
 public:
     explicit DriveBox(QWidget *parent = nullptr);
 
-    /// Reads the drives anew. The current one stays, or gives way to the root if it isn't mounted any more.
+    /// Reads the drives again. The current one stays, or gives way to the root if it isn't mounted any more.
     void refill();
     void showPopup() override;
 };

@@ -22,7 +22,7 @@ template<typename T>
 class Result;
 
 /// The full table wizard: size, layout and colours of a table, in plain markup or for a server-side script, and single
-/// cells that are inserted while the window stays open. All goes in behind the selection,
+/// cells that are inserted while the window stays open. All goes in after the selection,
 /// which stays.
 class frmTable final : public QDialog
 {

@@ -14,7 +14,7 @@ class frmTables;
 }
 
 /// The quick table wizard: a click on a grid of squares gives the size, everything else is fixed. The table goes in
-/// behind the selection, which stays.
+/// after the selection, which stays.
 class frmTables final : public QDialog
 {
     Q_OBJECT
