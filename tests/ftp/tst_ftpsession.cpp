@@ -28,7 +28,11 @@ struct Bench {
     /// Stands for the user in the two dialogs.
     void fill(const QString &form)
     {
-        const LivingForm dialog(ftp.catalogue, form, ftp.context);
+        FormCatalogue overTheWindow;
+        overTheWindow.add(form, [&](const AppContext &context, QWidget *) {
+            return ftp.catalogue.make(form, context, &window->widget());
+        });
+        const LivingForm dialog(overTheWindow, form, ftp.context);
         if (form == u"FrmConnect") {
             dialog.set(u"Check1"_s, u"off"_s);
             dialog.set(u"txtServer"_s, server.host());
