@@ -31,15 +31,16 @@ struct ShownWindow {
         ftp.connectSession();
         window.reset(ftp.catalogue.make(u"frmmainftp"_s, ftp.context, nullptr));
         window->show();
-        ftp.client->desk->addRemoteRoot();
+        desk().addRemoteRoot();
         QApplication::processEvents();
     }
 
+    FtpDesk &desk() const { return dynamic_cast<FtpDesk &>(*window); }
     QAbstractItemView &view(const QString &name) const { return *window->findChild<QAbstractItemView *>(name); }
     void list(const QString &searchPath) const
     {
         ftp.client->session.ftpSearchPath = searchPath;
-        ftp.client->desk->List();
+        desk().List();
     }
 
     FtpBench ftp;
@@ -139,8 +140,8 @@ int main(int argc, char **argv)
         show(
             state, shown.view(u"TView1"_s), count, [&] { shown.list(serverFolders); },
             [&] {
-                shown.ftp.client->desk->clearRemoteTree();
-                shown.ftp.client->desk->addRemoteRoot();
+                shown.desk().clearRemoteTree();
+                shown.desk().addRemoteRoot();
             });
     });
     add("list local files", [&](benchmark::State &state) { listLocal(state, local); });
