@@ -31,6 +31,19 @@ struct FileView {
 };
 
 /// Files by full path. The program works on the disk; tests work in memory or with a store that fails where they say.
+/// A file whose bytes come one after another.
+class IncomingFile
+{
+public:
+    /// Without finish() the file stays what it was.
+    virtual ~IncomingFile() = default;
+
+    /// Puts bytes behind those before. A failure is told by finish().
+    virtual void append(QByteArrayView bytes) = 0;
+    /// Lets the bytes take the file's place, once.
+    virtual Result<void> finish() = 0;
+};
+
 class FileStore
 {
 public:
@@ -62,6 +75,8 @@ public:
     {
         return write(path, pieces);
     }
+    /// As writeCopy(), for bytes that are still to come: where the store can do that, they needn't be held in memory.
+    virtual std::unique_ptr<IncomingFile> receiveCopy(const QString &path);
     virtual Result<void> remove(const QString &path) = 0;
     /// True if the path can be opened for reading; an existing file that can't be read counts as absent.
     virtual bool FileExists(const QString &path) const = 0;

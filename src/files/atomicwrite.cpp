@@ -44,6 +44,15 @@ AtomicWrite::~AtomicWrite()
 
 Result<void> AtomicWrite::run(std::span<const QByteArrayView> pieces, mode_t newMode)
 {
+    if (Result<void> begun = begin(newMode); !begun)
+        return begun;
+    if (Result<void> written = append(pieces); !written)
+        return written;
+    return finish();
+}
+
+Result<void> AtomicWrite::begin(mode_t newMode)
+{
     Result<WriteTarget> target = writeTarget(m_calls, m_path);
     if (!target)
         return target.error();
@@ -52,10 +61,18 @@ Result<void> AtomicWrite::run(std::span<const QByteArrayView> pieces, mode_t new
         return saveError(m_path, Error::Code::Unwritable, u"its folder does not allow new files"_s);
     else if (error != 0)
         return saveError(m_path, error);
+    return {};
+}
 
-    int error = writePieces(m_calls, m_file, pieces);
-    if (error == 0 && m_target.exists)
-        error = keepOwner();
+Result<void> AtomicWrite::append(std::span<const QByteArrayView> pieces)
+{
+    const int error = writePieces(m_calls, m_file, pieces);
+    return error == 0 ? Result<void>() : saveError(m_path, error);
+}
+
+Result<void> AtomicWrite::finish()
+{
+    int error = m_target.exists ? keepOwner() : 0;
     if (error == 0 && m_target.exists)
         error = keepMode();
     if (error == 0 && m_target.exists)

@@ -37,6 +37,10 @@ public:
 
     /// Does the whole write, once. `newMode` is for a file that does not exist yet and is subject to the process's mask.
     Result<void> run(std::span<const QByteArrayView> pieces, mode_t newMode);
+    /// The same in steps, for bytes that come one after another. After a failure nothing else may follow.
+    Result<void> begin(mode_t newMode);
+    Result<void> append(std::span<const QByteArrayView> pieces);
+    Result<void> finish();
 
 private:
     // Each step gives 0 or an errno.

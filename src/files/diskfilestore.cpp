@@ -36,6 +36,34 @@ std::optional<QByteArray> systemPath(const QString &path)
     return encoded.contains('\0') ? std::nullopt : std::optional(std::move(encoded));
 }
 
+/// Goes into its temporary file as it comes.
+class IncomingCopy final : public IncomingFile
+{
+public:
+    IncomingCopy(FileSystemCalls &calls, const QString &path) : m_write(calls, path, AtomicWrite::Flush::WhenReplacing)
+    {}
+
+    void append(QByteArrayView bytes) override
+    {
+        if (begin())
+            m_state = m_write.append(std::span(&bytes, 1));
+    }
+    Result<void> finish() override { return begin() ? m_write.finish() : m_state; }
+
+private:
+    /// With the first bytes at the earliest, so that the file is looked at when there is something to put in its place.
+    bool begin()
+    {
+        if (!std::exchange(m_isBegun, true))
+            m_state = m_write.begin(0666);
+        return m_state.ok();
+    }
+
+    AtomicWrite m_write;
+    Result<void> m_state;
+    bool m_isBegun = false;
+};
+
 Error tooLarge(const QString &path)
 {
     return readError(path, Error::Code::TooLarge, u"it is larger than %1 MiB"_s.arg(maximumFileSize / (1024 * 1024)));
@@ -138,6 +166,11 @@ bool DiskFileStore::mustBeWrittenInPlace(const QString &path) const
 Result<void> DiskFileStore::writeInPlace(const QString &path, std::span<const QByteArrayView> pieces)
 {
     return zephira::writeInPlace(m_calls, path, pieces);
+}
+
+std::unique_ptr<IncomingFile> DiskFileStore::receiveCopy(const QString &path)
+{
+    return std::make_unique<IncomingCopy>(m_calls, path);
 }
 
 Result<void> DiskFileStore::remove(const QString &path)

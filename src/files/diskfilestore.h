@@ -28,6 +28,7 @@ public:
     Result<void> writeCopy(const QString &path, std::span<const QByteArrayView> pieces) override;
     bool mustBeWrittenInPlace(const QString &path) const override;
     Result<void> writeInPlace(const QString &path, std::span<const QByteArrayView> pieces) override;
+    std::unique_ptr<IncomingFile> receiveCopy(const QString &path) override;
     Result<void> remove(const QString &path) override;
     bool FileExists(const QString &path) const override;
     FileSignature signature(const QString &path) const override;

@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 #include <vector>
 
@@ -301,6 +302,58 @@ private Q_SLOTS:
         // What it replaces could be lost with it.
         QVERIFY(store.writeCopy(path, {&piece, 1}));
         QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 2);
+    }
+
+    void incomingCopyTakesItsPlaceAtTheEnd()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.htm"_s);
+        FaultyCalls calls;
+        DiskFileStore store(calls);
+        const auto names = [&] { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); };
+        {
+            const std::unique_ptr<IncomingFile> incoming = store.receiveCopy(path);
+            QVERIFY2(names().isEmpty(), "nothing is made before there is something to put into it");
+            incoming->append(QByteArrayView(newContent).first(3));
+            incoming->append(QByteArrayView(newContent).sliced(3));
+            QVERIFY(!QFile::exists(path));
+            QVERIFY(incoming->finish());
+        }
+        QCOMPARE(contentOf(path), newContent);
+        QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 0);
+        {
+            const std::unique_ptr<IncomingFile> incoming = store.receiveCopy(path);
+            incoming->append("given up");
+            QCOMPARE(contentOf(path), newContent);
+        }
+        QCOMPARE(names(), QStringList{u"a.htm"_s});
+        QCOMPARE(contentOf(path), newContent);
+        // An empty file is one, too.
+        QVERIFY(store.receiveCopy(path)->finish());
+        QCOMPARE(contentOf(path), QByteArray());
+        QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 2);
+    }
+
+    void incomingCopyThatFailsLeavesTheOldFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.htm"_s);
+        FaultyCalls plain;
+        put(path, oldContent);
+        QVERIFY(DiskFileStore(plain).writeCopy(path, std::array{QByteArrayView(newContent)}));
+        for (int failing = 0; failing < plain.count(); ++failing) {
+            put(path, oldContent);
+            FaultyCalls calls;
+            calls.intervene = [failing](int number, Call) { return number == failing ? ENOSPC : 0; };
+            DiskFileStore store(calls);
+            const std::unique_ptr<IncomingFile> incoming = store.receiveCopy(path);
+            incoming->append(newContent);
+            incoming->append({});
+            const bool stored = incoming->finish().ok();
+            const QByteArray content = contentOf(path);
+            QVERIFY2(stored ? content == newContent : content == oldContent || content == newContent,
+                     qPrintable(QString::number(failing)));
+        }
     }
 
     void ownerThatCannotBeKeptNarrowsTheGroup()
