@@ -27,6 +27,7 @@ public:
 private:
     enum class State { Running, AtEnd, Failed };
 
+    void takeReceived(char *block, quint32 size, quint32 &count);
     bool receiveMore(Deadline deadline);
 
     FtpConversation &m_conversation;
