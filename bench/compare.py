@@ -246,6 +246,13 @@ def in_turns(ours, theirs, rounds, before=lambda: None):
     return [[median(column) for column in zip(*figures)] for figures in runs]
 
 
+def window_run(build, server, remote, target):
+    """What a download of a whole folder takes in the FTP window, in milliseconds."""
+    command = [build / "ftprun_bench", server.host, server.port, server.path(remote), target]
+    done = subprocess.run([str(part) for part in command], check=True, capture_output=True, text=True)
+    return float(done.stdout)
+
+
 def ftp(_programs, report, _inputs, build, work):
     """Files from and to a server: one of 1 GiB beside curl, and 2,000 of 4 KiB beside lftp."""
     size = 1 << 30
@@ -263,7 +270,18 @@ def ftp(_programs, report, _inputs, build, work):
         _, large = run_once([own, "get", *at, server.path("."), "large", folder])
         report.row("memory of a download of 1 GiB", large, size / 1024, 1.3, "the file", "kB")
 
+        # Beside curl with a file, because the window has to write one, too.
+        server.add("alone/large", size)
         local = folder / "large"
+        window, theirs = [], []
+        for _ in range(5):
+            local.unlink(missing_ok=True)
+            window.append(window_run(build, server, "alone", folder))
+            local.unlink()
+            theirs.append(run_once(["curl", "-s", "-o", local, server.url("alone/large")])[0])
+        report.row("1 GiB from a server, in the window", size / median(window) / 1e3, size / median(theirs) / 1e3, 0.95,
+                   "curl -o", "MB/s", at_least=True)
+
         up = [own, "up", *at, folder, local.name, server.path("up")]
         (server.files / "up").mkdir()
         server.give_to_server(server.files / "up")
@@ -291,6 +309,11 @@ def ftp(_programs, report, _inputs, build, work):
         ours, theirs = in_turns([own, "mirror", *at, server.path("many"), target], ["lftp", "-c", mirror], 7, empty_target)
         report.row("2,000 files of 4 KiB", ours[0], theirs[0], 0.6, "lftp mirror")
         report.aim("2,000 files of 4 KiB", ours[0], theirs[0], 0.45, "lftp mirror")
+        window = []
+        for _ in range(7):
+            empty_target()
+            window.append(window_run(build, server, "many", target))
+        report.row("2,000 files of 4 KiB, in the window", median(window), theirs[0], 0.6, "lftp mirror")
         shutil.rmtree(target)
 
 

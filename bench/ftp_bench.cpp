@@ -48,6 +48,7 @@ struct BlankDisplay final : TransferDisplay {
     void beginFile(int, const QString &, double) override {}
     void moved(const TransferProgress &) override {}
     void endFile(const TransferProgress &) override {}
+    void showAll() override {}
 };
 
 /// Runs a queue through the program's own engine.

@@ -22,6 +22,7 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -289,7 +290,22 @@ void frmmainftp::About()
 
 void frmmainftp::log(LogEntry entry, const QStringList &parts)
 {
-    m_ui->txtInfo->insertPlainText(logText(entry, m_context.clock.now(), parts));
+    m_comingLog += logText(entry, m_context.clock.now(), parts);
+    showLog();
+}
+
+void frmmainftp::logSoon(LogEntry entry, const QStringList &parts)
+{
+    m_comingLog += logText(entry, m_context.clock.now(), parts);
+    if (m_sinceLogPainted.hasExpired(logPaintInterval))
+        showLog();
+}
+
+void frmmainftp::showLog()
+{
+    if (m_comingLog.isEmpty())
+        return;
+    m_ui->txtInfo->insertPlainText(std::exchange(m_comingLog, {}));
     m_ui->txtInfo->ensureCursorVisible();
     // The next call to the server keeps the window from painting itself; but a long list of lines must not be slow.
     if (m_sinceLogPainted.hasExpired(logPaintInterval)) {
@@ -302,10 +318,13 @@ void frmmainftp::clearLog()
 {
     m_ui->txtInfo->clear();
 }
+    m_comingLog.clear();
 
 void frmmainftp::setPanel(int panel, const QString &text)
 {
-    m_panels[static_cast<std::size_t>(panel - 1)]->setText(text);
+    QLabel &label = *m_panels[static_cast<std::size_t>(panel - 1)];
+    if (label.text() != text)
+        label.setText(text);
 }
 
 void frmmainftp::setBusy(bool busy)

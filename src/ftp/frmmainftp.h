@@ -47,6 +47,8 @@ public:
     Q_INVOKABLE void About();
 
     void log(LogEntry entry, const QStringList &parts = {}) override;
+    void logSoon(LogEntry entry, const QStringList &parts = {}) override;
+    void showLog() override;
     void clearLog() override;
     void setPanel(int panel, const QString &text) override;
     void setBusy(bool busy) override;
@@ -93,6 +95,8 @@ private:
     std::unique_ptr<RemoteCommands> m_remote;
     std::array<QLabel *, 3> m_panels{};
     QElapsedTimer m_sinceLogPainted;
+    /// Lines that stand in no box yet.
+    QString m_comingLog;
 };
 
 } // namespace zephira

@@ -10,9 +10,10 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <chrono>
 #include <limits>
 #include <utility>
+
+#include <time.h>
 
 using namespace Qt::StringLiterals;
 
@@ -20,8 +21,8 @@ namespace zephira {
 
 namespace {
 
-/// In milliseconds: showing the progress more often than a screen is drawn would only cost time.
-constexpr qint64 paintInterval = 1000 / 60;
+/// In milliseconds: showing the progress more often than it can be read would only cost time.
+constexpr quint32 paintInterval = 1000 / 20;
 
 /// A bar counts in bytes as long as its numbers allow, and never has an end of 0, which would stand for "unknown".
 void setBarMaximum(QProgressBar &bar, double maximum)
@@ -35,11 +36,15 @@ void setBarValue(QProgressBar &bar, qint64 value)
     bar.setValue(int(std::min<qint64>(value, bar.maximum())));
 }
 
-/// Milliseconds since the machine was started, which wrap around after 49 days.
+/// Milliseconds since the machine was started, which wrap around after 49 days. It is asked a million times with a
+/// gigabyte, so that it takes the clock that is cheap and goes on by a few milliseconds at a time.
 quint32 tickCount()
 {
-    using namespace std::chrono;
-    return quint32(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+    constexpr qint64 perSecond = 1000;
+    constexpr qint64 nanoseconds = 1'000'000;
+    timespec now = {};
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return quint32(now.tv_sec * perSecond + now.tv_nsec / nanoseconds);
 }
 
 } // namespace
@@ -100,54 +105,75 @@ void frmProg::beginRun(qint64 total, double barMaximum)
     setBarMaximum(*m_ui->ProgressBar2, barMaximum);
     m_ui->lbLeft->setText(CStr(double(total) / 1024));
     m_ui->lbCelkem->setText(Format(double(total), u"### ### ###.##") + u" Kb"_s);
-    paint();
+    m_progress.reset();
+    repaint();
+    m_paintedAt = tickCount();
 }
 
 void frmProg::beginFile(int number, const QString &line, double barMaximum)
 {
-    setBarMaximum(*m_ui->ProgressBar1, barMaximum);
-    m_ui->Label1->setText(line);
-    m_ui->lbCount->setText(QString::number(number));
+    m_file = {number, line, barMaximum};
+    m_isFileShown = false;
+    if (m_progress)
+        m_progress->beginFile();
     if (isPaintDue())
-        paint();
+        showAll();
 }
 
 void frmProg::moved(const TransferProgress &progress)
 {
-    if (!isPaintDue())
-        return;
-    show(progress);
-    paint();
+    m_progress = progress;
+    if (isPaintDue())
+        showAll();
 }
 
 void frmProg::endFile(const TransferProgress &progress)
 {
-    show(progress);
+    m_progress = progress;
 }
 
 bool frmProg::isPaintDue() const
 {
-    return m_sincePainted.elapsed() >= paintInterval;
+    return tickCount() - m_paintedAt >= paintInterval;
 }
 
-/// At once, because events are not handled during a run.
-void frmProg::paint()
+/// At once, because events are not handled during a run, and no more than what is new.
+void frmProg::showAll()
 {
-    repaint();
-    m_sincePainted.start();
+    if (!m_isFileShown)
+        showFile();
+    if (m_progress)
+        show(*m_progress);
+    m_paintedAt = tickCount();
+}
+
+void frmProg::showFile()
+{
+    m_isFileShown = true;
+    setBarMaximum(*m_ui->ProgressBar1, m_file.barMaximum);
+    setText(*m_ui->Label1, m_file.line);
+    setText(*m_ui->lbCount, QString::number(m_file.number));
+}
+
+void frmProg::setText(QLabel &label, const QString &text)
+{
+    if (label.text() == text)
+        return;
+    label.setText(text);
+    label.repaint();
 }
 
 void frmProg::show(const TransferProgress &progress)
 {
-    m_ui->lbFar->setText(progress.movedText());
-    m_ui->lbLeft->setText(progress.leftText());
+    setText(*m_ui->lbFar, progress.movedText());
+    setText(*m_ui->lbLeft, progress.leftText());
     setBarValue(*m_ui->ProgressBar1, progress.doneFile);
     setBarValue(*m_ui->ProgressBar2, progress.doneAll);
     if (!progress.isTimed)
         return;
-    m_ui->lbTime->setText(progress.timeText());
-    m_ui->lbSpeed->setText(progress.rateText());
-    m_ui->lbTimeLeft->setText(progress.timeLeftText());
+    setText(*m_ui->lbTime, progress.timeText());
+    setText(*m_ui->lbSpeed, progress.rateText());
+    setText(*m_ui->lbTimeLeft, progress.timeLeftText());
 }
 
 } // namespace zephira

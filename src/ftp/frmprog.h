@@ -4,9 +4,11 @@
 #include "ftp/transferengine.h"
 
 #include <QDialog>
-#include <QElapsedTimer>
 
 #include <memory>
+#include <optional>
+
+class QLabel;
 
 namespace zephira {
 
@@ -32,12 +34,14 @@ private:
     void beginFile(int number, const QString &line, double barMaximum) override;
     void moved(const TransferProgress &progress) override;
     void endFile(const TransferProgress &progress) override;
+    void showAll() override;
 
     void showQueue();
     void run();
     void cancel();
     bool isPaintDue() const;
-    void paint();
+    void setText(QLabel &label, const QString &text);
+    void showFile();
     void show(const TransferProgress &progress);
 
     const std::unique_ptr<Ui::frmProg> m_ui;
@@ -45,7 +49,19 @@ private:
     Prompts &m_prompts;
     const TransferQueue m_queue;
     TransferEngine m_engine;
-    QElapsedTimer m_sincePainted;
+    /// In ticks.
+    quint32 m_paintedAt = 0;
+
+    /// What was told of the current file, and how far the run was then.
+    struct File {
+        int number = 0;
+        QString line;
+        double barMaximum = 0;
+    };
+    File m_file;
+    /// Nothing before the first block of a run.
+    std::optional<TransferProgress> m_progress;
+    bool m_isFileShown = true;
 };
 
 } // namespace zephira

@@ -129,7 +129,7 @@ void LocalCommands::upload()
     TransferQueue queue{TransferQueue::Direction::Upload, {}};
     for (const FileRow &file : files) {
         queue.files.push_back({file.name, file.bytes.toLongLong()});
-        m_desk.log(LogEntry::QueuedFile, {QString::number(queue.files.size()), pathOf(file)});
+        m_desk.logSoon(LogEntry::QueuedFile, {QString::number(queue.files.size()), pathOf(file)});
     }
     m_client.queue = std::move(queue);
     m_desk.openModal(u"frmProg"_s);
@@ -142,6 +142,7 @@ void LocalCommands::newFolder()
         m_context.prompts.input({u"Type a name of the new folder here"_s, u"Name"_s}).value_or(QString());
     if (name.isEmpty())
         return;
+    m_desk.showLog();
     if (QDir().mkdir(m_client.session.ftpLocalFolder + name))
         m_view.refreshLists();
     else

@@ -87,9 +87,10 @@ void RemoteCommands::download()
     TransferQueue queue{TransferQueue::Direction::Download, {}};
     for (const FileRow &file : files) {
         queue.files.push_back({file.name, file.bytes.toLongLong()});
-        m_desk.log(LogEntry::QueuedFile,
-                   {QString::number(queue.files.size()), m_client.session.ftpRemoteFolder + file.name});
+        m_desk.logSoon(LogEntry::QueuedFile,
+                       {QString::number(queue.files.size()), m_client.session.ftpRemoteFolder + file.name});
     }
+    m_desk.showLog();
     m_client.queue = std::move(queue);
     m_desk.openModal(u"frmProg"_s);
     m_desk.refreshLocal();

@@ -17,6 +17,10 @@ public:
 
     /// Puts an entry into the log, in the place of its selection; logText() tells which parts it takes.
     virtual void log(LogEntry entry, const QStringList &parts = {}) = 0;
+    /// The same for one of many: it may be shown together with those that follow, up to a twentieth of a second later or
+    /// when showLog() is called.
+    virtual void logSoon(LogEntry entry, const QStringList &parts = {}) { log(entry, parts); }
+    virtual void showLog() {}
     virtual void clearLog() = 0;
 };
 

@@ -2,7 +2,6 @@
 #include "ftp/transferengine.h"
 
 #include "core/filestore.h"
-#include "core/prompts.h"
 #include "ftp/ftpclient.h"
 #include "ftp/remotename.h"
 #include "ftp/sessiondisplay.h"
@@ -25,20 +24,21 @@ constexpr double downloadSlack = 1.024;
 
 } // namespace
 
-/// The bytes of a file that is coming down, in chunks, so that a growing file is never copied.
+/// The bytes of a file that is coming down. They are handed on in pieces that the processor still has at hand.
 class TransferEngine::Received
 {
 public:
+    Received(std::unique_ptr<IncomingFile> file, QByteArray &gathered) : m_file(std::move(file)), m_gathered(gathered)
+    {
+        m_gathered.resize(gatheredSize);
+    }
+
     /// Room for one block more.
     char *next()
     {
-        if (m_chunks.empty() || m_used + blockSize > chunkSize) {
-            if (!m_chunks.empty())
-                m_chunks.back().truncate(m_used);
-            m_chunks.emplace_back(chunkSize, Qt::Uninitialized);
-            m_used = 0;
-        }
-        return m_chunks.back().data() + m_used;
+        if (m_used + blockSize > gatheredSize)
+            handOn();
+        return m_gathered.data() + m_used;
     }
     void take(quint32 count)
     {
@@ -47,19 +47,28 @@ public:
     }
     qint64 size() const { return m_size; }
 
-    std::vector<QByteArrayView> pieces() const
+    /// Ends the file, with some bytes behind those that came.
+    Result<void> finish(const QByteArray &rest)
     {
-        std::vector<QByteArrayView> pieces(m_chunks.begin(), m_chunks.end());
-        if (!pieces.empty())
-            pieces.back() = pieces.back().first(m_used);
-        return pieces;
+        handOn();
+        if (!rest.isEmpty())
+            m_file->append(rest);
+        return m_file->finish();
     }
 
 private:
-    /// In bytes; a multiple of the block, so that a chunk is full before the next one begins.
-    static constexpr qsizetype chunkSize = 1024 * qsizetype(blockSize);
+    /// In bytes; a multiple of the block.
+    static constexpr qsizetype gatheredSize = 128 * qsizetype(blockSize);
 
-    std::vector<QByteArray> m_chunks;
+    void handOn()
+    {
+        if (m_used > 0)
+            m_file->append(QByteArrayView(m_gathered).first(m_used));
+        m_used = 0;
+    }
+
+    const std::unique_ptr<IncomingFile> m_file;
+    QByteArray &m_gathered;
     qsizetype m_used = 0;
     qint64 m_size = 0;
 };
@@ -83,7 +92,7 @@ TransferEngine::Outcome TransferEngine::run(const TransferQueue &queue)
         if (!(this->*move)(file))
             return Outcome::Stopped;
     }
-    m_prompts.tell(u"Data transfer completed."_s);
+    tell(u"Data transfer completed."_s, {}, Question::Icon::Information);
     return Outcome::Completed;
 }
 
@@ -96,15 +105,15 @@ bool TransferEngine::download(const TransferQueue::File &file)
         return refuse(u"This name can't stand for a file here: %1"_s.arg(file.name));
     const QString local = m_client.session.ftpLocalFolder + file.name;
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
-    m_displays.log.log(LogEntry::DownloadBegun, {remote, local});
+    m_displays.log.logSoon(LogEntry::DownloadBegun, {remote, local});
     m_displays.panels.setPanel(textPanel, u"Transfering data..., wait."_s);
     if (!open(remote, GENERIC_READ)) {
-        m_prompts.tell(u"Can't open file path!"_s, u"Problém s URL"_s, Question::Icon::Exclamation);
+        tell(u"Can't open file path!"_s, u"Problém s URL"_s, Question::Icon::Exclamation);
         m_displays.log.log(LogEntry::DownloadRefused);
         return false;
     }
 
-    Received received;
+    Received received(m_files.receiveCopy(local), m_gathered);
     receive(received);
     const Result<void> stored = store(local, received);
     m_progress.endFile();
@@ -112,7 +121,7 @@ bool TransferEngine::download(const TransferQueue::File &file)
     m_displays.progress.endFile(m_progress);
     if (!stored)
         return refuse(stored.error().sentence);
-    m_displays.log.log(LogEntry::Done);
+    m_displays.log.logSoon(LogEntry::Done);
     return true;
 }
 
@@ -131,18 +140,16 @@ void TransferEngine::receive(Received &received)
     } while (count == blockSize);
 }
 
-Result<void> TransferEngine::store(const QString &path, const Received &received)
+Result<void> TransferEngine::store(const QString &path, Received &received)
 {
-    std::vector<QByteArrayView> pieces = received.pieces();
     QByteArray rest;
     if (const QFileInfo before(path); before.isFile() && before.size() > received.size()) {
         QFile old(path);
         if (!old.open(QIODevice::ReadOnly) || !old.seek(received.size()))
             return Error{Error::Code::Unreadable, u"Can't open the file %1: %2"_s.arg(path, old.errorString())};
         rest = old.readAll();
-        pieces.emplace_back(rest);
     }
-    return m_files.writeCopy(path, pieces);
+    return received.finish(rest);
 }
 
 bool TransferEngine::upload(const TransferQueue::File &file)
@@ -150,14 +157,14 @@ bool TransferEngine::upload(const TransferQueue::File &file)
     beginFile(u"Uploading file: %1 / %2 bytes."_s.arg(file.name, QString::number(file.size)), double(file.size));
     const QString path = m_client.session.ftpLocalFolder + file.name;
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
-    m_displays.log.log(LogEntry::UploadBegun, {path, remote});
+    m_displays.log.logSoon(LogEntry::UploadBegun, {path, remote});
     m_displays.panels.setPanel(textPanel, u"uploading data..., wait."_s);
     // The local file comes first: one that can't be read must not make the server's empty.
     QFile local(path);
     if (!local.open(QIODevice::ReadOnly))
         return refuse(u"Can't open the file %1: %2"_s.arg(path, local.errorString()));
     if (!open(remote, GENERIC_WRITE)) {
-        m_prompts.tell(u"Cant create requested file on server"_s, {}, Question::Icon::Exclamation);
+        tell(u"Cant create requested file on server"_s, {}, Question::Icon::Exclamation);
         m_displays.log.log(LogEntry::UploadRefused);
         return false;
     }
@@ -173,7 +180,7 @@ bool TransferEngine::upload(const TransferQueue::File &file)
         tellUploadFailure();
     if (outcome == Sending::Unreadable)
         return refuse(u"Can't read the file %1 to its end"_s.arg(path));
-    m_displays.log.log(LogEntry::Done);
+    m_displays.log.logSoon(LogEntry::Done);
     return true;
 }
 
@@ -199,7 +206,7 @@ TransferEngine::Sending TransferEngine::send(QFile &local)
 
 void TransferEngine::tellUploadFailure()
 {
-    m_prompts.tell(u"Could Not Download!"_s, {}, Question::Icon::Exclamation);
+    tell(u"Could Not Download!"_s, {}, Question::Icon::Exclamation);
     m_displays.log.log(LogEntry::UploadFailed);
 }
 
@@ -229,9 +236,16 @@ bool TransferEngine::close()
     return m_client.operations.InternetCloseHandle(std::exchange(m_handle, 0));
 }
 
+void TransferEngine::tell(const QString &text, const QString &title, Question::Icon icon)
+{
+    m_displays.log.showLog();
+    m_displays.progress.showAll();
+    m_prompts.tell(text, title, icon);
+}
+
 bool TransferEngine::refuse(const QString &sentence)
 {
-    m_prompts.tell(sentence, {}, Question::Icon::Exclamation);
+    tell(sentence, {}, Question::Icon::Exclamation);
     m_displays.log.log(LogEntry::LocalFileFailed, {sentence});
     return false;
 }

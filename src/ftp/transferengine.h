@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/prompts.h"
 #include "ftp/internetoperations.h"
 #include "ftp/transferprogress.h"
 #include "ftp/transferqueue.h"
@@ -17,7 +18,6 @@ struct FtpClient;
 class FileStore;
 class LogDisplay;
 class PanelDisplay;
-class Prompts;
 template<typename T>
 class Result;
 
@@ -33,13 +33,15 @@ public:
     virtual void beginFile(int number, const QString &line, double barMaximum) = 0;
     /// A block was moved. It comes a million times with a gigabyte, so that it has to be cheap.
     virtual void moved(const TransferProgress &progress) = 0;
-    /// A file has ended, well or not; what moved() was told last has to be seen now.
+    /// A file has ended, well or not.
     virtual void endFile(const TransferProgress &progress) = 0;
+    /// The user is about to be asked or told something: all that was told before has to be seen now.
+    virtual void showAll() = 0;
 };
 
 /// Moves the files of a queue between the session's local and server folders, in blocks of 1024 bytes and always
-/// unchanged, while the caller waits. A file that comes down is held in memory until it is complete and then laid over
-/// the local one from its start; of a longer local file the rest stays behind it.
+/// unchanged, while the caller waits. A file that comes down stands apart until it is complete and then is laid over the
+/// local one from its start; of a longer local file the rest stays behind it.
 class TransferEngine
 {
 public:
@@ -80,7 +82,7 @@ private:
     bool upload(const TransferQueue::File &file);
     Sending send(QFile &local);
     void receive(Received &received);
-    Result<void> store(const QString &path, const Received &received);
+    Result<void> store(const QString &path, Received &received);
 
     void beginFile(const QString &line, double barMaximum);
     /// Opens the current file on the server; false if that refuses it.
@@ -88,6 +90,7 @@ private:
     void countBlock(qint64 bytes);
     bool close();
     void tellUploadFailure();
+    void tell(const QString &text, const QString &title, Question::Icon icon);
     /// Tells why a run can't go on.
     bool refuse(const QString &sentence);
 
@@ -102,6 +105,8 @@ private:
     /// Of the current file, from 1, and how many there are.
     int m_number = 0;
     int m_count = 0;
+    /// For what has come and isn't stored yet.
+    QByteArray m_gathered;
 };
 
 } // namespace zephira

@@ -8,9 +8,11 @@
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
+#include <QPaintEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -47,6 +49,22 @@ struct Transfer {
     LivingForm form() { return LivingForm(catalogue, u"frmProg"_s, world); }
 };
 
+/// How often a widget is painted, whole or in parts.
+struct PaintCount final : QObject {
+    explicit PaintCount(QWidget &widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            ++paints;
+            wholes += static_cast<QPaintEvent *>(event)->rect() == static_cast<QWidget *>(watched)->rect();
+        }
+        return false;
+    }
+
+    int paints = 0;
+    int wholes = 0;
+};
+
 QStringList rows(const QListWidget &list)
 {
     QStringList texts;
@@ -72,6 +90,8 @@ private Q_SLOTS:
     void cancelWithoutATransferDoesNothing();
     void barsTakeMoreThanWasAnnounced();
     void queueIsTakenOnce();
+    void paintsWhatIsNew();
+    void failedOpenLeavesTheCountersAsTheyAre();
 };
 
 void TstFrmProg::queueIsShown_data()
@@ -218,6 +238,57 @@ void TstFrmProg::queueIsTakenOnce()
     }
     const LivingForm form = transfer.form();
     QVERIFY(rows(form.get<QListWidget>(u"List1"_s)).isEmpty());
+}
+
+void TstFrmProg::paintsWhatIsNew()
+{
+    Transfer transfer;
+    std::vector<TransferQueue::File> files;
+    for (int i = 0; i < 60; ++i) {
+        files.push_back({QString::number(i), 3});
+        transfer.operations.files[u"/%1"_s.arg(i)] = "abc";
+    }
+    transfer.queue(TransferQueue::Direction::Download, files);
+    const LivingForm form = transfer.form();
+    // Half a second and a bit, so that a window of sixty pictures a second would show.
+    transfer.operations.onCall = [](const QString &call) {
+        if (call.startsWith(u"InternetReadFile"))
+            QTest::qSleep(10);
+    };
+    PaintCount window(form.widget());
+    PaintCount name(form.get(u"Label1"_s));
+    transfer.world.prompts.expect({u"Data transfer completed."_s, {}, Question::Icon::Information}, Answer::Ok, [&] {
+        QCOMPARE(form.value(u"lbCount"_s), u"60"_s);
+        QCOMPARE(form.value(u"lbFar"_s), u"0.18 Kb"_s);
+    });
+    QElapsedTimer time;
+    time.start();
+    form.press(u"Command3"_s);
+    QVERIFY(time.elapsed() > 550);
+    QVERIFY2(window.wholes <= 2, "the window was painted whole");
+    QVERIFY2(name.paints > 3 && name.paints <= time.elapsed() / 50 + 3, qPrintable(QString::number(name.paints)));
+}
+
+void TstFrmProg::failedOpenLeavesTheCountersAsTheyAre()
+{
+    Transfer transfer;
+    transfer.operations.files[u"/a"_s] = QByteArray(1500, 'a');
+    transfer.queue(TransferQueue::Direction::Download, {{u"a"_s, 1500}, {u"b"_s, 1000}});
+    const LivingForm form = transfer.form();
+    transfer.operations.onCall = [&](const QString &call) {
+        if (call.startsWith(u"FtpOpenFileA") && call.contains(u"/b"))
+            transfer.operations.failures[u"FtpOpenFileA"_s] = 1;
+    };
+    transfer.world.prompts.expect({u"Can't open file path!"_s, u"Problém s URL"_s, Question::Icon::Exclamation},
+                                  Answer::Ok, [&] {
+                                      QCOMPARE(form.value(u"Label1"_s), u"Downloading File: b / 1000 bytù."_s);
+                                      QCOMPARE(form.value(u"lbCount"_s), u"2"_s);
+                                      QCOMPARE(form.value(u"lbFar"_s), u"1.46 Kb"_s);
+                                      QCOMPARE(form.get<QProgressBar>(u"ProgressBar1"_s).value(), 0);
+                                      QCOMPARE(form.get<QProgressBar>(u"ProgressBar2"_s).value(), 1500);
+                                  });
+    form.press(u"Command3"_s);
+    QVERIFY(form.isOpen());
 }
 
 ZEPHIRA_TEST(TstFrmProg)

@@ -37,6 +37,7 @@ struct KeptDisplay final : TransferDisplay {
         ++blocks;
     }
     void endFile(const TransferProgress &progress) override { last = progress; }
+    void showAll() override {}
 };
 
 /// The time of day that the log of RecordingDesk tells.
