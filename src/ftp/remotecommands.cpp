@@ -133,7 +133,8 @@ void RemoteCommands::removeFolder()
                                Question::Buttons::YesNo})
         != Answer::Yes)
         return;
-    const QString path = m_client.session.ftpRemoteFolder.chopped(1);
+    // The folder that was asked about, also where another one is open.
+    const QString path = node->key.chopped(1);
     const QString parent = Left(path, path.size() - node->text.size());
     m_desk.log(LogEntry::FolderRemovalBegun, {path});
     if (m_client.operations.FtpRemoveDirectoryA(m_client.session.ftpConnectHandle, path)) {

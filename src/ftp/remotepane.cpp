@@ -37,7 +37,12 @@ QTreeWidgetItem *makeItem(const QString &key, const QString &text, const QIcon &
 RemotePane::RemotePane(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts)
 {
     m_parts.tree.installEventFilter(this);
-    connect(&m_parts.tree, &QTreeWidget::itemClicked, this, &RemotePane::chooseSelected);
+    m_parts.tree.viewport()->installEventFilter(this);
+    connect(&m_parts.tree, &QTreeWidget::itemClicked, this, [this] {
+        // A double click asks the server once.
+        if (!m_isSecondClick)
+            chooseSelected();
+    });
     markPattern(true);
 }
 
@@ -132,8 +137,27 @@ void RemotePane::chooseSelected()
         Q_EMIT nodeChosen(*node);
 }
 
+/// The folder under the selection is the one that commands mean, so that whatever reaches it has to open it.
+void RemotePane::openSelected()
+{
+    if (const auto node = selectedNode(); node && node->key != m_openKey)
+        Q_EMIT nodeChosen(*node);
+}
+
+/// A press of any button selects, and so does moving on with the button held, but only some of that is a click.
+void RemotePane::watchMouse(QEvent::Type type)
+{
+    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick)
+        m_isSecondClick = type == QEvent::MouseButtonDblClick;
+    else if (type == QEvent::MouseButtonRelease)
+        // The tree hears of it after us.
+        QMetaObject::invokeMethod(this, &RemotePane::openSelected, Qt::QueuedConnection);
+}
+
 bool RemotePane::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_parts.tree.viewport())
+        watchMouse(event->type());
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return QObject::eventFilter(watched, event);
     const auto *key = static_cast<const QKeyEvent *>(event);
@@ -147,12 +171,9 @@ bool RemotePane::eventFilter(QObject *watched, QEvent *event)
         chooseSelected();
         return true;
     }
-    // The folder under the selection is the one that commands mean, so that the keys have to open what they reach; a key
-    // that is held down asks the server once.
-    if (!pressed && !key->isAutoRepeat()) {
-        if (const auto node = selectedNode(); node && node->key != m_openKey)
-            Q_EMIT nodeChosen(*node);
-    }
+    // A key that is held down asks the server once.
+    if (!pressed && !key->isAutoRepeat())
+        openSelected();
     return QObject::eventFilter(watched, event);
 }
 

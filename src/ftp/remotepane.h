@@ -3,6 +3,7 @@
 
 #include "ftp/remoteview.h"
 
+#include <QEvent>
 #include <QObject>
 
 class QAction;
@@ -42,7 +43,7 @@ public:
     void markPattern(bool all) override;
 
 Q_SIGNALS:
-    /// A folder was clicked, or reached with the keys.
+    /// A folder was clicked, or reached with the keys or the mouse.
     void nodeChosen(const RemoteNode &node);
     void deletePressed();
 
@@ -52,10 +53,14 @@ protected:
 private:
     QTreeWidgetItem *find(const QString &key) const;
     void chooseSelected();
+    void openSelected();
+    void watchMouse(QEvent::Type type);
 
     Parts m_parts;
     /// The folder that was opened last.
     QString m_openKey;
+    /// From the second press of a double click to the next one.
+    bool m_isSecondClick = false;
 };
 
 } // namespace zephira

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void newFolderFails();
     void newFolderWithALineBreak();
     void removeFolder();
+    void removesTheFolderThatWasAskedAbout();
     void removeFolderNotSure();
     void removeRoot();
     void removeWithoutSelection();
@@ -349,6 +350,19 @@ void TstRemoteCommands::removeFolder()
 void TstRemoteCommands::removeFolderNotSure()
 {
     Bench bench;
+void TstRemoteCommands::removesTheFolderThatWasAskedAbout()
+{
+    Bench bench;
+    bench.enterPub();
+    bench.view.addFolders(u"/"_s, {u"home"_s});
+    bench.view.selection = RemoteNode{u"/home/"_s, u"home"_s};
+    bench.expectYesNo(u"Are you sure to remove this folder: home?"_s, Answer::Yes);
+    bench.commands.removeFolder();
+    QCOMPARE(bench.operations.log.first(), u"FtpRemoveDirectoryA(2, \"/home\")"_s);
+    QVERIFY(bench.desk.logged.startsWith(bench.time + u" > Sending request to remove folder: /home\r\n"_s));
+    QCOMPARE(bench.view.selection, (RemoteNode{u"/"_s, u".."_s}));
+}
+
     bench.enterPub();
     bench.expectYesNo(u"Are you sure to remove this folder: pub?"_s, Answer::No);
     bench.commands.removeFolder();
