@@ -11,6 +11,7 @@
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/localview.h"
+#include "ftp/programdata.h"
 #include "ftp/sessionlogfile.h"
 #include "ftp/shownfolder.h"
 
@@ -67,6 +68,16 @@ void LocalCommands::refuse(const QString &message)
 bool LocalCommands::confirm(const QString &question)
 {
     return m_context.prompts.ask({question, {}, Question::Icon::Question, Question::Buttons::YesNo}) == Answer::Yes;
+}
+
+bool LocalCommands::mayChange(const QStringList &names, const QString &question)
+{
+    QStringList needed;
+    for (const QString &name : names) {
+        if (isProgramData(m_context.appPath, m_client.session.ftpLocalFolder + name))
+            needed.append(name);
+    }
+    return needed.isEmpty() || confirm(u"Zephira itself needs: "_s + needed.join(u", "_s) + u"\r\n"_s + question);
 }
 
 QString LocalCommands::pathOf(const FileRow &file) const
@@ -131,6 +142,7 @@ void LocalCommands::upload()
         queue.files.push_back({file.name, file.bytes.toLongLong()});
         m_desk.logSoon(LogEntry::QueuedFile, {QString::number(queue.files.size()), pathOf(file)});
     }
+    m_desk.showLog();
     m_client.queue = std::move(queue);
     m_desk.openModal(u"frmProg"_s);
     m_desk.refreshRemote();
@@ -142,7 +154,6 @@ void LocalCommands::newFolder()
         m_context.prompts.input({u"Type a name of the new folder here"_s, u"Name"_s}).value_or(QString());
     if (name.isEmpty())
         return;
-    m_desk.showLog();
     if (QDir().mkdir(m_client.session.ftpLocalFolder + name))
         m_view.refreshLists();
     else
@@ -176,6 +187,11 @@ void LocalCommands::deleteFiles()
     }
     if (!confirm(u"Are you sure to delete these files?\r\nif you are, don't look for them in recycle!"_s))
         return;
+    QStringList names;
+    for (const FileRow &file : files)
+        names.append(file.name);
+    if (!mayChange(names, u"Delete it all the same?"_s))
+        return;
     for (const FileRow &file : files)
         require(QFile::remove(pathOf(file)),
                 QFileInfo::exists(pathOf(file)) ? u"Permission denied"_s : u"File not found"_s);
@@ -207,6 +223,8 @@ bool LocalCommands::renameEnded(const QString &oldName, const QString &newName)
         refuse(u"More than one file with the same name in one folder? no way!"_s);
         return false;
     }
+    if (!mayChange({oldName}, u"Rename it all the same?"_s))
+        return false;
     require(QFile::rename(folder + oldName, folder + newName), u"Path/File access error"_s);
     return true;
 }

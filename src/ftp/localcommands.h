@@ -44,6 +44,8 @@ public:
 private:
     void refuse(const QString &message);
     bool confirm(const QString &question);
+    /// Asks about those of some files that the program needs itself, by name. True if nothing speaks against the command.
+    bool mayChange(const QStringList &names, const QString &question);
     QString pathOf(const FileRow &file) const;
 
     FtpClient &m_client;

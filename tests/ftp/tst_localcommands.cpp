@@ -102,6 +102,7 @@ private Q_SLOTS:
     void deleteNothing();
     void deleteNotSure();
     void deleteWhatIsGone();
+    void programDataIsNamed();
     void renameNothing();
     void renameStarts();
     void rename();
@@ -364,6 +365,60 @@ void TstLocalCommands::deleteNotSure()
     bench.expectYesNo(deleteQuestion, Answer::No);
     bench.commands.deleteFiles();
     QCOMPARE(bench.onDisk().size(), 3);
+}
+
+void TstLocalCommands::programDataIsNamed()
+{
+    Bench bench;
+    const AppContext &world = bench.world;
+    const QTemporaryDir program;
+    const AppContext context{world.editor,   world.inserter, world.designer, world.document, world.configuration,
+                             world.settings, world.files,    world.prompts,  world.shell,    world.clipboard,
+                             world.clock,    world.forms,    program.path()};
+    LocalCommands commands(bench.client, bench.desk, bench.view, context);
+    const auto put = [&](const QString &name) {
+        QDir(program.path()).mkpath(QFileInfo(program.filePath(name)).path());
+        QFile file(program.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    };
+    const auto show = [&](const QString &folder, const QStringList &names) {
+        bench.view.path = folder.isEmpty() ? program.path() : program.filePath(folder);
+        bench.view.names = names;
+        commands.refill();
+        bench.view.list.selection = {names.begin(), names.end()};
+    };
+    for (const QString &name : {u"tags.dat"_s, u"mine.htm"_s, u"deps/csssel.dat"_s, u"Logon/tags.dat"_s})
+        put(name);
+
+    show({}, {u"mine.htm"_s, u"tags.dat"_s});
+    bench.expectYesNo(deleteQuestion, Answer::Yes);
+    bench.expectYesNo(u"Zephira itself needs: tags.dat\r\nDelete it all the same?"_s, Answer::No);
+    commands.deleteFiles();
+    QVERIFY(QFile::exists(program.filePath(u"tags.dat"_s)) && QFile::exists(program.filePath(u"mine.htm"_s)));
+    bench.expectYesNo(u"Zephira itself needs: tags.dat\r\nRename it all the same?"_s, Answer::No);
+    QVERIFY(!commands.renameEnded(u"tags.dat"_s, u"t.dat"_s));
+    QVERIFY(QFile::exists(program.filePath(u"tags.dat"_s)));
+
+    // Whoever wants it can have it, and what isn't the program's goes with the one question.
+    bench.expectYesNo(deleteQuestion, Answer::Yes);
+    bench.expectYesNo(u"Zephira itself needs: tags.dat\r\nDelete it all the same?"_s, Answer::Yes);
+    commands.deleteFiles();
+    QVERIFY(!QFile::exists(program.filePath(u"tags.dat"_s)) && !QFile::exists(program.filePath(u"mine.htm"_s)));
+    show(u"Logon"_s, {u"tags.dat"_s});
+    bench.expectYesNo(deleteQuestion, Answer::Yes);
+    commands.deleteFiles();
+    QVERIFY(!QFile::exists(program.filePath(u"Logon/tags.dat"_s)));
+
+    // Also through a link to the folder.
+    QVERIFY(QFile::link(program.filePath(u"deps"_s), bench.folder.filePath(u"link"_s)));
+    bench.view.path = bench.folder.filePath(u"link"_s);
+    bench.view.names = QStringList{u"csssel.dat"_s};
+    commands.refill();
+    bench.view.list.selection = {u"csssel.dat"_s};
+    bench.expectYesNo(deleteQuestion, Answer::Yes);
+    bench.expectYesNo(u"Zephira itself needs: csssel.dat\r\nDelete it all the same?"_s, Answer::No);
+    commands.deleteFiles();
+    QVERIFY(QFile::exists(program.filePath(u"deps/csssel.dat"_s)));
 }
 
 void TstLocalCommands::deleteWhatIsGone()
