@@ -27,6 +27,10 @@ struct FtpToolKey {
     QStringView key;
     QStringView entry;
     QStringView tip;
+    /// Which side it acts on, which its picture shows.
+    enum class Side { None, Local, Server } side = Side::None;
+    /// Stands beside the picture, or empty.
+    QStringView label = {};
 };
 
 /// The tool bar: two groups, the connection with the local side, and the server's side.

@@ -4,9 +4,45 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
+#include <QStyle>
 #include <QToolBar>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 namespace zephira {
+
+namespace {
+
+/// The picture with a small one of the computer or of the server in its corner.
+QIcon pictureOf(const QIcon &picture, FtpToolKey::Side side, const QToolBar &toolBar)
+{
+    if (side == FtpToolKey::Side::None)
+        return picture;
+    const QIcon emblem =
+        QIcon::fromTheme(side == FtpToolKey::Side::Local ? u"computer"_s : u"network-server"_s,
+                         toolBar.style()->standardIcon(side == FtpToolKey::Side::Local ? QStyle::SP_ComputerIcon
+                                                                                       : QStyle::SP_DriveNetIcon));
+    const QSize size = toolBar.iconSize();
+    const QSize small = size * 3 / 5;
+    QIcon result;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
+        QPixmap both(size * toolBar.devicePixelRatioF());
+        both.setDevicePixelRatio(toolBar.devicePixelRatioF());
+        both.fill(Qt::transparent);
+        QPainter painter(&both);
+        picture.paint(&painter, QRect(QPoint(), size * 4 / 5), Qt::AlignCenter, mode);
+        emblem.paint(&painter,
+                     QRect(QPoint(size.width(), size.height()) - QPoint(small.width(), small.height()), small),
+                     Qt::AlignCenter, mode);
+        painter.end();
+        result.addPixmap(both, mode);
+    }
+    return result;
+}
+
+} // namespace
 
 FtpMenus::FtpMenus(QMenuBar &menuBar, QToolBar &toolBar, QObject *parent) : QObject(parent)
 {
@@ -59,10 +95,14 @@ void FtpMenus::addKeys(QToolBar &toolBar, std::span<const FtpToolKey> keys)
 {
     for (const FtpToolKey &row : keys) {
         QAction &does = entry(row.entry);
-        QAction *key = toolBar.addAction(does.icon(), row.tip.toString());
+        QAction *key = toolBar.addAction(pictureOf(does.icon(), row.side, toolBar),
+                                         row.label.isEmpty() ? row.tip.toString() : row.label.toString());
         key->setObjectName(row.key.toString());
         key->setToolTip(row.tip.toString());
-        toolBar.widgetForAction(key)->setAccessibleName(row.tip.toString());
+        auto *button = qobject_cast<QToolButton *>(toolBar.widgetForAction(key));
+        button->setAccessibleName(row.tip.toString());
+        if (!row.label.isEmpty())
+            button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         connect(key, &QAction::triggered, &does, &QAction::trigger);
     }
 }
