@@ -199,6 +199,11 @@ bool RemoteCommands::sendRename(const QString &oldName, const QString &newName, 
 {
     const FtpSession &session = m_client.session;
     m_desk.log(LogEntry::RenameBegun, {oldName, newName});
+    // The server would move the file to another folder.
+    if (newName.contains(u'/') || newName == u"." || newName == u"..") {
+        fail(asked ? u"Can't fill your request!"_s : u"Can't accomplishe request!"_s, LogEntry::RenameFailed);
+        return false;
+    }
     // Many servers would put the file in the place of the other one without a word.
     if (m_view.files().contains(newName)) {
         fail(u"More files with the same name in one folder? Grrrrr!"_s, LogEntry::RenameError);

@@ -95,6 +95,9 @@ private Q_SLOTS:
     void renameCancelled();
     void renameFails_data();
     void renameFails();
+    void renameToAnotherFolder_data();
+    void renameToAnotherFolder();
+    void renameToANameWithATab();
     void renameToAnotherFile();
     void patterns();
     void patternNotGiven();
@@ -347,9 +350,6 @@ void TstRemoteCommands::removeFolder()
     QCOMPARE(bench.view.selection, (RemoteNode{u"/"_s, u".."_s}));
 }
 
-void TstRemoteCommands::removeFolderNotSure()
-{
-    Bench bench;
 void TstRemoteCommands::removesTheFolderThatWasAskedAbout()
 {
     Bench bench;
@@ -363,6 +363,9 @@ void TstRemoteCommands::removesTheFolderThatWasAskedAbout()
     QCOMPARE(bench.view.selection, (RemoteNode{u"/"_s, u".."_s}));
 }
 
+void TstRemoteCommands::removeFolderNotSure()
+{
+    Bench bench;
     bench.enterPub();
     bench.expectYesNo(u"Are you sure to remove this folder: pub?"_s, Answer::No);
     bench.commands.removeFolder();
@@ -528,6 +531,35 @@ void TstRemoteCommands::renameFails()
     QVERIFY2(bench.commands.renameEnded(u"a.htm"_s, newName), "the edited label stays until the next refresh");
     QCOMPARE(bench.operations.log.size(), 1);
     QVERIFY(bench.desk.logged.endsWith(bench.time + u" > request accomplished with no success at all!\r\n"_s));
+}
+
+void TstRemoteCommands::renameToAnotherFolder_data()
+{
+    QTest::addColumn<QString>("newName");
+    for (const char *name : {"docs/a.htm", "/a.htm", "../a.htm", "..", "."})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TstRemoteCommands::renameToAnotherFolder()
+{
+    QFETCH(QString, newName);
+    Bench bench;
+    bench.enterPub();
+    const bool asked = !newName.endsWith(u".htm");
+    if (asked)
+        bench.expectYesNo(u"Are you sure to exchange the file extension from: \"htm\" to: \"\""_s, Answer::Yes);
+    bench.expectExclamation(asked ? u"Can't fill your request!"_s : u"Can't accomplishe request!"_s);
+    QVERIFY(!bench.commands.renameEnded(u"a.htm"_s, newName));
+    QVERIFY2(bench.operations.log.isEmpty(), "nothing goes to the server");
+    QVERIFY(bench.desk.logged.endsWith(bench.time + u" > request accomplished with no success at all!\r\n"_s));
+}
+
+void TstRemoteCommands::renameToANameWithATab()
+{
+    Bench bench;
+    bench.enterPub();
+    QVERIFY(bench.commands.renameEnded(u"a.htm"_s, u"a\tb.htm"_s));
+    QCOMPARE(bench.operations.log.first(), u"FtpRenameFileA(2, \"/pub/a.htm\", \"/pub/a\tb.htm\")"_s);
 }
 
 void TstRemoteCommands::renameToAnotherFile()
