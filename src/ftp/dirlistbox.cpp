@@ -10,6 +10,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include <utility>
+
 namespace zephira {
 
 namespace {
@@ -103,10 +105,16 @@ void DirListBox::keyPressEvent(QKeyEvent *event)
         QTreeWidget::keyPressEvent(event);
 }
 
+void DirListBox::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_isSecondClick = true;
+    QTreeWidget::mouseDoubleClickEvent(event);
+}
+
 void DirListBox::mouseReleaseEvent(QMouseEvent *event)
 {
     QTreeWidget::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton)
+    if (!std::exchange(m_isSecondClick, false) && event->button() == Qt::LeftButton)
         Q_EMIT listClicked();
 }
 

@@ -24,6 +24,7 @@ public:
 
 Q_SIGNALS:
     void pathChanged(const QString &path);
+    /// The second click of a double click isn't told of: it has moved to a folder by then.
     void listClicked();
     void deletePressed();
 
@@ -31,6 +32,7 @@ protected:
     /// What always stands open needs no marks to open it.
     void drawBranches(QPainter *, const QRect &, const QModelIndex &) const override {}
     void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
@@ -38,6 +40,8 @@ private:
     void openItem(const QTreeWidgetItem *item);
 
     QString m_path;
+    /// From the second press of a double click to its end.
+    bool m_isSecondClick = false;
 };
 
 } // namespace zephira

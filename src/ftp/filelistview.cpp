@@ -78,6 +78,15 @@ public:
         return QStyledItemDelegate::createEditor(parent, option, index);
     }
 
+    /// The Tab key would end the name in the middle, and begin to edit the next one.
+    bool eventFilter(QObject *editor, QEvent *event) override
+    {
+        const bool isTab = event->type() == QEvent::KeyPress
+            && (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Tab
+                || static_cast<QKeyEvent *>(event)->key() == Qt::Key_Backtab);
+        return isTab || QStyledItemDelegate::eventFilter(editor, event);
+    }
+
     void setModelData(QWidget *editor, QAbstractItemModel *, const QModelIndex &index) const override
     {
         m_ended(index, editor->property(editor->metaObject()->userProperty().name()).toString());
@@ -129,7 +138,7 @@ void FileListView::prepare(QAbstractItemView &view)
 {
     view.setSelectionMode(ExtendedSelection);
     view.setSelectionBehavior(SelectRows);
-    view.setEditTriggers(EditKeyPressed);
+    view.setEditTriggers(NoEditTriggers);
     view.setTextElideMode(Qt::ElideMiddle);
     view.installEventFilter(this);
     view.viewport()->installEventFilter(this);
@@ -157,6 +166,10 @@ void FileListView::setView(int view)
     m_icons->setIconSize({layout.iconSize, layout.iconSize});
     m_icons->setGridSize(layout.grid);
     m_icons->setWordWrap(layout.mode == QListView::IconMode);
+    // What wraps grows in one direction alone; a grid's last gap must not ask for a bar in the other.
+    const bool growsDown = layout.flow == QListView::LeftToRight;
+    m_icons->setHorizontalScrollBarPolicy(growsDown ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    m_icons->setVerticalScrollBarPolicy(growsDown ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     applyDragging();
     m_icons->setGeometry(rect());
     m_icons->raise();
@@ -267,9 +280,17 @@ bool FileListView::takeKey(const QWidget &view, const QKeyEvent &key)
     const bool pressed = key.type() == QEvent::KeyPress;
     const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     const bool isDelete = key.key() == Qt::Key_Delete;
-    if (!view.hasFocus() || key.isAutoRepeat() || !(isDelete || (isEnter && pressed)))
+    const bool isRename = key.key() == Qt::Key_F2;
+    if (view.hasFocus() && pressed && key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier) {
+        const QAbstractItemView &shown = shownView();
+        requestPopup(shown.viewport()->mapToGlobal(shown.visualRect(currentIndex()).center()));
+        return true;
+    }
+    if (!view.hasFocus() || key.isAutoRepeat() || !(isDelete || ((isEnter || isRename) && pressed)))
         return false;
-    if (isEnter)
+    if (isRename)
+        Q_EMIT renamePressed();
+    else if (isEnter)
         Q_EMIT opened();
     else if (pressed)
         Q_EMIT deletePressed();

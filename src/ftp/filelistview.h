@@ -45,6 +45,7 @@ Q_SIGNALS:
     void listClicked();
     /// A double click, or Enter.
     void opened();
+    void renamePressed();
     void deletePressed();
     void deleteReleased();
     void popupRequested(const QPoint &place);

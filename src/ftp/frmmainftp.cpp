@@ -185,6 +185,7 @@ void frmmainftp::connectLocalPane()
     });
     connect(list, &FileListView::opened, this, [this] { run(u"zOpenFile"_s); });
     connect(list, &FileListView::deletePressed, this, [this] { run(u"zLokDS"_s); });
+    connect(list, &FileListView::renamePressed, this, [this] { run(u"zLokRS"_s); });
     connect(list, &FileListView::popupRequested, this,
             [this](const QPoint &place) { m_menus->menu(u"zLocal").popup(place); });
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_local->renameStarted(name); });
@@ -208,6 +209,7 @@ void frmmainftp::connectRemotePane()
     FileListView *list = m_ui->ListView2;
     connect(list, &FileListView::listClicked, this, [this] { m_remote->showSummary(); });
     connect(list, &FileListView::deleteReleased, this, [this] { run(u"zRemDS"_s); });
+    connect(list, &FileListView::renamePressed, this, [this] { run(u"zRemRS"_s); });
     connect(list, &FileListView::popupRequested, this,
             [this](const QPoint &place) { m_menus->menu(u"zRemote").popup(place); });
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_remote->renameStarted(name); });
@@ -316,9 +318,9 @@ void frmmainftp::showLog()
 
 void frmmainftp::clearLog()
 {
+    m_comingLog.clear();
     m_ui->txtInfo->clear();
 }
-    m_comingLog.clear();
 
 void frmmainftp::setPanel(int panel, const QString &text)
 {

@@ -3,14 +3,15 @@
 #include "ftp/dirlistbox.h"
 #include "ftp/filelistview.h"
 #include "ftp/filerowsmodel.h"
-#include "ftp/ftpbench.h"
 #include "ftp/ftpdesk.h"
+#include "ftp/ftpwindowbench.h"
 #include "ftp/sessionlog.h"
 #include "support/testregistry.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,9 +19,13 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalSpy>
 #include <QSplitter>
 #include <QTest>
+#include <QTextDocument>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
@@ -28,98 +33,7 @@ using namespace zephira;
 
 namespace {
 
-/// The window over a program folder that holds some files, and a server that has some too.
-struct Bench : FtpBench {
-    std::unique_ptr<LivingForm> form;
-
-    Bench()
-    {
-        write(u"b.htm"_s, QByteArray(1024, 'x'));
-        write(u"A.gif"_s, QByteArray(500, 'x'));
-        write(u"c"_s, QByteArray(30, 'x'));
-        write(u"Logon/old.txt"_s, "old");
-        operations.folders[u"/*.*"_s] = {foundFolder(u"pub"_s), foundFolder(u"home"_s), foundFile(u"z.txt"_s, 1024),
-                                         foundFile(u"a.zip"_s, 2048)};
-        operations.folders[u"/pub/*.*"_s] = {foundFolder(u"docs"_s), foundFile(u"inner.css"_s, 1)};
-    }
-
-    LivingForm &open()
-    {
-        form = std::make_unique<LivingForm>(catalogue, u"frmmainftp"_s, context);
-        return *form;
-    }
-    /// Opens the window with a session that stands, and the root of the server in its tree.
-    LivingForm &openConnected()
-    {
-        open();
-        connectSession();
-        desk().addRemoteRoot();
-        desk().List();
-        operations.log.clear();
-        form->get<QPlainTextEdit>(u"txtInfo"_s).clear();
-        return *form;
-    }
-    FtpDesk &desk() const { return dynamic_cast<FtpDesk &>(form->widget()); }
-    void choose(const QString &entry) const { form->get<QAction>(entry).trigger(); }
-    QString panel(int number) const { return form->value(u"stBar_%1"_s.arg(number)); }
-    QString log() const { return form->get<QPlainTextEdit>(u"txtInfo"_s).toPlainText(); }
-    QTreeWidget &tree() const { return form->get<QTreeWidget>(u"TView1"_s); }
-    FileListView &local() const { return form->get<FileListView>(u"ListView1"_s); }
-    FileListView &remote() const { return form->get<FileListView>(u"ListView2"_s); }
-    DirListBox &folders() const { return form->get<DirListBox>(u"Dir1"_s); }
-    QString here() const { return folder.path() + u'/'; }
-
-    static QStringList names(const FileListView &list)
-    {
-        QStringList result;
-        for (int row = 0; row < list.model()->rowCount(); ++row)
-            result.append(list.model()->index(row, FileRowsModel::Name).data().toString());
-        return result;
-    }
-    static void click(const FileListView &list, int row, Qt::KeyboardModifiers modifiers = {})
-    {
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers,
-                          list.visualRect(list.model()->index(row, FileRowsModel::Name)).center());
-    }
-    static void clickHead(const FileListView &list, int column)
-    {
-        QHeaderView *head = list.header();
-        QTest::mouseClick(
-            head->viewport(), Qt::LeftButton, {},
-            QPoint(head->sectionViewportPosition(column) + head->sectionSize(column) / 2, head->height() / 2));
-    }
-    QTreeWidgetItem *node(const QString &key) const
-    {
-        const QList<QTreeWidgetItem *> all = tree().findItems(u"*"_s, Qt::MatchWildcard | Qt::MatchRecursive);
-        const auto found =
-            std::ranges::find_if(all, [&](QTreeWidgetItem *item) { return item->data(0, KeyRole) == key; });
-        return found == all.end() ? nullptr : *found;
-    }
-    QStringList keys() const
-    {
-        QStringList result;
-        for (const QTreeWidgetItem *item : tree().findItems(u"*"_s, Qt::MatchWildcard | Qt::MatchRecursive))
-            result.append(item->data(0, KeyRole).toString());
-        result.sort();
-        return result;
-    }
-    void clickNode(const QString &key) const
-    {
-        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualItemRect(node(key)).center());
-    }
-    /// Types a new name for the row that is being edited.
-    void typeName(const FileListView &list, const QString &name) const
-    {
-        auto *editor = list.findChild<QLineEdit *>();
-        QVERIFY(editor);
-        editor->setText(name);
-        QTest::keyClick(editor, Qt::Key_Return);
-    }
-    QTreeWidgetItem *localFolder(const QString &name) const
-    {
-        return folders().findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0);
-    }
-};
+using Bench = FtpWindowBench;
 
 QString unhandled(const QString &procedure, const QString &error)
 {
@@ -149,11 +63,6 @@ private Q_SLOTS:
     void removeRemoteFolderWithTheKey();
     void deleteRemoteFileWithTheKey();
     void summaries();
-    void sorting();
-    void sortingSizesAsText();
-    void sortingStays();
-    void views();
-    void popups();
     void renameHere();
     void renameHereCancelled();
     void renameOnTheServer();
@@ -176,9 +85,6 @@ private Q_SLOTS:
     void transferMarks();
     void upload();
     void helpAndAbout();
-    void dragging();
-    void namesAreShownAsTheyAre();
-    void manyEntries();
 };
 
 void TstFrmmainftp::defaults()
@@ -463,97 +369,6 @@ void TstFrmmainftp::summaries()
     QCOMPARE(bench.panel(2), u"Local: 3 Files selected, 1.554 Kb"_s);
     QTest::mouseClick(bench.local().viewport(), Qt::LeftButton, {}, bench.local().viewport()->rect().bottomLeft());
     QCOMPARE(bench.panel(2), u"Local: 0 Files selected, 0 Kb"_s);
-}
-
-void TstFrmmainftp::sorting()
-{
-    Bench bench;
-    bench.open();
-    FileListView &list = bench.local();
-    Bench::click(list, 1);
-    Bench::clickHead(list, FileRowsModel::Name);
-    QCOMPARE(bench.names(list), (QStringList{u"c"_s, u"b.htm"_s, u"A.gif"_s}));
-    QCOMPARE(list.selected().front().name, u"b.htm"_s);
-    Bench::clickHead(list, FileRowsModel::Name);
-    QCOMPARE(bench.names(list), (QStringList{u"A.gif"_s, u"b.htm"_s, u"c"_s}));
-    // Another column turns the order too.
-    Bench::clickHead(list, FileRowsModel::Bytes);
-    QCOMPARE(bench.names(list), (QStringList{u"A.gif"_s, u"c"_s, u"b.htm"_s}));
-    QCOMPARE(list.selected().front().name, u"b.htm"_s);
-}
-
-void TstFrmmainftp::sortingSizesAsText()
-{
-    Bench bench;
-    for (const qint64 size : {9'000, 10'000, 100'000})
-        bench.write(u"size%1"_s.arg(size), QByteArray(size, 'x'));
-    bench.open();
-    Bench::clickHead(bench.local(), FileRowsModel::Size);
-    Bench::clickHead(bench.local(), FileRowsModel::Size);
-    QCOMPARE(bench.names(bench.local()),
-             (QStringList{u"c"_s, u"A.gif"_s, u"b.htm"_s, u"size10000"_s, u"size100000"_s, u"size9000"_s}));
-}
-
-void TstFrmmainftp::sortingStays()
-{
-    Bench bench;
-    bench.open();
-    Bench::clickHead(bench.local(), FileRowsModel::Name);
-    bench.write(u"bb"_s, "x");
-    bench.choose(u"zLokRef"_s);
-    QCOMPARE(bench.names(bench.local()), (QStringList{u"c"_s, u"bb"_s, u"b.htm"_s, u"A.gif"_s}));
-}
-
-void TstFrmmainftp::views()
-{
-    Bench bench;
-    bench.openConnected();
-    const QStringList views{u"BigIc"_s, u"SmallIc"_s, u"Seznam"_s, u"Report"_s};
-    for (const auto &[prefix, list] : {std::pair(u"zt"_s, &bench.local()), std::pair(u"zs"_s, &bench.remote())}) {
-        auto *icons = list->findChild<QListView *>();
-        QVERIFY(icons);
-        for (int view = 0; view < views.size(); ++view) {
-            bench.choose(prefix + views[view]);
-            QCOMPARE(list->property("View").toInt(), view);
-            QCOMPARE(icons->isVisible(), view != FileListView::Report);
-            // A name has its whole cell, however short the first one is.
-            if (view != FileListView::Report)
-                QVERIFY(icons->visualRect(icons->model()->index(1, 0)).width() * 10 > icons->gridSize().width() * 9);
-        }
-        // The icons show the same rows, and what is clicked in them counts.
-        bench.choose(prefix + views[0]);
-        QCOMPARE(icons->size(), list->size());
-        QTest::mouseClick(icons->viewport(), Qt::LeftButton, {},
-                          icons->visualRect(icons->model()->index(1, 0)).center());
-        QCOMPARE(list->selected().size(), std::size_t(1));
-        QVERIFY(bench.panel(2).contains(u" 1 Files selected, "_s));
-        list->setProperty("View", 99);
-        QCOMPARE(list->property("View").toInt(), int(FileListView::Report));
-    }
-}
-
-void TstFrmmainftp::popups()
-{
-    Bench bench;
-    bench.openConnected();
-    for (const auto &[list, name] :
-         {std::pair(&bench.local(), u"zLocal"_s), std::pair(&bench.remote(), u"zRemote"_s)}) {
-        QMenu &menu = bench.form->get<QMenu>(name);
-        const QPoint place = list->visualRect(list->model()->index(1, 0)).center();
-        QTest::mousePress(list->viewport(), Qt::RightButton, {}, place);
-        QTRY_VERIFY(menu.isVisible());
-        QCOMPARE(list->selected().size(), std::size_t(1));
-        menu.close();
-        QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, place);
-        QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(5, 5), list->mapToGlobal(QPoint(5, 5)));
-        QCoreApplication::sendEvent(list->viewport(), &key);
-        QTRY_VERIFY(menu.isVisible());
-        menu.close();
-        QContextMenuEvent mouse(QContextMenuEvent::Mouse, QPoint(5, 5), list->mapToGlobal(QPoint(5, 5)));
-        QCoreApplication::sendEvent(list->viewport(), &mouse);
-        QCoreApplication::processEvents();
-        QVERIFY2(!menu.isVisible(), "the press has opened it already");
-    }
 }
 
 void TstFrmmainftp::renameHere()
@@ -935,52 +750,6 @@ void TstFrmmainftp::helpAndAbout()
     bench.world.prompts.verify();
     QMetaObject::invokeMethod(&bench.form->widget(), "About");
     QCOMPARE(bench.world.forms.modal, QStringList{u"frmAbout"_s});
-}
-
-void TstFrmmainftp::dragging()
-{
-    Bench bench;
-    bench.open();
-    for (const int view : {FileListView::Report, FileListView::LargeIcons, FileListView::List}) {
-        bench.local().setView(view);
-        QCOMPARE(bench.local().dragDropMode(), QAbstractItemView::DragOnly);
-        QCOMPARE(bench.local().findChild<QListView *>()->dragDropMode(), QAbstractItemView::DragOnly);
-    }
-    QCOMPARE(bench.remote().dragDropMode(), QAbstractItemView::NoDragDrop);
-    const std::unique_ptr<QMimeData> dragged(bench.local().model()->mimeData({bench.local().model()->index(0, 0)}));
-    QVERIFY(!dragged->hasText());
-    QVERIFY(!dragged->hasUrls());
-}
-
-void TstFrmmainftp::namesAreShownAsTheyAre()
-{
-    Bench bench;
-    bench.operations.folders[u"/*.*"_s] = {foundFile(u"<b>x.htm"_s, 1), foundFile(u"../up"_s, 1)};
-    bench.openConnected();
-    QCOMPARE(bench.names(bench.remote()), QStringList{u"<b>x.htm"_s});
-    for (const QString &name : {u"Label1"_s, u"Label3"_s, u"stBar_1"_s, u"stBar_2"_s, u"stBar_3"_s})
-        QCOMPARE(bench.form->get<QLabel>(name).textFormat(), Qt::PlainText);
-}
-
-void TstFrmmainftp::manyEntries()
-{
-    constexpr int count = 10000;
-    Bench bench;
-    std::deque<FindData> entries;
-    for (int i = 0; i < count; ++i) {
-        entries.push_back(foundFile(u"file%1.html"_s.arg(i), quint64(i)));
-        entries.push_back(foundFolder(u"folder%1"_s.arg(i)));
-    }
-    bench.operations.folders[u"/*.*"_s] = std::move(entries);
-    bench.openConnected();
-    QCOMPARE(bench.remote().count(), count);
-    QCOMPARE(bench.node(u"/"_s)->childCount(), count);
-    bench.remote().selectAll();
-    QCOMPARE(bench.remote().selected().size(), std::size_t(count));
-    Bench::clickHead(bench.remote(), FileRowsModel::Name);
-    QCOMPARE(bench.names(bench.remote()).first(), u"file9999.html"_s);
-    bench.remote().setView(FileListView::LargeIcons);
-    QCOMPARE(bench.remote().selected().size(), std::size_t(count));
 }
 
 ZEPHIRA_TEST(TstFrmmainftp)
