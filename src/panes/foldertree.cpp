@@ -10,6 +10,8 @@
 #include <QStandardPaths>
 #include <QTreeWidgetItemIterator>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -106,6 +108,7 @@ FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent), m_watch(this)
     setIndentation(stepOfDepth);
     connect(this, &QTreeWidget::itemExpanded, this, &FolderTree::read);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *item) {
+        m_vanished.clear();
         if (item)
             Q_EMIT folderSelected(pathOf(item));
     });
@@ -123,6 +126,7 @@ void FolderTree::showWholeComputer()
     static constexpr Place places[] = {
         {u"Desktop", u"user-desktop", QStandardPaths::DesktopLocation},
         {u"My Documents", u"folder-documents", QStandardPaths::DocumentsLocation},
+        {u"Home", u"user-home", QStandardPaths::HomeLocation},
     };
     for (const Place &place : places) {
         const QString folder = QStandardPaths::writableLocation(place.location);
@@ -137,6 +141,12 @@ void FolderTree::showWholeComputer()
 
 void FolderTree::setRootFolder(const QString &folder)
 {
+    setRootFolder(folder, QDir::toNativeSeparators(folder.isEmpty() ? folder : QDir::cleanPath(folder)));
+}
+
+void FolderTree::setRootFolder(const QString &folder, const QString &caption)
+{
+    m_vanished.clear();
     const QSignalBlocker quiet(this);
     clear();
     m_watch.clear();
@@ -145,7 +155,7 @@ void FolderTree::setRootFolder(const QString &folder)
         showWholeComputer();
         return;
     }
-    m_start = makeFolder(m_root, QDir::toNativeSeparators(m_root));
+    m_start = makeFolder(m_root, caption);
     addTopLevelItem(m_start);
     read(m_start);
     m_start->setExpanded(true);
@@ -181,6 +191,7 @@ void FolderTree::setSelectedFolder(const QString &folder)
     if (!item)
         return;
     const QSignalBlocker quiet(this);
+    m_vanished.clear();
     setCurrentItem(item);
     scrollToItem(item, QAbstractItemView::PositionAtCenter);
 }
@@ -201,8 +212,20 @@ void FolderTree::follow(QTreeWidgetItem *item)
         QDir(pathOf(item)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     removeVanished(item, QSet<QString>(names.begin(), names.end()));
     addNew(item, names);
+    selectAgain(item);
     item->setChildIndicatorPolicy(item->childCount() > 0 ? QTreeWidgetItem::ShowIndicator
                                                          : QTreeWidgetItem::DontShowIndicatorWhenChildless);
+}
+
+/// A folder that was selected, deleted and made again, as many tools do with what they build, is selected again.
+void FolderTree::selectAgain(const QTreeWidgetItem *item)
+{
+    if (m_vanished.isEmpty() || currentItem() != item || !QDir(m_vanished).exists())
+        return;
+    const QString folder = std::exchange(m_vanished, {});
+    setSelectedFolder(folder);
+    if (currentItem() != item)
+        Q_EMIT folderSelected(selectedFolder());
 }
 
 void FolderTree::removeVanished(QTreeWidgetItem *item, const QSet<QString> &names)
@@ -216,8 +239,12 @@ void FolderTree::removeVanished(QTreeWidgetItem *item, const QSet<QString> &name
                 read(child);
             continue;
         }
-        if (isSameOrBelow(currentItem(), child))
+        if (isSameOrBelow(currentItem(), child)) {
+            const QString vanished = pathOf(currentItem());
             setCurrentItem(item);
+            m_vanished = vanished;
+        }
+        m_watch.forget(watchedPathOf(child));
         delete child;
     }
 }

@@ -9,7 +9,7 @@ namespace zephira {
 
 /// A tree of folders with a root and a selection. A folder's children are read when it is opened, so that links which lead
 /// in circles do no harm, and follow the disk from then on. While the root is the whole computer, it stands below
-/// "My Computer", and "Desktop" and "My Documents", the desktop's own folders, above it.
+/// "My Computer", and "Desktop", "My Documents" and "Home", the user's own folders, above it.
 class FolderTree : public QTreeWidget
 {
     Q_OBJECT
@@ -23,8 +23,10 @@ public:
     /// Makes the folder the only root, opens it and selects it; an empty path gives the whole computer, with nothing
     /// selected. Emits nothing.
     void setRootFolder(const QString &folder);
+    /// The same under a name of its own.
+    void setRootFolder(const QString &folder, const QString &caption);
 
-    /// Full path of the selected folder. Those of "Desktop" and "My Documents" end in a separator, others, except for the
+    /// Full path of the selected folder. Those of "Desktop", "My Documents" and "Home" end in a separator, others, except for the
     /// root of all folders, don't. Empty when nothing is selected, and for "My Computer", which is no folder.
     QString selectedFolder() const;
     /// Opens the tree down to the folder and selects it. A path that isn't full, isn't below the root or isn't there is
@@ -46,7 +48,11 @@ private:
     void removeVanished(QTreeWidgetItem *item, const QSet<QString> &names);
     void followChanged(const QSet<QString> &folders);
 
+    void selectAgain(const QTreeWidgetItem *item);
+
     QString m_root;
+    /// The selected folder that vanished, while nothing else has been selected but the one that took over.
+    QString m_vanished;
     /// The item that every other folder lies below.
     QTreeWidgetItem *m_start = nullptr;
     FolderWatch m_watch;

@@ -91,13 +91,55 @@ private Q_SLOTS:
         QCOMPARE(bench.listed(), QStringList{u"m.txt"_s});
         // "My Computer" leaves the list showing the files of the previous path.
         bench.places.makeFile(u"Documents/n.txt"_s);
-        bench.tree.setCurrentItem(bench.tree.topLevelItem(2));
+        bench.tree.setCurrentItem(bench.tree.topLevelItem(3));
         QCOMPARE(bench.path(), bench.places.path(u"Documents"_s) + u'/');
         QCOMPARE(bench.listed(), (QStringList{u"m.txt"_s, u"n.txt"_s}));
     }
 
     void aFolderThatIsCalledDesktopIsItself()
     {
+    void picturesLookLikePictures()
+    {
+        QIcon::setThemeSearchPaths(QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, u"icons"_s,
+                                                             QStandardPaths::LocateDirectory));
+        QIcon::setThemeName(u"breeze"_s);
+        Bench bench(u"*.*"_s);
+        for (const QString &name : {u"site/a.txt"_s, u"site/b.PNG"_s, u"site/c.webp"_s, u"site/png"_s})
+            bench.places.makeFile(name);
+        bench.pane.showFolder(bench.places.path(u"site"_s));
+        const auto pixels = [&](int row) { return bench.list.item(row)->icon().pixmap(16).toImage(); };
+        QVERIFY(pixels(1) != pixels(0));
+        QCOMPARE(pixels(2), pixels(1));
+        QCOMPARE(pixels(3), pixels(0));
+    }
+
+    void theMenuKeys()
+    {
+        Bench bench;
+        bench.places.makeFile(u"site/a.txt"_s);
+        bench.pane.show();
+        bench.pane.showFolder(bench.places.path(u"site"_s));
+        const QSignalSpy wanted(&bench.pane, &FilePane::menuWanted);
+        QTest::keyClick(&bench.list, Qt::Key_F10, Qt::ShiftModifier);
+        QCOMPARE(wanted.size(), 1);
+        QVERIFY(bench.list.rect().contains(bench.list.mapFromGlobal(wanted.first().first().toPoint())));
+        QTest::keyClick(&bench.list, Qt::Key_F10);
+        QCOMPARE(wanted.size(), 1);
+    }
+
+    void aListedFolderThatIsMadeAgainIsFollowedAgain()
+    {
+        Bench bench;
+        bench.places.makeFile(u"site/a.txt"_s);
+        bench.pane.setRootSelect(true);
+        bench.pane.showFolder(bench.places.path(u"site"_s));
+        QVERIFY(QDir(bench.places.path(u"site"_s)).removeRecursively());
+        QTRY_COMPARE_WITH_TIMEOUT(bench.listed(), QStringList(), patience);
+        QTest::qWait(1000);
+        bench.places.makeFile(u"site/b.txt"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(bench.listed(), QStringList{u"b.txt"_s}, patience);
+    }
+
         Bench bench;
         bench.places.makeFile(u"project/Desktop/p.txt"_s);
         bench.pane.showFolder(bench.places.path(u"project/Desktop"_s));

@@ -3,6 +3,7 @@
 #include "panes/placefolders.h"
 #include "support/testregistry.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -47,17 +48,57 @@ private Q_SLOTS:
     {
         FolderTree tree;
         QCOMPARE(childrenOf(tree.invisibleRootItem()),
-                 (QStringList{u"Desktop"_s, u"My Documents"_s, u"My Computer"_s}));
-        QCOMPARE(childrenOf(tree.topLevelItem(2)), QStringList{u"/"_s});
+                 (QStringList{u"Desktop"_s, u"My Documents"_s, u"Home"_s, u"My Computer"_s}));
+        QCOMPARE(childrenOf(tree.topLevelItem(3)), QStringList{u"/"_s});
         QCOMPARE(tree.selectedFolder(), QString());
         tree.setCurrentItem(tree.topLevelItem(0));
         QCOMPARE(tree.selectedFolder(), m_places->path(u"Desktop"_s) + u'/');
         tree.setCurrentItem(tree.topLevelItem(1));
         QCOMPARE(tree.selectedFolder(), m_places->path(u"Documents"_s) + u'/');
         tree.setCurrentItem(tree.topLevelItem(2));
+        QCOMPARE(tree.selectedFolder(), m_places->path() + u'/');
+        tree.setCurrentItem(tree.topLevelItem(3));
         QCOMPARE(tree.selectedFolder(), QString());
-        tree.setCurrentItem(tree.topLevelItem(2)->child(0));
+        tree.setCurrentItem(tree.topLevelItem(3)->child(0));
         QCOMPARE(tree.selectedFolder(), u"/"_s);
+    }
+
+    void aFolderThatIsMadeAgainIsSelectedAgain()
+    {
+        m_places->makeFolder(u"root/a/b"_s);
+        FolderTree tree;
+        tree.setRootFolder(m_places->path(u"root"_s));
+        tree.setCurrentItem(child(rootItem(tree), u"a"_s));
+        QVERIFY(QDir(m_places->path(u"root/a"_s)).removeRecursively());
+        QTRY_COMPARE_WITH_TIMEOUT(tree.selectedFolder(), m_places->path(u"root"_s), patience);
+        QTest::qWait(1000);
+        const QSignalSpy selected(&tree, &FolderTree::folderSelected);
+        m_places->makeFolder(u"root/a/c"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(tree.selectedFolder(), m_places->path(u"root/a"_s), patience);
+        QCOMPARE(selected.last(), QVariantList{m_places->path(u"root/a"_s)});
+        // Whoever has gone elsewhere meanwhile stays there.
+        QVERIFY(QDir(m_places->path(u"root/a"_s)).removeRecursively());
+        QTRY_COMPARE_WITH_TIMEOUT(tree.selectedFolder(), m_places->path(u"root"_s), patience);
+        m_places->makeFolder(u"root/z"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(child(rootItem(tree), u"z"_s), patience);
+        tree.setCurrentItem(child(rootItem(tree), u"z"_s));
+        m_places->makeFolder(u"root/a"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(child(rootItem(tree), u"a"_s), patience);
+        QCOMPARE(tree.selectedFolder(), m_places->path(u"root/z"_s));
+    }
+
+    void aRootThatIsMadeAgainIsFollowedAgain()
+    {
+        m_places->makeFolder(u"root/a"_s);
+        FolderTree tree;
+        tree.setRootFolder(m_places->path(u"root"_s));
+        QVERIFY(QDir(m_places->path(u"root"_s)).removeRecursively());
+        QTRY_COMPARE_WITH_TIMEOUT(childrenOf(rootItem(tree)), QStringList(), patience);
+        QTest::qWait(1000);
+        m_places->makeFolder(u"root/b"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(childrenOf(rootItem(tree)), QStringList{u"b"_s}, patience);
+        m_places->makeFolder(u"root/c"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(childrenOf(rootItem(tree)), (QStringList{u"b"_s, u"c"_s}), patience);
     }
 
     void foldersBelowTheDesktop()
@@ -124,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(rootItem(tree)->isExpanded());
         QCOMPARE(childrenOf(rootItem(tree)), QStringList{u"b"_s});
         tree.setRootFolder({});
-        QCOMPARE(tree.topLevelItemCount(), 3);
+        QCOMPARE(tree.topLevelItemCount(), 4);
         QCOMPARE(tree.selectedFolder(), QString());
     }
 
