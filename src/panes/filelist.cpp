@@ -5,6 +5,9 @@
 
 #include <QContextMenuEvent>
 #include <QIcon>
+#include <QKeyEvent>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +16,15 @@ namespace zephira {
 namespace {
 
 constexpr int pictureSize = 16;
+
+constexpr QStringView pictureEndings[] = {u".gif", u".jpg",  u".jpeg", u".png", u".bmp",
+                                          u".svg", u".webp", u".avif", u".ico"};
+
+bool isPicture(const QString &name)
+{
+    return std::ranges::any_of(pictureEndings,
+                               [&](QStringView ending) { return name.endsWith(ending, Qt::CaseInsensitive); });
+}
 
 } // namespace
 
@@ -29,9 +41,10 @@ void FileList::setNames(const QStringList &names)
     addItems(names);
     // Told one by one, ten thousand pictures would take longer than everything else; nothing has been painted yet.
     const QSignalBlocker quiet(model());
-    const QIcon picture = QIcon::fromTheme(u"text-x-generic"_s);
+    const QIcon text = QIcon::fromTheme(u"text-x-generic"_s);
+    const QIcon picture = QIcon::fromTheme(u"image-x-generic"_s);
     for (int row = 0; row < count(); ++row)
-        item(row)->setIcon(picture);
+        item(row)->setIcon(isPicture(names[row]) ? picture : text);
 }
 
 QStringList FileList::names() const
@@ -47,6 +60,15 @@ void FileList::mouseReleaseEvent(QMouseEvent *event)
     QListWidget::mouseReleaseEvent(event);
     if (event->button() == Qt::RightButton && viewport()->rect().contains(event->position().toPoint()))
         Q_EMIT menuWanted(event->globalPosition().toPoint());
+}
+
+void FileList::keyPressEvent(QKeyEvent *event)
+{
+    // The other menu key, which nobody turns into a request for a menu here.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        Q_EMIT menuWanted(viewport()->mapToGlobal(visualItemRect(currentItem()).center()));
+    else
+        QListWidget::keyPressEvent(event);
 }
 
 void FileList::contextMenuEvent(QContextMenuEvent *event)

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// The visible list of a folder's files: one column of names, each with the same small picture.
+/// The visible list of a folder's files: one column of names, each with a small picture of its kind.
 class FileList : public QListWidget
 {
     Q_OBJECT
@@ -26,6 +26,7 @@ Q_SIGNALS:
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 };
 
 } // namespace zephira

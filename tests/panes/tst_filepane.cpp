@@ -8,8 +8,10 @@
 #include "widgets/drivebox.h"
 #include "widgets/drives.h"
 
+#include <QDir>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
 #include <QToolButton>
 
@@ -96,8 +98,6 @@ private Q_SLOTS:
         QCOMPARE(bench.listed(), (QStringList{u"m.txt"_s, u"n.txt"_s}));
     }
 
-    void aFolderThatIsCalledDesktopIsItself()
-    {
     void picturesLookLikePictures()
     {
         QIcon::setThemeSearchPaths(QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, u"icons"_s,
@@ -140,6 +140,8 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(bench.listed(), QStringList{u"b.txt"_s}, patience);
     }
 
+    void aFolderThatIsCalledDesktopIsItself()
+    {
         Bench bench;
         bench.places.makeFile(u"project/Desktop/p.txt"_s);
         bench.pane.showFolder(bench.places.path(u"project/Desktop"_s));
