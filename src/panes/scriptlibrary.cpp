@@ -49,7 +49,7 @@ ScriptLibrary::ScriptLibrary(const AppContext &context, QWidget *parent)
 
 void ScriptLibrary::setRootFolder(const QString &folder)
 {
-    m_folders->setRootFolder(folder);
+    m_folders->setRootFolder(folder, u"Scripts"_s);
     listFolder(m_folders->selectedFolder());
 }
 

@@ -63,6 +63,13 @@ class TstScriptLibrary : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theRootHasAName()
+    {
+        const LibraryBench bench;
+        QCOMPARE(bench.folders().topLevelItem(0)->text(0), u"Scripts"_s);
+        QCOMPARE(bench.folders().topLevelItem(0)->toolTip(0), QDir::toNativeSeparators(bench.folder.path()));
+    }
+
     void theRootsScriptsShowWithoutTheirEnding()
     {
         const LibraryBench bench;
