@@ -8,6 +8,7 @@
 #include "panes/ihtmltaglist.h"
 #include "panes/scriptlibrary.h"
 #include "panes/sidepane.h"
+#include "panes/sidetabbar.h"
 #include "tags/tagtree.h"
 
 #include <QMenu>
@@ -33,6 +34,10 @@ SideLists::SideLists(const AppContext &context, const Menus &menus, SidePane &pa
         pane.setPage(list->objectName(), list, SidePane::Fill::AfterShowing,
                      [custom = m_custom, tab] { custom->load(tab); });
     }
+    pane.tabs()->titleOf = [custom = m_custom](const QString &key) {
+        const bool isCustom = key.size() == 2 && key.startsWith(u'c') && key.back().isDigit();
+        return isCustom ? custom->title(key.back().digitValue()) : QString();
+    };
 }
 
 } // namespace zephira

@@ -4,10 +4,12 @@
 #include "core/appcontext.h"
 #include "core/configuration.h"
 #include "core/errorstyles.h"
+#include "core/filestore.h"
 #include "core/itemroles.h"
 #include "core/pasteitem.h"
 #include "core/prompts.h"
 #include "files/filenumber.h"
+#include "files/textfile.h"
 #include "panes/customtabfile.h"
 #include "widgets/itemchoice.h"
 
@@ -24,6 +26,8 @@ namespace {
 
 /// In characters. A header is measured whole, and that of a file that is no snippet file may be of any length.
 constexpr qsizetype longestHeader = 1000;
+/// In a tip.
+constexpr qsizetype longestTitle = 100;
 
 } // namespace
 
@@ -84,6 +88,15 @@ void CustomTabs::openMenu(int tab, const QPoint &position)
 QString CustomTabs::filePath(int tab) const
 {
     return m_context.appPath + u"/ctabs/"_s + m_context.configuration.value(customTabSetting(tab));
+}
+
+QString CustomTabs::title(int tab) const
+{
+    Result<QByteArray> bytes = m_context.files.read(filePath(tab));
+    if (!bytes)
+        return {};
+    const QString text = QString::fromUtf8(decodeText(std::move(bytes).value()).utf8);
+    return text.left(text.indexOf(u'\n')).left(longestTitle).trimmed();
 }
 
 void CustomTabs::load(int tab)

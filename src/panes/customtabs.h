@@ -29,6 +29,8 @@ public:
     /// The list of tab 1 to 6.
     QTreeWidget *list(int tab) const { return m_lists[static_cast<std::size_t>(tab - 1)]; }
 
+    /// The header of the file of tab 1 to 6, as it stands there now; empty where it can't be read.
+    QString title(int tab) const;
     /// Reads tab 1 to 6 from the file that the settings name for it.
     void load(int tab);
     /// Fills a list from a file, whose lines stand in `lineBuffer` meanwhile. Where the file can't be read or is empty,

@@ -4,6 +4,7 @@
 #include "panes/droppedfile.h"
 
 #include <QDropEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QStyleOptionTab>
 #include <QStylePainter>
@@ -25,6 +26,17 @@ SideTabBar::SideTabBar(QWidget *parent) : QTabBar(parent)
     setExpanding(false);
     setUsesScrollButtons(true);
     setAcceptDrops(true);
+}
+
+/// A title is only asked for when somebody wants to see it, because it may stand in a file.
+bool SideTabBar::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && titleOf) {
+        const int tab = tabAt(static_cast<QHelpEvent *>(event)->pos());
+        if (const QString title = titleOf(tabData(tab).toString()); !title.isEmpty())
+            setTabToolTip(tab, title);
+    }
+    return QTabBar::event(event);
 }
 
 QSize SideTabBar::tabSizeHint(int) const

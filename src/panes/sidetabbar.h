@@ -3,6 +3,8 @@
 
 #include <QTabBar>
 
+#include <functional>
+
 namespace zephira {
 
 /// A strip of upright picture tabs along the left edge. A tab's caption is not painted but read by assistive technology and
@@ -14,6 +16,9 @@ class SideTabBar : public QTabBar
 public:
     explicit SideTabBar(QWidget *parent = nullptr);
 
+    /// Gives the title of a page by its tab's key, as the tab's tip is to show it; empty where the tip is right already.
+    std::function<QString(const QString &key)> titleOf;
+
 Q_SIGNALS:
     /// A click on the tab that was selected already; a click on another one is a change of the tab.
     void clickedAgain(int index);
@@ -21,6 +26,7 @@ Q_SIGNALS:
     void fileDropped(const QString &path);
 
 protected:
+    bool event(QEvent *event) override;
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
     void paintEvent(QPaintEvent *event) override;

@@ -67,6 +67,13 @@ class TstCustomTabs : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theTitleIsTheFilesHeader()
+    {
+        const CustomTabsBench bench;
+        QCOMPARE(bench.tabs.title(1), u"Props"_s);
+        QCOMPARE(bench.tabs.title(2), QString());
+    }
+
     void namesAndColumns()
     {
         const CustomTabsBench bench;

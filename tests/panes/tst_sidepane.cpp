@@ -5,6 +5,7 @@
 #include "support/testregistry.h"
 
 #include <QDropEvent>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -71,6 +72,21 @@ class TstSidePane : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void tipsShowTheTitleOfThePage()
+    {
+        const Bench bench;
+        SideTabBar &tabs = *bench.pane.tabs();
+        tabs.setTabToolTip(0, u"Plain things"_s);
+        tabs.titleOf = [](const QString &key) { return key == u"custom" ? u"CSS properties"_s : QString(); };
+        for (const int tab : {0, 3}) {
+            const QPoint place = tabs.tabRect(tab).center();
+            QHelpEvent event(QEvent::ToolTip, place, tabs.mapToGlobal(place));
+            QCoreApplication::sendEvent(&tabs, &event);
+        }
+        QCOMPARE(tabs.tabToolTip(0), u"Plain things"_s);
+        QCOMPARE(tabs.tabToolTip(3), u"CSS properties"_s);
+    }
+
     void theFirstPageShowsAtOnce()
     {
         Bench bench;
