@@ -30,10 +30,13 @@
 #include "start/registerforms.h"
 #include "tags/registerforms.h"
 #include "views/registerforms.h"
+#include "widgets/keptpictures.h"
 #include "wizards/registerforms.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QPointer>
+#include <QScopeGuard>
 #include <QSessionManager>
 #include <QStandardPaths>
 
@@ -69,13 +72,28 @@ QString recoveryFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Zephira/recovery"_s;
 }
 
+/// Where the pictures of icons are kept from one run to the next.
+QString iconFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + u"/zephira/icons"_s;
+}
+
 } // namespace
 
 int runProgram(QApplication &application, const QString &argument)
 {
-    QApplication::setStyle(new IconStates);
+    DiskFileStore files;
+    KeptPictures pictures(files, iconFile(), QCoreApplication::applicationFilePath());
+    // The style takes leave later than the pictures.
+    const QPointer<IconStates> style = new IconStates;
+    style->setPictures(&pictures);
+    const auto takeBack = qScopeGuard([style] {
+        if (style)
+            style->setPictures(nullptr);
+    });
+    QApplication::setStyle(style);
     const IconTheme theme(application);
-    QApplication::setWindowIcon(QIcon(u":/zephira.svg"_s));
+    QApplication::setWindowIcon(keptIcon(u"zephira"_s, [] { return QIcon(u":/zephira.svg"_s); }));
 
     const Result<QString> appPath = prepareAppPath(QCoreApplication::applicationDirPath(), installedData(), dataHome());
     if (!appPath)
@@ -83,7 +101,6 @@ int runProgram(QApplication &application, const QString &argument)
 
     const QString iniFile = appPath.value() + u"/zephira.ini"_s;
     SystemClock clock;
-    DiskFileStore files;
     RecoveryCopies recovery(recoveryFolder(), files, clock);
     IniConfiguration configuration(iniFile);
     DesktopUserSettings userSettings;

@@ -2,6 +2,7 @@
 #include "commands/icons.h"
 
 #include "commands/glyphs.h"
+#include "widgets/themeicon.h"
 
 #include <QAction>
 #include <QEvent>
@@ -17,7 +18,7 @@ QIcon iconFor(QStringView icon)
 {
     if (icon.isEmpty() || icon.startsWith(u':'))
         return {};
-    return icon.startsWith(u'#') ? shapeGlyph(icon.mid(1)) : QIcon::fromTheme(icon.toString());
+    return icon.startsWith(u'#') ? shapeGlyph(icon.mid(1)) : themeIcon(icon.toString());
 }
 
 void setCommandIcon(QAction *action, QStringView icon)

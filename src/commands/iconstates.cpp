@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/iconstates.h"
 
+#include "widgets/themeicon.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -87,6 +89,24 @@ QPixmap IconStates::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
     default:
         return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
     }
+}
+
+int IconStates::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                          QStyleHintReturn *answer) const
+{
+    if (hint != IconPicturesHint::question)
+        return QProxyStyle::styleHint(hint, option, widget, answer);
+    static_cast<IconPicturesHint *>(answer)->pictures = m_pictures;
+    return m_pictures != nullptr;
+}
+
+QIcon IconStates::standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const
+{
+    // Every bar of menus asks for this one as it is made, and shows it only where it is too narrow.
+    if (icon == SP_ToolBarHorizontalExtensionButton) {
+        return keptIcon(QStringLiteral("toolbar-extension"), [this, icon] { return QProxyStyle::standardIcon(icon); });
+    }
+    return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 } // namespace zephira

@@ -2,6 +2,7 @@
 #include "panes/filelist.h"
 
 #include "widgets/itemchoice.h"
+#include "widgets/themeicon.h"
 
 #include <QContextMenuEvent>
 #include <QIcon>
@@ -41,8 +42,8 @@ void FileList::setNames(const QStringList &names)
     addItems(names);
     // Told one by one, ten thousand pictures would take longer than everything else; nothing has been painted yet.
     const QSignalBlocker quiet(model());
-    const QIcon text = QIcon::fromTheme(u"text-x-generic"_s);
-    const QIcon picture = QIcon::fromTheme(u"image-x-generic"_s);
+    const QIcon text = themeIcon(u"text-x-generic"_s);
+    const QIcon picture = themeIcon(u"image-x-generic"_s);
     for (int row = 0; row < count(); ++row)
         item(row)->setIcon(isPicture(names[row]) ? picture : text);
 }

@@ -2,6 +2,7 @@
 #include "panes/foldertree.h"
 
 #include "core/paths.h"
+#include "widgets/themeicon.h"
 
 #include <QDir>
 #include <QIcon>
@@ -44,7 +45,7 @@ bool isRead(const QTreeWidgetItem *item)
 QTreeWidgetItem *makeItem(const QString &path, const QString &caption, QStringView icon)
 {
     auto *item = new QTreeWidgetItem(QStringList(caption));
-    item->setIcon(0, QIcon::fromTheme(icon.toString()));
+    item->setIcon(0, themeIcon(icon.toString()));
     item->setToolTip(0, QDir::toNativeSeparators(path));
     item->setData(0, PathRole, path);
     // Whether there are folders inside is only known once it is read.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/outlinemodel.h"
 
+#include "widgets/themeicon.h"
+
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -158,7 +160,7 @@ const QIcon &OutlineModel::icon(OutlinePicture picture) const
 {
     const auto number = static_cast<std::size_t>(picture);
     if (m_icons[number].isNull())
-        m_icons[number] = QIcon::fromTheme(iconNames[number].toString());
+        m_icons[number] = themeIcon(iconNames[number].toString());
     return m_icons[number];
 }
 

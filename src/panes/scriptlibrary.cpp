@@ -11,6 +11,7 @@
 #include "panes/foldertree.h"
 #include "widgets/filelistbox.h"
 #include "widgets/itemchoice.h"
+#include "widgets/themeicon.h"
 
 #include <QListWidget>
 #include <QSplitter>
@@ -58,7 +59,7 @@ void ScriptLibrary::listFolder(const QString &folder)
     constexpr int endingLength = 4;
     m_files->setPath(folder);
     m_scripts->clear();
-    const QIcon picture = QIcon::fromTheme(u"dialog-scripts"_s);
+    const QIcon picture = themeIcon(u"dialog-scripts"_s);
     for (const QString &name : m_files->entries()) {
         auto *item = new QListWidgetItem(picture, name.chopped(endingLength), m_scripts);
         item->setData(KeyRole, name);

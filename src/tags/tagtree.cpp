@@ -8,6 +8,7 @@
 #include "tags/builtintags.h"
 #include "tags/tagfile.h"
 #include "widgets/itemchoice.h"
+#include "widgets/themeicon.h"
 
 #include <QIcon>
 
@@ -40,8 +41,8 @@ Result<void> TagTree::LoadTagTree()
     const Result<QStringList> lines = readLines(m_context.files, m_context.appPath + u"/tags.dat"_s);
     if (!lines)
         return lines.error();
-    const QIcon tagPicture = QIcon::fromTheme(u"tag"_s);
-    const QIcon attributePicture = QIcon::fromTheme(u"code-variable"_s);
+    const QIcon tagPicture = themeIcon(u"tag"_s);
+    const QIcon attributePicture = themeIcon(u"code-variable"_s);
     QList<QTreeWidgetItem *> nodes;
     for (const QString &caption : tagCaptions(lines.value()))
         nodes.append(node(caption, tagPicture));

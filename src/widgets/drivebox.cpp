@@ -2,6 +2,7 @@
 #include "widgets/drivebox.h"
 
 #include "widgets/drives.h"
+#include "widgets/themeicon.h"
 
 #include <QIcon>
 #include <QSignalBlocker>
@@ -21,7 +22,7 @@ void DriveBox::refill()
 {
     const QSignalBlocker quiet(this);
     const QString current = currentText();
-    const QIcon picture = QIcon::fromTheme(u"drive-harddisk"_s);
+    const QIcon picture = themeIcon(u"drive-harddisk"_s);
     clear();
     for (const QString &drive : mountedDrives())
         addItem(picture, drive);
