@@ -201,6 +201,13 @@ def tools(_programs, report, inputs, build, work):
         report.aim(f"{name} of 10 MB", ours, theirs, aim, f"tidy {option}")
 
 
+def compacting(_programs, report, inputs, build, _work):
+    """Compact of 10 MB in the code view, which makes one line of it, and the ways back and forth, each until painted."""
+    times = in_process(build, "compact_bench", str(inputs(10)))
+    for step in ("Compact", "undo", "redo"):
+        report.row(f"{step} of 10 MB in one line, painted", times[step] / 1e6, 1500, 1.0, "1.5 s")
+
+
 def saving(_programs, report, inputs, build, work):
     """Saving 10 MB through the program's own file store, and cp with fsync, in turns on the same disk."""
     times = in_process(build, "save_bench", str(inputs(10)), str(work))
@@ -317,7 +324,7 @@ def ftp(_programs, report, _inputs, build, work):
         shutil.rmtree(target)
 
 
-GROUPS = {"start": start, "open": opening, "type": typing, "preview": preview, "designer": designer, "colour": colouring, "functions": functions, "tools": tools,
+GROUPS = {"start": start, "open": opening, "type": typing, "preview": preview, "designer": designer, "colour": colouring, "functions": functions, "tools": tools, "compact": compacting,
           "save": saving, "folder": local_folder, "ftpfolder": ftp_folder, "ftp": ftp}
 
 

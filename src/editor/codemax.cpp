@@ -325,6 +325,9 @@ quint32 CodeMax::color(int item) const
 
 void CodeMax::setFontStyle(int item, int style)
 {
+    // Each new style makes the engine load its fonts anew before anything can be measured.
+    if (m_appearance->fontStyle(item) == style)
+        return;
     m_appearance->setFontStyle(item, style);
     m_margins->updateWidths();
 }

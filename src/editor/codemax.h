@@ -172,6 +172,7 @@ public:
     /// The line end that the Enter key types: the text's own, of several kinds the most frequent.
     LineEnds typedLineEnds() const { return m_format.typedLineEnds(); }
     /// Puts UTF-8 in the place of the bytes from start up to end.
+    void step(unsigned int message);
     void replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8) { m_engine.replace(start, end, utf8); }
 
     // The parts, for the control's own dialogs and for whatever must look closer than the contract allows.

@@ -4,6 +4,7 @@
 #include "editor/buffertext.h"
 #include "editor/codemax.h"
 #include "editor/idlecolouring.h"
+#include "syntax/syntaxstyle.h"
 
 #include <algorithm>
 
@@ -229,12 +230,27 @@ bool CodeMax::canCopy() const
 
 void CodeMax::undo()
 {
-    perform([this] { m_engine.send(SCI_UNDO); });
+    perform([this] { step(SCI_UNDO); });
 }
 
 void CodeMax::redo()
 {
-    perform([this] { m_engine.send(SCI_REDO); });
+    perform([this] { step(SCI_REDO); });
+}
+
+/// Undoes or redoes. The engine measures the line in which the caret comes to stand before it has its styles, and once more
+/// with them. Where lines are long it is kept from the former: what has no style yet has no width meanwhile.
+void CodeMax::step(unsigned int message)
+{
+    if (!m_colouring->hasLongLines()) {
+        m_engine.send(message);
+        return;
+    }
+    m_engine.send(SCI_STYLESETVISIBLE, static_cast<int>(SyntaxStyle::Text), false);
+    m_engine.send(message);
+    m_colouring->colourTo(m_engine.caret());
+    m_engine.send(SCI_STYLESETVISIBLE, static_cast<int>(SyntaxStyle::Text), true);
+    m_engine.send(SCI_SCROLLCARET);
 }
 
 void CodeMax::cut()

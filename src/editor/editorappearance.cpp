@@ -2,6 +2,8 @@
 #include "editor/editorappearance.h"
 
 #include "editor/editormargins.h"
+#include "editor/longruns.h"
+#include "syntax/syntaxstyle.h"
 #include "widgets/qtvalues.h"
 
 #include <QPalette>
@@ -48,7 +50,7 @@ EditorAppearance::EditorAppearance(SciEngine engine) : m_engine(engine)
 
 void EditorAppearance::setColour(int item, quint32 colour)
 {
-    if (!isItem(item))
+    if (!isItem(item) || m_looks.colours[static_cast<size_t>(item)] == colour)
         return;
     m_looks.colours[static_cast<size_t>(item)] = colour;
     applyColour(item);
@@ -61,7 +63,7 @@ quint32 EditorAppearance::colour(int item) const
 
 void EditorAppearance::setFontStyle(int item, int style)
 {
-    if (!isStyle(item))
+    if (!isStyle(item) || m_looks.styles[static_cast<size_t>(item)] == style)
         return;
     m_looks.styles[static_cast<size_t>(item)] = style;
     applyStyle(item);
@@ -119,9 +121,17 @@ void EditorAppearance::applyStyle(int item)
     const int engineStyle = fontStyleTable[static_cast<size_t>(item)];
     // Line numbers keep out of the text's own emphasis.
     const bool text = engineStyle != lineNumberStyle;
-    m_engine.send(Sci::SCI_STYLESETBOLD, engineStyle, (text && m_looks.font.bold) || style & BoldStyle);
-    m_engine.send(Sci::SCI_STYLESETITALIC, engineStyle, (text && m_looks.font.italic) || style & ItalicStyle);
-    m_engine.send(Sci::SCI_STYLESETUNDERLINE, engineStyle, (text && m_looks.font.underline) || style & UnderlinedStyle);
+    setStyle(Sci::SCI_STYLESETBOLD, engineStyle, (text && m_looks.font.bold) || style & BoldStyle);
+    setStyle(Sci::SCI_STYLESETITALIC, engineStyle, (text && m_looks.font.italic) || style & ItalicStyle);
+    setStyle(Sci::SCI_STYLESETUNDERLINE, engineStyle, (text && m_looks.font.underline) || style & UnderlinedStyle);
+}
+
+/// A style of the text has a twin that looks like it.
+void EditorAppearance::setStyle(unsigned int message, int style, qsizetype value)
+{
+    m_engine.send(message, style, value);
+    if (style < syntaxStyleCount)
+        m_engine.send(message, style + twinDistance, value);
 }
 
 void EditorAppearance::applyColour(int item)
@@ -148,12 +158,12 @@ void EditorAppearance::applyColour(int item)
             m_engine.send(Sci::SCI_SETCARETLINEBACK, engineColour(background(item)));
         break;
     case ColourTarget::StyleFore:
-        m_engine.send(Sci::SCI_STYLESETFORE, index, plain);
+        setStyle(Sci::SCI_STYLESETFORE, index, plain);
         if (item == TextFore || item == LineNumberFore)
             applyContrast();
         break;
     case ColourTarget::StyleBack:
-        m_engine.send(Sci::SCI_STYLESETBACK, index, engineColour(background(item)));
+        setStyle(Sci::SCI_STYLESETBACK, index, engineColour(background(item)));
         break;
     case ColourTarget::MarginDivider:
         m_engine.send(Sci::SCI_SETMARGINBACKN, EditorMargins::Divider, plain);

@@ -45,6 +45,7 @@ public:
 private:
     void applyColour(int item);
     void applyStyle(int item);
+    void setStyle(unsigned int message, int style, qsizetype value);
     void applyFont();
     void applyContrast();
     QColor shown(int item) const;

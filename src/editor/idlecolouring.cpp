@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/idlecolouring.h"
 
+#include "editor/longruns.h"
+
 #include "syntax/syntaxstyle.h"
 
 #include <QElapsedTimer>
@@ -14,6 +16,8 @@ namespace {
 using Sci = QsciScintillaBase;
 
 /// What is coloured at once while the window is painted, in bytes; it takes about as long as the painting itself.
+/// Widths of words, in an editor with long lines.
+constexpr int widthsRemembered = 16384;
 constexpr qsizetype immediateBytes = 256 * 1024;
 constexpr qsizetype sliceBytes = 64 * 1024;
 constexpr qint64 sliceMilliseconds = 4;
@@ -205,9 +209,37 @@ IdleColouring::StyledLines IdleColouring::styleStretch(const Stretch &stretch, b
     }
     const qsizetype size = lines.stopped ? lines.offsets.back() : styled.end;
     m_work += size;
+    const std::span<const unsigned char> shown = shownStyles(text.first(size), lines.offsets);
     m_engine.send(Sci::SCI_STARTSTYLING, start);
-    m_engine.sendText(Sci::SCI_SETSTYLINGEX, size, reinterpret_cast<const char *>(m_styles.data()));
+    m_engine.sendText(Sci::SCI_SETSTYLINGEX, size, reinterpret_cast<const char *>(shown.data()));
     return {std::move(lines.offsets), std::move(lines.states), size, lines.stopped};
+}
+
+/// The styles of the text as the engine gets them: in long lines the runs are broken. `offsets` are the beginnings of the
+/// text's further lines.
+std::span<const unsigned char> IdleColouring::shownStyles(QByteArrayView text, const std::vector<qsizetype> &offsets)
+{
+    const std::span styles = std::span(m_styles).first(static_cast<size_t>(text.size()));
+    m_brokenStyles.clear();
+    qsizetype begin = 0;
+    const auto breakLine = [&](qsizetype end) {
+        if (end - begin > longLineBytes) {
+            if (m_brokenStyles.empty())
+                m_brokenStyles.assign(styles.begin(), styles.end());
+            const std::span line =
+                std::span(m_brokenStyles).subspan(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
+            breakLongRuns(text.sliced(begin, end - begin), line);
+        }
+        begin = end;
+    };
+    for (const qsizetype offset : offsets)
+        breakLine(std::min(offset, text.size()));
+    breakLine(text.size());
+    if (m_brokenStyles.empty())
+        return styles;
+    if (!std::exchange(m_hasLongLines, true))
+        m_engine.send(Sci::SCI_SETPOSITIONCACHE, widthsRemembered);
+    return m_brokenStyles;
 }
 
 /// Gives the lines of a styled stretch their places in the folds, and the engine the states that they begin with.

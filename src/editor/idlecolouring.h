@@ -10,6 +10,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace zephira {
@@ -40,6 +41,8 @@ public:
     void colourAll();
     /// Whether a slice is still to come.
     bool isPending() const { return m_timer.isActive(); }
+    /// Whether a line so long that its runs are broken was ever coloured.
+    bool hasLongLines() const { return m_hasLongLines; }
     /// Bytes that have been coloured since the control was made, those coloured again included.
     qint64 work() const { return m_work; }
 
@@ -77,6 +80,7 @@ private:
     qsizetype nextLine() const;
     Stretch nextStretch(qsizetype targetLine, qsizetype bytes) const;
     StyledLines styleStretch(const Stretch &stretch, bool mayStopEarly);
+    std::span<const unsigned char> shownStyles(QByteArrayView text, const std::vector<qsizetype> &offsets);
     FoldedLines foldStretch(const Stretch &stretch, const StyledLines &styled);
     bool noteColoured(const StyledLines &styled, const FoldedLines &folded);
     void setFold(qsizetype line, qsizetype level);
@@ -88,6 +92,9 @@ private:
     LineFolded m_lineFolded;
     QTimer m_timer;
     std::vector<unsigned char> m_styles;
+    /// The same where the text has long lines, with their runs broken.
+    std::vector<unsigned char> m_brokenStyles;
+    bool m_hasLongLines = false;
     Dirty m_dirty;
     /// Lines in front of this one have been coloured; those of m_dirty await it again.
     qsizetype m_colouredLines = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/longruns.h"
 #include "editor/qsci.h"
 
 #include <QByteArrayView>
@@ -37,7 +38,7 @@ public:
     qsizetype anchor() const { return send(QsciScintillaBase::SCI_GETANCHOR); }
     int styleAt(qsizetype position) const
     {
-        return static_cast<int>(send(QsciScintillaBase::SCI_GETSTYLEAT, position)) & 0xff;
+        return withoutTwin(static_cast<int>(send(QsciScintillaBase::SCI_GETSTYLEAT, position)) & 0xff);
     }
 
     /// The bytes from start up to end, valid until the text changes. The engine moves its gap out of the range.
