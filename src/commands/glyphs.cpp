@@ -67,18 +67,24 @@ public:
         m_painter.drawPolygon(QPolygonF(QList<QPointF>(points)));
         m_painter.restore();
     }
-    /// A page with a folded corner and a number on it.
+    /// A page with a folded corner and a number on it, from 1 to 6. The digits are lines: a font of that size for them alone
+    /// would cost a start more than all other drawings.
     void numberedPage(int number)
     {
         path({{4.5, 2.5}, {13.5, 2.5}, {17.5, 6.5}, {17.5, 19.5}, {4.5, 19.5}, {4.5, 2}});
         path({{13.5, 2.5}, {13.5, 6.5}, {17.5, 6.5}});
+        static const QList<QPolygonF> digits[] = {
+            {{{9.5, 10.5}, {11.5, 9}, {11.5, 17}}},
+            {{{8.5, 9.5}, {13.5, 9.5}, {13.5, 13}, {9, 13}, {9, 16.5}, {14, 16.5}}},
+            {{{8.5, 9.5}, {13.5, 9.5}, {13.5, 16.5}, {8.5, 16.5}}, {{9.5, 13}, {13.5, 13}}},
+            {{{9, 9}, {9, 13}, {14, 13}}, {{13, 9}, {13, 17}}},
+            {{{13.5, 9.5}, {9, 9.5}, {9, 13}, {13.5, 13}, {13.5, 16.5}, {8.5, 16.5}}},
+            {{{13.5, 9.5}, {9, 9.5}, {9, 16.5}, {13.5, 16.5}, {13.5, 13}, {9, 13}}},
+        };
         m_painter.save();
-        QFont digits = m_painter.font();
-        digits.setPixelSize(11);
-        digits.setBold(true);
-        m_painter.setFont(digits);
-        m_painter.setPen(m_accent);
-        m_painter.drawText(QRectF(4.5, 5.5, 13, 14), Qt::AlignCenter, QString::number(number));
+        accentuate();
+        for (const QPolygonF &lines : digits[number - 1])
+            m_painter.drawPolyline(lines);
         m_painter.restore();
     }
     /// Lines that follow are drawn in the accent's colour and a little bolder.

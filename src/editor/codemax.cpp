@@ -209,6 +209,10 @@ void CodeMax::setLanguage(const QString &name)
 {
     const auto language = name.isEmpty() ? nullptr : m_globals->languages().engine(name);
     m_language = language ? name : QString();
+    if (language) {
+        m_appearance->showStyles();
+        m_margins->updateWidths();
+    }
     m_engine.send(SCI_MARKERDELETEALL, dividerMarker);
     m_colouring->setLanguage(language);
     m_braces->clear();

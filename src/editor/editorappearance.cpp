@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace zephira {
 
@@ -88,6 +89,14 @@ void EditorAppearance::setLooks(const EditorLooks &looks)
     applyAll();
 }
 
+void EditorAppearance::showStyles()
+{
+    if (std::exchange(m_showsStyles, true))
+        return;
+    for (int item = 0; item < fontStyleTotal; ++item)
+        applyStyle(item);
+}
+
 void EditorAppearance::applyAll()
 {
     applyFont();
@@ -117,8 +126,9 @@ void EditorAppearance::applyFont()
 
 void EditorAppearance::applyStyle(int item)
 {
-    const int style = m_looks.styles[static_cast<size_t>(item)];
     const int engineStyle = fontStyleTable[static_cast<size_t>(item)];
+    const bool isSeen = m_showsStyles || item == TextFont || item == LineNumberFont;
+    const int style = isSeen ? m_looks.styles[static_cast<size_t>(item)] : NormalStyle;
     // Line numbers keep out of the text's own emphasis.
     const bool text = engineStyle != lineNumberStyle;
     setStyle(Sci::SCI_STYLESETBOLD, engineStyle, (text && m_looks.font.bold) || style & BoldStyle);

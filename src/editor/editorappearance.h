@@ -39,6 +39,10 @@ public:
     const EditorLooks &looks() const { return m_looks; }
     void setLooks(const EditorLooks &looks);
 
+    /// From now on the text has the font styles. A text without colours is never seen in any of them, and does without
+    /// the fonts, which are dear to load.
+    void showStyles();
+
     /// Puts all of it into force again; the selection's colours follow the desktop's.
     void applyAll();
 
@@ -53,6 +57,7 @@ private:
 
     SciEngine m_engine;
     EditorLooks m_looks;
+    bool m_showsStyles = false;
 };
 
 } // namespace zephira

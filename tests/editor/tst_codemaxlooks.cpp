@@ -138,9 +138,26 @@ private Q_SLOTS:
         QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETBACK, 5), 0x00ff00);
     }
 
+    void aTextWithoutColoursNeedsNoFurtherFonts()
+    {
+        EditorFixture f;
+        for (int item = 0; item < fontStyleTotal; ++item)
+            f.editor.setFontStyle(item, BoldStyle);
+        const auto isBold = [&](int style) { return f.editor.engine().send(Sci::SCI_STYLEGETBOLD, style) != 0; };
+        QVERIFY(isBold(0));
+        QVERIFY(!isBold(2));
+        f.editor.setLanguage(u"HTML"_s);
+        for (int style = 0; style <= 10; ++style)
+            QVERIFY(isBold(style));
+        f.editor.setLanguage({});
+        QVERIFY(isBold(2));
+        QCOMPARE(f.editor.fontStyle(KeywordFont), int(BoldStyle));
+    }
+
     void theFontReachesEveryStyle()
     {
         EditorFixture f;
+        f.editor.setLanguage(u"HTML"_s);
         f.editor.setFontStyle(KeywordFont, 1);
         f.editor.setEditorFont({u"Liberation Mono"_s, 14.5, false, true, false, true});
         for (int style = 0; style <= 10; ++style) {
