@@ -52,8 +52,6 @@ public:
         return converted ? value : fallback;
     }
 
-    bool has(UserSetting setting) const { return !m_settings.GetSetting(setting, m_form, QString()).isEmpty(); }
-
     int pixels(UserSetting setting, int fallback) const
     {
         const int twips = number(setting, static_cast<int>(std::lround(fallback * twipsPerPixel)));
@@ -83,12 +81,12 @@ void restore(QWidget &form, const Placement &placement)
 {
     QRect place(form.pos(), form.size());
     const QScreen *screen = form.screen();
-    if (screen && !placement.has(UserSetting::WindowWidth) && !placement.has(UserSetting::WindowHeight))
-        place.setSize(place.size().boundedTo(screen->availableSize() - frame));
+    // What isn't stored yet is made to fit.
+    const QSize fitting = screen ? place.size().boundedTo(screen->availableSize() - frame) : place.size();
     place.moveTop(placement.pixels(UserSetting::WindowTop, place.y()));
     place.moveLeft(placement.pixels(UserSetting::WindowLeft, place.x()));
-    place.setHeight(placement.pixels(UserSetting::WindowHeight, place.height()));
-    place.setWidth(placement.pixels(UserSetting::WindowWidth, place.width()));
+    place.setHeight(placement.pixels(UserSetting::WindowHeight, fitting.height()));
+    place.setWidth(placement.pixels(UserSetting::WindowWidth, fitting.width()));
 
     QList<QRect> screens;
     for (const QScreen *screen : QGuiApplication::screens())
