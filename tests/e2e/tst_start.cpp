@@ -83,8 +83,9 @@ private Q_SLOTS:
     void theFirstStartShowsTheStartDialog()
     {
         ProgramFolder folder;
-        QVERIFY(QFile::remove(folder.place(u"zephira.ini"_s)));
-        QVERIFY(QFile::copy(sourcePath(u"data/zephira.ini"_s), folder.place(u"zephira.ini"_s)));
+        const QString settings = folder.path() + u"/zephira.ini"_s;
+        QVERIFY(QFile::remove(settings));
+        QVERIFY(QFile::copy(sourcePath(u"data/zephira.ini"_s), settings));
         RunningProgram program(folder, {});
         QCOMPARE(program.waitForWindows({untitled, chooser}), sorted({untitled, chooser}));
     }
