@@ -67,7 +67,7 @@ void RecoveryBar::fill()
                                 this);
         text->setObjectName(u"recoveryText_%1"_s.arg(line));
         text->setTextFormat(Qt::PlainText);
-        text->setToolTip(copy.path);
+        text->setToolTip(text->text() + u'\n' + copy.path);
         // A long name is cut, never the window widened.
         text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         m_layout->addWidget(text, line, 0);

@@ -16,6 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
+namespace {
+
+constexpr int lowestList = 36;
+
+} // namespace
+
 FilePane::FilePane(Prompts &prompts, QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::FilePane>())
@@ -28,6 +34,9 @@ FilePane::FilePane(Prompts &prompts, QWidget *parent)
     m_file->setObjectName(u"file"_s);
     m_file->setToolTip(u"Available Files"_s);
     m_file->setAccessibleName(u"Available Files"_s);
+    // On a low screen the lists give way, so that the window's status bar stays on it.
+    m_ui->DIR->setMinimumHeight(lowestList);
+    m_ui->ListFiles->setMinimumHeight(lowestList);
     m_ui->fileSplitter->setStretchFactor(0, 1);
     m_ui->fileSplitter->setStretchFactor(1, 1);
     connect(m_ui->DRV, &QComboBox::activated, this, &FilePane::changeDrive);

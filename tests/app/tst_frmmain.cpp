@@ -472,6 +472,16 @@ private Q_SLOTS:
         QVERIFY(!bar->isVisible());
     }
 
+    /// At the first start, on a screen of 1366 × 768 at the scale 2, less the frame.
+    void theWindowFitsALowScreen()
+    {
+        WindowBench bench;
+        bench.write(u"recovery/open-20240229-120000-000-1-page.html"_s, "lost");
+        const QSize least = bench.start().minimumSizeHint();
+        QVERIFY2(least.width() <= 683 - 16 && least.height() <= 384 - 48,
+                 qPrintable(u"%1 x %2"_s.arg(least.width()).arg(least.height())));
+    }
+
     void nothingIsOfferedWithoutACrash()
     {
         WindowBench bench;
