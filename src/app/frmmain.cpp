@@ -48,6 +48,8 @@ namespace zephira {
 namespace {
 
 constexpr int sidePaneWidth = 250;
+constexpr int lowestPane = 100;
+constexpr int lowestView = 30;
 
 void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)
 {
@@ -145,6 +147,9 @@ void frmmain::buildSidePane()
     m_sidePane->setPage(u"fileman"_s, m_filePane);
     m_sideLists = std::make_unique<SideLists>(*m_context, *m_menus, *m_sidePane);
     addDocumentTree(*m_sidePane, *m_rt, *m_surface);
+    // On a low screen what stands in the pane and in the views gives way, so that the status bar stays on it.
+    m_sidePane->setMinimumHeight(lowestPane);
+    m_ui->views->setMinimumHeight(lowestView);
     m_ui->mainSplitter->setSizes({sidePaneWidth, width() - sidePaneWidth});
     m_ui->mainSplitter->setStretchFactor(1, 1);
 }
