@@ -41,12 +41,10 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
         settings()->setAttribute(attribute, false);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 
-    connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl &address) {
-        m_isAlive = true;
-        m_fence.files().shown(address);
-    });
+    connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl &address) { m_fence.files().shown(address); });
     const auto takeEnd = [this] {
         m_isAlive = true;
+        Q_EMIT letGo();
         if (const auto again = std::exchange(m_again, {}))
             again();
         else
@@ -93,12 +91,16 @@ void BrowserPage::endIfHanging(std::function<void()> again)
 {
     const int navigation = ++m_navigation;
     m_again = {};
-    if (renderProcessPid() <= 0)
+    m_isAlive = renderProcessPid() <= 0;
+    if (m_isAlive) {
+        Q_EMIT letGo();
         return;
-    m_isAlive = false;
+    }
     runJavaScript(u"0"_s, [self = QPointer<BrowserPage>(this), navigation](const QVariant &) {
-        if (self && self->m_navigation == navigation)
-            self->m_isAlive = true;
+        if (!self || self->m_navigation != navigation)
+            return;
+        self->m_isAlive = true;
+        Q_EMIT self->letGo();
     });
     QTimer::singleShot(patience, this, [this, navigation, again] {
         const qint64 process = renderProcessPid();

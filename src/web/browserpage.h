@@ -40,6 +40,8 @@ public:
     static constexpr int patience = 1500;
 
 Q_SIGNALS:
+    /// The page that showed makes room for the one that was gone to. Its address is told of before.
+    void letGo();
     /// The process of the page has ended by itself.
     void processLost();
 

@@ -42,8 +42,7 @@ BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
     // The address is known as soon as the page begins to show; a page that fails tells only at its end.
     connect(m_page, &QWebEnginePage::urlChanged, this, &BrowserWidget::NavigateComplete);
     connect(m_page, &QWebEnginePage::loadFinished, this, &BrowserWidget::NavigateComplete);
-    connect(m_page, &QWebEnginePage::urlChanged, m_messages, &ScriptMessageBar::listen);
-    connect(m_page, &QWebEnginePage::renderProcessTerminated, m_messages, &ScriptMessageBar::listen);
+    connect(m_page, &BrowserPage::letGo, m_messages, &ScriptMessageBar::listen);
 }
 
 BrowserWidget::~BrowserWidget()

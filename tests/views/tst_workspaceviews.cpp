@@ -147,6 +147,29 @@ private Q_SLOTS:
         QVERIFY(!bench.world.designer.leaving);
     }
 
+    void theLossOfAProcessIsTold()
+    {
+        Bench bench;
+        bench.browser.processLost();
+        bench.world.designer.processLost();
+        QCOMPARE(bench.window.notices.size(), 2);
+        QVERIFY(bench.window.notices[0] != bench.window.notices[1]);
+    }
+
+    void bothViewsKnowTheProject()
+    {
+        Bench bench;
+        bench.openFile(u"/site/pages/page.html"_s, u"old"_s);
+        bench.select(WorkspaceView::Preview);
+        QCOMPARE(bench.browser.projectFolder, QString());
+        bench.select(WorkspaceView::Code);
+        bench.world.document.project = u"/site/"_s;
+        bench.select(WorkspaceView::Preview);
+        QCOMPARE(bench.browser.projectFolder, u"/site/"_s);
+        bench.select(WorkspaceView::Visual);
+        QCOMPARE(bench.world.designer.projectFolder, u"/site/"_s);
+    }
+
     /// Whoever goes back to the designer before it has been left stays there.
     void goingBackToTheDesignerMeanwhile()
     {

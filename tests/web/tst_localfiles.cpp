@@ -73,6 +73,41 @@ private Q_SLOTS:
         QVERIFY(!files.mayLoad(QUrl(u"file:///etc/passwd"_s)));
     }
 
+    void projectFolders_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("allowed");
+        QTest::newRow("no project") << u""_s << u"site/img/a.png"_s << false;
+        QTest::newRow("a page in the project") << u"site"_s << u"site/img/a.png"_s << true;
+        QTest::newRow("by another name of it") << u"alias"_s << u"site/img/a.png"_s << true;
+        QTest::newRow("a project with a separator") << u"site/"_s << u"site/img/a.png"_s << true;
+        QTest::newRow("outside of it") << u"site"_s << u"secret/key.txt"_s << false;
+        QTest::newRow("outside of it by a link") << u"site"_s << u"site/link.txt"_s << false;
+        QTest::newRow("a project elsewhere") << u"secret"_s << u"site/img/a.png"_s << false;
+        QTest::newRow("a project elsewhere, its file") << u"secret"_s << u"secret/key.txt"_s << false;
+        QTest::newRow("a project that isn't there") << u"none"_s << u"site/img/a.png"_s << false;
+        QTest::newRow("beside the page as ever") << u"secret"_s << u"site/sub/deep.html"_s << true;
+    }
+
+    /// A page that lies in the project may load what lies in all of it, as "../css/s.css".
+    void projectFolders()
+    {
+        QFETCH(QString, project);
+        QFETCH(QString, file);
+        const Site site;
+        LocalFiles files;
+        files.setProjectFolder(project.isEmpty() ? QString() : site.path(project));
+        files.open(site.url(u"site/sub/deep.html"_s));
+        QTEST(files.mayLoad(site.url(file)), "allowed");
+        files.shown(site.url(u"site/sub/deep.html"_s));
+        QTEST(files.mayLoad(site.url(file)), "allowed");
+        // Without a project from then on it is the page's own folder again.
+        files.setProjectFolder({});
+        files.open(site.url(u"site/sub/deep.html"_s));
+        QVERIFY(!files.mayLoad(site.url(u"site/img/a.png"_s)));
+    }
+
     void otherAddresses_data()
     {
         QTest::addColumn<QString>("address");

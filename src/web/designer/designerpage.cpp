@@ -15,6 +15,7 @@
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
+#include <csignal>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -132,6 +133,12 @@ void DesignerPage::call(const QString &function, const QVariantList &arguments,
 {
     const QByteArray list = QJsonDocument(QJsonArray::fromVariantList(arguments)).toJson(QJsonDocument::Compact);
     runJavaScript(u"zephiraDesigner.%1(...%2)"_s.arg(function, QString::fromUtf8(list)), world, answered);
+}
+
+void DesignerPage::endIfHanging()
+{
+    if (const qint64 process = renderProcessPid(); !isResponding() && process > 0)
+        ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
 /// What a page before was asked is of no account any more.

@@ -24,6 +24,9 @@ public:
     /// Loads an empty page that relative addresses lead from; ready() says when it can take a document.
     void open(const QUrl &base);
 
+    /// Ends the process of a page that doesn't answer, which could keep another one from taking its place for ever.
+    void endIfHanging();
+
     /// Calls a function of the designer's script and goes on without waiting; the answer is null where there was none.
     void call(const QString &function, const QVariantList &arguments,
               const std::function<void(const QVariant &)> &answered);

@@ -160,6 +160,8 @@ void DesignerWidget::open()
     m_copy = {};
     m_handles->show({}, 1);
     ++m_load;
+    // Its end is a loss like others, after which the new text is loaded.
+    m_page->endIfHanging();
     m_page->open(m_baseFile.isEmpty() ? QUrl(u"about:blank"_s) : QUrl::fromLocalFile(m_baseFile));
 }
 

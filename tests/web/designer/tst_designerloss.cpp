@@ -26,6 +26,7 @@ private Q_SLOTS:
     void lateClipboardKey();
     void copiesAreKeptWhileTyping();
     void pageThatHangs();
+    void pageThatHangsGivesWay();
     void pageThatDies();
     void betweenLossAndReload();
     void pageThatDiesAgainAndAgain();
@@ -156,6 +157,24 @@ void TstDesignerLoss::pageThatHangs()
     m_bench->designer.page().setPatience(patience);
     m_bench->designer.pasteHtml(u"c"_s);
     QCOMPARE(m_bench->designer.documentHtml(), u"<p>abc</p>"_s);
+}
+
+/// Another page takes the place of one that would never let go.
+void TstDesignerLoss::pageThatHangsGivesWay()
+{
+    m_bench->load(u"<p>a</p>"_s);
+    const qint64 process = m_bench->designer.page().renderProcessPid();
+    m_bench->designer.page().setPatience(200);
+    m_bench->designer.page().runJavaScript(u"for (;;);"_s, QWebEngineScript::ApplicationWorld);
+    m_bench->run(DesignerCommand::Bold);
+    QVERIFY(!m_bench->designer.page().isResponding());
+    int losses = 0;
+    m_bench->designer.onProcessLost([&] { ++losses; });
+    m_bench->load(u"<p>b</p>"_s);
+    QCOMPARE(m_bench->body(), u"<p>b</p>"_s);
+    QCOMPARE(losses, 1);
+    QVERIFY(m_bench->designer.page().renderProcessPid() != process);
+    QVERIFY(!m_bench->designer.isDirty());
 }
 
 void TstDesignerLoss::pageThatDies()

@@ -47,14 +47,6 @@ void TstDesignerTyping::keys_data()
         u"<p><font color=\"red\">a</font></p><p><font color=\"red\">x|</font></p>"_s);
     row("behind a link", u"<p><a href=\"x\">a|</a></p>"_s, {u"Enter"_s, u"x"_s},
         u"<p><a href=\"x\">a</a></p><p>x|</p>"_s);
-    row("behind a bold link", u"<p><b><a href=\"x\">a|</a></b></p>"_s, {u"Enter"_s, u"x"_s},
-        u"<p><b><a href=\"x\">a</a></b></p><p><b>x|</b></p>"_s);
-    row("behind what is bold in a link", u"<p><a href=\"x\"><b>a|</b></a></p>"_s, {u"Enter"_s, u"x"_s},
-        u"<p><a href=\"x\"><b>a</b></a></p><p><b>x|</b></p>"_s);
-    row("within a bold link", u"<p><a href=\"x\"><b>a|b</b></a></p>"_s, {u"Enter"_s, u"x"_s},
-        u"<p><a href=\"x\"><b>a</b></a></p><p><a href=\"x\"><b>x|b</b></a></p>"_s);
-    row("before a bold link", u"<p><a href=\"x\"><b>|a</b></a></p>"_s, {u"Enter"_s},
-        u"<p><b><br></b></p><p><a href=\"x\"><b>|a</b></a></p>"_s);
     row("a new item", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"b"_s}, u"<ul><li>a</li><li>b|</li></ul>"_s);
     row("out of a list", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"Enter"_s, u"b"_s},
         u"<ul><li>a</li></ul><p>b|</p>"_s);

@@ -187,36 +187,6 @@ const nameOnce = () => {
     }
 };
 
-const inlineSelector = 'a[href],b,big,em,font,i,s,small,span,strike,strong,sub,sup,u';
-const holdsNothing = element => [...element.childNodes].every(node => isText(node) && node.data === '');
-
-// The engine parts what surrounds the caret, too: of a link or a look that ends there it leaves a twin that holds nothing,
-// or a link around the break that keeps the new paragraph open.
-const dropEmptyTwins = () => {
-    const block = closestBlock(getSelection().anchorNode);
-    if (!block || block === bodyElement())
-        return;
-    const mark = bookmark();
-    for (const half of [block, seenSibling(block, 'previousSibling')]) {
-        const inside = half && isElement(half) ? [...half.querySelectorAll(inlineSelector)].reverse() : [];
-        for (const element of inside) {
-            if (element.localName === 'a' && isEmptyElement(element) && !element.hasAttribute('name') && element.id === '')
-                unwrapElement(element);
-            else if (holdsNothing(element) && !element.contains(getSelection().anchorNode))
-                element.remove();
-        }
-    }
-    if (mark.anchorNode.isConnected)
-        restore(mark);
-    else
-        placeCaretIn(block);
-};
-
-const endParagraph = () => {
-    nameOnce();
-    dropEmptyTwins();
-};
-
 // Where the engine does join, it keeps the look of what it moves by spans that nobody asked for, and writes the author's
 // own ones anew.
 const dropJoinStyles = changes => {
@@ -238,7 +208,7 @@ const dropJoinStyles = changes => {
 };
 
 export const inputActions = {
-    insertParagraph: endParagraph,
+    insertParagraph: nameOnce,
     deleteContentBackward: dropJoinStyles,
     deleteContentForward: dropJoinStyles,
     deleteWordBackward: dropJoinStyles,
