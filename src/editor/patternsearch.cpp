@@ -12,11 +12,37 @@ namespace {
 /// How far back a backward search looks at first, in characters. It looks further where it finds nothing.
 constexpr qsizetype firstWindow = 16 * 1024;
 
+/// The searched text has line feeds for all line ends, so a carriage return in a pattern, with the line feed behind it,
+/// stands for one of these.
+QString withLineFeeds(const QString &pattern)
+{
+    QString plain;
+    for (qsizetype i = 0; i < pattern.size(); ++i) {
+        if (pattern[i] != u'\\' || i + 1 == pattern.size()) {
+            plain += pattern[i];
+            continue;
+        }
+        const QChar code = pattern[++i];
+        if (code != u'r') {
+            plain += u'\\';
+            plain += code;
+            continue;
+        }
+        const bool mayRepeat = i + 1 < pattern.size() && QStringView(u"?*+").contains(pattern[i + 1]);
+        if (QStringView(pattern).sliced(i + 1 + mayRepeat).startsWith(u"\\n"))
+            i += mayRepeat;
+        else
+            plain += u"\\n"_s;
+    }
+    return plain;
+}
+
 } // namespace
 
 Result<PatternSearch> PatternSearch::make(const SearchRequest &request)
 {
-    QString pattern = request.regularExpression ? request.pattern : QRegularExpression::escape(request.pattern);
+    QString pattern =
+        request.regularExpression ? withLineFeeds(request.pattern) : QRegularExpression::escape(request.pattern);
     if (request.wholeWord)
         pattern = u"(?<!\\w)(?:"_s + pattern + u")(?!\\w)"_s;
     QRegularExpression::PatternOptions options =
@@ -79,21 +105,26 @@ std::vector<TextMatch> PatternSearch::all(const QString &text, qsizetype start, 
 
 QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match)
 {
-    if (!replacement.contains(u'\\'))
+    if (!replacement.contains(u'\\') && !replacement.contains(u'$'))
         return replacement;
     QString expanded;
     for (qsizetype i = 0; i < replacement.size(); ++i) {
         const QChar c = replacement[i];
         const QChar code = i + 1 < replacement.size() ? replacement[i + 1] : QChar();
-        if (c != u'\\' || code.isNull()) {
+        const bool digit = code >= u'0' && code <= u'9';
+        if (code.isNull() || (c != u'\\' && (c != u'$' || !digit))) {
             expanded += c;
             continue;
         }
         ++i;
-        if (code >= u'0' && code <= u'9')
+        if (digit)
             expanded += match.captured(code.unicode() - u'0');
         else if (code == u'n')
             expanded += u'\n';
+        else if (code == u'r')
+            expanded += QStringView(replacement).sliced(i + 1).startsWith(u"\\n") ? QString() : u"\n"_s;
+        else if (code == u'$')
+            expanded += u'$';
         else if (code == u't')
             expanded += u'\t';
         else if (code == u'\\')

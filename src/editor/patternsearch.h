@@ -56,7 +56,7 @@ private:
     bool m_groups;
 };
 
-/// A regular expression's replacement: "\0" to "\9" are the groups, "\n" and "\t" line feed and tab, "\\" a backslash;
+/// A regular expression's replacement: "\0" to "\9" and "$0" to "$9" are the groups, "\n" and "\r\n" a line feed, "\t" a tab, "\\" and "\$" a backslash and a dollar sign;
 /// anything else stands for itself.
 QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match);
 

@@ -41,6 +41,16 @@ private Q_SLOTS:
         QTest::newRow("ends of lines") << u"a\nb"_s << u"$"_s << u"r"_s << u";"_s << u"a;\nb;"_s;
         QTest::newRow("empty matches") << u"axb"_s << u"x*"_s << u"r"_s << u"-"_s << u"-a--b-"_s;
         QTest::newRow("over lines") << u"a\nb\nc"_s << u"a\\nb"_s << u"r"_s << u"\\n\\t\\\\"_s << u"\n\t\\\nc"_s;
+        QTest::newRow("a line end as Windows writes it")
+            << u"a\nb\nc"_s << u"a\\r\\nb"_s << u"r"_s << u"x"_s << u"x\nc"_s;
+        QTest::newRow("a line end of either kind") << u"a\nb"_s << u"\\r?\\n"_s << u"r"_s << u"|"_s << u"a|b"_s;
+        QTest::newRow("a set of line ends") << u"a\nb"_s << u"[\\r\\n]+"_s << u"r"_s << u"|"_s << u"a|b"_s;
+        QTest::newRow("a backslash and an r") << u"a\\r"_s << u"\\\\r"_s << u"r"_s << u"x"_s << u"ax"_s;
+        QTest::newRow("a line end put in") << u"a b"_s << u" "_s << u"r"_s << u"\\r\\n"_s << u"a\nb"_s;
+        QTest::newRow("groups by dollar signs")
+            << u"a1 b22"_s << u"([a-z])(\\d+)"_s << u"r"_s << u"$2$1"_s << u"1a 22b"_s;
+        QTest::newRow("dollar signs") << u"ab"_s << u"b"_s << u"r"_s << u"$x\\$1$"_s << u"a$x$1$"_s;
+        QTest::newRow("no expression, no groups") << u"ab"_s << u"b"_s << u""_s << u"$1"_s << u"a$1"_s;
         QTest::newRow("alternatives as words")
             << u"cat cats dog"_s << u"cat|dog"_s << u"rw"_s << u"x"_s << u"x cats x"_s;
         QTest::newRow("whole match") << u"ab"_s << u"b"_s << u"r"_s << u"[\\0]"_s << u"a[b]"_s;
