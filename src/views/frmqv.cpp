@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QToolBar>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +34,7 @@ frmqv::frmqv(const AppContext &context, const ViewerFactory &makeViewer, QWidget
     m_viewer.widget->setAccessibleName(tr("Text of the file"));
     m_ui->outerLayout->addWidget(m_viewer.widget, 1);
     m_ui->Picture1->hide();
+    m_roomForText = size();
 }
 
 frmqv::~frmqv() = default;
@@ -92,6 +94,7 @@ void frmqv::showText(const QString &path)
     m_ui->Picture1->hide();
     m_ui->Picture1->clear();
     m_viewer.widget->show();
+    resize(size().expandedTo(m_roomForText));
     present();
 }
 
@@ -108,6 +111,14 @@ void frmqv::present()
     show();
     raise();
     activateWindow();
+}
+
+void frmqv::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void frmqv::copySelection()

@@ -29,7 +29,12 @@ public:
     void showFile(const QString &path) override;
     /// The window takes the picture's width, and its height plus 800 twips.
     void showPicture(const QString &path) override;
+    /// The window is made large enough to read in; one that is larger already stays as it is.
     void showText(const QString &path) override;
+
+protected:
+    /// The Escape key closes the window.
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void addButtons();
@@ -42,6 +47,7 @@ private:
     const AppContext &m_context;
     std::unique_ptr<Ui::frmqv> m_ui;
     EditorView m_viewer;
+    QSize m_roomForText;
     bool m_hasContent = false;
 };
 

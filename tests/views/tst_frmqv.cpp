@@ -31,6 +31,8 @@ private Q_SLOTS:
     void kindByName();
     void secondFileReplacesTheFirst();
     void textFillsTheWindow();
+    void aTextBehindATinyPictureCanBeRead();
+    void escapeCloses();
     void copySelection();
     void copyNothing();
     void copyAll();
@@ -167,6 +169,26 @@ void TstFrmQv::textFillsTheWindow()
     QCOMPARE(bar.topLeft(), QPoint(0, 0));
     QCOMPARE(bar.width(), 700);
     QCOMPARE(editor().geometry(), QRect(0, bar.height(), 700, 500 - bar.height()));
+}
+
+void TstFrmQv::aTextBehindATinyPictureCanBeRead()
+{
+    form().showPicture(u"/p.gif"_s);
+    QVERIFY(form().width() < 400 || form().height() < 300);
+    form().showText(u"/a.txt"_s);
+    QVERIFY(form().width() >= 600 && form().height() >= 400);
+    // A window that the user has made larger stays so.
+    form().resize(900, 700);
+    form().showText(u"/b.txt"_s);
+    QCOMPARE(form().size(), QSize(900, 700));
+}
+
+void TstFrmQv::escapeCloses()
+{
+    form().showText(u"/a.txt"_s);
+    QVERIFY(form().isVisible());
+    QTest::keyClick(&form(), Qt::Key_Escape);
+    QVERIFY(!form().isVisible());
 }
 
 void TstFrmQv::copySelection()
