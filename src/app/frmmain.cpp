@@ -5,6 +5,7 @@
 #include "app/documentsurface.h"
 #include "app/documenttree.h"
 #include "app/filepanecommands.h"
+#include "app/focusring.h"
 #include "app/recoverybar.h"
 #include "app/sidecommands.h"
 #include "app/sidelists.h"
@@ -78,6 +79,12 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
     connectEditor();
     connectCommands();
     applyAvailability();
+    new FocusRing(*this,
+                  {{m_ui->views, [this] { m_viewSwitch->focusView(); }},
+                   {m_palette},
+                   {m_sidePane},
+                   {m_languages},
+                   {m_ui->workspace}});
     m_rt->setFocus();
 }
 

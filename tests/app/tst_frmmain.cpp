@@ -3,8 +3,10 @@
 #include "app/statuspanels.h"
 #include "app/windowbench.h"
 #include "app/windowend.h"
+#include "panes/sidepane.h"
 #include "support/testregistry.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QListWidget>
@@ -55,6 +57,50 @@ private Q_SLOTS:
             QVERIFY(tabs->isVisible());
             QVERIFY2(tabs->width() >= 24 && tabs->height() >= 20, qPrintable(name));
         }
+    }
+
+    /// Tab is the text's, so another key leaves it.
+    void ctrlF6WalksThroughTheWindow()
+    {
+        WindowBench bench;
+        bench.start().show();
+        bench.window->resize(1800, 900);
+        QVERIFY(QTest::qWaitForWindowExposed(bench.window.get()));
+        bench.window->activateWindow();
+        bench.window->rt().setFocus();
+        const auto here = [&] {
+            const QWidget *focus = QApplication::focusWidget();
+            for (const QString &name : {u"rt"_s, u"toolpane"_s, u"cboLang"_s, u"workspace"_s, u"Frame1"_s}) {
+                const QWidget *part = bench.find<QWidget>(name);
+                if (focus == part || part->isAncestorOf(focus))
+                    return name;
+            }
+            // Buttons beside the strips of tabs are of the palette or the side pane.
+            return bench.window->sidePane().isAncestorOf(focus) ? u"Frame1"_s : u"toolpane"_s;
+        };
+        QCOMPARE(here(), u"rt"_s);
+        const QStringList order{u"toolpane"_s, u"Frame1"_s, u"cboLang"_s, u"workspace"_s, u"rt"_s};
+        for (const QString &name : order) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ControlModifier);
+            QCOMPARE(here(), name);
+        }
+        for (auto name = order.rbegin() + 1; name != order.rend(); ++name) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ControlModifier | Qt::ShiftModifier);
+            QCOMPARE(here(), *name);
+        }
+    }
+
+    void aQuickTagWrapsEachSelection()
+    {
+        WindowBench bench;
+        bench.start();
+        bench.window->rt().setText(u"one two one"_s);
+        bench.window->rt().select({0, 0, 0, 3});
+        bench.window->rt().executeCmd(EditorCommand::AddNextOccurrence);
+        bench.click(u"Toolbar_1"_s, u"paragraph"_s);
+        QCOMPARE(bench.window->rt().text().count(u"one</"_s), 2);
+        bench.window->rt().undo();
+        QCOMPARE(bench.window->rt().text(), u"one two one"_s);
     }
 
     void statusBarAtTheStart()
