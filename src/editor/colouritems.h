@@ -32,7 +32,8 @@ struct ColourItemRow {
     ColourItem item;
     ColourTarget target;
     int index;       ///< marker or style number of the editor engine
-    quint32 initial; ///< red in the lowest byte
+    quint32 initial; ///< as shipped in the settings, too; red in the lowest byte
+    quint32 dark;    ///< what shows in place of the initial colour while the desktop is dark
 };
 
 constexpr int bookmarkMarker = 2;
@@ -42,37 +43,37 @@ constexpr int lineNumberStyle = 33;
 
 /// The colour items by number.
 constexpr std::array<ColourItemRow, colourItemTotal> colourItemTable{{
-    {WindowColour, ColourTarget::Window, 0, 0xffffff},
-    {LeftMarginColour, ColourTarget::LeftMargin, 0, 0xf3f0ee},
-    {BookmarkFore, ColourTarget::MarkerFore, bookmarkMarker, 0xffffff},
-    {BookmarkBack, ColourTarget::MarkerBack, bookmarkMarker, 0xb3651e},
-    {TextFore, ColourTarget::StyleFore, 0, 0x27211f},
-    {TextBack, ColourTarget::StyleBack, 0, automaticColour},
-    {NumberFore, ColourTarget::StyleFore, 1, 0x7a4200},
-    {NumberBack, ColourTarget::StyleBack, 1, automaticColour},
-    {KeywordFore, ColourTarget::StyleFore, 2, 0xa82c1b},
-    {KeywordBack, ColourTarget::StyleBack, 2, automaticColour},
-    {OperatorFore, ColourTarget::StyleFore, 3, 0x5f5148},
-    {OperatorBack, ColourTarget::StyleBack, 3, automaticColour},
-    {ScopeKeywordFore, ColourTarget::StyleFore, 4, 0x8a1f6d},
-    {ScopeKeywordBack, ColourTarget::StyleBack, 4, automaticColour},
-    {CommentFore, ColourTarget::StyleFore, 5, 0x3f6b1f},
-    {CommentBack, ColourTarget::StyleBack, 5, automaticColour},
-    {StringFore, ColourTarget::StyleFore, 6, 0x1b2fa3},
-    {StringBack, ColourTarget::StyleBack, 6, automaticColour},
-    {TagTextFore, ColourTarget::StyleFore, 7, 0x4d4338},
-    {TagTextBack, ColourTarget::StyleBack, 7, automaticColour},
-    {TagEntityFore, ColourTarget::StyleFore, 8, 0x0a4fa8},
-    {TagEntityBack, ColourTarget::StyleBack, 8, automaticColour},
-    {TagElementFore, ColourTarget::StyleFore, 9, 0x8f3a0e},
-    {TagElementBack, ColourTarget::StyleBack, 9, automaticColour},
-    {TagAttributeFore, ColourTarget::StyleFore, 10, 0x76166f},
-    {TagAttributeBack, ColourTarget::StyleBack, 10, automaticColour},
-    {LineNumberFore, ColourTarget::StyleFore, lineNumberStyle, 0x7b7268},
-    {LineNumberBack, ColourTarget::StyleBack, lineNumberStyle, 0xf9f7f6},
-    {LineDividerColour, ColourTarget::LineDivider, dividerMarker, 0xd4cdc8},
-    {MarginDividerColour, ColourTarget::MarginDivider, 0, 0xdcd6d2},
-    {HighlightedLineColour, ColourTarget::MarkerBack, highlightMarker, 0xdff6fd},
+    {WindowColour, ColourTarget::Window, 0, 0xffffff, 0x24201e},
+    {LeftMarginColour, ColourTarget::LeftMargin, 0, 0xfaf8f6, 0x302b28},
+    {BookmarkFore, ColourTarget::MarkerFore, bookmarkMarker, 0xa85f1e, 0xffffff},
+    {BookmarkBack, ColourTarget::MarkerBack, bookmarkMarker, 0xf7e6d6, 0xd67f3d},
+    {TextFore, ColourTarget::StyleFore, 0, 0x33291f, 0xe2dbd8},
+    {TextBack, ColourTarget::StyleBack, 0, automaticColour, automaticColour},
+    {NumberFore, ColourTarget::StyleFore, 1, 0x004a8f, 0xffb66c},
+    {NumberBack, ColourTarget::StyleBack, 1, automaticColour, automaticColour},
+    {KeywordFore, ColourTarget::StyleFore, 2, 0x9e2e7a, 0xea92c7},
+    {KeywordBack, ColourTarget::StyleBack, 2, automaticColour, automaticColour},
+    {OperatorFore, ColourTarget::StyleFore, 3, 0x574c3f, 0xc8bcb4},
+    {OperatorBack, ColourTarget::StyleBack, 3, automaticColour, automaticColour},
+    {ScopeKeywordFore, ColourTarget::StyleFore, 4, 0x6f6000, 0x809eff},
+    {ScopeKeywordBack, ColourTarget::StyleBack, 4, automaticColour, automaticColour},
+    {CommentFore, ColourTarget::StyleFore, 5, 0x5f6b5b, 0xab9b8f},
+    {CommentBack, ColourTarget::StyleBack, 5, automaticColour, automaticColour},
+    {StringFore, ColourTarget::StyleFore, 6, 0x346b1a, 0x8acf98},
+    {StringBack, ColourTarget::StyleBack, 6, automaticColour, automaticColour},
+    {TagTextFore, ColourTarget::StyleFore, 7, 0x33291f, 0xe2dbd8},
+    {TagTextBack, ColourTarget::StyleBack, 7, automaticColour, automaticColour},
+    {TagEntityFore, ColourTarget::StyleFore, 8, 0x7a2f8a, 0x72b8e9},
+    {TagEntityBack, ColourTarget::StyleBack, 8, automaticColour, automaticColour},
+    {TagElementFore, ColourTarget::StyleFore, 9, 0xa5550b, 0xe8c46c},
+    {TagElementBack, ColourTarget::StyleBack, 9, automaticColour, automaticColour},
+    {TagAttributeFore, ColourTarget::StyleFore, 10, 0x0f4099, 0x8fb9e6},
+    {TagAttributeBack, ColourTarget::StyleBack, 10, automaticColour, automaticColour},
+    {LineNumberFore, ColourTarget::StyleFore, lineNumberStyle, 0x766b5f, 0xb0a59e},
+    {LineNumberBack, ColourTarget::StyleBack, lineNumberStyle, 0xfaf8f6, 0x2a2623},
+    {LineDividerColour, ColourTarget::LineDivider, dividerMarker, 0xd9d1c9, 0x453e3a},
+    {MarginDividerColour, ColourTarget::MarginDivider, 0, 0xe9e3dd, 0x453e3a},
+    {HighlightedLineColour, ColourTarget::MarkerBack, highlightMarker, 0xfbf6f1, 0x3c322c},
 }};
 
 static_assert([] {

@@ -54,7 +54,10 @@ void EditorAppearance::setColour(int item, quint32 colour)
     if (!isItem(item) || m_looks.colours[static_cast<size_t>(item)] == colour)
         return;
     m_looks.colours[static_cast<size_t>(item)] = colour;
-    applyColour(item);
+    if (m_dark == isDark())
+        applyColour(item);
+    else
+        applyAll();
 }
 
 quint32 EditorAppearance::colour(int item) const
@@ -97,8 +100,28 @@ void EditorAppearance::showStyles()
         applyStyle(item);
 }
 
+/// While the desktop is dark, shipped colours give way to their dark counterparts, unless the user has chosen what the
+/// text and its background look like: then the others are meant to go with these.
+bool EditorAppearance::isDark() const
+{
+    const auto isShipped = [this](int item) {
+        return colour(item) == colourItemTable[static_cast<size_t>(item)].initial;
+    };
+    const QColor paper = m_engine.view().palette().color(QPalette::Active, QPalette::Base);
+    return paper.lightness() < 128 && isShipped(WindowColour) && isShipped(TextFore);
+}
+
+/// The colour of an item, as the desktop has it.
+quint32 EditorAppearance::current(int item) const
+{
+    const ColourItemRow &row = colourItemTable[static_cast<size_t>(item)];
+    const quint32 chosen = m_looks.colours[static_cast<size_t>(item)];
+    return m_dark && chosen == row.initial ? row.dark : chosen;
+}
+
 void EditorAppearance::applyAll()
 {
+    m_dark = isDark();
     applyFont();
     for (int item = 0; item < colourItemTotal; ++item) {
         if (item != WindowColour)
@@ -121,6 +144,10 @@ void EditorAppearance::applyFont()
     m_engine.send(Sci::SCI_STYLESETITALIC, Sci::STYLE_DEFAULT, m_looks.font.italic);
     m_engine.send(Sci::SCI_STYLESETUNDERLINE, Sci::STYLE_DEFAULT, m_looks.font.underline);
     m_engine.send(Sci::SCI_STYLECLEARALL);
+    // What has no picture of its own is painted small and in narrow letters, so that it never makes a line higher.
+    m_engine.sendText(Sci::SCI_STYLESETFONT, Sci::STYLE_CONTROLCHAR, "Sans Serif");
+    m_engine.send(Sci::SCI_STYLESETSIZEFRACTIONAL, Sci::STYLE_CONTROLCHAR,
+                  m_engine.send(Sci::SCI_STYLEGETSIZEFRACTIONAL, Sci::STYLE_DEFAULT) * 4 / 5);
     applyContrast();
 }
 
@@ -146,7 +173,7 @@ void EditorAppearance::setStyle(unsigned int message, int style, qsizetype value
 
 void EditorAppearance::applyColour(int item)
 {
-    const auto [name, target, index, initial] = colourItemTable[static_cast<size_t>(item)];
+    const auto [name, target, index, initial, dark] = colourItemTable[static_cast<size_t>(item)];
     const int plain = engineColour(shown(item));
     switch (target) {
     case ColourTarget::Window:
@@ -188,13 +215,11 @@ void EditorAppearance::applyContrast()
 {
     const QColor window = shown(WindowColour);
     const QColor text = shown(TextFore);
-    const QColor selection =
-        mixed(window, m_engine.view().palette().color(QPalette::Active, QPalette::Highlight), 0.38);
     m_engine.send(Sci::SCI_SETCARETFORE, engineColour(text));
     m_engine.send(Sci::SCI_SETADDITIONALCARETFORE, engineColour(mixed(window, text, 0.6)));
-    m_engine.send(Sci::SCI_SETSELBACK, true, engineColour(selection));
-    m_engine.send(Sci::SCI_SETADDITIONALSELBACK, engineColour(mixed(window, selection, 0.7)));
-    m_engine.send(Sci::SCI_SETWHITESPACEFORE, true, engineColour(mixed(window, text, 0.35)));
+    m_engine.send(Sci::SCI_SETSELBACK, true, engineColour(selectionColour(true)));
+    m_engine.send(Sci::SCI_SETADDITIONALSELBACK, engineColour(selectionColour(false)));
+    m_engine.send(Sci::SCI_SETWHITESPACEFORE, true, engineColour(whitespaceColour()));
     m_engine.send(Sci::SCI_STYLESETFORE, Sci::STYLE_INDENTGUIDE, engineColour(mixed(window, text, 0.25)));
     for (int marker = firstFoldMarker; marker <= lastFoldMarker; ++marker) {
         m_engine.send(Sci::SCI_MARKERSETFORE, marker, engineColour(shown(LeftMarginColour)));
@@ -203,9 +228,22 @@ void EditorAppearance::applyContrast()
     }
 }
 
+QColor EditorAppearance::selectionColour(bool main) const
+{
+    const QColor window = shown(WindowColour);
+    const QColor highlight = m_engine.view().palette().color(QPalette::Active, QPalette::Highlight);
+    const QColor selection = mixed(window, highlight, 0.38);
+    return main ? selection : mixed(window, selection, 0.7);
+}
+
+QColor EditorAppearance::whitespaceColour() const
+{
+    return mixed(shown(WindowColour), shown(TextFore), 0.35);
+}
+
 QColor EditorAppearance::shown(int item) const
 {
-    const quint32 number = m_looks.colours[static_cast<size_t>(item)];
+    const quint32 number = current(item);
     if (number != automaticColour)
         return toQColor(number);
     return item == WindowColour ? QColor(Qt::white) : item == TextFore ? QColor(Qt::black) : shown(TextFore);
@@ -213,7 +251,7 @@ QColor EditorAppearance::shown(int item) const
 
 QColor EditorAppearance::background(int item) const
 {
-    return m_looks.colours[static_cast<size_t>(item)] == automaticColour ? shown(WindowColour) : shown(item);
+    return current(item) == automaticColour ? shown(WindowColour) : shown(item);
 }
 
 } // namespace zephira

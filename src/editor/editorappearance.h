@@ -21,7 +21,8 @@ struct EditorLooks {
 };
 
 /// What the control's text and margins look like: the colour items, the font styles and the font. Values are kept as they
-/// were set, so that they read back exactly, and are translated to the engine's styles on the way.
+/// were set, so that they read back exactly, and are translated to the engine's styles on the way. Under a dark palette
+/// the shipped colours show as their dark counterparts.
 class EditorAppearance
 {
 public:
@@ -46,18 +47,26 @@ public:
     /// Puts all of it into force again; the selection's colours follow the desktop's.
     void applyAll();
 
+    /// What shows in a background, an automatic one included.
+    QColor background(int item) const;
+    /// Behind the main selection, or behind the others.
+    QColor selectionColour(bool main) const;
+    QColor whitespaceColour() const;
+
 private:
     void applyColour(int item);
     void applyStyle(int item);
     void setStyle(unsigned int message, int style, qsizetype value);
     void applyFont();
     void applyContrast();
+    bool isDark() const;
+    quint32 current(int item) const;
     QColor shown(int item) const;
-    QColor background(int item) const;
 
     SciEngine m_engine;
     EditorLooks m_looks;
     bool m_showsStyles = false;
+    bool m_dark = false;
 };
 
 } // namespace zephira

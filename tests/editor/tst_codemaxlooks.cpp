@@ -262,6 +262,101 @@ private Q_SLOTS:
         f.editor.setPalette(palette);
         QVERIFY(f.editor.grab().toImage() != before);
     }
+
+    /// The colours of a new control are those of the settings that the program ships.
+    void newControlsHaveTheShippedColours()
+    {
+        QFile file(QString::fromLatin1(ZEPHIRA_SOURCE_DIR) + u"/data/zephira.ini"_s);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QMap<QString, qint64> shipped;
+        for (const QByteArray &line : file.readAll().split('\n')) {
+            const qsizetype equals = line.indexOf('=');
+            shipped[QString::fromLatin1(line.left(equals))] = line.mid(equals + 1).trimmed().toLongLong();
+        }
+        for (size_t row = 0; row < appearanceRows.size(); ++row) {
+            const auto check = [&](int item, const QString &part) {
+                if (item == noItem)
+                    return;
+                const quint32 colour = static_cast<quint32>(shipped.value(u"clr%1%2"_s.arg(row).arg(part), 77));
+                QCOMPARE(colourItemTable[static_cast<size_t>(item)].initial, colour);
+            };
+            check(appearanceRows[row].foreground, u"fr"_s);
+            check(appearanceRows[row].background, u"bg"_s);
+        }
+    }
+
+    void shippedColoursAreDarkOnADarkDesktop()
+    {
+        EditorFixture f;
+        showPage(f);
+        const QImage light = f.editor.grab().toImage();
+        const QPalette before = f.editor.palette();
+        QVERIFY(paper(f).lightness() > 200);
+        darken(f);
+        QVERIFY(paper(f).lightness() < 60);
+        // What is set reads back as it was.
+        QCOMPARE(f.editor.color(WindowColour), 0xffffffu);
+        for (int item = 0; item < colourItemTotal; ++item)
+            QCOMPARE(f.editor.color(item), colourItemTable[static_cast<size_t>(item)].initial);
+        f.editor.setPalette(before);
+        f.waitForColours();
+        QCOMPARE(f.editor.grab().toImage(), light);
+    }
+
+    /// Every text is readable there: WCAG asks for a contrast of 4.5.
+    void darkColoursAreReadable()
+    {
+        const auto luminance = [](quint32 number) {
+            const QColor colour = toQColor(number);
+            const auto part = [](double share) {
+                return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+            };
+            return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+        };
+        const auto darkOf = [](int item) { return colourItemTable[static_cast<size_t>(item)].dark; };
+        for (const AppearanceRow &row : appearanceRows) {
+            if (row.fontStyle == noItem)
+                continue;
+            const quint32 back =
+                darkOf(row.background) == automaticColour ? darkOf(WindowColour) : darkOf(row.background);
+            for (const quint32 behind : {back, darkOf(HighlightedLineColour)}) {
+                const double contrast = (luminance(darkOf(row.foreground)) + 0.05) / (luminance(behind) + 0.05);
+                QVERIFY2(contrast >= 4.5, qPrintable(QString::fromUtf16(row.name)));
+            }
+        }
+    }
+
+    void chosenColoursStayOnADarkDesktop()
+    {
+        EditorFixture f;
+        showPage(f);
+        f.editor.setColor(WindowColour, 0xf0fff0);
+        darken(f);
+        QCOMPARE(paper(f), QColor(0xf0, 0xff, 0xf0));
+        // One that goes with them is the shipped one.
+        QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETFORE, 0), 0x33291f);
+        f.editor.setColor(WindowColour, 0xffffff);
+        QVERIFY(paper(f).lightness() < 60);
+        f.editor.setColor(KeywordFore, 0x0000ff);
+        QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETFORE, 2), 0x0000ff);
+        QVERIFY(paper(f).lightness() < 60);
+    }
+
+private:
+    static void darken(EditorFixture &f)
+    {
+        QPalette palette = f.editor.palette();
+        palette.setColor(QPalette::Base, QColor(30, 30, 30));
+        palette.setColor(QPalette::Text, QColor(230, 230, 230));
+        f.editor.setPalette(palette);
+        f.waitForColours();
+    }
+
+    static QColor paper(EditorFixture &f)
+    {
+        const QImage picture = f.editor.viewport()->grab().toImage();
+        return picture.pixelColor(picture.width() - 20, picture.height() - 20);
+    }
 };
 
 ZEPHIRA_TEST(TstCodeMaxLooks)
