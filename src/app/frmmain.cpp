@@ -39,6 +39,7 @@
 #include "panes/sidetabbar.h"
 #include "ui_frmmain.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
 
@@ -220,6 +221,15 @@ void frmmain::connectEditor()
         m_recoveryKeeper->textChanged();
     });
     connect(m_rt, &CodeMax::SelChange, this, &frmmain::selectionChanged);
+    connect(m_rt, &CodeMax::CaretLineChosen, this, [this](bool on, bool *handled) {
+        *handled = true;
+        // The menu's entry is the program's own switch for it.
+        QAction *entry = findChild<QAction *>(u"highlightlines"_s);
+        if (entry && m_menus->isChecked(u"highlightlines") != on)
+            entry->trigger();
+        if (on)
+            m_rt->setHighlightedLine(m_rt->selection(true).EndLineNo);
+    });
     m_rt->installEventFilter(this);
     connect(m_rt, &CodeMax::OvertypeChanged, this,
             [this](bool on) { m_panels->setText(StatusPanels::Insert, on ? u"OVR"_s : u"INS"_s); });

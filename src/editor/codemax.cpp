@@ -359,6 +359,23 @@ void CodeMax::setOptions(const EditorOptions &options)
         m_braces->clear();
 }
 
+bool CodeMax::isCaretLineHighlighted() const
+{
+    return m_options.highlightCaretLine || m_margins->highlightedLine() == m_engine.lineOf(m_engine.caret());
+}
+
+void CodeMax::highlightCaretLine(bool on)
+{
+    if (on == isCaretLineHighlighted())
+        return;
+    bool handled = false;
+    Q_EMIT CaretLineChosen(on, &handled);
+    if (handled)
+        return;
+    m_options.highlightCaretLine = on;
+    setOptions(EditorOptions(m_options));
+}
+
 void CodeMax::setReadOnly(bool on)
 {
     m_engine.send(SCI_SETREADONLY, on);

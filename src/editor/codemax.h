@@ -128,6 +128,10 @@ public:
     int fontStyle(int item) const override;
     EditorOptions options() const { return m_options; }
     void setOptions(const EditorOptions &options);
+    /// Whether the caret's line is highlighted, by the control itself or by a program that lets HighlightedLine follow.
+    bool isCaretLineHighlighted() const;
+    /// Switches that on or off, where it isn't so already. A program that lets HighlightedLine follow does it itself.
+    void highlightCaretLine(bool on);
 
     void undo() override;
     void redo() override;
@@ -202,6 +206,8 @@ Q_SIGNALS:
     void SelChange();
     /// A context menu is asked for. Whoever shows one sets *handled, and the control shows none of its own.
     void RClick(bool *handled);
+    /// The user wants the caret's line highlighted, or not. A program that sees to it by HighlightedLine sets *handled.
+    void CaretLineChosen(bool on, bool *handled);
     /// Insert and overtype mode have been exchanged.
     void OvertypeChanged(bool on);
 

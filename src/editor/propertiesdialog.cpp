@@ -100,8 +100,8 @@ void PropertiesDialog::bring()
 
 PropertiesDialog::Settings PropertiesDialog::settingsOf(CodeMax &editor)
 {
-    return {editor.appearance().looks(), editor.options(), editor.displayWhitespace(), editor.displayLeftMargin(),
-            editor.lineNumbering()};
+    return {editor.appearance().looks(), editor.options(),       editor.displayWhitespace(),
+            editor.displayLeftMargin(),  editor.lineNumbering(), editor.isCaretLineHighlighted()};
 }
 
 void PropertiesDialog::apply(CodeMax &editor, const Settings &settings)
@@ -109,6 +109,7 @@ void PropertiesDialog::apply(CodeMax &editor, const Settings &settings)
     editor.appearance().setLooks(settings.looks);
     editor.setEditorFont(settings.looks.font);
     editor.setOptions(settings.options);
+    editor.highlightCaretLine(settings.caretLine);
     editor.setDisplayWhitespace(settings.whitespace);
     editor.setDisplayLeftMargin(settings.leftMargin);
     editor.setLineNumbering(settings.lineNumbers);
@@ -166,7 +167,7 @@ void PropertiesDialog::fillControls()
     m_ui->chkWrap->setChecked(m_draft.options.wordWrap);
     m_ui->chkBraces->setChecked(m_draft.options.matchBraces);
     m_ui->chkFolds->setChecked(m_draft.options.foldMargin);
-    m_ui->chkCaretLine->setChecked(m_draft.options.highlightCaretLine);
+    m_ui->chkCaretLine->setChecked(m_draft.caretLine);
     m_ui->chkWhitespace->setChecked(m_draft.whitespace);
     m_ui->chkLineNumbers->setChecked(m_draft.lineNumbers);
     m_ui->chkLeftMargin->setChecked(m_draft.leftMargin);
@@ -264,7 +265,7 @@ void PropertiesDialog::takeOptions()
     options.wordWrap = m_ui->chkWrap->isChecked();
     options.matchBraces = m_ui->chkBraces->isChecked();
     options.foldMargin = m_ui->chkFolds->isChecked();
-    options.highlightCaretLine = m_ui->chkCaretLine->isChecked();
+    m_draft.caretLine = m_ui->chkCaretLine->isChecked();
     m_draft.whitespace = m_ui->chkWhitespace->isChecked();
     m_draft.lineNumbers = m_ui->chkLineNumbers->isChecked();
     m_draft.leftMargin = m_ui->chkLeftMargin->isChecked();

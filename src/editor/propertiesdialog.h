@@ -40,6 +40,7 @@ private:
         bool whitespace = false;
         bool leftMargin = false;
         bool lineNumbers = true;
+        bool caretLine = false;
 
         friend bool operator==(const Settings &, const Settings &) = default;
     };

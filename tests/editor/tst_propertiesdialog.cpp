@@ -49,6 +49,31 @@ class TstPropertiesDialog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// The program may see to it by letting the highlighted line follow the caret.
+    void theCaretsLineShowsAsItIs()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"a\r\nb"_s);
+        f.editor.setHighlightedLine(0);
+        QList<bool> chosen;
+        connect(&f.editor, &CodeMax::CaretLineChosen, this, [&](bool on, bool *handled) {
+            chosen << on;
+            *handled = true;
+            f.editor.setHighlightedLine(on ? 0 : -1);
+        });
+        Driver d(f);
+        auto &box = d.child<QCheckBox>(u"chkCaretLine"_s);
+        QVERIFY(box.isChecked());
+        box.setChecked(false);
+        d.press(QDialogButtonBox::Apply);
+        QCOMPARE(chosen, QList<bool>{false});
+        QCOMPARE(f.editor.highlightedLine(), -1);
+        d.press(QDialogButtonBox::Cancel);
+        QCOMPARE(chosen, (QList<bool>{false, true}));
+        QCOMPARE(f.editor.highlightedLine(), 0);
+    }
+
     void theListNamesEveryItem()
     {
         EditorFixture f;
