@@ -63,7 +63,8 @@ public:
     }
     void operator()(const WrapsSelection &effect) const
     {
-        m_context.editor.setSelText(effect.before % m_context.editor.selText() % effect.after);
+        m_context.editor.replaceSelections(
+            [&effect](const QString &text) { return QString(effect.before % text % effect.after); });
     }
     void operator()(const InsertsTag &effect) const
     {
@@ -71,7 +72,7 @@ public:
         if (tag.kind == TagKind::TagEditor)
             m_context.forms.openModal(tag.form().toString());
         else
-            m_context.editor.setSelText(quickTagText(tag, m_context.editor.selText()));
+            m_context.editor.replaceSelections([&tag](const QString &text) { return quickTagText(tag, text); });
     }
 
 private:

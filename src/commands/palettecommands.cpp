@@ -3,6 +3,7 @@
 
 #include "commands/commandparts.h"
 #include "commands/helppages.h"
+#include "core/designer.h"
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
 #include "core/formopener.h"
@@ -57,12 +58,21 @@ void PaletteCommands::run(const QuickTag &tag)
 
 void PaletteCommands::heading(int size)
 {
-    m_context.inserter.InsertAtCaret(headingText(size, m_context.editor.selText()));
+    wrapSelection([size](const QString &selection) { return headingText(size, selection); });
 }
 
 void PaletteCommands::insertText(const QuickTag &tag)
 {
-    m_context.inserter.InsertAtCaret(quickTagText(tag, m_context.editor.selText()));
+    wrapSelection([&tag](const QString &selection) { return quickTagText(tag, selection); });
+}
+
+/// Each of several selections is wrapped for itself.
+void PaletteCommands::wrapSelection(const std::function<QString(const QString &)> &wrap)
+{
+    if (m_context.editor.selectionCount() > 1 && !m_context.designer.isShowing())
+        m_context.editor.replaceSelections(wrap);
+    else
+        m_context.inserter.InsertAtCaret(wrap(m_context.editor.selText()));
 }
 
 void PaletteCommands::openForm(const QuickTag &tag)

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace zephira {
 
 class PaneCommands;
@@ -29,6 +31,7 @@ private:
     static Handler handlerOf(TagKind kind);
 
     void insertText(const QuickTag &tag);
+    void wrapSelection(const std::function<QString(const QString &)> &wrap);
     void openForm(const QuickTag &tag);
     void wrapDocument(const QuickTag &tag);
     void insertTitle(const QuickTag &tag);

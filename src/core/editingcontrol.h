@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 
 namespace zephira {
 
@@ -41,6 +42,11 @@ public:
     /// Replaces the selection, or inserts at the caret; the caret then stands after the new text.
     virtual void setSelText(const QString &text) = 0;
     virtual int selLength() const = 0;
+    /// How many stretches of text are selected, or carets placed, at the same time; at least 1.
+    virtual int selectionCount() const { return 1; }
+    /// Replaces each of the selections by what `make` gives for its text; the carets then stand behind the new texts. All
+    /// of it is undone in one step.
+    virtual void replaceSelections(const std::function<QString(const QString &)> &make) { setSelText(make(selText())); }
     virtual QString currentWord() const = 0;
     virtual int lineCount() const = 0;
 

@@ -80,6 +80,8 @@ public:
     QString selText() const override;
     void setSelText(const QString &text) override;
     int selLength() const override;
+    int selectionCount() const override;
+    void replaceSelections(const std::function<QString(const QString &)> &make) override;
     QString currentWord() const override;
     int lineCount() const override;
     QString language() const override { return m_language; }

@@ -7,6 +7,8 @@
 #include "syntax/syntaxstyle.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace zephira {
 
@@ -93,6 +95,39 @@ void CodeMax::setSelText(const QString &text)
         replaceBytes(start, m_engine.send(SCI_GETSELECTIONEND), utf8);
         m_engine.send(SCI_ENDUNDOACTION);
         m_engine.send(SCI_SETEMPTYSELECTION, start + utf8.size());
+        m_engine.send(SCI_SCROLLCARET);
+        m_engine.send(SCI_CHOOSECARETX);
+        m_changed = true;
+    });
+}
+
+int CodeMax::selectionCount() const
+{
+    return static_cast<int>(m_engine.send(SCI_GETSELECTIONS));
+}
+
+void CodeMax::replaceSelections(const std::function<QString(const QString &)> &make)
+{
+    perform([&] {
+        const WritableWhile writable(m_engine);
+        std::vector<std::pair<qsizetype, qsizetype>> ranges;
+        for (int i = 0; i < selectionCount(); ++i)
+            ranges.emplace_back(m_engine.send(SCI_GETSELECTIONNSTART, i), m_engine.send(SCI_GETSELECTIONNEND, i));
+        std::ranges::sort(ranges);
+        std::vector<qsizetype> carets;
+        qsizetype moved = 0;
+        m_engine.send(SCI_BEGINUNDOACTION);
+        for (const auto &[start, end] : ranges) {
+            const QString old = fromBuffer(m_engine.bytes(start + moved, end + moved), textFormat().lineEnds);
+            const QByteArray utf8 = toBuffer(make(old), textFormat().lineEnds);
+            replaceBytes(start + moved, end + moved, utf8);
+            carets.push_back(start + moved + utf8.size());
+            moved += utf8.size() - (end - start);
+        }
+        m_engine.send(SCI_ENDUNDOACTION);
+        m_engine.send(SCI_SETEMPTYSELECTION, carets.front());
+        for (size_t i = 1; i < carets.size(); ++i)
+            m_engine.send(SCI_ADDSELECTION, carets[i], carets[i]);
         m_engine.send(SCI_SCROLLCARET);
         m_engine.send(SCI_CHOOSECARETX);
         m_changed = true;
