@@ -41,6 +41,7 @@ enum class EditorCommand : int {
     CopyText,
     PasteText,
     DeleteText,
+    AddNextOccurrence,
 };
 
 constexpr int numberOf(EditorCommand command)

@@ -47,6 +47,7 @@ constexpr std::array engineSettings{
     Setting{QsciScintillaBase::SCI_SETTABINDENTS, 1, 0},
     Setting{QsciScintillaBase::SCI_SETMULTIPLESELECTION, 1, 0},
     Setting{QsciScintillaBase::SCI_SETADDITIONALSELECTIONTYPING, 1, 0},
+    Setting{QsciScintillaBase::SCI_SETSEARCHFLAGS, QsciScintillaBase::SCFIND_MATCHCASE, 0},
     Setting{QsciScintillaBase::SCI_SETMULTIPASTE, QsciScintillaBase::SC_MULTIPASTE_EACH, 0},
     Setting{QsciScintillaBase::SCI_SETVIRTUALSPACEOPTIONS, QsciScintillaBase::SCVS_RECTANGULARSELECTION, 0},
     Setting{QsciScintillaBase::SCI_SETRECTANGULARSELECTIONMODIFIER, QsciScintillaBase::SCMOD_ALT, 0},

@@ -66,6 +66,8 @@ void CodeMax::runCommand(int command)
         {FindNextByKey, [](CodeMax &editor) { editor.findNext(false); }},
         {TransposeLines, [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_LINETRANSPOSE); }); }},
         {SelectWord, [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_MULTIPLESELECTADDNEXT); }); }},
+        {AddNextOccurrence,
+         [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_MULTIPLESELECTADDNEXT); }); }},
         {FindPrevious, [](CodeMax &editor) { editor.findNext(true); }},
         {ToggleBookmark,
          [](CodeMax &editor) { editor.m_margins->toggleBookmark(editor.m_engine.lineOf(editor.m_engine.caret())); }},
@@ -87,7 +89,7 @@ void CodeMax::runCommand(int command)
         {CutText, [](CodeMax &editor) { editor.cut(); }},
         {CopyText, [](CodeMax &editor) { editor.copy(); }},
         {PasteText, [](CodeMax &editor) { editor.paste(); }},
-        {DeleteText, [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_CLEAR); }); }},
+        {DeleteText, [](CodeMax &editor) { editor.perform([&] { editor.m_typing.deleteForward(); }); }},
     };
     const auto row = std::ranges::find(rows, static_cast<EditorCommand>(command), &Row::command);
     if (row != std::end(rows))
@@ -120,6 +122,7 @@ void CodeMax::goToPosition(qsizetype position)
     perform([&] {
         m_engine.send(SCI_ENSUREVISIBLE, m_engine.lineOf(position));
         m_engine.send(SCI_GOTOPOS, position);
+        m_engine.send(SCI_CHOOSECARETX);
     });
 }
 
@@ -188,6 +191,7 @@ void CodeMax::goToMatchingBrace(bool selecting)
     perform([&] {
         m_engine.send(SCI_SETSEL, std::min(pair->firstStart, pair->secondStart),
                       std::max(pair->firstEnd, pair->secondEnd));
+        m_engine.send(SCI_CHOOSECARETX);
     });
 }
 

@@ -224,6 +224,7 @@ void CodeMax::select(const CodeMaxRange &range)
         m_engine.send(SCI_ENSUREVISIBLE, m_engine.lineOf(anchor));
         m_engine.send(SCI_ENSUREVISIBLE, m_engine.lineOf(caret));
         m_engine.send(SCI_SETSEL, anchor, caret);
+        m_engine.send(SCI_CHOOSECARETX);
     });
 }
 

@@ -70,7 +70,8 @@ constexpr std::array hotKeys{
     row(Sci::SCI_ZOOMIN, CtrlShift, Qt::Key_Plus),
     row(Sci::SCI_ZOOMIN, Ctrl, Qt::Key_Equal),
     row(Sci::SCI_ZOOMOUT, Ctrl, Qt::Key_Minus),
-    row(Sci::SCI_SELECTIONDUPLICATE, Ctrl, Qt::Key_D),
+    row(AddNextOccurrence, Ctrl, Qt::Key_D),
+    row(Sci::SCI_SELECTIONDUPLICATE, CtrlShift, Qt::Key_D),
     row(Sci::SCI_LINEDELETE, CtrlShift, Qt::Key_L),
     row(Sci::SCI_LOWERCASE, Ctrl, Qt::Key_U),
     row(Sci::SCI_UPPERCASE, CtrlShift, Qt::Key_U),
@@ -90,7 +91,7 @@ bool isShortcutLike(QKeyCombination keys)
     const auto modifiers = keys.keyboardModifiers();
     const bool character = keys.key() >= Qt::Key_Space && keys.key() <= Qt::Key_ydiaeresis;
     const bool control = modifiers & Qt::ControlModifier && !(modifiers & Qt::AltModifier);
-    return (character && control) || keys.key() == Qt::Key_Delete
+    return (character && control) || (keys.key() == Qt::Key_Delete && !control)
         || (keys.key() >= Qt::Key_F1 && keys.key() <= Qt::Key_F35);
 }
 

@@ -99,6 +99,14 @@ void EditorMargins::updateWidths()
     setWidth(Divider, m_leftMargin || m_lineNumbers || m_folds ? 1 : 0);
 }
 
+qsizetype EditorMargins::width() const
+{
+    qsizetype width = 0;
+    for (qsizetype margin = 0; margin < m_engine.send(Sci::SCI_GETMARGINS); ++margin)
+        width += m_engine.send(Sci::SCI_GETMARGINWIDTHN, margin);
+    return width;
+}
+
 void EditorMargins::setMark(qsizetype line, int marker, bool on)
 {
     if (line < 0 || line >= m_engine.lineCount())

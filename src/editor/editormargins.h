@@ -21,6 +21,8 @@ public:
     void setFolds(bool on);
     /// Fits the widths to the number of lines and to the size of the font.
     void updateWidths();
+    /// Of all margins together, in pixels.
+    qsizetype width() const;
 
     /// Draws the line behind the text of a 0-based line, none for -1 and for lines that the text doesn't have.
     void setHighlightedLine(qsizetype line);

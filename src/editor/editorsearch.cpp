@@ -138,6 +138,7 @@ void EditorSearch::show(const TextMatch &match)
         engine.send(Sci::SCI_ENSUREVISIBLE, engine.lineOf(range.first));
         engine.send(Sci::SCI_ENSUREVISIBLE, engine.lineOf(range.second));
         engine.send(Sci::SCI_SETSEL, range.first, range.second);
+        engine.send(Sci::SCI_CHOOSECARETX);
     });
     m_last = match;
 }

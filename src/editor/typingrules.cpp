@@ -2,8 +2,14 @@
 #include "editor/typingrules.h"
 
 #include "editor/editorcommands.h"
+#include "editor/graphemes.h"
 
 #include <QKeyEvent>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <utility>
 
 namespace zephira {
 
@@ -14,6 +20,29 @@ using Sci = QsciScintillaBase;
 bool isLineBreak(const QKeyEvent &key)
 {
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+bool isPlainBackspace(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Backspace && !(key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
+}
+
+bool isBlank(QByteArrayView text)
+{
+    return std::ranges::all_of(text, [](char c) { return c == ' ' || c == '\t'; });
+}
+
+/// What the Enter key puts at a line's end.
+QByteArray lineEndOf(const SciEngine &engine)
+{
+    switch (engine.send(Sci::SCI_GETEOLMODE)) {
+    case Sci::SC_EOL_LF:
+        return "\n";
+    case Sci::SC_EOL_CR:
+        return "\r";
+    default:
+        return "\r\n";
+    }
 }
 
 } // namespace
@@ -30,30 +59,155 @@ void TypingRules::type(const QKeyEvent &key, const std::function<void()> &engine
 {
     if (m_overtype)
         m_engine.send(Sci::SCI_SETOVERTYPE, true);
-    if (isLineBreak(key)) {
-        // A new line and its indentation go away in one step.
-        m_engine.send(Sci::SCI_BEGINUNDOACTION);
+    const std::vector<qsizetype> before = carets();
+    if (isLineBreak(key))
+        breakLine(engineTypes);
+    else if (!isPlainBackspace(key) || !eraseCharacters(true))
         engineTypes();
-        if (m_options.autoIndent && !m_engine.send(Sci::SCI_GETREADONLY))
-            indentNewLine();
-        m_engine.send(Sci::SCI_ENDUNDOACTION);
-    } else {
-        engineTypes();
-    }
+    settleCarets(before);
     m_engine.send(Sci::SCI_SETOVERTYPE, false);
 }
 
-/// Gives the line at the caret the indentation of the line above.
+/// A new line and its indentation go away in one step.
+void TypingRules::breakLine(const std::function<void()> &engineTypes) const
+{
+    const bool readOnly = m_engine.send(Sci::SCI_GETREADONLY);
+    m_engine.send(Sci::SCI_BEGINUNDOACTION);
+    if (hasSeveral() && !readOnly) {
+        breakLines();
+    } else {
+        engineTypes();
+        if (m_options.autoIndent && !readOnly)
+            indentNewLine();
+    }
+    m_engine.send(Sci::SCI_ENDUNDOACTION);
+}
+
+/// Puts a line end at each caret; the engine would keep only one of them.
+void TypingRules::breakLines() const
+{
+    std::vector<std::pair<qsizetype, qsizetype>> ranges;
+    for (qsizetype i = 0; i < m_engine.send(Sci::SCI_GETSELECTIONS); ++i)
+        ranges.emplace_back(m_engine.send(Sci::SCI_GETSELECTIONNSTART, i), m_engine.send(Sci::SCI_GETSELECTIONNEND, i));
+    std::ranges::sort(ranges);
+    const QByteArray lineEnd = lineEndOf(m_engine);
+    std::vector<qsizetype> after;
+    qsizetype moved = 0;
+    for (const auto &[start, end] : ranges) {
+        const qsizetype at = start + moved;
+        const QByteArrayView above = m_engine.bytes(m_engine.lineStart(m_engine.lineOf(at)), at);
+        const QByteArray text = m_options.autoIndent ? lineEnd + indentBelow(above, m_options) : lineEnd;
+        m_engine.replace(at, end + moved, text);
+        after.push_back(at + text.size());
+        moved += text.size() - (end - start);
+    }
+    m_engine.send(Sci::SCI_SETEMPTYSELECTION, after.front());
+    for (size_t i = 1; i < after.size(); ++i)
+        m_engine.send(Sci::SCI_ADDSELECTION, after[i], after[i]);
+    m_engine.send(Sci::SCI_SCROLLCARET);
+    m_engine.send(Sci::SCI_CHOOSECARETX);
+}
+
+bool TypingRules::hasSeveral() const
+{
+    return m_engine.send(Sci::SCI_GETSELECTIONS) > 1 || m_engine.send(Sci::SCI_SELECTIONISRECTANGLE);
+}
+
+bool TypingRules::keepOneCaret() const
+{
+    if (!hasSeveral())
+        return false;
+    const qsizetype main = m_engine.send(Sci::SCI_GETMAINSELECTION);
+    const qsizetype caret = m_engine.send(Sci::SCI_GETSELECTIONNCARET, main);
+    const qsizetype anchor = m_engine.send(Sci::SCI_GETSELECTIONNANCHOR, main);
+    m_engine.send(Sci::SCI_SETSELECTION, caret, anchor);
+    return true;
+}
+
+/// Deletes what stands in front of the carets, or behind them. False where nothing but single code points would go, or
+/// something is selected: the engine does these by itself.
+bool TypingRules::eraseCharacters(bool backward) const
+{
+    if (!m_engine.send(Sci::SCI_GETSELECTIONEMPTY) || m_engine.send(Sci::SCI_SELECTIONISRECTANGLE)
+        || m_engine.send(Sci::SCI_GETREADONLY))
+        return false;
+    std::vector<std::pair<qsizetype, qsizetype>> ranges;
+    bool joined = false;
+    for (const qsizetype caret : carets()) {
+        const qsizetype line = m_engine.lineOf(caret);
+        const qsizetype start = m_engine.lineStart(line);
+        const QByteArrayView text = m_engine.bytes(start, m_engine.lineEnd(line));
+        const qsizetype at = std::min(caret - start, text.size());
+        const qsizetype one = m_engine.send(backward ? Sci::SCI_POSITIONBEFORE : Sci::SCI_POSITIONAFTER, caret);
+        const qsizetype to = start + (backward ? graphemeBefore(text, at) : graphemeBehind(text, at));
+        const bool inLine = backward ? at > 0 : at < text.size();
+        joined |= inLine && to != one;
+        const qsizetype other = inLine ? to : one;
+        ranges.emplace_back(std::min(caret, other), std::max(caret, other));
+    }
+    if (!joined)
+        return false;
+    std::ranges::sort(ranges);
+    m_engine.send(Sci::SCI_BEGINUNDOACTION);
+    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range)
+        m_engine.replace(range->first, range->second, {});
+    m_engine.send(Sci::SCI_ENDUNDOACTION);
+    m_engine.send(Sci::SCI_SCROLLCARET);
+    m_engine.send(Sci::SCI_CHOOSECARETX);
+    return true;
+}
+
+void TypingRules::deleteForward() const
+{
+    if (!eraseCharacters(false))
+        m_engine.send(Sci::SCI_CLEAR);
+}
+
+std::vector<qsizetype> TypingRules::carets() const
+{
+    std::vector<qsizetype> positions(static_cast<size_t>(m_engine.send(Sci::SCI_GETSELECTIONS)));
+    for (size_t i = 0; i < positions.size(); ++i)
+        positions[i] = m_engine.send(Sci::SCI_GETSELECTIONNCARET, static_cast<qsizetype>(i));
+    return positions;
+}
+
+void TypingRules::settleCarets(const std::vector<qsizetype> &before) const
+{
+    if (m_engine.send(Sci::SCI_SELECTIONISRECTANGLE))
+        return;
+    const std::vector<qsizetype> now = carets();
+    for (size_t i = 0; i < now.size(); ++i) {
+        const bool forward = before.size() == now.size() && now[i] > before[i];
+        const qsizetype line = m_engine.lineOf(now[i]);
+        const qsizetype start = m_engine.lineStart(line);
+        const QByteArrayView text = m_engine.bytes(start, m_engine.lineEnd(line));
+        const qsizetype at = now[i] - start;
+        if (at > text.size())
+            continue;
+        const qsizetype settled = start + (forward ? graphemeEnd(text, at) : graphemeStart(text, at));
+        if (settled == now[i])
+            continue;
+        const auto index = static_cast<qsizetype>(i);
+        if (m_engine.send(Sci::SCI_GETSELECTIONNANCHOR, index) == now[i])
+            m_engine.send(Sci::SCI_SETSELECTIONNANCHOR, index, settled);
+        m_engine.send(Sci::SCI_SETSELECTIONNCARET, index, settled);
+    }
+}
+
+/// Gives the line at the caret the indentation of the line above. One that holds nothing else loses its own.
 void TypingRules::indentNewLine() const
 {
     const qsizetype caret = m_engine.caret();
     const qsizetype line = m_engine.lineOf(caret);
     if (m_engine.send(Sci::SCI_GETSELECTIONS) > 1 || line == 0 || caret != m_engine.lineStart(line))
         return;
-    const QByteArray indent =
-        indentBelow(m_engine.bytes(m_engine.lineStart(line - 1), m_engine.lineEnd(line - 1)), m_options);
+    const QByteArrayView above = m_engine.bytes(m_engine.lineStart(line - 1), m_engine.lineEnd(line - 1));
+    const bool blank = isBlank(above);
+    const QByteArray indent = indentBelow(above, m_options);
     m_engine.replace(caret, caret, indent);
-    m_engine.send(Sci::SCI_SETEMPTYSELECTION, caret + indent.size());
+    if (blank)
+        m_engine.replace(m_engine.lineStart(line - 1), m_engine.lineEnd(line - 1), {});
+    m_engine.send(Sci::SCI_SETEMPTYSELECTION, m_engine.lineStart(line) + indent.size());
     m_engine.send(Sci::SCI_SCROLLCARET);
     m_engine.send(Sci::SCI_CHOOSECARETX);
 }

@@ -7,6 +7,7 @@
 #include <QByteArray>
 
 #include <functional>
+#include <vector>
 
 class QKeyEvent;
 
@@ -28,6 +29,16 @@ public:
     /// Types a key. `engineTypes` gives the key to the engine; it is called once.
     void type(const QKeyEvent &key, const std::function<void()> &engineTypes) const;
 
+    /// Deletes what the user sees as the next character, or the selections.
+    void deleteForward() const;
+    /// Where the carets stand, to be asked in front of something that moves them.
+    std::vector<qsizetype> carets() const;
+    /// Takes carets out of characters with accents and joined emoji: on in the direction in which they have moved from
+    /// where they were, and back to the character's beginning if that isn't known.
+    void settleCarets(const std::vector<qsizetype> &before = {}) const;
+    /// Goes back from several carets, or a rectangle, to the one that was made last. False where there is only one.
+    bool keepOneCaret() const;
+
     /// Whether the key types nothing and is the window's.
     static bool isLeftToWindow(const QKeyEvent &key);
     /// Whether the key is Delete without Shift, Ctrl or Alt.
@@ -37,6 +48,10 @@ public:
     static QByteArray indentBelow(QByteArrayView above, const EditorOptions &options);
 
 private:
+    bool hasSeveral() const;
+    bool eraseCharacters(bool backward) const;
+    void breakLine(const std::function<void()> &engineTypes) const;
+    void breakLines() const;
     void indentNewLine() const;
 
     SciEngine m_engine;
