@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/accessibleeditor.h"
 
+#include "editor/bidipainter.h"
 #include "editor/buffertext.h"
 #include "editor/codemax.h"
 
@@ -162,7 +163,10 @@ int AccessibleEditor::cursorPosition() const
 
 void AccessibleEditor::setCursorPosition(int offset)
 {
-    m_editor.perform([&] { engine().send(Sci::SCI_GOTOPOS, toPosition(offset)); });
+    m_editor.perform([&] {
+        engine().send(Sci::SCI_GOTOPOS, toPosition(offset));
+        engine().send(Sci::SCI_CHOOSECARETX);
+    });
 }
 
 QString AccessibleEditor::text(int start, int end) const
@@ -228,6 +232,9 @@ QString AccessibleEditor::textAfterOffset(int offset, QAccessible::TextBoundaryT
 QRect AccessibleEditor::characterRect(int offset) const
 {
     const qsizetype position = toPosition(offset);
+    const QRectF rightToLeft = m_editor.bidi().characterRect(position);
+    if (!rightToLeft.isEmpty())
+        return {m_editor.viewport()->mapToGlobal(rightToLeft.topLeft()).toPoint(), rightToLeft.size().toSize()};
     const auto coordinate = [&](unsigned int message, qsizetype at) {
         return static_cast<int>(engine().send(message, 0, at));
     };
@@ -240,7 +247,7 @@ QRect AccessibleEditor::characterRect(int offset) const
 
 int AccessibleEditor::offsetAtPoint(const QPoint &point) const
 {
-    const QPoint at = m_editor.viewport()->mapFromGlobal(point);
+    const QPoint at = m_editor.bidi().toEngine(m_editor.viewport()->mapFromGlobal(point)).toPoint();
     const qsizetype position = engine().send(Sci::SCI_CHARPOSITIONFROMPOINTCLOSE, at.x(), at.y());
     return position < 0 ? -1 : toOffset(position);
 }

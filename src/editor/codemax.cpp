@@ -2,6 +2,7 @@
 #include "editor/codemax.h"
 
 #include "editor/accessibleeditor.h"
+#include "editor/bidipainter.h"
 #include "editor/bracematcher.h"
 #include "editor/buffertext.h"
 #include "editor/codemaxglobals.h"
@@ -78,6 +79,7 @@ CodeMax::CodeMax(EditorServices services, QWidget *parent)
     , m_margins(std::make_unique<EditorMargins>(m_engine))
     , m_colouring(std::make_unique<IdleColouring>(m_engine))
     , m_braces(std::make_unique<BraceMatcher>(m_engine))
+    , m_bidi(std::make_unique<BidiPainter>(m_engine, *m_appearance))
     , m_file(services.files, services.recovery)
     , m_format(m_engine)
     , m_typing(m_engine)
@@ -118,7 +120,10 @@ void CodeMax::connectEngine()
             noteSelection();
     });
     connect(this, &QsciScintillaBase::SCN_STYLENEEDED, m_colouring.get(), &IdleColouring::colourTo);
-    connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { m_margins->updateWidths(); });
+    connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] {
+        m_margins->updateWidths();
+        m_bidi->fontChanged();
+    });
     connect(this, &QsciScintillaBase::SCN_MARGINCLICK, this, [this](int position, int, int margin) {
         if (margin == EditorMargins::Bookmarks)
             m_margins->toggleBookmark(m_engine.lineOf(position));
@@ -149,7 +154,9 @@ void CodeMax::settleInsertion()
     const auto [position, length] = std::exchange(m_inserted, {});
     if (length == 0)
         return;
-    m_units += utf16Length(m_engine.bytes(position, position + length));
+    const QByteArrayView text = m_engine.bytes(position, position + length);
+    m_units += utf16Length(text);
+    m_bidi->learn(text);
     m_news.inserted(position, length);
 }
 
@@ -304,6 +311,7 @@ FontChoice CodeMax::editorFont() const
 void CodeMax::setEditorFont(const FontChoice &font)
 {
     m_appearance->setFont(font);
+    m_bidi->fontChanged();
     m_margins->updateWidths();
     showStrikethrough();
 }

@@ -17,10 +17,12 @@
 #include <QVariantMap>
 
 #include <array>
+#include <functional>
 #include <memory>
 
 namespace zephira {
 
+class BidiPainter;
 class BraceMatcher;
 class CodeMaxGlobals;
 class EditorAppearance;
@@ -186,6 +188,7 @@ public:
     EditorAppearance &appearance() { return *m_appearance; }
     EditorMargins &margins() { return *m_margins; }
     IdleColouring &colouring() { return *m_colouring; }
+    const BidiPainter &bidi() const { return *m_bidi; }
     EditorSearch &search();
     EditorPrinter &printer();
     /// Hears what assistive technology is told, in its place, and also while none is running.
@@ -217,6 +220,7 @@ protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
@@ -269,6 +273,8 @@ private:
     bool takesDrop(const QDropEvent &event) const;
     void showContextMenu(const QPoint &at);
     void underlineNumbers();
+    bool addsCaret(QMouseEvent *event);
+    void giveToEngine(QMouseEvent *event, const std::function<void(QMouseEvent *)> &handle);
 
     EditorServices m_services;
     SciEngine m_engine;
@@ -277,6 +283,7 @@ private:
     std::unique_ptr<EditorMargins> m_margins;
     std::unique_ptr<IdleColouring> m_colouring;
     std::unique_ptr<BraceMatcher> m_braces;
+    std::unique_ptr<BidiPainter> m_bidi;
     std::unique_ptr<EditorSearch> m_search;
     std::unique_ptr<EditorPrinter> m_printer;
     DocumentFile m_file;
@@ -299,6 +306,7 @@ private:
     bool m_boundsShown = false;
     bool m_strikeShown = false;
     bool m_dragDrop = true;
+    bool m_addsCaret = false;
     QPointer<FindDialog> m_findDialog;
     QPointer<GoToDialog> m_goToDialog;
     QPointer<PropertiesDialog> m_properties;

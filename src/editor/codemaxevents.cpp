@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keys, mouse, drops and the context menu of the editing control.
+#include "editor/bidipainter.h"
 #include "editor/codemax.h"
 #include "editor/codemaxglobals.h"
 #include "editor/colouritems.h"
@@ -37,6 +38,11 @@ void CodeMax::keyPressEvent(QKeyEvent *event)
     if (const auto command = m_globals->commandFor(event->keyCombination())) {
         executeCmd(*command);
         event->accept();
+    } else if (event->key() == Qt::Key_Escape) {
+        // With one caret the key is the window's.
+        bool kept = false;
+        perform([&] { kept = m_typing.keepOneCaret(); });
+        event->setAccepted(kept);
     } else if (TypingRules::isLeftToWindow(*event)) {
         event->ignore();
     } else {
@@ -49,26 +55,75 @@ void CodeMax::inputMethodEvent(QInputMethodEvent *event)
     perform([&] { QsciScintillaBase::inputMethodEvent(event); });
 }
 
+/// Gives an event to the engine at the place where that has what is painted under the mouse.
+void CodeMax::giveToEngine(QMouseEvent *event, const std::function<void(QMouseEvent *)> &handle)
+{
+    QMouseEvent moved(event->type(), m_bidi->toEngine(event->position()), event->scenePosition(),
+                      event->globalPosition(), event->button(), event->buttons(), event->modifiers(),
+                      event->pointingDevice());
+    moved.setTimestamp(event->timestamp());
+    perform([&] {
+        handle(&moved);
+        m_typing.settleCarets();
+    });
+}
+
+/// With Ctrl the engine would begin a rectangle; here it adds a caret, which selects while the mouse is dragged. A
+/// rectangle is what Alt is for.
+bool CodeMax::addsCaret(QMouseEvent *event)
+{
+    const bool pressed = event->type() == QEvent::MouseButtonPress;
+    if (pressed)
+        m_addsCaret = event->button() == Qt::LeftButton && event->modifiers() == Qt::ControlModifier
+            && event->position().x() >= static_cast<double>(m_margins->width());
+    if (!m_addsCaret)
+        return false;
+    const QPoint point = m_bidi->toEngine(event->position()).toPoint();
+    const qsizetype at = m_engine.send(SCI_POSITIONFROMPOINT, point.x(), point.y());
+    perform([&] {
+        if (pressed)
+            m_engine.send(SCI_ADDSELECTION, at, at);
+        else
+            m_engine.send(SCI_SETSELECTIONNCARET, m_engine.send(SCI_GETMAINSELECTION), at);
+        m_typing.settleCarets();
+    });
+    if (event->type() == QEvent::MouseButtonRelease)
+        m_addsCaret = false;
+    event->accept();
+    return true;
+}
+
 void CodeMax::mousePressEvent(QMouseEvent *event)
 {
-    perform([&] {
-        if (!m_dragDrop && event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+    if (addsCaret(event))
+        return;
+    giveToEngine(event, [this](QMouseEvent *press) {
+        if (!m_dragDrop && press->button() == Qt::LeftButton && press->modifiers() == Qt::NoModifier) {
             // The engine drags a selection that is pressed on; without one there is nothing to drag.
-            const QPoint at = event->position().toPoint();
+            const QPoint at = press->position().toPoint();
             m_engine.send(SCI_SETEMPTYSELECTION, m_engine.send(SCI_POSITIONFROMPOINT, at.x(), at.y()));
         }
-        QsciScintillaBase::mousePressEvent(event);
+        QsciScintillaBase::mousePressEvent(press);
     });
+}
+
+void CodeMax::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    giveToEngine(event, [this](QMouseEvent *click) { QsciScintillaBase::mouseDoubleClickEvent(click); });
 }
 
 void CodeMax::mouseMoveEvent(QMouseEvent *event)
 {
-    perform([&] { QsciScintillaBase::mouseMoveEvent(event); });
+    if (addsCaret(event))
+        return;
+    giveToEngine(event, [this](QMouseEvent *move) { QsciScintillaBase::mouseMoveEvent(move); });
 }
 
 void CodeMax::mouseReleaseEvent(QMouseEvent *event)
 {
-    perform([&] { QsciScintillaBase::mouseReleaseEvent(event); });
+    if (addsCaret(event))
+        return;
+    giveToEngine(event, [this](QMouseEvent *release) { QsciScintillaBase::mouseReleaseEvent(release); });
 }
 
 void CodeMax::wheelEvent(QWheelEvent *event)
@@ -129,6 +184,9 @@ void CodeMax::showEvent(QShowEvent *event)
 void CodeMax::paintEvent(QPaintEvent *event)
 {
     QsciScintillaBase::paintEvent(event);
+    QPainter painter(viewport());
+    m_bidi->paint(painter, event->rect());
+    painter.end();
     if (m_margins->lineNumbers() && m_appearance->fontStyle(LineNumberFont) & UnderlinedStyle)
         underlineNumbers();
 }
@@ -158,7 +216,8 @@ void CodeMax::underlineNumbers()
 void CodeMax::contextMenuEvent(QContextMenuEvent *event)
 {
     if (event->reason() == QContextMenuEvent::Mouse) {
-        const qsizetype at = m_engine.send(SCI_POSITIONFROMPOINT, event->x(), event->y());
+        const QPoint point = m_bidi->toEngine(event->pos()).toPoint();
+        const qsizetype at = m_engine.send(SCI_POSITIONFROMPOINT, point.x(), point.y());
         const bool inSelection =
             canCopy() && at >= m_engine.send(SCI_GETSELECTIONSTART) && at <= m_engine.send(SCI_GETSELECTIONEND);
         if (!inSelection)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Text and selection of the editing control.
+#include "editor/bidipainter.h"
 #include "editor/bracematcher.h"
 #include "editor/buffertext.h"
 #include "editor/codemax.h"
@@ -193,6 +194,7 @@ void CodeMax::replaceDocument(const DecodedText &document)
     if (m_engine.send(SCI_GETLINECHARACTERINDEX) & SC_LINECHARACTERINDEX_UTF16)
         m_engine.send(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF16);
     m_inserted = {};
+    m_bidi->learn(utf8);
     m_engine.send(SCI_ALLOCATE, utf8.size() + 1);
     m_engine.sendText(SCI_APPENDTEXT, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
     m_units = utf16Length(utf8);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorprinter.h"
 
+#include "editor/bidipainter.h"
 #include "editor/codemax.h"
 #include "editor/idlecolouring.h"
 #include "editor/indicators.h"
@@ -119,7 +120,10 @@ void EditorPrinter::print()
         editor->colouring().colourAll();
         editor->engine().send(Sci::SCI_SETPRINTCOLOURMODE, Sci::SC_PRINT_COLOURONWHITE);
         const WithoutMarks withoutMarks(editor->engine());
+        // The printer paints letters that are read from right to left itself, and has no use for their cells.
+        editor->bidi().setCells(false);
         printer->printRange(editor);
+        editor->bidi().setCells(true);
     });
 }
 

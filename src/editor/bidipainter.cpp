@@ -1,0 +1,383 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/bidipainter.h"
+
+#include "editor/buffertext.h"
+#include "editor/editorappearance.h"
+#include "editor/indicators.h"
+#include "widgets/qtvalues.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace zephira {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+/// The engine puts this much beside a cell's content, in pixels.
+constexpr double cellPadding = 3;
+/// Blanks that cells are filled with, from wide to narrow.
+constexpr char enSpace[] = "\xe2\x80\x82";
+constexpr char hairSpace[] = "\xe2\x80\x8a";
+constexpr char noSpace[] = "\xe2\x80\x8b";
+/// Lines beyond are too long to be looked through each time they are painted; their letters stay in cells.
+constexpr qsizetype longestLine = 256 * 1024;
+constexpr int markedIndicators[] = {BoundsIndicator, MatchIndicator, BraceIndicator};
+
+QColor styleColour(const SciEngine &engine, unsigned int message, int style)
+{
+    return toQColor(static_cast<quint32>(engine.send(message, style)));
+}
+
+} // namespace
+
+void BidiPainter::learn(QByteArrayView utf8)
+{
+    const size_t before = m_known.size();
+    forEachRightToLeft(utf8, [&](char32_t code, QByteArrayView bytes) {
+        if (m_known.insert(code).second)
+            setCell(code, bytes.toByteArray());
+    });
+    // The engine must forget the lines that it has laid out without these cells.
+    if (m_known.size() != before)
+        m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
+}
+
+void BidiPainter::fontChanged()
+{
+    setCells(true);
+}
+
+void BidiPainter::setCells(bool on) const
+{
+    for (const char32_t code : m_known) {
+        const QByteArray utf8 = QString::fromUcs4(&code, 1).toUtf8();
+        if (on)
+            setCell(code, utf8);
+        else
+            m_engine.sendText(Sci::SCI_CLEARREPRESENTATION, reinterpret_cast<qsizetype>(utf8.constData()), nullptr);
+    }
+    if (!m_known.empty())
+        m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
+}
+
+/// Fills a letter's cell with blanks that are about as wide as the letter is among others.
+void BidiPainter::setCell(char32_t code, const QByteArray &utf8) const
+{
+    const auto widthOf = [this](const char *blank) {
+        constexpr int sample = 16;
+        const auto width = m_engine.sendText(Sci::SCI_TEXTWIDTH, Sci::STYLE_CONTROLCHAR,
+                                             QByteArray(blank).repeated(sample).constData());
+        return std::max(static_cast<double>(width) / sample, 0.5);
+    };
+    const bool joins =
+        QChar::joiningType(code) == QChar::Joining_Dual || QChar::joiningType(code) == QChar::Joining_Right;
+    const QString letter = QString::fromUcs4(&code, 1);
+    const QString among = joins ? QChar(0x200d) + letter + QChar(0x200d) : letter;
+    double rest = QFontMetricsF(fontOf(Sci::STYLE_DEFAULT)).horizontalAdvance(among) - cellPadding;
+    QByteArray cell;
+    for (const char *blank : {enSpace, hairSpace}) {
+        const double width = widthOf(blank);
+        const int count = std::max(static_cast<int>(blank == hairSpace ? std::round(rest / width) : rest / width), 0);
+        cell += QByteArray(blank).repeated(count);
+        rest -= count * width;
+    }
+    if (cell.isEmpty())
+        cell = noSpace;
+    m_engine.sendText(Sci::SCI_SETREPRESENTATION, reinterpret_cast<qsizetype>(utf8.constData()), cell.constData());
+}
+
+QFont BidiPainter::fontOf(int style) const
+{
+    QByteArray name(m_engine.send(Sci::SCI_STYLEGETFONT, style) + 1, '\0');
+    m_engine.sendText(Sci::SCI_STYLEGETFONT, style, name.data());
+    QFont font(QString::fromUtf8(name.constData()));
+    const double size =
+        static_cast<double>(m_engine.send(Sci::SCI_STYLEGETSIZEFRACTIONAL, style)) / int{Sci::SC_FONT_SIZE_MULTIPLIER};
+    font.setPointSizeF(std::max(size + static_cast<double>(m_engine.send(Sci::SCI_GETZOOM)), 2.0));
+    font.setBold(m_engine.send(Sci::SCI_STYLEGETBOLD, style));
+    font.setItalic(m_engine.send(Sci::SCI_STYLEGETITALIC, style));
+    font.setUnderline(m_engine.send(Sci::SCI_STYLEGETUNDERLINE, style));
+    return font;
+}
+
+QPointF BidiPainter::pointOf(qsizetype position) const
+{
+    return {static_cast<double>(m_engine.send(Sci::SCI_POINTXFROMPOSITION, 0, position)),
+            static_cast<double>(m_engine.send(Sci::SCI_POINTYFROMPOSITION, 0, position))};
+}
+
+std::vector<BidiPainter::Piece> BidiPainter::piecesOf(qsizetype line) const
+{
+    std::vector<Piece> pieces;
+    const qsizetype start = m_engine.lineStart(line);
+    const QByteArrayView text = m_engine.bytes(start, m_engine.lineEnd(line));
+    if (text.size() > longestLine)
+        return pieces;
+    bool any = false;
+    forEachRightToLeft(text, [&](char32_t, QByteArrayView) { any = true; });
+    if (!any)
+        return pieces;
+    std::vector<unsigned char> styles(static_cast<size_t>(text.size()));
+    for (size_t i = 0; i < styles.size(); ++i)
+        styles[i] = static_cast<unsigned char>(m_engine.styleAt(start + static_cast<qsizetype>(i)));
+    for (BidiStretch stretch : bidiStretches(text, styles)) {
+        stretch.start += start;
+        stretch.end += start;
+        addPieces(pieces, stretch);
+    }
+    return pieces;
+}
+
+/// Cuts a stretch where its line is wrapped.
+void BidiPainter::addPieces(std::vector<Piece> &pieces, const BidiStretch &stretch) const
+{
+    BidiStretch part = stretch;
+    double y = pointOf(part.start).y();
+    if (m_engine.send(Sci::SCI_GETWRAPMODE) != Sci::SC_WRAP_NONE) {
+        for (qsizetype at = part.start; at < stretch.end; at = m_engine.send(Sci::SCI_POSITIONAFTER, at)) {
+            const double rowY = pointOf(at).y();
+            if (rowY == y)
+                continue;
+            part.end = at;
+            pieces.push_back(makePiece(part, y));
+            part = {at, stretch.end, stretch.style};
+            y = rowY;
+        }
+    }
+    pieces.push_back(makePiece(part, y));
+}
+
+BidiPainter::Piece BidiPainter::makePiece(const BidiStretch &part, double y) const
+{
+    const double height = static_cast<double>(m_engine.send(Sci::SCI_TEXTHEIGHT, 0));
+    const double left = pointOf(part.start).x();
+    QPointF end = pointOf(part.end);
+    if (end.y() != y) {
+        // What follows stands in the next row. The last character is about as wide as the one before it.
+        const qsizetype last = m_engine.send(Sci::SCI_POSITIONBEFORE, part.end);
+        const double before = pointOf(m_engine.send(Sci::SCI_POSITIONBEFORE, last)).x();
+        end = {2 * pointOf(last).x() - before, y};
+    }
+    const QString text = fromBuffer(m_engine.bytes(part.start, part.end), LineEnds::Mixed);
+    Piece piece{part.start, part.end, QRectF(left, y, std::max(end.x() - left, 1.0), height), nullptr};
+    piece.layout = std::make_shared<QTextLayout>(text, fontOf(part.style));
+    QTextOption option;
+    option.setTextDirection(Qt::LeftToRight);
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    piece.layout->setTextOption(option);
+    QTextLayout::FormatRange colour;
+    colour.start = 0;
+    colour.length = static_cast<int>(text.size());
+    colour.format.setForeground(styleColour(m_engine, Sci::SCI_STYLEGETFORE, part.style));
+    piece.layout->setFormats({colour});
+    piece.layout->beginLayout();
+    QTextLine line = piece.layout->createLine();
+    piece.layout->endLayout();
+    piece.scale = line.naturalTextWidth() > 0 ? piece.cells.width() / line.naturalTextWidth() : 1;
+    return piece;
+}
+
+/// The visual place of the caret in front of the character at an index of the piece's text.
+double BidiPainter::Piece::xOf(qsizetype index) const
+{
+    return cells.left() + layout->lineAt(0).cursorToX(static_cast<int>(index)) * scale;
+}
+
+/// The place of the characters from one index up to another that stand beside each other.
+QRectF BidiPainter::Piece::rectOf(qsizetype from, qsizetype to) const
+{
+    const double a = xOf(from);
+    const double b = xOf(to);
+    return {std::min(a, b), cells.top(), std::abs(b - a), cells.height()};
+}
+
+qsizetype BidiPainter::indexOf(const Piece &piece, qsizetype position) const
+{
+    return utf16Length(m_engine.bytes(piece.start, std::clamp(position, piece.start, piece.end)));
+}
+
+qsizetype BidiPainter::positionOf(const Piece &piece, qsizetype index) const
+{
+    return piece.start + byteOffset(m_engine.bytes(piece.start, piece.end), index);
+}
+
+QRectF BidiPainter::textArea() const
+{
+    qsizetype margins = 0;
+    for (qsizetype margin = 0; margin < m_engine.send(Sci::SCI_GETMARGINS); ++margin)
+        margins += m_engine.send(Sci::SCI_GETMARGINWIDTHN, margin);
+    return QRectF(m_engine.view().viewport()->rect()).adjusted(static_cast<double>(margins), 0, 0, 0);
+}
+
+void BidiPainter::paint(QPainter &painter, const QRect &dirty) const
+{
+    if (m_known.empty())
+        return;
+    painter.setClipRect(textArea().intersected(dirty));
+    const qsizetype first = m_engine.send(Sci::SCI_GETFIRSTVISIBLELINE);
+    const qsizetype last =
+        m_engine.send(Sci::SCI_DOCLINEFROMVISIBLE, first + m_engine.send(Sci::SCI_LINESONSCREEN) + 1);
+    for (qsizetype line = m_engine.send(Sci::SCI_DOCLINEFROMVISIBLE, first); line <= last; ++line) {
+        if (!m_engine.send(Sci::SCI_GETLINEVISIBLE, line))
+            continue;
+        for (const Piece &piece : piecesOf(line)) {
+            if (piece.cells.intersects(dirty))
+                paintPiece(painter, piece);
+        }
+    }
+}
+
+void BidiPainter::paintPiece(QPainter &painter, const Piece &piece) const
+{
+    // The last cell may end within a pixel.
+    painter.fillRect(piece.cells.adjusted(0, 0, 1, 0), backgroundOf(piece));
+    paintSelections(painter, piece);
+    painter.save();
+    painter.translate(piece.cells.left(), piece.cells.top());
+    painter.scale(piece.scale, 1);
+    const double ascent = piece.layout->lineAt(0).ascent();
+    const double baseline = static_cast<double>(m_engine.send(Sci::SCI_GETEXTRAASCENT))
+        + QFontMetricsF(fontOf(Sci::STYLE_DEFAULT)).ascent();
+    piece.layout->draw(&painter, QPointF(0, baseline - ascent));
+    painter.restore();
+    if (m_engine.send(Sci::SCI_GETVIEWWS) != Sci::SCWS_INVISIBLE)
+        paintBlanks(painter, piece);
+    paintIndicators(painter, piece);
+    paintCarets(painter, piece);
+}
+
+/// The caret's line and the highlighted line come before the style's own background.
+QColor BidiPainter::backgroundOf(const Piece &piece) const
+{
+    const qsizetype line = m_engine.lineOf(piece.start);
+    if (m_engine.send(Sci::SCI_GETCARETLINEVISIBLE) && m_engine.lineOf(m_engine.caret()) == line)
+        return toQColor(static_cast<quint32>(m_engine.send(Sci::SCI_GETCARETLINEBACK)));
+    if (m_engine.send(Sci::SCI_MARKERGET, line) >> highlightMarker & 1)
+        return m_appearance.background(HighlightedLineColour);
+    return styleColour(m_engine, Sci::SCI_STYLEGETBACK, m_engine.styleAt(piece.start));
+}
+
+void BidiPainter::paintSelections(QPainter &painter, const Piece &piece) const
+{
+    const qsizetype main = m_engine.send(Sci::SCI_GETMAINSELECTION);
+    for (qsizetype i = 0; i < m_engine.send(Sci::SCI_GETSELECTIONS); ++i) {
+        const qsizetype from = std::max(m_engine.send(Sci::SCI_GETSELECTIONNSTART, i), piece.start);
+        const qsizetype to = std::min(m_engine.send(Sci::SCI_GETSELECTIONNEND, i), piece.end);
+        const qsizetype end = indexOf(piece, to);
+        for (qsizetype at = indexOf(piece, from); from < to && at < end; ++at)
+            painter.fillRect(piece.rectOf(at, at + 1), m_appearance.selectionColour(i == main));
+    }
+}
+
+void BidiPainter::paintIndicators(QPainter &painter, const Piece &piece) const
+{
+    const auto isMarked = [&](int indicator, qsizetype index) {
+        return m_engine.send(Sci::SCI_INDICATORVALUEAT, indicator, positionOf(piece, index)) != 0;
+    };
+    const qsizetype length = piece.layout->text().size();
+    const auto forEachRange = [&](int indicator, const auto &draw) {
+        for (qsizetype from = 0; from < length;) {
+            qsizetype to = from + 1;
+            if (isMarked(indicator, from)) {
+                QRectF box = piece.rectOf(from, to);
+                for (; to < length && isMarked(indicator, to); ++to)
+                    box |= piece.rectOf(to, to + 1);
+                painter.setPen(toQColor(static_cast<quint32>(m_engine.send(Sci::SCI_INDICGETFORE, indicator))));
+                draw(box);
+            }
+            from = to;
+        }
+    };
+    for (const int indicator : markedIndicators)
+        forEachRange(indicator, [&](const QRectF &box) { painter.drawRect(box.adjusted(0, 1, -1, -2)); });
+    forEachRange(StrikeIndicator, [&](const QRectF &box) {
+        painter.drawLine(QPointF(box.left(), box.center().y()), QPointF(box.right(), box.center().y()));
+    });
+}
+
+void BidiPainter::paintBlanks(QPainter &painter, const Piece &piece) const
+{
+    const double size = static_cast<double>(m_engine.send(Sci::SCI_GETWHITESPACESIZE));
+    const QString text = piece.layout->text();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] != u' ')
+            continue;
+        QRectF dot(0, 0, size, size);
+        dot.moveCenter(piece.rectOf(i, i + 1).center());
+        painter.fillRect(dot, m_appearance.whitespaceColour());
+    }
+}
+
+/// At an end of the stretch there are two places for a caret: one beside the text that is read from left to right, where
+/// the engine has it, and one beside the letter. The second is half as high.
+void BidiPainter::paintCarets(QPainter &painter, const Piece &piece) const
+{
+    if (!m_engine.view().hasFocus())
+        return;
+    const double width = static_cast<double>(m_engine.send(Sci::SCI_GETCARETWIDTH));
+    const QColor colour = toQColor(static_cast<quint32>(m_engine.send(Sci::SCI_GETCARETFORE)));
+    const qsizetype length = piece.layout->text().size();
+    for (qsizetype i = 0; i < m_engine.send(Sci::SCI_GETSELECTIONS); ++i) {
+        const qsizetype caret = m_engine.send(Sci::SCI_GETSELECTIONNCARET, i);
+        if (caret < piece.start || caret > piece.end)
+            continue;
+        const qsizetype index = indexOf(piece, caret);
+        const bool atEnd = index == 0 || index == length;
+        const double x = std::min(piece.xOf(index), piece.cells.right() - width);
+        const double height = piece.cells.height();
+        painter.fillRect(QRectF(x, piece.cells.top() + (atEnd ? height / 2 : 0), width, atEnd ? height / 2 : height),
+                         colour);
+        if (index == 0)
+            painter.fillRect(QRectF(piece.cells.left(), piece.cells.top(), width, height), colour);
+    }
+}
+
+QPointF BidiPainter::toEngine(const QPointF &point) const
+{
+    if (m_known.empty() || !textArea().contains(point))
+        return point;
+    const qsizetype position =
+        m_engine.send(Sci::SCI_POSITIONFROMPOINT, std::lround(point.x()), std::lround(point.y()));
+    for (const Piece &piece : piecesOf(m_engine.lineOf(position))) {
+        if (!piece.cells.contains(point))
+            continue;
+        const qsizetype length = piece.layout->text().size();
+        for (qsizetype i = 0; i < length; ++i) {
+            const double leading = piece.xOf(i);
+            const double trailing = piece.xOf(i + 1);
+            if (point.x() < std::min(leading, trailing) || point.x() >= std::max(leading, trailing))
+                continue;
+            const double share = (point.x() - leading) / (trailing - leading);
+            const qsizetype from = positionOf(piece, i);
+            const qsizetype to = std::max(positionOf(piece, i + 1), m_engine.send(Sci::SCI_POSITIONAFTER, from));
+            const double cellStart = pointOf(from).x();
+            const double cellEnd = to >= piece.end ? piece.cells.right() : pointOf(to).x();
+            return {cellStart + share * (cellEnd - cellStart), point.y()};
+        }
+    }
+    return point;
+}
+
+QRectF BidiPainter::characterRect(qsizetype position) const
+{
+    if (m_known.empty())
+        return {};
+    for (const Piece &piece : piecesOf(m_engine.lineOf(position))) {
+        if (position >= piece.start && position < piece.end) {
+            const qsizetype index = indexOf(piece, position);
+            return piece.rectOf(index, index + 1);
+        }
+    }
+    return {};
+}
+
+} // namespace zephira

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/bidipainter.h"
+#include "editorfixture.h"
+#include "support/testregistry.h"
+
+#include <QGuiApplication>
+#include <QStyleHints>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using Sci = QsciScintillaBase;
+
+namespace zephira {
+
+class TstBidiPainter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stretchesReadFromRightToLeft_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("styles"); // one a character
+        QTest::addColumn<QStringList>("stretches");
+        QTest::newRow("none") << u"abc"_s << u"000"_s << QStringList();
+        QTest::newRow("a word") << u"שלום"_s << u"0000"_s << QStringList{u"שלום"_s};
+        QTest::newRow("two words") << u"x של ום."_s << u"00000000"_s << QStringList{u"של ום"_s};
+        QTest::newRow("a Latin word between") << u"של x ום"_s << u"0000000"_s << QStringList{u"של"_s, u"ום"_s};
+        QTest::newRow("a number behind") << u"של 12 x"_s << u"0000000"_s << QStringList{u"של 12"_s};
+        QTest::newRow("Arabic") << u"<سلام>"_s << u"000000"_s << QStringList{u"سلام"_s};
+        QTest::newRow("another style") << u"של ום"_s << u"00011"_s << QStringList{u"של"_s, u"ום"_s};
+        QTest::newRow("a tab") << u"של\tום"_s << u"00000"_s << QStringList{u"של"_s, u"ום"_s};
+        QTest::newRow("vowel signs") << u"שָׁלוֹם"_s << u"0000000"_s << QStringList{u"שָׁלוֹם"_s};
+        QTest::newRow("dashes and quotes alone") << u"–“x”…"_s << u"00000"_s << QStringList();
+    }
+    void stretchesReadFromRightToLeft()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, styles);
+        const QByteArray utf8 = line.toUtf8();
+        std::vector<unsigned char> bytes;
+        for (qsizetype i = 0; i < line.size(); ++i)
+            bytes.insert(bytes.end(), static_cast<size_t>(QString(line[i]).toUtf8().size()),
+                         static_cast<unsigned char>(styles[i].unicode()));
+        QStringList stretches;
+        for (const BidiStretch &stretch : bidiStretches(utf8, bytes))
+            stretches += QString::fromUtf8(utf8.mid(stretch.start, stretch.end - stretch.start));
+        QTEST(stretches, "stretches");
+    }
+
+    /// A line was blank when it began with such a letter.
+    void everyLetterLeavesInk_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::newRow("Hebrew") << u"שלום עולם"_s;
+        QTest::newRow("in a tag") << u"<p>שלום עולם</p>"_s;
+        QTest::newRow("mixed") << u"שלום abc עולם 123 (x)"_s;
+        QTest::newRow("Arabic") << u"مرحبا بالعالم"_s;
+        QTest::newRow("in an attribute") << u"<a title=\"שלום\">مرحبا</a>"_s;
+    }
+    void everyLetterLeavesInk()
+    {
+        QFETCH(QString, line);
+        EditorFixture f;
+        f.show();
+        f.editor.setLanguage(u"HTML"_s);
+        f.editor.setText(line);
+        f.waitForColours();
+        const QImage picture = f.editor.viewport()->grab().toImage();
+        for (qsizetype i = 0; i < line.size(); ++i) {
+            if (!QChar::isLetter(line[i].unicode()))
+                continue;
+            const QRectF box = boxOf(f, line, i);
+            QVERIFY2(inkIn(picture, box), qPrintable(u"no ink in %1 of %2"_s.arg(line[i]).arg(line)));
+        }
+    }
+
+    /// Nothing lies over something else: the boxes of a line's characters follow each other.
+    void charactersStandBesideEachOther()
+    {
+        EditorFixture f;
+        f.show();
+        const QString line = u"<p>שלום עולם</p>"_s;
+        f.editor.setText(line);
+        std::vector<std::pair<double, double>> boxes;
+        for (qsizetype i = 0; i < line.size(); ++i) {
+            const QRectF box = boxOf(f, line, i);
+            boxes.emplace_back(box.left(), box.right());
+        }
+        std::ranges::sort(boxes);
+        for (size_t i = 1; i < boxes.size(); ++i) {
+            QVERIFY(boxes[i].second - boxes[i].first > 2);
+            QVERIFY(boxes[i].first >= boxes[i - 1].second - 1);
+        }
+        // Right to left: the first letter is the rightmost.
+        QVERIFY(boxOf(f, line, 3).left() > boxOf(f, line, 11).left());
+        QVERIFY(boxOf(f, line, 12).left() > boxOf(f, line, 3).left());
+    }
+
+
+    void clicksLandInFrontOfTheLetterThatTheyHit_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::newRow("Hebrew") << u"שלום עולם"_s;
+        QTest::newRow("in a tag") << u"<p>שלום עולם</p>"_s;
+        QTest::newRow("mixed") << u"שלום abc עולם"_s;
+    }
+    void clicksLandInFrontOfTheLetterThatTheyHit()
+    {
+        QFETCH(QString, line);
+        EditorFixture f;
+        f.show();
+        f.editor.setText(line);
+        f.editor.viewport()->repaint();
+        for (qsizetype i = 0; i < line.size(); ++i) {
+            const QRectF box = boxOf(f, line, i);
+            const bool leftward = line[i].direction() == QChar::DirR;
+            // A little behind the letter's beginning, as it is read.
+            const double x = leftward ? box.right() - box.width() / 4 : box.left() + box.width() / 4;
+            if (line[i] == u' ')
+                continue;
+            QTest::mouseClick(f.editor.viewport(), Qt::LeftButton, {}, QPointF(x, box.center().y()).toPoint());
+            QCOMPARE(f.editor.selection(false).EndColNo, static_cast<int>(i));
+            QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 5);
+        }
+    }
+
+    void aDoubleClickSelectsTheWordThatItHits()
+    {
+        EditorFixture f;
+        f.show();
+        const QString line = u"שלום עולם abc"_s;
+        f.editor.setText(line);
+        QTest::mouseDClick(f.editor.viewport(), Qt::LeftButton, {}, boxOf(f, line, 6).center().toPoint());
+        QCOMPARE(f.editor.selText(), u"עולם"_s);
+        QTest::mouseDClick(f.editor.viewport(), Qt::LeftButton, {}, boxOf(f, line, 11).center().toPoint());
+        QCOMPARE(f.editor.selText(), u"abc"_s);
+    }
+
+    void selectedLettersShowIt()
+    {
+        EditorFixture f;
+        f.show();
+        const QString line = u"<p>שלום עולם</p>"_s;
+        f.editor.setText(line);
+        f.editor.select({0, 3, 0, 7});
+        const QImage picture = f.editor.viewport()->grab().toImage();
+        const auto cornerOf = [&](qsizetype index) {
+            const QRectF box = boxOf(f, line, index);
+            return picture.pixelColor(QPointF(box.center().x(), box.top() + 1).toPoint());
+        };
+        QCOMPARE(cornerOf(4), f.editor.appearance().selectionColour(true));
+        QVERIFY(cornerOf(9) != f.editor.appearance().selectionColour(true));
+    }
+
+    void theHighlightedLineIsHighlightedBehindIt()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"שלום עולם"_s);
+        f.editor.setColor(HighlightedLineColour, 0x00ffff);
+        f.editor.setHighlightedLine(0);
+        const QImage picture = f.editor.viewport()->grab().toImage();
+        const QRectF box = boxOf(f, u"שלום עולם"_s, 4);
+        QCOMPARE(picture.pixelColor(box.center().toPoint()), QColor(255, 255, 0));
+    }
+
+    void typingGoesWhereTheCaretIs()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"שלום"_s);
+        f.editor.select({0, 2, 0, 2});
+        f.type(u"אב"_s);
+        QCOMPARE(f.editor.text(), u"שלאבום"_s);
+        QTest::keyClick(&f.editor, Qt::Key_Backspace);
+        QCOMPARE(f.editor.text(), u"שלאום"_s);
+        f.editor.undo();
+        QVERIFY(boxOf(f, u"שלאבום"_s, 3).width() > 2);
+    }
+
+    void wrappedLinesAreOrderedByRows()
+    {
+        EditorFixture f;
+        f.show(300, 300);
+        EditorOptions options;
+        options.wordWrap = true;
+        f.editor.setOptions(options);
+        const QString line = u"שלום עולם "_s.repeated(12);
+        f.editor.setText(line);
+        f.editor.viewport()->repaint();
+        const QImage picture = f.editor.viewport()->grab().toImage();
+        double lowest = 0;
+        for (qsizetype i = 0; i < line.size(); ++i) {
+            if (line[i] == u' ')
+                continue;
+            const QRectF box = boxOf(f, line, i);
+            QVERIFY2(inkIn(picture, box), qPrintable(QString::number(i)));
+            QVERIFY(box.right() <= f.editor.viewport()->width());
+            lowest = std::max(lowest, box.top());
+        }
+        QVERIFY(lowest > 20);
+    }
+
+    /// The scroll bar reaches the line's end.
+    void theLineHasItsWidth()
+    {
+        EditorFixture f;
+        f.show(300, 200);
+        const QString line = u"שלום עולם "_s.repeated(20);
+        f.editor.setText(line);
+        f.editor.viewport()->repaint();
+        QVERIFY(f.editor.engine().send(Sci::SCI_GETSCROLLWIDTH) > 20 * 10 * 5);
+    }
+
+    void zoomingGivesWiderCells()
+    {
+        EditorFixture f;
+        f.show();
+        const QString line = u"שלום"_s;
+        f.editor.setText(line);
+        const double before = boxOf(f, line, 1).width();
+        f.editor.engine().send(Sci::SCI_SETZOOM, 10);
+        QTRY_VERIFY(boxOf(f, line, 1).width() > before * 1.4);
+    }
+
+private:
+    /// Where a character of the first line is seen.
+    static QRectF boxOf(EditorFixture &f, const QString &line, qsizetype index)
+    {
+        const SciEngine &engine = f.editor.engine();
+        const qsizetype position = line.left(index).toUtf8().size();
+        const QRectF stretch = f.editor.bidi().characterRect(position);
+        if (!stretch.isEmpty())
+            return stretch;
+        const auto x = [&](qsizetype at) {
+            return static_cast<double>(engine.send(Sci::SCI_POINTXFROMPOSITION, 0, at));
+        };
+        const double y = static_cast<double>(engine.send(Sci::SCI_POINTYFROMPOSITION, 0, position));
+        return {x(position), y, x(engine.send(Sci::SCI_POSITIONAFTER, position)) - x(position),
+                static_cast<double>(engine.send(Sci::SCI_TEXTHEIGHT, 0))};
+    }
+
+    /// Whether something is drawn there in a colour of its own.
+    static bool inkIn(const QImage &picture, const QRectF &box)
+    {
+        const QRect area = box.toRect().intersected(picture.rect());
+        const QColor paper = picture.pixelColor(area.topLeft());
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
+                if (std::abs(qGray(picture.pixel(x, y)) - qGray(paper.rgb())) > 60)
+                    return true;
+            }
+        }
+        return false;
+    }
+};
+
+ZEPHIRA_TEST(TstBidiPainter)
+
+} // namespace zephira
+
+#include "tst_bidipainter.moc"
