@@ -84,7 +84,7 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
                   {{m_ui->views, [this] { m_viewSwitch->focusView(); }},
                    {m_palette},
                    {m_sidePane},
-                   {m_languages},
+                   {m_documentControls->languages()},
                    {m_ui->workspace}});
     m_rt->setFocus();
 }

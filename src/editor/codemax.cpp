@@ -381,8 +381,9 @@ void CodeMax::highlightCaretLine(bool on)
     Q_EMIT CaretLineChosen(on, &handled);
     if (handled)
         return;
-    m_options.highlightCaretLine = on;
-    setOptions(EditorOptions(m_options));
+    EditorOptions options = m_options;
+    options.highlightCaretLine = on;
+    setOptions(options);
 }
 
 void CodeMax::setReadOnly(bool on)

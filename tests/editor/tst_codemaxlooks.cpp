@@ -2,6 +2,7 @@
 #include "editor/colouritems.h"
 #include "editor/editormargins.h"
 #include "editorfixture.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 #include "widgets/qtvalues.h"
 
@@ -266,7 +267,7 @@ private Q_SLOTS:
     /// The colours of a new control are those of the settings that the program ships.
     void newControlsHaveTheShippedColours()
     {
-        QFile file(QString::fromLatin1(ZEPHIRA_SOURCE_DIR) + u"/data/zephira.ini"_s);
+        QFile file(sourcePath(u"data/zephira.ini"_s));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QMap<QString, qint64> shipped;
         for (const QByteArray &line : file.readAll().split('\n')) {
