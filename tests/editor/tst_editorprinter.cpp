@@ -4,7 +4,6 @@
 #include "support/testregistry.h"
 
 #include <QFile>
-#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -57,7 +56,11 @@ private Q_SLOTS:
         EditorFixture f;
         f.editor.setText(u"x"_s);
         int asked = 0;
-        f.editor.printer().setSetup([&](QPrinter &, const std::function<void()> &) { ++asked; });
+        f.editor.printer().setSetup([&](QPrinter &printer, const std::function<void()> &) {
+            ++asked;
+            // The dialog of a desktop proposes a file of this name for a text without one.
+            QCOMPARE(printer.docName(), u"Untitled.pdf"_s);
+        });
         f.editor.PrintContents(0, 12);
         QCOMPARE(asked, 1);
     }
@@ -70,10 +73,6 @@ private Q_SLOTS:
         f.editor.PrintContents(0, 12);
         auto *dialog = f.editor.findChild<QPrintDialog *>();
         QVERIFY(dialog && dialog->isVisible());
-        // A text without a file is offered a name all the same.
-        const auto *name = dialog->findChild<QLineEdit *>(u"filename"_s);
-        QVERIFY(name);
-        QVERIFY2(name->text().endsWith(u"/Untitled.pdf"), qPrintable(name->text()));
         QPointer<QPrintDialog> gone(dialog);
         dialog->reject();
         QTRY_VERIFY(!gone);
