@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QShortcut>
+#include <QWidget>
 
 #include <algorithm>
 

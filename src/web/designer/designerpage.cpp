@@ -8,7 +8,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPointer>
-#include <QTimer>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineProfile>
 #include <QWebEngineScript>
@@ -26,6 +25,8 @@ namespace {
 
 /// The script's world: it shares the page's elements with nobody's scripts.
 constexpr quint32 world = QWebEngineScript::ApplicationWorld;
+/// How long to wait between two looks for an empty page that was loaded, in milliseconds.
+constexpr int secondLookInterval = 250;
 
 /// The policy outlives the document that brings it: whatever is written in its place inherits it. Scripts can't simply be
 /// switched off, because the designer's own would hear no events then.
@@ -82,7 +83,12 @@ DesignerPage::DesignerPage(QWebEngineProfile &profile, QObject *parent) : QWebEn
         if (m_isOpening && ok)
             lookForEmptyPage();
     });
-    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { m_late = 0; });
+    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] {
+        m_late = 0;
+        ++m_losses;
+    });
+    m_secondLook.setInterval(secondLookInterval);
+    connect(&m_secondLook, &QTimer::timeout, this, &DesignerPage::lookAgain);
     connect(this, &DesignerPage::ready, this, [this] { m_late = 0; });
     connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
         setFeaturePermission(origin, feature, PermissionDeniedByUser);
@@ -106,9 +112,33 @@ void DesignerPage::open(const QUrl &base)
 {
     m_fence.files().open(base);
     m_fence.files().shown(base);
+    m_base = base;
     m_isOpening = true;
+    m_looks = 0;
+    m_looksBeforeRetry = 8;
+    m_secondLook.start();
+    showEmptyPage();
+}
+
+void DesignerPage::showEmptyPage()
+{
     ++m_opening;
-    setHtml(emptyPage.toString().arg(m_opening), base);
+    setHtml(emptyPage.toString().arg(m_opening), m_base);
+}
+
+/// A load that was begun while the page before, or its process, came to its end may never tell that it has ended. So the
+/// empty page is looked for now and then, and loaded once more where it doesn't come, after a longer while each time.
+void DesignerPage::lookAgain()
+{
+    if (!m_isOpening) {
+        m_secondLook.stop();
+    } else if (++m_looks < m_looksBeforeRetry) {
+        lookForEmptyPage();
+    } else {
+        m_looks = 0;
+        m_looksBeforeRetry *= 2;
+        showEmptyPage();
+    }
 }
 
 /// The document before may have ended its own loading only now, as one with frames does; what is written then would be
@@ -161,6 +191,7 @@ std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const
     const std::weak_ptr<Wait> waiting = wait;
     const QPointer<DesignerPage> self(this);
     const int opening = m_opening;
+    const int losses = m_losses;
     call(function, arguments, [self, waiting, opening](const QVariant &answer) {
         if (const auto still = waiting.lock()) {
             still->answer = answer;
@@ -175,8 +206,9 @@ std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const
     connect(this, &QObject::destroyed, &wait->loop, &QEventLoop::quit);
     if (!wait->answer)
         waitIn(wait->loop);
-    // Who asked while this waited needn't wait for as long again.
-    if (self && !wait->answer && opening == m_opening) {
+    // Who asked while this waited needn't wait for as long again. An answer that was lost with its process isn't late: a
+    // new process answers.
+    if (self && !wait->answer && opening == m_opening && losses == m_losses) {
         ++m_late;
         Q_EMIT late();
     }

@@ -4,6 +4,8 @@
 #include "web/designer/designerbridge.h"
 #include "web/localfilefence.h"
 
+#include <QTimer>
+#include <QUrl>
 #include <QWebChannel>
 #include <QWebEnginePage>
 
@@ -55,7 +57,9 @@ protected:
 private:
     void installScript();
     void answeredLate(int opening);
+    void showEmptyPage();
     void lookForEmptyPage();
+    void lookAgain();
 
     LocalFileFence m_fence;
     DesignerBridge m_bridge;
@@ -63,6 +67,12 @@ private:
     bool m_isOpening = false;
     /// Tells one empty page from the next.
     int m_opening = 0;
+    QUrl m_base;
+    QTimer m_secondLook;
+    int m_looks = 0;
+    int m_looksBeforeRetry = 0;
+    /// How many processes have ended.
+    int m_losses = 0;
     /// Questions that nobody waits for any more.
     int m_late = 0;
     int m_patience = 2000;
