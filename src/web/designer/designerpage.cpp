@@ -115,7 +115,7 @@ void DesignerPage::open(const QUrl &base)
     m_base = base;
     m_isOpening = true;
     m_looks = 0;
-    m_looksBeforeRetry = 8;
+    m_looksBeforeRetry = 4;
     m_secondLook.start();
     showEmptyPage();
 }
@@ -142,10 +142,12 @@ void DesignerPage::lookAgain()
 }
 
 /// The document before may have ended its own loading only now, as one with frames does; what is written then would be
-/// lost with it. So the empty page bears a number.
+/// lost with it. So the empty page bears a number. In a process that has just begun it may come without our script.
 void DesignerPage::lookForEmptyPage()
 {
-    const QString question = u"document.querySelector('meta[name=opening]')?.content === '%1'"_s.arg(m_opening);
+    const QString question =
+        u"typeof zephiraDesigner === 'object' && document.querySelector('meta[name=opening]')?.content === '%1'"_s.arg(
+            m_opening);
     runJavaScript(question, world, [self = QPointer<DesignerPage>(this), opening = m_opening](const QVariant &isThere) {
         if (self && self->m_opening == opening && isThere.toBool() && std::exchange(self->m_isOpening, false))
             Q_EMIT self->ready(true);

@@ -37,6 +37,9 @@ constexpr int mostTries = 5;
 /// A load may take this many times as long as an answer, and an answer a millisecond more for this many characters.
 constexpr int loadShare = 5;
 constexpr int charactersInMillisecond = 1000;
+/// How often, in milliseconds, a page that wasn't there at once is asked for, and after how many times it is written anew.
+constexpr int pageLookInterval = 100;
+constexpr int pageLooks = 50;
 
 void pass(int milliseconds)
 {
@@ -172,17 +175,42 @@ void DesignerWidget::write(bool ready)
     const QPointer<DesignerWidget> self(this);
     m_page->call(u"load"_s, {m_text.forEngine(), m_text.markPrefix(), m_looks, m_text.isPlain()},
                  [self, load = m_load](const QVariant &answer) {
-                     // A page that isn't there yet tells when it is.
-                     if (self && self->m_load == load && !answer.toMap().isEmpty())
+                     if (!self || self->m_load != load)
+                         return;
+                     if (!answer.toMap().isEmpty())
                          self->takeComplete(answer.toMap().value(u"state"_s).toMap());
+                     else
+                         self->lookForPage(load, 1);
                  });
+}
+
+/// A page that isn't there yet tells when it is. What a new process tells may be lost, so that it is asked, too, and given
+/// its text once more after a while.
+void DesignerWidget::lookForPage(int load, int look)
+{
+    QTimer::singleShot(pageLookInterval, this, [this, load, look] {
+        if (m_load != load || m_isComplete)
+            return;
+        if (look == pageLooks) {
+            write(true);
+            return;
+        }
+        m_page->call(u"completed"_s, {}, [self = QPointer<DesignerWidget>(this), load, look](const QVariant &answer) {
+            if (!self || self->m_load != load || self->m_isComplete)
+                return;
+            if (!answer.toMap().isEmpty())
+                self->takeComplete(answer.toMap().value(u"state"_s).toMap());
+            else
+                self->lookForPage(load, look + 1);
+        });
+    });
 }
 
 /// The host is going to ask for more.
 void DesignerWidget::takeComplete(const QVariantMap &state)
 {
     const auto finish = [this, load = m_load, state] {
-        if (m_load == load)
+        if (m_load == load && !m_isComplete)
             complete(state);
     };
     QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);

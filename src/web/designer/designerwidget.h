@@ -100,6 +100,7 @@ private:
     void takeText(const QString &source);
     void open();
     void write(bool ready);
+    void lookForPage(int load, int look);
     void complete(const QVariantMap &state);
     void takeLoss();
     bool isGivenUp() const;

@@ -67,8 +67,11 @@ reportBy({state, place: () => ({place: place()}), copy: copyOfPage});
 
 const answer = (value = null) => ({value, state: stamped(state())});
 
+let isComplete = false;
+
 // The whole page is there: from now on whatever happens to it is a change.
 const begin = text => {
+    isComplete = true;
     if (isPlain)
         showPlainText(text);
     listen();
@@ -82,6 +85,7 @@ const begin = text => {
 
 globalThis.zephiraDesigner = {
     load(text, prefix, wantedLooks, wantsPlain) {
+        isComplete = false;
         history.reset();
         setMarkPrefix(prefix);
         setPlain(wantsPlain);
@@ -100,6 +104,9 @@ globalThis.zephiraDesigner = {
         }, {once: true});
         return null;
     },
+
+    // For who missed the report: the state of a page that is there, else nothing.
+    completed: () => (isComplete ? answer() : null),
 
     run: (number, argument) => answer(runCommand(number, argument)),
 
