@@ -137,6 +137,9 @@ void DesignerPage::lookAgain()
     } else {
         m_looks = 0;
         m_looksBeforeRetry *= 2;
+        // A process that never got the script gets it now.
+        scripts().clear();
+        installScript();
         showEmptyPage();
     }
 }
