@@ -37,7 +37,8 @@ QTreeWidgetItem *makeItem(const QString &key, const QString &text, const QIcon &
 RemotePane::RemotePane(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts)
 {
     m_parts.tree.installEventFilter(this);
-    m_parts.tree.viewport()->installEventFilter(this);
+    m_viewport = m_parts.tree.viewport();
+    m_viewport->installEventFilter(this);
     connect(&m_parts.tree, &QTreeWidget::itemClicked, this, [this] {
         // A double click asks the server once.
         if (!m_isSecondClick)
@@ -156,7 +157,7 @@ void RemotePane::watchMouse(QEvent::Type type)
 
 bool RemotePane::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_parts.tree.viewport())
+    if (watched == m_viewport)
         watchMouse(event->type());
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return QObject::eventFilter(watched, event);

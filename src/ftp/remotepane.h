@@ -60,6 +60,8 @@ private:
     /// The folder that was opened last.
     QString m_openKey;
     /// From the second press of a double click to the next one.
+    /// The tree's, known by its place alone: events still come while the tree is being destroyed.
+    QObject *m_viewport = nullptr;
     bool m_isSecondClick = false;
 };
 
