@@ -1,14 +1,15 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes one script of the modules in a folder: those that a module imports come first, and all stand in one function, so
-# that their names stay among themselves. What the modules import and export is plain enough to be read line by line:
+# Bundles the modules of a folder into one script. Each module comes after those it imports, and the whole script is
+# wrapped in one function so that no name leaks. The import and export statements are simple enough to be matched line
+# by line:
 #
 #     import {closest, isText} from './nodes.js';
 #     export const selectionType = () => ...
 #
-# The build ends where a module imports what isn't given, where two import each other in a circle, and where nobody imports
-# a module of the folder.
+# The build fails if a module imports something that doesn't exist, if modules import each other in a cycle, or if a
+# module of the folder is never imported.
 #
-# zephira_page_names(HEADER ENUM NAME OUT) writes a module that gives the values of a C++ enumeration as NAME.
+# zephira_page_names(HEADER ENUM NAME OUT) writes a module that exports the values of a C++ enumeration as NAME.
 # As a script:  cmake -DENTRY=main.js -DSCRIPTS=<files> -DOUT=<file> -P BundlePageScripts.cmake
 cmake_minimum_required(VERSION 3.25)
 
@@ -28,12 +29,12 @@ if(NOT CMAKE_SCRIPT_MODE_FILE STREQUAL CMAKE_CURRENT_LIST_FILE)
   return()
 endif()
 
-# Takes a module and, before it, all that it needs. `way` are the modules that have led to it.
+# Adds a module to the bundle after the modules it imports. `way` is the chain of imports that led to it.
 function(take module way)
   if(module IN_LIST way)
     list(REMOVE_AT way 0)
     list(JOIN way " > " circle)
-    message(FATAL_ERROR "the page's scripts need each other in a circle: ${circle} > ${module}")
+    message(FATAL_ERROR "the page's scripts import each other in a cycle: ${circle} > ${module}")
   endif()
   get_property(taken GLOBAL PROPERTY taken)
   if(module IN_LIST taken)
@@ -42,7 +43,7 @@ function(take module way)
   get_property(file GLOBAL PROPERTY "file of ${module}")
   if(NOT file)
     list(GET way -1 user)
-    message(FATAL_ERROR "${user} imports from ${module}, which isn't there")
+    message(FATAL_ERROR "${user} imports from ${module}, which doesn't exist")
   endif()
   file(READ "${file}" text)
   string(REGEX MATCHALL "import {[^}]*} from '[^']*'" imports "${text}")

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# One set of compile rules, and the three functions that every folder uses:
-#   zephira_logic(NAME ...)   a library that links Qt6::Core alone
+# The compile rules, and the functions that the folders use, mainly these three:
+#   zephira_logic(NAME ...)   a library that links only Qt6::Core
 #   zephira_forms(NAME ...)   forms and widgets, with their .ui files
 #   zephira_tests(NAME ...)   one test program, one ctest entry per class
 
@@ -10,13 +10,13 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# The rules that each target takes.
+# The compile rules of every target.
 add_library(zephira_rules INTERFACE)
 target_compile_features(zephira_rules INTERFACE cxx_std_20)
 target_compile_options(zephira_rules INTERFACE
   -Wall -Wextra -Wconversion -fstack-protector-strong
   $<$<BOOL:${ZEPHIRA_WERROR}>:-Werror>
-  # A hardened libc check needs the optimiser, and the sanitizers bring their own.
+  # The hardened libc needs the optimiser, and the sanitizers bring checks of their own.
   $<$<AND:$<NOT:$<CONFIG:Debug>>,$<NOT:$<BOOL:${ZEPHIRA_SANITIZE}>>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>)
 target_compile_definitions(zephira_rules INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS
@@ -25,23 +25,23 @@ target_compile_definitions(zephira_rules INTERFACE
 target_include_directories(zephira_rules INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_link_options(zephira_rules INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--as-needed)
 if(ZEPHIRA_SANITIZE)
-  # One test run covers both trees, so the names tell which of them a test is from.
+  # One test run covers both build trees; the prefix shows which of them a test comes from.
   set(ZEPHIRA_TEST_PREFIX asan.)
   target_compile_options(zephira_rules INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
-  # The checks bring a relocation for each place that they name, which this writes in a twentieth of the room.
+  # The sanitizers add a relocation for each source location they report; packed, these take a twentieth of the space.
   target_link_options(zephira_rules INTERFACE -fsanitize=address,undefined
     -Wl,-z,pack-relative-relocs -Wl,--compress-debug-sections=zlib)
 endif()
 include(CheckPIESupported)
 check_pie_supported()
 
-# Two precompiled headers serve the whole tree, one for what links Qt6::Core alone and one for widgets: each is larger than
-# all objects together.
+# The whole tree shares two precompiled headers, one for targets that link only Qt6::Core and one for widgets, because
+# each is larger than all object files together.
 foreach(kind IN ITEMS Core Widgets)
   string(TOLOWER ${kind} header)
   add_library(zephira_${header}_precompiled OBJECT ${CMAKE_SOURCE_DIR}/cmake/precompiled.cpp)
   target_link_libraries(zephira_${header}_precompiled PUBLIC zephira_rules Qt6::${kind})
-  # Named without its folder, so that the compiler cache serves any checkout.
+  # Included without its folder, so that the compiler cache works for any checkout.
   target_include_directories(zephira_${header}_precompiled PRIVATE ${CMAKE_SOURCE_DIR}/cmake)
   target_precompile_headers(zephira_${header}_precompiled PRIVATE <${header}.pch.h>)
 endforeach()
@@ -50,7 +50,7 @@ function(zephira_precompiled target header)
   target_precompile_headers(${target} REUSE_FROM zephira_${header}_precompiled)
 endfunction()
 
-# zephira_logic(NAME SOURCES ... [LINK ...]): text rules, parsers, writers, state machines. Links Qt6::Core alone.
+# zephira_logic(NAME SOURCES ... [LINK ...]): text rules, parsers, writers, state machines. Links only Qt6::Core.
 function(zephira_logic name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
@@ -73,9 +73,9 @@ function(zephira_forms name)
   zephira_precompiled(${name} widgets)
 endfunction()
 
-# zephira_tests(NAME SOURCES ... CLASSES ... [LINK ...] [FORMS | WEB] [LABELS ...]): one program for a folder and kind; each
-# class named under CLASSES is a QTest object registered with ZEPHIRA_TEST and becomes a ctest entry of its own.
-# With FORMS the program has a QApplication on the offscreen platform, with WEB one that the web engine can be loaded into,
+# zephira_tests(NAME SOURCES ... CLASSES ... [LINK ...] [FORMS | WEB] [LABELS ...]): one test program for a folder and
+# kind. Each class listed under CLASSES is a QTest object registered with ZEPHIRA_TEST and becomes a ctest entry of its
+# own. With FORMS the program has a QApplication on the offscreen platform, with WEB one that can load the web engine,
 # otherwise a QCoreApplication.
 function(zephira_tests name)
   cmake_parse_arguments(ARG "FORMS;WEB" "" "SOURCES;CLASSES;LINK;LABELS;ENVIRONMENT" ${ARGN})
@@ -100,14 +100,14 @@ function(zephira_tests name)
   endforeach()
 endfunction()
 
-# zephira_test_path(SOURCE NAME PATH): gives one source of a test the path of something built. The paths differ from
-# checkout to checkout, and the compiler cache has to serve the program's other sources in all of them.
+# zephira_test_path(SOURCE NAME PATH): defines NAME as the path of a build product, in a single source of a test. The
+# paths differ between checkouts, and the compiler cache has to work for the program's other sources in all of them.
 function(zephira_test_path source name path)
   set_property(SOURCE ${source} APPEND PROPERTY COMPILE_DEFINITIONS "${name}=\"${path}\"")
 endfunction()
 
-# zephira_display_test(NAME COMMAND ...): a test of the real program in a real window. It runs on a display of its own,
-# with a window manager; the sanitizer tree leaves it out.
+# zephira_display_test(NAME COMMAND ...): a test of the real program in a real window. It runs on its own display with a
+# window manager. The sanitizer build leaves it out.
 function(zephira_display_test name)
   cmake_parse_arguments(ARG "" "" "COMMAND" ${ARGN})
   if(NOT ZEPHIRA_SANITIZE)

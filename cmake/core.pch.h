@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What logic and its tests include most; see zephira_precompiled() in Zephira.cmake.
+// The headers that logic and its tests include most; see zephira_precompiled() in Zephira.cmake.
 #pragma once
 #include <QByteArray>
 #include <QCoreApplication>

@@ -1,2 +1,2 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The precompiled headers belong to a target of their own, which needs a source.
+// The precompiled headers have targets of their own, which need a source file.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What forms and their tests include most; see zephira_precompiled() in Zephira.cmake.
+// The headers that forms and their tests include most; see zephira_precompiled() in Zephira.cmake.
 #pragma once
 #include "core.pch.h"
 
