@@ -18,8 +18,8 @@ class Prompts;
 class Shell;
 class UserSettings;
 
-/// What a form or service is given instead of reaching for it. The main window makes one for the program, a test makes
-/// one of fakes. All references outlive whatever takes the context.
+/// The services that forms depend on, passed to them explicitly. The main window builds one for the program; a test
+/// builds one from fakes. All references outlive whatever takes the context.
 struct AppContext {
     EditingControl &editor;
     Inserter &inserter;
@@ -33,7 +33,7 @@ struct AppContext {
     Clipboard &clipboard;
     Clock &clock;
     FormOpener &forms;
-    /// The program folder, the root of all data files; no separator at its end.
+    /// The program folder, the root of all data files; without a trailing separator.
     QString appPath;
 };
 

@@ -7,39 +7,40 @@
 
 namespace zephira {
 
-/// What a browser takes a local file for.
+/// How a browser treats a local file.
 enum class FileKind {
-    ByName, ///< what its name says, as browsers do
-    Page,   ///< a page, whatever its name says
+    ByName, ///< by its file name extension, as browsers do
+    Page,   ///< as a page, whatever its name
 };
 
-/// The browser of the preview as the rest of the program sees it. All operations return at once; pages load by
-/// themselves. Operations that can't be done, such as going back without a history, do nothing.
+/// The preview's browser as the rest of the program sees it. All operations return at once; pages load asynchronously.
+/// Operations that aren't possible, such as going back without a history, do nothing.
 class Browser
 {
 public:
     virtual ~Browser() = default;
 
-    /// Shows a page: the full path of a local file, an address, or what people type for one ("example.org").
+    /// Shows a page, given as the full path of a local file, an address, or an address as people type it
+    /// ("example.org").
     virtual void navigate(const QString &address) = 0;
     virtual void goBack() = 0;
     virtual void goForward() = 0;
-    /// Shows the page that setHome() named; an empty page where it named none.
+    /// Shows the page set with setHome(), or an empty page if none is set.
     virtual void goHome() = 0;
     virtual void refresh() = 0;
     virtual void stop() = 0;
-    /// Address of the page that shows.
+    /// Address of the current page.
     virtual QString locationUrl() const = 0;
 
-    /// Names the user's own page. A file that is told to be a page shows as one, by whatever way it is gone to.
+    /// Sets the home page. A file given as FileKind::Page is shown as a page however the user navigates to it.
     virtual void setHome(const QString &address, FileKind kind = FileKind::ByName) = 0;
-    /// Is called after each navigation that has come to its end.
+    /// Sets the handler that is called when a navigation has ended.
     virtual void onNavigateComplete(std::function<void()> handler) = 0;
-    /// Is called when the process that shows the page has ended by itself.
+    /// Sets the handler that is called when the page's render process has ended unexpectedly.
     virtual void onProcessLost(std::function<void()> handler) = 0;
 
-    /// Pages that lie in this folder, or below it, may load files from all of it, and others from their own folder and
-    /// below. Empty for none; it counts from the next navigation on.
+    /// Pages in this folder or below it may load files from anywhere in it; other pages only from their own folder and
+    /// below. Empty for none. Takes effect with the next navigation.
     virtual void setProjectFolder(const QString &folder) = 0;
 };
 

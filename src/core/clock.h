@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// The time of day, local.
+/// The current date and time, local.
 class Clock
 {
 public:

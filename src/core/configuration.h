@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// The settings that belong to the installation, zephira.ini in the program folder. Nothing is kept in memory: each call
-/// goes to the store. Only the rows of settingRows() can be read and written.
+/// The settings of the installation, zephira.ini in the program folder. Nothing is cached: each call goes to the store.
+/// Only the rows of settingRows() can be read and written.
 class Configuration
 {
 public:
@@ -29,7 +29,7 @@ public:
     }
 
 private:
-    /// Section and key without regard to case; "" for what isn't there.
+    /// Section and key are not case-sensitive. Returns "" for a missing value.
     virtual QString read(const QString &section, const QString &key) const = 0;
     virtual bool write(const QString &section, const QString &key, const QString &value) = 0;
 };

@@ -13,7 +13,7 @@
 
 namespace zephira {
 
-/// What queryStatus() answers. Below Enabled a command can't be run.
+/// The values of queryStatus(). A command whose status is below Enabled can't be run.
 struct DesignerStatus {
     static constexpr int NotSupported = 0;
     static constexpr int Disabled = 1;
@@ -22,13 +22,13 @@ struct DesignerStatus {
     static constexpr int Mixed = 11;
 };
 
-/// Whether a command may put its own question to the user.
+/// Whether a command may ask the user for its argument.
 enum class DesignerPrompting : int { Default = 0, PromptUser = 1, DontPromptUser = 2 };
 
 /// How an entry of the designer's context menu looks.
 enum class DesignerMenuState : int { Unchecked = 0, Checked = 1, Greyed = 2 };
 
-/// The argument of InsertTable. The attributes are markup without the angle brackets and are taken as they are.
+/// The argument of InsertTable. The attributes are markup without the angle brackets and are inserted as they are.
 struct InsertTableParam {
     int rows = 3;
     int columns = 3;
@@ -36,27 +36,28 @@ struct InsertTableParam {
     QString cellAttributes = {};
     QString caption = {};
 
-    /// More cells than anybody would fill by hand; such a table isn't inserted.
+    /// Whether there are more cells than anybody would fill by hand. Such a table isn't inserted.
     bool isTooLarge() const { return rows > 0 && columns > 0 && rows > mostCells / columns; }
     static constexpr int mostCells = 20000;
 
     friend bool operator==(const InsertTableParam &, const InsertTableParam &) = default;
 };
 
-/// What the designer tells its host. Handlers may call the designer; those that are empty are left out.
+/// The designer's notifications to its host. Handlers may call the designer; empty ones are skipped.
 struct DesignerEvents {
     /// A page has been loaded and can be edited.
     std::function<void()> documentComplete = {};
     /// The caret moved, the selection changed, or a command ran.
     std::function<void()> displayChanged = {};
-    /// A context menu is wanted at a place of the screen; the handler gives its entries by setContextMenu().
+    /// A context menu is requested at a position in screen coordinates; the handler provides the entries through
+    /// setContextMenu().
     std::function<void(const QPoint &)> showContextMenu = {};
     /// The user chose the entry with this 0-based index, separators counted.
     std::function<void(int)> contextMenuAction = {};
 };
 
-/// The visual page designer as the rest of the program sees it. Calls return when their work is done; what takes
-/// unreasonably long is given up, and the last state that is known stands.
+/// The visual page designer as the rest of the program sees it. Calls return when their work is done. A call that takes
+/// unreasonably long is abandoned, and the last known state is kept.
 class Designer
 {
 public:
@@ -64,31 +65,31 @@ public:
 
     /// Whether the window is in visual mode.
     virtual bool isShowing() const = 0;
-    /// Changed since it was loaded; undoing every change ends that.
+    /// Whether the page was changed since it was loaded. Undoing every change makes it clean again.
     virtual bool isDirty() const = 0;
-    /// The whole page. One that is not dirty comes back exactly as it was given.
+    /// The whole page. A page that is not dirty comes back exactly as it was set.
     virtual QString documentHtml() = 0;
-    /// Shows a page by value; relative addresses in it still lead from baseFile().
+    /// Shows a page given as text. Relative addresses in it are still resolved against baseFile().
     virtual void setDocumentHtml(const QString &html) = 0;
-    /// Loads a page from the disk and makes it the base file. A file that can't be read raises HandlerError.
+    /// Loads a page from the disk and makes it the base file. Raises HandlerError if the file can't be read.
     virtual void loadDocument(const QString &path) = 0;
-    /// Full path of the file that relative addresses lead from, or empty; it counts from the next load on.
+    /// Full path of the file that relative addresses are resolved against, or empty. Takes effect with the next load.
     virtual QString baseFile() const = 0;
     virtual void setBaseFile(const QString &path) = 0;
-    /// Puts markup in place of the designer's selection.
+    /// Replaces the designer's selection with markup.
     virtual void pasteHtml(const QString &html) = 0;
 
-    /// Runs a command; one whose status is below Enabled does nothing. What a command takes and gives:
+    /// Runs a command, or does nothing if its status is below Enabled. Arguments and results:
     ///
     /// | Command | Argument | Result |
     /// |---|---|---|
-    /// | SetFontName, SetBlockFormat, SetForeColor, SetBackColor | a text; colours as "#rrggbb" | |
-    /// | SetFontSize | a number or its text, 1 to 7 | |
-    /// | GetFontName, GetBlockFormat | | a text |
-    /// | GetFontSize | | a number, 0 where there is none |
-    /// | GetBlockFormatNames | | a list of texts |
+    /// | SetFontName, SetBlockFormat, SetForeColor, SetBackColor | a string; colours as "#rrggbb" | |
+    /// | SetFontSize | a number or a numeric string, 1 to 7 | |
+    /// | GetFontName, GetBlockFormat | | a string |
+    /// | GetFontSize | | a number, 0 for none |
+    /// | GetBlockFormatNames | | a list of strings |
     /// | InsertTable | InsertTableParam, or none for its defaults | |
-    /// | Image, Hyperlink, FindText | an address or a text; asked for where it is missing | FindText: whether it was found |
+    /// | Image, Hyperlink, FindText | an address or a text; asked for if missing | FindText: whether it was found |
     virtual QVariant execCommand(DesignerCommand command, DesignerPrompting prompting = DesignerPrompting::Default,
                                  const QVariant &argument = {}) = 0;
     /// One of the numbers of DesignerStatus.
@@ -100,27 +101,29 @@ public:
     virtual void setShowBorders(bool on) = 0;
     virtual bool showDetails() const = 0;
     virtual void setShowDetails(bool on) = 0;
-    /// Shows the page as a browser does; nothing can be edited meanwhile.
+    /// In browse mode the page is shown as in a browser and can't be edited.
     virtual bool browseMode() const = 0;
     virtual void setBrowseMode(bool on) = 0;
     virtual bool snapToGrid() const = 0;
     virtual void setSnapToGrid(bool on) = 0;
 
-    /// Entries of the context menu that is about to show; an empty text is a separator. Both lists have one length.
+    /// Sets the entries of the context menu about to be shown; an empty string is a separator. Both lists have the same
+    /// length.
     virtual void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) = 0;
     virtual void setEvents(DesignerEvents events) = 0;
 
-    /// The view is being left, which takes a while: whoever asks isShowing() meanwhile runs `finish` first, after which
-    /// visual mode has ended and its text is home. Empty once it has been left.
+    /// Sets `finish` while visual mode is being left, which takes a while: until it is set to empty again, isShowing()
+    /// first calls it to end visual mode and carry the text back to the code view.
     virtual void setLeaving(std::function<void()> finish) = 0;
-    /// Is called when the process that shows the page has ended by itself; the page as it was known last is loaded again.
+    /// Sets the handler that is called when the page's render process has ended unexpectedly; the last known state of
+    /// the page is loaded again.
     virtual void onProcessLost(std::function<void()> handler) = 0;
-    /// A page that lies in this folder, or below it, may load files from all of it, and another one from its own folder
-    /// and below. Empty for none; it counts from the next load on.
+    /// A page in this folder or below it may load files from anywhere in it; any other page only from its own folder
+    /// and below. Empty for none. Takes effect with the next load.
     virtual void setProjectFolder(const QString &folder) = 0;
 };
 
-/// Stands for the designer as long as the visual view has not been opened: never showing, never dirty.
+/// Takes the designer's place until the visual view is first opened: never showing, never dirty.
 class NoDesigner final : public Designer
 {
 public:

@@ -3,7 +3,7 @@
 
 namespace zephira {
 
-/// The designer's commands by their published numbers.
+/// The designer's commands with their published numbers.
 enum class DesignerCommand : int {
     None = 0, ///< a separator in a table
     Bold = 5000,

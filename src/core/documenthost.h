@@ -5,25 +5,25 @@
 
 namespace zephira {
 
-/// What the box of the project folder shows while no project is set.
+/// Text of the project folder box while no project is set.
 inline constexpr QStringView noProjectPath = u"Project Path";
 
-/// What forms may ask of the window's document and its project.
+/// The forms' interface to the window's document and its project.
 class DocumentHost
 {
 public:
     virtual ~DocumentHost() = default;
 
-    /// Row of the language list, 0 to 9, and its text.
+    /// The selected row of the language list, 0 to 9, and its text.
     virtual int languageRow() const = 0;
     virtual QString languageText() const = 0;
     virtual void setLanguageRow(int row) = 0;
 
-    /// Text of the project folder's box, whatever it is; hasProject() tells whether it stands for a folder.
+    /// Text of the project folder box, whatever it is; hasProject() says whether it names a folder.
     virtual QString projectPath() const = 0;
     virtual void setProjectPath(const QString &path) = 0;
 
-    /// The common dialog's file name, which is the document's path, or empty.
+    /// The common dialog's file name: the document's full path, or empty.
     virtual QString commonDialogFile() const = 0;
 };
 

@@ -23,34 +23,35 @@ struct CodeMaxRange {
     friend bool operator==(const CodeMaxRange &, const CodeMaxRange &) = default;
 };
 
-/// The code view as the rest of the program sees it. All text is UTF-16 with CR LF line ends (a text whose line ends are
-/// mixed keeps them as they are); the file's own line ends, byte order mark and encoding live behind OpenFile and SaveFile.
+/// The code view as the rest of the program sees it. All text is UTF-16 with CR LF line ends (text with mixed line ends
+/// keeps them as they are). Only openFile() and saveFile() deal with the file's own line ends, byte order mark and
+/// encoding.
 class EditingControl
 {
 public:
     virtual ~EditingControl() = default;
 
     virtual QString text() const = 0;
-    /// Replaces the whole document; can be undone. Raises the change event.
+    /// Replaces the whole document. The change can be undone and raises the change event.
     virtual void setText(const QString &text) = 0;
-    /// Length of text() in UTF-16 code units, without making the text.
+    /// Length of text() in UTF-16 code units, without building the text.
     virtual int textLength() const = 0;
-    /// The text as it will be written but for its encoding: UTF-8 with the line ends of the file, in two pieces that
-    /// are valid until the next change.
+    /// The text as it will be saved, except for the encoding: UTF-8 with the file's line ends, in two pieces that are
+    /// valid until the next change.
     virtual std::array<QByteArrayView, 2> utf8Pieces() const = 0;
     virtual QString selText() const = 0;
-    /// Replaces the selection, or inserts at the caret; the caret then stands after the new text.
+    /// Replaces the selection, or inserts at the caret. Leaves the caret after the new text.
     virtual void setSelText(const QString &text) = 0;
     virtual int selLength() const = 0;
-    /// How many stretches of text are selected, or carets placed, at the same time; at least 1.
+    /// Number of simultaneous selections, counting carets without selected text; at least 1.
     virtual int selectionCount() const { return 1; }
-    /// Replaces each of the selections by what `make` gives for its text; the carets then stand behind the new texts. All
-    /// of it is undone in one step.
+    /// Replaces each selection with what `make` returns for its text, and leaves the carets after the new texts. One
+    /// undo step reverts all of it.
     virtual void replaceSelections(const std::function<QString(const QString &)> &make) { setSelText(make(selText())); }
     virtual QString currentWord() const = 0;
     virtual int lineCount() const = 0;
 
-    /// Name of a registered language, without regard to case; "" for none.
+    /// Name of a registered language, not case-sensitive; "" for none.
     virtual QString language() const = 0;
     virtual void setLanguage(const QString &name) = 0;
 
@@ -74,15 +75,15 @@ public:
     virtual bool canRedo() const = 0;
     virtual bool canCopy() const = 0;
 
-    /// Replaces the text with the file's and empties the undo history. On failure the text stays as it was.
+    /// Replaces the text with the file's and clears the undo history. On failure the text is unchanged.
     virtual Result<void> openFile(const QString &path) = 0;
-    /// Writes the text atomically in the encoding and line ends it came in.
+    /// Writes the text atomically, with the encoding and line ends that it was loaded with.
     virtual Result<void> saveFile(const QString &path, bool clearUndo) = 0;
 
     virtual CodeMaxRange selection(bool normalized) const = 0;
     virtual void select(const CodeMaxRange &range) = 0;
 
-    /// Colours are numbers with red in the lowest byte; items are those of ColourItem.
+    /// Colours have red in the lowest byte; `item` is a ColourItem.
     virtual void setColor(int item, quint32 colour) = 0;
     virtual quint32 color(int item) const = 0;
     /// Font styles, items are those of FontStyleItem: 0 normal, 1 bold, 2 italic, 3 bold italic, 4 underlined; other bits are kept.
@@ -94,9 +95,9 @@ public:
     virtual void cut() = 0;
     virtual void copy() = 0;
     virtual void paste() = 0;
-    /// Removes the selection without touching the clipboard; with nothing selected, nothing.
+    /// Removes the selection without touching the clipboard. Does nothing if nothing is selected.
     virtual void clearSelection() = 0;
-    /// Runs a built-in command; numbers that aren't known do nothing.
+    /// Runs a built-in command. Unknown numbers do nothing.
     virtual void executeCmd(int command, int argument = -1) = 0;
     void executeCmd(EditorCommand command, int argument = -1) { executeCmd(numberOf(command), argument); }
     virtual void printContents(int device, int options) = 0;

@@ -3,10 +3,10 @@
 
 namespace zephira {
 
-/// Numbers of the editing control's built-in commands. Keys run a few of the editor engine's too, whose numbers are from
-/// 2000 to 2999 and bear the engine's names.
+/// Numbers of the editing control's built-in commands. Some keys also run commands of the editor engine, which have
+/// numbers from 2000 to 2999 and keep the engine's names.
 enum class EditorCommand : int {
-    // What the program runs.
+    // Run by the program.
     SelectAll = 137, ///< no argument
     GoToLine = 168,  ///< a 0-based line number, or -1 for the control's own dialog
     FindReplaceDialog = 169,
@@ -14,7 +14,7 @@ enum class EditorCommand : int {
     FindDialog = 178,
     PropertiesDialog = 224,
 
-    // What menus usually do as well; a program with such menus takes their keys away.
+    // Usually also offered by menus; a program with such menus unbinds their keys here.
     FindByKey = 129,
     ReplaceByKey = 139,
     CutByOldKey = 140,
@@ -23,7 +23,7 @@ enum class EditorCommand : int {
     TransposeLines = 197,
     SelectWord = 198,
 
-    // The control's own.
+    // The control's own commands.
     FindPrevious = 1000,
     ToggleBookmark,
     NextBookmark,

@@ -9,14 +9,14 @@ namespace zephira {
 
 class EditingControl;
 
-/// An editing control and the widget that it is, two views of one object that belongs to the widget's parent.
+/// An editing control and its widget: two interfaces of one object, which the widget's parent owns.
 struct EditorView {
     QWidget *widget = nullptr;
     EditingControl *control = nullptr;
 };
 
-/// Makes an editing control that shows text and doesn't let the user change it; openFile() works on it all the same.
-/// Forms take it instead of the control's class, so that they can be built and tested without the editor's library.
+/// Creates a read-only editing control; openFile() still works on it. Forms take this factory instead of the control's
+/// class, so that they can be built and tested without the editor library.
 using ViewerFactory = std::function<EditorView(QWidget *parent)>;
 
 } // namespace zephira

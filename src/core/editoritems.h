@@ -5,8 +5,7 @@
 
 namespace zephira {
 
-/// The editing control's colour items by number. Where something has two, the first paints the text and the second what
-/// is behind it.
+/// The editing control's colour items by number. Fore is the colour of the text, Back that of its background.
 enum ColourItem : int {
     WindowColour,
     LeftMarginColour,
@@ -59,11 +58,11 @@ enum FontStyleItem : int {
     fontStyleTotal
 };
 
-/// Stands for the item that something hasn't got.
+/// Marks an item that a row doesn't have.
 constexpr int noItem = -1;
 
-/// What a person sees and may change together: a line of the properties dialog and a row of the settings. noItem where a
-/// row has none.
+/// The colours and font style that the user sets together: an entry of the properties dialog and a row of the settings.
+/// noItem where the row lacks the item.
 struct AppearanceRow {
     const char16_t *name;
     int foreground;

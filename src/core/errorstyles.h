@@ -20,18 +20,18 @@ struct HandlerError {
 
 using Statement = std::function<void()>;
 
-/// Runs each statement in turn; one that fails is left out and the next one runs.
+/// Runs each statement in turn; if one fails, the next one runs.
 void ignoringErrors(std::initializer_list<Statement> statements);
 
-/// Runs the body; the first error ends it without a word. Returns whether the body came to its end.
+/// Runs the body; the first error ends it silently. Returns whether the body completed.
 bool endingQuietly(const Statement &body);
 
-/// Runs each statement in turn; a failing one is told in a critical box with OK and Cancel that names the form and the
-/// procedure. OK goes on with the next statement, Cancel leaves the rest undone.
+/// Runs each statement in turn. A failure is reported in a critical message box with OK and Cancel that names the form
+/// and the procedure. OK continues with the next statement, Cancel skips the rest.
 void tellingErrors(Prompts &prompts, const QString &form, const QString &procedure,
                    std::initializer_list<Statement> statements);
 
-/// The result's value. A failed result becomes the error that handlers are written for.
+/// Returns the result's value; raises HandlerError if the result failed.
 template<typename T>
 T orRaise(Result<T> result)
 {
@@ -41,7 +41,7 @@ T orRaise(Result<T> result)
         return std::move(result).value();
 }
 
-/// Tells the user what went wrong, in a box with OK. An empty title stands for the program's name.
+/// Shows the error in a message box with OK. An empty title stands for the program's name.
 void tellError(Prompts &prompts, const Error &error, const QString &title = {},
                Question::Icon icon = Question::Icon::Exclamation);
 

@@ -5,7 +5,7 @@ namespace zephira {
 
 namespace {
 
-/// Holds everything until the end.
+/// Collects the bytes in memory and writes them in finish().
 class GatheredFile final : public IncomingFile
 {
 public:

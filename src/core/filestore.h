@@ -12,8 +12,8 @@
 
 namespace zephira {
 
-/// What tells one state of a file on disk from another: device, inode, size in bytes, and modification time in
-/// nanoseconds since 1970. `exists` is false for a file that isn't there.
+/// Identifies one state of a file on disk: device, inode, size in bytes, and modification time in nanoseconds since
+/// 1970. `exists` is false if there is no such file.
 struct FileSignature {
     bool exists = false;
     quint64 device = 0;
@@ -24,58 +24,61 @@ struct FileSignature {
     friend bool operator==(const FileSignature &, const FileSignature &) = default;
 };
 
-/// A file's bytes for a short look. Copies of `bytes` must not outlive the owner, which may be the file itself, mapped.
+/// A file's bytes for short use. Copies of `bytes` must not outlive `owner`, which may be a mapping of the file.
 struct FileView {
     QByteArray bytes;
     std::shared_ptr<const void> owner = {};
 };
 
-/// Files by full path. The program works on the disk; tests work in memory or with a store that fails where they say.
-/// A file whose bytes come one after another.
+/// A file that is written piece by piece.
 class IncomingFile
 {
 public:
-    /// Without finish() the file stays what it was.
+    /// Without finish() the file stays unchanged.
     virtual ~IncomingFile() = default;
 
-    /// Puts bytes behind those before. A failure is told by finish().
+    /// Appends bytes. A failure is reported by finish().
     virtual void append(QByteArrayView bytes) = 0;
-    /// Lets the bytes take the file's place, once.
+    /// Replaces the file with the bytes. Must be called only once.
     virtual Result<void> finish() = 0;
 };
 
+/// Access to files by full path. The program works on the disk; tests work in memory, or with a store whose operations
+/// can be made to fail.
 class FileStore
 {
 public:
     virtual ~FileStore() = default;
 
     virtual Result<QByteArray> read(const QString &path) const = 0;
-    /// The same without a copy where the store can do that.
+    /// The same, without copying if the store can do that.
     virtual Result<FileView> view(const QString &path) const
     {
         Result<QByteArray> content = read(path);
         return content ? Result<FileView>(FileView{std::move(content).value()}) : content.error();
     }
-    /// Replaces the file with the pieces, joined, so that at every moment the old or the new content is on the disk.
-    /// Mode, owner where possible, and a symbolic link's target are kept. `mode` is for a file that is new.
+    /// Replaces the file with the concatenated pieces atomically: at every moment either the old or the new content is
+    /// on the disk. Mode and, where possible, owner are kept, and symbolic links are followed. `mode` applies to new
+    /// files.
     virtual Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) = 0;
-    /// As write(), for a copy of what can be had again: where the file is new, nothing waits for the disk, so that many
-    /// small files cost little. Such a file can be lost when the machine stops soon afterwards, but not when the program
-    /// does; one that takes another's place is as safe as ever.
+    /// Like write(), for a copy of something that can be obtained again. A new file isn't flushed to the disk, so that
+    /// many small files cost little; it can be lost if the machine stops soon afterwards, but not if only the program
+    /// does. Replacing an existing file is as safe as with write().
     virtual Result<void> writeCopy(const QString &path, std::span<const QByteArrayView> pieces)
     {
         return write(path, pieces);
     }
-    /// Whether write() would part the file from other names that it has, or can't replace it because its folder allows no
-    /// new files. False for a file that isn't there.
+    /// Whether write() would separate the file from its other hard links, or can't replace it because its folder allows
+    /// no new files. False if there is no such file.
     virtual bool mustBeWrittenInPlace(const QString &) const { return false; }
-    /// Writes over what stands in the file, with all that goes with it. What is killed in the middle leaves neither the old
-    /// nor the new content: whoever calls this has a copy.
+    /// Overwrites the content of the existing file. If the write is interrupted, the file holds neither the old nor the
+    /// new content, so the caller must have kept a copy.
     virtual Result<void> writeInPlace(const QString &path, std::span<const QByteArrayView> pieces)
     {
         return write(path, pieces);
     }
-    /// As writeCopy(), for bytes that are still to come: where the store can do that, they needn't be held in memory.
+    /// Like writeCopy(), for bytes that arrive piece by piece; if the store can do that, they aren't collected in
+    /// memory.
     virtual std::unique_ptr<IncomingFile> receiveCopy(const QString &path);
     virtual Result<void> remove(const QString &path) = 0;
     /// True if the path can be opened for reading; an existing file that can't be read counts as absent.

@@ -5,7 +5,7 @@ namespace zephira {
 
 void FormCatalogue::add(const QString &name, Factory factory)
 {
-    Q_ASSERT_X(!contains(name), "FormCatalogue", "a form is registered twice");
+    Q_ASSERT_X(!contains(name), "FormCatalogue", "form registered twice");
     m_factories[name] = std::move(factory);
 }
 

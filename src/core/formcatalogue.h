@@ -13,8 +13,8 @@ class QWidget;
 
 namespace zephira {
 
-/// Every form of the program by name. Each folder adds its own in registerForms(); the program, the form tests and the
-/// screenshots make forms from this one list.
+/// All forms of the program by name. Each folder adds its forms in registerForms(); the program, the form tests and the
+/// screenshots create forms from this list.
 class FormCatalogue
 {
 public:
@@ -28,16 +28,16 @@ public:
     {
         add(name, [](const AppContext &context, QWidget *owner) -> QWidget * { return new Form(context, owner); });
     }
-    /// Names a form that is still to come: commands that open it are disabled and say so. Adding the form ends that.
+    /// Names a form that isn't available yet: commands that open it are disabled and say so, until the form is added.
     void announce(const QString &name);
 
-    /// Whether the form can be made.
+    /// Whether the form can be created.
     bool contains(const QString &name) const;
-    /// Whether the form is still to come.
+    /// Whether the form was announced but not added yet.
     bool isAnnounced(const QString &name) const;
-    /// The forms that can be made, in alphabetical order.
+    /// The forms that can be created, in alphabetical order.
     QStringList names() const;
-    /// A new form, owned by the caller through `owner`; nullptr for a name that isn't in the catalogue.
+    /// Creates a form with `owner` as its parent. Returns nullptr for a name that isn't in the catalogue.
     QWidget *make(const QString &name, const AppContext &context, QWidget *owner) const;
 
 private:

@@ -7,18 +7,18 @@ class QWidget;
 
 namespace zephira {
 
-/// Shows forms by name. The only way for one folder to show a form of another.
+/// Shows forms by name. Folders show each other's forms only through this interface.
 class FormOpener
 {
 public:
     virtual ~FormOpener() = default;
-    /// Whether a form of that name can be opened yet.
+    /// Whether a form of that name can be opened.
     virtual bool isAvailable(const QString &form) const = 0;
-    /// Makes the form, shows it modally over its owner, or the main window where none is given, and destroys it. Does
-    /// nothing when it isn't available.
+    /// Creates the form, shows it modally over `owner` (nullptr: the main window), and destroys it when it is closed.
+    /// Does nothing if the form isn't available.
     virtual void openModal(const QString &form, QWidget *owner) = 0;
     void openModal(const QString &form) { openModal(form, nullptr); }
-    /// Shows the form beside the main window; one that is showing already is raised.
+    /// Shows the form as a modeless window, or raises it if it is already open.
     virtual void openModeless(const QString &form) = 0;
 };
 

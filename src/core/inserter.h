@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// The one operation through which text goes into the document: into the designer's selection in visual mode, else in
-/// the place of the code view's selection.
+/// The single operation that inserts text into the document: it replaces the designer's selection in visual mode,
+/// otherwise the code view's selection.
 class Inserter
 {
 public:

@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// Puts text where the user works. In visual mode it is taken as markup, and the designer's dirty flag carries the
-/// change; otherwise it replaces the code view's selection.
+/// Inserts text in the active view. In visual mode the text is markup, and the change is recorded by the designer's
+/// dirty flag; otherwise it replaces the code view's selection.
 class TextInserter final : public Inserter
 {
 public:

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// What a tree node or list row bears beside its text, as item data.
+/// Item data roles for the key and the tag of a tree node or list row.
 constexpr int KeyRole = Qt::UserRole;
 constexpr int TagRole = Qt::UserRole + 1;
 

@@ -41,7 +41,7 @@ constexpr FileType types[] = {
     {.extension = u"gif", .isImage = true},
     {.extension = u"bmp", .isImage = true},
     {.extension = u"jpg", .isImage = true},
-    // Files without a row of their own.
+    // File types without a language row.
     {.extension = u"png", .isAdded = true},
     {.extension = u"svg", .isAdded = true},
     {.extension = u"webp", .isAdded = true},
@@ -63,13 +63,13 @@ constexpr FileType types[] = {
     {.extension = u"yml", .kind = PlainText},
 };
 
-/// A group of the open dialog. One of extensions names them in its own order.
+/// A file group of the open dialog, whose extensions have an order of their own.
 struct OpenGroup {
     QStringView caption;
-    QStringView extensions; ///< divided by blanks
+    QStringView extensions; ///< separated by spaces
 };
 
-/// Style sheets are asked for by an extension that they don't have; the list of all files has the right one.
+/// The pattern of the style sheet group doesn't match "css"; the list of all supported files does.
 constexpr OpenGroup openGroups[] = {
     {u"Text / INI / LOG Files", u"txt ini log"},
     {u"Html Files", u"html htm"},
@@ -86,7 +86,7 @@ constexpr OpenGroup openGroups[] = {
 };
 // clang-format on
 
-/// The pattern of an extension in a list of all of them. That of style sheets has no dot.
+/// The pattern of an extension in a list of all types. The one for style sheets has no dot.
 QString patternOf(const FileType &type)
 {
     return (type.extension == u"css" ? u"*"_s : u"*."_s) + type.extension.toString();
@@ -129,7 +129,7 @@ const LanguageRow *languageRow(int row)
 
 bool linksImages(const QString &text)
 {
-    // Scripts are meant to have links too, but the list shows them as "Java / Script": this name never comes.
+    // Kept although it never matches: the language list shows scripts as "Java / Script".
     if (text == u"Java Script")
         return true;
     return std::ranges::any_of(languageRows(),

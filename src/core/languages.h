@@ -9,32 +9,32 @@
 
 namespace zephira {
 
-/// What the preview makes of a document.
+/// How the preview shows a document.
 enum class PreviewKind {
-    None,       ///< a page that says that there is no preview
-    Page,       ///< the document itself, which is a page whatever its name says
-    File,       ///< the document itself, as a browser shows such a file
-    StyleSheet, ///< a sample page that the document styles
-    Unchanged,  ///< the view goes on showing what it held
+    None,       ///< a page saying that there is no preview
+    Page,       ///< the document itself, as a page whatever its name
+    File,       ///< the document itself, as a browser shows that type of file
+    StyleSheet, ///< a sample page styled by the document
+    Unchanged,  ///< the preview keeps its content
 };
 
-/// What the designer takes a document for.
+/// How the designer treats a document.
 enum class DocumentKind {
     Markup,
-    PlainText, ///< a program, a style sheet or notes: shown as they stand, and edited as text
+    PlainText, ///< a program, a style sheet or notes: shown and edited as plain text
 };
 
-/// One row of the language list `cboLang`, with all that is true of the language.
+/// One row of the language list `cboLang`, with the properties of the language.
 struct LanguageRow {
     QStringView text;           ///< as shown in the list
-    QStringView editorLanguage; ///< what the editing control calls it; "" for no colouring
-    bool markupTools;           ///< whether the formatting buttons and the menu of tags are open
-    bool imageLinks;            ///< whether an image of the file pane becomes a link in the text
+    QStringView editorLanguage; ///< name in the editing control; "" for no colouring
+    bool markupTools;           ///< whether the formatting buttons and the Tags menu are enabled
+    bool imageLinks;            ///< whether an image from the file pane is inserted as a link
     PreviewKind preview;
-    QStringView saveFilter; ///< what the save dialog offers
+    QStringView saveFilter; ///< filter of the save dialog
 };
 
-/// The numbers of the rows, which the start dialog, plug-ins and wizards share.
+/// Row numbers, shared with the start dialog, plug-ins and wizards.
 namespace language {
 enum Row : int { Text, Html, CCpp, Perl, Xml, Basic, Pascal, JavaScript, StyleSheets, Sql };
 }
@@ -43,44 +43,44 @@ constexpr int languageCount = 10;
 
 const std::array<LanguageRow, languageCount> &languageRows();
 
-/// The row of a number, or nullptr for one outside the list.
+/// The row with this 0-based number, or nullptr if there is none.
 const LanguageRow *languageRow(int row);
 
-/// Whether an image becomes a link in a document of the language that the list shows as `text`.
+/// Whether an image is inserted as a link in documents of the language that the list shows as `text`.
 bool linksImages(const QString &text);
 
-/// How a custom template chooses the language by its name.
+/// How the file name of a custom template chooses the language.
 enum class TemplateRule {
-    AsDocument,    ///< as the document of that name does
-    NamesLanguage, ///< the same, and the editing control is given "c/c++" directly afterwards
-    Ignored,       ///< the language stays what it is
+    AsDocument,    ///< like a document of that name
+    NamesLanguage, ///< the same, and then the editing control's language is set to "c/c++"
+    Ignored,       ///< the language is not changed
 };
 
-/// One extension of a file's name, and what the program knows by it. An extension that isn't here is text, of whatever
-/// language is chosen, and markup for the designer.
+/// A file name extension and what it implies. A file with an unlisted extension is text in the currently selected
+/// language, and markup for the designer.
 struct FileType {
     QStringView extension; ///< without its dot, in lower case
     std::optional<language::Row> row = {};
-    QStringView editorLanguage = {}; ///< what the editing control is given after the row is chosen, or ""
+    QStringView editorLanguage = {}; ///< language set in the editing control after the row is selected, or ""
     TemplateRule byTemplate = TemplateRule::AsDocument;
     DocumentKind kind = DocumentKind::Markup;
-    bool isImage = false;      ///< shown as a picture, or linked, and never the document
-    bool isServerPage = false; ///< has to be seen through a web server
-    bool isListedLast = false; ///< stands behind the pictures in the patterns of the file pane
-    bool isAdded = false;      ///< not among the program's own patterns, but among those that are installed
+    bool isImage = false;      ///< shown as a picture or linked, never opened as the document
+    bool isServerPage = false; ///< can be viewed only through a web server
+    bool isListedLast = false; ///< comes after the pictures in the file pane's patterns
+    bool isAdded = false;      ///< missing from defaultFilters(), included in shippedFilters()
 };
 
 /// In the order in which the open dialog lists them.
 std::span<const FileType> fileTypes();
 
-/// By what follows the last dot of a name or path, without regard to case; nullptr for an unknown extension.
+/// The type by the part after the last dot of a name or path, not case-sensitive; nullptr for an unknown extension.
 const FileType *fileTypeOf(QStringView name);
 
-/// Whether the name is that of a page which only a web server can show.
+/// Whether the name is that of a page that can be viewed only through a web server.
 bool isServerPage(QStringView name);
 
-/// The language that a file's name stands for: the row to select, and the name that the editing control is given directly
-/// afterwards, "" where the row's own is wanted.
+/// The language implied by a file name: the row to select, and the language to set in the editing control directly
+/// afterwards, "" to keep the row's own.
 struct LanguageChoice {
     int row;
     QString editorLanguage = {};
@@ -88,18 +88,18 @@ struct LanguageChoice {
     friend bool operator==(const LanguageChoice &, const LanguageChoice &) = default;
 };
 
-/// Nothing for an unknown extension: the language stays.
+/// Nothing for an unknown extension: the language is not changed.
 std::optional<LanguageChoice> languageOfFile(QStringView name);
 /// The same for the file of a custom template, which knows fewer extensions.
 std::optional<LanguageChoice> languageOfTemplate(QStringView name);
 
-/// What the open dialog offers: "caption|patterns|caption|patterns…".
+/// Filter of the open dialog: "caption|patterns|caption|patterns…".
 QString openFilter();
 
-/// The patterns of the file pane when they are put back to the program's own.
+/// The file pane's patterns after a reset to the program's defaults.
 QString defaultFilters();
 
-/// The patterns of the file pane that are installed: the program's own, and what people make pages of besides.
+/// The file pane's patterns as installed: the defaults, and further file types used on web pages.
 QString shippedFilters();
 
 } // namespace zephira

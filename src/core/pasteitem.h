@@ -7,11 +7,12 @@ namespace zephira {
 
 struct AppContext;
 
-/// Puts an item of a side list, or what a wizard made, after the text that is selected in the code view. The selected text stays; with an empty
-/// item nothing happens at all. In visual mode the designer gets both.
+/// Inserts an item of a side list, or a wizard's result, after the text selected in the code view. The selected text
+/// stays. An empty item does nothing. In visual mode the selected text and the item are both inserted into the
+/// designer.
 void pasteBehindSelection(const AppContext &context, const QString &item);
 
-/// The same for the lists that need the code view: in visual mode the user is told so instead.
+/// The same for lists that need the code view: in visual mode a message says so instead.
 void pasteInCodeView(const AppContext &context, const QString &item);
 
 } // namespace zephira

@@ -5,22 +5,22 @@
 
 namespace zephira {
 
-// Paths that the user or a document may have written: "\" and "/" divide folders alike.
+// Paths that the user or a document may have written: both "\" and "/" are separators.
 
-/// What follows the last separator.
+/// The part after the last separator.
 QString fileTitleOf(const QString &path);
-/// The path up to and with its last separator.
+/// The path up to and including its last separator.
 QString folderOf(const QString &path);
-/// The folder with a separator at its end; the platform's where it had none.
+/// The folder with a trailing separator; the platform's separator is added if there was none.
 QString withSeparator(const QString &folder);
 
-// Paths as this machine and a server have them, whose only separator is "/": a name may hold any other character.
+// Paths on this machine and on a server, where only "/" is a separator: names may contain any other character.
 
-/// The path with "/" at its end.
+/// The path with a trailing "/".
 QString withSlash(const QString &folder);
-/// The path before the last separator; that of the root where nothing stands before it.
+/// The path before the last separator, or "/" if nothing precedes it.
 QString parentFolder(const QString &folder);
-/// What follows the last separator.
+/// The part after the last separator.
 QString lastName(const QString &path);
 
 } // namespace zephira

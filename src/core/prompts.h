@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// A question, or a note that has only OK, put to the user. An empty title stands for the program's name.
+/// A message box: a question, or a note with only an OK button. An empty title stands for the program's name.
 struct Question {
     enum class Icon { None, Information, Question, Exclamation, Critical };
     enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
@@ -32,15 +32,15 @@ struct InputRequest {
     friend bool operator==(const InputRequest &, const InputRequest &) = default;
 };
 
-/// Asks for a file name. The filter is a list of name and pattern pairs divided by bars,
-/// "Text Files|*.txt|All Files|*.*"; "*.*" matches every name.
+/// Asks for a file name. The filter is a list of name and pattern pairs separated by bars, "Text Files|*.txt|All
+/// Files|*.*"; "*.*" matches every name.
 struct FileRequest {
     QString title = {};
     QString filter = {};
     QString initialFolder = {};
     bool saving = false;
-    /// Full path that the dialog starts at, or empty: its name stands in the box, and its folder shows where
-    /// `initialFolder` is empty or isn't there.
+    /// Full path to start with, or empty. Its name is filled in, and its folder is shown if `initialFolder` is empty or
+    /// doesn't exist.
     QString fileName = {};
 
     friend bool operator==(const FileRequest &, const FileRequest &) = default;
@@ -58,24 +58,25 @@ struct FontChoice {
     friend bool operator==(const FontChoice &, const FontChoice &) = default;
 };
 
-/// The one door to dialogs that ask the user. The program answers with the desktop's dialogs, tests with scripted ones.
+/// All dialogs that ask the user go through this interface. The program shows the desktop's dialogs; tests script the
+/// answers.
 class Prompts
 {
 public:
     virtual ~Prompts() = default;
 
     virtual Answer ask(const Question &question) = 0;
-    /// Nothing when the user cancelled; an empty string when OK was pressed on an empty box.
+    /// Nothing if the user cancelled; an empty string if OK was pressed with an empty input.
     virtual std::optional<QString> input(const InputRequest &request) = 0;
-    /// The full path with the platform's separators, or nothing when the user cancelled. A save request never asks about
-    /// overwriting: the caller does.
+    /// The full path with the platform's separators, or nothing if the user cancelled. A save request never asks before
+    /// overwriting; the caller has to.
     virtual std::optional<QString> file(const FileRequest &request) = 0;
     virtual std::optional<QString> folder(const QString &title, const QString &initialFolder) = 0;
-    /// Colours are numbers with red in the lowest byte.
+    /// Colours have red in the lowest byte.
     virtual std::optional<quint32> colour(quint32 initial) = 0;
     virtual std::optional<FontChoice> font(const FontChoice &initial) = 0;
 
-    /// A note with an OK button.
+    /// Shows a note with an OK button.
     void tell(const QString &text, const QString &title = {}, Question::Icon icon = Question::Icon::Information)
     {
         ask({text, title, icon, Question::Buttons::Ok});

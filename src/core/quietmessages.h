@@ -5,8 +5,9 @@
 
 namespace zephira {
 
-/// While one of these lives, libraries don't tell the terminal what is as it should be: that there is no OpenGL, and that
-/// the web engine does without the sandbox that we have switched off ourselves. All other messages pass.
+/// While an instance exists, library messages about expected conditions are not written to the terminal: that there is
+/// no OpenGL, and that the web engine runs without its sandbox, which the program disables itself. All other messages
+/// pass.
 class QuietMessages
 {
 public:

@@ -35,7 +35,7 @@ QString MakeRelativePath(const QString &basePath, const QString &targetPath)
 {
     if (basePath.isEmpty())
         throw HandlerError{u"Invalid procedure call or argument"_s};
-    // A base written without its drive matches the target from behind the drive's three characters on.
+    // A base without a drive is compared with the target after the three characters of its drive.
     if (QStringView(targetPath).mid(3, basePath.size()) == basePath)
         return fromIndex(targetPath, basePath.size());
 

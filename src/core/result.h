@@ -8,15 +8,15 @@
 
 namespace zephira {
 
-/// What went wrong, in one of a few kinds that code can act on and one sentence that a person can read.
+/// An error: a code that callers can act on, and a sentence for the user.
 struct Error {
     enum class Code { NotFound, Unreadable, Unwritable, TooLarge, Unencodable, Malformed, Refused, TimedOut, Failed };
     Code code = Code::Failed;
     QString sentence;
 };
 
-/// A value, or the Error that stands in its place. Callers can't drop one by accident; reading the value of a failed
-/// result is a programming error that ends the process.
+/// A value, or an Error in its place. Discarding a result is a compiler warning; reading the value of a failed one is a
+/// programming error that ends the process.
 template<typename T>
 class [[nodiscard]] Result
 {
@@ -35,7 +35,7 @@ private:
     std::variant<T, Error> m_content;
 };
 
-/// The outcome of an operation that has nothing to give back.
+/// The outcome of an operation that returns no value.
 template<>
 class [[nodiscard]] Result<void>
 {

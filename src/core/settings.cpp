@@ -33,7 +33,7 @@ void addCustomTabs(std::vector<SettingRow> &rows)
     }
 }
 
-/// What ships for a kind of text.
+/// The shipped appearance of one of appearanceRows.
 struct ShippedColours {
     int foreground;
     int background = -1;
@@ -114,7 +114,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
     using enum UserSetting;
     using enum SettingKind;
     using enum SettingApplies;
-    // The branch of this executable, and the one that every copy of the program shares, whatever it is called.
+    // The branch of this executable, and the one shared by all copies of the program, whatever their executable's name.
     const QString own = u"zephira"_s;
     const QString shared = u"Zephira"_s;
     // clang-format off: a row a line

@@ -9,8 +9,8 @@ namespace zephira {
 
 class Configuration;
 
-/// The settings of the installation, zephira.ini, each by its name. A colour's comes from colourSetting(), a custom tab's
-/// from customTabSetting().
+/// The settings of the installation, kept in zephira.ini. Those of colours come from colourSetting(), those of custom
+/// tabs from customTabSetting().
 enum class Setting : int {
     StartDialog,
     RootSelection,
@@ -34,24 +34,24 @@ enum class Setting : int {
     FirstColour,
 };
 
-/// What a value is. All are kept as text.
+/// The type of a value. All values are stored as text.
 enum class SettingKind {
     Switch,    ///< "1" or "0"
     Truth,     ///< "True" or "False"
     Number,    ///< a whole number
     Measure,   ///< a number with or without a fraction
-    Colour,    ///< decimal, red in the lowest byte; -1 for none of its own
+    Colour,    ///< decimal, red in the lowest byte; -1 for no colour of its own
     FontStyle, ///< 0 normal, 1 bold, 2 italic, 3 both, 4 underlined
     Text,
-    Patterns, ///< patterns of file names, divided by semicolons
+    Patterns, ///< file name patterns, separated by semicolons
     Path,
 };
 
-/// From when on a value that was written is in effect.
+/// When a new value takes effect.
 enum class SettingApplies {
     AtStart,  ///< the next start of the program
-    InEditor, ///< at once in the editing control, which who writes it tells; else the next start
-    AtUse,    ///< read anew whenever it is needed
+    InEditor, ///< at once if the writer also applies it to the editing control, otherwise at the next start
+    AtUse,    ///< whenever it is next used
 };
 
 /// One setting of the installation.
@@ -61,21 +61,21 @@ struct SettingRow {
     QString key;
     SettingKind kind;
     SettingApplies applies;
-    QString shipped;         ///< what the zephira.ini that is installed says
+    QString shipped;         ///< value in the installed zephira.ini
     bool isRequired = false; ///< the program doesn't start without it
-    QString fallback = {};   ///< what a missing key counts as
+    QString fallback = {};   ///< value of a missing key
 };
 
-/// All settings, in the order of Setting; the 54 colours and styles stand at the end.
+/// All settings, in the order of Setting; the 54 colours and styles come last.
 const std::vector<SettingRow> &settingRows();
 const SettingRow &settingRow(Setting setting);
 
-/// The file name of a custom tab, 1 to 6.
+/// The setting for the file name of a custom tab, 1 to 6.
 Setting customTabSetting(int tab);
 
 enum class ColourPart { Background, Foreground, FontStyle };
 
-/// A part of one of appearanceRows, by the row's number.
+/// The setting for a part of one of appearanceRows; `row` is 0-based.
 Setting colourSetting(int row, ColourPart part);
 
 /// Whether the value is exactly "1".
@@ -84,8 +84,8 @@ bool writeSwitch(Configuration &configuration, Setting setting, bool on);
 /// Whether the value is "True", without regard to case.
 bool isTrue(const Configuration &configuration, Setting setting);
 bool writeTruth(Configuration &configuration, Setting setting, bool value);
-/// A number that the start can't do without. Raises HandlerError with a sentence that names key, section and file if it is
-/// missing or not a whole number of 32 bits.
+/// A number without which the program can't start. If it is missing or not a 32-bit integer, raises HandlerError with a
+/// sentence that names key, section and file.
 int requiredNumber(const Configuration &configuration, Setting setting, const QString &file);
 
 /// The values of the per-user store.
@@ -104,11 +104,11 @@ enum class UserSetting : int {
 struct UserSettingRow {
     UserSetting setting;
     QString branch;
-    QString section; ///< empty where each form has its own, under its name
+    QString section; ///< empty where each form has a section of its own, named after the form
     QString key;
     SettingKind kind;
     SettingApplies applies;
-    QString fallback = {}; ///< what a missing key counts as
+    QString fallback = {}; ///< value of a missing key
 };
 
 /// All values, in the order of UserSetting.

@@ -14,14 +14,14 @@ class Shell
 public:
     virtual ~Shell() = default;
 
-    /// Opens a file or an address with the program that the user has chosen for it.
+    /// Opens a file or an address with the user's default application.
     virtual Result<void> open(const QString &pathOrUrl) = 0;
-    /// Starts a program, named by its absolute path, with an argument list; no shell is involved.
+    /// Starts a program, given by its absolute path, with an argument list. No command shell is involved.
     virtual Result<void> start(const QString &program, const QStringList &arguments) = 0;
 
-    /// Shows what the desktop knows of a file, named by its full path.
+    /// Shows the desktop's properties dialog for a file, given by its full path.
     virtual Result<void> showProperties(const QString &path) = 0;
-    /// Opens the desktop's way to look for files.
+    /// Opens the desktop's file search.
     virtual Result<void> findFiles() = 0;
 };
 

@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// The per-user store: branch, section, key. All values are strings and are written at once. Only the rows of
-/// userSettingRows() can be read and written.
+/// The per-user store, addressed by branch, section and key. All values are strings and are written at once. Only the
+/// rows of userSettingRows() can be read and written.
 class UserSettings
 {
 public:
@@ -26,7 +26,7 @@ public:
         write(row.branch, row.section, row.key, value);
     }
 
-    /// The same for a value that each form has, in the section named for the form.
+    /// The same for a value that each form has, in the section named after the form.
     QString GetSetting(UserSetting setting, const QString &form, const QString &fallback) const
     {
         const UserSettingRow &row = userSettingRow(setting);

@@ -29,7 +29,7 @@ QStringView withoutBlanks(QStringView text)
     return text;
 }
 
-/// The value of "&HFF" or "&O17"; nothing when the text isn't of this kind.
+/// The value of a text such as "&HFF" or "&O17"; nothing if the text doesn't have this form.
 std::optional<quint64> prefixedNumber(QStringView text)
 {
     if (!text.startsWith(u'&') || text.size() < 3)
@@ -46,7 +46,7 @@ std::optional<quint64> prefixedNumber(QStringView text)
 
 double decimalNumber(QStringView text)
 {
-    // The library's own conversion knows "inf" and "nan", which are words here; "D" marks an exponent as "E" does.
+    // toDouble() would accept "inf" and "nan", which aren't numbers here. "D" marks an exponent like "E".
     constexpr QStringView allowed = u"0123456789+-.eEdD";
     const bool plain = std::all_of(text.begin(), text.end(), [&](QChar c) { return allowed.contains(c); });
     bool ok = false;
@@ -63,7 +63,7 @@ template<typename T>
 T rounded(double number)
 {
     const double whole = std::nearbyint(number);
-    // Written so that a number that is none at all fails as well.
+    // The condition is negated so that NaN fails as well.
     if (!(whole >= std::numeric_limits<T>::min() && whole <= std::numeric_limits<T>::max()))
         throw HandlerError{u"Overflow"_s};
     return static_cast<T>(whole);
@@ -193,7 +193,7 @@ QString Format(double number, QStringView mask)
 {
     const qsizetype point = mask.indexOf(u'.');
     const qsizetype decimals = point < 0 ? 0 : mask.size() - point - 1;
-    // By way of its text, a number that stands for a half in decimal is rounded as one.
+    // Going through the text makes a number that is a half in decimal round as a half.
     const double scaled = CStr(std::abs(number) * std::pow(10.0, static_cast<double>(decimals))).toDouble();
     QString digits = QString::number(std::round(scaled), 'f', 0).rightJustified(decimals + 1, u'0');
     QString fraction = digits.last(decimals);

@@ -16,7 +16,7 @@ class Designer;
 class FileStore;
 class Prompts;
 
-/// A browser, or a designer, and the widget that it is: two views of one object that belongs to the widget's parent.
+/// A browser or a designer and its widget: two interfaces of one object, which the widget's parent owns.
 struct BrowserView {
     QWidget *widget = nullptr;
     Browser *control = nullptr;
@@ -27,20 +27,20 @@ struct DesignerView {
     Designer *control = nullptr;
 };
 
-/// Makes the two views that stand on a web engine. The engine lives in a module that is loaded when the first of them is
-/// wanted, so that a start which shows none pays nothing for it.
+/// Creates the two views that are based on the web engine. The engine is in a module that is loaded when the first view
+/// is needed, so that a start without them isn't slowed down.
 class WebViews
 {
 public:
     virtual ~WebViews() = default;
 
-    /// Both read the pages that they are told to open from `files`, which outlive them.
+    /// Both views read the pages they open from `files`, which must outlive them.
     virtual BrowserView makeBrowser(const FileStore &files, QWidget *parent) = 0;
-    /// The designer asks the user through `prompts`, which outlive it.
+    /// The designer asks the user through `prompts`, which must outlive it.
     virtual DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) = 0;
 };
 
-/// Gives the views, loading their module at the first call; fails where it can't be loaded.
+/// Returns the view factory, loading its module at the first call; fails if the module can't be loaded.
 using WebViewsLoader = std::function<Result<WebViews *>()>;
 
 } // namespace zephira
