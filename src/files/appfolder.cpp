@@ -28,10 +28,10 @@ constexpr QFile::Permissions fileMode = QFile::ReadOwner | QFile::WriteOwner;
 Error unmade(const QString &folder)
 {
     return {Error::Code::Unwritable,
-            u"The folder %1 can't be made: %2."_s.arg(folder, QString::fromLocal8Bit(std::strerror(errno)))};
+            u"The folder %1 can't be created: %2."_s.arg(folder, QString::fromLocal8Bit(std::strerror(errno)))};
 }
 
-/// Makes a folder and those above it; the new ones are the user's alone.
+/// Creates a folder and its missing parents, accessible only to the user.
 Result<void> makePrivateFolder(const QString &path)
 {
     if (QFileInfo(path).isDir())
@@ -46,7 +46,7 @@ Result<void> makePrivateFolder(const QString &path)
     return {};
 }
 
-/// Another process may make the same file at the same time; either copy is good.
+/// Another process may create the same file at the same time; either copy will do.
 Result<void> copyMissing(const QString &source, const QString &target)
 {
     if (QFileInfo::exists(target))
@@ -60,20 +60,20 @@ Result<void> copyMissing(const QString &source, const QString &target)
     return {};
 }
 
-/// The executable and its modules stay where they are: they are no data.
+/// The executable and its modules are not data and aren't copied.
 bool isProgram(const QFileInfo &file)
 {
     return file.isFile() && (file.isExecutable() || file.suffix() == u"so");
 }
 
-/// The configuration comes last: a folder that holds it is complete.
+/// The configuration is copied last: a folder that contains it is complete.
 Result<void> fillFolder(const QString &source, const QString &target)
 {
     if (!QFileInfo::exists(source + u'/' + iniName)) {
         return Error{
             Error::Code::NotFound,
-            u"Zephira can't start: there is no %1 beside the program, and none in %2. Please install the program again."_s
-                .arg(iniName, source)};
+            u"Zephira can't start: there is no %1 next to the program or in %2. Please reinstall the program."_s.arg(
+                iniName, source)};
     }
     const QDir root(source);
     QDirIterator walk(source, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
@@ -90,7 +90,7 @@ Result<void> fillFolder(const QString &source, const QString &target)
     return copyMissing(source + u'/' + iniName, target + u'/' + iniName);
 }
 
-/// The folder, if the configuration in it can be read. Otherwise each setting would seem to be missing.
+/// The folder, if its configuration can be read; otherwise an error, because every setting would seem to be missing.
 Result<QString> readableFolder(const QString &folder)
 {
     const Result<QByteArray> settings = DiskFileStore().read(folder + u'/' + iniName);
@@ -127,13 +127,15 @@ Result<QString> scratchFolder(const QString &cacheHome)
     if (::mkdir(name.constData(), folderMode) != 0 && errno != EEXIST)
         return unmade(folder);
 
-    // What stands there may be someone else's bait: a link is not followed, and only a folder of our own is taken.
+    // Someone else may have planted what exists there, so links aren't followed and only a folder of our own is
+    // accepted.
     struct stat status;
     if (::lstat(name.constData(), &status) != 0)
         return unmade(folder);
     if (!S_ISDIR(status.st_mode) || status.st_uid != ::geteuid()) {
-        return Error{Error::Code::Refused,
-                     u"%1 isn't a folder of yours, so Zephira doesn't write temporary files there."_s.arg(folder)};
+        return Error{
+            Error::Code::Refused,
+            u"%1 isn't a folder that belongs to you, so Zephira doesn't write temporary files there."_s.arg(folder)};
     }
     if ((status.st_mode & 07777) != folderMode && ::chmod(name.constData(), folderMode) != 0)
         return unmade(folder);

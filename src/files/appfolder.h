@@ -7,17 +7,17 @@
 
 namespace zephira {
 
-/// The program folder, the root of all data files, without a separator at its end.
+/// The program folder, the root of all data files, without a trailing separator.
 ///
-/// It is the folder of the executable where that is writable and holds zephira.ini. Otherwise it is the folder "zephira"
-/// below `dataHome`; on the first start that is filled from the folder of the executable where it holds zephira.ini, as
-/// one that another user unpacked does, and else from `installedData`, with mode 0700 for folders and 0600 for files. A
-/// file that is there already is never overwritten, and a folder that holds zephira.ini counts as filled. Fails if the
-/// folder can't be made or filled, or zephira.ini there can't be read.
+/// It is the executable's folder if that is writable and contains zephira.ini, otherwise the folder "zephira" below
+/// `dataHome`. On the first start the latter is filled from the executable's folder if that contains zephira.ini (as
+/// when another user unpacked the program), otherwise from `installedData`, with mode 0700 for folders and 0600 for
+/// files. Existing files are never overwritten, and a folder that contains zephira.ini counts as filled. Fails if the
+/// folder can't be created or filled, or if zephira.ini in it can't be read.
 Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome);
 
-/// The fixed folder for temporary files, "zephira/scratch" below `cacheHome`, made with mode 0700 if it isn't there.
-/// A wider mode is narrowed. Refused if the place is taken by a link, a file, or a folder of another user.
+/// The fixed folder for temporary files, "zephira/scratch" below `cacheHome`, created with mode 0700 if it is missing.
+/// A more permissive mode is restricted. Fails if a link, a file or another user's folder is in its place.
 Result<QString> scratchFolder(const QString &cacheHome);
 /// The same below the desktop's own cache location.
 Result<QString> scratchFolder();

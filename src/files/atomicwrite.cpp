@@ -83,7 +83,7 @@ Result<void> AtomicWrite::finish()
         error = takePlace();
     if (error != 0)
         return saveError(m_path, error);
-    // Copies come by the thousand into one folder, which isn't looked through for each.
+    // Thousands of copies may go into one folder, which shouldn't be scanned for each of them.
     if (m_flush == Flush::Always)
         sweepTemporaries(m_calls, m_target.folder());
     return {};
@@ -91,15 +91,16 @@ Result<void> AtomicWrite::finish()
 
 int AtomicWrite::createTemporary(mode_t newMode)
 {
-    // The folder is opened first, so that nothing but its flush is left to fail once the new content is in place. One
-    // that can be written but not listed can't be opened; its flush is left to the system.
+    // The folder is opened first, so that once the new content is in place only flushing the folder can fail. A folder
+    // that is writable but not readable can't be opened; the system flushes it later.
     m_folder = m_calls.open(m_target.folder().constData(), O_RDONLY | O_DIRECTORY);
     if (m_folder < 0 && errno != EACCES)
         return errno;
     for (int attempt = 0; attempt < maximumNameAttempts; ++attempt) {
         const quint64 random = QRandomGenerator::system()->generate64();
         const QByteArray name = temporaryName(m_target.folder(), random);
-        // A new file gets its final mode from the system. One that takes another's place stays private until the end.
+        // A new file gets its final mode from the system. A replacement for an existing file stays private until the
+        // end.
         m_file =
             m_calls.open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, m_target.exists ? 0600 : newMode);
         if (m_file < 0 && errno != EEXIST)
@@ -124,7 +125,7 @@ int AtomicWrite::keepOwner()
         const int result = m_calls.fchown(m_file, owner, m_target.status.st_gid);
         return result == 0 ? 0 : errno;
     };
-    // Only the superuser may give a file away; anybody may choose among the groups they are in.
+    // Only the superuser may change a file's owner; other users may choose among their own groups.
     const auto isRefusal = [](int error) { return error == EPERM || error == EINVAL; };
     if (created.st_uid == m_target.status.st_uid && created.st_gid == m_target.status.st_gid)
         return 0;
@@ -149,8 +150,8 @@ int AtomicWrite::keepMode()
         mode &= ~static_cast<mode_t>(S_ISUID);
     if (!m_groupKept)
         mode &= ~static_cast<mode_t>(S_ISGID);
-    // Another group must not inherit rights, and under an access list these bits are its mask, not the group's rights:
-    // they come back with the list.
+    // Another group must not inherit permissions. With an access list these bits are its mask rather than the group's
+    // permissions; they are restored together with the list.
     if (!m_groupKept || m_hasAccessList)
         mode &= ~static_cast<mode_t>(S_IRWXG) | ((mode & S_IRWXO) << 3);
     return m_calls.fchmod(m_file, mode) == 0 ? 0 : errno;
@@ -181,12 +182,13 @@ int AtomicWrite::keepAttributes()
     return 0;
 }
 
-/// Ends the writing of the temporary file, on the disk where that is asked for.
+/// Finishes writing the temporary file, flushing it to the disk if required.
 int AtomicWrite::flush()
 {
     if (flushes() && m_calls.fsync(m_file) != 0 && !isUnsupported(errno))
         return errno;
-    // The claim lives as long as any descriptor, and an error of the closing must be known before the name is taken over.
+    // The claim lasts as long as any descriptor is open, and an error on close must be known before the name is taken
+    // over.
     m_claim = m_calls.duplicate(m_file);
     const int file = std::exchange(m_file, -1);
     return m_calls.close(file) == 0 ? 0 : errno;

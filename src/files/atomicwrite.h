@@ -13,37 +13,38 @@
 namespace zephira {
 
 /// Replaces a file so that at every moment, even if the process is killed or the machine stops, either the old or the
-/// new content stands under its name: the new one goes into a temporary file in the same folder, is flushed to the disk
-/// and takes the name over.
+/// new content is found under its name: the new content goes into a temporary file in the same folder, is flushed to
+/// the disk, and is then renamed over the old file.
 ///
-/// Mode, owner and group, access list and user attributes are those of the old file. Where the group can't be kept, its
-/// members get no more than everybody. Other hard links to the old file keep the old content. A folder that takes no new
-/// file makes the write fail even where the file itself could be overwritten; see writeInPlace().
+/// Mode, owner and group, access list and user attributes are those of the old file. If the group can't be kept, its
+/// permissions are reduced to those of others. Other hard links to the old file keep the old content. In a folder that
+/// allows no new files the write fails even if the file itself could be overwritten; see writeInPlace().
 ///
-/// What killed writers have left in the folder is removed after a write that is flushed.
+/// Temporary files left in the folder by killed processes are removed after a flushed write.
 class AtomicWrite
 {
 public:
-    /// When the content has to be on the disk before the name is taken over.
+    /// When the content is flushed to the disk before the name is taken over.
     enum class Flush { Always, WhenReplacing };
 
     AtomicWrite(FileSystemCalls &calls, QString path, Flush flush = Flush::Always)
         : m_calls(calls), m_path(std::move(path)), m_flush(flush)
     {}
-    /// A temporary file that did not take its place is removed.
+    /// Removes the temporary file if it was not renamed.
     ~AtomicWrite();
     AtomicWrite(const AtomicWrite &) = delete;
     AtomicWrite &operator=(const AtomicWrite &) = delete;
 
-    /// Does the whole write, once. `newMode` is for a file that does not exist yet and is subject to the process's mask.
+    /// Performs the whole write; may be called once. `newMode` applies to a file that does not exist yet and is subject
+    /// to the process's umask.
     Result<void> run(std::span<const QByteArrayView> pieces, mode_t newMode);
-    /// The same in steps, for bytes that come one after another. After a failure nothing else may follow.
+    /// The same in steps, for content that arrives piece by piece. After a failure no further step may be called.
     Result<void> begin(mode_t newMode);
     Result<void> append(std::span<const QByteArrayView> pieces);
     Result<void> finish();
 
 private:
-    // Each step gives 0 or an errno.
+    // Each step returns 0 or an errno.
     int createTemporary(mode_t newMode);
     int keepOwner();
     int keepMode();
@@ -61,7 +62,7 @@ private:
     bool m_groupKept = true;
     bool m_hasAccessList = false;
     int m_file = -1;
-    /// Keeps the temporary file claimed while it waits for its place.
+    /// Keeps the temporary file claimed until it is renamed.
     int m_claim = -1;
     int m_folder = -1;
 };

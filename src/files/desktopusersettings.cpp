@@ -14,7 +14,7 @@ QSettings store()
     return QSettings(QSettings::IniFormat, QSettings::UserScope, u"Zephira"_s, u"Zephira"_s);
 }
 
-/// A name as one level of the store's path: neither separator may divide it, and none may be empty.
+/// Escapes a name as one level of the store's path, which may not contain a separator or be empty.
 QString level(QString name)
 {
     name.replace(u'%', u"%25"_s).replace(u'/', u"%2F"_s).replace(u'\\', u"%5C"_s);

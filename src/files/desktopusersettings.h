@@ -7,7 +7,8 @@
 
 namespace zephira {
 
-/// The per-user store in the desktop's own place, through QSettings: one group a branch, one a section.
+/// The per-user store in the desktop's usual location, through QSettings: one group per branch, with one subgroup per
+/// section.
 class DesktopUserSettings final : public UserSettings
 {
 public:
@@ -15,7 +16,7 @@ public:
                  const QString &fallback) const override;
     void write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
 
-    /// Full path of the file that holds the store; what else belongs to the user lies beside it.
+    /// Full path of the store's file. Other per-user files are next to it.
     static QString fileName();
 };
 

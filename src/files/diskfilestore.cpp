@@ -23,20 +23,20 @@ namespace zephira {
 
 namespace {
 
-/// Opening must neither wait for a pipe's other end nor make a terminal ours.
+/// Opening must neither wait for the other end of a pipe nor acquire a controlling terminal.
 constexpr int readFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY;
 
-/// In bytes. For smaller files a copy costs less than the mapping.
+/// In bytes. Smaller files are cheaper to copy than to map.
 constexpr qint64 smallestMapped = 1024 * 1024;
 
-/// The path in the system's encoding; nothing for one that would be cut at a NUL and so name another file.
+/// The path in the system's encoding; nothing if it contains a NUL, at which it would be cut and so name another file.
 std::optional<QByteArray> systemPath(const QString &path)
 {
     QByteArray encoded = QFile::encodeName(path);
     return encoded.contains('\0') ? std::nullopt : std::optional(std::move(encoded));
 }
 
-/// Goes into its temporary file as it comes.
+/// Writes the bytes to the temporary file as they arrive.
 class IncomingCopy final : public IncomingFile
 {
 public:
@@ -51,7 +51,7 @@ public:
     Result<void> finish() override { return begin() ? m_write.finish() : m_state; }
 
 private:
-    /// With the first bytes at the earliest, so that the file is looked at when there is something to put in its place.
+    /// Called with the first bytes, so that the existing file isn't examined before there is content to replace it.
     bool begin()
     {
         if (!std::exchange(m_isBegun, true))
@@ -77,14 +77,14 @@ DiskFileStore::DiskFileStore(FileSystemCalls &calls) : m_calls(calls) {}
 
 DiskFileStore::~DiskFileStore() = default;
 
-/// Opens a file that can be read whole: a regular one, and not too large.
+/// Opens a file that can be read completely: a regular file that is not too large.
 Result<DiskFileStore::OpenFile> DiskFileStore::open(const QString &path) const
 {
     const std::optional<QByteArray> name = systemPath(path);
     struct stat status = {};
     if (!name)
         return readError(path, ENOENT);
-    // Asked before the opening, which by itself can set a device in motion.
+    // Checked before opening, because opening a device can already have side effects.
     if (m_calls.stat(name->constData(), status) != 0)
         return readError(path, errno);
     if (S_ISDIR(status.st_mode))
@@ -127,8 +127,8 @@ Result<QByteArray> DiskFileStore::readOpen(const QString &path, OpenFile open) c
     const auto [file, size] = open;
     const auto closing = qScopeGuard([this, file = file] { m_calls.close(file); });
 
-    // One byte more than the size, so that the end is seen without growing; a file that grows meanwhile, or one of the
-    // kernel's whose size says nothing, is read on.
+    // One byte more than the size, so that the end is detected without growing the buffer. A file that grows meanwhile,
+    // or a kernel file whose size is meaningless, is read to its end.
     QByteArray content(size + 1, Qt::Uninitialized);
     qsizetype length = 0;
     for (;;) {

@@ -9,21 +9,22 @@ namespace zephira {
 
 class FileSystemCalls;
 
-/// The files of the disk. Holds no state, so that several may exist side by side.
+/// The files on disk. Has no state, so several instances may coexist.
 class DiskFileStore final : public FileStore
 {
 public:
     DiskFileStore();
-    /// Works through calls that a test lets fail; they must outlive the store.
+    /// Uses system calls that a test can make fail; they must outlive the store.
     explicit DiskFileStore(FileSystemCalls &calls);
     ~DiskFileStore() override;
 
     using FileStore::write;
-    /// The whole file. Folders and devices are refused, and so are files above `maximumFileSize` with Code::TooLarge.
+    /// Reads the whole file. Fails for folders and devices, and with Code::TooLarge for files larger than
+    /// `maximumFileSize`.
     Result<QByteArray> read(const QString &path) const override;
-    /// Large files are mapped, where the system can keep writers out meanwhile.
+    /// Large files are mapped if the system can block writers meanwhile.
     Result<FileView> view(const QString &path) const override;
-    /// See AtomicWrite for what is kept of the old file.
+    /// See AtomicWrite for the properties of the old file that are kept.
     Result<void> write(const QString &path, std::span<const QByteArrayView> pieces, int mode = 0666) override;
     Result<void> writeCopy(const QString &path, std::span<const QByteArrayView> pieces) override;
     bool mustBeWrittenInPlace(const QString &path) const override;

@@ -29,7 +29,7 @@ QByteArray joined(std::span<const QByteArrayView> pieces)
 
 Result<DecodedText> DocumentFile::open(const QString &path)
 {
-    // Taken before the reading: a change in between then shows as one.
+    // Taken before reading, so that a change made in between is detected.
     const FileSignature signature = m_files.signature(path);
     Result<FileView> file = m_files.view(path);
     std::optional<FileSignature> &seen = m_seen[QDir::cleanPath(path)];
@@ -71,13 +71,13 @@ Result<void> DocumentFile::save(const QString &path, std::span<const QByteArrayV
     Result<void> written = isInPlace ? m_files.writeInPlace(path, pieces) : m_files.write(path, pieces);
     if (written)
         m_seen[QDir::cleanPath(path)] = m_files.signature(path);
-    // A version that was seen here needed its copy only while it was being written over.
+    // A version that was read or written here needs its copy only while it is being overwritten.
     if (written && !isUnknown && !copy.isEmpty())
         static_cast<void>(m_files.remove(copy));
     return written;
 }
 
-/// Whether the disk holds a version that hasn't been read or written here.
+/// Whether the version on disk is not the one last read or written here.
 bool DocumentFile::isUnseen(const QString &path) const
 {
     const auto seen = m_seen.constFind(QDir::cleanPath(path));
@@ -87,15 +87,15 @@ bool DocumentFile::isUnseen(const QString &path) const
     return onDisk.exists && *seen != onDisk;
 }
 
-/// Keeps a copy of what is on the disk, and gives its path.
+/// Keeps a copy of the version on disk and returns the copy's path.
 Result<QString> DocumentFile::keepVersion(const QString &path)
 {
     const auto refused = [&](const Error &error) {
-        const QString version = isUnseen(path) ? u"the version on the disk, which is not the one that was opened,"_s
-                                               : u"the version on the disk, which it writes over,"_s;
+        const QString version = isUnseen(path) ? u"the version on disk, which is not the one that was opened,"_s
+                                               : u"the version on disk, which would be overwritten,"_s;
         return Error{error.code,
-                     u"The file \""_s + path + u"\" was not saved, because "_s + version + u" could not be kept. "_s
-                         + error.sentence};
+                     u"The file \""_s + path + u"\" was not saved, because "_s + version
+                         + u" could not be backed up. "_s + error.sentence};
     };
     Result<QByteArray> bytes = m_files.read(path);
     if (!bytes)

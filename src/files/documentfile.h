@@ -14,23 +14,24 @@ namespace zephira {
 
 class RecoveryCopies;
 
-/// Opens and saves the document's text, and sees to it that a save never destroys a version that this program has not
-/// seen. It remembers the state of each file that it read or wrote; where the disk holds another state when that file is
-/// saved, or the file could not be read when it was opened, the bytes on the disk are kept as a recovery copy first.
-/// A path that was never opened or saved here is overwritten as asked.
+/// Opens and saves the document's text, and makes sure that a save never destroys a version that this program has not
+/// seen. It remembers the state of each file that it read or wrote. If the file on disk has another state when it is
+/// saved, or could not be read when it was opened, its bytes are kept as a recovery copy first. A path that was never
+/// opened or saved here is overwritten without a copy.
 ///
-/// A file with several names (hard links), or in a folder that allows no new files, is written in place, once the bytes on
-/// the disk are kept: then neither a kill nor a failing disk can take them.
+/// A file with several hard links, or in a folder that allows no new files, is written in place after its bytes were
+/// kept in a recovery copy, so that neither a kill nor a disk failure can lose them.
 class DocumentFile
 {
 public:
-    /// Both outlive this.
+    /// Both must outlive this object.
     DocumentFile(FileStore &files, RecoveryCopies &recovery) : m_files(files), m_recovery(recovery) {}
 
     Result<DecodedText> open(const QString &path);
 
-    /// Replaces the file with the pieces, joined, in the format; UTF-8 goes to the disk without a copy. Fails with
-    /// Code::Unencodable before anything is touched; also fails when a version that must be kept can't be.
+    /// Replaces the file with the concatenated pieces, encoded in the given format; UTF-8 is written without a copy.
+    /// Fails with Code::Unencodable before anything is changed; also fails if a version that must be kept can't be
+    /// copied.
     Result<void> save(const QString &path, std::span<const QByteArrayView> utf8Pieces, const TextFormat &format);
 
 private:
@@ -39,7 +40,7 @@ private:
 
     FileStore &m_files;
     RecoveryCopies &m_recovery;
-    /// By cleaned path. Nothing for a file whose reading failed.
+    /// By cleaned path. Nothing for a file that could not be read.
     QHash<QString, std::optional<FileSignature>> m_seen;
 };
 

@@ -28,7 +28,7 @@ constexpr std::array reasons{
     Reason{ENOTDIR, u"a part of its path is not a folder"},
     Reason{ENOENT, u"it does not exist"},
     Reason{ENAMETOOLONG, u"its name is too long"},
-    Reason{ELOOP, u"its symbolic links lead in a circle"},
+    Reason{ELOOP, u"its symbolic links form a loop"},
     Reason{EIO, u"the disk reported an error"},
     Reason{EMFILE, u"too many files are open"},
     Reason{ENFILE, u"too many files are open"},
@@ -56,7 +56,7 @@ Error readError(const QString &path, int error)
 
 Error saveError(const QString &path, int error)
 {
-    // A file that is new can only miss its folder.
+    // When a new file is saved, only its folder can be missing.
     return saveError(path, Error::Code::Unwritable, error == ENOENT ? u"its folder does not exist"_s : reasonOf(error));
 }
 

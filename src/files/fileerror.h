@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-// Sentences about files, in one form for all of them: what could not be done with which file, and why.
+// File error messages, all of one form: what could not be done with which file, and why.
 //
 //     The file "/home/me/a.htm" could not be saved: the disk is full.
 
@@ -16,7 +16,7 @@ Error readError(const QString &path, int error);
 Error saveError(const QString &path, int error);
 Error removeError(const QString &path, int error);
 
-/// The same with a reason of its own, a clause without its full stop.
+/// The same with the given reason, a clause without a full stop.
 Error readError(const QString &path, Error::Code code, const QString &reason);
 Error saveError(const QString &path, Error::Code code, const QString &reason);
 

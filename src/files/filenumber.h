@@ -9,15 +9,15 @@ namespace zephira {
 
 class FileStore;
 
-/// The one file number through which the program's lists are read. A reading that fails doesn't give the number back, so
-/// that each later one fails too, with the words "File already open", until the program ends.
+/// The single file number through which the program's lists are read. A failed read doesn't release the number, so that
+/// every later read fails with "File already open" until the program ends.
 class FileNumber
 {
 public:
     explicit FileNumber(const FileStore &files) : m_files(files) {}
     Q_DISABLE_COPY_MOVE(FileNumber)
 
-    /// The lines of a file. One that has fewer than `least` fails with the words "Input past end of file".
+    /// The lines of a file. Fails with "Input past end of file" if there are fewer than `least`.
     Result<QStringList> readLines(const QString &path, qsizetype least = 0);
 
 private:

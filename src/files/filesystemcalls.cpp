@@ -31,7 +31,7 @@ int FileSystemCalls::open(const char *path, int flags, mode_t mode)
 
 int FileSystemCalls::close(int file)
 {
-    // The descriptor is gone whatever the call answers; so even a failure that a test asks for has to give it back.
+    // The descriptor is released whatever the call returns, so it must be closed even when a test asks for a failure.
     const int error = fault(Call::Close);
     const int result = ::close(file);
     if (error != 0)

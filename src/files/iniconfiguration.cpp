@@ -23,8 +23,8 @@ namespace {
 
 constexpr qsizetype longestValue = 999;
 
-/// Keeps other processes that write a profile in the same folder waiting. The lock is on the folder itself, so that
-/// nothing is left beside the profile, and it goes with the process that holds it.
+/// Makes other processes that write a profile in the same folder wait. The lock is on the folder itself, so that no
+/// lock file is left next to the profile, and it is released when the process that holds it ends.
 class FolderLock
 {
 public:
@@ -32,7 +32,7 @@ public:
     {
         int result = -1;
         while (m_file >= 0 && (result = flock(m_file, LOCK_EX)) != 0 && errno == EINTR) {}
-        // A file system that knows no locks takes writes all the same, and then the last one wins.
+        // A file system without locks still allows writing; then the last writer wins.
         m_held = result == 0 || (m_file >= 0 && (errno == ENOLCK || errno == ENOTSUP || errno == EBADF));
     }
     ~FolderLock()
@@ -51,7 +51,8 @@ private:
     bool m_held = false;
 };
 
-/// A profile as UTF-8. One in UTF-16 is converted; all others stay what they are, mark and invalid bytes included.
+/// A profile as UTF-8. UTF-16 is converted; everything else stays as it is, including a byte order mark and invalid
+/// bytes.
 struct Profile {
     QByteArray bytes;
     std::optional<TextFormat> converted;
@@ -71,14 +72,14 @@ QString shortValue(QByteArrayView profile, const QString &section, const QString
 {
     QString value = profileValue(profile, section, key).value_or(QString());
     value.truncate(longestValue);
-    // The cut takes no half of a character with it.
+    // Don't leave half of a surrogate pair.
     if (value.size() == longestValue && value.back().isHighSurrogate())
         value.chop(1);
     return value;
 }
 
-/// Whether a file that changes once more is sure to have another time then: the clock of a file system may stand still for
-/// some milliseconds, and on some for two seconds.
+/// Whether a later change of the file is certain to change its modification time: the timestamps of file systems have a
+/// granularity of some milliseconds, on some of two seconds.
 bool isSettled(const FileSignature &signature)
 {
     constexpr std::chrono::nanoseconds coarsest = std::chrono::seconds(2);
@@ -98,7 +99,7 @@ bool WriteIni(const QString &section, const QString &key, const QString &value, 
 {
     FileSystemCalls calls;
     DiskFileStore store;
-    // The lock belongs to the folder in which the file is replaced, and that is the one that a link leads to.
+    // The lock must be on the folder in which the file is replaced, which is the folder of a symbolic link's target.
     const Result<QByteArray> target = linkTarget(calls, file);
     if (!target)
         return false;

@@ -29,11 +29,11 @@ off_t totalSize(std::span<const QByteArrayView> pieces)
     return size;
 }
 
-/// Gives 0 or an errno.
+/// Returns 0 or an errno.
 int overwrite(FileSystemCalls &calls, int file, std::span<const QByteArrayView> pieces)
 {
     const off_t size = totalSize(pieces);
-    // File systems that can't tell beforehand say so in many ways.
+    // File systems that can't reserve space report various errors; only a lack of space counts.
     if (size > 0 && calls.allocate(file, size) != 0 && isOutOfRoom(errno))
         return errno;
     if (const int error = writePieces(calls, file, pieces); error != 0)

@@ -11,13 +11,13 @@
 
 namespace zephira {
 
-/// Whether AtomicWrite would part a file from its other hard links, or can't replace it because its folder allows no new
-/// files. False for what isn't there or can't be asked.
+/// Whether AtomicWrite would separate a file from its other hard links, or can't replace it because its folder allows
+/// no new files. False if the file doesn't exist or can't be examined.
 bool mustBeWrittenInPlace(FileSystemCalls &calls, const QString &path);
 
-/// Writes over what stands in a file. All its names show the new content; mode, owner and attributes are untouched. Where
-/// the disk has no room nothing is changed. A process that is killed, or a disk that fails, leaves a file that is neither
-/// old nor new, so whoever calls this has a copy.
+/// Overwrites the content of a file. All its hard links show the new content; mode, owner and attributes are untouched.
+/// If the disk is full, nothing is changed. If the process is killed or the disk fails, the file holds neither the old
+/// nor the new content, so the caller must have kept a copy.
 Result<void> writeInPlace(FileSystemCalls &calls, const QString &path, std::span<const QByteArrayView> pieces);
 
 } // namespace zephira

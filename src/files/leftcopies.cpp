@@ -20,14 +20,14 @@ namespace {
 const QString openMark = u"open-"_s;
 const QString asideMark = u"kept-"_s;
 
-/// What the system calls a process; empty where there is none.
+/// The command name of a process; empty if there is no such process.
 QByteArray commandOf(const QString &process)
 {
     QFile file(u"/proc/%1/comm"_s.arg(process));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Numbers of processes come again, so that another program's process is not the one that wrote the copy.
+/// Process IDs are reused, so a process of another program is not the one that wrote the copy.
 bool isLookedAfter(const QString &process)
 {
     const QByteArray command = commandOf(process);
@@ -41,7 +41,7 @@ QList<LeftCopy> leftCopies(const QString &folder)
     static const QRegularExpression pattern(uR"(^open-(\d{8}-\d{6}-\d{3})-(\d+)-(.+)$)"_s);
     QList<LeftCopy> copies;
     const QDir dir(folder);
-    // Names in the order of the alphabet are in order of their age.
+    // Alphabetical order of the names is also the order of their age.
     QStringList names = dir.entryList({openMark + u'*'}, QDir::Files | QDir::Hidden, QDir::Name);
     std::ranges::reverse(names);
     for (const QString &name : std::as_const(names)) {

@@ -9,22 +9,22 @@
 
 namespace zephira {
 
-/// A copy of a document whose process ended without settling it.
+/// A recovery copy of a document whose process ended without saving or discarding it.
 struct LeftCopy {
     QString path;
-    /// Name of the document's file, or what an unnamed document is called.
+    /// Name of the document's file without its folder, or the name given to an unnamed document.
     QString name;
-    /// When its process began, in local time.
+    /// Start time of its process, in local time.
     QDateTime began;
 
     friend bool operator==(const LeftCopy &, const LeftCopy &) = default;
 };
 
-/// The copies in a folder of recovery copies that no running program of this kind looks after, the newest first. A folder
-/// that isn't there has none.
+/// The copies in a recovery folder that don't belong to a running instance of the program, newest first. Empty if there
+/// is no such folder.
 QList<LeftCopy> leftCopies(const QString &folder);
 
-/// Takes a copy out of the list for good and leaves it in its folder, where its user finds it.
+/// Removes a copy from the list for good, but leaves it in its folder, where the user can find it.
 Result<void> putAside(const LeftCopy &copy);
 
 } // namespace zephira

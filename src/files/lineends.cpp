@@ -11,14 +11,14 @@ namespace zephira {
 
 namespace {
 
-/// The first of the bytes from `from` on, or the end.
+/// The first occurrence of `byte` in the range, or `end`.
 const char *find(const char *from, const char *end, char byte)
 {
     const void *found = from == end ? nullptr : std::memchr(from, byte, static_cast<std::size_t>(end - from));
     return found ? static_cast<const char *>(found) : end;
 }
 
-/// Gives each stretch between line ends, and each line end, to one of two functions.
+/// Passes each run between line ends to `stretch`, and each line end to `lineEnd`.
 template<typename Char, typename Stretch, typename LineEnd>
 void walkLines(std::span<const Char> text, Stretch stretch, LineEnd lineEnd)
 {
@@ -34,7 +34,7 @@ void walkLines(std::span<const Char> text, Stretch stretch, LineEnd lineEnd)
     }
 }
 
-/// The text with each of its line ends replaced, in memory that is measured first.
+/// The text with each of its line ends replaced. The size is computed first, so that memory is allocated only once.
 template<typename Text, typename Char>
 Text withLineEnds(std::span<const Char> text, std::span<const Char> replacement)
 {

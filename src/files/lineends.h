@@ -6,17 +6,17 @@
 
 namespace zephira {
 
-/// Line ends of a text: one kind throughout, or mixed. A text without a line end counts as CR LF.
+/// The line ends of a text: one kind throughout, or mixed. A text without any line end counts as CR LF.
 enum class LineEnds { CrLf, Lf, Cr, Mixed };
 
-/// The kind of a text in UTF-8 or another encoding that keeps ASCII as it is. Stops at the second kind it meets.
+/// The kind of line end in a text in UTF-8 or another superset of ASCII. Stops at the second kind it finds.
 LineEnds lineEndsOf(QByteArrayView text);
 
-/// The text with every line end (CR LF, LF or CR) made one of the kind; Mixed leaves all as they are. A text that needs
-/// no change is given back without a copy.
+/// Converts every line end (CR LF, LF or CR) to the given kind; Mixed leaves them unchanged. A text that needs no
+/// change is returned without a copy.
 QByteArray toLineEnds(QByteArray text, LineEnds kind);
 
-/// The text with every line end made CR LF.
+/// Converts every line end to CR LF.
 QString toCrLf(const QString &text);
 
 } // namespace zephira

@@ -12,11 +12,11 @@ namespace zephira {
 
 std::shared_ptr<const MappedFile> MappedFile::map(int file)
 {
-    // A writer that comes along is announced by a signal. By default that would end the program; this one is ignored, and
-    // the writer waits until the lease is given back.
+    // The lease holder is sent a signal when another process wants to write. The default signal would end the program;
+    // this one is ignored, and the writer waits until the lease is released.
     if (::fcntl(file, F_SETSIG, SIGURG) != 0 || ::fcntl(file, F_SETLEASE, F_RDLCK) != 0)
         return nullptr;
-    // Only from here on is the size certain.
+    // From here on the size can't change.
     struct stat status = {};
     void *address = MAP_FAILED;
     if (::fstat(file, &status) == 0 && status.st_size > 0)
@@ -31,7 +31,7 @@ std::shared_ptr<const MappedFile> MappedFile::map(int file)
 MappedFile::~MappedFile()
 {
     ::munmap(m_address, size_t(m_size));
-    ::close(m_file); // Which gives the lease back.
+    ::close(m_file); // Also releases the lease.
 }
 
 } // namespace zephira

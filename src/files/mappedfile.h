@@ -7,14 +7,14 @@
 
 namespace zephira {
 
-/// A file's bytes straight from the system's cache, without a copy. As long as it lives, whoever wants to write to the
-/// file waits: the bytes can neither change nor vanish under the reader. So it should not live long.
+/// A file's bytes mapped from the system's cache, without a copy. During its lifetime writers of the file are blocked,
+/// so the bytes can neither change nor vanish. It should therefore be short-lived.
 class MappedFile
 {
 public:
-    /// Takes over `file`, which was opened for reading only. Nothing, with the file still the caller's, where the system
-    /// can't keep writers out: another program has the file open for writing, it isn't the user's own, or it lies on a
-    /// file system without leases.
+    /// Takes ownership of `file`, a descriptor opened read-only. Returns nullptr and leaves the descriptor to the
+    /// caller if writers can't be blocked: another program has the file open for writing, it belongs to another user,
+    /// or its file system has no leases.
     static std::shared_ptr<const MappedFile> map(int file);
 
     ~MappedFile();

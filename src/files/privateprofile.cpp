@@ -28,18 +28,18 @@ bool isQuoted(QByteArrayView value)
     return value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
 }
 
-/// A line, or what of it means something. All views are into the profile.
+/// A parsed line. All views point into the profile.
 struct Line {
     enum class Kind { Other, Blank, Section, Key };
     Kind kind = Kind::Other;
     QByteArrayView name = {};
-    /// Behind the "=", blanks and quotes included.
+    /// Everything after the "=", including spaces and quotes.
     QByteArrayView value = {};
-    /// Behind the line's own end.
+    /// The position after the line end.
     const char *next = nullptr;
 };
 
-/// Takes a profile apart line by line.
+/// Parses a profile line by line.
 class Lines
 {
 public:
@@ -85,7 +85,7 @@ Line Lines::read(QByteArrayView text)
     return {Line::Kind::Key, withoutBlanks(text.first(equals)), text.sliced(equals + 1)};
 }
 
-/// A name to compare others with. Nearly all names are ASCII, which needs no conversion.
+/// A name to compare others with, not case-sensitive. Nearly all names are ASCII, which needs no conversion.
 class Name
 {
 public:
@@ -100,7 +100,7 @@ public:
             return other.compare(m_bytes, Qt::CaseInsensitive) == 0;
         return QString::fromUtf8(other).compare(m_name, Qt::CaseInsensitive) == 0;
     }
-    /// Whether the name can be written without becoming something else when it is read.
+    /// Whether the name contains neither NUL nor any of the characters, and so can be written and read back.
     bool avoids(QByteArrayView characters) const
     {
         return std::none_of(m_bytes.begin(), m_bytes.end(),
@@ -112,11 +112,11 @@ private:
     QString m_name;
 };
 
-/// Where a value stands, or where it would have to go.
+/// Where a value is, or where it would have to be inserted.
 struct Place {
     bool sectionFound = false;
     std::optional<QByteArrayView> value;
-    /// Behind the section's last line that isn't blank.
+    /// The position after the section's last non-blank line.
     const char *sectionEnd = nullptr;
 };
 
@@ -147,7 +147,7 @@ QString readValue(QByteArrayView raw)
         value = value.sliced(1, value.size() - 2);
     if (!isValidUtf8(value))
         return QString::fromUtf8(windows1252ToUtf8(value));
-    // A value is no file: what looks like a byte order mark at its start belongs to it.
+    // A value is not a file, so a byte order mark at its start is part of it.
     return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom)(value);
 }
 
@@ -162,7 +162,7 @@ QByteArray writtenValue(const QString &value)
     return bytes;
 }
 
-/// The line end that the profile's first line has.
+/// The line end of the profile's first line.
 QByteArray lineEndOf(QByteArrayView profile)
 {
     const auto end = std::find_if(profile.begin(), profile.end(), [](char c) { return c == '\r' || c == '\n'; });
@@ -192,7 +192,7 @@ std::optional<QByteArray> withProfileValue(const QByteArray &profile, const QStr
     const QByteArray written = writtenValue(value);
     QByteArray result = profile;
     if (place.value) {
-        // The blanks behind the "=" are the writer's style and stay.
+        // Spaces after the "=" are the author's formatting and are kept.
         QByteArrayView old = *place.value;
         while (old.startsWith(' '))
             old = old.sliced(1);
@@ -203,7 +203,7 @@ std::optional<QByteArray> withProfileValue(const QByteArray &profile, const QStr
     if (!place.sectionFound)
         added.prepend('[' + sectionName.bytes() + ']' + lineEnd);
     const qsizetype position = place.sectionFound ? place.sectionEnd - profile.constData() : profile.size();
-    // A last line without an end gets one, unless there is no line at all.
+    // An unterminated last line gets a line end, unless the profile is empty.
     const bool continues = position > 0 && profile[position - 1] != '\n' && profile[position - 1] != '\r';
     if (continues && profile != "\xEF\xBB\xBF")
         added.prepend(lineEnd);

@@ -21,16 +21,16 @@ namespace {
 
 constexpr int keptVersions = 50;
 constexpr int ownerOnly = 0600;
-/// Leaves room in a file name of 255 bytes for the mark in front.
+/// In bytes. Leaves room for the prefix in a file name of 255 bytes.
 constexpr qsizetype maximumBaseName = 180;
 
-/// Time and process; in universal time, so that names in order of the alphabet are in order of their age.
+/// Time and process ID. The time is UTC, so that alphabetical order of the names is the order of their age.
 QString stamp(const QDateTime &time)
 {
     return time.toUTC().toString(u"yyyyMMdd-HHmmss-zzz"_s) + u'-' + QString::number(QCoreApplication::applicationPid());
 }
 
-/// The end of the file's name, as it holds the extension, cut between characters.
+/// The end of the file name, which includes the extension, cut between characters.
 QString baseName(const QString &titleOrPath)
 {
     QString name = lastName(titleOrPath);
@@ -68,7 +68,7 @@ Result<void> RecoveryCopies::write(const QString &titleOrPath, std::span<const Q
     const QString copy = m_folder + u'/' + m_ownPrefix + baseName(titleOrPath);
     if (Result<void> written = m_files.write(copy, pieces, ownerOnly); !written)
         return written;
-    // The document may bear another name by now; the copy under its old one goes when the new one is safe.
+    // The document may have been renamed; the copy under the old name is removed once the new one is written.
     if (m_own != copy)
         removeOwn();
     m_own = copy;
@@ -79,7 +79,7 @@ Result<void> RecoveryCopies::keepUnsaved(const QString &titleOrPath, std::span<c
 {
     if (Result<void> made = makeFolder(); !made)
         return made;
-    // A name of its own, also beside the document's copy and within one tick of the clock.
+    // The name must be unique, even next to the document's own copy and within one tick of the clock.
     QDateTime time = m_clock.now();
     QString copy;
     do {
@@ -91,7 +91,7 @@ Result<void> RecoveryCopies::keepUnsaved(const QString &titleOrPath, std::span<c
 
 void RecoveryCopies::removeOwn()
 {
-    // What can't be removed stays known, so that the next try may succeed.
+    // A copy that can't be removed stays recorded, so that the next attempt may succeed.
     if (!m_own.isEmpty() && (m_files.remove(m_own) || !m_files.signature(m_own).exists))
         m_own.clear();
 }
@@ -103,7 +103,7 @@ Result<void> RecoveryCopies::makeFolder() const
     struct stat status = {};
     if (mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
         return saveError(m_folder, errno);
-    // A folder that was there before may be open to others.
+    // An existing folder may be accessible to others.
     if (stat(name.constData(), &status) != 0 || ((status.st_mode & 077) != 0 && chmod(name.constData(), 0700) != 0))
         return saveError(m_folder, errno);
     return {};
@@ -113,7 +113,7 @@ void RecoveryCopies::removeOldest(const QString &newest) const
 {
     const QDir folder(m_folder);
     QStringList copies = folder.entryList({u"disk-*"_s}, QDir::Files | QDir::Hidden, QDir::Name);
-    // Not even a clock that was set back lets the copy go that was just made.
+    // The copy just made is never removed, even if the clock was set back.
     copies.removeOne(QFileInfo(newest).fileName());
     for (qsizetype i = 0; i < copies.size() - (keptVersions - 1); ++i)
         static_cast<void>(m_files.remove(folder.filePath(copies[i])));

@@ -13,31 +13,31 @@ namespace zephira {
 class Clock;
 class FileStore;
 
-/// A folder of copies that keep a text from being lost: one of the document that this process is editing, and versions of
-/// files that other programs wrote and that a save was about to replace. The folder is made when it is first needed; it
-/// and the copies are for the user alone. Copies carry the name of the file behind their own mark:
+/// A folder of copies that keep text from being lost: one of the document that this process is editing, and versions of
+/// files that other programs wrote and a save was about to replace. The folder is created when first needed; it and the
+/// copies are accessible only to the user. The name of a copy is a prefix and the name of the file:
 ///
 ///     disk-20240229-120000-000-4711-001-index.htm      kept before a save
 ///     open-20240229-120000-000-4711-index.htm          the document of process 4711, from that time on
 class RecoveryCopies
 {
 public:
-    /// The folder is a full path without a separator at its end; store and clock outlive this.
+    /// The folder is a full path without a trailing separator; store and clock must outlive this object.
     RecoveryCopies(QString folder, FileStore &files, const Clock &clock);
 
-    /// Keeps what is on the disk under `path` and gives back the copy's path. A copy is never overwritten; of all of
-    /// them the newest 50 are kept.
+    /// Keeps the bytes found on disk under `path` and returns the copy's path. A copy is never overwritten; the newest
+    /// 50 are kept.
     Result<QString> keepDisk(const QString &path, QByteArrayView bytes);
 
-    /// Writes the copy of the document, in place of the one before.
+    /// Writes the copy of the document, replacing the previous one.
     Result<void> write(const QString &titleOrPath, std::span<const QByteArrayView> pieces);
-    /// Keeps a text that gives way to another one and could not be saved. The copy stays when this process goes on, and
-    /// is one that an ended program left when it is over.
+    /// Keeps a text that could not be saved and is about to be replaced in the editor. The copy stays while this
+    /// process runs; after it has ended, it is one of leftCopies().
     Result<void> keepUnsaved(const QString &titleOrPath, std::span<const QByteArrayView> pieces);
-    /// Removes the copy of the document. There being none is fine.
+    /// Removes the copy of the document, if there is one.
     void removeOwn();
     QString folder() const { return m_folder; }
-    /// The document's copy, or "".
+    /// Full path of the document's copy, or "".
     QString ownCopy() const { return m_own; }
 
 private:

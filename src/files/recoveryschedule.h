@@ -6,28 +6,28 @@
 
 namespace zephira {
 
-/// Says when the recovery copy of the document is due: a while after the first change that no copy holds, so that going
-/// on typing neither puts it off nor writes it at each key. All times are read from one clock that never goes back.
+/// Determines when the recovery copy of the document is due: some time after the first change that isn't in a copy yet,
+/// so that continued typing neither postpones it nor writes it at each key. All times are from one monotonic clock.
 ///
-/// Whoever owns the timer starts it with what changed() or copyFailed() gives, and stops it on settled().
+/// The owner of the timer starts it with the result of changed() or copyFailed(), and stops it after settled().
 class RecoverySchedule
 {
 public:
     using Time = std::chrono::milliseconds;
 
-    /// From the change to the copy. What is left of the 15 seconds that are promised is for writing a large text.
+    /// From the change to the copy. The copy is promised within 15 seconds; the rest is for writing a large text.
     static constexpr Time delay{10'000};
 
-    /// The document changed. Gives the wait until a copy is due if none was coming, else nothing; costs next to nothing.
+    /// The document changed. Returns the time until a copy is due if none was scheduled, otherwise nothing. Very cheap.
     std::optional<Time> changed(Time now);
-    /// Whether a copy is to be written by now.
+    /// Whether a copy should have been written by `now`.
     bool isDue(Time now) const { return m_due && now >= *m_due; }
-    /// When the copy that is coming is due.
+    /// When the scheduled copy is due, if there is one.
     std::optional<Time> due() const { return m_due; }
 
-    /// The document is now in a copy, or in its file, or gone.
+    /// The document has been copied, saved or discarded.
     void settled() { m_due.reset(); }
-    /// The copy could not be written. Gives the wait until the next try.
+    /// The copy could not be written. Returns the time until the next attempt.
     Time copyFailed(Time now);
 
 private:

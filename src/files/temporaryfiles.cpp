@@ -37,7 +37,7 @@ std::vector<QByteArray> temporariesIn(const QByteArray &folder)
     return paths;
 }
 
-/// Whether the file is a temporary one that nobody claims. The lock is held until the file is closed.
+/// Whether the file is an abandoned temporary file. The lock is held until the file is closed.
 bool takeAbandoned(FileSystemCalls &calls, int file)
 {
     struct stat status = {};
@@ -53,7 +53,7 @@ QByteArray temporaryName(const QByteArray &folder, quint64 number)
 
 bool claimTemporary(FileSystemCalls &calls, int file)
 {
-    // A file system without locks takes writes all the same, and nobody sweeps there.
+    // A file system without locks still allows writing, and nobody removes temporary files there.
     if (calls.lock(file) != 0)
         return errno != EWOULDBLOCK;
     struct stat status = {};
@@ -63,7 +63,7 @@ bool claimTemporary(FileSystemCalls &calls, int file)
 void sweepTemporaries(FileSystemCalls &calls, const QByteArray &folder)
 {
     for (const QByteArray &path : temporariesIn(folder)) {
-        // Neither a link's target nor a pipe's other end is anything of ours.
+        // The flags avoid following links, waiting for pipes and acquiring a terminal.
         const int file = calls.open(path.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
         if (file < 0)
             continue;

@@ -7,16 +7,17 @@
 
 namespace zephira {
 
-// The temporary files of atomic writes are named .zephira-<hexadecimal number>~. Their writer holds a lock on its own as
-// long as it lives, and so tells others that they may not remove it; a file without one was left by a killed process.
+// The temporary files of atomic writes are named .zephira-<hexadecimal number>~. The writer keeps its file locked,
+// which tells other processes not to remove it; an unlocked file was left by a killed process.
 
-/// The folder ends in its separator.
+/// `folder` ends in a separator.
 QByteArray temporaryName(const QByteArray &folder, quint64 number);
 
-/// Claims a temporary file just made. False where another process was about to remove it: then its name is spent.
+/// Claims a temporary file just created. Returns false if another process is about to remove it; then another name is
+/// needed.
 bool claimTemporary(FileSystemCalls &calls, int file);
 
-/// Removes the temporary files of the folder whose writers are gone. What can't be removed is left.
+/// Removes the folder's temporary files whose writers have ended. Files that can't be removed are left.
 void sweepTemporaries(FileSystemCalls &calls, const QByteArray &folder);
 
 } // namespace zephira

@@ -19,7 +19,7 @@ constexpr char utf8Mark[] = "\xEF\xBB\xBF";
 constexpr char littleMark[] = "\xFF\xFE";
 constexpr char bigMark[] = "\xFE\xFF";
 
-/// What the bytes 0x80 to 0x9F stand for in Windows-1252; the five that it leaves undefined stand for themselves.
+/// The characters for the bytes 0x80 to 0x9F in Windows-1252; the five undefined bytes map to themselves.
 constexpr std::array<char16_t, 32> windowsLetters{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                                   0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
@@ -35,7 +35,7 @@ std::optional<char> toWindows1252(char32_t codePoint)
     return static_cast<char>(0x80 + (letter - windowsLetters.begin()));
 }
 
-/// UTF-16 without its mark as UTF-8; nothing where the bytes are odd in number or surrogates stand alone.
+/// Converts UTF-16 without its byte order mark to UTF-8; nothing for an odd number of bytes or unpaired surrogates.
 template<typename ToHost>
 std::optional<QByteArray> fromUtf16(QByteArrayView bytes, ToHost toHost)
 {
@@ -117,7 +117,7 @@ Error unencodable(QByteArrayView utf8, QByteArrayView rest, Encoding encoding)
     return {Error::Code::Unencodable, u"The character "_s + shown + u"(U+"_s + number + u")"_s + place};
 }
 
-/// Writes each code point through `put`, which gives the place after it, or nullptr for one that it can't hold.
+/// Writes each code point through `put`, which returns the position after it, or nullptr if it can't be encoded.
 template<typename Put>
 Result<QByteArray> encodeWith(QByteArrayView utf8, const TextFormat &format, qsizetype largest, Put put)
 {
@@ -175,7 +175,7 @@ Result<QByteArray> encodeWindows1252(QByteArrayView utf8, const TextFormat &form
     if (other.isEmpty())
         return bytes;
     return Error{Error::Code::Unencodable,
-                 u"The text can't be stored as Windows-1252, because it would be read again as "_s + other + u'.'};
+                 u"The text can't be stored as Windows-1252, because it would be read back as "_s + other + u'.'};
 }
 
 } // namespace

@@ -31,7 +31,7 @@ Result<QStringList> readLines(const FileStore &files, const QString &path)
     if (!bytes)
         return bytes.error();
     const DecodedText text = decodeText(std::move(bytes).value());
-    // Counted before the lines are made, which take many times the room of their text.
+    // Counted before the lines are created, because they take many times the memory of their text.
     if (std::max(text.utf8.count('\n'), text.utf8.count('\r')) >= maximumLineCount)
         return readError(path, Error::Code::TooLarge, u"it has too many lines"_s);
     return textLines(QString::fromUtf8(text.utf8));

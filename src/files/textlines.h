@@ -9,14 +9,14 @@ namespace zephira {
 
 class FileStore;
 
-/// The lines of a text without their ends, which may be CR LF, LF or CR, also mixed. An end after the last line begins
-/// no further line, so that an empty text has none and a line end alone is one blank line.
+/// The lines of a text without their line ends, which may be CR LF, LF, CR or a mixture. A line end at the end of the
+/// text doesn't start another line, so an empty text has no lines and a single line end is one blank line.
 QStringList textLines(const QString &text);
 
-/// The lines of a file in whatever encoding it comes. A file of more lines than a list can show within reason is refused.
+/// The lines of a file in any encoding that decodeText() knows. Fails for a file with maximumLineCount lines or more.
 Result<QStringList> readLines(const FileStore &files, const QString &path);
 
-/// From this many line ends on a file is no list that a person made.
+/// A file with this many line ends can't be a hand-written list.
 constexpr qsizetype maximumLineCount = 1'000'000;
 
 } // namespace zephira

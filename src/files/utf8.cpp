@@ -7,7 +7,7 @@ namespace zephira {
 
 namespace {
 
-/// Steps over plain ASCII, in large strides first.
+/// Skips ASCII, in large blocks first.
 const char *skipAscii(const char *next, const char *end)
 {
     constexpr quint64 highBits = 0x8080808080808080;
@@ -63,7 +63,7 @@ bool isValidUtf8(QByteArrayView bytes)
     const char *next = bytes.begin();
     while ((next = skipAscii(next, bytes.end())) != bytes.end()) {
         Utf8Reader reader({next, bytes.end() - next});
-        // Beyond the first foreign letter more of them are likely, so the run is read letter by letter.
+        // After one non-ASCII character more are likely, so the whole run is read character by character.
         while (!reader.atEnd() && static_cast<unsigned char>(*reader.rest().begin()) >= 0x80) {
             if (!reader.next())
                 return false;

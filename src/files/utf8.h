@@ -8,8 +8,8 @@
 
 namespace zephira {
 
-/// Whether the bytes are UTF-8 in its strict sense: no overlong forms, no surrogates, nothing above U+10FFFF. Noncharacters
-/// and NUL are fine. Text that is mostly ASCII is read eight bytes at a time.
+/// Whether the bytes are strictly valid UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF. Noncharacters
+/// and NUL are allowed. Text that is mostly ASCII is read eight bytes at a time.
 bool isValidUtf8(QByteArrayView bytes);
 
 /// Walks through UTF-8 code point by code point.
@@ -19,9 +19,9 @@ public:
     explicit Utf8Reader(QByteArrayView bytes) : m_next(bytes.begin()), m_end(bytes.end()) {}
 
     bool atEnd() const { return m_next == m_end; }
-    /// The bytes that were not read yet.
+    /// The bytes not read yet.
     QByteArrayView rest() const { return {m_next, m_end - m_next}; }
-    /// The next code point, behind which the reader then stands. Nothing where the bytes are not UTF-8: it stays there.
+    /// Reads the next code point and moves past it. Returns nothing and doesn't move if the bytes are not valid UTF-8.
     std::optional<char32_t> next();
 
 private:

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int maximumLinks = 40;
 
-/// Everything up to the last separator, which is kept; "" for a bare name.
+/// Everything up to and including the last separator; "" for a bare name.
 QByteArray folderOf(const QByteArray &path)
 {
     return path.left(path.lastIndexOf('/') + 1);
@@ -31,7 +31,7 @@ Result<QByteArray> linkTarget(FileSystemCalls &calls, const QString &path)
 {
     QByteArray target = QFile::encodeName(path);
     if (target.contains('\0'))
-        return saveError(path, Error::Code::Unwritable, u"its name holds a NUL character"_s);
+        return saveError(path, Error::Code::Unwritable, u"its name contains a NUL character"_s);
     for (int links = 0; links <= maximumLinks; ++links) {
         struct stat status = {};
         if (calls.lstat(target.constData(), status) != 0) {
@@ -74,7 +74,7 @@ Result<WriteTarget> writeTarget(FileSystemCalls &calls, const QString &path)
         return saveError(path, EISDIR);
     if (!S_ISREG(mode))
         return saveError(path, Error::Code::Unwritable, u"it is not a regular file"_s);
-    // The system lets the superuser write to everything; a file that nobody may write to is protected on purpose.
+    // access() allows the superuser to write everywhere, but a file that nobody may write to is protected on purpose.
     if ((mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0)
         return saveError(path, Error::Code::Unwritable, u"it is read-only"_s);
     if (calls.access(target.path.constData(), W_OK) != 0)

@@ -11,26 +11,26 @@
 
 namespace zephira {
 
-/// The file that a path leads to when the symbolic links at its end are followed, whether it exists or not. Both paths
-/// are in the system's encoding. Fails with the errno of the call that failed, ELOOP for links that go round.
+/// The file that a path refers to after following the symbolic links at its end, whether it exists or not. The result
+/// is in the system's encoding. Fails with the error of the failed call, ELOOP for a loop of links.
 Result<QByteArray> linkTarget(FileSystemCalls &calls, const QString &path);
 
-/// What is about to be written.
+/// The file about to be written.
 struct WriteTarget {
-    /// In the system's encoding, behind all symbolic links.
+    /// In the system's encoding, with symbolic links resolved.
     QByteArray path;
     bool exists = false;
-    /// Meaningless where nothing exists.
+    /// Meaningless if the file doesn't exist.
     struct stat status = {};
 
-    /// With the separator at its end; "./" for a bare name.
+    /// With a trailing separator; "./" for a bare name.
     QByteArray folder() const;
 };
 
-/// Finds what a path leads to. Fails where that may not be written to: a folder, a pipe or device, a protected file.
+/// Resolves a path to the file to write. Fails if that isn't writable: a folder, a pipe or device, or a protected file.
 Result<WriteTarget> writeTarget(FileSystemCalls &calls, const QString &path);
 
-/// Writes all pieces to the file, from where it stands. Gives 0 or an errno.
+/// Writes all pieces at the file's current position. Returns 0 or an errno.
 int writePieces(FileSystemCalls &calls, int file, std::span<const QByteArrayView> pieces);
 
 } // namespace zephira

@@ -194,8 +194,8 @@ private Q_SLOTS:
         QCOMPARE(window.rt().text(), QString());
         window.rt().setSelText(u"text"_s);
         bench.prompts.expectTell(
-            u"The file \"%1\" was not saved, because the version on the disk, which is not the one that was opened, could not be "
-            u"kept. The file \"%1\" could not be read: it is a folder."_s.arg(bench.folder()),
+            u"The file \"%1\" was not saved, because the version on disk, which is not the one that was opened, could not be "
+            u"backed up. The file \"%1\" could not be read: it is a folder."_s.arg(bench.folder()),
             {}, Question::Icon::Exclamation);
         QVERIFY(!window.doSave());
         QVERIFY(window.docModified());

@@ -187,7 +187,7 @@ void TstAppFolder::missingDataIsAnError()
     QCOMPARE(path.error().code, Error::Code::NotFound);
     QCOMPARE(
         path.error().sentence,
-        u"Zephira can't start: there is no zephira.ini beside the program, and none in %1. Please install the program again."_s
+        u"Zephira can't start: there is no zephira.ini next to the program or in %1. Please reinstall the program."_s
             .arg(at(u"share"_s)));
 }
 
@@ -227,7 +227,7 @@ void TstAppFolder::placeTakenByAFile()
     const Result<QString> path = prepare();
     QVERIFY(!path.ok());
     QCOMPARE(path.error().code, Error::Code::Unwritable);
-    QVERIFY(path.error().sentence.startsWith(u"The folder %1/zephira can't be made: "_s.arg(at(u"home"_s))));
+    QVERIFY(path.error().sentence.startsWith(u"The folder %1/zephira can't be created: "_s.arg(at(u"home"_s))));
 }
 
 void TstAppFolder::scratchIsMade()

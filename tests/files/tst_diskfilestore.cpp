@@ -248,7 +248,7 @@ private Q_SLOTS:
         QCOMPARE(symlink("two", native(u"one"_s).constData()), 0);
         QCOMPARE(symlink("one", native(u"two"_s).constData()), 0);
         QCOMPARE(m_store.write(at(u"one"_s), "new").error().sentence,
-                 unsaved(at(u"one"_s), u"its symbolic links lead in a circle"_s));
+                 unsaved(at(u"one"_s), u"its symbolic links form a loop"_s));
         QVERIFY(!m_store.FileExists(at(u"one"_s)));
     }
 
@@ -274,7 +274,7 @@ private Q_SLOTS:
         QCOMPARE(mkfifo(native(u"pipe"_s).constData(), 0600), 0);
         QCOMPARE(sentence(at(u"pipe"_s)), unsaved(at(u"pipe"_s), u"it is not a regular file"_s));
         const QString cut = at(u"file"_s) + QChar(u'\0') + u"b"_s;
-        QCOMPARE(sentence(cut), unsaved(cut, u"its name holds a NUL character"_s));
+        QCOMPARE(sentence(cut), unsaved(cut, u"its name contains a NUL character"_s));
         QVERIFY(!m_store.write(u""_s, "x"));
     }
 

@@ -265,8 +265,8 @@ private Q_SLOTS:
         QVERIFY(!saved);
         QVERIFY2(
             saved.error().sentence.startsWith(
-                u"The file \"%1\" was not saved, because the version on the disk, which it writes over, could not be "
-                "kept. "_s.arg(desk.path)),
+                u"The file \"%1\" was not saved, because the version on disk, which would be overwritten, could not be "
+                "backed up. "_s.arg(desk.path)),
             qPrintable(saved.error().sentence));
         QCOMPARE(desk.get(), QByteArray("opened"));
     }
@@ -286,8 +286,8 @@ private Q_SLOTS:
         QVERIFY(!saved);
         QVERIFY2(
             saved.error().sentence.startsWith(
-                u"The file \"%1\" was not saved, because the version on the disk, which is not the one that was opened, "
-                "could not be kept. The file \"%2/disk-"_s.arg(desk.path, blocked)),
+                u"The file \"%1\" was not saved, because the version on disk, which is not the one that was opened, "
+                "could not be backed up. The file \"%2/disk-"_s.arg(desk.path, blocked)),
             qPrintable(saved.error().sentence));
         QCOMPARE(desk.get(), QByteArray("foreign"));
     }

@@ -166,11 +166,11 @@ private Q_SLOTS:
         row("invisible", "\xC2\x80", u"The character (U+0080) in line 1 can't be stored as Windows-1252."_s);
         row("no UTF-8", "a\n\xFF", u"A byte that is not valid UTF-8 in line 2 can't be stored as Windows-1252."_s);
         row("reads as UTF-8", "\xC3\x83\xC2\xA4",
-            u"The text can't be stored as Windows-1252, because it would be read again as UTF-8."_s);
+            u"The text can't be stored as Windows-1252, because it would be read back as UTF-8."_s);
         row("reads as UTF-16",
             "\xC3\xBF\xC3\xBE"
             "ab",
-            u"The text can't be stored as Windows-1252, because it would be read again as UTF-16."_s);
+            u"The text can't be stored as Windows-1252, because it would be read back as UTF-16."_s);
     }
 
     void unencodable()
