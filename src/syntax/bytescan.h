@@ -9,13 +9,13 @@
 
 namespace zephira {
 
-/// Whether `text` stands at `p`.
+/// Whether the bytes at `p` begin with `text`.
 inline bool standsAt(const Byte *p, const Byte *end, QByteArrayView text)
 {
     return end - p >= text.size() && std::memcmp(p, text.data(), static_cast<std::size_t>(text.size())) == 0;
 }
 
-/// The first place of `text`, which isn't empty, from `p` on, or `end`.
+/// The first occurrence of `text`, which must not be empty, at or after `p`, or `end`.
 inline const Byte *findText(const Byte *p, const Byte *end, QByteArrayView text)
 {
     const std::size_t size = static_cast<std::size_t>(text.size());

@@ -5,11 +5,11 @@
 
 namespace zephira {
 
-/// The definition of one language as it is registered with the editing control. A list is one string, its entries
-/// separated by a line feed; blanks belong to an entry, and an entry that stands twice counts once.
+/// The definition of one language as it is registered with the editing control. A list is one string with entries
+/// separated by line feeds; spaces belong to the entry, and a duplicate entry counts once.
 ///
-/// An entry may be a word ("while"), a sign ("=") or a mixture ("#include", "End Sub"). A word is only found whole. A
-/// blank at an entry's end asks for that blank in the text: "# " as a comment leaves "#x" alone.
+/// An entry may be a word ("while"), a symbol ("=") or a mixture ("#include", "End Sub"). Only whole words match. A
+/// trailing space in an entry must also occur in the text: the comment sign "# " doesn't match "#x".
 struct CodeMaxLanguage {
     bool CaseSensitive = false;
     QString Keywords = {};
@@ -18,14 +18,14 @@ struct CodeMaxLanguage {
     /// Beginnings and ends of comments; the Nth beginning goes with the Nth end.
     QString MultiLineComments1 = {};
     QString MultiLineComments2 = {};
-    /// What opens and what closes a block that can be folded.
+    /// The openings and closings of foldable blocks.
     QString ScopeKeywords1 = {};
     QString ScopeKeywords2 = {};
     QString StringDelims = {};
-    /// One character; inside a string it takes the next character's meaning away, a line end's included.
+    /// One character; inside a string it escapes the next character, including a line end.
     QString EscapeChar = {};
     QString TerminatorChar = {};
-    /// Names in tags, for the tag-aware style. "data-*" stands for every name that begins so; with an empty list every
+    /// Names in tags, for the tag-aware style. "data-*" matches every name with that prefix; with an empty list every
     /// name is known. Entities are listed without "&" and ";".
     QString TagElementNames = {};
     QString TagAttributeNames = {};

@@ -5,17 +5,18 @@
 
 namespace zephira {
 
-/// Where a procedural lexer stands between two pieces of text. Packed it takes `embeddedStateBits` bits, and more only
-/// for the second and later pairs of comment signs.
+/// The state of a procedural lexer between two pieces of text. Packed it takes `embeddedStateBits` bits, and more only
+/// for the second and later pairs of comment delimiters.
 struct CodeState {
     enum class Kind : Byte { Code, Comment, String, Template, HereDocument, RawString, LineComment, TextBlock };
 
     Kind kind = Kind::Code;
-    /// The substitutions of template strings that are open: how many (0 to 2), and in each how many braces (0 to 7).
+    /// The open substitutions of template strings: their number (0 to 2), and the number of open braces in each (0 to
+    /// 7).
     Byte substitutions = 0;
-    /// In strings: which delimiter, or a fingerprint of the word that ends it.
+    /// In strings: the index of the delimiter, or a fingerprint of the word that ends the string.
     Byte ending = 0;
-    /// In comments: which pair.
+    /// In comments: the index of the pair of delimiters.
     quint16 pair = 0;
 
     static CodeState unpacked(quint32 bits)
@@ -59,7 +60,7 @@ private:
     }
 };
 
-/// The most substitutions that can be open inside each other; a deeper one is taken as text.
+/// The maximum nesting of substitutions; a deeper one is treated as text.
 constexpr unsigned mostSubstitutions = 2;
 
 } // namespace zephira

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The parts of a procedural language in which nothing counts but the sign that ends them: strings and comments.
+// The parts of a procedural language in which only the closing delimiter matters: strings and comments.
 #include "syntax/codewalk.h"
 #include "syntax/numbers.h"
 
@@ -9,10 +9,10 @@ namespace zephira {
 
 namespace {
 
-/// In `ending` of a string: an escape sign stood last, so that the string goes on behind the line end.
+/// In `ending` of a string: the line ended in an escape character, so the string continues on the next line.
 constexpr Byte escapedLineEnd = 0x80;
 
-/// The longest word that may stand between R" and the parenthesis.
+/// The maximum length of the word between R" and the parenthesis.
 constexpr std::ptrdiff_t longestRawDelimiter = 16;
 
 constexpr QByteArrayView rawPrefixes[] = {"R", "LR", "uR", "UR", "u8R"};
@@ -90,7 +90,7 @@ void ProceduralLexer::closeString(Walk &walk, const Byte *to) const
     walk.operandBefore = true;
 }
 
-/// Passes an escape sign and the character behind it. False when none stands at `p`.
+/// Skips an escape character and the character after it. Returns false if there is none at `p`.
 bool ProceduralLexer::skipEscape(const Byte *&p, const Byte *end) const
 {
     if (m_escape.isEmpty() || !standsAt(p, end, m_escape))
@@ -108,7 +108,8 @@ void ProceduralLexer::paintString(Walk &walk) const
     }
     const QByteArray &delimiter = m_delimiters[walk.state.ending];
     const Byte close = static_cast<Byte>(delimiter.front());
-    // Where the delimiter is its own escape sign, two of them are two strings side by side, which look the same.
+    // If the delimiter is its own escape character, a doubled one is coloured as two adjacent strings, which look the
+    // same.
     const bool escapes = !m_escape.isEmpty() && m_escape != delimiter;
     const Byte escape = escapes ? static_cast<Byte>(m_escape.front()) : close;
     for (const Byte *q = walk.p;;) {
@@ -176,7 +177,7 @@ bool ProceduralLexer::openHereDocument(Walk &walk) const
     return true;
 }
 
-/// The word that ends the text stands first in its line, or behind blanks.
+/// The word that ends the text comes first in its line, possibly after blanks.
 void ProceduralLexer::paintHereDocument(Walk &walk) const
 {
     if (walk.lineStart && walk.p == walk.begin) {

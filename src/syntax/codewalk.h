@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// A procedural lexer's way over one piece of a line.
+/// A procedural lexer's progress through one piece of a line.
 struct ProceduralLexer::Walk {
     const StyleCanvas &canvas;
     const Byte *const begin;
@@ -15,14 +15,14 @@ struct ProceduralLexer::Walk {
 
     CodeState state;
     const Byte *p = begin;
-    const Byte *plain = begin;       ///< where text began that isn't painted yet
-    bool operandBefore = !lineStart; ///< a slash here divides
-    bool slashesDivide = false;      ///< no regular expression is closed behind this point
-    bool stopped = false;            ///< the language's own closing sign stands at `p`
+    const Byte *plain = begin;       ///< start of the text that isn't painted yet
+    bool operandBefore = !lineStart; ///< a slash here is a division
+    bool slashesDivide = false;      ///< no regular expression can be closed after this point
+    bool stopped = false;            ///< the language's own closing delimiter is at `p`
 
     std::size_t room() const { return static_cast<std::size_t>(end - p); }
 
-    /// Paints the text before `p` that no token claimed.
+    /// Paints the text before `p` that isn't part of a token.
     void flush()
     {
         if (plain < p)
@@ -30,7 +30,7 @@ struct ProceduralLexer::Walk {
         plain = p;
     }
 
-    /// Paints up to `to`, behind whatever text is still unpainted, and goes there.
+    /// Paints the pending text and then everything up to `to`, and moves there.
     void take(const Byte *to, SyntaxStyle style)
     {
         flush();
@@ -39,7 +39,7 @@ struct ProceduralLexer::Walk {
     }
 };
 
-/// A byte that tells the words behind "<<<" and R" apart well enough.
+/// A one-byte hash that distinguishes the words after "<<<" and R" well enough.
 inline Byte fingerprint(const Byte *p, const Byte *end)
 {
     unsigned sum = 0;

@@ -13,14 +13,14 @@ namespace {
 /// The part of a statement.
 enum class Part : Byte { Start, Selector, Property, Value, AtRule };
 
-/// Text in which only its end counts.
+/// Text in which only its end matters.
 enum class Inside : Byte { Nothing, Comment, DoubleQuotes, SingleQuotes, Url };
 
 struct CssState {
     Part part = Part::Start;
     Inside inside = Inside::Nothing;
     bool escapedLineEnd = false;
-    Byte depth = 0; ///< braces that are open, 15 and more alike
+    Byte depth = 0; ///< number of open braces, at most 15
 
     static CssState unpacked(quint32 bits)
     {
@@ -53,8 +53,8 @@ const Byte *nameEnd(const Byte *p, const Byte *end)
     return std::min(p, end);
 }
 
-/// What the statement that begins at `p` is. One that isn't finished in this line is a declaration only inside a rule,
-/// and not when it goes on with another selector.
+/// The kind of the statement that begins at `p`. One that isn't finished in this line is a declaration only inside a
+/// rule, and only if it doesn't continue with another selector.
 Part partAt(const Byte *p, const Byte *end, Byte depth)
 {
     if (*p == '@')
@@ -67,7 +67,7 @@ Part partAt(const Byte *p, const Byte *end, Byte depth)
     return depth == 0 || (stop > p && stop[-1] == ',') ? Part::Selector : Part::Property;
 }
 
-/// The way over one piece of a line.
+/// The progress through one piece of a line.
 class CssWalk
 {
 public:
@@ -118,7 +118,7 @@ private:
             while (q < m_end && *q != close)
                 q += *q == '\\' ? 2 : 1;
             m_state.escapedLineEnd = q > m_end;
-            // The parenthesis isn't part of the address.
+            // The closing parenthesis isn't part of the address.
             if (q < m_end) {
                 q += m_state.inside == Inside::Url ? 0 : 1;
                 m_state.inside = Inside::Nothing;
@@ -214,7 +214,7 @@ private:
         }
         if (!isName(*m_p) || (*m_p == '-' && m_end - m_p > 1 && !isName(m_p[1])))
             return take(m_p + 1, SyntaxStyle::Operator);
-        // A minus sign belongs to the number behind it, but not to the name of a variable.
+        // A minus sign belongs to the number after it, but not to the name of a variable.
         if (*m_p == '-' && m_end - m_p > 1 && isDigit(m_p[1]))
             return take(m_p + 1, SyntaxStyle::Operator);
         const Byte *q = nameEnd(m_p, m_end);
@@ -258,7 +258,7 @@ quint32 CssLexer::behindLineEnd(quint32 bits) const
     if (state.inside != Inside::Comment && !state.escapedLineEnd)
         state.inside = Inside::Nothing;
     state.escapedLineEnd = false;
-    // An at-rule or a selector may go on; a declaration's end decides about itself when the next line is seen.
+    // An at-rule or a selector may continue; whether a declaration does is decided at the next line.
     return state.packed();
 }
 

@@ -5,8 +5,9 @@
 
 namespace zephira {
 
-/// Colours style sheets: selectors as element names, properties as attribute names, at-rules as keywords, values by their
-/// own form. Whether a statement is a rule or a declaration is decided by what ends it, so nesting costs nothing.
+/// Colours style sheets: selectors as element names, properties as attribute names, at-rules as keywords, values by
+/// their form. Whether a statement is a rule or a declaration is decided by what ends it, so nested rules need no extra
+/// work.
 class CssLexer final : public CodeLexer
 {
 public:

@@ -39,7 +39,7 @@ VarType Weekday WeekdayName Year Err Debug
 #Const #If #ElseIf #Else #Region #ExternalSource
 )";
 
-/// Longer entries, so that a word inside them isn't taken for the beginning or the end of a block.
+/// Multi-word entries, so that a word inside them isn't taken for the beginning or end of a block.
 constexpr QStringView phrases = u"#End If|#End Region|End If|Exit Sub|Exit Function|Exit Property|Exit For|"
                                 "Exit Do|Exit While|Exit Select|Exit Try|Continue For|Continue Do|Continue While|"
                                 "Declare Sub|Declare Function|Declare PtrSafe Sub|Declare PtrSafe Function|"
@@ -79,7 +79,7 @@ LanguageDefinition vbScriptDefinition()
 {
     LanguageDefinition script = basicDefinition();
     script.language.Keywords += u'\n' + wordList(pageObjects);
-    // The sign with which scripts are hidden from browsers that don't know them.
+    // The sign that hides scripts from browsers that don't support them.
     script.language.SingleLineComments += u"\n<!--"_s;
     return script;
 }

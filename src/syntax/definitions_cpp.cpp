@@ -22,7 +22,7 @@ __int64 __restrict __stdcall __volatile__
 __FILE__ __LINE__ __DATE__ __TIME__ __cplusplus
 )";
 
-/// The types that everybody meets, whether they come from the language's library or from C's.
+/// Commonly used types of the C++ and C standard libraries.
 constexpr QStringView types = uR"(
 FILE NULL clock_t errno_t fpos_t int8_t int16_t int32_t int64_t int_fast8_t int_fast16_t int_fast32_t int_fast64_t
 int_least8_t int_least16_t int_least32_t int_least64_t intmax_t intptr_t max_align_t nullptr_t off_t pid_t ptrdiff_t

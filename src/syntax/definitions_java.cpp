@@ -26,14 +26,14 @@ RegExp Set String Symbol TypeError WeakMap WeakSet
 decodeURI decodeURIComponent encodeURI encodeURIComponent escape eval isFinite isNaN parseFloat parseInt unescape
 )";
 
-/// What pages and servers bring along.
+/// Global objects and functions provided by browsers and servers.
 constexpr QStringView hostObjects = uR"(
 alert clearInterval clearTimeout confirm console document event fetch history localStorage location navigator prompt
 requestAnimationFrame screen sessionStorage setInterval setTimeout window
 ActiveXObject Application Enumerator Request Response Server Session VBArray
 )";
 
-/// Words of the classic scripts and of typed dialects that aren't plain script words.
+/// Words reserved in older scripts or used by typed dialects, in addition to the script keywords.
 constexpr QStringView reservedWords = uR"(
 abstract any boolean byte char declare double enum final float goto implements int interface keyof long namespace native
 never number package private protected public readonly short string synchronized throws transient type unknown volatile
@@ -59,8 +59,8 @@ CodeMaxLanguage commonFields()
 
 } // namespace
 
-/// One language for Java and for scripts. Style sheets and SQL are shown with it as well, so it holds nothing in which
-/// their texts would get lost: no regular expressions, whose slashes are paths there.
+/// One language for both Java and scripts. Style sheets and SQL are shown with it as well, so it leaves out whatever
+/// would garble them, such as regular expressions, because their slashes occur in paths there.
 LanguageDefinition javaDefinition()
 {
     CodeMaxLanguage java = commonFields();
@@ -72,7 +72,7 @@ LanguageDefinition javaScriptDefinition()
 {
     CodeMaxLanguage script = commonFields();
     script.Keywords = wordList(scriptKeywords) + u'\n' + wordList(hostObjects) + u'\n' + wordList(reservedWords);
-    // The sign with which scripts are hidden from browsers that don't know them.
+    // The sign that hides scripts from browsers that don't support them.
     script.SingleLineComments += u"\n<!--"_s;
     return {script, Dialect::DollarInWords | Dialect::Templates | Dialect::RegularExpressions};
 }

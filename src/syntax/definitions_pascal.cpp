@@ -37,7 +37,8 @@ LanguageDefinition pascalDefinition()
     pascal.SingleLineComments = u"//"_s;
     pascal.MultiLineComments1 = wordList(u"{ (*");
     pascal.MultiLineComments2 = wordList(u"} *)");
-    // Records and classes end with "end" too, but "class" may stand without one; they leave the depth at its floor.
+    // Records and classes end with "end" too, but "class" may occur without one. Their "end" can't make the depth
+    // negative.
     pascal.ScopeKeywords1 = wordList(u"begin case try asm repeat");
     pascal.ScopeKeywords2 = wordList(u"end until");
     pascal.StringDelims = u"'"_s;

@@ -7,7 +7,7 @@ namespace zephira {
 
 namespace {
 
-/// The entries in their order. "die " keeps its blank and "remdir" its spelling; both are part of the list as it is.
+/// The entries in their given order. The space in "die " and the spelling of "remdir" are intended.
 constexpr QStringView keywords =
     u"abs|if|accept|alarm|atan2|bind|binmode|bless|caller|chdir|chmod|chomp|chop|chown|chr|chroot|close|closedir|connect|"
     "cos|crypt|dbmclose|dbmopen|defined|delete|die |do|dump|each|eof|eval|exec|exists|exit|exp|fcntl|fileno|flock|fork|"

@@ -7,7 +7,7 @@ namespace zephira {
 
 LanguageDefinition xmlDefinition()
 {
-    // Names of elements and attributes are the author's own, so the lists stay empty and every name is known.
+    // Authors choose the names of elements and attributes, so the lists stay empty and every name is known.
     CodeMaxLanguage xml;
     xml.CaseSensitive = true;
     xml.Style = 1;

@@ -7,11 +7,12 @@ namespace zephira {
 
 class SyntaxEngine;
 
-/// The colours of a text as text: one line per run of equal styles, "offset length style", numbers in bytes from 0, each
-/// line ended by a line feed.
+/// Describes the colours of a text: one line "offset length style" for each run of equal styles, offset (0-based) and
+/// length in bytes, each line ended by a line feed.
 QByteArray describeStyles(QByteArrayView text, const SyntaxEngine &engine);
 
-/// The same for a language by its name, built in or "Perl", without regard to case. An unknown name gives an empty answer.
+/// The same for a language given by name, built in or "Perl", not case-sensitive. Returns an empty result for an
+/// unknown name.
 QByteArray describeStyles(QByteArrayView text, const QString &language);
 
 } // namespace zephira

@@ -13,8 +13,8 @@ namespace {
 
 enum Scope : Byte { Opens = 1, Closes = 2 };
 
-/// The elements whose end tag may not be left out, and the three that frame a document. Others would open folds that
-/// nobody closes.
+/// The elements whose end tag is mandatory, and the three that enclose a document. Others could open folds that are
+/// never closed.
 constexpr QByteArrayView foldedElements[] = {
     "html",     "head",     "body",     "a",        "abbr",       "address",  "applet",  "article", "aside",
     "audio",    "b",        "bdi",      "bdo",      "blockquote", "button",   "canvas",  "caption", "center",
@@ -28,7 +28,7 @@ constexpr QByteArrayView foldedElements[] = {
     "table",    "template", "textarea", "time",     "title",      "tt",       "u",       "ul",      "var",
     "video"};
 
-/// Styles that can change the depth.
+/// Whether text of this style can change the depth.
 constexpr bool isFolding(Byte style)
 {
     return style == static_cast<Byte>(SyntaxStyle::ScopeKeyword) || style == static_cast<Byte>(SyntaxStyle::TagElement)
@@ -59,7 +59,8 @@ FoldRules::FoldRules(const LanguageDefinition &definition)
     addAll(definition.language.ScopeKeywords1, Opens);
     addAll(definition.language.ScopeKeywords2, Closes);
     if (has(definition.dialect, Dialect::Html)) {
-        // The signs of the scripts and style sheets inside; the words of server blocks come with the language itself.
+        // The block delimiters of embedded scripts and style sheets. The words of server blocks are part of the
+        // language itself.
         m_scopes.add("{", Opens);
         m_scopes.add("}", Closes);
         addAll(vbScriptDefinition().language.ScopeKeywords1, Opens);
@@ -105,7 +106,7 @@ FoldLine FoldRules::fold(QByteArrayView line, std::span<const unsigned char> sty
         p = q;
     }
 
-    // A comment goes on where it has the line end, too.
+    // A comment continues on the next line if the line end is also part of it.
     const bool comment =
         end > textEnd && styles[static_cast<std::size_t>(end - begin) - 1] == static_cast<Byte>(SyntaxStyle::Comment);
     depth += static_cast<int>(comment) - static_cast<int>(state.inComment);

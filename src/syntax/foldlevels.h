@@ -10,8 +10,8 @@
 
 namespace zephira {
 
-/// What folding has to know at the start of a line: the nesting depth, 0 outermost, and whether a comment has come over
-/// from the line above (whose last byte then has the comment style).
+/// The state of folding at the start of a line: the nesting depth, 0 outermost, and whether a comment continues from
+/// the line above (whose last byte then has the comment style).
 struct FoldState {
     int level = 0;
     bool inComment = false;
@@ -19,23 +19,24 @@ struct FoldState {
     friend bool operator==(const FoldState &, const FoldState &) = default;
 };
 
-/// One line's place in the folds.
+/// The fold data of one line.
 struct FoldLine {
     int level = 0;       ///< depth at the line's start, 0 outermost
-    bool header = false; ///< more is open at its end than at its start
-    bool blank = false;  ///< nothing but blanks and tabs
+    bool header = false; ///< the depth is greater at its end than at its start
+    bool blank = false;  ///< contains only spaces and tabs
 
     friend bool operator==(const FoldLine &, const FoldLine &) = default;
 };
 
-/// Finds folds in styled text: scope keywords, elements that have an end tag, and comments over several lines. Works line
-/// by line and can begin at any line whose FoldState is known.
+/// Finds folds in styled text: scope keywords, elements that have an end tag, and multi-line comments. Works line by
+/// line and can begin at any line whose FoldState is known.
 class FoldRules
 {
 public:
     explicit FoldRules(const LanguageDefinition &definition);
 
-    /// Folds one line, its line end included, and moves `state` on to the next line. `styles` are the line's own.
+    /// Folds one line, including its line end, and updates `state` to that of the next line. `styles` has one entry per
+    /// byte of the line.
     FoldLine fold(QByteArrayView line, std::span<const unsigned char> styles, FoldState &state) const;
 
 private:

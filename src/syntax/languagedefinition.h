@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// Habits of a language that the fields of CodeMaxLanguage have no room for. A registered language has none of them.
+/// Features of a language that CodeMaxLanguage can't express. Registered languages have none of them.
 enum class Dialect : unsigned {
     None = 0,
     Html = 1u << 0,                ///< tag-aware: scripts, style sheets, server blocks, server directives inside
@@ -17,12 +17,12 @@ enum class Dialect : unsigned {
     AmpersandNumbers = 1u << 4,    ///< &HFF, &O17
     DateLiterals = 1u << 5,        ///< #12/31/1999#
     NumberSuffixSigns = 1u << 6,   ///< 10& 1.5!
-    DollarNumbers = 1u << 7,       ///< $FF, and characters by number, #13
+    DollarNumbers = 1u << 7,       ///< $FF, and character codes, #13
     DollarInWords = 1u << 8,       ///< $ is a letter
     Templates = 1u << 9,           ///< `text ${code} text`
     TextBlocks = 1u << 10,         ///< """ over several lines """
     RegularExpressions = 1u << 11, ///< /a"b/ where an operand may stand
-    LongStrings = 1u << 12,        ///< strings go on over line ends
+    LongStrings = 1u << 12,        ///< strings may span lines
     HereDocuments = 1u << 13,      ///< <<<NAME … NAME
     PhpClosing = 1u << 14,         ///< ?> ends the code outside strings and long comments
 };
@@ -37,13 +37,13 @@ constexpr bool has(Dialect set, Dialect one)
     return (static_cast<unsigned>(set) & static_cast<unsigned>(one)) != 0;
 }
 
-/// A language as the engine compiles it.
+/// A language as compiled by the engine.
 struct LanguageDefinition {
     CodeMaxLanguage language = {};
     Dialect dialect = Dialect::None;
 };
 
-/// The languages that the editing control brings.
+/// The built-in languages of the editing control.
 LanguageDefinition htmlDefinition();
 LanguageDefinition xmlDefinition();
 LanguageDefinition cppDefinition();
@@ -51,19 +51,19 @@ LanguageDefinition basicDefinition();
 LanguageDefinition pascalDefinition();
 LanguageDefinition javaDefinition();
 
-/// Those that appear only inside an HTML text.
+/// Languages that occur only inside HTML text.
 LanguageDefinition javaScriptDefinition();
 LanguageDefinition vbScriptDefinition();
 LanguageDefinition phpDefinition();
 
-/// Perl, which the program registers at start.
+/// Perl, which the program registers when it starts.
 CodeMaxLanguage perlLanguage();
 
-/// A list field from words that are separated by blanks or line ends.
+/// Makes a list field from words separated by spaces or line ends.
 QString wordList(QStringView words);
-/// A list field from entries that are separated by "|", so that they may hold blanks.
+/// Makes a list field from entries separated by "|", so that they may contain spaces.
 QString entryList(QStringView entries);
-/// The entries of a list field in UTF-8, without empty ones.
+/// The non-empty entries of a list field, in UTF-8.
 QByteArrayList entriesOf(const QString &list);
 
 } // namespace zephira

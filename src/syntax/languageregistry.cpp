@@ -17,8 +17,8 @@ constexpr struct {
 
 } // namespace
 
-/// A built-in definition and every engine are made when they are first asked for, so that the program's start pays only
-/// for the language that it shows.
+/// Built-in definitions and all engines are created on first use, so that the program's start pays only for the
+/// language that it shows.
 struct LanguageRegistry::Entry {
     QString name;
     LanguageDefinition (*make)() = nullptr;

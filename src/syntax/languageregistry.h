@@ -12,8 +12,8 @@ namespace zephira {
 
 class SyntaxEngine;
 
-/// The languages that an editing control knows, by name; upper and lower case make no difference. HTML, C/C++, XML, Basic,
-/// Pascal and Java are there from the beginning.
+/// The languages of an editing control by name, not case-sensitive. HTML, C/C++, XML, Basic, Pascal and Java are built
+/// in.
 class LanguageRegistry
 {
 public:
@@ -22,15 +22,15 @@ public:
     LanguageRegistry(const LanguageRegistry &) = delete;
     LanguageRegistry &operator=(const LanguageRegistry &) = delete;
 
-    /// Makes a language known; one that bears the name already is replaced. The empty name stands for "no language" and
-    /// is left alone.
+    /// Registers a language, replacing one of the same name. Does nothing for the empty name, which means "no
+    /// language".
     void RegisterLanguage(const QString &name, const CodeMaxLanguage &language);
 
-    /// The definition, or nullptr for a name that nobody registered. Valid until the name is registered again.
+    /// The definition, or nullptr for an unknown name. Valid until the name is registered again.
     const CodeMaxLanguage *find(const QString &name) const;
-    /// The engine for a language, compiled when it is first asked for, or nullptr.
+    /// The engine for a language, compiled on first use, or nullptr for an unknown name.
     std::shared_ptr<const SyntaxEngine> engine(const QString &name) const;
-    /// All names as they were registered, in alphabetical order.
+    /// All names as registered, in alphabetical order.
     QStringList names() const;
 
 private:

@@ -11,13 +11,13 @@ namespace zephira {
 
 using Byte = unsigned char;
 
-/// A text and, beside it, the style bytes that are being written for it.
+/// A text and the style bytes being written for it, one per byte.
 struct StyleCanvas {
     const Byte *text;
     Byte *styles;
 
-    /// Gives the bytes from `from` to `to` one style. Most runs are a few bytes long, for which two overlapping stores
-    /// cost less than a call.
+    /// Sets the style of the bytes from `from` up to `to`. Most runs are a few bytes long, for which two overlapping
+    /// stores cost less than a call.
     void paint(const Byte *from, const Byte *to, SyntaxStyle style) const
     {
         const std::size_t count = static_cast<std::size_t>(to - from);
@@ -50,25 +50,25 @@ class LineLexer
 {
 public:
     virtual ~LineLexer() = default;
-    /// Colours one line and gives the state with which the next one begins. Any 32-bit number is taken as a state.
+    /// Colours one line and returns the state at the start of the next one. Any 32-bit number is accepted as a state.
     virtual quint32 paintLine(const StyleCanvas &canvas, const LineBytes &line, quint32 state) const = 0;
 };
 
-/// The bits that a code lexer's state may have where its text is embedded in another one.
+/// The number of bits available for a code lexer's state when its text is embedded in another.
 constexpr unsigned embeddedStateBits = 11;
 
-/// Colours code that may be embedded: in pieces of a line, because something else may stand in between.
+/// Colours code that may be embedded in another text, and so comes in pieces of a line.
 class CodeLexer
 {
 public:
     virtual ~CodeLexer() = default;
-    /// Colours a piece of a line, moves `state` on and says where it stopped: at `end`, or before it at a sign by which
-    /// the language itself ends its block. `lineStart` says that the piece begins its line.
+    /// Colours a piece of a line, updates `state`, and returns where it stopped: at `end`, or before it at a delimiter
+    /// with which the language itself ends its block. `lineStart` tells whether the piece starts a line.
     virtual const Byte *paint(const StyleCanvas &canvas, const Byte *begin, const Byte *end, bool lineStart,
                               quint32 &state) const = 0;
-    /// The state behind a line end.
+    /// The state after a line end.
     virtual quint32 behindLineEnd(quint32 state) const = 0;
-    /// The style of a line end, by the state behind it.
+    /// The style of a line end, given the state after it.
     virtual SyntaxStyle lineEndStyle(quint32 state) const = 0;
 };
 

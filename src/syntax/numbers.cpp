@@ -22,7 +22,7 @@ bool isNumberByte(Byte byte)
     return isDigit(byte) || isLetter(byte) || byte == '_';
 }
 
-/// A point belongs to a number unless it is one of two, or the name of a member follows ("1.toString").
+/// A point belongs to a number unless another point or a member name follows ("1.toString").
 bool isFraction(const Byte *point, const Byte *end)
 {
     if (point + 1 == end)
@@ -36,7 +36,7 @@ bool isFraction(const Byte *point, const Byte *end)
     return suffix && (point + 2 == end || !isLetter(point[2]));
 }
 
-/// The words of a date: "AM", "PM", and names of months, whole or cut.
+/// The words of a date: "AM", "PM", and month names, full or abbreviated.
 bool isDateWord(const Byte *p, const Byte *end)
 {
     return std::any_of(std::begin(dateWords), std::end(dateWords), [p, end](std::string_view word) {
@@ -45,7 +45,8 @@ bool isDateWord(const Byte *p, const Byte *end)
     });
 }
 
-/// "#12/31/1999 11:59 PM#": digits, the words above and signs between them, a digit among the first and one sign at least.
+/// "#12/31/1999 11:59 PM#": digits, the words above, and separators between them, with at least one digit and one
+/// separator.
 const Byte *dateEnd(const Byte *p, const Byte *end)
 {
     const Byte *last = std::min(end, p + longestDate);

@@ -23,11 +23,11 @@ constexpr bool isBlank(Byte byte)
     return byte == ' ' || byte == '\t' || byte == '\f' || byte == '\v';
 }
 
-/// The end of the number that begins at `p` with a digit, or a point and a digit: decimal, hexadecimal, octal and binary
-/// forms, fractions, exponents, separators and the letters behind ("10UL", "1.5e-3f", "12px"). "1..5" is two numbers.
+/// The end of the number that begins at `p` with a digit, or a point and a digit: decimal, hexadecimal, octal and
+/// binary forms, fractions, exponents, separators and suffixes ("10UL", "1.5e-3f", "12px"). "1..5" is two numbers.
 const Byte *numberEnd(const Byte *p, const Byte *end, Dialect dialect);
 
-/// The end of a number that begins with a sign of the dialect ("&HFF", "$FF", "#13", "#1/31/2000#"), or `p` when there is
+/// The end of a number that begins with a sign of the dialect ("&HFF", "$FF", "#13", "#1/31/2000#"), or `p` if there is
 /// none.
 const Byte *signedNumberEnd(const Byte *p, const Byte *end, Dialect dialect);
 

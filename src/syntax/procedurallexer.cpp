@@ -10,17 +10,17 @@ namespace zephira {
 
 namespace {
 
-/// The number of delimiters that a packed state can tell apart.
+/// The number of string delimiters that a packed state can distinguish.
 constexpr std::size_t mostDelimiters = 64;
 
-/// A word of the dictionary with which a longer entry begins ("End" of "End Sub").
+/// Marks a dictionary word that begins a longer entry ("End" of "End Sub").
 constexpr Byte beginsEntry = 0x80;
 
-/// The directives behind which a file name may stand in angle brackets.
+/// The directives that may be followed by a file name in angle brackets.
 enum Directive : Byte { Plain = 1, NamesFile = 2 };
 constexpr QByteArrayView fileDirectives[] = {"include", "include_next", "import", "embed"};
 
-/// Keywords that stand for a value: a slash behind them divides.
+/// Keywords that are values: a slash after them is a division.
 constexpr QByteArrayView valueKeywords[] = {"this", "super", "null", "true", "false", "undefined", "NaN", "Infinity"};
 
 constexpr SyntaxStyle styleOf(TokenKind kind)
@@ -72,7 +72,7 @@ ProceduralLexer::ProceduralLexer(const LanguageDefinition &definition)
         addEntry(delimiter, TokenKind::String, m_delimiters.size());
         m_delimiters.push_back(delimiter);
     }
-    // The first to come keeps a word that stands in two lists.
+    // A word that is in two lists keeps the kind that is added first.
     addWords(language.SingleLineComments, TokenKind::LineComment);
     addWords(language.ScopeKeywords1, TokenKind::Scope);
     addWords(language.ScopeKeywords2, TokenKind::Scope);
@@ -80,7 +80,7 @@ ProceduralLexer::ProceduralLexer(const LanguageDefinition &definition)
     addWords(language.Operators, TokenKind::Operator);
     m_symbols.finish(m_isWord);
 
-    // The words with which longer entries begin are found in the dictionary too, whatever they are by themselves.
+    // Words that begin longer entries are in the dictionary too, whatever they are by themselves.
     for (const Symbol &symbol : m_symbols.symbols()) {
         const auto *begin = reinterpret_cast<const Byte *>(symbol.bytes.constData());
         if (isWordStart(*begin)) {
@@ -181,7 +181,7 @@ const Byte *ProceduralLexer::paint(const StyleCanvas &canvas, const Byte *begin,
 
 quint32 ProceduralLexer::paintLine(const StyleCanvas &canvas, const LineBytes &line, quint32 state) const
 {
-    // A sign that ends an embedded block ends nothing here; it is an operator like others.
+    // A delimiter that would end an embedded block ends nothing here; it is an ordinary operator.
     const Byte *p = paint(canvas, line.begin, line.end, true, state);
     while (p < line.end) {
         canvas.paint(p, p + 1, SyntaxStyle::Operator);
@@ -297,7 +297,7 @@ void ProceduralLexer::paintSymbol(Walk &walk) const
         paintVariable(walk);
 }
 
-/// The word behind "$" is a name, even one that is a keyword elsewhere.
+/// The word after "$" is a name, even if it is a keyword elsewhere.
 void ProceduralLexer::paintVariable(Walk &walk) const
 {
     while (walk.p < walk.end && m_isWord[*walk.p])
@@ -344,7 +344,7 @@ bool ProceduralLexer::paintSpecial(Walk &walk) const
     return true;
 }
 
-/// "#  include <x>": only blanks stand before the sign, and some may follow it.
+/// "#  include <x>": only blanks precede the "#", and some may follow it.
 bool ProceduralLexer::paintDirective(Walk &walk) const
 {
     if (!walk.lineStart || !std::all_of(walk.begin, walk.p, isBlank))
@@ -382,7 +382,7 @@ bool ProceduralLexer::paintRegularExpression(Walk &walk) const
             return true;
         }
     }
-    // Looking for the end again at every slash of a long line would take its square in time.
+    // Searching for the end again at every slash would take quadratic time in a long line.
     walk.slashesDivide = true;
     return false;
 }

@@ -12,8 +12,8 @@
 
 namespace zephira {
 
-/// Colours a procedural language by the tables of its definition. Each byte has a class by which it is known how a token
-/// that begins with it goes on; words are looked up in one dictionary, everything else in the symbols.
+/// Colours a procedural language using tables made from its definition. The class of a byte determines how a token
+/// beginning with it continues; words are looked up in one dictionary, everything else in the symbol table.
 class ProceduralLexer final : public CodeLexer, public LineLexer
 {
 public:

@@ -10,34 +10,34 @@
 
 namespace zephira {
 
-/// What an entry of a definition stands for. The order is the rank when two entries are the same text.
+/// The meaning of an entry of a definition. Of two entries with the same text the kind listed first takes precedence.
 enum class TokenKind : Byte { None, LongComment, LineComment, String, Scope, Keyword, Operator };
 
-/// An entry that isn't a plain word: a sign, or signs, blanks and words mixed.
+/// An entry that isn't a plain word: a symbol, or a mixture of symbols, spaces and words.
 struct Symbol {
     QByteArray bytes;
     TokenKind kind = TokenKind::None;
-    quint16 index = 0; ///< which comment or string delimiter
+    quint16 index = 0; ///< index of the comment or string delimiter
 
     std::size_t size() const { return static_cast<std::size_t>(bytes.size()); }
-    /// Length without the blanks at its end, which are a condition and aren't coloured.
+    /// Length in bytes without trailing spaces, which must match but aren't coloured.
     std::size_t styledSize() const;
 };
 
-/// Finds the longest symbol at a place.
+/// Finds the longest symbol at a position.
 class SymbolTable
 {
 public:
     explicit SymbolTable(bool caseSensitive) : m_caseSensitive(caseSensitive) {}
 
     void add(Symbol symbol);
-    /// Sorts what was added; find() needs it. `isWord` has the bytes that belong to words.
+    /// Sorts the symbols; must be called before find(). `isWord` marks the bytes that belong to words.
     void finish(const std::array<bool, 256> &isWord);
     bool startsWith(Byte byte) const { return m_first[byte].count != 0; }
-    /// Whether one-byte operators are all that begins with this byte.
+    /// Whether only one-byte operators begin with this byte.
     bool isPlainOperator(Byte byte) const;
-    /// The longest symbol at `p`, or nullptr. One that ends in a letter isn't found inside a word,
-    /// unless it begins a string, whose text follows at once.
+    /// The longest symbol at `p`, or nullptr. A symbol that ends in a letter doesn't match inside a word, unless it
+    /// opens a string, whose text follows directly.
     const Symbol *find(const Byte *p, const Byte *end) const;
     const std::vector<Symbol> &symbols() const { return m_symbols; }
 

@@ -14,8 +14,8 @@ public:
     bool lineStart(qsizetype, LineState) override { return true; }
 };
 
-/// Divides a text into lines. The next line feed is looked for once, so that a text of carriage returns alone is walked
-/// through once as well.
+/// Splits a text into lines. The position of the next line feed is remembered, so that a text with only carriage
+/// returns takes linear time, too.
 class LineDivider
 {
 public:

@@ -3,8 +3,8 @@
 
 namespace zephira {
 
-/// What a byte of the text is. The numbers are the style bytes and, at the same time, the font style items of the editing
-/// control's colour table.
+/// The syntactic role of a byte of the text. The numbers are the style bytes and also the editing control's font style
+/// items.
 enum class SyntaxStyle : unsigned char {
     Text = 0,
     Number = 1,

@@ -11,7 +11,7 @@ namespace zephira {
 
 namespace {
 
-/// As many pairs of comment signs as a line state can tell apart.
+/// The number of comment delimiter pairs that a line state can distinguish.
 constexpr qsizetype mostCommentPairs = 8;
 
 bool is(Byte byte, Byte property)
@@ -116,7 +116,7 @@ quint32 TagLexer::paintLine(const StyleCanvas &canvas, const LineBytes &line, qu
             break;
         }
     }
-    // A line end inside a server block is the block's own; the outer text doesn't see it.
+    // A line end inside a server block belongs to the block and has no effect on the outer text.
     if (state.server != Code::None) {
         if (state.serverDetail != serverComment)
             state.serverDetail = lexerOf(state.server)->behindLineEnd(state.serverDetail);
@@ -214,7 +214,7 @@ bool TagLexer::openComment(Walk &walk) const
             return true;
         }
     }
-    // Two short forms are whole comments, as browsers have it.
+    // "<!-->" and "<!--->" are complete comments, as in browsers.
     if (htmlComment && (walk.byteAt(4) == '>' || (walk.byteAt(4) == '-' && walk.byteAt(5) == '>'))) {
         walk.take(walk.byteAt(4) == '>' ? 5 : 6, SyntaxStyle::Comment);
         return true;
@@ -226,8 +226,8 @@ bool TagLexer::openComment(Walk &walk) const
     return true;
 }
 
-/// A comment that begins with three dashes is a server's own and holds other comments; all others end at the first sign
-/// that ends them.
+/// A comment that begins with three dashes is a server comment, which can be nested; all others end at the first
+/// closing delimiter.
 void TagLexer::paintComment(Walk &walk) const
 {
     TagState &state = walk.state;

@@ -13,8 +13,8 @@
 
 namespace zephira {
 
-/// Colours text with tags: names in tags, entities, comments, declarations, instructions. In HTML also the scripts and
-/// style sheets inside, each by its own lexer, and server blocks, which may interrupt anything else.
+/// Colours text with tags: names in tags, entities, comments, declarations, instructions. In HTML also embedded scripts
+/// and style sheets, each with its own lexer, and server blocks, which may interrupt anything else.
 class TagLexer final : public LineLexer
 {
 public:
@@ -28,7 +28,7 @@ private:
     using TagKind = TagState::TagKind;
     using Value = TagState::Value;
     struct Walk;
-    /// The names of one field: those in the list and the beginnings that end in "*" there.
+    /// The names of one list field: complete names, and the prefixes given with a "*".
     struct Names {
         WordTable words;
         std::vector<QByteArray> beginnings;
@@ -39,7 +39,7 @@ private:
         Byte find(const Byte *begin, const Byte *end) const;
     };
 
-    /// The lexers of what HTML can hold.
+    /// The lexers of the languages embedded in HTML.
     struct Embedded {
         ProceduralLexer javaScript{javaScriptDefinition()};
         ProceduralLexer vbScript{vbScriptDefinition()};

@@ -10,14 +10,14 @@ namespace zephira {
 
 namespace {
 
-/// Whether `word`, in lower case, stands at `p` in any case.
+/// Whether `word`, given in lower case, is at `p` in upper or lower case.
 bool standsFolded(const Byte *p, const Byte *end, QByteArrayView word)
 {
     return end - p >= word.size()
         && std::equal(word.begin(), word.end(), p, [](char own, Byte other) { return own == (other | 32); });
 }
 
-/// Whether the end tag of a block stands at `p`: whatever the code says there, it ends the block.
+/// Whether the end tag of a block is at `p`. It ends the block whatever the code's own syntax says.
 bool endsBlock(const Byte *p, const Byte *end, QByteArrayView element)
 {
     if (end - p < 2 + element.size() || p[1] != '/' || !standsFolded(p + 2, end, element))
@@ -60,7 +60,7 @@ void TagLexer::paintBlock(Walk &walk) const
     if (const CodeLexer *lexer = lexerOf(state.code)) {
         while (walk.p < q) {
             walk.p = lexer->paint(walk.canvas, walk.p, q, walk.p == walk.line.begin, state.detail);
-            // A language's own closing sign means nothing where an end tag closes the block.
+            // The language's own closing delimiter has no meaning in a block that is closed by an end tag.
             if (walk.p < q)
                 walk.take(1, SyntaxStyle::Operator);
         }
@@ -127,7 +127,7 @@ void TagLexer::paintServerBlock(Walk &walk) const
         }
         return walk.take(closed ? q + 4 : q, SyntaxStyle::Comment);
     }
-    // "%>" ends a block even inside its strings and comments; PHP's own sign is found by its lexer.
+    // "%>" ends a block even inside strings and comments; PHP's closing delimiter is found by its lexer.
     const Byte *end = state.server == Code::Php ? walk.end : findText(walk.p, walk.end, "%>");
     const bool lineStart = walk.p == walk.line.begin;
     walk.p = lexerOf(state.server)->paint(walk.canvas, walk.p, end, lineStart, state.serverDetail);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Inside the angle brackets: names, values, and what ends a tag.
+// Inside the angle brackets: names, values, and the end of a tag.
 #include "syntax/numbers.h"
 #include "syntax/tagnames.h"
 #include "syntax/tagwalk.h"
@@ -44,7 +44,7 @@ void TagLexer::paintTag(Walk &walk) const
             walk.take(1, SyntaxStyle::String);
             walk.valueBegin = walk.p;
         } else if (byte == '<' && !opensServerBlock(walk.p, walk.end)) {
-            // The tag was never closed; the next one shouldn't suffer from it.
+            // The tag was never closed; this must not affect the next one.
             return walk.leave();
         } else if (state.behindEquals && byte != '>') {
             state.value = Value::Unquoted;
@@ -60,7 +60,7 @@ void TagLexer::paintTag(Walk &walk) const
     }
 }
 
-/// Ends the tag where its closing sign stands.
+/// Ends the tag if its closing delimiter is at the current position.
 bool TagLexer::closeTag(Walk &walk) const
 {
     TagState &state = walk.state;

@@ -9,7 +9,7 @@ namespace {
 
 using Code = TagState::Code;
 
-/// A part of the value and what it stands for; the first row that fits counts.
+/// A part of the value and the language it implies; the first matching row counts.
 constexpr struct {
     QByteArrayView part;
     Code code;
@@ -47,7 +47,7 @@ Byte lower(char c)
     return byte >= 'A' && byte <= 'Z' ? static_cast<Byte>(byte + 32) : byte;
 }
 
-/// Where `part`, in lower case, stands in `text` in any case; -1 when it doesn't.
+/// The offset of `part`, given in lower case, in `text` in upper or lower case; -1 if it doesn't occur.
 qsizetype findFolded(QByteArrayView text, QByteArrayView part)
 {
     const auto hit = std::search(text.begin(), text.end(), part.begin(), part.end(),

@@ -10,11 +10,11 @@
 
 namespace zephira {
 
-/// What a byte can be in a name in a tag.
+/// The roles that a byte can have in the names of a tag.
 namespace tagbyte {
 constexpr Byte inName = 1; ///< element names
 constexpr Byte beginsName = 2;
-constexpr Byte inAttribute = 4; ///< attribute names and everything else that isn't a sign
+constexpr Byte inAttribute = 4; ///< attribute names, and anything else that isn't a delimiter
 constexpr Byte blank = 8;
 } // namespace tagbyte
 
@@ -37,14 +37,13 @@ consteval std::array<Byte, 256> makeTagBytes()
 
 inline constexpr std::array<Byte, 256> tagBytes = makeTagBytes();
 
-/// The numbers that names have in the dictionaries: what they mean beyond being known.
+/// The values of names in the dictionaries, which tell their special meaning.
 constexpr Byte knownName = 1;
 constexpr Byte scriptElement = 2;
 constexpr Byte styleElement = 4;
 constexpr Byte languageAttribute = 8;
 
-/// The language of a script by the value of its type or language attribute. None stands for markup, which goes on as such
-/// until the end tag.
+/// The language of a script, by the value of its type or language attribute. None means that the content is markup.
 TagState::Code scriptCode(QByteArrayView value);
 
 /// Whether a comment that begins with "<!--#" and this word is a server-side directive.
@@ -53,7 +52,7 @@ bool isServerDirective(QByteArrayView word);
 /// Whether a word has a meaning of its own in a document type declaration.
 bool isDeclarationWord(QByteArrayView word);
 
-/// What the server blocks of a page are written in, from the text behind "<%@"; `current` when it doesn't say.
+/// Whether the text after "<%@" says that the page's server blocks are JavaScript; `current` if it names no language.
 bool saysServerScript(QByteArrayView directive, bool current);
 
 } // namespace zephira

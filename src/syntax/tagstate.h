@@ -7,32 +7,32 @@
 
 namespace zephira {
 
-/// Where the tag-aware lexer stands: in the outer text and, where a server block interrupts it, in that block as well.
-/// All of it fits into the 32 bits of a line state.
+/// The state of the tag-aware lexer: in the outer text and also in a server block that interrupts it. All of it fits
+/// into the 32 bits of a line state.
 struct TagState {
     enum class Mode : Byte { Text, Tag, Comment, Declaration, Subset, Cdata, Block };
     /// The languages of scripts, style sheets and server blocks.
     enum class Code : Byte { None, JavaScript, VbScript, StyleSheet, Php, Plain };
     enum class TagKind : Byte { Opening, Closing, Instruction, Directive };
-    /// How the value that is being read is delimited; the quotes are the first two string delimiters.
+    /// The delimiter of the value being read; the quotes are the first two string delimiters.
     enum class Value : Byte { None, FirstQuote, SecondQuote, Unquoted };
 
     Mode mode = Mode::Text;
-    Code code = Code::None;    ///< of the block, or in a tag: of the block that the tag opens
+    Code code = Code::None;    ///< of the block; in a tag, of the block that the tag opens
     Code server = Code::None;  ///< the server block that interrupts the outer text
-    bool serverScript = false; ///< server blocks are JavaScript, because the page said so
+    bool serverScript = false; ///< server blocks are JavaScript, as declared by the page
     quint32 serverDetail = 0;
-    /// In a block: its lexer's state.
+    /// In a block: the state of its lexer.
     quint32 detail = 0;
 
     // In a tag or a declaration:
     TagKind tag = TagKind::Opening;
     Value value = Value::None;
     bool behindEquals = false;
-    bool namesLanguage = false; ///< the attribute says which language the script is in
+    bool namesLanguage = false; ///< the attribute names the language of the script
     // In a comment:
     Byte pair = 0;
-    Byte nesting = 0; ///< comments open inside this one, where comments nest, plus 1
+    Byte nesting = 0; ///< for comments that nest: the number of open inner comments plus 1
     // Inside the brackets of a document type:
     bool inSubset = false;
 
@@ -76,7 +76,7 @@ struct TagState {
             | static_cast<quint32>(serverIndex) << 18 | (serverDetail & detailMask) << 20 | quint32{serverScript} << 31;
     }
 
-    /// Goes to another mode; what belongs to the former one is forgotten.
+    /// Switches to another mode and resets the state of the previous one.
     void enter(Mode next, Code nextCode = Code::None)
     {
         mode = next;
@@ -93,10 +93,10 @@ private:
     static constexpr Code servers[] = {Code::None, Code::VbScript, Code::JavaScript, Code::Php};
 };
 
-/// `serverDetail` of a comment between server block signs.
+/// `serverDetail` of a comment between server block delimiters.
 constexpr quint32 serverComment = (1u << embeddedStateBits) - 1;
 
-/// The deepest nesting of comments that is counted.
+/// The maximum nesting of comments that is counted.
 constexpr Byte deepestComment = 127;
 
 } // namespace zephira

@@ -6,14 +6,14 @@
 
 namespace zephira {
 
-/// The tag-aware lexer's way over one line.
+/// The tag-aware lexer's progress through one line.
 struct TagLexer::Walk {
     const StyleCanvas &canvas;
     const LineBytes &line;
     TagState state;
     const Byte *p = line.begin;
     const Byte *const end = line.end;
-    /// Where the value that is being read began, when it did so in this line and nothing interrupted it.
+    /// The start of the value being read, if it is in this line and the value wasn't interrupted.
     const Byte *valueBegin = nullptr;
 
     void take(const Byte *to, SyntaxStyle style)
@@ -25,7 +25,7 @@ struct TagLexer::Walk {
 
     Byte byteAt(std::ptrdiff_t offset) const { return end - p > offset ? p[offset] : Byte{0}; }
     bool at(QByteArrayView text) const { return standsAt(p, end, text); }
-    /// Goes back to what surrounds tags, comments and declarations.
+    /// Returns to the mode that surrounds tags, comments and declarations.
     void leave() { state.enter(state.inSubset ? Mode::Subset : Mode::Text); }
 };
 

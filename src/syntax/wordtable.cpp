@@ -42,7 +42,7 @@ void WordTable::merge(QByteArrayView word, unsigned char bits)
     m_entries.push_back({hash, static_cast<quint32>(m_words.size()), static_cast<quint32>(size), bits});
     for (const char byte : word)
         m_words.append(static_cast<char>(m_fold[static_cast<unsigned char>(byte)]));
-    // A quarter full at most: a word that isn't there is the common case and should end at the first look.
+    // At most a quarter full: most lookups are for missing words, which should fail at the first slot.
     if (m_slots.size() >= m_entries.size() * 4)
         return place(m_entries.size() - 1);
     m_slots.assign(std::max(smallestTable, std::bit_ceil(m_entries.size() * 8)), 0);

@@ -8,17 +8,17 @@
 
 namespace zephira {
 
-/// A set of byte strings, each with a number from 1 to 255, made for being asked far more often than it is filled. The
-/// caller computes the hash while it walks over the word: begin with 0 and call step() with each byte.
+/// A map from byte strings to numbers from 1 to 255, optimised for lookup. The caller computes the hash while reading
+/// the word: begin with 0 and call step() for each byte.
 class WordTable
 {
 public:
-    /// Without regard to case, the letters A to Z equal a to z.
+    /// If not case-sensitive, the letters A to Z equal a to z.
     explicit WordTable(bool caseSensitive = true);
 
-    /// Adds a word. One that is there already keeps its value.
+    /// Adds a word. A word that is already there keeps its value.
     void add(QByteArrayView word, unsigned char value);
-    /// Adds bits to a word's number; a word that isn't there yet is added.
+    /// Adds bits to a word's number; a missing word is added.
     void merge(QByteArrayView word, unsigned char bits);
     bool isEmpty() const { return m_entries.empty(); }
 
@@ -56,7 +56,7 @@ private:
 
     std::array<unsigned char, 256> m_fold;
     std::vector<Entry> m_entries;
-    std::vector<quint32> m_slots; ///< 0 for a free place, else the entry's index plus 1
+    std::vector<quint32> m_slots; ///< 0 for a free slot, otherwise the entry's index plus 1
     QByteArray m_words;
     unsigned m_shift = 32;
 };
