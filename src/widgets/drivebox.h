@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// The drives by their mount points, as they are mounted whenever the list opens.
+/// A list of the mounted drives by mount point, updated whenever it opens.
 class DriveBox : public QComboBox
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class DriveBox : public QComboBox
 public:
     explicit DriveBox(QWidget *parent = nullptr);
 
-    /// Reads the drives again. The current one stays, or gives way to the root if it isn't mounted any more.
+    /// Reads the drives again. The current one stays selected, or is replaced by the root if it is no longer mounted.
     void refill();
     void showPopup() override;
 };

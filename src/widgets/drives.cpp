@@ -20,7 +20,7 @@ QStringList mountedDrives()
 {
     QStringList mountPoints;
     for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
-        // Pseudo file systems have no size and hold nothing to edit; a single file can be mounted too.
+        // Pseudo file systems have no size and no files to edit. A mount point can also be a single file.
         if (volume.isReady() && volume.bytesTotal() > 0 && QFileInfo(volume.rootPath()).isDir())
             mountPoints.append(volume.rootPath());
     }

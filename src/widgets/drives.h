@@ -5,10 +5,10 @@
 
 namespace zephira {
 
-/// The root first, then the other mount points in alphabetical order, each once.
+/// The root first, then the other mount points in alphabetical order, without duplicates.
 QStringList drivesOf(QStringList mountPoints);
 
-/// The volumes that are mounted now and hold files, by their mount points, in that order.
+/// The mount points of the mounted volumes that contain files, in the same order.
 QStringList mountedDrives();
 
 } // namespace zephira

@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// A list of files that never shows: the names in one folder that match one of several patterns. A list that does show
-/// mirrors it.
+/// A file list that is never shown itself: the names in a folder that match one of several patterns. A visible list
+/// displays its content.
 class FileListBox : public QWidget
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     QString path() const { return m_path; }
     void setPath(const QString &folder) { m_path = folder; }
 
-    /// Wildcards divided by semicolons; see FilePatterns.
+    /// Wildcards separated by semicolons; see FilePatterns.
     QString pattern() const { return m_pattern; }
     void setPattern(const QString &pattern) { m_pattern = pattern; }
 
@@ -30,7 +30,7 @@ public:
     QString fileName() const { return m_fileName; }
     void setFileName(const QString &name) { m_fileName = name; }
 
-    /// The names now on disk, in alphabetical order; see fileNames().
+    /// The names currently on disk, in alphabetical order; see fileNames().
     QStringList entries() const;
 
 private:

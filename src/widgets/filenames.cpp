@@ -14,13 +14,13 @@ namespace zephira {
 
 namespace {
 
-/// A character is one unit, or two where the first is a high surrogate.
+/// The index after the character at `i`: a character is one code unit, or two if the first is a high surrogate.
 qsizetype behindCharacter(QStringView text, qsizetype i)
 {
     return i + (text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1);
 }
 
-/// Where a part doesn't fit, the last star takes one character more; stars before it never need to be tried again.
+/// On a mismatch the last star takes one more character; earlier stars never need to be tried again.
 bool matchesWildcard(QStringView pattern, QStringView name)
 {
     qsizetype p = 0;

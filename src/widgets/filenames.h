@@ -6,10 +6,10 @@
 
 namespace zephira {
 
-/// A list of wildcards divided by semicolons, "*.htm;*.css": "*" stands for any characters, "?" for one, everything else
-/// for itself, without regard to case. Blanks around a wildcard don't count. "*.*" means every name, also one without a
-/// dot, and so does a list that holds no wildcard at all. As everywhere on the desktop, a name that begins with a dot is
-/// hidden: only a wildcard that begins with one finds it.
+/// A list of wildcards separated by semicolons, "*.htm;*.css": "*" matches any characters, "?" a single one, everything
+/// else itself, not case-sensitive. Spaces around a wildcard are ignored. "*.*" matches every name, even one without a
+/// dot, and so does an empty list. As everywhere on the desktop, a name that begins with a dot is hidden: only a
+/// wildcard that begins with a dot matches it.
 class FilePatterns
 {
 public:
@@ -18,13 +18,13 @@ public:
     bool match(const QString &name) const;
 
 private:
-    /// In folded case.
+    /// Case-folded.
     QStringList m_patterns;
 };
 
-/// Names of the files in a folder that match one of the patterns, in alphabetical order without regard to case. Empty for
-/// a folder that can't be read, and for an empty path. Folders, links that lead nowhere, devices and names that are no
-/// valid text are left out.
+/// Names of the files in a folder that match one of the patterns, in alphabetical order, not case-sensitive. Empty if
+/// the folder can't be read or the path is empty. Folders, broken links, devices, and names that aren't valid text are
+/// left out.
 QStringList fileNames(const QString &folder, const QString &patterns);
 
 } // namespace zephira

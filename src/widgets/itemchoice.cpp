@@ -9,7 +9,8 @@ namespace zephira {
 
 namespace {
 
-/// Measuring and painting a text takes time with its length, and a data file may be one line of millions.
+/// Measuring and painting take time proportional to the length of the text, and a line of a data file may have millions
+/// of characters.
 class ShortTexts final : public QStyledItemDelegate
 {
 public:
@@ -22,7 +23,7 @@ public:
     }
 };
 
-/// Passes the Return key on as a double click.
+/// Treats the Return key like a double click.
 class ReturnKey final : public QObject
 {
 public:

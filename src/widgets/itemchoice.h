@@ -9,9 +9,9 @@ class QObject;
 
 namespace zephira {
 
-/// Makes a list or tree of texts one to choose from: `choose` is called with the item that is double-clicked, or current
-/// when Return is pressed, for as long as `receiver` lives. A double click opens no node, and a text too long for any
-/// screen is cut where it is painted; the item keeps all of it.
+/// Lets the user choose items in a list or tree: `choose` is called with the item that is double-clicked, or with the
+/// current one when Return is pressed, as long as `receiver` exists. A double click doesn't expand nodes. A text too
+/// long for any screen is cut when it is painted, but the item keeps all of it.
 void onItemChosen(QAbstractItemView &view, QObject *receiver, std::function<void(const QModelIndex &)> choose);
 
 } // namespace zephira

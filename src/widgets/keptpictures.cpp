@@ -39,7 +39,7 @@ QPixmap pictureOf(QSize size, const QByteArray &pixels)
     if (size.width() <= 0 || size.height() <= 0 || size.width() > largestSide || size.height() > largestSide
         || pixels.size() != qsizetype(4) * size.width() * size.height())
         return {};
-    // The image stands on the bytes, and the picture is a copy of it.
+    // The image refers to the bytes, so the picture needs a copy of it.
     const QImage image(reinterpret_cast<const uchar *>(pixels.constData()), size.width(), size.height(),
                        QImage::Format_ARGB32_Premultiplied);
     return QPixmap::fromImage(image.copy());
@@ -125,7 +125,7 @@ void KeptPictures::save()
     [[maybe_unused]] const Result<void> written = m_files.writeCopy(fileOf(m_file, m_theme), {&piece, 1});
 }
 
-/// One file a theme. It begins with the stamp under which its pictures count.
+/// There is one file per theme. It begins with the stamp for which its pictures are valid.
 KeptPictures::Shelf KeptPictures::readShelf() const
 {
     const Result<FileView> content = m_files.view(fileOf(m_file, m_theme));

@@ -11,24 +11,24 @@ namespace zephira {
 
 class FileStore;
 
-/// Pictures of icons in a file that outlives the program, which may be deleted at any time. A picture counts as long as the
-/// theme that it is from stays as it was on the disk, and this program too.
+/// A cache of icon pictures in a file, which may be deleted at any time. A picture is valid as long as neither its
+/// theme nor this program changes on disk.
 class KeptPictures final : public IconPictures
 {
 public:
-    /// Reads the file when the first picture is asked for; one that is missing or damaged holds nothing. The store must
-    /// outlive this object. `program` is the file whose change makes all pictures old.
+    /// The file is read when the first picture is requested; a missing or damaged one counts as empty. The store must
+    /// outlive this object. `program` is the executable, whose change invalidates all pictures.
     KeptPictures(FileStore &files, QString file, QString program);
-    /// Writes what is new.
+    /// Saves new pictures.
     ~KeptPictures() override;
     KeptPictures(const KeptPictures &) = delete;
     KeptPictures &operator=(const KeptPictures &) = delete;
 
     bool knows(const QString &icon) override;
     QPixmap find(const QString &icon, QSize size, qreal scale) override;
-    /// The file is written some seconds later, when a start has come to rest.
+    /// The file is written some seconds later, after the program has started.
     void keep(const QString &icon, QSize size, qreal scale, const QPixmap &picture) override;
-    /// Writes the file if something is new. A folder that can't be written keeps nothing, and nobody misses it.
+    /// Writes the file if there are new pictures. Failures are ignored.
     void save();
 
 private:
@@ -38,7 +38,7 @@ private:
         qreal scale = 1;
         QPixmap pixmap;
     };
-    /// The pictures of one theme, and the names of the icons that they show.
+    /// The pictures of one theme, and the names of their icons.
     struct Shelf {
         QHash<QString, Picture> pictures;
         QSet<QString> icons;
@@ -46,7 +46,7 @@ private:
         void add(const Picture &picture);
     };
 
-    /// What is kept of the theme that is in use.
+    /// The pictures of the current theme.
     Shelf &current();
     Shelf readShelf() const;
     QString stamp() const;
@@ -55,7 +55,7 @@ private:
     const QString m_file;
     const QString m_program;
     QString m_theme;
-    /// What the theme and the program are like on the disk.
+    /// Identifies the state of the theme and the program on disk.
     QString m_stamp;
     Shelf m_shelf;
     bool m_isRead = false;

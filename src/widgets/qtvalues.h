@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// A colour number, red in the lowest byte, as Qt's colour. The highest byte is left out.
+/// Converts a colour number, red in the lowest byte, to a QColor. The highest byte is ignored.
 inline QColor toQColor(quint32 number)
 {
     return QColor(static_cast<int>(number & 0xff), static_cast<int>(number >> 8 & 0xff),

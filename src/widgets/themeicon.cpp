@@ -19,7 +19,7 @@ IconPictures *keptPictures()
     return hint.pictures;
 }
 
-/// Draws the kept picture, and the icon itself only where there is none.
+/// Draws the cached picture, or the icon itself if there is none.
 class KeptIconEngine final : public QIconEngine
 {
 public:
@@ -37,7 +37,7 @@ public:
         return !(pictures && pictures->knows(m_name)) && icon().isNull();
     }
 
-    /// Only what is in a theme comes in certain sizes.
+    /// Only icons of a theme have specific sizes.
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override
     {
         return m_isOfTheme ? icon().availableSizes(mode, state) : QList<QSize>();

@@ -9,31 +9,32 @@
 
 namespace zephira {
 
-/// What icons looked like when they were drawn before, in this run or an earlier one: finding an icon in its theme and
-/// drawing it costs a start more than all of its bars.
+/// A cache of rendered icons, from this run or an earlier one. Looking icons up in their theme and drawing them would
+/// take more of the start-up time than all toolbars.
 class IconPictures
 {
 public:
     virtual ~IconPictures() = default;
 
-    /// Whether any picture of the icon is kept, so that the icon is there.
+    /// Whether any picture of the icon is cached, which implies that the icon exists.
     virtual bool knows(const QString &icon) = 0;
-    /// The icon at a size in pixels on a screen of that scale; null where it isn't kept.
+    /// The icon at a size in device pixels, for the given device pixel ratio; null if it isn't cached.
     virtual QPixmap find(const QString &icon, QSize size, qreal scale) = 0;
     virtual void keep(const QString &icon, QSize size, qreal scale, const QPixmap &picture) = 0;
 };
 
-/// How an icon asks the application's style for the pictures. A style that keeps none leaves `pictures` alone.
+/// The style hint with which an icon gets the cache from the application's style. A style without a cache leaves
+/// `pictures` unchanged.
 struct IconPicturesHint : QStyleHintReturn {
     static constexpr auto question = static_cast<QStyle::StyleHint>(QStyle::SH_CustomBase + 1);
 
     IconPictures *pictures = nullptr;
 };
 
-/// An icon of the theme, as QIcon::fromTheme() gives it, that is only looked for where no picture of it is kept.
+/// A theme icon, as from QIcon::fromTheme(), that is looked up only if no picture of it is cached.
 QIcon themeIcon(const QString &name);
 
-/// The same for an icon from elsewhere: `make` gives it where no picture is kept under the name.
+/// The same for an icon from another source: `make` creates it if no picture is cached under the name.
 QIcon keptIcon(const QString &name, std::function<QIcon()> make);
 
 } // namespace zephira
