@@ -18,15 +18,15 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// The engine's index of UTF-16 offsets by line. It costs time at each line of a text that is loaded, so it is only made
-/// once somebody asks, and is gone with the next file.
+/// Makes sure that the engine has its index of UTF-16 offsets by line. The index costs time for each line when a text
+/// is loaded, so it is created only when needed and released before the next file is loaded.
 void needIndex(const SciEngine &engine)
 {
     if (!(engine.send(Sci::SCI_GETLINECHARACTERINDEX) & Sci::SC_LINECHARACTERINDEX_UTF16))
         engine.send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
 }
 
-/// The finder's name for what lies within a line; characters, lines and the whole text have none.
+/// The boundary finder's type for a unit within a line; nothing for characters, lines and the whole text.
 std::optional<QTextBoundaryFinder::BoundaryType> finderType(QAccessible::TextBoundaryType boundary)
 {
     switch (boundary) {

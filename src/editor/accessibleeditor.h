@@ -8,8 +8,9 @@ namespace zephira {
 class CodeMax;
 class SciEngine;
 
-/// The editing control for assistive technology. Offsets are UTF-16 code units of the text with its own line ends; they are
-/// found through the engine's line index and the line itself, so that nothing depends on the text's size.
+/// The accessibility interface of the editing control. Offsets count UTF-16 code units in the text with the file's own
+/// line ends. They are computed from the engine's line index and the line itself, so the cost doesn't depend on the
+/// size of the text.
 class AccessibleEditor final : public QAccessibleWidget,
                                public QAccessibleTextInterface,
                                public QAccessibleEditableTextInterface
@@ -17,9 +18,9 @@ class AccessibleEditor final : public QAccessibleWidget,
 public:
     explicit AccessibleEditor(CodeMax &editor);
 
-    /// The factory to install; makes an object for editing controls and for nothing else.
+    /// The factory to install; returns an interface for editing controls and nullptr for other objects.
     static QAccessibleInterface *make(const QString &className, QObject *object);
-    /// The offset of a byte position.
+    /// The UTF-16 offset of a byte position.
     static int offsetOf(const SciEngine &engine, qsizetype position);
 
     void *interface_cast(QAccessible::InterfaceType type) override;

@@ -10,22 +10,22 @@ class QObject;
 
 namespace zephira {
 
-/// Tells assistive technology what happens in the control. While none is running nothing is made or counted, because each
-/// event needs offsets that cost time.
+/// Notifies assistive technology of changes in the control. Does nothing while none is running, because computing the
+/// offsets of an event takes time.
 class AccessibleNews
 {
 public:
     using Listener = std::function<void(QAccessibleEvent *)>;
 
-    /// @param source  the object that the events come from
+    /// @param source  the object that the events are sent for
     AccessibleNews(QObject &source, SciEngine engine) : m_source(source), m_engine(engine) {}
 
-    /// Hears everything in assistive technology's place, and also while none is running.
+    /// Sends all events to `listener` instead of assistive technology, even while none is running.
     void setListener(Listener listener) { m_listener = std::move(listener); }
 
-    /// Behind an insertion, in bytes.
+    /// To be called after an insertion; position and length in bytes.
     void inserted(qsizetype position, qsizetype length);
-    /// In front of a deletion, in bytes.
+    /// To be called before a deletion; position and length in bytes.
     void willRemove(qsizetype position, qsizetype length);
     void selectionMoved(qsizetype anchor, qsizetype caret);
 

@@ -21,13 +21,13 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// The engine puts this much beside a cell's content, in pixels.
+/// The padding that the engine adds beside a cell's content, in pixels.
 constexpr double cellPadding = 3;
-/// Blanks that cells are filled with, from wide to narrow.
+/// Space characters used to fill cells, from wide to narrow.
 constexpr char enSpace[] = "\xe2\x80\x82";
 constexpr char hairSpace[] = "\xe2\x80\x8a";
 constexpr char noSpace[] = "\xe2\x80\x8b";
-/// Lines beyond are too long to be looked through each time they are painted; their letters stay in cells.
+/// In bytes. Longer lines take too long to be scanned at each repaint; their letters stay in cells.
 constexpr qsizetype longestLine = 256 * 1024;
 constexpr int markedIndicators[] = {BoundsIndicator, MatchIndicator, BraceIndicator};
 
@@ -45,7 +45,7 @@ void BidiPainter::learn(QByteArrayView utf8)
         if (m_known.insert(code).second)
             setCell(code, bytes.toByteArray());
     });
-    // The engine must forget the lines that it has laid out without these cells.
+    // Setting the symbol again makes the engine discard the layout of lines that it measured without these cells.
     if (m_known.size() != before)
         m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
 }
@@ -68,7 +68,7 @@ void BidiPainter::setCells(bool on) const
         m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
 }
 
-/// Fills a letter's cell with blanks that are about as wide as the letter is among others.
+/// Fills a letter's cell with spaces that are about as wide as the letter in running text.
 void BidiPainter::setCell(char32_t code, const QByteArray &utf8) const
 {
     const auto widthOf = [this](const char *blank) {
@@ -136,7 +136,7 @@ std::vector<BidiPainter::Piece> BidiPainter::piecesOf(qsizetype line) const
     return pieces;
 }
 
-/// Cuts a stretch where its line is wrapped.
+/// Splits a stretch where its line is wrapped.
 void BidiPainter::addPieces(std::vector<Piece> &pieces, const BidiStretch &stretch) const
 {
     BidiStretch part = stretch;
@@ -161,7 +161,7 @@ BidiPainter::Piece BidiPainter::makePiece(const BidiStretch &part, double y) con
     const double left = pointOf(part.start).x();
     QPointF end = pointOf(part.end);
     if (end.y() != y) {
-        // What follows stands in the next row. The last character is about as wide as the one before it.
+        // The next character is in the next row. The last one is assumed to be as wide as the one before it.
         const qsizetype last = m_engine.send(Sci::SCI_POSITIONBEFORE, part.end);
         const double before = pointOf(m_engine.send(Sci::SCI_POSITIONBEFORE, last)).x();
         end = {2 * pointOf(last).x() - before, y};
@@ -186,13 +186,13 @@ BidiPainter::Piece BidiPainter::makePiece(const BidiStretch &part, double y) con
     return piece;
 }
 
-/// The visual place of the caret in front of the character at an index of the piece's text.
+/// The x coordinate of the caret before the character at an index of the piece's text.
 double BidiPainter::Piece::xOf(qsizetype index) const
 {
     return cells.left() + layout->lineAt(0).cursorToX(static_cast<int>(index)) * scale;
 }
 
-/// The place of the characters from one index up to another that stand beside each other.
+/// The rectangle of the characters from one index up to another, which must be visually adjacent.
 QRectF BidiPainter::Piece::rectOf(qsizetype from, qsizetype to) const
 {
     const double a = xOf(from);
@@ -238,7 +238,7 @@ void BidiPainter::paint(QPainter &painter, const QRect &dirty) const
 
 void BidiPainter::paintPiece(QPainter &painter, const Piece &piece) const
 {
-    // The last cell may end within a pixel.
+    // One pixel wider, because the last cell may end at a fractional position.
     painter.fillRect(piece.cells.adjusted(0, 0, 1, 0), backgroundOf(piece));
     paintSelections(painter, piece);
     painter.save();
@@ -255,7 +255,7 @@ void BidiPainter::paintPiece(QPainter &painter, const Piece &piece) const
     paintCarets(painter, piece);
 }
 
-/// The caret's line and the highlighted line come before the style's own background.
+/// The colours of the caret's line and the highlighted line take precedence over the style's background.
 QColor BidiPainter::backgroundOf(const Piece &piece) const
 {
     const qsizetype line = m_engine.lineOf(piece.start);
@@ -317,8 +317,8 @@ void BidiPainter::paintBlanks(QPainter &painter, const Piece &piece) const
     }
 }
 
-/// At an end of the stretch there are two places for a caret: one beside the text that is read from left to right, where
-/// the engine has it, and one beside the letter. The second is half as high.
+/// At an end of the stretch a caret has two positions: one next to the left-to-right text, where the engine draws it,
+/// and one next to the right-to-left letter. The second one is drawn at half height.
 void BidiPainter::paintCarets(QPainter &painter, const Piece &piece) const
 {
     if (!m_engine.view().hasFocus())

@@ -19,37 +19,39 @@ namespace zephira {
 
 class EditorAppearance;
 
-/// Text that is read from right to left. The editor engine lays characters out from left to right only, and takes runs of
-/// such letters for empty. So each such letter gets a cell of its own there, about as wide as the letter, which gives the
-/// line its right width; and each stretch of them is painted anew, in the right order, over the cells that it fills.
+/// Paints right-to-left text. The editor engine lays characters out only from left to right and takes runs of
+/// right-to-left letters for empty. So each such letter is given a cell of its own in the engine, about as wide as the
+/// letter, which gives the line its correct width; each stretch of these letters is then painted in the right order
+/// over its cells.
 class BidiPainter
 {
 public:
     BidiPainter(SciEngine engine, const EditorAppearance &appearance) : m_engine(engine), m_appearance(appearance) {}
 
-    /// To be called with every text that comes into the document, before it is painted.
+    /// To be called with every text added to the document, before it is painted.
     void learn(QByteArrayView utf8);
-    /// The font is another one: the cells get new widths.
+    /// To be called when the font has changed: computes the widths of the cells again.
     void fontChanged();
 
-    /// Takes the cells away for something that paints without this, or gives them back.
+    /// Switches the cells off, for painting without this class, or on again.
     void setCells(bool on) const;
 
-    /// Paints the stretches of the visible lines. The engine has painted its part.
+    /// Paints the stretches of the visible lines, after the engine has painted the text.
     void paint(QPainter &painter, const QRect &dirty) const;
-    /// Where the engine has the spot that stands under a point of the window; the point itself outside of stretches.
+    /// The point at which the engine has the character painted at `point` (widget coordinates); `point` itself outside
+    /// of stretches.
     QPointF toEngine(const QPointF &point) const;
-    /// The rectangle in the window of the character at a byte position; empty outside of stretches.
+    /// The rectangle, in widget coordinates, of the character at a byte position; empty outside of stretches.
     QRectF characterRect(qsizetype position) const;
 
 private:
-    /// A stretch, or the part of one that lies in one row of a wrapped line.
+    /// A stretch, or the part of it in one row of a wrapped line.
     struct Piece {
         qsizetype start = 0;
         qsizetype end = 0;
-        QRectF cells; ///< in the window
+        QRectF cells; ///< in widget coordinates
         std::shared_ptr<QTextLayout> layout;
-        double scale = 1; ///< of the layout's width, to fill the cells
+        double scale = 1; ///< horizontal factor that makes the layout fill the cells
 
         QRectF rectOf(qsizetype from, qsizetype to) const;
         double xOf(qsizetype index) const;

@@ -17,7 +17,7 @@ unsigned char byteAt(QByteArrayView text, qsizetype at)
     return static_cast<unsigned char>(text[at]);
 }
 
-/// Whether a character that begins with this byte may be written from right to left.
+/// Whether a character that begins with this byte may be a right-to-left one.
 bool mayBegin(unsigned char byte)
 {
     return byte >= 0xd6 && (byte <= 0xe0 || byte == 0xe2 || byte == 0xef || byte == 0xf0);
@@ -54,7 +54,7 @@ bool isRightToLeft(char32_t code)
     }
 }
 
-/// What a character does to a stretch that is under way.
+/// The effect of a character on the current stretch.
 enum class Effect { Extends, Waits, Ends };
 
 Effect effectOf(char32_t code)

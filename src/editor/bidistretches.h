@@ -9,7 +9,7 @@
 
 namespace zephira {
 
-/// A part of a line that is read from right to left, as byte offsets, and the style that all of it has.
+/// A right-to-left part of a line, in byte offsets, all of one style.
 struct BidiStretch {
     qsizetype start = 0;
     qsizetype end = 0;
@@ -18,14 +18,14 @@ struct BidiStretch {
     friend bool operator==(const BidiStretch &, const BidiStretch &) = default;
 };
 
-/// Calls `found` for each character of valid UTF-8 that is written from right to left, with its bytes. Text without such
-/// characters costs a look at each byte.
+/// Calls `found` with each right-to-left character of valid UTF-8 and its bytes. Text without such characters only
+/// costs a test of each byte.
 void forEachRightToLeft(QByteArrayView utf8, const std::function<void(char32_t, QByteArrayView)> &found);
 
-/// The parts of a line (UTF-8, a style number for each byte) that are read from right to left in a text that otherwise is
-/// read from left to right: from a right-to-left letter to the last one, or the last number, before a left-to-right
-/// letter. A stretch ends with its style, so that code keeps its order whatever its strings hold, and behind about a
-/// thousand characters.
+/// The right-to-left parts of a line (UTF-8, with a style number for each byte) in a left-to-right text. A stretch
+/// reaches from a right-to-left letter to the last such letter or number before a left-to-right letter. It also ends
+/// where the style changes, so that code keeps its order whatever its strings contain, and after about a thousand
+/// characters.
 std::vector<BidiStretch> bidiStretches(QByteArrayView line, std::span<const unsigned char> styles);
 
 } // namespace zephira

@@ -13,7 +13,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// How far a partner is looked for, in bytes.
+/// How far to search for the matching partner, in bytes.
 constexpr qsizetype reach = 64 * 1024;
 
 constexpr std::string_view opening = "([{";
@@ -31,7 +31,7 @@ bool sameName(QByteArrayView a, QByteArrayView b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-/// A tag's name within a text, behind its "<" or "</".
+/// A tag's name within a text, after its "<" or "</".
 struct TagName {
     qsizetype start = 0;
     qsizetype end = 0;
@@ -66,7 +66,7 @@ BraceMatcher::BraceMatcher(SciEngine engine) : m_engine(engine)
 
 std::optional<BracePair> BraceMatcher::pairAt(qsizetype position) const
 {
-    // The character in front of the caret was typed last and comes first.
+    // The character before the caret takes precedence, because it was typed last.
     for (const qsizetype candidate : {position - 1, position}) {
         if (const auto pair = bracketPair(candidate))
             return pair;
@@ -108,7 +108,7 @@ std::optional<BracePair> BraceMatcher::tagPair(qsizetype position) const
     const auto isMarkup = [&](qsizetype offset) {
         return m_engine.styleAt(start + offset) == static_cast<int>(SyntaxStyle::Operator);
     };
-    // The caret stands in a name, or at one of its ends.
+    // The caret is in a name, or at one of its ends.
     qsizetype nameStart = position - start;
     while (nameStart > 0 && isNameByte(text[nameStart - 1]))
         --nameStart;
@@ -152,7 +152,7 @@ void BraceMatcher::update()
 
 void BraceMatcher::clear()
 {
-    // Edits carry the marks along; all of them go.
+    // Edits move the marks, so they are removed from the whole text.
     if (m_shown)
         mark(0, m_engine.length(), false);
     m_shown.reset();

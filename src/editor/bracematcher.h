@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// Two stretches of text that belong together, in byte positions: brackets, or the names of a start tag and its end tag.
+/// Two matching ranges of text, in byte positions: brackets, or the names of a start tag and its end tag.
 struct BracePair {
     qsizetype firstStart = 0;
     qsizetype firstEnd = 0;
@@ -17,17 +17,18 @@ struct BracePair {
     friend bool operator==(const BracePair &, const BracePair &) = default;
 };
 
-/// Finds the partner of a bracket or tag name at a position of the text, and shows both. Only brackets of the same colour
-/// are partners, so that one in a comment or a string doesn't end a block. The search looks a limited way, so that
-/// typing costs the same in a large text.
+/// Finds the match of a bracket or tag name at a position of the text, and highlights both. Brackets match only if they
+/// have the same style, so that one in a comment or string doesn't end a block. The search distance is limited, so that
+/// typing is just as fast in a large text.
 class BraceMatcher
 {
 public:
     explicit BraceMatcher(SciEngine engine);
 
-    /// The pair at the position, `first` the one at it; nothing where there is no bracket, or no partner near enough.
+    /// The pair at the position, with `first` being the part at it; nothing if there is no bracket or tag name there,
+    /// or no match near enough.
     std::optional<BracePair> pairAt(qsizetype position) const;
-    /// Marks the pair at the caret, and takes the marks of the last one away.
+    /// Highlights the pair at the caret, and removes the previous highlight.
     void update();
     void clear();
 

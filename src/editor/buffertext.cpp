@@ -24,7 +24,7 @@ bool startsSurrogatePair(char byte)
 
 QString fromBuffer(std::span<const QByteArrayView> utf8Pieces, LineEnds lineEnds)
 {
-    // A byte order mark inside the text is a character like any other.
+    // A byte order mark inside the text is an ordinary character.
     QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     QString text;
     for (const QByteArrayView piece : utf8Pieces) {
@@ -64,8 +64,9 @@ LineEnds mostFrequentLineEnd(QByteArrayView utf8)
 
 qsizetype utf16Length(QByteArrayView utf8)
 {
-    // A byte counts unless it goes on with a character, and the first of four counts twice. Blocks of a fixed size, whose
-    // sums fit in a byte each, are what the compiler makes vector code of: a large file is counted as it is loaded.
+    // Every byte except continuation bytes counts one, and the first byte of a four-byte sequence counts two. The
+    // compiler vectorises blocks of a fixed size whose sums fit into a byte, which matters because a large file is
+    // counted when it is loaded.
     constexpr qsizetype lanes = 32;
     constexpr qsizetype rows = 127;
     const char *byte = utf8.data();

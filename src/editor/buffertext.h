@@ -10,22 +10,23 @@
 
 namespace zephira {
 
-/// The program's view of a part of the buffer, which comes in pieces: UTF-16, CR LF at every line end. Mixed line ends are
-/// kept.
+/// Converts a part of the buffer, given in pieces, to the program's form: UTF-16 with CR LF line ends. Mixed line ends
+/// are kept.
 QString fromBuffer(std::span<const QByteArrayView> utf8Pieces, LineEnds lineEnds);
 QString fromBuffer(QByteArrayView utf8, LineEnds lineEnds);
 
-/// A text of the program as the buffer holds it: UTF-8 with every line end of the given kind. Mixed keeps what it gets.
+/// Converts text from the program to the buffer's form: UTF-8 with line ends of the given kind; Mixed leaves them
+/// unchanged.
 QByteArray toBuffer(const QString &text, LineEnds lineEnds);
 
-/// The kind of line end that occurs most often; of two that are equally frequent, the one first in the enumeration.
+/// The most frequent kind of line end; of equally frequent kinds, the first in the enumeration.
 LineEnds mostFrequentLineEnd(QByteArrayView utf8);
 
-/// Length in UTF-16 code units of valid UTF-8.
+/// The length of valid UTF-8 in UTF-16 code units.
 qsizetype utf16Length(QByteArrayView utf8);
 
-/// The byte offset of a UTF-16 offset; behind the text's end, its length. An offset inside a surrogate pair gives the
-/// pair's beginning.
+/// The byte offset of a UTF-16 offset; past the end of the text, its length in bytes. An offset inside a surrogate pair
+/// gives the beginning of the pair.
 qsizetype byteOffset(QByteArrayView utf8, qsizetype utf16);
 
 } // namespace zephira

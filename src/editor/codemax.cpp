@@ -37,8 +37,8 @@ struct Setting {
     int second;
 };
 
-/// What the engine is told once. Insertions and deletions are announced in front of them and not reported behind: the
-/// report costs a walk from the start of the text for every key.
+/// The engine's initial settings. Only notifications before insertions and deletions are used; those after them would
+/// walk through the text from its start at every key.
 constexpr std::array engineSettings{
     Setting{QsciScintillaBase::SCI_SETCODEPAGE, QsciScintillaBase::SC_CP_UTF8, 0},
     Setting{QsciScintillaBase::SCI_SETMODEVENTMASK,
@@ -85,7 +85,7 @@ CodeMax::CodeMax(EditorServices services, QWidget *parent)
     , m_typing(m_engine)
     , m_news(*this, m_engine)
 {
-    // Asked before the editor library's own, whose objects cost a walk through the text at every key.
+    // Installed to take precedence over the editor library's factory, whose objects walk through the text at every key.
     QAccessible::installFactory(&AccessibleEditor::make);
     setAccessibleName(u"Source text"_s);
     setUpEngine();
@@ -148,7 +148,7 @@ void CodeMax::beforeEdit(int position, int type, int length)
     m_news.willRemove(position, length);
 }
 
-/// Counts an insertion that has been announced. Its text is only there behind it.
+/// Processes an announced insertion, whose text is available only after the insertion.
 void CodeMax::settleInsertion()
 {
     const auto [position, length] = std::exchange(m_inserted, {});
@@ -160,8 +160,8 @@ void CodeMax::settleInsertion()
     m_news.inserted(position, length);
 }
 
-/// Comes in front of each of the engine's changes, of which one action may make several. A change that no action of the
-/// control's makes is told when it is done.
+/// Called before each change made by the engine; one action may make several. A change outside an action is reported
+/// from the event loop.
 void CodeMax::noteChange()
 {
     ++m_textVersion;
@@ -182,7 +182,7 @@ void CodeMax::endAction()
         showStrikethrough();
         Q_EMIT Change();
     }
-    // A slot may do anything, even close the window.
+    // A slot may do anything, including closing the window.
     if (alive && m_actions == 0) {
         if (changed)
             showBraces();
@@ -208,7 +208,7 @@ void CodeMax::showBraces()
 {
     if (!m_options.matchBraces || !isVisible())
         return;
-    // What was typed a moment ago must have its colour before it can be matched.
+    // Newly typed text must have its style before it can be matched.
     m_colouring->colourTo(m_engine.lineEnd(m_engine.lineOf(m_engine.caret())));
     m_braces->update();
 }
@@ -281,7 +281,7 @@ void CodeMax::showSelectionBounds()
     }
 }
 
-/// The engine's styles know no strikethrough; a line through all of the text stands for it.
+/// The engine's styles have no strikethrough, so an indicator strikes out the whole text.
 void CodeMax::showStrikethrough()
 {
     const bool on = m_appearance->font().strikethrough;
@@ -338,7 +338,7 @@ quint32 CodeMax::color(int item) const
 
 void CodeMax::setFontStyle(int item, int style)
 {
-    // Each new style makes the engine load its fonts anew before anything can be measured.
+    // Every style change makes the engine reload its fonts before the next measurement.
     if (m_appearance->fontStyle(item) == style)
         return;
     m_appearance->setFontStyle(item, style);

@@ -36,17 +36,17 @@ class IdleColouring;
 class PropertiesDialog;
 class RecoveryCopies;
 
-/// What the editing control stands on. All of it outlives the control.
+/// The services that the editing control uses. All of them must outlive the control.
 struct EditorServices {
     FileStore &files;
     RecoveryCopies &recovery;
     Prompts &prompts;
 };
 
-/// The editing control. C++ code drives it through EditingControl; scripts, tests and other outside code through the
-/// properties and operations below, by name. The buffer holds UTF-8 with the file's own line ends, while Text and SelText
-/// always speak CR LF (a text with mixed line ends comes as it is). Lines and columns count from 0, columns and lengths
-/// in UTF-16 code units.
+/// The editing control. C++ code uses it through EditingControl; scripts, tests and other outside code use the
+/// properties and operations below by name. The buffer contains UTF-8 with the file's own line ends, while Text and
+/// SelText always use CR LF (a text with mixed line ends is left as it is). Lines and columns are 0-based; columns and
+/// lengths count UTF-16 code units.
 class CodeMax : public QsciScintillaBase, public EditingControl
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ public:
     explicit CodeMax(EditorServices services, QWidget *parent = nullptr);
     ~CodeMax() override;
 
-    /// Registered languages and hot keys of this control.
+    /// The registered languages and the hot keys of this control.
     CodeMaxGlobals &globals() { return *m_globals; }
 
     QString text() const override;
@@ -109,7 +109,7 @@ public:
     bool canUndo() const override;
     bool canRedo() const override;
     bool canCopy() const override;
-    /// A read-only control refuses typing and the editing commands; Text, SelText and OpenFile still work on it.
+    /// A read-only control rejects typing and the editing commands; Text, SelText and OpenFile still work.
     bool isReadOnly() const;
     void setReadOnly(bool on);
     /// Whether typed characters replace the ones under the caret.
@@ -118,9 +118,9 @@ public:
 
     Result<void> openFile(const QString &path) override;
     Result<void> saveFile(const QString &path, bool clearUndo) override;
-    /// How the document stands in its file: encoding, byte order mark, line ends.
+    /// How the document is stored in its file: encoding, byte order mark, line ends.
     const TextFormat &textFormat() const { return m_format.current(); }
-    /// The document's bytes in UTF-8 with its own line ends, in two pieces that stay valid until the text changes.
+    /// The document's bytes in UTF-8 with its own line ends, in two pieces that are valid until the text changes.
     std::array<QByteArrayView, 2> utf8Pieces() const override;
 
     CodeMaxRange selection(bool normalized) const override;
@@ -132,9 +132,11 @@ public:
     int fontStyle(int item) const override;
     EditorOptions options() const { return m_options; }
     void setOptions(const EditorOptions &options);
-    /// Whether the caret's line is highlighted, by the control itself or by a program that lets HighlightedLine follow.
+    /// Whether the caret's line is highlighted, by the control itself or by a program that makes HighlightedLine follow
+    /// the caret.
     bool isCaretLineHighlighted() const;
-    /// Switches that on or off, where it isn't so already. A program that lets HighlightedLine follow does it itself.
+    /// Switches the highlight on or off unless it already is. A program that makes HighlightedLine follow the caret
+    /// does this itself; see CaretLineChosen().
     void highlightCaretLine(bool on);
 
     void undo() override;
@@ -145,11 +147,11 @@ public:
     void clearSelection() override;
     void executeCmd(int command, int argument = -1) override;
     using EditingControl::executeCmd;
-    /// Shows the print dialog and prints the whole text on the printer chosen there. `device` and `options` are those of
-    /// the call and change nothing.
+    /// Shows the print dialog and prints the whole text on the printer chosen there. `device` and `options` have no
+    /// effect.
     void printContents(int device, int options) override;
 
-    // The operations by name.
+    // The operations that are called by name.
     Q_INVOKABLE bool OpenFile(const QString &path);
     Q_INVOKABLE bool SaveFile(const QString &path, bool clearUndo = false);
     Q_INVOKABLE QVariantMap GetSel(bool normalized) const;
@@ -170,20 +172,21 @@ public:
     Q_INVOKABLE void ExecuteCmd(int command, const QVariant &argument = {});
     Q_INVOKABLE void ExecuteCmd(int command, int argument) { executeCmd(command, argument); }
     Q_INVOKABLE void PrintContents(int device, int options) { printContents(device, options); }
-    /// The sentence of the last operation that failed by returning false; empty after one that succeeded.
+    /// The error message of the last operation that returned false; empty after a successful one.
     Q_INVOKABLE QString lastError() const { return m_lastError; }
 
     /// The file that the document was last opened from or saved as, or "".
     const QString &path() const { return m_path; }
-    /// Changes with every change of the text.
+    /// A number that changes with every change of the text.
     quint64 textVersion() const { return m_textVersion; }
-    /// The line end that the Enter key types: the text's own, of several kinds the most frequent.
+    /// The line end that the Enter key types: the one used in the text, or the most frequent one if they are mixed.
     LineEnds typedLineEnds() const { return m_format.typedLineEnds(); }
-    /// Puts UTF-8 in the place of the bytes from start up to end.
+    /// Runs the engine's message for undo or redo.
     void step(unsigned int message);
+    /// Replaces the bytes from start up to end with UTF-8.
     void replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8) { m_engine.replace(start, end, utf8); }
 
-    // The parts, for the control's own dialogs and for whatever must look closer than the contract allows.
+    // The parts, for the control's own dialogs and for code that needs more than EditingControl offers.
     const SciEngine &engine() const { return m_engine; }
     EditorAppearance &appearance() { return *m_appearance; }
     EditorMargins &margins() { return *m_margins; }
@@ -191,11 +194,12 @@ public:
     const BidiPainter &bidi() const { return *m_bidi; }
     EditorSearch &search();
     EditorPrinter &printer();
-    /// Hears what assistive technology is told, in its place, and also while none is running.
+    /// Sends accessibility events to `listener` instead of assistive technology, even while none is running.
     void setAccessibleListener(AccessibleNews::Listener listener) { m_news.setListener(std::move(listener)); }
     Prompts &prompts() { return m_services.prompts; }
     const EditorServices &services() const { return m_services; }
-    /// Runs something that changes text or selection as one action: Change and SelChange come once, at its end.
+    /// Runs something that changes the text or selection as one action: Change and SelChange are emitted at most once,
+    /// at its end.
     template<typename Action>
     void perform(Action action)
     {
@@ -205,15 +209,17 @@ public:
     }
 
 Q_SIGNALS:
-    /// The text has changed; once for each write to Text or SelText, within the call, and once for each of the user's actions.
+    /// The text has changed. Emitted once for each write to Text or SelText, within the call, and once for each user
+    /// action.
     void Change();
     /// The selection or the caret has moved.
     void SelChange();
-    /// A context menu is asked for. Whoever shows one sets *handled, and the control shows none of its own.
+    /// A context menu is requested. A receiver that shows one sets *handled, and the control doesn't show its own.
     void RClick(bool *handled);
-    /// The user wants the caret's line highlighted, or not. A program that sees to it by HighlightedLine sets *handled.
+    /// The user has switched the highlight of the caret's line on or off. A program that implements it through
+    /// HighlightedLine sets *handled.
     void CaretLineChosen(bool on, bool *handled);
-    /// Insert and overtype mode have been exchanged.
+    /// The control was switched between insert and overtype mode.
     void OvertypeChanged(bool on);
 
 protected:
@@ -295,7 +301,7 @@ private:
     QString m_path;
     QString m_lastError;
     Selection m_seen;
-    /// An insertion that has been announced and is still to be counted.
+    /// An insertion that was announced but not processed yet.
     Insertion m_inserted;
     quint64 m_textVersion = 1;
     /// Length of the buffer in UTF-16 code units.

@@ -20,14 +20,14 @@ namespace zephira {
 
 namespace {
 
-/// Of the engine's many messages only those that keys run are commands.
+/// Of the engine's messages only those bound to keys are commands.
 bool isEngineCommand(int command)
 {
     return command >= QsciScintillaBase::SCI_START
         && std::ranges::find(initialHotKeys(), command, &CodeMaxHotKey::command) != initialHotKeys().end();
 }
 
-/// Who has the modal window in front is who asks for a dialog.
+/// The owner of a dialog is the active modal window, if there is one.
 QWidget *dialogOwner(QWidget *editor)
 {
     QWidget *modal = QApplication::activeModalWidget();

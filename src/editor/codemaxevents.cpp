@@ -22,7 +22,8 @@ using namespace Qt::StringLiterals;
 
 bool CodeMax::event(QEvent *event)
 {
-    // The key deletes the next character where nothing is selected; a menu entry on the same key only knows selections.
+    // Without a selection the Delete key deletes the next character; a menu entry with the same key only deletes
+    // selections.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
         if (TypingRules::isPlainDelete(*key) && !isReadOnly() && m_engine.send(SCI_GETSELECTIONEMPTY)) {
@@ -39,7 +40,7 @@ void CodeMax::keyPressEvent(QKeyEvent *event)
         executeCmd(*command);
         event->accept();
     } else if (event->key() == Qt::Key_Escape) {
-        // With one caret the key is the window's.
+        // With a single caret the key is left to the window.
         bool kept = false;
         perform([&] { kept = m_typing.keepOneCaret(); });
         event->setAccepted(kept);
@@ -55,7 +56,7 @@ void CodeMax::inputMethodEvent(QInputMethodEvent *event)
     perform([&] { QsciScintillaBase::inputMethodEvent(event); });
 }
 
-/// Gives an event to the engine at the place where that has what is painted under the mouse.
+/// Passes an event to the engine at the position where the engine has the character painted under the mouse.
 void CodeMax::giveToEngine(QMouseEvent *event, const std::function<void(QMouseEvent *)> &handle)
 {
     QMouseEvent moved(event->type(), m_bidi->toEngine(event->position()), event->scenePosition(),
@@ -68,8 +69,8 @@ void CodeMax::giveToEngine(QMouseEvent *event, const std::function<void(QMouseEv
     });
 }
 
-/// With Ctrl the engine would begin a rectangle; here it adds a caret, which selects while the mouse is dragged. A
-/// rectangle is what Alt is for.
+/// With Ctrl the engine would start a rectangular selection; here it adds a caret, and dragging selects from there.
+/// Rectangular selections are made with Alt.
 bool CodeMax::addsCaret(QMouseEvent *event)
 {
     const bool pressed = event->type() == QEvent::MouseButtonPress;
@@ -99,7 +100,8 @@ void CodeMax::mousePressEvent(QMouseEvent *event)
         return;
     giveToEngine(event, [this](QMouseEvent *press) {
         if (!m_dragDrop && press->button() == Qt::LeftButton && press->modifiers() == Qt::NoModifier) {
-            // The engine drags a selection that is pressed on; without one there is nothing to drag.
+            // The engine drags a selection when the mouse is pressed on it; without a selection there is nothing to
+            // drag.
             const QPoint at = press->position().toPoint();
             m_engine.send(SCI_SETEMPTYSELECTION, m_engine.send(SCI_POSITIONFROMPOINT, at.x(), at.y()));
         }
@@ -137,7 +139,7 @@ void CodeMax::wheelEvent(QWheelEvent *event)
     event->accept();
 }
 
-/// Files that are dropped are the window's business, and only text that may be changed takes a drop.
+/// Dropped files are left to the window, and only editable text accepts a drop.
 bool CodeMax::takesDrop(const QDropEvent &event) const
 {
     return m_dragDrop && !isReadOnly() && !event.mimeData()->hasUrls();
@@ -170,7 +172,8 @@ void CodeMax::dropEvent(QDropEvent *event)
 void CodeMax::changeEvent(QEvent *event)
 {
     QsciScintillaBase::changeEvent(event);
-    // The selection's colour is the desktop's. The first changes come while the base class is still under construction.
+    // The selection has the desktop's colour. The first change events arrive while the base class is still being
+    // constructed.
     if (event->type() == QEvent::PaletteChange && m_appearance)
         m_appearance->applyAll();
 }
@@ -191,7 +194,7 @@ void CodeMax::paintEvent(QPaintEvent *event)
         underlineNumbers();
 }
 
-/// The engine leaves underlining out in its margins.
+/// The engine doesn't draw underlining in its margins.
 void CodeMax::underlineNumbers()
 {
     constexpr int padding = 3;

@@ -30,8 +30,8 @@ Result<void> CodeMax::saveFile(const QString &path, bool clearUndo)
     return saved;
 }
 
-/// Writes the text, in UTF-8 if the document's encoding can't hold it and the user agrees. The document itself changes
-/// over only with its own file; a copy elsewhere leaves it what it was.
+/// Writes the text, in UTF-8 if it can't be stored in the document's encoding and the user agrees. The document's own
+/// encoding changes only when its own file is written, not for a copy elsewhere.
 Result<void> CodeMax::store(const QString &path, bool becomesDocument)
 {
     Result<void> saved = m_file.save(path, utf8Pieces(), textFormat());

@@ -11,7 +11,7 @@
 
 namespace zephira {
 
-/// One key combination, and the number of the command that it runs.
+/// A key combination and the number of the command that it runs.
 struct CodeMaxHotKey {
     int command = 0;
     QKeyCombination keys;
@@ -19,8 +19,8 @@ struct CodeMaxHotKey {
     friend bool operator==(const CodeMaxHotKey &, const CodeMaxHotKey &) = default;
 };
 
-/// The editing control's services beside the text: the languages it knows, and which keys run its commands. A child of the
-/// control, found by its own name.
+/// The registered languages and the key bindings of an editing control. A child of the control, found by its object
+/// name.
 class CodeMaxGlobals : public QObject
 {
     Q_OBJECT
@@ -31,14 +31,14 @@ public:
     Q_INVOKABLE void RegisterLanguage(const QString &name, const CodeMaxLanguage &language);
     const LanguageRegistry &languages() const { return m_languages; }
 
-    /// How many hot keys a command has; 0 for numbers that are no command.
+    /// The number of hot keys of a command; 0 for an unknown command.
     Q_INVOKABLE int hotKeyCount(int command) const;
-    /// The command's hot key at a 0-based index below hotKeyCount(); an empty one otherwise.
+    /// The command's hot key at a 0-based index below hotKeyCount(); an empty one for other indexes.
     Q_INVOKABLE CodeMaxHotKey hotKey(int command, int index) const;
-    /// The combination runs the command no more. One that isn't registered is left alone.
+    /// Removes a hot key. Does nothing if it isn't registered.
     Q_INVOKABLE void UnregisterHotKey(const CodeMaxHotKey &hotKey);
 
-    /// What a key combination runs. The keypad's keys count as the others.
+    /// The command that a key combination runs. Keys of the keypad count as the equivalent other keys.
     std::optional<int> commandFor(QKeyCombination keys) const;
 
 Q_SIGNALS:

@@ -15,7 +15,7 @@ namespace zephira {
 
 namespace {
 
-/// Lets the program write to a text that its user may not change.
+/// Makes a read-only text writable for the program during its lifetime.
 class WritableWhile
 {
 public:
@@ -60,7 +60,7 @@ void CodeMax::setText(const QString &text)
     });
 }
 
-/// In a text of the file's own line feeds or carriage returns each line end counts as the two characters that Text has.
+/// If the file's line ends are LF or CR, each of them counts as two characters, as in Text.
 int CodeMax::textLength() const
 {
     const qsizetype units =
@@ -159,8 +159,8 @@ int CodeMax::lineCount() const
     return static_cast<int>(m_engine.lineCount());
 }
 
-/// Width in pixels of the widest line that the first picture may show. With it the scroll bar is right from the start;
-/// left to find out while painting, the engine would show the bar later and paint everything again.
+/// Width in pixels of the widest line that may be visible first. With it the scroll bar is right from the start;
+/// otherwise the engine would find out while painting, then show the scroll bar and paint everything again.
 qsizetype CodeMax::widthOfFirstLines() const
 {
     constexpr qsizetype linesOfAScreen = 120;
@@ -179,7 +179,7 @@ qsizetype CodeMax::widthOfFirstLines() const
     return std::max<qsizetype>(1, m_engine.sendText(SCI_TEXTWIDTH, STYLE_DEFAULT, widest.constData()));
 }
 
-/// Puts a text in place without an undo step, and with nothing left of the one before.
+/// Replaces the text without an undo step, leaving nothing of the previous document.
 void CodeMax::replaceDocument(const DecodedText &document)
 {
     const QByteArrayView utf8 = document.utf8;
@@ -190,7 +190,7 @@ void CodeMax::replaceDocument(const DecodedText &document)
     m_engine.send(SCI_EMPTYUNDOBUFFER);
     m_engine.send(SCI_CLEARALL);
     m_engine.send(SCI_MARKERDELETEALL, -1);
-    // An index that assistive technology asked for would be kept up to date at each line that is read.
+    // An index requested by assistive technology would be updated for each line that is loaded.
     if (m_engine.send(SCI_GETLINECHARACTERINDEX) & SC_LINECHARACTERINDEX_UTF16)
         m_engine.send(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF16);
     m_inserted = {};
@@ -240,7 +240,7 @@ CodeMaxRange CodeMax::toRange(qsizetype start, qsizetype end) const
             column(end)};
 }
 
-/// The nearest position that the text has.
+/// The nearest valid position, in bytes.
 qsizetype CodeMax::toPosition(int line, int column) const
 {
     if (line < 0)
@@ -276,8 +276,8 @@ void CodeMax::redo()
     perform([this] { step(SCI_REDO); });
 }
 
-/// Undoes or redoes. The engine measures the line in which the caret comes to stand before it has its styles, and once more
-/// with them. Where lines are long it is kept from the former: what has no style yet has no width meanwhile.
+/// Undoes or redoes. The engine measures the caret's new line before it has its styles, and again afterwards. For long
+/// lines the first measurement is avoided: meanwhile unstyled text has no width.
 void CodeMax::step(unsigned int message)
 {
     if (!m_colouring->hasLongLines()) {

@@ -10,13 +10,13 @@
 
 namespace zephira {
 
-/// The colour that isn't one: where a background has it, the window's colour shows.
+/// Means "no colour": a background with this value shows the window's colour.
 constexpr quint32 automaticColour = 0xffffffff;
 
-/// Font styles by number. Bold and italic are bits; other bits of a style are kept and show nothing.
+/// Font styles by number. Bold and italic are bits; other bits of a style are kept but have no effect.
 enum FontStyle : int { NormalStyle = 0, BoldStyle = 1, ItalicStyle = 2, BoldItalicStyle = 3, UnderlinedStyle = 4 };
 
-/// What a colour item paints.
+/// What a colour item applies to.
 enum class ColourTarget {
     Window,
     LeftMargin,
@@ -32,8 +32,8 @@ struct ColourItemRow {
     ColourItem item;
     ColourTarget target;
     int index;       ///< marker or style number of the editor engine
-    quint32 initial; ///< as shipped in the settings, too; red in the lowest byte
-    quint32 dark;    ///< what shows in place of the initial colour while the desktop is dark
+    quint32 initial; ///< same as shipped in the settings; red in the lowest byte
+    quint32 dark;    ///< shown instead of the initial colour while the desktop is dark
 };
 
 constexpr int bookmarkMarker = 2;

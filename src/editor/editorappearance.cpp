@@ -100,8 +100,8 @@ void EditorAppearance::showStyles()
         applyStyle(item);
 }
 
-/// While the desktop is dark, shipped colours give way to their dark counterparts, unless the user has chosen what the
-/// text and its background look like: then the others are meant to go with these.
+/// Whether shipped colours are shown as their dark counterparts: while the desktop is dark, unless the user has changed
+/// the colour of the text or the window, because then the other colours are meant to fit these.
 bool EditorAppearance::isDark() const
 {
     const auto isShipped = [this](int item) {
@@ -111,7 +111,7 @@ bool EditorAppearance::isDark() const
     return paper.lightness() < 128 && isShipped(WindowColour) && isShipped(TextFore);
 }
 
-/// The colour of an item, as the desktop has it.
+/// The colour of an item under the current desktop palette.
 quint32 EditorAppearance::current(int item) const
 {
     const ColourItemRow &row = colourItemTable[static_cast<size_t>(item)];
@@ -131,7 +131,7 @@ void EditorAppearance::applyAll()
         applyStyle(item);
 }
 
-/// The default style bears what all others start from.
+/// The default style holds the values that all other styles start from.
 void EditorAppearance::applyFont()
 {
     m_engine.sendText(Sci::SCI_STYLESETFONT, Sci::STYLE_DEFAULT, m_looks.font.name.toUtf8().constData());
@@ -144,7 +144,7 @@ void EditorAppearance::applyFont()
     m_engine.send(Sci::SCI_STYLESETITALIC, Sci::STYLE_DEFAULT, m_looks.font.italic);
     m_engine.send(Sci::SCI_STYLESETUNDERLINE, Sci::STYLE_DEFAULT, m_looks.font.underline);
     m_engine.send(Sci::SCI_STYLECLEARALL);
-    // What has no picture of its own is painted small and in narrow letters, so that it never makes a line higher.
+    // Characters without a glyph are painted as small, narrow text, so that they never make a line higher.
     m_engine.sendText(Sci::SCI_STYLESETFONT, Sci::STYLE_CONTROLCHAR, "Sans Serif");
     m_engine.send(Sci::SCI_STYLESETSIZEFRACTIONAL, Sci::STYLE_CONTROLCHAR,
                   m_engine.send(Sci::SCI_STYLEGETSIZEFRACTIONAL, Sci::STYLE_DEFAULT) * 4 / 5);
@@ -156,14 +156,14 @@ void EditorAppearance::applyStyle(int item)
     const int engineStyle = fontStyleTable[static_cast<size_t>(item)];
     const bool isSeen = m_showsStyles || item == TextFont || item == LineNumberFont;
     const int style = isSeen ? m_looks.styles[static_cast<size_t>(item)] : NormalStyle;
-    // Line numbers keep out of the text's own emphasis.
+    // Line numbers don't take bold, italic or underline from the text's font.
     const bool text = engineStyle != lineNumberStyle;
     setStyle(Sci::SCI_STYLESETBOLD, engineStyle, (text && m_looks.font.bold) || style & BoldStyle);
     setStyle(Sci::SCI_STYLESETITALIC, engineStyle, (text && m_looks.font.italic) || style & ItalicStyle);
     setStyle(Sci::SCI_STYLESETUNDERLINE, engineStyle, (text && m_looks.font.underline) || style & UnderlinedStyle);
 }
 
-/// A style of the text has a twin that looks like it.
+/// Each text style has a twin that looks the same.
 void EditorAppearance::setStyle(unsigned int message, int style, qsizetype value)
 {
     m_engine.send(message, style, value);
@@ -209,8 +209,8 @@ void EditorAppearance::applyColour(int item)
     }
 }
 
-/// What has no item of its own is derived: caret and white space from the text, the selection from the desktop's and the
-/// window's colour, the fold marks from the line numbers'.
+/// Sets the colours that have no item of their own: caret and white space are derived from the text, the selection from
+/// the desktop's and the window's colour, the fold marks from the line numbers.
 void EditorAppearance::applyContrast()
 {
     const QColor window = shown(WindowColour);

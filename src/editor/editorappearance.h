@@ -11,7 +11,7 @@
 
 namespace zephira {
 
-/// The values behind the looks of a control. Colours have red in the lowest byte.
+/// The values that make up the appearance of a control. Colours have red in the lowest byte.
 struct EditorLooks {
     std::array<quint32, colourItemTotal> colours{};
     std::array<int, fontStyleTotal> styles{};
@@ -20,9 +20,9 @@ struct EditorLooks {
     friend bool operator==(const EditorLooks &, const EditorLooks &) = default;
 };
 
-/// What the control's text and margins look like: the colour items, the font styles and the font. Values are kept as they
-/// were set, so that they read back exactly, and are translated to the engine's styles on the way. Under a dark palette
-/// the shipped colours show as their dark counterparts.
+/// The appearance of the control's text and margins: the colour items, the font styles and the font. Values are kept as
+/// they were set, so that they read back exactly, and are translated to the engine's styles. Under a dark palette the
+/// shipped colours are shown as their dark counterparts.
 class EditorAppearance
 {
 public:
@@ -36,20 +36,20 @@ public:
     int fontStyle(int item) const;
     void setFont(const FontChoice &font);
     const FontChoice &font() const { return m_looks.font; }
-    /// Everything at once, to take over the looks of another control.
+    /// All values at once, to copy the appearance of another control.
     const EditorLooks &looks() const { return m_looks; }
     void setLooks(const EditorLooks &looks);
 
-    /// From now on the text has the font styles. A text without colours is never seen in any of them, and does without
-    /// the fonts, which are dear to load.
+    /// Enables the font styles from now on. A text without syntax colouring doesn't use them and so avoids loading
+    /// their fonts, which is slow.
     void showStyles();
 
-    /// Puts all of it into force again; the selection's colours follow the desktop's.
+    /// Applies everything again, including the selection's colours, which follow the desktop's.
     void applyAll();
 
-    /// What shows in a background, an automatic one included.
+    /// The colour shown as a background, with an automatic one resolved.
     QColor background(int item) const;
-    /// Behind the main selection, or behind the others.
+    /// The background colour of the main selection, or of the additional ones.
     QColor selectionColour(bool main) const;
     QColor whitespaceColour() const;
 

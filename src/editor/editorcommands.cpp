@@ -32,7 +32,7 @@ constexpr CodeMaxHotKey row(int command, Qt::KeyboardModifiers modifiers, Qt::Ke
     return {command, QKeyCombination(modifiers, key)};
 }
 
-// The engine's own keys for moving and selecting stay; the rows below are all others.
+// The engine's own keys for moving and selecting are kept; the rows below are all others.
 constexpr std::array hotKeys{
     row(FindByKey, Ctrl, Qt::Key_F),
     row(ReplaceByKey, Ctrl, Qt::Key_R),

@@ -7,10 +7,10 @@
 
 namespace zephira {
 
-/// The keys that the control starts with.
+/// The initial key bindings of the control.
 std::span<const CodeMaxHotKey> initialHotKeys();
 
-/// Whether a combination that runs no command is to be left to the window: letters with Ctrl never type anything.
+/// Whether a combination that runs no command is left to the window: letters with Ctrl never type anything.
 bool isShortcutLike(QKeyCombination keys);
 
 } // namespace zephira

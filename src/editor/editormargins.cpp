@@ -118,8 +118,8 @@ void EditorMargins::setMark(qsizetype line, int marker, bool on)
 
 void EditorMargins::setHighlightedLine(qsizetype line)
 {
-    // Edits carry marks along, so the old one may stand elsewhere by now; it usually doesn't, and looking at its line
-    // spares the walk over a large text.
+    // Edits move marks, so the old one may be on another line by now. It usually isn't, and checking its line first
+    // avoids searching a large text.
     const bool inPlace = m_highlighted >= 0 && m_engine.send(Sci::SCI_MARKERGET, m_highlighted) >> highlightMarker & 1;
     if (inPlace && line == m_highlighted)
         return;

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// The strips left of the text, and the marks that lines bear: bookmarks, the highlighted line, dividers, folds.
+/// The margins left of the text and the marks on lines: bookmarks, the highlighted line, dividers, folds.
 class EditorMargins
 {
 public:
@@ -19,19 +19,20 @@ public:
     void setLineNumbers(bool on);
     bool lineNumbers() const { return m_lineNumbers; }
     void setFolds(bool on);
-    /// Fits the widths to the number of lines and to the size of the font.
+    /// Adapts the widths to the number of lines and the font size.
     void updateWidths();
-    /// Of all margins together, in pixels.
+    /// The total width of all margins, in pixels.
     qsizetype width() const;
 
-    /// Draws the line behind the text of a 0-based line, none for -1 and for lines that the text doesn't have.
+    /// Highlights the background of a 0-based line; none for -1 or a line that doesn't exist.
     void setHighlightedLine(qsizetype line);
     qsizetype highlightedLine() const { return m_highlighted; }
-    /// Draws, or takes away, the thin line below a line that ends an outermost block.
+    /// Draws or removes the thin divider below a line that ends an outermost block.
     void setDivider(qsizetype line, bool on);
 
     void toggleBookmark(qsizetype line);
-    /// The nearest bookmarked line behind or in front of the given one, round the ends of the text; -1 if there is none.
+    /// The nearest bookmarked line after or before the given one, wrapping around at the ends of the text; -1 if there
+    /// is none.
     qsizetype bookmarkFrom(qsizetype line, bool backward) const;
 
 private:

@@ -3,7 +3,7 @@
 
 namespace zephira {
 
-/// How the control edits and what it shows around the text, beyond its properties.
+/// Options for editing and display that are not properties of the control.
 struct EditorOptions {
     int tabWidth = 4; ///< columns, 1 to 32
     bool tabsAsBlanks = false;
@@ -12,7 +12,7 @@ struct EditorOptions {
     bool foldMargin = true;
     bool matchBraces = true;
     bool highlightCaretLine = false; ///< in the highlighted line's colour
-    int edgeColumn = 0;              ///< a line is drawn behind this column; 0 for none
+    int edgeColumn = 0;              ///< a vertical line is drawn after this column; 0 for none
 
     friend bool operator==(const EditorOptions &, const EditorOptions &) = default;
 };

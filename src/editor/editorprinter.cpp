@@ -27,7 +27,7 @@ using Sci = QsciScintillaBase;
 constexpr double headerPoints = 9;
 constexpr double marginMillimetres = 15;
 
-/// Takes the marks away that show where a person is working, as long as it lives.
+/// Hides the indicators of matching brackets and of the selection's bounds during its lifetime.
 class WithoutMarks
 {
 public:
@@ -51,15 +51,15 @@ private:
     std::array<qsizetype, marks.size()> m_styles{};
 };
 
-/// A printer that heads each page.
+/// A printer that adds a header to each page.
 class PagePrinter final : public QsciPrinter
 {
 public:
-    /// The document's name also names the file that a printer to PDF offers; it holds no folder.
+    /// The document's name, without a folder, is also the file name suggested for printing to PDF.
     PagePrinter(QString title, const QString &documentName)
         : QsciPrinter(QPrinter::HighResolution), m_title(std::move(title))
     {
-        // The print dialog makes its proposal of what stands before a dot, and of nothing where there is none.
+        // The print dialog suggests the part before the dot, and nothing if there is no dot.
         setDocName(documentName.contains(u'.') ? documentName : documentName + u".pdf"_s);
         setWrapMode(QsciScintilla::WrapWord);
         const QMarginsF margins(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres);
@@ -99,7 +99,7 @@ EditorPrinter::EditorPrinter(CodeMax &editor) : m_editor(editor)
     m_setup = [&editor](QPrinter &printer, const std::function<void()> &go) {
         auto *dialog = new QPrintDialog(&printer, &editor);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        // The dialog works on the printer to its last moment.
+        // The dialog uses the printer until it has finished.
         QObject::connect(dialog, &QDialog::finished, &editor, [go](int result) {
             if (result == QDialog::Accepted)
                 go();
@@ -120,7 +120,7 @@ void EditorPrinter::print()
         editor->colouring().colourAll();
         editor->engine().send(Sci::SCI_SETPRINTCOLOURMODE, Sci::SC_PRINT_COLOURONWHITE);
         const WithoutMarks withoutMarks(editor->engine());
-        // The printer paints letters that are read from right to left itself, and has no use for their cells.
+        // The printer paints right-to-left letters itself and doesn't need their cells.
         editor->bidi().setCells(false);
         printer->printRange(editor);
         editor->bidi().setCells(true);

@@ -12,7 +12,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// Up to this many replacements are made one by one, which keeps bookmarks between them where they are.
+/// Up to this many replacements are made one by one, which keeps the bookmarks between them in place.
 constexpr size_t fewReplacements = 1000;
 
 } // namespace
@@ -54,7 +54,7 @@ bool EditorSearch::selectionSpansLines() const
     return range.StartLineNo != range.EndLineNo;
 }
 
-/// Takes the text over again if it has changed.
+/// Updates the copy of the text if the text has changed.
 void EditorSearch::refresh()
 {
     if (m_version == m_editor.textVersion())
@@ -92,8 +92,8 @@ qsizetype EditorSearch::toPosition(qsizetype offset) const
     return toPositions({{offset, offset}}).front().first;
 }
 
-/// The byte positions of matches that follow each other. Each is counted from the one before, so that many matches in one
-/// long line take no longer than the line.
+/// The byte positions of consecutive matches. Each is computed from the previous one, so that many matches in a long
+/// line take linear time.
 std::vector<EditorSearch::Range> EditorSearch::toPositions(const std::vector<TextMatch> &matches) const
 {
     const SciEngine &engine = m_editor.engine();
@@ -121,7 +121,7 @@ std::vector<EditorSearch::Range> EditorSearch::toPositions(const std::vector<Tex
     return ranges;
 }
 
-/// Where to search, in offsets.
+/// The range to search, in UTF-16 offsets.
 EditorSearch::Range EditorSearch::scope() const
 {
     if (!m_options.inSelection || !m_scope)
@@ -153,7 +153,7 @@ SearchOutcome EditorSearch::find(bool against)
     const SciEngine &engine = m_editor.engine();
     qsizetype from = toOffset(engine.send(backward ? Sci::SCI_GETSELECTIONSTART : Sci::SCI_GETSELECTIONEND));
     from = std::clamp(from, start, end);
-    // An empty match that is there already isn't found again.
+    // An empty match at the current position isn't found again.
     const bool atEmptyMatch = m_last && m_last->start == m_last->end && m_last->start == from;
     std::optional<TextMatch> match;
     if (backward) {
@@ -187,7 +187,7 @@ SearchOutcome EditorSearch::replace()
     const Range selected{engine.send(Sci::SCI_GETSELECTIONSTART), engine.send(Sci::SCI_GETSELECTIONEND)};
     int replaced = 0;
     if (m_last && toPositions({*m_last}).front() == selected) {
-        // The match is looked for once more, because the replacement may have been changed since.
+        // The match is searched again, because the replacement may have changed since.
         const auto match = m_search->next(m_text, m_last->start, m_text.size(), m_options.replacement);
         if (match && match->start == m_last->start && match->end == m_last->end) {
             const qsizetype before = engine.length();
@@ -224,7 +224,7 @@ SearchOutcome EditorSearch::replaceAll()
                 m_editor.replaceBytes(ranges[i].first, ranges[i].second,
                                       toBuffer(matches[i].replacement, m_editor.typedLineEnds()));
         } else {
-            // In one piece, with what lies between copied byte for byte: linear, however many there are.
+            // Replaced in one piece, with the text between the matches copied: linear in any case.
             QByteArray whole;
             qsizetype done = ranges.front().first;
             for (size_t i = 0; i < matches.size(); ++i) {

@@ -13,16 +13,16 @@ namespace zephira {
 
 class CodeMax;
 
-/// What came of a search, for the dialog's line of text.
+/// The result of a search, for the dialog's message.
 struct SearchOutcome {
     bool found = false;
-    bool wrapped = false; ///< only found beyond the text's end, or its beginning
+    bool wrapped = false; ///< found only after wrapping around
     int replaced = 0;
-    QString error = {}; ///< a sentence, where the pattern itself is wrong
+    QString error = {}; ///< a sentence if the pattern is invalid
 };
 
-/// The control's search: the pattern and options that the dialog sets and that the "find next" command goes on with.
-/// Searching goes from the selection and selects what it finds.
+/// The control's search: the pattern and options set by the dialog and also used by the "find next" command. A search
+/// starts at the selection and selects the match.
 class EditorSearch
 {
 public:
@@ -36,22 +36,22 @@ public:
 
     explicit EditorSearch(CodeMax &editor) : m_editor(editor) {}
 
-    /// Fails for a malformed expression; the options before then stay in force.
+    /// Fails for an invalid regular expression; then the previous options stay in effect.
     Result<void> setOptions(const Options &options);
     const Options &options() const { return m_options; }
     bool hasPattern() const { return m_search.has_value(); }
-    /// Limits searches "in the selection" to what is selected now.
+    /// Limits searches "in the selection" to the current selection.
     void takeScope();
     bool isReadOnly() const;
-    /// The selected text, if it is a piece of one line.
+    /// The selected text, if it is within one line.
     QString seed() const;
     bool selectionSpansLines() const;
 
-    /// Selects the next match in the direction, `against` it where that is asked for.
+    /// Selects the next match in the direction set in the options, or in the opposite one if `against`.
     SearchOutcome find(bool against = false);
-    /// Replaces the match that is selected, if one is, and selects the next.
+    /// Replaces the selected match, if there is one, and selects the next.
     SearchOutcome replace();
-    /// Replaces all matches in the text, or in the selection, in one step that can be undone.
+    /// Replaces all matches in the text, or in the selection, in one undo step.
     SearchOutcome replaceAll();
 
 private:
@@ -68,7 +68,7 @@ private:
     Options m_options;
     std::optional<PatternSearch> m_search;
     std::optional<Range> m_scope; ///< byte positions
-    /// The text with line feeds for line ends, and where its lines begin; good for one version of the editor's text.
+    /// The text with line feeds as line ends, and the offsets of its lines; valid for one version of the editor's text.
     QString m_text;
     std::vector<qsizetype> m_lineStarts;
     quint64 m_version = 0;

@@ -64,10 +64,10 @@ void FindDialog::showOutcome(const SearchOutcome &outcome)
     if (!outcome.error.isEmpty())
         say(outcome.error, true);
     else if (!outcome.found)
-        say(outcome.replaced > 0 ? tr("Replaced; there is no other match.") : tr("Nothing found."),
+        say(outcome.replaced > 0 ? tr("Replaced; there are no more matches.") : tr("Nothing found."),
             outcome.replaced == 0);
     else if (outcome.wrapped)
-        say(m_search.options().backward ? tr("Went on from the end.") : tr("Went on from the beginning."));
+        say(m_search.options().backward ? tr("Continued from the end.") : tr("Continued from the beginning."));
     else
         say({});
 }
@@ -119,7 +119,7 @@ bool FindDialog::takeOptions()
     return true;
 }
 
-/// Puts the box's text on top of its list.
+/// Moves the box's text to the top of its list.
 void FindDialog::remember(QComboBox &box)
 {
     const QString text = box.currentText();

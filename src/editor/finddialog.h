@@ -15,7 +15,7 @@ namespace Ui {
 class FindDialog;
 }
 
-/// The control's find dialog, which is its replace dialog as well. It stays beside the text while both are used.
+/// The control's modeless dialog for finding and replacing.
 class FindDialog : public QDialog
 {
     Q_OBJECT
@@ -23,9 +23,9 @@ public:
     FindDialog(EditorSearch &search, QWidget *owner);
     ~FindDialog() override;
 
-    /// Shows the dialog in one of its two shapes, with the selected text as the pattern.
+    /// Shows the dialog for finding or replacing, with the selected text as the pattern.
     void bring(bool replacing);
-    /// Tells in the dialog's own line what came of a search.
+    /// Shows the result of a search in the dialog's message line.
     void showOutcome(const SearchOutcome &outcome);
 
 private:

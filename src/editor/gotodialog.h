@@ -11,7 +11,7 @@ namespace Ui {
 class GoToDialog;
 }
 
-/// Asks for a line. Lines count from 1 here, as in the margin.
+/// Asks for a line. Lines are 1-based here, as in the margin.
 class GoToDialog : public QDialog
 {
     Q_OBJECT
@@ -19,7 +19,8 @@ public:
     explicit GoToDialog(QWidget *owner);
     ~GoToDialog() override;
 
-    /// Shows the dialog; an answer comes as chosen(). It stays until the answer is one of the text's lines.
+    /// Shows the dialog, which emits chosen() when the user confirms. It stays open until the number is a valid line.
+    /// `currentLine` is 1-based.
     void ask(int currentLine, int lineCount);
     void accept() override;
 

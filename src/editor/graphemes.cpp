@@ -10,7 +10,7 @@ namespace zephira {
 
 namespace {
 
-/// How far around an offset to look, in bytes. What a person sees as one character is shorter.
+/// How far around an offset to look, in bytes; user-perceived characters are shorter.
 constexpr qsizetype reach = 160;
 constexpr char16_t joiner = 0x200d;
 
@@ -24,7 +24,7 @@ bool startsCodePoint(QByteArrayView line, qsizetype offset)
     return offset >= line.size() || (static_cast<unsigned char>(line[offset]) & 0xc0) != 0x80;
 }
 
-/// The text around an offset, with a way back to bytes.
+/// The text around an offset in UTF-16, with a mapping back to bytes.
 class Surroundings
 {
 public:
@@ -48,7 +48,7 @@ public:
     {
         if (index <= 0 || index >= m_text.size())
             return true;
-        // A joiner holds two pictures together, which not every release of the finder knows.
+        // A zero-width joiner joins two emoji, which not every release of the boundary finder knows.
         if (m_text[index - 1] == joiner && index > 1 && m_text[index].unicode() >= 0x2190)
             return false;
         QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, m_text);
@@ -73,7 +73,7 @@ qsizetype walk(QByteArrayView line, qsizetype offset, qsizetype step, bool stayA
     return around.toBytes(index);
 }
 
-/// Most text is ASCII, where each character stands for itself.
+/// Most text is ASCII, where each character is a grapheme of its own.
 bool isBetweenPlain(QByteArrayView line, qsizetype offset)
 {
     return isPlain(line, offset) && isPlain(line, offset - 1);

@@ -5,16 +5,16 @@
 
 namespace zephira {
 
-/// What a person sees as one character may be several: a letter with its accents, a joined emoji. Offsets are in bytes of
-/// a line in valid UTF-8, and no offset inside a code point is given.
+/// A user-perceived character (grapheme) may consist of several code points: a letter with its accents, a joined emoji.
+/// Offsets are bytes in a line of valid UTF-8; they must not be inside a code point.
 
-/// The offset itself where such a character begins or ends there, else the beginning of the one around it.
+/// The offset itself if it is a grapheme boundary, otherwise the beginning of the grapheme around it.
 qsizetype graphemeStart(QByteArrayView line, qsizetype offset);
-/// The same, else the end of the one around it.
+/// The offset itself if it is a grapheme boundary, otherwise the end of the grapheme around it.
 qsizetype graphemeEnd(QByteArrayView line, qsizetype offset);
-/// The beginning of the character in front of the offset; 0 at the line's beginning.
+/// The beginning of the grapheme before the offset; 0 at the beginning of the line.
 qsizetype graphemeBefore(QByteArrayView line, qsizetype offset);
-/// The end of the character behind the offset; the line's size at its end.
+/// The end of the grapheme after the offset; the line's size at its end.
 qsizetype graphemeBehind(QByteArrayView line, qsizetype offset);
 
 } // namespace zephira

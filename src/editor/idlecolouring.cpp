@@ -15,14 +15,15 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// What is coloured at once while the window is painted, in bytes; it takes about as long as the painting itself.
-/// Widths of words, in an editor with long lines.
+/// The number of word widths that the engine caches for a text with long lines.
 constexpr int widthsRemembered = 16384;
+/// The amount coloured at once while the window is painted, in bytes; it takes about as long as the painting itself.
 constexpr qsizetype immediateBytes = 256 * 1024;
 constexpr qsizetype sliceBytes = 64 * 1024;
 constexpr qint64 sliceMilliseconds = 4;
 
-/// The engine's fold field holds 12 bits above its base; depths beyond are drawn as this one and counted all the same.
+/// The engine's field for the fold level has 12 bits above its base. Greater depths are drawn like this one but still
+/// counted.
 constexpr int deepestDrawnLevel = 3000;
 constexpr int deepestLevel = 0x7fff;
 constexpr int nextLevelShift = 16;
@@ -32,7 +33,8 @@ qsizetype packedFold(const FoldLine &line, int nextLevel)
     int level = Sci::SC_FOLDLEVELBASE + std::min(line.level, deepestDrawnLevel);
     if (line.header)
         level |= Sci::SC_FOLDLEVELHEADERFLAG;
-    // Blank lines aren't marked as such: the engine would draw a block's end below those that follow it.
+    // Blank lines aren't marked as such, because the engine would draw a block's end below the blank lines that follow
+    // it.
     return level | std::min(nextLevel, deepestLevel) << nextLevelShift;
 }
 
@@ -41,8 +43,8 @@ bool endsLine(QByteArrayView text)
     return !text.isEmpty() && (text.back() == '\n' || text.back() == '\r');
 }
 
-/// Collects line starts. Where `settled` says that a line found the state that it had before, two lines running, the rest
-/// is known and the run ends.
+/// Collects line starts. When `settled` says for two consecutive lines that their state hasn't changed, the rest is
+/// known and the run ends.
 class StateCollector final : public LineStateSink
 {
 public:
@@ -102,7 +104,7 @@ void IdleColouring::beforeEdit(qsizetype position)
     m_linesBefore = m_engine.lineCount();
 }
 
-/// Takes an announced edit into account. How many lines it brought or took is only known behind it.
+/// Processes an announced edit. The number of lines that it added or removed is known only after the edit.
 void IdleColouring::settleEdit()
 {
     if (m_editLine < 0)
@@ -115,7 +117,8 @@ void IdleColouring::settleEdit()
     if (m_dirty.last > line)
         m_dirty.last = std::max(line, m_dirty.last + added);
     m_dirty.first = std::min(m_dirty.first, line);
-    // One line more than were touched: a line feed that joins or leaves a carriage return changes its neighbour.
+    // One line more than was touched: adding or removing a line feed after a carriage return affects the neighbouring
+    // line.
     m_dirty.last = std::max(m_dirty.last, line + std::max<qsizetype>(added, 0) + 1);
 }
 
@@ -152,7 +155,8 @@ void IdleColouring::slice()
         m_timer.stop();
 }
 
-/// Colours at most about `bytes` on the way to the line that holds `target`; true when that line has been reached.
+/// Colours at most about `bytes` towards the line that contains the position `target`. Returns true if that line is
+/// reached.
 bool IdleColouring::colourSome(qsizetype target, qsizetype bytes)
 {
     settleEdit();
@@ -170,14 +174,14 @@ bool IdleColouring::colourSome(qsizetype target, qsizetype bytes)
     return isReached();
 }
 
-/// The first line that awaits its colours.
+/// The first line that isn't coloured yet.
 qsizetype IdleColouring::nextLine() const
 {
     return m_dirty.any() ? m_dirty.first : m_colouredLines;
 }
 
-/// The lines to colour next, at most about `bytes` of them. The line in front of a changed one is coloured again, because
-/// the engine may have moved its state along with the lines that were inserted or removed.
+/// The lines to colour next, at most about `bytes` of them. The line before a changed one is coloured again, because
+/// the engine may have moved its state when lines were inserted or removed.
 IdleColouring::Stretch IdleColouring::nextStretch(qsizetype targetLine, qsizetype bytes) const
 {
     const qsizetype next = nextLine();
@@ -187,8 +191,7 @@ IdleColouring::Stretch IdleColouring::nextStretch(qsizetype targetLine, qsizetyp
     return {line, start, m_engine.bytes(start, m_engine.lineStart(std::max(lastLine, next) + 1))};
 }
 
-/// Gives the stretch its styles, which stay in m_styles. May stop where a changed line has no more effect on those behind
-/// it.
+/// Styles the stretch into m_styles. May stop where a change has no more effect on the lines after it.
 IdleColouring::StyledLines IdleColouring::styleStretch(const Stretch &stretch, bool mayStopEarly)
 {
     const auto [line, start, text] = stretch;
@@ -215,8 +218,8 @@ IdleColouring::StyledLines IdleColouring::styleStretch(const Stretch &stretch, b
     return {std::move(lines.offsets), std::move(lines.states), size, lines.stopped};
 }
 
-/// The styles of the text as the engine gets them: in long lines the runs are broken. `offsets` are the beginnings of the
-/// text's further lines.
+/// The styles of the text as passed to the engine: in long lines the runs are broken up. `offsets` are the starts of
+/// the text's lines after the first.
 std::span<const unsigned char> IdleColouring::shownStyles(QByteArrayView text, const std::vector<qsizetype> &offsets)
 {
     const std::span styles = std::span(m_styles).first(static_cast<size_t>(text.size()));
@@ -242,7 +245,7 @@ std::span<const unsigned char> IdleColouring::shownStyles(QByteArrayView text, c
     return m_brokenStyles;
 }
 
-/// Gives the lines of a styled stretch their places in the folds, and the engine the states that they begin with.
+/// Sets the fold levels of the lines of a styled stretch, and stores their start states in the engine.
 IdleColouring::FoldedLines IdleColouring::foldStretch(const Stretch &stretch, const StyledLines &styled)
 {
     FoldState fold = foldStateAt(stretch.line);
@@ -268,8 +271,8 @@ IdleColouring::FoldedLines IdleColouring::foldStretch(const Stretch &stretch, co
     return {line, fold.level};
 }
 
-/// Takes down how far the colours have come. False when the text has found its old state and its folds haven't: the next
-/// stretch must not stop at once again.
+/// Records how far the text is coloured. Returns false if the text has reached its old state but the folds haven't:
+/// then the next stretch must not stop early again.
 bool IdleColouring::noteColoured(const StyledLines &styled, const FoldedLines &folded)
 {
     const auto drawn = m_engine.send(Sci::SCI_GETFOLDLEVEL, folded.nextLine) & Sci::SC_FOLDLEVELNUMBERMASK;
@@ -287,9 +290,9 @@ bool IdleColouring::noteColoured(const StyledLines &styled, const FoldedLines &f
     return mayStopEarly;
 }
 
-/// Gives a line its place in the folds. Where that changes while blocks are folded away, nothing may stay hidden below a
-/// line that isn't a block's beginning any more. (The engine could see to it itself, but would colour the whole block,
-/// which may be the whole text, whenever a beginning appears.)
+/// Sets the fold level of a line. If that changes while blocks are folded, nothing may stay hidden below a line that no
+/// longer begins a block. (The engine could do this itself, but would colour the whole block, possibly the whole text,
+/// whenever a new block begins.)
 void IdleColouring::setFold(qsizetype line, qsizetype level)
 {
     const bool changed = m_engine.send(Sci::SCI_GETFOLDLEVEL, line) != level;
@@ -308,7 +311,7 @@ void IdleColouring::setFold(qsizetype line, qsizetype level)
         m_engine.send(Sci::SCI_SHOWLINES, line, line);
 }
 
-/// What folding knows at the start of a line whose predecessor has been coloured.
+/// The fold state at the start of a line whose predecessor is coloured.
 FoldState IdleColouring::foldStateAt(qsizetype line) const
 {
     if (line == 0)
@@ -318,7 +321,7 @@ FoldState IdleColouring::foldStateAt(qsizetype line) const
     return {static_cast<int>(level), lastStyle == static_cast<int>(SyntaxStyle::Comment)};
 }
 
-/// Tells the engine where colours are missing from, so that it asks for them before it paints that part.
+/// Tells the engine from where on styles are missing, so that it requests them before it paints that part.
 void IdleColouring::markColoured()
 {
     m_engine.send(Sci::SCI_STARTSTYLING, m_engine.lineStart(nextLine()));

@@ -15,60 +15,61 @@
 
 namespace zephira {
 
-/// Colours the part of the text that is on the screen and no more. What can be done at once is done while the window is
-/// painted; behind a jump over a large distance the text comes first and the colours follow in small slices. After an edit
-/// only the lines are coloured again whose beginning finds another state than before.
+/// Colours the text only as far as it is shown. A small amount is coloured at once while the window is painted; after a
+/// long jump the text is shown first and the colours follow in small slices. After an edit only the lines whose start
+/// state has changed are coloured again.
 class IdleColouring : public QObject
 {
     Q_OBJECT
 public:
-    /// Hears of each line that was coloured: its 0-based number, its nesting depth and the next line's.
+    /// Called for each coloured line with its 0-based number, its nesting depth and that of the next line.
     using LineFolded = std::function<void(qsizetype line, int level, int nextLevel)>;
 
     explicit IdleColouring(SciEngine engine, QObject *parent = nullptr);
 
-    /// Colours by another language from now on, nullptr for none.
+    /// Sets the language to colour by, nullptr for none.
     void setLanguage(std::shared_ptr<const SyntaxEngine> language);
     void setLineFolded(LineFolded hearer) { m_lineFolded = std::move(hearer); }
 
-    /// To be called in front of every insertion and deletion.
+    /// To be called before every insertion and deletion, with its byte position.
     void beforeEdit(qsizetype position);
-    /// Forgets everything: the text has been replaced behind the colouring's back.
+    /// Resets everything after the whole text was replaced.
     void restart();
-    /// Colours up to the line that holds the position: at once if it isn't far, else in slices while the program is idle.
+    /// Colours up to the line that contains the byte position: at once if it is near, otherwise in slices while the
+    /// program is idle.
     void colourTo(qsizetype position);
     /// Colours the whole text now.
     void colourAll();
-    /// Whether a slice is still to come.
+    /// Whether another slice is scheduled.
     bool isPending() const { return m_timer.isActive(); }
-    /// Whether a line so long that its runs are broken was ever coloured.
+    /// Whether any line was coloured that is so long that its runs are broken up.
     bool hasLongLines() const { return m_hasLongLines; }
-    /// Bytes that have been coloured since the control was made, those coloured again included.
+    /// Number of bytes coloured since the control was created, counting repeated colouring.
     qint64 work() const { return m_work; }
 
 private:
-    /// Lines whose text has changed since they were coloured, by number, both ends included.
+    /// Range of lines (0-based, inclusive) whose text has changed since they were coloured.
     struct Dirty {
         qsizetype first = std::numeric_limits<qsizetype>::max();
         qsizetype last = -1;
         bool any() const { return last >= 0; }
     };
 
-    /// Whole lines of the text, from a 0-based line and its byte position on.
+    /// Whole lines of the text, starting at a 0-based line and its byte position.
     struct Stretch {
         qsizetype line = 0;
         qsizetype start = 0;
         QByteArrayView text;
     };
-    /// What came of styling a stretch: where its further lines begin, as offsets, and the states they begin with; how many
-    /// of its bytes have styles; and whether it stopped where the text had found its old state.
+    /// The result of styling a stretch: the offsets and states of its line starts after the first; the number of bytes
+    /// styled; and whether styling stopped because the text had reached its old state.
     struct StyledLines {
         std::vector<qsizetype> offsets;
         std::vector<LineState> states;
         qsizetype size = 0;
         bool stopped = false;
     };
-    /// The line behind those that were folded, and its nesting depth.
+    /// The line after those that were folded, and its nesting depth.
     struct FoldedLines {
         qsizetype nextLine = 0;
         int level = 0;
@@ -92,13 +93,13 @@ private:
     LineFolded m_lineFolded;
     QTimer m_timer;
     std::vector<unsigned char> m_styles;
-    /// The same where the text has long lines, with their runs broken.
+    /// The same for text with long lines, with their runs broken up.
     std::vector<unsigned char> m_brokenStyles;
     bool m_hasLongLines = false;
     Dirty m_dirty;
-    /// Lines in front of this one have been coloured; those of m_dirty await it again.
+    /// Lines before this one are coloured, except those in m_dirty.
     qsizetype m_colouredLines = 0;
-    /// An edit that has been announced: the line where it begins, and how many lines the text had before.
+    /// An announced edit: the line where it begins, and the number of lines before the edit.
     qsizetype m_editLine = -1;
     qsizetype m_linesBefore = 0;
     qsizetype m_wanted = 0;

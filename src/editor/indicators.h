@@ -3,7 +3,7 @@
 
 namespace zephira {
 
-/// The engine's numbers for what is drawn around stretches of text.
+/// The engine's indicator numbers used by the control.
 enum Indicator : int { BraceIndicator = 8, BoundsIndicator, StrikeIndicator, MatchIndicator };
 
 } // namespace zephira

@@ -22,7 +22,7 @@ void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles)
             isTwin = false;
         } else {
             const auto at = static_cast<qsizetype>(i);
-            // What is no plain letter may take its shape or its direction from what stands in front of the blank.
+            // The shape or direction of a non-ASCII character may depend on the text before the space.
             if (text[at - 1] == ' ' && text[at] != ' ' && isAscii(text[at]))
                 isTwin = !isTwin;
         }

@@ -7,24 +7,25 @@
 
 namespace zephira {
 
-// The engine measures a whole line before it shows any of it, piece by piece, and remembers the widths of short pieces
-// alone. A page that was squeezed into one line of megabytes has long pieces of text, each different. So the words of a
-// long line change between two styles that look the same: each is a piece of its own then, and its width is known.
+// The engine measures a whole line piece by piece before it shows any of it, and caches the widths of short pieces
+// only. A page minified into one line of megabytes contains long runs of text, each of them different. So the words of
+// a long line alternate between two styles that look the same: then each word is a piece of its own, and its width is
+// cached.
 
-/// Lines of more bytes than that are long.
+/// Lines of more bytes than this are long.
 constexpr qsizetype longLineBytes = 50'000;
 
-/// Styles from the first twin on look like the one that stands so far below them.
+/// A twin style looks like the style whose number is this much lower.
 constexpr int twinDistance = 64;
 
-/// The style that a style byte of the engine stands for.
+/// The style for a style byte of the engine, with a twin replaced by its original.
 constexpr int withoutTwin(int style)
 {
     return style >= twinDistance && style < 2 * twinDistance ? style - twinDistance : style;
 }
 
-/// Lets runs of one style change to its twin and back at blanks. The styles are one a byte of the text; those of 64 and more
-/// stay what they are, and so do letters that would join those beside them.
+/// Makes runs of one style alternate with its twin at spaces. There is one style per byte of the text. Styles of 64 and
+/// more are left unchanged, and the style doesn't alternate before characters that may join with those around them.
 void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles);
 
 } // namespace zephira

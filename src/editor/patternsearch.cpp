@@ -9,11 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How far back a backward search looks at first, in characters. It looks further where it finds nothing.
+/// How far a backward search looks back at first, in UTF-16 code units. It looks further if it finds nothing.
 constexpr qsizetype firstWindow = 16 * 1024;
 
-/// The searched text has line feeds for all line ends, so a carriage return in a pattern, with the line feed behind it,
-/// stands for one of these.
+/// The searched text has line feeds as line ends, so a carriage return in a pattern, with a line feed after it if there
+/// is one, is replaced by a line feed.
 QString withLineFeeds(const QString &pattern)
 {
     QString plain;
@@ -50,12 +50,13 @@ Result<PatternSearch> PatternSearch::make(const SearchRequest &request)
     if (!request.matchCase)
         options |= QRegularExpression::CaseInsensitiveOption;
     QRegularExpression expression(pattern, options);
-    // A word's marks would hide where a mistake stands, so the expression is looked at without them.
+    // The marks added for whole words would shift the position of an error, so the expression is also checked without
+    // them.
     const QRegularExpression asTyped(request.regularExpression ? request.pattern : QString(), options);
     const QRegularExpression &checked = asTyped.isValid() ? expression : asTyped;
     if (!checked.isValid()) {
         return Error{Error::Code::Malformed,
-                     u"The regular expression is wrong at character %1: %2."_s.arg(checked.patternErrorOffset() + 1)
+                     u"The regular expression is invalid at character %1: %2."_s.arg(checked.patternErrorOffset() + 1)
                          .arg(checked.errorString())};
     }
     return PatternSearch(expression, request.regularExpression);
@@ -80,7 +81,7 @@ std::optional<TextMatch> PatternSearch::previous(const QString &text, qsizetype 
 {
     const QStringView searched = QStringView(text).first(from);
     for (qsizetype window = firstWindow;; window *= 4) {
-        // Windows begin at a line's beginning, so that no match is cut in its line.
+        // Windows start at a line start, so that no match is cut within its line.
         qsizetype start = std::max(limit, from - window);
         if (start > limit)
             start = std::max(limit, text.lastIndexOf(u'\n', start - 1) + 1);

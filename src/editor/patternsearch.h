@@ -20,7 +20,7 @@ struct SearchRequest {
     friend bool operator==(const SearchRequest &, const SearchRequest &) = default;
 };
 
-/// A place in a text and what a replacement puts there. Offsets count UTF-16 code units from 0.
+/// A match and the text that replaces it. Offsets are 0-based and count UTF-16 code units.
 struct TextMatch {
     qsizetype start = 0;
     qsizetype end = 0;
@@ -29,21 +29,21 @@ struct TextMatch {
     friend bool operator==(const TextMatch &, const TextMatch &) = default;
 };
 
-/// Finds a pattern in a text whose lines end in line feeds. In a regular expression "^" and "$" mean each line's
-/// beginning and end, and a match may hold line feeds. Empty matches count; a search never stays at one.
+/// Finds a pattern in a text whose lines end in line feeds. In a regular expression "^" and "$" match at the beginning
+/// and end of each line, and a match may contain line feeds. Empty matches count; a search never gets stuck at one.
 class PatternSearch
 {
 public:
-    /// Fails with Code::Malformed, naming what is wrong with a regular expression and where.
+    /// Fails with Code::Malformed for an invalid regular expression, with the error and its position.
     static Result<PatternSearch> make(const SearchRequest &request);
 
-    /// The first match from `from` on that ends at or before `limit`.
+    /// The first match at or after `from` that ends at or before `limit`.
     std::optional<TextMatch> next(const QString &text, qsizetype from, qsizetype limit,
                                   const QString &replacement) const;
-    /// The last match that begins at or behind `limit` and ends at or before `from`.
+    /// The last match that begins at or after `limit` and ends at or before `from`.
     std::optional<TextMatch> previous(const QString &text, qsizetype from, qsizetype limit,
                                       const QString &replacement) const;
-    /// All matches from start to end, from left to right, none within another.
+    /// All non-overlapping matches from start to end, from left to right.
     std::vector<TextMatch> all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const;
 
 private:
@@ -56,11 +56,11 @@ private:
     bool m_groups;
 };
 
-/// A regular expression's replacement: "\0" to "\9" and "$0" to "$9" are the groups, "\n" and "\r\n" a line feed, "\t" a tab, "\\" and "\$" a backslash and a dollar sign;
-/// anything else stands for itself.
+/// Expands a replacement for a regular expression: "\0" to "\9" and "$0" to "$9" are the groups, "\n" and "\r\n" a line
+/// feed, "\t" a tab, "\\" and "\$" a backslash and a dollar sign; anything else is literal.
 QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match);
 
-/// The offset behind the character at `offset`.
+/// The offset after the character at `offset`, which may be a surrogate pair.
 qsizetype behindCharacter(const QString &text, qsizetype offset);
 
 } // namespace zephira

@@ -175,7 +175,7 @@ void PropertiesDialog::fillControls()
     showRow();
 }
 
-/// Shows the chosen item's colours and style.
+/// Shows the selected item's colours and style.
 void PropertiesDialog::showRow()
 {
     const AppearanceRow &shown = row();

@@ -19,8 +19,8 @@ namespace Ui {
 class PropertiesDialog;
 }
 
-/// The control's properties: colours, font, and how it edits. What is chosen shows in a small editor inside the dialog, and
-/// goes to the control with OK or Apply. Cancel gives the control back what it had when the dialog was opened.
+/// The control's properties: colours, font and editing options. Changes are previewed in a small editor inside the
+/// dialog and applied to the control with OK or Apply. Cancel restores what the control had when the dialog was opened.
 class PropertiesDialog : public QDialog
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     PropertiesDialog(CodeMax &editor, QWidget *owner);
     ~PropertiesDialog() override;
 
-    /// Takes the control's settings over and shows the dialog.
+    /// Loads the control's settings and shows the dialog.
     void bring();
     void accept() override;
     void reject() override;

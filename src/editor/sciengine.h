@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// The editor engine's messages, spoken with signed positions. Positions and lengths count bytes, lines count from 0.
+/// Sends messages to the editor engine, using signed positions. Positions and lengths are in bytes; lines are 0-based.
 class SciEngine
 {
 public:
@@ -18,7 +18,7 @@ public:
     {
         return m_view->SendScintilla(message, static_cast<unsigned long>(wParam), static_cast<long>(lParam));
     }
-    /// For messages that take a text with its length as the first parameter, or a name.
+    /// For messages that take a string, with its length or another value as the first parameter.
     qsizetype sendText(unsigned int message, qsizetype wParam, const char *text) const
     {
         return m_view->SendScintilla(message, static_cast<unsigned long>(wParam), text);
@@ -27,12 +27,12 @@ public:
     qsizetype length() const { return send(QsciScintillaBase::SCI_GETLENGTH); }
     qsizetype lineCount() const { return send(QsciScintillaBase::SCI_GETLINECOUNT); }
     qsizetype lineOf(qsizetype position) const { return send(QsciScintillaBase::SCI_LINEFROMPOSITION, position); }
-    /// A line behind the last one starts at the end of the text.
+    /// The start of a line; the end of the text for a line after the last one.
     qsizetype lineStart(qsizetype line) const
     {
         return line < lineCount() ? send(QsciScintillaBase::SCI_POSITIONFROMLINE, line) : length();
     }
-    /// In front of the line's own line end.
+    /// The end of a line, before its line end characters.
     qsizetype lineEnd(qsizetype line) const { return send(QsciScintillaBase::SCI_GETLINEENDPOSITION, line); }
     qsizetype caret() const { return send(QsciScintillaBase::SCI_GETCURRENTPOS); }
     qsizetype anchor() const { return send(QsciScintillaBase::SCI_GETANCHOR); }
@@ -50,7 +50,7 @@ public:
         return {reinterpret_cast<const char *>(address), end - start};
     }
 
-    /// Puts UTF-8 in the place of the bytes from start up to end, in one step that can be undone.
+    /// Replaces the bytes from start up to end with UTF-8, in one undo step.
     void replace(qsizetype start, qsizetype end, QByteArrayView utf8) const
     {
         send(QsciScintillaBase::SCI_BEGINUNDOACTION);

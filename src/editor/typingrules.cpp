@@ -32,7 +32,7 @@ bool isBlank(QByteArrayView text)
     return std::ranges::all_of(text, [](char c) { return c == ' ' || c == '\t'; });
 }
 
-/// What the Enter key puts at a line's end.
+/// The line end typed by the Enter key.
 QByteArray lineEndOf(const SciEngine &engine)
 {
     switch (engine.send(Sci::SCI_GETEOLMODE)) {
@@ -47,8 +47,8 @@ QByteArray lineEndOf(const SciEngine &engine)
 
 } // namespace
 
-/// The engine's own overtype caret is a line below the character. A block says more; so the engine overtypes only while it
-/// handles a key.
+/// The engine's own overtype caret is a line below the character. A block is easier to see, so the engine is in
+/// overtype mode only while it handles a key.
 void TypingRules::setOvertype(bool on)
 {
     m_overtype = on;
@@ -68,7 +68,7 @@ void TypingRules::type(const QKeyEvent &key, const std::function<void()> &engine
     m_engine.send(Sci::SCI_SETOVERTYPE, false);
 }
 
-/// A new line and its indentation go away in one step.
+/// One undo step removes both the new line and its indentation.
 void TypingRules::breakLine(const std::function<void()> &engineTypes) const
 {
     const bool readOnly = m_engine.send(Sci::SCI_GETREADONLY);
@@ -83,7 +83,7 @@ void TypingRules::breakLine(const std::function<void()> &engineTypes) const
     m_engine.send(Sci::SCI_ENDUNDOACTION);
 }
 
-/// Puts a line end at each caret; the engine would keep only one of them.
+/// Inserts a line end at each caret; the engine would keep only one caret.
 void TypingRules::breakLines() const
 {
     std::vector<std::pair<qsizetype, qsizetype>> ranges;
@@ -124,8 +124,8 @@ bool TypingRules::keepOneCaret() const
     return true;
 }
 
-/// Deletes what stands in front of the carets, or behind them. False where nothing but single code points would go, or
-/// something is selected: the engine does these by itself.
+/// Deletes the graphemes before or after the carets. Returns false if only single code points would be deleted or
+/// something is selected, which the engine handles by itself.
 bool TypingRules::eraseCharacters(bool backward) const
 {
     if (!m_engine.send(Sci::SCI_GETSELECTIONEMPTY) || m_engine.send(Sci::SCI_SELECTIONISRECTANGLE)
@@ -194,7 +194,7 @@ void TypingRules::settleCarets(const std::vector<qsizetype> &before) const
     }
 }
 
-/// Gives the line at the caret the indentation of the line above. One that holds nothing else loses its own.
+/// Indents the line at the caret like the line above, and clears the line above if it is blank.
 void TypingRules::indentNewLine() const
 {
     const qsizetype caret = m_engine.caret();
@@ -218,7 +218,7 @@ bool TypingRules::isLeftToWindow(const QKeyEvent &key)
     const Qt::KeyboardModifiers modifiers = keys.keyboardModifiers();
     if (isShortcutLike(QKeyCombination(modifiers & ~Qt::KeypadModifier, keys.key())))
         return true;
-    // Alt and a letter that no menu takes is no text either.
+    // Alt with a letter that isn't a menu's mnemonic types no text either.
     return modifiers & Qt::AltModifier && !(modifiers & Qt::ControlModifier) && !key.text().isEmpty();
 }
 

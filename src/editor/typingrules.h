@@ -13,8 +13,8 @@ class QKeyEvent;
 
 namespace zephira {
 
-/// What a key that runs no command does beyond what the editor engine makes of it: overtyping, and the new line's
-/// indentation.
+/// Handling of keys that run no command, in addition to the editor engine's: overtyping, the indentation of new lines,
+/// and moving and deleting by graphemes.
 class TypingRules
 {
 public:
@@ -26,25 +26,25 @@ public:
     bool overtype() const { return m_overtype; }
     void setOvertype(bool on);
 
-    /// Types a key. `engineTypes` gives the key to the engine; it is called once.
+    /// Types a key. `engineTypes` passes the key to the engine and is called once.
     void type(const QKeyEvent &key, const std::function<void()> &engineTypes) const;
 
-    /// Deletes what the user sees as the next character, or the selections.
+    /// Deletes the next grapheme, or the selections.
     void deleteForward() const;
-    /// Where the carets stand, to be asked in front of something that moves them.
+    /// The byte positions of the carets, to be passed to settleCarets() after they have moved.
     std::vector<qsizetype> carets() const;
-    /// Takes carets out of characters with accents and joined emoji: on in the direction in which they have moved from
-    /// where they were, and back to the character's beginning if that isn't known.
+    /// Moves carets out of the inside of graphemes: further in the direction in which they moved from `before`, or to
+    /// the beginning of the grapheme if that isn't known.
     void settleCarets(const std::vector<qsizetype> &before = {}) const;
-    /// Goes back from several carets, or a rectangle, to the one that was made last. False where there is only one.
+    /// Reduces several carets, or a rectangular selection, to the caret made last. Returns false if there is only one.
     bool keepOneCaret() const;
 
-    /// Whether the key types nothing and is the window's.
+    /// Whether the key types nothing and is left to the window.
     static bool isLeftToWindow(const QKeyEvent &key);
     /// Whether the key is Delete without Shift, Ctrl or Alt.
     static bool isPlainDelete(const QKeyEvent &key);
-    /// What a new line begins with below a line (UTF-8, without its end): the same blanks, and one step more behind an
-    /// opening brace.
+    /// The indentation of a new line below a line (UTF-8, without its line end): the same as above, and one level more
+    /// after an opening brace.
     static QByteArray indentBelow(QByteArrayView above, const EditorOptions &options);
 
 private:

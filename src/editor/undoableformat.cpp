@@ -12,7 +12,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// The engine's names for CR LF, LF and CR, in the order of LineEnds.
+/// The engine's constants for CR LF, LF and CR, in the order of LineEnds.
 constexpr std::array<qsizetype, 3> engineLineEnds{Sci::SC_EOL_CRLF, Sci::SC_EOL_LF, Sci::SC_EOL_CR};
 
 } // namespace

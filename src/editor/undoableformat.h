@@ -8,24 +8,24 @@
 
 namespace zephira {
 
-/// How the document stands in its file: encoding, byte order mark, line ends. The engine is told which line end the Enter
-/// key types; a change that undoing shall take back is put into the engine's undo history.
+/// How the document is stored in its file: encoding, byte order mark, line ends. Also sets the line end that the Enter
+/// key types in the engine. A change of format that can be undone is recorded in the engine's undo history.
 class UndoableFormat
 {
 public:
     explicit UndoableFormat(SciEngine engine);
 
     const TextFormat &current() const { return m_format; }
-    /// The format of another document; nothing of the one before can be undone any more.
+    /// Sets the format of another document; earlier changes can't be undone any more.
     void restart(const TextFormat &format);
-    /// A format that undoing doesn't touch, for a text that was stored in another encoding.
+    /// Sets the format without an undo step, after the text was stored in another encoding.
     void setStored(const TextFormat &format) { m_format = format; }
-    /// Goes over to the format of a text that begins anew. Undoing takes it back.
+    /// Switches to the format of a new text. This can be undone.
     void startAnew();
-    /// To be called when the engine undoes or redoes the change that it knows by this number; others are left alone.
+    /// To be called when the engine undoes or redoes the change with this number. Unknown numbers are ignored.
     void changeWasUndone(int number, bool undone);
 
-    /// The line end that the Enter key types: the text's own, of several kinds the most frequent.
+    /// The line end that the Enter key types: the one used in the text, or the most frequent one if they are mixed.
     LineEnds typedLineEnds() const;
 
 private:
@@ -38,7 +38,7 @@ private:
 
     SciEngine m_engine;
     TextFormat m_format;
-    /// By the number that the undo history knows them by.
+    /// Indexed by the number used in the undo history.
     std::vector<Change> m_changes;
 };
 

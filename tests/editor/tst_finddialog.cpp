@@ -118,11 +118,11 @@ private Q_SLOTS:
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{2, 1, 2, 3}));
         d.press(u"cmdFindNext"_s);
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{0, 0, 0, 2}));
-        QCOMPARE(d.outcome(), u"Went on from the beginning."_s);
+        QCOMPARE(d.outcome(), u"Continued from the beginning."_s);
         d.child<QRadioButton>(u"optUp"_s).click();
         d.press(u"cmdFindNext"_s);
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{2, 1, 2, 3}));
-        QCOMPARE(d.outcome(), u"Went on from the end."_s);
+        QCOMPARE(d.outcome(), u"Continued from the end."_s);
         QTest::keyClick(&f.editor, Qt::Key_F3, Qt::ShiftModifier);
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{0, 0, 0, 2}));
     }
@@ -319,7 +319,7 @@ private Q_SLOTS:
         d.check(u"chkRegularExpression"_s, true);
         d.find(u"(b"_s);
         d.press(u"cmdFindNext"_s);
-        QCOMPARE(d.outcome(), u"The regular expression is wrong at character 3: missing closing parenthesis."_s);
+        QCOMPARE(d.outcome(), u"The regular expression is invalid at character 3: missing closing parenthesis."_s);
         QCOMPARE(f.editor.selText(), QString());
     }
 

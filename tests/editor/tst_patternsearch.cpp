@@ -110,10 +110,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("sentence");
         QTest::newRow("parenthesis")
-            << u"a(b"_s << u"The regular expression is wrong at character 4: missing closing parenthesis."_s;
+            << u"a(b"_s << u"The regular expression is invalid at character 4: missing closing parenthesis."_s;
         QTest::newRow("star")
             << u"*"_s
-            << u"The regular expression is wrong at character 1: quantifier does not follow a repeatable item."_s;
+            << u"The regular expression is invalid at character 1: quantifier does not follow a repeatable item."_s;
     }
     void wrongExpressionsSayWhere()
     {
