@@ -6,9 +6,9 @@
 
 namespace zephira {
 
-/// The window's common file dialog `CM`. Its file name is the second holder of the document's path: it is set at every
-/// open, emptied for a new document, and a cancelled dialog leaves it as it was. Title, filter and folder stay from one
-/// showing to the next.
+/// The window's common file dialog `CM`. Its file name is a second copy of the document's path: it is set whenever a
+/// file is opened, cleared for a new document, and unchanged by a cancelled dialog. Title, filter and folder are kept
+/// from one use to the next.
 class CommonDialog : public QObject
 {
     Q_OBJECT

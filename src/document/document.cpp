@@ -46,7 +46,7 @@ bool Document::mayGoOn(PromptIcon icon)
     if (!m_modified)
         return true;
     const Answer answer = askToSave(icon);
-    // Whatever comes of the save, the command goes on, and the text gives way to another one.
+    // The command continues even if the save fails, and the text is replaced by another one.
     if (answer == Answer::Yes && !doSave())
         m_window.keepUnsavedText();
     return answer != Answer::Cancel;
@@ -91,7 +91,7 @@ void Document::doNew()
     m_window.selectCodeTab();
 }
 
-/// The text has no file.
+/// Makes the document a new one, without a file.
 void Document::becomeNew()
 {
     m_hasFile = false;
@@ -130,14 +130,14 @@ void Document::chooseLanguage(const QString &fileName)
         m_context.editor.setLanguage(choice->editorLanguage);
 }
 
-/// Makes `path` the document's file. The text is on disk under that name now.
+/// Makes `path`, under which the text is on disk now, the document's file.
 void Document::adopt(const QString &path)
 {
     setModified(false);
     m_hasFile = true;
     m_path = path;
     m_title = path;
-    // A copy that was made for the preview and is the document now is nobody's to delete.
+    // A preview copy that has become the document must not be deleted.
     if (path == m_previewTarget)
         m_previewTarget.clear();
     m_window.setCaption(u"Zephira - ["_s + path + u']');
@@ -145,8 +145,8 @@ void Document::adopt(const QString &path)
     m_window.documentSettled();
 }
 
-/// Reads the file into the editing control where that succeeds; a failure is only noted, since the caller's fields are
-/// set all the same. A file that is refused for its size is told.
+/// Reads the file into the editing control. A failure only shows a notice, or a message box if the file is too large,
+/// because the caller sets the document's fields in any case.
 void Document::readInto(const QString &path)
 {
     const Result<void> opened = m_context.editor.openFile(path);
@@ -310,7 +310,7 @@ bool Document::openDropped(const QString &path)
         tellError(m_context.prompts, opened.error());
         return false;
     }
-    // A designer that is in front would go on with the page from before, and carry that back over the new one.
+    // If the designer stayed in front, it would keep the previous page and later write it over the new text.
     if (m_context.designer.isShowing())
         m_window.selectCodeTab();
     m_dialog.fileName = path;
@@ -356,7 +356,7 @@ void Document::revert()
          Question::Buttons::YesNo});
     if (answer != Answer::Yes)
         return;
-    // Loading raises the change event; the flag is to stay what it was.
+    // Loading raises the change event, but the flag must not change.
     const bool modified = m_modified;
     if (const Result<void> opened = m_context.editor.openFile(m_dialog.fileName); !opened)
         tellError(m_context.prompts, opened.error());
@@ -376,7 +376,7 @@ void Document::saveAsTemplate()
         return;
     }
     if (fileTitleOf(answer) != answer) {
-        m_context.prompts.tell(u"A template's name can't hold a folder: %1"_s.arg(answer), {},
+        m_context.prompts.tell(u"A template's name can't contain a folder: %1"_s.arg(answer), {},
                                Question::Icon::Exclamation);
         return;
     }

@@ -10,8 +10,8 @@
 
 namespace zephira {
 
-/// The window's one document: its four fields, the commands that create, open and save it, and the prompts that protect
-/// changes. The text itself lives in the editing control.
+/// The window's document: its fields, the commands that create, open and save it, and the prompts that protect changes.
+/// The text itself is in the editing control.
 class Document
 {
 public:
@@ -19,7 +19,7 @@ public:
 
     bool docModified() const { return m_modified; }
     bool docHasFile() const { return m_hasFile; }
-    /// "New Document" for a new one, else the full path; empty until a document exists.
+    /// "New Document" for a new one, otherwise the full path; empty until a document exists.
     QString docTitle() const { return m_title; }
     /// The full path, empty for a new document.
     QString docPath() const { return m_path; }
@@ -27,7 +27,7 @@ public:
     QString previewTarget() const { return m_previewTarget; }
 
     void setModified(bool modified);
-    /// A copy that was made for another preview goes, since nobody would know of it any more.
+    /// Deletes the file of the previous preview, because nothing would refer to it any more.
     void setPreviewTarget(const QString &target);
 
     /// The editing control raised its change event.
@@ -37,14 +37,14 @@ public:
     /// Returns whether the document is on disk now; false if the user cancelled or the save failed.
     bool doSave();
     bool DoSaveAs();
-    /// Opens the file that is selected in the file pane: as the document, as a link to an image, or in the quick view.
+    /// Opens the file selected in the file pane: as the document, as a link to an image, or in the quick view.
     void OpenAFile();
-    /// The same for any file, such as one that was dropped on the window.
+    /// The same for any file, such as one dropped on the window.
     void openFileOrImage(const QString &path);
-    /// Makes any file the document, whatever its name says, and leaves visual mode; the language stays what it is. Returns
-    /// false if the user chose to stay, or if the file can't be read, which is told.
+    /// Opens a file as the document, whatever its extension, and leaves visual mode; the language is not changed.
+    /// Returns false if the user cancelled, or if the file can't be read, which is reported.
     bool openDropped(const QString &path);
-    /// Chooses the language by the common dialog's file name.
+    /// Sets the language by the common dialog's file name.
     void SetSyntax();
 
     void newDocument();
@@ -55,33 +55,33 @@ public:
     void saveAsTemplate();
     void print();
     void clearClipboard();
-    /// Goes back to the file on disk, in the code view and the designer; asks first.
+    /// Reloads the file from disk into the code view and the designer, after asking.
     void revert();
     /// Opens the file of the command line. Errors are ignored.
     void openAtStart(const QString &path);
 
-    /// Opens a recovery copy as a changed text without a file. `name` is that of the file it was made of, which chooses
-    /// the language. Asks about changes first; a copy that can't be read is told.
+    /// Opens a recovery copy as a modified document without a file. `name` is the name of the original file and
+    /// determines the language. Asks about unsaved changes first; reports a copy that can't be read.
     void openRecovered(const QString &copy, const QString &name);
 
-    /// Before the window closes: asks about changes, also about those that only the designer holds. Returns false if the
-    /// user refused.
+    /// Called before the window closes: asks about unsaved changes, including those still in the designer. Returns
+    /// false if the user cancelled.
     bool askToClose();
-    /// Whether the user wanted the text saved at the last askToClose() and it isn't.
+    /// Whether the user chose to save at the last askToClose() and the save failed.
     bool saveFailedAtClose() const { return m_saveFailedAtClose; }
 
-    /// Whether something was changed in the designer that hasn't come back to the text yet.
+    /// Whether the designer has changes that haven't been carried back to the text yet.
     bool holdsDesignersWork() const;
     /// Carries the designer's text back into the code view, if it is showing and dirty.
     void flushDesigner();
-    /// Deletes the temporary preview file; an address that ends in ".asp" is spared.
+    /// Deletes the temporary preview file, but not one that ends in ".asp".
     void discardPreview();
 
 private:
     enum class PromptIcon { Shown, Hidden };
 
     Answer askToSave(PromptIcon icon);
-    /// The save prompt where there are changes; false if the user chose to stay.
+    /// Shows the save prompt if there are changes; false if the user cancelled.
     bool mayGoOn(PromptIcon icon);
     void becomeNew();
     void chooseLanguage(const QString &fileName);

@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// What the document asks of the window that shows it.
+/// The document's interface to the window that shows it.
 class DocumentWindow
 {
 public:
@@ -18,24 +18,24 @@ public:
     /// Panels 9 and 10 of the status bar.
     virtual void setCountPanel(int characters) = 0;
     virtual void setPathPanel(const QString &text) = 0;
-    /// Whether the text differs from its file, to be seen at the path.
+    /// Shows next to the path whether the text differs from its file.
     virtual void showModified(bool modified) = 0;
-    /// Says something that went wrong without stopping the user.
+    /// Reports a problem without interrupting the user.
     virtual void notice(const QString &sentence) = 0;
-    /// Selects the first tab of the workspace, which runs the change of view.
+    /// Selects the first tab of the workspace, which switches to the code view.
     virtual void selectCodeTab() = 0;
-    /// The text is in its file now, or isn't wanted any more: no recovery copy is needed.
+    /// The text was saved or discarded: no recovery copy is needed.
     virtual void documentSettled() = 0;
-    /// The text was to be saved, which failed, and is about to be replaced: keeps it as a recovery copy that stays.
+    /// The text could not be saved and is about to be replaced: keeps it as a permanent recovery copy.
     virtual void keepUnsavedText() = 0;
     virtual void showTemplateChooser() = 0;
 
-    /// The file pane: the selected item's text, or empty; and the folder that is listed.
+    /// The file pane: the text of the selected item, or empty; and the listed folder.
     virtual QString listedFile() const = 0;
     virtual QString listedFolder() const = 0;
-    /// Selects the file in the file pane where its folder is listed.
+    /// Selects the file in the file pane if its folder is listed there.
     virtual void selectListedFile(const QString &path) = 0;
-    /// Width and height of a picture in pixels. Fails for a file that isn't one, or is too large to show.
+    /// Width and height of a picture in pixels. Fails if the file isn't a picture or is too large to show.
     virtual Result<QSize> pictureSize(const QString &path) const = 0;
     virtual Result<void> showPicture(const QString &path) = 0;
 };

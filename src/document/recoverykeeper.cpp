@@ -35,7 +35,7 @@ void RecoveryKeeper::textChanged()
 
 void RecoveryKeeper::due()
 {
-    // A text that was saved in the meantime, or loaded and not changed, needs no copy.
+    // A text that was saved meanwhile, or loaded and not changed, needs no copy.
     if (m_document.docModified() || m_document.holdsDesignersWork())
         writeNow();
     else

@@ -15,8 +15,8 @@ class Document;
 class EditingControl;
 class RecoveryCopies;
 
-/// Keeps a recovery copy of the modified document on disk, or of what visual mode has made of it. It is driven by change
-/// events and never by polling, and writes at most 15 seconds after a change.
+/// Keeps a recovery copy of the modified document, or of its state in visual mode, on disk. It is driven by change
+/// events instead of polling, and writes at most 15 seconds after a change.
 class RecoveryKeeper : public QObject
 {
     Q_OBJECT
@@ -24,13 +24,13 @@ class RecoveryKeeper : public QObject
 public:
     RecoveryKeeper(RecoveryCopies &copies, const EditingControl &editor, Designer &designer, const Document &document);
 
-    /// The editing control raised its change event, or something happened in the designer that may be a change.
+    /// The editing control raised its change event, or the page in the designer may have changed.
     void textChanged();
-    /// The document was saved, or its text isn't wanted any more.
+    /// The document was saved or discarded.
     void discard();
-    /// Writes the copy at once, in place of the one before.
+    /// Writes the copy at once, replacing the previous one.
     void writeNow();
-    /// Writes a copy that no later discard() removes.
+    /// Writes a copy that discard() doesn't remove.
     void keepForGood();
 
 private:

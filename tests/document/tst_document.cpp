@@ -571,7 +571,7 @@ private Q_SLOTS:
         QVERIFY(bench.document.docModified());
         QVERIFY(!bench.document.docHasFile());
         bench.fakes.prompts.expectInput(request, u"../my.html"_s);
-        bench.fakes.prompts.expectTell(u"A template's name can't hold a folder: ../my.html"_s, {},
+        bench.fakes.prompts.expectTell(u"A template's name can't contain a folder: ../my.html"_s, {},
                                        Question::Icon::Exclamation);
         bench.document.saveAsTemplate();
     }
