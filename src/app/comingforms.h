@@ -5,7 +5,7 @@ namespace zephira {
 
 class FormCatalogue;
 
-/// Announces every form that a command names and that isn't written yet.
+/// Announces every form that a command opens and that isn't implemented yet.
 void announceComingForms(FormCatalogue &catalogue);
 
 } // namespace zephira

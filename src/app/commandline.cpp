@@ -13,10 +13,10 @@ std::optional<QString> informationFor(const QString &argument)
         return u"Usage: zephira [FILE | /nodialog | --help | --version]\n"
                u"Zephira is a source editor for people who write web pages.\n"
                u"\n"
-               u"  FILE        opens the file; several words are taken as one name with blanks\n"
+               u"  FILE        opens the file; several words are joined by spaces into one name\n"
                u"  /nodialog   starts with an empty document, without the tip and the start dialog\n"
-               u"  --help      prints this text and ends\n"
-               u"  --version   prints the version and ends\n"_s;
+               u"  --help      prints this text and exits\n"
+               u"  --version   prints the version and exits\n"_s;
     }
     return std::nullopt;
 }

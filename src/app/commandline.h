@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// What "--help" and "--version", exactly these words, print before the program ends; nothing for any other argument
-/// string, which is then the start's.
+/// The text that the program prints before it exits if the argument is exactly "--help" or "--version"; nothing for any
+/// other argument, with which the program starts normally.
 std::optional<QString> informationFor(const QString &argument);
 
 } // namespace zephira

@@ -21,7 +21,7 @@ DocumentControls::DocumentControls(const CommonDialog &dialog, FilePane &files, 
     for (const LanguageRow &row : languageRows())
         m_languages->addItem(row.text.toString());
     connect(m_languages, &QComboBox::currentIndexChanged, this, &DocumentControls::languageSet);
-    // Choosing the row that is selected already runs the handler too.
+    // Choosing the row that is already selected runs the handler too.
     connect(m_languages, &QComboBox::activated, this, &DocumentControls::languageSet);
 }
 
@@ -38,7 +38,7 @@ QString DocumentControls::languageText() const
 void DocumentControls::setLanguageRow(int row)
 {
     if (row == m_languages->currentIndex())
-        Q_EMIT languageSet(row); // The handler runs at each setting, also of the same row.
+        Q_EMIT languageSet(row); // The handler runs even if the row doesn't change.
     else
         m_languages->setCurrentIndex(row);
 }

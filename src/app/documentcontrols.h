@@ -12,13 +12,13 @@ namespace zephira {
 class CommonDialog;
 class FilePane;
 
-/// The controls that say in which language the document is and to which project it belongs.
+/// The controls that show the document's language and project folder.
 class DocumentControls final : public QObject, public DocumentHost
 {
     Q_OBJECT
 
 public:
-    /// Makes the language list `cboLang` for whoever takes it into a layout.
+    /// Creates the language list `cboLang`, which the caller adds to a layout.
     DocumentControls(const CommonDialog &dialog, FilePane &files, QObject *owner);
 
     QComboBox *languages() const { return m_languages; }
@@ -32,7 +32,7 @@ public:
     QString commonDialogFile() const override;
 
 Q_SIGNALS:
-    /// A row was set or chosen, also the one that was selected already.
+    /// A row was set or chosen, even if it was already selected.
     void languageSet(int row);
 
 private:

@@ -88,7 +88,7 @@ void DocumentSurface::selectListedFile(const QString &path)
 
 Result<QSize> DocumentSurface::pictureSize(const QString &path) const
 {
-    // Read whole, because a picture that is cut short has a size all the same.
+    // Decoded completely, because a truncated picture also has a size.
     const Result<QPixmap> picture = readPicture(m_parts.store, path);
     return picture ? Result<QSize>(picture.value().size()) : picture.error();
 }

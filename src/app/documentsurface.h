@@ -14,7 +14,7 @@ class RecoveryKeeper;
 class StatusPanels;
 class ViewTabs;
 
-/// Where the document shows itself: caption, status bar, tabs, file list and quick view.
+/// The parts of the window that show the document: caption, status bar, tabs, file list and quick view.
 class DocumentSurface final : public DocumentWindow
 {
 public:
@@ -27,7 +27,8 @@ public:
     };
 
     explicit DocumentSurface(const Parts &parts) : m_parts(parts) {}
-    /// Views and recovery stand on the document, which stands on this: they come before the document's first use.
+    /// Sets the views and the recovery keeper, which depend on the document and so are created later; to be called
+    /// before the document is first used.
     void attach(ViewTabs &views, RecoveryKeeper &recovery);
 
     // DocumentWindow

@@ -21,7 +21,7 @@ void addDocumentTree(SidePane &pane, CodeMax &editor, DocumentWindow &window)
         if (selectTag(editor, tagText, position))
             editor.setFocus();
         else
-            window.notice(u"The text doesn't have this tag any more."_s);
+            window.notice(u"This tag is no longer in the text."_s);
     });
 }
 

@@ -7,8 +7,8 @@ class CodeMax;
 class DocumentWindow;
 class SidePane;
 
-/// Gives the side pane its document tree: made anew from the text at each click on its tab, and a way from its leaves to
-/// their tags in the text. All three outlive the tree, which belongs to the pane.
+/// Adds the document tree to the side pane. It is rebuilt from the text at each click on its tab, and its leaves lead
+/// to their tags in the text. The pane owns the tree; all three arguments must outlive it.
 void addDocumentTree(SidePane &pane, CodeMax &editor, DocumentWindow &window);
 
 } // namespace zephira

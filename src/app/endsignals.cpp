@@ -14,13 +14,13 @@ namespace zephira {
 
 namespace {
 
-/// What the system calls at a signal knows nothing but what is here: the end of the pipe to write to.
+/// The write end of the pipe, the only state that the signal handler uses.
 std::atomic<int> writeEnd{-1};
 static_assert(std::atomic<int>::is_always_lock_free);
 
 constexpr int endings[] = {SIGTERM, SIGHUP, SIGINT};
 
-/// Runs between any two instructions of the program, so that it does next to nothing.
+/// The signal handler: may interrupt the program anywhere, so it does only what is safe then.
 void tell(int)
 {
     const int error = errno;
@@ -35,7 +35,7 @@ EndSignals::EndSignals(QObject *owner) : QObject(owner)
 {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
-        return; // The signals end the process as they always did.
+        return; // The signals keep their default effect.
     m_readEnd = ends[0];
     writeEnd = ends[1];
     auto *notifier = new QSocketNotifier(m_readEnd, QSocketNotifier::Read, this);
@@ -49,7 +49,7 @@ EndSignals::EndSignals(QObject *owner) : QObject(owner)
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     for (const int number : endings) {
         struct sigaction before = {};
-        // Who starts a program that is to outlive its terminal has it ignore the hang-up.
+        // A signal that is ignored from the start stays ignored, for example SIGHUP under nohup.
         if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
             sigaction(number, &action, nullptr);
     }

@@ -5,8 +5,9 @@
 
 namespace zephira {
 
-/// Tells in the event loop that the system asks the process to end: by SIGTERM, SIGHUP or SIGINT. The first of each kind
-/// is told, a second one ends the process as if nobody listened. One process has one of these.
+/// Reports in the event loop that the process is asked to end by SIGTERM, SIGHUP or SIGINT. The first signal of each
+/// kind is reported; a second one has its default effect and ends the process. Only one instance may exist in a
+/// process.
 class EndSignals final : public QObject
 {
     Q_OBJECT

@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// Tells why the program can't start, on the terminal and in a message box, and returns the exit status 1. The box closes
-/// by itself after a while, so that a start that nobody watches ends too.
+/// Reports why the program can't start, on the terminal and in a message box, and returns the exit status 1. The box
+/// closes by itself after a while, so that an unattended start ends too.
 int tellFailedStart(const QString &sentence);
 
 } // namespace zephira

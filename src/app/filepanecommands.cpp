@@ -63,7 +63,7 @@ void FilePaneCommands::insertLink()
     const QString name = m_parts.pane.selectedFile();
     if (name.isEmpty())
         return;
-    // Without a project path there is nothing from which a link could be counted.
+    // Without a project path there is no base for a relative link.
     tellingErrors(m_context.prompts, u"frmmain"_s, u"mnuinslink_Click"_s, {[&] {
                       const QString path = withSeparator(m_parts.pane.fileList().path()) + name;
                       const QString link = MakeRelativePath(m_parts.pane.projectPath(), path);

@@ -16,8 +16,8 @@ class Menus;
 class ModalFormOpener;
 class SideTabBar;
 
-/// What the file manager does with the document: a double click opens a file, the list's menu shows one, links to one or
-/// changes the filters, and a file dropped on the side pane's strip becomes the document.
+/// The file pane's commands: a double click opens a file; the list's menu shows a file, inserts a link to it, or
+/// changes the filters; a file dropped on the side pane's tab bar is opened as the document.
 class FilePaneCommands final : public QObject, public FileListCommands
 {
 public:

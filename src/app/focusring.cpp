@@ -32,7 +32,7 @@ void FocusRing::walk(bool backward)
     const auto here = std::ranges::find_if(
         m_parts, [focus](const Part &part) { return focus && (part.area == focus || part.area->isAncestorOf(focus)); });
     const size_t count = m_parts.size();
-    // From nowhere the walk begins at an end.
+    // If no part has the focus, start at an end.
     size_t at = here != m_parts.end() ? static_cast<size_t>(here - m_parts.begin()) : backward ? 0 : count - 1;
     for (size_t tries = 0; tries < count; ++tries) {
         at = (at + (backward ? count - 1 : 1)) % count;
@@ -48,7 +48,7 @@ void FocusRing::walk(bool backward)
     }
 }
 
-/// The area itself, or the first control inside that the Tab key would reach.
+/// The area itself, or the first control inside it that takes focus by the Tab key.
 QWidget *FocusRing::firstControl(QWidget &area)
 {
     if (takesFocus(area))

@@ -11,8 +11,8 @@ class QWidget;
 
 namespace zephira {
 
-/// Ctrl+F6 takes the keyboard from one part of the window to the next, Shift+Ctrl+F6 back. It is the way out of the text,
-/// which keeps the Tab key to itself.
+/// Ctrl+F6 moves the focus from one part of the window to the next, Shift+Ctrl+F6 to the previous one. It is the way to
+/// leave the code view, which uses the Tab key itself.
 class FocusRing : public QObject
 {
     Q_OBJECT
@@ -20,15 +20,14 @@ class FocusRing : public QObject
 public:
     struct Part {
         QWidget *area = nullptr;
-        /// Gives the keyboard to the part; without it the first control inside that takes it gets it.
+        /// Focuses the part. If it is empty, the first control in the area that takes focus gets it.
         std::function<void()> enter = {};
     };
 
-    /// @param window  the keys work in this window
-    /// @param parts   in the order of the walk; each outlives the ring
+    /// @param window  the window in which the keys work @param parts   in focus order; all must outlive the ring
     FocusRing(QWidget &window, std::vector<Part> parts);
 
-    /// Goes to the next part that can take the keyboard, or to the one before.
+    /// Focuses the next or previous part that can take focus.
     void walk(bool backward);
 
 private:

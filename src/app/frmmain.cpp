@@ -61,7 +61,7 @@ void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)
         bar.setTabToolTip(index, tab.tip.toString());
         bar.setAccessibleTabName(index, tab.tip.toString());
     }
-    bar.updateGeometry(); // A bar that does not show yet keeps its new size to itself.
+    bar.updateGeometry(); // A hidden bar doesn't report its new size by itself.
 }
 
 } // namespace
@@ -91,7 +91,7 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
 
 frmmain::~frmmain() = default;
 
-/// The document and what it stands on.
+/// Creates the document and what it depends on.
 void frmmain::buildDocument()
 {
     m_rt = new CodeMax({m_services.files, m_services.recovery, m_services.prompts}, this);
@@ -155,7 +155,7 @@ void frmmain::buildSidePane()
     m_sidePane->setPage(u"fileman"_s, m_filePane);
     m_sideLists = std::make_unique<SideLists>(*m_context, *m_menus, *m_sidePane);
     addDocumentTree(*m_sidePane, *m_rt, *m_surface);
-    // On a low screen what stands in the pane and in the views gives way, so that the status bar stays on it.
+    // On a low screen the pane and the views shrink, so that the status bar stays visible.
     m_sidePane->setMinimumHeight(lowestPane);
     m_ui->views->setMinimumHeight(lowestView);
     m_ui->mainSplitter->setSizes({sidePaneWidth, width() - sidePaneWidth});
@@ -180,7 +180,7 @@ void frmmain::buildWorkspace()
     });
 }
 
-/// The commands and the parts that they work on.
+/// Creates the commands and the parts that they work on.
 void frmmain::buildCommands()
 {
     m_filePaneCommands = new FilePaneCommands(
@@ -193,7 +193,7 @@ void frmmain::buildCommands()
                                                      *m_filePaneCommands, *m_end, m_visualTools->tools()});
 }
 
-/// What earlier programs could not save is told of above the text, and nowhere else.
+/// Offers unsaved texts of earlier runs in a bar above the text.
 void frmmain::offerLeftCopies()
 {
     connect(m_recoveryBar, &RecoveryBar::showWanted, this,
@@ -223,7 +223,7 @@ void frmmain::connectEditor()
     connect(m_rt, &CodeMax::SelChange, this, &frmmain::selectionChanged);
     connect(m_rt, &CodeMax::CaretLineChosen, this, [this](bool on, bool *handled) {
         *handled = true;
-        // The menu's entry is the program's own switch for it.
+        // The program switches this with its menu entry.
         QAction *entry = findChild<QAction *>(u"highlightlines"_s);
         if (entry && m_menus->isChecked(u"highlightlines") != on)
             entry->trigger();
@@ -283,7 +283,7 @@ void frmmain::languageSet(int row)
         return;
     const LanguageRow &language = languageRows()[size_t(row)];
     m_formattingBar->setMarkupOpen(language.markupTools);
-    // In visual mode the menu stays closed, since it writes into the source. Its entry in the menu bar follows.
+    // In visual mode the menu stays disabled, because it inserts into the source. Its entry in the menu bar follows.
     m_menus->menu(u"Tags"_s)->setEnabled(language.markupTools && !m_designer.isShowing());
     m_rt->setLanguage(QStringView(language.editorLanguage).toString());
 }
@@ -343,7 +343,7 @@ void frmmain::dropEvent(QDropEvent *event)
     if (path.isEmpty())
         return;
     event->acceptProposedAction();
-    // The designer's work belongs to the page from before, so that it goes back to that one first.
+    // Changes in the designer belong to the current page, so they are carried back before another one is opened.
     m_document->flushDesigner();
     m_document->openFileOrImage(path);
     m_surface->selectCodeTab();

@@ -41,8 +41,8 @@ namespace Ui {
 class frmmain;
 }
 
-/// The main window: one document under its menus, toolbars, panes and views. The window makes the parts and connects
-/// them; what they do is theirs.
+/// The main window: one document with menus, toolbars, panes and views. The window creates and connects the parts,
+/// which do the actual work.
 class frmmain : public QMainWindow
 {
     Q_OBJECT
@@ -82,29 +82,29 @@ public:
     int whitespaceMode() const { return m_state.modes.whitespace; }
     int selBoundsMode() const { return m_state.modes.selBounds; }
 
-    // The document's operations by name; Document tells what they do.
+    // The document's operations that are called by name; see Document.
     Q_INVOKABLE void doNew() { m_document->doNew(); }
     Q_INVOKABLE bool doSave() { return m_document->doSave(); }
     Q_INVOKABLE bool DoSaveAs() { return m_document->DoSaveAs(); }
     Q_INVOKABLE void OpenAFile() { m_document->OpenAFile(); }
     Q_INVOKABLE void SetSyntax() { m_document->SetSyntax(); }
     Q_INVOKABLE bool FileExists(const QString &path) const;
-    /// The one way for text into the document: see Inserter.
+    /// Inserts text into the document; see Inserter.
     Q_INVOKABLE void InsertAtCaret(const QString &text);
 
     const WindowState &state() const { return m_state; }
-    /// Notes that a step of the start begins.
+    /// Records that a step of the start begins.
     void noteStartStep(const QString &name) { m_state.startSteps.append(name); }
     void setRootSelect(bool on) { m_state.rootSelect = on; }
     void setDisplayModes(const DisplayModes &modes) { m_state.modes = modes; }
-    /// 1: the caret's line is drawn in the highlight colour from the next selection change on; 0: it isn't.
+    /// 1: the caret's line is highlighted from the next selection change on; 0: it isn't.
     void setHighlightMode(int mode) { m_state.modes.highlight = mode; }
     void setColours(const ColourTable &colours) { m_state.colours = colours; }
     void setSelection(const CodeMaxRange &range) { m_state.selection = range; }
-    /// Panels 2 and 4: the selection's end line, and the line count.
+    /// Updates status bar panels 2 and 4: the selection's end line and the line count.
     void showLinePanels();
 
-    // The parts, for the start that fills them and the end that puts them away.
+    // The parts, for the code that runs at start and end.
     const WindowServices &services() const { return m_services; }
     const AppContext &context() const { return *m_context; }
     Document &document() { return *m_document; }

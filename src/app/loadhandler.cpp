@@ -35,13 +35,13 @@ namespace zephira {
 
 namespace {
 
-/// Commands of the editing control whose keys the menus want, in the order in which they lose them.
+/// Commands of the editing control whose keys are needed for menus, in the order in which they are unregistered.
 constexpr EditorCommand commandsWithoutKeys[] = {
     EditorCommand::TransposeLines, EditorCommand::CutByOldKey,  EditorCommand::SelectWord, EditorCommand::FindNextByKey,
     EditorCommand::FindByKey,      EditorCommand::ReplaceByKey, EditorCommand::GoToByKey,
 };
 
-/// Sizes in points at which a text can be read, or shown to a hall.
+/// Limits of the font size in points: barely readable, and large enough for a presentation.
 constexpr double smallestFont = 4;
 constexpr double largestFont = 144;
 
@@ -92,7 +92,7 @@ int LoadHandler::number(Setting setting) const
     return requiredNumber(services.configuration, setting, services.iniFile);
 }
 
-/// The lines of a list of the installation, without which the program can't start.
+/// The lines of an installed list without which the program can't start.
 QStringList LoadHandler::dataLines(const QString &name) const
 {
     const Result<QStringList> lines =
@@ -249,7 +249,7 @@ void LoadHandler::openArgument()
 {
     const QString argument = m_argument;
     if (startArgument(argument) == StartArgument::File) {
-        // The long form of a path that isn't there is empty; with an empty name nothing is opened.
+        // A path that doesn't exist becomes empty, and then nothing is opened.
         const QFileInfo file(argument);
         const QString path = file.exists() ? file.absoluteFilePath() : QString();
         m_window.context().document.setProjectPath(folderOf(path));

@@ -10,14 +10,14 @@ namespace zephira {
 class CodeMaxGlobals;
 class frmmain;
 
-/// Everything that initialises the main window before it shows, in a fixed order of named steps. A step that fails raises
+/// Initialises the main window before it is shown, in a fixed order of named steps. A step that fails raises
 /// HandlerError, which ends the start.
 class LoadHandler
 {
 public:
     LoadHandler(frmmain &window, const QString &argument);
 
-    /// Runs all steps, noting each one's name in the window's list as it begins.
+    /// Runs all steps, recording the name of each in the window's list as it begins.
     void run();
 
 private:

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
-    // A file that outgrows the system's limit is an error of its save, and not the end of the program.
+    // Exceeding the file size limit makes a save fail instead of ending the program.
     std::signal(SIGXFSZ, SIG_IGN);
 
     QStringList words;

@@ -54,25 +54,25 @@ QString dataHome()
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
 }
 
-/// Where a package puts the data that never changes, counted from the executable in …/bin.
+/// Where a package installs read-only data, relative to the executable in …/bin.
 QString installedData()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/zephira"_s);
 }
 
-/// A module lies beside the executable.
+/// Modules are in the executable's folder.
 QString modulePath(const QString &name)
 {
     return QCoreApplication::applicationDirPath() + u'/' + name;
 }
 
-/// The folder of the recovery copies, beside the per-user settings.
+/// The folder of the recovery copies, next to the per-user settings.
 QString recoveryFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Zephira/recovery"_s;
 }
 
-/// Where the pictures of icons are kept from one run to the next.
+/// The file that caches icon pictures between runs.
 QString iconFile()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + u"/zephira/icons"_s;
@@ -84,7 +84,7 @@ int runProgram(QApplication &application, const QString &argument)
 {
     DiskFileStore files;
     KeptPictures pictures(files, iconFile(), QCoreApplication::applicationFilePath());
-    // The style takes leave later than the pictures.
+    // The style is destroyed after the pictures.
     const QPointer<IconStates> style = new IconStates;
     style->setPictures(&pictures);
     const auto takeBack = qScopeGuard([style] {
@@ -160,7 +160,7 @@ int runProgram(QApplication &application, const QString &argument)
     } catch (const HandlerError &error) {
         return tellFailedStart(error.description);
     }
-    // An end that a dialog of the start brought about would be forgotten by the loop that has not begun.
+    // If a start dialog has ended the program, the event loop, which hasn't started yet, would not notice.
     return ended ? EXIT_SUCCESS : QApplication::exec();
 }
 

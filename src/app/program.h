@@ -7,8 +7,8 @@ class QApplication;
 
 namespace zephira {
 
-/// Makes the main window of the real parts, runs the start procedure and then the event loop. Returns the exit status: 1
-/// when the start failed, which was then told.
+/// Creates the main window with the real services, runs the start procedure and then the event loop. Returns the exit
+/// status: 1 if the start failed, which has then been reported.
 int runProgram(QApplication &application, const QString &argument);
 
 } // namespace zephira

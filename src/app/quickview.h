@@ -6,7 +6,7 @@ namespace zephira {
 class ModalFormOpener;
 class QuickViewer;
 
-/// The quick view, made at its first use and kept for the next file; nullptr where there is none.
+/// The quick view, created on first use and reused for later files; nullptr if the form isn't available.
 QuickViewer *quickViewer(ModalFormOpener &forms);
 
 } // namespace zephira

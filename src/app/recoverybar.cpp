@@ -21,7 +21,7 @@ struct ButtonRow {
 
 constexpr ButtonRow buttonRows[] = {
     {u"recoveryShow", u"Show", u"Open the text as a new document", &RecoveryBar::showWanted},
-    {u"recoveryKeep", u"Keep", u"Leave the copy in its folder and ask no more", &RecoveryBar::keepWanted},
+    {u"recoveryKeep", u"Keep", u"Leave the copy in its folder and don't ask again", &RecoveryBar::keepWanted},
     {u"recoveryDelete", u"Delete", u"Remove the copy", &RecoveryBar::deleteWanted},
 };
 
@@ -53,7 +53,7 @@ void RecoveryBar::answered(const LeftCopy &copy)
 void RecoveryBar::fill()
 {
     while (QLayoutItem *item = m_layout->takeAt(0)) {
-        // The button that was pressed is one of them, and still at work.
+        // One of them may be the button whose click is being handled, so they are deleted later.
         item->widget()->hide();
         item->widget()->setObjectName(QString());
         item->widget()->deleteLater();
@@ -62,13 +62,13 @@ void RecoveryBar::fill()
     const int count = qMin(lines, static_cast<int>(m_copies.size()));
     for (int line = 0; line < count; ++line) {
         const LeftCopy copy = m_copies[line];
-        auto *text = new QLabel(u"%1 was not saved when the program ended (begun %2)."_s.arg(
+        auto *text = new QLabel(u"%1 was not saved when the program ended (started %2)."_s.arg(
                                     copy.name, QLocale::system().toString(copy.began, QLocale::ShortFormat)),
                                 this);
         text->setObjectName(u"recoveryText_%1"_s.arg(line));
         text->setTextFormat(Qt::PlainText);
         text->setToolTip(text->text() + u'\n' + copy.path);
-        // A long name is cut, never the window widened.
+        // A long name is cut instead of widening the window.
         text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         m_layout->addWidget(text, line, 0);
         int column = 0;

@@ -9,22 +9,22 @@ class QGridLayout;
 
 namespace zephira {
 
-/// Tells of texts that were not saved when the program ended, a line each, and stays until each is answered. It never
-/// takes the keyboard by itself.
+/// Lists texts that were not saved when the program ended, one per line, and stays until the user has decided about all
+/// of them. It never takes the focus by itself.
 class RecoveryBar final : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// Lines that stand at a time; the others follow as these are answered.
+    /// The number of lines shown at a time; more follow as these are dealt with.
     static constexpr int lines = 4;
 
     explicit RecoveryBar(QWidget *parent = nullptr);
 
-    /// The copies to ask about; without one the bar is hidden.
+    /// Sets the copies to ask about. The bar is hidden if there are none.
     void setCopies(const QList<LeftCopy> &copies);
     const QList<LeftCopy> &copies() const { return m_copies; }
-    /// The copy was answered: its line goes.
+    /// Removes the line of a copy that has been dealt with.
     void answered(const LeftCopy &copy);
 
 Q_SIGNALS:

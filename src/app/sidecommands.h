@@ -13,8 +13,8 @@ class SelectorList;
 class SideLists;
 class SidePane;
 
-/// The commands that are about what stands beside the document: the side pane, the list over the palette, quick view and
-/// FTP window.
+/// The commands for what is shown besides the document: the side pane, the selector list over the palette, the quick
+/// view and the FTP window.
 class SideCommands final : public PaneCommands
 {
 public:
@@ -24,7 +24,7 @@ public:
         SideLists &lists;
         Palette &palette;
         SelectorList &selectors;
-        /// Gets the keyboard when the list of selectors goes.
+        /// Gets the focus when the list of selectors is hidden.
         QWidget &codeView;
         ModalFormOpener &forms;
     };

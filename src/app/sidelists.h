@@ -13,19 +13,19 @@ class ScriptLibrary;
 class SidePane;
 class TagTree;
 
-/// The lists of tags, codes and scripts whose items are pasted: makes them and gives each its tab of the side pane. The
-/// start fills those that come from files; the custom tabs fill at each click.
+/// Creates the lists of tags, codes and scripts from which items are inserted, each on its tab of the side pane. Lists
+/// that are read from files are filled at the start; the custom tabs are filled at each click.
 class SideLists
 {
 public:
-    /// The menus own the pop-up of the custom tabs. All lists belong to the pane.
+    /// `menus` owns the pop-up menu of the custom tabs; the pane owns all lists.
     SideLists(const AppContext &context, const Menus &menus, SidePane &pane);
 
     TagTree &tags() const { return *m_tags; }
     AspTagTree &aspTags() const { return *m_aspTags; }
     ScriptLibrary &scripts() const { return *m_scripts; }
     CustomTabs &customTabs() const { return *m_custom; }
-    /// The file number of the lists, which the start reads through as well.
+    /// The file number of the lists, which the load handler also uses for reading.
     FileNumber &fileNumber() { return m_fileNumber; }
 
 private:

@@ -7,17 +7,17 @@
 
 namespace zephira {
 
-/// What the command line asks for. The whole argument string is compared as one string.
+/// What the command line requests. The arguments are compared as one string.
 enum class StartArgument { None, NoDialog, File };
 
 StartArgument startArgument(const QString &argument);
 
-/// What appears once the window shows, in order.
+/// What is shown after the window, in order.
 enum class StartAction {
     ShowStartDialog,        ///< frmselprj, modal over the main window
     ShowTip,                ///< frmTip, modal over the main window
     ShowTipOverStartDialog, ///< frmTip, modal over the loaded but hidden frmselprj
-    CheckViewTip,           ///< checks the menu entry of the tips
+    CheckViewTip,           ///< checks the menu entry for the tips
 };
 
 /// @param showTips  the setting as a number; only 1 shows tips

@@ -7,9 +7,9 @@ namespace zephira {
 
 class frmmain;
 
-/// Runs the start: the main window's load handler whole, the scratch folder, the window, then the tip and the start dialog
-/// as settings and argument ask for them. Raises HandlerError when the start can't go on.
-/// @param argument  the whole argument string
+/// Runs the start: the main window's load handler, the scratch folder, showing the window, then the tip and the start
+/// dialog depending on settings and argument. Raises HandlerError if the start can't continue. @param argument  all
+/// arguments as one string
 void runStartProcedure(frmmain &window, const QString &argument);
 
 } // namespace zephira

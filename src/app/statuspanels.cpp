@@ -19,7 +19,7 @@ struct PanelRow {
     const char16_t *text; ///< shown until there is a value
     const char16_t *name; ///< for assistive technology
     int stretch = 0;
-    const char16_t *widest = u""; ///< keeps the panel's place while its value changes
+    const char16_t *widest = u""; ///< reserves the panel's width for changing values
 };
 
 constexpr std::array<PanelRow, 10> panelRows = {{
@@ -37,7 +37,7 @@ constexpr std::array<PanelRow, 10> panelRows = {{
 
 constexpr int noticeMilliseconds = 10000;
 
-/// A text that is cut in its middle where it is painted, and stays whole for everybody else.
+/// A label whose text is elided in the middle when painted; text() stays complete.
 class PathLabel final : public QLabel
 {
 public:
@@ -69,7 +69,7 @@ StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar),
             label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringView(row.widest).toString()) + 4);
         if (row.stretch)
             label->setSizePolicy(QSizePolicy::Ignored,
-                                 QSizePolicy::Preferred); // A long path is cut, never the window widened.
+                                 QSizePolicy::Preferred); // A long path is cut instead of widening the window.
         bar.addWidget(label, row.stretch);
         m_panels[i] = label;
     }
@@ -103,7 +103,7 @@ void StatusPanels::setUnsaved(bool unsaved)
     QFont font = label->font();
     font.setBold(unsaved);
     label->setFont(font);
-    label->setAccessibleDescription(unsaved ? u"The text has changes that are not saved"_s : QString());
+    label->setAccessibleDescription(unsaved ? u"The text has unsaved changes"_s : QString());
 }
 
 void StatusPanels::notice(const QString &sentence)
@@ -113,7 +113,7 @@ void StatusPanels::notice(const QString &sentence)
 
 void StatusPanels::showTime()
 {
-    // The panel is brought up to date each minute, so that seconds would only be wrong.
+    // The panel is updated once a minute, so seconds would be wrong.
     const QLocale locale = QLocale::system();
     const QDateTime now = m_clock.now();
     setText(Time, locale.toString(now.time(), locale.timeFormat(QLocale::ShortFormat).remove(u":ss"_s)));

@@ -26,9 +26,9 @@ public:
 
     QString text(int panel) const;
     void setText(int panel, const QString &text);
-    /// Greys a keyboard panel out while its state is off.
+    /// Shows a keyboard panel normally if `lit`, otherwise greyed out.
     void setLit(int panel, bool lit);
-    /// Shows at the path that the text differs from its file.
+    /// Shows next to the path that the text differs from its file.
     void setUnsaved(bool unsaved);
     /// Shows a sentence over the panels for a while.
     void notice(const QString &sentence);

@@ -41,7 +41,8 @@ ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebV
         if (tab >= 0 && tab == m_parts.tabs.currentIndex())
             m_views.select(WorkspaceView(tab));
     });
-    // Who clicks on a view goes on in it, from wherever the keyboard was. The click comes before the change.
+    // A click on a tab focuses its view, wherever the focus was. Queued, because the click is signalled before the view
+    // changes.
     connect(&tabs, &QTabBar::tabBarClicked, this, &ViewSwitch::focusView, Qt::QueuedConnection);
     connect(&m_parts.designerBar, &DesignerBar::resetClicked, this, [this] {
         m_views.reset();
@@ -144,7 +145,7 @@ QWidget *ViewSwitch::page(WorkspaceView view) const
 
 void ViewSwitch::showControls(WorkspaceView view)
 {
-    // Only a keyboard that was in the view before goes on to the new one; at the tabs it stays where it is.
+    // The focus moves to the new view only if it was in the previous one; on the tabs it stays where it is.
     const QWidget *keyboard = m_parts.pages.window()->focusWidget();
     const bool hadFocus = m_parts.pages.isAncestorOf(keyboard) || m_parts.designerBar.isAncestorOf(keyboard);
     m_parts.designer.setShowing(view == WorkspaceView::Visual);
@@ -166,7 +167,8 @@ void ViewSwitch::setVisualMenusEnabled(bool enabled)
         m_parts.menus.menu(name.toString())->setEnabled(enabled);
 }
 
-/// The pointer comes to the tabs before it clicks: the time in between is the engine's. Should it fail, the click tells.
+/// The pointer reaches the tabs before it clicks, which leaves time to load the web engine. If loading fails, the click
+/// reports it.
 bool ViewSwitch::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseMove && !m_isWarm) {

@@ -20,8 +20,8 @@ class DocumentWindow;
 class Menus;
 class PreviewPane;
 
-/// The tabs of the workspace and what they show. The web engine's module is loaded when the preview or the designer is
-/// wanted for the first time, or a moment before: when the pointer comes to the tabs.
+/// The tabs of the workspace and their views. The web engine's module is loaded when the preview or the designer is
+/// first needed, or a moment earlier, when the pointer reaches the tabs.
 class ViewSwitch final : public QObject, public WorkspaceWindow, public ViewTabs
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
         Document &document;
         DocumentWindow &window;
         QTabBar &tabs;
-        /// Holds the code view, and gets the other views.
+        /// Contains the code view; the other views are added to it.
         QStackedWidget &pages;
         DesignerBar &designerBar;
         Menus &menus;
@@ -40,14 +40,14 @@ public:
 
     ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner);
 
-    /// Gives the keyboard to the view that shows.
+    /// Focuses the current view.
     void focusView();
     QString designerBase() const { return m_views.designerBase(); }
 
     // ViewTabs
     void selectNext() override;
 
-    // WorkspaceWindow; the last is a part of ViewTabs too
+    // WorkspaceWindow; selectTab() also belongs to ViewTabs
     bool docModified() const override;
     void markModified() override;
     bool doSave() override;

@@ -29,7 +29,7 @@ void VisualTools::connectDesigner()
                                   .displayChanged =
                                       [this] {
                                           showState();
-                                          // Also for those who read a menu without opening it.
+                                          // Also kept up to date for code that reads the menu without opening it.
                                           updateMenu(u"Format"_s);
                                           Q_EMIT displayChanged();
                                       },
@@ -41,7 +41,7 @@ void VisualTools::connectBar()
 {
     connect(&m_bar, &DesignerBar::buttonClicked, this, [this](const QString &key) {
         m_tools.clickButton(key);
-        showState(); // The click has turned the button over, whatever became of the command.
+        showState(); // The click has toggled the button, whether or not the command succeeded.
         Q_EMIT finished();
     });
     connect(&m_bar, &DesignerBar::fontChosen, this, [this](const QString &name) {

@@ -12,8 +12,8 @@ namespace zephira {
 class DesignerBar;
 class Menus;
 
-/// Connects the designer's toolbar and its five menus with the designer: clicks become commands, and what the designer
-/// tells becomes the looks of buttons, boxes and entries.
+/// Connects the designer's toolbar and its five menus with the designer: clicks run commands, and the designer's state
+/// is shown by the buttons, boxes and entries.
 class VisualTools final : public QObject
 {
     Q_OBJECT
@@ -25,9 +25,9 @@ public:
     bool designerReady() const { return m_tools.designerReady(); }
 
 Q_SIGNALS:
-    /// A command of the toolbar is done: the keyboard belongs to the page again.
+    /// A command of the toolbar has finished: the page should get the focus again.
     void finished();
-    /// Something happened in the page, which may be a change.
+    /// The page, or its selection, may have changed.
     void displayChanged();
 
 private:

@@ -43,7 +43,8 @@ bool WindowEnd::agreesToSessionEnd(bool canAsk)
 {
     if (canAsk && !m_window.document().askToClose())
         return false;
-    // Whatever the answer was: the session may go on after all, and a copy too many is deleted by a click.
+    // Done whatever the answer was: the session may continue after all, and a superfluous copy can be deleted with a
+    // click.
     keepWhatIsUnsaved();
     return true;
 }
@@ -70,7 +71,7 @@ void WindowEnd::updateProgram()
 {
     start(m_services.appPath + u"/update.exe"_s, {});
     if (!m_window.close()) {
-        // The process ends in any case; what wasn't saved stays as a recovery copy.
+        // The process ends in any case; unsaved text stays as a recovery copy.
         m_recovery.writeNow();
         endProcess();
     }
@@ -81,14 +82,14 @@ void WindowEnd::setHighlightMode(int mode)
     m_window.setHighlightMode(mode);
 }
 
-/// Ends the process as soon as the commands that run have come to their end.
+/// Ends the process as soon as the running commands have returned.
 void WindowEnd::endProcess()
 {
     m_window.router().abandon();
     m_services.endProcess();
 }
 
-/// What is done once the window may close, each step whatever became of the one before.
+/// The clean-up when the window closes. Each step runs even if the previous one failed.
 void WindowEnd::unload()
 {
     ignoringErrors({
@@ -96,7 +97,7 @@ void WindowEnd::unload()
         [this] { m_window.forms().closeAll(); },
         [this] { m_window.document().discardPreview(); },
         [this] {
-            // A text that was to be saved and isn't stays as a recovery copy.
+            // A text whose save failed stays as a recovery copy.
             if (m_window.document().saveFailedAtClose())
                 m_recovery.writeNow();
             else

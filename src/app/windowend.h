@@ -10,7 +10,7 @@ class frmmain;
 class RecoveryKeeper;
 struct WindowServices;
 
-/// How the window comes and goes: the commands that start the program anew or end it, and what an end leaves behind.
+/// Opening and closing windows: the commands that start another instance or end this one, and the clean-up at the end.
 class WindowEnd final : public WindowCommands
 {
 public:
@@ -18,13 +18,13 @@ public:
         : m_window(window), m_services(services), m_recovery(recovery)
     {}
 
-    /// Asks about changes, then leaves everything in order and ends the process. False if the user chose to stay.
+    /// Asks about unsaved changes, then cleans up and ends the process. Returns false if the user cancelled.
     bool close();
 
-    /// The system ends the process, and nobody can be asked: what is not saved stays as a recovery copy.
+    /// Ends the process without asking, when the system requests it: unsaved text stays as a recovery copy.
     void endNow();
-    /// The session ends. Where the user can be asked, it may go on only if the user agrees; else what is not saved is
-    /// written into a recovery copy, and it goes on.
+    /// The desktop session is about to end. Returns whether it may: if the user can be asked, only if the user agrees;
+    /// otherwise always, after unsaved text was written to a recovery copy.
     bool agreesToSessionEnd(bool canAsk);
 
     // WindowCommands

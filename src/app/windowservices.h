@@ -19,7 +19,8 @@ class RecoveryCopies;
 class Shell;
 class UserSettings;
 
-/// What the main window stands on. main() makes it of the real parts, tests of real and fake ones.
+/// The services that the main window depends on. runProgram() builds it from the real ones, tests from real and fake
+/// ones.
 struct WindowServices {
     FileStore &files;
     RecoveryCopies &recovery;
@@ -31,9 +32,9 @@ struct WindowServices {
     Clock &clock;
     const FormCatalogue &catalogue;
     WebViewsLoader webViews;
-    /// The program folder, without a separator at its end.
+    /// The program folder, without a trailing separator.
     QString appPath;
-    /// The configuration's file, for messages.
+    /// Full path of the configuration's file, for messages.
     QString iniFile;
     /// Full path of this program.
     QString executable;

@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// The five display options of the configuration, kept for the life of the process.
+/// The five display options of the configuration, kept while the process runs.
 struct DisplayModes {
     int highlight = 0;
     int lineNumber = 0;
@@ -17,14 +17,14 @@ struct DisplayModes {
     int selBounds = 0;
 };
 
-/// What the main window remembers beside its parts.
+/// The state of the main window that isn't kept in its parts.
 struct WindowState {
     DisplayModes modes;
     ColourTable colours;
-    /// The code view's selection at its last change, its ends in the order of the text.
+    /// The code view's selection at its last change, with its start before its end.
     CodeMaxRange selection;
     bool rootSelect = false;
-    /// Names of the start's steps, in the order in which they ran.
+    /// Names of the start steps, in the order in which they ran.
     QStringList startSteps;
 };
 
