@@ -24,7 +24,8 @@ public:
         std::function<void()> enter = {};
     };
 
-    /// @param window  the window in which the keys work @param parts   in focus order; all must outlive the ring
+    /// @param window  the window in which the keys work
+    /// @param parts   in focus order; all must outlive the ring
     FocusRing(QWidget &window, std::vector<Part> parts);
 
     /// Focuses the next or previous part that can take focus.

@@ -8,8 +8,8 @@ namespace zephira {
 class frmmain;
 
 /// Runs the start: the main window's load handler, the scratch folder, showing the window, then the tip and the start
-/// dialog depending on settings and argument. Raises HandlerError if the start can't continue. @param argument  all
-/// arguments as one string
+/// dialog depending on settings and argument. Raises HandlerError if the start can't continue.
+/// @param argument  all arguments as one string
 void runStartProcedure(frmmain &window, const QString &argument);
 
 } // namespace zephira
