@@ -32,8 +32,8 @@ struct InputRequest {
     friend bool operator==(const InputRequest &, const InputRequest &) = default;
 };
 
-/// Asks for a file name. The filter is a list of name and pattern pairs separated by bars, "Text Files|*.txt|All
-/// Files|*.*"; "*.*" matches every name.
+/// Asks for a file name. The filter is a list of name and pattern pairs separated by bars,
+/// "Text Files|*.txt|All Files|*.*"; "*.*" matches every name.
 struct FileRequest {
     QString title = {};
     QString filter = {};
