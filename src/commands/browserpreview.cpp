@@ -17,10 +17,11 @@ namespace zephira {
 
 namespace {
 
-// Stands in for an empty setting, so that the test for the file fails and the user is asked.
+// Replaces an empty setting with a path that doesn't exist, so that the check for the file fails and the user is asked.
 constexpr QStringView nowhere = u"C:\\nonexist.iamcool.forever";
 
-/// The path of the browser, asked for where the kept one leads nowhere; nothing when the new one does too.
+/// The path of the browser. If the saved one doesn't exist, the user is asked for another; nothing if that is missing
+/// too.
 std::optional<QString> browserPath(const AppContext &context)
 {
     QString path = context.configuration.value(Setting::BrowserPath);
@@ -60,7 +61,7 @@ void previewInNamedBrowser(const CommandParts &parts)
                  u"You must save your document to preview in Internet Explorer, would you like to save now?"_s))
         return;
     parts.document.save();
-    // The document's path goes over as it would on a command line without quotes: blanks divide it.
+    // The document's path is passed as on a command line without quotes: it is split at its blanks.
     const QStringList arguments = context.document.commonDialogFile().split(u' ', Qt::SkipEmptyParts);
     if (const Result<void> started = context.shell.start(*browser, arguments); !started)
         tellError(context.prompts, started.error());
@@ -73,7 +74,7 @@ void previewInDefaultBrowser(const CommandParts &parts)
                  u"You must save your document to preview in your default browser, would you like to save now?"_s))
         return;
     parts.document.save();
-    // Cancelling the save of a new document leaves no name: nothing is shown then, and nothing is said.
+    // If the user cancels the save of a new document, it has no name: then nothing is shown, and no message appears.
     if (!context.shell.open(context.document.commonDialogFile()))
         return;
 }

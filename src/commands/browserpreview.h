@@ -5,13 +5,13 @@ namespace zephira {
 
 struct CommandParts;
 
-/// Previews of the document in a browser outside. Both show the file on the disk, so they ask to save it first, even if
-/// nothing has changed; a "No" ends them.
+/// Previews of the document in an external browser. Both show the file on disk, so they ask to save it first, even if
+/// nothing has changed; answering "No" ends them.
 
-/// In the browser whose path is kept in the configuration; it is asked for when it isn't there.
+/// Previews in the browser whose path is in the configuration; asks for the path if there is no such file.
 void previewInNamedBrowser(const CommandParts &parts);
 
-/// In the program that the desktop opens such a file with.
+/// Previews in the program that the desktop opens such a file with.
 void previewInDefaultBrowser(const CommandParts &parts);
 
 } // namespace zephira

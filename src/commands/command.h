@@ -29,7 +29,7 @@ struct OpensForm {
     friend bool operator==(const OpensForm &, const OpensForm &) = default;
 };
 
-/// Runs in the view that shows: in the designer, else in the code view.
+/// Runs in the visible view: the designer if it shows, else the code view.
 struct EditsView {
     DesignerCommand designer = DesignerCommand::None;
     void (EditingControl::*editor)() = nullptr;
@@ -37,14 +37,14 @@ struct EditsView {
     friend bool operator==(const EditsView &, const EditsView &) = default;
 };
 
-/// Runs in the code view, whichever view shows.
+/// Runs in the code view, whichever view is visible.
 struct EditsText {
     void (EditingControl::*editor)() = nullptr;
 
     friend bool operator==(const EditsText &, const EditsText &) = default;
 };
 
-/// Turns one of the designer's switches over. The entry of that name shows how it stands.
+/// Toggles one of the designer's switches. The check mark of the menu entry of that name shows its state.
 struct TurnsSwitch {
     QStringView entry;
     bool (Designer::*get)() const = nullptr;
@@ -53,7 +53,7 @@ struct TurnsSwitch {
     friend bool operator==(const TurnsSwitch &, const TurnsSwitch &) = default;
 };
 
-/// Gives the designer's paragraph the block format of that number, from 0 on.
+/// Gives the designer's paragraph the block format with this number, counted from 0.
 struct SetsBlockFormat {
     int number = 0;
 
@@ -85,7 +85,7 @@ using Effect =
 /// What a row of a menu, a toolbar or a pull-down does when it is chosen.
 struct Command {
     Effect effect = {};
-    /// How the command turns the user away while the designer shows.
+    /// How the command refuses to run while the designer shows.
     Refusal refusal = Refusal::None;
 
     friend bool operator==(const Command &, const Command &) = default;

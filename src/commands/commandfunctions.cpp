@@ -42,7 +42,7 @@ void chooseFont(const AppContext &context)
         return;
     context.editor.setEditorFont(*choice);
 
-    // What is kept is what the control made of the choice.
+    // The control may adjust the choice, so the font that it now has is the one to save.
     const FontChoice font = context.editor.editorFont();
     Configuration &configuration = context.configuration;
     writeTruth(configuration, Setting::FontBold, font.bold);
@@ -85,7 +85,7 @@ void undoFromToolbar(const AppContext &context)
 
 void redoFromToolbar(const AppContext &context)
 {
-    // In visual mode this button undoes; only the menu entry redoes. Both have always been so.
+    // In visual mode this button undoes, too; only the menu entry redoes. It has always been so.
     if (context.designer.isShowing())
         context.designer.execCommand(DesignerCommand::Undo);
     else if (context.editor.canRedo())
@@ -106,7 +106,7 @@ void toggleHighlightedLines(const CommandParts &parts)
     writeSwitch(parts.context.configuration, Setting::HighlightLine, on);
     parts.marks.setChecked(entry, on);
     parts.window.setHighlightMode(on ? 1 : 0);
-    // Switched on, the line is drawn from the next change of the selection on.
+    // When switched on, the highlight appears with the next change of the selection.
     if (!on)
         parts.context.editor.setHighlightedLine(-1);
 }

@@ -7,22 +7,22 @@ namespace zephira {
 
 struct CommandParts;
 
-// The commands that are no operation of another part. The tables of menus and toolbars name them.
+// The commands that aren't an operation of one of the other parts. The tables of menus and toolbars refer to them.
 
-/// The time and the date behind the code view's selection, as the system writes them.
+/// Inserts the time and the date after the code view's selection, in the system's short formats.
 void insertTimeAndDate(const AppContext &context);
-/// Asks for the code view's font and keeps it.
+/// Asks for the code view's font and saves the choice.
 void chooseFont(const AppContext &context);
-/// Opens the FTP window as it is.
+/// Opens the FTP window without presetting its local folder.
 void openFtpClient(const AppContext &context);
-/// Writes the document for the form that weighs it, and opens that.
+/// Writes the document to the file that the form about its size reads, and opens that form.
 void weighDocument(const AppContext &context);
-/// A form's button in the page of the designer.
+/// Inserts a button into the designer's page.
 void insertFormButton(const AppContext &context);
-/// The standard toolbar's buttons. In visual mode both undo; only the menu entry redoes.
+/// Undo and redo of the standard toolbar. In visual mode both undo; only the menu entry redoes.
 void undoFromToolbar(const AppContext &context);
 void redoFromToolbar(const AppContext &context);
-/// Removes the code view's selection, in every view.
+/// Removes the code view's selection, whichever view is visible.
 void deleteSelectedText(const AppContext &context);
 
 void toggleHighlightedLines(const CommandParts &parts);

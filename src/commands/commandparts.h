@@ -16,9 +16,9 @@ class ViewTabs
 public:
     virtual ~ViewTabs() = default;
 
-    /// From the third view back to the first.
+    /// Selects the next view's tab; the first view follows the third.
     virtual void selectNext() = 0;
-    /// Selects a view's tab, also the one that is selected already.
+    /// Selects a view's tab, even if it is already selected.
     virtual void selectTab(WorkspaceView view) = 0;
 };
 
@@ -32,23 +32,23 @@ public:
     virtual void setChecked(QStringView entry, bool checked) = 0;
 };
 
-/// What stands beside the document, and the windows that belong to it.
+/// The panes beside the document, and the windows that belong to it.
 class PaneCommands
 {
 public:
     virtual ~PaneCommands() = default;
 
-    /// A tab of the side pane, 1 to 12; 7 is the first custom tab.
+    /// Selects a tab of the side pane, 1 to 12; 7 is the first custom tab.
     virtual void selectSideTab(int tab) = 0;
     /// Adds an entry to the custom tab that was right-clicked last.
     virtual void addCustomEntry() = 0;
-    /// The list of style selectors over the palette, and whether the palette's button for it is pressed.
+    /// The list of style selectors above the palette, and the state of the palette's button for it.
     virtual void setSelectorListVisible(bool visible) = 0;
     virtual bool isSelectorPressed() const = 0;
     virtual void setSelectorPressed(bool pressed) = 0;
-    /// The readme in the quick view.
+    /// Shows the readme in the quick view.
     virtual void showReadme() = 0;
-    /// The FTP window, its local folder preset from the project folder where one is set.
+    /// Opens the FTP window; its local folder is preset to the project folder if one is set.
     virtual void showFtp() = 0;
 };
 
@@ -63,19 +63,20 @@ public:
     virtual void editFilters() = 0;
 };
 
-/// What is the window's own.
+/// The commands of the main window itself.
 class WindowCommands
 {
 public:
     virtual ~WindowCommands() = default;
 
-    /// Starts the program once more.
+    /// Starts another instance of the program.
     virtual void newWindow() = 0;
     /// Ends the process without a question.
     virtual void exitNow() = 0;
     /// Starts the updater and closes.
     virtual void updateProgram() = 0;
-    /// 1: the caret's line is drawn in the highlight colour from the next selection change on; 0: it isn't.
+    /// 1: the caret's line is drawn in the highlight colour from the next selection change on; 0: it is not
+    /// highlighted.
     virtual void setHighlightMode(int mode) = 0;
 };
 

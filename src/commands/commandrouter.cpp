@@ -15,7 +15,7 @@ namespace zephira {
 
 namespace {
 
-/// Runs each kind of effect. What fails in the designer ends without a word.
+/// Runs each kind of effect. A designer command that fails ends silently.
 class EffectRunner
 {
 public:

@@ -18,7 +18,7 @@ namespace {
 constexpr const char16_t *fontNames[] = {u"Times New Roman", u"Arial", u"Tahoma", u"Courier", u"Verdana", u"Wingdings"};
 constexpr int fontSizes = 7;
 
-/// Shows a text that may be one of the list's, or not.
+/// Shows a text in the box, whether or not its list has it.
 void showText(QComboBox &box, const QString &text)
 {
     if (box.currentText() == text)
@@ -57,11 +57,11 @@ QComboBox *DesignerBar::addBox(const QString &name, const QString &tip)
     box->setObjectName(name);
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
-    // What is typed counts as it stands, so nothing may be completed behind it.
+    // What is typed is taken literally, so nothing may be completed.
     box->setCompleter(nullptr);
     box->setToolTip(tip);
     box->setAccessibleName(tip);
-    // The box has the keys and hands them on to its field by itself, so that the field is sent none.
+    // The box receives the keys and forwards them to its line edit itself, which therefore never sees them as events.
     box->installEventFilter(this);
     addWidget(box);
     return box;
@@ -105,7 +105,7 @@ void DesignerBar::showFontSize(const QString &text)
     showText(*m_size, text);
 }
 
-/// Return counts as what was typed. The box itself would take it as a choice from its list where the list has the text.
+/// Return accepts the typed text. The box itself would report a choice from its list if the list has the text.
 bool DesignerBar::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress)

@@ -67,8 +67,8 @@ public:
         m_painter.drawPolygon(QPolygonF(QList<QPointF>(points)));
         m_painter.restore();
     }
-    /// A page with a folded corner and a number on it, from 1 to 6. The digits are lines: a font of that size for them alone
-    /// would cost a start more than all other drawings.
+    /// A page with a folded corner and a number on it, from 1 to 6. The digits are drawn as lines: loading a font of
+    /// that size just for them would cost the start more time than all other drawings.
     void numberedPage(int number)
     {
         path({{4.5, 2.5}, {13.5, 2.5}, {17.5, 6.5}, {17.5, 19.5}, {4.5, 19.5}, {4.5, 2}});
@@ -87,7 +87,7 @@ public:
             m_painter.drawPolyline(lines);
         m_painter.restore();
     }
-    /// Lines that follow are drawn in the accent's colour and a little bolder.
+    /// The following lines are in the accent colour and a little bolder.
     void accentuate() { stroke(m_accent, Qt::SolidLine, 1.5); }
 
 private:
@@ -255,7 +255,7 @@ constexpr Shape shapes[] = {
 };
 // clang-format on
 
-/// Draws at whatever size is asked for, in the colours of the moment.
+/// Draws at the requested size, in the palette's current colours.
 class ShapeEngine final : public QIconEngine
 {
 public:

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// Opens the guide that ships with the program. A failure is told to the user, as it is below.
+/// Opens the guide that ships with the program. This function and the next report a failure to the user.
 void openHelp(const AppContext &context);
 /// Opens the site of the program's makers.
 void openWebsite(const AppContext &context);

@@ -16,11 +16,12 @@ namespace zephira {
 /// An empty name gives no icon either. All follow the colours of the palette.
 QIcon iconFor(QStringView icon);
 
-/// Gives an action its icon or its text on a button. Menus go on showing the action's own text.
+/// Gives an action its icon or its button text. Menus continue to show the action's own text.
 void setCommandIcon(QAction *action, QStringView icon);
 
 /// Keeps the icon theme in step with the colours of the desktop: Breeze on light windows, Breeze Dark on dark ones. The
-/// theme's folders are named, so that it works without a desktop too. Make one before the first icon is drawn.
+/// theme's folders are set explicitly, so that it works without a desktop too. Create it before the first icon is
+/// drawn.
 class IconTheme : public QObject
 {
     Q_OBJECT
@@ -35,7 +36,7 @@ private:
     void followPalette();
 };
 
-/// Disables an action whose form or feature isn't there yet. Its tips say what it is, and then that.
+/// Disables an action whose form or feature isn't available yet. Its tips name the feature and add that note.
 void markNotAvailable(QAction *action);
 
 } // namespace zephira

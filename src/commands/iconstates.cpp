@@ -16,7 +16,7 @@ namespace {
 
 constexpr qreal disabledOpacity = 0.4;
 
-/// Below this ratio of luminances a picture can't be told from what it stands on.
+/// Below this luminance ratio a picture can't be distinguished from its background.
 constexpr qreal visibleContrast = 1.6;
 
 /// The relative luminance of a colour, 0 to 1, by the definition of sRGB.
@@ -35,7 +35,7 @@ qreal contrast(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// The mean colour of what there is to see; transparent where there is nothing.
+/// The mean colour of the visible pixels; transparent if there are none.
 QColor meanColour(const QPixmap &pixmap)
 {
     const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -102,7 +102,7 @@ int IconStates::styleHint(StyleHint hint, const QStyleOption *option, const QWid
 
 QIcon IconStates::standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const
 {
-    // Every bar of menus asks for this one as it is made, and shows it only where it is too narrow.
+    // Every menu bar asks for this icon when it is created, but shows it only if the bar is too narrow.
     if (icon == SP_ToolBarHorizontalExtensionButton) {
         return keptIcon(QStringLiteral("toolbar-extension"), [this, icon] { return QProxyStyle::standardIcon(icon); });
     }

@@ -7,11 +7,11 @@ namespace zephira {
 
 class IconPictures;
 
-/// How icons look in the states for which a theme has no pictures of its own, on light and on dark windows alike:
-/// disabled ones are faint, and selected ones stay as they are unless they would vanish in the colour of the selection;
-/// then they take the colour of selected text. Styles of their own accord take the colour out of the former, which the
-/// theme's icons have none of, and give the latter the colour of the selection. It knows of the pictures of icons that are
-/// kept, too.
+/// How icons look in the states for which a theme has no pictures of its own, on light and on dark windows alike.
+/// Disabled icons are faint. Selected icons stay as they are unless they would vanish in the colour of the selection;
+/// then they take the colour of selected text. Without this, styles would desaturate disabled icons, which changes
+/// nothing in a theme without colours, and tint selected ones with the colour of the selection. It also uses the cache
+/// of icon pictures.
 class IconStates final : public QProxyStyle
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class IconStates final : public QProxyStyle
 public:
     using QProxyStyle::QProxyStyle;
 
-    /// Lends the icons the pictures that are kept of them; they must outlive the style, or be taken back by nullptr.
+    /// Sets the cache of icon pictures; it must outlive the style, or be reset with nullptr.
     void setPictures(IconPictures *pictures) { m_pictures = pictures; }
 
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap, const QStyleOption *option) const override;

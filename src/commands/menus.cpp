@@ -94,7 +94,7 @@ void Menus::addEntry(QMenu *menu, const MenuItem &item)
     entry->setStatusTip(item.statusTip.toString());
     if (!item.shortcut.isEmpty())
         entry->setShortcut(QKeySequence::fromString(item.shortcut.toString(), QKeySequence::PortableText));
-    // macOS would otherwise move "About" and "Options" elsewhere by their words.
+    // On macOS, "About" and "Options" would otherwise be moved to other menus because of their words.
     entry->setMenuRole(QAction::NoRole);
     setIconsAtFirstOpening(menu, entry, item.icon);
     menu->addAction(entry);
@@ -102,7 +102,7 @@ void Menus::addEntry(QMenu *menu, const MenuItem &item)
         return;
     m_actions.insert(entry->objectName(), entry);
     connect(entry, &QAction::triggered, this, [this, entry, command = item.command] {
-        // The check mark is the command's to set: undo what the click did to it.
+        // Only the command sets the check mark: undo what the click did to it.
         if (entry->isCheckable())
             entry->setChecked(!entry->isChecked());
         Q_EMIT chosen(command);

@@ -19,8 +19,8 @@ namespace zephira {
 class FormOpener;
 struct MenuItem;
 
-/// Builds the menu tree from its table: the menus of the bar, and those that only pop up. Each menu and entry bears its
-/// name as objectName. The five designer menus are disabled until the visual view opens.
+/// Builds the menu tree from its table: the menus of the bar, and the pop-up menus. The objectName of each menu and
+/// entry is its name. The five designer menus are disabled until the visual view opens.
 class Menus : public QObject, public CheckMarks
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ class Menus : public QObject, public CheckMarks
 public:
     Menus(QMenuBar *bar, QObject *owner);
 
-    /// By name; nullptr for a name that isn't in the tree, or isn't of that kind.
+    /// By name; nullptr if the tree has no such name, or it belongs to something of another kind.
     QAction *action(const QString &name) const { return m_actions.value(name); }
     QMenu *menu(const QString &name) const { return m_menus.value(name); }
 
@@ -40,7 +40,7 @@ public:
     void applyAvailability(const FormOpener &forms);
 
 Q_SIGNALS:
-    /// An entry was chosen, by mouse, key or shortcut. Its check mark stands as before: the command sets it.
+    /// An entry was chosen, by mouse, key or shortcut. Its check mark is unchanged: the command sets it.
     void chosen(const zephira::Command &command);
 
 private:

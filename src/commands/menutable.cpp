@@ -32,7 +32,7 @@ constexpr MenuItem opens(QStringView name, QStringView caption, QStringView form
     return {name, caption, shortcut, icon, statusTip, {OpensForm{form}}, form};
 }
 
-/// An entry whose feature isn't there yet.
+/// An entry whose feature isn't available yet.
 constexpr MenuItem missing(QStringView name, QStringView caption)
 {
     return {name, caption, {}, {}, {}, {}, {}, Kind::Missing};
@@ -51,8 +51,8 @@ constexpr MenuItem turns(QStringView name, QStringView caption, bool (Designer::
     return check(name, caption, {TurnsSwitch{name, get, set}});
 }
 
-/// A block format of the designer. The captions are the formats' names, which the designer tells when its first document
-/// is complete.
+/// A block format of the designer. The captions are the names of the formats, which the designer reports when its first
+/// document is complete.
 constexpr MenuItem formats(QStringView name, int number)
 {
     return check(name, {}, {SetsBlockFormat{number}});
@@ -69,7 +69,7 @@ constexpr Command inCodeView(EditorCommand command)
     return {command, Refusal::CodeView};
 }
 
-/// An editing command of the view that shows.
+/// An editing command of the visible view.
 constexpr Command inView(DesignerCommand designer, void (EditingControl::*editor)())
 {
     return {EditsView{designer, editor}};
@@ -262,7 +262,7 @@ constexpr MenuItem positionItems[] = {
     check(u"D2DSub_8", u"Lock element", {DesignerCommand::LockElement}),
 };
 
-// The menu Tags has a table of its own, tagsmenu.h.
+// The Tags menu has a table of its own, see tagsmenu.h.
 // clang-format off: a row a line
 constexpr MenuItem bar[] = {
     menu(u"mnufile", u"&File", fileItems),    menu(u"edit", u"&Edit", editItems),

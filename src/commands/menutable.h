@@ -9,7 +9,7 @@
 
 namespace zephira {
 
-/// One row of the menu tree: name, looks, effect, and what it needs.
+/// One row of the menu tree: name, appearance, effect and requirements.
 struct MenuItem {
     enum class Kind {
         Entry,
@@ -28,7 +28,7 @@ struct MenuItem {
     QStringView statusTip = {};
     /// What choosing the entry does.
     Command command = {};
-    /// The form that has to be there for the entry to be enabled, or empty.
+    /// The form that must be available for the entry to be enabled, or empty.
     QStringView form = {};
     Kind kind = Kind::Entry;
     std::span<const MenuItem> children = {};
@@ -36,13 +36,13 @@ struct MenuItem {
 
 /// The menus of the bar, left to right.
 std::span<const MenuItem> menuBarTable();
-/// The menus that only pop up.
+/// The menus that only appear as pop-ups.
 std::span<const MenuItem> popupTable();
 
-/// The row of a name anywhere in the tree, or nullptr.
+/// The row with a name, anywhere in the tree, or nullptr.
 const MenuItem *findMenuItem(QStringView name);
 
-/// The five menus that are live in visual mode alone.
+/// The five menus that are enabled only in visual mode.
 std::span<const QStringView> visualMenus();
 
 } // namespace zephira

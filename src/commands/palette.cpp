@@ -24,8 +24,8 @@ constexpr QStringView selectorKey = u"selector";
 
 } // namespace
 
-/// A toolbar of the palette. Its actions are there from the start, which is cheap; the buttons that show them, and the
-/// icons, are made when it is first shown.
+/// A toolbar of the palette. Its actions exist from the start, which is cheap; the buttons that show them, and the
+/// icons, are made when the toolbar is first shown.
 class PaletteBar : public QToolBar
 {
 public:
@@ -36,7 +36,7 @@ public:
         setMovable(false);
     }
 
-    /// A box that stands behind the buttons. Until they are made it is a part of the toolbar that nobody sees.
+    /// A box placed after the buttons. Until those are made, it is an invisible child of the toolbar.
     void setBox(QWidget *box)
     {
         m_box = box;
@@ -112,7 +112,7 @@ Palette::Palette(QWidget *parent) : QWidget(parent), m_tabs(new QTabBar(this))
     }
     connect(m_tabs, &QTabBar::currentChanged, this, &Palette::showToolbar);
     connect(m_tabs, &QTabBar::tabBarClicked, this, [this](int index) {
-        // A change of the tab reports itself.
+        // A change of the tab is reported by its own signal.
         if (index == m_tabs->currentIndex())
             Q_EMIT tabClicked(index);
     });
@@ -148,7 +148,7 @@ void Palette::addHeadings(QAction *button)
 
 void Palette::showToolbar(int index)
 {
-    // A row of texts alone would be lower than one with icons, and the window would jump.
+    // A row with text alone would be lower than one with icons, and the layout would jump.
     m_bars[static_cast<std::size_t>(index)]->setMinimumHeight(m_bars[0]->sizeHint().height());
     for (std::size_t i = 0; i < m_bars.size(); ++i)
         m_bars[i]->setVisible(static_cast<int>(i) == index);

@@ -28,24 +28,24 @@ public:
     QTabBar *tabs() const { return m_tabs; }
     /// Toolbar 0 to 11.
     QToolBar *toolBar(int index) const;
-    /// The button of a key in toolbar 0 to 5, or nullptr.
+    /// The button with a key in toolbar 0 to 5, or nullptr.
     QAction *action(int index, const QString &key) const;
 
-    /// Gives a toolbar a box behind its last button. The box belongs to it.
+    /// Adds a box after a toolbar's last button. The toolbar takes ownership.
     void addBox(int index, QWidget *box);
 
     /// The toggle `selector`; setting it emits no click.
     bool isSelectorPressed() const;
     void setSelectorPressed(bool pressed);
 
-    /// Disables what needs a form that can't be opened yet and says so in its tool tip.
+    /// Disables buttons whose form can't be opened yet and says so in their tool tips.
     void applyAvailability(const FormOpener &forms);
 
 Q_SIGNALS:
-    /// A button was clicked, but for the pull-down of the headings.
+    /// A button other than the pull-down of the headings was clicked.
     void clicked(const zephira::QuickTag &tag);
     void headingClicked(int size);
-    /// A tab was clicked or chosen by key, also the one that is selected already: pop-ups over the palette should hide.
+    /// A tab was clicked or chosen by key, even if it was already selected: pop-ups over the palette should hide.
     void tabClicked(int index);
 
 private:

@@ -45,13 +45,13 @@ PaletteCommands::Handler PaletteCommands::handlerOf(TagKind kind)
 void PaletteCommands::run(const QuickTag &tag)
 {
     if (isRefused(tag.refusal, m_context.designer, m_context.prompts)) {
-        // The click has pressed the toggle already, and nothing shows that would release it.
+        // The click has already pressed the toggle, and no list will open that would release it.
         if (tag.kind == TagKind::Selector)
             m_panes.setSelectorPressed(false);
         return;
     }
     if (const Handler handler = handlerOf(tag.kind)) {
-        // One statement: in every handler it is the last step that can fail, so that nothing is left to go on with.
+        // A single statement: in every handler, the step that can fail is the last, so nothing would be left to resume.
         tellingErrors(m_context.prompts, u"frmmain"_s, u"ToolBar_ButtonClick"_s, {[&] { (this->*handler)(tag); }});
     }
 }
@@ -66,7 +66,7 @@ void PaletteCommands::insertText(const QuickTag &tag)
     wrapSelection([&tag](const QString &selection) { return quickTagText(tag, selection); });
 }
 
-/// Each of several selections is wrapped for itself.
+/// With several selections, each is wrapped separately.
 void PaletteCommands::wrapSelection(const std::function<QString(const QString &)> &wrap)
 {
     if (m_context.editor.selectionCount() > 1 && !m_context.designer.isShowing())
@@ -92,7 +92,7 @@ void PaletteCommands::insertTitle(const QuickTag &)
         return;
     const QString text = m_context.editor.text();
     const QString titled = titledText(text, *title);
-    // A text without a head stays as it is: it must not count as changed either.
+    // A text without a head is not replaced, because that would mark it as changed.
     if (titled != text)
         m_context.editor.setText(titled);
 }

@@ -12,8 +12,8 @@ namespace zephira {
 
 class PaneCommands;
 
-/// The clicks of the tool palette. A click either makes its text and inserts it once, at its end, or opens a form or
-/// shows a message and inserts nothing. Errors are told to the user.
+/// The clicks of the tool palette. A click either builds its text and inserts it in one step at its end, or opens a
+/// form or shows a message and inserts nothing. Errors are shown to the user.
 class PaletteCommands
 {
 public:

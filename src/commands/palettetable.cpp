@@ -5,7 +5,7 @@ namespace zephira {
 
 namespace {
 
-// The makers keep the tables to what differs from row to row. "\r\n" is the document's line end.
+// The helper functions reduce the tables to what differs from row to row. "\r\n" is the document's line end.
 
 constexpr QuickTag wrap(QStringView key, QStringView icon, QStringView tip, QStringView before, QStringView after)
 {
@@ -130,7 +130,7 @@ constexpr QuickTag forms[] = {
     behind({}, u"insert-image", u"Form Image", uR"(<input name="" type="image" src="" border="0">)"),
     separator,
     wrap({}, u"document-open", u"Browse For...", u"<input type=\"file\" value=\"", u"\">"),
-    // Password, text and hidden have no blank before "value=": the texts are fixed, browsers read them all the same.
+    // Password, text and hidden have no blank before "value=": these texts are fixed, and browsers read them anyway.
     wrap({}, u"#password", u"Password", u"<input name=\"\" type=\"password\"value=\"", u"\">"),
     replace({}, u"#textfield", u"Text", uR"(<input name="" type="text"value="">)"),
     wrap({}, u"#hidden", u"Hidden", u"<input name=\"\" type=\"hidden\"value=\"", u"\">"),

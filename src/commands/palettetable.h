@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// One toolbar of the palette: the caption of its tab and its buttons, separators among them, in order. Buttons without
-/// a key are known from outside by their position.
+/// One toolbar of the palette: the caption of its tab, and its buttons and separators in order. Buttons without a key
+/// are identified by their position.
 struct PaletteToolbar {
     QStringView caption;
     std::span<const QuickTag> buttons;

@@ -30,7 +30,7 @@ enum class TagKind {
 
 /// One row of the palette or of the tag menu.
 struct QuickTag {
-    /// The button's key or the entry's name; empty where buttons are known by position.
+    /// The button's key or the entry's name; empty where buttons are identified by position.
     QStringView key = {};
     TagKind kind = TagKind::Separator;
     /// Tool tip of a button, caption of a menu entry.
@@ -42,7 +42,7 @@ struct QuickTag {
     Refusal refusal = Refusal::None;
     QStringView shortcut = {};
 
-    /// The form that has to be there for the row to work, or empty.
+    /// The form that must be available for the row to work, or empty.
     constexpr QStringView form() const
     {
         switch (kind) {
@@ -59,18 +59,18 @@ struct QuickTag {
     }
 };
 
-/// Text of a row of the kinds Wrap, Behind and Replace for a selection; a null string for every other kind.
+/// The text that a row of the kinds Wrap, Behind and Replace makes of a selection; a null string for every other kind.
 QString quickTagText(const QuickTag &tag, const QString &selection);
 
-/// The selection, then a link that writes to the address.
+/// The selection, followed by a mail link to the address.
 QString mailLinkText(const QString &selection, const QString &address);
 QString soundText(const QString &path);
 /// The tag pair of heading size 1 to 6 around the selection.
 QString headingText(int size, const QString &selection);
-/// The whole text between the tags of a page, which get lines of their own.
+/// The whole text inside the tags of a page, each on a line of its own.
 QString pageText(const QString &text);
-/// Puts a title behind every "<head>", which is found without regard to case and comes out in small letters. A text
-/// without one comes back as it is.
+/// Inserts a title after every "<head>", which is matched without regard to case and written in lower case. A text
+/// without one is returned unchanged.
 QString titledText(const QString &text, const QString &title);
 
 } // namespace zephira

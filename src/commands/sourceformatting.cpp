@@ -14,8 +14,8 @@ namespace zephira {
 
 namespace {
 
-/// Pending events are handled each time so many pieces of a text are done: often enough for the window to stay alive, and
-/// not so often that it costs time.
+/// Pending events are processed each time this many pieces of a text are done: often enough to keep the window
+/// responsive, but not so often that it costs much time.
 constexpr unsigned piecesBetweenPauses = 1024;
 
 } // namespace
@@ -42,7 +42,7 @@ void SourceFormatting::hierarchical()
                               QCoreApplication::processEvents();
                           return !window.expired();
                       });
-                      // Without the window this object may be gone, too.
+                      // If the window is gone, this object may be gone, too.
                       if (!window.expired())
                           m_editor.setText(formatted);
                   }});

@@ -9,8 +9,8 @@ struct AppContext;
 class EditingControl;
 class Prompts;
 
-/// The entries of "Format Source Code". Each puts the formatted text in the place of the code view's whole text, whichever
-/// view shows, as one change that can be undone.
+/// The entries of "Format Source Code". Each replaces the code view's whole text by the formatted text, whichever view
+/// is visible, as one change that can be undone.
 class SourceFormatting
 {
 public:
@@ -18,12 +18,13 @@ public:
 
     void compact();
     void simple();
-    /// Lets the window work while it runs. The user may then change the text, open another document or start another
-    /// run; what this one makes of the text that it began with replaces all of that. A run whose window goes away, and
-    /// itself with it, ends without touching anything. A result that is too large is told, and the text stays.
+    /// Processes events while it runs, so the user may change the text, open another document or start another run. The
+    /// result is made from the text at the start of the run and replaces all of that. If the window closes during a
+    /// run, possibly destroying this object, the run ends without touching anything. If the result is too large, the
+    /// user is told and the text stays.
     void hierarchical();
 
-    /// The window is closing: runs that wait for it end, and leave the text alone.
+    /// The window is closing: pending runs end and leave the text alone.
     void abandon();
 
 private:
@@ -31,7 +32,7 @@ private:
 
     EditingControl &m_editor;
     Prompts &m_prompts;
-    /// As long as it lives, there is a window to work for.
+    /// Expires when there is no longer a window to work for.
     std::shared_ptr<Window> m_window = std::make_shared<Window>();
 };
 

@@ -7,11 +7,11 @@
 
 namespace zephira {
 
-/// The entries of the tag menu. Their `key` is the entry's name, their `label` its caption; all but the two that open the
-/// tag editor write into the code view's selection.
+/// The entries of the tag menu. `key` is the name of an entry, `label` its caption; all but the two that open the tag
+/// editor write into the code view's selection.
 std::span<const QuickTag> tagsMenu();
 
-/// The entry of a name, or nullptr.
+/// The entry with a name, or nullptr.
 const QuickTag *findTagsEntry(const QString &name);
 
 } // namespace zephira

@@ -91,7 +91,7 @@ void CommandToolBar::applyAvailability(const FormOpener &forms)
             close(key.toString());
     };
     for (const ToolButton &button : m_table.buttons) {
-        // A button whose pull-down has something to offer stays open for its sake.
+        // A button stays enabled if its pull-down has an enabled entry.
         const bool offersMore = std::ranges::any_of(button.pullDown, [&](const PullDownEntry &entry) {
             return entry.form.isEmpty() || forms.isAvailable(entry.form.toString());
         });
@@ -107,7 +107,7 @@ void CommandToolBar::close(const QString &key)
     QAction *button = action(key);
     markNotAvailable(button);
     m_unavailable.insert(button);
-    // A button of whose pull-down nothing is left has no reason to stay open, unless it does something itself.
+    // A button whose pull-down has no enabled entry left is disabled, unless it does something itself.
     for (const ToolButton &owner : m_table.buttons) {
         const bool holdsKey =
             std::ranges::any_of(owner.pullDown, [&](const PullDownEntry &entry) { return entry.key == key; });

@@ -12,8 +12,8 @@ class FormOpener;
 struct ToolBarTable;
 struct ToolButton;
 
-/// A toolbar made from a table. Its actions bear their keys as objectName, and so do the entries of the pull-downs, which
-/// are actions of their button's menu.
+/// A toolbar made from a table. The objectName of an action is its key; this holds for the entries of the pull-downs
+/// too, which are actions of their button's menu.
 class CommandToolBar : public QToolBar
 {
     Q_OBJECT
@@ -21,18 +21,18 @@ class CommandToolBar : public QToolBar
 public:
     CommandToolBar(const ToolBarTable &table, QWidget *parent = nullptr);
 
-    /// The button or pull-down entry of a key, or nullptr.
+    /// The button or pull-down entry with a key, or nullptr.
     QAction *action(const QString &key) const;
 
-    /// Opens or closes the buttons at the positions first to last, 1-based with separators counted. What isn't available
-    /// yet stays closed.
+    /// Enables or disables the buttons at the positions first to last, which count from 1 and include separators.
+    /// Buttons that aren't available yet stay disabled.
     void setPositionsEnabled(int first, int last, bool enabled);
-    /// The formatting toolbar's rule for the document's language: all of 1 to 15 open, or only 13 to 15.
+    /// The formatting toolbar's rule for the document's language: positions 1 to 15 are enabled, or only 13 to 15.
     void setMarkupOpen(bool open);
 
-    /// Disables what needs a form that can't be opened yet and says so in its tool tip.
+    /// Disables buttons whose form can't be opened yet and says so in their tool tips.
     void applyAvailability(const FormOpener &forms);
-    /// The same for one button or pull-down entry, and for the button of a pull-down of which nothing is left.
+    /// Does the same for one button or pull-down entry, and for a button whose pull-down has no enabled entry left.
     void close(const QString &key);
 
 Q_SIGNALS:

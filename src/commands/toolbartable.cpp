@@ -12,7 +12,7 @@ namespace {
 
 constexpr ToolButton separator{};
 
-/// Its editing buttons go to the code view in every view, unlike the menu entries.
+/// The editing buttons act on the code view whichever view is visible, unlike the menu entries.
 constexpr ToolButton standardButtons[] = {
     {u"new", u"New document (Ctrl+N)", u"document-new", {&Document::newDocument}},
     {u"open", u"Open a document (Ctrl+O)", u"document-open", {&Document::open}},
@@ -28,7 +28,7 @@ constexpr ToolButton standardButtons[] = {
     {u"redo", u"Redo (Ctrl+Y)", u"edit-redo", {redoFromToolbar}},
 };
 
-/// An entry of a pull-down, which works in the code view alone.
+/// An entry of a pull-down that works only in the code view.
 constexpr PullDownEntry entry(QStringView key, QStringView caption, QStringView icon, QStringView statusTip,
                               const Effect &effect, QStringView form = {})
 {

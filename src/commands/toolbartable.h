@@ -17,7 +17,7 @@ struct PullDownEntry {
     QStringView statusTip = {};
     /// What choosing the entry does.
     Command command = {};
-    /// The form that has to be there for the entry to be enabled, or empty.
+    /// The form that must be available for the entry to be enabled, or empty.
     QStringView form = {};
 };
 
@@ -41,9 +41,9 @@ struct ToolBarTable {
 /// The standard toolbar `tBar`.
 const ToolBarTable &standardToolBar();
 
-/// The formatting toolbar `Toolbar1`. Languages without markup close its positions 1 to 15 and open 13 to 15 again
-/// (positions count from 1, separators included). The two separators put special characters, FTP and revert, which
-/// serve any language, at 13 to 15, and all that is about markup at 1 to 12.
+/// The formatting toolbar `Toolbar1`. For languages without markup, positions 1 to 15 are disabled and 13 to 15 enabled
+/// again (positions count from 1 and include separators). Two separators make sure that special characters, FTP and
+/// revert, which serve any language, are at 13 to 15, and the markup buttons at 1 to 12.
 const ToolBarTable &formattingToolBar();
 
 } // namespace zephira

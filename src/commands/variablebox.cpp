@@ -20,14 +20,14 @@ VariableBox::VariableBox(const VariableList &list, EditingControl &editor)
     setPlaceholderText(caption);
     setCurrentIndex(-1);
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    // A click must not take the focus from the text that the item goes into.
+    // A click must not take the focus from the text that receives the item.
     setFocusPolicy(Qt::TabFocus);
     connect(this, &QComboBox::textActivated, this, [&editor](const QString &item) { editor.setSelText(item); });
 }
 
 void VariableBox::wheelEvent(QWheelEvent *event)
 {
-    // Each step of the wheel would be an item in the text.
+    // Otherwise each step of the wheel would insert an item into the text.
     event->ignore();
 }
 

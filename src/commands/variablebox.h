@@ -9,8 +9,8 @@ class EditingControl;
 class Palette;
 struct VariableList;
 
-/// A drop-down of variables. Choosing an item, also the one that is chosen already, puts it in the place of the code
-/// view's selection, whatever view shows.
+/// A drop-down of variables. Choosing an item, even the current one, replaces the code view's selection by it,
+/// whichever view is visible.
 class VariableBox final : public QComboBox
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ constexpr QStringView ssiVariables[] = {
     u"SERVER_NAME",    u"SERVER_PORT",       u"SERVER_PROTOCOL", u"SERVER_SOFTWARE",
 };
 
-// REMOTE_IDENT stands here twice, and always has.
+// REMOTE_IDENT appears twice in this list, as it always has.
 constexpr QStringView serverVariables[] = {
     u"HTTP_REFERER",      u"ALL_HTTP",     u"AUTH_PASS",       u"AUTH_TYPE",       u"CONTENT_LENGTH", u"CONTENT_TYPE",
     u"GATEWAY_INTERFACE", u"PATH_INFO",    u"PATH_TRANSLATED", u"QUERY_STRING",    u"REMOTE_ADDR",    u"REMOTE_HOST",

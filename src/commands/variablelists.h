@@ -10,9 +10,9 @@ namespace zephira {
 /// A drop-down of the palette whose items replace the selection of the code view.
 struct VariableList {
     QStringView name;
-    /// What the box says while nothing is selected in it.
+    /// The text of the box while nothing is selected in it.
     QStringView caption;
-    /// The toolbar of the palette that ends with it, 0 to 11.
+    /// The toolbar of the palette that has the box at its end, 0 to 11.
     int toolbar = 0;
     std::span<const QStringView> items;
 };

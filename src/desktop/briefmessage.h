@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// A critical message box under the program's name that closes by itself after so many seconds.
+/// Shows a critical message box titled with the program's name, which closes by itself after `seconds`.
 void showBriefMessage(const QString &text, int seconds);
 
 } // namespace zephira

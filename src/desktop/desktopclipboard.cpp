@@ -14,7 +14,7 @@ QString DesktopClipboard::text() const
 void DesktopClipboard::setText(const QString &text)
 {
     QClipboard *clipboard = QGuiApplication::clipboard();
-    // An empty text would still offer something to paste.
+    // An empty text would still enable Paste.
     if (text.isEmpty())
         clipboard->clear();
     else

@@ -31,7 +31,7 @@ struct ButtonRow {
     QMessageBox::StandardButton escape;
 };
 
-/// By Question::Buttons.
+/// Indexed by Question::Buttons.
 const ButtonRow buttonRows[] = {
     {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok},
     {QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Cancel},
@@ -39,7 +39,7 @@ const ButtonRow buttonRows[] = {
     {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes, QMessageBox::Cancel},
 };
 
-/// By Question::Icon.
+/// Indexed by Question::Icon.
 constexpr QMessageBox::Icon icons[] = {QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Question,
                                        QMessageBox::Warning, QMessageBox::Critical};
 
@@ -62,8 +62,8 @@ QString titleOr(const QString &title, const QString &fallback)
     return title.isEmpty() ? fallback : title;
 }
 
-/// A dialog dies with its parent, which may be destroyed while the dialog is up. `read` is called with a dialog that was
-/// accepted and is still there.
+/// A dialog is destroyed with its parent, possibly while it is open. `read` is called only with a dialog that was
+/// accepted and still exists.
 template<typename Dialog, typename Read>
 auto answerFrom(std::unique_ptr<Dialog> owned, Read read) -> std::optional<decltype(read(*owned))>
 {
@@ -106,7 +106,7 @@ Answer DesktopPrompts::ask(const Question &question)
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(row.first);
     box->setEscapeButton(row.escape);
-    // The style gives both the same picture.
+    // The style uses the same picture for both.
     const QIcon refusal = QIcon::fromTheme(u"window-close"_s);
     if (QAbstractButton *no = box->button(QMessageBox::No); no && !refusal.isNull())
         no->setIcon(refusal);
@@ -124,7 +124,7 @@ std::optional<QString> DesktopPrompts::input(const InputRequest &request)
     dialog->setInputMode(QInputDialog::TextInput);
     dialog->setLabelText(request.text);
     dialog->setTextValue(request.initial);
-    // Labels take text that looks like markup for markup, and the questions here are about markup.
+    // By default labels interpret text that looks like markup, and the questions here are about markup.
     for (QLabel *label : dialog->findChildren<QLabel *>())
         label->setTextFormat(Qt::PlainText);
     if (auto *line = dialog->findChild<QLineEdit *>())
@@ -147,7 +147,7 @@ std::optional<QString> DesktopPrompts::file(const FileRequest &request)
         dialog->selectFile(current.fileName());
     return answerFrom(std::move(dialog), [&](const QFileDialog &done) {
         const QString path = done.selectedFiles().value(0);
-        // A document keeps the name that it has, and so does a file that is there, also one without a dot.
+        // The document's current name and the name of an existing file are kept, even without a dot.
         const bool isNewName =
             request.saving && QFileInfo(path).fileName() != current.fileName() && !QFileInfo::exists(path);
         return QDir::toNativeSeparators(isNewName ? withSuffixOf(done.selectedNameFilter(), path) : path);

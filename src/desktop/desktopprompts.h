@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// Asks with the desktop's dialogs. Each belongs to the form that has the focus, or to the owner.
+/// Asks with the desktop's dialogs. The parent of each is the form that has the focus, or else the owner.
 class DesktopPrompts final : public Prompts
 {
 public:
@@ -20,8 +20,8 @@ public:
     /// The first button is the default one. Escape means Cancel where there is one, else No, else OK.
     Answer ask(const Question &question) override;
     std::optional<QString> input(const InputRequest &request) override;
-    /// A saved name without a dot takes the extension of the filter that was chosen. An initial folder that doesn't
-    /// exist is left to the dialog, which then opens where the last one was closed.
+    /// If the name to save has no dot, it gets the extension of the chosen filter. If the initial folder doesn't exist,
+    /// the dialog opens in the folder where the last one was closed.
     std::optional<QString> file(const FileRequest &request) override;
     std::optional<QString> folder(const QString &title, const QString &initialFolder) override;
     std::optional<quint32> colour(quint32 initial) override;

@@ -26,13 +26,13 @@ Result<QUrl> addressOf(const QString &pathOrUrl)
         return QUrl::fromLocalFile(pathOrUrl);
     }
     const QUrl url(pathOrUrl, QUrl::StrictMode);
-    // A single letter in front of the colon is a drive and no scheme.
+    // A single letter before the colon is a drive letter, not a scheme.
     if (!url.isValid() || url.scheme().size() < 2)
         return Error{Error::Code::Malformed, u"\"%1\" is neither a full path nor an address."_s.arg(pathOrUrl)};
     return url;
 }
 
-/// Shows a window of our own, which ends itself.
+/// Shows one of our own windows without waiting for it; the window deletes itself when it is closed.
 void showBeside(QWidget *window)
 {
     window->setAttribute(Qt::WA_DeleteOnClose);
@@ -56,7 +56,7 @@ Result<void> DesktopShell::open(const QString &pathOrUrl)
 Result<void> DesktopShell::start(const QString &program, const QStringList &arguments)
 {
     const QFileInfo file(program);
-    // A bare name would be looked for in a path that others may have a say in.
+    // A bare name would be searched for in PATH, which others may have influenced.
     if (!QDir::isAbsolutePath(program))
         return Error{Error::Code::Refused, u"\"%1\" isn't the full path of a program."_s.arg(program)};
     if (!file.exists())

@@ -11,12 +11,12 @@ class DesktopShell final : public Shell
 public:
     /// A full path is opened as a file, which must exist; anything else must be an address with a scheme.
     Result<void> open(const QString &pathOrUrl) override;
-    /// The program runs on its own, in the user's home folder, and outlives us.
+    /// The program runs independently, in the user's home folder, and outlives us.
     Result<void> start(const QString &program, const QStringList &arguments) override;
-    /// The file manager shows the properties, or a window of our own where there is none. The file must exist.
+    /// Shows the properties in the file manager, or in a window of our own if there is none. The file must exist.
     Result<void> showProperties(const QString &path) override;
-    /// The file manager opens the user's home folder, where it looks for files; a window of our own does it where there
-    /// is none.
+    /// Opens the user's home folder in the file manager, which can search for files; if there is none, in a window of
+    /// our own.
     Result<void> findFiles() override;
 };
 

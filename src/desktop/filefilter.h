@@ -6,13 +6,13 @@
 
 namespace zephira {
 
-/// The filters of a file dialog, from a list of names and patterns divided by bars. "*.*" becomes "*", which matches
-/// names without a dot too. An empty list, and a name without patterns at its end, give nothing.
+/// The name filters of a file dialog, from a list of names and patterns separated by bars. "*.*" becomes "*", which
+/// also matches names without a dot. An empty list, or a last name without patterns, yields nothing.
 ///
 ///     nameFilters("Html Files|*.html;*.htm|All Files|*.*") == {"Html Files (*.html *.htm)", "All Files (*)"}
 QStringList nameFilters(const QString &filter);
 
-/// The path with the extension of the filter's first pattern after it if the file's name has no dot; a pattern that
+/// The path, with the extension of the filter's first pattern appended if the file's name has no dot. A pattern that
 /// isn't an asterisk, a dot and plain characters adds nothing.
 ///
 ///     withSuffixOf("HTML Files (*.html)", "/home/me/page") == "/home/me/page.html"

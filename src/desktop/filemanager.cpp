@@ -15,7 +15,7 @@ namespace {
 
 constexpr int answerTimeout = 5000; // milliseconds
 
-/// Without a bus that runs already, a connection would start one of its own and leave it behind.
+/// If no bus is running, connecting would start one and leave it behind.
 bool hasSessionBus()
 {
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")

@@ -16,7 +16,7 @@ namespace zephira {
 
 namespace {
 
-/// Reading, writing and executing for owner, group and others, as "rwxr-x---".
+/// Read, write and execute permissions of owner, group and others, as "rwxr-x---".
 QString permissionText(QFile::Permissions permissions)
 {
     struct Letter {

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// What is known of a file, for desktops without a file manager.
+/// Shows a file's properties on desktops without a file manager.
 class FilePropertiesWindow final : public QDialog
 {
     Q_OBJECT

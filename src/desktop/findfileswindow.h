@@ -14,8 +14,8 @@ class QPushButton;
 
 namespace zephira {
 
-/// Looks for files by their names, for desktops without a file manager. It reads a little at a time, so that the program
-/// goes on meanwhile; links to folders are not followed.
+/// Finds files by name on desktops without a file manager. It searches in short steps, so that the program stays
+/// responsive; links to folders are not followed.
 class FindFilesWindow final : public QDialog
 {
     Q_OBJECT

@@ -17,10 +17,10 @@ namespace {
 
 constexpr double twipsPerPixel = 15.0;
 
-/// What the window manager puts around a window, which isn't known before the window shows.
+/// The size of the frame that the window manager adds, which isn't known before the window shows.
 constexpr QSize frame(16, 48);
 
-/// By number; the system has more states, which count as normal.
+/// Indexed by the stored number; the system's other states count as normal.
 constexpr std::array windowStates = {Qt::WindowNoState, Qt::WindowMinimized, Qt::WindowMaximized};
 
 int stateNumber(const QWidget &form)
@@ -66,7 +66,7 @@ private:
 void save(QWidget &form, const Placement &placement)
 {
     const int state = stateNumber(form);
-    // The window manager makes the window normal some time later; where it will stand then is known already.
+    // The window manager restores the normal state with a delay, but the normal geometry is already known.
     const QRect place = state == 0 ? QRect(form.pos(), form.size()) : form.normalGeometry();
     placement.save(UserSetting::WindowState, state);
     if (state != 0)
@@ -81,7 +81,7 @@ void restore(QWidget &form, const Placement &placement)
 {
     QRect place(form.pos(), form.size());
     const QScreen *screen = form.screen();
-    // What isn't stored yet is made to fit.
+    // A size that isn't stored yet is limited to the screen.
     const QSize fitting = screen ? place.size().boundedTo(screen->availableSize() - frame) : place.size();
     place.moveTop(placement.pixels(UserSetting::WindowTop, place.y()));
     place.moveLeft(placement.pixels(UserSetting::WindowLeft, place.x()));

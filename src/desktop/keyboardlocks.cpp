@@ -29,7 +29,7 @@ std::optional<KeyboardLocks> keyboardLocks()
         xcb_query_pointer_reply(connection, xcb_query_pointer(connection, screen->root), nullptr));
     if (!reply)
         return std::nullopt;
-    // Num lock is the second modifier on every keyboard map in use.
+    // Num Lock is the second modifier in every keyboard map in use.
     return KeyboardLocks{.caps = (reply->mask & XCB_MOD_MASK_LOCK) != 0, .num = (reply->mask & XCB_MOD_MASK_2) != 0};
 }
 

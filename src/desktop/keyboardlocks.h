@@ -10,7 +10,7 @@ struct KeyboardLocks {
     bool num = false;
 };
 
-/// The lock keys' present state; nothing where the display doesn't tell.
+/// The current state of the lock keys; nothing if the display can't provide it.
 std::optional<KeyboardLocks> keyboardLocks();
 
 } // namespace zephira

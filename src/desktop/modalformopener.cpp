@@ -14,7 +14,8 @@ namespace zephira {
 
 namespace {
 
-/// Ends a loop when the watched window is hidden or destroyed. Dialogs have a loop of their own; this serves plain windows.
+/// Ends an event loop when the watched window is hidden or destroyed. Dialogs have their own loop; this is for plain
+/// windows.
 class HideWatcher final : public QObject
 {
 public:
@@ -86,7 +87,7 @@ void ModalFormOpener::openModalOver(const QString &form, const QString &hiddenFo
     run(form, m_waiting);
 }
 
-/// The modal form that is on top, so that forms stack as they were opened; else the owner that was asked for.
+/// The topmost modal form, so that forms stack in the order in which they were opened; else the wanted owner.
 QWidget *ModalFormOpener::modalOwner(QWidget *wanted) const
 {
     if (QWidget *top = QApplication::activeModalWidget())
@@ -139,7 +140,7 @@ QWidget *ModalFormOpener::make(const QString &form, QWidget *owner)
 {
     std::erase_if(m_open, [](const QPointer<QWidget> &window) { return window.isNull(); });
     QWidget *window = m_catalogue.make(form, *m_context, owner);
-    // A form is a window of its own, also where its class is a plain widget.
+    // A form is a top-level window, even if its class is a plain widget.
     if (!window->isWindow())
         window->setWindowFlag(Qt::Window);
     m_open.emplace_back(window);

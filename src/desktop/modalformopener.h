@@ -13,29 +13,29 @@ namespace zephira {
 struct AppContext;
 class FormCatalogue;
 
-/// Opens the forms of a catalogue. A form that is open already is brought to the front instead of being made twice.
-/// Nothing can be opened until a context is given.
+/// Opens the forms of a catalogue. A form that is already open is brought to the front instead of being made twice.
+/// Nothing can be opened until setContext() was called.
 class ModalFormOpener final : public FormOpener
 {
 public:
-    /// Forms without another modal form above them belong to `owner`. The catalogue outlives the opener.
+    /// Forms are owned by `owner` unless another modal form is open. The catalogue must outlive the opener.
     ModalFormOpener(const FormCatalogue &catalogue, QWidget *owner);
 
-    /// The context must outlive the opener; it holds a reference to the opener itself, and so comes after it.
+    /// The context must outlive the opener. It refers to the opener itself, so it can only be set later.
     void setContext(const AppContext &context) { m_context = &context; }
 
     bool isAvailable(const QString &form) const override;
     using FormOpener::openModal;
-    /// While a modal form is up, the new one belongs to that.
+    /// While a modal form is open, it owns the new one.
     void openModal(const QString &form, QWidget *owner) override;
     void openModeless(const QString &form) override;
 
-    /// As openModal(), over a second form that is made but not shown. The next openModal() shows that one.
+    /// Like openModal(), on top of a second form that is made but not shown. The next openModal() shows that one.
     void openModalOver(const QString &form, const QString &hiddenForm);
 
-    /// The form of that name that is open, a modeless one also while it is hidden, or nullptr.
+    /// The open form of that name, or nullptr; a modeless form counts as open while it is hidden.
     QWidget *openForm(const QString &form) const;
-    /// Closes every form that is open, the newest first.
+    /// Closes every open form, the newest first.
     void closeAll();
 
 private:

@@ -12,7 +12,7 @@ Result<QObject *> loadModule(const QString &file)
 {
     if (!QDir::isAbsolutePath(file))
         return Error{Error::Code::Refused, u"The module %1 isn't named by its full path."_s.arg(file)};
-    // The loader doesn't unload what it has loaded when it is destroyed.
+    // Destroying the loader doesn't unload the module.
     QPluginLoader loader(file);
     if (QObject *module = loader.instance())
         return module;

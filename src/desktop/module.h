@@ -7,12 +7,12 @@
 
 namespace zephira {
 
-/// Loads a part of the program that lies in a file of its own, so that only those who use it pay for it, and gives its
-/// object, which lives as long as the process. A path that isn't full is refused: nothing is searched for. Loading a
-/// file again gives the same object.
+/// Loads a part of the program from its own file, so that only those who use it pay for it, and returns its object,
+/// which lives as long as the process. A path that isn't absolute is refused: nothing is searched for. Loading a file
+/// again returns the same object.
 Result<QObject *> loadModule(const QString &file);
 
-/// The same as one of the interfaces that the object declares; an object without it is refused.
+/// The same, cast to an interface that the object implements; an object without that interface is refused.
 template<typename Interface>
 Result<Interface *> loadModuleAs(const QString &file)
 {

@@ -13,8 +13,8 @@ namespace zephira {
 
 namespace {
 
-/// The library meets a missing display with sentences of its own and an abort. While one of these lives, its messages are
-/// held back, and what would be the abort is an orderly end.
+/// Without a display, the library prints its own messages and aborts. While an object of this class lives, these
+/// messages are held back, and the abort becomes an orderly exit.
 class OrderlyEnd
 {
 public:
@@ -69,7 +69,7 @@ private:
 
 std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
 {
-    // The two belong together: without OpenGL the engine can only paint by software.
+    // These two belong together: without OpenGL the engine can only paint in software.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     qputenv("QT_QUICK_BACKEND", "software");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
