@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// The list of folders: those on the way from the root to the current one, one below the other, and below it the folders
-/// inside. A double click or Enter moves to a folder.
+/// The list of folders: the path from the root to the current folder, one row each, and under it the current folder's
+/// subfolders. A double click or Enter moves to a folder.
 class DirListBox final : public QTreeWidget
 {
     Q_OBJECT
@@ -15,21 +15,21 @@ class DirListBox final : public QTreeWidget
 public:
     explicit DirListBox(QWidget *parent = nullptr);
 
-    /// Without a separator at its end, unless it is the root.
+    /// The current folder, without a trailing separator unless it is the root.
     QString path() const { return m_path; }
-    /// Returns false, and stays where it is, if the folder isn't there or can't be read.
+    /// Moves to a folder. Returns false and stays where it is if the folder doesn't exist or can't be read.
     bool setPath(const QString &path);
-    /// Reads the folders anew. If the current one is gone, the nearest above it takes its place.
+    /// Reads the folders again. If the current one is gone, its nearest existing ancestor takes its place.
     void refresh();
 
 Q_SIGNALS:
     void pathChanged(const QString &path);
-    /// The second click of a double click isn't told of: it has moved to a folder by then.
+    /// Not emitted for the second click of a double click, which has already moved to a folder.
     void listClicked();
     void deletePressed();
 
 protected:
-    /// What always stands open needs no marks to open it.
+    /// The rows are always expanded, so they need no expander marks.
     void drawBranches(QPainter *, const QRect &, const QModelIndex &) const override {}
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;

@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// The extensions of a file's old and new name, which both panes compare, exact in case, before they rename it.
+/// The extensions of a file's old and new name. Both panes compare them, case-sensitively, before they rename a file.
 class ExtensionChange
 {
 public:
@@ -15,7 +15,7 @@ public:
     {}
 
     bool isNone() const { return m_old == m_new; }
-    /// What is asked when they differ; anything but Yes calls the renaming off.
+    /// The question to ask when they differ; any answer but Yes cancels the renaming.
     Question question() const
     {
         return {QStringLiteral("Are you sure to exchange the file extension from: \"") + m_old

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int columnWidths[] = {190, 90, 150, 80};
 
-/// What an icon view looks like.
+/// The layout of an icon view.
 struct IconLayout {
     QListView::ViewMode mode;
     QListView::Flow flow;
@@ -34,7 +34,7 @@ constexpr IconLayout iconLayouts[] = {
     {QListView::ListMode, QListView::TopToBottom, 16, {190, 24}},
 };
 
-/// The icon views, which tell when the left button is released over them.
+/// The icon views, which report when the left button is released over them.
 class IconList final : public QListView
 {
 public:
@@ -52,7 +52,7 @@ private:
     std::function<void()> m_released;
 };
 
-/// Edits names, and leaves it to the list what becomes of a new one.
+/// Edits names and passes a new name on to the list, which decides about it.
 class NameDelegate final : public QStyledItemDelegate
 {
 public:
@@ -65,7 +65,7 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        // All cells of a grid are alike, and the first name must not decide how much of the others is shown.
+        // All cells of the grid have the same size; the first name must not decide how much of the others is shown.
         constexpr QSize gap(6, 2);
         const auto *list = qobject_cast<const QListView *>(option.widget);
         return list && list->gridSize().isValid() ? list->gridSize() - gap
@@ -78,7 +78,7 @@ public:
         return QStyledItemDelegate::createEditor(parent, option, index);
     }
 
-    /// The Tab key would end the name in the middle, and begin to edit the next one.
+    /// Ignores the Tab keys, which would end the editing and start it for the next name.
     bool eventFilter(QObject *editor, QEvent *event) override
     {
         const bool isTab = event->type() == QEvent::KeyPress
@@ -96,7 +96,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        // What columns ask for doesn't suit a name below its picture.
+        // The alignment meant for columns doesn't suit a name below its picture.
         if (option->decorationPosition == QStyleOptionViewItem::Top)
             option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
     }
@@ -146,7 +146,8 @@ void FileListView::prepare(QAbstractItemView &view)
     view.setItemDelegate(new NameDelegate(
         &view, [this](const QString &name) { Q_EMIT editStarted(name); },
         [this](const QPersistentModelIndex &cell, const QString &name) {
-            // The editor must be gone before anybody is asked anything: a question takes its focus, which ends it again.
+            // The editor must be gone before any question appears: that takes the editor's focus, which would end the
+            // editing again.
             QMetaObject::invokeMethod(
                 this, [this, cell, name] { endEdit(cell, name); }, Qt::QueuedConnection);
         }));
@@ -166,7 +167,8 @@ void FileListView::setView(int view)
     m_icons->setIconSize({layout.iconSize, layout.iconSize});
     m_icons->setGridSize(layout.grid);
     m_icons->setWordWrap(layout.mode == QListView::IconMode);
-    // What wraps grows in one direction alone; a grid's last gap must not ask for a bar in the other.
+    // A wrapping list scrolls in one direction only; the gap after the last column must not cause a scroll bar in the
+    // other.
     const bool growsDown = layout.flow == QListView::LeftToRight;
     m_icons->setHorizontalScrollBarPolicy(growsDown ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     m_icons->setVerticalScrollBarPolicy(growsDown ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
@@ -181,7 +183,7 @@ void FileListView::setDragging(bool on)
     applyDragging();
 }
 
-/// Another arrangement of the icons would forget it.
+/// Must be called after each change of the view mode, which resets the drag mode.
 void FileListView::applyDragging()
 {
     setDragDropMode(m_dragging ? DragOnly : NoDragDrop);
@@ -246,7 +248,7 @@ void FileListView::endEdit(const QPersistentModelIndex &cell, const QString &new
     const QString oldName = cell.data().toString();
     if (!cell.isValid() || newName.isEmpty() || newName == oldName || !mayRename)
         return;
-    // The rows may be others by then.
+    // The rows may have changed meanwhile.
     if (mayRename(oldName, newName) && cell.isValid())
         m_model->setData(cell, newName, Qt::EditRole);
 }
@@ -262,7 +264,7 @@ bool FileListView::eventFilter(QObject *watched, QEvent *event)
             requestPopup(mouse->globalPosition().toPoint());
         return false;
     case QEvent::ContextMenu: {
-        // The button has asked already; what is left is the key.
+        // The mouse press has already requested the menu; this handles the menu key.
         const auto *menu = static_cast<QContextMenuEvent *>(event);
         if (menu->reason() == QContextMenuEvent::Keyboard)
             requestPopup(menu->globalPos());
@@ -273,8 +275,7 @@ bool FileListView::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-/// Tells of the keys that mean something to the window. What a name that is being edited leaves over of its keys is not
-/// meant for the list.
+/// Emits the signals for the keys that the window handles. Keys that a name's editor leaves unhandled are ignored.
 bool FileListView::takeKey(const QWidget &view, const QKeyEvent &key)
 {
     const bool pressed = key.type() == QEvent::KeyPress;
@@ -299,7 +300,7 @@ bool FileListView::takeKey(const QWidget &view, const QKeyEvent &key)
     return true;
 }
 
-/// The press has to select its row before the menu opens.
+/// Deferred, because the press has to select its row before the menu opens.
 void FileListView::requestPopup(const QPoint &place)
 {
     QMetaObject::invokeMethod(

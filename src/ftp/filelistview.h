@@ -14,8 +14,8 @@ namespace zephira {
 class FileRowsModel;
 
 /// A list of files in four views: large icons, small icons, list and report, numbered from 0. The report is this widget
-/// itself; the others lie over it, with the same rows and selection. A click on a column's head sorts by it, and each one
-/// turns the order round.
+/// itself; the other views lie on top of it and share its rows and selection. A click on a column header sorts by that
+/// column and reverses the order each time.
 class FileListView final : public QTreeView, public FileRows
 {
     Q_OBJECT
@@ -28,10 +28,10 @@ public:
 
     int view() const { return m_view; }
     void setView(int view);
-    /// Starts a drag with the selected rows' pictures; nothing takes the drop.
+    /// Enables dragging, which shows the selected rows' pictures; nothing accepts the drop.
     void setDragging(bool on);
 
-    /// Decides about a name that was edited: the old one comes back when it gives false.
+    /// Called with an edited name; returns false to restore the old one.
     std::function<bool(const QString &oldName, const QString &newName)> mayRename;
 
     int count() const override;
@@ -41,7 +41,7 @@ public:
     void editName() override;
 
 Q_SIGNALS:
-    /// The left button was released over the list; the selection is as the click has made it.
+    /// The left button was released over the list; the click has already changed the selection.
     void listClicked();
     /// A double click, or Enter.
     void opened();

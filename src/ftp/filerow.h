@@ -7,12 +7,12 @@
 
 namespace zephira {
 
-/// A row of the local or the remote file list, its columns as they are shown.
+/// A row of the local or the remote file list, with the texts of its columns.
 struct FileRow {
     QString name;
     QString size;
     QString date;
-    /// The exact size in bytes, in decimal. What needs the size reads it here and never from the text for people.
+    /// The exact size in bytes, in decimal. Code that needs the size reads it here, never from the displayed text.
     QString bytes;
     /// Number of its picture in the image lists, from 1.
     int image = 0;
@@ -33,9 +33,9 @@ public:
     virtual bool contains(const QString &name) const = 0;
     /// The selected rows in the order of the list.
     virtual std::vector<FileRow> selected() const = 0;
-    /// Shows other rows, of which none is selected.
+    /// Replaces the rows; none is selected afterwards.
     virtual void setRows(std::vector<FileRow> rows) = 0;
-    /// Starts editing the name of the selected row in its place.
+    /// Starts editing the name of the selected row in place.
     virtual void editName() = 0;
 };
 

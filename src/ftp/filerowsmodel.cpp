@@ -134,7 +134,7 @@ void FileRowsModel::sort(int column, Qt::SortOrder order)
 
 QIcon FileRowsModel::image(int number) const
 {
-    // A theme is slow to ask, and the same few pictures stand in thousands of rows.
+    // Looking an icon up in the theme is slow, and thousands of rows share the same few pictures.
     const auto place = static_cast<std::size_t>(number);
     if (m_images.size() <= place)
         m_images.resize(place + 1);

@@ -10,8 +10,8 @@
 
 namespace zephira {
 
-/// The rows of a file list in four columns, Name, Size, Date and one without a caption, which has the exact size. Rows
-/// stand in the order in which they were given until they are sorted once; from then on new rows are sorted too.
+/// The rows of a file list in four columns: Name, Size, Date, and one without a caption for the exact size. Rows keep
+/// the given order until they are first sorted; from then on new rows are sorted too.
 class FileRowsModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     /// Role of the number of a row's picture in the image lists.
     static constexpr int ImageRole = Qt::UserRole + 2;
 
-    /// `imageOf` gives the picture for a number.
+    /// `imageOf` returns the picture for a number.
     explicit FileRowsModel(std::function<QIcon(int)> imageOf, QObject *parent = nullptr);
 
     const std::vector<FileRow> &rows() const { return m_rows; }
@@ -32,9 +32,9 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
-    /// Names can be changed; what follows from that is the caller's.
+    /// Changes a row's name in the model only; the caller has to rename the file.
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
-    /// By the text that the column shows, without regard to case; equal rows keep their order.
+    /// Sorts by the text of the column, without regard to case; equal rows keep their order.
     void sort(int column, Qt::SortOrder order) override;
 
 private:

@@ -5,15 +5,15 @@
 
 namespace zephira {
 
-// Numbers in the image lists beyond the file types, which have 1 to 10.
+// Numbers in the image lists after those of the file types, which have 1 to 10.
 constexpr int rootImage = 11;
 constexpr int folderImage = 12;
 constexpr int openFolderImage = 13;
 
-/// The text behind the last point; empty if there is none.
+/// The text after the last dot; empty if there is none.
 QString extensionOf(const QString &name);
 
-/// Number of the picture for a file's extension, without regard to case; 10 for one that isn't known.
+/// Number of the picture for a file's extension, without regard to case; 10 for an unknown one.
 int imageForFile(const QString &name);
 
 } // namespace zephira

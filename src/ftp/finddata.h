@@ -12,7 +12,8 @@ constexpr quint32 FILE_ATTRIBUTE_DIRECTORY = 16;
 /// An entry of a folder on the server.
 struct FindData {
     quint32 attributes = 0;
-    /// In tenths of a microsecond since 1 January 1601, in whatever zone the server tells its times; 0 when it told none.
+    /// In units of 100 nanoseconds since 1 January 1601, in the time zone that the server uses; 0 if the server gave
+    /// none.
     quint64 lastWriteTime = 0;
     /// The size in bytes: its upper and its lower 32 bits.
     quint32 sizeHigh = 0;
@@ -23,7 +24,7 @@ struct FindData {
     friend bool operator==(const FindData &, const FindData &) = default;
 };
 
-/// A moment by its parts: month and day from 1, hour from 0 to 23.
+/// A date and time of day: month and day from 1, hour from 0 to 23.
 struct SystemTime {
     int year = 0;
     int month = 0;
@@ -39,7 +40,7 @@ struct SystemTime {
 /// time whose highest bit is set, and leaves `parts` as it was.
 bool FileTimeToSystemTime(quint64 time, SystemTime &parts);
 
-/// The same backwards; nothing for parts that are no date and time of day, or lie before 1601.
+/// The reverse; nothing if the parts are no valid date and time of day or lie before 1601.
 std::optional<quint64> systemTimeToFileTime(const SystemTime &parts);
 
 } // namespace zephira

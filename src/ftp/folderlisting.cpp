@@ -11,7 +11,7 @@ namespace zephira {
 
 namespace {
 
-/// Calls `read` with each line, and keeps what it makes of it.
+/// Calls `read` for each line and collects the entries that it returns.
 template<typename Read>
 std::vector<ListedEntry> readLines(QByteArrayView listing, Read read)
 {
@@ -43,7 +43,7 @@ quint64 mlsdTime(QByteArrayView text)
         .value_or(0);
 }
 
-/// Compares without regard to case, as all of the facts are.
+/// Compares without regard to case, as is required for all facts.
 bool isWord(QByteArrayView text, QByteArrayView word)
 {
     return text.compare(word, Qt::CaseInsensitive) == 0;
@@ -61,7 +61,7 @@ bool takeMlsdType(QByteArrayView type, ListedEntry &entry)
 
 std::optional<ListedEntry> readMlsdLine(QByteArrayView line)
 {
-    // Values hold no blank, so the first one ends the facts; the name may hold whatever it likes.
+    // The facts contain no blank, so the first one ends them; the name may contain any character.
     const qsizetype blank = line.indexOf(' ');
     if (blank < 0)
         return {};

@@ -30,7 +30,7 @@ const QString applicationTitle = u"Zephira"_s;
 
 constexpr qsizetype shortestServer = 7;
 
-/// Sets a box or a radio button without what follows from a click on it.
+/// Sets a check box or radio button without triggering the effects of a click.
 void setQuietly(QAbstractButton *button, bool checked)
 {
     const QSignalBlocker quiet(button);
@@ -71,7 +71,7 @@ void FrmConnect::connectControls()
     for (QLineEdit *box : {m_ui->txtUser, m_ui->txtPass})
         connect(box, &QLineEdit::textEdited, this, &FrmConnect::accountTyped);
 
-    // The service is always FTP; these two change what the fields propose.
+    // The service is always FTP; these two buttons only change which values the fields propose.
     connect(m_ui->Option5, &QRadioButton::toggled, this, [this](bool set) {
         if (set) {
             m_ui->txtPort->setText(u"80"_s);
@@ -115,7 +115,7 @@ void FrmConnect::load(const QTreeWidgetItem *item)
     m_ui->Command5->setEnabled(true);
 }
 
-/// Fields and boxes show what the file holds; what follows when a user types or ticks doesn't.
+/// Fills fields and boxes from the file without the effects of typing or ticking.
 void FrmConnect::showProfile(const SiteProfile &profile)
 {
     m_ui->txtSiteName->setText(profile.siteName);
@@ -140,7 +140,7 @@ void FrmConnect::save()
         m_context.prompts.tell(u"Fill something in the first two text boxes!"_s, {}, Question::Icon::Exclamation);
         return;
     }
-    // A profile that can't be written is passed over in silence; the tree then shows no new one.
+    // A profile that can't be written is ignored silently; the tree then shows no new entry.
     writeSiteProfile(profile, siteProfilePath(m_context.appPath, profile.siteName));
     buildTree();
     m_ui->Command5->setEnabled(false);
@@ -202,13 +202,13 @@ void FrmConnect::setAnonymous(bool ticked)
     noteChange();
 }
 
-/// The box is unticked as if by a click, which empties both fields, the typed character included.
+/// Unticks the box as a click would, which empties both fields, including the typed character.
 void FrmConnect::accountTyped()
 {
     m_ui->Check1->setChecked(false);
 }
 
-/// The fields are no longer those of the chosen profile.
+/// The fields no longer match the chosen profile.
 void FrmConnect::noteChange()
 {
     m_ui->Command5->setEnabled(false);

@@ -19,13 +19,13 @@ class FtpDesk;
 struct FtpClient;
 struct SiteProfile;
 
-/// The sites: keeps profiles, fills its fields from the one that is chosen, and connects.
+/// The site manager: saves profiles, fills its fields from the chosen one, and connects.
 class FrmConnect final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `desk` is the FTP window that opens the form; without one nothing can be connected.
+    /// `desk` is the FTP window that opens the form; without it, connecting is not possible.
     FrmConnect(FtpClient &client, FtpDesk *desk, const AppContext &context, QWidget *owner);
     ~FrmConnect() override;
 
@@ -52,7 +52,7 @@ private:
     FtpClient &m_client;
     FtpDesk *const m_desk;
     const AppContext &m_context;
-    /// The profile that Delete means: the text of the node that was chosen last.
+    /// The profile that Delete refers to: the text of the last chosen node.
     QString m_chosen;
 };
 

@@ -42,7 +42,7 @@ constexpr PanelRow panelRows[] = {{u"Status", 0}, {u"Last action", 1}, {u"Connec
 
 } // namespace
 
-/// What an entry of the menus runs: a command of one of the panes, or of the window.
+/// What a menu entry runs: a command of one of the panes, or of the window.
 struct frmmainftp::Command {
     QStringView entry;
     void (*run)(frmmainftp &);
@@ -132,7 +132,7 @@ void frmmainftp::makePanels()
         panel->setAccessibleName(panelRows[i].name.toString());
         panel->setTextFormat(Qt::PlainText);
         panel->setMargin(2);
-        // A long path is cut, never the window widened.
+        // A long path is cut off rather than widening the window.
         if (panelRows[i].stretch)
             panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         m_ui->stBar->addWidget(panel, panelRows[i].stretch);
@@ -143,7 +143,7 @@ void frmmainftp::makePanels()
 
 void frmmainftp::makePanes()
 {
-    // The bars are parts that the splitters make.
+    // The splitters create the handles themselves.
     m_ui->panes->handle(1)->setObjectName(u"Picture1"_s);
     m_ui->panes->handle(1)->setAccessibleName(u"Bar between this computer and the server"_s);
     m_ui->panesAndLog->handle(1)->setObjectName(u"Picture2"_s);
@@ -309,7 +309,7 @@ void frmmainftp::showLog()
         return;
     m_ui->txtInfo->insertPlainText(std::exchange(m_comingLog, {}));
     m_ui->txtInfo->ensureCursorVisible();
-    // The next call to the server keeps the window from painting itself; but a long list of lines must not be slow.
+    // The next call to the server blocks, so the window must be painted now; but not for each line of a long log.
     if (m_sinceLogPainted.hasExpired(logPaintInterval)) {
         m_ui->txtInfo->viewport()->repaint();
         m_sinceLogPainted.restart();

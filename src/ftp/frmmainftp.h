@@ -27,8 +27,8 @@ class RemotePane;
 struct AppContext;
 struct FtpClient;
 
-/// The FTP window: this machine's folders and files on the left, the server's on the right, the session's log below. What
-/// the commands do is LocalCommands', RemoteCommands' and FtpConnection's; the window connects them with its controls.
+/// The FTP window: this machine's folders and files on the left, the server's on the right, the session's log below.
+/// LocalCommands, RemoteCommands and FtpConnection implement the commands; the window connects them with its controls.
 class frmmainftp final : public QMainWindow, public FtpDesk
 {
     Q_OBJECT
@@ -38,9 +38,9 @@ public:
     frmmainftp(FtpClient &client, const AppContext &context, QWidget *owner);
     ~frmmainftp() override;
 
-    /// The local folder, with a separator at its end.
+    /// The local folder, with a trailing separator.
     QString localFolder() const;
-    /// A folder that isn't there leaves the pane as it is.
+    /// Shows a local folder. If it doesn't exist, the pane stays as it is.
     void setLocalFolder(const QString &folder);
 
     Q_INVOKABLE void Help();
@@ -76,7 +76,7 @@ private:
     void connectRemotePane();
     void addHelpKeys();
     void run(const QString &entry);
-    /// Tells an error that no command has a message for, under the name of its procedure.
+    /// Shows errors for which no command has a message, with the procedure's name.
     void guard(const QString &procedure, const std::function<void()> &body);
 
     void openLogs();
@@ -95,7 +95,7 @@ private:
     std::unique_ptr<RemoteCommands> m_remote;
     std::array<QLabel *, 3> m_panels{};
     QElapsedTimer m_sinceLogPainted;
-    /// Lines that stand in no box yet.
+    /// Log lines that the text box doesn't show yet.
     QString m_comingLog;
 };
 

@@ -21,7 +21,7 @@ namespace zephira {
 
 namespace {
 
-/// In milliseconds: showing the progress more often than it can be read would only cost time.
+/// In milliseconds. Updating the display more often than it can be read would only cost time.
 constexpr quint32 paintInterval = 1000 / 20;
 
 /// A bar counts in bytes as long as its numbers allow, and never has an end of 0, which would stand for "unknown".
@@ -36,8 +36,8 @@ void setBarValue(QProgressBar &bar, qint64 value)
     bar.setValue(int(std::min<qint64>(value, bar.maximum())));
 }
 
-/// Milliseconds since the machine was started, which wrap around after 49 days. It is asked a million times with a
-/// gigabyte, so that it takes the clock that is cheap and goes on by a few milliseconds at a time.
+/// Milliseconds since the machine was started, which wrap around after 49 days. Called about a million times per
+/// gigabyte, so it uses the cheap clock, whose resolution is a few milliseconds.
 quint32 tickCount()
 {
     constexpr qint64 perSecond = 1000;
@@ -75,7 +75,7 @@ void frmProg::showQueue()
     m_ui->Command3->setText(m_queue.startCaption());
     m_ui->Label4->setText(m_queue.movedCaption());
     m_ui->lbCelkem->setText(QString::number(m_queue.total()));
-    // The number of the current file stands in the gap that the count leaves in front of its slash.
+    // The number of the current file goes into the blanks before the slash in the count's text.
     const QString text = m_queue.countText();
     const int gap = m_ui->Label2->fontMetrics().horizontalAdvance(text.first(text.indexOf(u'/')));
     m_ui->lbCount->setFixedWidth(gap);
@@ -84,14 +84,14 @@ void frmProg::showQueue()
 void frmProg::run()
 {
     m_ui->Command1->setEnabled(true);
-    // A message of the run may outlive the window, when the whole program is ended meanwhile.
+    // The program may be closed while a message of the run is open; then the window is gone before the run returns.
     const QPointer<frmProg> self(this);
     const TransferEngine::Outcome outcome = m_engine.run(m_queue);
     if (self && outcome == TransferEngine::Outcome::Completed)
         accept();
 }
 
-/// The run takes no input while it lasts, so that there is nothing left to cancel as soon as this is heard of.
+/// A run doesn't process input, so when this click is handled there is nothing left to cancel.
 void frmProg::cancel()
 {
     if (m_engine.handle() == 0)
@@ -137,7 +137,7 @@ bool frmProg::isPaintDue() const
     return tickCount() - m_paintedAt >= paintInterval;
 }
 
-/// At once, because events are not handled during a run, and no more than what is new.
+/// Repaints immediately, because events are not processed during a run, and only what has changed.
 void frmProg::showAll()
 {
     if (!m_isFileShown)

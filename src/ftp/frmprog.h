@@ -18,14 +18,15 @@ class frmProg;
 
 struct AppContext;
 
-/// Moves the queue that its opener has filled, and shows how far it has come. Nothing moves until the start button is
-/// pressed. During a run the window takes no input; it closes itself at the end, and stays open if the run had to stop.
+/// Transfers the queue that was filled before it opened, and shows the progress. Nothing is transferred until the start
+/// button is pressed. During a run the window takes no input; it closes itself at the end, but stays open if the run
+/// had to stop.
 class frmProg final : public QDialog, private TransferDisplay
 {
     Q_OBJECT
 
 public:
-    /// Takes the queue out of the client. Log and panels outlive the form.
+    /// Takes the queue out of the client. `log` and `panels` must outlive the form.
     frmProg(FtpClient &client, LogDisplay &log, PanelDisplay &panels, const AppContext &context, QWidget *owner);
     ~frmProg() override;
 
@@ -49,17 +50,17 @@ private:
     Prompts &m_prompts;
     const TransferQueue m_queue;
     TransferEngine m_engine;
-    /// In ticks.
+    /// As counted by tickCount().
     quint32 m_paintedAt = 0;
 
-    /// What was told of the current file, and how far the run was then.
+    /// The arguments of the last beginFile(), and the progress at that time.
     struct File {
         int number = 0;
         QString line;
         double barMaximum = 0;
     };
     File m_file;
-    /// Nothing before the first block of a run.
+    /// Empty before the first block of a run.
     std::optional<TransferProgress> m_progress;
     bool m_isFileShown = true;
 };

@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// What the windows of the file transfer share. There is one for the process, so that a window that is closed and opened
+/// What the windows of the file transfer share. There is one per process, so that a window that is closed and opened
 /// again finds the session as it was left.
 struct FtpClient {
     InternetOperations &operations;

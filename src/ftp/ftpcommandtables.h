@@ -22,18 +22,18 @@ struct FtpMenuItem {
 /// The menu bar.
 std::span<const FtpMenuItem> ftpMenus();
 
-/// A button of the tool bar, which does what an entry of the menus does.
+/// A button of the tool bar, which triggers a menu entry.
 struct FtpToolKey {
     QStringView key;
     QStringView entry;
     QStringView tip;
-    /// Which side it acts on, which its picture shows.
+    /// The side that it acts on, which is shown by a mark on its picture.
     enum class Side { None, Local, Server } side = Side::None;
-    /// Stands beside the picture, or empty.
+    /// Text beside the picture, or empty.
     QStringView label = {};
 };
 
-/// The tool bar: two groups, the connection with the local side, and the server's side.
+/// The tool bar has two groups: the connection with the local side, and the server's side.
 std::span<const FtpToolKey> localToolKeys();
 std::span<const FtpToolKey> remoteToolKeys();
 

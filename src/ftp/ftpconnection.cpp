@@ -36,7 +36,7 @@ bool FtpConnection::connectToServer(const ConnectRequest &request, const std::fu
     session.ftpSearchPath = loginSearchPath();
     m_desk.log(LogEntry::Connected);
     m_desk.addRemoteRoot();
-    // The list shows the login folder, but until a folder is clicked commands build their paths from the root.
+    // The list shows the login folder, but commands build their paths from the root until a folder is clicked.
     session.ftpRemoteFolder = u"/"_s;
     m_desk.List();
     return true;
@@ -55,7 +55,7 @@ bool FtpConnection::openConnection(const ConnectRequest &request, quint32 flags,
         return false;
     }
     m_desk.log(LogEntry::Banner, {UCase(request.siteName), session.ftpServer});
-    // The port is a word without a sign on the wire, so that a negative number stands for one above 32767.
+    // The port is an unsigned 16-bit number, so a negative number means one above 32767.
     session.ftpConnectHandle = m_client.operations.InternetConnectA(
         session.ftpOpenHandle, session.ftpServer, static_cast<quint16>(session.ftpPort), session.ftpUser,
         session.ftpPassword, INTERNET_SERVICE_FTP, flags, 0);
@@ -72,7 +72,7 @@ QString FtpConnection::loginSearchPath()
     constexpr quint32 bufferLength = 260;
     QString folder(bufferLength, u' ');
     quint32 length = bufferLength;
-    // A server that doesn't tell its folder is listed from the root.
+    // If the server doesn't report its folder, the root is listed.
     if (!m_client.operations.FtpGetCurrentDirectoryA(m_client.session.ftpConnectHandle, folder, length))
         folder.clear();
     if (const qsizetype end = folder.indexOf(QChar::Null); end >= 0)

@@ -11,15 +11,15 @@ class FtpDesk;
 class Prompts;
 struct FtpClient;
 
-/// What the connect dialog has chosen. Server, user, password and port stand in the session already.
+/// The choices of the connect dialog. Server, user, password and port are already in the session.
 struct ConnectRequest {
-    /// Shown in the log, and the agent's name; never empty.
+    /// Shown in the log, and used as the agent's name; never empty.
     QString siteName;
     bool binary = true;
     bool passive = true;
 };
 
-/// Opens and closes the session's connection, and shows that on the desk.
+/// Opens and closes the session's connection, and shows its state in the FTP window.
 class FtpConnection
 {
 public:
@@ -27,16 +27,16 @@ public:
         : m_client(client), m_desk(desk), m_prompts(prompts)
     {}
 
-    /// Connects, logs in and lists the login folder. `hideDialog` is called once the service is asked for. A failure is
-    /// told and logged, and leaves the session unconnected; false then.
+    /// Connects, logs in and lists the login folder. `hideDialog` is called once the service has been requested.
+    /// Returns false after a failure, which is shown and logged and leaves the session unconnected.
     bool connectToServer(const ConnectRequest &request, const std::function<void()> &hideDialog);
-    /// Sets the session's transfer type and the menu's marks, which is all that the type does.
+    /// Sets the session's transfer type and the check marks in the menu; the type has no other effect.
     void setTransferType(bool binary);
     /// Closes both handles and forgets them.
     void disconnectFromServer();
-    /// Closes both handles and keeps their numbers, as the end of the window does.
+    /// Closes both handles but keeps their numbers, as happens when the window closes.
     void closeHandles();
-    /// Ends every dial-up connection of the machine and tells each one that ended.
+    /// Ends every dial-up connection of the machine and shows a message for each.
     void hangUp();
 
 private:

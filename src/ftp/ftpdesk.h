@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// The FTP window as its commands and the connection see it.
+/// The FTP window as the commands and the connection see it.
 class FtpDesk : public LogDisplay, public PanelDisplay
 {
 public:
@@ -15,12 +15,12 @@ public:
 
     /// Empties the tree of server folders.
     virtual void clearRemoteTree() = 0;
-    /// Adds the root of the server to the tree.
+    /// Adds the server's root to the tree.
     virtual void addRemoteRoot() = 0;
-    /// Lists the session's search path into the tree and the list of the server.
+    /// Lists the session's search path and fills the tree and the server's file list.
     virtual void List() = 0;
 
-    /// Shows a form of the catalogue modally over the window, and waits for its end.
+    /// Opens a form of the catalogue modally over the window, and waits until it is closed.
     virtual void openModal(const QString &form) = 0;
 
     // The Refresh commands of the two panes.

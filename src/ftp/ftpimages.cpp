@@ -15,7 +15,7 @@ struct ImageRow {
     QStyle::StandardPixmap fallback;
 };
 
-/// The image lists, from number 1 on.
+/// The image lists, starting with number 1.
 constexpr ImageRow images[] = {
     {u"image-x-generic", QStyle::SP_FileIcon},
     {u"text-html", QStyle::SP_FileIcon},
@@ -46,7 +46,7 @@ QIcon ftpImage(int number, const QWidget &widget)
     for (const int size : imageSizes) {
         const QPixmap pixmap = picture.pixmap({size, size}, widget.devicePixelRatioF());
         icon.addPixmap(pixmap, QIcon::Normal);
-        // A style would mix the selection's colour into it, on which thin lines can't be seen any more.
+        // Otherwise a style would blend it with the selection's colour, where its thin lines become invisible.
         icon.addPixmap(pixmap, QIcon::Selected);
     }
     return icon;

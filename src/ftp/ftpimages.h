@@ -7,11 +7,11 @@ class QWidget;
 
 namespace zephira {
 
-/// A picture of the image lists by its number, from 1 to 13, large and small; see filetypes.h for what the numbers stand
-/// for. Where the icon theme lacks it, it is one of the widget's style.
+/// A picture of the image lists by its number, from 1 to 13, in a large and a small size; see filetypes.h for the
+/// meaning of the numbers. If the icon theme lacks the picture, the widget's style provides one.
 QIcon ftpImage(int number, const QWidget &widget);
 
-/// The picture of a folder in the tree, which is another one while the folder is selected.
+/// The picture of a folder in the tree; it differs while the folder is selected.
 QIcon ftpFolderImage(const QWidget &widget);
 
 } // namespace zephira

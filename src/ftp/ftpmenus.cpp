@@ -15,7 +15,7 @@ namespace zephira {
 
 namespace {
 
-/// The picture with a small one of the computer or of the server in its corner.
+/// The picture with a small computer or server in its corner.
 QIcon pictureOf(const QIcon &picture, FtpToolKey::Side side, const QToolBar &toolBar)
 {
     if (side == FtpToolKey::Side::None)
@@ -84,7 +84,7 @@ void FtpMenus::addEntry(QMenu *menu, const FtpMenuItem &item)
     entry->setCheckable(item.kind == FtpMenuItem::Kind::Check);
     m_entries.insert(entry->objectName(), entry);
     connect(entry, &QAction::triggered, this, [this, entry] {
-        // The mark is the command's to set: undo what the click did to it.
+        // Only the command sets the check mark: undo what the click did to it.
         if (entry->isCheckable())
             entry->setChecked(!entry->isChecked());
         Q_EMIT triggered(entry->objectName());

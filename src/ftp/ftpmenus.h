@@ -21,12 +21,12 @@ class FtpMenus final : public QObject
 public:
     FtpMenus(QMenuBar &menuBar, QToolBar &toolBar, QObject *parent = nullptr);
 
-    /// The entry of that name, which the table has.
+    /// The entry of that name, which must exist in the table.
     QAction &entry(QStringView name) const;
     QMenu &menu(QStringView name) const;
 
 Q_SIGNALS:
-    /// An entry was chosen, or the tool key that stands for it. The check mark of an entry is still the old one.
+    /// An entry was chosen, or its tool button was clicked. The entry's check mark is not changed yet.
     void triggered(const QString &entry);
 
 private:

@@ -9,7 +9,7 @@ namespace zephira {
 
 namespace {
 
-/// More than any greeting or list of features; a server that never ends a reply is cut off here.
+/// Longer than any greeting or list of features; a server that never ends a reply is cut off here.
 constexpr qsizetype longestReply = 1 << 18;
 
 bool isDigit(char c)
@@ -17,7 +17,7 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// The three digits that a line begins with, if a blank, "-" or nothing follows; else 0.
+/// The three digits at the start of a line if a blank, "-" or nothing follows them; else 0.
 int codeOf(QByteArrayView line)
 {
     const bool hasCode = line.size() >= 3 && line[0] >= '1' && line[0] <= '5' && isDigit(line[1]) && isDigit(line[2])
@@ -61,7 +61,7 @@ std::optional<quint16> extendedPassivePort(const FtpReply &reply)
     if (reply.code != 229 || open < 0 || close < open + 6)
         return {};
     const QByteArray parts = reply.text.sliced(open + 1, close - open - 1);
-    // The server chooses the character that divides the parts.
+    // The server chooses the delimiter.
     const QByteArray divider(3, parts.front());
     if (isDigit(parts.front()) || !parts.startsWith(divider) || !parts.endsWith(parts.front()))
         return {};
@@ -75,7 +75,7 @@ std::optional<quint16> passivePort(const FtpReply &reply)
 {
     if (reply.code != 227)
         return {};
-    // Some servers leave the parentheses out, so what counts is the row of six numbers behind the code.
+    // Some servers omit the parentheses, so this looks for six numbers in a row after the code.
     const auto isPart = [](char c) { return isDigit(c) || c == ','; };
     const auto begin = std::find_if(reply.text.begin() + 3, reply.text.end(), isDigit);
     const QByteArray row(begin, std::find_if_not(begin, reply.text.end(), isPart) - begin);

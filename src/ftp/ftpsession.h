@@ -5,11 +5,11 @@
 
 namespace zephira {
 
-/// What the windows of the file transfer share: one copy for the process, which outlives them.
+/// The session that the windows of the file transfer share: one per process, which outlives them.
 struct FtpSession {
     InternetHandle ftpOpenHandle = 0;
     InternetHandle ftpConnectHandle = 0;
-    /// 1 for ASCII, 2 for binary; the state of the menu alone, because every transfer is binary.
+    /// 1 for ASCII, 2 for binary. It only reflects the menu, because every transfer is binary.
     qint32 ftpTransferType = 0;
     QString ftpServer;
     QString ftpUser;
@@ -22,7 +22,7 @@ struct FtpSession {
     /// Ends in "/".
     QString ftpRemoteFolder;
 
-    /// There is no other flag: stale handles count as a connection, and its operations then fail.
+    /// There is no other flag: stale handles count as connected, and operations on them then fail.
     bool isConnected() const { return ftpOpenHandle != 0 && ftpConnectHandle != 0; }
 };
 

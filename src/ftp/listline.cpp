@@ -10,7 +10,7 @@ namespace zephira {
 
 namespace {
 
-/// A part of a line between blanks, and where it stands.
+/// A part of a line delimited by blanks, and its position.
 struct Word {
     QByteArrayView text;
     qsizetype begin = 0;
@@ -20,7 +20,7 @@ struct Word {
 
 using Words = std::vector<Word>;
 
-/// The words that can hold what comes before the name; a name of many words needs no more of them.
+/// The words that can precede the name; the remaining words of a long name aren't needed.
 Words wordsOf(QByteArrayView line)
 {
     constexpr std::size_t most = 16;
@@ -39,7 +39,7 @@ Words wordsOf(QByteArrayView line)
     return words;
 }
 
-/// The number that a text of digits alone spells.
+/// The number in a text that consists of digits only.
 template<typename Number>
 std::optional<Number> digits(QByteArrayView text)
 {
@@ -50,7 +50,7 @@ std::optional<Number> digits(QByteArrayView text)
     return static_cast<Number>(value);
 }
 
-/// Numbers with one divider between them, as in "2001-03-05" or "9:07".
+/// Numbers separated by one delimiter, as in "2001-03-05" or "9:07".
 template<std::size_t count>
 std::optional<std::array<int, count>> numbers(QByteArrayView text, char divider)
 {
@@ -77,10 +77,10 @@ int monthNumber(QByteArrayView name)
     return found == std::end(names) ? 0 : static_cast<int>(found - std::begin(names)) + 1;
 }
 
-/// The last year in which this was a day, and not later than tomorrow.
+/// The last year in which this date existed and was not later than tomorrow.
 int recentYear(int month, int day, QDate today)
 {
-    // Eight years hold a leap day in every case.
+    // Any eight years in a row contain a leap day.
     for (int year = today.addDays(1).year(); year > today.year() - 9; --year) {
         const QDate date(year, month, day);
         if (date.isValid() && date <= today.addDays(1))
@@ -89,8 +89,8 @@ int recentYear(int month, int day, QDate today)
     return 0;
 }
 
-/// "Mar 5 9:07", "Mar 5 2001", the same with the day first, or "2001-03-05 09:07", from a word on. `length` becomes the
-/// number of words.
+/// "Mar 5 9:07", "Mar 5 2001", the same with the day first, or "2001-03-05 09:07", starting at a word. `length` becomes
+/// the number of words.
 std::optional<quint64> unixTime(const Words &words, std::size_t at, QDate today, std::size_t &length)
 {
     SystemTime time;
@@ -119,8 +119,8 @@ std::optional<quint64> unixTime(const Words &words, std::size_t at, QDate today,
     return systemTimeToFileTime(time);
 }
 
-/// The name and the target of a link are one text, "a -> b", and either may hold an arrow. The size of a link is the
-/// length of its target on most servers, which tells where it begins.
+/// The name and the target of a link are one text, "a -> b", and either may contain an arrow. On most servers the size
+/// of a link is the length of its target, which shows where the target begins.
 QByteArrayView linkName(QByteArrayView text, quint64 size)
 {
     constexpr QByteArrayView arrow(" -> ");
@@ -134,13 +134,13 @@ QByteArrayView linkName(QByteArrayView text, quint64 size)
     return end < 0 ? text : text.first(end);
 }
 
-/// "d" or "-" with NetWare's rights in brackets as the next word.
+/// "d" or "-" followed by NetWare's rights in brackets.
 bool beginsNetWareLine(const Words &words)
 {
     return words.front().text.size() == 1 && words[1].text.startsWith('[');
 }
 
-/// "drwxr-xr-x" and what may stand behind it.
+/// "drwxr-xr-x", perhaps followed by more characters.
 bool beginsUnixLine(const Words &words)
 {
     const QByteArrayView first = words.front().text;
@@ -149,8 +149,8 @@ bool beginsUnixLine(const Words &words)
     return first.size() >= length && std::all_of(first.begin() + 1, first.begin() + length, isRight);
 }
 
-/// Between the rights and the size stand a number of links, an owner and a group, or fewer or more words than that. What
-/// can be known again is the size with a date behind it, so the first such pair counts.
+/// Between the rights and the size there are usually a link count, an owner and a group, but there may be fewer or more
+/// words. What can be recognised is a size followed by a date, so the first such pair is used.
 std::optional<ListedEntry> readUnixLine(QByteArrayView line, const Words &words, QDate today)
 {
     const char kind = words.front().text.front();
@@ -163,7 +163,8 @@ std::optional<ListedEntry> readUnixLine(QByteArrayView line, const Words &words,
         const std::optional<quint64> time = size ? unixTime(words, at, today, length) : std::nullopt;
         if (!time)
             continue;
-        // One blank divides the name from the date, and further ones belong to the name; but NetWare fills up a column.
+        // One blank separates the date from the name, and further ones belong to the name; but NetWare pads its
+        // columns.
         const qsizetype end = words[at + length - 1].end();
         if (end + 1 >= line.size())
             return {};
@@ -202,7 +203,7 @@ std::optional<ListedEntry> readDosLine(QByteArrayView line, const Words &words)
     const std::optional<quint64> size = isFolder ? 0 : digits<quint64>(words[2].text);
     if (!time || !size)
         return {};
-    // The column of names: ten blanks behind the word for a folder, one behind the last digit of a size.
+    // The column where names begin: ten blanks after the word for a folder, one after the last digit of a size.
     constexpr qsizetype behindFolder = 10;
     const QByteArrayView rest = line.sliced(words[2].end());
     const auto isBlank = [](char c) { return c == ' '; };

@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// An entry from one line of an answer to LIST, without the line's end; nothing for a line that is no entry, such as the
-/// total, and for devices, pipes and sockets. `today` dates what has no year, as in readList.
+/// The entry in one line of a LIST answer, given without its line end; nothing for a line that is no entry, such as the
+/// total, and for devices, pipes and sockets. `today` completes dates without a year, as in readList.
 std::optional<ListedEntry> readListLine(QByteArrayView line, QDate today);
 
 } // namespace zephira

@@ -34,7 +34,7 @@ void require(bool done, const QString &description)
         throw HandlerError{description};
 }
 
-/// What must hold for a name that shall not lead out of its folder.
+/// True for a name that can't lead out of its folder.
 bool isPlainName(const QString &name)
 {
     return name != u"." && name != u".." && !name.contains(u'/') && !name.contains(QChar::Null);
@@ -218,7 +218,7 @@ bool LocalCommands::renameEnded(const QString &oldName, const QString &newName)
         return false;
     require(isPlainName(newName), u"Bad file name or number"_s);
     const QString folder = m_client.session.ftpLocalFolder;
-    // A link counts as well, wherever it leads.
+    // A link counts as well, even if its target doesn't exist.
     if (const QFileInfo target(folder + newName); target.exists() || target.isSymLink()) {
         refuse(u"More than one file with the same name in one folder? no way!"_s);
         return false;

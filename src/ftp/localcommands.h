@@ -11,14 +11,14 @@ struct AppContext;
 struct FileRow;
 struct FtpClient;
 
-/// The commands of this machine's side. What the system refuses and no message of their own covers raises HandlerError,
-/// with Basic's description.
+/// The commands of this machine's side. If the system refuses an operation and there is no message for that case, they
+/// raise HandlerError with Basic's description.
 class LocalCommands
 {
 public:
     LocalCommands(FtpClient &client, FtpDesk &desk, LocalView &view, const AppContext &context);
 
-    /// Reads the folder anew and fills the pane from it.
+    /// Reads the folder again and updates the pane.
     void refill();
     void openFile();
     void upload();
@@ -31,20 +31,21 @@ public:
     void findFile();
     void showProperties();
 
-    /// Moves to a folder and fills the pane from it.
+    /// Moves to a folder and updates the pane.
     void moveTo(const QString &folder);
     /// Moves to the root of a drive.
     void chooseDrive(const QString &drive);
-    /// Tells the number and size of the selected files.
+    /// Shows the number and size of the selected files.
     void showSummary();
     void renameStarted(const QString &name);
-    /// What follows when a name was edited. Returns whether the new name may stay in the list.
+    /// Called when a name was edited. Returns whether the new name may stay in the list.
     bool renameEnded(const QString &oldName, const QString &newName);
 
 private:
     void refuse(const QString &message);
     bool confirm(const QString &question);
-    /// Asks about those of some files that the program needs itself, by name. True if nothing speaks against the command.
+    /// Asks for confirmation if the program itself needs some of these files, listing their names. Returns true if the
+    /// command may proceed.
     bool mayChange(const QStringList &names, const QString &question);
     QString pathOf(const FileRow &file) const;
 
@@ -54,7 +55,7 @@ private:
     const AppContext &m_context;
 };
 
-/// The row of a file of this machine.
+/// The row for a local file.
 FileRow localFileRow(const QString &path);
 
 } // namespace zephira

@@ -37,7 +37,7 @@ QString LocalPane::folder() const
 
 bool LocalPane::setFolder(const QString &path)
 {
-    // What moves the list from here fills the pane itself.
+    // Code that moves the list from here updates the pane itself.
     const QSignalBlocker quiet(&m_parts.folders);
     return m_parts.folders.setPath(path);
 }

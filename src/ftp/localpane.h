@@ -15,7 +15,7 @@ class DriveBox;
 class FileListBox;
 class FileListView;
 
-/// This machine's side of the window: the view that the local commands work on, made of the window's controls. They
+/// This machine's side of the window: implements the view for the local commands with the window's controls, which
 /// outlive the pane.
 class LocalPane final : public QObject, public LocalView
 {
@@ -43,7 +43,7 @@ public:
     void setPattern(const QString &pattern, bool all) override;
 
 Q_SIGNALS:
-    /// The user has chosen a drive of the list.
+    /// The user has chosen a drive in the list.
     void driveChosen(const QString &drive);
     /// The user has moved to a folder.
     void folderChosen();

@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// This machine's side of the FTP window as its commands see it: drives, folders, the list of files and what belongs to
+/// This machine's side of the FTP window as its commands see it: drives, folders, file list and the controls around
 /// them.
 class LocalView
 {
@@ -16,11 +16,11 @@ public:
 
     virtual FileRows &files() = 0;
 
-    /// Path of the folder list, without a separator at its end unless it is a root.
+    /// Path of the folder list, without a trailing separator unless it is a root.
     virtual QString folder() const = 0;
-    /// Moves the folder list. Fails for a path that can't be read, and leaves the list where it was.
+    /// Moves the folder list. Returns false for a path that can't be read, and leaves the list where it was.
     virtual bool setFolder(const QString &path) = 0;
-    /// Reads drives, folders and files anew.
+    /// Reads drives, folders and files again.
     virtual void refreshLists() = 0;
     /// The names in the folder that match the pattern, in the order of the hidden file list.
     virtual QStringList fileNames() const = 0;

@@ -5,7 +5,7 @@ namespace zephira {
 
 namespace {
 
-/// Goes back to the last `*` alone, so that the time grows with the product of the lengths at most.
+/// Backtracks only to the last `*`, so the time grows at most with the product of the lengths.
 bool matches(QStringView name, QStringView pattern)
 {
     qsizetype at = 0;

@@ -5,9 +5,9 @@
 
 namespace zephira {
 
-/// True if a name on the server matches a pattern, in which `*` stands for any characters and `?` for one. Upper and
-/// lower case are told apart, as servers do. `*.*`, which people type for everything, matches names without a point too,
-/// and so does the empty pattern.
+/// True if a name on the server matches a pattern, in which `*` stands for any characters and `?` for one. Matching is
+/// case-sensitive, as on servers. `*.*`, which people type for everything, also matches names without a dot, and so
+/// does the empty pattern.
 bool matchesNamePattern(QStringView name, QStringView pattern);
 
 } // namespace zephira

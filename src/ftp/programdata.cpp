@@ -21,7 +21,7 @@ constexpr QStringView folders[] = {u"deps/", u"ctabs/", u"help/", u"templates/",
 
 bool isProgramData(const QString &appPath, const QString &file)
 {
-    // The file may be a link; what counts is where it stands.
+    // The file may be a link; its own location counts, not its target's.
     const QString folder = QFileInfo(parentFolder(file)).canonicalFilePath();
     const QString program = QFileInfo(appPath).canonicalFilePath();
     if (program.isEmpty() || folder.isEmpty())

@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// Whether a file is one of those that the program can't do without or has brought along, in its folder `appPath`. What
-/// users put there themselves, such as saved logs and profiles, isn't.
+/// True if a file in the program's folder `appPath` is needed by the program or was installed with it. Files that users
+/// added, such as saved logs and profiles, don't count.
 bool isProgramData(const QString &appPath, const QString &file);
 
 } // namespace zephira

@@ -15,7 +15,7 @@ namespace zephira::ftp {
 
 namespace {
 
-/// Stands for the FTP window where a form is made without one.
+/// Replaces the FTP window for a form that is made without one.
 class NoDisplay final : public LogDisplay, public PanelDisplay
 {
 public:
@@ -25,7 +25,7 @@ public:
     void setBusy(bool) override {}
 };
 
-/// The FTP window over which a form is opened, or nullptr.
+/// The FTP window from which a form is opened, or nullptr.
 FtpDesk *deskOf(QWidget *owner)
 {
     for (QWidget *window = owner; window; window = window->parentWidget()) {

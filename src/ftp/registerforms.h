@@ -10,7 +10,7 @@ struct FtpClient;
 
 namespace ftp {
 
-/// Adds the forms of this folder, which share the client.
+/// Adds this folder's forms, which share the client.
 void registerForms(FormCatalogue &catalogue, const std::shared_ptr<FtpClient> &client);
 
 } // namespace ftp

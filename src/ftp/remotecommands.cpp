@@ -61,7 +61,7 @@ void RemoteCommands::openNode(const RemoteNode &node)
     session.ftpRemoteFolder = node.text == remoteRootText ? remoteRootKey.toString() : node.key;
     session.ftpSearchPath = session.ftpRemoteFolder + m_pattern;
     m_view.rebuildNode(node.key);
-    // It goes to the open handle, which has no folder, and its result doesn't matter: commands name full paths.
+    // The call uses the open handle, which has no folder, and its result doesn't matter: commands use full paths.
     m_client.operations.FtpSetCurrentDirectoryA(session.ftpOpenHandle, session.ftpSearchPath);
     list();
 }
@@ -133,7 +133,7 @@ void RemoteCommands::removeFolder()
                                Question::Buttons::YesNo})
         != Answer::Yes)
         return;
-    // The folder that was asked about, also where another one is open.
+    // The folder named in the question, even if another one is open.
     const QString path = node->key.chopped(1);
     const QString parent = Left(path, path.size() - node->text.size());
     m_desk.log(LogEntry::FolderRemovalBegun, {path});
@@ -199,12 +199,12 @@ bool RemoteCommands::sendRename(const QString &oldName, const QString &newName, 
 {
     const FtpSession &session = m_client.session;
     m_desk.log(LogEntry::RenameBegun, {oldName, newName});
-    // The server would move the file to another folder.
+    // With such a name the server would move the file to another folder.
     if (newName.contains(u'/') || newName == u"." || newName == u"..") {
         fail(asked ? u"Can't fill your request!"_s : u"Can't accomplishe request!"_s, LogEntry::RenameFailed);
         return false;
     }
-    // Many servers would put the file in the place of the other one without a word.
+    // Many servers would silently overwrite the other file.
     if (m_view.files().contains(newName)) {
         fail(u"More files with the same name in one folder? Grrrrr!"_s, LogEntry::RenameError);
         return false;

@@ -13,8 +13,8 @@ struct FileRow;
 struct FtpClient;
 struct RemoteNode;
 
-/// The commands of the server's side. What needs a connection looks for it first, and says so if there is none. All of
-/// them wait until the server has answered.
+/// The commands of the server's side. Commands that need a connection check for it first and show a message if there is
+/// none. All of them wait until the server has answered.
 class RemoteCommands
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     /// Lists the session's search path.
     void list();
-    /// Moves to a folder of the tree, as a click on it does.
+    /// Moves to a folder of the tree, as when it is clicked.
     void openNode(const RemoteNode &node);
 
     void refresh();
@@ -34,15 +34,15 @@ public:
     void patternAll();
     void patternDefined();
 
-    /// Tells the number and size of the selected files.
+    /// Shows the number and size of the selected files.
     void showSummary();
     void renameStarted(const QString &name);
-    /// What follows when a name was edited. Returns whether the new name may stay in the list.
+    /// Called when a name was edited. Returns whether the new name may stay in the list.
     bool renameEnded(const QString &oldName, const QString &newName);
 
 private:
     bool isConnected(const QString &refusal);
-    /// A message with the exclamation icon, and the log entry that goes with it.
+    /// Shows a message with the exclamation icon, and adds the log entry for it.
     void fail(const QString &message, LogEntry entry);
     void setPattern(const QString &pattern, bool all);
     bool sendRename(const QString &oldName, const QString &newName, bool asked);

@@ -25,7 +25,7 @@ RemoteListing readRemoteListing(InternetOperations &operations, InternetHandle c
         else
             listing.files.push_back(remoteFileRow(entry));
     }
-    // A listing that never began is closed like any other; the handle 0 does no harm.
+    // A listing that failed to start is closed as well; handle 0 does no harm.
     operations.InternetCloseHandle(find);
     return listing;
 }

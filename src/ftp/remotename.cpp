@@ -15,7 +15,7 @@ std::basic_string_view<Unit> unitsOf(const Unit *begin, qsizetype count)
     return {begin, static_cast<std::size_t>(count)};
 }
 
-/// The rules about single characters and the two reserved names, which are the same for bytes and UTF-16 units.
+/// The rules for single characters and the two reserved names, which are the same for bytes and UTF-16 units.
 template<typename Unit>
 bool isPlainName(std::basic_string_view<Unit> name)
 {

@@ -7,19 +7,19 @@
 
 namespace zephira {
 
-/// Names on a server as text and as the bytes that the server knows. A name in UTF-8 needs no memory. One in an older
-/// encoding is shown as Windows-1252, and its bytes are kept, so that the file can be asked for by the path shown.
+/// Converts names between text and the bytes that the server uses. A UTF-8 name needs no bookkeeping. A name in an
+/// older encoding is shown as Windows-1252, and its bytes are kept, so that the displayed path leads back to the file.
 class RemoteNames
 {
 public:
-    /// The text of an entry's name in a folder, whose path ends in "/". When two names look alike, the last one shown is
-    /// meant.
+    /// The text of an entry's name in a folder, whose path ends in "/". If two names have the same text, it refers to
+    /// the last one shown.
     QString shown(const QString &folder, const QByteArray &name);
-    /// The bytes of a path that is made of names shown before, of others, or of both.
+    /// The bytes of a path; it may consist of names shown before, other names, or both.
     QByteArray sent(const QString &path) const;
 
 private:
-    /// The bytes of the last name in a path.
+    /// The bytes of a path's last name.
     QHash<QString, QByteArray> m_bytes;
 };
 

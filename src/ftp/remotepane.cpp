@@ -40,7 +40,7 @@ RemotePane::RemotePane(const Parts &parts, QObject *parent) : QObject(parent), m
     m_viewport = m_parts.tree.viewport();
     m_viewport->installEventFilter(this);
     connect(&m_parts.tree, &QTreeWidget::itemClicked, this, [this] {
-        // A double click asks the server once.
+        // So that a double click asks the server only once.
         if (!m_isSecondClick)
             chooseSelected();
     });
@@ -122,7 +122,7 @@ void RemotePane::markPattern(bool all)
     m_parts.definedTypes.setChecked(!all);
 }
 
-/// The node whose key is the wanted one, walking all nodes from the first.
+/// Finds the node with a key by walking all nodes from the first.
 QTreeWidgetItem *RemotePane::find(const QString &key) const
 {
     for (QTreeWidgetItemIterator item(&m_parts.tree); *item; ++item) {
@@ -138,20 +138,20 @@ void RemotePane::chooseSelected()
         Q_EMIT nodeChosen(*node);
 }
 
-/// The folder under the selection is the one that commands mean, so that whatever reaches it has to open it.
+/// Commands act on the selected folder, so however it was selected, it has to be opened.
 void RemotePane::openSelected()
 {
     if (const auto node = selectedNode(); node && node->key != m_openKey)
         Q_EMIT nodeChosen(*node);
 }
 
-/// A press of any button selects, and so does moving on with the button held, but only some of that is a click.
+/// A press of any button selects, and so does dragging; neither is always a click.
 void RemotePane::watchMouse(QEvent::Type type)
 {
     if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick)
         m_isSecondClick = type == QEvent::MouseButtonDblClick;
     else if (type == QEvent::MouseButtonRelease)
-        // The tree hears of it after us.
+        // Deferred, because the tree handles the event after this filter.
         QMetaObject::invokeMethod(this, &RemotePane::openSelected, Qt::QueuedConnection);
 }
 
@@ -172,7 +172,7 @@ bool RemotePane::eventFilter(QObject *watched, QEvent *event)
         chooseSelected();
         return true;
     }
-    // A key that is held down asks the server once.
+    // So that a key held down asks the server only once.
     if (!pressed && !key->isAutoRepeat())
         openSelected();
     return QObject::eventFilter(watched, event);

@@ -15,8 +15,8 @@ namespace zephira {
 
 class FileListView;
 
-/// The server's side of the window: the view that the remote commands work on, made of the window's controls. They
-/// outlive the pane. A node's key is its KeyRole.
+/// The server's side of the window: implements the view for the remote commands with the window's controls, which
+/// outlive the pane. A node's key is stored in its KeyRole.
 class RemotePane final : public QObject, public RemoteView
 {
     Q_OBJECT
@@ -57,11 +57,11 @@ private:
     void watchMouse(QEvent::Type type);
 
     Parts m_parts;
-    /// The folder that was opened last.
+    /// The key of the folder that was opened last.
     QString m_openKey;
-    /// From the second press of a double click to the next one.
-    /// The tree's, known by its place alone: events still come while the tree is being destroyed.
+    /// The tree's viewport, stored because events still arrive while the tree is being destroyed.
     QObject *m_viewport = nullptr;
+    /// From the second press of a double click to the next press.
     bool m_isSecondClick = false;
 };
 

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-// Panels of the status bar, from 1: the one for passing texts, and the one for the connection.
+// Panels of the status bar, counted from 1: for temporary texts, and for the connection.
 constexpr int textPanel = 2;
 constexpr int connectionPanel = 3;
 
@@ -15,23 +15,23 @@ class LogDisplay
 public:
     virtual ~LogDisplay() = default;
 
-    /// Puts an entry into the log, in the place of its selection; logText() tells which parts it takes.
+    /// Inserts an entry into the log, replacing its selection; see LogEntry for the parts.
     virtual void log(LogEntry entry, const QStringList &parts = {}) = 0;
-    /// The same for one of many: it may be shown together with those that follow, up to a twentieth of a second later or
-    /// when showLog() is called.
+    /// The same for one of many entries: it may be shown together with later ones, up to a twentieth of a second later
+    /// or when showLog() is called.
     virtual void logSoon(LogEntry entry, const QStringList &parts = {}) { log(entry, parts); }
     virtual void showLog() {}
     virtual void clearLog() = 0;
 };
 
-/// Where the session tells what it is at.
+/// Shows the session's current activity.
 class PanelDisplay
 {
 public:
     virtual ~PanelDisplay() = default;
 
     virtual void setPanel(int panel, const QString &text) = 0;
-    /// Shows the hourglass while something is waited for.
+    /// Shows the wait cursor.
     virtual void setBusy(bool busy) = 0;
 };
 

@@ -9,7 +9,7 @@ namespace zephira {
 
 namespace {
 
-/// In a form, "%t" stands for the time of day, "%d" for the date, and "%1" and "%2" for the parts.
+/// In a template, "%t" stands for the time of day, "%d" for the date, and "%1" and "%2" for the parts.
 struct LogForm {
     LogEntry entry;
     QStringView form;
@@ -51,7 +51,7 @@ constexpr LogForm logForms[] = {
     {LogEntry::DeletionFailed, u"%t > An error occured while deleting file!\r\n"},
 };
 
-/// What a mark in a form stands for. A part that was not given is empty.
+/// The text for a mark in a template. A missing part is empty.
 QString meaning(QChar mark, const QDateTime &now, const QStringList &parts)
 {
     if (mark == u't')
@@ -66,7 +66,7 @@ QString meaning(QChar mark, const QDateTime &now, const QStringList &parts)
 QString logText(LogEntry entry, const QDateTime &now, const QStringList &parts)
 {
     const QStringView form = std::ranges::find(logForms, entry, &LogForm::entry)->form;
-    // The parts are put in as they are: a name that looks like a mark stays a name.
+    // The parts are not expanded: a name that looks like a mark stays as it is.
     QString text;
     for (qsizetype i = 0; i < form.size(); ++i) {
         if (form[i] == u'%')

@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// What the session log tells. The comments name the parts that an entry takes, in their order.
+/// The entries of the session log. The comments list the parts that an entry takes, in order.
 enum class LogEntry {
     Banner, ///< site name, server
     ServiceFailed,
@@ -43,7 +43,7 @@ enum class LogEntry {
     DeletionFailed,
 };
 
-/// The lines of an entry, each with CR LF at its end. `now` is told in the system's short forms; most lines begin with
+/// The lines of an entry, each ended by CR LF. `now` is formatted in the system's short forms; most lines begin with
 /// the time of day.
 QString logText(LogEntry entry, const QDateTime &now, const QStringList &parts = {});
 

@@ -12,7 +12,7 @@ namespace zephira {
 
 namespace {
 
-/// Writes the content at the file's start and leaves alone what lies behind it.
+/// Overwrites the start of the file with the content and leaves the rest of a longer file unchanged.
 Result<void> writeOver(FileStore &files, const QString &path, const QByteArray &content)
 {
     constexpr int privateMode = 0600;

@@ -7,11 +7,11 @@ namespace zephira {
 
 struct AppContext;
 
-/// The folder of the saved logs. It is there from the installation on.
+/// The folder for saved logs, which the installation creates.
 QString logFolder(const AppContext &context);
 
-/// Asks for a name and saves the log in the folder of the logs. An older file of that name is written over from its start
-/// and keeps what is longer. A file that can't be written raises HandlerError.
+/// Asks for a name and saves the log in the folder for logs. An existing file is overwritten from its start and keeps
+/// whatever is longer. Raises HandlerError if the file can't be written.
 void saveSessionLog(const AppContext &context, const QString &log);
 
 } // namespace zephira

@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// The folder as a label has room for it: up to 30 characters whole, else three points and the last 30, without the
-/// blanks around.
+/// The folder's text for a label: up to 30 characters in full, else three dots and the last 30, with blanks trimmed at
+/// both ends.
 QString shownFolder(const QString &folder);
 
 } // namespace zephira

@@ -13,8 +13,7 @@ namespace zephira {
 
 namespace {
 
-/// A value of the profile: its key, its member, and the room for it when it is read, one character of which is taken by
-/// the end of the text.
+/// A value of the profile: its key, its member, and the size of its buffer for reading, including the terminating NUL.
 struct ProfileKey {
     QStringView key;
     QString SiteProfile::*member;
@@ -42,7 +41,7 @@ SiteProfile readSiteProfile(const QString &file)
 
 bool writeSiteProfile(const SiteProfile &profile, const QString &file)
 {
-    // A file that others could read, put there by hand, must not get a password.
+    // If the file already exists with permissions for others, restrict them before a password is written.
     if (QFile::exists(file) && !QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner))
         return false;
     return std::ranges::all_of(profileKeys, [&](const ProfileKey &row) {

@@ -5,27 +5,27 @@
 
 namespace zephira {
 
-/// A saved site: one small profile file with the ending ".ftp" in the program folder.
+/// A saved site: one small profile file with the extension ".ftp" in the program folder.
 struct SiteProfile {
     QString siteName;
     QString server;
     QString user;
-    /// In plain text, and empty if it isn't to be kept.
+    /// In plain text; empty if it isn't to be saved.
     QString password;
-    /// Decimal, or empty.
+    /// A decimal number, or empty.
     QString port;
 
     friend bool operator==(const SiteProfile &, const SiteProfile &) = default;
 };
 
-/// Reads a profile. What is missing reads as empty, also a whole file; a value that is longer than its field's buffer,
-/// 49 characters and for the server 74, is cut.
+/// Reads a profile. Missing values, or a missing file, read as empty; a value longer than its field's buffer, 49
+/// characters and 74 for the server, is cut.
 SiteProfile readSiteProfile(const QString &file);
 
-/// Writes all values over those of the file, which is the user's alone. Returns whether that could be done.
+/// Writes all values into the file, which only the user may read. Returns whether that succeeded.
 bool writeSiteProfile(const SiteProfile &profile, const QString &file);
 
-/// Path of the profile of that name. The name is taken as it is.
+/// Path of the profile with that name, which is used unchanged.
 QString siteProfilePath(const QString &appPath, const QString &siteName);
 
 } // namespace zephira

@@ -19,12 +19,12 @@ namespace zephira {
 
 namespace {
 
-/// The bars of a download have room for a few bytes more than were announced.
+/// The bars of a download have room for slightly more bytes than announced.
 constexpr double downloadSlack = 1.024;
 
 } // namespace
 
-/// The bytes of a file that is coming down. They are handed on in pieces that the processor still has at hand.
+/// The bytes of a file being downloaded. They are passed on in pieces that still fit the processor's cache.
 class TransferEngine::Received
 {
 public:
@@ -33,7 +33,7 @@ public:
         m_gathered.resize(gatheredSize);
     }
 
-    /// Room for one block more.
+    /// Space for one more block.
     char *next()
     {
         if (m_used + blockSize > gatheredSize)
@@ -47,7 +47,7 @@ public:
     }
     qint64 size() const { return m_size; }
 
-    /// Ends the file, with some bytes behind those that came.
+    /// Writes the remaining bytes, then `rest`, and ends the file.
     Result<void> finish(const QByteArray &rest)
     {
         handOn();
@@ -100,9 +100,9 @@ bool TransferEngine::download(const TransferQueue::File &file)
 {
     beginFile(u"Downloading File: %1 / %2 bytù."_s.arg(file.name, QString::number(file.size)),
               double(file.size) * downloadSlack);
-    // The name was told by a server: it must not lead out of the folder.
+    // The name came from a server: it must not lead out of the folder.
     if (!isSafeRemoteName(file.name))
-        return refuse(u"This name can't stand for a file here: %1"_s.arg(file.name));
+        return refuse(u"This name can't be used for a file here: %1"_s.arg(file.name));
     const QString local = m_client.session.ftpLocalFolder + file.name;
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
     m_displays.log.logSoon(LogEntry::DownloadBegun, {remote, local});
@@ -125,7 +125,7 @@ bool TransferEngine::download(const TransferQueue::File &file)
     return true;
 }
 
-/// A short block ends the file, whatever made it short.
+/// A short block ends the file, whatever its cause.
 void TransferEngine::receive(Received &received)
 {
     m_progress.beginFile();
@@ -159,7 +159,7 @@ bool TransferEngine::upload(const TransferQueue::File &file)
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
     m_displays.log.logSoon(LogEntry::UploadBegun, {path, remote});
     m_displays.panels.setPanel(textPanel, u"uploading data..., wait."_s);
-    // The local file comes first: one that can't be read must not make the server's empty.
+    // The local file is opened first: if it can't be read, the server's file must not be emptied.
     QFile local(path);
     if (!local.open(QIODevice::ReadOnly))
         return refuse(u"Can't open the file %1: %2"_s.arg(path, local.errorString()));
@@ -175,7 +175,7 @@ bool TransferEngine::upload(const TransferQueue::File &file)
     local.close();
     m_progress.endFile();
     m_displays.progress.endFile(m_progress);
-    // The server may find only now that it can't keep the file, for instance on a full disk.
+    // The server may notice only now that it can't store the file, for instance on a full disk.
     if (!close() && outcome == Sending::Complete)
         tellUploadFailure();
     if (outcome == Sending::Unreadable)
@@ -226,7 +226,7 @@ bool TransferEngine::open(const QString &remote, quint32 access)
 
 void TransferEngine::countBlock(qint64 bytes)
 {
-    // The difference is right even where the ticks wrapped around in between.
+    // The difference is correct even if the ticks wrapped around meanwhile.
     m_progress.addBlock(bytes, qint32(m_ticks() - m_startTicks));
     m_displays.progress.moved(m_progress);
 }

@@ -21,7 +21,7 @@ class PanelDisplay;
 template<typename T>
 class Result;
 
-/// Where a run shows how far it has come. It must stay alive while a run lasts.
+/// Displays the progress of a run. It must outlive the run.
 class TransferDisplay
 {
 public:
@@ -29,49 +29,50 @@ public:
 
     /// A run begins: the bytes of the whole queue, and the upper end of its bar.
     virtual void beginRun(qint64 total, double barMaximum) = 0;
-    /// A file begins: its number from 1, the line that names it, and the upper end of its bar.
+    /// A file begins: its number from 1, the line that names it, and the maximum of its bar.
     virtual void beginFile(int number, const QString &line, double barMaximum) = 0;
-    /// A block was moved. It comes a million times with a gigabyte, so that it has to be cheap.
+    /// A block was moved. Called about a million times per gigabyte, so it must be cheap.
     virtual void moved(const TransferProgress &progress) = 0;
-    /// A file has ended, well or not.
+    /// A file has ended, successfully or not.
     virtual void endFile(const TransferProgress &progress) = 0;
-    /// The user is about to be asked or told something: all that was told before has to be seen now.
+    /// A message is about to be shown to the user: everything reported so far must be visible now.
     virtual void showAll() = 0;
 };
 
-/// Moves the files of a queue between the session's local and server folders, in blocks of 1024 bytes and always
-/// unchanged, while the caller waits. A file that comes down stands apart until it is complete and then is laid over the
-/// local one from its start; of a longer local file the rest stays behind it.
+/// Transfers the files of a queue between the session's local and server folders, in blocks of 1024 bytes and always
+/// unchanged, while the caller waits. A download is kept apart until it is complete and then written over the local
+/// file from its start; the rest of a longer local file remains.
 class TransferEngine
 {
 public:
-    /// The size of a block in bytes. A shorter one ends a file that comes down.
+    /// The size of a block in bytes. A shorter block ends a download.
     static constexpr quint32 blockSize = 1024;
 
     enum class Outcome {
-        /// The queue has come to its end, and the user was told.
+        /// The queue was processed to its end, and the user was told.
         Completed,
         /// A file could not be opened or stored, and the user was told; the rest of the queue was left undone.
         Stopped,
     };
 
-    /// What a run is seen in.
+    /// Where a run is displayed.
     struct Displays {
         LogDisplay &log;
         PanelDisplay &panels;
         TransferDisplay &progress;
     };
 
-    /// `ticks` gives a time in milliseconds from any beginning, which may wrap around. All references outlive the engine.
+    /// `ticks` returns a time in milliseconds since any origin, and may wrap around. All references must outlive the
+    /// engine.
     TransferEngine(FtpClient &client, FileStore &files, Prompts &prompts, const Displays &displays,
                    std::function<quint32()> ticks);
     ~TransferEngine();
     Q_DISABLE_COPY_MOVE(TransferEngine)
 
-    /// Runs the whole queue. Nothing waits in between but for the messages.
+    /// Runs the whole queue. It blocks, and shows messages in between.
     Outcome run(const TransferQueue &queue);
 
-    /// What a file is moved through while it is open, else 0.
+    /// The handle of the open server file, or 0.
     InternetHandle handle() const { return m_handle; }
 
 private:
@@ -85,13 +86,13 @@ private:
     Result<void> store(const QString &path, Received &received);
 
     void beginFile(const QString &line, double barMaximum);
-    /// Opens the current file on the server; false if that refuses it.
+    /// Opens the current file on the server; returns false if the server refuses.
     bool open(const QString &remote, quint32 access);
     void countBlock(qint64 bytes);
     bool close();
     void tellUploadFailure();
     void tell(const QString &text, const QString &title, Question::Icon icon);
-    /// Tells why a run can't go on.
+    /// Reports why a run can't continue.
     bool refuse(const QString &sentence);
 
     FtpClient &m_client;
@@ -102,10 +103,10 @@ private:
     TransferProgress m_progress;
     InternetHandle m_handle = 0;
     quint32 m_startTicks = 0;
-    /// Of the current file, from 1, and how many there are.
+    /// The number of the current file, from 1, and the number of files.
     int m_number = 0;
     int m_count = 0;
-    /// For what has come and isn't stored yet.
+    /// Data that was received and isn't stored yet.
     QByteArray m_gathered;
 };
 

@@ -7,14 +7,14 @@
 
 namespace zephira {
 
-/// What is to be moved: filled by the command that asks for it, in the order of its list, and taken over by the transfer
-/// form when that opens.
+/// The files to transfer. The command that requests the transfer fills it in the order of its list, and the transfer
+/// form takes it over when it opens.
 struct TransferQueue {
     enum class Direction { Download, Upload };
 
     struct File {
         QString name;
-        /// In bytes, as known when the file was chosen.
+        /// In bytes, as known when the file was queued.
         qint64 size = 0;
 
         friend bool operator==(const File &, const File &) = default;
@@ -26,8 +26,8 @@ struct TransferQueue {
     /// In bytes.
     qint64 total() const;
 
-    // The texts that the transfer form shows for the queue: the number of its files behind a slash, the caption of the
-    // start button, which also tells the direction, and the caption of the bytes that were moved.
+    // The texts that the transfer form shows for the queue: the number of its files after a slash, the caption of the
+    // start button, which also tells the direction, and the caption of the transferred bytes.
     QString countText() const;
     QString startCaption() const;
     QString movedCaption() const;

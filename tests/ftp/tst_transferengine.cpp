@@ -361,7 +361,7 @@ void TstTransferEngine::hostileNames()
 {
     QFETCH(const QString, name);
     Run run;
-    run.prompts.expectTell(u"This name can't stand for a file here: "_s + name, {}, Question::Icon::Exclamation);
+    run.prompts.expectTell(u"This name can't be used for a file here: "_s + name, {}, Question::Icon::Exclamation);
     QCOMPARE(run.move(Direction::Download, {{name, 1}}), TransferEngine::Outcome::Stopped);
     QVERIFY(run.operations.log.isEmpty());
     QVERIFY(QDir(run.folder.path()).isEmpty());

@@ -21,7 +21,7 @@ bool ControlConnection::connectTo(const QString &server, quint16 port)
     const std::vector<SocketAddress> addresses = lookUpHost(server, port, deadline);
     auto untried = static_cast<int>(addresses.size());
     for (const SocketAddress &address : addresses) {
-        // An address that doesn't answer leaves time for the next ones.
+        // An unresponsive address must leave time for the remaining ones.
         m_socket = Socket::connectedTo(address, Deadline(deadline.left() / untried--));
         if (m_socket.isOpen()) {
             m_peerAddress = address;
@@ -67,8 +67,8 @@ FtpReply ControlConnection::readReply()
 
 FtpReply ControlConnection::readReplyBehind(const Socket &data)
 {
-    // On a slow line the system has much to send that the program believes sent. No event tells when it has gone, so a
-    // look now and then has to do.
+    // On a slow line the system still has much unsent data that the program has already written. No event signals when
+    // it is sent, so it is polled.
     constexpr auto betweenLooks = 200ms;
     int waiting = data.unacknowledged();
     Deadline deadline(m_limit);
@@ -94,7 +94,7 @@ bool ControlConnection::send(const QByteArray &command)
     return false;
 }
 
-/// What arrived before the command was sent can't be its reply.
+/// Input that arrived before the command was sent can't be its reply.
 bool ControlConnection::dropStrayInput()
 {
     const Deadline now(0ms);

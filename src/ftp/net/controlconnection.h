@@ -8,29 +8,29 @@
 
 namespace zephira {
 
-/// The connection over which commands and replies go. It is lost for good when the server closes it, doesn't answer in
-/// time or sends what is no reply: then the client can't tell any more which reply belongs to which command.
+/// The connection for commands and replies. It is closed for good when the server closes it, doesn't answer in time or
+/// sends something that is no reply: from then on the client can't tell which reply belongs to which command.
 class ControlConnection
 {
 public:
-    /// `limit` is how long the connection, each command and each reply may take.
+    /// `limit` is the maximum time for connecting, for each command and for each reply.
     explicit ControlConnection(std::chrono::milliseconds limit) : m_limit(limit) {}
 
-    /// Connects to the first address of the server that answers.
+    /// Connects to the first of the server's addresses that answers.
     bool connectTo(const QString &server, quint16 port);
     bool isOpen() const { return m_socket.isOpen(); }
-    /// Takes leave of the server, and doesn't wait for its answer.
+    /// Sends the farewell to the server without waiting for its answer.
     void quit();
-    /// Ends the connection at once.
+    /// Closes the connection immediately.
     void abandon() { m_socket.close(); }
 
-    /// The reply to a command, which stands without its line end; the code is 0 if there is none.
+    /// Sends a command, given without its line end, and returns the reply; its code is 0 if there is none.
     FtpReply ask(const QByteArray &command);
-    /// Gives a command and leaves its reply to readReply(), which has to come before the next command. False if it
-    /// wasn't sent.
+    /// Sends a command whose reply must be read with readReply() before the next command. Returns false if it wasn't
+    /// sent.
     bool send(const QByteArray &command);
     FtpReply readReply();
-    /// The same after an upload: the limit begins when the server has taken the last of the data that it takes.
+    /// The same after an upload: the time limit starts when the server has accepted the last of the data.
     FtpReply readReplyBehind(const Socket &data);
 
     std::chrono::milliseconds limit() const { return m_limit; }
@@ -44,7 +44,7 @@ private:
     std::chrono::milliseconds m_limit;
     Socket m_socket;
     SocketAddress m_peerAddress;
-    /// What has arrived and isn't read yet.
+    /// Received, but not read yet.
     QByteArray m_input;
 };
 

@@ -9,11 +9,11 @@ namespace {
 
 constexpr auto extendedPassive = "EPSV";
 
-/// A port that was asked ahead is used for this part of the limit on waiting, which usually is a second. Servers, and
-/// firewalls on the way, close ports that nobody comes to.
+/// A port that was requested ahead is used only within this fraction of the limit on waiting, usually one second.
+/// Servers, and firewalls in between, close ports that nobody connects to.
 constexpr int partOfLimit = 30;
 
-/// Anything else may go better the next time.
+/// After any other reply, the command may succeed the next time.
 bool isUnknownCommand(const FtpReply &reply)
 {
     return reply.code / 100 == 5;
@@ -39,7 +39,7 @@ void DataPort::discard()
 
 void DataPort::askAhead()
 {
-    // PASV is not asked ahead: it is what comes to the rescue when the port that was asked ahead is of no use.
+    // PASV is not requested ahead: it is the fallback when the port that was requested ahead can't be used.
     if (m_passive && m_extended && m_control.send(extendedPassive))
         m_ahead = Deadline(m_control.limit() / partOfLimit);
 }

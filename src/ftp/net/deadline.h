@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// The moment until which something is waited for.
+/// The time at which a wait gives up.
 class Deadline
 {
 public:
@@ -14,7 +14,7 @@ public:
 
     explicit Deadline(std::chrono::milliseconds limit) : m_end(Clock::now() + limit) {}
 
-    /// What is left, not below 0.
+    /// The remaining time, at least 0.
     std::chrono::milliseconds left() const
     {
         const auto rest = std::chrono::ceil<std::chrono::milliseconds>(m_end - Clock::now());

@@ -8,10 +8,10 @@ namespace zephira {
 
 namespace {
 
-/// A listing of hundreds of thousands of entries. A server that sends more doesn't mean a listing.
+/// Room for hundreds of thousands of entries. If a server sends more, it isn't a listing.
 constexpr qsizetype longestListing = 64 << 20;
 
-/// A folder's links beyond this number count as files, so that no more time is spent on them.
+/// Links beyond this number per folder count as files, so that no more time is spent on them.
 constexpr int mostLinks = 64;
 
 } // namespace
@@ -34,7 +34,7 @@ bool FtpConversation::logIn(const QString &server, quint16 port, const QByteArra
     reply = ask("USER " + user);
     if (reply.code == 331)
         reply = ask("PASS " + password);
-    // Every transfer and every listing is binary, so that this is said once.
+    // Every transfer and listing is binary, so the type is set once.
     if (!reply.isSuccess() || !execute("TYPE I"))
         return false;
     m_loginFolder = quotedFolder(ask("PWD")).value_or(QByteArray());
@@ -46,7 +46,7 @@ void FtpConversation::askForFeatures()
 {
     const FtpReply features = ask("FEAT");
     m_knowsMlsd = hasFeature(features, "MLST");
-    // Some servers send names in UTF-8 only to those who ask for it.
+    // Some servers send names in UTF-8 only if the client asks for it.
     if (hasFeature(features, "UTF8"))
         execute("OPTS UTF8 ON");
 }
@@ -71,7 +71,7 @@ bool FtpConversation::rename(const QByteArray &from, const QByteArray &to)
 
 std::optional<std::vector<ListedEntry>> FtpConversation::list(const QByteArray &folder, QDate today)
 {
-    // A folder that is named behind LIST could be taken for options or for a pattern, so we go there.
+    // A folder name after LIST could be taken for options or a pattern, so the folder is entered first.
     if (!execute("CWD " + folder) || !beginListing())
         return {};
     const std::optional<QByteArray> listing = receiveListing();

@@ -6,34 +6,35 @@
 
 namespace zephira {
 
-/// A logged-in connection to a server. Names are bytes as the server knows them, and paths are absolute. After a failure
-/// that leaves the conversation out of step everything fails; one that the server answered leaves it as it was.
+/// A logged-in connection to a server. Names are bytes as the server knows them, and paths are absolute. A failure that
+/// leaves the replies out of step makes everything after it fail; an error reply from the server does not.
 class FtpConversation
 {
 public:
-    /// `limit` holds for each wait: the connection, each reply, each block of data.
+    /// `limit` applies to each wait: for the connection, each reply and each block of data.
     FtpConversation(std::chrono::milliseconds limit, bool passive) : m_control(limit), m_port(m_control, passive) {}
     Q_DISABLE_COPY_MOVE(FtpConversation)
     ~FtpConversation();
 
     bool logIn(const QString &server, quint16 port, const QByteArray &user, const QByteArray &password);
-    /// Where the login led; empty if the server doesn't say.
+    /// The folder after the login; empty if the server doesn't say.
     const QByteArray &loginFolder() const { return m_loginFolder; }
 
-    /// True if the server says that the command is done.
+    /// Returns true if the server reports success.
     bool execute(const QByteArray &command);
     bool rename(const QByteArray &from, const QByteArray &to);
-    /// The entries of a folder; a link that leads to a folder is one. Nothing after a failure.
+    /// The entries of a folder; a link to a folder counts as a folder. Nothing after a failure.
     std::optional<std::vector<ListedEntry>> list(const QByteArray &folder, QDate today);
 
-    // One file or listing at a time. While it runs, nothing else can be asked for.
+    // One file or listing at a time: while a transfer runs, no other command is possible.
 
-    /// Gives a command, such as RETR or STOR, that the server answers with a data connection.
+    /// Sends a command, such as RETR or STOR, that opens a data connection.
     bool beginTransfer(const QByteArray &command);
-    /// Tells that another transfer follows the running one at once, so that it is prepared as soon as that has ended well.
+    /// Announces that another transfer follows right after the current one, so that it is prepared as soon as that has
+    /// succeeded.
     void expectTransfer() { m_expectsTransfer = isTransferring(); }
     bool isTransferring() const { return m_data.isOpen(); }
-    /// What has arrived, up to `size` bytes: their number, 0 at the end, -1 after a failure.
+    /// Reads available data, up to `size` bytes. Returns their number, 0 at the end, -1 after a failure.
     qsizetype receive(char *buffer, qsizetype size, Deadline deadline, Socket::Waiting waiting)
     {
         return m_data.receive(buffer, size, deadline, waiting);

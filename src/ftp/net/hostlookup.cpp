@@ -39,8 +39,8 @@ std::vector<SocketAddress> lookUpHost(const QString &server, quint16 port, Deadl
     const QByteArray name = QUrl::toAce(server);
     if (name.isEmpty())
         return {};
-    // The system's lookup has no limit of its own. It runs beside us, and if it takes too long it is left to itself: it
-    // owns all that it touches.
+    // The system's lookup has no time limit. It runs in its own thread, and if it takes too long it is abandoned: it
+    // owns all data it uses.
     std::promise<Addresses> promise;
     std::future<Addresses> found = promise.get_future();
     std::thread([name, port, promise = std::move(promise)]() mutable {

@@ -10,8 +10,8 @@
 
 namespace zephira {
 
-/// The addresses of a server that is named by its name or its address, the preferred ones first; none if it isn't known
-/// or the deadline passes.
+/// The addresses of a server, given by its name or an address, in order of preference; none if it is unknown or the
+/// deadline passes.
 std::vector<SocketAddress> lookUpHost(const QString &server, quint16 port, Deadline deadline);
 
 } // namespace zephira

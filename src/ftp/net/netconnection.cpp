@@ -12,7 +12,7 @@ namespace {
 
 constexpr auto anonymousUser = "anonymous";
 
-/// The path without the "/" at its end, unless it is the root.
+/// The path without its trailing "/", unless it is the root.
 QString withoutLastSlash(const QString &path)
 {
     return path.size() > 1 && path.endsWith(u'/') ? path.chopped(1) : path;

@@ -12,7 +12,7 @@ namespace zephira {
 
 namespace {
 
-/// What InternetOpenA stands for: leave to connect. Agent and proxy have no place in the protocol.
+/// The handle that InternetOpenA returns: permission to connect. The protocol has no use for agent and proxy.
 struct Opening {};
 
 using Found = std::deque<FindData>;
@@ -30,7 +30,7 @@ NetOperations::NetOperations(const Clock &clock, std::chrono::milliseconds limit
 
 NetOperations::~NetOperations()
 {
-    // Children have higher numbers than what they belong to, and go first.
+    // Children have higher numbers than their parents and must be closed first.
     while (!m_handles.empty())
         m_handles.erase(std::prev(m_handles.end()));
 }

@@ -13,16 +13,16 @@ class Clock;
 class NetConnection;
 struct NetHandle;
 
-/// The operations over real connections. One logged-in control connection serves a connection handle until that is
-/// closed; when the server ends it, the handle's operations fail from then on. Numbers of handles are never used twice,
-/// so that a stale one is harmless.
+/// The operations over real connections. A connection handle has one logged-in control connection until it is closed;
+/// if the server ends that, the handle's operations fail from then on. Handle numbers are never reused, so a stale one
+/// is harmless.
 class NetOperations final : public InternetOperations
 {
 public:
-    /// The longest that each wait on the network takes: for a connection, for a reply, for a block of data.
+    /// The time limit for each wait on the network: for a connection, a reply, a block of data.
     static constexpr std::chrono::seconds usualLimit{30};
 
-    /// The clock tells the day by which listings without years are dated.
+    /// The clock provides the day for dates in listings that have no year.
     explicit NetOperations(const Clock &clock, std::chrono::milliseconds limit = usualLimit);
     Q_DISABLE_COPY_MOVE(NetOperations)
     ~NetOperations() override;

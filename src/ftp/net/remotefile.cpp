@@ -7,7 +7,7 @@ namespace zephira {
 
 namespace {
 
-/// Large enough that the calls to the system cost little beside moving the bytes.
+/// Large enough that the cost of system calls is small compared to moving the bytes.
 constexpr qsizetype bufferSize = 256 << 10;
 
 } // namespace
@@ -28,7 +28,7 @@ bool FileReader::read(char *block, quint32 size, quint32 &count)
     return m_state != State::Failed;
 }
 
-/// Most blocks have come already, and the clock isn't asked for them.
+/// Fast path: most blocks have already arrived, and need no look at the clock.
 void FileReader::takeReceived(char *block, quint32 size, quint32 &count)
 {
     const qsizetype piece = std::min<qsizetype>(size - count, m_end - m_begin);
@@ -41,7 +41,7 @@ bool FileReader::receiveMore(Deadline deadline)
 {
     if (m_state != State::Running)
         return false;
-    // A small file has come as soon as it is asked for; a large one takes its time.
+    // A small file arrives right after its request; a large one takes time.
     const auto waiting = m_received < bufferSize ? Socket::Waiting::AwakeAtFirst : Socket::Waiting::Asleep;
     const qsizetype count = m_conversation.receive(m_buffer.data(), m_buffer.size(), deadline, waiting);
     m_begin = 0;

@@ -5,23 +5,22 @@
 
 namespace zephira {
 
-/// Reads what a transfer brings, in blocks of the caller's size, whatever the sizes are in which it arrives. The transfer
-/// ends when this goes.
+/// Reads a transfer in blocks of the caller's size, whatever sizes arrive. Destroying the reader ends the transfer.
 class FileReader
 {
 public:
-    /// A block that the limit on waiting always suffices for.
+    /// A block size that can always arrive within the time limit.
     static constexpr quint32 blockSize = 1024;
 
-    /// `conversation` has begun the transfer, and must outlive this.
+    /// `conversation` has started the transfer, and must outlive the reader.
     explicit FileReader(FtpConversation &conversation);
     Q_DISABLE_COPY_MOVE(FileReader)
     ~FileReader() { close(); }
 
-    /// Fills the block, unless the transfer ends before. False after a failure, also one that the server tells at the
-    /// end; `count` is then the number of bytes that came before it.
+    /// Fills the block unless the transfer ends first. Returns false after a failure, even if the server reports it
+    /// only at the end; `count` is then the number of bytes that arrived before it.
     bool read(char *block, quint32 size, quint32 &count);
-    /// Tells the server to stop, if it hasn't.
+    /// Tells the server to stop if the transfer is still running.
     void close();
 
 private:
@@ -34,12 +33,12 @@ private:
     QByteArray m_buffer;
     qsizetype m_begin = 0;
     qsizetype m_end = 0;
-    /// In bytes, since the beginning.
+    /// In bytes, since the start.
     qint64 m_received = 0;
     State m_state = State::Running;
 };
 
-/// Gathers small blocks, and sends them together. The transfer ends when this goes.
+/// Collects small blocks and sends them together. Destroying the writer ends the transfer.
 class FileWriter
 {
 public:
@@ -48,7 +47,7 @@ public:
     ~FileWriter() { close(); }
 
     bool write(const char *block, quint32 size);
-    /// Sends the rest and the end. True if every block was sent and the server says that it has the file.
+    /// Sends the rest and ends the transfer. Returns true if every block was sent and the server confirms the file.
     bool close();
 
 private:

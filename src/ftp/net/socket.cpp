@@ -15,10 +15,10 @@ namespace zephira {
 
 namespace {
 
-/// How a socket is opened: nothing blocks in it, and no program that is started inherits it.
+/// Flags for every socket: its calls don't block, and started programs don't inherit it.
 constexpr int socketFlags = SOCK_NONBLOCK | SOCK_CLOEXEC;
 
-/// How long a program looks for what is to come before it goes to sleep.
+/// How long to poll for data before going to sleep.
 constexpr std::chrono::microseconds timeAwake{100};
 
 bool wouldBlock()
@@ -31,7 +31,7 @@ int newDescriptor(const SocketAddress &address)
     return ::socket(address.family(), SOCK_STREAM | socketFlags, 0);
 }
 
-/// Calls `ask` for an address, as getsockname and getpeername are.
+/// Calls a function like getsockname or getpeername and returns the address.
 template<typename Ask>
 SocketAddress addressFrom(Ask ask, int descriptor)
 {
@@ -143,7 +143,7 @@ int Socket::unacknowledged() const
     return isOpen() && ::ioctl(m_descriptor, SIOCOUTQ, &bytes) == 0 ? bytes : 0;
 }
 
-/// True also for an error or an end of the connection: the next call finds out.
+/// Also returns true for an error or the end of the connection: the next call reports it.
 bool Socket::wait(short events, Deadline deadline) const
 {
     while (isOpen()) {

@@ -11,12 +11,12 @@
 
 namespace zephira {
 
-/// A TCP connection, or a port that waits for one. It is closed when it goes. Every wait has a limit, and an operation
-/// that passes it fails.
+/// A TCP connection, or a port that waits for one. The destructor closes it. Every wait has a limit, and an operation
+/// that exceeds it fails.
 class Socket
 {
 public:
-    /// None: every operation fails.
+    /// No socket: every operation fails.
     Socket() = default;
     Socket(Socket &&other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
     Socket &operator=(Socket &&other) noexcept
@@ -26,36 +26,37 @@ public:
     }
     ~Socket() { close(); }
 
-    /// A connection to the address, or none.
+    /// Connects to the address; on failure the result is an empty socket.
     static Socket connectedTo(const SocketAddress &address, Deadline deadline);
-    /// A port at an address of this machine; port 0 lets the system choose one.
+    /// Listens at an address of this machine; port 0 lets the system choose a port.
     static Socket listeningAt(const SocketAddress &address);
-    /// The next connection that comes from the given machine to this port; others are turned away.
+    /// The next connection to this port from the given machine; connections from others are closed.
     Socket accept(const SocketAddress &from, Deadline deadline) const;
 
     bool isOpen() const { return m_descriptor >= 0; }
-    /// What the system knows it by, or -1; it stays this object's.
+    /// The system's descriptor, or -1; this object keeps ownership.
     int descriptor() const { return m_descriptor; }
     void close();
     SocketAddress localAddress() const;
     SocketAddress peerAddress() const;
 
-    /// Small pieces go out at once, not together with the next ones.
+    /// Sends small pieces immediately instead of collecting them.
     void sendAtOnce();
-    /// Sends all of it. The limit is for each wait, so that a slow line is no failure while something moves.
+    /// Sends all bytes. The limit applies to each wait, so that a slow line is no failure as long as data moves.
     bool send(QByteArrayView bytes, std::chrono::milliseconds limit);
-    /// How receive() waits. A server near by answers sooner than the system puts a program to sleep and wakes it again,
-    /// so that looking a few times before that is faster. It keeps the processor busy for at most a tenth of a
-    /// millisecond, and is for what is asked for seldom, not for every piece of a large file.
+    /// How receive() waits. A nearby server answers faster than the system can put a program to sleep and wake it, so
+    /// polling briefly first is faster. Polling keeps the processor busy for at most a tenth of a millisecond; it is
+    /// meant for infrequent requests, not for every piece of a large file.
     enum class Waiting { Asleep, AwakeAtFirst };
 
-    /// What has arrived, up to `size` bytes: their number, 0 at the end of the connection, -1 after a failure.
+    /// Reads available data, up to `size` bytes. Returns their number, 0 at the end of the connection, -1 after a
+    /// failure.
     qsizetype receive(char *buffer, qsizetype size, Deadline deadline, Waiting waiting = Waiting::Asleep);
-    /// Waits until something has arrived; false at the deadline.
+    /// Waits until data has arrived; returns false at the deadline.
     bool waitForInput(Deadline deadline) const;
-    /// Ends the sending; the other side sees the end of the data.
+    /// Shuts down sending; the other side sees the end of the data.
     void endSending();
-    /// The number of bytes that were sent and that the other side hasn't acknowledged yet.
+    /// The number of sent bytes that the other side hasn't acknowledged yet.
     int unacknowledged() const;
 
 private:

@@ -7,13 +7,13 @@
 
 namespace zephira {
 
-/// Where a socket is bound or connected to, over IPv4 or IPv6.
+/// The address of a socket or its peer, over IPv4 or IPv6.
 class SocketAddress
 {
 public:
-    /// No address.
+    /// An empty address.
     SocketAddress() = default;
-    /// A copy of what the system's functions give.
+    /// Copies the address that a system function returned.
     SocketAddress(const sockaddr *address, socklen_t length);
 
     const sockaddr *data() const { return reinterpret_cast<const sockaddr *>(&m_storage); }
