@@ -24,7 +24,7 @@ namespace {
 /// In milliseconds. Updating the display more often than it can be read would only cost time.
 constexpr quint32 paintInterval = 1000 / 20;
 
-/// A bar counts in bytes as long as its numbers allow, and never has an end of 0, which would stand for "unknown".
+/// Limits a bar's maximum to what its numbers can hold. It is never 0, which would mean "unknown".
 void setBarMaximum(QProgressBar &bar, double maximum)
 {
     bar.setRange(0, int(std::clamp(maximum, 1.0, double(std::numeric_limits<int>::max()))));

@@ -27,7 +27,7 @@ class TransferDisplay
 public:
     virtual ~TransferDisplay() = default;
 
-    /// A run begins: the bytes of the whole queue, and the upper end of its bar.
+    /// A run begins: the size of the whole queue in bytes, and the maximum of its bar.
     virtual void beginRun(qint64 total, double barMaximum) = 0;
     /// A file begins: its number from 1, the line that names it, and the maximum of its bar.
     virtual void beginFile(int number, const QString &line, double barMaximum) = 0;
@@ -51,7 +51,7 @@ public:
     enum class Outcome {
         /// The queue was processed to its end, and the user was told.
         Completed,
-        /// A file could not be opened or stored, and the user was told; the rest of the queue was left undone.
+        /// A file could not be opened or stored, and the user was told; the rest of the queue was skipped.
         Stopped,
     };
 

@@ -133,7 +133,7 @@ void FilePane::changeDrive()
     const QString drive = m_ui->DRV->currentText();
     if (!QDir(drive).exists()) {
         m_ui->DRV->refill();
-        m_prompts.tell(u"The drive %1 isn't there any more."_s.arg(drive), {}, Question::Icon::Exclamation);
+        m_prompts.tell(u"The drive %1 is no longer available."_s.arg(drive), {}, Question::Icon::Exclamation);
         return;
     }
     showFolder(drive);

@@ -31,7 +31,7 @@ constexpr Credit credits[] = {
     {u"lblLicence", u"Free software under the", u"GNU General Public License, version 3 or later",
      u"https://www.gnu.org/licenses/gpl-3.0.html"},
     {u"lblQt", u"Windows, dialogs and pages by", u"Qt", u"https://www.qt.io/"},
-    {u"lblQScintilla", u"The code view stands on", u"QScintilla",
+    {u"lblQScintilla", u"The code view is based on", u"QScintilla",
      u"https://www.riverbankcomputing.com/software/qscintilla/"},
     {u"lblTidy", u"Pages are checked with", u"HTML Tidy", u"https://www.html-tidy.org/"},
 };

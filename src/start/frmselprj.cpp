@@ -76,7 +76,7 @@ void frmselprj::addButton(const TemplateButton &button)
     control->setObjectName(button.name);
     control->setAutoDefault(false);
     control->setAccessibleName(control->text().trimmed());
-    control->setToolTip(file.isEmpty() ? tr("Keeps the text and chooses the language alone") : file);
+    control->setToolTip(file.isEmpty() ? tr("Keeps the text and only sets the language") : file);
     if (pictured) {
         const FramePicture picture = framePicture(file, palette(), pictureSize);
         control->setIcon(picture.icon);

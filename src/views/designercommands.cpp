@@ -15,13 +15,13 @@ constexpr DesignerButton buttons[] = {
     {u"Italic", Italic, u"Italic", u"format-text-italic"},
     {u"Underline", Underline, u"Underline", u"format-text-underline"},
     {u"Numbers", OrderedList, u"Numbered list", u"format-list-ordered"},
-    {u"Bullets", UnorderedList, u"List with bullets", u"format-list-unordered"},
+    {u"Bullets", UnorderedList, u"Bulleted list", u"format-list-unordered"},
     {u"Outdent", Indent, u"Indent", u"format-indent-more"},
     {u"Indent", Outdent, u"Outdent", u"format-indent-less"},
     {u"LeftJustify", JustifyLeft, u"Align left", u"format-justify-left"},
     {u"Center", JustifyCenter, u"Center", u"format-justify-center"},
     {u"RightJustify", JustifyRight, u"Align right", u"format-justify-right"},
-    {u"Color", SetForeColor, u"Color of the text", u"format-text-color"},
+    {u"Color", SetForeColor, u"Text color", u"format-text-color"},
 };
 
 constexpr DesignerCommand editCommands[] = {Undo, Redo, None, Cut, Copy, Paste, SelectAll, None, FindText};

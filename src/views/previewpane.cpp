@@ -63,7 +63,7 @@ PreviewPane::PreviewPane(Browser &browser, QWidget *parent) : QWidget(parent), m
     m_address->setAccessibleName(u"Address of the page"_s);
     auto *goButton = new QPushButton(u"Go"_s, bar);
     goButton->setObjectName(u"cmdgo"_s);
-    goButton->setToolTip(u"Show the page of this address"_s);
+    goButton->setToolTip(u"Show the page at this address"_s);
 
     auto *barLayout = new QHBoxLayout(bar);
     barLayout->setContentsMargins(2, 2, 2, 2);

@@ -210,7 +210,7 @@ private Q_SLOTS:
         Bench bench;
         bench.pane.showFolder(bench.places.path());
         bench.drives.addItem(u"/media/unmounted"_s);
-        bench.prompts.expectTell(u"The drive /media/unmounted isn't there any more."_s, {},
+        bench.prompts.expectTell(u"The drive /media/unmounted is no longer available."_s, {},
                                  Question::Icon::Exclamation);
         bench.chooseDrive(u"/media/unmounted"_s);
         QCOMPARE(bench.drives.currentText(), u"/"_s);

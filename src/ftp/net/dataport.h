@@ -15,13 +15,13 @@ public:
 
     /// Negotiates a port with the server. Call it before the command that moves the data.
     bool prepare();
-    /// Asks for a port before its time and doesn't wait for the reply, so that the server looks for one while the client
-    /// does something else. For the end of a transfer that another one follows soon. Passive transfers alone gain by it.
+    /// Requests a port in advance without waiting for the reply, so that the server prepares it while the client does
+    /// something else. Use it at the end of a transfer that another one will soon follow. Only passive transfers benefit.
     void askAhead();
     /// Discards what was requested ahead. Call it before every command that is not part of a transfer, because the
     /// pending reply would otherwise be taken for that command's.
     void settle();
-    /// The connection, once the server has answered that command.
+    /// The connection; call it when the server has answered the transfer's command.
     Socket take();
     /// Discards what was prepared.
     void discard();

@@ -40,11 +40,11 @@ public:
         return m_data.receive(buffer, size, deadline, waiting);
     }
     bool send(QByteArrayView bytes);
-    /// Ends a transfer to us, before its end if need be. True if the server says that it sent all.
+    /// Ends a download, early if need be. Returns true if the server reports that it sent everything.
     bool endReceiving();
-    /// Ends a transfer to the server. True if it says that it has all.
+    /// Ends an upload. Returns true if the server reports that it received everything.
     bool endSending();
-    /// Gives the conversation up, after a wait that was too long to go on.
+    /// Drops the conversation, after a wait that took too long.
     void abandon();
 
     std::chrono::milliseconds limit() const { return m_control.limit(); }
