@@ -7,7 +7,7 @@ namespace zephira {
 
 struct AppContext;
 
-/// The list of ASP codes in the side pane. A double click pastes one behind the selection.
+/// The list of ASP codes in the side pane. A double click inserts one after the selection.
 class AspTagTree final : public QTreeWidget
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class AspTagTree final : public QTreeWidget
 public:
     explicit AspTagTree(const AppContext &context, QWidget *parent = nullptr);
 
-    /// Adds a root node for each line, also for a blank one.
+    /// Adds a root node for each line, including blank ones.
     void addLines(const QStringList &lines);
 };
 

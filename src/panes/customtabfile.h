@@ -11,11 +11,11 @@ namespace zephira {
 
 class FileStore;
 
-/// What stands in the file of a custom tab.
+/// The contents of a custom tab's file.
 struct CustomTabFile {
     struct Entry {
         QString title;
-        /// What is pasted.
+        /// The text to insert.
         QString code;
 
         friend bool operator==(const Entry &, const Entry &) = default;
@@ -26,19 +26,19 @@ struct CustomTabFile {
     std::vector<Entry> entries;
 };
 
-/// Reads the lines of a custom tab. The first is the header. A line that begins with #EXTINF, in capitals, holds a title
-/// behind its first comma (without a comma it is the title) and the line behind it the code, whatever that looks like.
-/// Any other line is title and code in one.
+/// Reads the lines of a custom tab. The first is the header. In a line that begins with #EXTINF (in capitals) the title
+/// follows the first comma, or is the whole line if there is no comma; the next line is the code, whatever it looks
+/// like. Any other line is both title and code.
 ///
 ///     #EXTINF,Bold        gives the title "Bold"
 ///     <b></b>             and its code
 CustomTabFile parseCustomTab(const QStringList &lines);
 
-/// What is put behind a custom tab's file to add an entry. It begins with a line end and ends without one.
+/// The text to append to a custom tab's file for a new entry. It begins with a line end and ends without one.
 QString customTabEntry(const QString &title, const QString &code);
 
-/// Puts text behind the end of a file, in the file's own encoding, and makes the file if there is none. Fails with
-/// Code::Unencodable, the file staying as it was, where the encoding can't hold the text.
+/// Appends text to a file in the file's own encoding, and creates the file if it doesn't exist. Fails with
+/// Code::Unencodable, leaving the file unchanged, if the encoding can't represent the text.
 Result<void> AppendToFile(FileStore &files, const QString &filePath, const QString &text);
 
 } // namespace zephira

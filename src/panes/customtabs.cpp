@@ -24,9 +24,10 @@ namespace zephira {
 
 namespace {
 
-/// In characters. A header is measured whole, and that of a file that is no snippet file may be of any length.
+/// In characters. The whole header is measured, and the first line of a file that isn't a snippet file may be very
+/// long.
 constexpr qsizetype longestHeader = 1000;
-/// In a tip.
+/// In characters, for a tool tip.
 constexpr qsizetype longestTitle = 100;
 
 } // namespace
@@ -57,7 +58,7 @@ QTreeWidget *CustomTabs::makeList(int tab, QWidget *owner)
 
 bool CustomTabs::eventFilter(QObject *watched, QEvent *event)
 {
-    // Everything else goes by first, because some of it comes from a list that is just being destroyed.
+    // All other events are passed on first, because some come from a list that is being destroyed.
     if (event->type() != QEvent::ContextMenu && event->type() != QEvent::MouseButtonRelease)
         return QObject::eventFilter(watched, event);
     for (int tab = 1; tab <= count; ++tab) {
@@ -65,7 +66,7 @@ bool CustomTabs::eventFilter(QObject *watched, QEvent *event)
         if (watched != &view && watched != view.viewport())
             continue;
         if (event->type() == QEvent::ContextMenu) {
-            // A request of the keyboard opens the menu; one of the mouse may come before its button is up again.
+            // The keyboard opens the menu here; with the mouse, this event may come before the button is released.
             if (static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard)
                 openMenu(tab, view.viewport()->mapToGlobal(view.visualItemRect(view.currentItem()).bottomLeft()));
             return true;
@@ -138,7 +139,7 @@ void CustomTabs::addEntry()
             .value_or(QString());
     if (code.isEmpty() || title.isEmpty())
         return;
-    // Title and code go in together, so that no entry is left with half of itself.
+    // Title and code are written together, so that an entry is never left incomplete.
     const Result<void> added = AppendToFile(m_context.files, filePath(m_menuTab), customTabEntry(title, code));
     if (!added)
         tellError(m_context.prompts, added.error());

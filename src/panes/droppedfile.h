@@ -7,7 +7,7 @@ class QMimeData;
 
 namespace zephira {
 
-/// Full path of the first file on this computer in what is dropped, or empty. The others don't count.
+/// Full path of the first local file in the dropped data, or empty. Further files are ignored.
 QString droppedFile(const QMimeData *data);
 
 } // namespace zephira

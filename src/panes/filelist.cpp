@@ -40,7 +40,8 @@ void FileList::setNames(const QStringList &names)
 {
     clear();
     addItems(names);
-    // Told one by one, ten thousand pictures would take longer than everything else; nothing has been painted yet.
+    // With a signal for each item, ten thousand pictures would take longer than everything else; nothing is painted
+    // yet.
     const QSignalBlocker quiet(model());
     const QIcon text = themeIcon(u"text-x-generic"_s);
     const QIcon picture = themeIcon(u"image-x-generic"_s);
@@ -65,7 +66,7 @@ void FileList::mouseReleaseEvent(QMouseEvent *event)
 
 void FileList::keyPressEvent(QKeyEvent *event)
 {
-    // The other menu key, which nobody turns into a request for a menu here.
+    // The alternative menu key, which doesn't cause a context menu event here.
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         Q_EMIT menuWanted(viewport()->mapToGlobal(visualItemRect(currentItem()).center()));
     else
@@ -74,7 +75,7 @@ void FileList::keyPressEvent(QKeyEvent *event)
 
 void FileList::contextMenuEvent(QContextMenuEvent *event)
 {
-    // The mouse asks for the menu by its release.
+    // With the mouse, the menu is opened when the button is released.
     if (event->reason() == QContextMenuEvent::Keyboard)
         Q_EMIT menuWanted(event->globalPos());
 }

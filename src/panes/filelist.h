@@ -13,14 +13,14 @@ class FileList : public QListWidget
 public:
     explicit FileList(QWidget *parent = nullptr);
 
-    /// Replaces the rows; thousands take a few milliseconds.
+    /// Replaces the rows; thousands of them take a few milliseconds.
     void setNames(const QStringList &names);
     QStringList names() const;
 
 Q_SIGNALS:
-    /// A double click on a row, or Return.
+    /// A row was double-clicked, or Return was pressed.
     void opened();
-    /// The right button was released over the list, or the menu key pressed. A point of the screen.
+    /// The right button was released over the list, or the menu key was pressed. `place` is in screen coordinates.
     void menuWanted(const QPoint &place);
 
 protected:

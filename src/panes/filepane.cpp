@@ -34,7 +34,7 @@ FilePane::FilePane(Prompts &prompts, QWidget *parent)
     m_file->setObjectName(u"file"_s);
     m_file->setToolTip(u"Available Files"_s);
     m_file->setAccessibleName(u"Available Files"_s);
-    // On a low screen the lists give way, so that the window's status bar stays on it.
+    // On a low screen the lists shrink, so that the window's status bar stays visible.
     m_ui->DIR->setMinimumHeight(lowestList);
     m_ui->ListFiles->setMinimumHeight(lowestList);
     m_ui->fileSplitter->setStretchFactor(0, 1);
@@ -90,7 +90,7 @@ void FilePane::setFolder(const QString &folder)
         m_ui->DIR->setSelectedFolder(folder);
 }
 
-/// The folder selection changed. "My Computer" is no folder, so that the files of the one before are listed again.
+/// The folder selection changed. "My Computer" is no folder, so the files of the previous folder are listed again.
 void FilePane::listFolder()
 {
     m_awaited.clear();
@@ -108,7 +108,7 @@ void FilePane::listFolder()
         m_watch.add(QDir::cleanPath(m_file->path()));
 }
 
-/// Follows the folder on disk; what is selected and in view stays so.
+/// Updates the list from the folder on disk and keeps the selection and the scroll position.
 void FilePane::refresh()
 {
     m_watch.add(QDir::cleanPath(m_file->path())); // One that was made again is a new one.

@@ -16,8 +16,8 @@ namespace Ui {
 class FilePane;
 }
 
-/// The file manager: drives, the project folder, a folder tree and the files of the folder that is selected in it. The
-/// list of files mirrors the hidden `file`.
+/// The file manager: drives, the project folder, a folder tree, and the files of the folder selected in it. The list of
+/// files mirrors the hidden `file`.
 class FilePane : public QWidget
 {
     Q_OBJECT
@@ -34,19 +34,19 @@ public:
     void setProjectPath(const QString &path);
 
     FileListBox &fileList() { return *m_file; }
-    /// Text of the selected item of `ListFiles`, or empty.
+    /// Text of the item selected in `ListFiles`, or empty.
     QString selectedFile() const;
 
-    /// Selects a file's row; one that isn't listed yet, once it is.
+    /// Selects a file's row, or selects it later if it isn't listed yet.
     void selectFile(const QString &name);
 
-    /// Moves the folder tree to the folder and lists it. A folder that isn't there leaves the tree where it is.
+    /// Moves the folder tree to the folder and lists it. If the folder doesn't exist, the tree stays where it is.
     void showFolder(const QString &folder);
 
 Q_SIGNALS:
-    /// A double click on a file of the list, or Return.
+    /// A file of the list was double-clicked, or Return was pressed.
     void fileActivated();
-    /// The list's menu is asked for at a point of the screen.
+    /// The list's menu was requested at a point in screen coordinates.
     void menuWanted(const QPoint &place);
 
 private:
@@ -60,9 +60,9 @@ private:
     Prompts &m_prompts;
     FileListBox *m_file;
     FolderWatch m_watch;
-    /// The pattern that the list was filled by. A newer one waits for the next change of the folder.
+    /// The pattern of the listed files. A newer pattern takes effect at the next change of the folder.
     QString m_listedPattern;
-    /// A file whose row is to be selected when it comes.
+    /// The file whose row is selected as soon as it appears.
     QString m_awaited;
     bool m_rootSelect = false;
 };

@@ -30,7 +30,7 @@ QString pathOf(const QTreeWidgetItem *item)
     return item->data(0, PathRole).toString();
 }
 
-/// The folder as it is watched, or empty for an item that is no folder.
+/// The folder's path in the form that the watch uses; empty for an item that is no folder.
 QString watchedPathOf(const QTreeWidgetItem *item)
 {
     const QString path = pathOf(item);
@@ -48,7 +48,7 @@ QTreeWidgetItem *makeItem(const QString &path, const QString &caption, QStringVi
     item->setIcon(0, themeIcon(icon.toString()));
     item->setToolTip(0, QDir::toNativeSeparators(path));
     item->setData(0, PathRole, path);
-    // Whether there are folders inside is only known once it is read.
+    // Whether the folder has subfolders is known only after it is read.
     item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
     return item;
 }
@@ -58,7 +58,7 @@ QTreeWidgetItem *makeFolder(const QString &path, const QString &caption)
     return makeItem(path, caption, u"folder");
 }
 
-/// The child that is the folder `target` or holds it, or nullptr.
+/// The child that is the folder `target` or contains it, or nullptr.
 QTreeWidgetItem *childTowards(const QTreeWidgetItem *item, const QString &target)
 {
     for (int i = 0; i < item->childCount(); ++i) {
@@ -69,7 +69,7 @@ QTreeWidgetItem *childTowards(const QTreeWidgetItem *item, const QString &target
     return nullptr;
 }
 
-/// Puts the folders that an item doesn't have yet between its others, which are in the same order.
+/// Inserts the folders that an item doesn't have yet among its children, which are sorted in the same order.
 void addNew(QTreeWidgetItem *item, const QStringList &names)
 {
     QSet<QString> known;
@@ -180,7 +180,7 @@ void FolderTree::setSelectedFolder(const QString &folder)
         QTreeWidgetItem *next = childTowards(item, target);
         const QString inside = withSlash(pathOf(item));
         if (!next && target.startsWith(inside)) {
-            // A hidden folder, and one that is newer than the tree, joins it when it is asked for.
+            // Hidden folders, and those created after the tree was read, are added when they are requested.
             const QString name = target.sliced(inside.size()).section(u'/', 0, 0);
             addNew(item, {name});
             next = childTowards(item, target);
@@ -197,14 +197,14 @@ void FolderTree::setSelectedFolder(const QString &folder)
     scrollToItem(item, QAbstractItemView::PositionAtCenter);
 }
 
-/// Fills an item that is opened. One whose folder can't be watched is filled anew each time.
+/// Fills an item that is being opened. If its folder can't be watched, it is filled again each time.
 void FolderTree::read(QTreeWidgetItem *item)
 {
     if (!pathOf(item).isEmpty() && !(isRead(item) && m_watch.contains(watchedPathOf(item))))
         follow(item);
 }
 
-/// Makes the item's children what the folder holds now. Those that stay keep what is open and selected below them.
+/// Updates the item's children from the folder on disk. Those that remain keep their expanded and selected items.
 void FolderTree::follow(QTreeWidgetItem *item)
 {
     item->setData(0, ReadRole, true);
@@ -218,7 +218,7 @@ void FolderTree::follow(QTreeWidgetItem *item)
                                                          : QTreeWidgetItem::DontShowIndicatorWhenChildless);
 }
 
-/// A folder that was selected, deleted and made again, as many tools do with what they build, is selected again.
+/// If the selected folder is deleted and created again, as many build tools do, it is selected again.
 void FolderTree::selectAgain(const QTreeWidgetItem *item)
 {
     if (m_vanished.isEmpty() || currentItem() != item || !QDir(m_vanished).exists())
@@ -233,9 +233,9 @@ void FolderTree::removeVanished(QTreeWidgetItem *item, const QSet<QString> &name
 {
     for (int i = item->childCount() - 1; i >= 0; --i) {
         QTreeWidgetItem *child = item->child(i);
-        // Folders that were asked for by their path aren't among the names if they are hidden.
+        // Hidden folders that were requested by path aren't among the names.
         if (names.contains(child->text(0)) || QDir(pathOf(child)).exists()) {
-            // One of the same name may have taken the old one's place, which nobody watches yet.
+            // The folder may have been replaced by a new one of the same name, which isn't watched yet.
             if (isRead(child))
                 read(child);
             continue;
@@ -253,7 +253,7 @@ void FolderTree::removeVanished(QTreeWidgetItem *item, const QSet<QString> &name
 void FolderTree::followChanged(const QSet<QString> &folders)
 {
     for (const QString &folder : folders) {
-        // Following an item deletes none but those below it, which are other folders.
+        // Updating an item deletes only items below it, which are other folders.
         QList<QTreeWidgetItem *> items;
         for (QTreeWidgetItemIterator it(this); *it; ++it) {
             if (isRead(*it) && watchedPathOf(*it) == folder)
@@ -266,7 +266,8 @@ void FolderTree::followChanged(const QSet<QString> &folders)
 
 void FolderTree::keyPressEvent(QKeyEvent *event)
 {
-    // The asterisk opens everything below an item, which would read the whole disk, and links in circles for ever.
+    // The asterisk would expand everything below an item: it would read the whole disk, and never end on circular
+    // links.
     if (event->key() == Qt::Key_Asterisk && currentItem())
         currentItem()->setExpanded(true);
     else

@@ -7,9 +7,9 @@
 
 namespace zephira {
 
-/// A tree of folders with a root and a selection. A folder's children are read when it is opened, so that links which lead
-/// in circles do no harm, and follow the disk from then on. While the root is the whole computer, it stands below
-/// "My Computer", and "Desktop", "My Documents" and "Home", the user's own folders, above it.
+/// A tree of folders with a root and a selection. A folder's children are read when it is opened, so that circular
+/// links do no harm, and updated from the disk from then on. While the root is the whole computer, it is below "My
+/// Computer", with the user's own folders "Desktop", "My Documents" and "Home" above it.
 class FolderTree : public QTreeWidget
 {
     Q_OBJECT
@@ -20,22 +20,23 @@ public:
     explicit FolderTree(QWidget *parent = nullptr);
 
     QString rootFolder() const { return m_root; }
-    /// Makes the folder the only root, opens it and selects it; an empty path gives the whole computer, with nothing
+    /// Makes the folder the only root, opens it and selects it; an empty path shows the whole computer with nothing
     /// selected. Emits nothing.
     void setRootFolder(const QString &folder);
-    /// The same under a name of its own.
+    /// The same with a caption for the root.
     void setRootFolder(const QString &folder, const QString &caption);
 
-    /// Full path of the selected folder. Those of "Desktop", "My Documents" and "Home" end in a separator, others, except for the
-    /// root of all folders, don't. Empty when nothing is selected, and for "My Computer", which is no folder.
+    /// Full path of the selected folder. Those of "Desktop", "My Documents" and "Home" end in a separator; others
+    /// don't, except for the root of the file system. Empty when nothing is selected, and for "My Computer", which is
+    /// no folder.
     QString selectedFolder() const;
-    /// Opens the tree down to the folder and selects it. A path that isn't full, isn't below the root or isn't there is
-    /// ignored. Emits nothing.
+    /// Opens the tree down to the folder and selects it. A path that isn't absolute, isn't below the root or doesn't
+    /// exist is ignored. Emits nothing.
     void setSelectedFolder(const QString &folder);
 
 Q_SIGNALS:
-    /// The user selected another folder, or the one that was selected vanished from the disk and its parent took over.
-    /// `folder` is selectedFolder().
+    /// The user selected another folder, or the selected one vanished from the disk and its parent was selected
+    /// instead. `folder` is selectedFolder().
     void folderSelected(const QString &folder);
 
 protected:
@@ -51,9 +52,9 @@ private:
     void selectAgain(const QTreeWidgetItem *item);
 
     QString m_root;
-    /// The selected folder that vanished, while nothing else has been selected but the one that took over.
+    /// The selected folder that vanished; kept until the user selects anything but its parent, which took its place.
     QString m_vanished;
-    /// The item that every other folder lies below.
+    /// The item above all other folders.
     QTreeWidgetItem *m_start = nullptr;
     FolderWatch m_watch;
 };

@@ -61,7 +61,7 @@ void FolderWatch::folderChanged(const QString &folder)
         m_look.start();
     }
     m_changed.insert(folder);
-    // A timer that is running is left alone: endless changes must not put the news off for ever.
+    // A running timer isn't restarted: endless changes must not delay the signal for ever.
     if (!m_tellSoon.isActive())
         m_tellSoon.start();
 }

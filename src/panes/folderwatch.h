@@ -10,9 +10,9 @@ class QFileSystemWatcher;
 
 namespace zephira {
 
-/// Tells when names appear in some folders, or vanish. One command of the user's can change a folder a thousand times, so
-/// the changes are collected for a tenth of a second. A folder that can't be watched is never told of; one that vanished is
-/// told of again when it is back. Paths have no separator at their end.
+/// Reports when names appear in or vanish from some folders. A single user command can change a folder a thousand
+/// times, so changes are collected for a tenth of a second. A folder that can't be watched is never reported; a folder
+/// that vanished is reported again when it is back. Paths have no trailing separator.
 class FolderWatch : public QObject
 {
     Q_OBJECT
@@ -21,10 +21,10 @@ public:
     explicit FolderWatch(QObject *parent = nullptr);
 
     void add(const QString &folder);
-    /// No longer waits for a folder that vanished, nor for those that were below it.
+    /// Stops waiting for a folder that vanished, and for those that were below it.
     void forget(const QString &folder);
     void clear();
-    /// Whether changes of the folder will be told; no longer true once it has vanished itself.
+    /// Whether changes of the folder will be reported; false once it has vanished.
     bool contains(const QString &folder) const { return m_folders.contains(folder); }
 
 Q_SIGNALS:
@@ -35,12 +35,12 @@ private:
     void tell();
     void lookForVanished();
 
-    /// Made with the first folder, because most starts of the program need none.
+    /// Created with the first folder, because most starts of the program need none.
     QFileSystemWatcher *m_watcher = nullptr;
     QSet<QString> m_folders;
     QSet<QString> m_changed;
     QTimer m_tellSoon;
-    /// The folders that were watched until they vanished, and the looking for them, which nobody else tells of.
+    /// The watched folders that have vanished, and a timer to look for them, because nothing signals their return.
     QSet<QString> m_vanished;
     QTimer m_look;
 };

@@ -7,7 +7,7 @@ namespace zephira {
 
 struct AppContext;
 
-/// The list of iHTML tags in the side pane. A double click pastes one behind the selection.
+/// The list of iHTML tags in the side pane. A double click inserts one after the selection.
 class IhtmlTagList final : public QListWidget
 {
     Q_OBJECT

@@ -7,8 +7,8 @@ namespace zephira {
 
 namespace {
 
-// A few rows look odd, such as the one with two brackets and those whose end tag is another one's. They are what users
-// know, and stay.
+// A few rows look odd, such as the one with two brackets and those with the end tag of another element. Users know them
+// as they are, so they stay.
 constexpr auto tags = std::to_array<QStringView>({
     u"<!ihtml>",
     u"<iabs>",

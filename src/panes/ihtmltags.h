@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// The tags of the iHTML language in the order of the list. Each is pasted as it stands.
+/// The tags of the iHTML language in the order of the list. Each is inserted exactly as it is here.
 std::span<const QStringView> ihtmlTags();
 
 } // namespace zephira

@@ -6,7 +6,7 @@ namespace zephira {
 namespace {
 
 constexpr int twipsPerPixel = 15;
-// The measures of the form, in twips.
+// The form's measures, in twips.
 constexpr int treeOffset = 30;
 constexpr int besideTree = 1450;
 constexpr int belowTree = 50;

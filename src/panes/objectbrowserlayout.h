@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// Where the parts of the object browser go, in pixels.
+/// The positions and sizes of the object browser's parts, in pixels.
 struct ObjectBrowserLayout {
     QRect tree;
     /// Left edge of the two buttons, and the width that is left for them.
@@ -13,8 +13,8 @@ struct ObjectBrowserLayout {
     int buttonWidth = 0;
 };
 
-/// For the inner size of the form, which is in pixels of 15 twips, as the measures of the layout are. No part gets a
-/// negative size, however small the form.
+/// The layout for the inner size of the form, in pixels of 15 twips like the result. No part gets a negative size,
+/// however small the form is.
 ObjectBrowserLayout objectBrowserLayout(const QSize &form);
 
 } // namespace zephira

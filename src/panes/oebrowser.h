@@ -13,8 +13,8 @@ class oebrowser;
 
 struct AppContext;
 
-/// The browser of the objects and events of a page's scripts. A double click puts a name in the place of the code view's
-/// selection, whatever view shows. A tree is read each time its button is pressed, and none before.
+/// The browser for the objects and events of a page's scripts. A double click replaces the code view's selection by a
+/// name, whichever view is visible. A tree is read each time its button is pressed, and not before.
 class oebrowser final : public QDialog
 {
     Q_OBJECT

@@ -37,7 +37,7 @@ constexpr std::array<OutlineRoot, 17> roots{{
     {u"Others", u"other", Document, Picture::Category},
 }};
 
-/// What a tag shows in the tree.
+/// The caption that a tag gets in the tree.
 enum class Show {
     Nothing,
     Name, ///< as it is written
@@ -54,7 +54,7 @@ struct TagRule {
     OutlineGroup group = Other;
     std::array<QStringView, 4> attributes = {};
     QStringView otherwise = {};
-    /// Comments up to the closing tag are part of a script or style sheet.
+    /// Comments up to the closing tag belong to the script or style sheet.
     bool beginsBlock = false;
 };
 
@@ -160,7 +160,7 @@ std::optional<QStringView> attributeValue(QStringView upperName, QStringView inn
     return value;
 }
 
-/// The first of the attributes that is present, or nothing.
+/// The value of the first of these attributes that is present, or nothing.
 std::optional<QStringView> firstValue(std::span<const QStringView> upperNames, QStringView inner)
 {
     for (const QStringView name : upperNames) {
@@ -193,7 +193,7 @@ public:
 private:
     void scanTag(qsizetype begin, QStringView inner)
     {
-        // Only the blank ends a name; a line break or a tab is a part of it.
+        // Only a blank ends a name; a line break or a tab is part of it.
         const qsizetype blank = inner.indexOf(u' ');
         const QStringView name = blank < 0 ? inner : inner.first(blank);
         if (name.startsWith(u"!-"))
@@ -212,7 +212,7 @@ private:
         }
     }
 
-    /// The caption is cut out as if each comment were `!-- text --`.
+    /// The caption is extracted as if each comment were `!-- text --`.
     void scanComment(qsizetype begin, const QString &inner)
     {
         constexpr qsizetype longestCaption = 9;
@@ -262,8 +262,8 @@ private:
         }
     }
 
-    /// Cut out by fixed counts that expect a bare `<title>` before the text, and behind `</title>` one character more
-    /// that isn't a blank. Positions are 1-based here, as in the counts.
+    /// Extracted with fixed lengths, which assume a bare `<title>` before the text and exactly one more non-blank
+    /// character after `</title>`. Positions are 1-based here, as in those lengths.
     void addTitle(qsizetype begin, qsizetype end)
     {
         if (m_closing < end)
@@ -277,7 +277,7 @@ private:
     const QString &m_text;
     const std::function<void(OutlineLeaf &&)> &m_sink;
     bool m_inBlock = false;
-    /// The last closing tag that a title was measured by, -1 for none.
+    /// The closing tag that was last used to measure a title, 0-based; -1 for none.
     qsizetype m_closing = -1;
 };
 

@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// The fixed nodes of the document tree, in the order in which they are added. Leaves hang under all but Main.
+/// The fixed nodes of the document tree, in the order in which they are added. All but Main can have leaves.
 enum class OutlineGroup {
     Main,
     Document,
@@ -40,29 +40,29 @@ struct OutlineRoot {
     OutlinePicture picture;
 };
 
-/// All seventeen, each at the index that is its OutlineGroup.
+/// All seventeen, indexed by their OutlineGroup.
 std::span<const OutlineRoot> outlineRoots();
 
-/// A tag worth showing.
+/// A tag that the tree shows.
 struct OutlineLeaf {
     OutlineGroup group = OutlineGroup::Other;
     QString caption;
-    /// What stands between `<` and `>`; of a title, everything up to its closing tag.
+    /// The text between `<` and `>`; for a title, everything up to its closing tag.
     QString tagText;
-    /// Index of the tag's `<`, the first character of the text is 0.
+    /// 0-based index of the tag's `<` in the text.
     qsizetype position = 0;
 };
 
-/// Gives `sink` the tags of a page, from the first to the last. It is one scan for `<` and `>`: markup of any kind is
-/// taken as it comes, and nothing is nested. A comment or a title that is too short for its caption to be cut out, and a
-/// title or an attribute that begins behind character 32767, raise HandlerError; the leaves before it have been given.
+/// Calls `sink` for the tags of a page in order. It is a single scan for `<` and `>`: any kind of markup is accepted,
+/// and nesting is ignored. HandlerError is raised for a comment or title that is too short to extract its caption, and
+/// for a title or attribute that begins after character 32767; the leaves before it have been passed to `sink`.
 ///
 ///     <body><a href=x>  gives  (Document, "BODY") and (Links, "x")
 void scanOutline(const QString &documentText, const std::function<void(OutlineLeaf &&)> &sink);
 
-/// The value of an attribute up to the next blank, without quotation marks. Where there is no such attribute, the inner
-/// text comes back whole. The name is looked for as plain text and in any case, so that "id" is found in "valid=" too.
-/// An attribute behind character 32767 raises HandlerError ("Overflow").
+/// The value of an attribute up to the next blank, without quotation marks. If there is no such attribute, the whole
+/// inner text is returned. The name is searched as plain text without regard to case, so "id" is also found in
+/// "valid=". An attribute after character 32767 raises HandlerError ("Overflow").
 QString GetTagAttribute(const QString &attributeName, const QString &innerText);
 
 } // namespace zephira

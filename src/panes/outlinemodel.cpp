@@ -13,10 +13,10 @@ namespace zephira {
 
 namespace {
 
-/// Theme names of the pictures, by their number.
+/// The pictures' names in the icon theme, by their number.
 constexpr std::array<QStringView, 5> iconNames{{{}, u"text-html", u"tag", u"folder", u"folder-html"}};
 
-/// An index keeps its parent's group in its internal id; the root, which has no parent, keeps this.
+/// An index stores its parent's group as its internal id; the root, which has no parent, stores this value.
 constexpr quintptr noParent = 1000;
 
 std::size_t numberOf(OutlineGroup group)
@@ -29,7 +29,7 @@ bool isChild(std::size_t node, std::size_t parent)
     return node != 0 && numberOf(outlineRoots()[node].parent) == parent;
 }
 
-/// The fixed nodes below a fixed node; they stand together in the table.
+/// The fixed children of a fixed node; they are consecutive in the table.
 int fixedChildren(std::size_t parent)
 {
     int count = 0;
@@ -46,7 +46,7 @@ std::size_t firstFixedChild(std::size_t parent)
     return node;
 }
 
-/// The group of an index that is a fixed node.
+/// The group of an index, which must be a fixed node.
 std::size_t groupOf(const QModelIndex &index)
 {
     return index.internalId() == noParent ? 0

@@ -12,8 +12,8 @@
 
 namespace zephira {
 
-/// The document tree's nodes: the fixed ones, and the leaves of one scan below them. A page may have a hundred thousand
-/// leaves, so that no node is an object of its own. Nodes bear KeyRole (empty for leaves) and TagRole (leaves only).
+/// The document tree's nodes: the fixed ones, and below them the leaves of one scan. A page may have a hundred thousand
+/// leaves, so nodes aren't objects. Nodes have KeyRole (empty for leaves) and TagRole (leaves only).
 class OutlineModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -26,8 +26,7 @@ public:
 
     using QAbstractItemModel::QAbstractItemModel;
 
-    /// Puts the leaves of a page in the place of those before. The scan's errors pass through; the leaves that it found
-    /// before stay.
+    /// Replaces the leaves by those of a page. The scan's errors are passed on; the leaves found before an error stay.
     void parse(const QString &documentText);
 
     /// The fixed node of a group.
@@ -48,7 +47,7 @@ private:
 
     static constexpr std::size_t groupCount = 17;
     std::array<std::vector<OutlineLeaf>, groupCount> m_leaves;
-    /// By the picture's number; they come from the theme when they are painted first.
+    /// Indexed by the picture's number; loaded from the theme when first painted.
     mutable std::array<QIcon, 5> m_icons;
 };
 

@@ -14,7 +14,7 @@ namespace zephira {
 
 namespace {
 
-/// A caption may be a whole script. One line of it is painted; the item keeps all.
+/// A caption may be a whole script. Only one line of it is painted; the item keeps the full text.
 class OneLine final : public QStyledItemDelegate
 {
 public:
@@ -49,7 +49,7 @@ OutlineTree::OutlineTree(QWidget *parent)
         Q_EMIT goToTag(leaf.data(TagRole).toString(), leaf.data(OutlineModel::PositionRole).toLongLong());
     });
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &node) {
-        // A node that opens because one of its leaves was selected leaves it so.
+        // If a node opens because one of its leaves was selected, the leaf stays selected.
         if (currentIndex().parent() != node)
             setCurrentIndex(node);
     });
@@ -72,7 +72,7 @@ void OutlineTree::ParseOutline(const QString &documentText, bool skip)
 void OutlineTree::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTreeView::currentChanged(current, previous);
-    // Opening a node on the way may have selected another one.
+    // Opening the leaf's parent may have changed the selection.
     m_goToTag->setEnabled(m_model->isLeaf(currentIndex()));
 }
 

@@ -9,8 +9,8 @@ namespace zephira {
 
 class OutlineModel;
 
-/// The document tree, `TreeView1`: what the last ParseOutline() found. It doesn't follow later changes of the text, and a
-/// click selects a node and does nothing else.
+/// The document tree, `TreeView1`: the result of the last ParseOutline(). It doesn't follow later changes of the text,
+/// and a click only selects a node.
 class OutlineTree : public QTreeView
 {
     Q_OBJECT
@@ -18,12 +18,13 @@ class OutlineTree : public QTreeView
 public:
     explicit OutlineTree(QWidget *parent = nullptr);
 
-    /// Builds the tree anew from a page's text, with its four upper nodes open and the root selected; `skip` leaves
-    /// everything as it is. An error of the scan passes through: the tree then holds the leaves found before, all closed.
+    /// Rebuilds the tree from a page's text, with its four upper nodes open and the root selected; does nothing if
+    /// `skip` is set. An error of the scan is passed on: the tree then has the leaves found before it, and all nodes
+    /// are closed.
     Q_INVOKABLE void ParseOutline(const QString &documentText, bool skip);
 
 Q_SIGNALS:
-    /// The user wants to see a tag in the text. `tagText` is what stands between `<` and `>`, `position` the 0-based index
+    /// The user wants to see a tag in the text. `tagText` is the text between `<` and `>`, `position` the 0-based index
     /// that its `<` had when the outline was made.
     void goToTag(const QString &tagText, qsizetype position);
 

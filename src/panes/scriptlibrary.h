@@ -12,8 +12,8 @@ struct AppContext;
 class FileListBox;
 class FolderTree;
 
-/// The library of script snippets in the side pane: a tree of folders, and the snippets of the folder that is selected in
-/// it. A double click pastes the whole file behind the selection.
+/// The library of script snippets in the side pane: a tree of folders, and the snippets of the folder selected in it. A
+/// double click inserts the whole file after the selection.
 class ScriptLibrary final : public QGroupBox
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private:
     const AppContext &m_context;
     FolderTree *m_folders;
     QListWidget *m_scripts;
-    /// The names on disk; never seen itself.
+    /// The names of the files on disk; always hidden.
     FileListBox *m_files;
 };
 

@@ -7,7 +7,7 @@ namespace zephira {
 
 struct AppContext;
 
-/// The list of style selectors that a button of the palette lays over the window. A double click pastes one behind the
+/// The list of style selectors that a palette button opens on top of the window. A double click inserts one after the
 /// selection, in visual mode too.
 class SelectorList final : public QListWidget
 {
@@ -17,7 +17,7 @@ public:
     explicit SelectorList(const AppContext &context, QWidget *parent = nullptr);
 
 Q_SIGNALS:
-    /// The list has done its work or lost the focus: it is to be hidden, and its button released.
+    /// A selector was chosen or the list lost the focus: it should be hidden, and its button released.
     void finished();
 
 protected:

@@ -14,7 +14,7 @@ namespace zephira {
 
 namespace {
 
-/// Between the pages and what lies around them, in pixels.
+/// Margin around the pages, in pixels.
 constexpr int margin = 4;
 
 } // namespace
@@ -84,7 +84,7 @@ void SidePane::showPage(int tab)
                       [&] { m_stack->setCurrentWidget(page.widget); },
                       [&] { fillWhen(Fill::AfterShowing); },
                   });
-    // A page that was hidden for a moment has lost the focus.
+    // While the page was briefly hidden, it lost the focus.
     if (keptFocus)
         keptFocus->setFocus();
 }

@@ -13,28 +13,28 @@ namespace zephira {
 class Prompts;
 class SideTabBar;
 
-/// The left side of the main window: the tab strip `Frame1` and one page a tab, of which the selected tab's shows. A tab
-/// is known by its key, which is its tabData.
+/// The left side of the main window: the tab strip `Frame1` and one page for each tab, of which the selected tab's page
+/// is visible. A tab is identified by its key, which is its tabData.
 class SidePane : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// When a page's contents are made at a click on its tab: while nothing shows yet, or with the page in view.
+    /// When a page's contents are made after a click on its tab: before the page is shown, or once it is visible.
     enum class Fill { BeforeShowing, AfterShowing };
 
     explicit SidePane(Prompts &prompts, QWidget *parent = nullptr);
 
-    /// The strip. Its tabs are added from outside, before their pages or after.
+    /// The tab strip. Its tabs are added by the caller, before or after their pages.
     SideTabBar *tabs() const { return m_tabs; }
 
-    /// Gives a tab its page, which from then on belongs to the pane. A tab without one shows an empty page.
+    /// Sets a tab's page; the pane takes ownership. A tab without one shows an empty page.
     void setPage(const QString &key, QWidget *page);
-    /// The same for a page that is filled anew at each click on its tab. Where `fill` raises HandlerError, the user is
-    /// told, and decides whether the page still shows.
+    /// The same for a page that is filled again at each click on its tab. If `fill` raises HandlerError, the user is told
+    /// and decides whether the page is shown anyway.
     void setPage(const QString &key, QWidget *page, Fill when, Statement fill);
 
-    /// Selects a tab as a click does, also the one that is selected already. Tabs count from 0.
+    /// Selects a tab as a click does, even if it is already selected. Tabs count from 0.
     void click(int tab);
 
 private:

@@ -28,7 +28,7 @@ SideTabBar::SideTabBar(QWidget *parent) : QTabBar(parent)
     setAcceptDrops(true);
 }
 
-/// A title is only asked for when somebody wants to see it, because it may stand in a file.
+/// A title may have to be read from a file, so it is only fetched when the tip is shown.
 bool SideTabBar::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && titleOf) {

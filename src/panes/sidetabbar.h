@@ -16,13 +16,13 @@ class SideTabBar : public QTabBar
 public:
     explicit SideTabBar(QWidget *parent = nullptr);
 
-    /// Gives the title of a page by its tab's key, as the tab's tip is to show it; empty where the tip is right already.
+    /// Returns the title of a page for its tab's tip, by the tab's key; empty if the tip is up to date.
     std::function<QString(const QString &key)> titleOf;
 
 Q_SIGNALS:
-    /// A click on the tab that was selected already; a click on another one is a change of the tab.
+    /// The tab that is already selected was clicked; a click on another tab is a change of the tab.
     void clickedAgain(int index);
-    /// The full path of the first of the files that were dropped.
+    /// The full path of the first of the dropped files.
     void fileDropped(const QString &path);
 
 protected:

@@ -11,8 +11,8 @@ namespace zephira {
 
 class FileStore;
 
-/// Clears a tree and fills it from a .sot file. A file that can't be read leaves the tree as it was. One with a line that
-/// is indented too far (Code::Malformed) fills it up to there.
+/// Clears a tree and fills it from a .sot file. If the file can't be read, the tree stays unchanged. If a line is
+/// indented too far (Code::Malformed), the tree is filled up to that line.
 Result<void> LoadSotTree(const FileStore &files, const QString &filePath, QTreeWidget &tree);
 
 } // namespace zephira

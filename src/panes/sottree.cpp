@@ -8,7 +8,7 @@ namespace zephira {
 SotTree parseSotTree(const QStringList &lines)
 {
     SotTree tree;
-    // The last node of each depth. Depths follow each other without a gap, because no node is read without its parent.
+    // The last node of each depth. There are no gaps between depths, because a node is only accepted with its parent.
     std::vector<qsizetype> lastAt;
     for (const QString &line : lines) {
         const auto text = std::find_if(line.begin(), line.end(), [](QChar c) { return c != u'\t'; });

@@ -7,24 +7,24 @@
 
 namespace zephira {
 
-/// A tree as it stands in a .sot file.
+/// The tree in a .sot file.
 struct SotTree {
     struct Node {
         QString caption;
-        /// Index of the node above, which comes earlier in the list; -1 for a root.
+        /// Index of the parent node, which comes earlier in the list; -1 for a root.
         qsizetype parent = -1;
 
         friend bool operator==(const Node &, const Node &) = default;
     };
 
     std::vector<Node> nodes;
-    /// The line, counted from 1, at which reading ended because nothing stands above it; 0 if all lines were read.
+    /// The line, counted from 1, at which reading ended because it has no parent; 0 if all lines were read.
     qsizetype faultyLine = 0;
 };
 
-/// Reads the lines of a .sot file. Each line is a node, as deep as it has tabs at its start: it goes under the last node
-/// that was one less deep, also where that one is of an earlier branch. A line for which there has been no such node ends
-/// the tree.
+/// Reads the lines of a .sot file. Each line is a node whose depth is the number of tabs at its start. Its parent is
+/// the last node that is one level less deep, even if that belongs to an earlier branch. A line without such a parent
+/// ends the tree.
 ///
 ///     document
 ///     <tab>body           goes under "document"

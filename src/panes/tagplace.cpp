@@ -16,7 +16,7 @@ struct Place {
     int column = 0;
 };
 
-/// Line and column, both from 0, of an index that doesn't lie within a line end.
+/// Line and column, both 0-based, of an index, which must not be inside a line end.
 Place placeOf(QStringView text, qsizetype index)
 {
     Place place;
@@ -38,7 +38,7 @@ std::optional<qsizetype> findTag(const QString &text, const QString &tagText, qs
 {
     const QString beginning = u'<' % tagText;
     position = std::clamp<qsizetype>(position, 0, text.size());
-    // The text of a title may have been cut short, so that its end is looked at only where the page has changed.
+    // A title's text may be cut off, so its end is compared only if the page has changed.
     if (QStringView(text).sliced(position).startsWith(beginning))
         return position;
     const QString tag = beginning % u'>';

@@ -9,11 +9,11 @@ namespace zephira {
 
 class EditingControl;
 
-/// Index of a tag's `<`. That is `position` if the tag still begins there, else the nearest place where the same tag
-/// stands; nothing where there is none. `tagText` is what stands between `<` and `>`. Indices count from 0.
+/// Index of a tag's `<`: `position` if the tag still begins there, else the nearest place with the same tag, or nothing if
+/// there is none. `tagText` is the text between `<` and `>`. Indices are 0-based.
 std::optional<qsizetype> findTag(const QString &text, const QString &tagText, qsizetype position);
 
-/// Selects the tag that findTag() finds in the code view, `<` and `>` included. Returns whether there was one.
+/// Selects the tag found by findTag() in the code view, including `<` and `>`. Returns whether there was one.
 bool selectTag(EditingControl &editor, const QString &tagText, qsizetype position);
 
 } // namespace zephira

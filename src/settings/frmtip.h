@@ -15,13 +15,13 @@ namespace Ui {
 class frmTip;
 }
 
-/// Shows a tip drawn from the tip file, and holds the switch for tips at the start.
+/// Shows a random tip from the tip file, and has the switch for tips at the start.
 class frmTip : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Gives numbers in [0, 1).
+    /// Returns random numbers in [0, 1).
     using Random = std::function<double()>;
 
     frmTip(const AppContext &context, QWidget *owner);

@@ -14,7 +14,7 @@ struct ToolRow {
     QStringView argument = u"";
 };
 
-/// Tools made for the purpose come before the pages of a control centre.
+/// Dedicated tools are preferred to the pages of a control centre.
 constexpr ToolRow tools[] = {
     {u"/usr/bin/hardinfo2"},
     {u"/usr/bin/hardinfo"},

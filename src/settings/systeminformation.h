@@ -10,7 +10,7 @@ namespace zephira {
 
 class FileStore;
 
-/// A program by full path, and its arguments.
+/// A program, given by its full path, and its arguments.
 struct SystemTool {
     QString program;
     QStringList arguments = {};
@@ -18,7 +18,7 @@ struct SystemTool {
     friend bool operator==(const SystemTool &, const SystemTool &) = default;
 };
 
-/// The desktop's tool that shows what the computer is made of: the first of those known that is installed.
+/// The desktop's tool that shows information about the computer: the first known one that is installed.
 std::optional<SystemTool> systemInformationTool(const FileStore &files);
 
 } // namespace zephira

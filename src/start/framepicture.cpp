@@ -10,10 +10,10 @@ namespace zephira {
 
 namespace {
 
-/// What a frame is for; each kind has a look of its own.
+/// What a frame contains; each kind is drawn differently.
 enum class Kind { Body, Bar, Links };
 
-/// A frame, in hundredths of the page.
+/// A frame, in percent of the page.
 struct Frame {
     int left;
     int top;
@@ -61,7 +61,7 @@ QRectF scaled(const Frame &frame, QSizeF page)
                   frame.height * page.height() / 100);
 }
 
-/// Lines that stand for text: a link list has short ones in the colour of links.
+/// Lines that represent text: a list of links has short ones in the link colour.
 void paintLines(QPainter &painter, QRectF area, Kind kind, const QPalette &palette)
 {
     QColor ink = palette.color(kind == Kind::Links ? QPalette::Link : QPalette::Text);
@@ -90,7 +90,7 @@ FramePicture framePicture(const QString &templateFile, const QPalette &palette, 
     for (const Layout &layout : layouts) {
         if (templateFile != layout.file)
             continue;
-        // Twice the size, so that the picture stays sharp on a dense screen.
+        // Drawn at twice the size, so that the picture stays sharp on a high-density screen.
         constexpr int density = 2;
         QPixmap pixmap(size * density);
         pixmap.setDevicePixelRatio(density);

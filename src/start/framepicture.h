@@ -7,13 +7,13 @@
 
 namespace zephira {
 
-/// What a frame template looks like: one sentence for tool tip and screen reader, and a picture of its frames.
+/// What a frame template looks like: a sentence for tool tip and screen reader, and a picture of its frames.
 struct FramePicture {
     QString description;
     QIcon icon;
 };
 
-/// The picture of a file of the folder `templates`, in the colours of the palette; empty for a file that has none.
+/// The picture of a file in the folder `templates`, in the colours of the palette; empty if the file has none.
 FramePicture framePicture(const QString &templateFile, const QPalette &palette, QSize size);
 
 } // namespace zephira

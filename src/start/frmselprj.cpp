@@ -49,7 +49,7 @@ frmselprj::frmselprj(const AppContext &context, QWidget *owner)
 
 frmselprj::~frmselprj()
 {
-    // A label that is still being edited ends its editing when the list goes, which is after our own members are gone.
+    // A label that is being edited ends its editing when the list is destroyed, after our own members are gone.
     m_ui->ListView2->itemDelegate()->disconnect(this);
 }
 
@@ -57,7 +57,7 @@ void frmselprj::addTemplateButtons()
 {
     for (const TemplateButton &button : templateButtons())
         addButton(button);
-    // The buttons keep together at the top of a page that is larger than they need.
+    // The buttons stay together at the top of a page that is larger than needed.
     for (int page = 0; page <= static_cast<int>(TemplatePage::Win32); ++page) {
         auto *grid = static_cast<QGridLayout *>(m_ui->SSTab1->widget(page)->layout());
         grid->setRowStretch(grid->rowCount(), 1);
@@ -104,7 +104,7 @@ void frmselprj::listCustomTemplates()
     connect(delegate, &LabelEditDelegate::labelEdited, this, &frmselprj::renameCustom);
     connect(list, &QListWidget::itemDoubleClicked, this, &frmselprj::useCustomTemplate);
 
-    // What the double click does, for the keyboard.
+    // The keyboard equivalent of a double click.
     auto *use = new QAction(list);
     use->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
     use->setShortcutContext(Qt::WidgetShortcut);

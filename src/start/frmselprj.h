@@ -17,7 +17,7 @@ namespace Ui {
 class frmselprj;
 }
 
-/// Chooses what the new document starts from. Every choice puts text into the editing control without a question, sets
+/// Chooses what the new document starts with. Every choice sets the text of the editing control without asking, sets
 /// the language, and closes the form.
 class frmselprj : public QDialog
 {

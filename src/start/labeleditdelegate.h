@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// Tells when the editing of a row's label ends with a text, also with the one that it had before.
+/// Reports when the editing of a row's label ends with a text, even an unchanged one.
 class LabelEditDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT

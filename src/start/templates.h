@@ -11,10 +11,10 @@ namespace zephira {
 
 class FileStore;
 
-/// The tabs of the start dialog that hold template buttons, by their index.
+/// The tabs of the start dialog that have template buttons, by index.
 enum class TemplatePage { Html, Frames, Css, Web, Win32 };
 
-/// A button that starts a document. One without a file leaves the text as it is and chooses the language alone.
+/// A button that starts a document. One without a file leaves the text as it is and only sets the language.
 struct TemplateButton {
     TemplatePage page;
     QStringView name;    ///< objectName of the button
@@ -23,10 +23,10 @@ struct TemplateButton {
     int language;        ///< row of the language list
 };
 
-/// All buttons, page by page in the order in which they stand.
+/// All buttons, page by page in their visual order.
 std::span<const TemplateButton> templateButtons();
 
-/// Text of a template file, with CR LF line ends. The error of a missing file names file and folder.
+/// Text of a template file, with CR LF line ends. If the file is missing, the error names file and folder.
 Result<QString> readTemplate(const FileStore &files, const QString &path);
 
 } // namespace zephira

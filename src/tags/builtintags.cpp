@@ -11,7 +11,7 @@ namespace {
 
 constexpr QChar bareMark = u'!';
 
-// Captions and keys are as users know them, `MARAQUEE`, the capital of `<Frame>` and the second `id` of `script` included.
+// Users know these captions and keys, including `MARAQUEE`, the capital in `<Frame>` and the second `id` of `script`.
 constexpr BuiltInTag tags[] = {
     {u"<a></a>", u"ANCHOR", u"href target name title rel rev type charset hreflang media style id class"},
     {u"<applet></applet>", u"Applet", u"code codebase name title style id class archive alt align height width"},

@@ -7,19 +7,19 @@
 
 namespace zephira {
 
-/// A tag that the tag tree always has.
+/// A tag that is always in the tag tree.
 struct BuiltInTag {
-    /// What the tree shows and pastes.
+    /// The text that the tree shows and inserts.
     QStringView caption;
     QStringView key;
-    /// Names in the order of the nodes, divided by blanks. One that takes no value has an exclamation mark in front.
+    /// Names in the order of the nodes, separated by blanks. An exclamation mark precedes those that take no value.
     QStringView attributes;
 };
 
 /// All of them, in the order of the tree.
 std::span<const BuiltInTag> builtInTags();
 
-/// What the nodes of the tag's attributes show and paste: ` href=""`, or ` noresize` for one that takes no value.
+/// The texts that the nodes of a tag's attributes show and insert: ` href=""`, or ` noresize` for one without a value.
 QStringList attributeCaptions(const BuiltInTag &tag);
 
 } // namespace zephira

@@ -12,10 +12,10 @@ frmTags::frmTags(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmTags>()), m_editor(context.editor)
 {
     m_ui->setupUi(this);
-    // Each goes ahead of those before, so that the last row of the table stands first.
+    // Each tag is inserted at the top, so that the last row of the table comes first.
     for (const PaletteTag &tag : paletteTags())
         m_ui->TagList->insertItem(0, tag.item.toString());
-    // The Return key in the list reaches Command1 as the default button.
+    // Return in the list triggers Command1, which is the default button.
     connect(m_ui->Command1, &QPushButton::clicked, this, &frmTags::insertSelected);
     connect(m_ui->Command2, &QPushButton::clicked, this, &frmTags::reject);
     connect(m_ui->TagList, &QListWidget::itemDoubleClicked, this, &frmTags::insertSelected);

@@ -14,8 +14,8 @@ class frmTags;
 struct AppContext;
 class EditingControl;
 
-/// The tag palette: a fixed list of tags, of which the selected one replaces the code view's selection. The window stays
-/// open for the next one.
+/// The tag palette: a fixed list of tags. The selected one replaces the code view's selection. The window stays open
+/// for further tags.
 class frmTags final : public QDialog
 {
     Q_OBJECT

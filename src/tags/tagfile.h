@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// The captions that the lines of tags.dat give: each line as it is, blanks at its ends included, but for those that
-/// are empty or hold nothing but blanks.
+/// The captions in the lines of tags.dat: each line unchanged, including blanks at its ends, except for lines that are
+/// empty or blank.
 QStringList tagCaptions(const QStringList &lines);
 
 } // namespace zephira

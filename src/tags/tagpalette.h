@@ -7,16 +7,16 @@
 
 namespace zephira {
 
-/// A row of the tag palette: what the list shows, and what it inserts.
+/// A row of the tag palette: its text in the list, and the markup it inserts.
 struct PaletteTag {
     QStringView item;
     QStringView markup;
 };
 
-/// All 44 rows. Their spelling is part of the palette, also where it is odd.
+/// All 44 rows. Their spelling, even where it is odd, is part of the palette.
 std::span<const PaletteTag> paletteTags();
 
-/// The markup of an item, compared letter by letter; null for a text that isn't in the palette.
+/// The markup for an item, which must match exactly; null for a text that isn't in the palette.
 QStringView paletteMarkup(QStringView item);
 
 } // namespace zephira

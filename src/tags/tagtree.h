@@ -9,8 +9,8 @@ namespace zephira {
 
 struct AppContext;
 
-/// The tree of tags in the side pane: the lines of tags.dat, then the built-in tags with their attributes. A double click
-/// pastes a node's caption after the selection; attributes are pasted one by one into a tag.
+/// The tree of tags in the side pane: the lines of tags.dat, then the built-in tags with their attributes. A double
+/// click inserts a node's caption after the selection; attributes are inserted into a tag one by one.
 class TagTree final : public QTreeWidget
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ class TagTree final : public QTreeWidget
 public:
     explicit TagTree(const AppContext &context, QWidget *parent = nullptr);
 
-    /// Adds the nodes of both sources to the tree, which is to be empty. Fails and adds nothing where tags.dat can't be
-    /// read; an empty one is no failure.
+    /// Adds the nodes of both sources to the tree, which must be empty. If tags.dat can't be read, fails and adds
+    /// nothing; an empty file is no failure.
     Result<void> LoadTagTree();
 
 private:

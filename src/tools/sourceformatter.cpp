@@ -14,7 +14,7 @@ namespace {
 
 constexpr QChar noCharacter;
 
-/// How many blanks the passes for five, four, three and two blanks leave of a run.
+/// The number of blanks of a run that remain after the passes for five, four, three and two blanks.
 qsizetype reducedRun(qsizetype blanks)
 {
     for (const qsizetype width : {5, 4, 3, 2})
@@ -22,8 +22,8 @@ qsizetype reducedRun(qsizetype blanks)
     return blanks;
 }
 
-/// How many blanks the steps of TrimAroundTags() leave of a run between two characters. Each looks at a run and its two
-/// neighbours, so that they can be done run by run instead of one after the other.
+/// The number of blanks that the steps of TrimAroundTags() leave of a run between two characters. Each step depends
+/// only on a run and its two neighbours, so all steps can be done for one run at a time.
 qsizetype trimmedRun(QChar before, qsizetype blanks, QChar after)
 {
     const auto takeOneIf = [&blanks](bool applies) {
@@ -38,7 +38,7 @@ qsizetype trimmedRun(QChar before, qsizetype blanks, QChar after)
     return blanks;
 }
 
-/// The text with each run of blanks as long as `newLength` says; it is never longer than it was.
+/// The text with the length of each run of blanks changed to `newLength`, which never makes it longer.
 template<typename NewLength>
 QString withBlankRuns(const QString &text, NewLength newLength)
 {
@@ -66,7 +66,7 @@ QString withoutLineEnds(const QString &text)
     return ReplaceAll(text, u"\r\n"_s, {});
 }
 
-/// Whether a tag leaves the level of what stands before it alone. `tag` begins with the tag and is complete.
+/// Whether a tag leaves the indentation level unchanged. `tag` begins with the tag, which is complete.
 bool keepsLevel(QStringView tag)
 {
     static constexpr QStringView names[] = {u"br", u"hr",    u"img",      u"meta", u"applet",
@@ -83,7 +83,7 @@ bool keepsLevel(QStringView tag)
     });
 }
 
-/// Walks through a text in pieces, each from one `<` up to the next, and keeps the level on the way.
+/// Iterates over the pieces of a text, each from one `<` up to the next, and tracks the indentation level.
 class PieceWalk
 {
 public:
@@ -91,7 +91,7 @@ public:
         : m_text(text), m_next(text.indexOf(u'<')), m_lastTagEnd(text.lastIndexOf(u'>'))
     {}
 
-    /// Goes to the next piece; false at the end of the text.
+    /// Moves to the next piece; returns false at the end of the text.
     bool advance()
     {
         if (m_next < 0)
@@ -101,14 +101,14 @@ public:
         m_piece = m_text.sliced(begin, (m_next < 0 ? m_text.size() : m_next) - begin);
         const bool isClosing = m_piece.startsWith(u"</");
         m_level = m_levelBehind - (isClosing ? 1 : 0);
-        // A tag that nothing closes has no name; it leaves the level as it is.
+        // A tag without a closing `>` has no name; it leaves the level unchanged.
         const bool raises = !isClosing && m_next >= 0 && m_next < m_lastTagEnd && !keepsLevel(m_text.sliced(m_next));
         m_levelBehind = m_level + (raises ? 1 : 0);
         return true;
     }
 
     QStringView piece() const { return m_piece; }
-    /// A piece below level 0 is lost.
+    /// A piece below level 0 is dropped.
     bool isLost() const { return m_level < 0; }
     qsizetype level() const { return m_level; }
     qsizetype lineLength() const { return isLost() ? 0 : 2 + m_level + m_piece.size(); }
@@ -122,8 +122,7 @@ private:
     qsizetype m_levelBehind = 0;
 };
 
-/// What stands ahead of the first piece: the text up to the first `<`, which is a part of it. A text that begins with a
-/// tag has nothing there.
+/// The text before the first piece: everything up to and including the first `<`. Empty if the text begins with a tag.
 QStringView openingOf(QStringView text)
 {
     const qsizetype first = text.indexOf(u'<');
