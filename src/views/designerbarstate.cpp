@@ -13,7 +13,7 @@ bool hasValue(int status)
     return status == DesignerStatus::Enabled || status == DesignerStatus::On;
 }
 
-/// What the designer names at the caret; nothing where the selection holds several.
+/// The designer's value at the caret; nothing if the selection has several.
 QVariant valueOf(Designer &designer, DesignerCommand query)
 {
     return hasValue(designer.queryStatus(query)) ? designer.execCommand(query, DesignerPrompting::DontPromptUser)

@@ -8,7 +8,7 @@ namespace zephira {
 
 class Designer;
 
-/// How the designer's toolbar looks.
+/// The appearance of the designer's toolbar.
 struct DesignerBarState {
     struct Button {
         bool enabled = false;
@@ -31,10 +31,10 @@ struct DesignerBarState {
     friend bool operator==(const DesignerBarState &, const DesignerBarState &) = default;
 };
 
-/// How it should look where the designer's caret stands now.
+/// The appearance for the current position of the designer's caret.
 DesignerBarState designerBarState(Designer &designer);
 
-/// The size at the caret as the box shows it; empty where there is none, or several.
+/// The size at the caret as the box shows it; empty if there is none, or the selection has several.
 QString currentFontSize(Designer &designer);
 
 } // namespace zephira

@@ -9,7 +9,7 @@ namespace {
 
 using enum DesignerCommand;
 
-// What the user sees of a button tells what it does; its key is a name like any other.
+// The user sees what a button does; its key is just an internal name.
 constexpr DesignerButton buttons[] = {
     {u"Bold", Bold, u"Bold", u"format-text-bold"},
     {u"Italic", Italic, u"Italic", u"format-text-italic"},

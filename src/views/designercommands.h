@@ -14,15 +14,16 @@ struct DesignerButton {
     QStringView key;
     DesignerCommand command;
     QStringView tip;
-    /// Name of an icon of the theme.
+    /// Name of an icon in the theme.
     QStringView icon;
 };
 
-/// Eleven rows. The keys "Outdent" and "Indent" are crossed with their commands: the button named Indent outdents.
+/// Eleven rows. The keys "Outdent" and "Indent" are swapped with respect to their commands: the button named Indent
+/// outdents.
 std::span<const DesignerButton> designerButtons();
 
-/// The commands of a menu array by index, None standing for a separator: "InsertSub", "TableSub", "D2DSub", or "edit"
-/// for the editing commands. Empty for any other name.
+/// The commands of a menu array by index, with None for a separator: "InsertSub", "TableSub", "D2DSub", or "edit" for
+/// the editing commands. Empty for any other name.
 std::span<const DesignerCommand> designerMenuCommands(QStringView array);
 
 } // namespace zephira

@@ -28,7 +28,7 @@ void DesignerContextMenu::show()
     addSeparator();
     add(u"Font..."_s, DesignerCommand::Font);
     if (isAvailable(DesignerCommand::AbsolutePosition)) {
-        // An element that can be sent to the back has a position already.
+        // An element that can be sent to the back is already positioned.
         const bool isPositioned = isAvailable(DesignerCommand::SendToBack);
         addSeparator();
         add(isPositioned ? u"Make 1D"_s : u"Make 2D"_s, DesignerCommand::AbsolutePosition);

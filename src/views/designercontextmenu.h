@@ -17,15 +17,15 @@ struct DesignerContextEntry {
     friend bool operator==(const DesignerContextEntry &, const DesignerContextEntry &) = default;
 };
 
-/// The designer's context menu, built anew at each right click from what can be done there.
+/// The designer's context menu, rebuilt at each right click from the commands that are available there.
 class DesignerContextMenu
 {
 public:
     explicit DesignerContextMenu(Designer &designer) : m_designer(designer) {}
 
-    /// Builds the entries and hands them to the designer.
+    /// Builds the entries and passes them to the designer.
     void show();
-    /// Runs the entry with that 0-based index of the menu that was shown last; a separator, or none, does nothing.
+    /// Runs the entry with a 0-based index in the last shown menu; a separator or an invalid index does nothing.
     void run(int index);
 
     const QList<DesignerContextEntry> &entries() const { return m_entries; }

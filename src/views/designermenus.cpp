@@ -11,7 +11,7 @@ namespace zephira {
 
 namespace {
 
-/// An entry of the menu View and the switch of the designer that it shows.
+/// An entry of the View menu and the designer's switch whose state it shows.
 struct DesignerSwitch {
     QStringView entry;
     bool (Designer::*get)() const;
@@ -36,7 +36,7 @@ bool isAvailable(const Designer &designer, DesignerCommand command)
     return designer.queryStatus(command) >= DesignerStatus::Enabled;
 }
 
-/// The entries of an array of commands, without its separators.
+/// The entries for an array of commands, without its separators.
 QList<DesignerMenuEntry> commandEntries(QStringView array, const Designer &designer)
 {
     QList<DesignerMenuEntry> entries;
@@ -51,7 +51,7 @@ QList<DesignerMenuEntry> commandEntries(QStringView array, const Designer &desig
 QList<DesignerMenuEntry> insertEntries(Designer &designer, const QStringList &)
 {
     QList<DesignerMenuEntry> entries = commandEntries(u"InsertSub", designer);
-    // Markup goes into a text; it can't go into an element that is selected as a whole.
+    // Markup can be pasted into text, but not into an element that is selected as a whole.
     const bool isText = designer.selectionType() != u"Control";
     entries.append({u"InsertButton"_s, isText});
     entries.append({u"InsertHTML"_s, isText});

@@ -10,10 +10,10 @@
 
 namespace zephira {
 
-/// The menu Format has this many entries, FormatSub_0 and so on.
+/// The number of entries of the Format menu, FormatSub_0 and so on.
 constexpr int blockFormatEntries = 16;
 
-/// How an entry looks; what isn't named stays as it is.
+/// How an entry looks; members without a value stay as they are.
 struct DesignerMenuEntry {
     QString name;
     std::optional<bool> enabled = {};
@@ -23,8 +23,8 @@ struct DesignerMenuEntry {
     friend bool operator==(const DesignerMenuEntry &, const DesignerMenuEntry &) = default;
 };
 
-/// The entries of one of the designer's menus as they should look when it opens. `blockFormats` are the captions of the
-/// menu Format. Other menus have none.
+/// The entries of one of the designer's menus in the state they should have when it opens. `blockFormats` are the
+/// captions of the Format menu. Returns nothing for other menus.
 QList<DesignerMenuEntry> designerMenuEntries(QStringView menu, Designer &designer, const QStringList &blockFormats);
 
 } // namespace zephira

@@ -85,7 +85,7 @@ std::optional<QString> DesignerTools::enterFontSize(const QString &text)
 {
     bool isNumber = false;
     const double size = text.toDouble(&isNumber);
-    // A text may spell a number that is in no order with any other.
+    // The text may be "nan", for which every comparison is false.
     const bool isSize = isNumber && size >= smallestSize && size <= largestSize;
     if (!isSize)
         return currentFontSize(m_context.designer);

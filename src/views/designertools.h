@@ -10,27 +10,27 @@
 
 namespace zephira {
 
-/// What the designer's toolbar does, and what its menus show. Errors end a command without a word.
+/// The actions of the designer's toolbar, and the contents of its menus. Commands that fail end silently.
 class DesignerTools
 {
 public:
     explicit DesignerTools(const AppContext &context) : m_context(context) {}
 
-    /// Learns the names of the block formats when the first document is complete, and does nothing at later ones. From
-    /// then on fonts and sizes can be chosen. Returns whether it was the first.
+    /// Reads the names of the block formats when the first document is complete, and enables the choice of fonts and
+    /// sizes; does nothing for later documents. Returns whether it was the first.
     bool documentComplete();
-    /// Whether there has been a complete document; it never turns back.
+    /// Whether a document has ever been complete; never reset.
     bool designerReady() const { return m_designerReady; }
-    /// The formats of the menu Format, in its order; no more than it has entries.
+    /// The formats of the Format menu in its order; at most as many as it has entries.
     const QStringList &blockFormats() const { return m_blockFormats; }
 
-    /// A button of the toolbar, by key.
+    /// Runs the command of a toolbar button, by its key.
     void clickButton(const QString &key);
     void chooseFont(const QString &name);
-    /// 1 to 7.
+    /// Sets a size from 1 to 7.
     void chooseFontSize(int size);
-    /// A size that was typed. What is no size from 1 to 7 changes nothing, and comes back as the text that the box is to
-    /// show instead.
+    /// Sets a typed size. A text that isn't a size from 1 to 7 changes nothing; then the text that the box should show
+    /// instead is returned.
     std::optional<QString> enterFontSize(const QString &text);
 
 private:
@@ -42,11 +42,11 @@ private:
     const AppContext m_context;
     bool m_designerReady = false;
     QStringList m_blockFormats;
-    /// The dialog opens at the colour that was chosen last.
+    /// The last chosen colour, with which the dialog opens.
     quint32 m_colour = 0;
 };
 
-/// A colour number, red in the lowest byte, as markup writes it.
+/// A colour number, red in the lowest byte, in the notation of markup.
 ///
 ///     markupColour(0x0080FF) == "#FF8000"
 QString markupColour(quint32 number);

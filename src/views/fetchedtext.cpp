@@ -15,10 +15,10 @@ namespace zephira {
 
 namespace {
 
-/// A page names its character set within so many bytes, or not at all.
+/// A page must declare its character set within this many bytes.
 constexpr qsizetype declarationRoom = 4096;
 
-/// Pages that call themselves so are written in Windows-1252, of which the named ones are parts.
+/// Pages with these character sets are decoded as Windows-1252, which contains them.
 constexpr QStringView partsOfWindows1252[] = {u"iso-8859-1", u"iso8859-1",    u"latin1", u"l1",      u"us-ascii",
                                               u"ascii",      u"windows-1252", u"cp1252", u"x-cp1252"};
 

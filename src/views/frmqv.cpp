@@ -19,7 +19,7 @@ namespace zephira {
 
 namespace {
 
-/// 800 twips: room for the bar above the picture.
+/// 800 twips: the height of the bar above the picture.
 constexpr int roomAbovePicture = 800 / 15;
 
 } // namespace

@@ -16,8 +16,8 @@ namespace Ui {
 class frmqv;
 }
 
-/// A window beside the main one that shows a picture or a text. A failure is told to the user; what the window showed
-/// before stays, and one that has shown nothing yet goes away.
+/// A window beside the main window that shows a picture or a text. If a file can't be shown, the user is told; the
+/// window keeps its content, or closes if it has none yet.
 class frmqv : public QWidget, public QuickViewer
 {
     Q_OBJECT
@@ -27,9 +27,9 @@ public:
     ~frmqv() override;
 
     void showFile(const QString &path) override;
-    /// The window takes the picture's width, and its height plus 800 twips.
+    /// Resizes the window to the picture's width, and its height plus 800 twips.
     void showPicture(const QString &path) override;
-    /// The window is made large enough to read in; one that is larger already stays as it is.
+    /// Enlarges the window to a readable size; a larger one stays as it is.
     void showText(const QString &path) override;
 
 protected:

@@ -48,9 +48,9 @@ void frmwebdisp::grabSource()
     const QString address = m_ui->URL->text();
     setWindowTitle(u"Zephira Web Viewer - "_s + address);
     const Result<QString> source = [&] {
-        // A button that is disabled loses the keyboard to its neighbour.
+        // Disabling a button moves the focus to the next control.
         const bool hadFocus = m_ui->Command1->hasFocus();
-        // Nothing is painted while the page is fetched, so the button has to show before that why.
+        // Nothing is painted while the page is fetched, so the button has to be repainted before that to show the wait.
         m_ui->Command1->setEnabled(false);
         m_ui->Command1->repaint();
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -61,7 +61,7 @@ void frmwebdisp::grabSource()
                 m_ui->Command1->setFocus();
         });
         Result<QString> page = sourceOf(address);
-        // What was clicked while the form was blocked comes now, and must not fetch the page again.
+        // Handle clicks made while the form was blocked now, so that they don't fetch the page again.
         QCoreApplication::processEvents();
         return page;
     }();
@@ -73,7 +73,7 @@ void frmwebdisp::grabSource()
 
 void frmwebdisp::viewPage()
 {
-    // An address that no program takes opens nothing, and nothing is said.
+    // An address that no program opens is ignored silently.
     if (!m_context.shell.open(m_ui->URL->text()))
         return;
 }

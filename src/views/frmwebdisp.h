@@ -15,8 +15,8 @@ namespace Ui {
 class frmwebdisp;
 }
 
-/// Fetches the source of a page on the web and shows it as text. The form waits for the page; a page that can't be had
-/// leaves the text that stood there.
+/// Fetches the source of a page on the web and shows it as text. The form waits for the page; if it can't be fetched,
+/// the previous text stays.
 class frmwebdisp final : public QDialog
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ class InsertHTMLDlg;
 struct AppContext;
 class Designer;
 
-/// Takes markup from the user and pastes it into the designer's selection.
+/// Asks the user for markup and pastes it over the designer's selection.
 class InsertHTMLDlg final : public QDialog
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ struct AppContext;
 class Designer;
 class Prompts;
 
-/// Asks for the size and the attributes of a table, and lets the designer insert it.
+/// Asks for the size and the attributes of a table, and inserts it through the designer.
 class InsertTableDlg final : public QDialog
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
 
 private:
     void insert();
-    /// The number in a box; where there is none, tells the message and leaves the user in the box.
+    /// The number in a box; if there is none, shows the message, moves the focus to the box and returns nothing.
     std::optional<int> dimension(QLineEdit &box, const QString &message);
 
     const std::unique_ptr<Ui::InsertTableDlg> m_ui;

@@ -23,7 +23,7 @@ void LateDesigner::onProcessLost(std::function<void()> handler)
 
 bool LateDesigner::isShowing() const
 {
-    // A copy, since it is taken away when it has done its work.
+    // A copy, because the handler is reset while it runs.
     if (const auto finish = m_finishLeaving)
         finish();
     return m_isShowing;

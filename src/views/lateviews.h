@@ -6,16 +6,16 @@
 
 namespace zephira {
 
-/// The designer from the start of the program on, although the real one is made at its first use. Until then it answers
-/// like a designer that isn't showing and holds nothing.
+/// A stand-in that exists from the program's start, while the real designer is created at its first use. Until then it
+/// behaves like a designer that isn't showing and is empty.
 class LateDesigner final : public Designer
 {
 public:
-    /// From now on everything goes to the real one, which outlives this.
+    /// Forwards everything to the real designer from now on; it must outlive this object.
     void attach(Designer &designer);
     bool isAttached() const { return m_designer != &m_none; }
 
-    /// Visual mode is what the window says it is, not whether the designer can be seen just now.
+    /// Whether the window is in visual mode, even if the designer isn't visible at the moment.
     bool isShowing() const override;
     void setShowing(bool showing) { m_isShowing = showing; }
     bool isDirty() const override { return m_designer->isDirty(); }
@@ -43,7 +43,7 @@ public:
     {
         m_designer->setContextMenu(entries, states);
     }
-    /// Handlers that were given before the real designer came are handed on to it.
+    /// Handlers that were set before the real designer existed are passed on to it.
     void setEvents(DesignerEvents events) override;
     void setLeaving(std::function<void()> finish) override { m_finishLeaving = std::move(finish); }
     void onProcessLost(std::function<void()> handler) override;
@@ -58,7 +58,7 @@ private:
     bool m_isShowing = false;
 };
 
-/// The browser in the same manner. Where it isn't there yet it shows nothing, and nothing is missed by going nowhere.
+/// The same for the browser. Until the real one exists it shows nothing, so navigation can be ignored.
 class LateBrowser final : public Browser
 {
 public:

@@ -10,7 +10,7 @@
 
 namespace zephira {
 
-/// The bytes of one address, and what the server says about their character set; empty where it says nothing.
+/// The bytes at an address, and the character set declared by the server, or empty.
 struct FetchedPage {
     QByteArray bytes;
     QString charset;
@@ -18,17 +18,17 @@ struct FetchedPage {
     friend bool operator==(const FetchedPage &, const FetchedPage &) = default;
 };
 
-/// Fetches the bytes of one address and returns when they are there.
+/// Fetches the bytes at an address and returns when they have arrived.
 class PageFetcher
 {
 public:
     virtual ~PageFetcher() = default;
-    /// Redirects are followed and compression is taken off. Fails for addresses that aren't http, https or ftp, for those
-    /// that can't be reached in time or that the server has nothing at, and for pages above the size limit.
+    /// Follows redirects and decompresses the content. Fails for addresses that aren't http, https or ftp, that can't
+    /// be reached in time or don't exist on the server, and for pages above the size limit.
     virtual Result<FetchedPage> fetch(const QString &address) = 0;
 };
 
-/// Gives the fetcher, loading its module at the first call; fails where it can't be loaded.
+/// Returns the fetcher, loading its module at the first call; fails if it can't be loaded.
 using PageFetcherLoader = std::function<Result<PageFetcher *>()>;
 
 } // namespace zephira

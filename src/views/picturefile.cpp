@@ -13,7 +13,7 @@ namespace zephira {
 
 namespace {
 
-/// A pixel takes at most eight bytes, in pictures with 16 bits for each of four channels.
+/// In MiB. A pixel takes at most eight bytes, in pictures with 16 bits for each of four channels.
 constexpr int memoryForLargestPicture = 8 * maximumPicturePixels / (1024 * 1024) + 1;
 
 } // namespace
@@ -35,7 +35,7 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
                      u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(
                          path, QString::number(size.width()), QString::number(size.height()))};
     }
-    // The limit is one for the whole process, so it is lifted for this picture alone.
+    // The limit applies to the whole process, so it is lifted only while this picture is read.
     const auto restoreLimit =
         qScopeGuard([limit = QImageReader::allocationLimit()] { QImageReader::setAllocationLimit(limit); });
     QImageReader::setAllocationLimit(memoryForLargestPicture);

@@ -35,7 +35,7 @@ constexpr NavigationButton navigationButtons[] = {
 
 constexpr Qt::Key refreshKey = Qt::Key_F5;
 
-/// The window has these keys for the code view, which doesn't show here: nobody would see what they do to it.
+/// The window uses these keys for the code view, which is hidden here, so the user wouldn't see their effect.
 constexpr QKeyCombination ownKeys[] = {
     Qt::CTRL | Qt::Key_Z, Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::Key_X, Qt::CTRL | Qt::Key_C,
     Qt::CTRL | Qt::Key_V, Qt::CTRL | Qt::Key_A, Qt::Key_Delete,       refreshKey,
@@ -95,7 +95,7 @@ void PreviewPane::setBrowserWidget(QWidget *widget)
     setFocusProxy(widget);
 }
 
-/// What a part of the pane doesn't take for itself comes here before it becomes a shortcut of the window.
+/// Keys that no part of the pane handles arrive here before they become shortcuts of the window.
 bool PreviewPane::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride && isOwnKey(*static_cast<QKeyEvent *>(event))) {

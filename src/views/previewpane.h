@@ -10,14 +10,14 @@ namespace zephira {
 
 class Browser;
 
-/// The preview: a browser under its address bar. The bar is there from the start, the browser comes when it is wanted.
-/// The editing keys are the page's while the keyboard is here, and F5 loads it again.
+/// The preview: a browser below its address bar. The bar exists from the start, the browser is added when needed. While
+/// the focus is here, the editing keys belong to the page, and F5 reloads it.
 class PreviewPane final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The browser outlives the pane.
+    /// The browser must outlive the pane.
     explicit PreviewPane(Browser &browser, QWidget *parent = nullptr);
 
     /// Puts the browser's widget below the bar.

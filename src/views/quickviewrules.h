@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// Whether quick view shows the file as a picture: its name's last three characters are "jpg", "gif" or "bmp" in any
-/// case. A ".jpeg" file is a text.
+/// Whether quick view shows the file as a picture: the last three characters of its name are "jpg", "gif" or "bmp" in
+/// any case. A ".jpeg" file is shown as text.
 bool isQuickViewPicture(const QString &fileName);
 
 } // namespace zephira

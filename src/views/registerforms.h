@@ -10,7 +10,8 @@ class FormCatalogue;
 
 namespace views {
 
-/// The catalogue's forms show texts in what `makeViewer` gives, and fetch pages through what `loadFetcher` gives.
+/// Adds this folder's forms. They show texts in viewers made by `makeViewer`, and fetch pages with the fetcher from
+/// `loadFetcher`.
 void registerForms(FormCatalogue &catalogue, const ViewerFactory &makeViewer, const PageFetcherLoader &loadFetcher);
 
 } // namespace views

@@ -29,7 +29,7 @@ PreviewKind previewKind(int row)
     return language ? language->preview : PreviewKind::Unchanged;
 }
 
-/// The question before a page is copied into the server's folder under a name.
+/// The question before a copy of the page is saved in the server's folder under a name.
 Question serverQuestion(const QString &fileName, const QString &reason = {})
 {
     return {
@@ -101,9 +101,9 @@ void WorkspaceViews::reset()
     endingQuietly([&] { m_context.designer.setDocumentHtml(m_context.editor.text()); });
 }
 
-/// Brings the designer's text home on the way to another view. The designer takes a moment to answer, in which commands may
-/// come: those that ask whether it is showing bring the text home themselves, and then go on. Returns false where another
-/// change of view has come in between, which counts.
+/// Brings the designer's text back to the code view when another view is selected. Until the designer answers, commands
+/// may arrive: those that ask whether the designer is showing complete the change of view first. Returns false if
+/// another change of view happened in between, which takes precedence.
 bool WorkspaceViews::carryBack(WorkspaceView next)
 {
     if (m_current != WorkspaceView::Visual)
@@ -179,7 +179,7 @@ void WorkspaceViews::previewFile(FileKind kind)
     saveAndNavigate(copy, copy, kind);
 }
 
-/// Where the copy of a document stands while it is shown.
+/// Full path of the copy of a document that is shown.
 QString WorkspaceViews::temporaryFile(const QString &name) const
 {
     if (!name.isEmpty())
@@ -190,8 +190,8 @@ QString WorkspaceViews::temporaryFile(const QString &name) const
     return m_window.scratchFolder() + u"/temp.html"_s;
 }
 
-/// A page with code for the server is shown as the server hands it out, so a copy of it has to lie in the server's folder.
-/// It stays there: nothing but the server's own files tells who needs it.
+/// A page with server code is previewed as the server delivers it, so a copy of it has to be in the server's folder.
+/// The copy is left there, because nothing tells us who still needs it.
 void WorkspaceViews::previewThroughServer(const QString &name)
 {
     const QString serverRoot = m_context.configuration.value(Setting::ServerRoot);
@@ -211,7 +211,7 @@ void WorkspaceViews::previewThroughServer(const QString &name)
     saveAndNavigate(serverRoot + copy, address);
 }
 
-/// A copy that can't be written stops nothing: the browser then shows what stands in its place.
+/// If the copy can't be written, the preview goes on and shows whatever file is there.
 void WorkspaceViews::saveAndNavigate(const QString &file, const QString &address, FileKind kind)
 {
     if (const Result<void> saved = m_context.editor.saveFile(file, false); !saved)
@@ -248,7 +248,8 @@ void WorkspaceViews::selectVisual()
     });
     if (!isLoaded)
         designer.setBaseFile(name);
-    // A document without a file, one that can't be read, and one whose save was refused or failed come by their text.
+    // Documents without a file, unreadable ones, and those whose save was refused or failed are loaded from the
+    // editor's text.
     if (!isLoaded || m_window.docModified())
         designer.setDocumentHtml(m_context.editor.text());
 }

@@ -13,13 +13,14 @@ frmTable::frmTable(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmTable>()), m_context(context)
 {
     m_ui->setupUi(this);
-    // What is typed stands as it is: a completer would make "Row" of "row".
+    // Typed text is used unchanged: a completer would turn "row" into "Row".
     for (QComboBox *list : {m_ui->Combo4, m_ui->Combo5, m_ui->Combo7})
         list->setCompleter(nullptr);
     connect(m_ui->Command1, &QPushButton::clicked, this, &frmTable::insertTable);
     connect(m_ui->Command2, &QPushButton::clicked, this, &frmTable::reject);
     connect(m_ui->Command3, &QPushButton::clicked, this, &frmTable::insertCell);
-    // The statements exist in the script form only, so each box takes the other along.
+    // Only the script form has write statements, so ticking that box ticks the other, and unticking the other unticks
+    // it.
     connect(m_ui->Check3, &QCheckBox::toggled, this, [this](bool on) {
         if (on)
             m_ui->Check2->setChecked(true);

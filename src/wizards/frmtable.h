@@ -22,8 +22,7 @@ template<typename T>
 class Result;
 
 /// The full table wizard: size, layout and colours of a table, in plain markup or for a server-side script, and single
-/// cells that are inserted while the window stays open. All goes in after the selection,
-/// which stays.
+/// cells that are inserted while the window stays open. Everything is inserted after the selection, which is kept.
 class frmTable final : public QDialog
 {
     Q_OBJECT
@@ -32,7 +31,7 @@ public:
     frmTable(const AppContext &context, QWidget *owner);
     ~frmTable() override;
 
-    /// Inserts a table in plain markup, or for a script. The four attributes are ready-made; alignment, border size,
+    /// Inserts a table in plain markup or for a script. The four attributes are used as given; alignment, border size,
     /// padding and spacing come from the controls. A table that is too large for a page is refused with a message.
     /// Returns whether it was inserted.
     Q_INVOKABLE bool AddTable(qint32 columns, qint32 rows, const QString &width, const QString &background,
@@ -43,7 +42,7 @@ public:
 private:
     TableFields tableFields() const;
     CellFields cellFields() const;
-    /// The number in a field; nothing, and the focus in that field, if there is none.
+    /// The number in a field; if there is none, moves the focus to the field and returns nothing.
     std::optional<qint32> countIn(QLineEdit *field);
     bool insert(const Result<QString> &markup);
     void insertTable();

@@ -50,7 +50,7 @@ void frmTables::pick(int rows, int columns)
 
 void frmTables::create()
 {
-    // What is no number counts as 0. The boxes decide, not the grid.
+    // A text that isn't a number counts as 0. The text boxes decide, not the grid.
     const qint32 columns = tableCount(m_ui->txtColls->text()).value_or(0);
     const qint32 rows = tableCount(m_ui->txtRows->text()).value_or(0);
     if (AddTable(columns, rows))

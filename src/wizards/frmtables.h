@@ -13,8 +13,8 @@ namespace Ui {
 class frmTables;
 }
 
-/// The quick table wizard: a click on a grid of squares gives the size, everything else is fixed. The table goes in
-/// after the selection, which stays.
+/// The quick table wizard: a click on a grid of squares sets the size, everything else is fixed. The table is inserted
+/// after the selection, which is kept.
 class frmTables final : public QDialog
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     Q_INVOKABLE void CleanUp();
 
 private:
-    /// Takes a size from the grid; rows and columns count from 1.
+    /// Takes a size from the grid; rows and columns are counted from 1.
     void pick(int rows, int columns);
     void create();
 

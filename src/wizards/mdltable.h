@@ -10,8 +10,8 @@ class QWidget;
 
 namespace zephira {
 
-/// Makes a widget the handle by which its window is dragged, as if the title bar were held. The window system moves the
-/// window; where it doesn't offer that, the window follows the mouse by itself.
+/// Makes a widget a handle for dragging its window, like the title bar. The window system moves the window; where it
+/// doesn't support that, the dragger moves it with the mouse.
 class WindowDragger final : public QObject
 {
     Q_OBJECT
@@ -27,7 +27,8 @@ private:
     void move(const QPoint &place);
 
     QWidget *m_handle;
-    /// Where the window is held, from its top left corner, in pixels; only while the dragger moves the window itself.
+    /// The mouse position from the window's top left corner, in pixels; only set while the dragger moves the window
+    /// itself.
     std::optional<QPoint> m_hold;
 };
 

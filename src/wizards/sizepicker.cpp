@@ -20,7 +20,7 @@ int pixelsOf(int twips, const QWidget &widget)
     return qRound(twips * widget.logicalDpiX() / (15.0 * 96.0));
 }
 
-/// Index in the grid of the square in a row and a column that count from 1.
+/// 0-based index of the square at a row and a column, which count from 1.
 size_t indexOf(int row, int column)
 {
     return static_cast<size_t>((row - 1) * SizePicker::sideLength + column - 1);

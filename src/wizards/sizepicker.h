@@ -9,9 +9,8 @@ namespace zephira {
 
 class SizeSquare;
 
-/// A grid of squares, pic1 to pic25 row by row, in which a click picks a size: so many rows, so many columns, both
-/// counted from 1. In the tab order the grid is one stop, at the square that was highlighted last; from there the arrow
-/// keys pick as well.
+/// A grid of squares, pic1 to pic25 row by row, for picking a size in rows and columns, both counted from 1. The grid
+/// is one stop in the tab order, at the square that was highlighted last; from there the arrow keys pick a size too.
 class SizePicker final : public QFrame
 {
     Q_OBJECT
@@ -23,7 +22,7 @@ public:
 
     /// Paints all squares in the background colour.
     void clear();
-    /// Paints the squares of that size in the highlight colour; leaves the others.
+    /// Paints the squares within that size in the highlight colour; leaves the others.
     void highlight(int rows, int columns);
 
 Q_SIGNALS:

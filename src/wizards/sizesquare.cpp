@@ -50,7 +50,7 @@ void SizeSquare::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const auto drawFrame = [&](QPalette::ColorRole role, double inset, double opacity) {
-        // Half a pixel inside, so that the line is one pixel at every scale.
+        // Offset by half a pixel, so that the line is one pixel wide at every scale.
         const double margin = inset + 0.5;
         painter.setOpacity(opacity);
         painter.setPen(palette().color(role));

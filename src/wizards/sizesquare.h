@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// One square of a grid in which a size is picked: a button that is filled with the highlight colour or with the colour
-/// of a window's background, and that hands arrow keys on to the grid.
+/// One square of a grid for picking a size: a button filled with the highlight colour or the window's background
+/// colour, which passes arrow keys on to the grid.
 class SizeSquare final : public QAbstractButton
 {
     Q_OBJECT

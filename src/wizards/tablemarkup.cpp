@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto lineEnd = "\r\n"_L1;
 
-/// The pieces that a table is put together from: every cell is the same, and so is every row.
+/// The parts of a table: all cells are the same, and so are all rows.
 struct TableParts {
     QString head;
     QString rowStart;
@@ -29,7 +29,7 @@ Result<QString> joined(TableSize size, const TableParts &parts)
     const qint64 cells = std::max(size.columns, 1);
     const qint64 rowLength = parts.rowStart.size() + cells * parts.cell.size() + parts.rowEnd.size();
     const qint64 room = maximumTableLength - parts.head.size() - parts.tail.size();
-    // A division, because the product of two such counts doesn't fit in 64 bits.
+    // Uses a division because the product of two such counts may not fit in 64 bits.
     if (room < 0 || rows > room / rowLength) {
         return Error{Error::Code::TooLarge,
                      u"A table of %1 columns and %2 rows is too large for a page."_s.arg(cells).arg(rows)};
@@ -53,7 +53,7 @@ QString widthAttribute(const TableFields &fields)
     return u" width="_s + quotes + fields.width + unit + quotes;
 }
 
-/// The first tag of a full table. The width stands between padding and spacing.
+/// The opening tag of a full table. The width is between padding and spacing.
 QString tableTag(const QString &alignment, const QString &quotes, const TableFields &fields,
                  const TableAttributes &attributes)
 {
@@ -105,7 +105,7 @@ Result<QString> simpleTableMarkup(TableSize size)
                       .head = u"<TABLE Align=\"center\" Border=\"0\">\r\n"_s,
                       .rowStart = u"<TR>\r\n"_s,
                       .cell = u"<TD> </TD>\r\n"_s,
-                      // The next row, or the end of the table, goes on in the same line.
+                      // The next row, or the end of the table, continues on the same line.
                       .rowEnd = u"\t</TR>"_s,
                       .tail = u"</TABLE>\r\n"_s,
                   });

@@ -9,11 +9,11 @@
 
 namespace zephira {
 
-/// A number of rows or columns as the user typed it: a whole number of 32 bits, halves rounded to the even neighbour.
-/// Nothing for a text that isn't such a number.
+/// A number of rows or columns as typed by the user: a 32-bit integer, halves rounded to even. Nothing for a text that
+/// isn't such a number.
 std::optional<qint32> tableCount(const QString &typed);
 
-/// A row count below 1 gives a table without rows; each row has at least one cell, whatever the column count says.
+/// A row count below 1 means a table without rows; each row has at least one cell, even if the column count is lower.
 struct TableSize {
     qint32 columns = 1;
     qint32 rows = 1;
@@ -21,7 +21,7 @@ struct TableSize {
     friend bool operator==(const TableSize &, const TableSize &) = default;
 };
 
-/// Fields of the full table, as they are typed. Nothing in them is quoted or checked.
+/// Fields of the full table, as typed. They are neither quoted nor checked.
 struct TableFields {
     enum class WidthUnit { Pixels, Percent };
 
@@ -36,26 +36,26 @@ struct TableFields {
     bool asp = false;
     /// … and each line in a statement that writes it.
     bool responseWrite = false;
-    /// The word "Default" leaves a colour out.
+    /// The word "Default" omits a colour.
     QString backgroundColour = {};
     QString borderColour = {};
     QString lightColour = {};
     QString darkColour = {};
 };
 
-/// Attributes of the full table, ready to stand in its first tag: each is empty or begins with a blank.
+/// Attributes of the full table, ready for its opening tag: each is empty or begins with a blank.
 struct TableAttributes {
     QString width = {};
     QString background = {};
     QString border = {};
-    /// The light and the dark border colour; neither is written without the other.
+    /// The light and the dark border colour; written only if both are given.
     QString lightAndDark = {};
 
     friend bool operator==(const TableAttributes &, const TableAttributes &) = default;
 };
 
-/// Fields of a single cell, as they are typed. A span is written for the exact words "Column" and "Row"; the word
-/// "Default" leaves an alignment out.
+/// Fields of a single cell, as typed. A span is written only for the exact words "Column" and "Row"; the word "Default"
+/// omits an alignment.
 struct CellFields {
     QString span = {};
     QString spanCount = {};
@@ -63,11 +63,11 @@ struct CellFields {
     QString vertical = {};
 };
 
-/// The attributes that the fields ask for; the width has doubled quotes for a script and none in plain markup.
+/// The attributes for the fields; the width is in doubled quotes for a script and unquoted in plain markup.
 TableAttributes tableAttributes(const TableFields &fields);
 
-/// The text of a table, with CR LF line ends. A table whose text would exceed maximumTableLength is an error
-/// (Code::TooLarge) and is never begun.
+/// The text of a table, with CR LF line ends. If it would exceed maximumTableLength, Code::TooLarge is returned and no
+/// text is built.
 Result<QString> simpleTableMarkup(TableSize size);
 Result<QString> plainTableMarkup(TableSize size, const TableFields &fields, const TableAttributes &attributes);
 Result<QString> aspTableMarkup(TableSize size, const TableFields &fields, const TableAttributes &attributes);
@@ -75,7 +75,7 @@ Result<QString> aspTableMarkup(TableSize size, const TableFields &fields, const 
 /// The text of one cell on a line of its own.
 QString cellMarkup(const CellFields &fields);
 
-/// In UTF-16 code units. More is no page that anybody writes; two mistyped digits must not take all memory.
+/// In UTF-16 code units. No real page is larger; two mistyped digits must not use up all memory.
 constexpr qint64 maximumTableLength = 64LL * 1024 * 1024;
 
 } // namespace zephira

@@ -16,7 +16,7 @@ namespace {
 constexpr const char *protocols = "http,https,ftp";
 constexpr long maximumRedirects = 20;
 
-/// What arrives, as long as there is room for it.
+/// The received bytes, up to the size limit.
 struct Body {
     QByteArray bytes;
     qint64 limit = 0;
