@@ -22,7 +22,8 @@ namespace zephira {
 
 namespace {
 
-/// What the engine is given as text becomes an address of at most two million characters, in which one may take three.
+/// The engine turns given text into an address of at most two million characters, in which a byte may take three of
+/// them.
 constexpr qsizetype mostGivenBytes = 600'000;
 
 constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
@@ -86,7 +87,7 @@ void BrowserPage::reload()
     triggerAction(Reload);
 }
 
-/// The page that shows has to take part in what replaces it. One that is busy with a script that never ends can't.
+/// Replacing a page needs its cooperation, which a page in an endless script can't give; its process is killed.
 void BrowserPage::endIfHanging(std::function<void()> again)
 {
     const int navigation = ++m_navigation;
@@ -129,7 +130,7 @@ bool BrowserPage::javaScriptPrompt(const QUrl &, const QString &message, const Q
     return answer.has_value();
 }
 
-/// Only a click opens anything, and the page's own rights go with it: to the fence the user went nowhere.
+/// Only a click may open a page, and only with the page's own rights: the fence doesn't treat it as opened by the user.
 void BrowserPage::openInPlace(const QWebEngineNewWindowRequest &request)
 {
     if (request.isUserInitiated() && m_fence.files().mayShow(request.requestedUrl()))

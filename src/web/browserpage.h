@@ -14,8 +14,8 @@ namespace zephira {
 class FileStore;
 class ScriptMessageBar;
 
-/// The page inside the browser. It is held to its own folder on the disk, may not download, open windows, ask for
-/// permissions or start other programs; a link that wants a window of its own opens in this one.
+/// The page inside the browser. It may read local files only from its own folder, and may not download, open windows,
+/// ask for permissions or start other programs; a link that requests a new window opens in this one.
 class BrowserPage final : public QWebEnginePage
 {
     Q_OBJECT
@@ -23,33 +23,35 @@ class BrowserPage final : public QWebEnginePage
 public:
     BrowserPage(const FileStore &files, QWebEngineProfile &profile, QObject *parent);
 
-    /// What scripts say and ask is shown there; it outlives the page.
+    /// Sets the bar that shows the messages and questions of scripts; it must outlive the page.
     void setMessages(ScriptMessageBar &messages) { m_messages = &messages; }
-    /// Files of pages that lie in this folder may come from all of it.
+    /// Pages inside this folder may load files from anywhere in it.
     void setProjectFolder(const QString &folder) { m_fence.files().setProjectFolder(folder); }
 
-    /// Goes to an address in the user's name. A page that doesn't let go, because a script of it never ends, is ended.
+    /// Opens an address on behalf of the user. If the current page doesn't respond because of an endless script, its
+    /// process is killed.
     void open(const QUrl &address);
-    /// The same, for a file that is a page whatever its name says. One that is very large goes by its name.
+    /// The same for a file that is shown as a page regardless of its name. A very large file is shown according to its
+    /// name.
     void openAsPage(const QUrl &file);
 
-    /// Loads the page that shows once more.
+    /// Reloads the current page.
     void reload();
 
-    /// In milliseconds, how long a page may take to say that it is alive before it is ended.
+    /// How long a page may take to answer before its process is killed, in milliseconds.
     static constexpr int patience = 1500;
 
 Q_SIGNALS:
-    /// The page that showed makes room for the one that was gone to. Its address is told of before.
+    /// The current page makes way for the next one, whose address was already reported.
     void letGo();
-    /// The process of the page has ended by itself.
+    /// The page's process has ended unexpectedly.
     void processLost();
 
 protected:
     void javaScriptAlert(const QUrl &origin, const QString &message) override;
     bool javaScriptConfirm(const QUrl &origin, const QString &message) override;
     bool javaScriptPrompt(const QUrl &origin, const QString &message, const QString &preset, QString *result) override;
-    /// What scripts write to their console is nothing for the terminal.
+    /// Messages that scripts write to their console don't belong in the terminal.
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int, const QString &) override {}
 
 private:
@@ -58,10 +60,10 @@ private:
 
     const FileStore &m_files;
     ScriptMessageBar *m_messages = nullptr;
-    /// Tells one navigation from the next, and whether the page before has answered since.
+    /// Identifies a navigation; m_isAlive is set when the previous page has answered since it began.
     int m_navigation = 0;
     bool m_isAlive = true;
-    /// Goes where the page that was ended didn't let go.
+    /// Repeats the navigation after the process of an unresponsive page was killed.
     std::function<void()> m_again;
     LocalFileFence m_fence;
 };

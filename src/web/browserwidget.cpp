@@ -13,7 +13,7 @@ namespace zephira {
 
 namespace {
 
-/// The standard menu offers much that is refused here.
+/// The entries of the context menu; the engine's standard menu offers much that is not allowed here.
 constexpr QWebEnginePage::WebAction contextActions[] = {
     QWebEnginePage::Back, QWebEnginePage::Forward, QWebEnginePage::Reload,
     QWebEnginePage::Stop, QWebEnginePage::Copy,    QWebEnginePage::SelectAll,
@@ -36,10 +36,10 @@ BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
     m_page->setMessages(*m_messages);
     setFocusProxy(m_view.get());
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    // Queued, because the engine waits for the end of the signal.
+    // Queued, because the engine waits until the signal was handled.
     connect(m_view.get(), &QWidget::customContextMenuRequested, this, &BrowserWidget::showContextMenu,
             Qt::QueuedConnection);
-    // The address is known as soon as the page begins to show; a page that fails tells only at its end.
+    // The address is known as soon as the page begins to show; for a page that fails, only at the end of its loading.
     connect(m_page, &QWebEnginePage::urlChanged, this, &BrowserWidget::NavigateComplete);
     connect(m_page, &QWebEnginePage::loadFinished, this, &BrowserWidget::NavigateComplete);
     connect(m_page, &BrowserPage::letGo, m_messages, &ScriptMessageBar::listen);
@@ -47,13 +47,13 @@ BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
 
 BrowserWidget::~BrowserWidget()
 {
-    // A page that is going down has nothing to tell any more.
+    // A page that is being destroyed must not send any more signals.
     m_page->disconnect(this);
 }
 
 void BrowserWidget::navigate(const QString &address)
 {
-    // Whatever the page has still to say, the user is on the way to another one.
+    // Dismiss all messages of the current page, because the user is leaving it.
     m_messages->silence();
     const QUrl target = pageAddress(address);
     if (m_homeKind == FileKind::Page && target == pageAddress(m_home))
@@ -86,7 +86,7 @@ void BrowserWidget::goHome()
 void BrowserWidget::refresh()
 {
     m_messages->silence();
-    // The engine would take the file of a page for what its name says.
+    // The engine would decide by the file's name whether it is a page.
     if (m_homeKind == FileKind::Page && m_page->url() == pageAddress(m_home))
         goHome();
     else

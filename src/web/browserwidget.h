@@ -14,15 +14,15 @@ class BrowserPage;
 class FileStore;
 class ScriptMessageBar;
 
-/// The browser as a widget that holds its web view. Its operations can be called by name. Nothing that a page leaves
-/// behind outlives it: the profile is kept in memory alone.
+/// The browser as a widget that contains its web view. Its operations can be called by name. Nothing that pages store
+/// outlives it: the profile is kept only in memory.
 class BrowserWidget final : public QWidget, public Browser
 {
     Q_OBJECT
     Q_PROPERTY(QString LocationURL READ locationUrl NOTIFY NavigateComplete)
 
 public:
-    /// The store outlives the widget.
+    /// `files` must outlive the widget.
     explicit BrowserWidget(const FileStore &files, QWidget *parent = nullptr);
     ~BrowserWidget() override;
 

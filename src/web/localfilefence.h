@@ -7,8 +7,8 @@
 
 namespace zephira {
 
-/// Holds every request of a page to the rule of LocalFiles; what it refuses never leaves the engine. Give it to a page by
-/// setUrlRequestInterceptor(), and tell files() where the page goes.
+/// Applies the rules of LocalFiles to every request of a page; refused requests never leave the engine. Install it with
+/// the page's setUrlRequestInterceptor(), and tell files() where the page goes.
 class LocalFileFence final : public QWebEngineUrlRequestInterceptor
 {
     Q_OBJECT

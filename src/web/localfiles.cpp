@@ -13,7 +13,7 @@ namespace zephira {
 
 namespace {
 
-/// What pages may ask for beside local files. Everything else, such as the engine's own pages, stays closed.
+/// Schemes that pages may use in addition to local files. All others, such as the engine's own pages, are refused.
 constexpr QStringView openSchemes[] = {u"http", u"https", u"ws", u"wss", u"data", u"blob", u"about"};
 
 bool isOpen(const QUrl &address)
@@ -21,7 +21,7 @@ bool isOpen(const QUrl &address)
     return std::ranges::find(openSchemes, address.scheme()) != std::end(openSchemes);
 }
 
-/// The file behind an address after all links; empty for a file that isn't there, or isn't on this machine.
+/// The file at an address with all links resolved; empty for a file that doesn't exist or isn't on this machine.
 QString fileBehind(const QUrl &address)
 {
     if (!address.isLocalFile() || !address.host().isEmpty())
@@ -60,7 +60,7 @@ void LocalFiles::shown(const QUrl &address)
     m_coming.clear();
 }
 
-/// The folder that was opened for a page; empty for one that isn't local.
+/// The opened folder that contains a page; empty for one that isn't local.
 QString LocalFiles::folderOf(const QUrl &page) const
 {
     const QString file = fileBehind(page);
@@ -73,7 +73,7 @@ bool LocalFiles::mayShow(const QUrl &address) const
 {
     if (!address.isLocalFile())
         return isOpen(address);
-    // There is nothing to keep of a page that isn't there, and the engine tells the user so in its own words.
+    // A missing page reveals nothing, so it may be shown: then the engine tells the user about it in its own words.
     const bool isOwn = address == m_coming || address == m_shown;
     return (isOwn && !QFileInfo::exists(address.toLocalFile())) || !folderOf(address).isEmpty();
 }

@@ -7,32 +7,33 @@
 
 namespace zephira {
 
-/// Which local files a page may read. A page is a stranger, even one that lies on the user's own disk: it gets what
-/// lies in the folder of the page that the user opened, and below it, with links in the file system followed to their
-/// ends. Where that folder lies in the project's, it gets what lies there. Pages from elsewhere get no local file at all.
+/// Decides which local files a page may read. No page is trusted, even if it is on the user's own disk: it may read the
+/// folder of the page that the user opened, and everything below it, with links in the file system resolved. If that
+/// folder is inside the project folder, it may read the whole project folder. Pages from elsewhere may read no local
+/// files.
 class LocalFiles
 {
 public:
-    /// The user, or the program, is going to this address. A local page opens its folder to itself and to the pages
-    /// that links lead to within it.
+    /// The user, or the program, is opening this address. A local page makes its folder accessible to itself and to the
+    /// pages in it that links lead to.
     void open(const QUrl &address);
-    /// The page at this address shows now.
+    /// The page at this address is now shown.
     void shown(const QUrl &address);
 
-    /// The folder of the user's project, for pages that are opened from now on; empty for none.
+    /// The folder of the user's project, for pages that are opened from now on; empty if there is none.
     void setProjectFolder(const QString &folder);
 
-    /// Whether the window may go to an address that a page asks for.
+    /// Whether the window may navigate to an address that a page requests.
     bool mayShow(const QUrl &address) const;
-    /// Whether the page that shows, or is about to, may load something from an address.
+    /// Whether the current page, or the one about to be shown, may load something from an address.
     bool mayLoad(const QUrl &address) const;
 
 private:
     QString folderOf(const QUrl &page) const;
 
-    /// Canonical folders, the last opened one at the end.
+    /// Canonical paths, the last opened folder at the end.
     QStringList m_folders;
-    /// Canonical, or empty.
+    /// Canonical path, or empty.
     QString m_projectFolder;
     QUrl m_coming;
     QUrl m_shown;

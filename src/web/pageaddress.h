@@ -5,14 +5,14 @@
 
 namespace zephira {
 
-/// The address that a text means: a full path is a local file, whatever characters it holds; anything else is taken as
-/// people type it. Empty text, and text that is no address, mean the empty page.
+/// The address for a text: a full path is a local file, whatever characters it contains; anything else is interpreted
+/// as in a browser's address bar. Empty or invalid text gives the empty page.
 ///
 ///     pageAddress("/site/50% off#1.html") == "file:///site/50%25 off%231.html"
 ///     pageAddress("example.org/a") == "http://example.org/a"
 QUrl pageAddress(const QString &text);
 
-/// Whether every browser takes a file of that name for a page.
+/// Whether all browsers would treat a file with this name as a page.
 bool isNamedAsPage(const QUrl &file);
 
 } // namespace zephira

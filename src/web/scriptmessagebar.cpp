@@ -15,7 +15,7 @@ namespace zephira {
 
 namespace {
 
-/// More of a message than anybody reads would push the page out of sight.
+/// A longer message would push the page out of sight.
 constexpr qsizetype longestMessage = 500;
 
 } // namespace
@@ -29,7 +29,7 @@ ScriptMessageBar::ScriptMessageBar(QWidget *parent) : QFrame(parent)
     m_text->setWordWrap(true);
     m_input = new QLineEdit(this);
     m_input->setAccessibleName(u"Answer to the page"_s);
-    m_noMore = new QCheckBox(u"No more messages of this page"_s, this);
+    m_noMore = new QCheckBox(u"No more messages from this page"_s, this);
     m_noMore->setObjectName(u"NoMoreMessages"_s);
     m_yes = new QPushButton(u"OK"_s, this);
     m_yes->setObjectName(u"ScriptMessageOk"_s);
@@ -49,7 +49,7 @@ ScriptMessageBar::ScriptMessageBar(QWidget *parent) : QFrame(parent)
 
 std::optional<QString> ScriptMessageBar::ask(Kind kind, const QString &message, const QString &preset)
 {
-    // One question at a time: a page in a frame may have one of its own.
+    // Only one question at a time: a page in a frame may ask while another question is open.
     if (m_isSilent || m_loop)
         return {};
     ++m_messages;

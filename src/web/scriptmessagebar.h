@@ -13,9 +13,9 @@ class QPushButton;
 
 namespace zephira {
 
-/// What a page's script says and asks by alert(), confirm() and prompt(), in a bar over the page. The script waits for the
-/// answer, but nobody else has to: the rest of the window goes on working. From the second message on the bar offers to
-/// hear no more of the page.
+/// Shows the messages and questions of a page's alert(), confirm() and prompt() in a bar above the page. Only the
+/// script waits for the answer; the rest of the window remains usable. From the second message on, the bar offers to
+/// suppress further messages of the page.
 class ScriptMessageBar final : public QFrame
 {
     Q_OBJECT
@@ -25,12 +25,12 @@ public:
 
     explicit ScriptMessageBar(QWidget *parent = nullptr);
 
-    /// Shows a message and returns when the user has answered it, or it has been dismissed: the text that was typed, which
-    /// is empty but for a prompt, or nothing for "no".
+    /// Shows a message and returns when the user has answered or it was dismissed: the typed text, which is empty
+    /// except for a prompt, or nothing for "no".
     std::optional<QString> ask(Kind kind, const QString &message, const QString &preset = {});
-    /// Answers "no" to the message that shows, if there is one, and then to all that the page may still have.
+    /// Answers "no" to the current message, if any, and to all further messages of the page.
     void silence();
-    /// Another page shows, which may speak again.
+    /// Another page is shown, whose messages are allowed again.
     void listen();
 
 private:

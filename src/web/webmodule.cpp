@@ -16,9 +16,9 @@ namespace zephira {
 
 WebModule::WebModule()
 {
-    // The engine refuses to start for the superuser with its sandbox, which needs a user with fewer rights.
+    // As root, the engine refuses to start with its sandbox, which needs an unprivileged user.
     if (geteuid() == 0) {
-        qWarning("Zephira runs as the superuser: web pages are shown without the engine's sandbox.");
+        qWarning("Zephira is running as root: web pages are shown without the engine's sandbox.");
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     }
     const QuietMessages quiet;

@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// What the module gives to the program that loads it.
+/// The object that the module provides to the program.
 class WebModule final : public QObject, public WebViews
 {
     Q_OBJECT

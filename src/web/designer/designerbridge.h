@@ -6,19 +6,19 @@
 
 namespace zephira {
 
-/// The one way by which the page's side of the designer reports by itself. Only the designer's own script reaches it; it
-/// lives in a world that the page's scripts can't enter.
+/// The only channel through which the designer's script reports on its own. Only that script can use it, because it
+/// runs in a world that the page's scripts can't access.
 ///
-/// Every report names its kind, the page that it is about, by the prefix of its marks, and a number that grows within the
-/// page: reports may arrive after another page has taken the place of theirs, or after newer ones.
+/// Every report has a kind, the page it is about, identified by the prefix of its marks, and a number that increases
+/// within the page: reports may arrive after their page was replaced, or after newer ones.
 ///
 /// | "kind" | further members |
 /// |---|---|
-/// | complete | those of DesignerState::fromPage(), of a page that had to wait for a style sheet and is there now |
+/// | complete | those of DesignerState::fromPage(), for a page that had to wait for a style sheet and is complete now |
 /// | state | those of DesignerState::fromPage() |
-/// | place | "place": where the selected element stands; see DesignerHandles |
+/// | place | "place": the position of the selected element; see DesignerHandles |
 /// | copy | those of DesignerCopy::fromPage() |
-/// | command | "command": the number of one that the user wants by the keyboard |
+/// | command | "command": the number of a command that the user requested with a key |
 class DesignerBridge final : public QObject
 {
     Q_OBJECT

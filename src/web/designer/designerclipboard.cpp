@@ -14,7 +14,7 @@ namespace zephira {
 
 namespace {
 
-/// The same markup as text/html, for the designer alone: nobody has touched it.
+/// The same markup as text/html, which only the designer reads: no other program has changed it.
 const QString ownFormat = u"application/x-zephira-markup"_s;
 
 const QMimeData *clipboardData()

@@ -7,19 +7,19 @@ namespace zephira {
 
 class PageRoundTrip;
 
-/// Markup on the clipboard, in exchange with other programs and with the designer itself.
+/// Markup on the clipboard, for exchange with other programs and with the designer itself.
 struct ClipboardMarkup {
     QString markup;
-    /// From another program, which may have put its own rubbish into it.
+    /// The markup comes from another program, which may have added its own clutter.
     bool isForeign = false;
 };
 
-/// Puts a part of the page on the clipboard: its markup with server code and comments in their places, and its text; of
-/// plain text that alone. `markup` is as the engine writes it.
+/// Copies a part of the page to the clipboard: its markup, with server code and comments restored, and its text; for
+/// plain text only the latter. `markup` is as serialised by the engine.
 void copyToClipboard(const PageRoundTrip &page, const QString &markup);
 
-/// What the clipboard holds as markup for a page; a text becomes some, with a line break for each line end. For plain text
-/// it is the text.
+/// The clipboard's content as markup for a page; text is converted, with a line break for each line end. For a
+/// plain-text page it is the text.
 ClipboardMarkup clipboardMarkup(const PageRoundTrip &page);
 bool clipboardHasMarkup();
 

@@ -64,7 +64,7 @@ void DesignerHandles::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (!m_frame.isNull()) {
         paintFrame(painter);
-        // What is selected isn't covered by signs, and neither are its grips.
+        // Signs must not cover the selected element or its grips.
         const int around = int(std::ceil(gripSize / 2)) + 1;
         painter.setClipRegion(
             QRegion(rect()).subtracted(m_frame.toAlignedRect().adjusted(-around, -around, around, around)));
@@ -72,7 +72,7 @@ void DesignerHandles::paintEvent(QPaintEvent *)
     paintSigns(painter);
 }
 
-/// Like the signs that stand in the page itself. Signs at one place follow each other.
+/// Drawn like the signs within the page itself. Signs at the same place are laid side by side.
 void DesignerHandles::paintSigns(QPainter &painter) const
 {
     QFont font = painter.font();
@@ -95,7 +95,7 @@ void DesignerHandles::paintSigns(QPainter &painter) const
 
 void DesignerHandles::paintFrame(QPainter &painter) const
 {
-    // The page's background is the author's choice, so that the frame has both a light and a dark line.
+    // The page's background may have any colour, so the frame has both a light and a dark line.
     const QRectF line = QRectF(m_frame.toAlignedRect().adjusted(-1, -1, 0, 0)).translated(0.5, 0.5);
     painter.setPen(Qt::white);
     painter.drawRect(line);

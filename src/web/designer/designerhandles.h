@@ -6,8 +6,8 @@
 
 namespace zephira {
 
-/// Draws the frame and the grips of the element that is selected as a whole, and the signs of what has no picture, on top
-/// of the view that is its parent. It takes no part in what the mouse does: the page decides what a grip is.
+/// Draws the frame and the grips of the element that is selected as a whole, and the signs of elements that aren't
+/// visible, on top of its parent, the view. It ignores the mouse: the page decides what a grip is.
 class DesignerHandles final : public QWidget
 {
     Q_OBJECT
@@ -15,15 +15,15 @@ class DesignerHandles final : public QWidget
 public:
     explicit DesignerHandles(QWidget *view);
 
-    /// A word at a place of the view: its upper left corner.
+    /// A word and its upper left corner in the view.
     struct Sign {
         QPointF place;
         QString word;
     };
 
-    /// The element's x, y, width and height in pixels of the page, and its grips as a list of x and y from 0 to 1, each a
-    /// share of width and height; without a width there is no element. The signs are a list of x, y and word. `zoom` is
-    /// the size of such a pixel in the view. A map with neither an element nor signs hides all.
+    /// The element's x, y, width and height in CSS pixels of the page, and its grips as a list of x and y from 0 to 1,
+    /// as fractions of width and height; without a width there is no element. The signs are a list of x, y and word.
+    /// `zoom` is the size of a CSS pixel in the view. A map with neither an element nor signs hides everything.
     void show(const QVariantMap &place, qreal zoom);
 
     QRectF frame() const { return m_frame; }

@@ -23,13 +23,13 @@ namespace zephira {
 
 namespace {
 
-/// The script's world: it shares the page's elements with nobody's scripts.
+/// The world in which the script runs: it shares the page's elements, but no script objects, with other scripts.
 constexpr quint32 world = QWebEngineScript::ApplicationWorld;
-/// How long to wait between two looks for an empty page that was loaded, in milliseconds.
+/// The interval at which to check for an empty page that was loaded, in milliseconds.
 constexpr int secondLookInterval = 250;
 
-/// The policy outlives the document that brings it: whatever is written in its place inherits it. Scripts can't simply be
-/// switched off, because the designer's own would hear no events then.
+/// The policy outlives the document that sets it: a document written in its place inherits it. Scripts can't simply be
+/// disabled, because then the designer's own script would receive no events.
 constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Security-Policy\" content=\""
                                   u"script-src 'none'; object-src 'none'; worker-src 'none'; connect-src 'none'; "
                                   u"frame-src 'none'; form-action 'none'\"><meta name=opening content=%1>";
@@ -61,7 +61,7 @@ QString resource(const QString &path)
     return QString::fromUtf8(file.readAll());
 }
 
-/// What the page's side needs, and that side itself.
+/// The script for the page, preceded by what it needs.
 QString designerScript()
 {
     return resource(u":/qtwebchannel/qwebchannel.js"_s) + resource(u":/designer/designer.js"_s);
@@ -126,8 +126,8 @@ void DesignerPage::showEmptyPage()
     setHtml(emptyPage.toString().arg(m_opening), m_base);
 }
 
-/// A load that was begun while the page before, or its process, came to its end may never tell that it has ended. So the
-/// empty page is looked for now and then, and loaded once more where it doesn't come, after a longer while each time.
+/// A load that was started while the previous page or its process was ending may never report its end. So we check for
+/// the empty page at intervals, and load it again if it doesn't appear, waiting longer each time.
 void DesignerPage::lookAgain()
 {
     if (!m_isOpening) {
@@ -137,15 +137,15 @@ void DesignerPage::lookAgain()
     } else {
         m_looks = 0;
         m_looksBeforeRetry *= 2;
-        // A process that never got the script gets it now.
+        // For a process that never received the script.
         scripts().clear();
         installScript();
         showEmptyPage();
     }
 }
 
-/// The document before may have ended its own loading only now, as one with frames does; what is written then would be
-/// lost with it. So the empty page bears a number. In a process that has just begun it may come without our script.
+/// The previous document may only now finish its own loading, as one with frames does, and what is written then would
+/// be lost with it. So the empty page has a number. In a new process it may appear without our script.
 void DesignerPage::lookForEmptyPage()
 {
     const QString question =
@@ -159,7 +159,7 @@ void DesignerPage::lookForEmptyPage()
 
 bool DesignerPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame)
 {
-    // The engine loads a page that is given as text from an address that holds it.
+    // The engine loads a page given as text from a data address that contains it.
     return m_isOpening && isMainFrame && url.scheme() == u"data";
 }
 
@@ -176,7 +176,7 @@ void DesignerPage::endIfHanging()
         ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
-/// What a page before was asked is of no account any more.
+/// Questions to a previous page no longer count.
 void DesignerPage::answeredLate(int opening)
 {
     if (opening == m_opening && m_late > 0)
@@ -191,7 +191,7 @@ std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const
         QEventLoop loop;
         std::optional<QVariant> answer;
     };
-    // An answer that comes late finds nobody waiting.
+    // A late answer finds that nobody is waiting.
     const auto wait = std::make_shared<Wait>();
     const std::weak_ptr<Wait> waiting = wait;
     const QPointer<DesignerPage> self(this);
@@ -211,8 +211,8 @@ std::optional<QVariant> DesignerPage::callAndWait(const QString &function, const
     connect(this, &QObject::destroyed, &wait->loop, &QEventLoop::quit);
     if (!wait->answer)
         waitIn(wait->loop);
-    // Who asked while this waited needn't wait for as long again. An answer that was lost with its process isn't late: a
-    // new process answers.
+    // Others who asked meanwhile needn't wait as long again. If the process ended, the answer isn't late but lost: the
+    // new process will answer.
     if (self && !wait->answer && opening == m_opening && losses == m_losses) {
         ++m_late;
         Q_EMIT late();

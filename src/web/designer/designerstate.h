@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// Which page a report is about, and which of the page's reports it is.
+/// Identifies a report: its page, and its number among the page's reports.
 struct DesignerStamp {
     /// The prefix of the page's marks.
     QString page;
@@ -22,11 +22,11 @@ struct DesignerStamp {
     bool isOf(const QString &wantedPage) const { return page == wantedPage; }
 };
 
-/// The engine's text of a page, for the case that the page is lost.
+/// The engine's text of a page, kept in case the page is lost.
 struct DesignerCopy {
     DesignerStamp stamp;
     QString text;
-    /// How many changes are in it; see DesignerState::changes.
+    /// The number of changes that it includes; see DesignerState::changes.
     qint64 changes = 0;
 
     bool isThere() const { return stamp.number > 0; }
@@ -37,23 +37,23 @@ struct DesignerCopy {
     }
 };
 
-/// What the designer knows about its page between two reports, so that asking costs nothing.
+/// The page's last reported state, so that reading it costs nothing.
 struct DesignerState {
     DesignerStamp stamp;
     QHash<DesignerCommand, int> statuses;
     QString selectionType = QStringLiteral("None");
     QString fontName;
-    /// 1 to 7, or 0 where there is none.
+    /// 1 to 7, or 0 if there is none.
     int fontSize = 0;
     QString blockFormat;
     bool isDirty = false;
-    /// How often the page has changed since it was loaded; undoing counts, too.
+    /// The number of changes since the page was loaded, including undo.
     qint64 changes = 0;
-    /// How many key presses the page has seen.
+    /// The number of key presses that the page has handled.
     int keys = 0;
     QVariantMap place;
 
-    /// Members that are missing or of another kind read as empty.
+    /// Members that are missing or of the wrong type are read as empty.
     static DesignerState fromPage(const QVariantMap &report)
     {
         DesignerState state;

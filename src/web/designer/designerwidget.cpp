@@ -27,17 +27,19 @@ namespace zephira {
 
 namespace {
 
-/// How long a question may wait for keys that the page hasn't seen yet, and how often it looks; in milliseconds.
+/// How long a question waits for keys that the page hasn't handled yet, and how often it checks; in milliseconds.
 constexpr int keyPatience = 300;
 constexpr int keyInterval = 5;
-/// A page that takes its process down again and again isn't loaded any more.
+/// If a page loses its process more often than this, it isn't loaded again.
 constexpr int mostLosses = 3;
-/// How often a page is asked for its text that changes again and again.
+/// How often to request the text of a page that keeps changing.
 constexpr int mostTries = 5;
-/// A load may take this many times as long as an answer, and an answer a millisecond more for this many characters.
+/// The time limit for a load as a multiple of that for an answer, and the characters for which an answer gets one more
+/// millisecond.
 constexpr int loadShare = 5;
 constexpr int charactersInMillisecond = 1000;
-/// How often, in milliseconds, a page that wasn't there at once is asked for, and after how many times it is written anew.
+/// The interval, in milliseconds, at which to check for a page that wasn't complete at once, and the number of checks
+/// before it is written again.
 constexpr int pageLookInterval = 100;
 constexpr int pageLooks = 50;
 
@@ -48,7 +50,7 @@ void pass(int milliseconds)
     waitIn(loop);
 }
 
-/// The file's text as the editor would show it.
+/// The file's text as the editor would show it, decoded.
 QString readPage(const FileStore &files, const QString &path)
 {
     const DecodedText text = decodeText(orRaise(files.read(path)));
@@ -78,11 +80,12 @@ DesignerWidget::DesignerWidget(const FileStore &files, Prompts &prompts, QWidget
 
 DesignerWidget::~DesignerWidget()
 {
-    // A page that ends with the widget is no loss.
+    // The end of the page during destruction is no loss.
     m_page->disconnect(this);
 }
 
-/// While the engine delivers a message it delivers no other, so that nobody who may wait for an answer is called then.
+/// Handlers that may wait for an answer are queued, because the engine delivers no other message while one is being
+/// handled.
 void DesignerWidget::connectPage()
 {
     connect(m_page, &DesignerPage::ready, this, &DesignerWidget::write, Qt::QueuedConnection);
@@ -92,7 +95,7 @@ void DesignerWidget::connectPage()
     connect(&m_page->bridge(), &DesignerBridge::told, this, &DesignerWidget::hear);
 }
 
-/// All that the page tells by itself arrives here.
+/// Handles all reports that the page sends on its own.
 void DesignerWidget::hear(const QVariantMap &report)
 {
     struct Kind {
@@ -153,7 +156,7 @@ void DesignerWidget::loadDocument(const QString &path)
     setDocumentHtml(html);
 }
 
-/// Begins with an empty page, because the policies of the last document would hold for the next one.
+/// Starts with an empty page, because the policies of the last document would apply to the next one.
 void DesignerWidget::open()
 {
     m_isComplete = false;
@@ -163,7 +166,7 @@ void DesignerWidget::open()
     m_copy = {};
     m_handles->show({}, 1);
     ++m_load;
-    // Its end is a loss like others, after which the new text is loaded.
+    // The killed process is handled like any other loss: the new text is loaded afterwards.
     m_page->endIfHanging();
     m_page->open(m_baseFile.isEmpty() ? QUrl(u"about:blank"_s) : QUrl::fromLocalFile(m_baseFile));
 }
@@ -184,8 +187,8 @@ void DesignerWidget::write(bool ready)
                  });
 }
 
-/// A page that isn't there yet tells when it is. What a new process tells may be lost, so that it is asked, too, and given
-/// its text once more after a while.
+/// A page that isn't complete yet reports when it is. A report from a new process may be lost, so the page is also
+/// asked repeatedly, and its text is written again after a while.
 void DesignerWidget::lookForPage(int load, int look)
 {
     QTimer::singleShot(pageLookInterval, this, [this, load, look] {
@@ -206,7 +209,7 @@ void DesignerWidget::lookForPage(int load, int look)
     });
 }
 
-/// The host is going to ask for more.
+/// Queued, because the host will ask for more.
 void DesignerWidget::takeComplete(const QVariantMap &state)
 {
     const auto finish = [this, load = m_load, state] {
@@ -225,7 +228,7 @@ void DesignerWidget::complete(const QVariantMap &state)
     announceDisplay();
 }
 
-/// From now on the text is what was known last, and nobody asks the page until it has been loaded again.
+/// From now on the last known text is used, and the page isn't asked until it has been loaded again.
 void DesignerWidget::takeLoss()
 {
     const bool hasChanges = m_state.isDirty && m_copy.isThere();
@@ -250,7 +253,7 @@ bool DesignerWidget::isGivenUp() const
     return m_losses > mostLosses;
 }
 
-/// One wait for each load: a page that can't be loaded mustn't hold up every command.
+/// Waits only once for each load, so that a page that can't be loaded doesn't delay every command.
 bool DesignerWidget::waitUntilComplete()
 {
     QElapsedTimer time;
@@ -270,7 +273,7 @@ QVariant DesignerWidget::ask(const QString &function, const QVariantList &argume
     return answer ? takeAnswer(*answer) : QVariant();
 }
 
-/// Every answer comes with the state that the page is in afterwards.
+/// Every answer includes the page's state after the call.
 QVariant DesignerWidget::takeAnswer(const QVariant &answer) const
 {
     const QVariantMap map = answer.toMap();
@@ -279,7 +282,7 @@ QVariant DesignerWidget::takeAnswer(const QVariant &answer) const
     return map.value(u"value"_s);
 }
 
-/// Returns whether the report is news about this page.
+/// Returns whether the report is about this page and newer than the last one.
 bool DesignerWidget::takeReport(const QVariantMap &report) const
 {
     const DesignerStamp stamp = DesignerStamp::fromPage(report);
@@ -301,7 +304,7 @@ void DesignerWidget::announceDisplay()
     Q_EMIT DisplayChanged();
 }
 
-/// The page learns of a key a moment after the window does.
+/// The page handles a key shortly after the window has sent it.
 void DesignerWidget::awaitKeys() const
 {
     QElapsedTimer time;
@@ -329,7 +332,7 @@ QString DesignerWidget::documentHtml()
     awaitKeys();
     if (!m_state.isDirty)
         return m_text.source();
-    // Others may change the page while its text is on the way.
+    // The page may change while its text is on the way.
     int tries = 0;
     do {
         takeCopy(DesignerCopy::fromPage(ask(u"text"_s).toMap()));
@@ -380,7 +383,7 @@ void DesignerWidget::setContextMenu(const QStringList &entries, const QList<Desi
     }
 }
 
-/// The entries depend on where the click has just put the caret.
+/// The entries depend on the position of the caret, which the click has just changed.
 void DesignerWidget::requestContextMenu(const QPoint &place)
 {
     ask(u"state"_s);

@@ -20,9 +20,10 @@ class DesignerHandles;
 class DesignerPage;
 class FileStore;
 
-/// The visual designer as a widget that holds its web view. Its operations can be called by name. What is asked for often
-/// (statuses, the dirty flag) is known beforehand; the rest waits for the page, within bounds. A page whose process dies
-/// is loaded again as it last was; one that does so again and again isn't, but its text is still there.
+/// The visual designer as a widget that contains its web view. Its operations can be called by name. What is often
+/// needed (statuses, the dirty flag) is kept up to date in advance; the rest waits for the page, up to a time limit. If
+/// the page's process dies, its last known state is loaded again; if that happens repeatedly, it isn't, but the text is
+/// still available.
 class DesignerWidget final : public QWidget, public Designer
 {
     Q_OBJECT
@@ -36,11 +37,11 @@ class DesignerWidget final : public QWidget, public Designer
     Q_PROPERTY(QString selectionType READ selectionType)
 
 public:
-    /// The store and the prompts outlive the widget, which is hidden at first.
+    /// `files` and `prompts` must outlive the widget, which is hidden at first.
     DesignerWidget(const FileStore &files, Prompts &prompts, QWidget *parent = nullptr);
     ~DesignerWidget() override;
 
-    /// A file that can't be read leaves everything as it was.
+    /// Loads a file. If it can't be read, nothing changes.
     Q_INVOKABLE void LoadDocument(const QString &path);
     /// The argument of InsertTable may be a map with NumRows, NumCols, TableAttrs, CellAttrs and Caption.
     Q_INVOKABLE QVariant ExecCommand(int command, int prompting = 0, const QVariant &argument = {});
@@ -81,7 +82,7 @@ public:
 Q_SIGNALS:
     void DocumentComplete();
     void DisplayChanged();
-    /// A place of the screen.
+    /// Requests a context menu at a position in screen coordinates.
     void ShowContextMenu(int x, int y);
     void ContextMenuAction(int index);
     void ProcessLost();
@@ -115,7 +116,7 @@ private:
     void runFromPage(const QVariantMap &report);
     void requestContextMenu(const QPoint &place);
 
-    /// How a command reaches the page.
+    /// How a command is executed.
     struct Road {
         DesignerCommand command;
         QVariant (DesignerWidget::*run)(DesignerPrompting prompting, const QVariant &argument);
@@ -134,7 +135,7 @@ private:
 
     const FileStore &m_files;
     DesignerQuestions m_questions;
-    /// Stands for the host that setEvents() has connected to the signals.
+    /// Represents the host whose handlers setEvents() has connected to the signals.
     std::unique_ptr<QObject> m_host;
     QWebEngineProfile m_profile;
     /// Deleted before the profile, which must outlive its page.
@@ -146,18 +147,18 @@ private:
     PageRoundTrip m_text;
     QString m_baseFile;
     QVariantMap m_looks;
-    /// What the page told last; reading it may have to wait for keys on their way.
+    /// The last reported state; reading it may have to wait for keys that the page hasn't handled yet.
     mutable DesignerState m_state;
     mutable int m_keysSent = 0;
-    /// The page as it was known last.
+    /// The last known text of the page.
     DesignerCopy m_copy;
     bool m_isComplete = false;
-    /// Somebody has waited for the page as long as anybody should.
+    /// Waiting for the page to load has exceeded the time limit.
     bool m_isLate = false;
-    /// Changes from before the page was lost and loaded again.
+    /// The page was lost and loaded again, and had changes before.
     bool m_hasLostChanges = false;
     int m_losses = 0;
-    /// Tells an answer to an older load.
+    /// Identifies a load, to ignore answers to older ones.
     int m_load = 0;
 };
 

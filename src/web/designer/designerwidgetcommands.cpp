@@ -44,7 +44,7 @@ FontChoice fontChoice(const QVariantMap &font)
 
 } // namespace
 
-/// Commands that take more than a word to the page. All others run there by their number.
+/// Commands that need more than a call to the page. All others are run there by their number.
 const DesignerWidget::Road DesignerWidget::roads[] = {
     {DesignerCommand::Copy, &DesignerWidget::copy},
     {DesignerCommand::Cut, &DesignerWidget::cut},
@@ -76,7 +76,7 @@ void DesignerWidget::SetContextMenu(const QStringList &entries, const QVariantLi
 
 QVariant DesignerWidget::execCommand(DesignerCommand command, DesignerPrompting prompting, const QVariant &argument)
 {
-    // What only reads is known already; the host reads much whenever the caret moves.
+    // These values are already known; the host reads them whenever the caret moves.
     switch (command) {
     case DesignerCommand::GetFontName:
         return m_state.fontName;
@@ -96,7 +96,7 @@ QVariant DesignerWidget::execCommand(DesignerCommand command, DesignerPrompting 
     const auto road = std::ranges::find(roads, command, &Road::command);
     const QVariant result =
         road == std::end(roads) ? runWith(command, argument) : (this->*road->run)(prompting, argument);
-    // A question to the user may have outlived the window.
+    // The window may have been closed while the user was asked.
     if (self)
         announceDisplay();
     return result;
@@ -128,13 +128,13 @@ QVariant DesignerWidget::cut(DesignerPrompting, const QVariant &)
 QVariant DesignerWidget::paste(DesignerPrompting, const QVariant &)
 {
     const ClipboardMarkup content = clipboardMarkup(m_text);
-    // Comments of other programs go, so that they need no marks.
+    // Comments from other programs are dropped, so they need no marks.
     const QString markup = content.isForeign ? content.markup : m_text.fragmentForEngine(content.markup);
     ask(u"insert"_s, {markup, content.isForeign});
     return {};
 }
 
-/// The page may have gone since it told, and a page isn't trusted with more than it has keys for.
+/// The report's page may have been replaced, and a page may only request the commands that have keys.
 void DesignerWidget::runFromPage(const QVariantMap &report)
 {
     static constexpr DesignerCommand commandsOfKeys[] = {DesignerCommand::Copy, DesignerCommand::Cut,
@@ -145,7 +145,7 @@ void DesignerWidget::runFromPage(const QVariantMap &report)
         execCommand(command, DesignerPrompting::Default, {});
 }
 
-/// The argument where there is one, else the user's answer where asking is allowed.
+/// The argument if there is one, else the user's answer if prompting is allowed.
 template<typename Asking>
 static std::optional<QString> argumentOr(const QVariant &argument, DesignerPrompting prompting, Asking asking)
 {

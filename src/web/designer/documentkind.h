@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// By the extension of the name. A document without a name or of an extension that nobody knows is markup.
+/// The kind according to the name's extension. A document without a name or with an unknown extension is markup.
 DocumentKind documentKind(const QString &fileName);
 
 } // namespace zephira

@@ -10,7 +10,7 @@ namespace zephira {
 namespace {
 
 constexpr char32_t noBreakSpace = 0xa0;
-/// The longest name is "thetasym"; numbers may have leading zeroes, within reason.
+/// The longest name is "thetasym"; numbers may have some leading zeroes.
 constexpr qsizetype longestReference = 16;
 
 bool isAsciiAlphanumeric(QChar c)
@@ -18,13 +18,13 @@ bool isAsciiAlphanumeric(QChar c)
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9');
 }
 
-/// Characters that go as they are where nobody spells them.
+/// Characters that are written as they are unless the author spelled them as references.
 bool isEveryday(QChar c)
 {
     return isAsciiAlphanumeric(c) || c == u' ' || c == u'\t';
 }
 
-/// Length of the reference behind an ampersand, "#" included and ";" not.
+/// Length of the reference after an ampersand, including "#" but not ";".
 qsizetype referenceLength(QStringView text)
 {
     qsizetype length = text.startsWith(u'#') ? 1 : 0;
@@ -33,7 +33,7 @@ qsizetype referenceLength(QStringView text)
     return length;
 }
 
-/// The code point at a place, which is moved behind it.
+/// The code point at a position, which is moved past it.
 char32_t nextCharacter(QStringView text, qsizetype &place)
 {
     const QChar high = text[place++];
@@ -125,7 +125,8 @@ QString EntityHabits::write(QStringView characters, Progress *progress) const
     qsizetype done = 0;
     qsizetype place = 0;
     while (place < characters.size()) {
-        // Most characters are spelled by nobody and go in runs; digits and letters may be, to hide an address.
+        // Runs of ordinary characters are copied at once; authors may spell even digits and letters, to hide an
+        // address.
         const QChar c = characters[place];
         if (isEveryday(c) && !m_habits.contains(c.unicode())) {
             ++place;
@@ -134,7 +135,7 @@ QString EntityHabits::write(QStringView characters, Progress *progress) const
         text += characters.sliced(done, place - done);
         const qsizetype before = place;
         const char32_t character = nextCharacter(characters, place);
-        // A half of a pair is no character and stays as it is.
+        // An unpaired surrogate is no character and stays as it is.
         text += place == before + 1 && c.isSurrogate() ? QString(c) : spellingOf(character, progress);
         done = place;
     }

@@ -9,9 +9,9 @@
 
 namespace zephira {
 
-/// How an author spells characters: those that were spelled as a reference wherever they occur are written so again,
-/// and those that were not are written as they are. Text and attribute values are learnt apart, because a quotation
-/// mark has to be spelled in the one and not in the other.
+/// How an author spells characters: a character that was always spelled as a reference is written so again, and one
+/// that never was is written as it is. Text and attribute values are learnt separately, because a quotation mark has to
+/// be spelled in one and not in the other.
 class EntityHabits
 {
 public:
@@ -19,32 +19,33 @@ public:
 
     explicit EntityHabits(Place place) : m_place(place) {}
 
-    /// Looks at characters of a page's source.
+    /// Learns from the text or the values in a page's source.
     void learn(QStringView source);
-    /// In XML a value holds no "<", and few names of characters are known.
+    /// In XML a value must not contain "<", and only few character names are known.
     void setXml(bool isXml) { m_isXml = isXml; }
 
-    /// How far the writing of a whole page has come.
+    /// The progress of writing a whole page.
     class Progress
     {
         friend EntityHabits;
         QHash<char32_t, qsizetype> expected;
         QHash<char32_t, qsizetype> written;
     };
-    /// Takes note of characters that are going to be written.
+    /// Counts characters that are going to be written.
     void expect(QStringView characters, Progress &progress) const;
 
-    /// Characters of a page as they stand in its source. What would end the text, or be read as a reference, is spelled
-    /// in any case; line ends are LF before and CR LF behind. With the progress of a whole page, characters that the author
-    /// spelled now this way, now that are spelled so again, in their order, as long as none of them has come or gone.
+    /// The characters as they are written in the source. Characters that would end the text, or be read as a reference,
+    /// are always spelled; line ends are LF in `characters` and CR LF in the result. Given the progress of a whole
+    /// page, characters that the author spelled inconsistently are spelled the same way again in their order, as long
+    /// as none of them was added or removed.
     QString write(QStringView characters, Progress *progress = nullptr) const;
 
 private:
     struct Habit {
-        /// The first spelling; empty as long as there was none.
+        /// The first spelling; empty until one occurs.
         QString spelling;
         bool seenPlain = false;
-        /// All spellings in their order, empty ones where it wasn't spelled; not of ASCII.
+        /// All spellings in order, empty where the character wasn't spelled; not kept for ASCII.
         QStringList all = {};
     };
 
@@ -52,12 +53,12 @@ private:
 
     Place m_place;
     bool m_isXml = false;
-    /// By character; those of ASCII are here only when they have been spelled.
+    /// By character; ASCII characters are included only if they have been spelled.
     QHash<char32_t, Habit> m_habits;
     std::bitset<128> m_plainAscii;
 };
 
-/// Characters with the engine's own spelling ("&amp;", "&lt;", "&gt;", "&quot;", "&nbsp;") read.
+/// Replaces the engine's own spellings ("&amp;", "&lt;", "&gt;", "&quot;", "&nbsp;") by their characters.
 QString readEngineText(QStringView serialised);
 
 } // namespace zephira

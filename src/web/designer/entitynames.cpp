@@ -15,7 +15,7 @@ struct EntityName {
     char32_t character;
 };
 
-/// In the order of the names' code units, for the search.
+/// Sorted by the names' code units, for binary search.
 constexpr EntityName names[] = {
     {u"AElig", 0xc6},     {u"Aacute", 0xc1},   {u"Acirc", 0xc2},    {u"Agrave", 0xc0},   {u"Alpha", 0x391},
     {u"Aring", 0xc5},     {u"Atilde", 0xc3},   {u"Auml", 0xc4},     {u"Beta", 0x392},    {u"Ccedil", 0xc7},
@@ -70,7 +70,8 @@ constexpr EntityName names[] = {
     {u"zeta", 0x3b6},     {u"zwj", 0x200d},    {u"zwnj", 0x200c},
 };
 
-/// What browsers read in the references 128 to 159, which name no characters of Unicode; 0 where they read the number.
+/// The characters that browsers use for the references 128 to 159, which are no Unicode characters; 0 where they use
+/// the number itself.
 constexpr char16_t windowsCharacters[] = {
     0x20ac, 0,      0x201a, 0x0192, 0x201e, 0x2026, 0x2020, 0x2021, 0x02c6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017d, 0,      0,      0x2018, 0x2019, 0x201c, 0x201d, 0x2022,

@@ -5,9 +5,9 @@
 
 namespace zephira {
 
-/// The markup of the table that the designer inserts, a line to each tag of table, row and cell. Cells hold a line break,
-/// so that the caret can stand in them. The attributes go in as they are, the caption as text; an empty one is left out.
-/// Empty for a table that has no row or no column, and for one that is too large.
+/// The markup of a table that the designer inserts, with a line for each table, row and cell tag. Cells contain a line
+/// break, so that the caret can be placed in them. The attributes are inserted as they are, the caption as text; empty
+/// ones are omitted. Empty for a table without rows or columns, and for one that is too large.
 QString insertedTableMarkup(const InsertTableParam &table);
 
 } // namespace zephira

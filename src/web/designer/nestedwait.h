@@ -6,10 +6,10 @@
 
 namespace zephira {
 
-/// Runs an event loop within the handling of another event, without what the user does meanwhile.
+/// Runs a nested event loop during the handling of another event, excluding user input.
 ///
-/// Events that were posted together with the one that is being handled stay unnoticed in an inner loop until something
-/// wakes it, and the engine's own work may be among them.
+/// Events that were posted together with the current one are not noticed in a nested loop until something wakes it, and
+/// these may include the engine's own work.
 inline void waitIn(QEventLoop &loop)
 {
     QAbstractEventDispatcher::instance()->wakeUp();

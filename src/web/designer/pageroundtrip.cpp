@@ -24,14 +24,14 @@ constexpr QStringView lonelyAttributes[] = {
     u"playsinline",     u"readonly", u"required",  u"reversed", u"selected",
 };
 
-/// Elements that begin on a line of their own when one of them ends before. Blocks that style sheets like to lay side by
-/// side aren't among them, since a line end would put a gap between them.
+/// Elements that begin on a line of their own after one of them has ended. Blocks that style sheets often lay out side
+/// by side aren't included, because a line end would put a gap between them.
 constexpr QStringView blocks[] = {
     u"address", u"blockquote", u"dd", u"dl", u"dt", u"h1",  u"h2",    u"h3", u"h4",
     u"h5",      u"h6",         u"hr", u"ol", u"p",  u"pre", u"table", u"tr", u"ul",
 };
 
-/// Elements that have no end.
+/// Elements without an end tag.
 constexpr QStringView voidElements[] = {
     u"area", u"base",  u"basefont", u"br",   u"col",   u"embed",  u"frame", u"hr",
     u"img",  u"input", u"link",     u"meta", u"param", u"source", u"track", u"wbr",
@@ -39,7 +39,7 @@ constexpr QStringView voidElements[] = {
 
 constexpr QStringView rootElements[] = {u"html", u"head", u"body", u"frameset"};
 
-/// Elements whose first line end a browser leaves out.
+/// Elements in which browsers ignore a line end right after the start tag.
 constexpr QStringView linedElements[] = {u"pre", u"textarea", u"listing"};
 
 bool isOneOf(QStringView name, std::span<const QStringView> names)
@@ -68,14 +68,15 @@ bool isOutside(const PagePiece &piece, QStringView source)
     }
 }
 
-/// Whether the piece ends only with the page, because nobody closed it.
+/// Whether the piece is unclosed and therefore extends to the end of the page.
 bool isOpen(const PagePiece &piece, QStringView source)
 {
     const bool canBeOpen = piece.kind == PieceKind::Comment || piece.kind == PieceKind::ServerText;
     return canBeOpen && piece.end == source.size() && !piece.in(source).endsWith(u'>');
 }
 
-/// An element that has no end swallows all end tags that the engine writes behind it; without them.
+/// The root without the end tags that the engine writes after an element that has no end, of whose text they become
+/// part.
 QStringView withoutEndsOfPlainText(QStringView root)
 {
     constexpr QStringView plainTextEnd = u"</plaintext>";
@@ -86,7 +87,7 @@ QStringView withoutEndsOfPlainText(QStringView root)
     return endTags.match(root.sliced(end).toString()).hasMatch() ? root.first(end) : root;
 }
 
-/// The lower-case name of the tag that a piece begins, if it is one of those that hold the page together.
+/// The lower-case name of the tag that a piece begins, if it is one of the root elements.
 QString rootTag(const PagePiece &piece, QStringView source, bool *isEnd = nullptr)
 {
     if (piece.kind != PieceKind::Markup)
@@ -103,8 +104,8 @@ bool isRootEnd(const PagePiece &piece, QStringView source)
     return isEnd && (name == u"body" || name == u"html");
 }
 
-/// What the engine wrote without the tags that it added to a page that had none of them. Tags that have got attributes
-/// mean something; then nothing is left out.
+/// The engine's text without the tags that it added to a page that had none of them. If such a tag has attributes, they
+/// must not be lost; then the result is empty.
 std::optional<QString> withoutRootTags(QStringView root)
 {
     QString text;
@@ -118,7 +119,7 @@ std::optional<QString> withoutRootTags(QStringView root)
     return text;
 }
 
-/// Whether a page says that it is XML: by its declaration, its doctype or its root.
+/// Whether a page declares itself as XML: by its declaration, its doctype or its root.
 bool isXmlPage(QStringView prolog, QStringView root)
 {
     return prolog.contains(u"<?xml ") || prolog.contains(u"//DTD XHTML", Qt::CaseInsensitive)
@@ -136,7 +137,7 @@ QString withLf(QString text)
     return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
 }
 
-/// Writes the pieces of what the engine serialised. The engine's markup is regular: names in lower case, values in
+/// Writes the pieces of the engine's serialised text. The engine's markup is regular: names in lower case, values in
 /// double quotes.
 class TidyWriter
 {
@@ -171,8 +172,8 @@ public:
 private:
     static bool isSpelled(PieceKind kind) { return kind == PieceKind::Text || kind == PieceKind::PlainText; }
 
-    /// Whether the tag is of a group of rows that the engine has put around rows without one: those of the author and of
-    /// the designer bear an attribute.
+    /// Whether the tag belongs to a tbody that the engine has put around rows without one: those of the author and of
+    /// the designer have an attribute.
     bool isAddedGroup(QStringView text, QStringView name, bool isEnd)
     {
         if (name != u"tbody")
@@ -192,7 +193,7 @@ private:
         bool isEnd = false;
         const QStringView name = tagNameOf(text, &isEnd);
         if (m_insideMark || name == markElement) {
-            // The piece that ends the mark belongs to it.
+            // The piece that ends the mark is part of it.
             m_insideMark = !(name == markElement && isEnd);
             m_isMarkValue = text.endsWith(u" mark=\"");
             m_afterBlock = m_afterLined = false;
@@ -240,7 +241,8 @@ private:
         m_out += isSpelled(kind) ? m_text.write(readEngineText(text), &m_textProgress) : withCrLf(text);
     }
 
-    /// An attribute that needs no value has just got an opening quote. In XML its name is its value.
+    /// The opening quote of an attribute that needs no value has just been written. In XML, such an attribute's value
+    /// is its name.
     void makeAttributeLonely()
     {
         constexpr QStringView opening = u"=\"";
@@ -261,9 +263,9 @@ private:
     EntityHabits::Progress m_textProgress;
     EntityHabits::Progress m_valueProgress;
     QString m_out;
-    /// Of the groups of rows that are open, from the outside in, whether the engine has added them.
+    /// For each open tbody, from the outermost to the innermost: whether the engine has added it.
     std::vector<bool> m_addedGroups;
-    /// The tag that was begun last.
+    /// The name of the last tag that was begun.
     QStringView m_name;
     bool m_isEnd = false;
     bool m_insideMark = false;
@@ -287,7 +289,7 @@ PageRoundTrip::PageRoundTrip(QString source, const QString &markPrefix, Document
     splitEnds(pieces);
 }
 
-/// Takes what stands in front of the root and behind the body from the engine; it needs the doctype alone.
+/// Keeps what is before the root and after the body from the engine, which needs only the doctype.
 void PageRoundTrip::splitEnds(std::vector<PagePiece> &pieces)
 {
     const QStringView source = m_source;
@@ -366,7 +368,7 @@ QString PageRoundTrip::fromEngine(const QString &rootElement) const
     if (hasBody)
         root.chop(bodyEnd.size());
     QString text = m_prolog + m_marks.unmask(tidied(root));
-    // Whatever came behind an open end would belong to it.
+    // Anything after an unclosed end would become part of it.
     if (!m_openEnd.isEmpty() && text.endsWith(m_openEnd))
         return text;
     if (m_tail.isEmpty() && !text.endsWith(lineEnd))

@@ -12,31 +12,31 @@
 
 namespace zephira {
 
-/// A page on its way into the engine and back. What stands in front of the root element and behind the body stays here
-/// and comes back to the letter, as do server code, comments and malformed declarations; the engine's text is tidied:
-/// lower-case names, double quotes, CR LF, references where the author wrote some, lone words for attributes without a
-/// value, and a line of its own for each paragraph, heading, list, table and row. A page that says that it is XML stays
-/// well-formed. A source without the tags of root, head and body stays one, and so does a table without a group of rows.
+/// A page on its way into the engine and back. Everything before the root element and after the body is kept here and
+/// restored exactly, and so are server code, comments and malformed declarations. The engine's text is tidied:
+/// lower-case names, double quotes, CR LF, references where the author used them, bare names for attributes without a
+/// value, and a line for each paragraph, heading, list, table and row. A page that declares itself as XML stays
+/// well-formed. A source without html, head and body tags stays without them, and a table without tbody does too.
 ///
-/// A document that is plain text goes to the engine as it stands, with LF, and comes back as it stands there, with CR LF.
+/// A plain-text document goes to the engine unchanged, with LF, and comes back unchanged, with CR LF.
 class PageRoundTrip
 {
 public:
-    /// A page without a word of text.
+    /// An empty page.
     PageRoundTrip() : PageRoundTrip(QString(), QStringLiteral("zs")) {}
-    /// The prefix is one of freshMarkPrefix().
+    /// The prefix must come from freshMarkPrefix().
     PageRoundTrip(QString source, const QString &markPrefix, DocumentKind kind = DocumentKind::Markup);
 
     const QString &source() const { return m_source; }
     bool isPlain() const { return m_kind == DocumentKind::PlainText; }
     const QString &markPrefix() const { return m_marks.prefix(); }
 
-    /// What the engine is to read.
+    /// The text for the engine.
     const QString &forEngine() const { return m_forEngine; }
-    /// The page from the root element as the engine writes it; of plain text, that text.
+    /// The page, given the root element as serialised by the engine; for plain text, given that text.
     QString fromEngine(const QString &rootElement) const;
 
-    /// The same for markup that the user puts into the page or takes from it.
+    /// The same for markup that is inserted into the page or taken from it.
     QString fragmentForEngine(const QString &markup);
     QString fragmentFromEngine(const QString &markup) const;
 
@@ -53,7 +53,7 @@ private:
     QString m_prolog;
     QString m_tail;
     QString m_forEngine;
-    /// A comment or a block of server code at the end of the page that nobody closed.
+    /// An unclosed comment or block of server code at the end of the page.
     QString m_openEnd;
     bool m_isFragment = false;
     bool m_isXml = false;
@@ -61,7 +61,7 @@ private:
     bool m_tailEndsRoot = false;
 };
 
-/// The name of the element that shows a mark between tags; its attribute "mark" holds the mark.
+/// The name of the element that represents a mark between tags; its attribute "mark" has the mark.
 constexpr QStringView markElement = u"zephira-mark";
 
 } // namespace zephira

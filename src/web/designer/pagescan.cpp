@@ -14,7 +14,7 @@ namespace {
 constexpr QStringView rawElements[] = {u"script", u"style", u"xmp", u"iframe", u"noembed", u"noframes", u"noscript"};
 constexpr QStringView plainElements[] = {u"textarea", u"title"};
 constexpr QStringView foreignElements[] = {u"svg", u"math"};
-/// Server elements whose content is code, too.
+/// Server elements whose content is code too.
 constexpr QStringView codeElements[] = {u"cfscript", u"cfquery"};
 
 bool isOneOf(QStringView name, std::span<const QStringView> names)
@@ -37,7 +37,7 @@ bool isServerName(QStringView name)
     return name.contains(u':') || (name.size() > 2 && name.startsWith(u"cf", Qt::CaseInsensitive) && isLetter(name[2]));
 }
 
-/// Walks once over the source. Each read…() begins at m_at and leaves m_at behind what it took.
+/// Scans the source once. Each read…() begins at m_at and moves m_at past what it has read.
 class Scanner
 {
 public:
@@ -58,14 +58,14 @@ private:
     }
     QChar charAt(qsizetype place) const { return place < m_size ? m_source[place] : QChar(); }
 
-    /// The place behind the next `text` at or behind `from`, or the end of the source.
+    /// The position after the next `text` at or after `from`, or the end of the source.
     qsizetype behind(QStringView text, qsizetype from) const
     {
         const qsizetype found = from < m_size ? m_source.indexOf(text, from) : -1;
         return found < 0 ? m_size : found + text.size();
     }
 
-    /// Ends the piece that has been gathered since the last one.
+    /// Ends the current piece, which began where the last one ended.
     void flush(PieceKind kind, qsizetype end)
     {
         if (end > m_begin)
@@ -79,7 +79,7 @@ private:
         m_begin = m_at = end;
     }
 
-    /// The place behind the server code that begins here; `place` itself when none does.
+    /// The position after the server code that begins at `place`; `place` itself if none does.
     qsizetype behindServerCode(qsizetype place) const
     {
         if (charAt(place) != u'<')
@@ -129,8 +129,8 @@ private:
             add(PieceKind::Comment, behind(u">", m_at));
     }
 
-    /// Comments of ColdFusion have a third dash and lie within each other. Server code runs before anyone looks for the
-    /// comment's end.
+    /// ColdFusion comments have a third dash and can be nested. Server code is processed first, so a comment's end
+    /// inside it doesn't count.
     qsizetype behindComment() const
     {
         int depth = 0;
@@ -196,7 +196,7 @@ private:
         add(PieceKind::ServerText, m_at);
     }
 
-    /// Reads to behind the tag's end. Returns whether it closes itself.
+    /// Reads up to the tag's end. Returns whether the tag is self-closing.
     bool readAttributes()
     {
         bool isClosed = false;
@@ -219,7 +219,7 @@ private:
         return isClosed;
     }
 
-    /// The name has one character at least, which may be anything.
+    /// The name has at least one character, which may be anything.
     void readAttributeName()
     {
         const qsizetype first = m_at;
@@ -269,7 +269,7 @@ private:
             --m_foreign;
     }
 
-    /// Reads the content of elements that hold no tags. In drawings and formulas all elements hold some.
+    /// Reads the content of elements that can't contain tags. In SVG and MathML all elements can.
     void enterElement(QStringView name, bool isClosed)
     {
         if (isOneOf(name, foreignElements) && !isClosed) {
@@ -284,7 +284,8 @@ private:
         }
     }
 
-    /// The places before and behind the next end tag of that name that is not inside server code, or twice the end.
+    /// The positions before and after the next end tag of that name outside server code; both are the end of the source
+    /// if there is none.
     std::pair<qsizetype, qsizetype> behindElement(QStringView name, qsizetype from) const
     {
         qsizetype place = from;

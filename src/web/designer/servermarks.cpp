@@ -9,19 +9,19 @@ namespace zephira {
 
 namespace {
 
-/// What an attribute without a value gets from the engine.
+/// What the engine appends to an attribute without a value.
 constexpr QStringView emptyValue = u"=\"\"";
 constexpr QStringView commentOpen = u"<!--";
 constexpr QStringView commentClose = u"-->";
 
-/// A mark in a text: its number, its kind, and the place behind it.
+/// A mark in a text: its number, its kind, and the position after it.
 struct Mark {
     qsizetype number = 0;
     QChar kind;
     qsizetype end = 0;
 };
 
-/// Reads the number and the kind at a place; a kind of 0 says that no mark is there.
+/// Reads the number and the kind at a position; kind 0 means that there is no mark.
 Mark readMark(QStringView html, qsizetype place)
 {
     constexpr qsizetype mostDigits = 9;
@@ -36,7 +36,7 @@ Mark readMark(QStringView html, qsizetype place)
     return mark;
 }
 
-/// How much of a tag its bracket and its name take up, if it begins such an element; else 0.
+/// The length of a tag's bracket and name if it begins such an element; else 0.
 qsizetype beginOf(QStringView element, QStringView tag)
 {
     bool isEnd = false;
@@ -44,7 +44,7 @@ qsizetype beginOf(QStringView element, QStringView tag)
     return !isEnd && name.compare(element, Qt::CaseInsensitive) == 0 ? name.size() + 1 : 0;
 }
 
-/// Whether a tag says itself for which browsers it is.
+/// Whether a tag already has a "nomodule" attribute.
 bool tellsOfModules(QStringView source, std::vector<PagePiece>::const_iterator tag,
                     std::vector<PagePiece>::const_iterator end)
 {
@@ -60,14 +60,14 @@ bool tellsOfModules(QStringView source, std::vector<PagePiece>::const_iterator t
 
 } // namespace
 
-/// By it the engine takes a script for one that is meant for other browsers: it doesn't wait for what the script would have
-/// to wait for.
+/// Makes the engine treat a script as meant for other browsers, so that it doesn't wait for anything on the script's
+/// behalf.
 QString ServerMarks::idleAttribute() const
 {
     return u" nomodule=\"%1\""_s.arg(m_prefix);
 }
 
-/// Tells what the author wrote from what the engine adds.
+/// Distinguishes what the author wrote from what the engine adds.
 QString ServerMarks::writtenAttribute() const
 {
     return u" %1t=\"\""_s.arg(m_prefix);

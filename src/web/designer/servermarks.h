@@ -10,33 +10,33 @@
 
 namespace zephira {
 
-/// Puts marks in the place of what a browser would spoil or hide in a page (server code, comments, declarations), and
-/// puts the very same characters back in the place of the marks. A mark is a comment between tags and a word elsewhere:
+/// Replaces whatever a browser would damage or hide in a page (server code, comments, declarations) by marks, and later
+/// restores the original characters. A mark is a comment between tags and a word elsewhere:
 ///
 ///     <td <%= attributes %>><!-- here --><%= value %></td>
 ///     <td zs1f0x0a><!--zs1f0x1c--><!--zs1f0x2s--></td>
 ///
-/// The last letter of a mark tells where it stands: "s" server code between tags, "c" a comment there, "a" in the place
-/// of an attribute or in its name, "v" inside a value or inside text that holds no tags.
+/// The last letter of a mark tells its kind: "s" server code between tags, "c" a comment between tags, "a" an attribute
+/// or part of its name, "v" inside a value or inside text that can't contain tags.
 ///
-/// Scripts get an attribute that keeps the engine from waiting for them, as long as it has the page:
+/// Scripts get an attribute that keeps the engine from waiting for them while the page is loaded:
 ///
 ///     <script nomodule="zs1f0" src="menu.js"></script>
 ///
-/// and the groups of rows that the author wrote one that tells them from those that the engine adds:
+/// and the author's tbody elements get one to distinguish them from those that the engine adds:
 ///
 ///     <tbody zs1f0t="">
 class ServerMarks
 {
 public:
-    /// What the marks of a page begin with: a word of lower-case letters and digits that the page doesn't hold.
+    /// `prefix` begins the marks of a page: a word of lower-case letters and digits that doesn't occur in the page.
     explicit ServerMarks(QString prefix) : m_prefix(std::move(prefix)) {}
 
-    /// The source with marks. What they stand for is remembered beside what earlier calls found.
+    /// Returns the source with marks. The replaced texts are remembered, in addition to those of earlier calls.
     QString mask(QStringView source);
     QString mask(QStringView source, const std::vector<PagePiece> &pieces);
-    /// Puts back what the marks stand for, wherever they have got to and however often; words that look like a mark and
-    /// are none stay.
+    /// Replaces all marks by the original texts, wherever and however often they occur; words that only look like a
+    /// mark stay.
     QString unmask(QStringView html) const;
 
     const QString &prefix() const { return m_prefix; }
@@ -51,7 +51,7 @@ private:
     QStringList m_blocks;
 };
 
-/// A prefix that the source doesn't hold, different at each call as far as chance goes.
+/// A random prefix that doesn't occur in the source.
 QString freshMarkPrefix(const QString &source);
 
 } // namespace zephira

@@ -9,7 +9,7 @@ import {
 import {currentRange, reaches} from './selection.js';
 import {tableCellNames} from './tables.js';
 
-// Block formats by the names that menus show. A block of the first format that fits bears its name.
+// Block formats with the names shown in menus. A block gets the name of the first format that matches.
 export const blockFormats = [
     {name: 'Normal', tag: 'p'},
     {name: 'Formatted', tag: 'pre'},
@@ -47,8 +47,8 @@ export const formatOf = node => {
     return 'Normal';
 };
 
-// The paragraphs that a range touches, in their order: elements of their own, or runs of text and inline elements between
-// blocks. They are looked for as they are taken, so that who wants a few doesn't pay for all.
+// The paragraphs that a range touches, in document order: elements of their own, or runs of text and inline elements
+// between blocks. They are found one by one, so that a caller who needs only a few doesn't pay for all.
 const paragraphsIn = function* (parent, range) {
     let run = [];
     const touches = nodes => nodes.some(node => !isBlankText(node) && reaches(range, node));
@@ -89,7 +89,7 @@ export const selectedParagraphs = (most = Infinity) => {
 
 export const startOf = paragraph => paragraph.element ?? paragraph.nodes[0] ?? paragraph.parent;
 
-// The block formats of the selection, or of the first paragraphs in it, each once.
+// The block formats of the selection, or of at most its first `most` paragraphs, without duplicates.
 export const selectedFormats = (most = Infinity) => {
     const range = currentRange();
     if (range.collapsed)

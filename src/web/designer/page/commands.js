@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The commands. Each tells its status, and most do something; a command with `reads` changes nothing. Statuses: 0 not
+// The commands. Each has a status, and most perform an action; a command with `reads` changes nothing. Statuses: 0 not
 // supported, 1 not available, 3 enabled, 7 on, 11 mixed.
 
 import {blockFormatNames, formatOf, selectedFormats} from './blocks.js';
@@ -39,7 +39,7 @@ const nativeStatus = name => {
 const toggle = name => ({status: () => nativeStatus(name), run: () => runNative(name)});
 const toggleText = name => ({status: () => hasText() ? nativeStatus(name) : status.disabled, run: () => runNative(name)});
 
-// The engine tells of the first item alone.
+// The engine reports only the first item.
 const listCommand = (name, format) => ({
     status: ({formats}) => formats.length > 1 && formats.includes(format) ? status.mixed : nativeStatus(name),
     run: () => toggleList(format),
@@ -130,12 +130,12 @@ const commands = {
     [Command.UnorderedList]: listCommand('insertUnorderedList', 'Bulleted List'),
 };
 
-// Nothing else can be done with a page that is only looked at.
+// The only commands that are available in browse mode.
 const browseCommands = new Set([Command.Copy, Command.FindText, Command.SelectAll]);
 
 const isOpen = number => (!looks.browseMode || browseCommands.has(number)) && (!isPlain || plainCommands.has(number));
 
-// What several commands look at in the selection.
+// Facts about the selection that several commands need.
 const selectionFacts = () => ({
     cells: selectedCells(),
     formats: isFrameset() ? [] : selectedFormats(mostLookedAt),
@@ -147,14 +147,14 @@ export const allStatuses = () => {
         [number, isOpen(Number(number)) ? command.status(facts) : status.disabled]));
 };
 
-// What a command reads, as long as the whole selection agrees on it.
+// The value that a command reads, if it is the same for the whole selection.
 export const valueOf = (number, statuses, none) => statuses[number] === status.enabled ? commands[number].run() : none;
 
 export const runCommand = (number, argument) => {
     const command = commands[number];
     if (!command || !isOpen(number) || command.status(selectionFacts()) < status.enabled)
         return null;
-    // Commands that look or turn back aren't steps of the history.
+    // Commands that only read, undo or redo aren't steps of the history.
     if (command.reads || command.turns)
         return command.run(argument);
     return history.run(() => command.run(argument));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The designer's side within the page: it takes commands from the program and tells it what the page looks like.
+// The designer's part within the page: it runs commands for the program and reports the page's state.
 
 import {Command} from './command.js';
 import {allStatuses, runCommand, valueOf} from './commands.js';
@@ -18,8 +18,9 @@ import {selectedControl, selectionType, selectStart} from './selection.js';
 
 let keepTimer = 0;
 
-// A copy of the page goes to the program a while after the first change since the last copy, however fast further changes
-// come: after this many milliseconds at least, and so many times what it took to write the last one.
+// After the first change since the last copy, a copy of the page is sent to the program with a delay, however fast
+// further changes follow. The delay is at least this many milliseconds, and at least a multiple of the time that the
+// last copy took.
 const keepRest = 100;
 const keepShare = 10;
 let keepCost = 0;
@@ -39,8 +40,8 @@ const keepPage = () => {
     keepCost = performance.now() - begin;
 };
 
-// What the program paints on top of the view, in pixels of the page: where the selected element stands and which of its
-// grips can be dragged, where one is selected as a whole, and the signs of what has no picture.
+// What the program paints on top of the view, in CSS pixels of the page: if an element is selected as a whole, its
+// rectangle and the grips that can be dragged, and the signs of elements that aren't visible.
 const place = () => {
     const element = looks.browseMode ? null : selectedControl();
     const box = element?.getBoundingClientRect();
@@ -69,7 +70,7 @@ const answer = (value = null) => ({value, state: stamped(state())});
 
 let isComplete = false;
 
-// The whole page is there: from now on whatever happens to it is a change.
+// The page is complete: from now on everything that happens to it is a change.
 const begin = text => {
     isComplete = true;
     if (isPlain)
@@ -97,7 +98,7 @@ globalThis.zephiraDesigner = {
             begin(text);
             return answer();
         }
-        // A style sheet in the body holds up what follows it.
+        // A style sheet in the body delays the content after it.
         document.addEventListener('DOMContentLoaded', () => {
             begin(text);
             tell('complete', state());
@@ -105,7 +106,7 @@ globalThis.zephiraDesigner = {
         return null;
     },
 
-    // For who missed the report: the state of a page that is there, else nothing.
+    // For a caller who missed the report: the state of a complete page, else null.
     completed: () => (isComplete ? answer() : null),
 
     run: (number, argument) => answer(runCommand(number, argument)),
@@ -124,7 +125,7 @@ globalThis.zephiraDesigner = {
 
     state: () => answer(),
     text() {
-        // What has happened, but hasn't been told of, is in the text, too.
+        // Changes that happened but weren't reported yet are in the text, so they must be counted.
         history.openChanges();
         return answer(stamped(copyOfPage()));
     },

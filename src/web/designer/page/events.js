@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the user does on the page with mouse and keys, where the engine's own way isn't the designer's.
+// Handles the mouse and the keys where the designer's behaviour differs from the engine's.
 
 import {Command} from './command.js';
 import {history} from './history.js';
@@ -14,14 +14,14 @@ import {controlNames, isAbsolute, placeCaret, placeCaretIn, selectedControl, sel
 import {currentTable} from './tables.js';
 import {beforeInputActions, inputActions} from './typing.js';
 
-// How many key presses the page has seen.
+// The number of key presses that the page has handled.
 export let keysSeen = 0;
 
 let drag = null;
-// The element that a click selected and a second click may open for typing.
+// The element that a click has selected, which a second click may open for typing.
 let clicked = null;
 
-// The element that a click at a node selects. A table is too large to be meant.
+// The element selected by a click at a node. Tables are excluded: a click in a table is meant for its content.
 const clickSelector = [...controlNames].filter(name => name !== 'table').join(',');
 
 const controlAt = node => {
@@ -35,7 +35,7 @@ const controlAt = node => {
     return null;
 };
 
-// The context menu is about what lies under the mouse.
+// The context menu refers to the element at the mouse pointer.
 const selectForMenu = event => {
     const element = controlAt(event.target);
     const range = caretRangeFromPoint(event.clientX, event.clientY);
@@ -59,7 +59,7 @@ const onMouseDown = event => {
     clicked = element && element === selected ? element : null;
     if (!element)
         return;
-    // A selected element in the flow of the text is dragged like text.
+    // A selected element in the text flow is dragged like text.
     if (element === selected && !grip && !isAbsolute(element))
         return;
     event.preventDefault();
@@ -109,8 +109,8 @@ const moveToCell = (table, step) => {
         placeCaretIn(next);
 };
 
-// The engine's history knows nothing of the designer's commands, and its clipboard nothing of the marks: these keys are
-// the designer's. The clipboard is the program's.
+// The engine's history doesn't know the designer's commands, and its clipboard doesn't know the marks, so the designer
+// handles these keys. The program provides the clipboard.
 const keyActions = {
     'control+z': () => history.undo(),
     'control+shift+z': () => history.redo(),
@@ -140,7 +140,7 @@ const onKeyDown = event => {
     reportState();
 };
 
-// How many changes of the open step were there before the engine began with what a key wants.
+// The number of changes in the open step before the engine handled the current input.
 let changesBefore = 0;
 
 const onBeforeInput = event => {
@@ -161,13 +161,13 @@ const onInput = event => {
     reportState();
 };
 
-// By whatever other way the engine is told to use its clipboard, it doesn't.
+// The engine must not use its clipboard, whatever triggers it.
 const onClipboard = event => {
     if (!looks.browseMode)
         event.preventDefault();
 };
 
-// Moving by the mouse: the nodes themselves go to the new place.
+// Dragging with the mouse: the range that is being moved.
 let dragged = null;
 
 const onDragStart = event => {
@@ -201,7 +201,7 @@ const listeners = {
     selectionchange: onSelectionChange, input: onInput, scroll: () => reportPlace(), load: () => reportPlace(),
 };
 
-// Opening a document anew takes its listeners away.
+// Must be repeated after a document is opened, which removes its listeners.
 export const listen = () => {
     for (const [type, listener] of Object.entries(listeners))
         document.addEventListener(type, listener, {capture: true});

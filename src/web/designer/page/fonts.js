@@ -12,7 +12,7 @@ export const fontName = () => nativeValue('fontName').replaceAll('"', '').replac
 
 export const fontSize = () => Number(nativeValue('fontSize')) || 0;
 
-// Whether the texts of the selection differ in a property.
+// Whether the selected texts differ in a property.
 export const isMixed = property => {
     const range = currentRange();
     if (range.collapsed)
@@ -32,7 +32,7 @@ export const setFontSize = argument => {
         nativeCommand('fontSize', false, String(size));
 };
 
-// What the font dialog starts with, and what it gives back: sizes in points.
+// The initial values of the font dialog, in the same form as its result; sizes in points.
 export const describeFont = () => ({
     name: fontName(),
     size: pointSizes[fontSize() - 1] ?? pointSizes[2],
@@ -47,7 +47,7 @@ const nearestSize = points => {
     return distances.indexOf(Math.min(...distances)) + 1;
 };
 
-// Changes no more than what differs from the font that is there.
+// Changes only what differs from the current font.
 export const applyFont = font => {
     const before = describeFont();
     if (font.name !== before.name)

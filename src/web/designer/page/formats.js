@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Gives paragraphs another format, or makes lists of them.
+// Changes the format of paragraphs, or turns them into lists.
 
 import {blockFormats, selectedFormats, selectedParagraphs, wrapParagraph} from './blocks.js';
 import {liftSelectedItems} from './lists.js';
 import {bodyElement, createElement, isBlankText, isElement, moveChildren, renameElement} from './nodes.js';
 import {bookmark, placeCaretIn, restore} from './selection.js';
 
-// Gives a paragraph an element of that name; `replaced` learns what has taken whose place.
+// Changes a paragraph into an element of that name; `replaced` maps the old element to the new one.
 const makeBlock = (paragraph, name, replaced) => {
     if (!paragraph.element)
         return wrapParagraph(paragraph, name);
@@ -18,7 +18,7 @@ const makeBlock = (paragraph, name, replaced) => {
     return block;
 };
 
-// Puts blocks that follow each other into one list, together with a list of the same kind before them.
+// Puts consecutive blocks into one list, or into a list of the same kind that precedes them.
 const makeList = (blocks, format, replaced) => {
     let list = null;
     for (const block of blocks) {
@@ -55,7 +55,7 @@ export const setBlockFormat = name => {
         placeCaretIn(replaced.get(blocks[0]) ?? blocks[0]);
 };
 
-// Makes a list of the selection, or text of the list.
+// Turns the selection into a list, or a list back into text.
 export const toggleList = name => {
     if (selectedFormats().every(format => format === name))
         setBlockFormat('Normal');

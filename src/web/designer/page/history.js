@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// One history for everything that happens to the page: typing, the engine's commands and the designer's own. It records
-// what the document tells of its changes and turns that round, step by step.
+// One history for all changes of the page: typing, the engine's commands and the designer's own. It records the
+// document's mutations and reverts them, step by step.
 
 import {isElement} from './nodes.js';
 import {bookmark, restore} from './selection.js';
 
 class History {
-    // Typing becomes a step of its own after this many milliseconds of rest.
+    // Typing becomes a step of its own after a pause of this many milliseconds.
     static typingRest = 600;
     static mostSteps = 1000;
 
-    // What is called after each change; whoever wants to know sets it.
+    // Called after each change; set by the module that needs it.
     changed = () => {};
 
     constructor() {
@@ -22,7 +22,7 @@ class History {
         this.reset();
     }
 
-    // The page as it is now is the beginning.
+    // Makes the current page the starting point.
     reset() {
         this.observer.disconnect();
         this.observer.takeRecords();
@@ -55,13 +55,13 @@ class History {
         return this.undone.length > 0;
     }
 
-    // The caret stands where a change is about to happen.
+    // Call before a change, to store the position of the caret.
     expectChange() {
         if (!this.open || this.open.changes.length === 0)
             this.open = {changes: [], before: bookmark(), after: null};
     }
 
-    // All that the action does is one step.
+    // Makes everything that the action does one step.
     run(action) {
         this.close();
         this.expectChange();
@@ -73,20 +73,20 @@ class History {
         }
     }
 
-    // The changes of the step that hasn't ended, up to now.
+    // The changes of the open step so far.
     openChanges() {
         this.#record(this.observer.takeRecords());
         return this.open?.changes ?? [];
     }
 
-    // The changes that an action makes, within run().
+    // The changes that an action makes; for use within run().
     changesOf(action) {
         const first = this.openChanges().length;
         action();
         return this.openChanges().slice(first);
     }
 
-    // What follows until release() is one step, however long it takes.
+    // Everything until release() is one step, however long it takes.
     hold() {
         this.close();
         this.expectChange();
@@ -167,7 +167,7 @@ class History {
         this.changed();
     }
 
-    // A text or an attribute that changes again and again keeps its first value alone.
+    // If a text or an attribute changes repeatedly, only its first value is kept.
     #add(record) {
         const last = this.open.changes.at(-1);
         if (record.type === 'childList') {
@@ -184,8 +184,8 @@ class History {
         }
     }
 
-    // What the elements hold that a step has put into the page. The engine likes to move live nodes into an element before
-    // it puts that into the document, and nobody tells of that.
+    // The contents of the elements that a step has added to the page. The engine often moves live nodes into an element
+    // before it inserts that into the document, and such moves aren't reported.
     static #contentsOf(changes) {
         const contents = new Map();
         const keep = element => {
@@ -201,7 +201,7 @@ class History {
         return contents;
     }
 
-    // Takes a change back, or makes it again. Values change places with what stands in the page.
+    // Reverts a change, or repeats it. The stored value and the current one are swapped.
     static #turn(change, again) {
         const target = change.target;
         if (change.type === 'childList') {

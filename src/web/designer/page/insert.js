@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What is put into the page and taken out of it.
+// Inserts content into the page and removes it.
 
 import {showMarks} from './marks.js';
 import {
@@ -13,7 +13,7 @@ import {
 } from './selection.js';
 import {deleteAcrossLines} from './typing.js';
 
-// Markup from elsewhere comes with its own style sheets and notes to other programs.
+// Markup from other programs contains style sheets and metadata of its own.
 const foreignSelector = 'meta,link,style,script,title,base';
 
 const cleanForeign = fragment => {
@@ -27,7 +27,7 @@ const cleanForeign = fragment => {
         comment.remove();
 };
 
-// Takes out what is selected; the range stands at the gap.
+// Removes the selection; returns the range where it was.
 const clearSelection = range => {
     const control = selectedControl();
     if (control)
@@ -37,7 +37,7 @@ const clearSelection = range => {
     return getSelection().rangeCount > 0 ? getSelection().getRangeAt(0) : range;
 };
 
-// A paragraph can't hold blocks: it is cut at the caret, and what is put in goes between its halves.
+// A paragraph can't contain blocks: it is split at the caret, and the new nodes are inserted between its halves.
 const insertIntoParagraph = (paragraph, range, nodes) => {
     const rest = splitElement(paragraph, range.startContainer, range.startOffset);
     paragraph.after(...nodes);
@@ -47,7 +47,7 @@ const insertIntoParagraph = (paragraph, range, nodes) => {
     }
 };
 
-// The break that keeps a block open which is about to get a content.
+// The break in an empty block, which is no longer needed when the block gets content.
 const fillerOf = block => {
     const breaks = block && isEmptyElement(block) ? block.querySelectorAll('br') : [];
     return breaks.length === 1 ? breaks[0] : null;
@@ -60,8 +60,8 @@ const placeCaretBehind = node => {
         placeCaret(node.parentNode, indexOf(node) + 1);
 };
 
-// Puts markup in the place of the selection and the caret behind it; into plain text, as text. Gives the nodes that were
-// put in.
+// Replaces the selection by markup and places the caret after it; in plain text the markup is inserted as text. Returns
+// the inserted nodes.
 export const insertMarkup = (markup, isForeign) => {
     if (isPlain)
         return insertPlainText(markup);
@@ -113,7 +113,7 @@ export const unlink = () => {
     restore(mark);
 };
 
-// An empty address takes the link away. Where nothing is selected the address becomes the text.
+// An empty address removes the link. If nothing is selected, the address becomes the link's text.
 export const setLink = address => {
     const link = linkElement();
     if (address === '') {
@@ -145,7 +145,8 @@ export const insertImage = address => {
 const wholeNames = wordSet('table ol ul dir menu dl');
 const partNames = wordSet('table thead tbody tfoot tr ol ul dir menu dl');
 
-// The selection as markup, or as the plain text that it is, with the inline elements around it and what a part of a list or table needs to be one.
+// The selection as markup, with the inline elements around it, and the list or table that a part of one belongs to; for
+// plain text, its text.
 export const selectionMarkup = () => {
     if (isPlain)
         return selectedPlainText();

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Items of lists on their way from one depth to another.
+// Changes the depth of list items.
 
 import {itemSelector, listNames, selectedParagraphs, startOf} from './blocks.js';
 import {closest, containsBlock, emptyTwin, isElement, isNamed, renameElement, unwrapElement} from './nodes.js';
 import {bookmark, restore} from './selection.js';
 import {runNative} from './styles.js';
 
-// Cuts a list in two behind an item, which comes to stand between the halves. Gives the second one, or null.
+// Splits a list after an item and moves the item between the halves. Returns the second half, or null.
 const cutList = item => {
     const list = item.parentNode;
     const following = [];
@@ -26,7 +26,7 @@ const cutList = item => {
     return rest;
 };
 
-// Takes an item out of its list for good.
+// Takes an item out of its list and turns it into a paragraph or its blocks.
 const liftItem = item => {
     if (!isNamed(item.parentNode, listNames))
         return;
@@ -47,14 +47,15 @@ export const liftSelectedItems = () => {
     restore(mark);
 };
 
-// The items of the selection, without those that lie within another one.
+// The selected items, except for those inside other selected ones.
 const selectedItems = () => {
     const items = [...new Set(selectedParagraphs().map(paragraph => closest(startOf(paragraph), 'blockquote,li')))]
         .filter(item => item?.localName === 'li' && isNamed(item.parentNode, listNames));
     return items.filter(item => !items.some(other => other !== item && other.contains(item)));
 };
 
-// Into a list of its own kind within the item before it; the first item goes into one that stands in its place.
+// Moves an item into a list of the same kind within the previous item; the first item is moved into a new list in its
+// place.
 export const deepenItem = item => {
     const list = item.parentNode;
     const before = item.previousElementSibling;
@@ -70,7 +71,7 @@ export const deepenItem = item => {
     inner.append(item);
 };
 
-// Behind the item that holds its list; the items that followed it stay below it.
+// Moves an item after the item that contains its list; the items that followed it become its children.
 export const raiseItem = item => {
     const outer = item.parentNode.parentNode;
     if (outer.localName !== 'li' && !isNamed(outer, listNames)) {
@@ -85,7 +86,7 @@ export const raiseItem = item => {
         item.append(rest);
 };
 
-// Moves the selected items, or, where there are none, has the engine move the paragraphs.
+// Moves the selected items, or, if there are none, lets the engine indent or outdent the paragraphs.
 export const changeDepth = (moveItem, name) => {
     const items = selectedItems();
     if (items.length === 0) {

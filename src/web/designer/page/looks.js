@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What is shown beside the page itself. It is in style sheets that belong to the view or painted by the program, so that
-// nothing of it can get into the page's text.
+// What is shown in addition to the page itself. It is in style sheets that belong to the view or painted by the
+// program, so that none of it can get into the page's text.
 
 import {markName} from './marks.js';
 import {bodyElement, nativeCommand, setDocumentMember} from './nodes.js';
@@ -13,7 +13,7 @@ const glyphLook = `all: initial; display: inline-block !important; font: 10px/14
     margin: 0 1px; border: 1px solid #b08000; border-radius: 2px; background: #fff4c8; color: #604800;
     vertical-align: baseline; white-space: nowrap;`;
 
-// Elements that show nothing by themselves, and the word that stands for each.
+// Elements that aren't visible by themselves, and the word shown for each.
 const glyphs = [
     ['a[name]:not([href]), a[id]:not([href], [name])', 'anchor'],
     ['form', 'form'],
@@ -27,10 +27,11 @@ const glyphs = [
     ['body meta', 'meta'],
 ];
 
-// These would show their text if they were given a place.
+// The text of these would become visible if they were displayed.
 const silentGlyphs = ['script', 'style', 'title'];
 
-// The engine gives no place at all to these, or, to a line break, one without a width. Their signs are painted on top.
+// The engine gives these elements no box at all, or, for a line break, one without a width. Their signs are painted on
+// top.
 const paintedSigns = [
     ['br', '\u21b5'],
     ['input[type=hidden]', 'hidden'],
@@ -40,7 +41,7 @@ const paintedSigns = [
 const mostSigns = 2000;
 const signHeight = 10;
 
-// Behind what comes before the element and has a place, or at the corner of the parent; in pixels of the page.
+// The end of the nearest preceding sibling that has a box, or the parent's corner; in CSS pixels of the page.
 const placeOfUnseen = element => {
     const range = new Range();
     for (let before = element.previousSibling; before; before = before.previousSibling) {
@@ -53,7 +54,7 @@ const placeOfUnseen = element => {
     return {x: box.left, y: box.top - signHeight / 2};
 };
 
-// The signs that the program paints, from the part of the page that is in sight.
+// The signs that the program paints, for the visible part of the page.
 export const signsInSight = () => {
     if (!looks.details || looks.browseMode || isPlain || !bodyElement())
         return [];
@@ -91,7 +92,7 @@ const markRules = () => [
 
 const hiddenMarkRules = () => [`${markName} { display: none !important; }`];
 
-// The pointer over a grip.
+// The mouse pointer over a grip.
 export const cursorSheet = new CSSStyleSheet();
 
 const sheetOf = rules => {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What stands for server code and comments arrives as comments of one word. Where a sign can be shown, an element takes
-// the comment's place, so that a user sees it, and can select, move and delete it.
+// Server code and comments are represented by comments of one word. Where a sign can be shown, such a comment is
+// replaced by an element, so that the user can see, select, move and delete it.
 
 import {bodyElement, closest, createElement, createTreeWalker, isNamed, rootElement, tightNames} from './nodes.js';
 
@@ -15,7 +15,7 @@ export const setMarkPrefix = prefix => {
 
 const isMarkComment = node => new RegExp(`^${markPrefix}x\\d+[sc]$`).test(node.data);
 
-// Behind stray end tags a comment finds its place outside the root element; there nobody would see it or keep it.
+// After stray end tags, a comment ends up outside the root element, where it would be invisible and get lost.
 export const gatherComments = () => {
     const host = bodyElement() ?? rootElement();
     const outside = [...document.childNodes].filter(node => node.nodeType === Node.COMMENT_NODE);

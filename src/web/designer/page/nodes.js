@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Elements of the page can bear names that hide the document's own members (<img name=body>), so that those are taken
-// from the prototype.
+// Elements of a page can have names that hide the document's own members (<img name=body>), so those are taken from the
+// prototype.
 
 const documentMember = name => {
     const member = Object.getOwnPropertyDescriptor(Document.prototype, name);
@@ -31,9 +31,9 @@ const blockNames = wordSet(`address article aside blockquote body caption center
     figcaption figure footer form h1 h2 h3 h4 h5 h6 header hr li main menu nav ol p pre section table tbody td tfoot th
     thead tr ul`);
 const blockSelector = [...blockNames].join(',');
-// Blocks whose content a browser ends at the first tag of another block.
+// Blocks that a browser ends at the start tag of another block.
 export const paragraphNames = wordSet('p h1 h2 h3 h4 h5 h6 pre address');
-// Places where nothing but certain elements may stand, so that nothing can be shown there.
+// Elements that may contain only certain other elements, so that nothing can be shown in them.
 export const tightNames = wordSet('html head frameset table thead tbody tfoot tr colgroup select optgroup datalist');
 
 export const isElement = node => node.nodeType === Node.ELEMENT_NODE;
@@ -53,20 +53,20 @@ export const closestBlock = node => {
 export const containsBlock = node => isElement(node) && node.querySelector(blockSelector) !== null;
 export const indexOf = node => Array.prototype.indexOf.call(node.parentNode.childNodes, node);
 
-// Whether a user sees anything in an element.
+// Whether an element shows nothing to the user.
 export const isEmptyElement = element =>
     /^[ \t\r\n\f]*$/.test(element.textContent) && !element.querySelector('img,input,button,select,textarea,hr,table,'
         + 'object,embed,iframe,video,audio,canvas,svg,a[name],zephira-mark');
 
-// Changes inside a subtree that isn't in the document are seen by nobody and can't be undone. So new elements go into the
-// document first, and live nodes are moved into them one by one.
+// Changes in a subtree outside the document aren't observed and can't be undone. So new elements are inserted into the
+// document first, and live nodes are then moved into them one by one.
 export const moveChildren = (from, to) => {
     while (from.firstChild)
         to.append(from.firstChild);
 };
 
-// An attribute that comes back when this is taken back comes last. So those behind it go and come, too, in the order that
-// gives them their places again.
+// An attribute that is restored by undo becomes the last one. So the attributes after it are removed and set again too,
+// in an order that makes undo restore their positions.
 const plainName = /^[a-z_:][\w:.-]*$/i;
 
 export const dropAttribute = (element, name) => {
@@ -99,14 +99,14 @@ export const unwrapElement = element => {
     element.remove();
 };
 
-// An empty element like another one, for what is cut off from it. A name stays with the first.
+// An empty copy of an element, for the part that is split off. An id stays with the first part.
 export const emptyTwin = element => {
     const twin = element.cloneNode(false);
     twin.removeAttribute('id');
     return twin;
 };
 
-// Cuts an element in two at a place within it; gives the second part, which follows the first.
+// Splits an element at a position inside it; returns the second part, which follows the first.
 export const splitElement = (element, node, offset) => {
     let rest;
     if (isText(node)) {

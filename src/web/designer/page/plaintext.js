@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Documents that are no markup, as programs and style sheets: their text stands in one element as it is, is edited as
-// text, and comes back as it stands there.
+// Documents that aren't markup, such as programs and style sheets: their text is put into one element unchanged, is
+// edited as text, and is returned unchanged.
 
 import {Command} from './command.js';
 import {history} from './history.js';
@@ -17,10 +17,10 @@ export const setPlain = wanted => {
 
 export const plainShell = '<!DOCTYPE html><pre></pre>';
 
-// Whatever the engine puts around the text, blanks and line ends keep their meaning in it.
+// Blanks and line ends are preserved in whatever elements the engine puts around the text.
 export const plainRules = ['* { white-space: pre-wrap !important; overflow-wrap: anywhere !important; }'];
 
-// All others make markup.
+// All other commands produce markup.
 export const plainCommands = new Set([Command.Copy, Command.Cut, Command.Delete, Command.FindText, Command.Paste, Command.Redo,
     Command.SelectAll, Command.Undo]);
 
@@ -31,7 +31,7 @@ const lastLeaf = root => {
     return leaf;
 };
 
-// A break behind the text makes room for the caret behind its last line end. It is no part of the text.
+// A break after the text makes room for the caret after its last line end. It is not part of the text.
 const openLastLine = () => {
     const leaf = lastLeaf(bodyElement());
     if (leaf.localName !== 'br')
@@ -43,7 +43,7 @@ export const showPlainText = text => {
     openLastLine();
 };
 
-// A caret beside the element that holds the text means the text's beginning or end.
+// A caret before or after the element with the text is moved to the text's beginning or end.
 const moveIntoText = range => {
     const holder = bodyElement().querySelector('pre');
     if (!holder || holder.contains(range.startContainer))
@@ -55,7 +55,7 @@ const moveIntoText = range => {
     range.collapse(true);
 };
 
-// The text of what a node holds. A break ends a line, and so does a block that follows something.
+// The text in a node. A break ends a line, and a block that follows other content begins a new one.
 const textIn = root => {
     const opening = lastLeaf(root);
     let text = '';
@@ -79,7 +79,7 @@ const textIn = root => {
 export const plainText = () => textIn(bodyElement());
 export const selectedPlainText = () => textIn(currentRange().cloneContents());
 
-// Puts a text in the place of the selection and the caret behind it.
+// Replaces the selection by a text and places the caret after it.
 export const insertPlainText = text => {
     const range = currentRange();
     range.deleteContents();
@@ -92,7 +92,7 @@ export const insertPlainText = text => {
 
 const lineEndInputs = new Set(['insertParagraph', 'insertLineBreak']);
 
-// The engine would end lines by elements, and knows keys that format.
+// The engine would end lines with elements, and supports keys that change the format.
 export const onPlainInput = event => {
     if (lineEndInputs.has(event.inputType))
         history.run(() => insertPlainText('\n'));

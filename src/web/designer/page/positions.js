@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Elements that stand at a place of their own: position, order of depth, lock, and the mouse.
+// Positioned elements: position, stacking order, lock, and dragging with the mouse.
 
 import {looks} from './looks.js';
 import {markName} from './marks.js';
@@ -14,7 +14,7 @@ const firstDepth = 100;
 
 export const isLocked = element => element.hasAttribute(lockAttribute);
 
-// The element that the commands for positions mean: the selected one, or the positioned one around the caret.
+// The element that the position commands act on: the selected one, or the positioned one around the caret.
 export const positionTarget = () => {
     const control = selectedControl();
     if (control)
@@ -44,7 +44,7 @@ export const toggleAbsolute = () => {
         for (const property of ['position', 'left', 'top', 'z-index'])
             setStyle(target, property, '');
         dropAttribute(target, lockAttribute);
-        // A style sheet of the page may want it so.
+        // A style sheet of the page may still make it absolute.
         if (isAbsolute(target))
             setStyle(target, 'position', 'static');
         return;
@@ -67,8 +67,8 @@ export const toggleLock = () => {
         target.setAttribute(lockAttribute, 'true');
 };
 
-// Elements below the text have a depth under 0. Within its side of the text an element changes places in the order; the
-// depths stay whole numbers that grow from one element to the next, and as many of them as possible stay what they were.
+// Elements below the text have a negative depth. When an element moves in the order on its side of the text, the depths
+// stay integers that increase from one element to the next, and as few of them as possible change.
 const layersOf = isAbove => positionedElements().map((element, place) => ({element, place, depth: depthOf(element)}))
     .filter(layer => (layer.depth >= 0) === isAbove)
     .sort((a, b) => a.depth - b.depth || a.place - b.place);
@@ -93,7 +93,7 @@ const setOrder = (layers, depths, isAbove) => {
     });
 };
 
-// `placeFor` gives the new place in the order from the old one and the number of elements.
+// `placeFor` returns the new index in the order, given the old one and the number of elements.
 export const reorder = placeFor => {
     const target = positionedTarget();
     const isAbove = depthOf(target) >= 0;
@@ -108,7 +108,7 @@ export const reorder = placeFor => {
     setOrder(layers, depths, isAbove);
 };
 
-// Crosses the text: to the place that is nearest to it on the other side.
+// Moves an element to the other side of the text, as close to the text as possible.
 export const crossText = toAbove => {
     const target = positionedTarget();
     if ((depthOf(target) >= 0) === toAbove)
@@ -121,7 +121,7 @@ export const crossText = toAbove => {
         setOrder([...others, layer], [...others.map(each => each.depth), -1], false);
 };
 
-// What can be dragged at: grips on the corners and sides of the selected element, given by their place from 0 to 1.
+// The grips on the corners and sides of the selected element, at positions from 0 to 1.
 const gripReach = 5;
 const grips = [
     {x: 0, y: 0, cursor: 'nw-resize'}, {x: 0.5, y: 0, cursor: 'n-resize'}, {x: 1, y: 0, cursor: 'ne-resize'},
@@ -131,7 +131,7 @@ const grips = [
 
 const isSizable = element => element.localName !== markName && !isLocked(element);
 
-// An element in the flow of the text keeps its upper left corner.
+// The upper left corner of an element in the text flow can't be moved.
 export const gripsOf = element => {
     if (!isSizable(element))
         return [];
@@ -161,8 +161,8 @@ const lengthOfStyle = (element, property, fallback) => {
     return Number.isFinite(length) ? length : fallback;
 };
 
-// A movement of the mouse with the button down. It begins after a few pixels, so that a click is no movement, and is one
-// step of the history.
+// A drag with the mouse button held down. It starts after a few pixels, to distinguish it from a click, and is one step
+// of the history.
 export class Drag {
     static threshold = 3;
 
@@ -198,7 +198,7 @@ export class Drag {
         this.#stretch('height', this.height, 'top', this.top, dy, this.grip.y);
     }
 
-    // `side` is 0 for a grip on the near side, which moves the element too, 1 on the far side, and 0.5 on neither.
+    // `side` is 0 for a grip on the near side, which moves the element too, 1 for the far side, and 0.5 for neither.
     #stretch(size, length, edge, place, distance, side) {
         if (side === 0.5)
             return;

@@ -1,35 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the page tells the program by itself. All of it goes one way: a report with its kind, which says what the others of
-// its members are.
+// The reports that the page sends to the program on its own, all through one channel. The kind of a report determines
+// its other members.
 
 import {markPrefix} from './marks.js';
 
-// What is told before the way to the program stands waits for it.
+// Reports made before the channel to the program is open.
 let early = [];
 let send = report => early.push(report);
 let describe = {state: () => ({}), place: () => ({}), copy: () => ({})};
 let reporting = false;
 let reportsMade = 0;
 
-// As soon as the way to the program stands.
+// Called as soon as the channel to the program is open.
 export const reportTo = wanted => {
     send = wanted;
     early.forEach(send);
     early = [];
 };
 
-// Who knows what is to be told.
+// Sets the functions that provide the content of reports.
 export const reportBy = wanted => {
     describe = wanted;
 };
 
-// Whoever gets a report knows by this which page it is about, and whether there has been a newer one.
+// Tells the receiver of a report which page it is about and whether there has been a newer one.
 export const stamped = report => ({...report, page: markPrefix, number: ++reportsMade});
 
 export const tell = (kind, report) => send(stamped({...report, kind}));
 
-// Many events in a row make one report.
+// Combines the reports of several events in a row into one.
 export const reportState = () => {
     if (reporting)
         return;
@@ -44,5 +44,5 @@ export const reportPlace = () => tell('place', describe.place());
 
 export const reportCopy = () => tell('copy', describe.copy());
 
-// The user wants by the keyboard what the program does.
+// Requests a command from the program, for a key.
 export const wantCommand = command => tell('command', {command});

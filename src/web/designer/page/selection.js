@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The selection, and what lies in it.
+// The selection and its contents.
 
 import {bodyElement, createTreeWalker, isBlankText, isElement, isNamed, isText, rootElement, wordSet} from './nodes.js';
 
@@ -11,7 +11,7 @@ export const controlNames = wordSet(`img input select textarea button object emb
 export const isAbsolute = element => getComputedStyle(element).position === 'absolute';
 const isControl = node => isElement(node) && node !== bodyElement() && (isNamed(node, controlNames) || isAbsolute(node));
 
-// The selection outlives the focus, but not every change of the page.
+// Kept when the page loses the focus; some changes of the page invalidate it.
 let lastRange = null;
 
 export const currentRange = () => {
@@ -68,7 +68,7 @@ export const bookmark = () => {
 
 const lengthOf = node => isElement(node) ? node.childNodes.length : node.length;
 
-// A bookmark whose nodes have gone is left alone. `replaced` tells what stands in the place of elements.
+// Ignores a bookmark whose nodes are gone. `replaced` maps elements to their replacements.
 export const restore = (mark, replaced = new Map()) => {
     if (!mark)
         return;
@@ -79,7 +79,7 @@ export const restore = (mark, replaced = new Map()) => {
             focus, Math.min(mark.focusOffset, lengthOf(focus)));
 };
 
-// Whether a range reaches into a node, and not only to its edge.
+// Whether a range includes content of a node, rather than only touching its edge.
 export const reaches = (range, node) => {
     if (!range.intersectsNode(node))
         return false;
@@ -91,10 +91,10 @@ export const reaches = (range, node) => {
     return lead.toString() !== '';
 };
 
-// How many texts and paragraphs of a selection are looked at for what they have in common.
+// The maximum number of texts and paragraphs of a selection that are examined for common properties.
 export const mostLookedAt = 500;
 
-// The text nodes of a range that show something, `most` of them at most.
+// The visible text nodes of a range, at most `most` of them.
 export const selectedTexts = (range, most) => {
     const texts = [];
     if (isText(range.commonAncestorContainer))

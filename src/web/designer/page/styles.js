@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The engine rewrites a style attribute as a whole when one property changes, and drops what it doesn't know. Here the
-// author's text stays, apart from the property in question.
+// When one property changes, the engine rewrites the whole style attribute and drops what it doesn't know. Here the
+// author's text is kept except for that property.
 
 import {history} from './history.js';
 import {createElement, dropAttribute, nativeCommand} from './nodes.js';
@@ -32,7 +32,7 @@ const declarationsOf = text => {
 
 const propertyOf = declaration => declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase();
 
-// The style text with a property set, or, for an empty value, taken out.
+// The style text with a property set, or removed if the value is empty.
 const styleTextWith = (text, property, value) => {
     const declarations = declarationsOf(text);
     const others = declarations.filter(declaration => propertyOf(declaration) !== property);
@@ -69,7 +69,7 @@ export const parsedStyle = text => {
 const changedProperties = (before, after) => [...new Set([...before, ...after])]
     .filter(property => before.getPropertyValue(property) !== after.getPropertyValue(property));
 
-// Gives elements that the engine has restyled their own text back, with the engine's changes in it.
+// Restores the original style text of elements that the engine has restyled, and applies the engine's changes to it.
 const keepStyleTexts = changes => {
     for (const {type, target, name, value} of changes) {
         const now = target.isConnected && type === 'attributes' && name === 'style' ? target.getAttribute('style') : null;
@@ -79,12 +79,12 @@ const keepStyleTexts = changes => {
         let text = value;
         for (const property of changedProperties(parsedStyle(value), after))
             text = styleTextWith(text, property, after.getPropertyValue(property));
-        // What can't be said beside the old text stays as the engine said it.
+        // If the result doesn't have the same meaning, the engine's text is kept.
         if (text !== now && changedProperties(parsedStyle(text), after).length === 0)
             target.setAttribute('style', text);
     }
 };
 
-// Runs a command of the engine, leaving style texts as their authors wrote them.
+// Runs a command of the engine but keeps the authors' style texts.
 export const runNative = (name, value = null) =>
     keepStyleTexts(history.changesOf(() => nativeCommand(name, false, value)));

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Tables as grids of cells, and what changes them.
+// Tables as grids of cells, and the operations on them.
 
 import {closest, createElement, dropAttribute, indexOf, isEmptyElement, moveChildren, wordSet} from './nodes.js';
 import {placeCaret, placeCaretIn, reaches} from './selection.js';
 
 export const tableCellNames = wordSet('td th');
 
-// A table as a grid: each place knows its cell, and each cell where it begins and how far it reaches.
+// A table as a grid: each place refers to its cell, and each cell has its first place and its extent.
 class Grid {
-    // Beyond this many places a table isn't one that a person edits.
+    // A table with more places isn't edited by hand.
     static mostPlaces = 1000000;
 
     constructor(table) {
@@ -38,7 +38,7 @@ class Grid {
         this.width = Math.max(0, ...this.places.map(row => row.length));
     }
 
-    // A cell reaches no further than the group of rows that it stands in; 0 means that far.
+    // A cell can't extend beyond its row group; a rowspan of 0 means up to the end of the group.
     #heightOf(cell, y) {
         let most = 1;
         while (y + most < this.rows.length && this.rows[y + most].parentNode === this.rows[y].parentNode)
@@ -50,12 +50,12 @@ class Grid {
         return this.places[row]?.[column] ?? null;
     }
 
-    // The spots of a row from left to right, each once.
+    // The cells of a row from left to right, without duplicates.
     spotsOf(row) {
         return [...new Set(this.places[row])].filter(spot => spot);
     }
 
-    // What a new cell of a row, for a place in a column, goes in front of; null for the end of the row.
+    // The cell before which a new cell for a column of a row is inserted; null for the end of the row.
     cellBehind(row, column) {
         return this.spotsOf(row).find(spot => spot.row === row && spot.column >= column)?.cell ?? null;
     }
@@ -73,7 +73,7 @@ export const currentTable = () => {
     return node && closest(node, 'table');
 };
 
-// The cells that the caret stands in or the selection touches, in the order of the table.
+// The cell with the caret, or the cells that the selection touches, in the order of the table.
 export const selectedCells = () => {
     const table = currentTable();
     if (!table)
@@ -87,7 +87,7 @@ export const selectedCells = () => {
 
 const fillCell = cell => cell.append(createElement('br'));
 
-// A cell like another one, but empty and of one place.
+// An empty copy of a cell that spans one place.
 const cellLike = cell => {
     const fresh = cell.cloneNode(false);
     for (const name of ['id', 'rowspan', 'colspan'])
@@ -112,7 +112,7 @@ export const selectedGrid = () => {
     return {grid, spots, ...boundsOf(spots)};
 };
 
-// Below the selected rows.
+// Inserts a row below the selected ones.
 export const insertRow = ({grid, bottom}) => {
     const model = grid.rows[bottom];
     const row = model.cloneNode(false);
@@ -131,7 +131,7 @@ export const insertRow = ({grid, bottom}) => {
         placeCaretIn(row.firstChild);
 };
 
-// To the right of the selected columns.
+// Inserts a column to the right of the selected ones.
 export const insertColumn = ({grid, top, right}) => {
     let first = null;
     const widened = new Set();
@@ -157,7 +157,7 @@ export const insertColumn = ({grid, top, right}) => {
         placeCaretIn(first);
 };
 
-// The col element of a column, where each column has one.
+// Calls `action` with the col element of a column, if every column has its own.
 const eachColumn = (table, index, action) => {
     const columns = [...table.querySelectorAll(':scope > col, :scope > colgroup > col')];
     if (columns[index] && columns.every(column => column.span === 1))
@@ -171,7 +171,8 @@ export const insertCell = ({spots}) => {
     placeCaretIn(cell);
 };
 
-// After cells have gone: what is left of a table without cells goes too, and the caret stands in the nearest cell.
+// Cleans up after cells were removed: removes empty rows and sections, or the whole table if it has no cells, and
+// places the caret in the nearest cell.
 const tidyTable = (table, row, column) => {
     for (const each of [...table.querySelectorAll('tr')].filter(tr => tr.closest('table') === table)) {
         if (!each.querySelector('td,th'))
@@ -194,7 +195,7 @@ const tidyTable = (table, row, column) => {
     placeCaretIn(spot.cell);
 };
 
-// A cell that reaches beyond the row moves on to the next one.
+// Removes a row. A cell that extends below it moves to the next row.
 const removeRow = (table, y) => {
     const grid = new Grid(table);
     for (const spot of grid.spotsOf(y)) {
@@ -234,7 +235,7 @@ export const deleteCells = ({grid, spots, top, left}) => {
     tidyTable(grid.table, top, left);
 };
 
-// The smallest rectangle that holds the cells and cuts no other.
+// The smallest rectangle that contains the cells and doesn't cut through others.
 const closedBounds = (grid, spots) => {
     let bounds = boundsOf(spots);
     for (let grown = true; grown;) {
@@ -271,8 +272,8 @@ export const mergeCells = ({grid, spots}) => {
     placeCaretIn(first.cell);
 };
 
-// Into two cells side by side, or, for a cell that is only high, into two on top of each other. A cell of one place makes
-// room by widening the others of its column.
+// Splits a cell into two side by side, or, if it spans only rows, into two on top of each other. For a cell of one
+// place, the other cells of its column are widened to make room.
 export const splitCell = ({grid, spots}) => {
     const [spot] = spots;
     const fresh = cellLike(spot.cell);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the keys do to paragraphs, where the engine would write the paragraph anew: it gives what it joins styles of its
-// own, and loses comments and the order of attributes. Here the author's own nodes move.
+// Handles keys in paragraphs where the engine would rewrite them: when it joins paragraphs, it adds styles of its own
+// and loses comments and the order of attributes. Here the original nodes are moved.
 
 import {itemNames, listNames, selectedParagraphs, wrapParagraph} from './blocks.js';
 import {history} from './history.js';
@@ -14,7 +14,7 @@ import {reportState} from './reports.js';
 import {bookmark, currentRange, isAbsolute, placeCaret, placeCaretIn, restore, selectElement} from './selection.js';
 import {parsedStyle} from './styles.js';
 
-// Blocks that are one paragraph as long as they hold no others.
+// Blocks that are a single paragraph unless they contain other blocks.
 const lineNames = new Set([...paragraphNames, 'div', 'li', 'dt', 'dd']);
 const isLine = node => isNamed(node, lineNames) && !containsBlock(node) && !isAbsolute(node);
 
@@ -28,8 +28,7 @@ const seenSibling = (node, direction) => {
     return sibling;
 };
 
-// Whether nothing that a user sees lies between two places of a line; the break that keeps an empty line open counts as
-// nothing.
+// Whether there is nothing visible between two positions in a line.
 const isNothing = (fromNode, fromOffset, toNode, toOffset) => {
     const range = new Range();
     range.setStart(fromNode, fromOffset);
@@ -52,7 +51,7 @@ const holdOpen = line => {
 
 const holderNames = new Set([...listNames, 'blockquote', 'center', 'div']);
 
-// Takes out an element and whatever holds nothing without it.
+// Removes an element, and each ancestor that is empty without it.
 const removeEmptied = element => {
     const parent = element.parentNode;
     element.remove();
@@ -65,7 +64,7 @@ const trimText = (node, pattern) => {
         node.data = node.data.replace(pattern, '');
 };
 
-// Makes one line of two, as the first one is; an empty first one goes. The caret stands where they meet.
+// Joins two lines in the first one; if the first is empty, it is removed instead. The caret is placed where they meet.
 const joinLines = (first, second) => {
     if (isEmptyElement(first)) {
         removeEmptied(first);
@@ -88,7 +87,7 @@ const joinLines = (first, second) => {
     placeCaret(node, offset);
 };
 
-// The line that meets another one at its end or start: a block itself, or the item of a list.
+// The line at the end or start of a block: the block itself, or an item of a list.
 const lineAtEdge = (block, edge) => {
     let line = block;
     while (isNamed(line, listNames) && line[edge])
@@ -96,8 +95,8 @@ const lineAtEdge = (block, edge) => {
     return line && isLine(line) ? line : null;
 };
 
-// The two lines that a selection begins and ends in; null for other selections, and those over several cells, which are
-// the engine's.
+// The lines at the beginning and the end of a selection; null if the engine should handle it, as for a selection across
+// several cells.
 const linesAcross = range => {
     const [first, second] = [closestBlock(range.startContainer), closestBlock(range.endContainer)];
     const isOurs = first !== second && isLine(first) && isLine(second)
@@ -105,7 +104,7 @@ const linesAcross = range => {
     return isOurs ? [first, second] : null;
 };
 
-// Takes out a selection that reaches from one line into another and joins what is left of them. Gives whether it did.
+// Deletes a selection across several lines and joins what is left of them. Returns whether it did.
 export const deleteAcrossLines = range => {
     const lines = linesAcross(range);
     if (!lines)
@@ -115,7 +114,7 @@ export const deleteAcrossLines = range => {
     return true;
 };
 
-// What Backspace and Delete do at the edge of a line, as something that can be run; null where it is the engine's.
+// A function for Backspace or Delete at the edge of a line; null if the engine should handle the key.
 const joinAtCaret = (node, offset, backward) => {
     const line = closestBlock(node);
     if (!line || !isLine(line) || !(backward ? isAtStart : isAtEnd)(line, node, offset))
@@ -142,7 +141,7 @@ const deleteByKey = event => {
     reportState();
 };
 
-// Text that stands bare between blocks, in a cell or on the page becomes a paragraph, so that it can be parted into two.
+// Bare text between blocks, in a cell or in the body is put into a paragraph, so that it can be split into two.
 const unpartedNames = new Set([...paragraphNames, ...itemNames, ...tightNames, 'caption']);
 const isBareDiv = block => block.localName === 'div' && block.attributes.length === 0;
 const holdsParagraphs = block => isAbsolute(block) || (!isNamed(block, unpartedNames) && !isBareDiv(block));
@@ -176,7 +175,7 @@ const beginParagraph = event => {
     }
 };
 
-// The engine gives both halves of a paragraph the same names; the first one keeps them.
+// The engine copies ids to both halves of a paragraph; only the first one keeps them.
 const nameOnce = () => {
     const block = closestBlock(getSelection().anchorNode);
     if (!block || block === bodyElement())
@@ -187,8 +186,7 @@ const nameOnce = () => {
     }
 };
 
-// Where the engine does join, it keeps the look of what it moves by spans that nobody asked for, and writes the author's
-// own ones anew.
+// When the engine joins paragraphs, it adds spans to preserve the look of what it moves, and rewrites the author's own.
 const dropJoinStyles = changes => {
     const spansIn = nodes => nodes.filter(isElement).flatMap(node => [node, ...node.querySelectorAll('span[style]')])
         .filter(node => node.localName === 'span' && node.attributes.length === 1 && node.hasAttribute('style'));
