@@ -2,7 +2,7 @@
 use strict;
 use warnings;
 
-# Makes text safe to stand in a page.
+# Makes text safe to use in a page.
 sub escape {
     my ($text) = @_;
     my %entity = ('&' => '&amp;', '<' => '&lt;', '>' => '&gt;', '"' => '&quot;');

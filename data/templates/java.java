@@ -1,5 +1,5 @@
 /**
- * Greets everybody who is named on the command line.
+ * Greets everybody named on the command line.
  */
 public class Program {
 

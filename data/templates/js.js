@@ -1,7 +1,7 @@
 "use strict";
 
 /**
- * Marks the links that point to the page that is being shown.
+ * Marks the links that point to the current page.
  */
 function markCurrentLinks(links, address) {
   for (const link of links) {

@@ -242,7 +242,7 @@ private Q_SLOTS:
         row(u"entities.txt"_s, u"–  en dash"_s, u"&ndash;"_s);
         row(u"entities.txt"_s, u"ß  sharp s"_s, u"&szlig;"_s);
         row(u"atrules.txt"_s, u"@layer"_s, u"@layer base { }"_s);
-        row(u"atrules.txt"_s, u"Reader likes dark colors"_s, u"@media (prefers-color-scheme: dark) { }"_s);
+        row(u"atrules.txt"_s, u"Reader prefers dark colors"_s, u"@media (prefers-color-scheme: dark) { }"_s);
         row(u"html.txt"_s, u"Document type"_s, u"<!DOCTYPE html>"_s);
         row(u"html.txt"_s, u"Head: character set"_s, u"<meta charset=\"utf-8\">"_s);
         row(u"scripts.txt"_s, u"Element by id"_s, u"document.getElementById(\"\")"_s);
