@@ -14,10 +14,10 @@ struct MenuItem {
     enum class Kind {
         Entry,
         Check,   ///< an entry with a check mark
-        Divider, ///< a line; it has a name only where it is an element of a menu array
+        Divider, ///< a line; it has a name only if it is an element of a menu array
         Menu,    ///< a menu with `children`
         Bar,     ///< a disabled text between the menus of the bar
-        Missing, ///< an entry whose feature isn't there yet
+        Missing, ///< an entry whose feature isn't available yet
     };
 
     QStringView name = {};

@@ -40,11 +40,11 @@ constexpr std::array<OutlineRoot, 17> roots{{
 /// The caption that a tag gets in the tree.
 enum class Show {
     Nothing,
-    Name, ///< as it is written
+    Name, ///< unchanged
     UpperName,
     Attribute,   ///< the first that is present, else `otherwise`, else the whole inner text
-    Anchor,      ///< a link where it has a target, else a bookmark
-    Declaration, ///< as Attribute, but a document type has a caption of its own
+    Anchor,      ///< a link if it has a target, else a bookmark
+    Declaration, ///< as Attribute, but a document type has its own caption
     Title,
 };
 

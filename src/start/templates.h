@@ -18,7 +18,7 @@ enum class TemplatePage { Html, Frames, Css, Web, Win32 };
 struct TemplateButton {
     TemplatePage page;
     QStringView name;    ///< objectName of the button
-    QStringView caption; ///< "" where the button bears a picture
+    QStringView caption; ///< "" if the button has a picture
     QStringView file;    ///< in the folder `templates`, or ""
     int language;        ///< row of the language list
 };

@@ -12,13 +12,13 @@ enum class PieceKind {
     Text,      ///< between tags; character references count
     Markup,    ///< angle brackets, names, blanks and quotes of tags
     Value,     ///< an attribute's value without its quotes; character references count
-    PlainText, ///< inside elements that hold text alone, such as title; character references count
-    RawText,   ///< inside script, style and their like
-    Comment,   ///< comments, and declarations that a browser takes for one
+    PlainText, ///< inside elements that contain only text, such as title; character references count
+    RawText,   ///< inside script, style and similar elements
+    Comment,   ///< comments, and declarations that a browser treats as one
     Doctype,
-    ServerText,  ///< server code, or a tag that is the server's, where text could stand
-    ServerTag,   ///< server code inside a tag, where an attribute or a part of its name could stand
-    ServerPlain, ///< server code inside a value, or inside text that holds no tags
+    ServerText,  ///< server code, or a tag for the server, where text is allowed
+    ServerTag,   ///< server code inside a tag, in the place of an attribute or part of its name
+    ServerPlain, ///< server code inside a value, or inside text that can't contain tags
 };
 
 /// A piece of the source: positions are 0-based UTF-16 code units, `end` is exclusive.
