@@ -3,26 +3,17 @@
 #include "support/testregistry.h"
 #include "syntax/styled.h"
 
+#include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-namespace {
-
-constexpr struct {
-    const char16_t *language;
-    const char16_t *file;
-} sampleFiles[] = {
-    {u"HTML", u"html.txt"},   {u"XML", u"xml.txt"},       {u"C/C++", u"cpp.txt"}, {u"Java", u"java.txt"},
-    {u"Basic", u"basic.txt"}, {u"Pascal", u"pascal.txt"}, {u"Perl", u"perl.txt"},
-};
-
-} // namespace
-
-/// The languages by example: samples/ holds a file for each, and every case there is a row here.
+/// The languages by example: each file in samples/ names its language in its first line, and each of its cases is a row
+/// here. A new file needs nothing else.
 class TstSyntaxSamples : public QObject
 {
     Q_OBJECT
@@ -40,14 +31,19 @@ void TstSyntaxSamples::sample_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("styles");
 
-    for (const auto &row : sampleFiles) {
-        const QString name = QString::fromUtf16(row.file);
-        QFile file(sourcePath(u"tests/syntax/samples/"_s) + name);
+    const QDir samples(sourcePath(u"tests/syntax/samples"_s));
+    const QStringList names = samples.entryList(QDir::Files, QDir::Name);
+    QVERIFY(!names.isEmpty());
+    for (const QString &name : names) {
+        QFile file(samples.filePath(name));
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
-        // What stands before the first case explains the file.
         QByteArrayList cases = file.readAll().split('\n');
+        static const QRegularExpression firstLine(u"^Language: ([^.]+)\\. "_s);
+        const QString language = firstLine.match(QString::fromUtf8(cases.first())).captured(1);
+        QVERIFY2(!language.isEmpty(), qPrintable(name + u" doesn't name its language in its first line"_s));
         while (!cases.isEmpty() && !cases.first().startsWith("== "))
             cases.removeFirst();
+        QVERIFY2(!cases.isEmpty(), qPrintable(name + u" holds no case"_s));
         while (!cases.isEmpty()) {
             const QByteArray title = name.toUtf8() + ": " + cases.takeFirst().sliced(3);
             QByteArray text;
@@ -58,7 +54,7 @@ void TstSyntaxSamples::sample_data()
             }
             if (cases.size() == 1 && cases.first().isEmpty())
                 cases.removeFirst();
-            QTest::newRow(title.constData()) << QString::fromUtf16(row.language) << text << styles;
+            QTest::newRow(title.constData()) << language << text << styles;
         }
     }
 }
