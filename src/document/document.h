@@ -57,7 +57,8 @@ public:
     void clearClipboard();
     /// Reloads the file from disk into the code view and the designer, after asking.
     void revert();
-    /// Opens the file of the command line. Errors are ignored.
+    /// Opens the file of the command line. If it can't be read, the document is empty but has its name; a notice says so,
+    /// or a message box if the file is too large.
     void openAtStart(const QString &path);
 
     /// Opens a recovery copy as a modified document without a file. `name` is the name of the original file and
