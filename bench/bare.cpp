@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bare [FILE]: a window with nothing but a QScintilla editor and its own HTML lexer, the least that an editor on these
-// parts can cost.
+// bare [FILE]: a window with nothing but a QScintilla editor and its own HTML lexer, the least that an editor built on
+// QScintilla can cost.
 #include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciscintilla.h>
 
@@ -19,8 +19,8 @@ int main(int argc, char **argv)
         QFile file(QFile::decodeName(argv[1]));
         if (!file.open(QIODevice::ReadOnly))
             return 1;
-        // The bytes go straight to the editor, because a detour through QString costs time and memory, and the lexer is
-        // there before the text, because it colours only what is seen then.
+        // The bytes go straight to the editor, because a detour through QString costs time and memory. The lexer is set
+        // before the text, because then it colours only the visible part.
         editor->setLexer(new QsciLexerHTML(editor));
         const QByteArray content = file.readAll();
         editor->SendScintilla(QsciScintilla::SCI_APPENDTEXT, static_cast<unsigned long>(content.size()),

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""compare.py BUILD PROGRAM WORK [GROUP]...: measures the program beside its peers and prints each budget.
+"""compare.py BUILD PROGRAM WORK [GROUP]...: compares the program with its peers and prints each budget.
 
-BUILD holds the benchmark programs, PROGRAM is the program folder, WORK a folder for inputs and homes. The groups are
-those of GROUPS below; without one all are measured. Ends with 1 if a budget is not met. It needs a display.
+BUILD holds the benchmark programs, PROGRAM is the program folder, WORK a folder for inputs and home folders. The groups
+are those of GROUPS below; by default all are measured. The exit status is 1 if a budget is not met. It needs a display.
 """
 
 import json
@@ -23,7 +23,7 @@ MB = 1_000_000
 
 
 class Programs:
-    """The whole programs, each with a home that it has left once before, so that no first start is measured."""
+    """The programs to compare, each with a home folder in which it has run once before, so that no first start is measured."""
 
     def __init__(self, build, folder, work):
         self.picture_tool = build / "picture"
@@ -38,7 +38,7 @@ class Programs:
         }
 
     def prepare(self, name):
-        """Lets the program make its settings, as after a first start that was closed."""
+        """Runs the program once, so that it creates its settings."""
         shutil.rmtree(self.home, ignore_errors=True)
         self.home.mkdir(parents=True)
         if name == "zephira":
@@ -50,7 +50,7 @@ class Programs:
         shutil.copytree(self.home, self.templates / name, symlinks=True)
 
     def measure(self, name, file, *options):
-        """One run from a fresh copy of the home, as the figures that the tool prints."""
+        """The figures of one run with a fresh copy of the home folder."""
         if not (self.templates / name).is_dir():
             self.prepare(name)
         shutil.rmtree(self.home, ignore_errors=True)
@@ -68,7 +68,7 @@ class Programs:
         return json.loads(done.stdout)
 
     def interleaved(self, names, rounds, file=None, options=None):
-        """The medians of each program's figures; the programs take turns, so that all meet the same machine."""
+        """The medians of each program's figures; the programs take turns, so that the machine's load affects all alike."""
         runs = {name: [] for name in names}
         for _ in range(rounds):
             for name in names:
@@ -77,7 +77,7 @@ class Programs:
 
 
 class Report:
-    """Prints each budget as it becomes known, and remembers whether all were met."""
+    """Prints each budget as soon as it is measured, and remembers whether all were met."""
 
     def __init__(self):
         self.all_met = True
@@ -95,7 +95,7 @@ class Report:
 
 
 def start(programs, report, _inputs, _build, _work):
-    """The empty start."""
+    """A start without a file."""
     got = programs.interleaved(["zephira", "Bluefish", "bare"], 9)
     ours, bluefish, bare = (got[name] for name in ("zephira", "Bluefish", "bare"))
     report.row("empty start, picture", ours["picture"], bluefish["picture"], 0.40, "Bluefish")
@@ -118,7 +118,7 @@ def opening(programs, report, inputs, _build, _work):
 
 
 def typing(programs, report, inputs, _build, _work):
-    """Keys at the start and at the end of 10 MB, and the way between."""
+    """Keys at the start and at the end of 10 MB, and the jump to the end."""
     names = ["zephira", "SciTE"]
     got = programs.interleaved(names, 5, inputs(10), dict.fromkeys(names, ("--keys", "200", "--end")))
     ours, scite = got["zephira"], got["SciTE"]
@@ -130,7 +130,7 @@ def typing(programs, report, inputs, _build, _work):
 
 
 def preview(programs, report, _inputs, _build, work):
-    """The first preview of a small page, from the key, beside a program that is nothing but a web view."""
+    """The first preview of a small page, from the key press, compared with a program that consists of a web view."""
     page = work / "small.html"
     page.write_bytes(makehtml.page(4000))
     got = programs.interleaved(["zephira", "bare web"], 9, page, {"zephira": ("--preview",)})
@@ -140,7 +140,7 @@ def preview(programs, report, _inputs, _build, work):
 
 
 def designer(_programs, report, inputs, build, _work):
-    """The visual designer: from a key to the state that the toolbar shows, and its ways in and out with a page of 1 MB."""
+    """The visual designer: from a key press to the state that the toolbar shows; entering and leaving it with 1 MB."""
     times = in_process(build, "designer_bench", str(inputs(1)))
     report.row("a key in the designer, status shown", times["key"] / 1e6, 16, 1.0, "16 ms")
     for way in ("enter", "leave"):
@@ -150,7 +150,7 @@ def designer(_programs, report, inputs, build, _work):
 
 
 def in_process(build, name, *arguments):
-    """The median real times, in nanoseconds, of a benchmark program's cases by name."""
+    """The median wall-clock times, in nanoseconds, of a benchmark program's cases by name."""
     done = subprocess.run(
         [build / name, "--benchmark_format=json", "--benchmark_repetitions=7", "--benchmark_enable_random_interleaving=true",
          "--benchmark_report_aggregates_only=true", *arguments],
@@ -168,26 +168,26 @@ def colouring(_programs, report, _inputs, build, _work):
 
 
 def functions(_programs, report, inputs, build, _work):
-    """Every text function: ten times the input."""
+    """Every text function: the growth of its time when its input grows tenfold."""
     times = in_process(build, "text_bench", str(inputs(1)), str(inputs(10)))
     for name in sorted({case.rsplit("/", 1)[0] for case in times}):
         report.row(name, times[f"{name}/large"] / 1e6, times[f"{name}/small"] / 1e6, 12, "a tenth of the input")
 
 
 def tidy(option, page):
-    """The real time of one run of the tidy command in milliseconds."""
+    """The wall-clock time of one run of the tidy command in milliseconds."""
     begin = time.monotonic()
     done = subprocess.run(["tidy", option, page], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
-    if done.returncode not in (0, 1, 2):  # With 1 or 2 it says that the page has faults, as pages have.
+    if done.returncode not in (0, 1, 2):  # 1 and 2 mean that the page has faults, as most pages do.
         sys.exit(f"tidy ended with {done.returncode}")
     return (time.monotonic() - begin) * 1e3
 
 
 def tools(_programs, report, inputs, build, work):
-    """Outline and formatter of 10 MB, beside what the tidy command takes for such a page."""
+    """Outline and formatter with 10 MB, compared with the time that the tidy command takes for such a page."""
     times = in_process(build, "text_bench", "--benchmark_filter=^(outline|Compact|Simple|Hierarchical)/",
                        str(inputs(1)), str(inputs(10)))
-    # Hierarchical is measured with tables alone, because the levels of other pages never come down again.
+    # Hierarchical is measured with tables alone, because on other pages its indentation only ever grows.
     tables = work / "tables10.html"
     tables.write_bytes(makehtml.page(10 * MB, (makehtml.table,), (1,)))
     for name, option, page, limit, aim in (
@@ -202,7 +202,7 @@ def tools(_programs, report, inputs, build, work):
 
 
 def compacting(_programs, report, inputs, build, _work):
-    """Compact of 10 MB in the code view, which makes one line of it, and the ways back and forth, each until painted."""
+    """Compact of 10 MB in the code view, which makes it a single line, and its undo and redo, each until painted."""
     times = in_process(build, "compact_bench", str(inputs(10)))
     for step in ("Compact", "undo", "redo"):
         report.row(f"{step} of 10 MB in one line, painted", times[step] / 1e6, 1500, 1.0, "1.5 s")
@@ -225,7 +225,7 @@ def ftp_folder(_programs, report, _inputs, build, work):
 
 
 def shown_beyond_listing(report, build, name, folder, kinds):
-    """What showing 10,000 entries takes beyond the listing itself, as a part of half a second."""
+    """The time for showing 10,000 entries minus that for listing them, compared with half a second."""
     times = in_process(build, name, str(folder), "10000")
     for kind in kinds:
         beyond = (times[f"show {kind}"] - times[f"list {kind}"]) / 1e6
@@ -233,7 +233,7 @@ def shown_beyond_listing(report, build, name, folder, kinds):
 
 
 def run_once(command):
-    """The real time of one run in milliseconds, and the most memory that it had in kB."""
+    """The wall-clock time of one run in milliseconds, and its peak memory in kB."""
     begin = time.monotonic()
     process = subprocess.Popen([str(part) for part in command])
     _, status, usage = os.wait4(process.pid, 0)
@@ -244,7 +244,7 @@ def run_once(command):
 
 
 def in_turns(ours, theirs, rounds, before=lambda: None):
-    """The medians of time and memory of two commands, which take turns; `before` runs ahead of each."""
+    """The medians of time and memory of two commands, which take turns; `before` is called before each run."""
     runs = ([], [])
     for _ in range(rounds):
         for figures, command in zip(runs, (ours, theirs)):
@@ -254,14 +254,14 @@ def in_turns(ours, theirs, rounds, before=lambda: None):
 
 
 def window_run(build, server, remote, target):
-    """What a download of a whole folder takes in the FTP window, in milliseconds."""
+    """The time that the download of a whole folder takes in the FTP window, in milliseconds."""
     command = [build / "ftprun_bench", server.host, server.port, server.path(remote), target]
     done = subprocess.run([str(part) for part in command], check=True, capture_output=True, text=True)
     return float(done.stdout)
 
 
 def ftp(_programs, report, _inputs, build, work):
-    """Files from and to a server: one of 1 GiB beside curl, and 2,000 of 4 KiB beside lftp."""
+    """Files from and to a server: one of 1 GiB compared with curl, and 2,000 of 4 KiB compared with lftp."""
     size = 1 << 30
     with vsftpd.Vsftpd(work) as server:
         own = build / "ftp_bench"
@@ -277,7 +277,7 @@ def ftp(_programs, report, _inputs, build, work):
         _, large = run_once([own, "get", *at, server.path("."), "large", folder])
         report.row("memory of a download of 1 GiB", large, size / 1024, 1.3, "the file", "kB")
 
-        # Beside curl with a file, because the window has to write one, too.
+        # Compared with curl writing a file, because the window has to write one, too.
         server.add("alone/large", size)
         local = folder / "large"
         window, theirs = [], []
@@ -304,7 +304,7 @@ def ftp(_programs, report, _inputs, build, work):
 
         for number in range(2000):
             server.add(f"many/{number}.htm", 4096)
-        # In memory, because to make 2,000 files on a disk takes longer than to get them.
+        # In memory, because creating 2,000 files on a disk takes longer than transferring them.
         memory = Path("/dev/shm")
         target = Path(tempfile.mkdtemp(prefix="zephira-", dir=memory if memory.is_dir() else work))
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// designer_bench PAGE: the ways into and out of the visual designer with a page, and the time from a key to the state that
-// the toolbar shows, in a page of one paragraph and in that page; and from selecting the whole of it.
+// designer_bench PAGE: entering and leaving the visual designer with PAGE; the time from a key press to the state that the
+// toolbar shows, in a page of one paragraph and in PAGE; and the same after all of PAGE has been selected.
 #include "files/diskfilestore.h"
 #include "noprompts.h"
 #include "web/designer/designerwidget.h"
@@ -49,7 +49,7 @@ void enter(benchmark::State &state, DesignerWidget &designer, const QString &pag
     }
 }
 
-/// An unchanged page comes back without the engine, so that it is changed first.
+/// An unchanged page is given back without asking the engine, so it is changed first.
 void leave(benchmark::State &state, DesignerWidget &designer, const QString &page)
 {
     show(designer, [&] { designer.loadDocument(page); });
@@ -72,14 +72,14 @@ void key(benchmark::State &state, DesignerWidget &designer, const std::function<
         }));
         QKeyEvent release(QEvent::KeyRelease, Qt::Key_B, Qt::NoModifier, u"b"_s);
         QCoreApplication::sendEvent(designer.view().focusProxy(), &release);
-        // The caret's own report follows the letter's, and must not be taken for that of the next one.
+        // The caret's own report follows the letter's, and must not be taken for the report of the next letter.
         QEventLoop rest;
         QTimer::singleShot(30, &rest, &QEventLoop::quit);
         rest.exec();
     }
 }
 
-/// The selection reaches over everything that the states look at.
+/// The selection covers everything that the states depend on.
 void selectAll(benchmark::State &state, DesignerWidget &designer, const QString &page)
 {
     show(designer, [&] { designer.loadDocument(page); });
@@ -94,7 +94,7 @@ void selectAll(benchmark::State &state, DesignerWidget &designer, const QString 
 
 int main(int argc, char **argv)
 {
-    // As in the program: the engine paints by software, and does without its sandbox only where it must.
+    // As in the program: the engine paints in software, and its sandbox is disabled only where it has to be.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     qputenv("QT_QUICK_BACKEND", "software");
     if (geteuid() == 0)

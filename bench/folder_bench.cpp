@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// folder_bench FOLDER COUNT: the file manager shows a folder of COUNT files, and opens one of COUNT folders, both painted;
-// beside each the bare listing of the names. The folders are made below FOLDER where they aren't there yet.
+// folder_bench FOLDER COUNT: the file manager shows a folder of COUNT files, and opens one of COUNT folders, both until
+// painted; each compared with the bare listing of the names. The folders are created below FOLDER if they don't exist.
 #include "noprompts.h"
 #include "panes/filelist.h"
 #include "panes/filepane.h"
@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Makes `count` files in the folder "files" and as many folders in the folder "folders".
+/// Creates `count` files in the folder "files" and as many folders in the folder "folders".
 void makeInputs(const QString &place, int count)
 {
     QDir().mkpath(place + u"/files"_s);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// ftp_bench down HOST PORT REMOTE: reads a server's file in the program's blocks, and forgets them.
-// ftp_bench get HOST PORT FOLDER NAME LOCALDIR: brings a server's file into a local folder, as a download does.
-// ftp_bench up HOST PORT LOCALDIR NAME FOLDER: stores a local file in a server's folder, as an upload does.
+// ftp_bench down HOST PORT REMOTE: reads a server's file in blocks of the program's size, and discards them.
+// ftp_bench get HOST PORT FOLDER NAME LOCALDIR: downloads a server's file into a local folder.
+// ftp_bench up HOST PORT LOCALDIR NAME FOLDER: uploads a local file into a server's folder.
 // ftp_bench mirror HOST PORT FOLDER LOCALDIR: downloads all files of a server's folder.
-// Each logs in without a name. The time is taken from outside, with start and login, as that of the peers is.
+// Each logs in anonymously. The time is measured from outside, including start and login, as for the other programs.
 #include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
@@ -24,7 +24,7 @@ using namespace zephira;
 
 namespace {
 
-/// Keeps whether anything but the end of a run was told.
+/// Counts the warnings; the other messages are those at the end of a run.
 struct CountingPrompts final : NoPrompts {
     Answer ask(const Question &question) override
     {
@@ -35,7 +35,7 @@ struct CountingPrompts final : NoPrompts {
     int failures = 0;
 };
 
-/// A window that shows nothing.
+/// A progress window that shows nothing.
 struct BlankWindow final : LogDisplay, PanelDisplay {
     void log(LogEntry, const QStringList &) override {}
     void clearLog() override {}

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // ftpwindow_bench FOLDER COUNT: the FTP window shows a server's folder of COUNT files, one of COUNT folders, and a local
-// one of COUNT files, which is made below FOLDER where it isn't there yet; beside each the bare listing. The server is a
-// script, so that its own time isn't in the way.
+// one of COUNT files, which is created below FOLDER if it doesn't exist; each compared with the bare listing. The server is
+// scripted, so that its own time doesn't count.
 #include "ftp/ftpbench.h"
 #include "ftp/ftpdesk.h"
 
@@ -24,7 +24,7 @@ namespace {
 const QString serverFiles = u"/files/*.*"_s;
 const QString serverFolders = u"/*.*"_s;
 
-/// The real window over the scripted server, on the screen.
+/// The real window with the scripted server, shown on the screen.
 struct ShownWindow {
     ShownWindow()
     {
@@ -62,7 +62,7 @@ void makeFiles(const QString &folder, int count)
     }
 }
 
-/// What a listing alone costs.
+/// The cost of a listing alone.
 void askServer(benchmark::State &state, ShownWindow &shown, const QString &searchPath)
 {
     InternetOperations &operations = shown.ftp.operations;
@@ -90,7 +90,7 @@ void listLocal(benchmark::State &state, const QString &folder)
     }
 }
 
-/// Runs `fill`, and waits until the view that it fills is painted; `empty` takes everything out of it again.
+/// Runs `fill` and waits until the view that it fills is painted; `empty` clears the view again.
 template<typename Fill, typename Empty>
 void show(benchmark::State &state, QAbstractItemView &view, int count, Fill fill, Empty empty)
 {

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""makehtml.py BYTES FILE: writes a page of exactly so many bytes.
+"""makehtml.py BYTES FILE: writes a page of exactly BYTES bytes.
 
-The page is what a web author keeps in one file: headings, paragraphs with inline markup, tables, forms, comments, style
-sheets and scripts, with CR LF line ends. The same size always gives the same bytes.
+The page has what real pages consist of: headings, paragraphs with inline markup, tables, forms, comments, style sheets and
+scripts, with CR LF line ends. The same size always gives the same bytes.
 """
 
 import random
@@ -77,7 +77,7 @@ def heading(dice, number):
 
 
 def page(size, kinds=(paragraph, table, form, script, style, heading), weights=(10, 3, 1, 1, 1, 4)):
-    """The bytes of a page of exactly `size` bytes, at least a few hundred. The kinds of its parts come by their weights."""
+    """A page of exactly `size` bytes, at least a few hundred, with parts of the given kinds as often as their weights say."""
     dice = random.Random(20)
     parts = dice.choices
     pieces = [HEAD.replace("\n", "\r\n").encode()]

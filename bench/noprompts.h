@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// Answers as a user who cancels everything: nothing that is measured asks.
+/// Prompts for a benchmark, in which nothing should ask: every question is cancelled.
 struct NoPrompts : Prompts {
     Answer ask(const Question &) override { return Answer::Cancel; }
     std::optional<QString> input(const InputRequest &) override { return {}; }

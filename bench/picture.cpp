@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// picture [--keys N] [--end] [--preview] [--close] [--trace] COMMAND...: starts a program on the present display and measures it from outside. Prints one
-// JSON object; every time is in milliseconds unless the name says otherwise.
+// picture [--keys N] [--end] [--preview] [--close] [--trace] COMMAND...: starts a program on the current display and
+// measures it from outside. Prints one JSON object; every time is in milliseconds unless its name says otherwise.
 //
 //   picture   from exec until the picture is complete and the processor is idle
-//   pss_kb    proportional set size of the program and its children then
+//   pss_kb    proportional set size of the program and its children at that moment
 //   key_start_us, key_start_latency    with --keys: processor time of a key typed at the start, and median time until
 //                                      something is painted for it
-//   jump, jump_complete                with --end: from Ctrl+End until the text there is painted, and until all is at rest
+//   jump, jump_complete                with --end: from Ctrl+End until the text there is painted, and until all is idle
 //   key_end_us, key_end_latency        with both: as above, at the end
-//   preview   with --preview: from F8, which shows the next view, until that is complete and the processor idle
+//   preview   with --preview: from F8, which shows the next view, until that view is complete and the processor is idle
 //
 // The program is killed at the end. With --close its window is closed before that, so that it leaves its settings behind.
-// With --trace it is told on stderr what is painted when, and how much processor time has been used by then.
+// With --trace it logs to stderr what is painted when, and how much processor time has been used by then.
 
 #include "processtree.h"
 #include "screen.h"
@@ -30,12 +30,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A picture is complete when for this long nothing is painted and no more processor time than the allowance is used.
-/// It is shorter than half the period of a blinking caret.
+/// A picture is complete when for this long nothing has been painted and no more processor time than the allowance has been
+/// used. This is shorter than half the period of a blinking caret.
 constexpr Milliseconds quiet = 300ms;
 constexpr Nanoseconds allowance = 10ms;
 constexpr Milliseconds patience = 120s;
-/// A newly shown part of a text covers at least this share of the screen; carets, lines and status bars cover less.
+/// A newly shown part of a text covers at least this fraction of the screen; carets, lines and status bars cover less.
 constexpr double textShare = 0.2;
 
 constexpr std::uint32_t endKey = 0xff57;
@@ -47,8 +47,8 @@ double milliseconds(Clock::duration duration)
     return std::chrono::duration<double, std::milli>(duration).count();
 }
 
-/// Waits until the program is at rest and returns since when it has been. With `mustPaint` it is not at rest before it
-/// has painted a good part of the screen.
+/// Waits until the program is idle and returns since when it has been. With `mustPaint` it doesn't count as idle before it
+/// has painted a large part of the screen.
 Clock::time_point restAfter(Clock::time_point start, Screen &screen, ProcessTree &program, bool mustPaint,
                             bool trace = false)
 {
@@ -82,7 +82,7 @@ struct Typing {
     double latency = 0;
 };
 
-/// Types letters, each when the one before has been painted.
+/// Types letters, each after the previous one has been painted.
 Typing type(int count, Screen &screen, ProcessTree &program)
 {
     std::vector<double> latencies;
@@ -130,7 +130,7 @@ struct Options {
 void measure(const Options &options, const std::vector<std::string> &command)
 {
     Screen screen;
-    // The server takes its artificial keyboard into use at the first key, and programs miss a key if they see that.
+    // The X server switches to its artificial keyboard at the first key, and a program that handles that switch misses the key.
     screen.press(leftShift);
     while (screen.look(100ms).anything) {}
 

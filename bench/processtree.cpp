@@ -18,8 +18,8 @@ namespace zephira::bench {
 
 namespace {
 
-/// The processor-time clock of another process counts all its threads, the ended ones included, in nanoseconds; the
-/// figures under /proc are too coarse for a single key press.
+/// The processor-time clock of another process counts all its threads, including those that have ended, in nanoseconds;
+/// the figures under /proc are too coarse for a single key press.
 Nanoseconds cpuTimeOf(pid_t pid)
 {
     clockid_t clock;
@@ -29,13 +29,13 @@ Nanoseconds cpuTimeOf(pid_t pid)
     return std::chrono::seconds(time.tv_sec) + Nanoseconds(time.tv_nsec);
 }
 
-/// The parent of a process; 0 for one that is gone.
+/// The parent of a process; 0 if the process has ended.
 pid_t parentOf(pid_t pid)
 {
     std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
     std::string line;
     std::getline(file, line);
-    // The name in parentheses may hold anything, a parenthesis too.
+    // The name in parentheses may hold any character, even a parenthesis.
     const auto end = line.rfind(')');
     if (end == std::string::npos || line.size() < end + 4)
         return 0;
@@ -115,7 +115,7 @@ long ProcessTree::pssKb()
 
 void ProcessTree::findDescendants()
 {
-    // Reading all of /proc would disturb what is measured if it were done at each look.
+    // Reading all of /proc every time would disturb the measurement.
     const auto now = std::chrono::steady_clock::now();
     if (now - m_lastSearch < std::chrono::milliseconds(50))
         return;

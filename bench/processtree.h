@@ -12,12 +12,12 @@ namespace zephira::bench {
 
 using Nanoseconds = std::chrono::nanoseconds;
 
-/// A program that was started for a measurement, with everything that it starts itself. It is killed, not asked to
-/// close, when the object goes: what it would do on closing is no part of any figure.
+/// A program that was started for a measurement, with all its child processes. The destructor kills it instead of asking it
+/// to close, because what it does on closing is not measured.
 class ProcessTree
 {
 public:
-    /// Starts the command with its output thrown away. Throws std::system_error if that fails.
+    /// Starts the command and discards its output. Throws std::system_error if that fails.
     explicit ProcessTree(const std::vector<std::string> &command);
     ~ProcessTree();
     ProcessTree(const ProcessTree &) = delete;
@@ -25,7 +25,7 @@ public:
 
     /// False as soon as the first process has ended.
     bool running();
-    /// Processor time of all processes so far, those that have ended since the last call included.
+    /// Processor time of all processes so far, including those that have ended since the last call.
     Nanoseconds cpuTime();
     /// Proportional set size of all processes, in kB.
     long pssKb();

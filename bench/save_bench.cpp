@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// save_bench FILE FOLDER: writes the content of FILE to a file in FOLDER through the program's file store, and copies it
-// there by cp with an fsync behind it.
+// save_bench FILE FOLDER: writes the content of FILE to a file in FOLDER through the program's file store, and for
+// comparison copies it there with cp followed by an fsync.
 #include "files/diskfilestore.h"
 
 #include <benchmark/benchmark.h>

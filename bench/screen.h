@@ -11,34 +11,34 @@ namespace zephira::bench {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::milliseconds;
 
-/// What has been painted on the screen since the last look.
+/// What has been painted on the screen since the last call.
 struct Painted {
     bool anything = false;
-    /// When the last of it came, if anything did.
+    /// When the last part of it was painted, if any was.
     Clock::time_point last{};
-    /// Sum of the painted rectangles, as a share of the screen. Painting twice counts twice.
+    /// Sum of the painted rectangles, as a fraction of the screen. Painting twice counts twice.
     double share = 0;
-    /// The smallest rectangle around it, in pixels.
+    /// The bounding rectangle, in pixels.
     int left = 0;
     int top = 0;
     int right = 0;
     int bottom = 0;
 };
 
-/// The X display as the eye and the hand of a measurement: it tells when something is painted, without reading pixels
-/// back and so without slowing the server, and presses keys as a keyboard does.
+/// The X display of a measurement. It reports when something is painted, without slowing the server by reading pixels back,
+/// and presses keys as a keyboard does.
 class Screen
 {
 public:
-    /// Connects to $DISPLAY. Throws std::runtime_error without a server that knows DAMAGE and XTEST.
+    /// Connects to $DISPLAY. Throws std::runtime_error if there is no server, or if it lacks DAMAGE or XTEST.
     Screen();
     ~Screen();
     Screen(const Screen &) = delete;
     Screen &operator=(const Screen &) = delete;
 
-    /// Waits until something is painted, at most as long as told, and takes note of everything that came.
+    /// Waits until something is painted, but no longer than the time-out, and returns everything that was painted.
     Painted look(Milliseconds atMost);
-    /// Presses and releases the key, with Control held if so told. Throws std::runtime_error if no key bears the symbol.
+    /// Presses and releases the key, on request with Control held. Throws std::runtime_error if no key has the symbol.
     void press(std::uint32_t keySymbol, bool control = false);
     /// Asks the active window to close, as its close button does.
     void closeActiveWindow();

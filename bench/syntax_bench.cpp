@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// syntax_bench: how fast a whole HTML text gets its colours, from our engine and from the editing component's own HTML
-// lexer, in one run. Each figure is bytes per second of the same text.
+// syntax_bench: how fast our engine and the editing component's own HTML lexer colour the same whole HTML text, in bytes
+// per second.
 #include "syntax/languageregistry.h"
 #include "syntax/syntaxengine.h"
 
@@ -21,7 +21,7 @@ namespace {
 
 constexpr qsizetype textSize = 10'000'000;
 
-/// What a page is made of: markup, prose, entities, comments, scripts and style sheets.
+/// A page with markup, prose, entities, comments, scripts and style sheets.
 constexpr QByteArrayView page = R"(<!-- a section -->
 <h2 id="s1" class="title">Heading of a section</h2>
 <p class="text">Some prose with <b>words</b> in <em class="note">other</em> shapes, a <a href="page.html#top"
@@ -31,7 +31,7 @@ Another line that is plain text and nothing else, as most lines of most pages ar
   <tr class="row1"><td align="right" width="120">one</td><td align="right" width="20">two</td></tr>
 </table>
 <script type="text/javascript">
-// Adds what the list holds.
+// Adds the content of the list.
 function sum(list, limit) {
   var total = 0x1f, name = "a \"name\"";
   for (var i = 0; i < list.length && i < limit; i++) { total += list[i].value * 0.25; } /* done */

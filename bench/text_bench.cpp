@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// text_bench SMALL LARGE: every function over text, with a file and with one of ten times its size. A function whose time
-// grows faster than its input shows here.
+// text_bench SMALL LARGE: every text function, with a file and with one of ten times its size. This reveals functions whose
+// time grows faster than their input.
 #include "files/lineends.h"
 #include "files/privateprofile.h"
 #include "files/textfile.h"
@@ -32,9 +32,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The page's tables, one after the other, as often as it takes to fill a page. Where every element is closed, the lines
-/// are indented by a few tabs; elsewhere each would be by one more than the line before, and the result grows with the
-/// square of the page.
+/// The page's tables one after the other, repeated until they fill a page. Because all their elements are closed, the
+/// lines are indented by a few tabs only; otherwise each line would be indented by one tab more than the previous one,
+/// and the result would grow with the square of the page's size.
 QString tablesOf(const QString &page)
 {
     const QString last = u"</table>"_s;
@@ -46,7 +46,7 @@ QString tablesOf(const QString &page)
     return tables;
 }
 
-/// One input in the forms that the functions take.
+/// One input, in the various forms that the functions take.
 struct Input {
     explicit Input(const QByteArray &page)
         : utf8(page)
@@ -56,7 +56,7 @@ struct Input {
         , windows1252(QByteArray(page).replace("\xc3\xbc", "\xfc"))
         , styles(static_cast<std::size_t>(page.size()))
     {
-        // A profile with as many lines as its size allows, in sections of a hundred.
+        // A profile with as many lines as fit its size, in sections of a hundred.
         for (int line = 0; profile.size() < page.size(); ++line)
             profile += line % 100 == 0 ? "[section" + QByteArray::number(line / 100) + "]\r\n"
                                        : "key" + QByteArray::number(line) + "=a value of some length\r\n";
@@ -96,7 +96,7 @@ void colour(Input &input, const QString &language)
     benchmark::DoNotOptimize(languages().engine(language)->styleRange(input.utf8, 0, input.styles));
 }
 
-/// Folds the text as it was coloured last.
+/// Folds the text according to its last colouring.
 void fold(Input &input, const QString &language)
 {
     const FoldRules &rules = languages().engine(language)->foldRules();
@@ -115,7 +115,7 @@ void fold(Input &input, const QString &language)
 void outline(Input &input)
 {
     std::vector<OutlineLeaf> leaves;
-    // A title far behind the start would end the scan; the page's own stands at its head.
+    // A title far from the start would end the scan; the page's own title is at its top.
     scanOutline(input.text, [&leaves](OutlineLeaf &&leaf) { leaves.push_back(std::move(leaf)); });
     benchmark::DoNotOptimize(leaves);
 }
@@ -152,8 +152,8 @@ const TextFunction functions[] = {
     {"Hierarchical", [](Input &input) { benchmark::DoNotOptimize(Hierarchical(input.tables)); }},
 };
 
-/// Pushes the inputs out of the processor's caches. Without it the small one would be read from there and the large one
-/// not, which says nothing about the function.
+/// Evicts the inputs from the processor's caches. Otherwise only the small one would be read from there, which would distort
+/// the comparison.
 void emptyCaches()
 {
     static std::vector<unsigned char> other(std::size_t{64} << 20);
@@ -168,8 +168,8 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     if (argc != 3)
         return 2;
-    // What a function frees stays with the process. Otherwise large blocks would come fresh from the system each time, and
-    // the figures would tell of its pages.
+    // Freed memory stays with the process. Otherwise large blocks would come from the system anew each time, and the
+    // figures would include its page faults.
     mallopt(M_MMAP_MAX, 0);
     mallopt(M_TRIM_THRESHOLD, -1);
     std::vector<Input> inputs;

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A file server for the benchmarks, on this machine and for everybody."""
+"""A local FTP server for the benchmarks, with anonymous access."""
 
 import os
 import shutil
@@ -31,7 +31,7 @@ xferlog_enable=NO
 
 
 class Vsftpd:
-    """Serves the folder `files`, which `path` names as the server does, for as long as a with statement lasts."""
+    """Serves the folder `files` inside a with statement; path() gives a file's path on the server."""
 
     def __init__(self, work):
         self.root = work / "ftp"
@@ -74,14 +74,14 @@ class Vsftpd:
                 time.sleep(0.01)
 
     def give_to_server(self, path):
-        """vsftpd serves strangers as the user ftp, to whom files must belong, and every folder above must let it pass."""
+        """vsftpd serves anonymous users as the user ftp, who must own the files and be able to traverse every folder above."""
         if self.is_root:
             shutil.chown(path, "ftp")
             for folder in Path(path).resolve().parents:
                 folder.chmod(folder.stat().st_mode | 0o011)
 
     def path(self, name):
-        """A file's path as the server names it. Without root's help it can't shut its users into a folder."""
+        """A file's path on the server. A server that wasn't started by root can't confine its users to a folder."""
         return f"/files/{name}" if self.is_root else f"{self.files}/{name}"
 
     def add(self, name, size):
