@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
-# What the commands share: words to the user, packages, and a display where there is none. To be sourced.
+# Shared by the commands: messages to the user, packages, and a virtual display. To be sourced.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 readonly root
 
-# Everything that is meant for people goes to stderr, so that stdout stays for what other programs read.
+# Messages for people go to stderr, so that stdout holds only what other programs read.
 say() { printf '%s\n' "$*" >&2; }
 
 die() {
@@ -13,7 +13,7 @@ die() {
     exit 1
 }
 
-# package_names LIST...: the packages of the named lists, one a line, each once.
+# package_names LIST...: the packages of the named lists without duplicates, one per line.
 package_names() {
     local list
     for list in "$@"; do
@@ -21,23 +21,23 @@ package_names() {
     done | sort -u
 }
 
-# missing_packages LIST...: those of them that are not installed. One query for all of them keeps a warm start quick.
+# missing_packages LIST...: those of them that are not installed. A single query for all of them keeps later starts fast.
 missing_packages() {
     local wanted
     mapfile -t wanted < <(package_names "$@")
     comm -23 <(printf '%s\n' "${wanted[@]}") <(
-        # The second letter of the state is "i" where the package is installed. An unknown package is an error here
-        # and simply missing from the answer.
+        # The second letter of the status is "i" if the package is installed. For an unknown package dpkg-query prints an
+        # error and no line.
         dpkg-query --show --showformat='${db:Status-Abbrev} ${Package}\n' "${wanted[@]}" 2>/dev/null |
             sed -n 's/^.i[^ ]* *//p' | sort -u
     )
 }
 
-# Seconds that another package run is waited for.
+# How many seconds to wait for another package operation.
 package_patience=1800
 
-# apt_get WORD...: apt-get as root or through sudo, once no other package run is under way. Its own time-out covers the lock
-# of the installation alone; where the package lists or the archive are locked it fails at once, so it is asked again.
+# apt_get WORD...: apt-get as root or through sudo, as soon as no other package operation is running. apt-get's own time-out
+# covers only dpkg's lock; if the package lists or the archive are locked, it fails at once and is therefore retried.
 apt_get() {
     local prefix=() said status end=$((SECONDS + package_patience))
     ((EUID == 0)) || prefix=(sudo)
@@ -48,14 +48,14 @@ apt_get() {
             apt-get -o "DPkg::Lock::Timeout=$package_patience" "$@" 2>&1 | tee "$said" >&2 || status=${PIPESTATUS[0]}
         ((status != 0 && SECONDS < end)) && grep -q 'Could not get lock' "$said"
     do
-        say "Another package run is under way; waiting for its end."
+        say "Waiting for another package operation to end."
         sleep 2
     done
     rm -f "$said"
     return "$status"
 }
 
-# install_missing LIST...: installs what is not there yet, as root or through sudo.
+# install_missing LIST...: installs the missing packages, as root or through sudo.
 install_missing() {
     local missing
     mapfile -t missing < <(missing_packages "$@")
@@ -66,13 +66,13 @@ install_missing() {
     apt_get update -q && apt_get install -y -q --no-install-recommends "${missing[@]}"
 }
 
-# configured_tree PRESET: makes the preset's build tree unless it stands already; ninja keeps it up to date by itself.
+# configured_tree PRESET: configures the preset's build tree unless it exists already; ninja keeps it up to date by itself.
 configured_tree() {
     [[ -f $root/build/$1/build.ninja ]] || (cd "$root" && cmake --preset "$1") >&2
 }
 
-# start_display [SCREEN]: starts an X server on a free display and sets DISPLAY. It must be called from the script's own
-# shell, which the server doesn't outlive, however that shell ends. The caller stops it by stop_display.
+# start_display [SCREEN]: starts an X server on a free display and sets DISPLAY. It must be called from the script's main
+# shell, because the server is ended with the shell that started it. The caller stops it with stop_display.
 start_display() {
     display_folder=$(mktemp -d)
     local number=
@@ -90,7 +90,7 @@ start_display() {
     unset WAYLAND_DISPLAY
 }
 
-# start_window_manager: windows are given the keyboard only where a window manager runs. It reads no one's settings.
+# start_window_manager: windows get the keyboard focus only if a window manager runs. It reads no user's settings.
 start_window_manager() {
     HOME=$display_folder XDG_CONFIG_HOME=$display_folder XDG_CACHE_HOME=$display_folder \
         setpriv --pdeathsig TERM openbox --sm-disable >>"$display_folder/log" 2>&1 &
@@ -114,15 +114,15 @@ stop_display() {
 
 screen_hash() { import -silent -window root rgb:- | sha256sum; }
 
-# picture_when_painted PNG PID BLANK: saves the screen as soon as it differs from BLANK, the hash of the empty one, and
-# has been the same three times in a row, which is shorter than a caret takes to blink. Fails when the process ends first
-# or nothing comes to rest within a minute.
+# picture_when_painted PNG PID BLANK: saves the screen as soon as it differs from BLANK, the hash of the empty screen, and
+# shows nothing new four times in a row. A picture that was seen before counts as nothing new, so that a blinking caret
+# doesn't matter. Fails if the process ends first or the screen doesn't settle within a minute.
 picture_when_painted() {
     local now known=0 end=$((SECONDS + 60))
     local -A seen=(["$3"]=blank)
     while ((known < 4)); do
         kill -0 "$2" 2>/dev/null || { say "The program ended before it had painted its window."; return 1; }
-        ((SECONDS < end)) || { say "The window did not come to rest within a minute."; return 1; }
+        ((SECONDS < end)) || { say "The window did not settle within a minute."; return 1; }
         sleep 0.1
         now=$(screen_hash)
         if [[ $now == "$3" || -z ${seen[$now]-} ]]; then known=0; else known=$((known + 1)); fi

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the checks of the sources share: the files, and how the compiler is called for each. To be imported."""
+"""Shared by the checks of the sources: the list of files, and the compiler options of each. To be imported."""
 import json
 import os
 import re
@@ -10,12 +10,12 @@ ROOT = Path(__file__).resolve().parent.parent
 
 
 def sources(*folders, suffixes=(".h", ".cpp")):
-    """All C++ files below the folders, which are named from the root, in the order of their names."""
+    """All C++ files below the folders, sorted by name. The folders are relative to the root."""
     return sorted(path for folder in folders for path in (ROOT / folder).rglob("*") if path.suffix in suffixes)
 
 
 class CompileFlags:
-    """The words with which a build tree compiles its files, without the precompiled header and the output."""
+    """The options with which a build tree compiles its files, without the precompiled header and the output file."""
 
     def __init__(self, tree):
         entries = json.loads((Path(tree) / "compile_commands.json").read_text())
@@ -26,11 +26,11 @@ class CompileFlags:
                 continue
             words = self._without_output(shlex.split(entry["command"]), entry["file"])
             self._of_file[file] = words
-            # Of a folder's libraries the one with the most includes knows what the others do.
+            # The command line with the most options stands for its folder: its include paths cover those of the others.
             self._of_folder[file.parent] = max(words, self._of_folder.get(file.parent, []), key=len)
 
     def of_all(self):
-        """What finds every include and defines every name that some file of src/ is compiled with."""
+        """The include paths and definitions of all files of src/ together."""
         words = {}
         for file, own in self._of_file.items():
             if (ROOT / "src") in file.parents:
@@ -43,7 +43,7 @@ class CompileFlags:
         return [word for group in words for word in group]
 
     def of(self, file):
-        """For a header those of a source beside it, or of one in a folder above."""
+        """The options of a source; for a header those of a source in the same folder or in the nearest folder above."""
         if file in self._of_file:
             return self._of_file[file]
         folder = next((each for each in file.parents if each in self._of_folder), None)
@@ -51,7 +51,7 @@ class CompileFlags:
 
     @staticmethod
     def _without_output(words, file):
-        kept, skip = [], 1  # The compiler's name.
+        kept, skip = [], 1  # The name of the compiler.
         if os.path.basename(words[0]) in ("ccache", "ccache-launcher"):
             skip = 2
         words = words[skip:]
@@ -68,7 +68,7 @@ class CompileFlags:
 
 
 def included(file, seen=None):
-    """The file's own #include lines and those of our headers that it includes, as they stand: <QString>, "core/a.h"."""
+    """What the file includes, directly or through our own headers, with its brackets or quotes: <QString>, "core/a.h"."""
     seen = set() if seen is None else seen
     for name in re.findall(r'^#\s*include\s+(<[^>]+>|"[^"]+")', file.read_text(), re.MULTILINE):
         if name in seen:

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
-# The few words that the script tests are written in. To be sourced.
+# The helpers of the script tests. To be sourced.
 set -euo pipefail
 
 # shellcheck disable=SC2034 # The tests use it.
@@ -16,8 +16,8 @@ expect() {
     failures=$((failures + 1))
 }
 
-# mark_display: makes the X server of DISPLAY known again. is_marked: true while that very server answers; its number alone
-# says nothing, because another test that runs at the same time may have been given it.
+# mark_display: marks the X server of DISPLAY. is_marked: true while that same server answers; the display number alone
+# doesn't tell, because another test that runs at the same time may have got it since.
 mark_display() { xprop -root -f "_TEST_$display_mark" 8s -set "_TEST_$display_mark" marked; }
 is_marked() { timeout 5 xprop -root "_TEST_$display_mark" 2>/dev/null | grep -q marked; }
 export display_mark=$$

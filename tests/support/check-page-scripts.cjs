@@ -4,10 +4,10 @@
 
 // usage: check-page-scripts.cjs FILE...
 //
-// Checks the modules of the designer's page: each name that a module uses is its own, imported, or one of the browser's;
-// what it imports is exported by the module that it names, used and never assigned to; what it exports is imported by
-// another one; and the members of a frozen list, as Command.Bold, are in that list. All that is wrong is told, a line each,
-// and the exit status is 1 then.
+// Checks the modules of the designer's page. Each name that a module uses must be declared by it, imported, or one of the
+// browser's. Each import must be exported by the module that it names, be used, and never be assigned to. Each export must
+// be imported by another module. The members of a frozen list, such as Command.Bold, must be in that list. Each fault is
+// printed as a line of its own, and the exit status is then 1.
 //
 //     FILE:LINE: what is wrong
 
@@ -46,7 +46,7 @@ class Scope {
 const isNode = value => value !== null && typeof value === 'object' && typeof value.type === 'string';
 const childrenOf = node => Object.values(node).flat().filter(isNode);
 
-// The names that a pattern binds.
+// The names bound by a destructuring pattern.
 const boundNames = pattern => {
     switch (pattern?.type) {
     case 'Identifier':
@@ -132,7 +132,7 @@ class Module {
     takeImport(node) {
         for (const each of node.specifiers) {
             if (each.type !== 'ImportSpecifier' || each.imported.name !== each.local.name)
-                this.tell(each.loc.start.line, 'import names one by one, as they are called');
+                this.tell(each.loc.start.line, 'import each name by itself and under its own name');
             this.top.declare(each.local.name, 'import');
             this.imports.push({name: each.local.name, from: path.basename(node.source.value), line: each.loc.start.line});
         }
@@ -199,7 +199,7 @@ class Module {
         if (found)
             ++found.uses;
         else if (!browserNames.has(node.name))
-            this.tell(node.loc.start.line, `${node.name} is neither here nor imported`);
+            this.tell(node.loc.start.line, `${node.name} is neither declared here nor imported`);
     }
 }
 
@@ -214,7 +214,7 @@ for (const module of modules.values()) {
         if (!source)
             module.tell(line, `there is no ${from}`);
         else if (source.top && !source.exports.has(name))
-            module.tell(line, `${from} gives no ${name}`);
+            module.tell(line, `${from} exports no ${name}`);
         if (module.top.names.get(name).uses === 0)
             module.tell(line, `${name} is imported and not used`);
         if (source?.frozen.has(name))
@@ -224,7 +224,7 @@ for (const module of modules.values()) {
         if (module.frozen.has(list) && !module.frozen.get(list).has(name))
             module.tell(line, `${list} has no ${name}`);
     }
-    // The bundle is one function, so that a name at the top of a module is taken for all.
+    // The bundle is one function, so a top-level name of one module is taken for all modules.
     for (const [name, {kind}] of module.top?.names ?? []) {
         if (kind === 'import' || name === 'arguments')
             continue;
