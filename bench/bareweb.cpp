@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bareweb FILE: a window with nothing but a web view that shows the page, painted in the way that starts fastest: the least
-// that a preview built on this web engine can cost.
+// bareweb FILE: a window with nothing but a web view that shows the page, painted in the way that starts fastest: the
+// least that a preview built on this web engine can cost.
 #include <QApplication>
 #include <QFile>
 #include <QMainWindow>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// compact_bench FILE: the code view shows the file, gets the result of Compact, which is a single line, and then an undo and
-// a redo; each until it is painted.
+// compact_bench FILE: the code view shows the file, gets the result of Compact, which is a single line, and then an
+// undo and a redo; each until it is painted.
 #include "core/clock.h"
 #include "editor/codemax.h"
 #include "files/diskfilestore.h"

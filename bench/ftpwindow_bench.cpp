@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// ftpwindow_bench FOLDER COUNT: the FTP window shows a server's folder of COUNT files, one of COUNT folders, and a local
-// one of COUNT files, which is created below FOLDER if it doesn't exist; each compared with the bare listing. The server is
-// scripted, so that its own time doesn't count.
+// ftpwindow_bench FOLDER COUNT: the FTP window shows a server's folder of COUNT files, one of COUNT folders, and a
+// local one of COUNT files, which is created below FOLDER if it doesn't exist; each compared with the bare listing. The
+// server is scripted, so that its own time doesn't count.
 #include "ftp/ftpbench.h"
 #include "ftp/ftpdesk.h"
 

@@ -10,8 +10,8 @@
 //   key_end_us, key_end_latency        with both: as above, at the end
 //   preview   with --preview: from F8, which shows the next view, until that view is complete and the processor is idle
 //
-// The program is killed at the end. With --close its window is closed before that, so that it leaves its settings behind.
-// With --trace it logs to stderr what is painted when, and how much processor time has been used by then.
+// The program is killed at the end. With --close its window is closed before that, so that it leaves its settings
+// behind. With --trace it logs to stderr what is painted when, and how much processor time has been used by then.
 
 #include "processtree.h"
 #include "screen.h"
@@ -30,8 +30,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A picture is complete when for this long nothing has been painted and no more processor time than the allowance has been
-/// used. This is shorter than half the period of a blinking caret.
+/// A picture is complete when for this long nothing has been painted and no more processor time than the allowance has
+/// been used. This is shorter than half the period of a blinking caret.
 constexpr Milliseconds quiet = 300ms;
 constexpr Nanoseconds allowance = 10ms;
 constexpr Milliseconds patience = 120s;
@@ -47,8 +47,8 @@ double milliseconds(Clock::duration duration)
     return std::chrono::duration<double, std::milli>(duration).count();
 }
 
-/// Waits until the program is idle and returns since when it has been. With `mustPaint` it doesn't count as idle before it
-/// has painted a large part of the screen.
+/// Waits until the program is idle and returns since when it has been. With `mustPaint` it doesn't count as idle before
+/// it has painted a large part of the screen.
 Clock::time_point restAfter(Clock::time_point start, Screen &screen, ProcessTree &program, bool mustPaint,
                             bool trace = false)
 {
@@ -130,7 +130,8 @@ struct Options {
 void measure(const Options &options, const std::vector<std::string> &command)
 {
     Screen screen;
-    // The X server switches to its artificial keyboard at the first key, and a program that handles that switch misses the key.
+    // The X server switches to its artificial keyboard at the first key, and a program that handles that switch misses
+    // the key.
     screen.press(leftShift);
     while (screen.look(100ms).anything) {}
 

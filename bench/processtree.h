@@ -12,8 +12,8 @@ namespace zephira::bench {
 
 using Nanoseconds = std::chrono::nanoseconds;
 
-/// A program that was started for a measurement, with all its child processes. The destructor kills it instead of asking it
-/// to close, because what it does on closing is not measured.
+/// A program that was started for a measurement, with all its child processes. The destructor kills it instead of
+/// asking it to close, because what it does on closing is not measured.
 class ProcessTree
 {
 public:

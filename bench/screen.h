@@ -25,8 +25,8 @@ struct Painted {
     int bottom = 0;
 };
 
-/// The X display of a measurement. It reports when something is painted, without slowing the server by reading pixels back,
-/// and presses keys as a keyboard does.
+/// The X display of a measurement. It reports when something is painted, without slowing the server by reading pixels
+/// back, and presses keys as a keyboard does.
 class Screen
 {
 public:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// syntax_bench: how fast our engine and the editing component's own HTML lexer colour the same whole HTML text, in bytes
-// per second.
+// syntax_bench: how fast our engine and the editing component's own HTML lexer colour the same whole HTML text, in
+// bytes per second.
 #include "syntax/languageregistry.h"
 #include "syntax/syntaxengine.h"
 

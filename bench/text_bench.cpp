@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// text_bench SMALL LARGE: every text function, with a file and with one of ten times its size. This reveals functions whose
-// time grows faster than their input.
+// text_bench SMALL LARGE: every text function, with a file and with one of ten times its size. This reveals functions
+// whose time grows faster than their input.
 #include "files/lineends.h"
 #include "files/privateprofile.h"
 #include "files/textfile.h"
@@ -152,8 +152,8 @@ const TextFunction functions[] = {
     {"Hierarchical", [](Input &input) { benchmark::DoNotOptimize(Hierarchical(input.tables)); }},
 };
 
-/// Evicts the inputs from the processor's caches. Otherwise only the small one would be read from there, which would distort
-/// the comparison.
+/// Evicts the inputs from the processor's caches. Otherwise only the small one would be read from there, which would
+/// distort the comparison.
 void emptyCaches()
 {
     static std::vector<unsigned char> other(std::size_t{64} << 20);

@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(table[5].foreground, 501);
         QCOMPARE(table[5].fontStyle, 502);
         applyColours(table, editor);
-        // Item by item: row * 100 is the background, + 1 the foreground, + 2 the font style.
+        // The keys are row * 100 for the background, + 1 for the foreground, + 2 for the font style.
         const std::map<int, quint32> expected = {
             {0, 1701},  {1, 601},   {2, 1},     {3, 0},     {4, 1601},  {5, 1600},  {6, 801},   {7, 800},
             {8, 501},   {9, 500},   {10, 901},  {11, 900},  {12, 1001}, {13, 1000}, {14, 101},  {15, 100},
@@ -59,7 +59,7 @@ private Q_SLOTS:
     {
         MemoryConfiguration configuration;
         fill(configuration);
-        configuration.put(u"Colors"_s, u"clr17fnt"_s, u""_s); // Never used, and yet it must be there.
+        configuration.put(u"Colors"_s, u"clr17fnt"_s, u""_s); // Never used, but required.
         QVERIFY_EXCEPTION_THROWN(readColours(configuration, u"/x/zephira.ini"_s), HandlerError);
     }
 

@@ -12,7 +12,7 @@
 using namespace zephira;
 using namespace Qt::StringLiterals;
 
-/// Whatever form a command names is in the catalogue: written, or announced.
+/// Every form that a command names is in the catalogue, either implemented or announced.
 class TstComingForms : public QObject
 {
     Q_OBJECT

@@ -22,13 +22,13 @@ using namespace zephira;
 
 namespace {
 
-/// Who listens to a signal, which QObject tells its heirs alone.
+/// The number of a signal's receivers, which QObject tells only its subclasses.
 struct Listeners : QObject {
     static int to(const QObject &sender, const char *signal) { return (sender.*&Listeners::receivers)(signal); }
 };
 
-/// How many listen to an action beside the widgets that show it. What those listen with is counted on an action that
-/// stands beside it and does nothing.
+/// The number of receivers of an action, not counting the widgets that show it. These are counted on an idle action
+/// that is added to the same widgets.
 int effectsOf(QAction &action)
 {
     QAction idle(nullptr);
@@ -42,7 +42,8 @@ int effectsOf(QAction &action)
     return Listeners::to(action, signal) - Listeners::to(idle, signal);
 }
 
-/// What is wrong with an action: one that can be chosen has exactly one effect, one that opens a menu may have one.
+/// What is wrong with an action: one that can be chosen must have exactly one effect, one that opens a menu at most
+/// one.
 QStringList faultsOf(QAction &action)
 {
     if (action.isSeparator() || !action.isEnabled())
@@ -65,7 +66,7 @@ QList<QAction *> actionsOf(const QWidget &holder)
     return found;
 }
 
-/// All rows of the window: menus, pop-ups, toolbars with their pull-downs, and the palette.
+/// All actions of the window: menus, pop-ups, toolbars with their pull-downs, and the palette.
 QList<QAction *> actionsOf(const WindowBench &bench)
 {
     QList<QAction *> found = actionsOf(*bench.window->menuBar());
@@ -76,14 +77,14 @@ QList<QAction *> actionsOf(const WindowBench &bench)
         bars.append(u"Toolbar_%1"_s.arg(palette));
     for (const QString &bar : bars)
         found.append(actionsOf(*bench.find<QToolBar>(bar)));
-    // Boxes and buttons in a toolbar are actions too, which nobody can choose.
+    // Combo boxes and other widgets in a toolbar are actions too, but can't be chosen.
     found.removeIf([](QAction *action) { return action->text().isEmpty() && !action->isCheckable(); });
     return found;
 }
 
 } // namespace
 
-/// Everything that can be chosen in the real window does one thing.
+/// Every action that can be chosen in the real window has exactly one effect.
 class TstCommandRows final : public QObject
 {
     Q_OBJECT
@@ -103,12 +104,12 @@ private Q_SLOTS:
             enabled += action->isEnabled() && !action->isSeparator();
         }
         QCOMPARE(faults, QStringList());
-        // A walk that has lost its way would find no fault either.
+        // A walk that misses most actions would find no fault either.
         QVERIFY2(actions.size() > 300, qPrintable(QString::number(actions.size())));
         QVERIFY2(enabled > 230, qPrintable(QString::number(enabled)));
     }
 
-    /// What a row says goes to one place.
+    /// Each signal that reports a chosen command has one receiver.
     void oneListensToEachSource()
     {
         WindowBench bench;
@@ -124,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"Toolbar2"_s), SIGNAL(buttonClicked(QString))), 1);
     }
 
-    /// What needs a form that is to come is closed, and only that.
+    /// Exactly those entries are disabled that need a form which isn't implemented yet.
     void whatIsClosedIsToCome()
     {
         WindowBench bench;
@@ -143,7 +144,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The walk sees what is wrong.
+    /// The check finds planted faults.
     void aWrongRowIsFound()
     {
         WindowBench bench;

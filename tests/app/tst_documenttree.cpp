@@ -26,7 +26,7 @@ private Q_SLOTS:
         QVERIFY(bench.find<QTreeView>(u"TreeView1"_s)->isVisible());
         QVERIFY(leaf(bench, u"x"_s).isValid());
 
-        // It follows no later change, but a further click does.
+        // It doesn't follow later changes until it is clicked again.
         window.rt().setText(u"<a href=y>"_s);
         QVERIFY(leaf(bench, u"x"_s).isValid());
         showTree(bench);

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What RESET puts back.
+/// The filters that RESET restores.
 constexpr auto ownFilters =
     u"*.vbs;*.asp;*.ini;*.log;*.txt;*.htm;*.html;*css;*.js;*.c;*.cpp;*.h;*.pl;*.cgi;*.xml;*.pas;*.bas;*.frm;*.vbp;*.gif;"
     u"*.bmp;*.jpg;*.java;*.sql";
@@ -29,7 +29,7 @@ constexpr auto ownFilters =
 class Bench : public WindowBench
 {
 public:
-    /// The window shows, so that it can be clicked.
+    /// Shows the window, so that it can be clicked.
     frmmain &start(const QString &argument = u"/nodialog"_s)
     {
         WindowBench::start(argument).show();
@@ -69,7 +69,7 @@ public:
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, place);
     }
 
-    /// Opens the list's menu as the right button does, and closes it.
+    /// Opens the list's context menu as a right click does, and closes it.
     void openMenu() const
     {
         QTest::mouseClick(list().viewport(), Qt::RightButton, {}, QPoint(5, 5));
@@ -301,7 +301,7 @@ private Q_SLOTS:
              Question::Icon::Critical,
              Question::Buttons::Ok},
             Answer::Ok);
-        // At once, before the list follows the disk.
+        // At once, before the list notices the change on the disk.
         Q_EMIT bench.list().doubleClicked(bench.list().currentIndex());
         QCOMPARE(window.rt().text(), u"mine"_s);
     }
@@ -332,7 +332,7 @@ private Q_SLOTS:
         bench.doubleClick(u"Red.BMP"_s);
         auto *viewer = bench.window->findChild<QWidget *>(u"frmqv"_s);
         if (link) {
-            // The selection stays in front of the image.
+            // The selected text stays, in front of the image.
             QCOMPARE(window.rt().text(),
                      u"old<img src=\"img/Red.BMP\" width=\"30\" height=\"20\" alt=\"\" Border=\"0\">"_s);
             QVERIFY(!viewer);
@@ -434,7 +434,7 @@ private Q_SLOTS:
         window.rt().setText(u"selected"_s);
         window.rt().executeCmd(EditorCommand::SelectAll);
         bench.choose(u"mnuinslink"_s);
-        // The link takes the place of the selection.
+        // The link replaces the selection.
         QCOMPARE(window.rt().text(), u"<a href=\"%1\">%2</a>"_s.arg(link, name));
     }
 
@@ -456,7 +456,7 @@ private Q_SLOTS:
         bench.write(u"site/a.htm"_s, "");
         frmmain &window = bench.start();
         bench.listSite();
-        // The literal in the box has no folder in common with anything, so that the path loses its first character.
+        // The placeholder text in the box has no folder in common with any path, so the path loses its first character.
         bench.choose(u"mnuinslink"_s);
         QCOMPARE(window.rt().text(), u"<a href=\"%1/a.htm\">a.htm</a>"_s.arg(bench.site().mid(1)));
         bench.project().setText({});
@@ -498,7 +498,7 @@ private Q_SLOTS:
         auto *viewer = bench.find<QWidget>(u"frmqv"_s);
         QVERIFY(viewer->isVisible());
         QVERIFY(!viewer->isModal());
-        QCOMPARE(viewer->size(), QSize(2000, 1553)); // As large as the picture, whatever the screen.
+        QCOMPARE(viewer->size(), QSize(2000, 1553)); // As large as the picture, whatever the size of the screen.
         QVERIFY(viewer->findChild<QWidget *>(u"Picture1"_s)->isVisible());
         bench.select(u"b.txt"_s);
         bench.choose(u"mnuqv"_s);
@@ -507,7 +507,7 @@ private Q_SLOTS:
         QVERIFY(text->isVisible());
         QVERIFY(!viewer->findChild<QWidget *>(u"Picture1"_s)->isVisible());
         QCOMPARE(text->text(), u"text"_s);
-        // Nothing of it touches the document.
+        // None of this touches the document.
         QCOMPARE(window.rt().text(), u"document"_s);
         QVERIFY(!window.docModified());
     }
@@ -578,7 +578,7 @@ private Q_SLOTS:
         QCOMPARE(bench.tree().selectedFolder(), bench.site());
         QCOMPARE(bench.list().names(), QStringList{u"a page.css"_s});
         QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentText(), u"Style Sheets"_s);
-        QCOMPARE(bench.project().text(), u"Project Path"_s); // The project isn't the file's.
+        QCOMPARE(bench.project().text(), u"Project Path"_s); // The file doesn't set the project.
     }
 
     void aDroppedImageIsLoadedLikeAnyFile()
@@ -627,7 +627,7 @@ private Q_SLOTS:
         workspace->setCurrentIndex(2);
         bench.webViews.designer.html = u"<p>old</p>"_s;
         bench.drop({dropped});
-        // The designer still holds the page from before, which must not come back over the new one.
+        // The designer still holds the previous page, which must not overwrite the new one.
         QCOMPARE(workspace->currentIndex(), 0);
         QCOMPARE(window.rt().text(), u"<p>new</p>"_s);
         QVERIFY(!window.docModified());

@@ -59,7 +59,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Tab is the text's, so another key leaves it.
+    /// Tab is typed into the text, so another key leaves it.
     void ctrlF6WalksThroughTheWindow()
     {
         WindowBench bench;
@@ -75,7 +75,7 @@ private Q_SLOTS:
                 if (focus == part || part->isAncestorOf(focus))
                     return name;
             }
-            // Buttons beside the strips of tabs are of the palette or the side pane.
+            // The buttons next to a tab bar belong to the palette or to the side pane.
             return bench.window->sidePane().isAncestorOf(focus) ? u"Frame1"_s : u"toolpane"_s;
         };
         QCOMPARE(here(), u"rt"_s);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QStringList texts;
         for (int i = 1; i <= 10; ++i)
             texts.append(bench.panel(i));
-        texts.removeAt(7); // The time has its own format.
+        texts.removeAt(7); // The time of day.
         QCOMPARE(texts,
                  (QStringList{u"Line:"_s, u"1"_s, u"Total Lines:"_s, u"1"_s, u"CAPS"_s, u"NUM"_s, u"INS"_s,
                               u"Charecter Count"_s, u"File Name"_s}));
@@ -354,7 +354,7 @@ private Q_SLOTS:
         window.OpenAFile();
         const QString link = u"<img src=\"good.gif\" width=\"1\" height=\"1\" alt=\"\" Border=\"0\">"_s;
         QCOMPARE(window.rt().text(), link);
-        // A picture that is cut short is none.
+        // A truncated picture doesn't count as a picture.
         list->setCurrentItem(list->findItems(u"bad.gif"_s, Qt::MatchExactly).value(0));
         bench.prompts.expect(
             {u"An error has occured.\r\nThe picture %1 can't be shown: Unable to read image data.\r\n"_s.arg(bad)
@@ -412,7 +412,7 @@ private Q_SLOTS:
         QCOMPARE(window.rt().text(), QString());
         const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
         QCOMPARE(copies.size(), 1);
-        QVERIFY(copies.front().startsWith(u"open-")); // The next start tells of it.
+        QVERIFY(copies.front().startsWith(u"open-")); // The next start reports it.
         QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
     }
 
@@ -433,7 +433,7 @@ private Q_SLOTS:
         QVERIFY(!window.docHasFile());
     }
 
-    /// The system ends the process: what is typed is in a copy at once, and nothing is asked.
+    /// The system ends the process: the typed text is saved in a copy at once, and nothing is asked.
     void aForcedEndKeepsWhatIsUnsaved()
     {
         WindowBench bench;
@@ -463,7 +463,7 @@ private Q_SLOTS:
         QCOMPARE(copies(), QStringList());
         QVERIFY(window.windowEnd().agreesToSessionEnd(false));
         QCOMPARE(copies().size(), 1);
-        QCOMPARE(bench.ended, 0); // Ending is the session's.
+        QCOMPARE(bench.ended, 0); // The session manager ends the program.
     }
 
     void textsThatACrashLeftAreOfferedAboveTheText()
@@ -488,7 +488,7 @@ private Q_SLOTS:
         QVERIFY(window.docModified());
         QVERIFY(!window.docHasFile());
         QCOMPARE(bench.find<QComboBox>(u"cboLang"_s)->currentText(), u"HTML"_s);
-        QVERIFY(QFile::exists(page)); // It is shown, not answered.
+        QVERIFY(QFile::exists(page)); // Showing a copy doesn't remove it.
         QCOMPARE(bar->copies().size(), 2);
 
         bench.find<QPushButton>(u"recoveryDelete_1"_s)->click();
@@ -518,7 +518,7 @@ private Q_SLOTS:
         QVERIFY(!bar->isVisible());
     }
 
-    /// At the first start, on a screen of 1366 × 768 at the scale 2, less the frame.
+    /// At the first start, on a screen of 1366 × 768 pixels at scale 2, minus the window frame.
     void theWindowFitsALowScreen()
     {
         WindowBench bench;
@@ -552,7 +552,7 @@ private Q_SLOTS:
         QCOMPARE(panel->accessibleDescription(), QString());
     }
 
-    /// Beginning and end of a path that is too long for its place are seen, and the text stays whole.
+    /// Of a path that is too long for its panel, the beginning and the end are visible; the text itself stays complete.
     void aLongPathIsCutInItsMiddle()
     {
         WindowBench bench;
@@ -569,7 +569,7 @@ private Q_SLOTS:
         QCOMPARE(panel->toolTip(), path);
         QVERIFY(one != picture(u'/' + QString(500, u'm') + u"/b.txt"_s));
         QVERIFY(one != picture(u"/l"_s + QString(499, u'm') + u"/a.txt"_s));
-        // What the middle holds can't be seen.
+        // The middle of the path isn't visible.
         QCOMPARE(one, picture(u'/' + QString(250, u'm') + u'x' + QString(249, u'm') + u"/a.txt"_s));
     }
 
@@ -582,7 +582,7 @@ private Q_SLOTS:
         frmmain &window = bench.start(page);
         const auto *list = bench.find<QListWidget>(u"ListFiles"_s);
         QCOMPARE(list->currentItem()->text(), u"m.html"_s);
-        // A file that a save makes is selected as soon as the list has it.
+        // A file that is created by saving is selected as soon as it is in the list.
         const QString made = bench.folder() + u"/site/new.html"_s;
         bench.prompts.expectFile({u"Save a document..."_s,
                                   u"HTML Files|*.html|ASP File|*.asp|VBScript File|*.vbs|All Files|*.*"_s,

@@ -29,7 +29,7 @@ private Q_SLOTS:
 
 private:
     static QWidget *ftpWindow(const WindowBench &bench) { return bench.window->forms().openForm(u"frmmainftp"_s); }
-    /// Runs once the form of that name is the modal one.
+    /// Runs the action as soon as the form of that name is the active modal window.
     void whenOpen(const QString &form, std::function<void(QWidget &)> action)
     {
         auto *timer = new QTimer(this);
@@ -64,7 +64,7 @@ void TstFtpWindow::buttonPresetsTheProjectFolder()
     bench.window->context().document.setProjectPath(project + u'/');
     bench.click(u"Toolbar1"_s, u"ftp"_s);
     QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), project + u'/');
-    // The command finds the window that is open, wherever it has gone meanwhile.
+    // The window that is open already goes back to the project folder, wherever it has moved to since.
     ftpWindow(bench)->setProperty("LocalFolder", bench.appPath());
     bench.click(u"Toolbar1"_s, u"ftp"_s);
     QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), project + u'/');
@@ -110,7 +110,7 @@ void TstFtpWindow::connectAndDownload()
                 ->toPlainText()
                 .endsWith(u" > Data transfer completed succesfully.\n"_s));
 
-    // Until a folder is clicked, the paths of commands begin at the root.
+    // Until a folder is clicked, the commands' paths are relative to the root.
     auto *list = window->findChild<QAbstractItemView *>(u"ListView2"_s);
     list->selectAll();
     QString queue;

@@ -87,7 +87,7 @@ private Q_SLOTS:
         QVERIFY(window.rt().selBounds());
     }
 
-    /// A size that nobody can read, or that fills the screen with a letter, is brought into range.
+    /// A size that is too small to read, or so large that one letter fills the screen, is clamped.
     void aFontSizeBeyondSense_data()
     {
         QTest::addColumn<QString>("stored");
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(bench.find<QListWidget>(u"ListFiles"_s)->item(0)->text(), u"page one.html"_s);
     }
 
-    /// The file pane lists the file's own folder, also where the tree leaves that folder out.
+    /// The file pane lists the file's own folder, even if the tree omits that folder.
     void aFileInAHiddenFolder()
     {
         WindowBench bench;

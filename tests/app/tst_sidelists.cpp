@@ -27,7 +27,7 @@ void selectTabOf(const WindowBench &bench, const QString &key)
     }
 }
 
-/// A window on the screen with a text of which the middle word is selected.
+/// A visible window with a text whose middle word is selected.
 struct ListsBench : WindowBench {
     ListsBench()
     {
@@ -39,7 +39,7 @@ struct ListsBench : WindowBench {
     QString text() const { return window->rt().text(); }
     void selectTab(const QString &key) const { selectTabOf(*this, key); }
 
-    /// Presses the palette's toggle, with the window in front so that the list can have the focus.
+    /// Presses the palette's toggle button. The window is activated first, so that the list can get the focus.
     void openSelectors() const
     {
         window->activateWindow();
@@ -56,7 +56,7 @@ struct ListsBench : WindowBench {
     }
 };
 
-/// The same in visual mode, with the selection that the code view has kept.
+/// The same in visual mode, with the selection that was made in the code view.
 struct VisualBench : WindowBench {
     VisualBench()
     {
@@ -302,7 +302,7 @@ private Q_SLOTS:
         bench.prompts.expect({failure + u"File already open"_s}, Answer::Ok);
         bench.selectTab(u"c1"_s);
         QCOMPARE(bench.find<QTreeWidget>(u"c1"_s)->topLevelItemCount(), 0);
-        // What other parts do with files is not affected.
+        // The file functions of other parts still work.
         QVERIFY(bench.window->FileExists(bench.appPath() + u"/tags.dat"_s));
     }
 

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The window with an HTML document, and fakes in the place of browser and designer.
+/// The window with an HTML document, and fakes instead of browser and designer.
 struct ViewBench : WindowBench {
     const QString file = write(u"site/page.html"_s, "<p>old</p>\r\n");
     const QString copy = folder() + u"/site/page.htmltemp.html"_s;
@@ -30,7 +30,7 @@ struct ViewBench : WindowBench {
 
     QTabBar &tabs() const { return *find<QTabBar>(u"workspace"_s); }
     void select(int tab) const { tabs().setCurrentIndex(tab - 1); }
-    /// Shows the window as the one that has the keyboard.
+    /// Shows the window and gives it the keyboard focus.
     bool activate() const
     {
         window->show();
@@ -41,7 +41,7 @@ struct ViewBench : WindowBench {
     FakeDesigner &designer() { return webViews.designer; }
     bool isOpen(const QString &menu) const { return find<QMenu>(menu)->menuAction()->isEnabled(); }
 
-    /// What the five menus and the two of the source are: "+" open, "-" closed, source first.
+    /// The states of the two source menus, then of the five designer menus: "+" enabled, "-" disabled.
     QString menus() const
     {
         QString text;
@@ -173,7 +173,7 @@ private Q_SLOTS:
 
     void aClickOnATabGivesItTheKeyboard_data()
     {
-        QTest::addColumn<QString>("before"); // Where the keyboard is.
+        QTest::addColumn<QString>("before"); // The widget with the focus.
         QTest::newRow("from the code view") << u"rt"_s;
         QTest::newRow("from the side pane") << u"PrjPath"_s;
         QTest::newRow("from the language list") << u"cboLang"_s;
@@ -240,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(bench.tabs().currentIndex(), 1);
         QCOMPARE(bench.webViews.browser.calls, QStringList{bench.copy});
         bench.window->rt().setText(u"changed"_s);
-        action->trigger(); // The tab is selected already.
+        action->trigger(); // The tab was selected already.
         QCOMPARE(WindowBench::read(bench.copy), QByteArray("changed"));
         QCOMPARE(bench.webViews.browser.calls.size(), 2);
     }
@@ -401,7 +401,7 @@ private Q_SLOTS:
         bench.select(3);
         bench.designer().html = u"<p>rewritten</p>"_s;
         bench.choose(u"save"_s);
-        QCOMPARE(bench.tabs().currentIndex(), 2); // Saving a clean page leaves the view.
+        QCOMPARE(bench.tabs().currentIndex(), 2); // Saving an unmodified page doesn't change the view.
         bench.select(1);
         QCOMPARE(bench.window->rt().text(), u"<p>old</p>\r\n"_s);
         QVERIFY(!bench.window->docModified());
@@ -447,7 +447,7 @@ private Q_SLOTS:
             {u"Document: "_s + bench.file + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
             Answer::Cancel);
-        bench.choose(u"mnuupdate"_s); // The process ends in any case.
+        bench.choose(u"mnuupdate"_s); // It ends the process whatever the answer.
         const QDir copies(bench.folder() + u"/recovery"_s);
         QCOMPARE(copies.entryList(QDir::Files).size(), 1);
         QCOMPARE(WindowBench::read(copies.filePath(copies.entryList(QDir::Files).front())),
@@ -583,7 +583,7 @@ private Q_SLOTS:
         bench.designer().events.documentComplete();
         QVERIFY(bench.window->designerReady());
         bench.select(1);
-        QVERIFY(bench.window->designerReady()); // It stays, whatever the view.
+        QVERIFY(bench.window->designerReady()); // It stays so in every view.
     }
 
     void theFormatMenu()
@@ -595,7 +595,7 @@ private Q_SLOTS:
         designer.results[DesignerCommand::GetBlockFormat] = u"Heading 1"_s;
         designer.events.documentComplete();
         designer.results[DesignerCommand::GetBlockFormatNames] = QStringList{u"Another"_s};
-        designer.events.documentComplete(); // Only the first counts.
+        designer.events.documentComplete(); // Only the first one counts.
         Q_EMIT bench.find<QMenu>(u"Format"_s)->aboutToShow();
         QAction *normal = bench.find<QAction>(u"FormatSub_0"_s);
         QAction *heading = bench.find<QAction>(u"FormatSub_1"_s);
@@ -603,7 +603,7 @@ private Q_SLOTS:
         QCOMPARE(heading->text(), u"Heading 1"_s);
         QVERIFY(!normal->isChecked() && heading->isChecked() && heading->isEnabled());
         QVERIFY(!bench.find<QAction>(u"FormatSub_2"_s)->isVisible());
-        // The ticks follow the caret, whether the menu opens or not.
+        // The check marks follow the caret even while the menu is closed.
         designer.results[DesignerCommand::GetBlockFormat] = u"Normal"_s;
         designer.events.displayChanged();
         QVERIFY(normal->isChecked() && !heading->isChecked());

@@ -23,7 +23,7 @@ const Question saveQuestion{
     u"You must save your document in order to use the visual editor, please click OK to continue, or cancel to go back to code view"_s,
     u"Save Work"_s, Question::Icon::Question, Question::Buttons::OkCancel};
 
-// What stands at the place in the page of which the tests tell.
+// A point of the page inside the elements below.
 constexpr QPoint place{30, 40};
 const QByteArray text("<p>text</p>");
 const QByteArray cell("<table><tr><td>cell</td></tr></table>");
@@ -42,7 +42,7 @@ struct MenuCloser {
     void operator()(QMenu *menu) const { menu->close(); }
 };
 
-/// Clicks at the place with the right button; nullptr where no menu comes up.
+/// Right-clicks at `place` and returns the menu; nullptr if none opens.
 QMenu *openContextMenu(const WebBench &bench)
 {
     QTest::mouseClick(bench.keyboardOf(u"DHTMLEdit1"_s), Qt::RightButton, {}, place);
@@ -50,7 +50,7 @@ QMenu *openContextMenu(const WebBench &bench)
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
-/// Does something with the modal form as soon as it shows.
+/// Calls a function with the modal form as soon as it is shown.
 void whenModal(const std::function<void(QWidget &)> &act)
 {
     auto *timer = new QTimer(qApp);
@@ -66,7 +66,8 @@ void whenModal(const std::function<void(QWidget &)> &act)
 
 } // namespace
 
-/// Visual mode with the real engine: how text comes and goes, and that toolbar, menus and dialogs reach the page.
+/// Visual mode with the real engine: how the text gets there and back, and that toolbar, menus and dialogs reach the
+/// page.
 class TstWebDesigner : public QObject
 {
     Q_OBJECT
@@ -129,7 +130,8 @@ private Q_SLOTS:
         QCOMPARE(bench.window->rt().text(), QString::fromLatin1("3 < 4" + content));
     }
 
-    /// Commands that come while the designer is being left find its text at home; nothing is lost, and nothing late.
+    /// Commands that are given while the designer is being left act on its text: nothing is lost or overwritten by late
+    /// text.
     void commandsWhileTheDesignerIsLeft()
     {
         constexpr int runs = 200;
@@ -380,7 +382,7 @@ private Q_SLOTS:
             form.findChild<QPushButton *>(u"CmdOK"_s)->click();
         });
         bench.choose(u"InsertHTML"_s);
-        bench.paste(u"<i>after</i>"_s); // By then a script would have run.
+        bench.paste(u"<i>after</i>"_s); // By now a script would have run.
         for (const QString &part : {u"<script>document.body.textContent = 'run'</script>"_s, u"<?php echo 1 < 2; ?>"_s,
                                     u"onerror=\"document.body.textContent = 'run'\""_s, u"<i>after</i>"_s, u"old"_s})
             QVERIFY2(bench.html().contains(part), qPrintable(bench.html()));
@@ -389,7 +391,7 @@ private Q_SLOTS:
     void menusFollowThePlace_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QStringList>("closed"); // Entries that are disabled.
+        QTest::addColumn<QStringList>("closed"); // The disabled entries.
         QTest::addColumn<QString>("position");
         QTest::addColumn<bool>("isLocked");
         const QStringList table{u"TableSub_2"_s, u"TableSub_3"_s, u"TableSub_4"_s, u"TableSub_6"_s,
@@ -439,7 +441,7 @@ private Q_SLOTS:
     void theContextMenu_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QStringList>("more"); // Behind the entries that are always there.
+        QTest::addColumn<QStringList>("more"); // After the entries that are always there.
         const QStringList table{QString(), u"Insert Row"_s, u"Insert Column"_s,
                                 QString(), u"Delete Row"_s, u"Delete Column"_s};
         QTest::newRow("text") << pageWith(text) << QStringList();
@@ -469,7 +471,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("tag"); // Is there so often afterwards.
+        QTest::addColumn<QString>("tag"); // Counted in the page afterwards.
         QTest::addColumn<int>("count");
         QTest::newRow("cut") << pageWith(picture) << 0 << u"<img"_s << 0;
         QTest::newRow("make 2D") << pageWith(picture) << 8 << u"absolute"_s << 1;

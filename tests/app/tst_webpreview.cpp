@@ -37,8 +37,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>(
-            "address"); // Beneath the bench's folder; where it begins with "@", beneath the program's.
+        QTest::addColumn<QString>("address"); // Below the bench's folder; with a leading "@" below the program's.
         QTest::newRow("html") << u"page.html"_s << pageOne << u"one"_s << u"/site/page.htmltemp.html"_s;
         QTest::newRow("htm with odd characters")
             << u"a b#1%.htm"_s << pageOne << u"one"_s << u"/site/a b#1%.htmtemp.htm"_s;
@@ -68,7 +67,7 @@ private Q_SLOTS:
         QFETCH(QString, address);
         WebBench bench(name, content);
         if (title.startsWith(name)) {
-            // A text has its address for a title, and not every kind of text has one.
+            // The title of a plain text is its address, and not every kind of text has a title.
             bench.select(2);
             QVERIFY(waitUntil([&] { return bench.browser().property("LocationURL").toString().endsWith(title); },
                               WebBench::patience));
@@ -99,7 +98,7 @@ private Q_SLOTS:
     void aNewDocumentShowsFromTheScratchFolder()
     {
         WebBench bench((QString()));
-        // The scratch folder is the user's, and other tests may run at the same time.
+        // The scratch folder is in the user's home, and other tests may use it at the same time.
         const auto restore = qScopeGuard([home = qgetenv("HOME")] { qputenv("HOME", home); });
         qputenv("HOME", QFile::encodeName(bench.folder()));
         bench.find<QComboBox>(u"cboLang"_s)->setCurrentIndex(1);
@@ -165,7 +164,7 @@ private Q_SLOTS:
         page->setFocus();
         QGuiApplication::clipboard()->setText(u"before"_s);
         QTest::keyClick(page, Qt::Key_A, Qt::ControlModifier);
-        // The page takes its keys one after the other, and the selection a moment after the key.
+        // The page handles its keys one after the other, and the selection changes a moment after the key.
         QVERIFY(waitUntil(
             [&] {
                 QTest::keyClick(page, Qt::Key_C, Qt::ControlModifier);
@@ -229,7 +228,7 @@ private Q_SLOTS:
         QCOMPARE(bench.browser().property("LocationURL").toString(), server.address(u'/' + copy));
         QCOMPARE(bench.window->previewTarget(), taken ? QString() : server.address(u"/a.asp"_s));
         bench.choose(u"mnunewdoc"_s);
-        QCOMPARE(WindowBench::read(root + copy), QByteArray("<title>mine</title>")); // It is never deleted.
+        QCOMPARE(WindowBench::read(root + copy), QByteArray("<title>mine</title>")); // The file is never deleted.
         if (taken)
             QCOMPARE(WindowBench::read(root + u"a.asp"_s), QByteArray("<title>theirs</title>"));
     }

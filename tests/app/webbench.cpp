@@ -41,7 +41,7 @@ bool WebBench::preview(const QString &title)
 bool WebBench::design()
 {
     select(3);
-    // A page that can't be edited yet knows no command.
+    // No command is enabled before the page can be edited.
     return waitUntil([&] { return status(DesignerCommand::SelectAll) >= DesignerStatus::Enabled; }, patience);
 }
 

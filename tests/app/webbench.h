@@ -11,12 +11,12 @@
 
 namespace zephira {
 
-/// The window over the real web engine, showing, with a document in a folder of its own.
+/// The visible window with the real web engine and a document in a folder of its own.
 struct WebBench : WindowBench {
-    /// Milliseconds that a busy machine may need to start the engine and show a page.
+    /// Time-out in milliseconds for starting the engine and showing a page, long enough for a busy machine.
     static constexpr int patience = 60000;
 
-    /// Opens the file site/NAME with this content; without a name there is an empty document.
+    /// Opens the file site/NAME with this content; an empty document if there is no name.
     explicit WebBench(const QString &name = QStringLiteral("page.html"), const QByteArray &content = "<p>old</p>\r\n");
 
     QTabBar &tabs() const { return *find<QTabBar>(QStringLiteral("workspace")); }
@@ -24,9 +24,9 @@ struct WebBench : WindowBench {
     QObject &browser() const { return *find<QObject>(QStringLiteral("ww1")); }
     QObject &designer() const { return *find<QObject>(QStringLiteral("DHTMLEdit1")); }
 
-    /// Selects the preview and waits until it shows the page of this title.
+    /// Selects the preview and waits until it shows the page with this title.
     bool preview(const QString &title);
-    /// Waits until the preview shows a page of this title.
+    /// Waits until the preview shows a page with this title.
     bool showsPage(const QString &title) const;
     QString pageTitle() const;
     /// Selects visual mode and waits until the page can be edited.
@@ -35,7 +35,7 @@ struct WebBench : WindowBench {
     void paste(const QString &markup) const;
     void run(DesignerCommand command, const QVariant &argument = {}) const;
     int status(DesignerCommand command) const;
-    /// What takes the keys and the mouse in a view, by the view's name.
+    /// The widget that receives keys and mouse events in the view of this name.
     QWidget *keyboardOf(const QString &view) const;
 
     QString file;

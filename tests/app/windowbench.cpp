@@ -44,7 +44,7 @@ WindowBench::WindowBench()
     QDirIterator data(source.path(), QDir::Files, QDirIterator::Subdirectories);
     while (data.hasNext()) {
         const QString file = data.next();
-        // Written anew, because a copy of Qt's waits for the disk at each file.
+        // Read and written, because QFile::copy() waits for the disk at each file.
         write(u"app/"_s + source.relativeFilePath(file), read(file));
     }
     announceComingForms(catalogue);

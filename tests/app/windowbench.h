@@ -20,18 +20,18 @@
 
 namespace zephira {
 
-/// Plain widgets in the place of browser and designer, and the fakes that answer for them.
+/// Plain widgets instead of browser and designer, and the fakes that stand behind them.
 struct FakeWebViews final : WebViews {
     FakeBrowser browser;
     FakeDesigner designer;
-    /// What was made, in order: "browser", "designer".
+    /// The views made so far, in order: "browser", "designer".
     QStringList made;
 
     BrowserView makeBrowser(const FileStore &files, QWidget *parent) override;
     DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) override;
 };
 
-/// The main window over a program folder of its own, with the shipped data and real files. Prompts, per-user settings,
+/// The main window with a program folder of its own, the shipped data and real files. Prompts, per-user settings,
 /// shell, clipboard, clock and web views are fakes.
 class WindowBench
 {
@@ -39,16 +39,16 @@ public:
     WindowBench();
     ~WindowBench();
 
-    /// Makes the window and runs its load handler.
+    /// Creates the window and runs its load handler.
     frmmain &start(const QString &argument = QStringLiteral("/nodialog"));
 
-    /// Writes a file below the bench's folder and gives its full path.
+    /// Writes a file below the bench's folder and returns its full path.
     QString write(const QString &name, const QByteArray &content) const;
     static QByteArray read(const QString &path);
     QString folder() const { return m_folder.path(); }
     QString appPath() const { return m_folder.path() + QStringLiteral("/app"); }
 
-    /// A child by objectName; fails the test when there is none.
+    /// A child by objectName; fails the test if there is none.
     template<typename T>
     T *find(const QString &name) const
     {
@@ -60,7 +60,7 @@ public:
 
     /// Chooses a menu entry.
     void choose(const QString &entry) const { find<QAction>(entry)->trigger(); }
-    /// Clicks a toolbar's button, known by its key or by its position (from 1, separators counted).
+    /// Clicks a toolbar's button, given by its key or by its position (from 1, including separators).
     void click(const QString &toolBar, const QString &key) const;
     void click(const QString &toolBar, int position) const;
     QString panel(int number) const { return find<QLabel>(QStringLiteral("stBar_%1").arg(number))->text(); }
@@ -77,7 +77,7 @@ public:
     RecordingOperations ftpOperations;
     FormCatalogue catalogue;
     FakeWebViews webViews;
-    /// Gives the fakes, unless a test sets something else before the start.
+    /// Returns the fakes, unless a test sets something else before the start.
     WebViewsLoader loadWebViews = [this]() -> Result<WebViews *> { return &webViews; };
     int ended = 0;
     std::unique_ptr<frmmain> window;

@@ -18,7 +18,7 @@
 
 namespace zephira {
 
-/// The window's parts as commands see them: it keeps what it was asked for, as "name" or "name argument".
+/// The window's parts as commands see them. It records each call as "name" or "name argument".
 struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, WindowCommands {
     QStringList calls;
     std::set<QString> checked;
@@ -59,7 +59,7 @@ struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, W
     void setHighlightMode(int mode) override { calls.append(QStringLiteral("setHighlightMode %1").arg(mode)); }
 };
 
-/// Where the document shows itself, as far as commands are about it.
+/// The document's window, as far as commands need it.
 struct FakeSurface final : DocumentWindow {
     QStringList captions;
     QStringList notices;
@@ -81,8 +81,8 @@ struct FakeSurface final : DocumentWindow {
     Result<void> showPicture(const QString &) override { return {}; }
 };
 
-/// A router between a fake world and a real document. Text goes through the program's own inserter, so that a test sees
-/// what becomes of the document.
+/// A router with a fake world and a real document. Text goes through the program's own inserter, so that a test sees
+/// the effect on the document.
 struct RouterBench {
     TestContext world;
     TextInserter inserter{world.editor, world.designer};
@@ -96,7 +96,7 @@ struct RouterBench {
     DesignerTools designer{context};
     CommandRouter router{{context, document, window, window, window, window, window, designer}};
 
-    /// Chooses a menu entry, also one of the tag menu.
+    /// Chooses a menu entry, which may be one of the tag menu.
     void menu(const QString &name)
     {
         if (const MenuItem *item = findMenuItem(name))
@@ -106,7 +106,7 @@ struct RouterBench {
         else
             qFatal("no menu entry is named %s", qPrintable(name));
     }
-    /// Clicks a button of the standard toolbar, of the formatting toolbar, or an entry of a pull-down.
+    /// These click a button of the standard toolbar, one of the formatting toolbar, and an entry of a pull-down.
     void tBar(const QString &key) { router.run(button(standardToolBar(), key).command); }
     void toolbar1(const QString &key) { router.run(button(formattingToolBar(), key).command); }
     void pullDown(const QString &key)
@@ -119,7 +119,7 @@ struct RouterBench {
         }
         qFatal("no pull-down has %s", qPrintable(key));
     }
-    /// Clicks a button of the palette, known by its key, or by its position from 1 on where buttons have none.
+    /// Clicks a button of the palette, given by its key or, if the buttons have none, by its position from 1.
     void palette(int index, const QString &key, int position)
     {
         const std::span<const QuickTag> buttons = paletteToolbars()[static_cast<std::size_t>(index)].buttons;
@@ -142,7 +142,7 @@ struct RouterBench {
         return *row;
     }
 
-    /// A text with `selected` selected in its middle: "[" and "]" around it show what a command leaves alone.
+    /// Sets the text "[selected]" and selects what is between the brackets, which show what a command leaves alone.
     void select(const QString &selected)
     {
         world.editor.setText(QStringLiteral("[") + selected + QStringLiteral("]"));

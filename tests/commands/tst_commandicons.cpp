@@ -139,7 +139,7 @@ void TstCommandIcons::unknownShapesAreNull()
 
 void TstCommandIcons::shapesFollowTheSize()
 {
-    // Drawn anew, not stretched: a line that fills one pixel at 22 fills two at 44 without grey beside it.
+    // Drawn at each size, not scaled: a line that fills one pixel at 22 fills two at 44 without grey next to it.
     for (const int scale : {1, 2}) {
         const QImage image = shapeGlyph(u"frame").pixmap(22 * scale, 22 * scale).toImage();
         QCOMPARE(image.size(), QSize(22 * scale, 22 * scale));

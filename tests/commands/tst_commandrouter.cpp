@@ -97,7 +97,7 @@ void TstCommandRouter::commandsOfParts()
     QVERIFY(bench.world.forms.modal.isEmpty());
 }
 
-/// Each of them shows itself by what it asks or writes.
+/// Each of them can be recognised by what it asks or writes.
 void TstCommandRouter::documentCommands()
 {
     RouterBench bench;
@@ -139,7 +139,7 @@ void TstCommandRouter::saving()
     };
     expectDialog(u"/a.txt"_s);
     bench.menu(u"save"_s);
-    bench.tBar(u"save"_s); // It has its name now.
+    bench.tBar(u"save"_s); // The document has a name now.
     QVERIFY(prompts.verify());
     expectDialog(u"/b.txt"_s);
     bench.menu(u"saveas"_s);
@@ -151,7 +151,7 @@ void TstCommandRouter::opening()
 {
     RouterBench bench;
     for (const auto open : {+[](RouterBench &b) { b.menu(u"open"_s); }, +[](RouterBench &b) { b.tBar(u"open"_s); }}) {
-        // Only opening asks with this picture.
+        // Only the question of the open command has this icon.
         bench.document.setModified(true);
         bench.world.prompts.expect({u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
                                     u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
@@ -206,7 +206,7 @@ void TstCommandRouter::codeViewMenu()
     QFETCH(QString, name);
     QFETCH(int, number);
     RouterBench bench;
-    // Whether code view or preview shows makes no difference.
+    // It makes no difference whether code view or preview is shown.
     bench.menu(name);
     QCOMPARE(bench.world.editor.commands, (Commands{{number, -1}}));
 
@@ -261,7 +261,7 @@ void TstCommandRouter::formMenu()
     QVERIFY(bench.window.calls.isEmpty());
 }
 
-/// What isn't there yet, and what only holds or parts entries, does nothing.
+/// Missing entries, submenus and separators do nothing.
 void TstCommandRouter::rowsWithoutAnEffect_data()
 {
     QTest::addColumn<QString>("name");
@@ -289,7 +289,7 @@ void TstCommandRouter::designerMenus_data()
         int index = 0;
         for (const DesignerCommand command : designerMenuCommands(array)) {
             const QString entry = u"%1_%2"_s.arg(array).arg(index++);
-            // A table is asked for by a form.
+            // Inserting a table opens a form first.
             if (command != DesignerCommand::None && command != DesignerCommand::InsertTable)
                 QTest::newRow(qPrintable(entry)) << entry << int(command);
         }
@@ -402,7 +402,7 @@ void TstCommandRouter::highlightedLinesToggle()
     bench.menu(u"highlightlines"_s);
     QVERIFY(bench.window.isChecked(u"highlightlines"_s));
     QCOMPARE(bench.world.configuration.value(u"options"_s, u"highlight"_s), u"1"_s);
-    // The line is drawn at the next change of the selection, not now.
+    // The highlighted line moves at the next change of the selection, not now.
     QCOMPARE(bench.world.editor.highlighted, 4);
 
     bench.menu(u"highlightlines"_s);

@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// What the tables say, apart from the texts that the commands write.
+/// The content of the tables, except for the texts that the commands insert.
 class TstCommandTables : public QObject
 {
     Q_OBJECT
@@ -229,7 +229,7 @@ void TstCommandTables::formattingBarOrder()
     for (const ToolButton &button : formattingToolBar().buttons)
         keys.append(button.key.toString());
     QCOMPARE(keys.size(), 15);
-    // What serves any language stands at 13 to 15.
+    // The buttons for all languages are at positions 13 to 15.
     QCOMPARE(keys.mid(12), (QStringList{u"specchars"_s, u"ftp"_s, u"reset"_s}));
     keys.removeAll(QString());
     QCOMPARE(keys,
@@ -238,7 +238,7 @@ void TstCommandTables::formattingBarOrder()
     QCOMPARE(formattingToolBar().buttons.back().tip, QStringView(u"Discard Changes and Reload document"));
 }
 
-/// A button of the standard toolbar does what a menu entry does; its tip names that entry's keys.
+/// A button of the standard toolbar does the same as a menu entry; its tip names that entry's shortcut.
 void TstCommandTables::tipsNameTheirKeys()
 {
     for (const ToolButton &button : standardToolBar().buttons) {

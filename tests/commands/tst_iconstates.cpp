@@ -12,7 +12,7 @@ class TstIconStates : public QObject
 {
     Q_OBJECT
 
-    /// A square with an empty border of one pixel.
+    /// A square with a transparent border of one pixel.
     static QPixmap square(const QColor &colour)
     {
         QImage image(16, 16, QImage::Format_ARGB32_Premultiplied);

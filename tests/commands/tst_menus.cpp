@@ -30,7 +30,7 @@ struct Window {
     Menus menus{window.menuBar(), &window};
 };
 
-/// One line an entry: indentation, name, caption, shortcut and marks. Lines without a name are left out.
+/// One line per entry: indentation, name, caption, shortcut and marks. Entries without a name are left out.
 void list(const QList<QAction *> &actions, int depth, QStringList &lines)
 {
     for (const QAction *action : actions) {
@@ -334,7 +334,7 @@ void TstMenus::whatIsNotAvailableSaysSo()
     for (const QString &name :
          {u"mnucp"_s, u"save"_s, u"Bold"_s, u"about"_s, u"mnufcomp"_s, u"mnuformath"_s, u"mnufsimple"_s})
         QVERIFY2(w.menus.action(name)->isEnabled(), qPrintable(name));
-    // What it is comes first, without the marks of a menu.
+    // The tip begins with the caption, without the menu's "&" and "...".
     QCOMPARE(w.menus.action(u"mnuascwiz"_s)->toolTip(), u"Ascii Wizard (not available yet)"_s);
     QCOMPARE(w.menus.action(u"tagwiz"_s)->statusTip(), u"Advanced Tag Wizard (not available yet)"_s);
     QVERIFY(w.menus.menu(u"tools"_s)->toolTipsVisible());

@@ -95,7 +95,7 @@ void TstPalette::buttonsComeWithTheFirstShowing()
     QVERIFY(!palette.toolBar(6)->widgetForAction(buttons(6)));
     palette.tabs()->setCurrentIndex(6);
     QVERIFY(palette.toolBar(6)->widgetForAction(buttons(6)));
-    // The order of the buttons is the order of the actions.
+    // The buttons are in the order of the actions.
     int right = -1;
     for (QAction *action : palette.toolBar(6)->actions()) {
         const QWidget *button = palette.toolBar(6)->widgetForAction(action);
@@ -118,7 +118,7 @@ void TstPalette::everyButtonHasALook()
             QVERIFY2(button, qPrintable(action->text()));
             const bool hasIcon = !button->icon().isNull() && !button->icon().pixmap(22, 22).isNull();
             const bool hasShortText = button->icon().isNull() && button->text() != action->text();
-            // "##" is its own tool tip.
+            // The tool tip of "##" is its text.
             QVERIFY2(hasIcon || hasShortText || button->text() == u"##", qPrintable(action->text()));
             QCOMPARE(button->accessibleName(), action->text());
         }

@@ -16,7 +16,7 @@ const QString tools = u"Sorry these tools can only be used in Code View"_s;
 
 } // namespace
 
-/// The buttons of the palette that do more than insert a text.
+/// The palette buttons that do more than insert a text.
 class TstPaletteCommands : public QObject
 {
     Q_OBJECT
@@ -306,7 +306,7 @@ void TstPaletteCommands::missingStyleEditorDoesNothing()
     QVERIFY(bench.world.forms.modal.isEmpty());
 }
 
-/// What can be clicked does something; separators, the pull-down of the headings and what is missing do nothing.
+/// Every button that can be clicked has an effect; separators, the heading pull-down and missing buttons have none.
 void TstPaletteCommands::eachKindActsOrIsNoButton()
 {
     int active = 0;
@@ -319,7 +319,7 @@ void TstPaletteCommands::eachKindActsOrIsNoButton()
         }
     }
     QCOMPARE(active, 119);
-    QVERIFY(!PaletteCommands::hasEffect(TagKind::TagEditor)); // It belongs to the tag menu.
+    QVERIFY(!PaletteCommands::hasEffect(TagKind::TagEditor)); // It belongs to the tag menu only.
 }
 
 void TstPaletteCommands::placesWithoutAButton_data()

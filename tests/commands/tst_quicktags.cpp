@@ -15,11 +15,11 @@ struct PaletteCase {
     int toolbar;
     const char16_t *key;
     int position;
-    /// What becomes of the selection "sel".
+    /// What the selection "sel" becomes.
     const char16_t *expected;
 };
 
-// Written out by hand: what a user has in the document after a click.
+// Written out by hand: the text in the document after a click.
 const PaletteCase paletteCases[] = {
     {1, u"paragraph", 1, u"<p>sel</p>"},
     {1, u"comment", 2, u"<!-- sel -->"},
@@ -243,7 +243,7 @@ void TstQuickTags::paletteInVisualMode()
     bench.select(u"sel"_s);
     bench.world.designer.showing = true;
     bench.palette(toolbar, key, position);
-    // The text is built from the code view's selection, and goes to the designer alone.
+    // The text is built from the code view's selection and goes only to the designer.
     QCOMPARE(bench.world.designer.pasted, QStringList{expected});
     QCOMPARE(bench.world.editor.text(), u"[sel]"_s);
 }
@@ -261,7 +261,7 @@ void TstQuickTags::everyTextOfThePaletteIsTested()
             const bool isText = !quickTagText(tag, u"sel"_s).isNull();
             QVERIFY2(isText == tested.contains({toolbar, position}),
                      qPrintable(u"toolbar %1, position %2"_s.arg(toolbar).arg(position)));
-            // A key names one button of its toolbar; either all of them have one, or none has.
+            // A key is unique in its toolbar; either all buttons of a toolbar have a key, or none has.
             const auto same = std::ranges::count(bar.buttons, tag.key, &QuickTag::key);
             QVERIFY(bar.buttons.front().key.isEmpty() ? same == std::ssize(bar.buttons) : same == 1);
         }

@@ -15,7 +15,7 @@ const QString source = u"<a>  <b> x </b>\r\n</a>"_s;
 const QString indented = u"\r\n<a> \r\n\t<b>x \r\n\t</b>\r\n</a>"_s;
 const QString compact = u"<a><b>x</b></a>"_s;
 
-/// A run over a text in memory, and something that happens while it lasts.
+/// A formatting run over a text in memory, and something that happens during it.
 struct Run {
     TestContext world;
     std::unique_ptr<SourceFormatting> formatting = std::make_unique<SourceFormatting>(world);

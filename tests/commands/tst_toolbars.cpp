@@ -36,7 +36,7 @@ void TstToolBars::standard()
             continue;
         keys.append(action->objectName());
         QVERIFY(!action->toolTip().isEmpty());
-        // A shortcut here would make the menu's ambiguous.
+        // A shortcut here would make that of the menu ambiguous.
         QVERIFY(action->shortcut().isEmpty());
     }
     QCOMPARE(keys,
@@ -105,13 +105,13 @@ void TstToolBars::aPullDownKeepsItsButtonOpen()
     FakeFormOpener forms;
     forms.unavailable = {u"frmTags"_s, u"frmTagEdit"_s, u"frmlinkwiz"_s, u"frmlinkextract"_s};
     bar.applyAvailability(forms);
-    // The tags in the side pane are there, so that the pull-down has something to offer; no link tool is.
+    // The tag list in the side pane is available, so one pull-down has an enabled entry; of the link tools none is.
     QVERIFY(bar.action(u"htmltags"_s)->isEnabled());
     QVERIFY(bar.action(u"dqw"_s)->isEnabled());
     QVERIFY(!bar.action(u"dts"_s)->isEnabled());
     QVERIFY(!bar.action(u"links"_s)->isEnabled());
 
-    // Without them nothing is left of it. The preview's button does something by itself.
+    // Without that entry the pull-down's button is disabled. The preview button also has an effect of its own.
     bar.close(u"dqw"_s);
     bar.setMarkupOpen(true);
     QVERIFY(!bar.action(u"htmltags"_s)->isEnabled());

@@ -102,7 +102,7 @@ private Q_SLOTS:
         QTest::keyClick(&bench.box(name), Qt::Key_Down);
         const QString first = bench.box(name).itemText(0);
         QCOMPARE(bench.world.editor.text(), u"a "_s + first + u" c"_s);
-        // The item that is chosen already may be chosen again.
+        // The selected item may be chosen again.
         bench.box(name).textActivated(first);
         QCOMPARE(bench.world.editor.text(), u"a "_s + first + first + u" c"_s);
     }

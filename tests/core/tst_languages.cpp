@@ -44,7 +44,7 @@ private Q_SLOTS:
     void extension_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("row"); // -1: no step
+        QTest::addColumn<int>("row"); // -1: none
         const auto add = [](const char *name, int row) { QTest::newRow(name) << QString::fromLatin1(name) << row; };
         add("/a/x.c", 2);
         add("/a/x.h", 2);

@@ -61,7 +61,7 @@ private Q_SLOTS:
         world.prompts.expectTell(u"Sorry, these tools can only be used in Code View"_s, u"Feature Limitation"_s);
         pasteInCodeView(world, u"<hr>"_s);
         QVERIFY(world.inserter.inserted.isEmpty());
-        // Without the view test the text is that of the code view all the same.
+        // The function that ignores the view also uses the text of the code view.
         pasteBehindSelection(world, u".class"_s);
         QCOMPARE(world.inserter.inserted, QStringList{u"one.class"_s});
     }

@@ -80,7 +80,7 @@ private Q_SLOTS:
     void userValues_data()
     {
         QTest::addColumn<UserSetting>("setting");
-        QTest::addColumn<QString>("place"); // branch/section/key, a form's own section under "frmmain"
+        QTest::addColumn<QString>("place"); // branch/section/key; a form's own section is shown as that of "frmmain"
         QTest::newRow("tips") << UserSetting::ShowTips << u"zephira/Options/Show Tips at Startup"_s;
         QTest::newRow("folder") << UserSetting::ProgramFolder << u"Zephira/data/apppath"_s;
         QTest::newRow("version") << UserSetting::ProgramVersion << u"Zephira/data/version"_s;
@@ -141,7 +141,7 @@ private Q_SLOTS:
     void requiredNumber_data()
     {
         QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("message"); // empty: converts
+        QTest::addColumn<QString>("message"); // empty if the value converts
         QTest::newRow("one") << u"1"_s << u""_s;
         QTest::newRow("negative") << u"-7"_s << u""_s;
         QTest::newRow("missing")

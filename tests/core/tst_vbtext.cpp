@@ -12,7 +12,7 @@ namespace zephira {
 
 namespace {
 
-/// What a call gives, or the description of the error that it raises, in angle brackets.
+/// The result of a call, or the description of the error that it raises, in angle brackets.
 template<typename Call>
 QString outcome(Call call)
 {

@@ -11,7 +11,7 @@ using namespace zephira;
 
 namespace {
 
-/// The captions of the tags that the tree has without a file.
+/// The captions of the built-in tags of the tree.
 QStringList builtInCaptions()
 {
     QStringList captions;
@@ -22,7 +22,7 @@ QStringList builtInCaptions()
 
 } // namespace
 
-/// The tags, the ASP codes and the selectors: each line is an entry that is pasted as it stands.
+/// The tags, the ASP codes and the selectors: each line is an entry that is pasted unchanged.
 class TstShippedLists final : public QObject
 {
     Q_OBJECT

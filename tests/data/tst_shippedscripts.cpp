@@ -27,7 +27,7 @@ QStringList scriptFiles()
     return files;
 }
 
-/// What a pattern's first group catches, place by place.
+/// What the pattern's first group captures in each match.
 QStringList allMatches(const QString &text, const QString &pattern)
 {
     QStringList found;
@@ -47,7 +47,7 @@ void addFiles()
 
 } // namespace
 
-/// The script library: pieces that go into a page as they stand.
+/// The script library: pieces of code that are inserted into a page unchanged.
 class TstShippedScripts final : public QObject
 {
     Q_OBJECT
@@ -64,12 +64,12 @@ private Q_SLOTS:
             folders << info.path();
             titles << info.fileName();
             QVERIFY2(file.endsWith(u".spt"_s), qPrintable(file));
-            // A name that every file system takes, and that reads as a title.
+            // Names must work on every file system and read as titles.
             static const QRegularExpression name(u"^[A-Z][A-Za-z, -]+$"_s);
             QVERIFY2(name.match(info.completeBaseName()).hasMatch(), qPrintable(file));
         }
         QVERIFY(folders.size() >= 13);
-        // The list is that of the root until a folder is chosen, so that it mustn't be empty.
+        // Until a folder is chosen, the list shows the root, so the root must not be empty.
         QVERIFY(folders.contains(u"Scripts"_s));
         QCOMPARE(repeated(titles), QStringList());
     }
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(faultOf(file, u"\r\n"_s), QString());
         const QString text = shippedText(file);
         QVERIFY(text.endsWith(u"\r\n"_s) && !text.endsWith(u"\r\n\r\n"_s));
-        // It begins with a sentence on what it does and where it goes.
+        // It begins with a sentence on what it does and where to put it.
         const QStringList lines = shippedLines(file);
         const QString &first = lines[lines.first() == u"<%"_s || lines.first() == u"<!DOCTYPE html>"_s ? 1 : 0];
         QVERIFY2(first.startsWith(u"<!-- "_s) || first.startsWith(u"' "_s), qPrintable(first));
@@ -107,7 +107,7 @@ private Q_SLOTS:
             QVERIFY(!body.trimmed().isEmpty());
             for (const auto &[open, close] : {std::pair(u'{', u'}'), std::pair(u'(', u')')})
                 QCOMPARE(body.count(open), body.count(close));
-            // One level of indentation is two blanks.
+            // Each level is indented by two blanks.
             for (const QString &line : body.split(u"\r\n"_s)) {
                 const auto blanks = std::find_if(line.begin(), line.end(), [](QChar letter) { return letter != u' '; });
                 QVERIFY2((blanks - line.begin()) % 2 == 0, qPrintable(line));
@@ -146,10 +146,10 @@ private Q_SLOTS:
             QVERIFY2(image.contains(u" alt=\""_s), qPrintable(image));
         for (const QString &body : allMatches(text, u"<script[^>]*>(.*?)</script>"_s)) {
             QVERIFY(!body.contains(QRegularExpression(u"\\bvar "_s)));
-            // Comparing without conversion is the rule.
+            // Only strict comparisons are allowed.
             QVERIFY(!body.contains(QRegularExpression(u"[^=!]==[^=]|!=[^=]"_s)));
         }
-        // What moves heeds the wish for less motion.
+        // Animations respect the user's preference for reduced motion.
         if (text.contains(u"requestAnimationFrame"_s) || text.contains(u"transition:"_s) || text.contains(u"smooth"_s))
             QVERIFY(text.contains(u"prefers-reduced-motion"_s));
     }

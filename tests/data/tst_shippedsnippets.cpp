@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, file);
         QCOMPARE(faultOf(u"ctabs/"_s + file, u"\r\n"_s), QString());
-        // An entry that is added begins with a line end; one at the end of the file would make an empty entry.
+        // An added entry begins with a line end, so one at the end of the file would result in an empty entry.
         QVERIFY(!shippedText(u"ctabs/"_s + file).endsWith(u'\n'));
         const QStringList lines = shippedLines(u"ctabs/"_s + file);
         QVERIFY(lines.size() >= 3);

@@ -13,7 +13,7 @@ using namespace zephira;
 
 namespace {
 
-/// For each line the captions from the root down to its node, divided by a mark that no caption holds.
+/// For each line the captions from the root down to its node, joined by a separator that occurs in no caption.
 QStringList pathsOf(const QStringList &lines)
 {
     QStringList path;
@@ -60,7 +60,7 @@ private Q_SLOTS:
             QVERIFY2(!caption.trimmed().isEmpty() && isBalanced(caption), qPrintable(line));
             above = depth;
         }
-        // No node has two children of one caption, so that each path leads to one node.
+        // No node has two children with the same caption, so each path leads to one node.
         QCOMPARE(repeated(pathsOf(lines)), QStringList());
     }
 
@@ -175,7 +175,7 @@ private Q_SLOTS:
                 const QString listener = u" » addEventListener(\"%1\", (event) => { })"_s.arg(parts[1]);
                 QVERIFY2(known.contains(path + listener), qPrintable(path));
             }
-            // A property that takes a handler bears the name of its event.
+            // A property that holds a handler is named after its event.
             if (parts.size() == 3 && parts[2].startsWith(u"on"_s))
                 QCOMPARE(parts[2], u"on"_s + parts[1]);
         }

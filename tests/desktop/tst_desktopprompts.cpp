@@ -56,7 +56,7 @@ private Q_SLOTS:
     void fontValues();
 
 private:
-    /// Runs while the next dialog is up, and fails the test if it isn't of the class.
+    /// Calls the action while the next dialog is open, and fails the test if the dialog isn't of the given class.
     template<typename Dialog>
     void whileUp(std::function<void(Dialog &)> action)
     {
@@ -304,7 +304,7 @@ void TstDesktopPrompts::savedNameTakesTheSuffix()
     QCOMPARE(answer, std::optional(m_folder->filePath(saved)));
 }
 
-/// A document that has no suffix keeps its name, and so does a file that is there.
+/// The name stays if the document has no suffix, and if a file of that name exists.
 void TstDesktopPrompts::aNameWithoutASuffixStays()
 {
     QVERIFY(QFile(m_folder->filePath(u"README"_s)).open(QIODevice::WriteOnly));
@@ -319,7 +319,7 @@ void TstDesktopPrompts::aNameWithoutASuffixStays()
     }
 }
 
-/// Two answers that differ must not look alike.
+/// Two different answers must not look alike.
 void TstDesktopPrompts::noAndCancelHavePicturesOfTheirOwn()
 {
     QIcon::setFallbackSearchPaths({u"/usr/share/icons/breeze/actions/16"_s});

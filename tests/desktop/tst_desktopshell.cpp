@@ -19,7 +19,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Stands for the programs of the desktop.
+/// Stands in for the programs of the desktop.
 class UrlRecorder : public QObject
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ private Q_SLOTS:
     void clipboard();
 
 private:
-    /// The window of that name among those on the screen.
+    /// The visible window of that name.
     static QWidget *shownWindow(const QString &name)
     {
         for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -70,7 +70,7 @@ private:
         return nullptr;
     }
 
-    /// Nobody answers for a file manager while one of these lives.
+    /// While an object of this class exists, no file manager can be reached over the message bus.
     struct NoMessageBus {
         const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
         const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
@@ -220,7 +220,7 @@ void TstDesktopShell::findWithoutAFileManager()
         found.append(list->item(row)->text());
     found.sort();
     QCOMPARE(found, (QStringList{m_folder.filePath(u"tree/a.htm"_s), m_folder.filePath(u"tree/deep/B.HTM"_s)}));
-    // A search can be stopped, and the next one begins anew.
+    // A search can be stopped, and the next one starts from scratch.
     window->findChild<QLineEdit *>(u"folder"_s)->setText(u"/usr"_s);
     find->click();
     find->click();

@@ -12,7 +12,7 @@ using namespace zephira;
 
 namespace {
 
-/// Keeps the order in which the keys were touched.
+/// Records the order in which the keys were read and written.
 struct OrderedSettings final : UserSettings {
     MemoryUserSettings store;
     mutable QStringList keys;

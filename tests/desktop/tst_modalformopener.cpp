@@ -32,7 +32,7 @@ private Q_SLOTS:
     void closeAll();
 
 private:
-    /// Runs while the next modal form is up.
+    /// Calls the action while the next modal form is open.
     void whileOpen(std::function<void()> action) { QTimer::singleShot(0, this, std::move(action)); }
     void makeAvailable() { m_opener->setContext(m_world->context); }
 

@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Loading a module, with the one that fetches pages.
+/// Loading a module, with the one that fetches pages as the example.
 class TstModule final : public QObject
 {
     Q_OBJECT

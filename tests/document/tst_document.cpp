@@ -17,7 +17,7 @@ constexpr auto requiredOpenFilter =
     u"Files|*.js;*.java|Style Sheets|*.cs|C/C++ Files|*.c;*.cpp;*.h|Perl Files|*.pl|CGI/Perl Files|*.cgi|XML Files|*.xml|"
     u"Pascal Files|*.pas|Basic Files|*.bas;*.frm;*.vbp|ASP / VBScript Files|*.asp;*.vbs|SQL Files|*.sql";
 
-/// The window, as far as the document sees it.
+/// The window as the document sees it.
 struct FakeWindow final : DocumentWindow {
     QString caption;
     int count = -1;
@@ -39,7 +39,7 @@ struct FakeWindow final : DocumentWindow {
     void setPathPanel(const QString &text) override { pathPanel = text; }
     void showModified(bool modified) override { modifiedShown = modified; }
     void notice(const QString &sentence) override { notices.append(sentence); }
-    /// Is called when the code view is selected.
+    /// Called when the code view is selected.
     std::function<void()> onCodeTab;
     void selectCodeTab() override
     {
@@ -61,7 +61,7 @@ struct FakeWindow final : DocumentWindow {
     }
 };
 
-/// A document between fakes, with the change event connected.
+/// A document with fakes for everything around it and the change event connected.
 struct Bench {
     TestContext fakes;
     CommonDialog dialog;
@@ -373,7 +373,7 @@ private Q_SLOTS:
         bench.openFile(u"/a.html"_s, "old");
         bench.fakes.designer.showing = true;
         bench.fakes.designer.html = u"<p>new</p>"_s;
-        bench.document.save(); // Showing but clean: nothing is carried back.
+        bench.document.save(); // The designer is visible but unmodified: no text is taken from it.
         QCOMPARE(bench.fakes.files.contents[u"/a.html"_s], QByteArray("old"));
         bench.fakes.designer.dirty = true;
         bench.window.onCodeTab = [&] { bench.fakes.editor.setText(bench.fakes.designer.html); };
@@ -513,7 +513,7 @@ private Q_SLOTS:
     void revertAsksAndReadsAgain()
     {
         Bench bench;
-        bench.document.revert(); // Nothing to go back to.
+        bench.document.revert(); // There is no file to revert to.
         bench.openFile(u"/a.html"_s, "saved");
         bench.fakes.editor.setText(u"changed"_s);
         const Question question{
@@ -528,7 +528,7 @@ private Q_SLOTS:
         bench.document.revert();
         QCOMPARE(bench.fakes.editor.text(), u"saved"_s);
         QCOMPARE(bench.fakes.designer.loaded, QStringList{u"/a.html"_s});
-        QVERIFY(bench.document.docModified()); // Not touched.
+        QVERIFY(bench.document.docModified()); // Unchanged.
     }
 
     void revertWithoutTheFileLeavesBothViews()
@@ -608,7 +608,7 @@ private Q_SLOTS:
         bench.fakes.prompts.expect(Bench::savePrompt(u"New Document"_s), Answer::No);
         QVERIFY(bench.document.askToClose());
         QVERIFY(!bench.document.saveFailedAtClose());
-        // Yes, and then the save dialog is cancelled: the window closes all the same.
+        // The answer is Yes, but the save dialog is cancelled: the window closes anyway.
         bench.fakes.prompts.expect(Bench::savePrompt(u"New Document"_s), Answer::Yes);
         bench.fakes.prompts.expectFile(bench.saveRequest(), std::nullopt);
         QVERIFY(bench.document.askToClose());
@@ -652,7 +652,7 @@ private Q_SLOTS:
         QCOMPARE(bench.window.count, 6);
         QVERIFY(!bench.document.docModified());
         QCOMPARE(bench.fakes.document.project, u"Project Path"_s);
-        // The designer's work is a change like any other.
+        // Changes in the designer count like any other change.
         bench.fakes.designer.showing = true;
         bench.fakes.designer.dirty = true;
         bench.window.onCodeTab = [&] { bench.fakes.editor.setText(u"<p>designed</p>"_s); };

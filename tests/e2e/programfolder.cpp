@@ -38,7 +38,7 @@ ProgramFolder::ProgramFolder()
     copyTree(sourcePath(u"data"_s), path());
     QVERIFY(QDir().mkpath(home()));
     QVERIFY(QFile::copy(program, executable()));
-    // The modules lie beside the program.
+    // The modules are next to the program.
     for (const QFileInfo &module : QFileInfo(program).dir().entryInfoList({u"*.so"_s}, QDir::Files))
         QVERIFY(QFile::copy(module.filePath(), path() + u'/' + module.fileName()));
     setTips(false);

@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// A portable program folder of its own: the executable, zephira.ini and the data, in a temporary place, with a home folder
-/// for the per-user settings beside it.
+/// A portable program folder in a temporary folder: the executable, zephira.ini and the data. A home folder for the
+/// per-user settings is next to it.
 class ProgramFolder
 {
 public:
@@ -17,19 +17,19 @@ public:
     QString ini() const { return path() + QStringLiteral("/zephira.ini"); }
     QString home() const { return m_folder.path() + QStringLiteral("/home"); }
 
-    /// A folder that the program looks for commands in before all others.
+    /// The folder in which the program looks first for commands.
     QString tools() const { return m_folder.path() + QStringLiteral("/tools"); }
-    /// The recovery copies that are there, by their full paths.
+    /// The full paths of the recovery copies.
     QStringList recoveryCopies() const;
 
-    /// The full path of a file below the temporary place.
+    /// The full path of a file below the temporary folder.
     QString place(const QString &name) const { return m_folder.path() + QLatin1Char('/') + name; }
-    /// Writes a file below the temporary place and gives its full path.
+    /// Writes a file below the temporary folder and returns its full path.
     QString write(const QString &name, const QByteArray &content) const;
     static QByteArray read(const QString &path);
 
     void setIni(const QString &section, const QString &key, const QString &value) const;
-    /// The per-user switch of the tips.
+    /// Switches the tips on or off in the per-user settings.
     void setTips(bool on) const;
 
 private:

@@ -101,7 +101,7 @@ QStringList RunningProgram::waitForWindows(const QStringList &titles) const
     while (timer.elapsed() < patience && steady < 6) {
         seen = windows();
         seen.sort();
-        // A state counts once it has held for a while: what comes late would otherwise be missed.
+        // A state must hold for a while; otherwise a window that opens late would be missed.
         steady = seen == wanted ? steady + 1 : 0;
         QTest::qWait(step);
     }
@@ -157,7 +157,7 @@ void RunningProgram::type(const QString &title, const QString &text) const
     const QStringList lines = text.split(u'\n');
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (i > 0)
-            command += {u"key"_s, u"Return"_s}; // A line feed as such is another key.
+            command += {u"key"_s, u"Return"_s}; // A line feed would be typed as another key.
         if (!lines[i].isEmpty())
             command += {u"type"_s, u"--delay"_s, u"5"_s, u"--args"_s, u"1"_s, u"--"_s, lines[i]};
     }

@@ -10,54 +10,57 @@
 
 namespace zephira {
 
-/// The program as a process on the test's display. Its windows are seen and driven from outside, as a user sees them.
+/// The program as a process on the test's display. Its windows are observed and driven from outside, as by a user.
 class RunningProgram
 {
 public:
-    /// `wrapper` is a command that changes something about its own process and then becomes the program.
+    /// `wrapper` is a command that changes something about its own process and then executes the program.
     RunningProgram(const ProgramFolder &folder, const QStringList &arguments, const QStringList &wrapper = {});
     ~RunningProgram();
 
-    /// The caption of the main window while it shows the file of that path.
+    /// The caption of the main window while it shows the file with that path.
     static QString captionOf(const QString &path) { return QStringLiteral("Zephira - [") + path + QLatin1Char(']'); }
-    /// A wrapper that binds even the superuser to the permissions of files; none for anybody else.
+    /// A wrapper that makes file permissions apply even to root; empty for other users.
     static QStringList boundByPermissions();
-    /// A wrapper under which a file that grows beyond the process's limit is an error, as on a full disk, and no signal.
+    /// A wrapper under which writing beyond the process's file size limit is an error, as on a full disk, instead of a
+    /// signal.
     static QStringList withoutSizeSignal();
 
-    /// Titles of the windows that show, oldest first.
+    /// Titles of the visible windows, oldest first.
     QStringList windows() const;
-    /// Waits until exactly these titles show (in any order); gives what shows in the end.
+    /// Waits until exactly the windows with these titles are visible (in any order); returns the titles visible in the
+    /// end.
     QStringList waitForWindows(const QStringList &titles) const;
-    /// Waits until a window of that title shows, among others.
+    /// Waits until a window with that title is visible; there may be others.
     bool waitForWindow(const QString &title) const;
     bool waitUntilGone(const QString &title) const;
-    /// The window system's number of the window of that title; empty while none shows.
+    /// The window id of the window with that title; empty if none is visible.
     QString windowId(const QString &title) const;
 
-    /// Sends keys, divided by blanks, to the window of that title, which takes the focus first: "Escape", "alt+f e".
+    /// Activates the window with that title and sends it keys, separated by blanks: "Escape", "alt+f e".
     void key(const QString &title, const QString &keys) const;
-    /// Begins to send keys, as often as told, to a window that need not have the focus, and gives the command that does it.
+    /// Starts sending keys, `times` times, to a window that need not have the focus; returns the process that sends
+    /// them.
     std::unique_ptr<QProcess> keyInBackground(const QString &title, const QString &keys, int times) const;
     void type(const QString &title, const QString &text) const;
-    /// Waits for a dialog and answers it by keys.
+    /// Waits for a dialog and answers it with keys.
     void answer(const QString &dialog, const QString &keys) const;
-    /// Waits for a dialog with a line to fill in, fills it in and ends it by Return.
+    /// Waits for a dialog with a line of text, types the text and presses Return.
     void fillIn(const QString &dialog, const QString &text) const;
-    /// Asks a window to close, as its close box does.
+    /// Asks a window to close, as its close button does.
     void close(const QString &title) const;
 
-    /// Colour of the screen in the middle of the window of that title, as "#rrggbb" in capitals.
+    /// Colour of the screen in the middle of the window with that title, as "#RRGGBB".
     QString middleColour(const QString &title) const;
     /// Waits until the middle of the window has that colour.
     bool waitForMiddleColour(const QString &title, const QString &colour) const;
 
-    /// From now on a write that makes a file larger than this fails.
+    /// From now on a write that would make a file larger than this fails.
     void limitFileSize(qint64 bytes) const;
     bool isRunning() const { return m_process.state() == QProcess::Running; }
-    /// Waits for the end; the exit status, or -1 if the process still runs or was killed by a signal.
+    /// Waits for the end of the process; returns its exit status, or -1 if it still runs or was killed by a signal.
     int waitForEnd();
-    /// Ends it as a crash does: nothing more is written.
+    /// Ends the process as a crash does: it writes nothing more.
     void kill();
     QByteArray standardOutput() { return m_process.readAllStandardOutput(); }
     QByteArray standardError() { return m_process.readAllStandardError(); }

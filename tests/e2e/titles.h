@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// Titles of the windows that several test classes wait for, and how long they wait.
+/// Titles of the windows that several test classes wait for, and the time-out.
 namespace zephira::titles {
 
 inline const QString untitled = QStringLiteral("Zephira - [New Document]");
@@ -14,7 +14,7 @@ inline const QString modified = QStringLiteral("Document Modified.");
 /// A message box without a title of its own.
 inline const QString message = QStringLiteral("Zephira");
 
-/// Milliseconds that a slow machine may need for anything that is expected.
+/// Time-out in milliseconds for anything that a test waits for, long enough for a slow machine.
 inline constexpr int patience = 20000;
 
 } // namespace zephira::titles

@@ -18,18 +18,18 @@ using namespace zephira;
 using namespace zephira::titles;
 using namespace Qt::StringLiterals;
 
-/// What a careless world hands to the program: names that lead nowhere, bytes that are no text, settings that someone
-/// edited by hand, a process that is killed.
+/// Bad input from outside: names of missing files, bytes that aren't text, settings that were edited by hand, a process
+/// that is killed.
 class TstBadInput : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// A file that can't be read, given at the start: the window comes up, empty and unmodified, and nothing is written.
+    /// An unreadable file on the command line: the window opens, empty and unmodified, and nothing is written.
     void fileAtTheStart_data()
     {
         QTest::addColumn<QString>("trouble");
-        QTest::addColumn<bool>("named"); // The window bears the file's name.
+        QTest::addColumn<bool>("named"); // The caption has the file's name.
         QTest::addColumn<bool>("told");  // A message says why.
         QTest::newRow("a folder") << u"folder"_s << true << false;
         QTest::newRow("a dangling link") << u"dangling"_s << false << false;
@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(program.waitForEnd(), 0);
     }
 
-    /// The file pane shows the file's folder, whatever else lies in it.
+    /// The file pane shows the file's folder, whatever else is in it.
     void aFolderFullOfTraps_data()
     {
         QTest::addColumn<QString>("rootSelect");
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(::rmdir((QFile::encodeName(site) + "/not text \xff\xfe folder").constData()), 0);
     }
 
-    /// The same through the open dialog: what was open before is kept by its file.
+    /// The same through the open dialog: the document that was open before is still in its file.
     void fileInTheDialog_data()
     {
         QTest::addColumn<QString>("trouble");
@@ -145,7 +145,7 @@ private Q_SLOTS:
         const QString caption = RunningProgram::captionOf(path);
         RunningProgram program(folder, {path});
         QVERIFY(program.waitForWindow(caption));
-        // A change that is taken back makes the save a real one, as the file's time tells.
+        // After a change and its undoing the save writes the file, which is removed first to prove it.
         QVERIFY(QFile::remove(path));
         program.key(caption, u"ctrl+Home x BackSpace ctrl+s"_s);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path), patience);
@@ -180,7 +180,7 @@ private Q_SLOTS:
         folder.write(u"zephira/zephira.ini"_s, edited);
         RunningProgram program(folder, {u"/nodialog"_s});
         QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
-        // Writing finds the same line as reading, and leaves all others as they are.
+        // Writing finds the same line as reading and leaves all others unchanged.
         program.key(untitled, u"ctrl+h"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ReadIni(u"options"_s, u"highlight"_s, folder.ini()), u"0"_s, patience);
         const QByteArray now = ProgramFolder::read(folder.ini());
@@ -199,7 +199,7 @@ private Q_SLOTS:
         RunningProgram program(folder, {u"/nodialog"_s}, RunningProgram::boundByPermissions());
         QVERIFY(program.waitForWindow(untitled));
         program.key(untitled, u"ctrl+h"_s);
-        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled}); // No word about it.
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled}); // No message.
         program.key(untitled, u"ctrl+h"_s);
         program.close(untitled);
         QCOMPARE(program.waitForEnd(), 0);
@@ -226,7 +226,7 @@ private Q_SLOTS:
             QCOMPARE(::stat(QFile::encodeName(folder.ini()).constData(), &now), 0);
             versions += now.st_ino != last.st_ino || now.st_mtim.tv_nsec != last.st_mtim.tv_nsec;
             last = now;
-            // At every moment the file is whole, and but for the one value what it was.
+            // The file is complete at every moment, and unchanged except for the one value.
             const QByteArray content = ProgramFolder::read(folder.ini());
             QVERIFY2(content == before || content == off, content.constData());
             QTest::qWait(1);
@@ -243,7 +243,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Makes something that can't be opened as a document, and gives its path.
+    /// Creates something that can't be opened as a document, and returns its path.
     static QString make(const ProgramFolder &folder, const QString &trouble)
     {
         const QString path = folder.place(trouble + u".txt"_s);
@@ -262,7 +262,7 @@ private:
             QFile::setPermissions(path, QFile::Permissions());
         } else {
             QFile file(path);
-            if (!file.open(QIODevice::WriteOnly) || !file.resize(300'000'000)) // Sparse: it takes no room.
+            if (!file.open(QIODevice::WriteOnly) || !file.resize(300'000'000)) // Sparse: it takes no space on the disk.
                 qFatal("can't make %s", name.constData());
         }
         return path;

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A process that the program started. It is ended together with the test, not with the program.
+/// A process that was started by the program. It is ended together with the test, not with the program.
 class StartedProcess
 {
 public:
@@ -33,16 +33,17 @@ public:
             ::kill(m_pid, SIGKILL);
     }
 
-    /// Waits for a process of the same executable beside the known one.
+    /// Waits for another process of the same executable besides the known one.
     bool waitFor(const ProgramFolder &folder, qint64 known)
     {
         return QTest::qWaitFor([&] { return find(folder.executable(), known); }, patience);
     }
-    /// Waits until it shows a window of that title and gives the window's state as the window manager tells it.
+    /// Waits until the process shows a window with that title; returns the window's state as the window manager reports
+    /// it.
     QByteArray windowState(const QString &title) const
     {
         QByteArray state;
-        // The window manager notes the state a moment after the window is there.
+        // The window manager sets the state a moment after the window is shown.
         const bool told = QTest::qWaitFor(
             [&] {
                 const QByteArray window = outputOf(u"xdotool"_s,
@@ -80,13 +81,13 @@ private:
 
 } // namespace
 
-/// Commands as they are given in the real window, by keys alone.
+/// Commands in the real window, given by keys alone.
 class TstCommands : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Keys in the code view of a document, and the file that a save then writes.
+    /// Keys in the code view of a document, and the file that is saved afterwards.
     void keys_data()
     {
         QTest::addColumn<QString>("name");
@@ -125,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(program.waitForWindow(caption));
         program.key(caption, keys + u" ctrl+s"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), after, patience);
-        // The save is the last word: what the disk held in between doesn't count, nor does a change behind it.
+        // Only the final content counts: not what was on the disk for a moment, and nothing changed after the save.
         QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
         program.close(caption);
         QCOMPARE(program.waitForEnd(), 0);
@@ -221,7 +222,7 @@ private Q_SLOTS:
     {
         ProgramFolder folder;
         folder.setIni(u"font"_s, u"size"_s, u"11"_s);
-        folder.setIni(u"font"_s, u"bold"_s, u"no"_s); // Not one of the two words; the dialog's answer is.
+        folder.setIni(u"font"_s, u"bold"_s, u"no"_s); // Not one of the two valid words; the dialog writes a valid one.
         RunningProgram program(folder, {u"/nodialog"_s});
         QVERIFY(program.waitForWindow(untitled));
         program.key(untitled, u"F7"_s);
@@ -234,7 +235,7 @@ private Q_SLOTS:
     void aSecondWindowIsASecondProcess()
     {
         ProgramFolder folder;
-        folder.setTips(true); // Neither tip nor start dialog shows in it.
+        folder.setTips(true); // The second window shows neither tip nor start dialog.
         RunningProgram program(folder, {u"/nodialog"_s});
         QVERIFY(program.waitForWindow(untitled));
         program.type(untitled, u"text of the first"_s);
@@ -294,7 +295,7 @@ private Q_SLOTS:
         const QString wizard = u"Table Wizard ..."_s;
         RunningProgram program(folder, {path});
         QVERIFY(program.waitForWindow(caption));
-        // The last but one of the entries that are open.
+        // The last but one of the enabled entries.
         program.key(caption, u"alt+t Up Up Return"_s);
         QVERIFY(program.waitForWindow(wizard));
         program.key(wizard, u"Return"_s);

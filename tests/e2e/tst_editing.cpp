@@ -10,7 +10,8 @@ using namespace zephira;
 using namespace zephira::titles;
 using namespace Qt::StringLiterals;
 
-/// A document's life as a user leads it: by keys and dialogs, judged by the bytes on the disk and the window's caption.
+/// Creating, editing and saving documents with keys and dialogs, judged by the bytes on the disk and the window's
+/// caption.
 class TstEditing : public QObject
 {
     Q_OBJECT
@@ -27,7 +28,7 @@ private Q_SLOTS:
         program.fillIn(saveDialog, path);
         QVERIFY(program.waitForWindow(RunningProgram::captionOf(path)));
         QCOMPARE(ProgramFolder::read(path), "one\r\ntwo");
-        // From now on the file is known, and saving asks nothing.
+        // Now that the document has a file, saving asks nothing.
         program.type(RunningProgram::captionOf(path), u"!"_s);
         program.key(RunningProgram::captionOf(path), u"ctrl+s"_s);
         QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(path), "one\r\ntwo!", patience);
@@ -158,7 +159,7 @@ private Q_SLOTS:
         program.answer(modified, u"alt+y"_s);
         program.answer(saveDialog, u"Escape"_s);
         QCOMPARE(program.waitForEnd(), 0);
-        // The text has no file, but the next session can still find it.
+        // The text has no file, but the next session can still recover it.
         const QStringList copies = folder.recoveryCopies();
         QCOMPARE(copies.size(), 1);
         QCOMPARE(ProgramFolder::read(copies.first()), "never saved");
@@ -192,7 +193,7 @@ private Q_SLOTS:
         program.close(caption);
         if (!goesOn)
             program.answer(modified, u"alt+n"_s);
-        QCOMPARE(program.waitForEnd(), 0); // The new document is empty and unmodified, so that nothing is asked.
+        QCOMPARE(program.waitForEnd(), 0); // The new document is empty and unmodified, so nothing is asked.
     }
 
     void exitLosesTheTextWithoutAWord()

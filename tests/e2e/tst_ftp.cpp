@@ -22,13 +22,13 @@ const QString sites = u"FTP Sites"_s;
 const QString transfer = u"Data transfer"_s;
 const QString logName = u"Log File"_s;
 
-/// Keys that move the focus on by so many controls.
+/// Keys that move the focus forward by `count` controls.
 QString tabs(int count)
 {
     return QStringList(count, u"Tab"_s).join(u' ');
 }
 
-/// Bytes of every value, whose blocks differ.
+/// Bytes of all values, in blocks that differ from each other.
 QByteArray everyByte(int size)
 {
     QByteArray bytes(size, Qt::Uninitialized);
@@ -51,12 +51,12 @@ public:
     RunningProgram &program() { return m_program; }
     QString profile() const { return m_folder.path() + u"/Loopback.ftp"_s; }
 
-    /// Fills in the dialog and keeps it as a profile.
+    /// Fills in the dialog and saves it as a profile.
     void saveProfile(const FtpServer &server, const QString &password)
     {
         m_program.key(ftpWindow, u"alt+f c"_s);
         QVERIFY(m_program.waitForWindow(sites));
-        // The typed user unticks "Anonymous", which empties user and password; so the first letter is typed twice.
+        // Typing a user unchecks "Anonymous", which empties user and password, so the first letter is typed twice.
         const QString first = server.user().first(1);
         m_program.key(sites, tabs(1));
         m_program.type(sites, u"Loopback"_s);
@@ -107,7 +107,7 @@ private:
     RunningProgram m_program;
 };
 
-/// Read and written by nobody but the user, as mode 0600 says.
+/// Whether only the user may read and write the file (mode 0600).
 bool isPrivate(const QString &path)
 {
     const auto ofTheUser = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
@@ -116,7 +116,7 @@ bool isPrivate(const QString &path)
 
 } // namespace
 
-/// The FTP window of the real program before a real server, by keys alone.
+/// The FTP window of the real program with a real server, driven by keys alone.
 class TstFtp : public QObject
 {
     Q_OBJECT
@@ -126,9 +126,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<FtpServer::Kind>("kind");
         QTest::addColumn<QString>(
-            "password"); // The program's own proposal would not tell whether the typed one is used.
-        // Only root can have this server shut its guests into a folder, and elsewhere the keys would have to find their
-        // way through the whole disk.
+            "password"); // The password that the program proposes would not show whether the typed one is used.
+        // The server can confine its users to a folder only if root starts it; otherwise the keys would have to
+        // navigate the whole disk.
         if (geteuid() == 0)
             QTest::newRow("vsftpd") << FtpServer::Kind::Vsftpd << u"sEcret-77"_s;
         QTest::newRow("pyftpdlib") << FtpServer::Kind::Pyftpdlib << u"Secret word 9"_s;
@@ -155,14 +155,14 @@ private Q_SLOTS:
         QCOMPARE(ReadIni(u"PROFIL"_s, u"pass"_s, session.profile()), password);
         QCOMPARE(ReadIni(u"PROFIL"_s, u"port"_s, session.profile()), QString::number(server.port()));
         session.connectByProfile();
-        // The dialog is gone before the server has answered.
+        // The dialog is closed before the server has answered.
         session.saveLog();
         QVERIFY(ProgramFolder::read(session.savedLog()).contains(" > Connected to server.\r\n"));
 
-        // From the local list to the tree's root, and to the folder in it that may be written; then everything in the
-        // list, which is one file.
+        // From the local list to the tree's root and to the writable folder in it; then everything in the list, which
+        // is one file.
         program.key(ftpWindow, u"Tab Home Down Tab ctrl+a"_s);
-        program.key(ftpWindow, u"alt+r d Return"_s); // Two entries have this letter.
+        program.key(ftpWindow, u"alt+r d Return"_s); // Two entries have this mnemonic.
         session.runTransfer();
         QCOMPARE(ProgramFolder::read(folder.path() + u"/from the server.bin"_s), down);
 

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Milliseconds within which a text that was changed is promised to be in a copy.
+/// Milliseconds within which a changed text must be in a copy.
 constexpr int recoveryPatience = 15000;
 
 mode_t modeOf(const QString &path)
@@ -31,13 +31,13 @@ mode_t modeOf(const QString &path)
 
 } // namespace
 
-/// The copies of unsaved text: when they come, who may read them, when they go.
+/// The copies of unsaved text: when they are created, who may read them, when they are removed.
 class TstRecovery : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Four processes at once, so that the time until the copy is waited for once.
+    /// Four processes at once, so that the test waits only once for the copies.
     void aCopyComesAndGoes()
     {
         struct Session {
@@ -47,7 +47,7 @@ private Q_SLOTS:
             RunningProgram program{folder, {path}};
         };
         std::array<Session, 4> sessions;
-        // A window that opens takes the focus, so nothing is typed before all of them stand.
+        // A window that opens takes the focus, so nothing is typed before all of them are open.
         for (const Session &session : sessions)
             QVERIFY(session.program.waitForWindow(session.caption));
         for (const Session &session : sessions)
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(ProgramFolder::read(left.path), "text");
     }
 
-    /// A process that is told to end writes what was typed a moment ago. What it leaves is told of by the next one.
+    /// A process that is terminated by a signal saves a copy of what was typed a moment ago.
     void aTextOutlivesTheEndOfItsProcess_data()
     {
         QTest::addColumn<int>("signal");
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(ProgramFolder::read(path), "text");
     }
 
-    /// The copy of a killed process is the user's to find: a later start leaves it alone and asks nothing.
+    /// The copy of a killed process stays for the user to find: a later start leaves it alone and asks nothing.
     void aCopyOutlivesTheNextStart()
     {
         ProgramFolder folder;

@@ -13,7 +13,7 @@ using namespace zephira;
 using namespace zephira::titles;
 using namespace Qt::StringLiterals;
 
-/// Saves that meet something in their way: a file that is there, cannot be written, or changed behind our back.
+/// Saves with an obstacle: a file that exists, that can't be written, or that another program has changed.
 class TstSaving : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ private Q_SLOTS:
     void anExistingFileIsAskedAbout_data()
     {
         QTest::addColumn<QString>("keys");
-        QTest::addColumn<bool>("again"); // The save dialog comes back.
+        QTest::addColumn<bool>("again"); // The save dialog opens again.
         QTest::addColumn<bool>("saved");
         QTest::newRow("yes") << u"alt+y"_s << false << true;
         QTest::newRow("no") << u"alt+n"_s << true << false;
@@ -83,7 +83,7 @@ private Q_SLOTS:
         program.key(RunningProgram::captionOf(path), u"ctrl+s"_s);
         program.answer(message, u"Return"_s);
         QVERIFY(program.waitUntilGone(message));
-        // Neither a part of the new text nor a temporary file is left behind.
+        // Neither part of the new text nor a temporary file is left behind.
         const QDir now(trouble == u"no folder"_s ? folder.place(u"elsewhere"_s) : site);
         QCOMPARE(now.entryList(QDir::Files | QDir::Hidden), QStringList{u"page.txt"_s});
         QCOMPARE(ProgramFolder::read(now.filePath(u"page.txt"_s)), old);

@@ -22,7 +22,7 @@ const QString chooser = u"Select Template"_s;
 
 } // namespace
 
-/// The start table and the ways out, against the real program.
+/// The dialogs at the start, the options that only print, and starts that fail, with the real program.
 class TstStart : public QObject
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("argument");
         QTest::addColumn<bool>("tips");
         QTest::addColumn<QString>("selprj");
-        QTest::addColumn<QStringList>("dialogs"); // One after the other, each closed by Escape.
+        QTest::addColumn<QStringList>("dialogs"); // One after the other, each closed with Escape.
         const QString file = u"FILE"_s;
         QTest::newRow("nodialog, all on") << u"/nodialog"_s << true << u"1"_s << QStringList{};
         QTest::newRow("nodialog, all off") << u"/nodialog"_s << false << u"0"_s << QStringList{};
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QFETCH(QString, argument);
         QFETCH(QByteArray, begin);
         ProgramFolder folder;
-        QVERIFY(QFile::remove(folder.ini())); // Not even the settings are looked at.
+        QVERIFY(QFile::remove(folder.ini())); // Not even the settings are read.
         RunningProgram program(folder, {argument});
         QCOMPARE(program.waitForEnd(), 0);
         QVERIFY(program.standardOutput().startsWith(begin));

@@ -23,27 +23,27 @@ QByteArray pageOf(const QByteArray &colour)
 const QString previewColour = u"#12AB34"_s;
 const QString designerColour = u"#3412AB"_s;
 
-/// A page whose script runs in the preview alone, which tells the two views apart.
+/// A page whose script runs only in the preview, which tells the two views apart.
 QByteArray pageOfTwoColours()
 {
     return pageOf("#3412AB").replace("</body>", "<script>document.body.bgColor = '#12AB34'</script></body>");
 }
 
-/// The program with a page in a folder of its own.
+/// The running program with a page in a folder of its own.
 struct PageInProgram {
     explicit PageInProgram(const QByteArray &content, const QString &name = u"site/page.html"_s)
         : file(folder.write(name, content)), program(folder, {file}), title(RunningProgram::captionOf(file))
     {}
 
     bool isShown() const { return program.waitForWindow(title); }
-    /// Goes to the next view, and waits until that shows its colour.
+    /// Switches to the next view and waits until it shows its colour.
     bool goOn(const QString &wanted)
     {
         program.key(title, u"F8"_s);
         return program.waitForMiddleColour(title, wanted);
     }
     QString colour() const { return program.middleColour(title); }
-    /// Closes the window; true if the program ended well.
+    /// Closes the window; true if the program exited with status 0.
     bool close()
     {
         program.close(title);
@@ -58,7 +58,7 @@ struct PageInProgram {
 
 } // namespace
 
-/// Preview and designer in the real program, through the module that lies beside it.
+/// Preview and designer in the real program, through the module next to it.
 class TstViews : public QObject
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(copy));
         QVERIFY(page.close());
         QVERIFY(!QFile::exists(copy));
-        // The terminal is told nothing but what concerns it.
+        // Nothing unrelated is printed to the terminal.
         for (const QByteArray &line : page.program.standardError().split('\n'))
             QVERIFY2(line.isEmpty() || line.contains("superuser") || line.contains("XDG_RUNTIME_DIR"),
                      line.constData());
@@ -105,7 +105,7 @@ private Q_SLOTS:
         page.program.key(page.title, u"ctrl+a"_s);
         QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
         page.program.key(page.title, u"Delete ctrl+x ctrl+v F5"_s);
-        // The designer asks where the document has changed.
+        // Entering the designer would ask a question if the document had changed.
         QVERIFY2(page.goOn(designerColour), qPrintable(page.colour()));
         QCOMPARE(page.program.windows(), QStringList{page.title});
         QVERIFY(page.close());

@@ -13,17 +13,17 @@
 
 namespace zephira {
 
-/// An editing control over files in memory and prompts from a script.
+/// An editing control with files in memory and scripted prompts.
 struct EditorFixture {
     ScriptedPrompts prompts;
     MemoryFileStore files;
     FakeClock clock;
-    /// The copies are files in memory; only their folder is made on the disk.
+    /// The copies are files in memory; only their folder exists on the disk.
     QTemporaryDir recoveryFolder;
     RecoveryCopies recovery{recoveryFolder.path(), files, clock};
     CodeMax editor{{files, recovery, prompts}};
 
-    /// Shows the control, so that it has a layout and takes keys.
+    /// Shows the control, so that it has a layout and receives keys.
     void show(int width = 600, int height = 400)
     {
         editor.resize(width, height);
@@ -34,7 +34,7 @@ struct EditorFixture {
         QTest::qWait(1);
     }
 
-    /// Types a text that may hold any character, one key each.
+    /// Types a text with any characters, one key event per character.
     void type(const QString &text)
     {
         for (const QChar c : text) {
@@ -43,7 +43,7 @@ struct EditorFixture {
         }
     }
 
-    /// Waits until the colours have come to where they were asked for.
+    /// Waits until everything that was requested has been coloured.
     void waitForColours()
     {
         editor.viewport()->repaint();

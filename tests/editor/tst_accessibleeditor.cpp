@@ -10,7 +10,7 @@ namespace zephira {
 
 namespace {
 
-/// Notes what assistive technology is told.
+/// Records the events that assistive technology receives.
 void note(QStringList &events, const QAccessibleEvent *event)
 {
     switch (event->type()) {
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(std::exchange(events, {}), (QStringList{u"-0 y\r\nz"_s, u"+0 äx"_s, u"|2"_s}));
     }
 
-    /// A new file may come with or without the index that offsets need.
+    /// A new file may be loaded with or without the index that offsets need.
     void filesOneAfterAnother()
     {
         EditorFixture f;

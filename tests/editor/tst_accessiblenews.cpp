@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-/// Positions come in bytes and are told in characters.
+/// Positions arrive in bytes and are reported in characters.
 class TstAccessibleNews : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(told, (QList<int>{std::min(anchor, caret) - 1, std::max(anchor, caret) - 1, caret - 1, caret - 1}));
     }
 
-    /// Offsets need an index that costs time at each line of a text that is loaded.
+    /// Offsets need an index, which costs time for each line of a loaded text.
     void nothingIsCountedWhileNobodyListens()
     {
         if (QAccessible::isActive())

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void stretchesReadFromRightToLeft_data()
     {
         QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("styles"); // one a character
+        QTest::addColumn<QString>("styles"); // one per character
         QTest::addColumn<QStringList>("stretches");
         QTest::newRow("none") << u"abc"_s << u"000"_s << QStringList();
         QTest::newRow("a word") << u"שלום"_s << u"0000"_s << QStringList{u"שלום"_s};
@@ -49,7 +49,7 @@ private Q_SLOTS:
         QTEST(stretches, "stretches");
     }
 
-    /// A line was blank when it began with such a letter.
+    /// A line that begins with a right-to-left letter must not stay blank.
     void everyLetterLeavesInk_data()
     {
         QTest::addColumn<QString>("line");
@@ -76,7 +76,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Nothing lies over something else: the boxes of a line's characters follow each other.
+    /// Characters don't overlap: the boxes of a line's characters follow each other.
     void charactersStandBesideEachOther()
     {
         EditorFixture f;
@@ -115,7 +115,7 @@ private Q_SLOTS:
         for (qsizetype i = 0; i < line.size(); ++i) {
             const QRectF box = boxOf(f, line, i);
             const bool leftward = line[i].direction() == QChar::DirR;
-            // A little behind the letter's beginning, as it is read.
+            // A little after the letter's beginning, in reading direction.
             const double x = leftward ? box.right() - box.width() / 4 : box.left() + box.width() / 4;
             if (line[i] == u' ')
                 continue;
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QVERIFY(lowest > 20);
     }
 
-    /// The scroll bar reaches the line's end.
+    /// The scroll bar's range covers the whole line.
     void theLineHasItsWidth()
     {
         EditorFixture f;
@@ -231,7 +231,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Where a character of the first line is seen.
+    /// The rectangle of a character of the first line.
     static QRectF boxOf(EditorFixture &f, const QString &line, qsizetype index)
     {
         const SciEngine &engine = f.editor.engine();
@@ -247,7 +247,7 @@ private:
                 static_cast<double>(engine.send(Sci::SCI_TEXTHEIGHT, 0))};
     }
 
-    /// Whether something is drawn there in a colour of its own.
+    /// Whether something is drawn there in a colour other than the background's.
     static bool inkIn(const QImage &picture, const QRectF &box)
     {
         const QRect area = box.toRect().intersected(picture.rect());

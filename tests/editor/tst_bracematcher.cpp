@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(marked(), ".#.#.."_ba);
         f.editor.select({0, 6, 0, 6});
         QCOMPARE(marked(), "......"_ba);
-        // What is typed is matched at once.
+        // Typed braces are matched at once.
         QTest::keyClicks(&f.editor, u"()"_s);
         QCOMPARE(marked(), "......##"_ba);
         QTest::keyClick(&f.editor, Qt::Key_Backspace);

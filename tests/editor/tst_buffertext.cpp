@@ -33,7 +33,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QCOMPARE(fromBuffer(buffer, lineEnds), text);
         QCOMPARE(toBuffer(text, lineEnds), buffer);
-        // In whatever two pieces the buffer comes, even in the middle of a character.
+        // Wherever the gap divides the buffer, even in the middle of a character.
         for (qsizetype cut = 0; cut <= buffer.size(); ++cut) {
             const std::array<QByteArrayView, 2> pieces{QByteArrayView(buffer).first(cut),
                                                        QByteArrayView(buffer).sliced(cut)};

@@ -7,7 +7,7 @@ using Sci = QsciScintillaBase;
 
 namespace zephira {
 
-/// Where carets come from and go to, by keys and mouse.
+/// Adding, moving and removing carets with keys and mouse.
 class TstCarets : public QObject
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ private Q_SLOTS:
             QMouseEvent move(QEvent::MouseMove, point, f.editor.viewport()->mapToGlobal(point), Qt::NoButton,
                              Qt::LeftButton, Qt::AltModifier);
             QCoreApplication::sendEvent(f.editor.viewport(), &move);
-            // The engine goes along no faster than it would scroll.
+            // While dragging, the engine follows the mouse no faster than it would scroll.
             QTest::qWait(300);
         }
         QTest::mouseRelease(f.editor.viewport(), Qt::LeftButton, Qt::AltModifier, at(f, 2, 3));
@@ -203,7 +203,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// The point of the window at a line and column.
+    /// The point of the viewport at a line and column.
     static QPoint at(EditorFixture &f, int line, int column)
     {
         const SciEngine &engine = f.editor.engine();

@@ -54,7 +54,8 @@ private Q_SLOTS:
         QTest::newRow("NUL") << QByteArray("a\0b\n", 4) << QString::fromUtf16(u"a\0b\r\n", 5)
                              << "é\n"_ba + QByteArray("a\0b\n", 4);
     }
-    /// A file that isn't touched comes back byte for byte; in one that is, a typed line gets the file's own line end.
+    /// An unmodified file is saved byte for byte as it was; in a modified one a typed line gets the file's own line
+    /// end.
     void formats()
     {
         QFETCH(QByteArray, bytes);
@@ -188,7 +189,7 @@ private Q_SLOTS:
         QCOMPARE(f.files.contents[path], written);
         QCOMPARE(f.editor.lastError().isEmpty(), answer == Answer::Yes);
         if (answer == Answer::Yes) {
-            // The document has changed over: nothing is asked again.
+            // The document is UTF-8 from now on, so nothing is asked again.
             QVERIFY(f.editor.SaveFile(path, false));
             QCOMPARE(f.editor.textFormat().encoding, Encoding::Utf8);
         } else {
@@ -214,7 +215,8 @@ private Q_SLOTS:
         QCOMPARE(f.editor.textFormat().encoding, Encoding::Windows1252);
     }
 
-    /// A copy elsewhere doesn't count as the document's file: what another program wrote there is still kept.
+    /// Saving a copy elsewhere doesn't change the document's file: what another program wrote to that file is still
+    /// preserved.
     void aCopyElsewhereKeepsTheMemoryOfTheFile()
     {
         EditorFixture f;

@@ -77,7 +77,7 @@ private Q_SLOTS:
         QVERIFY(f.editor.findChild<FindDialog *>());
     }
 
-    /// A menu's shortcut reaches the menu while the editor has the focus, whatever the editor uses the key for.
+    /// A menu's shortcut reaches the menu while the editor has the focus, even if the editor uses the key itself.
     void menusComeFirst_data()
     {
         QTest::addColumn<QKeySequence>("shortcut");

@@ -91,7 +91,7 @@ private Q_SLOTS:
         for (int item = 0; item < colourItemTotal; ++item)
             QTest::addRow("item %d", item) << item;
     }
-    /// Painting in a colour that nothing else has puts that colour on the screen, or a mixture that wasn't there.
+    /// Setting the colour of any item changes the picture.
     void everyColourShows()
     {
         QFETCH(int, item);
@@ -264,7 +264,7 @@ private Q_SLOTS:
         QVERIFY(f.editor.grab().toImage() != before);
     }
 
-    /// The colours of a new control are those of the settings that the program ships.
+    /// A new control has the colours of the shipped settings.
     void newControlsHaveTheShippedColours()
     {
         QFile file(sourcePath(u"data/zephira.ini"_s));
@@ -295,7 +295,7 @@ private Q_SLOTS:
         QVERIFY(paper(f).lightness() > 200);
         darken(f);
         QVERIFY(paper(f).lightness() < 60);
-        // What is set reads back as it was.
+        // A colour that was set reads back unchanged.
         QCOMPARE(f.editor.color(WindowColour), 0xffffffu);
         for (int item = 0; item < colourItemTotal; ++item)
             QCOMPARE(f.editor.color(item), colourItemTable[static_cast<size_t>(item)].initial);
@@ -304,7 +304,7 @@ private Q_SLOTS:
         QCOMPARE(f.editor.grab().toImage(), light);
     }
 
-    /// Every text is readable there: WCAG asks for a contrast of 4.5.
+    /// Every text is readable in the dark colours: WCAG demands a contrast of 4.5.
     void darkColoursAreReadable()
     {
         const auto luminance = [](quint32 number) {
@@ -334,7 +334,7 @@ private Q_SLOTS:
         f.editor.setColor(WindowColour, 0xf0fff0);
         darken(f);
         QCOMPARE(paper(f), QColor(0xf0, 0xff, 0xf0));
-        // One that goes with them is the shipped one.
+        // The text colour that goes with it stays the shipped one.
         QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETFORE, 0), 0x33291f);
         f.editor.setColor(WindowColour, 0xffffff);
         QVERIFY(paper(f).lightness() < 60);

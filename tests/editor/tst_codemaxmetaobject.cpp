@@ -17,7 +17,7 @@ constexpr EditorCommand namedCommands[] = {
     EditorCommand::FindNext,  EditorCommand::FindDialog, EditorCommand::PropertiesDialog,
 };
 
-/// The control as scripts see it: everything is read, written and called by name.
+/// The control as scripts use it: everything is read, written and called by name.
 class TstCodeMaxMetaObject : public QObject
 {
     Q_OBJECT
@@ -189,7 +189,7 @@ private Q_SLOTS:
         QVERIFY(f.editor.metaObject()->indexOfMethod("PrintContents(int,int)") >= 0);
     }
 
-    /// Callers from outside know the commands by these numbers.
+    /// External callers know the commands by these numbers.
     void commandsHaveTheirNumbers()
     {
         QCOMPARE(numberOf(EditorCommand::SelectAll), 137);
@@ -244,7 +244,7 @@ private Q_SLOTS:
         f.editor.setProperty("HighlightedLine", -1);
         QCOMPARE(f.editor.property("HighlightedLine").toInt(), -1);
         QCOMPARE(f.editor.grab().toImage(), plain);
-        // A mark that an edit has carried away is found as well.
+        // A highlighted line that an edit has moved is found as well.
         f.editor.setProperty("HighlightedLine", 1);
         f.editor.select({0, 0, 0, 0});
         f.editor.setSelText(u"x\r\ny\r\n"_s);

@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(f.editor.textLength(), read.size());
         QCOMPARE(f.editor.lineCount(), lines);
         QCOMPARE(f.editor.selection(false), CodeMaxRange());
-        // One step back, one step forth.
+        // One undo step and one redo step.
         f.editor.undo();
         QCOMPARE(f.editor.text(), u"before"_s);
         f.editor.redo();
@@ -169,7 +169,7 @@ private Q_SLOTS:
         QCOMPARE(f.editor.selText(), u"\U0001f600"_s);
         QCOMPARE(f.editor.selLength(), 2);
         QCOMPARE(f.editor.selection(true), (CodeMaxRange{0, 1, 0, 3}));
-        // The middle of a pair is its beginning.
+        // A position in the middle of a surrogate pair counts as its beginning.
         f.editor.select({0, 2, 0, 4});
         QCOMPARE(f.editor.selection(true), (CodeMaxRange{0, 1, 0, 4}));
     }
@@ -232,7 +232,7 @@ private Q_SLOTS:
         QCOMPARE(moves.count(), 3);
     }
 
-    /// A change of the number of lines is told too, even where the caret stays: the window shows that number.
+    /// A change of the number of lines is reported too, even if the caret stays: the window shows that number.
     void selChangeComesWithTheLineCount()
     {
         EditorFixture f;
@@ -327,7 +327,7 @@ private Q_SLOTS:
         f.editor.cut();
         QCOMPARE(f.editor.text(), u"one"_s);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"one "_s);
-        // Without a selection the clipboard stays what it is.
+        // Without a selection the clipboard stays unchanged.
         f.editor.copy();
         f.editor.cut();
         QCOMPARE(QGuiApplication::clipboard()->text(), u"one "_s);

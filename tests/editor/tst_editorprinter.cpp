@@ -58,7 +58,7 @@ private Q_SLOTS:
         int asked = 0;
         f.editor.printer().setSetup([&](QPrinter &printer, const std::function<void()> &) {
             ++asked;
-            // The dialog of a desktop proposes a file of this name for a text without one.
+            // The desktop's dialog proposes this file name for a text without a name.
             QCOMPARE(printer.docName(), u"Untitled.pdf"_s);
         });
         f.editor.PrintContents(0, 12);

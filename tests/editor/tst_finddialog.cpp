@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(f.editor.text(), u"aa-a-a"_s);
     }
 
-    /// What is selected by hand is no match, even if it reads the same.
+    /// Text that the user has selected is not replaced as a match, even if it equals one.
     void replaceTakesTheMatchAlone()
     {
         EditorFixture f;
@@ -236,7 +236,7 @@ private Q_SLOTS:
         d.press(u"cmdReplaceAll"_s);
         QCOMPARE(d.outcome(), u"%1 replacements."_s.arg(count));
         QCOMPARE(changes.count(), 1);
-        // What isn't replaced keeps its line ends; new ones are of the kind that the text has most of.
+        // The rest of the text keeps its line ends; new ones are of the kind that is most frequent in the text.
         const LineEnds typed = f.editor.typedLineEnds();
         const QByteArray end = typed == LineEnds::CrLf ? "\r\n" : typed == LineEnds::Lf ? "\n" : "\r";
         QVERIFY(f.editor.saveFile(u"/out"_s, false));
@@ -258,7 +258,7 @@ private Q_SLOTS:
         d.replaceBy(u"bbb"_s);
         d.press(u"cmdReplaceAll"_s);
         QCOMPARE(f.editor.text(), u"a\r\nbbb\r\nbbb\r\na"_s);
-        // The selection has grown with its text.
+        // The selection has grown with the replaced text.
         d.find(u"b$"_s);
         d.check(u"chkRegularExpression"_s, true);
         d.replaceBy(u"c"_s);
@@ -360,7 +360,7 @@ private Q_SLOTS:
         QVERIFY(!f.editor.text().contains(u"th"_s));
     }
 
-    /// Matches in one long line are counted from one to the next.
+    /// In one long line the search continues from one match to the next.
     void aLongLine()
     {
         EditorFixture f;

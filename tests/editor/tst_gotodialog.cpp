@@ -31,7 +31,7 @@ private Q_SLOTS:
         QTest::keyClick(line, Qt::Key_Return);
         QVERIFY(!dialog->isVisible());
         QCOMPARE(f.editor.selection(false), (CodeMaxRange{2, 0, 2, 0}));
-        // The same dialog serves the next time, with the line of then.
+        // The next time the same dialog opens, with the current line.
         f.editor.executeCmd(EditorCommand::GoToLine);
         QCOMPARE(f.editor.findChildren<GoToDialog *>().size(), 1);
         QCOMPARE(line->text(), u"3"_s);

@@ -13,7 +13,8 @@ class TstGraphemes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// A line whose characters, as a person sees them, are parted by bars, gives these parts by steps in both directions.
+    /// The rows are lines whose user-perceived characters are separated by bars. Stepping in either direction must stop
+    /// at exactly these places.
     void stepsGoFromCharacterToCharacter_data()
     {
         QTest::addColumn<QString>("parted");

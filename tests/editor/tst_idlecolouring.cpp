@@ -21,7 +21,7 @@ QString bigPage(int lines)
     return page;
 }
 
-/// What colouring the whole text anew gives: styles, line states and fold levels.
+/// The result of colouring the whole text from scratch: styles, line states and fold levels.
 struct Whole {
     QByteArray styles;
     std::vector<qsizetype> states;
@@ -59,7 +59,7 @@ private Q_SLOTS:
         QVERIFY(f.editor.colouring().work() < 20000);
     }
 
-    /// Behind a far jump the text is painted at once, uncoloured; the colours come when the program is idle.
+    /// After a far jump the text is painted at once, uncoloured; the colours follow when the program is idle.
     void aFarJumpPaintsBeforeItColours()
     {
         EditorFixture f;
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QTest::newRow("in the middle") << 100000;
         QTest::newRow("at the end") << 200000;
     }
-    /// In ten megabytes a key costs the same wherever it is typed.
+    /// In ten megabytes a key costs the same wherever it is typed in the text.
     void typingColoursALittle()
     {
         QFETCH(int, line);
@@ -143,7 +143,8 @@ private Q_SLOTS:
                                               u"{"_s,  u"}"_s,          u"\r\n"_s,   u"\n"_s,      u"\r"_s,
                                               u"\""_s, u"int x = 5;"_s, u"\\\r\n"_s, u"return "_s, u"R\"(\r\n"_s};
     }
-    /// Any edits, coloured line by line as the window asks for them, leave what colouring everything anew leaves.
+    /// After any edits, colouring line by line as the window requests gives the same as colouring everything from
+    /// scratch.
     void editsColourAsTheWholeTextDoes()
     {
         QFETCH(QString, language);
@@ -179,7 +180,7 @@ private Q_SLOTS:
                 } else {
                     f.editor.redo();
                 }
-                // Sometimes only a part is asked for, and sometimes nothing between two edits.
+                // Sometimes only a part is requested, and sometimes nothing between two edits.
                 if (number(3) > 0)
                     f.editor.colouring().colourTo(number(engine.length() + 1));
             }
@@ -210,7 +211,7 @@ private Q_SLOTS:
         QTest::keyClick(&f.editor, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(visible(1) && !visible(2) && !visible(3) && visible(4));
         QCOMPARE(f.editor.selection(false).EndLineNo, 1);
-        // Selecting what is folded away brings it to light.
+        // Selecting folded text unfolds it.
         f.editor.select({2, 0, 2, 1});
         QVERIFY(visible(2));
         QTest::keyClick(&f.editor, Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
@@ -227,7 +228,7 @@ private Q_SLOTS:
         const SciEngine &engine = f.editor.engine();
         engine.send(Sci::SCI_TOGGLEFOLD, 0);
         QVERIFY(!engine.send(Sci::SCI_GETLINEVISIBLE, 3));
-        // The brace that opens the folded block goes.
+        // The brace that opens the folded block is deleted.
         f.editor.select({0, 4, 0, 5});
         f.editor.setSelText(QString());
         f.waitForColours();

@@ -14,7 +14,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// A page of one line that is long enough for its runs to be broken.
+/// A page of one line that is long enough for its style runs to be split.
 QString onePageLine()
 {
     return u"<p class=\"a\">"_s + u"many words stand in a row "_s.repeated(longLineBytes / 20) + u"</p>"_s;
@@ -35,7 +35,7 @@ private Q_SLOTS:
     void runsChangeAtBlanks_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("styles"); // one character each; capitals are twins
+        QTest::addColumn<QByteArray>("styles"); // one letter per byte; a capital is the alternate of a style
         QTest::addColumn<QByteArray>("broken");
         const auto add = [](const char *text, const char *styles, const char *broken) {
             QTest::newRow(text) << QByteArray(text) << QByteArray(styles) << QByteArray(broken);
@@ -129,7 +129,7 @@ private Q_SLOTS:
         f.editor.redo();
         QCOMPARE(f.editor.text(), onePageLine());
         QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETVISIBLE, int(SyntaxStyle::Text)), 1);
-        // The line in which the caret stands has its styles, and the caret can be seen.
+        // The line of the caret has its styles, and the caret is visible.
         QCOMPARE(f.editor.engine().styleAt(1), int(SyntaxStyle::TagElement));
         const qsizetype x = f.editor.engine().send(Sci::SCI_POINTXFROMPOSITION, 0, f.editor.engine().caret());
         QVERIFY(x >= 0 && x < f.editor.width());

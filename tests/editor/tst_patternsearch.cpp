@@ -71,7 +71,7 @@ private Q_SLOTS:
         for (size_t i = matches.size(); i-- > 0;)
             replaced.replace(matches[i].start, matches[i].end - matches[i].start, matches[i].replacement);
         QCOMPARE(replaced, result);
-        // Walking forward and backward meets the same ones.
+        // Searching forward and backward finds the same matches.
         std::vector<TextMatch> forward;
         for (qsizetype from = 0; from <= text.size();) {
             const auto match = search.next(text, from, text.size(), replacement);

@@ -49,7 +49,7 @@ class TstPropertiesDialog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// The program may see to it by letting the highlighted line follow the caret.
+    /// The program may show the caret's line itself, by letting the highlighted line follow the caret.
     void theCaretsLineShowsAsItIs()
     {
         EditorFixture f;
@@ -131,7 +131,7 @@ private Q_SLOTS:
             styles.setCurrentIndex(3);
             Q_EMIT styles.activated(3);
         }
-        // The preview has it at once, the control with OK.
+        // The preview changes at once, the control after OK.
         QCOMPARE(d.preview().color(foreground), 0x0000ffu);
         QVERIFY(f.editor.color(foreground) != 0x0000ffu);
         d.press(QDialogButtonBox::Ok);
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(f.editor.displayLeftMargin());
     }
 
-    /// Cancel takes back what Apply has given, too.
+    /// Cancel also reverts what Apply has applied.
     void cancelRestoresEverything()
     {
         EditorFixture f;
@@ -218,7 +218,7 @@ private Q_SLOTS:
         QCOMPARE(f.editor.options(), options);
         QVERIFY(!f.editor.displayWhitespace());
         QCOMPARE(f.editor.fontStyle(KeywordFont), 5);
-        // Opened again, the dialog begins with what the control has.
+        // Opened again, the dialog starts with the control's values.
         f.editor.executeCmd(EditorCommand::PropertiesDialog);
         QCOMPARE(d.child<QDoubleSpinBox>(u"spnSize"_s).value(), 10.0);
         QCOMPARE(d.preview().color(KeywordFore), looks.colours[KeywordFore]);

@@ -79,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(!plain(Qt::Key_Backspace, {}));
     }
 
-    /// The engine overtypes while it handles a key and at no other time, so that its caret stays the control's.
+    /// The engine is in overtype mode only while it handles a key, so that the control determines its caret.
     void theEngineOvertypesDuringTheKey()
     {
         EditorFixture f;

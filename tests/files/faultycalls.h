@@ -13,13 +13,13 @@ namespace zephira {
 class FaultyCalls final : public FileSystemCalls
 {
 public:
-    /// Asked at each call with its number and kind; an errno that it gives is what the call fails with.
+    /// Called before each system call with its number and kind; if it returns an errno, the call fails with that.
     std::function<int(int, Call)> intervene = [](int, Call) { return 0; };
-    /// Bytes that one write takes at most.
+    /// The most bytes that a single write accepts.
     std::size_t writeLimit = static_cast<std::size_t>(-1);
 
     int count() const { return static_cast<int>(m_made.size()); }
-    /// The kinds of the calls made so far, in their order.
+    /// The kinds of the calls made so far, in order.
     const std::vector<Call> &made() const { return m_made; }
 
 protected:

@@ -35,8 +35,8 @@ uint modeOf(const QString &path)
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777u : 0u;
 }
 
-/// For its lifetime the question of what may be written is answered as for a user without rights, even if the superuser
-/// asks it; what is done is done with the rights that there are.
+/// During its lifetime, access checks are answered as for a user without privileges, even if root runs the test; actual
+/// operations still have the real privileges.
 class WithoutPrivileges
 {
 public:
@@ -147,7 +147,7 @@ void TstAppFolder::firstStartFills()
     QCOMPARE(contentOf(at(u"home/zephira/readme.txt"_s)), "Read me");
     QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<html>");
     QVERIFY(QFileInfo(at(u"home/zephira/templates/custom"_s)).isDir());
-    // A file that was installed read-only can be changed in the user's folder.
+    // A file that was installed read-only is writable in the user's folder.
     QCOMPARE(modeOf(at(u"home/zephira/readme.txt"_s)), 0600u);
     QCOMPARE(modeOf(at(u"home/zephira"_s)), 0700u);
     QCOMPARE(modeOf(at(u"home/zephira/templates/custom"_s)), 0700u);
@@ -209,7 +209,7 @@ void TstAppFolder::configurationThatCannotBeRead()
     put(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
     QVERIFY(QFile::setPermissions(at(u"bin/zephira.ini"_s), QFile::Permissions()));
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions::fromInt(0x7755)));
-    // The superuser reads everything.
+    // Root can read everything.
     constexpr uid_t nobody = 65534;
     const bool wasSuperuser = ::geteuid() == 0;
     QVERIFY(!wasSuperuser || ::seteuid(nobody) == 0);
@@ -236,7 +236,7 @@ void TstAppFolder::scratchIsMade()
     QVERIFY(folder.ok());
     QCOMPARE(folder.value(), at(u"cache/zephira/scratch"_s));
     QCOMPARE(modeOf(folder.value()), 0700u);
-    // Once made, it is the same at every start.
+    // Once created, the same folder is used at every start.
     QCOMPARE(scratchFolder(at(u"cache"_s)).valueOr(u"?"_s), folder.value());
 }
 

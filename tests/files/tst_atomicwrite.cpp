@@ -51,7 +51,7 @@ QStringList namesIn(const QTemporaryDir &folder)
         .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-/// What the child process makes of its body: its exit status.
+/// Runs the body in a child process and returns its exit status.
 template<typename Body>
 int inChild(Body body)
 {
@@ -129,8 +129,8 @@ private Q_SLOTS:
         QCOMPARE(contentOf(path), oldContent);
     }
 
-    /// Each call in turn fails with each errno: the old or the new content stands there, an error is told unless the
-    /// new one does, and no temporary file is left that could be removed.
+    /// Each call in turn fails with each errno: the file has the old or the new content, an error is reported unless it
+    /// is the new one, and no temporary file is left that could be removed.
     void eachCallFails_data()
     {
         QTest::addColumn<int>("error");
@@ -175,7 +175,7 @@ private Q_SLOTS:
                 ++failures;
                 QCOMPARE(written.error().code, Error::Code::Unwritable);
                 QVERIFY(written.error().sentence.startsWith(u"The file \""_s + path + u"\" could not be saved: "_s));
-                // Behind the rename only the flush of the folder is left, and it can't bring the old content back.
+                // After the rename only the flush of the folder is left, which can't bring the old content back.
                 const bool isFolderFlush = call == Call::Sync && contentOf(path) == newContent;
                 QCOMPARE(contentOf(path), isFolderFlush ? newContent : before);
             }
@@ -220,7 +220,7 @@ private Q_SLOTS:
                 put(path, oldContent);
             const int status = inChild([&] {
                 FaultyCalls calls;
-                // The writes are cut small, so that the end also comes between two of them.
+                // The writes are small, so that the process is also killed between two of them.
                 calls.writeLimit = 4096;
                 calls.intervene = [&](int number, Call) {
                     if (number == last)
@@ -299,7 +299,7 @@ private Q_SLOTS:
         QVERIFY(store.writeCopy(path, {&piece, 1}));
         QCOMPARE(contentOf(path), newContent);
         QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 0);
-        // What it replaces could be lost with it.
+        // This write replaces a file, which could be lost without a flush.
         QVERIFY(store.writeCopy(path, {&piece, 1}));
         QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 2);
     }
@@ -328,7 +328,7 @@ private Q_SLOTS:
         }
         QCOMPARE(names(), QStringList{u"a.htm"_s});
         QCOMPARE(contentOf(path), newContent);
-        // An empty file is one, too.
+        // An empty file replaces the old one, too.
         QVERIFY(store.receiveCopy(path)->finish());
         QCOMPARE(contentOf(path), QByteArray());
         QCOMPARE(std::ranges::count(calls.made(), Call::Sync), 2);
@@ -363,7 +363,7 @@ private Q_SLOTS:
         put(path, oldContent);
         const QByteArray name = QFile::encodeName(path);
         if (chown(name.constData(), 4711, 4712) != 0) {
-            // Only the superuser can make a file of somebody else's.
+            // Only root can give a file to another user.
             QCOMPARE(errno, EPERM);
             return;
         }

@@ -215,7 +215,7 @@ private Q_SLOTS:
         QVERIFY(std::memcmp(value, list, sizeof list) == 0);
         QCOMPARE(modeOf(at(u"a"_s)), mode_t(0660));
 
-        // Where the list can't come along, its mask must not turn into rights of the group.
+        // If the list can't be copied, its mask must not turn into permissions of the group.
         FaultyCalls calls;
         calls.intervene = [](int, Call call) { return call == Call::SetAttribute ? EPERM : 0; };
         QVERIFY(DiskFileStore(calls).write(at(u"a"_s), "newer"));
@@ -284,7 +284,7 @@ private Q_SLOTS:
         FaultyCalls calls;
         bool folderOpened = false;
         calls.intervene = [&](int, Call call) {
-            // The first opening is the folder's, the second that of the temporary file.
+            // The first call opens the folder, the second the temporary file.
             return call == Call::Open && std::exchange(folderOpened, true) ? EACCES : 0;
         };
         QCOMPARE(DiskFileStore(calls).write(at(u"a"_s), "new").error().sentence,

@@ -17,14 +17,14 @@ namespace zephira {
 
 namespace {
 
-/// The disk, seen through a store that notes how the pieces of a write came.
+/// A store on the disk that records the pieces of a write.
 class WatchingStore final : public FileStore
 {
 public:
     std::vector<QByteArrayView> lastPieces;
     bool writesFail = false;
     bool writesInPlaceFail = false;
-    /// What stood in the folder of the recovery copies when a file was written in place.
+    /// The content of the recovery folder at the time when a file was written in place.
     QString recovery;
     QStringList copiesInPlace;
 
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(desk.save("ours"));
         QCOMPARE(desk.get(), QByteArray("ours"));
         QCOMPARE(desk.kept(), QList<QByteArray>{"foreign \xFF bytes"});
-        // From here on ours is what was seen.
+        // From now on the last known content is ours.
         QVERIFY(desk.save("ours again"));
         QCOMPARE(desk.kept().size(), 1);
         desk.put("foreign after the save");
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QVERIFY(desk.save("ours"));
         QCOMPARE(desk.get(), QByteArray("ours"));
         QCOMPARE(desk.files.read(other).value(), QByteArray("ours"));
-        // The copy was there while it was needed, and no longer.
+        // The copy existed only while it was needed.
         QCOMPARE(desk.files.copiesInPlace.size(), 1);
         QCOMPARE(desk.kept(), QList<QByteArray>());
     }

@@ -41,7 +41,7 @@ class TstIniConfiguration : public QObject
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
     }
 
-    /// Makes the file one that was written some time ago.
+    /// Sets the file's time back, as if it had been written some time ago.
     void letRest() const
     {
         QFile file(ini());
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(configuration.file(), ini());
     }
 
-    /// A start asks for some seventy values.
+    /// A start reads some seventy values.
     void aFileThatRestsIsReadOnce()
     {
         put("[font]\nsize=12\n[Colors]\nclr0bg=7\n");
@@ -171,7 +171,7 @@ private Q_SLOTS:
         put("[font]\nsize=12\n");
         letRest();
         QCOMPARE(configuration.value(Setting::FontSize), u"12"_s);
-        // As long as before and, for a coarse clock, in the same moment.
+        // Same length as before and, with a coarse clock, same time.
         for (const char *size : {"13", "14", "15", "16"}) {
             put("[font]\nsize=" + QByteArray(size) + '\n');
             QCOMPARE(configuration.value(Setting::FontSize), QString::fromLatin1(size));

@@ -71,11 +71,11 @@ private Q_SLOTS:
     {
         put(u"a"_s, "old");
         int asked = 0;
-        // The first question is for the file, the second for its folder.
+        // The first access check is for the file, the second for its folder.
         m_calls.intervene = [&](int, Call call) { return call == Call::Access && ++asked == 2 ? EACCES : 0; };
         QVERIFY(must(u"a"_s));
         asked = 0;
-        // On a disk that is read-only the file can't be written to either.
+        // On a read-only disk the file can't be written to either.
         m_calls.intervene = [&](int, Call call) { return call == Call::Access && ++asked == 2 ? EROFS : 0; };
         QVERIFY(!must(u"a"_s));
     }
@@ -124,7 +124,7 @@ private Q_SLOTS:
             if (calls.count() <= failing)
                 break;
             const Call call = calls.made()[static_cast<std::size_t>(failing)];
-            // Only room that can't be asked for is no failure.
+            // Only a failing pre-allocation doesn't count as a failure.
             QCOMPARE(written.ok(), call == Call::Allocate);
             failures += written ? 0 : 1;
         }

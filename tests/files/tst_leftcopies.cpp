@@ -23,7 +23,7 @@ QString write(const QTemporaryDir &folder, const QString &name)
     return path;
 }
 
-/// The number of a process that is no more.
+/// The id of a process that has ended.
 qint64 endedProcess()
 {
     QProcess process;
@@ -35,7 +35,7 @@ qint64 endedProcess()
 
 } // namespace
 
-/// The copies that ended programs left.
+/// The copies left behind by programs that have ended.
 class TstLeftCopies final : public QObject
 {
     Q_OBJECT
@@ -47,9 +47,9 @@ private Q_SLOTS:
         const QString ended = QString::number(endedProcess());
         const QString first = write(folder, u"open-20240229-120000-000-%1-a-b.htm"_s.arg(ended));
         const QString second = write(folder, u"open-20240301-130509-123-%1-New Document"_s.arg(ended));
-        // A process of that number that is no such program.
+        // The process with this id is another program.
         const QString third = write(folder, u"open-20240302-000000-000-1-c.css"_s);
-        // What nobody asks about: a running program's own, versions of files, and what was put aside.
+        // Not offered: the copies of a running program, versions of files, and copies that were set aside.
         write(folder, u"open-20240302-000000-000-%1-mine.htm"_s.arg(QCoreApplication::applicationPid()));
         write(folder, u"disk-20240229-120000-000-%1-001-d.htm"_s.arg(ended));
         write(folder, u"kept-20240229-120000-000-%1-e.htm"_s.arg(ended));

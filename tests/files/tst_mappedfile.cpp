@@ -31,7 +31,7 @@ private Q_SLOTS:
         std::shared_ptr<const MappedFile> mapped = MappedFile::map(reading);
         QVERIFY(mapped);
         QVERIFY(mapped->bytes() == QByteArray(3 << 20, 'x'));
-        // A writer that doesn't want to wait is refused, and we are not ended by the signal that announces it.
+        // A non-blocking writer is refused, and the signal that announces it doesn't end our process.
         QCOMPARE(::open(path.constData(), O_WRONLY | O_TRUNC | O_NONBLOCK), -1);
         QCOMPARE(errno, EWOULDBLOCK);
         QVERIFY(mapped->bytes() == QByteArray(3 << 20, 'x'));

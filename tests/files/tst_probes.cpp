@@ -37,7 +37,7 @@ const QString parseProbe = QStringLiteral(PARSEPROBE);
 
 } // namespace
 
-/// The programs that tests from outside rely on: what they print, and that their status tells the truth.
+/// The programs that external tests rely on: what they print, and that their exit status is right.
 class TstProbes : public QObject
 {
     Q_OBJECT

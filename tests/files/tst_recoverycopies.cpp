@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(content(names().first()), QByteArray("10"));
         QCOMPARE(content(names()[49]), QByteArray("59"));
         QCOMPARE(copies.ownCopy(), folder() + u'/' + names().last());
-        // A clock that was set back doesn't cost the newest copy.
+        // If the clock was set back, the newest copy still isn't lost.
         m_clock.time = m_clock.time.addYears(-1);
         const Result<QString> copy = copies.keepDisk(u"a"_s, "late");
         QCOMPARE(m_files.read(copy.value()).value(), QByteArray("late"));
@@ -138,7 +138,7 @@ private Q_SLOTS:
                               u"open-20240229-120000-001-"_s + process + u"-New Document"_s}));
         QCOMPARE(content(names()[0]), QByteArray("two"));
         QCOMPARE(content(names()[1]), QByteArray("other"));
-        // Another name for the document takes the copy along.
+        // When the document is renamed, its copy is renamed with it.
         QVERIFY(write(copies, u"/home/me/a.htm"_s, "three"));
         QCOMPARE(names(),
                  (QStringList{u"open-20240229-120000-000-"_s + process + u"-a.htm"_s,

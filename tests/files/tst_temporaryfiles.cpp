@@ -25,11 +25,11 @@ namespace {
 
 constexpr QByteArrayView text = "text";
 
-/// A process that saves and, in the middle of that, waits until it is killed.
+/// A process that stops in the middle of a save and waits to be killed.
 class StoppedWriter
 {
 public:
-    /// Stops at the first call of a kind, and comes back when it stands there.
+    /// Stops at the first call of a kind; the constructor returns when it has stopped.
     StoppedWriter(const QString &path, Call place)
     {
         int ends[2] = {};
@@ -110,7 +110,7 @@ private Q_SLOTS:
         StoppedWriter writer(at(u"a.htm"_s), Call(place));
         QVERIFY(writer.isStopped());
         QCOMPARE(names().size(), 1);
-        // As long as its writer lives, it stays.
+        // It stays as long as its writer runs.
         QVERIFY(files.write(at(u"b.htm"_s), text));
         QCOMPARE(names().size(), 2);
         writer.end();
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(names(), (QStringList{u".zephira-1~"_s, u"a.htm"_s}));
     }
 
-    /// Somebody who sweeps may take a file that has just been made, before its maker has claimed it.
+    /// Another process that cleans up may remove a file that has just been created, before its owner has locked it.
     void aNameThatIsTakenIsTriedAnew()
     {
         FaultyCalls calls;

@@ -13,7 +13,7 @@ namespace zephira {
 
 namespace {
 
-/// Encoding, mark and line ends in one word, as the rows below write them.
+/// Encoding, byte order mark and line ends in one word, as in the rows below.
 QByteArray describe(const TextFormat &format)
 {
     constexpr const char *ends[] = {"crlf", "lf", "cr", "mixed"};

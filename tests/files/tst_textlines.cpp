@@ -37,7 +37,7 @@ private Q_SLOTS:
         QTEST(textLines(text), "lines");
     }
 
-    /// The same rule written plainly, over all short texts of the characters that matter.
+    /// Compared with a straightforward implementation, for all short texts made of the relevant characters.
     void againstAPlainReading()
     {
         const QString alphabet = u"a\r\n"_s;
@@ -93,7 +93,7 @@ private Q_SLOTS:
         files.contents[u"/a"_s] = bytes;
         const Result<QStringList> lines = readLines(files, u"/a"_s);
         QVERIFY(lines.ok());
-        QCOMPARE(lines.value().size(), 9); // Four times a LF and a CR apart, and the end.
+        QCOMPARE(lines.value().size(), 9); // Four times an LF and a CR, not adjacent, and the end.
         QCOMPARE(lines.value().join(QString()).size(), 1024 - 8);
     }
 
@@ -126,7 +126,7 @@ private Q_SLOTS:
         QTEST(number.readLines(path, 1).error().sentence, "sentence");
         QCOMPARE(number.readLines(u"/a"_s).error().sentence, u"File already open"_s);
         QCOMPARE(number.readLines(path, 1).error().sentence, u"File already open"_s);
-        // Another number knows nothing of it.
+        // Another file number isn't affected.
         QVERIFY(FileNumber(files).readLines(u"/a"_s).ok());
     }
 };

@@ -48,7 +48,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(bool, valid);
-        // At every distance from the borders of the strides in which ASCII is skipped.
+        // At every offset within the blocks in which ASCII is skipped.
         for (int before = 0; before < 40; ++before) {
             for (const int after : {0, 1, 7, 8, 33})
                 QCOMPARE(isValidUtf8(QByteArray(before, 'a') + bytes + QByteArray(after, 'z')), valid);
@@ -71,7 +71,7 @@ private Q_SLOTS:
     void agreesWithTheLibraryOnRandomBytes()
     {
         QRandomGenerator random(1);
-        // Few enough values that valid sequences come about often.
+        // Few values, so that valid sequences are frequent.
         constexpr unsigned char values[] = {'a', 0x80, 0x90, 0xA0, 0xBF, 0xC2, 0xE0, 0xE1, 0xED, 0xF0, 0xF4};
         int valid = 0;
         for (int round = 0; round < 200'000; ++round) {

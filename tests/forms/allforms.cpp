@@ -24,7 +24,7 @@ namespace zephira {
 
 namespace {
 
-/// What the editing controls inside forms stand on; nothing is opened or saved through them.
+/// What the editing controls in forms depend on; nothing is opened or saved through it.
 struct EditorParts {
     DiskFileStore files;
     SystemClock clock;
@@ -32,7 +32,7 @@ struct EditorParts {
     ScriptedPrompts prompts;
 };
 
-/// What the forms of the file transfer share: a session without a server.
+/// Shared by the forms of the file transfer: a session without a server.
 struct FtpParts {
     RecordingOperations operations;
     FtpClient client{operations};

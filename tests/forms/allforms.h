@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// Every form that can be made of fakes alone: those of all folders.
+/// The forms of all folders, with fakes for everything that they depend on.
 FormCatalogue allForms();
 
 } // namespace zephira

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// formshots DIR [SCALE]     a picture of each form, in a light and a dark palette: DIR/frmTable-light@1x.png …
-// formshots --names FORM    the list of names of a form as it is, to begin tests/forms/names/FORM.txt with
+// formshots DIR [SCALE]     saves a picture of each form, in a light and a dark palette: DIR/frmTable-light@1x.png …
+// formshots --names FORM    prints the current list of names of a form, as a start for tests/forms/names/FORM.txt
 #include "forms/allforms.h"
 #include "support/fakes.h"
 #include "support/formnames.h"

@@ -58,7 +58,7 @@ QList<NamedControl> sampleNames()
 
 } // namespace
 
-/// The kit finds what is wrong with a form; a kit that found nothing would let every form pass.
+/// Proves that the kit finds faults of a form; a kit that found none would let every form pass.
 class TstFormKit final : public QObject
 {
     Q_OBJECT

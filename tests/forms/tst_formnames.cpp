@@ -10,7 +10,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Each form of the catalogue against its list of names, as it is drawn and as it lives.
+/// Compares each form of the catalogue, both its .ui file and the running form, with its list of names.
 class TstFormNames final : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 
 namespace zephira {
 
-/// A file list in memory. Rows are selected by their names.
+/// A file list in memory. Rows are selected by name.
 struct FakeFileRows final : FileRows {
     std::vector<FileRow> rows;
     std::set<QString> selection;
@@ -35,7 +35,7 @@ struct FakeFileRows final : FileRows {
     void editName() override { ++edits; }
 };
 
-/// The server's side in memory: a tree that is a list of keys, in the order in which they were added.
+/// The server's side in memory: the tree is a list of keys, in the order in which they were added.
 struct FakeRemoteView final : RemoteView {
     FakeFileRows list;
     QStringList keys;
@@ -67,12 +67,12 @@ struct FakeRemoteView final : RemoteView {
     void markPattern(bool all) override { allFiles = all; }
 };
 
-/// This machine's side: folders of the disk, and the names that the test gives.
+/// The local side: folders on the disk, and file names that the test sets.
 struct FakeLocalView final : LocalView {
     FakeFileRows list;
     QString path;
     QStringList names;
-    /// Folders that can't be moved to.
+    /// Folders that can't be opened.
     std::set<QString> unreadable;
     QString pathText;
     QString pattern = QStringLiteral("*.*");

@@ -13,8 +13,8 @@
 
 namespace zephira {
 
-/// The forms of the FTP client over a program folder on the disk and a server that is a script, or over real operations.
-/// Questions, shell and the opening of other forms are fakes.
+/// The forms of the FTP client with a program folder on the disk and a scripted server, or with real operations.
+/// Prompts, shell and form opener are fakes.
 struct FtpBench {
     QTemporaryDir folder;
     TestContext world;
@@ -46,7 +46,7 @@ struct FtpBench {
         QFile file(path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
     }
-    /// A session that is connected, as if it had logged in.
+    /// Makes the session connected, as if it had logged in.
     void connectSession() const
     {
         client->session.ftpOpenHandle = 901;

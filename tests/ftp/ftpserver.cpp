@@ -26,7 +26,7 @@ using namespace std::chrono_literals;
 
 constexpr int patience = 20'000;
 
-/// Every process has addresses of its own, so that tests that run beside each other never meet.
+/// Every process has a loopback address of its own, so that tests that run at the same time don't interfere.
 QString addressOfThisProcess()
 {
     const auto number = static_cast<quint32>(getpid());
@@ -44,7 +44,7 @@ bool isRoot()
     return geteuid() == 0;
 }
 
-/// vsftpd serves strangers as the user ftp, to whom the folder has to belong.
+/// vsftpd serves anonymous users as the user ftp, who must own the folder.
 void giveToServer(const QByteArray &path)
 {
     const passwd *user = isRoot() ? getpwnam("ftp") : nullptr;
@@ -95,7 +95,7 @@ QString FtpServer::password() const
 
 QString FtpServer::loginFolder() const
 {
-    // A vsftpd that root didn't start can't shut its users into a folder.
+    // A vsftpd that wasn't started by root can't confine its users to a folder.
     return m_kind == Kind::Vsftpd && !isRoot() ? m_root.filePath(u"served"_s) : u"/"_s;
 }
 

@@ -7,19 +7,19 @@
 
 namespace zephira {
 
-/// A real server at an address of this machine that no other process uses. It has a folder that may be written, and goes
-/// with the test, however that ends.
+/// A real server at a local address that no other process uses. It has a writable folder and ends with the test,
+/// however the test ends.
 class FtpServer
 {
 public:
     enum class Kind {
-        /// Lets everybody in, and has no listing for programs.
+        /// Accepts anonymous users, and has no machine-readable listings.
         Vsftpd,
-        /// Knows one user, and lists for programs too.
+        /// Accepts one user with a password, and also has machine-readable listings.
         Pyftpdlib,
     };
 
-    /// Starts it, and waits until it answers; the test fails if it doesn't.
+    /// Starts the server and waits until it answers; fails the test if it doesn't.
     explicit FtpServer(Kind kind);
     ~FtpServer() { kill(); }
     Q_DISABLE_COPY_MOVE(FtpServer)
@@ -32,12 +32,12 @@ public:
     QString user() const;
     QString password() const;
 
-    /// Where a login leads.
+    /// The current folder after a login.
     QString loginFolder() const;
-    /// The folder that may be written, as the server names it and on the disk. Both end in "/".
+    /// The writable folder, as the server names it and on the disk. Both paths end with "/".
     QString folder() const;
     QString localFolder() const { return m_root.path() + QStringLiteral("/served/pub/"); }
-    /// Puts a file there, whose name is a server's bytes, and belongs to the server's user.
+    /// Adds a file to the writable folder. It belongs to the server's user; its name is given as the server's bytes.
     void addFile(const QByteArray &name, const QByteArray &content) const;
 
 private:

@@ -29,7 +29,7 @@
 
 namespace zephira {
 
-/// The window over a program folder that holds some files, and a server that has some too.
+/// The FTP window with some files in the program folder and on the server.
 struct FtpWindowBench : FtpBench {
     std::unique_ptr<LivingForm> form;
 
@@ -51,7 +51,7 @@ struct FtpWindowBench : FtpBench {
         form = std::make_unique<LivingForm>(catalogue, QStringLiteral("frmmainftp"), context);
         return *form;
     }
-    /// Opens the window with a session that stands, and the root of the server in its tree.
+    /// Opens the window with a connected session and the server's root in its tree.
     LivingForm &openConnected()
     {
         open();

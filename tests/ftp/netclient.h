@@ -9,7 +9,7 @@
 
 namespace zephira {
 
-/// The real operations with one connection, and the longer tasks that tests put together from them.
+/// The real operations with one connection, and the longer tasks that tests need.
 class NetClient
 {
 public:
@@ -25,7 +25,7 @@ public:
         return connection != 0;
     }
 
-    /// What FtpGetCurrentDirectoryA tells, up to the NUL; "failed" after a failure.
+    /// The result of FtpGetCurrentDirectoryA, up to the NUL; "failed" after a failure.
     QString currentFolder()
     {
         constexpr quint32 room = 260;
@@ -64,7 +64,8 @@ public:
         return operations.InternetCloseHandle(file) && ok;
     }
 
-    /// What a file holds, read in blocks of 1024 bytes, whose counts are kept; `ok` tells whether all of it came.
+    /// The content of a file, read in blocks of 1024 bytes; `counts` then has the size of each block, and `ok` tells
+    /// whether the file is complete.
     QByteArray get(const QString &path, bool &ok)
     {
         counts.clear();
@@ -87,9 +88,9 @@ public:
     NetOperations operations;
     InternetHandle open = 0;
     InternetHandle connection = 0;
-    /// Whether get() and put() tell that another file will be opened right behind theirs.
+    /// Whether get() and put() announce that another file will be opened right after theirs.
     bool anotherFollows = false;
-    /// Of the last file read.
+    /// The sizes of the blocks of the last file read.
     QList<quint32> counts;
 
 private:

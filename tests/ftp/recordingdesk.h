@@ -7,12 +7,12 @@
 
 namespace zephira {
 
-/// The FTP window as the other windows see it, which keeps what it is told. The log is written on the morning of
-/// 5 March 2001.
+/// The FTP window as the other windows see it. It records its calls. The time in its log is the morning of 5 March
+/// 2001.
 struct RecordingDesk final : FtpDesk {
     QDateTime now{QDate(2001, 3, 5), QTime(9, 7)};
     QString logged;
-    /// The last text of each panel by its number.
+    /// The latest text of each panel, by number.
     std::map<int, QString> panels;
     bool busy = false;
     bool binary = false;

@@ -20,7 +20,7 @@ QString hexadecimal(quint32 flags)
     return u"0x"_s + QString::number(flags, 16);
 }
 
-/// What the platform's operations give when they fail without a reason of their own.
+/// The error number of an operation that fails without a specific reason.
 constexpr quint32 anyError = 1;
 
 } // namespace

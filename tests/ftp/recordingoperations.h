@@ -12,26 +12,26 @@
 
 namespace zephira {
 
-/// Operations that keep each call with its arguments, in order, and answer as their public members say. The log has one
-/// line a call: `FtpDeleteFileA(2, "/a.htm")`; numbers of flags are hexadecimal, texts in double quotes, and blocks are
-/// told by their length. Without a script every call succeeds: handles count up from 1, folders are empty, and files
-/// read as `files` has them by their path.
+/// Operations that record each call with its arguments, in order, and answer as their public members say. The log has
+/// one line per call: `FtpDeleteFileA(2, "/a.htm")`. Flags are hexadecimal, texts are in double quotes, and of a block
+/// the length is given. By default every call succeeds: handles count up from 1, folders are empty, and reading a file
+/// gives its content in `files`.
 struct RecordingOperations final : InternetOperations {
     QStringList log;
 
-    /// Names of operations that fail, and how many times more; -1 stands for always.
+    /// Operations that fail, and how many more times; -1 means always.
     std::map<QString, int> failures;
-    /// What FtpGetCurrentDirectoryA tells.
+    /// The result of FtpGetCurrentDirectoryA.
     QString loginFolder = QStringLiteral("/");
     /// The entries that listings find, by search string.
     std::map<QString, std::deque<FindData>> folders;
-    /// The files' contents by their path: what is read, and what was written.
+    /// File contents by path: those to be read, and those that were written.
     std::map<QString, QByteArray> files;
     std::deque<RasConnection> dialUp;
-    /// The calls behind which another transfer of their connection was announced. That has no line in the log, because
-    /// the platform has no such operation.
+    /// The calls after which another transfer on their connection was announced. That isn't logged, because it is not
+    /// one of the platform's operations.
     QStringList announcedBehind;
-    /// When set, is told of each call before it is answered.
+    /// If set, called with each call before it is answered.
     std::function<void(const QString &call)> onCall;
 
     InternetHandle InternetOpenA(const QString &agent, quint32 accessType, const QString &proxy,
@@ -62,7 +62,7 @@ private:
         qsizetype position = 0;
     };
 
-    /// Keeps the call and tells whether it shall succeed.
+    /// Records the call and returns whether it shall succeed.
     bool succeeds(const char *operation, const QStringList &arguments);
     InternetHandle nextHandle() { return ++m_lastHandle; }
 
@@ -71,7 +71,7 @@ private:
     std::map<InternetHandle, OpenFile> m_openFiles;
 };
 
-/// An entry as a listing finds it.
+/// An entry as it is found in a listing.
 FindData foundFile(const QString &name, quint64 size, const SystemTime &written = {2001, 3, 5, 9, 7, 0});
 FindData foundFolder(const QString &name);
 

@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Longer than any test waits, so that the client is the one that gives up.
+/// Longer than any test waits, so that the client gives up first.
 constexpr auto patience = 60s;
 
 SocketAddress loopback()
@@ -21,7 +21,7 @@ SocketAddress loopback()
     return lookUpHost(QStringLiteral("127.0.0.1"), 0, Deadline(1s)).front();
 }
 
-/// Closes a connection so that the other side sees an error, and no end.
+/// Closes a connection with a reset, so that the other side sees an error instead of the end.
 void resetSocket(Socket &socket)
 {
     const linger atOnce = {1, 0};
@@ -31,7 +31,7 @@ void resetSocket(Socket &socket)
 
 using Session = ScriptedServer::Session;
 
-/// What a command does when the test has nothing else in mind.
+/// The handlers of commands for which the test has none.
 std::map<QByteArray, ScriptedServer::Handler> usualHandlers()
 {
     const auto sending = [](const QByteArray &bytes) {
@@ -180,7 +180,7 @@ ScriptedServer::~ScriptedServer()
 QList<QByteArray> ScriptedServer::commands()
 {
     if (m_thread.joinable()) {
-        // A thread that still waits for its client takes this for it.
+        // A thread that still waits for its client accepts this connection.
         Socket::connectedTo(loopback().withPort(m_port), Deadline(patience));
         m_thread.join();
     }

@@ -12,8 +12,8 @@
 
 namespace zephira {
 
-/// A server for one connection, which behaves well but where the test says otherwise. It has a folder with the file
-/// "a.htm", whose content is "hello", and knows EPSV alone.
+/// A server for one connection, which behaves correctly unless the test provides other handlers. It has a folder with
+/// the file "a.htm", whose content is "hello", and supports EPSV but not PASV.
 class ScriptedServer
 {
 public:
@@ -25,20 +25,20 @@ public:
 
         /// Sends a line; CR LF is added.
         void reply(const QByteArray &line);
-        /// Sends bytes over the data connection that the last EPSV or PASV has opened.
+        /// Sends bytes over the data connection that the last EPSV or PASV opened.
         void sendData(const QByteArray &bytes);
-        /// Reads what the client sends there, to its end.
+        /// Reads everything that the client sends over the data connection.
         QByteArray receiveData();
-        /// Reads a piece of it: the number of bytes, 0 at the end.
+        /// Reads up to `size` bytes of it; returns their number, 0 at the end.
         qsizetype receivePiece(qsizetype size);
         void closeData() { m_data.close(); }
         void resetData();
-        /// Answers nothing until the client has gone.
+        /// Stays silent until the client has disconnected.
         void stall();
-        /// Ends the conversation, in order or with a reset.
+        /// These end the conversation, either normally or with a reset.
         void drop() { m_control.close(); }
         void reset();
-        /// Opens a port for data and gives its number.
+        /// Opens a data port and returns its number.
         quint16 openDataPort();
 
     private:
@@ -55,14 +55,14 @@ public:
 
     using Handler = std::function<void(Session &session, const QByteArray &argument)>;
 
-    /// The handlers are called for their commands, such as "RETR", in place of the usual ones; the one of the empty
-    /// command greets. They run in the server's thread.
+    /// The handlers replace the default ones of their commands, such as "RETR"; that of the empty command sends the
+    /// greeting. They run in the server's thread.
     explicit ScriptedServer(std::map<QByteArray, Handler> handlers = {});
     ~ScriptedServer();
     Q_DISABLE_COPY_MOVE(ScriptedServer)
 
     quint16 port() const { return m_port; }
-    /// Waits until the client has gone, and gives the lines that it sent; none if it never came.
+    /// Waits until the client has disconnected and returns the lines that it sent; none if it never connected.
     QList<QByteArray> commands();
 
 private:
@@ -73,9 +73,9 @@ private:
     std::thread m_thread;
 };
 
-/// Answers a command with a line.
+/// A handler that answers with a line.
 ScriptedServer::Handler replying(const QByteArray &line);
-/// The verb of each command that a server was given.
+/// The verbs of the commands that a server received.
 QByteArray verbs(const QList<QByteArray> &commands);
 
 } // namespace zephira

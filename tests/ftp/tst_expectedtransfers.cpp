@@ -21,13 +21,14 @@ using Session = ScriptedServer::Session;
 const auto host = u"127.0.0.1"_s;
 const auto path = u"/a.htm"_s;
 
-/// What every conversation begins with.
+/// The commands at the start of every conversation.
 const auto login = "USER PASS TYPE PWD FEAT "_ba;
 
-/// Long enough for a busy machine; nothing here waits so long when all is well.
+/// Long enough for a busy machine; a passing test never waits this long.
 constexpr auto patience = 60s;
 
-/// Of this long limit a port that was asked ahead is used for a minute, so that it isn't too old on a busy machine.
+/// With this limit a port that was requested in advance is used for up to a minute, so that it doesn't expire on a busy
+/// machine.
 constexpr auto longLimit = 30min;
 
 void openPort(Session &session)
@@ -35,7 +36,7 @@ void openPort(Session &session)
     session.reply("229 Here (|||" + QByteArray::number(session.openDataPort()) + "|)");
 }
 
-/// Answers the first EPSV as it should be, and the later ones as a test says.
+/// Answers the first EPSV correctly, and the later ones as the test says.
 ScriptedServer::Handler onceWell(std::function<void(Session &session)> later)
 {
     return [later, isFirst = true](Session &session, const QByteArray &) mutable {
@@ -46,7 +47,7 @@ ScriptedServer::Handler onceWell(std::function<void(Session &session)> later)
     };
 }
 
-/// PASV as it should be.
+/// Answers PASV correctly.
 void openPlainPort(Session &session, const QByteArray &)
 {
     const quint16 port = session.openDataPort();
@@ -55,8 +56,8 @@ void openPlainPort(Session &session, const QByteArray &)
 
 } // namespace
 
-/// Transfers of which the operations were told that another one follows: the port for that is asked for at their end,
-/// and whatever becomes of it, the results are those of a transfer that nobody expected.
+/// Transfers after which another one was announced: the port for that one is requested at their end. Whatever happens
+/// to it, the results are the same as those of transfers without an announcement.
 class TstExpectedTransfers final : public QObject
 {
     Q_OBJECT
@@ -74,7 +75,7 @@ private Q_SLOTS:
             QVERIFY(client.connectTo(host, server.port()));
             client.anotherFollows = true;
             QCOMPARE(read(client), "hello"_ba);
-            // The second one comes although no second transfer has begun.
+            // The second EPSV comes although no second transfer has begun.
             QVERIFY(asked.try_acquire_for(patience));
             QVERIFY(asked.try_acquire_for(patience));
             QVERIFY(client.put(path, "hello"));
@@ -96,7 +97,7 @@ private Q_SLOTS:
     void replyOfThePortIsNoOther()
     {
         QFETCH(QByteArray, port);
-        // The server takes its time, so that the reply is still under way when the next command is given.
+        // The server is slow, so that the reply is still under way when the next command is given.
         const auto replyLate = [port](Session &session) {
             std::this_thread::sleep_for(50ms);
             session.reply(port);
@@ -153,7 +154,7 @@ private Q_SLOTS:
             client.anotherFollows = true;
             QCOMPARE(read(client), "hello"_ba);
             client.anotherFollows = false;
-            // A thirtieth of the usual limit; however much longer this takes on a busy machine, the port is too old.
+            // After a thirtieth of the usual limit the port has expired, and on a busy machine even more so.
             std::this_thread::sleep_for(NetOperations::usualLimit / 30 + 10ms);
             QCOMPARE(read(client), "hello"_ba);
         }
@@ -166,7 +167,7 @@ private Q_SLOTS:
         NetClient client(1s);
         QVERIFY(client.connectTo(host, server.port()));
         client.anotherFollows = true;
-        // The file itself has come well, whatever the server does then.
+        // The file itself has arrived, whatever the server does afterwards.
         QCOMPARE(read(client), "hello"_ba);
         QVERIFY(!client.operations.FtpDeleteFileA(client.connection, path));
         QVERIFY(!client.operations.FtpCreateDirectoryA(client.connection, path));

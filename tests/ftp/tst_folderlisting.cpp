@@ -13,7 +13,7 @@ namespace {
 /// The day on which the listings of these tests arrive.
 const QDate today(2024, 3, 10);
 
-/// "file 1024 2001-03-05 09:07 [index.htm]", one line an entry.
+/// "file 1024 2001-03-05 09:07 [index.htm]", one line per entry.
 QByteArray described(const std::vector<ListedEntry> &entries)
 {
     QByteArray text;

@@ -18,7 +18,7 @@ namespace {
 const QString anonymous = u"anonymous"_s;
 const QString placeholder = u"anonymous@example.com"_s;
 
-/// The form over a desk, with some profiles beside the program.
+/// The form with a recording desk and some profiles in the program folder.
 struct Bench : FtpBench {
     RecordingDesk desk;
     FormCatalogue forms;

@@ -280,7 +280,7 @@ void TstFrmmainftp::listing()
     QCOMPARE(bench.form->value(u"Label3"_s), u"/*.*"_s);
     QVERIFY(bench.form->widget().cursor().shape() != Qt::WaitCursor);
     QVERIFY(bench.remote().selected().empty());
-    // A folder that is listed a second time doesn't stand in the tree twice.
+    // A folder that is listed a second time isn't in the tree twice.
     QMetaObject::invokeMethod(&bench.form->widget(), "List");
     QCOMPARE(bench.keys().size(), 3);
 }
@@ -295,7 +295,7 @@ void TstFrmmainftp::nodes()
     QCOMPARE(bench.keys(), (QStringList{u"/"_s, u"/home/"_s, u"/pub/"_s, u"/pub/docs/"_s}));
     QVERIFY(bench.node(u"/pub/"_s)->isExpanded());
     QCOMPARE(bench.operations.log.first(), u"FtpSetCurrentDirectoryA(901, \"/pub/*.*\")"_s);
-    // Going up forgets whatever was open below.
+    // Going up removes everything below from the tree.
     bench.clickNode(u"/"_s);
     QCOMPARE(bench.client->session.ftpRemoteFolder, u"/"_s);
     QCOMPARE(bench.keys(), (QStringList{u"/"_s, u"/home/"_s, u"/pub/"_s}));
@@ -401,7 +401,7 @@ void TstFrmmainftp::renameHereCancelled()
     bench.typeName(bench.local(), u"b.html"_s);
     QTRY_VERIFY(asked);
     QCOMPARE(bench.names(bench.local())[1], u"b.htm"_s);
-    // A name that leads elsewhere is an error that no message covers.
+    // A name that leads to another folder is an error without a specific message.
     bench.choose(u"Rename"_s);
     asked = false;
     bench.world.prompts.expect({unhandled(u"ListView1_AfterLabelEdit"_s, u"Bad file name or number"_s),
@@ -688,7 +688,7 @@ void TstFrmmainftp::disconnect()
     QCOMPARE(bench.keys().size(), 3);
     bench.world.prompts.expectTell(u"Not connected to any server!"_s);
     bench.choose(u"zRemRef"_s);
-    // A click on a folder answers the same in its own words.
+    // A click on a folder is refused, too, with a text of its own.
     bench.world.prompts.expectTell(u"You are not connected to any server"_s);
     bench.clickNode(u"/"_s);
 }

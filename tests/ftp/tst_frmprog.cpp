@@ -23,7 +23,7 @@ using namespace zephira;
 
 namespace {
 
-/// The form over a queue, with a temporary folder for the local side.
+/// The form with a queue and a temporary folder as the local side.
 struct Transfer {
     TestContext world;
     QTemporaryDir folder;
@@ -49,7 +49,7 @@ struct Transfer {
     LivingForm form() { return LivingForm(catalogue, u"frmProg"_s, world); }
 };
 
-/// How often a widget is painted, whole or in parts.
+/// Counts how often a widget is painted, wholly or in part.
 struct PaintCount final : QObject {
     explicit PaintCount(QWidget &widget) { widget.installEventFilter(this); }
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -250,7 +250,7 @@ void TstFrmProg::paintsWhatIsNew()
     }
     transfer.queue(TransferQueue::Direction::Download, files);
     const LivingForm form = transfer.form();
-    // Half a second and a bit, so that a window of sixty pictures a second would show.
+    // A little more than half a second, long enough to notice a window that repaints sixty times a second.
     transfer.operations.onCall = [](const QString &call) {
         if (call.startsWith(u"InternetReadFile"))
             QTest::qSleep(10);

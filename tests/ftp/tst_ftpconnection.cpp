@@ -29,7 +29,7 @@ struct Bench {
         client.session.ftpPort = 21;
     }
 
-    /// Connects; the desk's calls and the operations share one list here, so that the order of both shows.
+    /// Connects. The desk's calls and the operations are recorded in one list, so that their order is known.
     bool connectToServer(const ConnectRequest &request = {u"My Site"_s, true, true})
     {
         return connection.connectToServer(request, [this] { operations.log.append(u"hide"_s); });

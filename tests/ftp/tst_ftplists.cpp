@@ -31,7 +31,7 @@ using Bench = FtpWindowBench;
 
 } // namespace
 
-/// What the lists, the tree and the tool bar of the window do under mouse and keys.
+/// How the lists, the tree and the toolbar of the window react to mouse and keys.
 class TstFtpLists final : public QObject
 {
     Q_OBJECT
@@ -86,11 +86,11 @@ void TstFtpLists::nodesWithTheMouse()
     QCOMPARE(bench.panel(2), u"Server: 1 Files in folder: /pub/*.*"_s);
     QTest::mouseClick(bench.tree().viewport(), Qt::MiddleButton, {}, placeOf(u"/home/"_s));
     QTRY_COMPARE(bench.client->session.ftpRemoteFolder, u"/home/"_s);
-    // A press that is let go elsewhere is no click, but has selected, too.
+    // A button that is released elsewhere makes no click, but the press has selected.
     QTest::mousePress(bench.tree().viewport(), Qt::LeftButton, {}, placeOf(u"/pub/"_s));
     QTest::mouseRelease(bench.tree().viewport(), Qt::LeftButton, {}, QPoint(2, bench.tree().viewport()->height() - 2));
     QTRY_COMPARE(bench.client->session.ftpRemoteFolder, bench.tree().selectedItems().first()->data(0, KeyRole));
-    // While the button is still down, what is asked about is what goes.
+    // Even while the button is down, the folder that the question names is the one that is removed.
     bench.clickNode(u"/pub/"_s);
     QTest::mousePress(bench.tree().viewport(), Qt::RightButton, {}, placeOf(u"/home/"_s));
     bench.operations.log.clear();
@@ -119,7 +119,7 @@ void TstFtpLists::renameWithTheKey()
 {
     Bench bench;
     bench.openConnected();
-    // It is the command, with all that the command says.
+    // The key runs the command, including its messages.
     bench.remote().setFocus();
     bench.world.prompts.expectTell(u"Nothing to rename!"_s, {}, Question::Icon::Exclamation);
     QTest::keyClick(&bench.remote(), Qt::Key_F2);
@@ -228,7 +228,7 @@ void TstFtpLists::manyLogLines()
     QVERIFY2(changes <= time.elapsed() / 50 + 1, qPrintable(QString::number(changes)));
     desk.showLog();
     QCOMPARE(bench.log(), lines.join(u'\n') + u'\n');
-    // A line that is shown at once comes behind those before it.
+    // A line that is logged at once still follows the earlier ones.
     desk.logSoon(LogEntry::QueuedFile, {u"1"_s, u"/y"_s});
     desk.log(LogEntry::QueuedFile, {u"2"_s, u"/y"_s});
     QVERIFY(bench.log().endsWith(u"1.) /y\n2.) /y\n"_s));
@@ -280,7 +280,7 @@ void TstFtpLists::sorting()
     QCOMPARE(list.selected().front().name, u"b.htm"_s);
     Bench::clickHead(list, FileRowsModel::Name);
     QCOMPARE(bench.names(list), (QStringList{u"A.gif"_s, u"b.htm"_s, u"c"_s}));
-    // Another column turns the order too.
+    // Sorting by another column also reverses the order.
     Bench::clickHead(list, FileRowsModel::Bytes);
     QCOMPARE(bench.names(list), (QStringList{u"A.gif"_s, u"c"_s, u"b.htm"_s}));
     QCOMPARE(list.selected().front().name, u"b.htm"_s);
@@ -320,11 +320,11 @@ void TstFtpLists::views()
             bench.choose(prefix + views[view]);
             QCOMPARE(list->property("View").toInt(), view);
             QCOMPARE(icons->isVisible(), view != FileListView::Report);
-            // A name has its whole cell, however short the first one is.
+            // An item fills its whole cell, however short the first name is.
             if (view != FileListView::Report)
                 QVERIFY(icons->visualRect(icons->model()->index(1, 0)).width() * 10 > icons->gridSize().width() * 9);
         }
-        // The icons show the same rows, and what is clicked in them counts.
+        // The icon view shows the same rows, and clicks in it select them.
         bench.choose(prefix + views[0]);
         QCOMPARE(icons->size(), list->size());
         QTest::mouseClick(icons->viewport(), Qt::LeftButton, {},

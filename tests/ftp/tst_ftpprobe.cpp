@@ -22,7 +22,7 @@ struct Run {
     QByteArray output;
 };
 
-/// Runs the probe with proxies in its environment, which lead nowhere and must not be used.
+/// Runs the probe with unreachable proxies in its environment, which must not be used.
 Run ftpprobe(const QStringList &arguments)
 {
     QProcess process;
@@ -44,7 +44,7 @@ QByteArray contentOf(const QString &path)
 
 } // namespace
 
-/// The program that tests from outside use: its exit status must never claim what didn't happen.
+/// The program that external tests use: its exit status must never report a success that didn't happen.
 class TstFtpProbe final : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@ using namespace zephira;
 
 namespace {
 
-/// The reply that lines divided by LF make, with code 0 if they make none.
+/// The reply in lines that end with LF; with code 0 if they don't form one.
 FtpReply replyFrom(const QByteArray &lines)
 {
     FtpReplyReader reader;
@@ -21,7 +21,7 @@ FtpReply replyFrom(const QByteArray &lines)
     return reader.isComplete() ? reader.reply() : FtpReply();
 }
 
-/// The number in a text for a test's row; nothing for 0.
+/// The expected port of a row; none for 0.
 std::optional<quint16> port(int number)
 {
     return number == 0 ? std::nullopt : std::optional(static_cast<quint16>(number));
@@ -29,7 +29,7 @@ std::optional<quint16> port(int number)
 
 } // namespace
 
-/// What servers say on the control connection.
+/// The replies of servers on the control connection.
 class TstFtpReply final : public QObject
 {
     Q_OBJECT

@@ -231,7 +231,7 @@ void TstFtpRules::logForms_data()
     QTest::addColumn<LogEntry>("entry");
     QTest::addColumn<QStringList>("parts");
     QTest::addColumn<QString>("text");
-    // "t" and "d" stand for the time and the date here.
+    // "t" and "d" stand for the time and the date.
     const auto row = [](const char *name, LogEntry entry, const QStringList &parts, const QString &text) {
         QTest::newRow(name) << entry << parts << text;
     };

@@ -17,7 +17,7 @@ using namespace zephira;
 
 namespace {
 
-/// The window, its dialogs and the real operations, before a real server.
+/// The window, its dialogs and the real operations with a real server.
 struct Bench {
     explicit Bench(FtpServer::Kind kind) : server(kind)
     {
@@ -25,7 +25,7 @@ struct Bench {
         window = std::make_unique<LivingForm>(ftp.catalogue, u"frmmainftp"_s, ftp.context);
     }
 
-    /// Stands for the user in the two dialogs.
+    /// Fills in the two dialogs as a user would.
     void fill(const QString &form)
     {
         FormCatalogue overTheWindow;
@@ -78,7 +78,7 @@ struct Bench {
         }
         QFAIL(qPrintable(u"there is no folder "_s + key));
     }
-    /// Opens each folder on the way down to the one that may be written.
+    /// Opens each folder on the way down to the writable one.
     void enterFolder() const
     {
         clickFolder(u"/"_s);
@@ -98,7 +98,7 @@ struct Bench {
 
 } // namespace
 
-/// A user's afternoon with the FTP client: everything is real but the questions.
+/// A whole session with the FTP client: everything is real except the prompts.
 class TstFtpSession final : public QObject
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ void TstFtpSession::wholeSession()
     QCOMPARE(bench.names(), (QStringList{u"Größe.gif"_s, u"a b#c%20;.htm"_s}));
     QCOMPARE(bench.panel(2), u"Server: 2 Files in folder: "_s + bench.server.folder() + u"*.*"_s);
 
-    // Down and up again, byte for byte.
+    // Downloaded and uploaded again, byte for byte.
     bench.select(u"ListView2"_s, u"a b#c%20;.htm"_s);
     bench.choose(u"zRemDown"_s);
     QCOMPARE(bench.ftp.read(u"a b#c%20;.htm"_s), QByteArray("<p>one</p>"));
@@ -172,7 +172,7 @@ void TstFtpSession::wholeSession()
     QCOMPARE(bench.names(), (QStringList{u"Größe.gif"_s, u"a b#c%20;.htm"_s}));
     QVERIFY(!QFile::exists(bench.server.localFolder() + u"renamed.bin"_s));
 
-    // A folder comes and goes.
+    // A folder is created and removed.
     bench.ftp.world.prompts.expectInput({u"Type name for the new folder"_s, u"New Folder"_s}, u"new folder"_s);
     bench.choose(u"zRemNF"_s);
     QVERIFY(QFileInfo(bench.server.localFolder() + u"new folder"_s).isDir());

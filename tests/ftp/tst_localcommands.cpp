@@ -17,7 +17,7 @@ using namespace zephira;
 
 namespace {
 
-/// The local side over a real folder with three files: a.htm, b.gif and c.
+/// The local side with a real folder and three files: a.htm, b.gif and c.
 struct Bench {
     QTemporaryDir folder;
     TestContext world;
@@ -56,7 +56,7 @@ struct Bench {
         world.prompts.expect({text, {}, Question::Icon::Question, Question::Buttons::YesNo}, answer);
     }
     QString panel() const { return desk.panels.at(textPanel); }
-    /// What a command raised, or empty.
+    /// The error that a command raised; empty if none.
     static QString errorOf(const Statement &command)
     {
         try {
@@ -399,7 +399,8 @@ void TstLocalCommands::programDataIsNamed()
     QVERIFY(!commands.renameEnded(u"tags.dat"_s, u"t.dat"_s));
     QVERIFY(QFile::exists(program.filePath(u"tags.dat"_s)));
 
-    // Whoever wants it can have it, and what isn't the program's goes with the one question.
+    // After both questions are answered with Yes the file is deleted. Files that the program doesn't need take only
+    // one.
     bench.expectYesNo(deleteQuestion, Answer::Yes);
     bench.expectYesNo(u"Zephira itself needs: tags.dat\r\nDelete it all the same?"_s, Answer::Yes);
     commands.deleteFiles();
@@ -409,7 +410,7 @@ void TstLocalCommands::programDataIsNamed()
     commands.deleteFiles();
     QVERIFY(!QFile::exists(program.filePath(u"Logon/tags.dat"_s)));
 
-    // Also through a link to the folder.
+    // The same through a link to the folder.
     QVERIFY(QFile::link(program.filePath(u"deps"_s), bench.folder.filePath(u"link"_s)));
     bench.view.path = bench.folder.filePath(u"link"_s);
     bench.view.names = QStringList{u"csssel.dat"_s};

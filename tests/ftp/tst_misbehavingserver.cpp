@@ -17,14 +17,14 @@ using Handlers = std::map<QByteArray, ScriptedServer::Handler>;
 
 const auto host = u"127.0.0.1"_s;
 
-/// Short, so that the tests need not wait long for a server that says nothing, but long enough for one that answers, also
+/// Short, so that the tests don't wait long for a server that stays silent, but long enough for one that answers, even
 /// on a busy machine.
 constexpr auto shortLimit = 1s;
 
 /// For tests in which nothing has to arrive in time.
 constexpr auto briefLimit = 200ms;
 
-/// What no test takes, however busy the machine: everything above would be a wait without a limit.
+/// No test takes this many milliseconds, however busy the machine: anything longer would be a wait without a limit.
 constexpr qint64 endOfPatience = 25'000;
 
 /// A way to misbehave in place of a reply.
@@ -62,7 +62,7 @@ ScriptedServer::Handler doing(void (*act)(Session &session))
 
 } // namespace
 
-/// Servers that stall, drop, lie and worse. Nothing may hang, crash or claim success.
+/// Servers that stall, drop connections, lie and worse. Nothing may hang, crash or report success.
 class TstMisbehavingServer final : public QObject
 {
     Q_OBJECT
@@ -184,7 +184,7 @@ private Q_SLOTS:
                 QVERIFY(!client.operations.FtpDeleteFileA(client.connection, u"/a.htm"_s));
             else
                 QVERIFY(!client.operations.FtpRenameFileA(client.connection, u"/a.htm"_s, u"/b.htm"_s));
-            // The connection is lost, and doesn't come back behind the caller's back.
+            // The connection is lost and isn't silently restored.
             QVERIFY(!client.operations.FtpCreateDirectoryA(client.connection, u"/sub"_s));
             QCOMPARE(client.list(u"/*.*"_s), QStringList());
         }
@@ -246,7 +246,7 @@ private Q_SLOTS:
             bool ok = true;
             const QByteArray got = client.get(u"/a.htm"_s, ok);
             QVERIFY(!ok);
-            // A reset may overtake what was sent before it.
+            // A reset may overtake data that was sent before it.
             QVERIFY(QByteArray(3000, 'x').startsWith(got));
         }
         QVERIFY(timer.elapsed() < endOfPatience);
@@ -324,7 +324,7 @@ private Q_SLOTS:
         {
             NetClient client(shortLimit);
             QVERIFY(client.connectTo(host, server.port()));
-            // More than the system would hold back for a server that doesn't read.
+            // More than the system buffers for a server that doesn't read.
             QVERIFY(!client.put(u"/a.htm"_s, QByteArray(30'000'000, 'x')));
         }
         QVERIFY(timer.elapsed() < endOfPatience);
@@ -345,7 +345,7 @@ private Q_SLOTS:
 
     void slowServerIsNoFailure()
     {
-        // All of it takes longer than the limit, but no wait for a part does.
+        // The whole transfer takes longer than the limit, but no single wait does.
         const ScriptedServer server({{"STOR", [](Session &session, const QByteArray &) {
                                           session.reply("150 Send");
                                           while (session.receivePiece(50'000) > 0)
@@ -384,7 +384,7 @@ private Q_SLOTS:
 
     void passiveAddressIsTheServersOwn()
     {
-        // The address in the reply belongs to a network that leads nowhere.
+        // The address in the reply belongs to an unreachable network.
         ScriptedServer server(
             {{"EPSV", replying("500 What?")}, {"PASV", [](Session &session, const QByteArray &) {
                                                    const quint16 port = session.openDataPort();
@@ -397,7 +397,7 @@ private Q_SLOTS:
             QCOMPARE(client.list(u"/*.*"_s), QStringList{u"file 5 a.htm"_s});
             QCOMPARE(client.list(u"/*.*"_s), QStringList{u"file 5 a.htm"_s});
         }
-        // What the server doesn't know isn't asked twice.
+        // A command that the server doesn't know isn't sent twice.
         QCOMPARE(verbs(server.commands()), "USER PASS TYPE PWD FEAT CWD EPSV PASV LIST CWD PASV LIST QUIT"_ba);
     }
 

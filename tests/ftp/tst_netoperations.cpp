@@ -14,7 +14,7 @@ using namespace zephira;
 
 namespace {
 
-/// Bytes in which no block is like another one.
+/// Bytes in which no two blocks are equal.
 QByteArray contentOf(qsizetype size)
 {
     QByteArray content(size, Qt::Uninitialized);
@@ -134,7 +134,7 @@ private Q_SLOTS:
             QVERIFY(client.get(path.arg(i), ok) == contentOf(i * 100));
             QVERIFY(ok);
         }
-        // What was announced doesn't come: everything else goes on as ever, also when the announced file is none.
+        // The announced file isn't opened: everything else works as always, even if no such file exists.
         QCOMPARE(client.list(server.folder() + u"row*.bin"_s).size(), count);
         QVERIFY(client.get(path.arg(1), ok) == contentOf(100));
         QCOMPARE(client.get(path.arg(count), ok), QByteArray());
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         NetClient client;
         const FtpServer &server = connected(client);
-        // The folder bears the name as well.
+        // The folder has the same name.
         const QString folder = server.folder() + name;
         const QString path = folder + u'/' + name;
         QVERIFY(client.operations.FtpCreateDirectoryA(client.connection, folder));
@@ -270,7 +270,7 @@ private Q_SLOTS:
             QVERIFY(!client.operations.FtpDeleteFileA(client.connection, path));
             QVERIFY(!client.operations.FtpRenameFileA(client.connection, path, server.folder() + u"b"_s));
         }
-        // The connection is as good as before.
+        // The connection still works.
         QVERIFY(client.put(server.folder() + u"after.htm"_s, "hello"));
     }
 
@@ -293,7 +293,7 @@ private Q_SLOTS:
         QVERIFY(client.operations.InternetReadFile(file, block, NetClient::block, count));
         QCOMPARE(QByteArray(block, count), content.first(1024));
         QVERIFY(!client.operations.InternetWriteFile(file, block, NetClient::block, count));
-        // Closed long before its end, it leaves the connection usable.
+        // A file that is closed long before its end leaves the connection usable.
         QVERIFY(client.operations.InternetCloseHandle(file));
         QVERIFY(!client.operations.InternetReadFile(file, block, NetClient::block, count));
         QCOMPARE(count, 0U);
@@ -334,7 +334,7 @@ private Q_SLOTS:
         QVERIFY(!operations.InternetReadFile(find, block, NetClient::block, count));
         QVERIFY(!operations.FtpDeleteFileA(file, server.folder() + u"a.htm"_s));
 
-        // What belongs to a handle goes with it, and no number comes again.
+        // Closing a handle closes those that belong to it, and no number is used again.
         QVERIFY(operations.InternetCloseHandle(client.open));
         QVERIFY(!operations.InternetFindNextFileA(find, entry));
         QVERIFY(!operations.InternetReadFile(file, block, NetClient::block, count));
@@ -422,7 +422,7 @@ private:
         });
     }
 
-    /// Connects to the row's server in the row's mode. What follows fails if that doesn't work.
+    /// Connects to the row's server in the row's mode. If that fails, so does the rest of the test.
     const FtpServer &connected(NetClient &client) const
     {
         QFETCH(int, server);

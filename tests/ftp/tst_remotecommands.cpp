@@ -128,7 +128,7 @@ void TstRemoteCommands::notConnected()
     constexpr Run runs[] = {&RemoteCommands::list,      &RemoteCommands::refresh,      &RemoteCommands::download,
                             &RemoteCommands::newFolder, &RemoteCommands::removeFolder, &RemoteCommands::deleteFiles,
                             &RemoteCommands::rename,    &RemoteCommands::patternAll};
-    // Either handle alone is no connection.
+    // One of the two handles alone doesn't count as a connection.
     for (const InternetHandle open : {0u, 5u}) {
         Bench bench;
         bench.enterPub();
@@ -590,7 +590,7 @@ void TstRemoteCommands::patterns()
     bench.commands.patternAll();
     QVERIFY(bench.view.allFiles);
     QCOMPARE(bench.operations.log, refreshCalls());
-    // Without a selected folder the search path changes, and that is all.
+    // Without a selected folder only the search path changes.
     bench.view.selection.reset();
     bench.operations.log.clear();
     bench.client.session.ftpSearchPath = u"/home/me/*.*"_s;

@@ -14,7 +14,7 @@ const auto host = u"127.0.0.1"_s;
 
 } // namespace
 
-/// Names of users, passwords and files, byte for byte as they go to a server and come from it.
+/// User names, passwords and file names, byte for byte as they are sent to a server and received from it.
 class TstSentNames final : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private Q_SLOTS:
         QTest::newRow("right to left") << u"\u05d0\u05d1"_s << "\xd7\x90\xd7\x91"_ba;
         QTest::newRow("blanks") << u" a  b "_s << " a  b "_ba;
         QTest::newRow("signs") << u"a\"b'%41;#?*"_s << "a\"b'%41;#?*"_ba;
-        // As the single byte of Latin-1 it would begin a command of Telnet, on which the protocol stands.
+        // As the single byte of Latin-1 it would begin a Telnet command, because FTP is based on Telnet.
         QTest::newRow("y with two dots") << u"\u00ff"_s << "\xc3\xbf"_ba;
     }
 
@@ -87,7 +87,7 @@ private Q_SLOTS:
     void listedNames_data()
     {
         texts_data();
-        // Bytes that are no UTF-8 are an older encoding's, and go back as they came.
+        // Bytes that aren't UTF-8 are in an older encoding, and are sent back unchanged.
         QTest::newRow("Windows-1252") << u"caf\u00e9 \u20ac"_s << "caf\xe9 \x80"_ba;
     }
 

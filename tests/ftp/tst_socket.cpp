@@ -17,7 +17,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Long enough for a busy machine; nothing here waits so long when all is well.
+/// Long enough for a busy machine; a passing test never waits this long.
 const Deadline patience(60s);
 
 SocketAddress numeric(const QString &host, quint16 port = 0)
@@ -74,7 +74,7 @@ private Q_SLOTS:
         Socket client = Socket::connectedTo(listener.localAddress(), patience);
         Socket server = listener.accept(client.localAddress(), patience);
         char buffer[16];
-        // Much later than the moment in which the receiver doesn't sleep yet.
+        // Much later than the short time before the receiver goes to sleep.
         std::thread sender([&client] {
             std::this_thread::sleep_for(50ms);
             client.send("hello", 60s);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         for (const auto waiting : {Socket::Waiting::Asleep, Socket::Waiting::AwakeAtFirst})
             QCOMPARE(client.receive(buffer, sizeof(buffer), Deadline(10ms), waiting), -1);
         QVERIFY(!client.waitForInput(Deadline(0ms)));
-        // Nobody takes it out of the connection's buffers.
+        // Nobody reads it from the connection's buffers.
         QVERIFY(!client.send(QByteArray(100'000'000, 'x'), 10ms));
     }
 

@@ -40,14 +40,14 @@ struct KeptDisplay final : TransferDisplay {
     void showAll() override {}
 };
 
-/// The time of day that the log of RecordingDesk tells.
+/// The time of day in the log of RecordingDesk.
 QString noted()
 {
     return timeOfDay(QDateTime(QDate(2001, 3, 5), QTime(9, 7)));
 }
 
-/// A run in a temporary folder against operations that keep their calls. Ten milliseconds pass between any two looks at
-/// the clock.
+/// A run in a temporary folder with operations that record their calls. Each reading of the clock advances it by ten
+/// milliseconds.
 struct Run {
     QTemporaryDir folder;
     ScriptedPrompts prompts;
@@ -95,7 +95,7 @@ QByteArray sample(qsizetype size)
 
 } // namespace
 
-/// Downloads and uploads against operations that keep their calls, and a folder on the disk.
+/// Downloads and uploads with operations that record their calls and a folder on the disk.
 class TstTransferEngine : public QObject
 {
     Q_OBJECT
@@ -250,7 +250,7 @@ void TstTransferEngine::everyFileButTheLastAnnouncesAnother()
     run.prompts.expectTell(u"Data transfer completed."_s);
     run.prompts.expectTell(u"Data transfer completed."_s);
     run.move(direction, {{u"a"_s, 1}, {u"b"_s, 1}, {u"c"_s, 1}});
-    // A run of one file, behind another one too, announces nothing.
+    // A run of one file announces nothing, even if it follows another run.
     run.move(direction, {{u"a"_s, 1}});
     const QString opened = u"FtpOpenFileA(2, \"/pub/%1\", %2, 2, 0)"_s;
     QCOMPARE(run.operations.announcedBehind, (QStringList{opened.arg(u"a", access), opened.arg(u"b", access)}));
@@ -293,7 +293,7 @@ void TstTransferEngine::refusedUploadEndsTheQueue()
         u"\r\n%1 > Cant create requested file on server! request canceled!\r\n"_s.arg(noted())));
 }
 
-/// The connection breaks while a file comes down: what has come is kept, and nothing is said of it.
+/// The connection breaks during a download: what has been received is kept, and no error is reported.
 void TstTransferEngine::failedReadEndsTheFile()
 {
     Run run;

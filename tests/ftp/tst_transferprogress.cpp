@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 using zephira::TransferProgress;
 
-/// What the labels say after each block.
+/// The texts of the labels after each block.
 class TstTransferProgress : public QObject
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ void TstTransferProgress::rateIsAveragedWithTheValueBefore()
     progress.endFile();
     progress.beginFile();
     progress.addBlock(1024, 1000);
-    // The rate goes on with the next file: (1.024 / 1 + 1.536) / 2.
+    // The rate continues with the next file: (1.024 / 1 + 1.536) / 2.
     QCOMPARE(progress.rateText(), u"1.28 Kbps"_s);
 }
 

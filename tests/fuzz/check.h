@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-/// Tells the fuzzer that the input it has just tried broke a promise.
+/// Ends the process, as a failure for the current input, if the condition is false.
 inline void check(bool holds)
 {
     if (!holds)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pages of any kind: the formatter gives what the one written plainly gives.
+// Arbitrary pages: the formatter gives the same result as the straightforward implementation.
 #include "tools/plainformatter.h"
 #include "tools/sourceformatter.h"
 
@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     if (TrimAroundTags(text) != plainTrimAroundTags(text) || Compact(text) != plainCompact(text)
         || Simple(text) != plainSimple(text))
         std::abort();
-    // Written plainly, the levels of a long text take more time than a fuzzer gives.
+    // For a long text the straightforward implementation takes more time than the fuzzer allows.
     if (size < 20000 && Hierarchical(text) != plainHierarchical(text))
         std::abort();
     return 0;

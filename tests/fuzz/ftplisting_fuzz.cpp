@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What servers send: reading never fails, and no name gets through that could do harm as a file's.
+// Listings of servers: reading never fails, and no name gets through that would be harmful as a file name.
 #include "ftp/folderlisting.h"
 #include "ftp/ftpreply.h"
 #include "ftp/remotename.h"
@@ -21,7 +21,7 @@ void check(const std::vector<zephira::ListedEntry> &entries)
         if (!zephira::isSafeRemoteName(QByteArrayView(entry.name)) || names.contains(entry.name))
             std::abort();
         names.insert(entry.name);
-        // What is shown for a name is what it is asked for by.
+        // A name that was shown is sent back to the server as the bytes that came from it.
         if (shown.sent(u"/a/"_s + shown.shown(u"/a/"_s, entry.name)) != "/a/" + entry.name)
             std::abort();
     }

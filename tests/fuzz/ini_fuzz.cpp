@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Private profiles that others wrote: reading never fails, and a written value reads back while all other bytes stay.
+// Arbitrary private profiles: reading never fails, and a written value reads back while all other bytes stay unchanged.
 #include "files/privateprofile.h"
 
 #include <cstdlib>

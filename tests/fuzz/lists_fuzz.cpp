@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The lists of the side pane in files that anybody wrote: each line is read once, trees hang together, and an entry that
-// is added to a custom tab is read again as it was.
+// Arbitrary files of the side pane's lists: each line is read once, trees are connected, and an entry that is added to
+// a custom tab reads back unchanged.
 #include "files/textfile.h"
 #include "files/textlines.h"
 #include "fuzz/check.h"
@@ -41,7 +41,7 @@ void checkCustomTab(const QString &text, const QStringList &lines)
     check(tab.entries.size() <= static_cast<std::size_t>(lines.size()));
     const CustomTabFile::Entry entry{u"title, too"_s, u"<b>"_s};
     const CustomTabFile longer = parseCustomTab(textLines(text + customTabEntry(entry.title, entry.code)));
-    // A title without its code takes the title line that follows for it; the code is then an entry of its own.
+    // A title without code takes the next title line as its code; the code after that is then an entry of its own.
     check(longer.entries.back() == entry || longer.entries.back() == CustomTabFile::Entry{entry.code, entry.code});
 }
 

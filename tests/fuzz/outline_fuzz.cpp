@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pages of any kind: the outline is that of the scan written plainly, leaf by leaf and error by error.
+// Arbitrary pages: the outline equals that of the straightforward scan, leaf by leaf and error by error.
 #include "core/errorstyles.h"
 #include "panes/plainoutline.h"
 

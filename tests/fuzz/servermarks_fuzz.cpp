@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The designer's way with pages that anybody wrote: pieces without a gap, server code that comes back to the letter, and
-// no harm from whatever the engine may make of a page.
+// Arbitrary pages in the designer: the pieces have no gaps, server code comes back unchanged, and nothing that the
+// engine may do to a page causes harm.
 #include "files/textfile.h"
 #include "fuzz/check.h"
 #include "web/designer/pageroundtrip.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any text in any language from any state: every byte gets a style, nothing beyond them is touched, and styling in two
-// parts gives what styling in one gives.
+// Any text in any language from any state: every byte gets a style, nothing beyond them is written, and styling in two
+// parts gives the same as styling in one.
 #include "syntax/languageregistry.h"
 #include "syntax/syntaxengine.h"
 
@@ -14,7 +14,7 @@ using namespace zephira;
 
 namespace {
 
-/// Keeps the state of one line start.
+/// Records the state at one line start.
 class OneLine final : public LineStateSink
 {
 public:

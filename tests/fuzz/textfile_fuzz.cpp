@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files of any kind: decoding gives valid UTF-8, and encoding gives the same bytes back.
+// Arbitrary files: decoding gives valid UTF-8, and encoding restores the same bytes.
 #include "files/textfile.h"
 #include "files/utf8.h"
 

@@ -12,7 +12,7 @@ namespace zephira {
 
 namespace {
 
-/// A folder of the sources, and those below it, divided by blanks.
+/// A folder of the sources, and those that it may include, separated by blanks.
 struct FolderRow {
     const char16_t *folder;
     const char16_t *below;
@@ -20,14 +20,15 @@ struct FolderRow {
 
 /// A pattern that only some folders or files may use.
 struct Rule {
-    /// Matched against what stands behind #include, or against the code.
+    /// Matched against the name after #include, or against the code.
     const char16_t *pattern;
-    /// Paths that begin so may use it; divided by blanks.
+    /// Beginnings of the paths that may use it, separated by blanks.
     const char16_t *allowed;
     const char16_t *sentence;
 };
 
-/// Which folders a folder may include, itself apart. Each stands below the rows that name it, so that there is no circle.
+/// The folders that a folder may include besides itself. Each row names only folders of earlier rows, so there is no
+/// circle.
 constexpr FolderRow folderRows[] = {
     {u"core", u""},
     {u"files", u"core"},
@@ -61,11 +62,12 @@ constexpr Rule includeRules[] = {
 constexpr Rule codeRules[] = {
     {uR"(\bQ(MessageBox|InputDialog|FileDialog|ColorDialog|FontDialog)\b)", u"desktop/",
      u"only desktop uses the dialog classes"},
-    // Programs, event loops, menus and drags have an exec() of their own, which is no dialog's.
+    // Applications, event loops, menus and drags also have an exec(), which is allowed.
     {uR"((?<!application)(?<!loop)(?<!menu)(?<!drag)(?:\.|->|::|\b(?<!\.)(?<!->)(?<!::))exec\s*\()", u"desktop/",
      u"only the form opener runs a dialog"},
-    // The program makes the one store. The transfer sends files of any size block by block, where the store takes them
-    // whole, and the designer reads what is compiled into it. Names, dates and folders are anybody's.
+    // app/program.cpp creates the only store. The transfer sends files of any size in blocks, while the store handles
+    // whole files, and the designer reads resources that are compiled into it. Names, dates and folders may be used
+    // anywhere.
     {uR"((?<!include <)\b(QFile|QSaveFile|QTemporaryFile|DiskFileStore)\b(?!\s*::)|(?<![:\w])::open\s*\(|\bfopen\s*\(|\bi?o?fstream\b)",
      u"files/ app/program.cpp ftp/transferengine. web/designer/designerpage.cpp", u"only files opens files"},
 };
@@ -99,7 +101,7 @@ QString folderOf(const QString &path)
     return path.section(u'/', 0, 0);
 }
 
-/// The blank-divided words of each call or variable that matches.
+/// The source files in each matching call or variable.
 QStringList listedSources(const QString &cmake)
 {
     static const QRegularExpression lists(
@@ -214,7 +216,7 @@ QStringList linkViolations(const QString &path, const QString &cmake)
 {
     static const QRegularExpression logic(uR"(zephira_logic\(\s*(\w+)\s([^)]*)\))"_s);
     static const QRegularExpression blanks(uR"(\s+)"_s);
-    // The modules that wait for a connection or a page are logic on a library of the system.
+    // The modules that wait for a connection or a page are logic that also links a system library.
     static const QRegularExpression allowed(u"^(core|\\w+_logic|Threads::Threads|CURL::libcurl)$"_s);
     QStringList result;
     for (const QRegularExpressionMatch &match : logic.globalMatch(cmake)) {
@@ -235,7 +237,8 @@ QStringList violations(const QString &path, const QString &text, const Layers &l
 
 QString codeOf(const QString &text)
 {
-    // Raw strings come before plain ones, and literals before comments: the first that matches at a place wins.
+    // Raw strings come before plain ones, and literals before comments, because the first alternative that matches
+    // wins.
     static const QRegularExpression noCode(
         uR"re(R"(\w*)\((?:.|\n)*?\)\1"|"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])+'|//[^\n]*|/\*(?:.|\n)*?\*/)re"_s);
     QString code;

@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// What a source is judged by, read from the tree once. All paths are relative to src/.
+/// Facts about the source tree that the rules need, read once. All paths are relative to src/.
 struct Layers {
     /// Sources and headers of the targets that link Qt6::Core alone.
     QSet<QString> logicFiles;
@@ -21,18 +21,18 @@ Layers readLayers(const QString &sourceFolder);
 /// Where a source breaks a rule: one sentence each, with the 1-based number of the first line concerned.
 QStringList violations(const QString &path, const QString &text, const Layers &layers);
 
-/// The folders below src/, each behind those that it may include.
+/// The folders below src/, each after those that it may include.
 QStringList folders();
 
-/// The folders that one may include, itself apart.
+/// The folders that `folder` may include besides itself.
 QStringList foldersBelow(const QString &folder);
 
 bool mayInclude(const QString &folder, const QString &other);
 
-/// Where a CMake file links a library of logic to what logic does without, as violations() tells it.
+/// Where a CMake file links a logic library to a library that logic must not use, in the form of violations().
 QStringList linkViolations(const QString &path, const QString &cmake);
 
-/// The source without comments and without what stands in string and character literals; line ends are kept.
+/// The source without comments and without string and character literals; line ends are kept.
 QString codeOf(const QString &text);
 
 constexpr int maximumLines = 1000;

@@ -18,7 +18,7 @@ constexpr auto licence = "// SPDX-License-Identifier: GPL-3.0-or-later\n"_L1;
 
 } // namespace
 
-/// The rules of the house, over every source, and over small examples that break them.
+/// The rules for the sources, checked on every source, and on small examples that break them.
 class TstLayers final : public QObject
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ private Q_SLOTS:
         const QStringList all = folders();
         for (const QString &folder : all)
             QVERIFY2(tests.exists(folder + u"/CMakeLists.txt"_s), qPrintable(folder + u" has no tests"_s));
-        // What is tested there is no folder of the sources.
+        // These folders have no counterpart in the sources.
         static const QRegularExpression others(u"^(data|e2e|forms|fuzz|layers|probes|scripts|support)$"_s);
         QDirIterator files(tests.path(), {u"CMakeLists.txt"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {

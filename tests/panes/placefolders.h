@@ -7,11 +7,12 @@
 
 namespace zephira {
 
-/// How long a test waits for a change on disk to be noticed, in milliseconds: it may run beside many others.
+/// How long a test waits for a change on disk to be noticed, in milliseconds. It is long, because many tests may run at
+/// once.
 constexpr int patience = 60000;
 
-/// A home folder of the test's own for as long as it lives, with "Desktop" and "Documents" in it, and files and folders
-/// that the test makes.
+/// During its lifetime a temporary home folder, with "Desktop" and "Documents" in it, and files and folders that the
+/// test creates.
 class PlaceFolders
 {
 public:

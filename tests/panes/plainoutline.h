@@ -10,7 +10,7 @@
 
 namespace zephira {
 
-// The outline's scan once more, step by step and without a thought for speed: what the real one is measured by.
+// A straightforward implementation of the outline's scan without regard to speed, as a reference for the real one.
 
 inline QString plainTagAttribute(const QString &attributeName, const QString &innerText)
 {

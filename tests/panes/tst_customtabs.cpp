@@ -28,7 +28,7 @@ InputRequest askForTitle(const QString &code)
     return {u"What is the title you wish to give to this entry?"_s, u"Add Entry - Title"_s, code};
 }
 
-/// Six tabs over files in memory; the first is css.txt, the second b.txt.
+/// Six tabs with files in memory; the first is css.txt, the second b.txt.
 struct CustomTabsBench {
     CustomTabsBench()
     {
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(bench.tabs.list(2), &key);
         QVERIFY(bench.menu.isVisible());
         bench.menu.close();
-        // The mouse has the button's release for it.
+        // With the mouse the menu opens when the button is released.
         QContextMenuEvent mouse(QContextMenuEvent::Mouse, QPoint(), QPoint());
         QCoreApplication::sendEvent(bench.tabs.list(2)->viewport(), &mouse);
         QVERIFY(!bench.menu.isVisible());

@@ -33,7 +33,7 @@ struct Bench {
 
     QStringList listed() const { return list.names(); }
     QString path() { return pane.fileList().path(); }
-    /// The user chooses a row of the drives.
+    /// Chooses a drive as the user does.
     void chooseDrive(const QString &drive) const
     {
         drives.setCurrentText(drive);
@@ -91,7 +91,7 @@ private Q_SLOTS:
         bench.tree.setCurrentItem(bench.tree.topLevelItem(1));
         QCOMPARE(bench.path(), bench.places.path(u"Documents"_s) + u'/');
         QCOMPARE(bench.listed(), QStringList{u"m.txt"_s});
-        // "My Computer" leaves the list showing the files of the previous path.
+        // With "My Computer" the list still shows the files of the previous path.
         bench.places.makeFile(u"Documents/n.txt"_s);
         bench.tree.setCurrentItem(bench.tree.topLevelItem(3));
         QCOMPARE(bench.path(), bench.places.path(u"Documents"_s) + u'/');
@@ -271,7 +271,8 @@ private Q_SLOTS:
         QCOMPARE(bench.pane.selectedFile(), u"c.txt"_s);
     }
 
-    /// The list isn't redrawn for a new pattern until the next folder change, not even when the folder changes on disk.
+    /// A new pattern takes effect when another folder is chosen, and not even a change of the folder on disk shows it
+    /// earlier.
     void aNewPatternWaitsForTheNextFolder()
     {
         Bench bench(u"*.txt"_s);

@@ -76,7 +76,7 @@ private Q_SLOTS:
         m_places->makeFolder(u"root/a/c"_s);
         QTRY_COMPARE_WITH_TIMEOUT(tree.selectedFolder(), m_places->path(u"root/a"_s), patience);
         QCOMPARE(selected.last(), QVariantList{m_places->path(u"root/a"_s)});
-        // Whoever has gone elsewhere meanwhile stays there.
+        // If the user has selected another folder meanwhile, that stays selected.
         QVERIFY(QDir(m_places->path(u"root/a"_s)).removeRecursively());
         QTRY_COMPARE_WITH_TIMEOUT(tree.selectedFolder(), m_places->path(u"root"_s), patience);
         m_places->makeFolder(u"root/z"_s);
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QCOMPARE(childrenOf(tree.currentItem()->parent()->parent()), (QStringList{u"b"_s, u"bb"_s}));
         tree.setSelectedFolder(m_places->path(u"a/bb/"_s));
         QCOMPARE(tree.selectedFolder(), m_places->path(u"a/bb"_s));
-        QCOMPARE(selected.size(), 0); // Only the user is told of.
+        QCOMPARE(selected.size(), 0); // Only selections by the user are reported.
         tree.setCurrentItem(tree.currentItem()->parent());
         QCOMPARE(selected.size(), 1);
         QCOMPARE(selected[0][0].toString(), m_places->path(u"a"_s));
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(childrenOf(rootItem(tree)), QStringList{u"z"_s});
         tree.setSelectedFolder(m_places->path(u"root/.hidden/inner"_s));
         QCOMPARE(tree.selectedFolder(), m_places->path(u"root/.hidden/inner"_s));
-        // It stays when its folder changes.
+        // It stays selected when its parent folder changes.
         m_places->makeFolder(u"root/a"_s);
         QTRY_COMPARE_WITH_TIMEOUT(childrenOf(rootItem(tree)), (QStringList{u".hidden"_s, u"a"_s, u"z"_s}), patience);
         QCOMPARE(tree.selectedFolder(), m_places->path(u"root/.hidden/inner"_s));
@@ -265,7 +265,7 @@ private Q_SLOTS:
         const QString deep = m_places->path(u"root"_s) + u"/a/up"_s.repeated(20);
         tree.setSelectedFolder(deep);
         QCOMPARE(tree.selectedFolder(), deep);
-        // A change in the circle reaches each of its items and comes to an end.
+        // A change inside the circle updates each of its items, and the update terminates.
         m_places->makeFolder(u"root/a/b"_s);
         QTRY_COMPARE_WITH_TIMEOUT(childrenOf(child(rootItem(tree), u"a"_s)), (QStringList{u"b"_s, u"up"_s}), patience);
         QCOMPARE(tree.selectedFolder(), deep);

@@ -12,7 +12,8 @@ class TstObjectBrowserLayout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// In twips: the tree at 30, 30, as wide as the form less 1450, as high less 50; the buttons 120 behind it.
+    /// In twips: the tree is at 30, 30, its width is that of the form minus 1450, its height that of the form minus 50;
+    /// the buttons are 120 to the right of it.
     void places_data()
     {
         QTest::addColumn<QSize>("form");

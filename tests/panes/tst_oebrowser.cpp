@@ -132,7 +132,7 @@ private Q_SLOTS:
         QVERIFY(!browser.form.isOpen());
     }
 
-    /// Deeper than any tree that people make, so that nothing that walks it may count on a small depth.
+    /// Deeper than any tree that people write, to prove that no code that walks the tree relies on a small depth.
     void aDeepTree()
     {
         MemoryFileStore files;

@@ -15,8 +15,8 @@ namespace {
 const QString badArgument = u"Invalid procedure call or argument"_s;
 const QString overflow = u"Overflow"_s;
 
-/// A leaf as one line: the key of its group, its caption, and its tag text where that isn't the inner text of the tag at
-/// its place.
+/// A leaf as one line: the key of its group, its caption, and its tag text if that differs from the inner text of the
+/// tag at its position.
 QString lineOf(const OutlineLeaf &leaf, const QString &text)
 {
     QString line = outlineRoots()[static_cast<size_t>(leaf.group)].key.toString() + u": "_s + leaf.caption;
@@ -29,7 +29,7 @@ QString lineOf(const OutlineLeaf &leaf, const QString &text)
 struct Found {
     QStringList lines;
     std::vector<OutlineLeaf> leaves;
-    /// Description of the error that ended the scan.
+    /// The description of the error that ended the scan.
     QString error;
 };
 

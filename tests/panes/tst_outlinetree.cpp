@@ -17,7 +17,7 @@ using namespace zephira;
 
 namespace {
 
-/// A node and what is below it, indented by two blanks a level: caption, then "(key, picture)", then "+" if it is open.
+/// A node and its descendants, indented by two blanks per level: caption, "(key, picture)", and "+" if it is expanded.
 void describe(const OutlineTree &tree, const QModelIndex &node, int level, QStringList &lines)
 {
     lines.append(QString(2 * level, u' ') + node.data().toString()

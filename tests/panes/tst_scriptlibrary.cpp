@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The library over a folder on the disk, whose files' contents are in memory.
+/// The library with a folder on the disk; the contents of its files are in memory.
 struct LibraryBench {
     LibraryBench()
     {
@@ -123,7 +123,7 @@ private Q_SLOTS:
     {
         LibraryBench bench;
         doubleClickItem(bench.scripts(), u"Имя"_s);
-        QCOMPARE(bench.world.inserter.inserted, QStringList{u"Ïðè"_s}); // No UTF-8, so Windows-1252.
+        QCOMPARE(bench.world.inserter.inserted, QStringList{u"Ïðè"_s}); // Not UTF-8, so it is read as Windows-1252.
     }
 
     void aFileThatIsGoneIsTold()

@@ -17,8 +17,8 @@ using namespace zephira;
 
 namespace {
 
-/// A pane of four tabs: two plain pages, one that is filled before it shows, one that is filled then. What happens is
-/// noted in `log`.
+/// A pane with four tabs: two plain pages, one that is filled before it is shown, and one that is filled afterwards.
+/// The events are recorded in `log`.
 struct Bench {
     ScriptedPrompts prompts;
     SidePane pane{prompts};
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QVERIFY(!bench.plain->isVisible());
         QVERIFY(bench.tree->isVisible());
         bench.clickAt(1);
-        QVERIFY(!bench.tree->isVisible()); // A tab without a page shows none.
+        QVERIFY(!bench.tree->isVisible()); // For a tab without a page no page is shown.
         bench.clickAt(0);
         QVERIFY(bench.plain->isVisible());
     }

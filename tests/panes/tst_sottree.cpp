@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Each node as the captions on the way to it.
+/// The path of each node, made of the captions.
 QStringList paths(const SotTree &tree)
 {
     QStringList result;
@@ -21,7 +21,8 @@ QStringList paths(const SotTree &tree)
     return result;
 }
 
-/// The rule as it is told: a table of last nodes by level, counted from 1, that grows and may have gaps.
+/// A straightforward implementation: a table of the last node of each level, counted from 1, that grows and may have
+/// gaps.
 SotTree plainReading(const QStringList &lines)
 {
     SotTree tree;

@@ -53,7 +53,7 @@ private Q_SLOTS:
         doubleClickItem(tree, u"<% %>"_s);
         QCOMPARE(world.inserter.inserted, QStringList{u"b<% %>"_s});
         doubleClickItem(tree, tree.model()->index(1, 0));
-        QCOMPARE(world.inserter.inserted.size(), 1); // A blank line is nothing to paste.
+        QCOMPARE(world.inserter.inserted.size(), 1); // A blank line isn't pasted.
     }
 
     void aspItemsNeedTheCodeView()
@@ -122,7 +122,7 @@ private Q_SLOTS:
         QVERIFY(world.inserter.inserted.isEmpty());
     }
 
-    /// Text that no screen can show costs no time to paint, and is pasted whole.
+    /// A line much longer than the screen is painted fast, and pasted completely.
     void aLineOfMillions()
     {
         TestContext world;

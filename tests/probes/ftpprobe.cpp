@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // ftpprobe get HOST PORT REMOTE LOCALDIR: stores the server's file REMOTE in LOCALDIR.
 // ftpprobe put HOST PORT LOCAL REMOTE: stores the file LOCAL on the server as REMOTE.
-// ftpprobe list HOST PORT [PATTERN]: prints what the login folder, or a whole search path, holds: kind, size, time and
-// name of each entry. All log in without a name, in passive mode, and print nothing but what was listed.
+// ftpprobe list HOST PORT [PATTERN]: prints kind, size, time and name of each entry of the login folder, or of those
+// that match a search path. All log in anonymously, use passive mode, and print nothing but the listing.
 #include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "ftp/net/netoperations.h"
@@ -38,7 +38,7 @@ int get(InternetOperations &operations, InternetHandle connection, const QString
         operations.FtpOpenFileA(connection, arguments[0], GENERIC_READ, FTP_TRANSFER_TYPE_BINARY, 0);
     if (file == 0)
         return fail(u"the file can't be opened on the server"_s);
-    // In pieces, so that a growing file is never copied.
+    // In pieces, so that no growing buffer is ever copied.
     std::vector<QByteArray> pieces;
     quint32 count = 0;
     bool ok = true;
@@ -93,7 +93,7 @@ int list(InternetOperations &operations, InternetHandle connection, const QStrin
     return 0;
 }
 
-/// What can be asked for, and how many arguments it takes behind the server.
+/// A command, and how many arguments it takes after host and port.
 struct Task {
     const char16_t *name;
     qsizetype fewest;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// parseprobe NAME < input: prints what the parser of that name makes of the input. Without a name it prints all names.
+// parseprobe NAME < input: prints the result of the parser of that name. Without a name it prints all names.
 #include "parsers.h"
 
 #include <QFile>

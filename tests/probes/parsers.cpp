@@ -22,7 +22,7 @@ namespace zephira {
 
 namespace {
 
-/// One line for each value: section, key and value, divided by tabs.
+/// One line for each value: section, key and value, separated by tabs.
 QByteArray printProfile(const QByteArray &input)
 {
     QByteArray out;
@@ -46,7 +46,7 @@ const char *lineEndsName(LineEnds ends)
     return "mixed";
 }
 
-/// A line with encoding, mark and line ends, then the text.
+/// A line with encoding, byte order mark and line ends, then the text.
 QByteArray printTextFile(const QByteArray &input)
 {
     const DecodedText text = decodeText(input);
@@ -59,13 +59,13 @@ QStringList linesOf(const QByteArray &input)
     return textLines(QString::fromUtf8(decodeText(input).utf8));
 }
 
-/// One line for each node of the tag tree that comes from a file.
+/// One line for each node of the tag tree that is read from a file.
 QByteArray printTags(const QByteArray &input)
 {
     return tagCaptions(linesOf(input)).join(u'\n').toUtf8() + '\n';
 }
 
-/// The header, then one line for each entry: title and code, divided by a tab.
+/// The header, then one line for each entry: title and code, separated by a tab.
 QByteArray printCustomTab(const QByteArray &input)
 {
     const CustomTabFile tab = parseCustomTab(linesOf(input));
@@ -75,8 +75,8 @@ QByteArray printCustomTab(const QByteArray &input)
     return out;
 }
 
-/// One line for each node: the line of its parent, counted from 1, or 0, and the caption, divided by a tab. Behind them
-/// the line that is indented too far, if there is one.
+/// One line for each node: the line number of its parent, from 1, or 0, and the caption, separated by a tab. After them
+/// the line number that is indented too far, if there is one.
 QByteArray printSotTree(const QByteArray &input)
 {
     const SotTree tree = parseSotTree(linesOf(input));
@@ -88,7 +88,7 @@ QByteArray printSotTree(const QByteArray &input)
     return out;
 }
 
-/// The runs of colours in a language.
+/// The style runs of a text in a language.
 template<const char16_t *language>
 QByteArray printStyles(const QByteArray &input)
 {
@@ -109,8 +109,8 @@ QByteArray escaped(QString text)
     return text.replace(u'\t', QStringLiteral("\\t")).toUtf8();
 }
 
-/// One line for each leaf: key of its group, index of its `<`, caption and tag text, divided by tabs. An error stands
-/// behind the leaves before it.
+/// One line for each leaf: key of its group, index of its `<`, caption and tag text, separated by tabs. An error
+/// follows the leaves found before it.
 QByteArray printOutline(const QByteArray &input)
 {
     QByteArray out;
@@ -141,20 +141,20 @@ QByteArray printHierarchical(const QByteArray &input)
     }
 }
 
-/// The page with marks in the place of server code and comments.
+/// The page with marks instead of server code and comments.
 QByteArray printServerMarks(const QByteArray &input)
 {
     return ServerMarks(QStringLiteral("mark")).mask(textOf(input)).toUtf8();
 }
 
-/// What the designer makes of a page if its engine gives it back as it was.
+/// The text that the designer returns for a page if its engine returns the page unchanged.
 QByteArray printDesignerText(const QByteArray &input)
 {
     const PageRoundTrip page(textOf(input), QStringLiteral("mark"));
     return page.fromEngine(page.forEngine()).toUtf8();
 }
 
-/// One line for each entry of a server's folder: kind, size, time and name, divided by tabs.
+/// One line for each entry of a server's folder: kind, size, time and name, separated by tabs.
 QByteArray printEntries(const std::vector<ListedEntry> &entries)
 {
     QByteArray out;
@@ -166,7 +166,7 @@ QByteArray printEntries(const std::vector<ListedEntry> &entries)
     return out;
 }
 
-/// The same bytes give the same result on every day.
+/// The date is fixed, so that the same bytes always give the same result.
 QByteArray printList(const QByteArray &input)
 {
     return printEntries(readList(input, QDate(2024, 3, 10)));
@@ -177,7 +177,7 @@ QByteArray printMlsd(const QByteArray &input)
     return printEntries(readMlsd(input));
 }
 
-/// The code of a reply to a command, and what the replies to some commands tell.
+/// The code of a reply to a command, and the values that replies to some commands contain.
 QByteArray printReply(const QByteArray &input)
 {
     FtpReplyReader reader;
@@ -192,7 +192,7 @@ QByteArray printReply(const QByteArray &input)
         + QByteArray::number(passivePort(reply).value_or(0)) + '\t' + quotedFolder(reply).value_or(QByteArray()) + '\n';
 }
 
-/// The character set that a page names, then its text.
+/// The character set that a page declares, then its text.
 QByteArray printWebPage(const QByteArray &input)
 {
     return declaredCharset(input).toUtf8() + '\n' + fetchedText({input, {}}).toUtf8();

@@ -7,13 +7,13 @@
 
 namespace zephira {
 
-/// Something that reads what others wrote, and prints what it made of it.
+/// A parser of foreign data, and a function that prints its result.
 struct Parser {
     const char *name;
     QByteArray (*print)(const QByteArray &input);
 };
 
-/// All of them. A new one is a row here.
+/// All parsers. A new one is a row of this table.
 std::span<const Parser> parsers();
 
 } // namespace zephira

@@ -71,7 +71,7 @@ void TstFrmAbout::creditOpensItsAddress()
     QFETCH(QString, address);
     auto &credit = m_form->get<QLabel>(label);
     credit.setFocus();
-    // The first press of Tab goes to the link, Return follows it.
+    // The first Tab focuses the link, Return follows it.
     QTest::keyClick(&credit, Qt::Key_Tab);
     QTest::keyClick(&credit, Qt::Key_Return);
     QCOMPARE(m_world->shell.opened, QStringList{address});

@@ -33,7 +33,7 @@ private:
     void putTips(const QByteArray &content) { m_world->files.contents[u"/app/TIPOFDAY.TXT"_s] = content; }
     QString shown() const { return m_form->value(u"lblTipText"_s); }
 
-    /// Drawn one after the other.
+    /// The random numbers, used one after the other.
     QList<double> m_random;
     std::unique_ptr<TestContext> m_world;
     std::unique_ptr<LivingForm> m_form;

@@ -22,7 +22,7 @@ QString shipped(const QString &section, const QString &key)
     return ReadIni(section, key, dataFolder + u"zephira.ini"_s);
 }
 
-/// Relative luminance of a colour number, red in the lowest byte.
+/// The relative luminance of a colour number with red in the lowest byte.
 double luminance(int colour)
 {
     const auto channel = [](int value) {
@@ -41,7 +41,7 @@ double contrast(int a, int b)
 
 } // namespace
 
-/// The program doesn't start with an incomplete zephira.ini, so the one that ships is looked at key by key.
+/// The program doesn't start with an incomplete zephira.ini, so the shipped one is checked key by key.
 class TstShippedData : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ void TstShippedData::isTheTableOfSettings()
         else if (!line.isEmpty() && !line.startsWith(u';'))
             found.append(section + u' ' + line);
     }
-    // Within a colour the file puts the foreground first, as one reads it.
+    // For each colour the file lists the foreground first.
     expected.sort();
     found.sort();
     QCOMPARE(found, expected);
@@ -148,7 +148,7 @@ void TstShippedData::textIsReadable()
     const int back = colour(row, u"bg"_s);
     const int ground = back == -1 ? window : back;
     QVERIFY(contrast(colour(row, u"fr"_s), ground) >= enough);
-    // On the highlighted line too, which shows where the row has no background of its own.
+    // Also on the highlighted line, which is visible behind rows without a background of their own.
     if (back == -1)
         QVERIFY(contrast(colour(row, u"fr"_s), colour(4, u"fr"_s)) >= enough);
 }

@@ -78,7 +78,7 @@ void TstFrmSelPrj::open()
     m_form = std::make_unique<LivingForm>(catalogue, u"frmselprj"_s, *m_world);
 }
 
-/// A file on the disk, where the list finds it, and in the file store, where the form reads it.
+/// Adds a file both to the disk, where the list finds it, and to the file store, from which the form reads it.
 void TstFrmSelPrj::addCustom(const QString &name, const QByteArray &content)
 {
     const QString folder = m_folder->filePath(u"templates/custom"_s);

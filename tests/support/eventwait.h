@@ -9,8 +9,8 @@
 
 namespace zephira {
 
-/// Waits until the condition holds; false when the time is over first. The waiting functions of QTest sleep between
-/// events, and the web engine's work comes in so many small pieces that it takes seconds then.
+/// Waits until the condition holds; returns false if it doesn't in time. QTest's own functions sleep between events,
+/// which makes the web engine take seconds, because its work is split into many small events.
 inline bool waitUntil(const std::function<bool()> &condition, int milliseconds)
 {
     const QDeadlineTimer end(milliseconds);

@@ -14,7 +14,7 @@ struct Place {
     int column = 0;
 };
 
-/// Length of the line end at an offset: 2 for CR LF, 1 for CR or LF alone, 0 elsewhere.
+/// Length of the line end at an offset: 2 for CR LF, 1 for CR or LF alone, 0 if there is none.
 int lineEndAt(const QString &text, int offset)
 {
     if (offset >= text.size())
@@ -40,7 +40,7 @@ Place placeOf(const QString &text, int offset)
     return place;
 }
 
-/// Offset of a place; one behind the end of its line or of the text is drawn back to that end.
+/// The offset of a place; one beyond the end of its line or of the text is clamped to that end.
 int offsetOf(const QString &text, Place place)
 {
     int offset = 0;

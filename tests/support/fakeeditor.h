@@ -13,8 +13,8 @@
 
 namespace zephira {
 
-/// The editing control in memory: a text, a selection that has a direction, and settings that are kept. There is no undo
-/// history; what can be undone is what the test says.
+/// An editing control in memory: a text, a selection with a direction, and settings. There is no undo history; the test
+/// says what can be undone.
 class FakeEditor final : public EditingControl
 {
 public:
@@ -41,21 +41,21 @@ public:
     FontChoice font{QStringLiteral("Monospace")};
     std::map<int, quint32> colours;
     std::map<int, int> fontStyles;
-    /// When set, the next openFile() or saveFile() fails so.
+    /// If set, the next openFile() or saveFile() fails with this error.
     std::optional<Error> openError;
     std::optional<Error> saveError;
-    /// Is called after each change of the text, but not by openFile().
+    /// Called after each change of the text, but not by openFile().
     std::function<void()> onChange;
-    /// Numbers given to executeCmd(), in order.
+    /// The commands passed to executeCmd(), in order.
     std::vector<Command> commands;
     /// Names of the operations without arguments, in order: "undo", "redo", "cut", "copy", "paste", "clearSelection",
     /// and "print".
     QStringList calls;
 
-    /// Places the caret, or a selection from `anchor` to `caret`; 0-based offsets into the text.
+    /// Sets the caret, or a selection from `anchor` to `caret`; 0-based offsets into the text.
     void selectOffsets(int anchor, int caret);
     void placeCaret(int offset) { selectOffsets(offset, offset); }
-    /// Selects the first occurrence of `part`; false when there is none.
+    /// Selects the first occurrence of `part`; false if there is none.
     bool selectPart(const QString &part);
     int anchorOffset() const { return m_anchor; }
     int caretOffset() const { return m_caret; }
@@ -115,7 +115,7 @@ private:
     Clipboard *m_clipboard = nullptr;
     FileStore *m_files = nullptr;
     QString m_text;
-    /// What utf8Pieces() gave last.
+    /// The last result of utf8Pieces().
     mutable QByteArray m_utf8;
     int m_anchor = 0;
     int m_caret = 0;

@@ -118,7 +118,7 @@ FileSignature MemoryFileStore::signature(const QString &path) const
     const auto entry = contents.find(path);
     if (entry == contents.end())
         return {};
-    // The content stands for the time of its writing, so that a test which changes `contents` itself is noticed too.
+    // The hash of the content replaces the modification time, so that direct changes of `contents` are noticed, too.
     return {true, 1, 1, entry->second.size(), static_cast<qint64>(qHash(entry->second))};
 }
 

@@ -22,7 +22,7 @@
 
 namespace zephira {
 
-/// The outside world in memory. Each fake keeps what it was asked for and answers as its public members say.
+/// The outside world in memory. Each fake records its calls and answers as its public members say.
 
 struct FakeClipboard final : Clipboard {
     QString content;
@@ -54,10 +54,10 @@ struct FakeDesigner final : Designer {
     QStringList loaded;
     /// Whether loading a file fails.
     bool unreadable = false;
-    /// Commands run, by number; `runs` has them with their arguments.
+    /// The commands that were run, as numbers; `runs` has them with their arguments.
     std::vector<int> commands;
     std::vector<Run> runs;
-    /// Statuses and results; Enabled, and no value, for commands that aren't named.
+    /// Statuses and results; other commands are Enabled and have no result.
     std::map<DesignerCommand, int> statuses;
     std::map<DesignerCommand, QVariant> results;
     QString selected = QStringLiteral("None");
@@ -71,7 +71,7 @@ struct FakeDesigner final : Designer {
     std::function<void()> leaving;
     std::function<void()> processLost;
     QString projectFolder;
-    /// Runs while the text is on its way.
+    /// Called while the text is being transferred.
     std::function<void()> meanwhile;
 
     bool isShowing() const override { return showing; }
@@ -107,7 +107,8 @@ struct FakeDesigner final : Designer {
 };
 
 struct FakeBrowser final : Browser {
-    /// Addresses gone to, and the operations without arguments by name: "back", "forward", "home", "refresh", "stop".
+    /// The addresses that were opened, and the operations without arguments: "back", "forward", "home", "refresh",
+    /// "stop".
     QStringList calls;
     QString location;
     QString home;
@@ -143,10 +144,10 @@ struct FakeShell final : Shell {
 
     QStringList opened;
     std::vector<Start> started;
-    /// Files whose properties were asked for, and how often files were to be looked for.
+    /// The files whose properties were shown, and how often the search for files was opened.
     QStringList properties;
     int searches = 0;
-    /// When set, each operation is kept in the lists and fails so.
+    /// If set, each operation is recorded in the lists and fails with this error.
     std::optional<Error> failure;
 
     Result<void> open(const QString &pathOrUrl) override;
@@ -173,11 +174,11 @@ struct FakeDocumentHost final : DocumentHost {
 };
 
 struct FakeFormOpener final : FormOpener {
-    /// Forms that can't be opened yet; every other name can.
+    /// Forms that can't be opened yet; all others can.
     std::set<QString> unavailable;
     QStringList modal;
     QStringList modeless;
-    /// Is called in place of showing the form.
+    /// Called instead of showing the form.
     std::function<void(const QString &form)> onOpen;
 
     bool isAvailable(const QString &form) const override { return !unavailable.contains(form); }
@@ -212,14 +213,14 @@ struct MemoryFileStore final : FileStore {
     FileSignature signature(const QString &path) const override;
 };
 
-/// Names without regard to case, as in the real store. A value that isn't there reads as "".
+/// Names are case-insensitive, as in the real store. A missing value reads as "".
 struct MemoryConfiguration final : Configuration {
     bool writable = true;
     /// Values written, in order: "[section] key=value".
     QStringList log;
 
     using Configuration::value;
-    /// What is there, by its names.
+    /// A value by its section and key.
     QString value(const QString &section, const QString &key) const { return read(section, key); }
     /// Sets a value before the test, without an entry in the log.
     void put(const QString &section, const QString &key, const QString &value);
@@ -241,7 +242,8 @@ private:
     void write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
 };
 
-/// One of each, and the context made of them. The prompts come first, so that what they find left over is told last.
+/// One of each fake, and the context made of them. The prompts come first, so that they are destroyed last and report
+/// expected questions that were never asked.
 struct TestContext {
     ScriptedPrompts prompts;
     FakeClipboard clipboard;

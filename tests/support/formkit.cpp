@@ -11,7 +11,7 @@ namespace zephira {
 
 namespace {
 
-/// How the value of a class of controls is read and set.
+/// How to read and set the value of a class of controls.
 struct ValueRule {
     bool (*fits)(const QObject *);
     QString (*read)(const QObject *);
@@ -143,7 +143,7 @@ void LivingForm::set(const QString &name, const QString &value) const
 void LivingForm::press(const QString &name) const
 {
     QWidget &control = get<QWidget>(name);
-    // The mark of a check box stands at its left end, where a click counts in every style.
+    // The indicator of a check box is at its left end, where a click works in every style.
     QTest::mouseClick(&control, Qt::LeftButton, {}, isCheckable(&control) ? QPoint(8, control.height() / 2) : QPoint());
 }
 

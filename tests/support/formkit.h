@@ -13,17 +13,17 @@
 
 namespace zephira {
 
-/// Closes any modal window that nobody expected, and fails the test with the window's title and text. Without it a
-/// forgotten message box would stop the test program for good.
+/// Closes any unexpected modal window, and fails the test with the window's title and text. Without it a forgotten
+/// message box would block the test program forever.
 class ModalGuard final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `allowed` may be modal.
+    /// The window `allowed` may be modal.
     explicit ModalGuard(const QWidget *allowed = nullptr);
 
-    /// Takes failures instead of QTest.
+    /// Called on failures instead of QTest.
     std::function<void(const QString &)> onFailure;
 
 private:
@@ -33,8 +33,8 @@ private:
     QTimer m_timer;
 };
 
-/// A form on the screen, driven by the names of its controls as a user would: made from the catalogue, shown, closed at
-/// the end. A name that the form doesn't have ends the test program with a message: no test can go on from there.
+/// A visible form that is driven as by a user, with its controls given by name. It is created from the catalogue,
+/// shown, and closed at the end. A name that the form doesn't have ends the test program with a message.
 class LivingForm final
 {
 public:
@@ -45,7 +45,7 @@ public:
     QWidget &widget() const { return *m_form; }
     bool isOpen() const { return m_form && m_form->isVisible(); }
 
-    /// The control of that name and class.
+    /// The control with that name and class.
     template<typename T = QWidget>
     T &get(const QString &name) const
     {
@@ -55,10 +55,10 @@ public:
         return *control;
     }
 
-    /// What a control holds, as text: of a box its text, of a check box or radio button "on" or "off", of a list its
-    /// current text, of anything else its caption.
+    /// The value of a control as text: the text of a text box, "on" or "off" for a check box or radio button, the
+    /// current text of a list, the caption of anything else.
     QString value(const QString &name) const;
-    /// Gives a control a value in the same form.
+    /// Sets the value of a control, given in the same form.
     void set(const QString &name, const QString &value) const;
     /// Clicks a control with the mouse.
     void press(const QString &name) const;
@@ -66,7 +66,7 @@ public:
     void type(const QString &name, const QString &text) const;
     /// Presses a key in the control that has the focus.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-    /// Name of the control that has the focus; that of a list for its line of text.
+    /// The name of the control that has the focus; for the line edit of a combo box the name of the combo box.
     QString focus() const;
 
 private:

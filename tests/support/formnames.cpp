@@ -20,7 +20,7 @@ namespace zephira {
 
 namespace {
 
-/// The property that a class shows as its caption. A line of text has none: what it holds is a value.
+/// The properties that hold a caption. A line edit has no caption: its text is a value.
 constexpr std::array captionProperties{"text", "title", "windowTitle"};
 
 bool hasCaption(const QString &className)
@@ -46,7 +46,7 @@ QString captionOf(const QObject &object)
     return {};
 }
 
-/// Qt names the parts of its own controls with a prefix of its own.
+/// Qt gives the parts of its own controls names with a common prefix.
 bool isOurs(const QObject &object)
 {
     const QString name = object.objectName();
@@ -55,7 +55,8 @@ bool isOurs(const QObject &object)
     return !name.isEmpty() && !isPart;
 }
 
-/// The form and every widget below it, each once, as the focus chain has them; those of windows of their own last.
+/// The form and every widget below it, each once, in the order of the focus chain; the widgets of separate windows
+/// last.
 QList<QWidget *> chain(const QWidget &form)
 {
     QList<QWidget *> widgets{const_cast<QWidget *>(&form)};
@@ -125,14 +126,14 @@ QList<NamedControl> readUiFile(const QString &path)
         const bool isControl = xml.name() == u"widget" || xml.name() == u"action";
         if (token == QXmlStreamReader::StartElement && isControl) {
             open.append(controls.size());
-            // An action that isn't a widget's child names no class.
+            // An <action> element has no class attribute.
             const QString className = xml.attributes().value(u"class"_s).toString();
             controls.append(
                 {xml.attributes().value(u"name"_s).toString(), className.isEmpty() ? u"QAction"_s : className, {}});
         } else if (token == QXmlStreamReader::EndElement && isControl) {
             open.removeLast();
         } else if (token == QXmlStreamReader::StartElement && xml.name() == u"item") {
-            // What stands in an item (an entry of a list) is no caption; a layout's item holds widgets of its own.
+            // The text of an item, as of a list entry, is no caption; but an item of a layout contains widgets.
             property.clear();
             open.append(-1);
         } else if (token == QXmlStreamReader::EndElement && xml.name() == u"item") {
@@ -194,7 +195,7 @@ QString accessibleNameOf(const QWidget &control)
     if (!caption.isEmpty())
         return caption;
     const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(&control));
-    // A line of text without a label would give its content here, which is no name.
+    // A line edit without a label would report its content, which isn't a name.
     const bool isValue = !hasCaption(QString::fromLatin1(control.metaObject()->className()));
     return interface && !isValue ? interface->text(QAccessible::Name) : QString();
 }

@@ -7,15 +7,15 @@
 
 namespace zephira {
 
-/// A golden case is a folder tests/golden/<area>/<case> with two files. fields.txt says what the user does, one step a
-/// line, and expected.html holds the text that goes into the document, byte for byte:
+/// A golden case is a folder tests/golden/<area>/<case> with two files. fields.txt says what the user does, one step
+/// per line, and expected.html is the text that is inserted into the document, byte for byte:
 ///
 ///     form frmTable
 ///     Text1 = 3
 ///     Check1 = on
 ///     press Command1
 ///
-/// A value is what LivingForm::set() takes. If nothing is inserted, expected.html is empty.
+/// Values have the form that LivingForm::set() takes. If nothing is inserted, expected.html is empty.
 
 /// Adds the column "folder" and a row for each case of an area; fails the test if there is none.
 void addGoldenCases(const QString &area);

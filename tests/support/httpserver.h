@@ -9,8 +9,8 @@
 
 namespace zephira {
 
-/// A web server on a free port of this machine, in a thread of its own, so that a test may wait for it. What isn't named
-/// is answered with 404.
+/// A local web server on a free port, in a thread of its own, so that a test may block while waiting for it. Unknown
+/// paths are answered with 404.
 class HttpServer
 {
 public:
@@ -20,19 +20,19 @@ public:
 
     /// Answers a path with a body; `headers` are whole lines with CR LF.
     void put(const QString &path, const QByteArray &body, const QByteArray &headers = "Content-Type: text/html\r\n");
-    /// Answers a path with these bytes, headers and all, and closes the connection.
+    /// Answers a path with exactly these bytes, including headers, and closes the connection.
     void putRaw(const QString &path, const QByteArray &answer);
-    /// Takes requests of that path and never answers.
+    /// Accepts requests of that path and never answers them.
     void putSilence(const QString &path);
-    /// Hands out the files of a folder as well.
+    /// Also serves the files of a folder.
     void serveFolder(const QString &folder);
 
     QString address(const QString &path) const { return QStringLiteral("http://127.0.0.1:%1%2").arg(m_port).arg(path); }
-    /// The paths that were asked for, in order.
+    /// The requested paths, in order.
     QStringList requests() const;
 
 private:
-    /// Empty where nothing is to be answered.
+    /// Empty if there is to be no answer.
     QByteArray answerTo(const QByteArray &request);
 
     mutable QMutex m_mutex;

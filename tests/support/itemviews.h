@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// Double-clicks an item of a list or tree with the mouse, as a user does after having looked for it.
+/// Double-clicks an item of a list or tree with the mouse, after scrolling to it.
 inline void doubleClickItem(QAbstractItemView &view, const QModelIndex &index)
 {
     QVERIFY(index.isValid());
@@ -16,7 +16,7 @@ inline void doubleClickItem(QAbstractItemView &view, const QModelIndex &index)
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
 }
 
-/// The same with the first top-level item of a text.
+/// The same with the first top-level item with the given text.
 inline void doubleClickItem(QAbstractItemView &view, const QString &text)
 {
     const QModelIndexList found = view.model()->match(view.model()->index(0, 0), Qt::DisplayRole, text, 1,

@@ -9,8 +9,8 @@
 
 namespace zephira {
 
-/// Runs the class named by the first argument, or every class when none is named. Returns the number of failures.
-/// A name that no class bears is a failure: a test that is listed but does not exist must not pass.
+/// Runs the class named by the first argument, or every class if there is no argument. Returns the number of failures.
+/// An unknown name is a failure: a test that is listed but does not exist must not pass.
 inline int runTests(int argc, char **argv)
 {
     const bool named = argc > 1 && argv[1][0] != '-';

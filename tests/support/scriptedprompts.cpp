@@ -9,7 +9,7 @@ namespace zephira {
 
 namespace {
 
-/// The text between quotes, with line ends and other control characters made visible.
+/// The text in quotes, with line ends and other control characters made visible.
 QString quoted(const QString &text)
 {
     QString result = u"\""_s;

@@ -10,13 +10,13 @@
 namespace zephira {
 
 /// Answers questions from a script. The questions must come in the order and with exactly the texts that the test
-/// expects; an unexpected one fails the test with both texts below each other and is answered as if the user had
-/// cancelled. Questions that were never asked fail the test when the prompts are destroyed, or at verify().
+/// expects; an unexpected one fails the test with a message that has both texts, and is answered as if the user had
+/// cancelled. Expected questions that were never asked fail the test when the prompts are destroyed, or at verify().
 class ScriptedPrompts final : public Prompts
 {
 public:
     using Reply = std::variant<Answer, std::optional<QString>, std::optional<quint32>, std::optional<FontChoice>>;
-    /// Is called while the question stands on the screen, so to speak.
+    /// Called while the question would be on the screen.
     using During = std::function<void()>;
 
     ScriptedPrompts() = default;
@@ -24,7 +24,7 @@ public:
     Q_DISABLE_COPY_MOVE(ScriptedPrompts)
 
     void expect(const Question &question, Answer answer, During during = {});
-    /// A note that has only OK; the defaults are those of Prompts::tell().
+    /// Expects a message that has only OK; the defaults are those of Prompts::tell().
     void expectTell(const QString &text, const QString &title = {}, Question::Icon icon = Question::Icon::Information);
     void expectInput(const InputRequest &request, const std::optional<QString> &answer, During during = {});
     void expectFile(const FileRequest &request, const std::optional<QString> &answer, During during = {});
@@ -35,7 +35,7 @@ public:
     /// Whether every expected question has been asked; fails the test if not, and forgets the rest.
     bool verify();
 
-    /// Takes failures instead of QTest, for the tests of this class.
+    /// Called on failures instead of QTest, for the tests of this class.
     std::function<void(const QString &)> onFailure;
 
     Answer ask(const Question &question) override;
@@ -46,7 +46,7 @@ public:
     std::optional<FontChoice> font(const FontChoice &initial) override;
 
 private:
-    /// A request is compared by its description, which tells every field and nothing else.
+    /// Requests are compared by their descriptions, which have every field and nothing else.
     struct Step {
         QString request;
         Reply reply;

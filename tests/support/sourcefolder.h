@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// The full path of a file or folder of the source tree, named from its root. The root stands in this one source, so that
-/// the compiler cache serves all others in any checkout.
+/// The full path of a file or folder of the source tree, given relative to its root. The root is compiled into one
+/// source only, so that the compiler cache serves all others in any checkout.
 QString sourcePath(const QString &path);
 
 } // namespace zephira

@@ -24,6 +24,6 @@ struct TestRegistration {
 
 } // namespace zephira
 
-/// Makes a test class known to its program; the same name stands under CLASSES in CMakeLists.txt.
+/// Registers a test class with its program; CLASSES in CMakeLists.txt must name it, too.
 #define ZEPHIRA_TEST(Class)                                                                                            \
     static const zephira::TestRegistration registerTest_##Class(#Class, [] { return new Class; });

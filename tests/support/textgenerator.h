@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// A text of up to `longest` of the pieces, one drawn after the other. The same random numbers give the same text.
+/// A text of up to `longest` randomly chosen pieces. The same random numbers give the same text.
 inline QString generatedText(QRandomGenerator &random, const QStringList &pieces, int longest)
 {
     QString text;

@@ -7,7 +7,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// The fakes are trusted by every other test, so what they promise is tested as well.
+/// Every other test relies on the fakes, so their behaviour is tested as well.
 class TstFakes final : public QObject
 {
     Q_OBJECT

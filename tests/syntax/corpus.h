@@ -9,17 +9,17 @@
 
 namespace zephira {
 
-/// Names of all languages that the properties are tested with.
+/// The languages for which the general properties are tested.
 QStringList corpusLanguages();
 
-/// A text of about so many pieces: words, signs and line ends with which a lexer changes its mind, in any order. The same
-/// generator gives the same texts.
+/// A text of about `pieces` pieces in random order: words, symbols and line ends that change a lexer's state. Equal
+/// generators give equal texts.
 QByteArray corpusText(std::mt19937 &dice, int pieces);
 
-/// Bytes without any order, with more signs of markup among them than chance would give.
+/// Random bytes, with markup characters more frequent than by chance.
 QByteArray corpusBytes(std::mt19937 &dice, int size);
 
-/// Where the lines of a text begin, the first at 0. A line end at the text's end begins no line.
+/// The offsets at which the lines of a text begin, the first at 0. A line end at the text's end begins no line.
 std::vector<qsizetype> lineStartsOf(const QByteArray &text);
 
 } // namespace zephira

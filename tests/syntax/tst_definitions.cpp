@@ -12,7 +12,7 @@ namespace zephira {
 
 namespace {
 
-/// What the program registers as Perl's keywords, divided by bars.
+/// The keywords that the program registers for Perl, separated by bars.
 constexpr const char *perlKeywords =
     "abs|if|accept|alarm|atan2|bind|binmode|bless|caller|chdir|chmod|chomp|chop|chown|chr|chroot|close|"
     "closedir|connect|cos|crypt|dbmclose|dbmopen|defined|delete|die |do|dump|each|eof|eval|exec|exists|"
@@ -29,7 +29,7 @@ constexpr const char *perlKeywords =
 
 } // namespace
 
-/// The definitions as data: Perl field by field, the others by what nobody may miss.
+/// The definitions as data: Perl field by field, of the others the indispensable words.
 class TstDefinitions : public QObject
 {
     Q_OBJECT

@@ -93,7 +93,8 @@ void TstFoldLevels::resumesAtAnyLine_data()
         QTest::newRow(qPrintable(language)) << language;
 }
 
-/// A line's fold depends on nothing but its text, its styles, the depth and the style of the byte before it.
+/// The folding of a line depends only on its text, its styles, the depth before it, and the style of the byte before
+/// it.
 void TstFoldLevels::resumesAtAnyLine()
 {
     QFETCH(QString, language);

@@ -17,7 +17,7 @@ namespace zephira {
 
 namespace {
 
-/// Notes every line start, and ends the run where `until` says so.
+/// Records every line start, and ends the run when `until` says so.
 class Recorder final : public LineStateSink
 {
 public:
@@ -35,7 +35,7 @@ public:
 
 struct Styled {
     std::vector<unsigned char> styles;
-    std::map<qsizetype, LineState> states; ///< by the byte where the line begins
+    std::map<qsizetype, LineState> states; ///< By the byte offset of the line's start.
 };
 
 Styled styleAll(const SyntaxEngine &engine, const QByteArray &text)
@@ -58,8 +58,8 @@ void addLanguages()
 
 } // namespace
 
-/// Styling in parts: whatever part of a text is styled, with whatever state the line before left, gives what styling all
-/// of it would give.
+/// Styling in parts: styling any part of a text, starting with the state at the end of the line before, gives the same
+/// as styling all of it.
 class TstLineStates : public QObject
 {
     Q_OBJECT
@@ -193,7 +193,7 @@ void TstLineStates::editsRestyleUntilTheStatesAgree()
         const qsizetype begin = starts[line];
         const qsizetype end = line + 1 < starts.size() ? starts[line + 1] : before.size();
         QByteArray replacement = corpusText(dice, 4);
-        // A line feed behind a carriage return would belong to the line above.
+        // A line feed after a carriage return would belong to the line above.
         while (begin > 0 && before[begin - 1] == '\r' && replacement.startsWith('\n'))
             replacement.remove(0, 1);
         if (begin > 0 && before[begin - 1] == '\r' && replacement.isEmpty())
@@ -201,7 +201,7 @@ void TstLineStates::editsRestyleUntilTheStatesAgree()
         const QByteArray after = before.first(begin) + replacement + before.sliced(end);
         const qsizetype shift = replacement.size() - (end - begin);
 
-        // As the editor does it: from the changed line until a line that was there before begins with its old state.
+        // As in the editor: from the changed line to the first old line that begins with the same state as before.
         Recorder recorder;
         recorder.until = [&](qsizetype offset, LineState state) {
             const auto known = old.states.find(begin + offset - shift);
@@ -278,7 +278,7 @@ void TstLineStates::longLinesTakeLinearTime_data()
     rows("Java", "", {"\"\"\"", "`", "${", "}", "\\"});
 }
 
-/// The opening stands once, the piece over and over; a square of this size would take minutes.
+/// The opening comes once, the piece many times; an algorithm of quadratic time would take minutes.
 void TstLineStates::longLinesTakeLinearTime()
 {
     QFETCH(QString, language);

@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// How far a number reaches: each row is a text, of which the part before the bar is the number.
+/// Where a number ends: each row is a text in which a bar marks the end of the number.
 class TstNumbers : public QObject
 {
     Q_OBJECT

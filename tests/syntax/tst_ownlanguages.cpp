@@ -11,7 +11,7 @@ namespace zephira {
 
 namespace {
 
-/// A row of a test: the fields that a definition has, a text, and below it the letters of its styles.
+/// A test row: the fields of a definition, a text, and the letters of its styles.
 void row(const char *name, const CodeMaxLanguage &language, const char *text, const char *styles)
 {
     QTest::newRow(name) << language << QByteArray(text) << QByteArray(styles);
@@ -19,7 +19,7 @@ void row(const char *name, const CodeMaxLanguage &language, const char *text, co
 
 } // namespace
 
-/// Each field of a definition that somebody registers does what it says, alone and together with others.
+/// Each field of a registered definition has its effect, alone and together with others.
 class TstOwnLanguages : public QObject
 {
     Q_OBJECT

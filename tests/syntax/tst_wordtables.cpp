@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// The two tables in which every token is looked up.
+/// The two tables in which tokens are looked up.
 class TstWordTables : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ constexpr std::array<bool, 256> letters = [] {
     return table;
 }();
 
-/// The symbol at the start of a text, or an empty answer.
+/// The symbol at the start of a text; empty if there is none.
 QByteArray foundAt(const SymbolTable &table, QByteArrayView text)
 {
     const auto *p = reinterpret_cast<const Byte *>(text.data());

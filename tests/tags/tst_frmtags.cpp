@@ -14,7 +14,7 @@ using namespace zephira;
 
 namespace {
 
-/// The palette with a world of its own, over a document of which "old" is selected.
+/// The palette with fakes of its own and a document in which "old" is selected.
 struct Palette {
     TestContext world;
     LivingForm form;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The tree over a tags.dat of its own, on the screen.
+/// The visible tree with a tags.dat of its own.
 struct TagTreeBench {
     explicit TagTreeBench(const QByteArray &file)
     {

@@ -9,7 +9,7 @@
 
 namespace zephira {
 
-// The source formatter once more, step by step and without a thought for speed: what the real one is measured by.
+// A straightforward implementation of the source formatter without regard to speed, as a reference for the real one.
 
 inline QString plainTrimAroundTags(QString text)
 {

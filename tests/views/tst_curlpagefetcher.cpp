@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// The fetch against a real server on this machine.
+/// Fetching from a real local server.
 class TstCurlPageFetcher final : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ namespace {
 
 const QStringList formats{u"Normal"_s, u"Heading 1"_s, u"Paragraph"_s};
 
-/// The entries as texts: "name +" enabled, "-" disabled, "*" checked, "o" unchecked, then the caption.
+/// The entries as texts: the name; "+" if enabled, "-" if disabled; "*" if checked, "o" if unchecked; the caption.
 QStringList described(const QList<DesignerMenuEntry> &entries)
 {
     QStringList lines;
@@ -32,7 +32,7 @@ QStringList described(const QList<DesignerMenuEntry> &entries)
 
 } // namespace
 
-/// The designer's menus as they open, and its context menu.
+/// The content of the designer's menus and of its context menu.
 class TstDesignerMenus final : public QObject
 {
     Q_OBJECT

@@ -29,7 +29,7 @@ struct Bench {
 
 } // namespace
 
-/// The designer's toolbar and menus between a click and the designer's command.
+/// How clicks in the designer's toolbar and menus become commands of the designer.
 class TstDesignerTools final : public QObject
 {
     Q_OBJECT

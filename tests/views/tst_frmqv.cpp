@@ -177,7 +177,7 @@ void TstFrmQv::aTextBehindATinyPictureCanBeRead()
     QVERIFY(form().width() < 400 || form().height() < 300);
     form().showText(u"/a.txt"_s);
     QVERIFY(form().width() >= 600 && form().height() >= 400);
-    // A window that the user has made larger stays so.
+    // A window that the user has enlarged keeps its size.
     form().resize(900, 700);
     form().showText(u"/b.txt"_s);
     QCOMPARE(form().size(), QSize(900, 700));

@@ -13,7 +13,7 @@ using namespace zephira;
 
 namespace {
 
-/// The web without a network.
+/// A fetcher that needs no network.
 struct FakeFetcher final : PageFetcher {
     Result<FetchedPage> answer = FetchedPage{"<p>caf\xE9</p>\r\n", u"windows-1252"_s};
     QStringList addresses;
@@ -137,7 +137,7 @@ private Q_SLOTS:
         viewer.form.type(u"URL"_s, u"http://example.org/"_s);
         viewer.form.press(u"Command2"_s);
         viewer.world.shell.failure = Error{Error::Code::Failed, u"no browser"_s};
-        viewer.form.press(u"Command2"_s); // Nothing is said.
+        viewer.form.press(u"Command2"_s); // There is no message.
         QCOMPARE(viewer.world.shell.opened, (QStringList{u"http://example.org/"_s, u"http://example.org/"_s}));
         QVERIFY(viewer.web.addresses.isEmpty());
     }

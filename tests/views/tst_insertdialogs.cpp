@@ -11,7 +11,7 @@ using namespace zephira;
 
 namespace {
 
-/// A form of the folder with a world of its own.
+/// A form of the folder with fakes of its own.
 struct Dialog {
     TestContext world;
     LivingForm form;

@@ -23,7 +23,7 @@ QByteArray bitmap(int width, int height)
     return bytes;
 }
 
-/// A bitmap's head that claims a size; the pixels aren't there.
+/// The header of a bitmap that claims a size, without the pixels.
 QByteArray claiming(qint32 width, qint32 height)
 {
     QByteArray bytes = bitmap(2, 2);

@@ -15,7 +15,7 @@ using namespace zephira;
 
 namespace {
 
-/// The pane with a browser in a window that has a shortcut.
+/// The pane and its browser, in a window that has a shortcut.
 struct PaneInWindow {
     FakeBrowser browser;
     QMainWindow window;
@@ -41,7 +41,7 @@ struct PaneInWindow {
 
 } // namespace
 
-/// The preview's address bar over a browser that keeps what it is told.
+/// The preview's address bar with a browser that records its calls.
 class TstPreviewPane final : public QObject
 {
     Q_OBJECT

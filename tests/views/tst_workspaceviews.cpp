@@ -11,15 +11,15 @@ using namespace zephira;
 
 namespace {
 
-/// The window as the views see it. It keeps what was asked of it and shows what it was told to.
+/// The window as the views see it. It records its calls and which view is shown.
 struct FakeWindow final : WorkspaceWindow {
     bool modified = false;
-    /// What doSave() answers; true clears the flag.
+    /// The result of doSave(); true also clears the modified flag.
     bool savingWorks = true;
     int saves = 0;
     QString previewTarget;
     QStringList notices;
-    /// A view that can't be had.
+    /// A view that is unavailable.
     std::optional<WorkspaceView> missing;
     WorkspaceView shown = WorkspaceView::Code;
     bool sourceMenus = true;
@@ -69,7 +69,7 @@ struct Bench {
         world.document.row = 1;
     }
 
-    /// An HTML document that lies in a file and isn't modified.
+    /// Opens an HTML document that is in a file and isn't modified.
     void openFile(const QString &path, const QString &text)
     {
         world.files.contents[path] = text.toUtf8();
@@ -119,7 +119,8 @@ private Q_SLOTS:
         QTest::newRow("a command on the way to the preview") << true << 1;
     }
 
-    /// Who asks for visual mode while the designer's text is on its way has it at home first, and what is done then stays.
+    /// A command that asks for visual mode while the designer's text is being transferred waits for the text, and what
+    /// the command then does isn't overwritten.
     void commandsWhileTheDesignerIsLeft()
     {
         QFETCH(bool, asks);
@@ -170,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(bench.world.designer.projectFolder, u"/site/"_s);
     }
 
-    /// Whoever goes back to the designer before it has been left stays there.
+    /// Going back to the designer before it has been left keeps it selected.
     void goingBackToTheDesignerMeanwhile()
     {
         Bench bench;
@@ -248,7 +249,7 @@ private Q_SLOTS:
         if (!saved.isEmpty())
             QCOMPARE(bench.file(saved), QByteArray("text"));
         QCOMPARE(bench.world.files.log, saved.isEmpty() ? QStringList() : QStringList{u"write "_s + saved});
-        // A preview is no save.
+        // A preview doesn't count as a save.
         QVERIFY(bench.window.modified);
         QCOMPARE(bench.window.saves, 0);
         QCOMPARE(bench.file(u"/site/page.html"_s), QByteArray("old"));
@@ -342,7 +343,7 @@ private Q_SLOTS:
         bench.openFile(u"/site/page.html"_s, u"one"_s);
         bench.select(WorkspaceView::Preview);
         bench.world.editor.setText(u"two"_s);
-        bench.select(WorkspaceView::Preview); // The tab that is selected already.
+        bench.select(WorkspaceView::Preview); // This tab was selected already.
         const QString copy = u"/site/page.htmltemp.html"_s;
         QCOMPARE(bench.browser.calls, (QStringList{copy, copy}));
         QCOMPARE(bench.file(copy), QByteArray("two"));
@@ -493,7 +494,7 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.world.editor.setText(u"<i>"_s);
-        bench.window.savingWorks = false; // The user leaves the save dialog.
+        bench.window.savingWorks = false; // The user cancels the save dialog.
         bench.world.designer.base = u"/before.html"_s;
         bench.world.prompts.expect(saveQuestion, Answer::Ok);
         bench.select(WorkspaceView::Visual);
@@ -535,7 +536,7 @@ private Q_SLOTS:
         bench.openFile(u"/site/page.html"_s, u"<p>"_s);
         bench.select(WorkspaceView::Visual);
         bench.select(WorkspaceView::Visual);
-        QCOMPARE(bench.world.designer.loaded.size(), 1); // What was typed there isn't lost by a second click.
+        QCOMPARE(bench.world.designer.loaded.size(), 1); // A second click doesn't lose what was typed there.
     }
 
     void resetGoesBackToTheTextOfTheCodeView()

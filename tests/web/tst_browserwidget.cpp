@@ -26,10 +26,10 @@ using namespace zephira;
 
 namespace {
 
-/// Milliseconds that a busy machine may need to show a page.
+/// Time-out in milliseconds for showing a page, long enough for a busy machine.
 constexpr int patience = 60000;
 
-/// A browser that shows, and a site below a temporary folder.
+/// A visible browser, and a site below a temporary folder.
 struct Bench {
     QTemporaryDir folder;
     DiskFileStore files;
@@ -54,7 +54,7 @@ struct Bench {
 
     QWebEnginePage &page() const { return *browser.findChild<QWebEngineView *>()->page(); }
 
-    /// What a script in the page gives back, as text.
+    /// The result of a script in the page, as text.
     QString ask(const QString &script) const
     {
         std::optional<QString> answer;
@@ -63,7 +63,7 @@ struct Bench {
         return answer.value_or(u"(no answer)"_s);
     }
 
-    /// Waits until a script gives this text.
+    /// Waits until a script returns this text.
     bool comesTo(const QString &script, const QString &text) const
     {
         return waitUntil([&] { return ask(script) == text; }, patience);
@@ -76,7 +76,7 @@ struct Bench {
         return *messages().findChild<Part *>(name);
     }
     void click(const QString &button) const { part<QPushButton>(button).click(); }
-    /// Acts on each message. Whoever waits for something doesn't go on while the page waits for its answer.
+    /// Calls `act` for each message of the page. A test can't just wait, because the page waits for an answer.
     void onMessage(const std::function<void()> &act)
     {
         timer = std::make_unique<QTimer>();
@@ -87,7 +87,7 @@ struct Bench {
         timer->start(10);
     }
 
-    /// Goes to a page and waits until it is there or has failed; returns which.
+    /// Navigates to a page and waits until it has loaded or failed; returns whether it has loaded.
     bool show(const QString &address)
     {
         QSignalSpy loaded(&page(), &QWebEnginePage::loadFinished);
@@ -100,7 +100,7 @@ const QByteArray title("<!DOCTYPE html><title>t</title>");
 
 } // namespace
 
-/// The browser with the real engine: what it does for the user, and what it keeps from pages.
+/// The browser with the real engine: its functions, and what it denies to pages.
 class TstBrowserWidget final : public QObject
 {
     Q_OBJECT
@@ -183,7 +183,7 @@ private Q_SLOTS:
             u"page.html"_s, title + "<script>for (let i = 0; i < 50; ++i) alert(i); document.title = 'end'</script>"));
         QVERIFY(bench.comesTo(u"document.title"_s, u"end"_s));
         QCOMPARE(messages, 2);
-        // Another page speaks again.
+        // After a navigation messages are shown again.
         bench.browser.navigate(
             bench.write(u"other.html"_s, title + "<script>alert('x'); document.title = 'other'</script>"));
         QVERIFY(bench.comesTo(u"document.title"_s, u"other"_s));
@@ -197,7 +197,7 @@ private Q_SLOTS:
         QTest::newRow("a script without an end") << QByteArray("for (;;);");
     }
 
-    /// The next page shows all the same, in a process of its own, and the old one is ended.
+    /// The next page is shown anyway, in a process of its own, and the old process is ended.
     void aPageThatDoesNotLetGo()
     {
         QFETCH(QByteArray, script);
@@ -291,7 +291,7 @@ private Q_SLOTS:
         Bench bench;
         const QString one = bench.write(u"site/one.html"_s, title + "one");
         const QString two = bench.write(u"site/two.html"_s, title + "two");
-        bench.browser.goBack(); // No history: nothing happens.
+        bench.browser.goBack(); // Without a history nothing happens.
         QVERIFY(bench.show(one));
         QVERIFY(bench.show(two));
         const QString text = u"document.body.innerText"_s;
@@ -352,7 +352,7 @@ private Q_SLOTS:
         QTest::newRow("by a linked folder") << u"out/own.js"_s << false;
     }
 
-    /// By every way in which a page can ask for something.
+    /// For every way in which a page can request a file.
     void ownFilesAreReadAndOthersAreNot()
     {
         QFETCH(QString, file);
@@ -409,7 +409,7 @@ private Q_SLOTS:
         const QString page = bench.write(u"site/page.html"_s, QByteArray(title + "mine") + way.toUtf8());
         QSignalSpy loaded(&bench.page(), &QWebEnginePage::loadFinished);
         bench.browser.navigate(page);
-        // The page itself ends well, the refused one doesn't.
+        // The page itself has loaded, the refused one has failed.
         QVERIFY(waitUntil(
             [&] { return std::ranges::any_of(loaded, [](const QList<QVariant> &end) { return !end[0].toBool(); }); },
             patience));

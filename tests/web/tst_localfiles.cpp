@@ -13,7 +13,7 @@ using namespace zephira;
 
 namespace {
 
-/// A site with a page and a picture, a folder beside it, and ways out of the one into the other.
+/// A site with a page and a picture, a folder outside the site, and links from one into the other.
 struct Site {
     QTemporaryDir folder;
 
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QTest::newRow("beside the page as ever") << u"secret"_s << u"site/sub/deep.html"_s << true;
     }
 
-    /// A page that lies in the project may load what lies in all of it, as "../css/s.css".
+    /// A page inside the project may load files from all of the project, such as "../css/s.css".
     void projectFolders()
     {
         QFETCH(QString, project);
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QTEST(files.mayLoad(site.url(file)), "allowed");
         files.shown(site.url(u"site/sub/deep.html"_s));
         QTEST(files.mayLoad(site.url(file)), "allowed");
-        // Without a project from then on it is the page's own folder again.
+        // Without a project it is the page's own folder again.
         files.setProjectFolder({});
         files.open(site.url(u"site/sub/deep.html"_s));
         QVERIFY(!files.mayLoad(site.url(u"site/img/a.png"_s)));
@@ -161,11 +161,11 @@ private Q_SLOTS:
         files.shown(site.url(u"site/page.html"_s));
         QVERIFY(files.mayShow(site.url(u"site/sub/deep.html"_s)));
         QVERIFY(!files.mayShow(site.url(u"secret/key.txt"_s)));
-        // A page that a link led to keeps the rights of the one that was opened.
+        // A page that is reached by a link has the rights of the page that was opened.
         files.shown(site.url(u"site/sub/deep.html"_s));
         QVERIFY(files.mayLoad(site.url(u"site/img/a.png"_s)));
         QVERIFY(files.mayShow(site.url(u"site/page.html"_s)));
-        // Going elsewhere doesn't lend the first page's rights to the second, but the way back stays open.
+        // A page that is opened later doesn't inherit the first page's rights, but going back is allowed.
         files.open(site.url(u"site2/other.html"_s));
         files.shown(site.url(u"site2/other.html"_s));
         QVERIFY(!files.mayLoad(site.url(u"site/img/a.png"_s)));
@@ -192,7 +192,7 @@ private Q_SLOTS:
         QVERIFY(files.mayShow(missing));
         QVERIFY(!files.mayShow(site.url(u"secret/missing.html"_s)));
         files.shown(missing);
-        QVERIFY(files.mayShow(missing)); // Which the engine may tell before it asks.
+        QVERIFY(files.mayShow(missing)); // The engine may report the page before it asks.
         files.shown(site.url(u"site/page.html"_s));
         QVERIFY(!files.mayShow(missing));
     }

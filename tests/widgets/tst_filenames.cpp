@@ -27,7 +27,7 @@ void touch(const QString &path)
     QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
 }
 
-/// The rule of wildcards, written plainly.
+/// A straightforward implementation of the wildcard rule.
 bool plainMatch(const QString &pattern, const QString &name)
 {
     if (pattern.isEmpty())
@@ -160,7 +160,8 @@ private Q_SLOTS:
         QVERIFY(notText >= 0);
         ::close(notText);
         const QStringList names = fileNames(folder.path(), u"*.txt"_s);
-        QCOMPARE(::unlink(native("\xff\xfe.txt").constData()), 0); // Qt can't remove what it can't name.
+        QCOMPARE(::unlink(native("\xff\xfe.txt").constData()),
+                 0); // Qt can't represent this name, so it can't remove the file.
         QCOMPARE(names, (QStringList{u"a.txt"_s, u"link.txt"_s}));
     }
 };

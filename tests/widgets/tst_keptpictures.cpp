@@ -16,7 +16,7 @@ using namespace zephira;
 
 namespace {
 
-/// A style that lends pictures to icons.
+/// A style that provides an icon cache.
 struct LendingStyle final : QProxyStyle {
     IconPictures *pictures = nullptr;
 

@@ -14,7 +14,7 @@ using namespace zephira;
 
 namespace {
 
-/// The wizard with a world of its own.
+/// The wizard with fakes of its own.
 struct Wizard {
     TestContext world;
     LivingForm form;

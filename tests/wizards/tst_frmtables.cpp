@@ -15,7 +15,7 @@ using namespace zephira;
 
 namespace {
 
-/// The wizard with a world of its own.
+/// The wizard with fakes of its own.
 struct Wizard {
     TestContext world;
     LivingForm form;
@@ -29,7 +29,7 @@ struct Wizard {
         return forms;
     }
 
-    /// Numbers of the squares that are painted so; 0 for one that is neither highlighted nor in the background's colour.
+    /// The numbers of the highlighted squares; 0 for a square that is neither highlighted nor in the background colour.
     QList<int> highlighted() const
     {
         QList<int> numbers;

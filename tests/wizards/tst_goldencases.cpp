@@ -7,7 +7,7 @@
 
 using namespace zephira;
 
-/// What a user does in a wizard, and the text that comes of it: a folder per case.
+/// What a user does in a wizard and the resulting text, in one folder per case.
 class TstWizardGoldenCases final : public QObject
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ namespace {
 
 constexpr qint32 largest = std::numeric_limits<qint32>::max();
 
-/// The fields that the full form begins with.
+/// The initial values of the full form's fields.
 TableFields defaults()
 {
     return {.borderSize = u"0"_s,
@@ -42,7 +42,7 @@ QString table(TableSize size, const TableFields &fields)
     return markup(size, fields, tableAttributes(fields)).valueOr(u"(an error)"_s);
 }
 
-// The same texts written down once more, piece by piece and without a thought for speed.
+// A straightforward implementation of the same texts without regard to speed.
 
 QString plainReference(TableSize size, const TableFields &f)
 {

@@ -15,8 +15,8 @@ namespace zephira {
 
 namespace {
 
-/// Sets the selection that the signs of a page stand for. They are looked up in a copy of the page, because the designer
-/// would take their removal for a change.
+/// Sets the selection that the markers in a page's text describe. They are located in a copy of the page, because the
+/// designer would take their removal for a change.
 const QString setSelection = uR"js((html => {
     const copy = new DOMParser().parseFromString(html, 'text/html').body;
     const walker = document.createTreeWalker(copy, NodeFilter.SHOW_TEXT);
@@ -30,7 +30,7 @@ const QString setSelection = uR"js((html => {
             text.deleteData(i, 1);
         }
     }
-    // A text that was a sign alone isn't in the page.
+    // A text node that consisted of a marker alone isn't in the page.
     for (const text of texts.filter(each => each.length === 0)) {
         for (const sign in places) {
             if (places[sign][0] === text)
@@ -60,8 +60,8 @@ const QString setSelection = uR"js((html => {
     }
 }))js"_s;
 
-/// The body with signs in the place of the selection's ends. The page itself isn't touched: the ends are found again in a
-/// copy by the way that leads to them.
+/// The body with markers at the ends of the selection. The page itself isn't changed: the ends are located in a copy by
+/// their paths from the root.
 const QString showSelection = uR"js((() => {
     const copy = document.body.cloneNode(true);
     const selection = getSelection();
@@ -142,7 +142,7 @@ QVariant DesignerBench::run(DesignerCommand command, const QVariant &argument)
 
 int DesignerBench::status(DesignerCommand command)
 {
-    // A selection made by script is reported a moment later; the answer to a question says it at once.
+    // The report of a selection made by script comes a moment later, but the answer to a query is up to date.
     return ask(u"zephiraDesigner.state().state.statuses[%1]"_s.arg(static_cast<int>(command))).toInt();
 }
 

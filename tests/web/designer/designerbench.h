@@ -12,11 +12,11 @@
 
 namespace zephira {
 
-/// A designer that shows, with the real engine.
+/// A visible designer with the real engine.
 ///
-/// Pages are given with their selection: "[" and "]" stand where it begins and ends, "|" where the caret is, and a "{"
-/// directly before an element selects that as a whole. text() shows the page with the same signs. Such pages hold neither
-/// these signs otherwise nor server code.
+/// Pages are given with markers for their selection: "[" and "]" where it begins and ends, "|" for the caret, and "{"
+/// directly before an element that is selected as a whole. text() returns the page with the same markers. Such pages
+/// must not use these characters otherwise, and must not contain server code.
 class DesignerBench
 {
 public:
@@ -24,23 +24,23 @@ public:
 
     /// Loads a page and sets its selection.
     void show(const QString &html);
-    /// Loads a page as it is and waits until it can be edited.
+    /// Loads a page without interpreting markers, and waits until it can be edited.
     void load(const QString &html);
     void awaitComplete();
 
     QVariant run(DesignerCommand command, const QVariant &argument = {});
     int status(DesignerCommand command);
-    /// What is in the body, with the selection in it.
+    /// The content of the body, with the markers of the selection.
     QString text();
-    /// What is in the body.
+    /// The content of the body.
     QString body();
-    /// What a script gives back that runs in the world of the designer's own.
+    /// The result of a script that runs in the designer's own world.
     QVariant ask(const QString &script);
 
-    /// A key to the page, as the user presses it.
+    /// Sends a key to the page as if the user had pressed it.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString &text);
-    /// Mouse at a place of the view in pixels.
+    /// Sends a mouse event at a position of the view, in pixels.
     void mouse(QEvent::Type type, const QPoint &place, Qt::MouseButton button = Qt::LeftButton);
     void click(const QPoint &place);
     void drag(const QPoint &from, const QPoint &to);
@@ -52,11 +52,11 @@ public:
     ScriptedPrompts prompts;
     DesignerWidget designer{files, prompts};
 
-    /// Milliseconds that a busy machine may need.
+    /// Time-out in milliseconds, long enough for a busy machine.
     static constexpr int patience = 60000;
 
 private:
-    /// Markup of the engine without the attributes that only the designer needs.
+    /// The engine's markup without the attributes that only the designer needs.
     static QString withoutOwnAttributes(QString markup);
     QWidget &target();
 

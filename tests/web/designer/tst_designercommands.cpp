@@ -5,7 +5,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Every command on a page, with its status before; each is undone and made again.
+/// Every command on a page, with its status before; each is undone and redone.
 class TstDesignerCommands : public QObject
 {
     Q_OBJECT

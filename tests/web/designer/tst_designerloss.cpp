@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// What is known of a page that is busy, gone or dead.
+/// What the designer knows of a page that is busy, unresponsive or has crashed.
 class TstDesignerLoss : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private Q_SLOTS:
 
 private:
     DesignerBridge &bridge() { return m_bench->designer.page().bridge(); }
-    /// The state that the page told last, as a report that could still be on its way.
+    /// The latest state that the page reported, to be sent again as a report that was delayed.
     QVariantMap lastReport() { return m_bench->ask(u"zephiraDesigner.state().state"_s).toMap(); }
     void edit(const QString &html)
     {
@@ -51,7 +51,7 @@ private:
     std::unique_ptr<DesignerBench> m_bench;
 };
 
-/// A change just before the next load is one of the old page and of no account for the new one.
+/// A change just before the next load belongs to the old page and doesn't affect the new one.
 void TstDesignerLoss::oneLoadAfterTheOther()
 {
     m_bench->load(u"<p>old</p>"_s);
@@ -114,7 +114,7 @@ void TstDesignerLoss::lateClipboardKey()
     QTRY_COMPARE_WITH_TIMEOUT(m_bench->body(), u"<p>ac</p>"_s, DesignerBench::patience);
 }
 
-/// Changes that never rest are kept all the same, and what is kept is the text if the page is lost then.
+/// Even while changes never pause, copies are kept, and if the page is lost, the last copy is the text.
 void TstDesignerLoss::copiesAreKeptWhileTyping()
 {
     m_bench->load(u"<p>a</p>"_s);
@@ -135,7 +135,7 @@ void TstDesignerLoss::copiesAreKeptWhileTyping()
                              DesignerBench::patience);
 }
 
-/// A page that is busy keeps nobody waiting longer than promised, and what it told last is there.
+/// A caller waits for a busy page no longer than promised, and then gets what the page reported last.
 void TstDesignerLoss::pageThatHangs()
 {
     m_bench->load(u"<p>a</p>"_s);
@@ -159,7 +159,7 @@ void TstDesignerLoss::pageThatHangs()
     QCOMPARE(m_bench->designer.documentHtml(), u"<p>abc</p>"_s);
 }
 
-/// Another page takes the place of one that would never let go.
+/// A page that hangs forever is replaced when another one is loaded.
 void TstDesignerLoss::pageThatHangsGivesWay()
 {
     m_bench->load(u"<p>a</p>"_s);
@@ -193,7 +193,7 @@ void TstDesignerLoss::pageThatDies()
     QVERIFY(!m_bench->designer.isDirty());
 }
 
-/// From the moment at which the page is lost, nothing is asked of it.
+/// Once the page is lost, nothing is requested from it.
 void TstDesignerLoss::betweenLossAndReload()
 {
     m_bench->load(u"<p>a</p>"_s);
@@ -218,14 +218,14 @@ void TstDesignerLoss::betweenLossAndReload()
     QCOMPARE(moment->text, u"<p>ab</p>"_s);
     QCOMPARE(moment->status, 1);
     QVERIFY(moment->isResponding);
-    // A command waits for the page to be there again.
+    // A command waits until the page has been loaded again.
     m_bench->run(DesignerCommand::SelectAll);
     m_bench->run(DesignerCommand::Bold);
     QCOMPARE(m_bench->designer.documentHtml(), u"<p><b>ab</b></p>"_s);
     QVERIFY(m_bench->designer.showBorders());
 }
 
-/// After some losses the page isn't loaded any more; its text is still there, and nobody waits for it.
+/// After several losses the page isn't loaded again; its text is still available, and calls don't wait for the page.
 void TstDesignerLoss::pageThatDiesAgainAndAgain()
 {
     m_bench->load(u"<p>a</p>"_s);
@@ -250,7 +250,7 @@ void TstDesignerLoss::pageThatDiesAgainAndAgain()
     QVERIFY(m_bench->designer.isDirty());
     QVERIFY2(time.elapsed() < m_bench->designer.page().patience() / 2, qPrintable(QString::number(time.elapsed())));
     QCOMPARE(complete.count(), reloads);
-    // Another page has all chances again.
+    // For another page the count starts again.
     m_bench->load(u"<p>x</p>"_s);
     edit(u"y"_s);
     QCOMPARE(m_bench->designer.documentHtml(), u"<p>xy</p>"_s);

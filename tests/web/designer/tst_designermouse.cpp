@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Elements under the mouse: selecting, moving and resizing.
+/// Selecting, moving and resizing elements with the mouse.
 class TstDesignerMouse : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ private:
     {
         return QTest::qWaitFor([&] { return m_bench->designer.selectionType() == type; }, DesignerBench::patience);
     }
-    /// What the element's style says; the numbers of one property.
+    /// These wait for the element's style, and for the numbers of one of its properties.
     bool styleComesTo(const QString &style)
     {
         return QTest::qWaitFor(
@@ -137,7 +137,7 @@ void TstDesignerMouse::snapsToTheGrid()
     m_bench->drag({140, 70}, {170, 100});
     QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 80px; height: 40px"_s),
              qPrintable(m_bench->body()));
-    // Of a size, the dragged side goes to the grid.
+    // When resizing, the dragged side snaps to the grid.
     m_bench->drag({230, 140}, {240, 160});
     QVERIFY2(styleComesTo(u"position: absolute; left: 150px; top: 100px; width: 100px; height: 50px"_s),
              qPrintable(m_bench->body()));

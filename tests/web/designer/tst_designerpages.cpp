@@ -21,7 +21,7 @@ QByteArray content(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Pages of installed documentation; those with a style sheet and a script come first.
+/// Pages of the installed documentation; those with a style sheet and a script come first.
 QStringList realPages()
 {
     QStringList dressed;
@@ -41,7 +41,7 @@ QStringList realPages()
 
 } // namespace
 
-/// A page isn't changed by being looked at, whatever it waits for.
+/// A page isn't changed by being shown, whatever it is still loading.
 class TstDesignerPages final : public QObject
 {
     Q_OBJECT
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void realPagesStayAsTheyAre();
 
 private:
-    /// Loads a file; gives what the designer does to it without being asked, or nothing.
+    /// Loads a file; returns what is wrong with it in the designer without any edit, or nothing.
     QString harm(const QString &path);
 
     std::unique_ptr<DesignerBench> m_bench;
@@ -69,7 +69,7 @@ QString TstDesignerPages::harm(const QString &path)
     designer.loadDocument(path);
     const QString source = designer.documentHtml();
     m_bench->awaitComplete();
-    // Reports of changes would be on their way now.
+    // Any report of a change would arrive before this answer.
     m_bench->ask(u"null"_s);
     if (m_bench->ask(u"document.readyState"_s).toString() == u"loading")
         return u"half a page"_s;
@@ -105,7 +105,7 @@ void TstDesignerPages::waitingParts()
     m_bench->write(u"s.js"_s, "document.title = 'x';");
     const QByteArray page = "<html><head>" + head + "</head><body>" + body + "<!-- a --><p>b</p></body></html>";
     QCOMPARE(harm(m_bench->write(u"page.html"_s, page)), QString());
-    // Comments have their sign.
+    // Each comment has its mark.
     QCOMPARE(m_bench->ask(u"document.querySelectorAll('zephira-mark').length"_s).toInt(), 1);
 }
 
@@ -123,7 +123,7 @@ void TstDesignerPages::idleScripts_data()
     QTest::newRow("two") << u"<script src=\"s.js\"></script><script src=\"t.js\"></script>"_s;
 }
 
-/// Nothing of what keeps the engine from waiting for scripts gets into the text or onto the clipboard.
+/// The markup that keeps the engine from waiting for scripts gets neither into the text nor onto the clipboard.
 void TstDesignerPages::idleScripts()
 {
     QFETCH(QString, script);

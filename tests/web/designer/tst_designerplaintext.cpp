@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Programs, style sheets and notes in the designer: they are edited as the text that they are.
+/// Programs, style sheets and notes in the designer: they are edited as plain text.
 class TstDesignerPlainText : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ private Q_SLOTS:
 private:
     DesignerWidget &designer() { return m_bench->designer; }
     void load(const QByteArray &content, const QString &name = u"a.txt"_s);
-    /// Places in the text of the only element, in characters.
+    /// Selects a range in the text of the only element, in characters.
     void select(int from, int to);
 
     std::unique_ptr<DesignerBench> m_bench;
@@ -127,7 +127,7 @@ void TstDesignerPlainText::shownAsItStands()
     QCOMPARE(m_bench->ask(u"getComputedStyle(document.querySelector('pre')).whiteSpace"_s).toString(), u"pre-wrap"_s);
 }
 
-/// What makes markup isn't to be had, and doesn't run.
+/// Commands that produce markup are disabled, and don't run.
 void TstDesignerPlainText::commands()
 {
     load("ab");
@@ -148,7 +148,7 @@ void TstDesignerPlainText::commands()
     QCOMPARE(designer().ExecCommand(5013).toString(), QString());
 }
 
-/// Markup that the program or the clipboard gives comes as the text that it is.
+/// Markup from the program or from the clipboard is inserted as plain text.
 void TstDesignerPlainText::pasting()
 {
     load("ab");
@@ -191,7 +191,7 @@ void TstDesignerPlainText::deletingAll()
     QCOMPARE(designer().documentHtml(), u"new"_s);
 }
 
-/// Text that comes by value is of the kind of the document that it belongs to.
+/// A text that is passed by value has the kind of the document that it belongs to.
 void TstDesignerPlainText::byValue()
 {
     designer().setBaseFile(m_bench->folder.filePath(u"a.c"_s));

@@ -32,7 +32,7 @@ private Q_SLOTS:
     void relativeAddressesLeadFromTheBase();
 
 private:
-    /// The page after a change that leaves no trace in it.
+    /// The page after a change that leaves no trace in its markup.
     QString roundTrip(const QString &page)
     {
         m_bench->load(page);
@@ -179,7 +179,7 @@ void TstDesignerText::edited()
     QCOMPARE(roundTrip(text), text);
 }
 
-/// Whatever the page: after one edit and reload the text doesn't change any more.
+/// For any page: after one edit and a reload the text doesn't change any more.
 void TstDesignerText::anyMarkupSettles()
 {
     const QStringList pieces{u"<p>"_s,      u"</p>"_s,  u"<div>"_s,      u"</div>"_s,   u"<b>"_s,
@@ -199,7 +199,7 @@ void TstDesignerText::anyMarkupSettles()
     }
 }
 
-/// One letter is changed, and changed back in the text that came of it: everything else is what it was.
+/// One letter is changed, and changed back in the resulting text: everything else is unchanged.
 void TstDesignerText::oneLetterThereAndBack()
 {
     const QStringList pieces{u"<p class=\"a\">text</p>"_s,
@@ -293,7 +293,7 @@ void TstDesignerText::serverCodeThatIsPastedIn()
     QCOMPARE(m_bench->designer.documentHtml(), u"<p>a<i title=\"<%= t %>\"><% x %></i><!-- y -->b</p>"_s);
 }
 
-/// Elements whose names are those of the document's own members.
+/// Elements that have the names of the document's own members.
 void TstDesignerText::namesThatHideTheDocument()
 {
     const QString page =
@@ -346,7 +346,7 @@ void TstDesignerText::relativeAddressesLeadFromTheBase()
     m_bench->designer.loadDocument(m_bench->write(u"page.html"_s, page.toUtf8()));
     m_bench->awaitComplete();
     QVERIFY(shows(30));
-    // By value the page is still the one from the disk.
+    // Passed by value, the page still belongs to the file on the disk.
     m_bench->load(page);
     QVERIFY(shows(30));
     m_bench->designer.setBaseFile({});

@@ -10,7 +10,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Pages that want more than to be shown.
+/// Pages that try to do more than being shown.
 class TstDesignerTrust : public QObject
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ void TstDesignerTrust::scriptsDoNotRun()
     m_bench->designer.loadDocument(m_bench->write(u"page.html"_s, page.toUtf8()));
     m_bench->awaitComplete();
     m_bench->ask(u"document.body?.click(); null"_s);
-    // Whatever is going to happen by itself happens before a picture that is asked for afterwards has failed to load.
+    // Anything that happens by itself has happened by the time a picture requested afterwards has failed to load.
     m_bench->ask(
         u"window.settled = 0; { const i = new Image(); i.onerror = () => setTimeout(() => window.settled = 1, 50);"
         "i.src = 'no-such-picture.gif'; } null"_s);
@@ -141,7 +141,7 @@ void TstDesignerTrust::readsOnlyBeneathItsFolder()
     QTEST(m_bench->ask(u"document.images[0].naturalWidth"_s).toInt(), "width");
 }
 
-/// The document's own world has neither the designer's names nor the channel.
+/// The page's own scripts can reach neither the designer's names nor the channel.
 void TstDesignerTrust::nothingOfTheDesignerIsWithinReach()
 {
     m_bench->load(u"<p>a</p>"_s);

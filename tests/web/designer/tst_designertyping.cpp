@@ -5,7 +5,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// What keys make of paragraphs, lists, cells and headings; all of it is undone and made again.
+/// The effect of keys in paragraphs, lists, cells and headings; each is undone and redone.
 class TstDesignerTyping : public QObject
 {
     Q_OBJECT
@@ -69,7 +69,7 @@ void TstDesignerTyping::keys_data()
     row("back into a heading",
         u"<h1 id=\"h\">a</h1><p class=\"c\">|b <b>c</b> <span style=\"COLOR: red\" class=\"k\">d</span></p>"_s,
         {u"Backspace"_s}, u"<h1 id=\"h\">a|b <b>c</b> <span style=\"COLOR: red\" class=\"k\">d</span></h1>"_s);
-    // It comes to stand in the head, out of the way.
+    // It is moved into the head, out of the way.
     const QString styles =
         u"<link rel=\"stylesheet\" href=\"data:text/css,h1%7Bfont-size:40px;color:red%7Dp,li%7Bcolor:blue%7D\">"_s;
     row("styles of a style sheet", styles + u"<h1>a|</h1><p>b <b>c</b></p>"_s, {u"Delete"_s},

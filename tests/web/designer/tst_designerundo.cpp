@@ -7,7 +7,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// One history for typing and commands.
+/// Typing and commands share one undo history.
 class TstDesignerUndo : public QObject
 {
     Q_OBJECT
@@ -26,14 +26,14 @@ private Q_SLOTS:
 private:
     void selectAtRandom(QRandomGenerator &random);
     void doSomething(QRandomGenerator &random);
-    /// Steps back or forth until the page isn't `page` any more.
+    /// Runs undo or redo until the page differs from `page`.
     void turn(DesignerCommand command, const QString &page)
     {
         do
             m_bench->run(command);
         while (m_bench->body() == page && m_bench->status(command) == DesignerStatus::Enabled);
     }
-    /// Both pages from shortly before the first difference on.
+    /// Both pages, starting shortly before their first difference.
     QString difference(const QString &way, qsizetype step, const QString &expected)
     {
         const QString body = m_bench->body();
@@ -99,7 +99,7 @@ void TstDesignerUndo::randomWork_data()
         QTest::newRow(qPrintable(QString::number(seed))) << seed;
 }
 
-/// Somewhere in the page's text, or a whole element.
+/// Selects a random part of the page's text, or a whole element.
 void TstDesignerUndo::selectAtRandom(QRandomGenerator &random)
 {
     m_bench->ask(uR"js(((a, b, c, d) => {
@@ -191,7 +191,7 @@ void TstDesignerUndo::randomWork()
             pages.append(page);
     }
     QVERIFY(pages.size() > 5);
-    // A command may change the page without a change of its markup, by cutting a text in two: such a step shows nothing.
+    // A command may change the page but not its markup, by splitting a text node: such a step has no visible effect.
     for (qsizetype i = pages.size() - 2; i >= 0; --i) {
         turn(DesignerCommand::Undo, pages[i + 1]);
         QVERIFY2(m_bench->body() == pages[i], qPrintable(difference(u"undo"_s, i, pages[i])));

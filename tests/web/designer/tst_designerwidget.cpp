@@ -15,7 +15,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// The designer as its host knows it.
+/// The designer as its host uses it.
 class TstDesignerWidget : public QObject
 {
     Q_OBJECT
@@ -153,7 +153,7 @@ void TstDesignerWidget::values()
     QCOMPARE(m_bench->run(DesignerCommand::GetFontName).toString(), u"Courier New, monospace"_s);
     QCOMPARE(m_bench->run(DesignerCommand::GetFontSize).toInt(), 6);
     QCOMPARE(m_bench->run(DesignerCommand::GetBlockFormat).toString(), u"Heading 3"_s);
-    // Nothing that only a part of the selection has.
+    // A value is reported only if the whole selection has it.
     m_bench->show(u"<p>[a<font face=\"Arial\" size=\"6\">b</font></p><h1>c]</h1>"_s);
     m_bench->status(DesignerCommand::GetFontName);
     m_bench->run(DesignerCommand::GetBlockFormatNames);
@@ -171,7 +171,7 @@ void TstDesignerWidget::values()
     }
 }
 
-/// Whoever asks right after a key gets an answer that knows it.
+/// A query right after a key press takes the key into account.
 void TstDesignerWidget::keyIsKnownAtOnce()
 {
     m_bench->show(u"<p>a|</p>"_s);
@@ -271,7 +271,7 @@ void TstDesignerWidget::everythingUnseenIsShown_data()
     row(u"<meta>"_s, u"meta"_s);
 }
 
-/// The glyph has a place of its own, and neither it nor its going away is a change of the page.
+/// The glyph takes up space of its own, and neither showing nor hiding it counts as a change of the page.
 void TstDesignerWidget::everythingUnseenIsShown()
 {
     QFETCH(QString, element);
@@ -320,7 +320,7 @@ void TstDesignerWidget::signsLeaveTheSelectedAlone()
     QVERIFY(isPainted({31, 46, 3, 8}));
 }
 
-/// What the engine gives no place is painted on top.
+/// Glyphs of elements for which the engine has no box are painted on top.
 void TstDesignerWidget::signsArePainted()
 {
     const QString page = u"<body style=\"margin: 0\"><p style=\"font: 20px/20px monospace; margin: 0\">ab<br>c"
@@ -451,7 +451,7 @@ void TstDesignerWidget::textIsLookedFor()
     m_bench->prompts.expectInput({u"Find what:"_s, u"Find"_s, u"one"_s}, u"one"_s);
     m_bench->designer.execCommand(DesignerCommand::FindText, DesignerPrompting::Default, {});
     QCOMPARE(m_bench->text(), u"<p>one two [One]</p>"_s);
-    // From the end it goes on at the beginning.
+    // From the end the search continues at the beginning.
     m_bench->prompts.expectInput({u"Find what:"_s, u"Find"_s, u"one"_s}, u"one"_s);
     m_bench->designer.execCommand(DesignerCommand::FindText, DesignerPrompting::Default, {});
     QCOMPARE(m_bench->text(), u"<p>[one] two One</p>"_s);

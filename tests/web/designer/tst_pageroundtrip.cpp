@@ -7,7 +7,8 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// The engine's part is played by what it is known to write; the designer's own tests have the engine itself.
+/// Texts of the kind that the engine is known to write stand in for it; the designer's own tests have the engine
+/// itself.
 class TstPageRoundTrip : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ namespace {
 constexpr const char16_t *kindNames[] = {u"text",    u"markup",  u"value",       u"plain",      u"raw",
                                          u"comment", u"doctype", u"server-text", u"server-tag", u"server-plain"};
 
-/// "kind:characters" of each piece, divided by bars.
+/// "kind:characters" of each piece, separated by bars.
 QString described(const QString &source)
 {
     QStringList pieces;
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QTEST(described(source), "expected");
     }
 
-    /// Pieces follow each other from the first character to the last, whatever the text.
+    /// For any text the pieces cover it from the first character to the last.
     void leavesNoGaps()
     {
         const QStringList pieces{u"<"_s,   u">"_s,        u"/"_s,     u"\""_s,   u"'"_s,     u"="_s,     u" "_s,
@@ -122,7 +122,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Ten times the text may take twenty times as long, but not a hundred times.
+    /// A text of ten times the size may take twenty times as long, but not a hundred times.
     void takesTimeInProportion_data()
     {
         QTest::addColumn<QString>("unit");
