@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // compact_bench FILE: the code view shows the file, gets the result of Compact, which is a single line, and then an
 // undo and a redo; each until it is painted.
+#include "bench/noprompts.h"
 #include "core/clock.h"
 #include "editor/codemax.h"
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
-#include "noprompts.h"
 #include "tools/sourceformatter.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // designer_bench PAGE: entering and leaving the visual designer with PAGE; the time from a key press to the state that
 // the toolbar shows, in a page of one paragraph and in PAGE; and the same after all of PAGE has been selected.
+#include "bench/noprompts.h"
 #include "files/diskfilestore.h"
-#include "noprompts.h"
 #include "web/designer/designerwidget.h"
 
 #include <benchmark/benchmark.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // folder_bench FOLDER COUNT: the file manager shows a folder of COUNT files, and opens one of COUNT folders, both until
 // painted; each compared with the bare listing of the names. The folders are created below FOLDER if they don't exist.
-#include "noprompts.h"
+#include "bench/noprompts.h"
 #include "panes/filelist.h"
 #include "panes/filepane.h"
 #include "panes/foldertree.h"

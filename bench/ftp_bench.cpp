@@ -4,6 +4,7 @@
 // ftp_bench up HOST PORT LOCALDIR NAME FOLDER: uploads a local file into a server's folder.
 // ftp_bench mirror HOST PORT FOLDER LOCALDIR: downloads all files of a server's folder.
 // Each logs in anonymously. The time is measured from outside, including start and login, as for the other programs.
+#include "bench/noprompts.h"
 #include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
@@ -11,7 +12,6 @@
 #include "ftp/remotelisting.h"
 #include "ftp/sessiondisplay.h"
 #include "ftp/transferengine.h"
-#include "noprompts.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -13,8 +13,8 @@
 // The program is killed at the end. With --close its window is closed before that, so that it leaves its settings
 // behind. With --trace it logs to stderr what is painted when, and how much processor time has been used by then.
 
-#include "processtree.h"
-#include "screen.h"
+#include "bench/processtree.h"
+#include "bench/screen.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "processtree.h"
+#include "bench/processtree.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "screen.h"
+#include "bench/screen.h"
 
 #include <algorithm>
 #include <cstdlib>

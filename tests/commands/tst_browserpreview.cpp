@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "routerbench.h"
+#include "commands/routerbench.h"
 #include "support/testregistry.h"
 
 #include <QTest>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/routerbench.h"
 #include "core/errorstyles.h"
-#include "routerbench.h"
 #include "support/testregistry.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/palettetable.h"
+#include "commands/routerbench.h"
 #include "commands/tagsmenu.h"
-#include "routerbench.h"
 #include "support/testregistry.h"
 
 #include <QTest>

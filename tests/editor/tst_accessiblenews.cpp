@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/accessibleeditor.h"
 #include "editor/accessiblenews.h"
-#include "editorfixture.h"
+#include "editor/editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bidipainter.h"
-#include "editorfixture.h"
+#include "editor/editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QGuiApplication>

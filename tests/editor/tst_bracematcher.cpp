@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bracematcher.h"
+#include "editor/editorfixture.h"
 #include "editor/indicators.h"
-#include "editorfixture.h"
 #include "support/testregistry.h"
 
 using namespace Qt::StringLiterals;

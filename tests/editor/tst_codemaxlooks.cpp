@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/colouritems.h"
+#include "editor/editorfixture.h"
 #include "editor/editormargins.h"
-#include "editorfixture.h"
 #include "support/sourcefolder.h"
 #include "support/testregistry.h"
 #include "widgets/qtvalues.h"

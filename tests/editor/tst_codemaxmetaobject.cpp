@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editorfixture.h"
+#include "editor/editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QDialog>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/codemaxglobals.h"
 #include "editor/colouritems.h"
-#include "editorfixture.h"
+#include "editor/editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QRandomGenerator>

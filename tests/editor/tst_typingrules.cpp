@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/editorfixture.h"
 #include "editor/typingrules.h"
-#include "editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QKeyEvent>

@@ -4,9 +4,17 @@
 #include "support/formnames.h"
 #include "support/testregistry.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTemporaryFile>
 #include <QTest>
-#include <QtWidgets>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;

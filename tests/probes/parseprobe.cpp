@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // parseprobe NAME < input: prints the result of the parser of that name. Without a name it prints all names.
-#include "parsers.h"
+#include "probes/parsers.h"
 
 #include <QFile>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "parsers.h"
+#include "probes/parsers.h"
 
 #include "core/errorstyles.h"
 #include "files/privateprofile.h"

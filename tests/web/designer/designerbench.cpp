@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "designerbench.h"
+#include "web/designer/designerbench.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/errorstyles.h"
-#include "designerbench.h"
 #include "support/testregistry.h"
+#include "web/designer/designerbench.h"
 
 #include <QRandomGenerator>
 
