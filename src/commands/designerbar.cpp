@@ -81,7 +81,8 @@ void DesignerBar::disableAll()
 {
     m_font->setEditText({});
     m_size->setEditText({});
-    for (QAction *action : actions())
+    const QList<QAction *> all = actions();
+    for (QAction *action : all)
         action->setEnabled(false);
 }
 

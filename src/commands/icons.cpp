@@ -32,8 +32,9 @@ void setCommandIcon(QAction *action, QStringView icon)
 IconTheme::IconTheme(QGuiApplication &application) : QObject(&application)
 {
     QStringList folders = QIcon::themeSearchPaths();
-    for (const QString &folder :
-         QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, u"icons"_s, QStandardPaths::LocateDirectory)) {
+    const QStringList installed =
+        QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, u"icons"_s, QStandardPaths::LocateDirectory);
+    for (const QString &folder : installed) {
         if (!folders.contains(folder))
             folders.append(folder);
     }

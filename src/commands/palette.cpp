@@ -66,7 +66,8 @@ private:
             return;
         m_isBuilt = true;
         std::size_t row = 0;
-        for (QAction *action : actions()) {
+        const QList<QAction *> all = actions();
+        for (QAction *action : all) {
             const QStringView icon = m_table.buttons[row++].icon;
             setCommandIcon(action, icon);
             QActionEvent added(QEvent::ActionAdded, action);

@@ -125,7 +125,8 @@ std::optional<QString> DesktopPrompts::input(const InputRequest &request)
     dialog->setLabelText(request.text);
     dialog->setTextValue(request.initial);
     // By default labels interpret text that looks like markup, and the questions here are about markup.
-    for (QLabel *label : dialog->findChildren<QLabel *>())
+    const QList<QLabel *> labels = dialog->findChildren<QLabel *>();
+    for (QLabel *label : labels)
         label->setTextFormat(Qt::PlainText);
     if (auto *line = dialog->findChild<QLineEdit *>())
         line->selectAll();

@@ -88,10 +88,11 @@ void restore(QWidget &form, const Placement &placement)
     place.setHeight(placement.pixels(UserSetting::WindowHeight, fitting.height()));
     place.setWidth(placement.pixels(UserSetting::WindowWidth, fitting.width()));
 
-    QList<QRect> screens;
-    for (const QScreen *screen : QGuiApplication::screens())
-        screens.append(screen->availableGeometry());
-    place = placeOnScreens(place, screens);
+    QList<QRect> areas;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *each : screens)
+        areas.append(each->availableGeometry());
+    place = placeOnScreens(place, areas);
     form.move(place.topLeft());
     form.resize(place.size());
 

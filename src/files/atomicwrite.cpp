@@ -175,7 +175,8 @@ int AtomicWrite::keepAttributes()
         return 0;
     QByteArray names(size, Qt::Uninitialized);
     names.truncate(std::max<ssize_t>(m_calls.listxattr(target, names.data(), static_cast<std::size_t>(size)), 0));
-    for (const QByteArray &name : names.split('\0')) {
+    const QList<QByteArray> all = names.split('\0');
+    for (const QByteArray &name : all) {
         if (name.startsWith("user."))
             copy(name.constData());
     }

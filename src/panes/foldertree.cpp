@@ -86,7 +86,7 @@ void addNew(QTreeWidgetItem *item, const QStringList &names)
         return;
     }
     int row = 0;
-    for (QTreeWidgetItem *child : fresh) {
+    for (QTreeWidgetItem *child : std::as_const(fresh)) {
         while (row < item->childCount() && item->child(row)->text(0).compare(child->text(0), Qt::CaseInsensitive) < 0)
             ++row;
         item->insertChild(row, child);
@@ -259,7 +259,7 @@ void FolderTree::followChanged(const QSet<QString> &folders)
             if (isRead(*it) && watchedPathOf(*it) == folder)
                 items.append(*it);
         }
-        for (QTreeWidgetItem *item : items)
+        for (QTreeWidgetItem *item : std::as_const(items))
             follow(item);
     }
 }

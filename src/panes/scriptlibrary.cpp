@@ -60,7 +60,8 @@ void ScriptLibrary::listFolder(const QString &folder)
     m_files->setPath(folder);
     m_scripts->clear();
     const QIcon picture = themeIcon(u"dialog-scripts"_s);
-    for (const QString &name : m_files->entries()) {
+    const QStringList names = m_files->entries();
+    for (const QString &name : names) {
         auto *item = new QListWidgetItem(picture, name.chopped(endingLength), m_scripts);
         item->setData(KeyRole, name);
     }

@@ -95,7 +95,8 @@ void frmselprj::listCustomTemplates()
 {
     QListWidget *list = m_ui->ListView2;
     const QIcon picture = style()->standardIcon(QStyle::SP_FileIcon);
-    for (const QString &name : customTemplateNames(m_customFolder)) {
+    const QStringList names = customTemplateNames(m_customFolder);
+    for (const QString &name : names) {
         auto *item = new QListWidgetItem(picture, name, list);
         item->setFlags(item->flags() | Qt::ItemIsEditable);
     }

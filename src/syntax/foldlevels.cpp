@@ -53,7 +53,8 @@ FoldRules::FoldRules(const LanguageDefinition &definition)
     , m_everyElement(definition.language.Style == 1 && !has(definition.dialect, Dialect::Html))
 {
     const auto addAll = [this](const QString &list, Scope scope) {
-        for (const QByteArray &entry : entriesOf(list))
+        const QByteArrayList entries = entriesOf(list);
+        for (const QByteArray &entry : entries)
             m_scopes.add(entry, scope);
     };
     addAll(definition.language.ScopeKeywords1, Opens);

@@ -93,7 +93,8 @@ ProceduralLexer::ProceduralLexer(const LanguageDefinition &definition)
 
 void ProceduralLexer::addWords(const QString &list, TokenKind kind)
 {
-    for (const QByteArray &entry : entriesOf(list))
+    const QByteArrayList entries = entriesOf(list);
+    for (const QByteArray &entry : entries)
         addEntry(entry, kind);
 }
 

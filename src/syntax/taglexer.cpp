@@ -23,7 +23,8 @@ bool is(Byte byte, Byte property)
 
 TagLexer::Names::Names(const QString &list, bool caseSensitive) : words(caseSensitive), all(list.isEmpty())
 {
-    for (const QByteArray &entry : entriesOf(list)) {
+    const QByteArrayList entries = entriesOf(list);
+    for (const QByteArray &entry : entries) {
         if (entry.endsWith('*'))
             beginnings.push_back(caseSensitive ? entry.chopped(1) : entry.chopped(1).toLower());
         else
@@ -52,7 +53,8 @@ TagLexer::TagLexer(const LanguageDefinition &definition)
     , m_entities({}, true)
 {
     const CodeMaxLanguage &language = definition.language;
-    for (QByteArray entity : entriesOf(language.TagEntities)) {
+    const QByteArrayList entities = entriesOf(language.TagEntities);
+    for (QByteArray entity : entities) {
         entity.replace('&', "").replace(';', "");
         m_entities.words.add(entity, knownName);
     }
@@ -64,7 +66,8 @@ TagLexer::TagLexer(const LanguageDefinition &definition)
         m_stopsText[static_cast<Byte>(begins[i].front())] = true;
     }
     std::size_t quote = 0;
-    for (const QByteArray &delimiter : entriesOf(language.StringDelims)) {
+    const QByteArrayList delimiters = entriesOf(language.StringDelims);
+    for (const QByteArray &delimiter : delimiters) {
         if (delimiter.size() == 1 && quote < m_quotes.size())
             m_quotes[quote++] = static_cast<Byte>(delimiter.front());
     }

@@ -25,7 +25,8 @@ frmTags::~frmTags() = default;
 
 void frmTags::insertSelected()
 {
-    for (const QListWidgetItem *item : m_ui->TagList->selectedItems()) {
+    const QList<QListWidgetItem *> selected = m_ui->TagList->selectedItems();
+    for (const QListWidgetItem *item : selected) {
         const QStringView markup = paletteMarkup(item->text());
         if (!markup.isNull())
             m_editor.setSelText(markup.toString());

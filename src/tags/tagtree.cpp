@@ -44,13 +44,15 @@ Result<void> TagTree::LoadTagTree()
     const QIcon tagPicture = themeIcon(u"tag"_s);
     const QIcon attributePicture = themeIcon(u"code-variable"_s);
     QList<QTreeWidgetItem *> nodes;
-    for (const QString &caption : tagCaptions(lines.value()))
+    const QStringList captions = tagCaptions(lines.value());
+    for (const QString &caption : captions)
         nodes.append(node(caption, tagPicture));
     for (const BuiltInTag &tag : builtInTags()) {
         QTreeWidgetItem *item = node(tag.caption.toString(), tagPicture);
         item->setData(0, KeyRole, tag.key.toString());
-        for (const QString &caption : attributeCaptions(tag))
-            item->addChild(node(caption, attributePicture));
+        const QStringList attributes = attributeCaptions(tag);
+        for (const QString &attribute : attributes)
+            item->addChild(node(attribute, attributePicture));
         nodes.append(item);
     }
     addTopLevelItems(nodes);

@@ -44,7 +44,7 @@ void DesignerContextMenu::show()
 
     QStringList texts;
     QList<DesignerMenuState> states;
-    for (const DesignerContextEntry &entry : m_entries) {
+    for (const DesignerContextEntry &entry : std::as_const(m_entries)) {
         texts.append(entry.text);
         states.append(entry.state);
     }

@@ -24,7 +24,8 @@ void DriveBox::refill()
     const QString current = currentText();
     const QIcon picture = themeIcon(u"drive-harddisk"_s);
     clear();
-    for (const QString &drive : mountedDrives())
+    const QStringList drives = mountedDrives();
+    for (const QString &drive : drives)
         addItem(picture, drive);
     setCurrentIndex(qMax(0, findText(current)));
 }

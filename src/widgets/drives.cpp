@@ -19,7 +19,8 @@ QStringList drivesOf(QStringList mountPoints)
 QStringList mountedDrives()
 {
     QStringList mountPoints;
-    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+    const QList<QStorageInfo> volumes = QStorageInfo::mountedVolumes();
+    for (const QStorageInfo &volume : volumes) {
         // Pseudo file systems have no size and no files to edit. A mount point can also be a single file.
         if (volume.isReady() && volume.bytesTotal() > 0 && QFileInfo(volume.rootPath()).isDir())
             mountPoints.append(volume.rootPath());

@@ -52,7 +52,8 @@ bool matchesWildcard(QStringView pattern, QStringView name)
 
 FilePatterns::FilePatterns(const QString &list)
 {
-    for (const QString &part : list.split(u';')) {
+    const QStringList parts = list.split(u';');
+    for (const QString &part : parts) {
         const QString pattern = Trim(part);
         if (!pattern.isEmpty())
             m_patterns.append(pattern == u"*.*"_s ? u"*"_s : pattern.toCaseFolded());

@@ -155,7 +155,8 @@ KeptPictures::Shelf KeptPictures::readShelf() const
 QString KeptPictures::stamp() const
 {
     QString stamp = textOf(m_files.signature(m_program));
-    for (const QString &folder : QIcon::themeSearchPaths()) {
+    const QStringList folders = QIcon::themeSearchPaths();
+    for (const QString &folder : folders) {
         for (const QString &name : {u"index.theme"_s, u"icon-theme.cache"_s})
             stamp += u' ' + textOf(m_files.signature(folder + u'/' + m_theme + u'/' + name));
     }
