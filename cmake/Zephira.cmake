@@ -14,7 +14,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_library(zephira_rules INTERFACE)
 target_compile_features(zephira_rules INTERFACE cxx_std_20)
 target_compile_options(zephira_rules INTERFACE
-  -Wall -Wextra -Wconversion -fstack-protector-strong
+  -Wall -Wextra -Wconversion -Wold-style-cast -fstack-protector-strong
   $<$<BOOL:${ZEPHIRA_WERROR}>:-Werror>
   # The hardened libc needs the optimiser, and the sanitizers bring checks of their own.
   $<$<AND:$<NOT:$<CONFIG:Debug>>,$<NOT:$<BOOL:${ZEPHIRA_SANITIZE}>>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>)
