@@ -4,6 +4,7 @@
 #include "commands/icons.h"
 #include "views/designerbarstate.h"
 #include "views/designercommands.h"
+#include "widgets/tipwithkeys.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
@@ -40,6 +41,7 @@ DesignerBar::DesignerBar(QWidget *parent) : QToolBar(u"Visual designer"_s, paren
     for (const DesignerButton &button : designerButtons()) {
         QAction *action = addAction(button.tip.toString());
         action->setObjectName(button.key);
+        action->setToolTip(tipWithKeys(button.tip, button.keys));
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, &button] { Q_EMIT buttonClicked(button.key.toString()); });
     }

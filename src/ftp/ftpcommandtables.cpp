@@ -91,18 +91,18 @@ constexpr FtpToolKey localKeys[] = {
     {u"Reload", u"zLokRef", u"Read the local folder again", Local},
     {u"Upload", u"zLokUp", u"Upload the selected files", Local, u"Upload"},
     {u"NewFolder", u"zLokNF", u"Create a folder here", Local},
-    {u"DelFolder", u"zLokDF", u"Remove the local folder", Local},
-    {u"DelFile", u"zLokDS", u"Delete the selected local files", Local},
-    {u"Rename", u"zLokRS", u"Rename the selected local file", Local},
+    {u"DelFolder", u"zLokDF", u"Remove the local folder", Local, {}, u"Del"},
+    {u"DelFile", u"zLokDS", u"Delete the selected local files", Local, {}, u"Del"},
+    {u"Rename", u"zLokRS", u"Rename the selected local file", Local, {}, u"F2"},
 };
 
 constexpr FtpToolKey remoteKeys[] = {
     {u"Reload2", u"zRemRef", u"Read the server's folder again", Server},
     {u"DownLoad", u"zRemDown", u"Download the selected files", Server, u"Download"},
     {u"NewFolder2", u"zRemNF", u"Create a folder on the server", Server},
-    {u"DelFolder2", u"zRemDF", u"Remove the server's folder", Server},
-    {u"DelFile2", u"zRemDS", u"Delete the selected files on the server", Server},
-    {u"Rename2", u"zRemRS", u"Rename the selected file on the server", Server},
+    {u"DelFolder2", u"zRemDF", u"Remove the server's folder", Server, {}, u"Del"},
+    {u"DelFile2", u"zRemDS", u"Delete the selected files on the server", Server, {}, u"Del"},
+    {u"Rename2", u"zRemRS", u"Rename the selected file on the server", Server, {}, u"F2"},
 };
 
 } // namespace

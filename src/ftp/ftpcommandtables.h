@@ -31,6 +31,8 @@ struct FtpToolKey {
     enum class Side { None, Local, Server } side = Side::None;
     /// Text beside the picture, or empty.
     QStringView label = {};
+    /// What does the same in the list that it acts on, or empty.
+    QStringView pressed = {};
 };
 
 /// The tool bar has two groups: the connection with the local side, and the server's side.

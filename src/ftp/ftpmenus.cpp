@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/ftpmenus.h"
 
+#include "widgets/tipwithkeys.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -98,7 +100,7 @@ void FtpMenus::addKeys(QToolBar &toolBar, std::span<const FtpToolKey> keys)
         QAction *key = toolBar.addAction(pictureOf(does.icon(), row.side, toolBar),
                                          row.label.isEmpty() ? row.tip.toString() : row.label.toString());
         key->setObjectName(row.key.toString());
-        key->setToolTip(row.tip.toString());
+        key->setToolTip(tipWithKeys(row.tip, row.pressed));
         auto *button = qobject_cast<QToolButton *>(toolBar.widgetForAction(key));
         button->setAccessibleName(row.tip.toString());
         if (!row.label.isEmpty())

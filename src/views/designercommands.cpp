@@ -11,9 +11,9 @@ using enum DesignerCommand;
 
 // The user sees what a button does; its key is just an internal name.
 constexpr DesignerButton buttons[] = {
-    {u"Bold", Bold, u"Bold", u"format-text-bold"},
-    {u"Italic", Italic, u"Italic", u"format-text-italic"},
-    {u"Underline", Underline, u"Underline", u"format-text-underline"},
+    {u"Bold", Bold, u"Bold", u"format-text-bold", u"Ctrl+B"},
+    {u"Italic", Italic, u"Italic", u"format-text-italic", u"Ctrl+I"},
+    {u"Underline", Underline, u"Underline", u"format-text-underline", u"Ctrl+U"},
     {u"Numbers", OrderedList, u"Numbered list", u"format-list-ordered"},
     {u"Bullets", UnorderedList, u"Bulleted list", u"format-list-unordered"},
     {u"Outdent", Indent, u"Indent", u"format-indent-more"},

@@ -16,6 +16,8 @@ struct DesignerButton {
     QStringView tip;
     /// Name of an icon in the theme.
     QStringView icon;
+    /// The page's own keys for it, or empty.
+    QStringView keys = {};
 };
 
 /// Eleven rows. The keys "Outdent" and "Indent" are swapped with respect to their commands: the button named Indent

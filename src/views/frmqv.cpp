@@ -4,6 +4,7 @@
 #include "ui_frmqv.h"
 #include "views/picturefile.h"
 #include "views/quickviewrules.h"
+#include "widgets/tipwithkeys.h"
 
 #include "core/editingcontrol.h"
 #include "core/prompts.h"
@@ -46,16 +47,17 @@ void frmqv::addButtons()
         QStringView caption;
         QStringView icon;
         void (frmqv::*action)();
+        QStringView keys = {};
     };
     static constexpr Button buttons[] = {
-        {u"copy", u"Copy", u"edit-copy", &frmqv::copySelection},
+        {u"copy", u"Copy", u"edit-copy", &frmqv::copySelection, u"Ctrl+C"},
         {u"help", u"Help", u"help-contents", &frmqv::explain},
         {u"cate", u"Copy All Text to clipboard", u"edit-select-all", &frmqv::copyAll},
     };
     for (const Button &button : buttons) {
         auto *action = new QAction(QIcon::fromTheme(button.icon.toString()), button.caption.toString(), this);
         action->setObjectName(button.key);
-        action->setToolTip(action->text());
+        action->setToolTip(tipWithKeys(button.caption, button.keys));
         connect(action, &QAction::triggered, this, button.action);
         m_ui->tBar->addAction(action);
     }

@@ -2,6 +2,7 @@
 #include "views/previewpane.h"
 
 #include "core/browser.h"
+#include "widgets/tipwithkeys.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -23,13 +24,15 @@ struct NavigationButton {
     QStringView tip;
     QStringView icon;
     void (*go)(Browser &);
+    /// What PreviewPane takes for it, or empty.
+    QStringView keys = {};
 };
 
 constexpr NavigationButton navigationButtons[] = {
     {u"back", u"Back", u"go-previous", [](Browser &browser) { browser.goBack(); }},
     {u"forward", u"Forward", u"go-next", [](Browser &browser) { browser.goForward(); }},
     {u"stop", u"Stop loading", u"process-stop", [](Browser &browser) { browser.stop(); }},
-    {u"refresh", u"Load the page again", u"view-refresh", [](Browser &browser) { browser.refresh(); }},
+    {u"refresh", u"Load the page again", u"view-refresh", [](Browser &browser) { browser.refresh(); }, u"F5"},
     {u"home", u"Back to the document", u"go-home", [](Browser &browser) { browser.goHome(); }},
 };
 
@@ -85,6 +88,7 @@ void PreviewPane::addButtons()
     for (const NavigationButton &button : navigationButtons) {
         QAction *action = m_buttons->addAction(button.tip.toString());
         action->setObjectName(button.key);
+        action->setToolTip(tipWithKeys(button.tip, button.keys));
         connect(action, &QAction::triggered, this, [this, go = button.go] { go(m_browser); });
     }
 }

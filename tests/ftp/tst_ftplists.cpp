@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ftp/ftpcommandtables.h"
 #include "ftp/ftpwindowbench.h"
+#include "support/scrollbars.h"
 #include "support/testregistry.h"
 
 #include <QAction>
@@ -38,6 +40,9 @@ class TstFtpLists final : public QObject
 
 private Q_SLOTS:
     void toolBarTellsTheSidesApart();
+    void theKeysInItsTips();
+    void noScrollBarWithoutNeed_data();
+    void noScrollBarWithoutNeed();
     void nodesWithTheMouse();
     void doubleClickedNodeIsListedOnce();
     void renameWithTheKey();
@@ -72,6 +77,64 @@ void TstFtpLists::toolBarTellsTheSidesApart()
         const auto pixels = [&](const QString &name) { return button(name)->icon().pixmap(bar.iconSize()).toImage(); };
         QVERIFY2(pixels(key) != pixels(key + u'2'), qPrintable(key));
         QVERIFY(button(key)->toolTip() != button(key + u'2')->toolTip());
+    }
+}
+
+/// The keys that a tip names do in their list what the button does, and a button whose keys these are names them.
+void TstFtpLists::theKeysInItsTips()
+{
+    Bench bench;
+    bench.open();
+    QStringList heard;
+    bench.world.prompts.onFailure = [&](const QString &message) { heard.append(message); };
+    const auto listOf = [&](const FtpToolKey &row) -> QWidget & {
+        const bool isLocal = row.side == FtpToolKey::Side::Local;
+        if (row.key.startsWith(u"DelFolder"))
+            return isLocal ? static_cast<QWidget &>(bench.folders()) : bench.tree();
+        return isLocal ? bench.local() : bench.remote();
+    };
+    int named = 0;
+    for (const std::span<const FtpToolKey> rows : {localToolKeys(), remoteToolKeys()}) {
+        for (const FtpToolKey &row : rows) {
+            const QString key = row.key.toString();
+            const QString tip = bench.form->get<QAction>(key).toolTip();
+            QCOMPARE(tip, row.pressed.isEmpty() ? row.tip.toString() : u"%1 (%2)"_s.arg(row.tip, row.pressed));
+            if (row.pressed.isEmpty())
+                continue;
+            ++named;
+            heard.clear();
+            bench.choose(key);
+            listOf(row).setFocus();
+            const QKeySequence keys(row.pressed.toString(), QKeySequence::PortableText);
+            QTest::keyClick(&listOf(row), keys[0].key(), keys[0].keyboardModifiers());
+            QVERIFY2(heard.size() == 2, qPrintable(key + u": "_s + heard.join(u'\n')));
+            QCOMPARE(heard[1], heard[0]);
+        }
+    }
+    QCOMPARE(named, 6);
+}
+
+void TstFtpLists::noScrollBarWithoutNeed_data()
+{
+    QTest::addColumn<int>("files");
+    for (const int files : {0, 1, 5, 12, 40, 200})
+        QTest::addRow("%d files", files) << files;
+}
+
+void TstFtpLists::noScrollBarWithoutNeed()
+{
+    QFETCH(int, files);
+    Bench bench;
+    for (int i = 0; i < files; ++i) {
+        bench.write(u"page %1.htm"_s.arg(i), QByteArray(i * 100, 'x'));
+        bench.operations.folders[u"/*.*"_s].push_back(foundFile(u"remote page %1.htm"_s.arg(i), quint64(i) * 1000));
+    }
+    bench.openConnected();
+    for (const QString &view : {u"BigIc"_s, u"SmallIc"_s, u"Seznam"_s, u"Report"_s}) {
+        bench.choose(u"zt"_s + view);
+        bench.choose(u"zs"_s + view);
+        const QStringList found = needlessScrollBars(bench.form->widget());
+        QVERIFY2(found.isEmpty(), qPrintable(view + u": "_s + found.join(u'\n')));
     }
 }
 
