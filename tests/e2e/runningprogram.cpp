@@ -53,6 +53,8 @@ RunningProgram::RunningProgram(const ProgramFolder &folder, const QStringList &a
     environment.insert(u"XDG_DATA_HOME"_s, folder.home() + u"/.local/share"_s);
     environment.insert(u"XDG_CACHE_HOME"_s, folder.home() + u"/.cache"_s);
     environment.insert(u"PATH"_s, folder.tools() + u':' + environment.value(u"PATH"_s));
+    // No test may reach a printer of the machine.
+    environment.insert(u"CUPS_SERVER"_s, folder.home() + u"/no-printers"_s);
     m_process.setProcessEnvironment(environment);
     QStringList command = wrapper + QStringList(folder.executable()) + arguments;
     const QString first = command.takeFirst();

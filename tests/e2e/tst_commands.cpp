@@ -232,6 +232,32 @@ private Q_SLOTS:
         QCOMPARE(ReadIni(u"Font"_s, u"Size"_s, folder.ini()), u"11"_s);
     }
 
+    /// The desktop's own dialog proposes the file's name, or one for a text that has no file.
+    void printingIntoAFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("proposed");
+        QTest::newRow("no file yet") << QString() << u"Untitled.pdf"_s;
+        QTest::newRow("a page") << u"page.html"_s << u"page.pdf"_s;
+        QTest::newRow("no suffix") << u"Makefile"_s << u"Makefile.pdf"_s;
+    }
+
+    void printingIntoAFile()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, proposed);
+        ProgramFolder folder;
+        const QString path = name.isEmpty() ? QString() : folder.write(name, "text");
+        const QString caption = path.isEmpty() ? untitled : RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path.isEmpty() ? u"/nodialog"_s : path});
+        QVERIFY(program.waitForWindow(caption));
+        program.type(caption, u"words"_s);
+        program.key(caption, u"ctrl+p"_s);
+        program.answer(u"Print"_s, u"Return"_s);
+        const auto isThere = [&] { return ProgramFolder::read(folder.home() + u'/' + proposed).startsWith("%PDF"); };
+        QVERIFY2(QTest::qWaitFor(isThere, patience), qPrintable(QDir(folder.home()).entryList(QDir::Files).join(u' ')));
+    }
+
     void aSecondWindowIsASecondProcess()
     {
         ProgramFolder folder;
