@@ -5,7 +5,9 @@
 #include "app/endsignals.h"
 #include "app/failedstart.h"
 #include "app/frmmain.h"
+#include "app/sessionend.h"
 #include "app/startprocedure.h"
+#include "app/suddenend.h"
 #include "app/windowend.h"
 #include "commands/icons.h"
 #include "commands/iconstates.h"
@@ -37,7 +39,6 @@
 #include <QDir>
 #include <QPointer>
 #include <QScopeGuard>
-#include <QSessionManager>
 #include <QStandardPaths>
 
 #include <cstdlib>
@@ -147,14 +148,8 @@ int runProgram(QApplication &application, const QString &argument)
                         }});
     const EndSignals endSignals;
     QObject::connect(&endSignals, &EndSignals::received, &window, [&window] { window.windowEnd().endNow(); });
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, [&window](QSessionManager &session) {
-        const bool canAsk = session.allowsInteraction();
-        const bool agreed = window.windowEnd().agreesToSessionEnd(canAsk);
-        if (canAsk)
-            session.release();
-        if (!agreed)
-            session.cancel();
-    });
+    const SessionEnd sessionEnd(application, window.windowEnd());
+    const SuddenEnd suddenEnd([&window] { window.windowEnd().keepAtSuddenEnd(); });
     try {
         runStartProcedure(window, argument);
     } catch (const HandlerError &error) {

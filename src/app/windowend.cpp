@@ -49,6 +49,24 @@ bool WindowEnd::agreesToSessionEnd(bool canAsk)
     return true;
 }
 
+void WindowEnd::endWithSession()
+{
+    // The application is also told to quit when its last window has closed, and by then everything is done.
+    if (m_hasEnded)
+        return;
+    leaveInOrder();
+    ignoringErrors({[this] { keepWhatIsUnsaved(); }});
+    endProcess();
+}
+
+void WindowEnd::keepAtSuddenEnd()
+{
+    // What the designer holds would have to be asked for; its last copy is no older than a few seconds.
+    const Document &document = m_window.document();
+    if (document.docModified() && !document.holdsDesignersWork())
+        m_recovery.writeNow();
+}
+
 void WindowEnd::start(const QString &program, const QStringList &arguments)
 {
     const Result<void> started = m_services.shell.start(program, arguments);
@@ -85,6 +103,7 @@ void WindowEnd::setHighlightMode(int mode)
 /// Ends the process as soon as the running commands have returned.
 void WindowEnd::endProcess()
 {
+    m_hasEnded = true;
     m_window.router().abandon();
     m_services.endProcess();
 }
@@ -92,17 +111,22 @@ void WindowEnd::endProcess()
 /// The clean-up when the window closes. Each step runs even if the previous one failed.
 void WindowEnd::unload()
 {
+    leaveInOrder();
+    ignoringErrors({[this] {
+        // A text whose save failed stays as a recovery copy.
+        if (m_window.document().saveFailedAtClose())
+            m_recovery.writeNow();
+        else
+            m_recovery.discard();
+    }});
+}
+
+void WindowEnd::leaveInOrder()
+{
     ignoringErrors({
         [this] { FormPosition(m_window, true, m_services.settings); },
         [this] { m_window.forms().closeAll(); },
         [this] { m_window.document().discardPreview(); },
-        [this] {
-            // A text whose save failed stays as a recovery copy.
-            if (m_window.document().saveFailedAtClose())
-                m_recovery.writeNow();
-            else
-                m_recovery.discard();
-        },
     });
 }
 

@@ -26,6 +26,12 @@ public:
     /// The desktop session is about to end. Returns whether it may: if the user can be asked, only if the user agrees;
     /// otherwise always, after unsaved text was written to a recovery copy.
     bool agreesToSessionEnd(bool canAsk);
+    /// The session is over: leaves everything in order but what is not saved, of which a recovery copy stays, and ends the
+    /// process.
+    void endWithSession();
+    /// The process ends in the middle of something, without its window: what is not saved stays as a recovery copy as far
+    /// as it can be had at once.
+    void keepAtSuddenEnd();
 
     // WindowCommands
     void newWindow() override;
@@ -36,12 +42,14 @@ public:
 private:
     void start(const QString &program, const QStringList &arguments);
     void unload();
+    void leaveInOrder();
     void keepWhatIsUnsaved();
     void endProcess();
 
     frmmain &m_window;
     const WindowServices &m_services;
     RecoveryKeeper &m_recovery;
+    bool m_hasEnded = false;
 };
 
 } // namespace zephira

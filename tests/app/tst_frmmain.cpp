@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/recoverybar.h"
+#include "app/sessionend.h"
 #include "app/statuspanels.h"
 #include "app/windowbench.h"
 #include "app/windowend.h"
@@ -464,6 +465,43 @@ private Q_SLOTS:
         QVERIFY(window.windowEnd().agreesToSessionEnd(false));
         QCOMPARE(copies().size(), 1);
         QCOMPARE(bench.ended, 0); // The session manager ends the program.
+    }
+
+    /// What the session tells an application at its end would by itself close the windows, and so ask again.
+    void theEndOfTheSessionAsksOnce()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.show();
+        const SessionEnd sessionEnd(*qApp, window.windowEnd());
+        const auto copies = [&] { return QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files); };
+        window.rt().setSelText(u"typed"_s);
+        QVERIFY(window.windowEnd().agreesToSessionEnd(false));
+        window.rt().setSelText(u" later"_s);
+        QEvent quit(QEvent::Quit);
+        QCoreApplication::sendEvent(qApp, &quit);
+        QCOMPARE(bench.ended, 1);
+        QCOMPARE(copies().size(), 1);
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies().front()), QByteArray("typed later"));
+        QVERIFY(!bench.settings.values.empty());
+        // The application is told again when its last window goes.
+        QCoreApplication::sendEvent(qApp, &quit);
+        QCOMPARE(bench.ended, 1);
+    }
+
+    /// Without the window: nothing is asked for, shown or waited for.
+    void aSuddenEndLeavesACopy()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        const auto copies = [&] { return QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files); };
+        window.windowEnd().keepAtSuddenEnd();
+        QCOMPARE(copies(), QStringList());
+        window.rt().setSelText(u"typed"_s);
+        window.windowEnd().keepAtSuddenEnd();
+        QCOMPARE(copies().size(), 1);
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies().front()), QByteArray("typed"));
+        QCOMPARE(bench.ended, 0);
     }
 
     void textsThatACrashLeftAreOfferedAboveTheText()

@@ -2,6 +2,7 @@
 #include "app/webbench.h"
 #include "support/eventwait.h"
 #include "support/testregistry.h"
+#include "views/designercommands.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -342,6 +343,58 @@ private Q_SLOTS:
         QVERIFY2(bench.html().contains(u"<h2>old</h2>"_s), qPrintable(bench.html()));
         Q_EMIT bench.find<QMenu>(u"Format"_s)->aboutToShow();
         QVERIFY(heading->isChecked());
+    }
+
+    /// Of the formats that the menu offers the one that was chosen is ticked, and no other.
+    void theFormatMenuTicksEachFormat()
+    {
+        WebBench bench(u"page.html"_s, pageText);
+        QVERIFY(bench.design());
+        const auto entry = [&](int i) { return bench.find<QAction>(u"FormatSub_%1"_s.arg(i)); };
+        QVERIFY(waitUntil([&] { return !entry(0)->text().isEmpty(); }, WebBench::patience));
+        const auto ticked = [&] {
+            Q_EMIT bench.find<QMenu>(u"Format"_s)->aboutToShow();
+            QStringList names;
+            for (int i = 0; i < 16; ++i) {
+                if (entry(i)->isChecked())
+                    names.append(entry(i)->text());
+            }
+            return names;
+        };
+        QStringList chosen;
+        for (int i = 0; i < 16 && entry(i)->isVisible(); ++i) {
+            const QString name = entry(i)->text();
+            chosen.append(name);
+            bench.run(DesignerCommand::SelectAll);
+            Q_EMIT bench.find<QMenu>(u"Format"_s)->aboutToShow();
+            QVERIFY2(entry(i)->isEnabled(), qPrintable(name));
+            entry(i)->trigger();
+            // Both names stand for the element p.
+            const QStringList expected{name == u"Paragraph" ? u"Normal"_s : name};
+            QVERIFY2(waitUntil([&] { return ticked() == expected; }, WebBench::patience),
+                     qPrintable(name + u" chosen, ticked: "_s + ticked().join(u", ") + u"\n"_s + bench.html()));
+        }
+        QVERIFY2(chosen.size() > 8, qPrintable(chosen.join(u", ")));
+    }
+
+    /// The keys that the tips of the tool bar name.
+    void theKeysOfTheToolBar()
+    {
+        WebBench bench(u"page.html"_s, pageText);
+        QVERIFY(bench.design());
+        int keys = 0;
+        for (const DesignerButton &button : designerButtons()) {
+            if (button.keys.isEmpty())
+                continue;
+            ++keys;
+            bench.run(DesignerCommand::SelectAll);
+            QCOMPARE(bench.status(button.command), int(DesignerStatus::Enabled));
+            const QKeySequence pressed(button.keys.toString(), QKeySequence::PortableText);
+            QTest::keyClick(bench.keyboardOf(u"DHTMLEdit1"_s), pressed[0].key(), pressed[0].keyboardModifiers());
+            QVERIFY2(waitUntil([&] { return bench.status(button.command) == DesignerStatus::On; }, WebBench::patience),
+                     qPrintable(button.keys.toString()));
+        }
+        QCOMPARE(keys, 3);
     }
 
     void theTableDialog()

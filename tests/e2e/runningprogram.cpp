@@ -183,6 +183,11 @@ void RunningProgram::close(const QString &title) const
     key(title, u"alt+F4"_s); // The window manager turns it into a close request.
 }
 
+void RunningProgram::cutFromDisplay(const QString &title) const
+{
+    xdotool({u"windowkill"_s, windowId(title)});
+}
+
 QString RunningProgram::middleColour(const QString &title) const
 {
     const QByteArray colour =

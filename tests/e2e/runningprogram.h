@@ -50,6 +50,9 @@ public:
     /// Asks a window to close, as its close button does.
     void close(const QString &title) const;
 
+    /// Cuts the connection of the window's program to the display, as the display's own end does.
+    void cutFromDisplay(const QString &title) const;
+
     /// Colour of the screen in the middle of the window with that title, as "#RRGGBB".
     QString middleColour(const QString &title) const;
     /// Waits until the middle of the window has that colour.

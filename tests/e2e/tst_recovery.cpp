@@ -107,6 +107,23 @@ private Q_SLOTS:
         QCOMPARE(ProgramFolder::read(path), "text");
     }
 
+    /// So does one whose connection to the display is cut: nobody asks the program then, and the library ends it.
+    void aTextOutlivesItsDisplay()
+    {
+        ProgramFolder folder;
+        const QString path = folder.write(u"page.txt"_s, "text");
+        const QString caption = RunningProgram::captionOf(path);
+        RunningProgram program(folder, {path});
+        QVERIFY(program.waitForWindow(caption));
+        program.type(caption, u"unsaved "_s);
+        QCOMPARE(folder.recoveryCopies(), QStringList());
+        program.cutFromDisplay(caption);
+        QCOMPARE(program.waitForEnd(), 1);
+        QCOMPARE(folder.recoveryCopies().size(), 1);
+        QCOMPARE(ProgramFolder::read(folder.recoveryCopies().first()), "unsaved text");
+        QCOMPARE(ProgramFolder::read(path), "text");
+    }
+
     /// The copy of a killed process stays for the user to find: a later start leaves it alone and asks nothing.
     void aCopyOutlivesTheNextStart()
     {
