@@ -1,49 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // compact_bench FILE: the code view shows the file, gets the result of Compact, which is a single line, and then an
 // undo and a redo; each until it is painted.
-#include "bench/noprompts.h"
-#include "core/clock.h"
-#include "editor/codemax.h"
-#include "files/diskfilestore.h"
-#include "files/recoverycopies.h"
+#include "shownpage.h"
 #include "tools/sourceformatter.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QFile>
-#include <QTemporaryDir>
 
 using namespace zephira;
-using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A code view on the screen with a page in it.
-struct ShownPage {
-    explicit ShownPage(const QString &file)
-    {
-        editor.resize(1000, 700);
-        editor.setLanguage(u"HTML"_s);
-        if (!editor.openFile(file))
-            qFatal("can't read %s", qPrintable(file));
-        editor.show();
-        paint();
-    }
-
-    void paint()
-    {
-        editor.viewport()->repaint();
-        QApplication::processEvents();
-    }
-
-    NoPrompts prompts;
-    DiskFileStore files;
-    SystemClock clock;
-    QTemporaryDir folder;
-    RecoveryCopies recovery{folder.path(), files, clock};
-    CodeMax editor{{files, recovery, prompts}};
-};
 
 enum class Step { Compact, Undo, Redo };
 
@@ -51,7 +19,8 @@ void measure(benchmark::State &state, const QString &file, Step wanted)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        ShownPage page(file);
+        ShownPage page;
+        page.open(file);
         const auto take = [&](Step step) {
             if (step == wanted)
                 state.ResumeTiming();

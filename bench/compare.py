@@ -129,6 +129,22 @@ def typing(programs, report, inputs, _build, _work):
     report.row("jump to the end of 10 MB", ours["jump"], scite["jump"], 0.1, "SciTE")
 
 
+def long_line(programs, report, _inputs, build, work):
+    """A key in a page of 1 MB that is one line, and the ways through one of 10 MB, each until painted."""
+    pages = {}
+    for megabytes in (1, 10):
+        pages[megabytes] = work / f"line{megabytes}.html"
+        pages[megabytes].write_bytes(makehtml.line(megabytes * MB))
+    names = ["zephira", "SciTE"]
+    got = programs.interleaved(names, 5, pages[1], dict.fromkeys(names, ("--keys", "50")))
+    report.row("a key in a line of 1 MB, processor", got["zephira"]["key_start_us"], got["SciTE"]["key_start_us"], 1.0,
+               "SciTE", "µs")
+    times = in_process(build, "longline_bench", str(pages[10]))
+    for step in ("open", "scroll", "end"):
+        report.row(f"{step}, 10 MB in one line, painted", times[step] / 1e6, 500, 1.0, "0.5 s")
+    report.aim("a key in a line of 10 MB, painted", times["key"] / 1e6, 500, 1.0, "0.5 s")
+
+
 def preview(programs, report, _inputs, _build, work):
     """The first preview of a small page, from the key press, compared with a program that consists of a web view."""
     page = work / "small.html"
@@ -324,7 +340,7 @@ def ftp(_programs, report, _inputs, build, work):
         shutil.rmtree(target)
 
 
-GROUPS = {"start": start, "open": opening, "type": typing, "preview": preview, "designer": designer, "colour": colouring, "functions": functions, "tools": tools, "compact": compacting,
+GROUPS = {"start": start, "open": opening, "type": typing, "longline": long_line, "preview": preview, "designer": designer, "colour": colouring, "functions": functions, "tools": tools, "compact": compacting,
           "save": saving, "folder": local_folder, "ftpfolder": ftp_folder, "ftp": ftp}
 
 

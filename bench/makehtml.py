@@ -95,6 +95,16 @@ def page(size, kinds=(paragraph, table, form, script, style, heading), weights=(
     return b"".join(pieces)
 
 
+def line(size):
+    """The bytes of a page of exactly `size` bytes that is one paragraph of plain words, without a line end."""
+    dice = random.Random(21)
+    words = b"<p>"
+    while len(words) < size:
+        words += " ".join(dice.choices(WORDS, k=10000)).encode() + b" "
+    tail = b"</p>"
+    return words[:size - len(tail)].decode(errors="ignore").encode().ljust(size - len(tail)) + tail
+
+
 if __name__ == "__main__":
     with open(sys.argv[2], "wb") as file:
         file.write(page(int(sys.argv[1])))

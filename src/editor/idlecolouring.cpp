@@ -16,7 +16,7 @@ namespace {
 using Sci = QsciScintillaBase;
 
 /// The number of word widths that the engine caches for a text with long lines.
-constexpr int widthsRemembered = 16384;
+constexpr int widthsRemembered = 256 * 1024;
 /// The amount coloured at once while the window is painted, in bytes; it takes about as long as the painting itself.
 constexpr qsizetype immediateBytes = 256 * 1024;
 constexpr qsizetype sliceBytes = 64 * 1024;
@@ -125,8 +125,7 @@ void IdleColouring::settleEdit()
 void IdleColouring::colourTo(qsizetype position)
 {
     if (!m_language) {
-        m_editLine = -1;
-        m_engine.send(Sci::SCI_STARTSTYLING, m_engine.length());
+        passOver(position);
         return;
     }
     m_wanted = std::min(m_timer.isActive() ? std::max(m_wanted, position) : position, m_engine.length());
@@ -134,12 +133,34 @@ void IdleColouring::colourTo(qsizetype position)
         m_timer.start(0);
 }
 
+/// Text without a language has one style, which is broken where lines are long.
+void IdleColouring::passOver(qsizetype position)
+{
+    m_editLine = -1;
+    const qsizetype styled = m_engine.send(Sci::SCI_GETENDSTYLED);
+    if (styled >= m_engine.length())
+        return;
+    const qsizetype target = m_engine.lineOf(position);
+    for (qsizetype line = m_engine.lineOf(styled); line <= target; ++line) {
+        const qsizetype start = m_engine.lineStart(line);
+        const qsizetype size = m_engine.lineStart(line + 1) - start;
+        if (size <= longLineBytes)
+            continue;
+        m_styles.assign(static_cast<size_t>(size), static_cast<unsigned char>(SyntaxStyle::Text));
+        m_work += size;
+        showStyles(start, m_engine.bytes(start, start + size), {});
+    }
+    m_engine.send(Sci::SCI_STARTSTYLING, m_engine.lineStart(target + 1));
+}
+
 void IdleColouring::colourAll()
 {
     m_wanted = m_engine.length();
     m_timer.stop();
-    if (!m_language)
+    if (!m_language) {
+        passOver(m_wanted);
         return;
+    }
     while (!colourSome(m_wanted, immediateBytes)) {}
 }
 
@@ -212,10 +233,15 @@ IdleColouring::StyledLines IdleColouring::styleStretch(const Stretch &stretch, b
     }
     const qsizetype size = lines.stopped ? lines.offsets.back() : styled.end;
     m_work += size;
-    const std::span<const unsigned char> shown = shownStyles(text.first(size), lines.offsets);
-    m_engine.send(Sci::SCI_STARTSTYLING, start);
-    m_engine.sendText(Sci::SCI_SETSTYLINGEX, size, reinterpret_cast<const char *>(shown.data()));
+    showStyles(start, text.first(size), lines.offsets);
     return {std::move(lines.offsets), std::move(lines.states), size, lines.stopped};
+}
+
+void IdleColouring::showStyles(qsizetype start, QByteArrayView text, const std::vector<qsizetype> &offsets)
+{
+    const std::span<const unsigned char> shown = shownStyles(text, offsets);
+    m_engine.send(Sci::SCI_STARTSTYLING, start);
+    m_engine.sendText(Sci::SCI_SETSTYLINGEX, text.size(), reinterpret_cast<const char *>(shown.data()));
 }
 
 /// The styles of the text as passed to the engine: in long lines the runs are broken up. `offsets` are the starts of

@@ -75,12 +75,14 @@ private:
         int level = 0;
     };
 
+    void passOver(qsizetype position);
     void settleEdit();
     void slice();
     bool colourSome(qsizetype target, qsizetype bytes);
     qsizetype nextLine() const;
     Stretch nextStretch(qsizetype targetLine, qsizetype bytes) const;
     StyledLines styleStretch(const Stretch &stretch, bool mayStopEarly);
+    void showStyles(qsizetype start, QByteArrayView text, const std::vector<qsizetype> &offsets);
     std::span<const unsigned char> shownStyles(QByteArrayView text, const std::vector<qsizetype> &offsets);
     FoldedLines foldStretch(const Stretch &stretch, const StyledLines &styled);
     bool noteColoured(const StyledLines &styled, const FoldedLines &folded);

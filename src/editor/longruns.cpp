@@ -1,14 +1,77 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/longruns.h"
 
+#include <QChar>
+
+#include <algorithm>
+
 namespace zephira {
 
 namespace {
 
-bool isAscii(char byte)
+struct Character {
+    char32_t code = 0;
+    size_t size = 1;
+};
+
+Character characterAt(QByteArrayView text, size_t at)
 {
-    return static_cast<unsigned char>(byte) < 0x80;
+    const auto byte = [&](size_t i) { return static_cast<unsigned char>(text[static_cast<qsizetype>(i)]); };
+    const unsigned char first = byte(at);
+    const size_t size = first < 0xc0 ? 1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
+    if (size == 1 || at + size > static_cast<size_t>(text.size()))
+        return {first, 1};
+    char32_t code = first & (0x7f >> size);
+    for (size_t i = 1; i < size; ++i)
+        code = code << 6 | (byte(at + i) & 0x3f);
+    return {code, size};
 }
+
+/// Letters of alphabets that stand beside each other without touching, and what is written among them.
+bool isApart(char32_t code)
+{
+    constexpr char32_t behindCyrillic = 0x530;
+    return code < 0x80 || (code < behindCyrillic && !QChar::isMark(code));
+}
+
+/// Signs each of which is a syllable or a word.
+bool isIdeograph(char32_t code)
+{
+    const bool isKana = code >= 0x3041 && code < 0x3100 && !QChar::isMark(code);
+    return isKana || (code >= 0x3400 && code < 0xa000) || (code >= 0xac00 && code < 0xd7a4)
+        || (code >= 0x20000 && code < 0x32000);
+}
+
+/// Tells where the pieces of a run begin.
+class Pieces
+{
+public:
+    /// The run's next character; true where it begins a piece.
+    bool beginsWith(Character next)
+    {
+        const bool begins = isBreak(next.code);
+        m_word = begins && (m_before == ' ' || next.code == ' ') ? 0 : m_word;
+        m_piece = begins ? 0 : m_piece;
+        m_word += next.size;
+        m_piece += 1;
+        m_before = next.code;
+        return begins;
+    }
+
+private:
+    bool isBreak(char32_t next) const
+    {
+        if (m_before == ' ' && next != ' ')
+            return isApart(next) || isIdeograph(next);
+        if (isIdeograph(m_before) && isIdeograph(next))
+            return true;
+        return m_word >= static_cast<size_t>(longestWord) && m_piece >= 2 && isApart(m_before) && isApart(next);
+    }
+
+    char32_t m_before = 0;
+    size_t m_word = 0;  ///< bytes since the last blank
+    size_t m_piece = 0; ///< characters since the last beginning
+};
 
 } // namespace
 
@@ -16,18 +79,21 @@ void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles)
 {
     unsigned char style = 0;
     bool isTwin = false;
-    for (size_t i = 0; i < styles.size(); ++i) {
+    Pieces pieces;
+    for (size_t i = 0; i < styles.size();) {
+        const Character c = characterAt(text, i);
         if (i == 0 || styles[i] != style) {
             style = styles[i];
             isTwin = false;
-        } else {
-            const auto at = static_cast<qsizetype>(i);
-            // The shape or direction of a non-ASCII character may depend on the text before the space.
-            if (text[at - 1] == ' ' && text[at] != ' ' && isAscii(text[at]))
-                isTwin = !isTwin;
+            pieces = {};
+            pieces.beginsWith(c);
+        } else if (pieces.beginsWith(c)) {
+            isTwin = !isTwin;
         }
-        if (isTwin && style < twinDistance)
-            styles[i] = static_cast<unsigned char>(style + twinDistance);
+        for (const size_t end = std::min(i + c.size, styles.size()); i < end; ++i) {
+            if (isTwin && styles[i] < twinDistance)
+                styles[i] = static_cast<unsigned char>(styles[i] + twinDistance);
+        }
     }
 }
 

@@ -8,9 +8,9 @@
 namespace zephira {
 
 // The engine measures a whole line piece by piece before it shows any of it, and caches the widths of short pieces
-// only. A page minified into one line of megabytes contains long runs of text, each of them different. So the words of
-// a long line alternate between two styles that look the same: then each word is a piece of its own, and its width is
-// cached.
+// only. A page minified into one line of megabytes contains long runs of text, each of them different. So a long line
+// alternates between two styles that look the same: at its words, between ideographs, and inside long runs without words,
+// such as an image encoded in base64. Then each stretch is a piece of its own, and its width is cached.
 
 /// Lines of more bytes than this are long.
 constexpr qsizetype longLineBytes = 50'000;
@@ -24,8 +24,12 @@ constexpr int withoutTwin(int style)
     return style >= twinDistance && style < 2 * twinDistance ? style - twinDistance : style;
 }
 
-/// Makes runs of one style alternate with its twin at spaces. There is one style per byte of the text. Styles of 64 and
-/// more are left unchanged, and the style doesn't alternate before characters that may join with those around them.
+/// A run without words is cut into pairs of characters from this many bytes on. There are few different pairs, so all
+/// their widths are cached.
+constexpr qsizetype longestWord = 24;
+
+/// Makes runs of one style alternate with its twin. There is one style per byte of the text (UTF-8). Styles of 64 and
+/// more are left unchanged, and letters whose shape depends on their neighbours stay in one piece with them.
 void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles);
 
 } // namespace zephira

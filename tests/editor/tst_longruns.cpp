@@ -5,6 +5,8 @@
 #include "support/testregistry.h"
 #include "syntax/syntaxstyle.h"
 
+#include <QRandomGenerator>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,14 @@ private Q_SLOTS:
         add("a b", "aaz", "aaz");
         add("a \xD7\x90 b", "aaaaaa", "aaaaaA");
         add("ab", "aa", "aa");
+        add("a \xD0\xB6", "aaaa", "aaAA");
+        add("a e\xCC\x81", "aaaaa", "aaAAA");
+        add("a \xCC\x81", "aaaa", "aaaa");
+        add("\xE4\xB8\xAD\xE6\x96\x87\xE5\xAD\x97", "aaaaaaaaa", "aaaAAAaaa");
+        add("\xE0\xB9\x81\xE0\xB8\xA1", "aaaaaa", "aaaaaa");
+        add("\xD9\x85 \xD9\x85", "aaaaa", "aaaaa");
+        add("abcdefghijklmnopqrstuvwxyz0123", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa", "aaaaaaaaaaaaaaaaaaaaaaaaAAaaAA");
+        add("abcdefghijklmnopqrstuvwx yz", "aaaaaaaaaaaaaaaaaaaaaaaaaaa", "aaaaaaaaaaaaaaaaaaaaaaaaAaa");
     }
 
     void runsChangeAtBlanks()
@@ -64,21 +74,82 @@ private Q_SLOTS:
         QCOMPARE(shown, broken);
     }
 
+    /// The engine remembers the widths of runs below 30 bytes, where there aren't too many different ones.
+    void aLongLineIsMadeOfShortRuns_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("words") << u"HTML"_s << onePageLine();
+        QTest::newRow("without a language") << QString() << onePageLine();
+        QString letters;
+        QRandomGenerator dice(7);
+        while (letters.size() < 2 * longLineBytes)
+            letters += QChar(u'0' + dice.bounded(74));
+        letters.remove(u'"');
+        QTest::newRow("a picture in letters") << u"HTML"_s << QString(u"<img src=\"data:,"_s + letters + u"\">"_s);
+        QTest::newRow("letters without a language") << QString() << letters;
+        QString signs;
+        while (signs.size() < longLineBytes)
+            signs += QChar(0x4e00 + dice.bounded(0x3000));
+        QTest::newRow("ideographs") << u"HTML"_s << signs;
+        QTest::newRow("other words") << u"HTML"_s << u"широка страна моя "_s.repeated(longLineBytes / 20);
+    }
     void aLongLineIsMadeOfShortRuns()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, line);
+        EditorFixture f;
+        f.show();
+        f.editor.setLanguage(language);
+        f.editor.setText(line);
+        f.editor.colouring().colourAll();
+        QVERIFY(f.editor.colouring().hasLongLines());
+        const QByteArray text = line.toUtf8();
+        QSet<QByteArray> runs;
+        qsizetype longest = 0;
+        qsizetype begin = 0;
+        for (qsizetype i = 1; i <= text.size(); ++i) {
+            if (i < text.size() && rawStyle(f, i) == rawStyle(f, i - 1))
+                continue;
+            longest = std::max(longest, i - begin);
+            runs.insert(text.sliced(begin, i - begin));
+            begin = i;
+        }
+        QVERIFY2(longest < 30, qPrintable(QString::number(longest)));
+        QVERIFY2(runs.size() < 16384, qPrintable(QString::number(runs.size())));
+        QVERIFY(f.editor.engine().send(Sci::SCI_GETPOSITIONCACHE) >= 2 * runs.size());
+    }
+
+    /// Short lines stay in one style, and nothing is styled twice.
+    void textWithoutALanguageIsPassedOver()
     {
         EditorFixture f;
         f.show();
-        f.editor.setLanguage(u"HTML"_s);
-        f.editor.setText(onePageLine());
+        f.editor.setText(u"one two three\r\n"_s.repeated(1000));
         f.editor.colouring().colourAll();
-        qsizetype longest = 0;
-        qsizetype begin = 0;
-        for (qsizetype i = 1; i < f.editor.engine().length(); ++i) {
-            if (rawStyle(f, i) != rawStyle(f, i - 1))
-                begin = i;
-            longest = std::max(longest, i + 1 - begin);
-        }
-        QVERIFY2(longest < 30, qPrintable(QString::number(longest)));
+        QCOMPARE(f.editor.colouring().work(), 0);
+        QVERIFY(!f.editor.colouring().hasLongLines());
+        QCOMPARE(rawStyle(f, 5), 0);
+        f.editor.setText(onePageLine() + u"\r\nshort line"_s);
+        f.editor.colouring().colourAll();
+        const qint64 once = f.editor.colouring().work();
+        QCOMPARE(once, onePageLine().size() + 2);
+        f.editor.viewport()->repaint();
+        QCOMPARE(f.editor.colouring().work(), once);
+        QVERIFY(!f.editor.colouring().isPending());
+    }
+
+    /// A key lets the colouring look at its line once.
+    void aKeyIsOnePassOverItsLine()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"abcdefghij"_s.repeated(longLineBytes));
+        f.editor.viewport()->repaint();
+        const qint64 before = f.editor.colouring().work();
+        QTest::keyClick(&f.editor, Qt::Key_X);
+        f.editor.viewport()->repaint();
+        QCOMPARE(f.editor.colouring().work() - before, f.editor.engine().length());
     }
 
     void theStylesOfALongLineReadAsThoseOfAShortOne()
