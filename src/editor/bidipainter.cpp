@@ -4,6 +4,7 @@
 #include "editor/buffertext.h"
 #include "editor/editorappearance.h"
 #include "editor/indicators.h"
+#include "editor/stylefont.h"
 #include "widgets/qtvalues.h"
 
 #include <QFontMetricsF>
@@ -27,8 +28,10 @@ constexpr double cellPadding = 3;
 constexpr char enSpace[] = "\xe2\x80\x82";
 constexpr char hairSpace[] = "\xe2\x80\x8a";
 constexpr char noSpace[] = "\xe2\x80\x8b";
-/// In bytes. Longer lines take too long to be scanned at each repaint; their letters stay in cells.
-constexpr qsizetype longestLine = 256 * 1024;
+/// Of lines beyond, in bytes, only the part is looked through that is asked for. It is widened up to text that is read from
+/// left to right, where stretches end, or if there is none, by so many bytes.
+constexpr qsizetype longestWhole = 16 * 1024;
+constexpr qsizetype widestMargin = 8 * 1024;
 constexpr int markedIndicators[] = {BoundsIndicator, MatchIndicator, BraceIndicator};
 
 QColor styleColour(const SciEngine &engine, unsigned int message, int style)
@@ -45,27 +48,22 @@ void BidiPainter::learn(QByteArrayView utf8)
         if (m_known.insert(code).second)
             setCell(code, bytes.toByteArray());
     });
-    // Setting the symbol again makes the engine discard the layout of lines that it measured without these cells.
     if (m_known.size() != before)
-        m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
+        forgetLayouts();
 }
 
 void BidiPainter::fontChanged()
 {
-    setCells(true);
+    for (const char32_t code : m_known)
+        setCell(code, QString::fromUcs4(&code, 1).toUtf8());
+    if (isNeeded())
+        forgetLayouts();
 }
 
-void BidiPainter::setCells(bool on) const
+/// The engine must forget the lines that it has laid out with other cells.
+void BidiPainter::forgetLayouts() const
 {
-    for (const char32_t code : m_known) {
-        const QByteArray utf8 = QString::fromUcs4(&code, 1).toUtf8();
-        if (on)
-            setCell(code, utf8);
-        else
-            m_engine.sendText(Sci::SCI_CLEARREPRESENTATION, reinterpret_cast<qsizetype>(utf8.constData()), nullptr);
-    }
-    if (!m_known.empty())
-        m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
+    m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
 }
 
 /// Fills a letter's cell with spaces that are about as wide as the letter in running text.
@@ -96,16 +94,7 @@ void BidiPainter::setCell(char32_t code, const QByteArray &utf8) const
 
 QFont BidiPainter::fontOf(int style) const
 {
-    QByteArray name(m_engine.send(Sci::SCI_STYLEGETFONT, style) + 1, '\0');
-    m_engine.sendText(Sci::SCI_STYLEGETFONT, style, name.data());
-    QFont font(QString::fromUtf8(name.constData()));
-    const double size =
-        static_cast<double>(m_engine.send(Sci::SCI_STYLEGETSIZEFRACTIONAL, style)) / int{Sci::SC_FONT_SIZE_MULTIPLIER};
-    font.setPointSizeF(std::max(size + static_cast<double>(m_engine.send(Sci::SCI_GETZOOM)), 2.0));
-    font.setBold(m_engine.send(Sci::SCI_STYLEGETBOLD, style));
-    font.setItalic(m_engine.send(Sci::SCI_STYLEGETITALIC, style));
-    font.setUnderline(m_engine.send(Sci::SCI_STYLEGETUNDERLINE, style));
-    return font;
+    return styleFont(m_engine, style, m_engine.send(Sci::SCI_GETZOOM));
 }
 
 QPointF BidiPainter::pointOf(qsizetype position) const
@@ -114,13 +103,12 @@ QPointF BidiPainter::pointOf(qsizetype position) const
             static_cast<double>(m_engine.send(Sci::SCI_POINTYFROMPOSITION, 0, position))};
 }
 
-std::vector<BidiPainter::Piece> BidiPainter::piecesOf(qsizetype line) const
+/// The pieces of a line that lie between two positions, or reach in there.
+std::vector<BidiPainter::Piece> BidiPainter::piecesOf(qsizetype line, qsizetype from, qsizetype to) const
 {
     std::vector<Piece> pieces;
-    const qsizetype start = m_engine.lineStart(line);
-    const QByteArrayView text = m_engine.bytes(start, m_engine.lineEnd(line));
-    if (text.size() > longestLine)
-        return pieces;
+    const auto [start, end] = widened(line, from, to);
+    const QByteArrayView text = m_engine.bytes(start, end);
     bool any = false;
     forEachRightToLeft(text, [&](char32_t, QByteArrayView) { any = true; });
     if (!any)
@@ -131,12 +119,59 @@ std::vector<BidiPainter::Piece> BidiPainter::piecesOf(qsizetype line) const
     for (BidiStretch stretch : bidiStretches(text, styles)) {
         stretch.start += start;
         stretch.end += start;
-        addPieces(pieces, stretch);
+        if (stretch.start <= to && stretch.end >= from)
+            addPieces(pieces, stretch);
     }
     return pieces;
 }
 
-/// Splits a stretch where its line is wrapped.
+std::vector<BidiPainter::Piece> BidiPainter::piecesAt(qsizetype position) const
+{
+    return piecesOf(m_engine.lineOf(position), position, position);
+}
+
+/// The pieces of a line that can be seen.
+std::vector<BidiPainter::Piece> BidiPainter::visiblePieces(qsizetype line) const
+{
+    const qsizetype start = m_engine.lineStart(line);
+    const qsizetype end = m_engine.lineEnd(line);
+    if (end - start <= longestWhole)
+        return piecesOf(line, start, end);
+    const QRectF area = textArea();
+    const auto positionAt = [this](double x, double y) {
+        return m_engine.send(Sci::SCI_POSITIONFROMPOINT, std::lround(x), std::lround(y));
+    };
+    const double top = std::max(pointOf(start).y(), area.top());
+    const double bottom = std::min(pointOf(end).y(), area.bottom());
+    return piecesOf(line, positionAt(area.left(), top), positionAt(area.right(), bottom));
+}
+
+/// The part of a line that has to be looked at to know the stretches between two of its positions.
+std::pair<qsizetype, qsizetype> BidiPainter::widened(qsizetype line, qsizetype from, qsizetype to) const
+{
+    const qsizetype start = m_engine.lineStart(line);
+    const qsizetype end = m_engine.lineEnd(line);
+    if (end - start <= longestWhole)
+        return {start, end};
+    const qsizetype first = std::max(from - widestMargin, start);
+    const QByteArrayView before = m_engine.bytes(first, from);
+    qsizetype low = before.size();
+    while (low > 0 && !endsStretch(before[low - 1]))
+        --low;
+    // Without such a place the stretches are cut by their lengths, from one of the document's own positions.
+    const qsizetype cut =
+        first + low > start && low == 0 ? (from - widestMargin) / widestMargin * widestMargin : first + low;
+    const QByteArrayView behind = m_engine.bytes(to, std::min(to + widestMargin, end));
+    qsizetype high = 0;
+    while (high < behind.size() && !endsStretch(behind[high]))
+        ++high;
+    const auto wholeCharacter = [this](qsizetype position) {
+        return m_engine.send(Sci::SCI_POSITIONBEFORE, m_engine.send(Sci::SCI_POSITIONAFTER, position));
+    };
+    return {wholeCharacter(std::max(cut, start)), to + high >= end ? end : wholeCharacter(to + high)};
+}
+
+/// Cuts a stretch where its line is wrapped.
 void BidiPainter::addPieces(std::vector<Piece> &pieces, const BidiStretch &stretch) const
 {
     BidiStretch part = stretch;
@@ -229,7 +264,7 @@ void BidiPainter::paint(QPainter &painter, const QRect &dirty) const
     for (qsizetype line = m_engine.send(Sci::SCI_DOCLINEFROMVISIBLE, first); line <= last; ++line) {
         if (!m_engine.send(Sci::SCI_GETLINEVISIBLE, line))
             continue;
-        for (const Piece &piece : piecesOf(line)) {
+        for (const Piece &piece : visiblePieces(line)) {
             if (piece.cells.intersects(dirty))
                 paintPiece(painter, piece);
         }
@@ -240,6 +275,7 @@ void BidiPainter::paintPiece(QPainter &painter, const Piece &piece) const
 {
     // One pixel wider, because the last cell may end at a fractional position.
     painter.fillRect(piece.cells.adjusted(0, 0, 1, 0), backgroundOf(piece));
+    paintEdge(painter, piece);
     paintSelections(painter, piece);
     painter.save();
     painter.translate(piece.cells.left(), piece.cells.top());
@@ -264,6 +300,18 @@ QColor BidiPainter::backgroundOf(const Piece &piece) const
     if (m_engine.send(Sci::SCI_MARKERGET, line) >> highlightMarker & 1)
         return m_appearance.background(HighlightedLineColour);
     return styleColour(m_engine, Sci::SCI_STYLEGETBACK, m_engine.styleAt(piece.start));
+}
+
+/// The line that marks a width of the text stands behind it.
+void BidiPainter::paintEdge(QPainter &painter, const Piece &piece) const
+{
+    if (m_engine.send(Sci::SCI_GETEDGEMODE) != Sci::EDGE_LINE)
+        return;
+    const double start = pointOf(m_engine.lineStart(m_engine.lineOf(piece.start))).x();
+    const double blank = QFontMetricsF(fontOf(Sci::STYLE_DEFAULT)).horizontalAdvance(u' ');
+    const double x = start + std::floor(static_cast<double>(m_engine.send(Sci::SCI_GETEDGECOLUMN)) * blank);
+    const QRectF edge(x, piece.cells.top(), 1, piece.cells.height());
+    painter.fillRect(edge.intersected(piece.cells), styleColour(m_engine, Sci::SCI_GETEDGECOLOUR, 0));
 }
 
 void BidiPainter::paintSelections(QPainter &painter, const Piece &piece) const
@@ -321,24 +369,34 @@ void BidiPainter::paintBlanks(QPainter &painter, const Piece &piece) const
 /// and one next to the right-to-left letter. The second one is drawn at half height.
 void BidiPainter::paintCarets(QPainter &painter, const Piece &piece) const
 {
+    if (m_dropPosition >= 0)
+        paintCaret(painter, piece, m_dropPosition);
     if (!m_engine.view().hasFocus())
+        return;
+    for (qsizetype i = 0; i < m_engine.send(Sci::SCI_GETSELECTIONS); ++i)
+        paintCaret(painter, piece, m_engine.send(Sci::SCI_GETSELECTIONNCARET, i));
+}
+
+void BidiPainter::paintCaret(QPainter &painter, const Piece &piece, qsizetype position) const
+{
+    if (position < piece.start || position > piece.end)
         return;
     const double width = static_cast<double>(m_engine.send(Sci::SCI_GETCARETWIDTH));
     const QColor colour = toQColor(static_cast<quint32>(m_engine.send(Sci::SCI_GETCARETFORE)));
-    const qsizetype length = piece.layout->text().size();
-    for (qsizetype i = 0; i < m_engine.send(Sci::SCI_GETSELECTIONS); ++i) {
-        const qsizetype caret = m_engine.send(Sci::SCI_GETSELECTIONNCARET, i);
-        if (caret < piece.start || caret > piece.end)
-            continue;
-        const qsizetype index = indexOf(piece, caret);
-        const bool atEnd = index == 0 || index == length;
-        const double x = std::min(piece.xOf(index), piece.cells.right() - width);
-        const double height = piece.cells.height();
-        painter.fillRect(QRectF(x, piece.cells.top() + (atEnd ? height / 2 : 0), width, atEnd ? height / 2 : height),
-                         colour);
-        if (index == 0)
-            painter.fillRect(QRectF(piece.cells.left(), piece.cells.top(), width, height), colour);
-    }
+    const qsizetype index = indexOf(piece, position);
+    const bool atEnd = index == 0 || index == piece.layout->text().size();
+    const double x = std::min(piece.xOf(index), piece.cells.right() - width);
+    const double height = piece.cells.height();
+    painter.fillRect(QRectF(x, piece.cells.top() + (atEnd ? height / 2 : 0), width, atEnd ? height / 2 : height),
+                     colour);
+    if (index == 0)
+        painter.fillRect(QRectF(piece.cells.left(), piece.cells.top(), width, height), colour);
+}
+
+void BidiPainter::setDropPosition(qsizetype position)
+{
+    if (std::exchange(m_dropPosition, position) != position && isNeeded())
+        m_engine.view().viewport()->update();
 }
 
 QPointF BidiPainter::toEngine(const QPointF &point) const
@@ -347,7 +405,7 @@ QPointF BidiPainter::toEngine(const QPointF &point) const
         return point;
     const qsizetype position =
         m_engine.send(Sci::SCI_POSITIONFROMPOINT, std::lround(point.x()), std::lround(point.y()));
-    for (const Piece &piece : piecesOf(m_engine.lineOf(position))) {
+    for (const Piece &piece : piecesAt(position)) {
         if (!piece.cells.contains(point))
             continue;
         const qsizetype length = piece.layout->text().size();
@@ -371,7 +429,7 @@ QRectF BidiPainter::characterRect(qsizetype position) const
 {
     if (m_known.empty())
         return {};
-    for (const Piece &piece : piecesOf(m_engine.lineOf(position))) {
+    for (const Piece &piece : piecesAt(position)) {
         if (position >= piece.start && position < piece.end) {
             const qsizetype index = indexOf(piece, position);
             return piece.rectOf(index, index + 1);

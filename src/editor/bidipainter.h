@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <utility>
 #include <vector>
 
 class QPainter;
@@ -33,8 +34,11 @@ public:
     /// To be called when the font has changed: computes the widths of the cells again.
     void fontChanged();
 
-    /// Switches the cells off, for painting without this class, or on again.
-    void setCells(bool on) const;
+    /// Whether the document has, or had, such text.
+    bool isNeeded() const { return !m_known.empty(); }
+
+    /// Where something that is dragged over the text would be dropped: a caret stands there; -1 for nowhere.
+    void setDropPosition(qsizetype position);
 
     /// Paints the stretches of the visible lines, after the engine has painted the text.
     void paint(QPainter &painter, const QRect &dirty) const;
@@ -58,8 +62,12 @@ private:
     };
 
     void setCell(char32_t code, const QByteArray &utf8) const;
+    void forgetLayouts() const;
     QFont fontOf(int style) const;
-    std::vector<Piece> piecesOf(qsizetype line) const;
+    std::pair<qsizetype, qsizetype> widened(qsizetype line, qsizetype from, qsizetype to) const;
+    std::vector<Piece> piecesOf(qsizetype line, qsizetype from, qsizetype to) const;
+    std::vector<Piece> piecesAt(qsizetype position) const;
+    std::vector<Piece> visiblePieces(qsizetype line) const;
     void addPieces(std::vector<Piece> &pieces, const BidiStretch &stretch) const;
     Piece makePiece(const BidiStretch &part, double y) const;
     QPointF pointOf(qsizetype position) const;
@@ -67,15 +75,18 @@ private:
     qsizetype positionOf(const Piece &piece, qsizetype index) const;
     QRectF textArea() const;
     void paintPiece(QPainter &painter, const Piece &piece) const;
+    void paintEdge(QPainter &painter, const Piece &piece) const;
     void paintSelections(QPainter &painter, const Piece &piece) const;
     void paintIndicators(QPainter &painter, const Piece &piece) const;
     void paintBlanks(QPainter &painter, const Piece &piece) const;
     void paintCarets(QPainter &painter, const Piece &piece) const;
+    void paintCaret(QPainter &painter, const Piece &piece, qsizetype position) const;
     QColor backgroundOf(const Piece &piece) const;
 
     SciEngine m_engine;
     const EditorAppearance &m_appearance;
     std::set<char32_t> m_known;
+    qsizetype m_dropPosition = -1;
 };
 
 } // namespace zephira

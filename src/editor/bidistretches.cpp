@@ -92,6 +92,11 @@ void forEachRightToLeft(QByteArrayView utf8, const std::function<void(char32_t, 
     }
 }
 
+bool endsStretch(char byte)
+{
+    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+}
+
 std::vector<BidiStretch> bidiStretches(QByteArrayView line, std::span<const unsigned char> styles)
 {
     std::vector<BidiStretch> stretches;

@@ -181,9 +181,7 @@ public:
     quint64 textVersion() const { return m_textVersion; }
     /// The line end that the Enter key types: the one used in the text, or the most frequent one if they are mixed.
     LineEnds typedLineEnds() const { return m_format.typedLineEnds(); }
-    /// Runs the engine's message for undo or redo.
-    void step(unsigned int message);
-    /// Replaces the bytes from start up to end with UTF-8.
+    /// Puts UTF-8 in the place of the bytes from start up to end.
     void replaceBytes(qsizetype start, qsizetype end, QByteArrayView utf8) { m_engine.replace(start, end, utf8); }
 
     // The parts, for the control's own dialogs and for code that needs more than EditingControl offers.
@@ -234,6 +232,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -269,6 +268,7 @@ private:
     void settleInsertion();
     void runCommand(int command);
     void toggleFold();
+    void step(unsigned int message);
     void goToBookmark(bool backward);
     void goToMatchingBrace(bool selecting);
     void goToPosition(qsizetype position);
@@ -277,6 +277,8 @@ private:
     void findNext(bool backward);
     void showProperties();
     bool takesDrop(const QDropEvent &event) const;
+    qsizetype dropPosition(const QPointF &at) const;
+    void giveDragToEngine(QDragMoveEvent *event);
     void showContextMenu(const QPoint &at);
     void underlineNumbers();
     bool addsCaret(QMouseEvent *event);

@@ -7,6 +7,7 @@
 #include "editor/editorappearance.h"
 #include "editor/editorcommands.h"
 #include "editor/editormargins.h"
+#include "editor/graphemes.h"
 #include "widgets/qtvalues.h"
 
 #include <QContextMenuEvent>
@@ -145,24 +146,55 @@ bool CodeMax::takesDrop(const QDropEvent &event) const
     return m_dragDrop && !isReadOnly() && !event.mimeData()->hasUrls();
 }
 
+/// Where a drop would put its text: nothing is put between a letter and its accents.
+qsizetype CodeMax::dropPosition(const QPointF &at) const
+{
+    const QPoint point = m_bidi->toEngine(at).toPoint();
+    const qsizetype position = m_engine.send(SCI_POSITIONFROMPOINT, point.x(), point.y());
+    const qsizetype line = m_engine.lineOf(position);
+    const qsizetype start = m_engine.lineStart(line);
+    return start + graphemeStart(m_engine.bytes(start, m_engine.lineEnd(line)), position - start);
+}
+
+/// Gives a drag to the engine at the place where that has what is painted under the mouse. The drop comes to the place that
+/// the engine saw last.
+void CodeMax::giveDragToEngine(QDragMoveEvent *event)
+{
+    if (!takesDrop(*event)) {
+        event->ignore();
+        return;
+    }
+    const qsizetype position = dropPosition(event->position());
+    // One pixel further, since accents end where their letter does.
+    const QPoint at(static_cast<int>(m_engine.send(SCI_POINTXFROMPOSITION, 0, position)) + 1,
+                    static_cast<int>(m_engine.send(SCI_POINTYFROMPOSITION, 0, position)));
+    QDragMoveEvent moved(at, event->possibleActions(), event->mimeData(), event->buttons(), event->modifiers());
+    moved.setDropAction(event->dropAction());
+    QsciScintillaBase::dragMoveEvent(&moved);
+    event->setDropAction(moved.dropAction());
+    event->setAccepted(moved.isAccepted());
+    m_bidi->setDropPosition(moved.isAccepted() ? position : -1);
+}
+
 void CodeMax::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (takesDrop(*event))
-        QsciScintillaBase::dragEnterEvent(event);
-    else
-        event->ignore();
+    giveDragToEngine(event);
 }
 
 void CodeMax::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (takesDrop(*event))
-        QsciScintillaBase::dragMoveEvent(event);
-    else
-        event->ignore();
+    giveDragToEngine(event);
+}
+
+void CodeMax::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    m_bidi->setDropPosition(-1);
+    QsciScintillaBase::dragLeaveEvent(event);
 }
 
 void CodeMax::dropEvent(QDropEvent *event)
 {
+    m_bidi->setDropPosition(-1);
     if (takesDrop(*event))
         perform([&] { QsciScintillaBase::dropEvent(event); });
     else

@@ -108,7 +108,14 @@ bool EditorAppearance::isDark() const
         return colour(item) == colourItemTable[static_cast<size_t>(item)].initial;
     };
     const QColor paper = m_engine.view().palette().color(QPalette::Active, QPalette::Base);
-    return paper.lightness() < 128 && isShipped(WindowColour) && isShipped(TextFore);
+    return !m_onPaper && paper.lightness() < 128 && isShipped(WindowColour) && isShipped(TextFore);
+}
+
+void EditorAppearance::setOnPaper(bool on)
+{
+    m_onPaper = on;
+    if (m_dark != isDark())
+        applyAll();
 }
 
 /// The colour of an item under the current desktop palette.

@@ -44,7 +44,10 @@ public:
     /// their fonts, which is slow.
     void showStyles();
 
-    /// Applies everything again, including the selection's colours, which follow the desktop's.
+    /// Whether the text is shown on paper, which is white under a dark palette, too.
+    void setOnPaper(bool on);
+
+    /// Puts all of it into force again; the selection's colours follow the desktop's.
     void applyAll();
 
     /// The colour shown as a background, with an automatic one resolved.
@@ -67,6 +70,7 @@ private:
     EditorLooks m_looks;
     bool m_showsStyles = false;
     bool m_dark = false;
+    bool m_onPaper = false;
 };
 
 } // namespace zephira

@@ -3,8 +3,10 @@
 
 #include "editor/bidipainter.h"
 #include "editor/codemax.h"
+#include "editor/editorappearance.h"
 #include "editor/idlecolouring.h"
 #include "editor/indicators.h"
+#include "editor/linepages.h"
 #include "editor/qsci.h"
 
 #include <QCoreApplication>
@@ -13,8 +15,11 @@
 #include <QPointer>
 #include <QPrintDialog>
 
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <numeric>
+#include <utility>
 
 namespace zephira {
 
@@ -92,6 +97,51 @@ private:
     QString m_title;
 };
 
+/// Shows the text in the colours of paper, as long as it lives.
+class OnPaper
+{
+public:
+    explicit OnPaper(EditorAppearance &appearance) : m_appearance(appearance) { appearance.setOnPaper(true); }
+    ~OnPaper() { m_appearance.setOnPaper(false); }
+    Q_DISABLE_COPY_MOVE(OnPaper)
+
+private:
+    EditorAppearance &m_appearance;
+};
+
+/// The numbers of the pages to print, in their order.
+QList<int> wantedPages(const QPrinter &printer, int count)
+{
+    const int first = std::max(printer.fromPage(), 1);
+    const int last = printer.toPage() > 0 ? std::min(printer.toPage(), count) : count;
+    QList<int> pages(std::max(last - first + 1, 0));
+    std::iota(pages.begin(), pages.end(), first);
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        std::ranges::reverse(pages);
+    return pages;
+}
+
+void printLines(CodeMax &editor, PagePrinter &printer)
+{
+    QPainter painter(&printer);
+    if (!painter.isActive())
+        return;
+    const auto frame = [&printer](QPainter &on, bool drawing, QRect &area, int page) {
+        printer.formatPage(on, drawing, area, page);
+    };
+    LinePages pages(editor.engine(), printer, painter, frame, editor.editorFont().strikethrough);
+    const QList<int> wanted = wantedPages(printer, pages.count());
+    const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
+    bool isFirst = true;
+    for (int copy = 0; copy < copies; ++copy) {
+        for (const int page : wanted) {
+            if (!std::exchange(isFirst, false) && !printer.newPage())
+                return;
+            pages.paint(page);
+        }
+    }
+}
+
 } // namespace
 
 EditorPrinter::EditorPrinter(CodeMax &editor) : m_editor(editor)
@@ -120,10 +170,11 @@ void EditorPrinter::print()
         editor->colouring().colourAll();
         editor->engine().send(Sci::SCI_SETPRINTCOLOURMODE, Sci::SC_PRINT_COLOURONWHITE);
         const WithoutMarks withoutMarks(editor->engine());
-        // The printer paints right-to-left letters itself and doesn't need their cells.
-        editor->bidi().setCells(false);
-        printer->printRange(editor);
-        editor->bidi().setCells(true);
+        const OnPaper onPaper(editor->appearance());
+        if (editor->bidi().isNeeded())
+            printLines(*editor, *printer);
+        else
+            printer->printRange(editor);
     });
 }
 

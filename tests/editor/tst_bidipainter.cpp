@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bidipainter.h"
-#include "editor/editorfixture.h"
+#include "editor/editormargins.h"
+#include "editorfixture.h"
 #include "support/testregistry.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QStyleHints>
 
 #include <algorithm>
@@ -230,8 +233,135 @@ private Q_SLOTS:
         QTRY_VERIFY(boxOf(f, line, 1).width() > before * 1.4);
     }
 
+    /// The line that marks a width of the text goes on through such letters.
+    void theEdgeIsSeen()
+    {
+        EditorFixture f;
+        f.show();
+        EditorOptions options;
+        options.edgeColumn = 6;
+        f.editor.setOptions(options);
+        f.editor.setColor(MarginDividerColour, 0x0000ff);
+        f.editor.setText(u"          \r\n"_s + u"א          א"_s);
+        f.editor.select({0, 0, 0, 0});
+        const QImage picture = f.editor.viewport()->grab().toImage();
+        const auto edgeIn = [&](int line) {
+            const SciEngine &engine = f.editor.engine();
+            const auto y = static_cast<int>(engine.send(Sci::SCI_POINTYFROMPOSITION, 0, engine.lineStart(line))
+                                            + engine.send(Sci::SCI_TEXTHEIGHT, 0) / 2);
+            for (int x = static_cast<int>(f.editor.margins().width()); x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y) == QColor(Qt::red))
+                    return x;
+            }
+            return -1;
+        };
+        QVERIFY(edgeIn(0) > 0);
+        QCOMPARE(edgeIn(1), edgeIn(0));
+    }
+
+    /// The caret of a drag stands where the text lands.
+    void aDropLandsWhereItIsShown_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<int>("letter"); // whose first half, as it is read, is pointed at
+        QTest::addColumn<QString>("after");
+        QTest::newRow("in Hebrew") << u"abc שלום עולם"_s << 5 << u"abc שXלום עולם"_s;
+        QTest::newRow("at its other end") << u"abc שלום עולם"_s << 12 << u"abc שלום עולXם"_s;
+        QTest::newRow("in front of it") << u"abc שלום"_s << 1 << u"aXbc שלום"_s;
+        QTest::newRow("beside a vowel sign") << u"שָׁלוֹם"_s << 3 << u"שָׁXלוֹם"_s;
+    }
+    void aDropLandsWhereItIsShown()
+    {
+        QFETCH(QString, line);
+        QFETCH(int, letter);
+        QFETCH(QString, after);
+        EditorFixture f;
+        f.show();
+        f.editor.setText(line);
+        f.editor.viewport()->repaint();
+        const QRectF box = boxOf(f, line, letter);
+        const bool leftward = line[letter].direction() == QChar::DirR;
+        const double start = leftward ? box.right() : box.left();
+        const QPointF at(start + (leftward ? -1 : 1) * box.width() / 4, box.center().y());
+        QMimeData data;
+        data.setText(u"X"_s);
+        QDragEnterEvent enter(at.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(f.editor.viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        const QImage before = f.editor.viewport()->grab().toImage();
+        QVERIFY(!inkIn(before, QRectF(at.x() + 200, at.y(), 5, 5)));
+        QVERIFY2(hasColumnOfCaret(before, start), "no caret is shown there");
+        QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(f.editor.viewport(), &drop);
+        QCOMPARE(f.editor.text(), after);
+    }
+
+    void aDragThatLeavesTakesItsCaretAlong()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"שלום עולם"_s);
+        f.editor.clearFocus();
+        const QImage before = f.editor.viewport()->grab().toImage();
+        QMimeData data;
+        data.setText(u"X"_s);
+        const QRectF box = boxOf(f, u"שלום עולם"_s, 2);
+        QDragEnterEvent enter(box.center().toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(f.editor.viewport(), &enter);
+        QVERIFY(f.editor.viewport()->grab().toImage() != before);
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(f.editor.viewport(), &leave);
+        QCOMPARE(f.editor.viewport()->grab().toImage(), before);
+    }
+
+    /// In a line of any length.
+    void aLongLineLeavesInk_data()
+    {
+        QTest::addColumn<QString>("words");
+        QTest::newRow("Hebrew alone") << u"שלום עולם "_s;
+        QTest::newRow("mixed") << u"שלום abc עולם 12, "_s;
+    }
+    void aLongLineLeavesInk()
+    {
+        QFETCH(QString, words);
+        EditorFixture f;
+        f.show(400, 200);
+        const QString line = words.repeated(300'000 / words.toUtf8().size() + 1);
+        f.editor.setText(line);
+        const qsizetype middle = line.size() / 2;
+        for (const qsizetype first : {qsizetype(0), middle, line.size() - 20}) {
+            f.editor.select({0, static_cast<int>(first), 0, static_cast<int>(first)});
+            f.editor.engine().send(Sci::SCI_SCROLLCARET);
+            const QImage picture = f.editor.viewport()->grab().toImage();
+            int seen = 0;
+            // What is read first may stand far to the right.
+            for (qsizetype i = std::max<qsizetype>(first - 1200, 0); i < std::min(first + 1200, line.size()); ++i) {
+                const QRectF box = boxOf(f, line, i);
+                if (!line[i].isLetter() || box.left() < static_cast<double>(f.editor.margins().width())
+                    || box.right() > picture.width())
+                    continue;
+                QVERIFY2(inkIn(picture, box), qPrintable(QString::number(i)));
+                ++seen;
+            }
+            QVERIFY2(seen > 5, qPrintable(QString::number(first)));
+        }
+    }
+
 private:
-    /// The rectangle of a character of the first line.
+    /// Whether a caret, which is two pixels wide, stands at an x.
+    static bool hasColumnOfCaret(const QImage &picture, double x)
+    {
+        for (int column = static_cast<int>(x) - 2; column <= static_cast<int>(x) + 2; ++column) {
+            int dark = 0;
+            for (int y = 0; y < 30; ++y)
+                dark += column >= 0 && qGray(picture.pixel(column, y)) < 90;
+            if (dark >= 8)
+                return true;
+        }
+        return false;
+    }
+
+    /// Where a character of the first line is seen.
     static QRectF boxOf(EditorFixture &f, const QString &line, qsizetype index)
     {
         const SciEngine &engine = f.editor.engine();

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/sciengine.h"
+
+#include <QFont>
+
+namespace zephira {
+
+/// The font of one of the engine's styles, so many points larger than it is set.
+QFont styleFont(const SciEngine &engine, int style, qsizetype zoom);
+
+} // namespace zephira
