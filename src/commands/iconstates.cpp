@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
+#include <ranges>
 
 namespace zephira {
 
@@ -16,42 +18,46 @@ namespace {
 
 constexpr qreal disabledOpacity = 0.4;
 
-/// Below this luminance ratio a picture can't be distinguished from its background.
-constexpr qreal visibleContrast = 1.6;
+/// What the Web Content Accessibility Guidelines ask for where a picture tells something.
+constexpr qreal visibleContrast = 3;
+/// An icon can be seen when so much of what it paints can.
+constexpr qreal visibleShare = 0.25;
+/// The colour that can be seen on black and on white.
+constexpr QColor middleGrey(0x80, 0x80, 0x80);
 
-/// The relative luminance of a colour, 0 to 1, by the definition of sRGB.
-qreal luminance(const QColor &colour)
+/// The part of a colour, 0 to 255, that is light, 0 to 1, by the definition of sRGB.
+qreal linear(int part)
 {
-    const auto linear = [](qreal part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-/// The contrast ratio that the Web Content Accessibility Guidelines define: 1 for equal colours, 21 for black and white.
-qreal contrast(const QColor &one, const QColor &other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-/// The mean colour of the visible pixels; transparent if there are none.
-QColor meanColour(const QPixmap &pixmap)
-{
-    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    std::array<qint64, 4> sums{};
-    for (int row = 0; row < image.height(); ++row) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(row));
-        for (int column = 0; column < image.width(); ++column) {
-            const QRgb pixel = line[column];
-            sums[0] += qRed(pixel);
-            sums[1] += qGreen(pixel);
-            sums[2] += qBlue(pixel);
-            sums[3] += qAlpha(pixel);
+    static const auto table = [] {
+        std::array<qreal, 256> values{};
+        for (size_t i = 0; i < values.size(); ++i) {
+            const qreal share = static_cast<qreal>(i) / 255;
+            values[i] = share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
         }
-    }
-    const auto mean = [&sums](size_t part) { return static_cast<int>(sums[part] * 255 / sums[3]); };
-    return sums[3] == 0 ? QColor(Qt::transparent) : QColor(mean(0), mean(1), mean(2));
+        return values;
+    }();
+    return table[static_cast<size_t>(part)];
+}
+
+qreal luminance(QRgb colour)
+{
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+}
+
+bool isVisible(const QPixmap &pixmap, const QColor &background)
+{
+    return shareSeen(pixmap.toImage(), background) >= visibleShare;
+}
+
+/// The colour of some that is seen best on the background where it is seen worst.
+QColor bestOn(std::initializer_list<QColor> backgrounds, std::initializer_list<QColor> colours)
+{
+    const auto worst = [&](const QColor &colour) {
+        return std::ranges::min(backgrounds | std::views::transform([&](const QColor &background) {
+                                    return contrast(colour, background);
+                                }));
+    };
+    return *std::ranges::max_element(colours, {}, worst);
 }
 
 QPixmap faint(const QPixmap &pixmap)
@@ -76,15 +82,51 @@ QPixmap inColour(const QPixmap &pixmap, const QColor &colour)
 
 } // namespace
 
+qreal contrast(const QColor &one, const QColor &other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one.rgb()), luminance(other.rgb())});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+qreal shareSeen(const QImage &picture, const QColor &background)
+{
+    constexpr int opaqueEnough = 96;
+    const QImage image = picture.convertToFormat(QImage::Format_ARGB32);
+    const qreal behind = luminance(background.rgb());
+    int painted = 0;
+    int seen = 0;
+    for (int row = 0; row < image.height(); ++row) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(row));
+        for (int column = 0; column < image.width(); ++column) {
+            if (qAlpha(line[column]) < opaqueEnough)
+                continue;
+            const auto [darker, lighter] = std::minmax({behind, luminance(line[column])});
+            ++painted;
+            seen += (lighter + 0.05) / (darker + 0.05) >= visibleContrast;
+        }
+    }
+    return painted == 0 ? 1 : static_cast<qreal>(seen) / painted;
+}
+
 QPixmap IconStates::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap, const QStyleOption *option) const
 {
     switch (mode) {
     case QIcon::Disabled:
         return faint(pixmap);
     case QIcon::Selected: {
-        const bool isVisible =
-            contrast(meanColour(pixmap), option->palette.color(QPalette::Highlight)) >= visibleContrast;
-        return isVisible ? pixmap : inColour(pixmap, option->palette.color(QPalette::HighlightedText));
+        const QColor behind = option->palette.color(QPalette::Highlight);
+        if (isVisible(pixmap, behind))
+            return pixmap;
+        const QColor text = option->palette.color(QPalette::HighlightedText);
+        return inColour(pixmap, text);
+    }
+    case QIcon::Normal: {
+        const QColor window = option->palette.color(QPalette::Window);
+        const QColor paper = option->palette.color(QPalette::Base);
+        if (isVisible(pixmap, window) && isVisible(pixmap, paper))
+            return pixmap;
+        const QColor text = option->palette.color(QPalette::WindowText);
+        return inColour(pixmap, bestOn({window, paper}, {text, middleGrey}));
     }
     default:
         return QProxyStyle::generatedIconPixmap(mode, pixmap, option);

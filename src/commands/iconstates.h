@@ -1,17 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
+#include <QImage>
 #include <QProxyStyle>
 
 namespace zephira {
 
 class IconPictures;
 
-/// How icons look in the states for which a theme has no pictures of its own, on light and on dark windows alike.
-/// Disabled icons are faint. Selected icons stay as they are unless they would vanish in the colour of the selection;
-/// then they take the colour of selected text. Without this, styles would desaturate disabled icons, which changes
-/// nothing in a theme without colours, and tint selected ones with the colour of the selection. It also uses the cache
-/// of icon pictures.
+/// The contrast ratio that the Web Content Accessibility Guidelines define: 1 for equal colours, 21 for black and white.
+qreal contrast(const QColor &one, const QColor &other);
+/// How much of what a picture paints can be told from a background, 0 to 1; 1 where it paints nothing.
+qreal shareSeen(const QImage &picture, const QColor &background);
+
+/// How icons look in the states for which a theme has no pictures of its own, on light and on dark windows alike:
+/// disabled ones are faint, and selected ones stay as they are unless they would vanish in the colour of the selection;
+/// then they take the colour of selected text. Icons of the theme that would vanish in the window, or in its lists, take
+/// the colour of text. Styles of their own accord take the colour out of the former, which the
+/// theme's icons have none of, and give the latter the colour of the selection. It knows of the pictures of icons that are
+/// kept, too.
 class IconStates final : public QProxyStyle
 {
     Q_OBJECT

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/frmconnect.h"
 
+#include "ftp/filetypes.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpconnection.h"
 #include "ftp/ftpdesk.h"
+#include "ftp/ftpimages.h"
 #include "ftp/siteprofile.h"
 #include "ui_frmconnect.h"
 
@@ -12,6 +14,7 @@
 #include "core/itemroles.h"
 #include "core/prompts.h"
 #include "core/vbtext.h"
+#include "widgets/themeicon.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -92,8 +95,8 @@ void FrmConnect::buildTree()
     tree->clear();
     auto *root = new QTreeWidgetItem(tree, {u"Profiles"_s});
     root->setData(0, KeyRole, rootKey);
-    root->setIcon(0, QIcon::fromTheme(u"folder-network"_s, style()->standardIcon(QStyle::SP_DirOpenIcon)));
-    const QIcon picture = QIcon::fromTheme(u"network-server"_s, style()->standardIcon(QStyle::SP_DriveNetIcon));
+    root->setIcon(0, themeIcon(u"folder-network"_s));
+    const QIcon picture = ftpImage(rootImage, *this);
     const QStringList files = m_ui->File1->entries();
     for (const QString &file : files) {
         auto *item = new QTreeWidgetItem(root, {file});

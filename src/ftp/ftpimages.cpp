@@ -2,9 +2,13 @@
 #include "ftp/ftpimages.h"
 
 #include "ftp/filetypes.h"
+#include "widgets/themeicon.h"
 
+#include <QIconEngine>
 #include <QStyle>
 #include <QWidget>
+
+#include <utility>
 
 namespace zephira {
 
@@ -32,36 +36,50 @@ constexpr ImageRow images[] = {
     {u"folder-open", QStyle::SP_DirOpenIcon},
 };
 
-constexpr int treeImageSize = 16;
-constexpr int imageSizes[] = {treeImageSize, 32};
+/// A folder that opens when it is selected.
+class FolderEngine final : public QIconEngine
+{
+public:
+    FolderEngine(QIcon closed, QIcon open) : m_closed(std::move(closed)), m_open(std::move(open)) {}
+
+    QIconEngine *clone() const override { return new FolderEngine(*this); }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        shown(mode).paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return scaledPixmap(size, mode, state, 1);
+    }
+
+    QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State state, qreal scale) override
+    {
+        QPixmap picture = shown(mode).pixmap((QSizeF(size) / scale).toSize(), scale, mode, state);
+        picture.setDevicePixelRatio(1);
+        return picture;
+    }
+
+private:
+    const QIcon &shown(QIcon::Mode mode) const { return mode == QIcon::Selected ? m_open : m_closed; }
+
+    QIcon m_closed;
+    QIcon m_open;
+};
 
 } // namespace
 
 QIcon ftpImage(int number, const QWidget &widget)
 {
     const ImageRow &row = images[number - 1];
-    const QIcon picture =
-        QIcon::fromTheme(row.icon.toString(), widget.style()->standardIcon(row.fallback, nullptr, &widget));
-    QIcon icon;
-    for (const int size : imageSizes) {
-        const QPixmap pixmap = picture.pixmap({size, size}, widget.devicePixelRatioF());
-        icon.addPixmap(pixmap, QIcon::Normal);
-        // Otherwise a style would blend it with the selection's colour, where its thin lines become invisible.
-        icon.addPixmap(pixmap, QIcon::Selected);
-    }
-    return icon;
+    const QIcon icon = themeIcon(row.icon.toString());
+    return icon.isNull() ? widget.style()->standardIcon(row.fallback, nullptr, &widget) : icon;
 }
 
 QIcon ftpFolderImage(const QWidget &widget)
 {
-    const QSize size(treeImageSize, treeImageSize);
-    const qreal ratio = widget.devicePixelRatioF();
-    const QPixmap closed = ftpImage(folderImage, widget).pixmap(size, ratio);
-    const QPixmap open = ftpImage(openFolderImage, widget).pixmap(size, ratio);
-    QIcon icon;
-    icon.addPixmap(closed, QIcon::Normal);
-    icon.addPixmap(open, QIcon::Selected);
-    return icon;
+    return QIcon(new FolderEngine(ftpImage(folderImage, widget), ftpImage(openFolderImage, widget)));
 }
 
 } // namespace zephira

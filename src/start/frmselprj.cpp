@@ -12,11 +12,11 @@
 #include "start/labeleditdelegate.h"
 #include "start/templates.h"
 #include "ui_frmselprj.h"
+#include "widgets/themeicon.h"
 
 #include <QAction>
 #include <QGridLayout>
 #include <QPushButton>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -94,9 +94,8 @@ void frmselprj::addButton(const TemplateButton &button)
 void frmselprj::listCustomTemplates()
 {
     QListWidget *list = m_ui->ListView2;
-    const QIcon picture = style()->standardIcon(QStyle::SP_FileIcon);
-    const QStringList names = customTemplateNames(m_customFolder);
-    for (const QString &name : names) {
+    const QIcon picture = themeIcon(u"text-x-generic"_s);
+    for (const QString &name : customTemplateNames(m_customFolder)) {
         auto *item = new QListWidgetItem(picture, name, list);
         item->setFlags(item->flags() | Qt::ItemIsEditable);
     }

@@ -66,12 +66,19 @@ public:
 
     QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State state, qreal scale) override
     {
-        const QPixmap normal = picture(size, state, scale);
-        if (mode == QIcon::Normal || normal.isNull())
-            return normal;
+        const QPixmap drawn = picture(size, state, scale);
+        if (drawn.isNull())
+            return drawn;
         QStyleOption option(0);
         option.palette = QGuiApplication::palette();
-        return QApplication::style()->generatedIconPixmap(mode, normal, &option);
+        const auto inState = [&option](QIcon::Mode wanted, const QPixmap &from) {
+            return QApplication::style()->generatedIconPixmap(wanted, from, &option);
+        };
+        // A theme doesn't know the window's colours.
+        if (mode == QIcon::Selected || !m_isOfTheme)
+            return mode == QIcon::Normal ? drawn : inState(mode, drawn);
+        const QPixmap normal = inState(QIcon::Normal, drawn);
+        return mode == QIcon::Normal ? normal : inState(mode, normal);
     }
 
 private:

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/icons.h"
 #include "commands/iconstates.h"
+#include "support/palettes.h"
 #include "support/testregistry.h"
+#include "widgets/themeicon.h"
 
+#include <QApplication>
+#include <QListWidget>
 #include <QStyleOption>
 #include <QTest>
 
@@ -22,6 +27,18 @@ class TstIconStates : public QObject
                 image.setPixelColor(column, row, colour);
         }
         return QPixmap::fromImage(image);
+    }
+
+    /// Whether so much stands out from the background as a line across half of the picture has, at least as text does.
+    static bool isSeen(const QImage &picture, const QColor &background, const QColor &text)
+    {
+        const qreal enough = std::min(2.9, contrast(text, background) - 0.1);
+        int seen = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                seen += contrast(picture.pixelColor(x, y), background) >= enough;
+        }
+        return seen >= picture.width() / 2;
     }
 
     static QImage drawn(QIcon::Mode mode, const QColor &icon, const QColor &selection)
@@ -53,6 +70,68 @@ private Q_SLOTS:
         const QImage image = drawn(QIcon::Selected, icon, selection);
         QCOMPARE(image.pixelColor(8, 8).rgba(), expected.rgba());
         QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+    }
+
+    void contrastsAreThoseOfTheGuidelines()
+    {
+        QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
+        QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
+        QVERIFY(std::abs(contrast(QColor(0x77, 0x77, 0x77), Qt::white) - 4.48) < 0.01);
+        QCOMPARE(shareSeen(square(Qt::black).toImage(), Qt::white), 1.0);
+        QCOMPARE(shareSeen(square(Qt::black).toImage(), Qt::black), 0.0);
+        QCOMPARE(shareSeen(square(Qt::transparent).toImage(), Qt::black), 1.0);
+    }
+
+    /// The icons of files and folders, as lists paint them.
+    void iconsInListsCanBeSeen_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QTest::addColumn<int>("size");
+        for (const auto &[name, palette] : desktopPalettes()) {
+            for (const int size : {16, 32})
+                QTest::addRow("%s, %d", name, size) << palette << size;
+        }
+    }
+    void iconsInListsCanBeSeen()
+    {
+        QFETCH(QPalette, palette);
+        QFETCH(int, size);
+        const QPalette before = QApplication::palette();
+        QApplication::setStyle(new IconStates);
+        QApplication::setPalette(palette);
+        const IconTheme theme(*qApp);
+        const QStringList names{
+            u"text-x-generic"_s, u"image-x-generic"_s, u"text-html"_s,        u"text-plain"_s,
+            u"image-gif"_s,      u"text-css"_s,        u"audio-x-generic"_s,  u"application-zip"_s,
+            u"unknown"_s,        u"video-x-generic"_s, u"network-server"_s,   u"application-x-executable"_s,
+            u"folder"_s,         u"folder-open"_s,     u"folder-documents"_s, u"user-desktop"_s,
+            u"user-home"_s,      u"computer"_s,        u"drive-harddisk"_s,   u"folder-network"_s};
+        QListWidget list;
+        list.setIconSize({size, size});
+        list.setFrameShape(QFrame::NoFrame);
+        list.setSelectionMode(QAbstractItemView::MultiSelection);
+        for (const QString &name : names) {
+            for (int copy = 0; copy < 2; ++copy)
+                new QListWidgetItem(themeIcon(name), QString(), &list);
+        }
+        list.resize(200, 2 * static_cast<int>(names.size()) * (size + 8));
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        list.activateWindow();
+        for (int row = 1; row < list.count(); row += 2)
+            list.item(row)->setSelected(true);
+        const QImage picture = list.viewport()->grab().toImage();
+        QStringList unseen;
+        for (int row = 0; row < list.count(); ++row) {
+            const QRect box = list.visualItemRect(list.item(row));
+            const QImage icon = picture.copy(QRect(box.topLeft(), QSize(size + 6, box.height())));
+            const QColor behind = picture.pixelColor(box.right() - 2, box.center().y());
+            const QColor text = palette.color(row % 2 ? QPalette::HighlightedText : QPalette::Text);
+            if (!isSeen(icon, behind, text))
+                unseen.append(names[row / 2] + (row % 2 ? u" selected"_s : QString()));
+        }
+        QApplication::setPalette(before);
+        QVERIFY2(unseen.isEmpty(), qPrintable(unseen.join(u", "_s)));
     }
 
     void emptySelected() { QCOMPARE(drawn(QIcon::Selected, Qt::transparent, Qt::blue).pixelColor(8, 8).alpha(), 0); }

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/icons.h"
+#include "commands/iconstates.h"
+#include "ftp/filetypes.h"
+#include "ftp/ftpimages.h"
+#include "support/palettes.h"
+#include "support/testregistry.h"
+
+#include <QApplication>
+#include <QScopeGuard>
+#include <QTest>
+#include <QWidget>
+
+using namespace zephira;
+
+/// The pictures of files and folders.
+class TstFtpImages : public QObject
+{
+    Q_OBJECT
+
+    /// A place where the picture is opaque.
+    static QPoint middleOf(const QImage &picture)
+    {
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixelColor(x, y).alpha() == 255)
+                    return {x, y};
+            }
+        }
+        return {};
+    }
+
+private Q_SLOTS:
+    /// On every desktop, selected or not, and also when the desktop changes while they are shown.
+    void picturesCanBeSeen()
+    {
+        const QPalette before = QApplication::palette();
+        const auto restore = qScopeGuard([&] { QApplication::setPalette(before); });
+        QApplication::setStyle(new IconStates);
+        const IconTheme theme(*qApp);
+        const QWidget widget;
+        std::vector<QIcon> icons{ftpFolderImage(widget)};
+        for (int number = 1; number <= openFolderImage; ++number)
+            icons.push_back(ftpImage(number, widget));
+        for (const auto &[name, palette] : desktopPalettes()) {
+            QApplication::setPalette(palette);
+            for (size_t i = 0; i < icons.size(); ++i) {
+                for (const int size : {16, 32}) {
+                    const QImage normal = icons[i].pixmap(size).toImage();
+                    const QImage selected = icons[i].pixmap(QSize(size, size), QIcon::Selected).toImage();
+                    const auto place = [&] {
+                        return QString(QLatin1String(name) + u' ' + QString::number(i)).toUtf8();
+                    };
+                    QVERIFY2(!normal.isNull() && !selected.isNull(), place().constData());
+                    QVERIFY2(shareSeen(normal, palette.color(QPalette::Base)) >= 0.25, place().constData());
+                    // Where selected text has little contrast of its own, its pictures have no more.
+                    const QColor highlight = palette.color(QPalette::Highlight);
+                    const QColor text = palette.color(QPalette::HighlightedText);
+                    const bool isText = selected.pixelColor(middleOf(selected)).rgb() == text.rgb();
+                    QVERIFY2(isText || shareSeen(selected, highlight) >= 0.25, place().constData());
+                }
+            }
+        }
+    }
+
+    void aSelectedFolderIsOpen()
+    {
+        const IconTheme theme(*qApp);
+        const QWidget widget;
+        const auto look = [](const QIcon &icon, QIcon::Mode mode) {
+            return icon.pixmap(QSize(16, 16), mode).toImage();
+        };
+        const QIcon folder = ftpFolderImage(widget);
+        QCOMPARE(look(folder, QIcon::Normal), look(ftpImage(folderImage, widget), QIcon::Normal));
+        QCOMPARE(look(folder, QIcon::Selected), look(ftpImage(openFolderImage, widget), QIcon::Selected));
+        QVERIFY(look(folder, QIcon::Normal) != look(ftpImage(openFolderImage, widget), QIcon::Normal));
+    }
+};
+
+ZEPHIRA_TEST(TstFtpImages)
+#include "tst_ftpimages.moc"
