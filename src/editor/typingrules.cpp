@@ -83,7 +83,7 @@ void TypingRules::breakLine(const std::function<void()> &engineTypes) const
     m_engine.send(Sci::SCI_ENDUNDOACTION);
 }
 
-/// Inserts a line end at each caret; the engine would keep only one caret.
+/// Puts a line end at each caret; the engine would keep only one of them. Nothing but blanks in front of one goes away.
 void TypingRules::breakLines() const
 {
     std::vector<std::pair<qsizetype, qsizetype>> ranges;
@@ -95,11 +95,14 @@ void TypingRules::breakLines() const
     qsizetype moved = 0;
     for (const auto &[start, end] : ranges) {
         const qsizetype at = start + moved;
-        const QByteArrayView above = m_engine.bytes(m_engine.lineStart(m_engine.lineOf(at)), at);
+        const qsizetype lineStart = m_engine.lineStart(m_engine.lineOf(at));
+        const QByteArrayView above = m_engine.bytes(lineStart, at);
         const QByteArray text = m_options.autoIndent ? lineEnd + indentBelow(above, m_options) : lineEnd;
-        m_engine.replace(at, end + moved, text);
-        after.push_back(at + text.size());
-        moved += text.size() - (end - start);
+        const qsizetype from = m_options.autoIndent && isBlank(above) ? lineStart : at;
+        const qsizetype to = end + moved;
+        m_engine.replace(from, to, text);
+        after.push_back(from + text.size());
+        moved += text.size() - (to - from);
     }
     m_engine.send(Sci::SCI_SETEMPTYSELECTION, after.front());
     for (size_t i = 1; i < after.size(); ++i)

@@ -108,6 +108,29 @@ private Q_SLOTS:
         QCOMPARE(f.editor.text(), u"  ab\r\n\r\n  c"_s);
     }
 
+    void norDoSeveralOfThem()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"  ab\r\n  cd\r\nx"_s);
+        rectangle(f, 4, f.editor.engine().lineStart(1) + 4);
+        QTest::keyClick(&f.editor, Qt::Key_Return);
+        QTest::keyClick(&f.editor, Qt::Key_Return);
+        QTest::keyClicks(&f.editor, u"_"_s);
+        QCOMPARE(f.editor.text(), u"  ab\r\n\r\n  _\r\n  cd\r\n\r\n  _\r\nx"_s);
+    }
+
+    /// A rectangle of several lines and columns is taken away by the line ends.
+    void enterReplacesARectangle()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"abcd\r\nabcd\r\nabcd"_s);
+        rectangle(f, 1, f.editor.engine().lineStart(2) + 3);
+        QTest::keyClick(&f.editor, Qt::Key_Return);
+        QCOMPARE(f.editor.text(), u"a\r\nd\r\na\r\nd\r\na\r\nd"_s);
+    }
+
     void ctrlAndDeleteTakeAWordOrTheRestOfTheLine()
     {
         EditorFixture f;

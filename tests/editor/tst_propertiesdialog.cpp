@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorfixture.h"
 #include "editor/propertiesdialog.h"
+#include "editorfixture.h"
+#include "support/palettes.h"
 #include "support/testregistry.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -10,6 +13,7 @@
 #include <QFontComboBox>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -235,6 +239,41 @@ private Q_SLOTS:
         Driver d(f);
         d.press(QDialogButtonBox::Ok);
         QCOMPARE(f.editor.appearance().looks(), looks);
+    }
+
+    /// The preview goes along with the desktop, as the text does.
+    void thePreviewIsDarkOnADarkDesktop()
+    {
+        const QPalette before = QApplication::palette();
+        const auto restore = qScopeGuard([&] { QApplication::setPalette(before); });
+        EditorFixture f;
+        f.show();
+        Driver d(f);
+        const auto paper = [&] {
+            const QImage picture = d.preview().viewport()->grab().toImage();
+            return picture.pixelColor(picture.width() - 4, picture.height() / 2);
+        };
+        const auto colourOf = [&](int style) {
+            return static_cast<quint32>(d.preview().engine().send(QsciScintillaBase::SCI_STYLEGETFORE, style));
+        };
+        QTRY_VERIFY(d.preview().isVisible());
+        QCOMPARE(paper(), QColor(Qt::white));
+        QApplication::setPalette(desktopPalettes()[2].palette);
+        QTRY_VERIFY2(paper().lightness() < 60, qPrintable(paper().name()));
+        QCOMPARE(colourOf(0), colourItemTable[TextFore].dark);
+        // What the user chooses there shows as it is.
+        d.choose(u"Keyword"_s);
+        f.prompts.expectColour(f.editor.color(KeywordFore), 0x0000ff);
+        d.child<QPushButton>(u"cmdForeground"_s).click();
+        QCOMPARE(colourOf(2), 0x0000ffu);
+        QVERIFY(paper().lightness() < 60);
+        QApplication::setPalette(before);
+        QTRY_COMPARE(paper(), QColor(Qt::white));
+        QCOMPARE(colourOf(0), colourItemTable[TextFore].initial);
+        QCOMPARE(colourOf(2), 0x0000ffu);
+        d.press(QDialogButtonBox::Ok);
+        QCOMPARE(f.editor.color(KeywordFore), 0x0000ffu);
+        QCOMPARE(f.editor.color(TextFore), colourItemTable[TextFore].initial);
     }
 
     void thePreviewIsAPageThatCannotBeChanged()

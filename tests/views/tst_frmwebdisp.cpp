@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/codemax.h"
+#include "editor/colouritems.h"
+#include "files/recoverycopies.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
+#include "support/palettes.h"
 #include "support/testregistry.h"
 #include "views/registerforms.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -87,6 +94,49 @@ private Q_SLOTS:
         QVERIFY(!wasEnabled);
         QVERIFY(viewer.form.get<QPushButton>(u"Command1"_s).isEnabled());
         QVERIFY(viewer.form.isOpen());
+    }
+
+    /// The source is shown by the editing control, whose shipped colours go along with the desktop.
+    void theSourceIsDarkOnADarkDesktop()
+    {
+        const QPalette before = QApplication::palette();
+        const auto restore = qScopeGuard([&] { QApplication::setPalette(before); });
+        Viewer viewer;
+        MemoryFileStore files;
+        FakeClock clock;
+        QTemporaryDir folder;
+        RecoveryCopies recovery(folder.path(), files, clock);
+        CodeMax *source = nullptr;
+        FormCatalogue forms;
+        views::registerForms(
+            forms,
+            [&](QWidget *parent) -> EditorView {
+                source = new CodeMax({files, recovery, viewer.world.prompts}, parent);
+                return {source, source};
+            },
+            [&]() -> Result<PageFetcher *> { return &viewer.web; });
+        LivingForm form(forms, u"frmwebdisp"_s, viewer.world);
+        form.type(u"URL"_s, u"http://example.org/a"_s);
+        form.key(Qt::Key_Return);
+        QVERIFY(source && source->text().contains(u"<p>"_s));
+        const auto paper = [&] {
+            const QImage picture = source->viewport()->grab().toImage();
+            return picture.pixelColor(picture.width() - 4, picture.height() - 4);
+        };
+        const auto text = [&] {
+            return static_cast<quint32>(source->engine().send(QsciScintillaBase::SCI_STYLEGETFORE, 0));
+        };
+        QCOMPARE(paper(), QColor(Qt::white));
+        QApplication::setPalette(desktopPalettes()[2].palette);
+        QTRY_VERIFY2(paper().lightness() < 60, qPrintable(paper().name()));
+        QCOMPARE(text(), colourItemTable[TextFore].dark);
+        source->setColor(TextFore, 0x0000ff);
+        QCOMPARE(text(), 0x0000ffu);
+        QCOMPARE(paper(), QColor(Qt::white));
+        source->setColor(TextFore, colourItemTable[TextFore].initial);
+        QApplication::setPalette(before);
+        QTRY_COMPARE(paper(), QColor(Qt::white));
+        QCOMPARE(text(), colourItemTable[TextFore].initial);
     }
 
     void theButtonKeepsTheKeyboard()
