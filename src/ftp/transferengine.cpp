@@ -57,8 +57,8 @@ public:
     }
 
 private:
-    /// In bytes; a multiple of the block.
-    static constexpr qsizetype gatheredSize = 128 * qsizetype(blockSize);
+    /// In bytes; a multiple of the block, and with the buffer of the connection small enough for the processor's memory.
+    static constexpr qsizetype gatheredSize = 64 * qsizetype(blockSize);
 
     void handOn()
     {

@@ -7,8 +7,9 @@ namespace zephira {
 
 namespace {
 
-/// Large enough that the cost of system calls is small compared to moving the bytes.
-constexpr qsizetype bufferSize = 256 << 10;
+/// Large enough that the cost of system calls is small compared to moving the bytes, and small enough that the bytes are
+/// still in the processor's cache when they are moved on: twice as much took a third more processor time.
+constexpr qsizetype bufferSize = 128 << 10;
 
 } // namespace
 
