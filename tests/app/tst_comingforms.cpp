@@ -40,7 +40,7 @@ private Q_SLOTS:
         forms.removeAll(QString());
         forms.removeDuplicates();
         QVERIFY(forms.size() > 30);
-        for (const QString &form : forms)
+        for (const QString &form : std::as_const(forms))
             QVERIFY2(bench.catalogue.contains(form) != bench.catalogue.isAnnounced(form), qPrintable(form));
     }
 

@@ -32,7 +32,8 @@ struct Listeners : QObject {
 int effectsOf(QAction &action)
 {
     QAction idle(nullptr);
-    for (QObject *holder : action.associatedObjects()) {
+    const QList<QObject *> holders = action.associatedObjects();
+    for (QObject *holder : holders) {
         if (auto *menu = qobject_cast<QMenu *>(holder))
             menu->addAction(&idle);
         else if (auto *bar = qobject_cast<QToolBar *>(holder))
@@ -58,7 +59,8 @@ QStringList faultsOf(QAction &action)
 QList<QAction *> actionsOf(const QWidget &holder)
 {
     QList<QAction *> found;
-    for (QAction *action : holder.actions()) {
+    const QList<QAction *> all = holder.actions();
+    for (QAction *action : all) {
         found.append(action);
         if (action->menu())
             found.append(actionsOf(*action->menu()));
@@ -75,7 +77,7 @@ QList<QAction *> actionsOf(const WindowBench &bench)
     QStringList bars{u"tBar"_s, u"Toolbar1"_s, u"Toolbar2"_s};
     for (int palette = 0; palette < 12; ++palette)
         bars.append(u"Toolbar_%1"_s.arg(palette));
-    for (const QString &bar : bars)
+    for (const QString &bar : std::as_const(bars))
         found.append(actionsOf(*bench.find<QToolBar>(bar)));
     // Combo boxes and other widgets in a toolbar are actions too, but can't be chosen.
     found.removeIf([](QAction *action) { return action->text().isEmpty() && !action->isCheckable(); });
@@ -131,7 +133,8 @@ private Q_SLOTS:
         WindowBench bench;
         bench.start();
         bench.window->context().document.setLanguageRow(language::Html);
-        for (const QAction *action : actionsOf(*bench.window->menuBar())) {
+        const QList<QAction *> all = actionsOf(*bench.window->menuBar());
+        for (const QAction *action : all) {
             const MenuItem *item = findMenuItem(action->objectName());
             const QuickTag *tag = findTagsEntry(action->objectName());
             if (!item && !tag)
@@ -164,7 +167,8 @@ private Q_SLOTS:
         QCOMPARE(faultsOf(*none), QStringList());
 
         QStringList all;
-        for (QAction *action : actionsOf(bench))
+        const QList<QAction *> actions = actionsOf(bench);
+        for (QAction *action : actions)
             all.append(faultsOf(*action));
         QCOMPARE(all, QStringList{u"clearclip \"&Clear Clipboard\" has 2 effects"_s});
     }

@@ -131,7 +131,8 @@ private Q_SLOTS:
             QCOMPARE(box->currentText(), QString());
             QCOMPARE(box->count(), name == u"FontCombo"_s ? 6 : 7);
         }
-        for (const QAction *action : bench.find<QToolBar>(u"Toolbar2"_s)->actions())
+        const QList<QAction *> actions = bench.find<QToolBar>(u"Toolbar2"_s)->actions();
+        for (const QAction *action : actions)
             QVERIFY(!action->isEnabled());
     }
 

@@ -476,7 +476,8 @@ private Q_SLOTS:
             QStringList names;
             for (const QString &menu : {u"Insert"_s, u"Table"_s, u"d2d"_s}) {
                 Q_EMIT bench.find<QMenu>(menu)->aboutToShow();
-                for (const QAction *entry : bench.find<QMenu>(menu)->actions()) {
+                const QList<QAction *> all = bench.find<QMenu>(menu)->actions();
+                for (const QAction *entry : all) {
                     if (!entry->isSeparator() && !entry->isEnabled())
                         names.append(entry->objectName());
                 }
@@ -514,7 +515,8 @@ private Q_SLOTS:
         const std::unique_ptr<QMenu, MenuCloser> menu(openContextMenu(bench));
         QVERIFY(menu);
         QStringList entries;
-        for (const QAction *entry : menu->actions())
+        const QList<QAction *> all = menu->actions();
+        for (const QAction *entry : all)
             entries.append(entry->text());
         const QStringList always{u"Cut"_s, u"Copy"_s, u"Paste"_s, {}, u"Select All"_s, {}, u"Font..."_s};
         QCOMPARE(entries, always + more);

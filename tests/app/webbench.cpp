@@ -20,7 +20,8 @@ WebBench::WebBench(const QString &name, const QByteArray &content)
 
 QString WebBench::pageTitle() const
 {
-    for (const QWidget *part : find<QWidget>(u"ww1"_s)->findChildren<QWidget *>()) {
+    const QList<QWidget *> parts = find<QWidget>(u"ww1"_s)->findChildren<QWidget *>();
+    for (const QWidget *part : parts) {
         if (part->inherits("QWebEngineView"))
             return part->property("title").toString();
     }

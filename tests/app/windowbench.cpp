@@ -106,7 +106,8 @@ QByteArray WindowBench::read(const QString &path)
 
 void WindowBench::click(const QString &toolBar, const QString &key) const
 {
-    for (QAction *action : find<QToolBar>(toolBar)->actions()) {
+    const QList<QAction *> all = find<QToolBar>(toolBar)->actions();
+    for (QAction *action : all) {
         if (action->objectName() == key) {
             QVERIFY2(action->isEnabled(), qPrintable(key));
             action->trigger();

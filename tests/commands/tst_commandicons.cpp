@@ -95,7 +95,7 @@ void TstCommandIcons::everyNamedIconExists_data()
     QTest::addColumn<bool>("dark");
     QStringList icons = namedIcons().values();
     icons.sort();
-    for (const QString &icon : icons) {
+    for (const QString &icon : std::as_const(icons)) {
         QTest::addRow("%s, light", qPrintable(icon)) << icon << false;
         QTest::addRow("%s, dark", qPrintable(icon)) << icon << true;
     }
@@ -133,7 +133,8 @@ void TstCommandIcons::unknownShapesAreNull()
 {
     QVERIFY(iconFor(u"#nothing").isNull());
     QVERIFY(!shapeNames().isEmpty());
-    for (const QString &name : shapeNames())
+    const QStringList names = shapeNames();
+    for (const QString &name : names)
         QVERIFY2(lightnessOf(shapeGlyph(name), {22, 22}) >= 0, qPrintable(name));
 }
 

@@ -242,7 +242,8 @@ void TstMenus::everyNameIsFoundOnce()
 {
     Window w;
     QStringList names;
-    for (const QObject *object : w.window.menuBar()->findChildren<QObject *>()) {
+    const QList<QObject *> objects = w.window.menuBar()->findChildren<QObject *>();
+    for (const QObject *object : objects) {
         const bool isEntry = qobject_cast<const QAction *>(object) || qobject_cast<const QMenu *>(object);
         if (isEntry && !object->objectName().isEmpty() && !object->objectName().startsWith(u"qt_"))
             names.append(object->objectName());
@@ -312,7 +313,8 @@ void TstMenus::everyCommandHasAStatusTip()
 {
     Window w;
     for (const QString &name : {u"mnufile"_s, u"edit"_s, u"tools"_s, u"options"_s, u"Tags"_s, u"help"_s}) {
-        for (const QAction *entry : w.menus.menu(name)->actions()) {
+        const QList<QAction *> entries = w.menus.menu(name)->actions();
+        for (const QAction *entry : entries) {
             if (!entry->isSeparator() && !entry->menu())
                 QVERIFY2(!entry->statusTip().isEmpty(), qPrintable(entry->objectName()));
         }

@@ -97,7 +97,8 @@ void TstPalette::buttonsComeWithTheFirstShowing()
     QVERIFY(palette.toolBar(6)->widgetForAction(buttons(6)));
     // The buttons are in the order of the actions.
     int right = -1;
-    for (QAction *action : palette.toolBar(6)->actions()) {
+    const QList<QAction *> all = palette.toolBar(6)->actions();
+    for (QAction *action : all) {
         const QWidget *button = palette.toolBar(6)->widgetForAction(action);
         QVERIFY(button->x() > right);
         right = button->geometry().right();
@@ -111,7 +112,8 @@ void TstPalette::everyButtonHasALook()
     palette.show();
     for (int i = 0; i < 12; ++i) {
         palette.tabs()->setCurrentIndex(i);
-        for (QAction *action : palette.toolBar(i)->actions()) {
+        const QList<QAction *> all = palette.toolBar(i)->actions();
+        for (QAction *action : all) {
             if (action->isSeparator())
                 continue;
             auto *button = qobject_cast<QToolButton *>(palette.toolBar(i)->widgetForAction(action));

@@ -31,7 +31,8 @@ void TstToolBars::standard()
     CommandToolBar bar(standardToolBar());
     QCOMPARE(bar.objectName(), u"tBar"_s);
     QStringList keys;
-    for (const QAction *action : bar.actions()) {
+    const QList<QAction *> all = bar.actions();
+    for (const QAction *action : all) {
         if (action->isSeparator())
             continue;
         keys.append(action->objectName());
@@ -79,7 +80,8 @@ void TstToolBars::languagesCloseWhatIsAboutMarkup()
     for (int position = 1; position <= 15; ++position)
         QCOMPARE(bar.actions()[position - 1]->isEnabled(), position >= 13);
     bar.setMarkupOpen(true);
-    for (const QAction *action : bar.actions())
+    const QList<QAction *> all = bar.actions();
+    for (const QAction *action : all)
         QVERIFY(action->isEnabled());
 }
 

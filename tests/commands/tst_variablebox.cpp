@@ -67,7 +67,8 @@ private Q_SLOTS:
         QVERIFY(box.isVisible());
         QCOMPARE(bench.palette.toolBar(toolbar)->widgetForAction(bench.palette.toolBar(toolbar)->actions().last()),
                  &box);
-        for (const QAction *action : bench.palette.toolBar(toolbar)->actions().sliced(0, 5))
+        const QList<QAction *> all = bench.palette.toolBar(toolbar)->actions().sliced(0, 5);
+        for (const QAction *action : all)
             QVERIFY(bench.palette.toolBar(toolbar)->widgetForAction(const_cast<QAction *>(action))->x() < box.x());
     }
 

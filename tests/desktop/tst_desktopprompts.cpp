@@ -125,7 +125,8 @@ void TstDesktopPrompts::messageBox()
             QCOMPARE(box.text(), question.text);
             QCOMPARE(box.icon(), icon);
             QStringList captions;
-            for (const QAbstractButton *button : box.buttons())
+            const QList<QAbstractButton *> all = box.buttons();
+            for (const QAbstractButton *button : all)
                 captions.append(button->text().remove(u'&'));
             captions.sort();
             buttons.sort();

@@ -63,7 +63,8 @@ private:
     /// The visible window of that name.
     static QWidget *shownWindow(const QString &name)
     {
-        for (QWidget *window : QApplication::topLevelWidgets()) {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget *window : windows) {
             if (window->objectName() == name && window->isVisible())
                 return window;
         }
@@ -177,7 +178,8 @@ void TstDesktopShell::propertiesWithoutAFileManager()
     QVERIFY(window);
     QCOMPARE(window->windowTitle(), u"Properties of <b>page.html"_s);
     QStringList texts;
-    for (const QLabel *label : window->findChildren<QLabel *>()) {
+    const QList<QLabel *> labels = window->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
         if (!label->accessibleName().isEmpty())
             texts.append(label->accessibleName() + u' ' + label->text());
     }

@@ -39,7 +39,8 @@ ProgramFolder::ProgramFolder()
     QVERIFY(QDir().mkpath(home()));
     QVERIFY(QFile::copy(program, executable()));
     // The modules are next to the program.
-    for (const QFileInfo &module : QFileInfo(program).dir().entryInfoList({u"*.so"_s}, QDir::Files))
+    const QFileInfoList all = QFileInfo(program).dir().entryInfoList({u"*.so"_s}, QDir::Files);
+    for (const QFileInfo &module : all)
         QVERIFY(QFile::copy(module.filePath(), path() + u'/' + module.fileName()));
     setTips(false);
     setIni(u"Startup"_s, u"selprj"_s, u"0"_s);
@@ -59,7 +60,8 @@ QStringList ProgramFolder::recoveryCopies() const
 {
     const QDir folder(home() + u"/.config/Zephira/recovery"_s);
     QStringList paths;
-    for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden, QDir::Name))
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (const QString &name : names)
         paths.append(folder.filePath(name));
     return paths;
 }

@@ -84,7 +84,8 @@ QStringList RunningProgram::windows() const
     QStringList titles;
     const QByteArray ids =
         xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
-    for (const QByteArray &id : ids.split('\n')) {
+    const QList<QByteArray> all = ids.split('\n');
+    for (const QByteArray &id : all) {
         if (!id.isEmpty())
             titles.append(QString::fromUtf8(xdotool({u"getwindowname"_s, QString::fromLatin1(id)})));
     }
@@ -124,7 +125,8 @@ QString RunningProgram::windowId(const QString &title) const
 {
     const QByteArray ids =
         xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
-    for (const QByteArray &id : ids.split('\n')) {
+    const QList<QByteArray> all = ids.split('\n');
+    for (const QByteArray &id : all) {
         const QString window = QString::fromLatin1(id);
         if (!id.isEmpty() && QString::fromUtf8(xdotool({u"getwindowname"_s, window})) == title)
             return window;

@@ -60,7 +60,8 @@ public:
 private:
     bool find(const QString &executable, qint64 known)
     {
-        for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+        const QStringList entries = QDir(u"/proc"_s).entryList(QDir::Dirs);
+        for (const QString &entry : entries) {
             const int pid = entry.toInt();
             if (pid > 0 && pid != known && QFile::symLinkTarget(u"/proc/"_s + entry + u"/exe"_s) == executable)
                 m_pid = pid;

@@ -60,7 +60,7 @@ private Q_SLOTS:
             title = u"Zephira - ["_s + argument + u']';
         }
         RunningProgram program(folder, argument.isEmpty() ? QStringList() : QStringList(argument));
-        for (const QString &dialog : dialogs) {
+        for (const QString &dialog : std::as_const(dialogs)) {
             QCOMPARE(program.waitForWindows({title, dialog}), sorted({title, dialog}));
             program.key(dialog, u"Escape"_s);
         }

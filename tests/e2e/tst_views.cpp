@@ -74,7 +74,8 @@ private Q_SLOTS:
         QVERIFY(page.close());
         QVERIFY(!QFile::exists(copy));
         // Nothing unrelated is printed to the terminal.
-        for (const QByteArray &line : page.program.standardError().split('\n'))
+        const QList<QByteArray> lines = page.program.standardError().split('\n');
+        for (const QByteArray &line : lines)
             QVERIFY2(line.isEmpty() || line.contains("superuser") || line.contains("XDG_RUNTIME_DIR"),
                      line.constData());
     }

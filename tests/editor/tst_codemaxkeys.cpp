@@ -296,7 +296,8 @@ private Q_SLOTS:
         auto *menu = f.editor.findChild<QMenu *>(u"editorMenu"_s);
         QVERIFY(menu && menu->isVisible());
         QStringList entries;
-        for (const QAction *action : menu->actions())
+        const QList<QAction *> actions = menu->actions();
+        for (const QAction *action : actions)
             entries += action->isSeparator() ? u"-"_s : action->text().remove(u'&');
         QCOMPARE(entries,
                  (QStringList{u"Undo"_s, u"Redo"_s, u"-"_s, u"Cut"_s, u"Copy"_s, u"Paste"_s, u"Delete"_s, u"-"_s,

@@ -270,7 +270,8 @@ private Q_SLOTS:
         QFile file(sourcePath(u"data/zephira.ini"_s));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QMap<QString, qint64> shipped;
-        for (const QByteArray &line : file.readAll().split('\n')) {
+        const QList<QByteArray> lines = file.readAll().split('\n');
+        for (const QByteArray &line : lines) {
             const qsizetype equals = line.indexOf('=');
             shipped[QString::fromLatin1(line.left(equals))] = line.mid(equals + 1).trimmed().toLongLong();
         }

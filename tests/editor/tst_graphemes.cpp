@@ -35,7 +35,8 @@ private Q_SLOTS:
         QFETCH(QString, parted);
         const QByteArray line = QString(parted).remove(u'|').toUtf8();
         std::vector<qsizetype> ends{0};
-        for (const QString &part : parted.split(u'|'))
+        const QStringList parts = parted.split(u'|');
+        for (const QString &part : parts)
             ends.push_back(ends.back() + part.toUtf8().size());
         if (line.isEmpty())
             ends.pop_back();

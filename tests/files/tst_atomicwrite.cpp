@@ -271,7 +271,8 @@ private Q_SLOTS:
         bool flushedBeforeRename = false;
         calls.intervene = [&](int, Call call) {
             if (call == Call::Write) {
-                for (const QString &name : namesIn(folder)) {
+                const QStringList all = namesIn(folder);
+                for (const QString &name : all) {
                     if (name != u"a.htm")
                         duringWrite = QFile::permissions(folder.filePath(name));
                 }

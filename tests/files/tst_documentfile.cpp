@@ -81,7 +81,8 @@ struct Desk {
     {
         QList<QByteArray> contents;
         const QDir copies(folder.filePath(u"recovery"_s));
-        for (const QString &name : copies.entryList({u"disk-*"_s}, QDir::Files, QDir::Name))
+        const QStringList names = copies.entryList({u"disk-*"_s}, QDir::Files, QDir::Name);
+        for (const QString &name : names)
             contents.append(files.read(copies.filePath(name)).valueOr("<unreadable>"));
         return contents;
     }

@@ -175,7 +175,8 @@ private Q_SLOTS:
         bool removed = false;
         removing.intervene = [&](int, Call call) {
             if (call == Call::Lock && !std::exchange(removed, true)) {
-                for (const QString &name : names()) {
+                const QStringList all = names();
+                for (const QString &name : all) {
                     if (name.startsWith(u".zephira-"))
                         QFile::remove(at(name));
                 }

@@ -102,8 +102,9 @@ struct FtpWindowBench : FtpBench {
     QStringList keys() const
     {
         QStringList result;
-        for (const QTreeWidgetItem *item :
-             tree().findItems(QStringLiteral("*"), Qt::MatchWildcard | Qt::MatchRecursive))
+        const QList<QTreeWidgetItem *> items =
+            tree().findItems(QStringLiteral("*"), Qt::MatchWildcard | Qt::MatchRecursive);
+        for (const QTreeWidgetItem *item : items)
             result.append(item->data(0, KeyRole).toString());
         result.sort();
         return result;

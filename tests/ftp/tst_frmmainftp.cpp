@@ -186,7 +186,8 @@ void TstFrmmainftp::toolBar()
     Bench bench;
     bench.open();
     QStringList keys;
-    for (const QAction *key : bench.form->get<QToolBar>(u"Toolbar1"_s).actions()) {
+    const QList<QAction *> all = bench.form->get<QToolBar>(u"Toolbar1"_s).actions();
+    for (const QAction *key : all) {
         if (!key->isSeparator())
             keys.append(key->objectName());
     }

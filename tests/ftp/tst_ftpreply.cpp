@@ -14,7 +14,8 @@ namespace {
 FtpReply replyFrom(const QByteArray &lines)
 {
     FtpReplyReader reader;
-    for (const QByteArray &line : lines.split('\n')) {
+    const QList<QByteArray> all = lines.split('\n');
+    for (const QByteArray &line : all) {
         if (!reader.take(line))
             return {};
     }

@@ -69,7 +69,8 @@ struct Bench {
     void clickFolder(const QString &key) const
     {
         auto &tree = window->get<QTreeWidget>(u"TView1"_s);
-        for (QTreeWidgetItem *item : tree.findItems(u"*"_s, Qt::MatchWildcard | Qt::MatchRecursive)) {
+        const QList<QTreeWidgetItem *> items = tree.findItems(u"*"_s, Qt::MatchWildcard | Qt::MatchRecursive);
+        for (QTreeWidgetItem *item : items) {
             if (item->data(0, KeyRole) == key) {
                 tree.scrollToItem(item);
                 QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(item).center());
@@ -83,7 +84,8 @@ struct Bench {
     {
         clickFolder(u"/"_s);
         QString key = u"/"_s;
-        for (const QString &step : server.folder().split(u'/', Qt::SkipEmptyParts))
+        const QStringList steps = server.folder().split(u'/', Qt::SkipEmptyParts);
+        for (const QString &step : steps)
             clickFolder(key += step + u'/');
     }
 

@@ -105,7 +105,8 @@ void TstShippedData::isTheTableOfSettings()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QStringList found;
     QString section;
-    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
+    for (const QString &line : lines) {
         if (line.startsWith(u'['))
             section = line.toLower();
         else if (!line.isEmpty() && !line.startsWith(u';'))

@@ -53,7 +53,8 @@ void playGoldenCase(const FormCatalogue &catalogue, const QString &folder)
     QVERIFY2(!lines.isEmpty() && lines.first().startsWith(u"form "), "the first line names the form");
     TestContext world;
     const LivingForm form(catalogue, lines.first().mid(5), world);
-    for (const QString &step : lines.sliced(1))
+    const QStringList steps = lines.sliced(1);
+    for (const QString &step : steps)
         play(form, step);
     QCOMPARE(world.inserter.inserted.join(QString()).toUtf8(), contentOf(folder + u"/expected.html"_s));
 }

@@ -125,7 +125,8 @@ void TstDefinitions::listHolds()
     QFETCH(QString, list);
     QFETCH(QString, words);
     const QStringList entries = list.split(u'\n');
-    for (const QString &word : words.split(u' '))
+    const QStringList all = words.split(u' ');
+    for (const QString &word : all)
         QVERIFY2(entries.contains(word), qPrintable(word));
 }
 
@@ -146,7 +147,8 @@ void TstDefinitions::noEntryStandsTwice()
 {
     QFETCH(QString, list);
     QSet<QString> seen;
-    for (const QString &entry : list.split(u'\n')) {
+    const QStringList all = list.split(u'\n');
+    for (const QString &entry : all) {
         QVERIFY2(!entry.isEmpty() && !seen.contains(entry), qPrintable(entry));
         seen.insert(entry);
     }

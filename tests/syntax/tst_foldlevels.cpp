@@ -89,7 +89,8 @@ void TstFoldLevels::folds()
 void TstFoldLevels::resumesAtAnyLine_data()
 {
     QTest::addColumn<QString>("language");
-    for (const QString &language : corpusLanguages())
+    const QStringList languages = corpusLanguages();
+    for (const QString &language : languages)
         QTest::newRow(qPrintable(language)) << language;
 }
 

@@ -52,7 +52,8 @@ Styled styleAll(const SyntaxEngine &engine, const QByteArray &text)
 void addLanguages()
 {
     QTest::addColumn<QString>("language");
-    for (const QString &language : corpusLanguages())
+    const QStringList languages = corpusLanguages();
+    for (const QString &language : languages)
         QTest::newRow(qPrintable(language)) << language;
 }
 

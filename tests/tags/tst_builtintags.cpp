@@ -91,7 +91,8 @@ private Q_SLOTS:
     {
         QStringList bare;
         for (const BuiltInTag &tag : builtInTags()) {
-            for (const QString &caption : attributeCaptions(tag)) {
+            const QStringList all = attributeCaptions(tag);
+            for (const QString &caption : all) {
                 if (!caption.endsWith(u"=\"\""))
                     bare.append(tag.key.toString() + caption);
             }

@@ -87,7 +87,8 @@ void TstFrmQv::toolBar()
     QVERIFY(!form().isModal());
     QStringList keys;
     QStringList captions;
-    for (const QAction *each : m_form->get<QToolBar>(u"tBar"_s).actions()) {
+    const QList<QAction *> all = m_form->get<QToolBar>(u"tBar"_s).actions();
+    for (const QAction *each : all) {
         keys.append(each->objectName());
         captions.append(each->text());
     }

@@ -205,7 +205,7 @@ private Q_SLOTS:
         QFETCH(QList<int>, way);
         Bench bench;
         bench.openFile(u"/site/page.html"_s, u"<p>"_s);
-        for (const int view : way)
+        for (const int view : std::as_const(way))
             bench.select(WorkspaceView(view));
         QCOMPARE(int(bench.window.shown), way.isEmpty() ? 0 : way.last());
         QCOMPARE(int(bench.views.current()), way.isEmpty() ? 0 : way.last());

@@ -92,7 +92,7 @@ void TstDesignerPlainText::typing()
     load(before);
     const QString loaded = designer().documentHtml();
     select(from, to);
-    for (const QString &key : keys) {
+    for (const QString &key : std::as_const(keys)) {
         if (key == u"\n" || key == u"Shift\n")
             m_bench->press(Qt::Key_Return, key == u"\n" ? Qt::NoModifier : Qt::ShiftModifier);
         else if (key == u"\t")

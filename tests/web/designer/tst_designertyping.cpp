@@ -143,7 +143,7 @@ void TstDesignerTyping::keys()
     QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"document.readyState"_s).toString(), u"complete"_s,
                               DesignerBench::patience);
     const QString untouched = m_bench->body();
-    for (const QString &key : keys)
+    for (const QString &key : std::as_const(keys))
         press(key);
     QTRY_COMPARE_WITH_TIMEOUT(m_bench->text(), after, DesignerBench::patience);
     const QString changed = m_bench->body();

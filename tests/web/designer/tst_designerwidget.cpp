@@ -165,7 +165,8 @@ void TstDesignerWidget::values()
     m_bench->run(DesignerCommand::SetFontSize, 7);
     QCOMPARE(m_bench->run(DesignerCommand::GetFontSize).toInt(), 7);
     m_bench->show(u"<p>[a]</p>"_s);
-    for (const QString &name : m_bench->run(DesignerCommand::GetBlockFormatNames).toStringList()) {
+    const QStringList names = m_bench->run(DesignerCommand::GetBlockFormatNames).toStringList();
+    for (const QString &name : names) {
         m_bench->run(DesignerCommand::SetBlockFormat, name);
         QCOMPARE(m_bench->run(DesignerCommand::GetBlockFormat).toString(), name == u"Paragraph" ? u"Normal"_s : name);
     }
