@@ -67,6 +67,12 @@ class CompileFlags:
         return kept
 
 
+def own_header(name):
+    """The path of a header of ours by its name as included, "core/a.h" with the quotes; None for any other name."""
+    paths = (ROOT / folder / name[1:-1] for folder in ("src", "tests", "."))
+    return next((path for path in paths if path.is_file()), None) if name.startswith('"') else None
+
+
 def included(file, seen=None):
     """What the file includes, directly or through our own headers, with its brackets or quotes: <QString>, "core/a.h"."""
     seen = set() if seen is None else seen
@@ -74,7 +80,7 @@ def included(file, seen=None):
         if name in seen:
             continue
         seen.add(name)
-        ours = ROOT / "src" / name[1:-1]
-        if name.startswith('"') and ours.exists():
+        ours = own_header(name)
+        if ours:
             included(ours, seen)
     return seen
