@@ -155,12 +155,12 @@ void FileListView::prepare(QAbstractItemView &view)
 
 void FileListView::setView(int view)
 {
-    m_view = std::clamp<int>(view, LargeIcons, Report);
-    m_icons->setVisible(m_view != Report);
-    setFocusProxy(m_view == Report ? nullptr : m_icons);
-    if (m_view == Report)
+    m_view = FileListMode(std::clamp(view, int(FileListMode::LargeIcons), int(FileListMode::Report)));
+    m_icons->setVisible(m_view != FileListMode::Report);
+    setFocusProxy(m_view == FileListMode::Report ? nullptr : m_icons);
+    if (m_view == FileListMode::Report)
         return;
-    const IconLayout &layout = iconLayouts[m_view];
+    const IconLayout &layout = iconLayouts[int(m_view)];
     m_icons->setViewMode(layout.mode);
     m_icons->setFlow(layout.flow);
     m_icons->setMovement(QListView::Static);
@@ -232,7 +232,8 @@ void FileListView::editName()
 
 QAbstractItemView &FileListView::shownView() const
 {
-    return m_view == Report ? const_cast<FileListView &>(*this) : static_cast<QAbstractItemView &>(*m_icons);
+    return m_view == FileListMode::Report ? const_cast<FileListView &>(*this)
+                                          : static_cast<QAbstractItemView &>(*m_icons);
 }
 
 void FileListView::sortBy(int column)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ftp/filelistmode.h"
 #include "ftp/filerow.h"
 
 #include <QTreeView>
@@ -13,21 +14,19 @@ namespace zephira {
 
 class FileRowsModel;
 
-/// A list of files in four views: large icons, small icons, list and report, numbered from 0. The report is this widget
-/// itself; the other views lie on top of it and share its rows and selection. A click on a column header sorts by that
-/// column and reverses the order each time.
+/// A list of files in the four views of FileListMode. The report is this widget itself; the other views lie on top of it
+/// and share its rows and selection. A click on a column header sorts by that column and reverses the order each time.
 class FileListView final : public QTreeView, public FileRows
 {
     Q_OBJECT
     Q_PROPERTY(int View READ view WRITE setView)
 
 public:
-    enum View { LargeIcons, SmallIcons, List, Report };
-
     explicit FileListView(QWidget *parent = nullptr);
 
-    int view() const { return m_view; }
+    int view() const { return static_cast<int>(m_view); }
     void setView(int view);
+    void setView(FileListMode view) { setView(static_cast<int>(view)); }
     /// Enables dragging, which shows the selected rows' pictures; nothing accepts the drop.
     void setDragging(bool on);
 
@@ -67,7 +66,7 @@ private:
 
     FileRowsModel *m_model;
     QListView *m_icons;
-    int m_view = Report;
+    FileListMode m_view = FileListMode::Report;
     Qt::SortOrder m_order = Qt::AscendingOrder;
     bool m_dragging = false;
 };

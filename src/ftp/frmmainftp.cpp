@@ -21,7 +21,6 @@
 #include <QLabel>
 #include <QMenu>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -42,61 +41,6 @@ constexpr PanelRow panelRows[] = {{u"Status", 0}, {u"Last action", 1}, {u"Connec
 
 } // namespace
 
-/// What a menu entry runs: a command of one of the panes, or of the window.
-struct frmmainftp::Command {
-    QStringView entry;
-    void (*run)(frmmainftp &);
-};
-
-struct frmmainftp::ViewCommand {
-    QStringView entry;
-    FileListView *Ui::frmmainftp::*list;
-    FileListView::View view;
-};
-
-const frmmainftp::Command frmmainftp::commands[] = {
-    {u"zOpen", [](frmmainftp &window) { window.openLogs(); }},
-    {u"zSave", [](frmmainftp &window) { window.saveLog(); }},
-    {u"zConnect", [](frmmainftp &window) { window.openModal(u"FrmConnect"_s); }},
-    {u"zDisconnect", [](frmmainftp &window) { window.m_connection.disconnectFromServer(); }},
-    {u"zOdpojit", [](frmmainftp &window) { window.m_connection.hangUp(); }},
-    {u"zEnd", [](frmmainftp &window) { window.close(); }},
-    {u"zLokRef", [](frmmainftp &window) { window.m_local->refill(); }},
-    {u"zOpenFile", [](frmmainftp &window) { window.m_local->openFile(); }},
-    {u"zLokUp", [](frmmainftp &window) { window.m_local->upload(); }},
-    {u"zLokNF", [](frmmainftp &window) { window.m_local->newFolder(); }},
-    {u"zLokDF", [](frmmainftp &window) { window.m_local->removeFolder(); }},
-    {u"zLokDS", [](frmmainftp &window) { window.m_local->deleteFiles(); }},
-    {u"zLokRS", [](frmmainftp &window) { window.m_local->rename(); }},
-    {u"zAll", [](frmmainftp &window) { window.m_local->patternAll(); }},
-    {u"zDefine", [](frmmainftp &window) { window.m_local->patternDefined(); }},
-    {u"zFind", [](frmmainftp &window) { window.m_local->findFile(); }},
-    {u"zProperties", [](frmmainftp &window) { window.m_local->showProperties(); }},
-    {u"zRemRef", [](frmmainftp &window) { window.m_remote->refresh(); }},
-    {u"zRemDown", [](frmmainftp &window) { window.m_remote->download(); }},
-    {u"zRemNF", [](frmmainftp &window) { window.m_remote->newFolder(); }},
-    {u"zRemDF", [](frmmainftp &window) { window.m_remote->removeFolder(); }},
-    {u"zRemDS", [](frmmainftp &window) { window.m_remote->deleteFiles(); }},
-    {u"zRemRS", [](frmmainftp &window) { window.m_remote->rename(); }},
-    {u"zAll2", [](frmmainftp &window) { window.m_remote->patternAll(); }},
-    {u"zDefine2", [](frmmainftp &window) { window.m_remote->patternDefined(); }},
-    {u"zBinary", [](frmmainftp &window) { window.m_connection.setTransferType(true); }},
-    {u"zAscii", [](frmmainftp &window) { window.m_connection.setTransferType(false); }},
-    {u"zPassive", [](frmmainftp &window) { window.togglePassive(); }},
-    {u"zTools", [](frmmainftp &window) { window.toggleToolBar(); }},
-};
-
-const frmmainftp::ViewCommand frmmainftp::viewCommands[] = {
-    {u"ztBigIc", &Ui::frmmainftp::ListView1, FileListView::LargeIcons},
-    {u"ztSmallIc", &Ui::frmmainftp::ListView1, FileListView::SmallIcons},
-    {u"ztSeznam", &Ui::frmmainftp::ListView1, FileListView::List},
-    {u"ztReport", &Ui::frmmainftp::ListView1, FileListView::Report},
-    {u"zsBigIc", &Ui::frmmainftp::ListView2, FileListView::LargeIcons},
-    {u"zsSmallIc", &Ui::frmmainftp::ListView2, FileListView::SmallIcons},
-    {u"zsSeznam", &Ui::frmmainftp::ListView2, FileListView::List},
-    {u"zsReport", &Ui::frmmainftp::ListView2, FileListView::Report},
-};
-
 frmmainftp::frmmainftp(FtpClient &client, const AppContext &context, QWidget *owner)
     : QMainWindow(owner)
     , m_ui(std::make_unique<Ui::frmmainftp>())
@@ -107,9 +51,9 @@ frmmainftp::frmmainftp(FtpClient &client, const AppContext &context, QWidget *ow
     m_ui->setupUi(this);
     m_sinceLogPainted.start();
     m_menus = new FtpMenus(*m_ui->menubar, *m_ui->Toolbar1, this);
-    connect(m_menus, &FtpMenus::triggered, this, &frmmainftp::run);
-    m_menus->entry(u"zProperties").setEnabled(false);
-    m_menus->entry(u"zTools").setChecked(true);
+    connect(m_menus, &FtpMenus::chosen, this, &frmmainftp::run);
+    m_menus->entry(ftpname::properties).setEnabled(false);
+    m_menus->entry(ftpname::toolBar).setChecked(true);
     markTransferType(true);
     markPassive(true);
     makePanels();
@@ -162,15 +106,15 @@ void frmmainftp::makePanes()
                                  .names = *m_ui->File1,
                                  .list = *m_ui->ListView1,
                                  .path = *m_ui->Label1,
-                                 .allFiles = m_menus->entry(u"zAll"),
-                                 .definedTypes = m_menus->entry(u"zDefine")},
+                                 .allFiles = m_menus->entry(ftpname::allLocalFiles),
+                                 .definedTypes = m_menus->entry(ftpname::definedLocalFiles)},
                                 this);
     m_local = std::make_unique<LocalCommands>(m_client, *this, *m_localPane, m_context);
     m_remotePane = new RemotePane({.tree = *m_ui->TView1,
                                    .list = *m_ui->ListView2,
                                    .path = *m_ui->Label3,
-                                   .allFiles = m_menus->entry(u"zAll2"),
-                                   .definedTypes = m_menus->entry(u"zDefine2")},
+                                   .allFiles = m_menus->entry(ftpname::allRemoteFiles),
+                                   .definedTypes = m_menus->entry(ftpname::definedRemoteFiles)},
                                   this);
     m_remote = std::make_unique<RemoteCommands>(m_client, *this, *m_remotePane, m_context);
 }
@@ -180,14 +124,17 @@ void frmmainftp::connectLocalPane()
     FileListView *list = m_ui->ListView1;
     connect(list, &FileListView::listClicked, this, [this, list] {
         if (!list->selected().empty())
-            m_menus->entry(u"zProperties").setEnabled(true);
+            m_menus->entry(ftpname::properties).setEnabled(true);
         m_local->showSummary();
     });
-    connect(list, &FileListView::opened, this, [this] { run(u"zOpenFile"_s); });
-    connect(list, &FileListView::deletePressed, this, [this] { run(u"zLokDS"_s); });
-    connect(list, &FileListView::renamePressed, this, [this] { run(u"zLokRS"_s); });
+    connect(list, &FileListView::opened, this,
+            [this] { guard(u"zOpenFile_Click"_s, [this] { m_local->openFile(); }); });
+    connect(list, &FileListView::deletePressed, this,
+            [this] { guard(u"zLokDS_Click"_s, [this] { m_local->deleteFiles(); }); });
+    connect(list, &FileListView::renamePressed, this,
+            [this] { guard(u"zLokRS_Click"_s, [this] { m_local->rename(); }); });
     connect(list, &FileListView::popupRequested, this,
-            [this](const QPoint &place) { m_menus->menu(u"zLocal").popup(place); });
+            [this](const QPoint &place) { m_menus->menu(ftpname::localMenu).popup(place); });
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_local->renameStarted(name); });
     list->mayRename = [this](const QString &oldName, const QString &newName) {
         bool stays = false;
@@ -201,23 +148,27 @@ void frmmainftp::connectLocalPane()
             [this] { setPanel(textPanel, u"Local: Chose local disk"_s); });
     connect(m_localPane, &LocalPane::foldersClicked, this,
             [this] { setPanel(textPanel, u"Local: Doudle click folder for retreiving files"_s); });
-    connect(m_ui->Dir1, &DirListBox::deletePressed, this, [this] { run(u"zLokDF"_s); });
+    connect(m_ui->Dir1, &DirListBox::deletePressed, this,
+            [this] { guard(u"zLokDF_Click"_s, [this] { m_local->removeFolder(); }); });
 }
 
 void frmmainftp::connectRemotePane()
 {
     FileListView *list = m_ui->ListView2;
     connect(list, &FileListView::listClicked, this, [this] { m_remote->showSummary(); });
-    connect(list, &FileListView::deleteReleased, this, [this] { run(u"zRemDS"_s); });
-    connect(list, &FileListView::renamePressed, this, [this] { run(u"zRemRS"_s); });
+    connect(list, &FileListView::deleteReleased, this,
+            [this] { guard(u"zRemDS_Click"_s, [this] { m_remote->deleteFiles(); }); });
+    connect(list, &FileListView::renamePressed, this,
+            [this] { guard(u"zRemRS_Click"_s, [this] { m_remote->rename(); }); });
     connect(list, &FileListView::popupRequested, this,
-            [this](const QPoint &place) { m_menus->menu(u"zRemote").popup(place); });
+            [this](const QPoint &place) { m_menus->menu(ftpname::remoteMenu).popup(place); });
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_remote->renameStarted(name); });
     list->mayRename = [this](const QString &oldName, const QString &newName) {
         return m_remote->renameEnded(oldName, newName);
     };
     connect(m_remotePane, &RemotePane::nodeChosen, this, [this](const RemoteNode &node) { m_remote->openNode(node); });
-    connect(m_remotePane, &RemotePane::deletePressed, this, [this] { run(u"zRemDF"_s); });
+    connect(m_remotePane, &RemotePane::deletePressed, this,
+            [this] { guard(u"zRemDF_Click"_s, [this] { m_remote->removeFolder(); }); });
 }
 
 void frmmainftp::addHelpKeys()
@@ -231,16 +182,27 @@ void frmmainftp::addHelpKeys()
     addActions({help, about});
 }
 
-void frmmainftp::run(const QString &entry)
+/// Runs each kind of effect. No row is without one.
+class frmmainftp::EffectRunner
 {
-    if (const auto view = std::ranges::find(viewCommands, QStringView(entry), &ViewCommand::entry);
-        view != std::end(viewCommands)) {
-        (m_ui.get()->*view->list)->setView(view->view);
-        return;
-    }
-    if (const auto command = std::ranges::find(commands, QStringView(entry), &Command::entry);
-        command != std::end(commands))
-        guard(entry + u"_Click"_s, [&] { command->run(*this); });
+public:
+    explicit EffectRunner(frmmainftp &window) : m_window(window) {}
+
+    void operator()(std::monostate) const {}
+    void operator()(void (LocalCommands::*run)()) const { (m_window.m_local.get()->*run)(); }
+    void operator()(void (RemoteCommands::*run)()) const { (m_window.m_remote.get()->*run)(); }
+    void operator()(void (FtpConnection::*run)()) const { (m_window.m_connection.*run)(); }
+    void operator()(void (FtpWindowCommands::*run)()) const { (m_window.*run)(); }
+    void operator()(const ShowsFiles &effect) const { (m_window.*effect.show)(effect.view); }
+    void operator()(const SetsTransferType &effect) const { m_window.m_connection.setTransferType(effect.binary); }
+
+private:
+    frmmainftp &m_window;
+};
+
+void frmmainftp::run(const FtpMenuItem &item)
+{
+    guard(item.name.toString() + u"_Click"_s, [&] { std::visit(EffectRunner(*this), item.effect); });
 }
 
 void frmmainftp::guard(const QString &procedure, const std::function<void()> &body)
@@ -268,16 +230,36 @@ void frmmainftp::saveLog()
     saveSessionLog(m_context, m_ui->txtInfo->toPlainText().replace(u'\n', u"\r\n"_s));
 }
 
+void frmmainftp::chooseSite()
+{
+    openModal(u"FrmConnect"_s);
+}
+
+void frmmainftp::closeWindow()
+{
+    close();
+}
+
 void frmmainftp::togglePassive()
 {
-    markPassive(!m_menus->entry(u"zPassive").isChecked());
+    markPassive(!m_menus->entry(ftpname::passive).isChecked());
 }
 
 void frmmainftp::toggleToolBar()
 {
-    QAction &entry = m_menus->entry(u"zTools");
+    QAction &entry = m_menus->entry(ftpname::toolBar);
     entry.setChecked(!entry.isChecked());
     m_ui->Toolbar1->setVisible(entry.isChecked());
+}
+
+void frmmainftp::showLocalFiles(FileListMode view)
+{
+    m_ui->ListView1->setView(view);
+}
+
+void frmmainftp::showRemoteFiles(FileListMode view)
+{
+    m_ui->ListView2->setView(view);
 }
 
 void frmmainftp::Help()
@@ -341,13 +323,13 @@ void frmmainftp::setBusy(bool busy)
 
 void frmmainftp::markTransferType(bool binary)
 {
-    m_menus->entry(u"zBinary").setChecked(binary);
-    m_menus->entry(u"zAscii").setChecked(!binary);
+    m_menus->entry(ftpname::binary).setChecked(binary);
+    m_menus->entry(ftpname::ascii).setChecked(!binary);
 }
 
 void frmmainftp::markPassive(bool passive)
 {
-    m_menus->entry(u"zPassive").setChecked(passive);
+    m_menus->entry(ftpname::passive).setChecked(passive);
 }
 
 void frmmainftp::clearRemoteTree()

@@ -3,6 +3,7 @@
 
 #include "ftp/ftpconnection.h"
 #include "ftp/ftpdesk.h"
+#include "ftp/ftpwindowcommands.h"
 #include "ftp/localcommands.h"
 #include "ftp/remotecommands.h"
 
@@ -26,10 +27,11 @@ class LocalPane;
 class RemotePane;
 struct AppContext;
 struct FtpClient;
+struct FtpMenuItem;
 
 /// The FTP window: this machine's folders and files on the left, the server's on the right, the session's log below.
 /// LocalCommands, RemoteCommands and FtpConnection implement the commands; the window connects them with its controls.
-class frmmainftp final : public QMainWindow, public FtpDesk
+class frmmainftp final : public QMainWindow, public FtpDesk, private FtpWindowCommands
 {
     Q_OBJECT
     Q_PROPERTY(QString LocalFolder READ localFolder WRITE setLocalFolder)
@@ -65,24 +67,26 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    struct Command;
-    struct ViewCommand;
-    static const Command commands[];
-    static const ViewCommand viewCommands[];
+    class EffectRunner;
 
     void makePanes();
     void makePanels();
     void connectLocalPane();
     void connectRemotePane();
     void addHelpKeys();
-    void run(const QString &entry);
+    void run(const FtpMenuItem &item);
     /// Shows errors for which no command has a message, with the procedure's name.
     void guard(const QString &procedure, const std::function<void()> &body);
 
-    void openLogs();
-    void saveLog();
-    void togglePassive();
-    void toggleToolBar();
+    // FtpWindowCommands
+    void openLogs() override;
+    void saveLog() override;
+    void chooseSite() override;
+    void closeWindow() override;
+    void togglePassive() override;
+    void toggleToolBar() override;
+    void showLocalFiles(FileListMode view) override;
+    void showRemoteFiles(FileListMode view) override;
 
     const std::unique_ptr<Ui::frmmainftp> m_ui;
     FtpClient &m_client;

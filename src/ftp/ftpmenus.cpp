@@ -85,11 +85,11 @@ void FtpMenus::addEntry(QMenu *menu, const FtpMenuItem &item)
     entry->setObjectName(item.name.toString());
     entry->setCheckable(item.kind == FtpMenuItem::Kind::Check);
     m_entries.insert(entry->objectName(), entry);
-    connect(entry, &QAction::triggered, this, [this, entry] {
+    connect(entry, &QAction::triggered, this, [this, entry, &item] {
         // Only the command sets the check mark: undo what the click did to it.
         if (entry->isCheckable())
             entry->setChecked(!entry->isChecked());
-        Q_EMIT triggered(entry->objectName());
+        Q_EMIT chosen(item);
     });
 }
 

@@ -26,8 +26,8 @@ public:
     QMenu &menu(QStringView name) const;
 
 Q_SIGNALS:
-    /// An entry was chosen, or its tool button was clicked. The entry's check mark is not changed yet.
-    void triggered(const QString &entry);
+    /// An entry was chosen, or its tool button was clicked. Its check mark is unchanged: the command sets it.
+    void chosen(const zephira::FtpMenuItem &item);
 
 private:
     QMenu *makeMenu(const FtpMenuItem &item, QWidget *parent);

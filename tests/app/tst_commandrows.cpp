@@ -11,6 +11,7 @@
 #include "commands/toolbartable.h"
 #include "core/documenthost.h"
 #include "core/languages.h"
+#include "support/actionwalk.h"
 #include "support/testregistry.h"
 
 #include <QMenuBar>
@@ -22,54 +23,8 @@ using namespace zephira;
 
 namespace {
 
-/// The number of a signal's receivers, which QObject tells only its subclasses.
-struct Listeners : QObject {
-    static int to(const QObject &sender, const char *signal) { return (sender.*&Listeners::receivers)(signal); }
-};
-
-/// The number of receivers of an action, not counting the widgets that show it. These are counted on an idle action
-/// that is added to the same widgets.
-int effectsOf(QAction &action)
-{
-    QAction idle(nullptr);
-    const QList<QObject *> holders = action.associatedObjects();
-    for (QObject *holder : holders) {
-        if (auto *menu = qobject_cast<QMenu *>(holder))
-            menu->addAction(&idle);
-        else if (auto *bar = qobject_cast<QToolBar *>(holder))
-            bar->addAction(&idle);
-    }
-    const char *signal = SIGNAL(triggered(bool));
-    return Listeners::to(action, signal) - Listeners::to(idle, signal);
-}
-
-/// What is wrong with an action: one that can be chosen must have exactly one effect, one that opens a menu at most
-/// one.
-QStringList faultsOf(QAction &action)
-{
-    if (action.isSeparator() || !action.isEnabled())
-        return {};
-    const int effects = effectsOf(action);
-    if (effects == 1 || (effects == 0 && action.menu()))
-        return {};
-    return {u"%1 \"%2\" has %3 effects"_s.arg(action.objectName(), action.text()).arg(effects)};
-}
-
-/// All actions of a menu or toolbar and of the menus in it.
-QList<QAction *> actionsOf(const QWidget &holder)
-{
-    QList<QAction *> found;
-    const QList<QAction *> all = holder.actions();
-    for (QAction *action : all) {
-        found.append(action);
-        if (action->menu())
-            found.append(actionsOf(*action->menu()));
-    }
-    return found;
-}
-
-/// All actions of the window: menus, pop-ups, toolbars with their pull-downs, and the palette.
-QList<QAction *> actionsOf(const WindowBench &bench)
+/// All rows of the window: menus, pop-ups, toolbars with their pull-downs, and the palette.
+QList<QAction *> rowsOf(const WindowBench &bench)
 {
     QList<QAction *> found = actionsOf(*bench.window->menuBar());
     for (const MenuItem &popup : popupTable())
@@ -98,7 +53,7 @@ private Q_SLOTS:
         bench.start();
         // The language that opens every toolbar.
         bench.window->context().document.setLanguageRow(language::Html);
-        const QList<QAction *> actions = actionsOf(bench);
+        const QList<QAction *> actions = rowsOf(bench);
         QStringList faults;
         int enabled = 0;
         for (QAction *action : actions) {
@@ -167,8 +122,8 @@ private Q_SLOTS:
         QCOMPARE(faultsOf(*none), QStringList());
 
         QStringList all;
-        const QList<QAction *> actions = actionsOf(bench);
-        for (QAction *action : actions)
+        const QList<QAction *> rows = rowsOf(bench);
+        for (QAction *action : rows)
             all.append(faultsOf(*action));
         QCOMPARE(all, QStringList{u"clearclip \"&Clear Clipboard\" has 2 effects"_s});
     }

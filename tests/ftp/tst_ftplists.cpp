@@ -328,7 +328,7 @@ void TstFtpLists::manyEntries()
     QCOMPARE(bench.remote().selected().size(), std::size_t(count));
     Bench::clickHead(bench.remote(), FileRowsModel::Name);
     QCOMPARE(bench.names(bench.remote()).first(), u"file9999.html"_s);
-    bench.remote().setView(FileListView::LargeIcons);
+    bench.remote().setView(FileListMode::LargeIcons);
     QCOMPARE(bench.remote().selected().size(), std::size_t(count));
 }
 
@@ -382,9 +382,9 @@ void TstFtpLists::views()
         for (int view = 0; view < views.size(); ++view) {
             bench.choose(prefix + views[view]);
             QCOMPARE(list->property("View").toInt(), view);
-            QCOMPARE(icons->isVisible(), view != FileListView::Report);
+            QCOMPARE(icons->isVisible(), view != int(FileListMode::Report));
             // An item fills its whole cell, however short the first name is.
-            if (view != FileListView::Report)
+            if (view != int(FileListMode::Report))
                 QVERIFY(icons->visualRect(icons->model()->index(1, 0)).width() * 10 > icons->gridSize().width() * 9);
         }
         // The icon view shows the same rows, and clicks in it select them.
@@ -395,7 +395,7 @@ void TstFtpLists::views()
         QCOMPARE(list->selected().size(), std::size_t(1));
         QVERIFY(bench.panel(2).contains(u" 1 Files selected, "_s));
         list->setProperty("View", 99);
-        QCOMPARE(list->property("View").toInt(), int(FileListView::Report));
+        QCOMPARE(list->property("View").toInt(), int(FileListMode::Report));
     }
 }
 
@@ -427,7 +427,7 @@ void TstFtpLists::dragging()
 {
     Bench bench;
     bench.open();
-    for (const int view : {FileListView::Report, FileListView::LargeIcons, FileListView::List}) {
+    for (const FileListMode view : {FileListMode::Report, FileListMode::LargeIcons, FileListMode::List}) {
         bench.local().setView(view);
         QCOMPARE(bench.local().dragDropMode(), QAbstractItemView::DragOnly);
         QCOMPARE(bench.local().findChild<QListView *>()->dragDropMode(), QAbstractItemView::DragOnly);
