@@ -39,8 +39,8 @@ void VisualTools::connectDesigner()
 
 void VisualTools::connectBar()
 {
-    connect(&m_bar, &DesignerBar::buttonClicked, this, [this](const QString &key) {
-        m_tools.clickButton(key);
+    connect(&m_bar, &DesignerBar::buttonClicked, this, [this](DesignerCommand command) {
+        m_tools.click(command);
         showState(); // The click has toggled the button, whether or not the command succeeded.
         Q_EMIT finished();
     });

@@ -43,7 +43,7 @@ DesignerBar::DesignerBar(QWidget *parent) : QToolBar(u"Visual designer"_s, paren
         action->setObjectName(button.key);
         action->setToolTip(tipWithKeys(button.tip, button.keys));
         action->setCheckable(true);
-        connect(action, &QAction::triggered, this, [this, &button] { Q_EMIT buttonClicked(button.key.toString()); });
+        connect(action, &QAction::triggered, this, [this, &button] { Q_EMIT buttonClicked(button.command); });
     }
     m_reset = new QPushButton(u"Reset"_s, this);
     m_reset->setObjectName(u"Command1"_s);

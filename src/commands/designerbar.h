@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/designercommand.h"
+
 #include <QToolBar>
 
 class QComboBox;
@@ -28,7 +30,7 @@ public:
     void showFontSize(const QString &text);
 
 Q_SIGNALS:
-    void buttonClicked(const QString &key);
+    void buttonClicked(zephira::DesignerCommand command);
     /// A name was chosen from the list, or typed.
     void fontChosen(const QString &name);
     /// 1 to 7, from the list.

@@ -4,10 +4,7 @@
 #include "core/errorstyles.h"
 #include "core/prompts.h"
 #include "views/designerbarstate.h"
-#include "views/designercommands.h"
 #include "views/designermenus.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -50,16 +47,12 @@ void DesignerTools::runIfReady(DesignerCommand command, const QVariant &argument
         run(command, argument);
 }
 
-void DesignerTools::clickButton(const QString &key)
+void DesignerTools::click(DesignerCommand command)
 {
-    const auto buttons = designerButtons();
-    const auto button = std::ranges::find_if(buttons, [&](const DesignerButton &row) { return row.key == key; });
-    if (button == buttons.end())
-        return;
-    if (button->command == DesignerCommand::SetForeColor)
+    if (command == DesignerCommand::SetForeColor)
         chooseColour();
     else
-        run(button->command);
+        run(command);
 }
 
 void DesignerTools::chooseColour()

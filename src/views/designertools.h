@@ -24,8 +24,8 @@ public:
     /// The formats of the Format menu in its order; at most as many as it has entries.
     const QStringList &blockFormats() const { return m_blockFormats; }
 
-    /// Runs the command of a toolbar button, by its key.
-    void clickButton(const QString &key);
+    /// Runs the command of a toolbar button. The text colour is asked for first.
+    void click(DesignerCommand command);
     void chooseFont(const QString &name);
     /// Sets a size from 1 to 7.
     void chooseFontSize(int size);

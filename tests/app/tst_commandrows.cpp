@@ -79,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(palette);
         QCOMPARE(Listeners::to(*palette, SIGNAL(clicked(zephira::QuickTag))), 1);
         QCOMPARE(Listeners::to(*palette, SIGNAL(headingClicked(int))), 1);
-        QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"Toolbar2"_s), SIGNAL(buttonClicked(QString))), 1);
+        QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"Toolbar2"_s), SIGNAL(buttonClicked(zephira::DesignerCommand))), 1);
     }
 
     /// Exactly those entries are disabled that need a form which isn't implemented yet.
