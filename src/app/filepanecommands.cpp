@@ -3,6 +3,7 @@
 
 #include "app/quickview.h"
 #include "commands/menus.h"
+#include "commands/menutable.h"
 #include "core/configuration.h"
 #include "core/errorstyles.h"
 #include "core/inserter.h"
@@ -16,7 +17,6 @@
 #include "panes/sidetabbar.h"
 #include "views/workspaceviews.h"
 
-#include <QAction>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
@@ -43,10 +43,8 @@ void FilePaneCommands::openListedFile()
 
 void FilePaneCommands::showMenu(const QPoint &place)
 {
-    const bool hasFile = !m_parts.pane.fileList().fileName().isEmpty();
-    for (const QString &entry : {u"mnuqv"_s, u"mnuinslink"_s})
-        m_parts.menus.action(entry)->setEnabled(hasFile);
-    m_parts.menus.menu(u"mnufilerc"_s)->popup(place);
+    m_parts.menus.setMet(Need::ListedFile, !m_parts.pane.fileList().fileName().isEmpty());
+    m_parts.menus.menu(menuname::fileList)->popup(place);
 }
 
 void FilePaneCommands::showInQuickView()

@@ -282,9 +282,9 @@ void frmmain::languageSet(int row)
     if (row < 0 || row >= languageCount)
         return;
     const LanguageRow &language = languageRows()[size_t(row)];
-    m_formattingBar->setMarkupOpen(language.markupTools);
-    // In visual mode the menu stays disabled, because it inserts into the source. Its entry in the menu bar follows.
-    m_menus->menu(u"Tags"_s)->setEnabled(language.markupTools && !m_designer.isShowing());
+    m_formattingBar->setMet(Need::Markup, language.markupTools);
+    // In visual mode the menu stays disabled, because it inserts into the source.
+    m_menus->setMet(Need::Markup, language.markupTools && !m_designer.isShowing());
     m_rt->setLanguage(QStringView(language.editorLanguage).toString());
 }
 

@@ -2,6 +2,7 @@
 #include "app/sidelists.h"
 
 #include "commands/menus.h"
+#include "commands/menutable.h"
 #include "core/appcontext.h"
 #include "panes/asptagtree.h"
 #include "panes/customtabs.h"
@@ -22,7 +23,7 @@ SideLists::SideLists(const AppContext &context, const Menus &menus, SidePane &pa
     , m_tags(new TagTree(context))
     , m_aspTags(new AspTagTree(context))
     , m_scripts(new ScriptLibrary(context))
-    , m_custom(new CustomTabs(context, m_fileNumber, *menus.menu(u"cmenu"_s), &pane))
+    , m_custom(new CustomTabs(context, m_fileNumber, *menus.menu(menuname::customTab), &pane))
 {
     pane.setPage(u"html"_s, m_tags);
     pane.setPage(u"asp"_s, m_aspTags);

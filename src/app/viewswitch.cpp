@@ -3,7 +3,6 @@
 
 #include "commands/designerbar.h"
 #include "commands/menus.h"
-#include "commands/menutable.h"
 #include "core/errorstyles.h"
 #include "core/prompts.h"
 #include "document/document.h"
@@ -11,7 +10,6 @@
 #include "views/previewpane.h"
 
 #include <QEvent>
-#include <QMenu>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
@@ -19,12 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace zephira {
-
-namespace {
-
-constexpr QStringView sourceMenus[] = {u"tools", u"Tags"};
-
-} // namespace
 
 ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner)
     : QObject(owner)
@@ -157,14 +149,12 @@ void ViewSwitch::showControls(WorkspaceView view)
 
 void ViewSwitch::setSourceMenusEnabled(bool enabled)
 {
-    for (const QStringView name : sourceMenus)
-        m_parts.menus.menu(name.toString())->setEnabled(enabled); // Its entry in the menu bar follows.
+    m_parts.menus.setMet(Need::SourceView, enabled);
 }
 
 void ViewSwitch::setVisualMenusEnabled(bool enabled)
 {
-    for (const QStringView name : visualMenus())
-        m_parts.menus.menu(name.toString())->setEnabled(enabled);
+    m_parts.menus.setMet(Need::VisualView, enabled);
 }
 
 /// The pointer reaches the tabs before it clicks, which leaves time to load the web engine. If loading fails, the click

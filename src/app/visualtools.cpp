@@ -62,8 +62,10 @@ void VisualTools::connectBar()
 
 void VisualTools::connectMenus()
 {
-    for (const QStringView name : visualMenus()) {
-        const QString menu = name.toString();
+    for (const MenuItem &item : menuBarTable()) {
+        if (!item.needs.testFlag(Need::VisualView))
+            continue;
+        const QString menu = item.name.toString();
         connect(m_menus.menu(menu), &QMenu::aboutToShow, this, [this, menu] { updateMenu(menu); });
     }
 }

@@ -56,13 +56,12 @@ Menus::Menus(QMenuBar *bar, QObject *owner) : QObject(owner)
             bar->addMenu(makeMenu(item, bar));
         }
     }
-    fill(menu(u"Tags"_s), tagItems());
+    fill(menu(menuname::tags), tagItems());
     for (const QuickTag &tag : tagsMenu())
         action(tag.key.toString())->setStatusTip(tagStatusTip(tag));
-    for (const QStringView name : visualMenus())
-        menu(name.toString())->setEnabled(false); // Its entry in the menu bar follows.
     for (const MenuItem &item : popupTable())
         makeMenu(item, bar);
+    setMet(Need::VisualView, false);
 }
 
 QMenu *Menus::makeMenu(const MenuItem &item, QWidget *parent)
@@ -117,6 +116,25 @@ bool Menus::isChecked(QStringView entry) const
 void Menus::setChecked(QStringView entry, bool checked)
 {
     m_actions[entry.toString()]->setChecked(checked);
+}
+
+void Menus::setMet(Need need, bool met)
+{
+    setMet(menuBarTable(), need, met);
+    setMet(popupTable(), need, met);
+}
+
+void Menus::setMet(std::span<const MenuItem> items, Need need, bool met)
+{
+    for (const MenuItem &item : items) {
+        setMet(item.children, need, met);
+        if (!item.needs.testFlag(need))
+            continue;
+        if (item.kind == MenuItem::Kind::Menu)
+            menu(item.name)->setEnabled(met); // Its entry in the menu bar follows.
+        else
+            action(item.name.toString())->setEnabled(met);
+    }
 }
 
 void Menus::applyAvailability(const FormOpener &forms)

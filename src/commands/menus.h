@@ -3,6 +3,7 @@
 
 #include "commands/command.h"
 #include "commands/commandparts.h"
+#include "commands/needs.h"
 
 #include <QHash>
 #include <QObject>
@@ -31,11 +32,15 @@ public:
     /// By name; nullptr if the tree has no such name, or it belongs to something of another kind.
     QAction *action(const QString &name) const { return m_actions.value(name); }
     QMenu *menu(const QString &name) const { return m_menus.value(name); }
+    QMenu *menu(QStringView name) const { return menu(name.toString()); }
 
     // CheckMarks; the name is that of an entry.
     bool isChecked(QStringView entry) const override;
     void setChecked(QStringView entry, bool checked) override;
 
+    /// Enables or disables every menu and entry whose row needs something; a row that needs several things follows the
+    /// last one that was told.
+    void setMet(Need need, bool met);
     /// Disables the entries whose form can't be opened yet and says so in their tool tips.
     void applyAvailability(const FormOpener &forms);
 
@@ -47,6 +52,7 @@ private:
     QMenu *makeMenu(const MenuItem &item, QWidget *parent);
     void fill(QMenu *menu, std::span<const MenuItem> items);
     void addEntry(QMenu *menu, const MenuItem &item);
+    void setMet(std::span<const MenuItem> items, Need need, bool met);
 
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;

@@ -20,9 +20,16 @@ constexpr MenuItem check(QStringView name, QStringView caption, const Command &c
     return {name, caption, shortcut, {}, statusTip, command, {}, Kind::Check};
 }
 
-constexpr MenuItem menu(QStringView name, QStringView caption, std::span<const MenuItem> children)
+constexpr MenuItem menu(QStringView name, QStringView caption, std::span<const MenuItem> children, Needs needs = {})
 {
-    return {name, caption, {}, {}, {}, {}, {}, Kind::Menu, children};
+    return {name, caption, {}, {}, {}, {}, {}, Kind::Menu, children, needs};
+}
+
+/// The row, with something that it needs.
+constexpr MenuItem needing(Needs needs, MenuItem item)
+{
+    item.needs = needs;
+    return item;
 }
 
 /// An entry that opens a form.
@@ -261,32 +268,38 @@ constexpr MenuItem positionItems[] = {
     check(u"D2DSub_8", u"Lock element", {DesignerCommand::LockElement}),
 };
 
-// The Tags menu has a table of its own, see tagsmenu.h.
-// clang-format off: a row a line
+// The Tags menu has a table of its own, see tagsmenu.h. It inserts into the source.
 constexpr MenuItem bar[] = {
-    menu(u"mnufile", u"&File", fileItems),    menu(u"edit", u"&Edit", editItems),
-    menu(u"tools", u"&Tools", toolItems),     menu(u"options", u"&Options", optionItems),
-    menu(u"Tags", u"&Fast Web Tags", {}),     menu(u"mnuplugins", u"Plugins", pluginItems),
-    menu(u"help", u"&Help", helpItems),       {u"mnusep", u"|", {}, {}, {}, {}, {}, Kind::Bar},
-    menu(u"View", u"&View", viewItems),       menu(u"Insert", u"&Insert", insertItems),
-    menu(u"Format", u"F&ormat", formatItems), menu(u"Table", u"T&able", tableItems),
-    menu(u"d2d", u"&2D", positionItems),
+    menu(u"mnufile", u"&File", fileItems),
+    menu(u"edit", u"&Edit", editItems),
+    menu(u"tools", u"&Tools", toolItems, Need::SourceView),
+    menu(u"options", u"&Options", optionItems),
+    menu(menuname::tags, u"&Fast Web Tags", {}, Need::SourceView | Need::Markup),
+    menu(u"mnuplugins", u"Plugins", pluginItems),
+    menu(u"help", u"&Help", helpItems),
+    {u"mnusep", u"|", {}, {}, {}, {}, {}, Kind::Bar},
+    menu(u"View", u"&View", viewItems, Need::VisualView),
+    menu(u"Insert", u"&Insert", insertItems, Need::VisualView),
+    menu(u"Format", u"F&ormat", formatItems, Need::VisualView),
+    menu(u"Table", u"T&able", tableItems, Need::VisualView),
+    menu(u"d2d", u"&2D", positionItems, Need::VisualView),
 };
-// clang-format on
 
 constexpr MenuItem fileListItems[] = {
-    {u"mnuqv",
-     u"QuickView",
-     {},
-     u"quickview",
-     u"Show the file without opening it",
-     {&FileListCommands::showInQuickView}},
-    {u"mnuinslink",
-     u"Insert Link to this file",
-     {},
-     u"insert-link",
-     u"Insert a link to the file",
-     {&FileListCommands::insertLink}},
+    needing(Need::ListedFile,
+            {u"mnuqv",
+             u"QuickView",
+             {},
+             u"quickview",
+             u"Show the file without opening it",
+             {&FileListCommands::showInQuickView}}),
+    needing(Need::ListedFile,
+            {u"mnuinslink",
+             u"Insert Link to this file",
+             {},
+             u"insert-link",
+             u"Insert a link to the file",
+             {&FileListCommands::insertLink}}),
     {u"mnuef",
      u"Edit Filters",
      {},
@@ -295,7 +308,7 @@ constexpr MenuItem fileListItems[] = {
      {&FileListCommands::editFilters}},
 };
 
-constexpr MenuItem hiddenItems[] = {menu(u"mnufilerc", u"filerc", fileListItems)};
+constexpr MenuItem hiddenItems[] = {menu(menuname::fileList, u"filerc", fileListItems)};
 
 constexpr MenuItem suggestionItems[] = {missing(u"sug_0", u"- Spelling Suggestions -")};
 
@@ -306,7 +319,7 @@ constexpr MenuItem customTabItems[] = {
 constexpr MenuItem popups[] = {
     menu(u"mnuhid", u"hid", hiddenItems),
     menu(u"mnuspell", u"Spelling", suggestionItems),
-    menu(u"cmenu", u"cmenu", customTabItems),
+    menu(menuname::customTab, u"cmenu", customTabItems),
 };
 
 /// Each entry that can be chosen has an effect, and nothing else has one.
@@ -321,8 +334,6 @@ constexpr bool eachEntryActs(std::span<const MenuItem> items)
 }
 
 static_assert(eachEntryActs(bar) && eachEntryActs(popups));
-
-constexpr QStringView visualOnly[] = {u"View", u"Insert", u"Format", u"Table", u"d2d"};
 
 const MenuItem *findIn(std::span<const MenuItem> items, QStringView name)
 {
@@ -353,11 +364,6 @@ const MenuItem *findMenuItem(QStringView name)
         return nullptr;
     const MenuItem *found = findIn(bar, name);
     return found ? found : findIn(popups, name);
-}
-
-std::span<const QStringView> visualMenus()
-{
-    return visualOnly;
 }
 
 } // namespace zephira

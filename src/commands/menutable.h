@@ -2,6 +2,7 @@
 #pragma once
 
 #include "commands/command.h"
+#include "commands/needs.h"
 
 #include <QString>
 
@@ -32,6 +33,8 @@ struct MenuItem {
     QStringView form = {};
     Kind kind = Kind::Entry;
     std::span<const MenuItem> children = {};
+    /// What the entry or menu needs besides its form.
+    Needs needs = {};
 };
 
 /// The menus of the bar, left to right.
@@ -42,7 +45,11 @@ std::span<const MenuItem> popupTable();
 /// The row with a name, anywhere in the tree, or nullptr.
 const MenuItem *findMenuItem(QStringView name);
 
-/// The five menus that are enabled only in visual mode.
-std::span<const QStringView> visualMenus();
+/// The menus that the program fills or pops up, and the entries whose check marks it sets or asks for.
+namespace menuname {
+inline constexpr QStringView tags = u"Tags";
+inline constexpr QStringView fileList = u"mnufilerc";
+inline constexpr QStringView customTab = u"cmenu";
+} // namespace menuname
 
 } // namespace zephira

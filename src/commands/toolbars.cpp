@@ -13,13 +13,6 @@
 
 namespace zephira {
 
-namespace {
-
-constexpr int lastMarkupPosition = 15;
-constexpr int firstOpenPosition = 13;
-
-} // namespace
-
 CommandToolBar::CommandToolBar(const ToolBarTable &table, QWidget *parent)
     : QToolBar(table.title.toString(), parent), m_table(table)
 {
@@ -69,19 +62,15 @@ QAction *CommandToolBar::action(const QString &key) const
     return findChild<QAction *>(key);
 }
 
-void CommandToolBar::setPositionsEnabled(int first, int last, bool enabled)
+void CommandToolBar::setMet(Need need, bool met)
 {
+    // The rows come first, in their order; what else the window has added stands behind them.
     const QList<QAction *> buttons = actions();
-    for (int position = first; position <= std::min<int>(last, static_cast<int>(buttons.size())); ++position) {
-        QAction *button = buttons[position - 1];
-        button->setEnabled(enabled && !m_unavailable.contains(button));
+    for (std::size_t row = 0; row < m_table.buttons.size(); ++row) {
+        QAction *button = buttons[static_cast<qsizetype>(row)];
+        if (m_table.buttons[row].needs.testFlag(need))
+            button->setEnabled(met && !m_unavailable.contains(button));
     }
-}
-
-void CommandToolBar::setMarkupOpen(bool open)
-{
-    setPositionsEnabled(1, lastMarkupPosition, open);
-    setPositionsEnabled(firstOpenPosition, lastMarkupPosition, true);
 }
 
 void CommandToolBar::applyAvailability(const FormOpener &forms)

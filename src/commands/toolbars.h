@@ -9,6 +9,7 @@
 namespace zephira {
 
 class FormOpener;
+enum class Need;
 struct ToolBarTable;
 struct ToolButton;
 
@@ -24,11 +25,9 @@ public:
     /// The button or pull-down entry with a key, or nullptr.
     QAction *action(const QString &key) const;
 
-    /// Enables or disables the buttons at the positions first to last, which count from 1 and include separators.
-    /// Buttons that aren't available yet stay disabled.
-    void setPositionsEnabled(int first, int last, bool enabled);
-    /// The formatting toolbar's rule for the document's language: positions 1 to 15 are enabled, or only 13 to 15.
-    void setMarkupOpen(bool open);
+    /// Enables or disables the buttons and separators that need something. Buttons that aren't available yet stay
+    /// disabled.
+    void setMet(Need need, bool met);
 
     /// Disables buttons whose form can't be opened yet and says so in their tool tips.
     void applyAvailability(const FormOpener &forms);

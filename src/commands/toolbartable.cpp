@@ -66,19 +66,31 @@ constexpr Command around(QStringView before, QStringView after)
     return {WrapsSelection{before, after}, Refusal::CodeViewForNow};
 }
 
+/// A button, or a separator, for documents in a markup language.
+constexpr ToolButton markup(ToolButton button)
+{
+    button.needs = Need::Markup;
+    return button;
+}
+
 constexpr ToolButton formattingButtons[] = {
-    {u"bold", u"Bold", u"format-text-bold", around(u"<strong>", u"</strong>")},
-    {u"italic", u"Italic", u"format-text-italic", around(u"<em>", u"</em>")},
-    {u"underline", u"Underline", u"format-text-underline", around(u"<u>", u"</u>")},
-    separator,
-    {u"left", u"Align left", u"format-justify-left", around(u"<p align=left>", u"</p>")},
-    {u"center", u"Center", u"format-justify-center", around(u"<center>", u"</center>")},
-    {u"right", u"Align right", u"format-justify-right", around(u"<p align=\"right\">", u"</p>")},
-    separator,
-    {u"preview", u"Preview the document", u"document-preview", {showPreview}, {}, previewEntries},
-    {u"links", u"Insert a link", u"insert-link", {OpensForm{u"frmlinkwiz"}}, u"frmlinkwiz", linkEntries},
-    {u"htmltags", u"Choose a tag", u"#tags", {OpensForm{u"frmTags"}, Refusal::CodeViewForNow}, u"frmTags", tagEntries},
-    {u"loadtime", u"Size of the document and time to load it", u"chronometer", {weighDocument}, u"frmDocSize"},
+    markup({u"bold", u"Bold", u"format-text-bold", around(u"<strong>", u"</strong>")}),
+    markup({u"italic", u"Italic", u"format-text-italic", around(u"<em>", u"</em>")}),
+    markup({u"underline", u"Underline", u"format-text-underline", around(u"<u>", u"</u>")}),
+    markup({}),
+    markup({u"left", u"Align left", u"format-justify-left", around(u"<p align=left>", u"</p>")}),
+    markup({u"center", u"Center", u"format-justify-center", around(u"<center>", u"</center>")}),
+    markup({u"right", u"Align right", u"format-justify-right", around(u"<p align=\"right\">", u"</p>")}),
+    markup({}),
+    markup({u"preview", u"Preview the document", u"document-preview", {showPreview}, {}, previewEntries}),
+    markup({u"links", u"Insert a link", u"insert-link", {OpensForm{u"frmlinkwiz"}}, u"frmlinkwiz", linkEntries}),
+    markup({u"htmltags",
+            u"Choose a tag",
+            u"#tags",
+            {OpensForm{u"frmTags"}, Refusal::CodeViewForNow},
+            u"frmTags",
+            tagEntries}),
+    markup({u"loadtime", u"Size of the document and time to load it", u"chronometer", {weighDocument}, u"frmDocSize"}),
     {u"specchars", u"Special characters", u":\u03a9", {OpensForm{u"frmChar"}}, u"frmChar"},
     {u"ftp", u"FTP client", u"folder-sync", {&PaneCommands::showFtp}, u"frmmainftp"},
     {u"reset", u"Discard Changes and Reload document", u"document-revert", {&Document::revert}},

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "commands/command.h"
+#include "commands/needs.h"
 
 #include <QString>
 
@@ -30,6 +31,8 @@ struct ToolButton {
     /// As in PullDownEntry.
     QStringView form = {};
     std::span<const PullDownEntry> pullDown = {};
+    /// What the button needs besides its form.
+    Needs needs = {};
 };
 
 struct ToolBarTable {
@@ -41,9 +44,8 @@ struct ToolBarTable {
 /// The standard toolbar `tBar`.
 const ToolBarTable &standardToolBar();
 
-/// The formatting toolbar `Toolbar1`. For languages without markup, positions 1 to 15 are disabled and 13 to 15 enabled
-/// again (positions count from 1 and include separators). Two separators make sure that special characters, FTP and
-/// revert, which serve any language, are at 13 to 15, and the markup buttons at 1 to 12.
+/// The formatting toolbar `Toolbar1`. Its markup buttons are at the positions 1 to 12, which count from 1 and include
+/// separators; special characters, FTP and revert, which serve any language, are at 13 to 15.
 const ToolBarTable &formattingToolBar();
 
 } // namespace zephira

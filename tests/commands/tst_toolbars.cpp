@@ -76,10 +76,10 @@ void TstToolBars::buttonsReportTheirCommands()
 void TstToolBars::languagesCloseWhatIsAboutMarkup()
 {
     CommandToolBar bar(formattingToolBar());
-    bar.setMarkupOpen(false);
+    bar.setMet(Need::Markup, false);
     for (int position = 1; position <= 15; ++position)
         QCOMPARE(bar.actions()[position - 1]->isEnabled(), position >= 13);
-    bar.setMarkupOpen(true);
+    bar.setMet(Need::Markup, true);
     const QList<QAction *> all = bar.actions();
     for (const QAction *action : all)
         QVERIFY(action->isEnabled());
@@ -91,8 +91,8 @@ void TstToolBars::unavailableButtonsStayClosed()
     FakeFormOpener forms;
     forms.unavailable = {u"frmmainftp"_s, u"frmDocSize"_s, u"frmTagEdit"_s};
     bar.applyAvailability(forms);
-    bar.setMarkupOpen(false);
-    bar.setMarkupOpen(true);
+    bar.setMet(Need::Markup, false);
+    bar.setMet(Need::Markup, true);
     for (const QString &key : {u"ftp"_s, u"loadtime"_s, u"dtw"_s}) {
         QVERIFY2(!bar.action(key)->isEnabled(), qPrintable(key));
         QCOMPARE(bar.action(key)->toolTip(), bar.action(key)->text() + u" (not available yet)"_s);
@@ -115,7 +115,7 @@ void TstToolBars::aPullDownKeepsItsButtonOpen()
 
     // Without that entry the pull-down's button is disabled. The preview button also has an effect of its own.
     bar.close(u"dqw"_s);
-    bar.setMarkupOpen(true);
+    bar.setMet(Need::Markup, true);
     QVERIFY(!bar.action(u"htmltags"_s)->isEnabled());
     for (const QString &key : {u"pie"_s, u"pidb"_s, u"picb"_s})
         bar.close(key);
