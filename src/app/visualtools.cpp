@@ -2,11 +2,11 @@
 #include "app/visualtools.h"
 
 #include "commands/designerbar.h"
+#include "commands/designermenus.h"
 #include "commands/menus.h"
 #include "commands/menutable.h"
 #include "core/designer.h"
 #include "views/designerbarstate.h"
-#include "views/designermenus.h"
 
 #include <QAction>
 #include <QMenu>
@@ -30,7 +30,7 @@ void VisualTools::connectDesigner()
                                       [this] {
                                           showState();
                                           // Also kept up to date for code that reads the menu without opening it.
-                                          updateMenu(u"Format"_s);
+                                          updateMenu(blockFormatMenu());
                                           Q_EMIT displayChanged();
                                       },
                                   .showContextMenu = [this](const QPoint &) { m_contextMenu.show(); },
@@ -63,10 +63,8 @@ void VisualTools::connectBar()
 void VisualTools::connectMenus()
 {
     for (const MenuItem &item : menuBarTable()) {
-        if (!item.needs.testFlag(Need::VisualView))
-            continue;
-        const QString menu = item.name.toString();
-        connect(m_menus.menu(menu), &QMenu::aboutToShow, this, [this, menu] { updateMenu(menu); });
+        if (item.needs.testFlag(Need::VisualView))
+            connect(m_menus.menu(item.name), &QMenu::aboutToShow, this, [this, &item] { updateMenu(item); });
     }
 }
 
@@ -74,10 +72,12 @@ void VisualTools::documentComplete()
 {
     if (!m_tools.documentComplete())
         return;
-    for (int index = 0; index < blockFormatEntries; ++index) {
-        QAction *entry = m_menus.action(u"FormatSub_%1"_s.arg(index));
-        entry->setText(m_tools.blockFormats().value(index));
-        entry->setVisible(index < m_tools.blockFormats().size());
+    const QStringList &formats = m_tools.blockFormats();
+    for (const MenuItem &item : blockFormatMenu().children) {
+        QAction *entry = m_menus.action(item.name.toString());
+        const int number = std::get<SetsBlockFormat>(item.command.effect).number;
+        entry->setText(formats.value(number));
+        entry->setVisible(number < formats.size());
     }
     showState();
     m_bar.showFontSize({});
@@ -88,7 +88,7 @@ void VisualTools::showState()
     m_bar.showState(designerBarState(m_context.designer));
 }
 
-void VisualTools::updateMenu(const QString &menu)
+void VisualTools::updateMenu(const MenuItem &menu)
 {
     const auto entries = designerMenuEntries(menu, m_context.designer, m_tools.blockFormats());
     for (const DesignerMenuEntry &entry : entries) {

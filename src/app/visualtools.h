@@ -11,6 +11,7 @@ namespace zephira {
 
 class DesignerBar;
 class Menus;
+struct MenuItem;
 
 /// Connects the designer's toolbar and its five menus with the designer: clicks run commands, and the designer's state
 /// is shown by the buttons, boxes and entries.
@@ -36,7 +37,7 @@ private:
     void connectMenus();
     void documentComplete();
     void showState();
-    void updateMenu(const QString &menu);
+    void updateMenu(const MenuItem &menu);
 
     const AppContext m_context;
     DesignerBar &m_bar;

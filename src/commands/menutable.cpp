@@ -7,6 +7,9 @@
 #include "commands/sourceformatting.h"
 #include "core/designer.h"
 #include "document/document.h"
+#include "views/designertools.h"
+
+#include <iterator>
 
 namespace zephira {
 
@@ -29,6 +32,13 @@ constexpr MenuItem menu(QStringView name, QStringView caption, std::span<const M
 constexpr MenuItem needing(Needs needs, MenuItem item)
 {
     item.needs = needs;
+    return item;
+}
+
+/// The row, with a designer command that it depends on.
+constexpr MenuItem asking(DesignerCommand command, MenuItem item)
+{
+    item.asks = command;
     return item;
 }
 
@@ -58,8 +68,7 @@ constexpr MenuItem turns(QStringView name, QStringView caption, bool (Designer::
     return check(name, caption, {TurnsSwitch{name, get, set}});
 }
 
-/// A block format of the designer. The captions are the names of the formats, which the designer reports when its first
-/// document is complete.
+/// A block format of the designer; see blockFormatMenu() for the caption.
 constexpr MenuItem formats(QStringView name, int number)
 {
     return check(name, {}, {SetsBlockFormat{number}});
@@ -226,8 +235,8 @@ constexpr MenuItem viewItems[] = {
 constexpr MenuItem insertItems[] = {
     designs(u"InsertSub_0", u"Picture", DesignerCommand::Image, u"insert-image"),
     designs(u"InsertSub_1", u"Anchor", DesignerCommand::Hyperlink, u"insert-link"),
-    {u"InsertButton", u"Insert &Button", {}, u"#button", {}, {insertFormButton}},
-    opens(u"InsertHTML", u"Insert &HTML...", u"InsertHTMLDlg", {}, {}),
+    needing(Need::PageText, {u"InsertButton", u"Insert &Button", {}, u"#button", {}, {insertFormButton}}),
+    needing(Need::PageText, opens(u"InsertHTML", u"Insert &HTML...", u"InsertHTMLDlg", {}, {})),
 };
 
 // clang-format off: a row a line
@@ -242,7 +251,7 @@ constexpr MenuItem formatItems[] = {
 // clang-format on
 
 constexpr MenuItem tableItems[] = {
-    opens(u"TableSub_0", u"Insert Table", u"InsertTableDlg", u"insert-table", {}),
+    asking(DesignerCommand::InsertTable, opens(u"TableSub_0", u"Insert Table", u"InsertTableDlg", u"insert-table", {})),
     divider(u"TableSub_1"),
     designs(u"TableSub_2", u"Insert Row", DesignerCommand::InsertRow, u"edit-table-insert-row-below"),
     designs(u"TableSub_3", u"Insert Collumn", DesignerCommand::InsertColumn, u"edit-table-insert-column-right"),
@@ -268,6 +277,10 @@ constexpr MenuItem positionItems[] = {
     check(u"D2DSub_8", u"Lock element", {DesignerCommand::LockElement}),
 };
 
+static_assert(std::size(formatItems) == mostBlockFormats);
+
+constexpr MenuItem formatMenu = menu(u"Format", u"F&ormat", formatItems, Need::VisualView);
+
 // The Tags menu has a table of its own, see tagsmenu.h. It inserts into the source.
 constexpr MenuItem bar[] = {
     menu(u"mnufile", u"&File", fileItems),
@@ -280,7 +293,7 @@ constexpr MenuItem bar[] = {
     {u"mnusep", u"|", {}, {}, {}, {}, {}, Kind::Bar},
     menu(u"View", u"&View", viewItems, Need::VisualView),
     menu(u"Insert", u"&Insert", insertItems, Need::VisualView),
-    menu(u"Format", u"F&ormat", formatItems, Need::VisualView),
+    formatMenu,
     menu(u"Table", u"T&able", tableItems, Need::VisualView),
     menu(u"d2d", u"&2D", positionItems, Need::VisualView),
 };
@@ -356,6 +369,11 @@ std::span<const MenuItem> menuBarTable()
 std::span<const MenuItem> popupTable()
 {
     return popups;
+}
+
+const MenuItem &blockFormatMenu()
+{
+    return formatMenu;
 }
 
 const MenuItem *findMenuItem(QStringView name)

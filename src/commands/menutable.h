@@ -35,6 +35,8 @@ struct MenuItem {
     std::span<const MenuItem> children = {};
     /// What the entry or menu needs besides its form.
     Needs needs = {};
+    /// In the designer's menus: the command whose status enables the entry, if its effect isn't one.
+    DesignerCommand asks = DesignerCommand::None;
 };
 
 /// The menus of the bar, left to right.
@@ -44,6 +46,10 @@ std::span<const MenuItem> popupTable();
 
 /// The row with a name, anywhere in the tree, or nullptr.
 const MenuItem *findMenuItem(QStringView name);
+
+/// The menu of the designer's block formats. Its captions are the names of the formats, which the designer reports when
+/// its first document is complete.
+const MenuItem &blockFormatMenu();
 
 /// The menus that the program fills or pops up, and the entries whose check marks it sets or asks for.
 namespace menuname {

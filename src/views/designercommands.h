@@ -24,8 +24,4 @@ struct DesignerButton {
 /// outdents.
 std::span<const DesignerButton> designerButtons();
 
-/// The commands of a menu array by index, with None for a separator: "InsertSub", "TableSub", "D2DSub", or "edit" for
-/// the editing commands. Empty for any other name.
-std::span<const DesignerCommand> designerMenuCommands(QStringView array);
-
 } // namespace zephira

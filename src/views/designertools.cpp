@@ -4,7 +4,6 @@
 #include "core/errorstyles.h"
 #include "core/prompts.h"
 #include "views/designerbarstate.h"
-#include "views/designermenus.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +29,7 @@ bool DesignerTools::documentComplete()
     endingQuietly([&] {
         const QVariant names =
             m_context.designer.execCommand(DesignerCommand::GetBlockFormatNames, DesignerPrompting::DontPromptUser);
-        m_blockFormats = names.toStringList().mid(0, blockFormatEntries);
+        m_blockFormats = names.toStringList().mid(0, mostBlockFormats);
     });
     m_designerReady = true;
     return true;

@@ -10,6 +10,9 @@
 
 namespace zephira {
 
+/// The number of entries of the Format menu.
+constexpr int mostBlockFormats = 16;
+
 /// The actions of the designer's toolbar, and the contents of its menus. Commands that fail end silently.
 class DesignerTools
 {

@@ -285,15 +285,14 @@ void TstCommandRouter::designerMenus_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("command");
-    for (const QString &array : {u"InsertSub"_s, u"TableSub"_s, u"D2DSub"_s}) {
-        int index = 0;
-        for (const DesignerCommand command : designerMenuCommands(array)) {
-            const QString entry = u"%1_%2"_s.arg(array).arg(index++);
-            // Inserting a table opens a form first.
-            if (command != DesignerCommand::None && command != DesignerCommand::InsertTable)
-                QTest::newRow(qPrintable(entry)) << entry << int(command);
+    const auto addRows = [](const auto &self, std::span<const MenuItem> items) -> void {
+        for (const MenuItem &item : items) {
+            if (const auto *command = std::get_if<DesignerCommand>(&item.command.effect))
+                QTest::newRow(qPrintable(item.name.toString())) << item.name.toString() << int(*command);
+            self(self, item.children);
         }
-    }
+    };
+    addRows(addRows, menuBarTable());
 }
 
 void TstCommandRouter::designerMenus()

@@ -46,27 +46,6 @@ private Q_SLOTS:
                               u"Center 5024"_s, u"RightJustify 5026"_s, u"Color 5046"_s}));
     }
 
-    void menuArrays_data()
-    {
-        QTest::addColumn<QString>("array");
-        QTest::addColumn<QList<int>>("commands");
-        QTest::newRow("edit") << u"edit"_s << QList<int>{5049, 5033, 0, 5003, 5002, 5032, 5035, 0, 5008};
-        QTest::newRow("InsertSub") << u"InsertSub"_s << QList<int>{5017, 5016};
-        QTest::newRow("TableSub") << u"TableSub"_s
-                                  << QList<int>{5022, 0, 5021, 5020, 5019, 0, 5007, 5006, 5005, 0, 5029, 5047};
-        QTest::newRow("D2DSub") << u"D2DSub"_s << QList<int>{5028, 5041, 5040, 5037, 5036, 5039, 5038, 0, 5027};
-        QTest::newRow("unknown") << u"ViewSub"_s << QList<int>{};
-    }
-
-    void menuArrays()
-    {
-        QFETCH(QString, array);
-        QList<int> actual;
-        for (const DesignerCommand command : designerMenuCommands(array))
-            actual.append(static_cast<int>(command));
-        QTEST(actual, "commands");
-    }
-
     void aButtonRunsItsCommand_data()
     {
         QTest::addColumn<DesignerCommand>("command");

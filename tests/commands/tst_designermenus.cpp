@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/designermenus.h"
+#include "commands/menutable.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
-#include "views/designercontextmenu.h"
-#include "views/designermenus.h"
 
 #include <QTest>
 
@@ -30,9 +30,18 @@ QStringList described(const QList<DesignerMenuEntry> &entries)
     return lines;
 }
 
+/// A menu of the bar as it opens.
+QStringList opened(const QString &menu, Designer &designer)
+{
+    const MenuItem *item = findMenuItem(menu);
+    if (!item)
+        qFatal("no menu is named %s", qPrintable(menu));
+    return described(designerMenuEntries(*item, designer, formats));
+}
+
 } // namespace
 
-/// The content of the designer's menus and of its context menu.
+/// The designer's menus as they open.
 class TstDesignerMenus final : public QObject
 {
     Q_OBJECT
@@ -44,7 +53,7 @@ private Q_SLOTS:
         designer.statuses[DesignerCommand::InsertRow] = DesignerStatus::Disabled;
         designer.statuses[DesignerCommand::MergeCells] = DesignerStatus::NotSupported;
         QCOMPARE(
-            described(designerMenuEntries(u"Table"_s, designer, formats)),
+            opened(u"Table"_s, designer),
             (QStringList{u"TableSub_0 +"_s, u"TableSub_2 -"_s, u"TableSub_3 +"_s, u"TableSub_4 +"_s, u"TableSub_6 +"_s,
                          u"TableSub_7 +"_s, u"TableSub_8 +"_s, u"TableSub_10 -"_s, u"TableSub_11 +"_s}));
     }
@@ -66,7 +75,7 @@ private Q_SLOTS:
         designer.selected = type;
         designer.statuses[DesignerCommand::Hyperlink] = DesignerStatus::Disabled;
         QCOMPARE(
-            described(designerMenuEntries(u"Insert"_s, designer, formats)),
+            opened(u"Insert"_s, designer),
             (QStringList{u"InsertSub_0 +"_s, u"InsertSub_1 -"_s, u"InsertButton "_s + mark, u"InsertHTML "_s + mark}));
     }
 
@@ -87,7 +96,7 @@ private Q_SLOTS:
         FakeDesigner designer;
         designer.statuses[DesignerCommand::AbsolutePosition] = status;
         designer.statuses[DesignerCommand::BringToFront] = DesignerStatus::Disabled;
-        const QStringList entries = described(designerMenuEntries(u"d2d"_s, designer, formats));
+        const QStringList entries = opened(u"d2d"_s, designer);
         QTEST(entries.value(0), "first");
         QCOMPARE(entries.mid(1),
                  (QStringList{u"D2DSub_1 -"_s, u"D2DSub_2 +"_s, u"D2DSub_3 +"_s, u"D2DSub_4 +"_s, u"D2DSub_5 +"_s,
@@ -98,7 +107,7 @@ private Q_SLOTS:
     {
         FakeDesigner designer;
         designer.statuses[DesignerCommand::LockElement] = DesignerStatus::On;
-        QCOMPARE(described(designerMenuEntries(u"d2d"_s, designer, formats)).last(), u"D2DSub_8 + *"_s);
+        QCOMPARE(opened(u"d2d"_s, designer).last(), u"D2DSub_8 + *"_s);
     }
 
     void formatChecksTheCurrentOne_data()
@@ -122,89 +131,15 @@ private Q_SLOTS:
         FakeDesigner designer;
         designer.statuses[DesignerCommand::GetBlockFormat] = status;
         designer.results[DesignerCommand::GetBlockFormat] = current;
-        QTEST(described(designerMenuEntries(u"Format"_s, designer, formats)), "entries");
+        QTEST(opened(u"Format"_s, designer), "entries");
     }
 
     void viewShowsTheSwitches()
     {
         FakeDesigner designer;
         designer.details = true;
-        QCOMPARE(described(designerMenuEntries(u"View"_s, designer, formats)),
+        QCOMPARE(opened(u"View"_s, designer),
                  (QStringList{u"ViewSub_0 o"_s, u"ViewSub_1 *"_s, u"ViewSub_2 o"_s, u"ViewSub_10 o"_s}));
-    }
-
-    void otherMenusHaveNothing()
-    {
-        FakeDesigner designer;
-        QVERIFY(designerMenuEntries(u"edit"_s, designer, formats).isEmpty());
-    }
-
-    void contextMenu_data()
-    {
-        QTest::addColumn<int>("absolute");
-        QTest::addColumn<int>("toBack");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QStringList>("entries");
-        QTest::addColumn<QList<int>>("commands");
-        const QStringList fixed{u"Cut"_s, u"Copy"_s, u"Paste"_s, QString(), u"Select All"_s, QString(), u"Font..."_s};
-        const QList<int> fixedCommands{5003, 5002, 5032, 0, 5035, 0, 5009};
-        const QStringList table{QString(), u"Insert Row"_s, u"Insert Column"_s,
-                                QString(), u"Delete Row"_s, u"Delete Column"_s};
-        const QList<int> tableCommands{0, 5021, 5020, 0, 5007, 5006};
-        QTest::newRow("text") << 1 << 1 << 1 << fixed << fixedCommands;
-        QTest::newRow("in a table") << 1 << 1 << 3 << fixed + table << fixedCommands + tableCommands;
-        QTest::newRow("an element") << 3 << 1 << 1 << fixed + QStringList{QString(), u"Make 2D"_s}
-                                    << fixedCommands + QList<int>{0, 5028};
-        QTest::newRow("a positioned element")
-            << 7 << 3 << 1 << fixed + QStringList{QString(), u"Make 1D"_s} << fixedCommands + QList<int>{0, 5028};
-        QTest::newRow("a positioned element in a table")
-            << 7 << 3 << 3 << fixed + QStringList{QString(), u"Make 1D"_s} + table
-            << fixedCommands + QList<int>{0, 5028} + tableCommands;
-        QTest::newRow("not supported") << 0 << 0 << 0 << fixed << fixedCommands;
-    }
-
-    void contextMenu()
-    {
-        QFETCH(int, absolute);
-        QFETCH(int, toBack);
-        QFETCH(int, row);
-        QFETCH(QList<int>, commands);
-        FakeDesigner designer;
-        designer.statuses[DesignerCommand::AbsolutePosition] = absolute;
-        designer.statuses[DesignerCommand::SendToBack] = toBack;
-        designer.statuses[DesignerCommand::InsertRow] = row;
-        DesignerContextMenu menu(designer);
-        menu.show();
-        QTEST(designer.menuEntries, "entries");
-        QCOMPARE(designer.menuStates.size(), designer.menuEntries.size());
-        for (int index = -1; index <= commands.size(); ++index) {
-            designer.runs.clear();
-            menu.run(index);
-            const int command = commands.value(index, 0);
-            if (command == 0)
-                QVERIFY(designer.runs.empty());
-            else
-                QVERIFY(
-                    designer.runs
-                    == std::vector<FakeDesigner::Run>({{DesignerCommand(command), DesignerPrompting::Default, {}}}));
-        }
-    }
-
-    void whatCannotBeDoneIsGrey()
-    {
-        FakeDesigner designer;
-        designer.statuses[DesignerCommand::AbsolutePosition] = DesignerStatus::Disabled;
-        designer.statuses[DesignerCommand::InsertRow] = DesignerStatus::Enabled;
-        for (const DesignerCommand command :
-             {DesignerCommand::Cut, DesignerCommand::Font, DesignerCommand::DeleteColumns})
-            designer.statuses[command] = DesignerStatus::Disabled;
-        DesignerContextMenu(designer).show();
-        QStringList grey;
-        for (qsizetype i = 0; i < designer.menuEntries.size(); ++i) {
-            if (designer.menuStates[i] == DesignerMenuState::Greyed)
-                grey.append(designer.menuEntries[i]);
-        }
-        QCOMPARE(grey, (QStringList{u"Cut"_s, u"Font..."_s, u"Delete Column"_s}));
     }
 };
 

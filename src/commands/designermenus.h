@@ -10,8 +10,7 @@
 
 namespace zephira {
 
-/// The number of entries of the Format menu, FormatSub_0 and so on.
-constexpr int blockFormatEntries = 16;
+struct MenuItem;
 
 /// How an entry looks; members without a value stay as they are.
 struct DesignerMenuEntry {
@@ -23,8 +22,8 @@ struct DesignerMenuEntry {
     friend bool operator==(const DesignerMenuEntry &, const DesignerMenuEntry &) = default;
 };
 
-/// The entries of one of the designer's menus in the state they should have when it opens. `blockFormats` are the
-/// captions of the Format menu. Returns nothing for other menus.
-QList<DesignerMenuEntry> designerMenuEntries(QStringView menu, Designer &designer, const QStringList &blockFormats);
+/// The entries of one of the designer's menus in the state they should have when it opens, as their commands say.
+/// `blockFormats` are the captions of the Format menu; entries beyond them are left out.
+QList<DesignerMenuEntry> designerMenuEntries(const MenuItem &menu, Designer &designer, const QStringList &blockFormats);
 
 } // namespace zephira
