@@ -3,16 +3,20 @@
 #include "editor/editorcommands.h"
 #include "editor/editorfixture.h"
 #include "editor/finddialog.h"
+#include "support/actionwalk.h"
 #include "support/testregistry.h"
 
 #include <QAction>
 #include <QClipboard>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using Sci = QsciScintillaBase;
@@ -303,6 +307,44 @@ private Q_SLOTS:
                  (QStringList{u"Undo"_s, u"Redo"_s, u"-"_s, u"Cut"_s, u"Copy"_s, u"Paste"_s, u"Delete"_s, u"-"_s,
                               u"Select All"_s, u"Toggle Bookmark"_s, u"-"_s, u"Properties…"_s}));
         menu->close();
+    }
+
+    /// Each entry, chosen from a menu of its own, has one effect, which can be seen.
+    void eachEntryOfTheMenuHasOneEffect_data()
+    {
+        QTest::addColumn<int>("entry");
+        for (int entry = 0; entry < 9; ++entry)
+            QTest::addRow("%d", entry) << entry;
+    }
+    void eachEntryOfTheMenuHasOneEffect()
+    {
+        QFETCH(int, entry);
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"one two"_s);
+        f.editor.setSelText(u"A"_s);
+        f.editor.setSelText(u"B"_s);
+        f.editor.undo();
+        f.editor.select({0, 0, 0, 3});
+        QGuiApplication::clipboard()->setText(u"clip"_s);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(20, 20), f.editor.mapToGlobal(QPoint(20, 20)));
+        QCoreApplication::sendEvent(f.editor.viewport(), &event);
+        auto *menu = f.editor.findChild<QMenu *>(u"editorMenu"_s);
+        QVERIFY(menu);
+        QCOMPARE(faultsOf(actionsOf(*menu)), QStringList());
+        const QList<QAction *> actions = choosable(actionsOf(*menu));
+        QCOMPARE(actions.size(), 9);
+
+        const auto state = [&] {
+            const QList<QDialog *> dialogs = f.editor.window()->findChildren<QDialog *>();
+            return QStringList{
+                f.editor.text(), f.editor.selText(), QGuiApplication::clipboard()->text(),
+                QString::number(f.editor.engine().send(Sci::SCI_MARKERGET, 0)),
+                QString::number(std::ranges::count_if(dialogs, [](const QDialog *form) { return form->isVisible(); }))};
+        };
+        const QStringList before = state();
+        actions[entry]->trigger();
+        QVERIFY2(state() != before, qPrintable(actions[entry]->text()));
     }
 
     void aRightClickOutsideTheSelectionMovesTheCaret()

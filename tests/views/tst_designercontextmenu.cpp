@@ -3,6 +3,7 @@
 #include "support/testregistry.h"
 #include "views/designercontextmenu.h"
 
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -63,6 +64,27 @@ private Q_SLOTS:
                     designer.runs
                     == std::vector<FakeDesigner::Run>({{DesignerCommand(command), DesignerPrompting::Default, {}}}));
         }
+    }
+
+    /// Everything that can be chosen runs one command; nothing else runs any.
+    void eachEntryHasOneEffect()
+    {
+        FakeDesigner designer; // Every command is enabled.
+        DesignerContextMenu menu(designer);
+        menu.show();
+        QCOMPARE(menu.entries().size(), 15);
+        QSet<int> commands;
+        for (int index = 0; index < menu.entries().size(); ++index) {
+            const DesignerContextEntry &entry = menu.entries()[index];
+            const bool isSeparator = entry.text.isEmpty();
+            QCOMPARE(entry.command == DesignerCommand::None, isSeparator);
+            QVERIFY(entry.state == DesignerMenuState::Unchecked);
+            designer.commands.clear();
+            menu.run(index);
+            QCOMPARE(designer.commands, isSeparator ? std::vector<int>{} : std::vector<int>{int(entry.command)});
+            commands.insert(int(entry.command));
+        }
+        QCOMPARE(commands.size(), 11); // Ten entries, and the separators' none.
     }
 
     void whatCannotBeDoneIsGrey()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/actionwalk.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
 #include "support/testregistry.h"
@@ -94,6 +95,7 @@ void TstFrmQv::toolBar()
     }
     QCOMPARE(keys, (QStringList{u"copy"_s, u"help"_s, u"cate"_s}));
     QCOMPARE(captions, (QStringList{u"Copy"_s, u"Help"_s, u"Copy All Text to clipboard"_s}));
+    QCOMPARE(faultsOf(actionsOf(m_form->get<QToolBar>(u"tBar"_s))), QStringList());
     QVERIFY(m_form->get(u"CoolBar1"_s).isAncestorOf(&m_form->get(u"tBar"_s)));
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/actionwalk.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 #include "views/previewpane.h"
@@ -54,6 +55,17 @@ private Q_SLOTS:
         for (const char *name :
              {"cbtop", "toolbarnav", "txturl", "cmdgo", "back", "forward", "stop", "refresh", "home"})
             QCOMPARE(pane.findChildren<QObject *>(QString::fromLatin1(name)).size(), 1);
+    }
+
+    void eachButtonHasOneEffect()
+    {
+        FakeBrowser browser;
+        const PreviewPane pane(browser);
+        const QList<QAction *> actions = actionsOf(*pane.findChild<QToolBar *>(u"toolbarnav"_s));
+        QCOMPARE(faultsOf(actions), QStringList());
+        for (QAction *action : actions)
+            action->trigger();
+        QCOMPARE(browser.calls, (QStringList{u"back"_s, u"forward"_s, u"stop"_s, u"refresh"_s, u"home"_s}));
     }
 
     void keysOfTheToolBar_data()
