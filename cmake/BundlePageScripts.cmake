@@ -9,16 +9,17 @@
 # The build fails if a module imports something that doesn't exist, if modules import each other in a cycle, or if a
 # module of the folder is never imported.
 #
-# zephira_page_names(HEADER ENUM NAME OUT) writes a module that exports the values of a C++ enumeration as NAME.
+# zephira_page_names(HEADER TYPE NAME OUT) writes a module that exports the values of a C++ enumeration, or the constants
+# of a C++ struct, as NAME.
 # As a script:  cmake -DENTRY=main.js -DSCRIPTS=<files> -DOUT=<file> -P BundlePageScripts.cmake
 cmake_minimum_required(VERSION 3.25)
 
-function(zephira_page_names header enum name out)
+function(zephira_page_names header type name out)
   file(READ ${header} text)
-  if(NOT text MATCHES "enum class ${enum} : int {([^}]*)}")
-    message(FATAL_ERROR "${header} declares no enumeration ${enum}")
+  if(NOT text MATCHES "(enum class ${type} : int|struct ${type}) {([^}]*)}")
+    message(FATAL_ERROR "${header} declares no enumeration or struct ${type}")
   endif()
-  string(REGEX MATCHALL "[A-Za-z]+ = [0-9]+" values "${CMAKE_MATCH_1}")
+  string(REGEX MATCHALL "[A-Za-z]+ = [0-9]+" values "${CMAKE_MATCH_2}")
   list(TRANSFORM values REPLACE " = " ": ")
   list(JOIN values ",\n    " members)
   file(CONFIGURE OUTPUT ${out} @ONLY CONTENT "export const ${name} = Object.freeze({\n    ${members},\n});\n")

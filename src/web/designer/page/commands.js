@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The commands. Each has a status, and most perform an action; a command with `reads` changes nothing. Statuses: 0 not
-// supported, 1 not available, 3 enabled, 7 on, 11 mixed.
+// The commands. Each has a status, and most perform an action; a command with `reads` changes nothing.
 
 import {blockFormatNames, formatOf, selectedFormats} from './blocks.js';
 import {Command} from './command.js';
@@ -15,38 +14,38 @@ import {bodyElement, closest, nativeCommand, nativeEnabled, nativeMixed, nativeS
 import {isPlain, plainCommands} from './plaintext.js';
 import {crossText, isLocked, positionedTarget, positionTarget, reorder, toggleAbsolute, toggleLock} from './positions.js';
 import {currentRange, isAbsolute, mostLookedAt, selectionType} from './selection.js';
+import {Status} from './status.js';
 import {runNative} from './styles.js';
 import {
     deleteCells, deleteColumns, deleteRows, insertCell, insertColumn, insertRow, mergeCells, selectedCells, selectedGrid,
     splitCell
 } from './tables.js';
 
-const status = Object.freeze({disabled: 1, enabled: 3, on: 7, mixed: 11});
-const enabledIf = condition => condition ? status.enabled : status.disabled;
-const onIf = condition => condition ? status.on : status.enabled;
+const enabledIf = condition => condition ? Status.Enabled : Status.Disabled;
+const onIf = condition => condition ? Status.On : Status.Enabled;
 
 const hasText = () => selectionType() !== 'Control' && !isFrameset();
 const isFrameset = () => bodyElement()?.localName === 'frameset';
 
 const nativeStatus = name => {
     if (isFrameset() || !nativeEnabled(name))
-        return status.disabled;
+        return Status.Disabled;
     if (nativeMixed(name))
-        return status.mixed;
+        return Status.Mixed;
     return onIf(nativeState(name));
 };
 
 const toggle = name => ({status: () => nativeStatus(name), run: () => runNative(name)});
-const toggleText = name => ({status: () => hasText() ? nativeStatus(name) : status.disabled, run: () => runNative(name)});
+const toggleText = name => ({status: () => hasText() ? nativeStatus(name) : Status.Disabled, run: () => runNative(name)});
 
 // The engine reports only the first item.
 const listCommand = (name, format) => ({
-    status: ({formats}) => formats.length > 1 && formats.includes(format) ? status.mixed : nativeStatus(name),
+    status: ({formats}) => formats.length > 1 && formats.includes(format) ? Status.Mixed : nativeStatus(name),
     run: () => toggleList(format),
 });
 
 const fontCommand = (property, read) => ({
-    status: () => hasText() ? (isMixed(property) ? status.mixed : status.enabled) : status.disabled,
+    status: () => hasText() ? (isMixed(property) ? Status.Mixed : Status.Enabled) : Status.Disabled,
     run: read,
     reads: true,
 });
@@ -74,15 +73,15 @@ const commands = {
     [Command.DeleteCells]: tableCommand(deleteCells),
     [Command.DeleteColumns]: tableCommand(deleteColumns),
     [Command.DeleteRows]: tableCommand(deleteRows),
-    [Command.FindText]: {status: () => status.enabled, reads: true,
+    [Command.FindText]: {status: () => Status.Enabled, reads: true,
         run: text => text !== '' && window.find(text, false, false, true, false, false, false)},
     [Command.Font]: {status: () => enabledIf(hasText()), run: applyFont},
     [Command.GetBlockFormat]: {
-        status: ({formats}) => hasText() ? (formats.length > 1 ? status.mixed : status.enabled) : status.disabled,
+        status: ({formats}) => hasText() ? (formats.length > 1 ? Status.Mixed : Status.Enabled) : Status.Disabled,
         run: () => formatOf(currentRange().startContainer),
         reads: true,
     },
-    [Command.GetBlockFormatNames]: {status: () => status.enabled, run: blockFormatNames, reads: true},
+    [Command.GetBlockFormatNames]: {status: () => Status.Enabled, run: blockFormatNames, reads: true},
     [Command.GetFontName]: fontCommand('fontFamily', fontName),
     [Command.GetFontSize]: fontCommand('fontSize', fontSize),
     [Command.Hyperlink]: {status: () => enabledIf(!isFrameset()), run: setLink},
@@ -97,11 +96,11 @@ const commands = {
     [Command.JustifyLeft]: toggle('justifyLeft'),
     [Command.JustifyRight]: toggle('justifyRight'),
     [Command.LockElement]: {
-        status: () => positionedTarget() ? onIf(isLocked(positionedTarget())) : status.disabled,
+        status: () => positionedTarget() ? onIf(isLocked(positionedTarget())) : Status.Disabled,
         run: toggleLock,
     },
     [Command.AbsolutePosition]: {
-        status: () => positionTarget() ? onIf(isAbsolute(positionTarget())) : status.disabled,
+        status: () => positionTarget() ? onIf(isAbsolute(positionTarget())) : Status.Disabled,
         run: toggleAbsolute,
     },
     [Command.MergeCells]: tableCommand(mergeCells, cells => cells.length > 1),
@@ -144,15 +143,15 @@ const selectionFacts = () => ({
 export const allStatuses = () => {
     const facts = selectionFacts();
     return Object.fromEntries(Object.entries(commands).map(([number, command]) =>
-        [number, isOpen(Number(number)) ? command.status(facts) : status.disabled]));
+        [number, isOpen(Number(number)) ? command.status(facts) : Status.Disabled]));
 };
 
 // The value that a command reads, if it is the same for the whole selection.
-export const valueOf = (number, statuses, none) => statuses[number] === status.enabled ? commands[number].run() : none;
+export const valueOf = (number, statuses, none) => statuses[number] === Status.Enabled ? commands[number].run() : none;
 
 export const runCommand = (number, argument) => {
     const command = commands[number];
-    if (!command || !isOpen(number) || command.status(selectionFacts()) < status.enabled)
+    if (!command || !isOpen(number) || command.status(selectionFacts()) < Status.Enabled)
         return null;
     // Commands that only read, undo or redo aren't steps of the history.
     if (command.reads || command.turns)
