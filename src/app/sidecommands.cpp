@@ -24,9 +24,9 @@ constexpr int roomForScrollBar = 40;
 
 } // namespace
 
-void SideCommands::selectSideTab(int tab)
+void SideCommands::selectSideTab(SideTab tab)
 {
-    m_parts.pane.click(tab - 1);
+    m_parts.pane.click(static_cast<int>(tab) - 1);
 }
 
 void SideCommands::addCustomEntry()

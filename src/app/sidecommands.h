@@ -32,7 +32,7 @@ public:
     explicit SideCommands(const Parts &parts) : m_parts(parts) {}
 
     // PaneCommands
-    void selectSideTab(int tab) override;
+    void selectSideTab(SideTab tab) override;
     void addCustomEntry() override;
     void setSelectorListVisible(bool visible) override;
     bool isSelectorPressed() const override;

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowtabs.h"
 
+#include "commands/commandparts.h"
+
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -21,6 +25,7 @@ std::span<const WindowTab> sideTabs()
         {u"c5", u"", u"Custom tab 5", u"#custom5"},
         {u"c6", u"", u"Custom tab 6", u"#custom6"},
     };
+    static_assert(std::size(tabs) == std::size_t(SideTab::Custom6));
     return tabs;
 }
 

@@ -15,7 +15,7 @@ struct WindowTab {
     QStringView icon;
 };
 
-/// The twelve tabs of `Frame1`; the six custom tabs have only an icon.
+/// The twelve tabs of `Frame1` in the order of SideTab; the six custom tabs have only an icon.
 std::span<const WindowTab> sideTabs();
 /// The three tabs of `workspace`.
 std::span<const WindowTab> workspaceTabs();

@@ -20,13 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-namespace {
-
-/// The tab of the side pane that lists the tags.
-constexpr int tagsTab = 3;
-
-} // namespace
-
 void insertTimeAndDate(const AppContext &context)
 {
     const QDateTime now = context.clock.now();
@@ -126,7 +119,7 @@ void showPreview(const CommandParts &parts)
 
 void showQuickTags(const CommandParts &parts)
 {
-    parts.panes.selectSideTab(tagsTab);
+    parts.panes.selectSideTab(SideTab::HtmlTags);
 }
 
 } // namespace zephira

@@ -32,14 +32,29 @@ public:
     virtual void setChecked(QStringView entry, bool checked) = 0;
 };
 
+/// The tabs of the side pane, with their published numbers.
+enum class SideTab {
+    FileManager = 1,
+    AspTags,
+    HtmlTags,
+    InternetTags,
+    DocumentTree,
+    ScriptLibrary,
+    Custom1,
+    Custom2,
+    Custom3,
+    Custom4,
+    Custom5,
+    Custom6,
+};
+
 /// The panes beside the document, and the windows that belong to it.
 class PaneCommands
 {
 public:
     virtual ~PaneCommands() = default;
 
-    /// Selects a tab of the side pane, 1 to 12; 7 is the first custom tab.
-    virtual void selectSideTab(int tab) = 0;
+    virtual void selectSideTab(SideTab tab) = 0;
     /// Adds an entry to the custom tab that was right-clicked last.
     virtual void addCustomEntry() = 0;
     /// The list of style selectors above the palette, and the state of the palette's button for it.

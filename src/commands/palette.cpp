@@ -19,7 +19,6 @@ namespace zephira {
 
 namespace {
 
-constexpr int styleToolbar = 4;
 constexpr QStringView selectorKey = u"selector";
 
 } // namespace
@@ -166,19 +165,19 @@ QAction *Palette::action(int index, const QString &key) const
     return toolBar(index)->findChild<QAction *>(key);
 }
 
-void Palette::addBox(int index, QWidget *box)
+void Palette::addBox(PaletteTab tab, QWidget *box)
 {
-    m_bars[static_cast<std::size_t>(index)]->setBox(box);
+    m_bars[static_cast<std::size_t>(tab)]->setBox(box);
 }
 
 bool Palette::isSelectorPressed() const
 {
-    return action(styleToolbar, selectorKey.toString())->isChecked();
+    return action(static_cast<int>(PaletteTab::Style), selectorKey.toString())->isChecked();
 }
 
 void Palette::setSelectorPressed(bool pressed)
 {
-    action(styleToolbar, selectorKey.toString())->setChecked(pressed);
+    action(static_cast<int>(PaletteTab::Style), selectorKey.toString())->setChecked(pressed);
 }
 
 void Palette::applyAvailability(const FormOpener &forms)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "commands/quicktag.h"
+#include "commands/palettetable.h"
 
 #include <QWidget>
 
@@ -32,7 +32,7 @@ public:
     QAction *action(int index, const QString &key) const;
 
     /// Adds a box after a toolbar's last button. The toolbar takes ownership.
-    void addBox(int index, QWidget *box);
+    void addBox(PaletteTab tab, QWidget *box);
 
     /// The toggle `selector`; setting it emits no click.
     bool isSelectorPressed() const;

@@ -138,7 +138,7 @@ void PaletteCommands::showProperties(const QuickTag &)
 {
     m_context.prompts.ask({u"By default, the first custom tab was shipped with a CSS Prop index file. "
                            "You will now be taken to the tab"_s});
-    m_panes.selectSideTab(7);
+    m_panes.selectSideTab(SideTab::Custom1);
 }
 
 } // namespace zephira

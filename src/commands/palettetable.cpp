@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/palettetable.h"
 
+#include <iterator>
+
 namespace zephira {
 
 namespace {
@@ -234,6 +236,8 @@ constexpr PaletteToolbar toolbars[] = {
     {u"Style", style},     {u"Frames", frames}, {u"Lists", lists}, {u"Forms", forms},
     {u"Scripts", scripts}, {u"CFML", cfml},     {u"ASP", asp},     {u"SSI", ssi},
 };
+
+static_assert(std::size(toolbars) == std::size_t(PaletteTab::Ssi) + 1);
 
 } // namespace
 

@@ -14,7 +14,10 @@ struct PaletteToolbar {
     std::span<const QuickTag> buttons;
 };
 
-/// The twelve toolbars, indices 0 to 11. Adding a quick tag is adding a row.
+/// The toolbars of the palette, with their published numbers.
+enum class PaletteTab { Tools, Common, Text, Tables, Style, Frames, Lists, Forms, Scripts, Cfml, Asp, Ssi };
+
+/// The twelve toolbars in the order of PaletteTab. Adding a quick tag is adding a row.
 std::span<const PaletteToolbar> paletteToolbars();
 
 /// Name of the palette's heading pull-down, whose entries are H1 to H6.

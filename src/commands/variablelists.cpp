@@ -21,12 +21,9 @@ constexpr QStringView serverVariables[] = {
     u"SERVER_NAME",       u"SERVER_PORT",  u"SERVER_PROTOCOL", u"SERVER_SOFTWARE",
 };
 
-constexpr int aspToolbar = 10;
-constexpr int ssiToolbar = 11;
-
 constexpr VariableList lists[] = {
-    {u"ssivar", u"SSI variables", ssiToolbar, ssiVariables},
-    {u"Combo6", u"Server Variables", aspToolbar, serverVariables},
+    {u"ssivar", u"SSI variables", PaletteTab::Ssi, ssiVariables},
+    {u"Combo6", u"Server Variables", PaletteTab::Asp, serverVariables},
 };
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "commands/palettetable.h"
+
 #include <QStringView>
 
 #include <span>
@@ -12,8 +14,8 @@ struct VariableList {
     QStringView name;
     /// The text of the box while nothing is selected in it.
     QStringView caption;
-    /// The toolbar of the palette that has the box at its end, 0 to 11.
-    int toolbar = 0;
+    /// The toolbar of the palette that has the box at its end.
+    PaletteTab toolbar = {};
     std::span<const QStringView> items;
 };
 

@@ -39,7 +39,7 @@ struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, W
     }
 
     // PaneCommands
-    void selectSideTab(int tab) override { calls.append(QStringLiteral("selectSideTab %1").arg(tab)); }
+    void selectSideTab(SideTab tab) override { calls.append(QStringLiteral("selectSideTab %1").arg(int(tab))); }
     void addCustomEntry() override { calls.append(QStringLiteral("addCustomEntry")); }
     void setSelectorListVisible(bool on) override { calls.append(QStringLiteral("setSelectorListVisible %1").arg(on)); }
     bool isSelectorPressed() const override { return selectorPressed; }
