@@ -18,6 +18,7 @@
 #include "commands/designerbar.h"
 #include "commands/icons.h"
 #include "commands/menus.h"
+#include "commands/menutable.h"
 #include "commands/palette.h"
 #include "commands/toolbars.h"
 #include "commands/toolbartable.h"
@@ -224,9 +225,8 @@ void frmmain::connectEditor()
     connect(m_rt, &CodeMax::CaretLineChosen, this, [this](bool on, bool *handled) {
         *handled = true;
         // The program switches this with its menu entry.
-        QAction *entry = findChild<QAction *>(u"highlightlines"_s);
-        if (entry && m_menus->isChecked(u"highlightlines") != on)
-            entry->trigger();
+        if (m_menus->isChecked(menuname::highlightedLines) != on)
+            m_menus->action(menuname::highlightedLines)->trigger();
         if (on)
             m_rt->setHighlightedLine(m_rt->selection(true).EndLineNo);
     });

@@ -7,6 +7,7 @@
 #include "app/statuspanels.h"
 #include "commands/designerbar.h"
 #include "commands/menus.h"
+#include "commands/menutable.h"
 #include "core/configuration.h"
 #include "core/documenthost.h"
 #include "core/editorcommand.h"
@@ -161,7 +162,7 @@ void LoadHandler::readDisplayModes()
                               .whitespace = number(Setting::Whitespace),
                               .selBounds = number(Setting::SelectionBounds)});
     if (m_window.highlightMode() == 1)
-        m_window.menus().setChecked(u"highlightlines", true);
+        m_window.menus().setChecked(menuname::highlightedLines, true);
 }
 
 void LoadHandler::applyFont()

@@ -5,6 +5,7 @@
 #include "app/loadhandler.h"
 #include "app/startdecision.h"
 #include "commands/menus.h"
+#include "commands/menutable.h"
 #include "core/configuration.h"
 #include "core/usersettings.h"
 #include "desktop/modalformopener.h"
@@ -29,7 +30,7 @@ void take(StartAction action, frmmain &window)
         window.forms().openModalOver(u"frmTip"_s, u"frmselprj"_s);
         break;
     case StartAction::CheckViewTip:
-        window.menus().setChecked(u"mnuviewtip", true);
+        window.menus().setChecked(menuname::tipOfTheDay, true);
         break;
     }
 }

@@ -74,7 +74,7 @@ void VisualTools::documentComplete()
         return;
     const QStringList &formats = m_tools.blockFormats();
     for (const MenuItem &item : blockFormatMenu().children) {
-        QAction *entry = m_menus.action(item.name.toString());
+        QAction *entry = m_menus.action(item.name);
         const int number = std::get<SetsBlockFormat>(item.command.effect).number;
         entry->setText(formats.value(number));
         entry->setVisible(number < formats.size());

@@ -2,6 +2,7 @@
 #include "commands/commandfunctions.h"
 
 #include "commands/commandparts.h"
+#include "commands/menutable.h"
 #include "core/clock.h"
 #include "core/configuration.h"
 #include "core/designer.h"
@@ -94,7 +95,7 @@ void deleteSelectedText(const AppContext &context)
 
 void toggleHighlightedLines(const CommandParts &parts)
 {
-    constexpr QStringView entry = u"highlightlines";
+    constexpr QStringView entry = menuname::highlightedLines;
     const bool on = !parts.marks.isChecked(entry);
     writeSwitch(parts.context.configuration, Setting::HighlightLine, on);
     parts.marks.setChecked(entry, on);
@@ -106,7 +107,7 @@ void toggleHighlightedLines(const CommandParts &parts)
 
 void toggleTips(const CommandParts &parts)
 {
-    constexpr QStringView entry = u"mnuviewtip";
+    constexpr QStringView entry = menuname::tipOfTheDay;
     const bool on = !parts.marks.isChecked(entry);
     parts.context.settings.SaveSetting(UserSetting::ShowTips, on ? u"1"_s : u"0"_s);
     parts.marks.setChecked(entry, on);

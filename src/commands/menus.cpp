@@ -133,7 +133,7 @@ void Menus::setMet(std::span<const MenuItem> items, Need need, bool met)
         if (item.kind == MenuItem::Kind::Menu)
             menu(item.name)->setEnabled(met); // Its entry in the menu bar follows.
         else
-            action(item.name.toString())->setEnabled(met);
+            action(item.name)->setEnabled(met);
     }
 }
 

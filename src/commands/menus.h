@@ -31,6 +31,7 @@ public:
 
     /// By name; nullptr if the tree has no such name, or it belongs to something of another kind.
     QAction *action(const QString &name) const { return m_actions.value(name); }
+    QAction *action(QStringView name) const { return action(name.toString()); }
     QMenu *menu(const QString &name) const { return m_menus.value(name); }
     QMenu *menu(QStringView name) const { return menu(name.toString()); }
 

@@ -202,10 +202,11 @@ constexpr MenuItem toolItems[] = {
 
 constexpr MenuItem optionItems[] = {
     opens(u"main", u"Main Options", u"frmOptions", u"configure", u"Settings of the program"),
-    check(u"highlightlines", u"&Highlighted Lines", {toggleHighlightedLines}, u"Ctrl+H", u"Highlight the caret's line"),
+    check(menuname::highlightedLines, u"&Highlighted Lines", {toggleHighlightedLines}, u"Ctrl+H",
+          u"Highlight the caret's line"),
     opens(u"fileassociations", u"&Setup File Associations", u"frmfa", {}, u"Choose what opens with this program"),
     {u"font", u"&Font", u"F7", u"preferences-desktop-font", u"Choose the font of the code view", {chooseFont}},
-    check(u"mnuviewtip", u"View Tip of The Day", {toggleTips}, {}, u"Show a tip at each start"),
+    check(menuname::tipOfTheDay, u"View Tip of The Day", {toggleTips}, {}, u"Show a tip at each start"),
 };
 
 constexpr MenuItem pluginItems[] = {

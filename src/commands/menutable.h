@@ -56,6 +56,8 @@ namespace menuname {
 inline constexpr QStringView tags = u"Tags";
 inline constexpr QStringView fileList = u"mnufilerc";
 inline constexpr QStringView customTab = u"cmenu";
+inline constexpr QStringView highlightedLines = u"highlightlines";
+inline constexpr QStringView tipOfTheDay = u"mnuviewtip";
 } // namespace menuname
 
 } // namespace zephira
