@@ -175,6 +175,7 @@ void frmmain::buildWorkspace()
     m_surface->attach(*m_viewSwitch, *m_recoveryKeeper);
     m_visualTools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
     connect(m_visualTools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
+    connect(m_visualTools, &VisualTools::processLost, m_viewSwitch, &ViewSwitch::designerLost);
     connect(m_visualTools, &VisualTools::displayChanged, this, [this] {
         m_recoveryKeeper->textChanged();
         m_surface->showModified(m_document->docModified() || m_document->holdsDesignersWork());

@@ -43,6 +43,8 @@ public:
     /// Focuses the current view.
     void focusView();
     QString designerBase() const { return m_views.designerBase(); }
+    /// See WorkspaceViews.
+    void designerLost() { m_views.designerLost(); }
 
     // ViewTabs
     void selectNext() override;

@@ -34,7 +34,8 @@ void VisualTools::connectDesigner()
                                           Q_EMIT displayChanged();
                                       },
                                   .showContextMenu = [this](const QPoint &) { m_contextMenu.show(); },
-                                  .contextMenuAction = [this](int index) { m_contextMenu.run(index); }});
+                                  .contextMenuAction = [this](int index) { m_contextMenu.run(index); },
+                                  .processLost = [this] { Q_EMIT processLost(); }});
 }
 
 void VisualTools::connectBar()

@@ -30,6 +30,8 @@ Q_SIGNALS:
     void finished();
     /// The page, or its selection, may have changed.
     void displayChanged();
+    /// The page's render process has ended unexpectedly, and the page was loaded again.
+    void processLost();
 
 private:
     void connectDesigner();

@@ -54,6 +54,8 @@ struct DesignerEvents {
     std::function<void(const QPoint &)> showContextMenu = {};
     /// The user chose the entry with this 0-based index, separators counted.
     std::function<void(int)> contextMenuAction = {};
+    /// The page's render process has ended unexpectedly; the last known state of the page is loaded again.
+    std::function<void()> processLost = {};
 };
 
 /// The visual page designer as the rest of the program sees it. Calls return when their work is done. A call that takes
@@ -115,9 +117,6 @@ public:
     /// Sets `finish` while visual mode is being left, which takes a while: until it is set to empty again, isShowing()
     /// first calls it to end visual mode and carry the text back to the code view.
     virtual void setLeaving(std::function<void()> finish) = 0;
-    /// Sets the handler that is called when the page's render process has ended unexpectedly; the last known state of
-    /// the page is loaded again.
-    virtual void onProcessLost(std::function<void()> handler) = 0;
     /// A page in this folder or below it may load files from anywhere in it; any other page only from its own folder
     /// and below. Empty for none. Takes effect with the next load.
     virtual void setProjectFolder(const QString &folder) = 0;
@@ -149,7 +148,6 @@ public:
     void setContextMenu(const QStringList &, const QList<DesignerMenuState> &) override {}
     void setEvents(DesignerEvents) override {}
     void setLeaving(std::function<void()>) override {}
-    void onProcessLost(std::function<void()>) override {}
     void setProjectFolder(const QString &) override {}
 };
 

@@ -9,16 +9,6 @@ void LateDesigner::attach(Designer &designer)
 {
     m_designer = &designer;
     m_designer->setEvents(std::exchange(m_events, {}));
-    if (m_processLost)
-        m_designer->onProcessLost(std::exchange(m_processLost, {}));
-}
-
-void LateDesigner::onProcessLost(std::function<void()> handler)
-{
-    if (isAttached())
-        m_designer->onProcessLost(std::move(handler));
-    else
-        m_processLost = std::move(handler);
 }
 
 bool LateDesigner::isShowing() const

@@ -46,7 +46,6 @@ public:
     /// Handlers that were set before the real designer existed are passed on to it.
     void setEvents(DesignerEvents events) override;
     void setLeaving(std::function<void()> finish) override { m_finishLeaving = std::move(finish); }
-    void onProcessLost(std::function<void()> handler) override;
     void setProjectFolder(const QString &folder) override { m_designer->setProjectFolder(folder); }
 
 private:
@@ -54,7 +53,6 @@ private:
     Designer *m_designer = &m_none;
     DesignerEvents m_events;
     std::function<void()> m_finishLeaving;
-    std::function<void()> m_processLost;
     bool m_isShowing = false;
 };
 

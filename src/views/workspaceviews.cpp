@@ -60,8 +60,11 @@ WorkspaceViews::WorkspaceViews(const AppContext &context, Browser &browser, Work
     : m_context(context), m_browser(browser), m_window(window)
 {
     m_browser.onProcessLost([this] { m_window.notice(u"The preview's process has ended. Load the page again."_s); });
-    m_context.designer.onProcessLost(
-        [this] { m_window.notice(u"The designer's process has ended. The page is shown in its last known state."_s); });
+}
+
+void WorkspaceViews::designerLost()
+{
+    m_window.notice(u"The designer's process has ended. The page is shown in its last known state."_s);
 }
 
 void WorkspaceViews::tellProjectFolder()

@@ -55,6 +55,9 @@ public:
     /// The project folder at the time when the designer last loaded a file.
     QString designerBase() const { return m_designerBase; }
 
+    /// The designer's process has ended, and its page was loaded again: tells the user.
+    void designerLost();
+
 private:
     void tellProjectFolder();
     void selectCode();

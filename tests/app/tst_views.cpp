@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTest>
 #include <QToolBar>
 
@@ -584,6 +585,15 @@ private Q_SLOTS:
         QVERIFY(bench.window->designerReady());
         bench.select(1);
         QVERIFY(bench.window->designerReady()); // It stays so in every view.
+    }
+
+    void theLossOfTheDesignersProcessIsTold()
+    {
+        ViewBench bench;
+        bench.select(3);
+        bench.designer().events.processLost();
+        QCOMPARE(bench.window->statusBar()->currentMessage(),
+                 u"The designer's process has ended. The page is shown in its last known state."_s);
     }
 
     void theFormatMenu()

@@ -69,7 +69,6 @@ struct FakeDesigner final : Designer {
     QList<DesignerMenuState> menuStates;
     DesignerEvents events;
     std::function<void()> leaving;
-    std::function<void()> processLost;
     QString projectFolder;
     /// Called while the text is being transferred.
     std::function<void()> meanwhile;
@@ -102,7 +101,6 @@ struct FakeDesigner final : Designer {
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
     void setEvents(DesignerEvents handlers) override { events = std::move(handlers); }
     void setLeaving(std::function<void()> finish) override { leaving = std::move(finish); }
-    void onProcessLost(std::function<void()> handler) override { processLost = std::move(handler); }
     void setProjectFolder(const QString &folder) override { projectFolder = folder; }
 };
 

@@ -152,7 +152,7 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.browser.processLost();
-        bench.world.designer.processLost();
+        bench.views.designerLost();
         QCOMPARE(bench.window.notices.size(), 2);
         QVERIFY(bench.window.notices[0] != bench.window.notices[1]);
     }

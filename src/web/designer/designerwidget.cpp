@@ -403,15 +403,12 @@ void DesignerWidget::setEvents(DesignerEvents events)
         connect(this, &DesignerWidget::DisplayChanged, m_host.get(), events.displayChanged);
     if (events.contextMenuAction)
         connect(this, &DesignerWidget::ContextMenuAction, m_host.get(), events.contextMenuAction);
+    if (events.processLost)
+        connect(this, &DesignerWidget::ProcessLost, m_host.get(), events.processLost);
     if (events.showContextMenu)
         connect(this, &DesignerWidget::ShowContextMenu, m_host.get(), [show = events.showContextMenu](int x, int y) {
             show({x, y});
         });
-}
-
-void DesignerWidget::onProcessLost(std::function<void()> handler)
-{
-    connect(this, &DesignerWidget::ProcessLost, this, handler);
 }
 
 void DesignerWidget::setProjectFolder(const QString &folder)

@@ -72,7 +72,6 @@ public:
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
     void setEvents(DesignerEvents events) override;
     void setLeaving(std::function<void()>) override {}
-    void onProcessLost(std::function<void()> handler) override;
     void setProjectFolder(const QString &folder) override;
 
     QWebEngineView &view() { return *m_view; }

@@ -169,7 +169,7 @@ void TstDesignerLoss::pageThatHangsGivesWay()
     m_bench->run(DesignerCommand::Bold);
     QVERIFY(!m_bench->designer.page().isResponding());
     int losses = 0;
-    m_bench->designer.onProcessLost([&] { ++losses; });
+    m_bench->designer.setEvents({.processLost = [&] { ++losses; }});
     m_bench->load(u"<p>b</p>"_s);
     QCOMPARE(m_bench->body(), u"<p>b</p>"_s);
     QCOMPARE(losses, 1);
