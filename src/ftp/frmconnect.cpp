@@ -42,12 +42,12 @@ void setQuietly(QAbstractButton *button, bool checked)
 
 } // namespace
 
-FrmConnect::FrmConnect(FtpClient &client, FtpDesk *desk, const AppContext &context, QWidget *owner)
+FrmConnect::FrmConnect(FtpClient &client, FtpDesk &desk, const AppContext &context, QWidget *owner)
     : QDialog(owner), m_ui(std::make_unique<Ui::FrmConnect>()), m_client(client), m_desk(desk), m_context(context)
 {
     m_ui->setupUi(this);
     m_ui->txtPass->setText(anonymousPassword);
-    m_ui->Command3->setEnabled(desk != nullptr);
+    m_ui->Command3->setEnabled(desk.isThere());
     m_ui->File1->setPath(context.appPath);
     m_ui->File1->setPattern(u"*.ftp"_s);
     m_ui->TView1->installEventFilter(this);
@@ -166,8 +166,8 @@ void FrmConnect::connectToSite()
     }
     tellingErrors(
         m_context.prompts, objectName(), u"Command3_Click"_s, {[this] {
-            m_desk->clearRemoteTree();
-            m_desk->clearLog();
+            m_desk.clearRemoteTree();
+            m_desk.clearLog();
             FtpSession &session = m_client.session;
             session.ftpServer = m_ui->txtServer->text();
             session.ftpUser = m_ui->txtUser->text();
@@ -178,7 +178,7 @@ void FrmConnect::connectToSite()
                 m_ui->txtSiteName->setText(applicationTitle);
             const ConnectRequest request{m_ui->txtSiteName->text(), m_ui->Option1->isChecked(),
                                          m_ui->Option3->isChecked()};
-            if (FtpConnection(m_client, *m_desk, m_context.prompts).connectToServer(request, [this] { hide(); }))
+            if (FtpConnection(m_client, m_desk, m_context.prompts).connectToServer(request, [this] { hide(); }))
                 accept();
         }});
 }

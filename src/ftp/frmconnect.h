@@ -25,8 +25,8 @@ class FrmConnect final : public QDialog
     Q_OBJECT
 
 public:
-    /// `desk` is the FTP window that opens the form; without it, connecting is not possible.
-    FrmConnect(FtpClient &client, FtpDesk *desk, const AppContext &context, QWidget *owner);
+    /// `desk` is the FTP window that opens the form, and must outlive it.
+    FrmConnect(FtpClient &client, FtpDesk &desk, const AppContext &context, QWidget *owner);
     ~FrmConnect() override;
 
 protected:
@@ -50,7 +50,7 @@ private:
 
     const std::unique_ptr<Ui::FrmConnect> m_ui;
     FtpClient &m_client;
-    FtpDesk *const m_desk;
+    FtpDesk &m_desk;
     const AppContext &m_context;
     /// The profile that Delete refers to: the text of the last chosen node.
     QString m_chosen;

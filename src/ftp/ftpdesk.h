@@ -9,6 +9,9 @@ namespace zephira {
 class FtpDesk : public LogDisplay, public PanelDisplay
 {
 public:
+    /// Whether there is a window that could show a session; without it, connecting is not possible.
+    virtual bool isThere() const { return true; }
+
     // The check marks of the transfer menu.
     virtual void markTransferType(bool binary) = 0;
     virtual void markPassive(bool passive) = 0;

@@ -16,39 +16,46 @@ namespace zephira::ftp {
 namespace {
 
 /// Replaces the FTP window for a form that is made without one.
-class NoDisplay final : public LogDisplay, public PanelDisplay
+class NoDesk final : public FtpDesk
 {
 public:
+    bool isThere() const override { return false; }
     void log(LogEntry, const QStringList &) override {}
     void clearLog() override {}
     void setPanel(int, const QString &) override {}
     void setBusy(bool) override {}
+    void markTransferType(bool) override {}
+    void markPassive(bool) override {}
+    void clearRemoteTree() override {}
+    void addRemoteRoot() override {}
+    void List() override {}
+    void openModal(const QString &) override {}
+    void refreshLocal() override {}
+    void refreshRemote() override {}
 };
 
-/// The FTP window from which a form is opened, or nullptr.
-FtpDesk *deskOf(QWidget *owner)
+/// The FTP window from which a form is opened, or `none`.
+FtpDesk &deskOf(QWidget *owner, FtpDesk &none)
 {
     for (QWidget *window = owner; window; window = window->parentWidget()) {
         if (auto *desk = dynamic_cast<FtpDesk *>(window))
-            return desk;
+            return *desk;
     }
-    return nullptr;
+    return none;
 }
 
 } // namespace
 
 void registerForms(FormCatalogue &catalogue, const std::shared_ptr<FtpClient> &client)
 {
-    catalogue.add(u"FrmConnect"_s, [client](const AppContext &context, QWidget *owner) -> QWidget * {
-        return new FrmConnect(*client, deskOf(owner), context, owner);
+    const auto none = std::make_shared<NoDesk>();
+    catalogue.add(u"FrmConnect"_s, [client, none](const AppContext &context, QWidget *owner) -> QWidget * {
+        return new FrmConnect(*client, deskOf(owner, *none), context, owner);
     });
-    catalogue.add(
-        u"frmProg"_s,
-        [client, nowhere = std::make_shared<NoDisplay>()](const AppContext &context, QWidget *owner) -> QWidget * {
-            if (FtpDesk *desk = deskOf(owner))
-                return new frmProg(*client, *desk, *desk, context, owner);
-            return new frmProg(*client, *nowhere, *nowhere, context, owner);
-        });
+    catalogue.add(u"frmProg"_s, [client, none](const AppContext &context, QWidget *owner) -> QWidget * {
+        FtpDesk &desk = deskOf(owner, *none);
+        return new frmProg(*client, desk, desk, context, owner);
+    });
     catalogue.add(u"frmmainftp"_s, [client](const AppContext &context, QWidget *owner) -> QWidget * {
         return new frmmainftp(*client, context, owner);
     });

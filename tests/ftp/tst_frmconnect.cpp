@@ -27,7 +27,7 @@ struct Bench : FtpBench {
     Bench()
     {
         forms.add(u"FrmConnect"_s, [this](const AppContext &world, QWidget *owner) -> QWidget * {
-            return new FrmConnect(*client, &desk, world, owner);
+            return new FrmConnect(*client, desk, world, owner);
         });
         write(u"home.ftp"_s,
               "[PROFIL]\r\nsname=My Home\r\nadresa=home.example.com\r\nID=me\r\npass=secret\r\nport=2121\r\n");
