@@ -100,7 +100,10 @@ public:
     /// Runs a built-in command. Unknown numbers do nothing.
     virtual void executeCmd(int command, int argument = -1) = 0;
     void executeCmd(EditorCommand command, int argument = -1) { executeCmd(numberOf(command), argument); }
+    /// Prints the text; the user chooses the printer. The program passes the two numbers below, which are published.
     virtual void printContents(int device, int options) = 0;
+    static constexpr int standardPrinter = 0;
+    static constexpr int standardPrintOptions = 12;
 };
 
 } // namespace zephira

@@ -387,7 +387,7 @@ void Document::saveAsTemplate()
 
 void Document::print()
 {
-    m_context.editor.printContents(0, 12);
+    m_context.editor.printContents(EditingControl::standardPrinter, EditingControl::standardPrintOptions);
 }
 
 void Document::clearClipboard()
