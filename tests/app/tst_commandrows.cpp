@@ -13,6 +13,7 @@
 #include "core/languages.h"
 #include "support/actionwalk.h"
 #include "support/testregistry.h"
+#include "views/designertools.h"
 
 #include <QMenuBar>
 #include <QTest>
@@ -37,6 +38,54 @@ QList<QAction *> rowsOf(const WindowBench &bench)
     // Combo boxes and other widgets in a toolbar are actions too, but can't be chosen.
     found.removeIf([](QAction *action) { return action->text().isEmpty() && !action->isCheckable(); });
     return found;
+}
+
+/// What a click has handed on, in the order of the clicks.
+struct Chosen {
+    std::vector<Command> commands;
+    std::vector<const QuickTag *> tags;
+    std::vector<int> headings;
+    std::vector<DesignerCommand> designer;
+
+    std::size_t count() const { return commands.size() + tags.size() + headings.size() + designer.size(); }
+};
+
+/// Tells whether each kind of effect has all that it needs to do something.
+class IsWhole
+{
+public:
+    IsWhole(const FormCatalogue &catalogue, const QString &row) : m_catalogue(catalogue), m_row(row) {}
+
+    bool operator()(std::monostate) const { return false; }
+    bool operator()(EditorCommand command) const { return numberOf(command) > 0; }
+    bool operator()(DesignerCommand command) const { return command != DesignerCommand::None; }
+    bool operator()(const OpensForm &effect) const { return m_catalogue.contains(effect.form.toString()); }
+    bool operator()(const EditsView &effect) const { return effect.editor && effect.designer != DesignerCommand::None; }
+    bool operator()(const EditsText &effect) const { return effect.editor; }
+    bool operator()(const TurnsSwitch &effect) const { return effect.entry == m_row && effect.get && effect.set; }
+    bool operator()(const SetsBlockFormat &effect) const { return effect.number < mostBlockFormats; }
+    bool operator()(const WrapsSelection &effect) const { return !effect.before.isEmpty() && !effect.after.isEmpty(); }
+    bool operator()(const InsertsTag &effect) const { return effect.tag && effect.tag->key == m_row; }
+    /// A function, or an operation of a part.
+    bool operator()(const auto &run) const { return run != nullptr; }
+
+private:
+    const FormCatalogue &m_catalogue;
+    QString m_row;
+};
+
+/// Whether what was handed on does something. A button of the palette does what its kind says.
+bool isWhole(const Chosen &chosen, const FormCatalogue &catalogue, const QString &row)
+{
+    if (!chosen.commands.empty())
+        return std::visit(IsWhole(catalogue, row), chosen.commands.front().effect);
+    if (!chosen.designer.empty())
+        return chosen.designer.front() != DesignerCommand::None;
+    if (!chosen.headings.empty())
+        return row == u"H%1"_s.arg(chosen.headings.front());
+    const QuickTag &tag = *chosen.tags.front();
+    const QString form = tag.form().toString();
+    return tag.key == row && PaletteCommands::hasEffect(tag.kind) && (form.isEmpty() || catalogue.contains(form));
 }
 
 } // namespace
@@ -79,7 +128,49 @@ private Q_SLOTS:
         QVERIFY(palette);
         QCOMPARE(Listeners::to(*palette, SIGNAL(clicked(zephira::QuickTag))), 1);
         QCOMPARE(Listeners::to(*palette, SIGNAL(headingClicked(int))), 1);
-        QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"Toolbar2"_s), SIGNAL(buttonClicked(zephira::DesignerCommand))), 1);
+        QCOMPARE(Listeners::to(*bench.find<QToolBar>(u"Toolbar2"_s), SIGNAL(buttonClicked(zephira::DesignerCommand))),
+                 1);
+    }
+
+    /// Each row hands on one thing, which does something: what was found by its listeners may still be empty.
+    void eachRowHandsOnWhatItDoes()
+    {
+        WindowBench bench;
+        bench.start();
+        bench.window->context().document.setLanguageRow(language::Html);
+        bench.window->menus().setMet(Need::VisualView, true);
+        for (QAction *action : actionsOf(*bench.find<QToolBar>(u"Toolbar2"_s)))
+            action->setEnabled(true);
+        const QList<QAction *> actions = choosable(rowsOf(bench));
+
+        // The window no longer hears what is chosen.
+        Chosen chosen;
+        const auto note = [&](const Command &command) { chosen.commands.push_back(command); };
+        Menus &menus = bench.window->menus();
+        QVERIFY(disconnect(&menus, &Menus::chosen, nullptr, nullptr));
+        connect(&menus, &Menus::chosen, this, note);
+        for (auto *bar : bench.window->findChildren<CommandToolBar *>()) {
+            QVERIFY(disconnect(bar, &CommandToolBar::chosen, nullptr, nullptr));
+            connect(bar, &CommandToolBar::chosen, this, note);
+        }
+        auto *palette = bench.window->findChild<Palette *>();
+        QVERIFY(disconnect(palette, &Palette::clicked, nullptr, nullptr));
+        QVERIFY(disconnect(palette, &Palette::headingClicked, nullptr, nullptr));
+        connect(palette, &Palette::clicked, this, [&](const QuickTag &tag) { chosen.tags.push_back(&tag); });
+        connect(palette, &Palette::headingClicked, this, [&](int size) { chosen.headings.push_back(size); });
+        DesignerBar &designerBar = bench.window->designerBar();
+        QVERIFY(disconnect(&designerBar, &DesignerBar::buttonClicked, nullptr, nullptr));
+        connect(&designerBar, &DesignerBar::buttonClicked, this,
+                [&](DesignerCommand command) { chosen.designer.push_back(command); });
+
+        for (QAction *action : actions) {
+            const QString row = action->objectName();
+            chosen = {};
+            action->trigger();
+            QVERIFY2(chosen.count() == 1, qPrintable(row + u' ' + QString::number(chosen.count())));
+            QVERIFY2(isWhole(chosen, bench.catalogue, row), qPrintable(row));
+        }
+        QVERIFY2(actions.size() > 270, qPrintable(QString::number(actions.size())));
     }
 
     /// Exactly those entries are disabled that need a form which isn't implemented yet.
