@@ -38,12 +38,10 @@ qsizetype trimmedRun(QChar before, qsizetype blanks, QChar after)
     return blanks;
 }
 
-/// The text with the length of each run of blanks changed to `newLength`, which never makes it longer.
-template<typename NewLength>
-QString withBlankRuns(const QString &text, NewLength newLength)
+/// Writes the text with the runs of blanks as TrimAroundTags() leaves them; the result is never longer than the text.
+/// Returns the end of what was written.
+QChar *putTrimmed(QStringView text, QChar *out)
 {
-    QString result(text.size(), Qt::Uninitialized);
-    QChar *out = result.data();
     const QChar *const end = text.cend();
     for (const QChar *in = text.cbegin(); in != end;) {
         if (*in != u' ') {
@@ -55,15 +53,72 @@ QString withBlankRuns(const QString &text, NewLength newLength)
             ++in;
         const QChar before = run == text.cbegin() ? noCharacter : run[-1];
         const QChar after = in == end ? noCharacter : *in;
-        out = std::fill_n(out, newLength(before, in - run, after), QChar(u' '));
+        out = std::fill_n(out, trimmedRun(before, in - run, after), QChar(u' '));
+    }
+    return out;
+}
+
+/// Steps over the layout at `in`, which is line ends, tabs and blanks, and counts its blanks. A carriage return or a line
+/// feed alone is text.
+const QChar *skipLayout(const QChar *in, const QChar *end, qsizetype *blanks)
+{
+    for (; in != end; ++in) {
+        if (*in == u' ' || *in == u'\t')
+            ++*blanks;
+        else if (*in == u'\r' && in + 1 != end && in[1] == u'\n')
+            ++in;
+        else
+            break;
+    }
+    return in;
+}
+
+/// The text without layout, and with `divider` between a tag and one that directly follows it. All is done in one pass,
+/// because the memory that each further one would take costs more than its work.
+QString withoutLayout(QStringView text, QStringView divider)
+{
+    const qsizetype tags = divider.isEmpty() ? 0 : std::ranges::count(text, u'<');
+    QString result(text.size() + tags * divider.size(), Qt::Uninitialized);
+    QChar *out = result.data();
+    const QChar *const end = text.cend();
+    for (const QChar *in = text.cbegin(); in != end;) {
+        // Letters and most signs lie above all that needs a look.
+        while (in != end && *in > u'>')
+            *out++ = *in++;
+        if (in == end)
+            break;
+        const QChar before = in == text.cbegin() ? noCharacter : in[-1];
+        qsizetype blanks = 0;
+        in = skipLayout(in, end, &blanks);
+        const QChar after = in == end ? noCharacter : *in;
+        blanks = trimmedRun(before, reducedRun(blanks), after);
+        out = std::fill_n(out, blanks, QChar(u' '));
+        if (in == end)
+            break;
+        if (blanks == 0 && before == u'>' && after == u'<')
+            out = std::ranges::copy(divider, out).out;
+        *out++ = *in++;
     }
     result.truncate(out - result.cbegin());
     return result;
 }
 
-QString withoutLineEnds(const QString &text)
+/// The text without line ends and tabs.
+QString flattened(QStringView text)
 {
-    return ReplaceAll(text, u"\r\n"_s, {});
+    QString result(text.size(), Qt::Uninitialized);
+    QChar *out = result.data();
+    const QChar *const end = text.cend();
+    for (const QChar *in = text.cbegin(); in != end; ++in) {
+        if (*in > u'\r')
+            *out++ = *in;
+        else if (*in == u'\r' && in + 1 != end && in[1] == u'\n')
+            ++in;
+        else if (*in != u'\t')
+            *out++ = *in;
+    }
+    result.truncate(out - result.cbegin());
+    return result;
 }
 
 /// Whether a tag leaves the indentation level unchanged. `tag` begins with the tag, which is complete.
@@ -129,6 +184,37 @@ QStringView openingOf(QStringView text)
     return first < 0 ? text : text.first(first == 0 ? 0 : first + 1);
 }
 
+enum class Blanks { Kept, TrimmedAroundTags };
+
+/// IndentTags(), and where it is wanted TrimAroundTags() of its result: no run of blanks reaches beyond a piece, and what
+/// is put between pieces is no tag.
+QString indented(QStringView text, Blanks blanks, const FormatterYield &yield)
+{
+    const QStringView opening = openingOf(text);
+    qsizetype length = opening.size();
+    for (PieceWalk walk(text); walk.advance();)
+        length += walk.lineLength();
+    if (length > maximumFormattedLength)
+        throw HandlerError{u"Out of string space"_s};
+
+    QString result(length, Qt::Uninitialized);
+    QChar *out = result.data();
+    const auto put = [&out, blanks](QStringView piece) {
+        out = blanks == Blanks::Kept ? std::ranges::copy(piece, out).out : putTrimmed(piece, out);
+    };
+    put(opening);
+    PieceWalk walk(text);
+    while ((!yield || yield()) && walk.advance()) {
+        if (walk.isLost())
+            continue;
+        out = std::ranges::copy(QStringView(u"\r\n"), out).out;
+        out = std::fill_n(out, walk.level(), QChar(u'\t'));
+        put(walk.piece());
+    }
+    result.truncate(out - result.cbegin());
+    return result;
+}
+
 } // namespace
 
 QString ReplaceAll(const QString &text, const QString &find, const QString &replacement)
@@ -150,51 +236,29 @@ QString ReplaceAll(const QString &text, const QString &find, const QString &repl
 
 QString TrimAroundTags(const QString &text)
 {
-    return withBlankRuns(text, trimmedRun);
+    QString result(text.size(), Qt::Uninitialized);
+    result.truncate(putTrimmed(text, result.data()) - result.cbegin());
+    return result;
 }
 
 QString Compact(const QString &text)
 {
-    QString result = withoutLineEnds(text);
-    result.replace(u'\t', u' ');
-    return withBlankRuns(result, [](QChar before, qsizetype blanks, QChar after) {
-        return trimmedRun(before, reducedRun(blanks), after);
-    });
+    return withoutLayout(text, {});
 }
 
 QString Simple(const QString &text)
 {
-    return ReplaceAll(Compact(text), u"><"_s, u">\r\n<"_s);
+    return withoutLayout(text, u"\r\n");
 }
 
 QString Hierarchical(const QString &text, const FormatterYield &yield)
 {
-    QString flat = withoutLineEnds(text);
-    flat.remove(u'\t');
-    return TrimAroundTags(IndentTags(flat, yield));
+    return indented(flattened(text), Blanks::TrimmedAroundTags, yield);
 }
 
 QString IndentTags(const QString &text, const FormatterYield &yield)
 {
-    const QStringView opening = openingOf(text);
-    qsizetype length = opening.size();
-    for (PieceWalk walk(text); walk.advance();)
-        length += walk.lineLength();
-    if (length > maximumFormattedLength)
-        throw HandlerError{u"Out of string space"_s};
-
-    QString result;
-    result.reserve(length);
-    result += opening;
-    PieceWalk walk(text);
-    while ((!yield || yield()) && walk.advance()) {
-        if (walk.isLost())
-            continue;
-        result += u"\r\n";
-        result.resize(result.size() + walk.level(), u'\t');
-        result += walk.piece();
-    }
-    return result;
+    return indented(text, Blanks::Kept, yield);
 }
 
 QString NextTagText(const QString &text, qsizetype position)

@@ -18,6 +18,9 @@
 #include "web/designer/pageroundtrip.h"
 #include "web/designer/servermarks.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace zephira {
 
 namespace {
@@ -100,13 +103,33 @@ QString textOf(const QByteArray &input)
     return QString::fromUtf8(decodeText(input).utf8);
 }
 
-/// A text on one line, without tabs.
-QByteArray escaped(QString text)
+/// The letter that stands for a sign behind a backslash, or 0 for one that stands for itself.
+char escapeOf(QChar sign)
 {
-    text.replace(u'\\', QStringLiteral("\\\\"));
-    text.replace(u'\r', QStringLiteral("\\r"));
-    text.replace(u'\n', QStringLiteral("\\n"));
-    return text.replace(u'\t', QStringLiteral("\\t")).toUtf8();
+    return sign == u'\\' ? '\\' : sign == u'\r' ? 'r' : sign == u'\n' ? 'n' : sign == u'\t' ? 't' : 0;
+}
+
+/// Adds a text on one line, without tabs. A letter of UTF-16 takes three bytes at most.
+void addEscaped(QByteArray &out, QStringView text)
+{
+    constexpr qsizetype longestLetter = 3;
+    const auto isAscii = [](QChar c) { return c < QChar(0x80); };
+    const qsizetype before = out.size();
+    out.resize(before + longestLetter * text.size());
+    char *to = out.data() + before;
+    for (const QChar *next = text.begin(); next != text.end();) {
+        if (!isAscii(*next)) {
+            const QChar *const foreign = std::exchange(next, std::find_if(next, text.end(), isAscii));
+            to = std::ranges::copy(QStringView(foreign, next).toUtf8(), to).out;
+            continue;
+        }
+        const char escape = escapeOf(*next);
+        if (escape)
+            *to++ = '\\';
+        *to++ = escape ? escape : static_cast<char>(next->unicode());
+        ++next;
+    }
+    out.truncate(to - out.constData());
 }
 
 /// One line for each leaf: key of its group, index of its `<`, caption and tag text, separated by tabs. An error
@@ -114,11 +137,15 @@ QByteArray escaped(QString text)
 QByteArray printOutline(const QByteArray &input)
 {
     QByteArray out;
+    out.reserve(input.size());
     try {
         scanOutline(textOf(input), [&out](OutlineLeaf &&leaf) {
-            const OutlineRoot &group = outlineRoots()[static_cast<std::size_t>(leaf.group)];
-            out += group.key.toUtf8() + '\t' + QByteArray::number(leaf.position) + '\t' + escaped(leaf.caption) + '\t'
-                + escaped(leaf.tagText) + '\n';
+            addEscaped(out, outlineRoots()[static_cast<std::size_t>(leaf.group)].key);
+            out.append('\t').append(QByteArray::number(leaf.position)).append('\t');
+            addEscaped(out, leaf.caption);
+            out.append('\t');
+            addEscaped(out, leaf.tagText);
+            out.append('\n');
         });
     } catch (const HandlerError &error) {
         out += "error\t" + error.description.toUtf8() + '\n';
