@@ -22,11 +22,6 @@ constexpr int mostPictures = 2000;
 constexpr int largestSide = 512;
 constexpr int millisecondsBeforeSaving = 3000;
 
-QString keyOf(const QString &icon, QSize size, qreal scale)
-{
-    return u"%1|%2x%3@%4"_s.arg(icon).arg(size.width()).arg(size.height()).arg(scale);
-}
-
 /// The pixels of a picture, row by row.
 QByteArray pixelsOf(const QPixmap &picture)
 {
@@ -77,7 +72,7 @@ bool KeptPictures::knows(const QString &icon)
 
 QPixmap KeptPictures::find(const QString &icon, QSize size, qreal scale)
 {
-    return current().pictures.value(keyOf(icon, size, scale)).pixmap;
+    return current().pictures.value({icon, size, scale});
 }
 
 void KeptPictures::keep(const QString &icon, QSize size, qreal scale, const QPixmap &picture)
@@ -85,15 +80,15 @@ void KeptPictures::keep(const QString &icon, QSize size, qreal scale, const QPix
     Shelf &shelf = current();
     if (shelf.pictures.size() >= mostPictures || picture.width() > largestSide || picture.height() > largestSide)
         return;
-    shelf.add({icon, size, scale, picture});
+    shelf.add({icon, size, scale}, picture);
     m_hasNew = true;
     m_saving.start();
 }
 
-void KeptPictures::Shelf::add(const Picture &picture)
+void KeptPictures::Shelf::add(const Key &key, const QPixmap &picture)
 {
-    pictures.insert(keyOf(picture.icon, picture.size, picture.scale), picture);
-    icons.insert(picture.icon);
+    pictures.insert(key, picture);
+    icons.insert(key.icon);
 }
 
 KeptPictures::Shelf &KeptPictures::current()
@@ -118,8 +113,8 @@ void KeptPictures::save()
     QDataStream stream(&content, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_4);
     stream << fileMark << m_stamp;
-    for (const Picture &picture : std::as_const(m_shelf.pictures))
-        stream << picture.icon << picture.size << picture.scale << picture.pixmap.size() << pixelsOf(picture.pixmap);
+    for (const auto &[key, picture] : m_shelf.pictures.asKeyValueRange())
+        stream << key.icon << key.size << key.scale << picture.size() << pixelsOf(picture);
     QDir().mkpath(QFileInfo(m_file).path());
     const QByteArrayView piece = content;
     [[maybe_unused]] const Result<void> written = m_files.writeCopy(fileOf(m_file, m_theme), {&piece, 1});
@@ -140,14 +135,14 @@ KeptPictures::Shelf KeptPictures::readShelf() const
         return {};
     Shelf shelf;
     while (!stream.atEnd()) {
-        Picture picture;
+        Key key;
         QSize size;
         QByteArray pixels;
-        stream >> picture.icon >> picture.size >> picture.scale >> size >> pixels;
-        picture.pixmap = pictureOf(size, pixels);
-        if (stream.status() != QDataStream::Ok || picture.pixmap.isNull())
+        stream >> key.icon >> key.size >> key.scale >> size >> pixels;
+        const QPixmap picture = pictureOf(size, pixels);
+        if (stream.status() != QDataStream::Ok || picture.isNull())
             return {};
-        shelf.add(picture);
+        shelf.add(key, picture);
     }
     return shelf;
 }

@@ -32,18 +32,23 @@ public:
     void save();
 
 private:
-    struct Picture {
+    struct Key {
         QString icon;
         QSize size;
         qreal scale = 1;
-        QPixmap pixmap;
+
+        friend bool operator==(const Key &, const Key &) = default;
+        friend size_t qHash(const Key &key, size_t seed)
+        {
+            return qHashMulti(seed, key.icon, key.size.width(), key.size.height(), key.scale);
+        }
     };
     /// The pictures of one theme, and the names of their icons.
     struct Shelf {
-        QHash<QString, Picture> pictures;
+        QHash<Key, QPixmap> pictures;
         QSet<QString> icons;
 
-        void add(const Picture &picture);
+        void add(const Key &key, const QPixmap &picture);
     };
 
     /// The pictures of the current theme.
