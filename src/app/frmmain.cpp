@@ -4,6 +4,7 @@
 #include "app/documentcontrols.h"
 #include "app/documentsurface.h"
 #include "app/documenttree.h"
+#include "app/editorfont.h"
 #include "app/filepanecommands.h"
 #include "app/focusring.h"
 #include "app/recoverybar.h"
@@ -31,6 +32,7 @@
 #include "desktop/modalformopener.h"
 #include "document/recoverykeeper.h"
 #include "editor/codemax.h"
+#include "editor/editorappearance.h"
 #include "files/leftcopies.h"
 #include "files/recoverycopies.h"
 #include "panes/droppedfile.h"
@@ -95,7 +97,9 @@ frmmain::~frmmain() = default;
 /// Creates the document and what it depends on.
 void frmmain::buildDocument()
 {
-    m_rt = new CodeMax({m_services.files, m_services.recovery, m_services.prompts}, this);
+    m_rt = new CodeMax({m_services.files, m_services.recovery, m_services.prompts,
+                        editorFont(m_services.configuration, EditorLooks().font)},
+                       this);
     m_rt->setObjectName(u"rt"_s);
     m_rt->setAccessibleName(u"Source of the document"_s);
     m_panels = new StatusPanels(*m_ui->stBar, m_services.clock);

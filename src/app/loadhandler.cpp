@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/loadhandler.h"
 
+#include "app/editorfont.h"
 #include "app/frmmain.h"
 #include "app/sidelists.h"
 #include "app/startdecision.h"
@@ -41,10 +42,6 @@ constexpr EditorCommand commandsWithoutKeys[] = {
     EditorCommand::TransposeLines, EditorCommand::CutByOldKey,  EditorCommand::SelectWord, EditorCommand::FindNextByKey,
     EditorCommand::FindByKey,      EditorCommand::ReplaceByKey, EditorCommand::GoToByKey,
 };
-
-/// Limits of the font size in points: barely readable, and large enough for a presentation.
-constexpr double smallestFont = 4;
-constexpr double largestFont = 144;
 
 HandlerError startError(const Error &error)
 {
@@ -169,17 +166,7 @@ void LoadHandler::applyFont()
 {
     EditingControl &editor = m_window.rt();
     editor.setEnableDragDrop(true);
-    const Configuration &configuration = m_window.services().configuration;
-    FontChoice font = editor.editorFont();
-    font.bold = isTrue(configuration, Setting::FontBold);
-    font.italic = isTrue(configuration, Setting::FontItalic);
-    if (const QString name = configuration.value(Setting::FontName); !name.isEmpty())
-        font.name = name;
-    if (const double size = configuration.value(Setting::FontSize).toDouble(); size > 0)
-        font.size = std::clamp(size, smallestFont, largestFont);
-    font.strikethrough = isTrue(configuration, Setting::FontStrikethrough);
-    font.underline = isTrue(configuration, Setting::FontUnderline);
-    editor.setEditorFont(font);
+    editor.setEditorFont(editorFont(m_window.services().configuration, editor.editorFont()));
 }
 
 void LoadHandler::applyDisplayModes()

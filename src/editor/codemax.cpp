@@ -88,6 +88,8 @@ CodeMax::CodeMax(EditorServices services, QWidget *parent)
     // Installed to take precedence over the editor library's factory, whose objects walk through the text at every key.
     QAccessible::installFactory(&AccessibleEditor::make);
     setAccessibleName(u"Source text"_s);
+    if (services.font)
+        m_appearance->setFont(*services.font);
     setUpEngine();
     connectEngine();
 }

@@ -41,6 +41,8 @@ struct EditorServices {
     FileStore &files;
     RecoveryCopies &recovery;
     Prompts &prompts;
+    /// The font to begin with, where that is known: each that is shown once costs the loading of it.
+    std::optional<FontChoice> font = {};
 };
 
 /// The editing control. C++ code uses it through EditingControl; scripts, tests and other outside code use the
