@@ -70,7 +70,11 @@ void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)
 } // namespace
 
 frmmain::frmmain(const WindowServices &services, QWidget *parent)
-    : QMainWindow(parent), m_services(services), m_ui(std::make_unique<Ui::frmmain>()), m_commonDialog(this)
+    : QMainWindow(parent)
+    , m_services(services)
+    , m_late(*this, services.hiddenParts)
+    , m_ui(std::make_unique<Ui::frmmain>())
+    , m_commonDialog(this)
 {
     m_ui->setupUi(this);
     m_commonDialog.setObjectName(u"CM"_s);
@@ -89,6 +93,7 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
                    {m_sidePane},
                    {m_documentControls->languages()},
                    {m_ui->workspace}});
+    m_sidePane->prepare = [this] { m_late.finish(); };
     m_rt->setFocus();
 }
 
@@ -140,7 +145,8 @@ void frmmain::buildBars()
     addToolBar(paletteBar);
 
     addToolBarBreak();
-    m_designerBar = new DesignerBar(this);
+    m_designerBar = new DesignerBar(this, DesignerBar::Contents::Later);
+    m_late.add([this] { m_designerBar->build(); });
     addToolBar(m_designerBar);
     m_designerBar->hide();
     for (QToolBar *bar : {static_cast<QToolBar *>(m_standardBar), static_cast<QToolBar *>(m_formattingBar), paletteBar,
@@ -149,7 +155,7 @@ void frmmain::buildBars()
 
     m_selectorList = new SelectorList(*m_context, m_ui->centralwidget);
     m_selectorList->hide();
-    addVariableBoxes(*m_palette, *m_rt);
+    m_late.add([this] { addVariableBoxes(*m_palette, *m_rt); });
 }
 
 void frmmain::buildSidePane()
@@ -158,8 +164,8 @@ void frmmain::buildSidePane()
     m_ui->mainSplitter->insertWidget(0, m_sidePane);
     addTabs(*m_sidePane->tabs(), sideTabs());
     m_sidePane->setPage(u"fileman"_s, m_filePane);
-    m_sideLists = std::make_unique<SideLists>(*m_context, *m_menus, *m_sidePane);
-    addDocumentTree(*m_sidePane, *m_rt, *m_surface);
+    m_sideLists = std::make_unique<SideLists>(*m_context, *m_menus, *m_sidePane, m_late);
+    m_late.add([this] { addDocumentTree(*m_sidePane, *m_rt, *m_surface); });
     // On a low screen the pane and the views shrink, so that the status bar stays visible.
     m_sidePane->setMinimumHeight(lowestPane);
     m_ui->views->setMinimumHeight(lowestView);
@@ -175,7 +181,11 @@ void frmmain::buildWorkspace()
     m_ui->views->addWidget(m_rt);
     m_viewSwitch = new ViewSwitch(
         *m_context, {*m_document, *m_surface, *m_ui->workspace, *m_ui->views, *m_designerBar, *m_menus, m_designer},
-        m_services.webViews, this);
+        [this] {
+            m_late.finish(); // A view has its tools.
+            return m_services.webViews();
+        },
+        this);
     m_surface->attach(*m_viewSwitch, *m_recoveryKeeper);
     m_visualTools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
     connect(m_visualTools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);

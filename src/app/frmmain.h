@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/lateparts.h"
 #include "app/windowservices.h"
 #include "app/windowstate.h"
 #include "core/appcontext.h"
@@ -117,6 +118,7 @@ public:
     SelectorList &selectorList() { return *m_selectorList; }
     SideLists &sideLists() { return *m_sideLists; }
     ModalFormOpener &forms() { return *m_forms; }
+    LateParts &late() { return m_late; }
     CommandRouter &router() { return *m_router; }
     WindowEnd &windowEnd() { return *m_end; }
 
@@ -142,6 +144,7 @@ private:
     void showKeyboardLocks();
 
     const WindowServices m_services;
+    LateParts m_late;
     WindowState m_state;
     std::unique_ptr<Ui::frmmain> m_ui;
     CommonDialog m_commonDialog;

@@ -29,8 +29,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -131,12 +129,12 @@ void LoadHandler::fetchSelection()
 
 void LoadHandler::fillDesignerFonts()
 {
-    m_window.designerBar().fillFonts();
+    m_window.late().add([&bar = m_window.designerBar()] { bar.fillFonts(); });
 }
 
 void LoadHandler::disableDesigner()
 {
-    m_window.designerBar().disableAll();
+    m_window.late().add([&bar = m_window.designerBar()] { bar.disableAll(); });
     QCoreApplication::processEvents();
 }
 
@@ -213,14 +211,18 @@ void LoadHandler::readStyleSelectors()
 
 void LoadHandler::rootScriptFolder()
 {
-    m_window.sideLists().scripts().setRootFolder(m_window.appPath() + u"/Scripts"_s);
+    m_window.late().add([&lists = m_window.sideLists(), folder = m_window.appPath() + u"/Scripts"_s] {
+        lists.scripts().setRootFolder(folder);
+    });
 }
 
 void LoadHandler::fillTagTree()
 {
-    const Result<void> filled = m_window.sideLists().tags().LoadTagTree();
-    if (!filled)
-        throw startError(filled.error());
+    const Result<QStringList> captions = TagTree::fileCaptions(m_window.context());
+    if (!captions)
+        throw startError(captions.error());
+    m_window.late().add(
+        [&lists = m_window.sideLists(), captions = captions.value()] { lists.tags().addTags(captions); });
 }
 
 void LoadHandler::clearModified()
@@ -230,7 +232,8 @@ void LoadHandler::clearModified()
 
 void LoadHandler::readAspTags()
 {
-    m_window.sideLists().aspTags().addLines(dataLines(u"asptags.dat"_s));
+    m_window.late().add(
+        [&lists = m_window.sideLists(), lines = dataLines(u"asptags.dat"_s)] { lists.aspTags().addLines(lines); });
 }
 
 void LoadHandler::openArgument()

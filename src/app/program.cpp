@@ -145,7 +145,8 @@ int runProgram(QApplication &application, const QString &argument)
                         [&ended] {
                             ended = true;
                             QCoreApplication::exit(EXIT_SUCCESS);
-                        }});
+                        },
+                    .hiddenParts = HiddenParts::AfterPicture});
     const EndSignals endSignals;
     QObject::connect(&endSignals, &EndSignals::received, &window, [&window] { window.windowEnd().endNow(); });
     const SessionEnd sessionEnd(application, window.windowEnd());

@@ -19,6 +19,9 @@ class RecoveryCopies;
 class Shell;
 class UserSettings;
 
+/// When the window creates the parts that aren't visible at first.
+enum class HiddenParts { AtOnce, AfterPicture };
+
 /// The services that the main window depends on. runProgram() builds it from the real ones, tests from real and fake
 /// ones.
 struct WindowServices {
@@ -40,6 +43,7 @@ struct WindowServices {
     QString executable;
     /// Ends the process at once, without asking anything.
     std::function<void()> endProcess;
+    HiddenParts hiddenParts = HiddenParts::AtOnce;
 };
 
 } // namespace zephira

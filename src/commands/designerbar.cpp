@@ -30,10 +30,17 @@ void showText(QComboBox &box, const QString &text)
 
 } // namespace
 
-DesignerBar::DesignerBar(QWidget *parent) : QToolBar(u"Visual designer"_s, parent)
+DesignerBar::DesignerBar(QWidget *parent, Contents contents) : QToolBar(u"Visual designer"_s, parent)
 {
     setObjectName(u"Toolbar2"_s);
     setIconSize({22, 22});
+    if (contents == Contents::AtOnce)
+        build();
+    hide();
+}
+
+void DesignerBar::build()
+{
     m_font = addBox(u"FontCombo"_s, u"Font"_s);
     m_size = addBox(u"FontSizeCombo"_s, u"Font size"_s);
     connect(m_font, &QComboBox::textActivated, this, &DesignerBar::fontChosen);
@@ -50,7 +57,6 @@ DesignerBar::DesignerBar(QWidget *parent) : QToolBar(u"Visual designer"_s, paren
     m_reset->setToolTip(u"Reset Document to what it was before you entered Visual Mode"_s);
     connect(m_reset, &QPushButton::clicked, this, &DesignerBar::resetClicked);
     addWidget(m_reset);
-    hide();
 }
 
 QComboBox *DesignerBar::addBox(const QString &name, const QString &tip)

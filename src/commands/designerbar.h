@@ -19,7 +19,12 @@ class DesignerBar : public QToolBar
     Q_OBJECT
 
 public:
-    explicit DesignerBar(QWidget *parent = nullptr);
+    enum class Contents { AtOnce, Later };
+
+    explicit DesignerBar(QWidget *parent = nullptr, Contents contents = Contents::AtOnce);
+
+    /// Makes boxes and buttons where they were to come later. Nothing else of the bar may be used before.
+    void build();
 
     /// Fills the two boxes with their fixed lists and selects the first entry in each.
     void fillFonts();

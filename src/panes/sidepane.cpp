@@ -50,6 +50,7 @@ void SidePane::setPage(const QString &key, QWidget *page)
 
 void SidePane::setPage(const QString &key, QWidget *page, Fill when, Statement fill)
 {
+    page->resize(0, 0); // A stack that shows already paints anew what a new page covers, although it is hidden.
     m_stack->addWidget(page);
     m_pages.insert(key, {page, when, std::move(fill)});
     if (m_tabs->tabData(m_tabs->currentIndex()).toString() == key)
@@ -66,6 +67,8 @@ void SidePane::click(int tab)
 
 void SidePane::showPage(int tab)
 {
+    if (prepare)
+        prepare();
     const Page page = m_pages.value(m_tabs->tabData(tab).toString());
     if (!page.widget) {
         m_stack->setCurrentWidget(m_nothing);

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QWidget>
 
+#include <functional>
+
 class QStackedWidget;
 
 namespace zephira {
@@ -33,6 +35,9 @@ public:
     /// The same for a page that is filled again at each click on its tab. If `fill` raises HandlerError, the user is told
     /// and decides whether the page is shown anyway.
     void setPage(const QString &key, QWidget *page, Fill when, Statement fill);
+
+    /// If set, called before a page is shown; it may give tabs the pages that they don't have yet.
+    std::function<void()> prepare;
 
     /// Selects a tab as a click does, even if it is already selected. Tabs count from 0.
     void click(int tab);

@@ -36,15 +36,28 @@ TagTree::TagTree(const AppContext &context, QWidget *parent) : QTreeWidget(paren
                  [this](const QModelIndex &index) { pasteInCodeView(m_context, index.data().toString()); });
 }
 
-Result<void> TagTree::LoadTagTree()
+Result<QStringList> TagTree::fileCaptions(const AppContext &context)
 {
-    const Result<QStringList> lines = readLines(m_context.files, m_context.appPath + u"/tags.dat"_s);
+    const Result<QStringList> lines = readLines(context.files, context.appPath + u"/tags.dat"_s);
     if (!lines)
         return lines.error();
+    return tagCaptions(lines.value());
+}
+
+Result<void> TagTree::LoadTagTree()
+{
+    const Result<QStringList> captions = fileCaptions(m_context);
+    if (!captions)
+        return captions.error();
+    addTags(captions.value());
+    return {};
+}
+
+void TagTree::addTags(const QStringList &captions)
+{
     const QIcon tagPicture = themeIcon(u"tag"_s);
     const QIcon attributePicture = themeIcon(u"code-variable"_s);
     QList<QTreeWidgetItem *> nodes;
-    const QStringList captions = tagCaptions(lines.value());
     for (const QString &caption : captions)
         nodes.append(node(caption, tagPicture));
     for (const BuiltInTag &tag : builtInTags()) {
@@ -56,7 +69,6 @@ Result<void> TagTree::LoadTagTree()
         nodes.append(item);
     }
     addTopLevelItems(nodes);
-    return {};
 }
 
 } // namespace zephira

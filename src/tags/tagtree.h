@@ -18,6 +18,10 @@ class TagTree final : public QTreeWidget
 public:
     explicit TagTree(const AppContext &context, QWidget *parent = nullptr);
 
+    /// The captions in tags.dat of the program folder. Fails if it can't be read.
+    static Result<QStringList> fileCaptions(const AppContext &context);
+    /// Adds a node for each of these captions, and those of the built-in tags.
+    void addTags(const QStringList &captions);
     /// Adds the nodes of both sources to the tree, which must be empty. If tags.dat can't be read, fails and adds
     /// nothing; an empty file is no failure.
     Result<void> LoadTagTree();

@@ -83,7 +83,8 @@ frmmain &WindowBench::start(const QString &argument)
                                                       .appPath = appPath(),
                                                       .iniFile = configuration.file(),
                                                       .executable = u"/opt/zephira/zephira"_s,
-                                                      .endProcess = [this] { ++ended; }});
+                                                      .endProcess = [this] { ++ended; },
+                                                      .hiddenParts = hiddenParts});
     LoadHandler(*window, argument).run();
     return *window;
 }

@@ -79,6 +79,7 @@ public:
     FakeWebViews webViews;
     /// Returns the fakes, unless a test sets something else before the start.
     WebViewsLoader loadWebViews = [this]() -> Result<WebViews *> { return &webViews; };
+    HiddenParts hiddenParts = HiddenParts::AtOnce;
     int ended = 0;
     std::unique_ptr<frmmain> window;
 };
