@@ -11,6 +11,9 @@
 #include <QSettings>
 #include <QTest>
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
 using namespace zephira;
 using namespace zephira::titles;
 using namespace Qt::StringLiterals;
@@ -19,6 +22,35 @@ namespace {
 
 const QString tip = u"Tip of the Day"_s;
 const QString chooser = u"Select Template"_s;
+
+/// Counts how often files are opened, by whomever.
+class OpenCounter
+{
+public:
+    explicit OpenCounter(const QStringList &paths) : m_file(inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
+    {
+        for (const QString &path : paths)
+            m_watches += inotify_add_watch(m_file, QFile::encodeName(path).constData(), IN_OPEN) >= 0;
+    }
+    ~OpenCounter() { ::close(m_file); }
+    Q_DISABLE_COPY_MOVE(OpenCounter)
+
+    /// How many of the files are watched.
+    int watches() const { return m_watches; }
+    /// How many openings there were since the last call.
+    int count() const
+    {
+        int opened = 0;
+        inotify_event event;
+        while (::read(m_file, &event, sizeof event) == sizeof event)
+            ++opened;
+        return opened;
+    }
+
+private:
+    const int m_file;
+    int m_watches = 0;
+};
 
 } // namespace
 
@@ -88,6 +120,49 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(sourcePath(u"data/zephira.ini"_s), settings));
         RunningProgram program(folder, {});
         QCOMPARE(program.waitForWindows({untitled, chooser}), sorted({untitled, chooser}));
+    }
+
+    /// Each reading of a setting that opened the file anew would be seen here.
+    void theConfigurationIsReadOnce()
+    {
+        ProgramFolder folder;
+        folder.setTips(false);
+        folder.setIni(u"startup"_s, u"selprj"_s, u"0"_s);
+        QFile ini(folder.ini());
+        QVERIFY(ini.open(QIODevice::ReadWrite));
+        QVERIFY(ini.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime));
+        ini.close();
+        const OpenCounter opened({folder.ini()});
+        RunningProgram program(folder, {});
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+        const int times = opened.count();
+        QVERIFY(times >= 1);
+        QVERIFY2(times <= 2, qPrintable(QString::number(times))); // Once for the folder, once for the settings.
+    }
+
+    /// Their pictures are kept from the start before.
+    void theSecondStartLooksForNoIcons()
+    {
+        QStringList indexes;
+        for (const QString &theme : {u"breeze"_s, u"breeze-dark"_s, u"hicolor"_s})
+            indexes.append(u"/usr/share/icons/%1/index.theme"_s.arg(theme));
+        ProgramFolder folder;
+        folder.setTips(false);
+        folder.setIni(u"startup"_s, u"selprj"_s, u"0"_s);
+        const OpenCounter opened(indexes);
+        QVERIFY(opened.watches() > 0);
+        const auto run = [&folder] {
+            RunningProgram program(folder, {});
+            QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+            program.close(untitled);
+            QCOMPARE(program.waitForEnd(), 0);
+        };
+        run();
+        QVERIFY(opened.count() > 0);
+        run();
+        QCOMPARE(opened.count(), 0);
     }
 
     void severalWordsAreOneName()
