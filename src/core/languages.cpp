@@ -22,8 +22,8 @@ constexpr FileType types[] = {
     {u"ini", Text, {}, AsDocument, PlainText},
     {u"log", Text, {}, AsDocument, PlainText},
     {u"txt", Text, {}, AsDocument, PlainText},
-    {u"htm", Html},
-    {u"html", Html},
+    {.extension = u"htm", .row = Html, .isPage = true},
+    {.extension = u"html", .row = Html, .isPage = true},
     {.extension = u"java", .row = JavaScript, .byTemplate = Ignored, .kind = PlainText, .isListedLast = true},
     {u"css", StyleSheets, {}, AsDocument, PlainText},
     {u"js", JavaScript, {}, AsDocument, PlainText},
@@ -38,23 +38,25 @@ constexpr FileType types[] = {
     {u"frm", Basic, {}, AsDocument, PlainText},
     {u"vbp", Basic, {}, AsDocument, PlainText},
     {.extension = u"sql", .row = Sql, .byTemplate = Ignored, .kind = PlainText, .isListedLast = true},
-    {.extension = u"gif", .isImage = true},
-    {.extension = u"bmp", .isImage = true},
-    {.extension = u"jpg", .isImage = true},
+    {.extension = u"gif", .isImage = true, .isPicture = true},
+    {.extension = u"bmp", .isImage = true, .isPicture = true},
+    {.extension = u"jpg", .isImage = true, .isPicture = true},
     // File types without a language row.
-    {.extension = u"png", .isAdded = true},
-    {.extension = u"svg", .isAdded = true},
-    {.extension = u"webp", .isAdded = true},
-    {.extension = u"jpeg", .isAdded = true},
-    {.extension = u"avif", .isAdded = true},
-    {.extension = u"ico", .isAdded = true},
+    {.extension = u"png", .isPicture = true, .isAdded = true},
+    {.extension = u"svg", .isPicture = true, .isAdded = true},
+    {.extension = u"webp", .isPicture = true, .isAdded = true},
+    {.extension = u"jpeg", .isPicture = true, .isAdded = true},
+    {.extension = u"avif", .isPicture = true, .isAdded = true},
+    {.extension = u"ico", .isPicture = true, .isAdded = true},
     {.extension = u"json", .kind = PlainText, .isAdded = true},
     {.extension = u"php", .isAdded = true},
-    {.extension = u"xhtml", .isAdded = true},
+    {.extension = u"xhtml", .isPage = true, .isAdded = true},
     {.extension = u"md", .kind = PlainText, .isAdded = true},
     {.extension = u"woff2", .isAdded = true},
     {.extension = u"mjs", .kind = PlainText, .isAdded = true},
     {.extension = u"ts", .kind = PlainText, .isAdded = true},
+    {.extension = u"xht", .isPage = true},
+    {.extension = u"shtml", .isPage = true},
     {.extension = u"conf", .kind = PlainText},
     {.extension = u"csv", .kind = PlainText},
     {.extension = u"py", .kind = PlainText},
@@ -153,6 +155,18 @@ const FileType *fileTypeOf(QStringView name)
     return type == std::end(types) ? nullptr : type;
 }
 
+bool isPicture(QStringView name)
+{
+    const FileType *type = fileTypeOf(name);
+    return type && type->isPicture;
+}
+
+bool isPage(QStringView name)
+{
+    const FileType *type = fileTypeOf(name);
+    return type && type->isPage;
+}
+
 bool isServerPage(QStringView name)
 {
     const FileType *type = fileTypeOf(name);
@@ -186,6 +200,16 @@ QString openFilter()
     for (const OpenGroup &group : openGroups)
         parts << group.caption.toString() << groupPatterns(group);
     return parts.join(u'|');
+}
+
+QString picturePatterns()
+{
+    QStringList patterns;
+    for (const FileType &type : types) {
+        if (type.isPicture)
+            patterns.append(patternOf(type));
+    }
+    return patterns.join(u';');
 }
 
 QString defaultFilters()

@@ -65,6 +65,8 @@ struct FileType {
     TemplateRule byTemplate = TemplateRule::AsDocument;
     DocumentKind kind = DocumentKind::Markup;
     bool isImage = false;      ///< shown as a picture or linked, never opened as the document
+    bool isPicture = false;    ///< a picture on a web page, whatever opening it does; each image is one
+    bool isPage = false;       ///< shown by a browser as a page
     bool isServerPage = false; ///< can be viewed only through a web server
     bool isListedLast = false; ///< comes after the pictures in the file pane's patterns
     bool isAdded = false;      ///< missing from defaultFilters(), included in shippedFilters()
@@ -75,6 +77,10 @@ std::span<const FileType> fileTypes();
 
 /// The type by the part after the last dot of a name or path, not case-sensitive; nullptr for an unknown extension.
 const FileType *fileTypeOf(QStringView name);
+
+/// Whether the name is that of a picture, or of a page.
+bool isPicture(QStringView name);
+bool isPage(QStringView name);
 
 /// Whether the name is that of a page that can be viewed only through a web server.
 bool isServerPage(QStringView name);
@@ -95,6 +101,9 @@ std::optional<LanguageChoice> languageOfTemplate(QStringView name);
 
 /// Filter of the open dialog: "caption|patterns|caption|patterns…".
 QString openFilter();
+
+/// The pictures' patterns in a filter, separated by semicolons.
+QString picturePatterns();
 
 /// The file pane's patterns after a reset to the program's defaults.
 QString defaultFilters();

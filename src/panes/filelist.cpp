@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/filelist.h"
 
+#include "core/languages.h"
 #include "widgets/itemchoice.h"
 #include "widgets/themeicon.h"
 
 #include <QContextMenuEvent>
 #include <QIcon>
 #include <QKeyEvent>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -17,15 +16,6 @@ namespace zephira {
 namespace {
 
 constexpr int pictureSize = 16;
-
-constexpr QStringView pictureEndings[] = {u".gif", u".jpg",  u".jpeg", u".png", u".bmp",
-                                          u".svg", u".webp", u".avif", u".ico"};
-
-bool isPicture(const QString &name)
-{
-    return std::ranges::any_of(pictureEndings,
-                               [&](QStringView ending) { return name.endsWith(ending, Qt::CaseInsensitive); });
-}
 
 } // namespace
 

@@ -2,8 +2,8 @@
 #include "web/browserpage.h"
 
 #include "core/filestore.h"
+#include "core/languages.h"
 #include "files/textfile.h"
-#include "web/pageaddress.h"
 #include "web/scriptmessagebar.h"
 
 #include <QPointer>
@@ -71,7 +71,7 @@ void BrowserPage::open(const QUrl &address)
 void BrowserPage::openAsPage(const QUrl &file)
 {
     Result<QByteArray> content = m_files.read(file.toLocalFile());
-    if (isNamedAsPage(file) || !content || content.value().size() > mostGivenBytes) {
+    if (isPage(file.path()) || !content || content.value().size() > mostGivenBytes) {
         open(file);
         return;
     }

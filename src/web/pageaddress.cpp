@@ -2,24 +2,10 @@
 #include "web/pageaddress.h"
 
 #include <QDir>
-#include <QFileInfo>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
-
-namespace {
-
-constexpr QStringView pageSuffixes[] = {u"htm", u"html", u"xhtml", u"xht", u"shtml"};
-
-} // namespace
-
-bool isNamedAsPage(const QUrl &file)
-{
-    return std::ranges::find(pageSuffixes, QFileInfo(file.path()).suffix().toLower()) != std::end(pageSuffixes);
-}
 
 QUrl pageAddress(const QString &text)
 {

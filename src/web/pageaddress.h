@@ -12,7 +12,4 @@ namespace zephira {
 ///     pageAddress("example.org/a") == "http://example.org/a"
 QUrl pageAddress(const QString &text);
 
-/// Whether all browsers would treat a file with this name as a page.
-bool isNamedAsPage(const QUrl &file);
-
 } // namespace zephira

@@ -130,6 +130,35 @@ private Q_SLOTS:
         QTEST(type && type->isImage, "isImage");
     }
 
+    void pictures_data()
+    {
+        QTest::addColumn<bool>("isPicture");
+        for (const char *name :
+             {"a.gif", "a.BMP", "a.jpg", "a.jpeg", "a.png", "a.svg", "a.webp", "a.avif", "a.ico", "b.tar.PNG", ".gif"})
+            QTest::newRow(name) << true;
+        for (const char *name : {"a.html", "a.gif.txt", "png", "a.png/b", "a.giff", ""})
+            QTest::addRow("%s", name) << false;
+    }
+
+    void pictures() { QTEST(isPicture(QString::fromLatin1(QTest::currentDataTag())), "isPicture"); }
+
+    void everyImageIsAPicture()
+    {
+        for (const FileType &type : fileTypes())
+            QVERIFY2(type.isPicture || !type.isImage, qPrintable(type.extension.toString()));
+    }
+
+    void pages_data()
+    {
+        QTest::addColumn<bool>("isPage");
+        for (const char *name : {"a.htm", "/x.y/A.HTML", "a.xhtml", "a.xht", "a.shtml", "a.htmltemp.html"})
+            QTest::newRow(name) << true;
+        for (const char *name : {"a.asp", "a.xml", "a.vbs", "html", "a.html/b", "a.html5", ""})
+            QTest::addRow("%s", name) << false;
+    }
+
+    void pages() { QTEST(isPage(QString::fromLatin1(QTest::currentDataTag())), "isPage"); }
+
     void serverPages()
     {
         QVERIFY(isServerPage(u"/a/page.asp"));
@@ -156,6 +185,11 @@ private Q_SLOTS:
                  u"Html Files|*.html;*.htm|Java / Script Files|*.js;*.java|Style Sheets|*.cs|C/C++ Files|"
                  u"*.c;*.cpp;*.h|Perl Files|*.pl|CGI/Perl Files|*.cgi|XML Files|*.xml|Pascal Files|*.pas|"
                  u"Basic Files|*.bas;*.frm;*.vbp|ASP / VBScript Files|*.asp;*.vbs|SQL Files|*.sql"_s);
+    }
+
+    void picturePatternsAreThoseOfAllPictures()
+    {
+        QCOMPARE(picturePatterns(), u"*.gif;*.bmp;*.jpg;*.png;*.svg;*.webp;*.jpeg;*.avif;*.ico"_s);
     }
 
     void defaultFiltersAreLetterForLetter()

@@ -216,25 +216,6 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QTEST(pageAddress(text).toString(), "address");
     }
-
-    void namesOfPages_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("isPage");
-        QTest::newRow("htm") << u"/a.htm"_s << true;
-        QTest::newRow("capitals") << u"/A.HTML"_s << true;
-        QTest::newRow("a copy") << u"/a.htmltemp.html"_s << true;
-        QTest::newRow("with markup of a server") << u"/a.shtml"_s << true;
-        QTest::newRow("script") << u"/a.vbs"_s << false;
-        QTest::newRow("page in the folder's name") << u"/a.html/b"_s << false;
-        QTest::newRow("nothing") << QString() << false;
-    }
-
-    void namesOfPages()
-    {
-        QFETCH(QString, path);
-        QTEST(isNamedAsPage(QUrl::fromLocalFile(path)), "isPage");
-    }
 };
 
 ZEPHIRA_TEST(TstLocalFiles)

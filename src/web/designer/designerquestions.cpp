@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/designer/designerquestions.h"
 
+#include "core/languages.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QUrl>
@@ -12,8 +14,7 @@ namespace zephira {
 std::optional<QString> DesignerQuestions::picture(const QString &baseFile)
 {
     const QString folder = baseFile.isEmpty() ? QString() : QFileInfo(baseFile).path();
-    const auto file =
-        m_prompts.file({u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s, folder});
+    const auto file = m_prompts.file({u"Picture"_s, u"Pictures|%1|All Files|*.*"_s.arg(picturePatterns()), folder});
     return file ? std::optional(fileAddress(baseFile, *file)) : std::nullopt;
 }
 

@@ -404,9 +404,10 @@ void TstDesignerWidget::pictureIsAskedFor()
     const QString folder = m_bench->folder.path();
     m_bench->designer.setBaseFile(folder + u"/site/page.html"_s);
     m_bench->show(u"<p>a|</p>"_s);
-    m_bench->prompts.expectFile(
-        {u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s, folder + u"/site"_s},
-        folder + u"/my pics/1#2.gif"_s);
+    m_bench->prompts.expectFile({u"Picture"_s,
+                                 u"Pictures|*.gif;*.bmp;*.jpg;*.png;*.svg;*.webp;*.jpeg;*.avif;*.ico|All Files|*.*"_s,
+                                 folder + u"/site"_s},
+                                folder + u"/my pics/1#2.gif"_s);
     m_bench->designer.execCommand(DesignerCommand::Image, DesignerPrompting::Default, {});
     QCOMPARE(m_bench->text(), u"<p>a{<img src=\"../my%20pics/1%232.gif\" alt=\"\"></p>"_s);
     m_bench->designer.setBaseFile({});
@@ -417,8 +418,8 @@ void TstDesignerWidget::pictureIsAskedFor()
 void TstDesignerWidget::pictureIsNotChosen()
 {
     m_bench->show(u"<p>a|</p>"_s);
-    m_bench->prompts.expectFile({u"Picture"_s, u"Pictures|*.gif;*.jpg;*.jpeg;*.png;*.bmp;*.svg;*.webp|All Files|*.*"_s},
-                                {});
+    m_bench->prompts.expectFile(
+        {u"Picture"_s, u"Pictures|*.gif;*.bmp;*.jpg;*.png;*.svg;*.webp;*.jpeg;*.avif;*.ico|All Files|*.*"_s}, {});
     m_bench->designer.execCommand(DesignerCommand::Image, DesignerPrompting::Default, {});
     QVERIFY(!m_bench->designer.isDirty());
 }
