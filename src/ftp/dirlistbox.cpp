@@ -2,7 +2,7 @@
 #include "ftp/dirlistbox.h"
 
 #include "core/paths.h"
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 #include "ftp/ftpimages.h"
 
 #include <QDir>

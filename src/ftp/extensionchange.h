@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/prompts.h"
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 
 namespace zephira {
 

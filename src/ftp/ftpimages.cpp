@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/ftpimages.h"
 
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 #include "widgets/themeicon.h"
 
 #include <QIconEngine>

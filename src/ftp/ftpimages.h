@@ -7,7 +7,7 @@ class QWidget;
 
 namespace zephira {
 
-/// A picture of the image lists by its number, from 1 to 13, in a large and a small size; see filetypes.h for the
+/// A picture of the image lists by its number, from 1 to 13, in a large and a small size; see fileimages.h for the
 /// meaning of the numbers. If the icon theme lacks the picture, the widget's style provides one.
 QIcon ftpImage(int number, const QWidget &widget);
 

@@ -2,7 +2,7 @@
 #include "ftp/remotelisting.h"
 
 #include "core/vbtext.h"
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 #include "ftp/remotename.h"
 
 using namespace Qt::StringLiterals;

@@ -2,8 +2,8 @@
 #include "ftp/remotepane.h"
 
 #include "core/itemroles.h"
+#include "ftp/fileimages.h"
 #include "ftp/filelistview.h"
-#include "ftp/filetypes.h"
 #include "ftp/ftpimages.h"
 
 #include <QAction>

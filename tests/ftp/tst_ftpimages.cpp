@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/icons.h"
 #include "commands/iconstates.h"
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 #include "ftp/ftpimages.h"
 #include "support/palettes.h"
 #include "support/testregistry.h"

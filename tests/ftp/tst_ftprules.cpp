@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/extensionchange.h"
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 #include "ftp/ftpcommandtables.h"
 #include "ftp/recordingoperations.h"
 #include "ftp/remotelisting.h"

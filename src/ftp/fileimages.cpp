@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 
 #include <algorithm>
 
@@ -7,12 +7,13 @@ namespace zephira {
 
 namespace {
 
-struct FileType {
+struct FileImage {
     QStringView extension;
     int image;
 };
 
-constexpr FileType fileTypes[] = {
+/// What servers hold has little to do with what the editor opens, so this isn't a part of core's table of file types.
+constexpr FileImage fileImages[] = {
     {u"avi", 8}, {u"mpg", 8}, {u"mpeg", 8}, {u"mov", 8}, {u"gif", 4}, {u"jpg", 1}, {u"jpeg", 1}, {u"jpe", 1},
     {u"bmp", 1}, {u"htm", 2}, {u"html", 2}, {u"xml", 2}, {u"asp", 2}, {u"js", 5},  {u"css", 5},  {u"cgi", 5},
     {u"mp3", 6}, {u"ram", 6}, {u"au", 6},   {u"vaw", 6}, {u"zip", 7}, {u"arj", 7}, {u"exe", 9},  {u"com", 9},
@@ -32,8 +33,8 @@ QString extensionOf(const QString &name)
 int imageForFile(const QString &name)
 {
     const QString extension = extensionOf(name).toLower();
-    const auto type = std::ranges::find(fileTypes, QStringView(extension), &FileType::extension);
-    return type == std::end(fileTypes) ? unknownImage : type->image;
+    const auto row = std::ranges::find(fileImages, QStringView(extension), &FileImage::extension);
+    return row == std::end(fileImages) ? unknownImage : row->image;
 }
 
 } // namespace zephira
