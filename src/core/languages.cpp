@@ -105,21 +105,21 @@ const std::array<LanguageRow, languageCount> &languageRows()
 {
     // Style sheets and SQL are coloured as Java on purpose.
     static constexpr std::array<LanguageRow, languageCount> rows = {{
-        {u"Text", u"", false, false, PreviewKind::None, u"Text Files|*.txt|All Files|*.*"},
-        {u"HTML", u"HTML", true, true, PreviewKind::Page,
+        {u"Text", u"", false, u"", PreviewKind::None, u"Text Files|*.txt|All Files|*.*"},
+        {u"HTML", u"HTML", true, u"HTML", PreviewKind::Page,
          u"HTML Files|*.html|ASP File|*.asp|VBScript File|*.vbs|All Files|*.*"},
-        {u"C/C++", u"C/C++", false, false, PreviewKind::None, u"C++ File|*.cpp|All Files|*.*"},
-        {u"Perl", u"Perl", true, true, PreviewKind::None, u"CGI Files|*.cgi|All Files|*.*"},
-        {u"XML", u"XML", true, true, PreviewKind::File, u"XML Files|*.xml|All Files|*.*"},
-        {u"Basic", u"Basic", false, false, PreviewKind::None,
+        {u"C/C++", u"C/C++", false, u"", PreviewKind::None, u"C++ File|*.cpp|All Files|*.*"},
+        {u"Perl", u"Perl", true, u"Perl", PreviewKind::None, u"CGI Files|*.cgi|All Files|*.*"},
+        {u"XML", u"XML", true, u"XML", PreviewKind::File, u"XML Files|*.xml|All Files|*.*"},
+        {u"Basic", u"Basic", false, u"", PreviewKind::None,
          u"Module (BAS) Files|*.bas|Basic Project File|*.vbp|Visual Basic Form File|*.frm|All Files|*.*"},
-        {u"Pascal", u"Pascal", false, false, PreviewKind::None, u"Pascal Files|*.pas|All Files|*.*"},
-        {u"Java / Script", u"java", true, false, PreviewKind::File,
+        {u"Pascal", u"Pascal", false, u"", PreviewKind::None, u"Pascal Files|*.pas|All Files|*.*"},
+        {u"Java / Script", u"java", true, u"Java Script", PreviewKind::File,
          u"Java Script|*.js|Java|*.java|All Files|*.*|Text Files|*.txt|Html Files|*.html;*.htm|Style Sheets|*.css|"
          u"C Files|*.c|C++ Files|*.cpp|C/C++ H Files|*.h|Perl Files|*.pl|CGI/Perl Files|*.cgi|XML Files|*.xml|"
          u"Pascal Files|*.pas|Basic Module Files|*.bas|Basic Form Files|*.frm|Basic Project Files|*.vbp"},
-        {u"Style Sheets", u"java", true, false, PreviewKind::StyleSheet, u"CSS Files|*.css|All Files|*.*"},
-        {u"SQL", u"java", true, false, PreviewKind::Unchanged, u"SQL Files|*.sql|All Files|*.*"},
+        {u"Style Sheets", u"java", true, u"", PreviewKind::StyleSheet, u"CSS Files|*.css|All Files|*.*"},
+        {u"SQL", u"java", true, u"", PreviewKind::Unchanged, u"SQL Files|*.sql|All Files|*.*"},
     }};
     return rows;
 }
@@ -131,11 +131,8 @@ const LanguageRow *languageRow(int row)
 
 bool linksImages(const QString &text)
 {
-    // Kept although it never matches: the language list shows scripts as "Java / Script".
-    if (text == u"Java Script")
-        return true;
-    return std::ranges::any_of(languageRows(),
-                               [&](const LanguageRow &row) { return row.imageLinks && row.text == text; });
+    return !text.isEmpty()
+        && std::ranges::any_of(languageRows(), [&](const LanguageRow &row) { return row.imageLinkText == text; });
 }
 
 std::span<const FileType> fileTypes()

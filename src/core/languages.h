@@ -29,7 +29,9 @@ struct LanguageRow {
     QStringView text;           ///< as shown in the list
     QStringView editorLanguage; ///< name in the editing control; "" for no colouring
     bool markupTools;           ///< whether the formatting buttons and the Tags menu are enabled
-    bool imageLinks;            ///< whether an image from the file pane is inserted as a link
+    /// The text of the list under which an image from the file pane is inserted as a link; "" for never. Scripts have
+    /// one that the list never shows, so there images are never inserted.
+    QStringView imageLinkText;
     PreviewKind preview;
     QStringView saveFilter; ///< filter of the save dialog
 };
