@@ -9,6 +9,48 @@
 using namespace zephira;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A caption of a dialog's filter, and the extensions of its patterns.
+struct FilterGroup {
+    QString caption;
+    QStringList extensions;
+};
+
+QList<FilterGroup> groupsOf(const QString &filter)
+{
+    const QStringList parts = filter.split(u'|');
+    QList<FilterGroup> groups;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList extensions = parts[i + 1].split(u';');
+        for (QString &extension : extensions)
+            extension = extension.section(u'.', -1);
+        groups.append({parts[i], extensions});
+    }
+    return groups;
+}
+
+/// The language of an extension without its dot; nothing for an unknown one.
+std::optional<language::Row> languageOf(const QString &extension)
+{
+    const FileType *type = fileTypeOf(u'.' + extension);
+    return type ? type->row : std::nullopt;
+}
+
+/// The extensions that choose a language, in alphabetical order.
+QStringList languageExtensions()
+{
+    QStringList extensions;
+    for (const FileType &type : fileTypes()) {
+        if (type.row)
+            extensions.append(type.extension.toString());
+    }
+    extensions.sort();
+    return extensions;
+}
+
+} // namespace
+
 class TstLanguages : public QObject
 {
     Q_OBJECT
@@ -192,6 +234,27 @@ private Q_SLOTS:
         QCOMPARE(picturePatterns(), u"*.gif;*.bmp;*.jpg;*.png;*.svg;*.webp;*.jpeg;*.avif;*.ico"_s);
     }
 
+    /// The groups have an order of their own, but each extension that chooses a language is in one of them, together
+    /// with others of its language. Only the group of style sheets has a pattern for files that aren't any.
+    void openGroupsHoldEveryExtensionOfALanguage()
+    {
+        QStringList listed;
+        for (const FilterGroup &group : groupsOf(openFilter()).sliced(2)) {
+            if (group.caption == u"Style Sheets") {
+                QCOMPARE(group.extensions, QStringList{u"cs"_s});
+                continue;
+            }
+            const std::optional<language::Row> row = languageOf(group.extensions.first());
+            QVERIFY2(row, qPrintable(group.caption));
+            for (const QString &extension : group.extensions)
+                QVERIFY2(languageOf(extension) == row, qPrintable(extension));
+            listed += group.extensions;
+        }
+        listed.append(u"css"_s);
+        listed.sort();
+        QCOMPARE(listed, languageExtensions());
+    }
+
     void defaultFiltersAreLetterForLetter()
     {
         QCOMPARE(defaultFilters(),
@@ -225,6 +288,28 @@ private Q_SLOTS:
         };
         for (int row = 0; row < languageCount; ++row)
             QCOMPARE(languageRow(row)->saveFilter.toString(), filters.at(row));
+    }
+
+    /// Up to "All Files", the extensions are those of the language. Behind it, scripts list those of other languages.
+    void saveFiltersNameExtensionsOfTheLanguage()
+    {
+        for (int row = 0; row < languageCount; ++row) {
+            bool isBehindAll = false;
+            for (const FilterGroup &group : groupsOf(languageRow(row)->saveFilter.toString())) {
+                if (group.caption == u"All Files") {
+                    QCOMPARE(group.extensions, QStringList{u"*"_s});
+                    isBehindAll = true;
+                    continue;
+                }
+                QVERIFY2(!isBehindAll || row == language::JavaScript, qPrintable(group.caption));
+                const std::optional<language::Row> first = languageOf(group.extensions.first());
+                for (const QString &extension : group.extensions) {
+                    const std::optional<language::Row> found = languageOf(extension);
+                    QVERIFY2(found && found == first && (found == row) != isBehindAll, qPrintable(extension));
+                }
+            }
+            QVERIFY(isBehindAll);
+        }
     }
 };
 
