@@ -7,8 +7,6 @@
 #include "core/languages.h"
 #include "core/vbtext.h"
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -33,45 +31,17 @@ void addCustomTabs(std::vector<SettingRow> &rows)
     }
 }
 
-/// The shipped appearance of one of appearanceRows.
-struct ShippedColours {
-    int foreground;
-    int background = -1;
-    int fontStyle = 0;
-};
-
-constexpr std::array<ShippedColours, appearanceRows.size()> shippedColours{{
-    {11034398, 16246486}, // bookmark
-    {6253403, -1, 2},     // comment
-    {14275017},           // horizontal divider lines
-    {15328221},           // vertical divider lines
-    {16512753},           // highlighted line
-    {10366586, -1, 1},    // keyword
-    {16447734},           // left margin
-    {7760735, 16447734},  // line number
-    {19087},              // number
-    {5721151},            // operator
-    {7299072, -1, 1},     // scope keyword
-    {3435290},            // string
-    {10835211, -1, 1},    // tag element name
-    {8007562},            // tag entity
-    {999577},             // tag attribute name
-    {3352863},            // tag text
-    {3352863},            // text
-    {16777215},           // window
-}};
-
 void addColours(std::vector<SettingRow> &rows)
 {
-    for (int row = 0; row < std::ssize(shippedColours); ++row) {
-        const ShippedColours &shipped = shippedColours[size_t(row)];
+    for (int row = 0; row < std::ssize(appearanceRows); ++row) {
+        const AppearanceRow &shipped = appearanceRows[size_t(row)];
         const auto add = [&](ColourPart part, QStringView end, SettingKind kind, int value) {
             rows.push_back({colourSetting(row, part), u"Colors"_s, u"clr%1%2"_s.arg(row).arg(end), kind,
                             SettingApplies::InEditor, QString::number(value), true});
         };
-        add(ColourPart::Background, u"bg", SettingKind::Colour, shipped.background);
-        add(ColourPart::Foreground, u"fr", SettingKind::Colour, shipped.foreground);
-        add(ColourPart::FontStyle, u"fnt", SettingKind::FontStyle, shipped.fontStyle);
+        add(ColourPart::Background, u"bg", SettingKind::Colour, qint32(shipped.shippedBackground));
+        add(ColourPart::Foreground, u"fr", SettingKind::Colour, qint32(shipped.shippedForeground));
+        add(ColourPart::FontStyle, u"fnt", SettingKind::FontStyle, shipped.shippedFontStyle);
     }
 }
 

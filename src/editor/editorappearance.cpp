@@ -8,7 +8,6 @@
 
 #include <QPalette>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -45,7 +44,7 @@ QColor mixed(const QColor &a, const QColor &b, double share)
 
 EditorAppearance::EditorAppearance(SciEngine engine) : m_engine(engine)
 {
-    std::ranges::transform(colourItemTable, m_looks.colours.begin(), &ColourItemRow::initial);
+    m_looks.colours = shippedColours;
     applyAll();
 }
 
@@ -104,9 +103,7 @@ void EditorAppearance::showStyles()
 /// the colour of the text or the window, because then the other colours are meant to fit these.
 bool EditorAppearance::isDark() const
 {
-    const auto isShipped = [this](int item) {
-        return colour(item) == colourItemTable[static_cast<size_t>(item)].initial;
-    };
+    const auto isShipped = [this](int item) { return colour(item) == shippedColours[static_cast<size_t>(item)]; };
     const QColor paper = m_engine.view().palette().color(QPalette::Active, QPalette::Base);
     return !m_onPaper && paper.lightness() < 128 && isShipped(WindowColour) && isShipped(TextFore);
 }
@@ -121,9 +118,9 @@ void EditorAppearance::setOnPaper(bool on)
 /// The colour of an item under the current desktop palette.
 quint32 EditorAppearance::current(int item) const
 {
-    const ColourItemRow &row = colourItemTable[static_cast<size_t>(item)];
-    const quint32 chosen = m_looks.colours[static_cast<size_t>(item)];
-    return m_dark && chosen == row.initial ? row.dark : chosen;
+    const auto index = static_cast<size_t>(item);
+    const quint32 chosen = m_looks.colours[index];
+    return m_dark && chosen == shippedColours[index] ? colourItemTable[index].dark : chosen;
 }
 
 void EditorAppearance::applyAll()
@@ -180,7 +177,7 @@ void EditorAppearance::setStyle(unsigned int message, int style, qsizetype value
 
 void EditorAppearance::applyColour(int item)
 {
-    const auto [name, target, index, initial, dark] = colourItemTable[static_cast<size_t>(item)];
+    const auto [name, target, index, dark] = colourItemTable[static_cast<size_t>(item)];
     const int plain = engineColour(shown(item));
     switch (target) {
     case ColourTarget::Window:

@@ -280,7 +280,7 @@ private Q_SLOTS:
                 if (item == noItem)
                     return;
                 const quint32 colour = static_cast<quint32>(shipped.value(u"clr%1%2"_s.arg(row).arg(part), 77));
-                QCOMPARE(colourItemTable[static_cast<size_t>(item)].initial, colour);
+                QCOMPARE(shippedColours[static_cast<size_t>(item)], colour);
             };
             check(appearanceRows[row].foreground, u"fr"_s);
             check(appearanceRows[row].background, u"bg"_s);
@@ -299,7 +299,7 @@ private Q_SLOTS:
         // A colour that was set reads back unchanged.
         QCOMPARE(f.editor.color(WindowColour), 0xffffffu);
         for (int item = 0; item < colourItemTotal; ++item)
-            QCOMPARE(f.editor.color(item), colourItemTable[static_cast<size_t>(item)].initial);
+            QCOMPARE(f.editor.color(item), shippedColours[static_cast<size_t>(item)]);
         f.editor.setPalette(before);
         f.waitForColours();
         QCOMPARE(f.editor.grab().toImage(), light);
