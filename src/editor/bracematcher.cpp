@@ -106,7 +106,7 @@ std::optional<BracePair> BraceMatcher::tagPair(qsizetype position) const
     const qsizetype start = std::max<qsizetype>(0, position - reach);
     const QByteArrayView text = m_engine.bytes(start, std::min(m_engine.length(), position + reach));
     const auto isMarkup = [&](qsizetype offset) {
-        return m_engine.styleAt(start + offset) == static_cast<int>(SyntaxStyle::Operator);
+        return m_engine.styleAt(start + offset) == numberOf(SyntaxStyle::Operator);
     };
     // The caret is in a name, or at one of its ends.
     qsizetype nameStart = position - start;

@@ -284,10 +284,10 @@ void CodeMax::step(unsigned int message)
         m_engine.send(message);
         return;
     }
-    m_engine.send(SCI_STYLESETVISIBLE, static_cast<int>(SyntaxStyle::Text), false);
+    m_engine.send(SCI_STYLESETVISIBLE, numberOf(SyntaxStyle::Text), false);
     m_engine.send(message);
     m_colouring->colourTo(m_engine.caret());
-    m_engine.send(SCI_STYLESETVISIBLE, static_cast<int>(SyntaxStyle::Text), true);
+    m_engine.send(SCI_STYLESETVISIBLE, numberOf(SyntaxStyle::Text), true);
     m_engine.send(SCI_SCROLLCARET);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/editoritems.h"
+#include "syntax/syntaxstyle.h"
 
 #include <QtGlobal>
 
@@ -40,28 +41,28 @@ constexpr std::array<ColourItemRow, colourItemTotal> colourItemTable{{
     {LeftMarginColour, ColourTarget::LeftMargin, 0, 0x302b28},
     {BookmarkFore, ColourTarget::MarkerFore, bookmarkMarker, 0xffffff},
     {BookmarkBack, ColourTarget::MarkerBack, bookmarkMarker, 0xd67f3d},
-    {TextFore, ColourTarget::StyleFore, 0, 0xe2dbd8},
-    {TextBack, ColourTarget::StyleBack, 0, automaticColour},
-    {NumberFore, ColourTarget::StyleFore, 1, 0xffb66c},
-    {NumberBack, ColourTarget::StyleBack, 1, automaticColour},
-    {KeywordFore, ColourTarget::StyleFore, 2, 0xea92c7},
-    {KeywordBack, ColourTarget::StyleBack, 2, automaticColour},
-    {OperatorFore, ColourTarget::StyleFore, 3, 0xc8bcb4},
-    {OperatorBack, ColourTarget::StyleBack, 3, automaticColour},
-    {ScopeKeywordFore, ColourTarget::StyleFore, 4, 0x809eff},
-    {ScopeKeywordBack, ColourTarget::StyleBack, 4, automaticColour},
-    {CommentFore, ColourTarget::StyleFore, 5, 0xab9b8f},
-    {CommentBack, ColourTarget::StyleBack, 5, automaticColour},
-    {StringFore, ColourTarget::StyleFore, 6, 0x8acf98},
-    {StringBack, ColourTarget::StyleBack, 6, automaticColour},
-    {TagTextFore, ColourTarget::StyleFore, 7, 0xe2dbd8},
-    {TagTextBack, ColourTarget::StyleBack, 7, automaticColour},
-    {TagEntityFore, ColourTarget::StyleFore, 8, 0x72b8e9},
-    {TagEntityBack, ColourTarget::StyleBack, 8, automaticColour},
-    {TagElementFore, ColourTarget::StyleFore, 9, 0xe8c46c},
-    {TagElementBack, ColourTarget::StyleBack, 9, automaticColour},
-    {TagAttributeFore, ColourTarget::StyleFore, 10, 0x8fb9e6},
-    {TagAttributeBack, ColourTarget::StyleBack, 10, automaticColour},
+    {TextFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::Text), 0xe2dbd8},
+    {TextBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::Text), automaticColour},
+    {NumberFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::Number), 0xffb66c},
+    {NumberBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::Number), automaticColour},
+    {KeywordFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::Keyword), 0xea92c7},
+    {KeywordBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::Keyword), automaticColour},
+    {OperatorFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::Operator), 0xc8bcb4},
+    {OperatorBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::Operator), automaticColour},
+    {ScopeKeywordFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::ScopeKeyword), 0x809eff},
+    {ScopeKeywordBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::ScopeKeyword), automaticColour},
+    {CommentFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::Comment), 0xab9b8f},
+    {CommentBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::Comment), automaticColour},
+    {StringFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::String), 0x8acf98},
+    {StringBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::String), automaticColour},
+    {TagTextFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::TagText), 0xe2dbd8},
+    {TagTextBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::TagText), automaticColour},
+    {TagEntityFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::TagEntity), 0x72b8e9},
+    {TagEntityBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::TagEntity), automaticColour},
+    {TagElementFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::TagElement), 0xe8c46c},
+    {TagElementBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::TagElement), automaticColour},
+    {TagAttributeFore, ColourTarget::StyleFore, numberOf(SyntaxStyle::TagAttribute), 0x8fb9e6},
+    {TagAttributeBack, ColourTarget::StyleBack, numberOf(SyntaxStyle::TagAttribute), automaticColour},
     {LineNumberFore, ColourTarget::StyleFore, lineNumberStyle, 0xb0a59e},
     {LineNumberBack, ColourTarget::StyleBack, lineNumberStyle, 0x2a2623},
     {LineDividerColour, ColourTarget::LineDivider, dividerMarker, 0x453e3a},
@@ -78,6 +79,11 @@ static_assert([] {
 }());
 
 /// The editor engine's style behind each font style item.
-constexpr std::array<int, fontStyleTotal> fontStyleTable{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, lineNumberStyle};
+constexpr std::array<int, fontStyleTotal> fontStyleTable{
+    numberOf(SyntaxStyle::Text),       numberOf(SyntaxStyle::Number),       numberOf(SyntaxStyle::Keyword),
+    numberOf(SyntaxStyle::Operator),   numberOf(SyntaxStyle::ScopeKeyword), numberOf(SyntaxStyle::Comment),
+    numberOf(SyntaxStyle::String),     numberOf(SyntaxStyle::TagText),      numberOf(SyntaxStyle::TagEntity),
+    numberOf(SyntaxStyle::TagElement), numberOf(SyntaxStyle::TagAttribute), lineNumberStyle,
+};
 
 } // namespace zephira

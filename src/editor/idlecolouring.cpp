@@ -344,7 +344,7 @@ FoldState IdleColouring::foldStateAt(qsizetype line) const
         return {};
     const auto level = m_engine.send(Sci::SCI_GETFOLDLEVEL, line - 1) >> nextLevelShift;
     const int lastStyle = m_engine.styleAt(m_engine.lineStart(line) - 1);
-    return {static_cast<int>(level), lastStyle == static_cast<int>(SyntaxStyle::Comment)};
+    return {static_cast<int>(level), lastStyle == numberOf(SyntaxStyle::Comment)};
 }
 
 /// Tells the engine from where on styles are missing, so that it requests them before it paints that part.

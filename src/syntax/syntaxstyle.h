@@ -19,6 +19,11 @@ enum class SyntaxStyle : unsigned char {
     TagAttribute = 10,
 };
 
+constexpr int numberOf(SyntaxStyle style)
+{
+    return static_cast<int>(style);
+}
+
 constexpr int syntaxStyleCount = 11;
 
 } // namespace zephira
