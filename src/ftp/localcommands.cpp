@@ -35,7 +35,7 @@ void require(bool done, const QString &description)
 }
 
 /// True for a name that can't lead out of its folder.
-bool isPlainName(const QString &name)
+bool staysInFolder(const QString &name)
 {
     return name != u"." && name != u".." && !name.contains(u'/') && !name.contains(QChar::Null);
 }
@@ -216,7 +216,7 @@ bool LocalCommands::renameEnded(const QString &oldName, const QString &newName)
     const ExtensionChange change(oldName, newName);
     if (!change.isNone() && m_context.prompts.ask(change.question()) != Answer::Yes)
         return false;
-    require(isPlainName(newName), u"Bad file name or number"_s);
+    require(staysInFolder(newName), u"Bad file name or number"_s);
     const QString folder = m_client.session.ftpLocalFolder;
     // A link counts as well, even if its target doesn't exist.
     if (const QFileInfo target(folder + newName); target.exists() || target.isSymLink()) {
