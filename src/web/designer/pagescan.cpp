@@ -17,7 +17,7 @@ constexpr QStringView foreignElements[] = {u"svg", u"math"};
 /// Server elements whose content is code too.
 constexpr QStringView codeElements[] = {u"cfscript", u"cfquery"};
 
-bool isOneOf(QStringView name, std::span<const QStringView> names)
+bool isOneOfInAnyCase(QStringView name, std::span<const QStringView> names)
 {
     return std::ranges::any_of(names, [&](QStringView each) { return each.compare(name, Qt::CaseInsensitive) == 0; });
 }
@@ -191,7 +191,7 @@ private:
                 m_at = std::max(m_at + 1, behindServerCode(m_at));
         }
         m_at = std::min(m_at + 1, m_size);
-        if (!isEnd && isOneOf(name, codeElements))
+        if (!isEnd && isOneOfInAnyCase(name, codeElements))
             m_at = behindElement(name, m_at).second;
         add(PieceKind::ServerText, m_at);
     }
@@ -265,19 +265,19 @@ private:
 
     void leaveElement(QStringView name)
     {
-        if (m_foreign > 0 && isOneOf(name, foreignElements))
+        if (m_foreign > 0 && isOneOfInAnyCase(name, foreignElements))
             --m_foreign;
     }
 
     /// Reads the content of elements that can't contain tags. In SVG and MathML all elements can.
     void enterElement(QStringView name, bool isClosed)
     {
-        if (isOneOf(name, foreignElements) && !isClosed) {
+        if (isOneOfInAnyCase(name, foreignElements) && !isClosed) {
             ++m_foreign;
         } else if (m_foreign == 0) {
-            if (isOneOf(name, rawElements))
+            if (isOneOfInAnyCase(name, rawElements))
                 readTagless(PieceKind::RawText, behindElement(name, m_at).first);
-            else if (isOneOf(name, plainElements))
+            else if (isOneOfInAnyCase(name, plainElements))
                 readTagless(PieceKind::PlainText, behindElement(name, m_at).first);
             else if (name.compare(u"plaintext", Qt::CaseInsensitive) == 0)
                 readTagless(PieceKind::RawText, m_size);
