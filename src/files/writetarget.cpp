@@ -20,7 +20,7 @@ namespace {
 constexpr int maximumLinks = 40;
 
 /// Everything up to and including the last separator; "" for a bare name.
-QByteArray folderOf(const QByteArray &path)
+QByteArray folderBytes(const QByteArray &path)
 {
     return path.left(path.lastIndexOf('/') + 1);
 }
@@ -46,14 +46,14 @@ Result<QByteArray> linkTarget(FileSystemCalls &calls, const QString &path)
         if (length < 0)
             return saveError(path, errno);
         link.truncate(length);
-        target = link.startsWith('/') ? link : folderOf(target) + link;
+        target = link.startsWith('/') ? link : folderBytes(target) + link;
     }
     return saveError(path, ELOOP);
 }
 
 QByteArray WriteTarget::folder() const
 {
-    const QByteArray folder = folderOf(path);
+    const QByteArray folder = folderBytes(path);
     return folder.isEmpty() ? QByteArray("./") : folder;
 }
 

@@ -61,7 +61,7 @@ void LocalFiles::shown(const QUrl &address)
 }
 
 /// The opened folder that contains a page; empty for one that isn't local.
-QString LocalFiles::folderOf(const QUrl &page) const
+QString LocalFiles::readableFolder(const QUrl &page) const
 {
     const QString file = fileBehind(page);
     const auto folder = std::find_if(m_folders.rbegin(), m_folders.rend(),
@@ -75,7 +75,7 @@ bool LocalFiles::mayShow(const QUrl &address) const
         return isOpen(address);
     // A missing page reveals nothing, so it may be shown: then the engine tells the user about it in its own words.
     const bool isOwn = address == m_coming || address == m_shown;
-    return (isOwn && !QFileInfo::exists(address.toLocalFile())) || !folderOf(address).isEmpty();
+    return (isOwn && !QFileInfo::exists(address.toLocalFile())) || !readableFolder(address).isEmpty();
 }
 
 bool LocalFiles::mayLoad(const QUrl &address) const
@@ -86,7 +86,7 @@ bool LocalFiles::mayLoad(const QUrl &address) const
     if (file.isEmpty())
         return false;
     return std::ranges::any_of(std::initializer_list<QUrl>{m_shown, m_coming}, [&](const QUrl &page) {
-        const QString folder = folderOf(page);
+        const QString folder = readableFolder(page);
         return !folder.isEmpty() && liesBeneath(file, folder);
     });
 }

@@ -29,7 +29,7 @@ public:
     bool mayLoad(const QUrl &address) const;
 
 private:
-    QString folderOf(const QUrl &page) const;
+    QString readableFolder(const QUrl &page) const;
 
     /// Canonical paths, the last opened folder at the end.
     QStringList m_folders;

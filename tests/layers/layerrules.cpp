@@ -95,8 +95,8 @@ bool beginsWithOneOf(const QString &path, const char16_t *beginnings)
     return std::ranges::any_of(words(beginnings), [&](const QString &beginning) { return path.startsWith(beginning); });
 }
 
-/// The first folder of a path.
-QString folderOf(const QString &path)
+/// The layer of a source file: the first folder of its path.
+QString layerOf(const QString &path)
 {
     return path.section(u'/', 0, 0);
 }
@@ -131,9 +131,9 @@ QStringList includeViolations(const QString &path, const QString &text, const La
                 && !beginsWithOneOf(path, rule.allowed))
                 result.append(report(path, line, QString::fromUtf16(rule.sentence)));
         }
-        if (header.startsWith(u'"') && header.contains(u'/') && !mayInclude(folderOf(path), folderOf(header.mid(1))))
+        if (header.startsWith(u'"') && header.contains(u'/') && !mayInclude(layerOf(path), layerOf(header.mid(1))))
             result.append(
-                report(path, line, u"%1 includes nothing of %2"_s.arg(folderOf(path), folderOf(header.mid(1)))));
+                report(path, line, u"%1 includes nothing of %2"_s.arg(layerOf(path), layerOf(header.mid(1)))));
         if (layers.logicFiles.contains(path) && header.contains(gui))
             result.append(report(path, line, u"logic includes no more than Qt Core"_s));
         const QString own = header.mid(1, header.size() - 2);
