@@ -92,7 +92,7 @@ int LoadHandler::number(Setting setting) const
 QStringList LoadHandler::dataLines(const QString &name) const
 {
     const Result<QStringList> lines =
-        m_window.sideLists().fileNumber().readLines(m_window.services().appPath + u'/' + name);
+        m_window.sideLists().fileNumber().linesOf(m_window.services().appPath + u'/' + name);
     if (!lines)
         throw startError(lines.error());
     return lines.value();

@@ -7,12 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-Result<QStringList> FileNumber::readLines(const QString &path, qsizetype least)
+Result<QStringList> FileNumber::linesOf(const QString &path, qsizetype least)
 {
     if (m_inUse)
         return Error{Error::Code::Refused, u"File already open"_s};
     m_inUse = true;
-    Result<QStringList> lines = zephira::readLines(m_files, path);
+    Result<QStringList> lines = readLines(m_files, path);
     if (!lines)
         return lines;
     if (lines.value().size() < least)

@@ -18,7 +18,7 @@ public:
     Q_DISABLE_COPY_MOVE(FileNumber)
 
     /// The lines of a file. Fails with "Input past end of file" if there are fewer than `least`.
-    Result<QStringList> readLines(const QString &path, qsizetype least = 0);
+    Result<QStringList> linesOf(const QString &path, qsizetype least = 0);
 
 private:
     const FileStore &m_files;

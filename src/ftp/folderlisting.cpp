@@ -13,7 +13,7 @@ namespace {
 
 /// Calls `read` for each line and collects the entries that it returns.
 template<typename Read>
-std::vector<ListedEntry> readLines(QByteArrayView listing, Read read)
+std::vector<ListedEntry> readEntries(QByteArrayView listing, Read read)
 {
     std::vector<ListedEntry> entries;
     QSet<QByteArray> names;
@@ -92,12 +92,12 @@ std::optional<ListedEntry> readMlsdLine(QByteArrayView line)
 
 std::vector<ListedEntry> readMlsd(QByteArrayView listing)
 {
-    return readLines(listing, readMlsdLine);
+    return readEntries(listing, readMlsdLine);
 }
 
 std::vector<ListedEntry> readList(QByteArrayView listing, QDate today)
 {
-    return readLines(listing, [today](QByteArrayView line) { return readListLine(line, today); });
+    return readEntries(listing, [today](QByteArrayView line) { return readListLine(line, today); });
 }
 
 } // namespace zephira

@@ -109,7 +109,7 @@ void CustomTabs::LoadCustomTab(const QString &filePath, QTreeWidget *listView, Q
 {
     lineBuffer->clear();
     listView->clear();
-    const Result<QStringList> lines = m_fileNumber.readLines(filePath, 1);
+    const Result<QStringList> lines = m_fileNumber.linesOf(filePath, 1);
     if (!lines) {
         m_context.prompts.ask(
             {u"An error has occured, the error is most likely due to an empty custom code snips file. "

@@ -103,9 +103,9 @@ private Q_SLOTS:
         files.contents[u"/a"_s] = "one\r\ntwo\r\n";
         files.contents[u"/empty"_s] = "";
         FileNumber number(files);
-        QCOMPARE(number.readLines(u"/a"_s).value(), (QStringList{u"one"_s, u"two"_s}));
-        QCOMPARE(number.readLines(u"/empty"_s).value(), QStringList());
-        QCOMPARE(number.readLines(u"/a"_s, 2).value().size(), 2);
+        QCOMPARE(number.linesOf(u"/a"_s).value(), (QStringList{u"one"_s, u"two"_s}));
+        QCOMPARE(number.linesOf(u"/empty"_s).value(), QStringList());
+        QCOMPARE(number.linesOf(u"/a"_s, 2).value().size(), 2);
     }
 
     void aNumberIsKeptByAFailure_data()
@@ -123,11 +123,11 @@ private Q_SLOTS:
         files.contents[u"/a"_s] = "one";
         files.contents[u"/empty"_s] = "";
         FileNumber number(files);
-        QTEST(number.readLines(path, 1).error().sentence, "sentence");
-        QCOMPARE(number.readLines(u"/a"_s).error().sentence, u"File already open"_s);
-        QCOMPARE(number.readLines(path, 1).error().sentence, u"File already open"_s);
+        QTEST(number.linesOf(path, 1).error().sentence, "sentence");
+        QCOMPARE(number.linesOf(u"/a"_s).error().sentence, u"File already open"_s);
+        QCOMPARE(number.linesOf(path, 1).error().sentence, u"File already open"_s);
         // Another file number isn't affected.
-        QVERIFY(FileNumber(files).readLines(u"/a"_s).ok());
+        QVERIFY(FileNumber(files).linesOf(u"/a"_s).ok());
     }
 };
 
