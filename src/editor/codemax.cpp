@@ -31,7 +31,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Setting {
+struct EngineSetting {
     unsigned int message;
     int first;
     int second;
@@ -40,32 +40,32 @@ struct Setting {
 /// The engine's initial settings. Only notifications before insertions and deletions are used; those after them would
 /// walk through the text from its start at every key.
 constexpr std::array engineSettings{
-    Setting{QsciScintillaBase::SCI_SETCODEPAGE, QsciScintillaBase::SC_CP_UTF8, 0},
-    Setting{QsciScintillaBase::SCI_SETMODEVENTMASK,
-            QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE
-                | QsciScintillaBase::SC_MOD_CONTAINER,
-            0},
-    Setting{QsciScintillaBase::SCI_SETTABINDENTS, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETMULTIPLESELECTION, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETADDITIONALSELECTIONTYPING, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETSEARCHFLAGS, QsciScintillaBase::SCFIND_MATCHCASE, 0},
-    Setting{QsciScintillaBase::SCI_SETMULTIPASTE, QsciScintillaBase::SC_MULTIPASTE_EACH, 0},
-    Setting{QsciScintillaBase::SCI_SETVIRTUALSPACEOPTIONS, QsciScintillaBase::SCVS_RECTANGULARSELECTION, 0},
-    Setting{QsciScintillaBase::SCI_SETRECTANGULARSELECTIONMODIFIER, QsciScintillaBase::SCMOD_ALT, 0},
-    Setting{QsciScintillaBase::SCI_SETMOUSESELECTIONRECTANGULARSWITCH, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETSCROLLWIDTH, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETLAYOUTCACHE, QsciScintillaBase::SC_CACHE_PAGE, 0},
-    Setting{QsciScintillaBase::SCI_SETCARETWIDTH, 2, 0},
-    Setting{QsciScintillaBase::SCI_SETPASTECONVERTENDINGS, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETEXTRAASCENT, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETEXTRADESCENT, 1, 0},
-    Setting{QsciScintillaBase::SCI_SETWRAPINDENTMODE, QsciScintillaBase::SC_WRAPINDENT_SAME, 0},
-    Setting{QsciScintillaBase::SCI_SETWRAPVISUALFLAGS, QsciScintillaBase::SC_WRAPVISUALFLAG_END, 0},
-    Setting{QsciScintillaBase::SCI_USEPOPUP, QsciScintillaBase::SC_POPUP_NEVER, 0},
-    Setting{QsciScintillaBase::SCI_SETYCARETPOLICY, QsciScintillaBase::CARET_EVEN, 0},
-    Setting{QsciScintillaBase::SCI_INDICSETSTYLE, BoundsIndicator, QsciScintillaBase::INDIC_BOX},
-    Setting{QsciScintillaBase::SCI_INDICSETSTYLE, StrikeIndicator, QsciScintillaBase::INDIC_STRIKE},
+    EngineSetting{QsciScintillaBase::SCI_SETCODEPAGE, QsciScintillaBase::SC_CP_UTF8, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETMODEVENTMASK,
+                  QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE
+                      | QsciScintillaBase::SC_MOD_CONTAINER,
+                  0},
+    EngineSetting{QsciScintillaBase::SCI_SETTABINDENTS, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETMULTIPLESELECTION, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETADDITIONALSELECTIONTYPING, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETSEARCHFLAGS, QsciScintillaBase::SCFIND_MATCHCASE, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETMULTIPASTE, QsciScintillaBase::SC_MULTIPASTE_EACH, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETVIRTUALSPACEOPTIONS, QsciScintillaBase::SCVS_RECTANGULARSELECTION, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETRECTANGULARSELECTIONMODIFIER, QsciScintillaBase::SCMOD_ALT, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETMOUSESELECTIONRECTANGULARSWITCH, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETSCROLLWIDTH, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETLAYOUTCACHE, QsciScintillaBase::SC_CACHE_PAGE, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETCARETWIDTH, 2, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETPASTECONVERTENDINGS, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETEXTRAASCENT, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETEXTRADESCENT, 1, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETWRAPINDENTMODE, QsciScintillaBase::SC_WRAPINDENT_SAME, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETWRAPVISUALFLAGS, QsciScintillaBase::SC_WRAPVISUALFLAG_END, 0},
+    EngineSetting{QsciScintillaBase::SCI_USEPOPUP, QsciScintillaBase::SC_POPUP_NEVER, 0},
+    EngineSetting{QsciScintillaBase::SCI_SETYCARETPOLICY, QsciScintillaBase::CARET_EVEN, 0},
+    EngineSetting{QsciScintillaBase::SCI_INDICSETSTYLE, BoundsIndicator, QsciScintillaBase::INDIC_BOX},
+    EngineSetting{QsciScintillaBase::SCI_INDICSETSTYLE, StrikeIndicator, QsciScintillaBase::INDIC_STRIKE},
 };
 
 } // namespace

@@ -34,12 +34,12 @@ constexpr QStringView emptyPage = u"<!DOCTYPE html><meta http-equiv=\"Content-Se
                                   u"script-src 'none'; object-src 'none'; worker-src 'none'; connect-src 'none'; "
                                   u"frame-src 'none'; form-action 'none'\"><meta name=opening content=%1>";
 
-struct Setting {
+struct PageSetting {
     QWebEngineSettings::WebAttribute attribute;
     bool on;
 };
 
-constexpr Setting pageSettings[] = {
+constexpr PageSetting pageSettings[] = {
     {QWebEngineSettings::AutoLoadIconsForPage, false},
     {QWebEngineSettings::ErrorPageEnabled, false},
     {QWebEngineSettings::FocusOnNavigationEnabled, false},
@@ -72,7 +72,7 @@ QString designerScript()
 DesignerPage::DesignerPage(QWebEngineProfile &profile, QObject *parent) : QWebEnginePage(&profile, parent)
 {
     setUrlRequestInterceptor(&m_fence);
-    for (const Setting &setting : pageSettings)
+    for (const PageSetting &setting : pageSettings)
         settings()->setAttribute(setting.attribute, setting.on);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
     m_channel.registerObject(u"bridge"_s, &m_bridge);
