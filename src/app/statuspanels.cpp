@@ -15,14 +15,14 @@ namespace zephira {
 
 namespace {
 
-struct PanelRow {
+struct StatusPanel {
     const char16_t *text; ///< shown until there is a value
     const char16_t *name; ///< for assistive technology
     int stretch = 0;
     const char16_t *widest = u""; ///< reserves the panel's width for changing values
 };
 
-constexpr std::array<PanelRow, 10> panelRows = {{
+constexpr std::array<StatusPanel, 10> statusPanels = {{
     {u"Line:", u"Line"},
     {u"1", u"Current line", 0, u"0000000"},
     {u"Total Lines:", u"Total lines"},
@@ -57,8 +57,8 @@ protected:
 
 StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar), m_bar(bar), m_clock(clock)
 {
-    for (size_t i = 0; i < panelRows.size(); ++i) {
-        const PanelRow &row = panelRows[i];
+    for (size_t i = 0; i < statusPanels.size(); ++i) {
+        const StatusPanel &row = statusPanels[i];
         const QString text = QStringView(row.text).toString();
         QLabel *label = row.stretch ? new PathLabel(text, &bar) : new QLabel(text, &bar);
         label->setObjectName(u"stBar_%1"_s.arg(i + 1));

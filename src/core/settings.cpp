@@ -92,7 +92,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {ShowTips, own, u"Options"_s, u"Show Tips at Startup"_s, Switch, AtStart, u"1"_s},
         {ProgramFolder, shared, u"data"_s, u"apppath"_s, Path, AtStart},
         {ProgramVersion, shared, u"data"_s, u"version"_s, Text, AtStart},
-        {WindowState, own, {}, u"WindowState"_s, Number, AtStart},
+        {WindowShowState, own, {}, u"WindowState"_s, Number, AtStart},
         {WindowTop, own, {}, u"Top"_s, Number, AtStart},
         {WindowLeft, own, {}, u"Left"_s, Number, AtStart},
         {WindowHeight, own, {}, u"Height"_s, Number, AtStart},

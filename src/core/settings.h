@@ -93,7 +93,7 @@ enum class UserSetting : int {
     ShowTips,
     ProgramFolder,
     ProgramVersion,
-    WindowState,
+    WindowShowState,
     WindowTop,
     WindowLeft,
     WindowHeight,

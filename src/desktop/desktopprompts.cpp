@@ -25,14 +25,14 @@ namespace {
 
 const QString programName = u"Zephira"_s;
 
-struct ButtonRow {
+struct ButtonSet {
     QMessageBox::StandardButtons buttons;
     QMessageBox::StandardButton first;
     QMessageBox::StandardButton escape;
 };
 
 /// Indexed by Question::Buttons.
-const ButtonRow buttonRows[] = {
+const ButtonSet buttonSets[] = {
     {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok},
     {QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Cancel},
     {QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No},
@@ -99,7 +99,7 @@ QWidget *DesktopPrompts::parent() const
 
 Answer DesktopPrompts::ask(const Question &question)
 {
-    const ButtonRow &row = buttonRows[static_cast<int>(question.buttons)];
+    const ButtonSet &row = buttonSets[static_cast<int>(question.buttons)];
     const QPointer<QMessageBox> box =
         new QMessageBox(icons[static_cast<int>(question.icon)], titleOr(question.title, programName), question.text,
                         row.buttons, parent());

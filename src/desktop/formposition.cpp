@@ -68,7 +68,7 @@ void save(QWidget &form, const Placement &placement)
     const int state = stateNumber(form);
     // The window manager restores the normal state with a delay, but the normal geometry is already known.
     const QRect place = state == 0 ? QRect(form.pos(), form.size()) : form.normalGeometry();
-    placement.save(UserSetting::WindowState, state);
+    placement.save(UserSetting::WindowShowState, state);
     if (state != 0)
         form.setWindowState(Qt::WindowNoState);
     placement.savePixels(UserSetting::WindowTop, place.y());
@@ -96,7 +96,7 @@ void restore(QWidget &form, const Placement &placement)
     form.move(place.topLeft());
     form.resize(place.size());
 
-    const int state = placement.number(UserSetting::WindowState, stateNumber(form));
+    const int state = placement.number(UserSetting::WindowShowState, stateNumber(form));
     if (state >= 0 && state < static_cast<int>(windowStates.size()))
         form.setWindowState(windowStates[static_cast<std::size_t>(state)]);
 }

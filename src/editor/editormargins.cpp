@@ -16,49 +16,49 @@ using Sci = QsciScintillaBase;
 constexpr int fewestDigits = 3;
 constexpr int bookmarkMask = 1 << bookmarkMarker;
 
-struct Symbol {
+struct MarkerSymbol {
     int marker;
     int symbol;
 };
 
-constexpr std::array symbols{
-    Symbol{dividerMarker, Sci::SC_MARK_UNDERLINE},
-    Symbol{highlightMarker, Sci::SC_MARK_BACKGROUND},
-    Symbol{bookmarkMarker, Sci::SC_MARK_BOOKMARK},
-    Symbol{Sci::SC_MARKNUM_FOLDER, Sci::SC_MARK_BOXPLUS},
-    Symbol{Sci::SC_MARKNUM_FOLDEROPEN, Sci::SC_MARK_BOXMINUS},
-    Symbol{Sci::SC_MARKNUM_FOLDERSUB, Sci::SC_MARK_VLINE},
-    Symbol{Sci::SC_MARKNUM_FOLDERTAIL, Sci::SC_MARK_LCORNER},
-    Symbol{Sci::SC_MARKNUM_FOLDEREND, Sci::SC_MARK_BOXPLUSCONNECTED},
-    Symbol{Sci::SC_MARKNUM_FOLDEROPENMID, Sci::SC_MARK_BOXMINUSCONNECTED},
-    Symbol{Sci::SC_MARKNUM_FOLDERMIDTAIL, Sci::SC_MARK_TCORNER},
+constexpr std::array markerSymbols{
+    MarkerSymbol{dividerMarker, Sci::SC_MARK_UNDERLINE},
+    MarkerSymbol{highlightMarker, Sci::SC_MARK_BACKGROUND},
+    MarkerSymbol{bookmarkMarker, Sci::SC_MARK_BOOKMARK},
+    MarkerSymbol{Sci::SC_MARKNUM_FOLDER, Sci::SC_MARK_BOXPLUS},
+    MarkerSymbol{Sci::SC_MARKNUM_FOLDEROPEN, Sci::SC_MARK_BOXMINUS},
+    MarkerSymbol{Sci::SC_MARKNUM_FOLDERSUB, Sci::SC_MARK_VLINE},
+    MarkerSymbol{Sci::SC_MARKNUM_FOLDERTAIL, Sci::SC_MARK_LCORNER},
+    MarkerSymbol{Sci::SC_MARKNUM_FOLDEREND, Sci::SC_MARK_BOXPLUSCONNECTED},
+    MarkerSymbol{Sci::SC_MARKNUM_FOLDEROPENMID, Sci::SC_MARK_BOXMINUSCONNECTED},
+    MarkerSymbol{Sci::SC_MARKNUM_FOLDERMIDTAIL, Sci::SC_MARK_TCORNER},
 };
 
-struct Layout {
+struct MarginRow {
     EditorMargins::Margin margin;
     int type;
     int mask;
     bool sensitive;
 };
 
-constexpr std::array layout{
-    Layout{EditorMargins::Bookmarks, Sci::SC_MARGIN_COLOUR, bookmarkMask, true},
-    Layout{EditorMargins::LineNumbers, Sci::SC_MARGIN_NUMBER, 0, false},
-    Layout{EditorMargins::Folds, Sci::SC_MARGIN_SYMBOL, static_cast<int>(Sci::SC_MASK_FOLDERS), true},
-    Layout{EditorMargins::Divider, Sci::SC_MARGIN_COLOUR, 0, false},
+constexpr std::array marginRows{
+    MarginRow{EditorMargins::Bookmarks, Sci::SC_MARGIN_COLOUR, bookmarkMask, true},
+    MarginRow{EditorMargins::LineNumbers, Sci::SC_MARGIN_NUMBER, 0, false},
+    MarginRow{EditorMargins::Folds, Sci::SC_MARGIN_SYMBOL, static_cast<int>(Sci::SC_MASK_FOLDERS), true},
+    MarginRow{EditorMargins::Divider, Sci::SC_MARGIN_COLOUR, 0, false},
 };
 
 } // namespace
 
 EditorMargins::EditorMargins(SciEngine engine) : m_engine(engine)
 {
-    for (const auto [margin, type, mask, sensitive] : layout) {
+    for (const auto [margin, type, mask, sensitive] : marginRows) {
         m_engine.send(Sci::SCI_SETMARGINTYPEN, margin, type);
         m_engine.send(Sci::SCI_SETMARGINMASKN, margin, mask);
         m_engine.send(Sci::SCI_SETMARGINSENSITIVEN, margin, sensitive);
         m_engine.send(Sci::SCI_SETMARGINWIDTHN, margin, 0);
     }
-    for (const auto [marker, symbol] : symbols)
+    for (const auto [marker, symbol] : markerSymbols)
         m_engine.send(Sci::SCI_MARKERDEFINE, marker, symbol);
     m_engine.send(Sci::SCI_SETMARGINLEFT, 0, 4);
     m_engine.send(Sci::SCI_SETFOLDFLAGS, Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);

@@ -113,16 +113,16 @@ private:
 };
 
 /// Where a value is, or where it would have to be inserted.
-struct Place {
+struct ValuePlace {
     bool sectionFound = false;
     std::optional<QByteArrayView> value;
     /// The position after the section's last non-blank line.
     const char *sectionEnd = nullptr;
 };
 
-Place find(QByteArrayView profile, const Name &section, const Name &key)
+ValuePlace find(QByteArrayView profile, const Name &section, const Name &key)
 {
-    Place place;
+    ValuePlace place;
     Lines lines(profile);
     while (!lines.atEnd()) {
         const Line line = lines.take();
@@ -175,7 +175,7 @@ QByteArray lineEndOf(QByteArrayView profile)
 
 std::optional<QString> profileValue(QByteArrayView profile, const QString &section, const QString &key)
 {
-    const Place place = find(profile, Name(section), Name(key));
+    const ValuePlace place = find(profile, Name(section), Name(key));
     return place.value ? std::optional(readValue(*place.value)) : std::nullopt;
 }
 
@@ -188,7 +188,7 @@ std::optional<QByteArray> withProfileValue(const QByteArray &profile, const QStr
         || keyName.bytes().startsWith(';') || keyName.bytes().startsWith('['))
         return {};
 
-    const Place place = find(profile, sectionName, keyName);
+    const ValuePlace place = find(profile, sectionName, keyName);
     const QByteArray written = writtenValue(value);
     QByteArray result = profile;
     if (place.value) {

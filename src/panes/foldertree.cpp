@@ -119,17 +119,17 @@ FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent), m_watch(this)
 
 void FolderTree::showWholeComputer()
 {
-    struct Place {
+    struct StandardFolder {
         QStringView caption;
         QStringView icon;
         QStandardPaths::StandardLocation location;
     };
-    static constexpr Place places[] = {
+    static constexpr StandardFolder places[] = {
         {u"Desktop", u"user-desktop", QStandardPaths::DesktopLocation},
         {u"My Documents", u"folder-documents", QStandardPaths::DocumentsLocation},
         {u"Home", u"user-home", QStandardPaths::HomeLocation},
     };
-    for (const Place &place : places) {
+    for (const StandardFolder &place : places) {
         const QString folder = QStandardPaths::writableLocation(place.location);
         addTopLevelItem(makeItem(withSlash(folder), place.caption.toString(), place.icon));
     }

@@ -11,15 +11,15 @@ namespace zephira {
 
 namespace {
 
-struct Place {
+struct LineAndColumn {
     int line = 0;
     int column = 0;
 };
 
 /// Line and column, both 0-based, of an index, which must not be inside a line end.
-Place placeOf(QStringView text, qsizetype index)
+LineAndColumn placeOf(QStringView text, qsizetype index)
 {
-    Place place;
+    LineAndColumn place;
     qsizetype lineStart = 0;
     for (qsizetype i = 0; i < index; ++i) {
         const bool endsLine = text[i] == u'\n' || (text[i] == u'\r' && !(i + 1 < text.size() && text[i + 1] == u'\n'));
@@ -58,8 +58,8 @@ bool selectTag(EditingControl &editor, const QString &tagText, qsizetype positio
         return false;
     const qsizetype behindText = *start + 1 + tagText.size();
     const bool isClosed = behindText < text.size() && text[behindText] == u'>';
-    const Place from = placeOf(text, *start);
-    const Place to = placeOf(text, behindText + (isClosed ? 1 : 0));
+    const LineAndColumn from = placeOf(text, *start);
+    const LineAndColumn to = placeOf(text, behindText + (isClosed ? 1 : 0));
     editor.select({from.line, from.column, to.line, to.column});
     return true;
 }

@@ -22,13 +22,13 @@ struct Frame {
     Kind kind;
 };
 
-struct Layout {
+struct FrameLayout {
     QStringView file;
     QStringView description;
     std::array<Frame, 5> frames; ///< unused places have no width
 };
 
-constexpr Layout layouts[] = {
+constexpr FrameLayout layouts[] = {
     {u"footer.html", u"Footer below the page", {{{0, 0, 100, 76, Kind::Body}, {0, 76, 100, 24, Kind::Bar}}}},
     {u"scframe.html", u"Side contents", {{{0, 0, 30, 100, Kind::Links}, {30, 0, 70, 100, Kind::Body}}}},
     {u"schframe.html",
@@ -87,7 +87,7 @@ void paintFrame(QPainter &painter, const QRectF &area, Kind kind, const QPalette
 
 FramePicture framePicture(const QString &templateFile, const QPalette &palette, QSize size)
 {
-    for (const Layout &layout : layouts) {
+    for (const FrameLayout &layout : layouts) {
         if (templateFile != layout.file)
             continue;
         // Drawn at twice the size, so that the picture stays sharp on a high-density screen.

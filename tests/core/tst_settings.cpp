@@ -84,7 +84,7 @@ private Q_SLOTS:
         QTest::newRow("tips") << UserSetting::ShowTips << u"zephira/Options/Show Tips at Startup"_s;
         QTest::newRow("folder") << UserSetting::ProgramFolder << u"Zephira/data/apppath"_s;
         QTest::newRow("version") << UserSetting::ProgramVersion << u"Zephira/data/version"_s;
-        QTest::newRow("state") << UserSetting::WindowState << u"zephira/frmmain/WindowState"_s;
+        QTest::newRow("state") << UserSetting::WindowShowState << u"zephira/frmmain/WindowState"_s;
         QTest::newRow("top") << UserSetting::WindowTop << u"zephira/frmmain/Top"_s;
         QTest::newRow("left") << UserSetting::WindowLeft << u"zephira/frmmain/Left"_s;
         QTest::newRow("height") << UserSetting::WindowHeight << u"zephira/frmmain/Height"_s;

@@ -9,7 +9,7 @@ namespace zephira {
 
 namespace {
 
-struct Place {
+struct LineAndColumn {
     int line = 0;
     int column = 0;
 };
@@ -24,9 +24,9 @@ int lineEndAt(const QString &text, int offset)
     return text[offset] == u'\n' ? 1 : 0;
 }
 
-Place placeOf(const QString &text, int offset)
+LineAndColumn placeOf(const QString &text, int offset)
 {
-    Place place;
+    LineAndColumn place;
     int lineStart = 0;
     for (int i = 0; i < offset;) {
         const int length = lineEndAt(text, i);
@@ -41,7 +41,7 @@ Place placeOf(const QString &text, int offset)
 }
 
 /// The offset of a place; one beyond the end of its line or of the text is clamped to that end.
-int offsetOf(const QString &text, Place place)
+int offsetOf(const QString &text, LineAndColumn place)
 {
     int offset = 0;
     for (int line = 0; line < place.line && offset < text.size();) {
@@ -149,8 +149,8 @@ Result<void> FakeEditor::saveFile(const QString &path, bool clearUndo)
 
 CodeMaxRange FakeEditor::selection(bool normalized) const
 {
-    const Place start = placeOf(m_text, normalized ? selectionStart() : m_anchor);
-    const Place end = placeOf(m_text, normalized ? selectionEnd() : m_caret);
+    const LineAndColumn start = placeOf(m_text, normalized ? selectionStart() : m_anchor);
+    const LineAndColumn end = placeOf(m_text, normalized ? selectionEnd() : m_caret);
     return {start.line, start.column, end.line, end.column};
 }
 
