@@ -15,7 +15,7 @@ const QString inCodeView = u"Sorry, these tools can only be used in Code View"_s
 const QString inCodeViewForNow =
     u"Sorry, these tools can only be used in Code View for now, this may be changed in the next version"_s;
 
-using Commands = std::vector<FakeEditor::Command>;
+using Commands = std::vector<FakeEditor::ExecutedCommand>;
 
 } // namespace
 

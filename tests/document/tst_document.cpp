@@ -168,8 +168,8 @@ private Q_SLOTS:
         QCOMPARE(bench.fakes.document.row, 1);
         QCOMPARE(bench.dialog.fileName, u"/site/my page.html"_s);
         QCOMPARE(bench.window.codeTabs, 1);
-        QVERIFY(
-            (bench.fakes.editor.commands == std::vector<FakeEditor::Command>{{numberOf(EditorCommand::GoToLine), 0}}));
+        QVERIFY((bench.fakes.editor.commands
+                 == std::vector<FakeEditor::ExecutedCommand>{{numberOf(EditorCommand::GoToLine), 0}}));
     }
 
     void aCancelledOpenChangesNothing()
@@ -491,8 +491,8 @@ private Q_SLOTS:
         QCOMPARE(bench.fakes.editor.text(), u"bytes"_s);
         QCOMPARE(bench.fakes.document.project, u"/site/img/"_s);
         QCOMPARE(bench.window.codeTabs, 0); // The view isn't changed.
-        QVERIFY(
-            (bench.fakes.editor.commands == std::vector<FakeEditor::Command>{{numberOf(EditorCommand::GoToLine), 0}}));
+        QVERIFY((bench.fakes.editor.commands
+                 == std::vector<FakeEditor::ExecutedCommand>{{numberOf(EditorCommand::GoToLine), 0}}));
     }
 
     void errorsOfOpenAFileAreTold()

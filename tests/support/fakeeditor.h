@@ -22,11 +22,11 @@ public:
     /// Copies and pastes through `clipboard`, opens and saves UTF-8 through `files`.
     FakeEditor(Clipboard &clipboard, FileStore &files) : m_clipboard(&clipboard), m_files(&files) {}
 
-    struct Command {
+    struct ExecutedCommand {
         int command = 0;
         int argument = -1;
 
-        friend bool operator==(const Command &, const Command &) = default;
+        friend bool operator==(const ExecutedCommand &, const ExecutedCommand &) = default;
     };
 
     bool undoable = false;
@@ -47,7 +47,7 @@ public:
     /// Called after each change of the text, but not by openFile().
     std::function<void()> onChange;
     /// The commands passed to executeCmd(), in order.
-    std::vector<Command> commands;
+    std::vector<ExecutedCommand> commands;
     /// Names of the operations without arguments, in order: "undo", "redo", "cut", "copy", "paste", "clearSelection",
     /// and "print".
     QStringList calls;

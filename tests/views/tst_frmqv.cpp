@@ -215,7 +215,8 @@ void TstFrmQv::copyAll()
 {
     form().showText(u"/a.txt"_s);
     press(u"cate"_s);
-    QCOMPARE(m_world->editor.commands, (std::vector<FakeEditor::Command>{{numberOf(EditorCommand::SelectAll), -1}}));
+    QCOMPARE(m_world->editor.commands,
+             (std::vector<FakeEditor::ExecutedCommand>{{numberOf(EditorCommand::SelectAll), -1}}));
     QCOMPARE(m_world->clipboard.content, u"alpha"_s);
 }
 

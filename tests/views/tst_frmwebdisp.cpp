@@ -199,7 +199,7 @@ private Q_SLOTS:
         viewer.world.prompts.expectTell(u"The source code has been placed on the clipboard"_s);
         viewer.choose(u"mnucopy"_s);
         QVERIFY(viewer.world.editor.commands
-                == std::vector<FakeEditor::Command>({{numberOf(EditorCommand::SelectAll), -1}}));
+                == std::vector<FakeEditor::ExecutedCommand>({{numberOf(EditorCommand::SelectAll), -1}}));
         QVERIFY(viewer.world.editor.calls.contains(u"copy"_s));
     }
 
