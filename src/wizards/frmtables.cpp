@@ -5,8 +5,8 @@
 #include "core/pasteitem.h"
 #include "core/prompts.h"
 #include "ui_frmtables.h"
-#include "wizards/mdltable.h"
 #include "wizards/tablemarkup.h"
+#include "wizards/windowdragger.h"
 
 namespace zephira {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "wizards/mdltable.h"
+#include "wizards/windowdragger.h"
 
 #include <QMouseEvent>
 #include <QWidget>
