@@ -3,7 +3,7 @@
 
 #include "ftp/finddata.h"
 #include "ftp/listline.h"
-#include "ftp/remotename.h"
+#include "ftp/safenames.h"
 
 #include <QSet>
 

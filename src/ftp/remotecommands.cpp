@@ -9,8 +9,8 @@
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/remotelisting.h"
-#include "ftp/remotename.h"
 #include "ftp/remoteview.h"
+#include "ftp/safenames.h"
 
 using namespace Qt::StringLiterals;
 

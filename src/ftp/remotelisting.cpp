@@ -3,7 +3,7 @@
 
 #include "core/vbtext.h"
 #include "ftp/fileimages.h"
-#include "ftp/remotename.h"
+#include "ftp/safenames.h"
 
 using namespace Qt::StringLiterals;
 

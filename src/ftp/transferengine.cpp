@@ -3,7 +3,7 @@
 
 #include "core/filestore.h"
 #include "ftp/ftpclient.h"
-#include "ftp/remotename.h"
+#include "ftp/safenames.h"
 #include "ftp/sessiondisplay.h"
 
 #include <QFile>

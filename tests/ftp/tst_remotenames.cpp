@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/finddata.h"
 #include "ftp/namepattern.h"
-#include "ftp/remotename.h"
 #include "ftp/remotenames.h"
+#include "ftp/safenames.h"
 #include "support/testregistry.h"
 
 #include <QTest>

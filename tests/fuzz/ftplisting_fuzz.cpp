@@ -2,8 +2,8 @@
 // Listings of servers: reading never fails, and no name gets through that would be harmful as a file name.
 #include "ftp/folderlisting.h"
 #include "ftp/ftpreply.h"
-#include "ftp/remotename.h"
 #include "ftp/remotenames.h"
+#include "ftp/safenames.h"
 
 #include <QSet>
 

@@ -6,7 +6,7 @@
 #include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "ftp/net/netoperations.h"
-#include "ftp/remotename.h"
+#include "ftp/safenames.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -2,7 +2,7 @@
 #include "ftp/net/controlconnection.h"
 
 #include "ftp/net/hostlookup.h"
-#include "ftp/remotename.h"
+#include "ftp/safenames.h"
 
 namespace zephira {
 

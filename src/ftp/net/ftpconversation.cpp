@@ -2,7 +2,7 @@
 #include "ftp/net/ftpconversation.h"
 
 #include "ftp/net/remotefile.h"
-#include "ftp/remotename.h"
+#include "ftp/safenames.h"
 
 namespace zephira {
 
