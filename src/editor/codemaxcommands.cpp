@@ -3,12 +3,12 @@
 #include "editor/bracematcher.h"
 #include "editor/codemax.h"
 #include "editor/colouritems.h"
-#include "editor/editorcommands.h"
 #include "editor/editormargins.h"
 #include "editor/editorprinter.h"
 #include "editor/editorsearch.h"
 #include "editor/finddialog.h"
 #include "editor/gotodialog.h"
+#include "editor/hotkeys.h"
 #include "editor/idlecolouring.h"
 #include "editor/propertiesdialog.h"
 

@@ -5,9 +5,9 @@
 #include "editor/codemaxglobals.h"
 #include "editor/colouritems.h"
 #include "editor/editorappearance.h"
-#include "editor/editorcommands.h"
 #include "editor/editormargins.h"
 #include "editor/graphemes.h"
+#include "editor/hotkeys.h"
 #include "widgets/qtvalues.h"
 
 #include <QContextMenuEvent>

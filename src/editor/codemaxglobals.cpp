@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/codemaxglobals.h"
 
-#include "editor/editorcommands.h"
+#include "editor/hotkeys.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/typingrules.h"
 
-#include "editor/editorcommands.h"
 #include "editor/graphemes.h"
+#include "editor/hotkeys.h"
 
 #include <QKeyEvent>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/codemaxglobals.h"
-#include "editor/editorcommands.h"
 #include "editor/editorfixture.h"
 #include "editor/finddialog.h"
+#include "editor/hotkeys.h"
 #include "support/actionwalk.h"
 #include "support/testregistry.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/editorcommands.h"
+#include "editor/hotkeys.h"
 
 #include "core/editorcommand.h"
 
