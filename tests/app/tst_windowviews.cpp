@@ -59,7 +59,7 @@ const Question saveQuestion{
 } // namespace
 
 /// The views in the real window. The engine is a fake here; TstWebViews has the real one.
-class TstViews : public QObject
+class TstWindowViews : public QObject
 {
     Q_OBJECT
 
@@ -682,5 +682,5 @@ private Q_SLOTS:
     }
 };
 
-ZEPHIRA_TEST(TstViews)
-#include "tst_views.moc"
+ZEPHIRA_TEST(TstWindowViews)
+#include "tst_windowviews.moc"
