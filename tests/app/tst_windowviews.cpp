@@ -58,7 +58,7 @@ const Question saveQuestion{
 
 } // namespace
 
-/// The views in the real window. The engine is a fake here; TstWebViews has the real one.
+/// The views in the real window. The engine is a fake here; TstWebPreview and TstWebDesigner have the real one.
 class TstWindowViews : public QObject
 {
     Q_OBJECT
