@@ -31,6 +31,12 @@ QString withSeparator(const QString &folder)
     return folder.endsWith(u'/') || folder.endsWith(u'\\') ? folder : folder + QDir::separator();
 }
 
+QString extensionOf(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot < 0 ? QString() : name.sliced(dot + 1);
+}
+
 QString withSlash(const QString &folder)
 {
     return folder.endsWith(u'/') ? folder : folder + u'/';

@@ -13,6 +13,8 @@ QString fileTitleOf(const QString &path);
 QString folderOf(const QString &path);
 /// The folder with a trailing separator; the platform's separator is added if there was none.
 QString withSeparator(const QString &folder);
+/// The text after a name's last dot; empty if there is none. A name that begins with its only dot has an extension too.
+QString extensionOf(const QString &name);
 
 // Paths on this machine and on a server, where only "/" is a separator: names may contain any other character.
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/paths.h"
 #include "core/prompts.h"
-#include "ftp/fileimages.h"
 
 namespace zephira {
 

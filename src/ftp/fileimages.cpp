@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/fileimages.h"
 
+#include "core/paths.h"
+
 #include <algorithm>
 
 namespace zephira {
@@ -23,12 +25,6 @@ constexpr FileImage fileImages[] = {
 constexpr int unknownImage = 10;
 
 } // namespace
-
-QString extensionOf(const QString &name)
-{
-    const qsizetype point = name.lastIndexOf(u'.');
-    return point < 0 ? QString() : name.sliced(point + 1);
-}
 
 int imageForFile(const QString &name)
 {

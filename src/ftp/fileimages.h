@@ -10,9 +10,6 @@ constexpr int rootImage = 11;
 constexpr int folderImage = 12;
 constexpr int openFolderImage = 13;
 
-/// The text after the last dot; empty if there is none.
-QString extensionOf(const QString &name);
-
 /// Number of the picture for a file's extension, without regard to case; 10 for an unknown one.
 int imageForFile(const QString &name);
 

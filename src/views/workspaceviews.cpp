@@ -45,9 +45,7 @@ Question serverQuestion(const QString &fileName, const QString &reason = {})
 
 QString previewCopyName(const QString &name)
 {
-    const QString title = fileTitleOf(name);
-    const qsizetype dot = title.lastIndexOf(u'.');
-    return name + u"temp."_s + (dot < 0 ? QString() : title.mid(dot + 1));
+    return name + u"temp."_s + extensionOf(fileTitleOf(name));
 }
 
 QString serverAddress(const QString &server, const QString &fileName)

@@ -37,6 +37,23 @@ private Q_SLOTS:
         QTEST(withSeparator(path), "separated");
     }
 
+    void extension_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("one") << u"a.htm"_s << u"htm"_s;
+        QTest::newRow("two points") << u"a.b.HTM"_s << u"HTM"_s;
+        QTest::newRow("none") << u"readme"_s << QString();
+        QTest::newRow("point at the end") << u"a."_s << QString();
+        QTest::newRow("point at the start") << u".htaccess"_s << u"htaccess"_s;
+    }
+
+    void extension()
+    {
+        QFETCH(QString, name);
+        QTEST(extensionOf(name), "expected");
+    }
+
     void slashes_data()
     {
         QTest::addColumn<QString>("path");

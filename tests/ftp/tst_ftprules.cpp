@@ -22,8 +22,6 @@ class TstFtpRules final : public QObject
 private Q_SLOTS:
     void picture_data();
     void picture();
-    void extension_data();
-    void extension();
     void extensionQuestion_data();
     void extensionQuestion();
     void date_data();
@@ -75,23 +73,6 @@ void TstFtpRules::picture()
 {
     QFETCH(QString, name);
     QTEST(imageForFile(name), "image");
-}
-
-void TstFtpRules::extension_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("one") << u"a.htm"_s << u"htm"_s;
-    QTest::newRow("two points") << u"a.b.HTM"_s << u"HTM"_s;
-    QTest::newRow("none") << u"readme"_s << QString();
-    QTest::newRow("point at the end") << u"a."_s << QString();
-    QTest::newRow("point at the start") << u".htaccess"_s << u"htaccess"_s;
-}
-
-void TstFtpRules::extension()
-{
-    QFETCH(QString, name);
-    QTEST(extensionOf(name), "expected");
 }
 
 void TstFtpRules::extensionQuestion_data()
