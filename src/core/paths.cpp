@@ -42,6 +42,11 @@ QString withSlash(const QString &folder)
     return folder.endsWith(u'/') ? folder : folder + u'/';
 }
 
+QByteArray withSlash(const QByteArray &folder)
+{
+    return folder.endsWith('/') ? folder : folder + '/';
+}
+
 QString parentFolder(const QString &folder)
 {
     const qsizetype separator = folder.lastIndexOf(u'/');

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace zephira {
@@ -18,8 +19,9 @@ QString extensionOf(const QString &name);
 
 // Paths on this machine and on a server, where only "/" is a separator: names may contain any other character.
 
-/// The path with a trailing "/".
+/// The path with a trailing "/"; also for the bytes that a server sends.
 QString withSlash(const QString &folder);
+QByteArray withSlash(const QByteArray &folder);
 /// The path before the last separator, or "/" if nothing precedes it.
 QString parentFolder(const QString &folder);
 /// The part after the last separator.

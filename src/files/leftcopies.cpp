@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/leftcopies.h"
 
+#include "core/paths.h"
 #include "files/fileerror.h"
 
 #include <QDir>
@@ -57,9 +58,8 @@ QList<LeftCopy> leftCopies(const QString &folder)
 
 Result<void> putAside(const LeftCopy &copy)
 {
-    QString kept = copy.path;
-    const qsizetype name = kept.lastIndexOf(u'/') + 1;
-    kept.replace(name, openMark.size(), asideMark);
+    const QString name = lastName(copy.path);
+    const QString kept = copy.path.chopped(name.size()) + asideMark + name.mid(openMark.size());
     if (std::rename(QFile::encodeName(copy.path).constData(), QFile::encodeName(kept).constData()) != 0)
         return saveError(kept, errno);
     return {};

@@ -3,6 +3,7 @@
 
 #include "core/appcontext.h"
 #include "core/clock.h"
+#include "core/paths.h"
 #include "core/prompts.h"
 #include "core/vbtext.h"
 #include "ftp/extensionchange.h"
@@ -237,7 +238,7 @@ void RemoteCommands::setPattern(const QString &pattern, bool all)
     m_view.markPattern(all);
     m_pattern = pattern;
     QString &searchPath = m_client.session.ftpSearchPath;
-    searchPath.truncate(searchPath.lastIndexOf(u'/') + 1);
+    searchPath.chop(lastName(searchPath).size());
     searchPath += pattern;
     refresh();
 }

@@ -3,6 +3,7 @@
 
 #include "core/filestore.h"
 #include "core/languages.h"
+#include "core/paths.h"
 #include "files/lineends.h"
 #include "files/textfile.h"
 
@@ -68,10 +69,9 @@ Result<QString> readTemplate(const FileStore &files, const QString &path)
         return toCrLf(QString::fromUtf8(decodeText(std::move(bytes).value()).utf8));
     if (bytes.error().code != Error::Code::NotFound)
         return bytes.error();
-    const qsizetype separator = path.lastIndexOf(u'/');
-    return Error{Error::Code::NotFound,
-                 u"The template file \"%1\" was not found in the folder\r\n%2"_s.arg(path.mid(separator + 1),
-                                                                                     path.left(separator))};
+    return Error{
+        Error::Code::NotFound,
+        u"The template file \"%1\" was not found in the folder\r\n%2"_s.arg(lastName(path), parentFolder(path))};
 }
 
 } // namespace zephira

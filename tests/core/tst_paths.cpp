@@ -70,6 +70,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         QTEST(withSlash(path), "separated");
+        QCOMPARE(withSlash(path.toUtf8()), withSlash(path).toUtf8());
         QTEST(parentFolder(path), "parent");
         QTEST(lastName(path), "name");
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/net/ftpconversation.h"
 
+#include "core/paths.h"
 #include "ftp/net/remotefile.h"
 #include "ftp/safenames.h"
 
@@ -78,7 +79,7 @@ std::optional<std::vector<ListedEntry>> FtpConversation::list(const QByteArray &
     if (!listing)
         return {};
     std::vector<ListedEntry> entries = m_knowsMlsd ? readMlsd(*listing) : readList(*listing, today);
-    followLinks(folder.endsWith('/') ? folder : folder + '/', entries);
+    followLinks(withSlash(folder), entries);
     return entries;
 }
 

@@ -52,9 +52,8 @@ bool NetConnection::rename(const QString &from, const QString &to)
 std::vector<FindData> NetConnection::find(const QString &search, QDate today)
 {
     const QString path = absolutePath(search);
-    const qsizetype behindFolder = path.lastIndexOf(u'/') + 1;
-    const QString folder = path.first(behindFolder);
-    const QStringView pattern = QStringView(path).sliced(behindFolder);
+    const QString pattern = lastName(path);
+    const QString folder = path.chopped(pattern.size());
     const auto entries = m_conversation.list(m_names.sent(withoutLastSlash(folder)), today);
     std::vector<FindData> found;
     for (const ListedEntry &entry : entries.value_or(std::vector<ListedEntry>())) {
