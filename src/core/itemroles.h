@@ -9,4 +9,7 @@ namespace zephira {
 constexpr int KeyRole = Qt::UserRole;
 constexpr int TagRole = Qt::UserRole + 1;
 
+/// The item data role for the path of the folder that an item of a folder tree stands for; such items have no key.
+constexpr int PathRole = Qt::UserRole;
+
 } // namespace zephira

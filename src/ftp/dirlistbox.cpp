@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/dirlistbox.h"
 
+#include "core/itemroles.h"
 #include "core/paths.h"
 #include "ftp/fileimages.h"
 #include "ftp/ftpimages.h"
@@ -15,8 +16,6 @@
 namespace zephira {
 
 namespace {
-
-constexpr int PathRole = Qt::UserRole;
 
 bool isReadableFolder(const QString &path)
 {

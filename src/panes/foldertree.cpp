@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/foldertree.h"
 
+#include "core/itemroles.h"
 #include "core/paths.h"
 #include "widgets/themeicon.h"
 
@@ -22,7 +23,6 @@ namespace {
 /// In pixels; the pane is narrow and paths are deep.
 constexpr int stepOfDepth = 12;
 
-constexpr int PathRole = Qt::UserRole;
 constexpr int ReadRole = Qt::UserRole + 2;
 
 QString pathOf(const QTreeWidgetItem *item)
