@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/formposition.h"
 
+#include "core/twips.h"
 #include "core/usersettings.h"
 
 #include <QGuiApplication>
@@ -9,13 +10,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace zephira {
 
 namespace {
-
-constexpr double twipsPerPixel = 15.0;
 
 /// The size of the frame that the window manager adds, which isn't known before the window shows.
 constexpr QSize frame(16, 48);
@@ -40,10 +38,7 @@ public:
         m_settings.SaveSetting(setting, m_form, QString::number(number));
     }
 
-    void savePixels(UserSetting setting, int pixels) const
-    {
-        save(setting, static_cast<int>(std::lround(pixels * twipsPerPixel)));
-    }
+    void savePixels(UserSetting setting, int pixels) const { save(setting, toTwips(pixels)); }
 
     int number(UserSetting setting, int fallback) const
     {
@@ -52,11 +47,7 @@ public:
         return converted ? value : fallback;
     }
 
-    int pixels(UserSetting setting, int fallback) const
-    {
-        const int twips = number(setting, static_cast<int>(std::lround(fallback * twipsPerPixel)));
-        return static_cast<int>(std::lround(twips / twipsPerPixel));
-    }
+    int pixels(UserSetting setting, int fallback) const { return toPixels(number(setting, toTwips(fallback))); }
 
 private:
     UserSettings &m_settings;

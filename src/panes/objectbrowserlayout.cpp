@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/objectbrowserlayout.h"
 
+#include "core/twips.h"
+
 namespace zephira {
 
 namespace {
 
-constexpr int twipsPerPixel = 15;
 // The form's measures, in twips.
 constexpr int treeOffset = 30;
 constexpr int besideTree = 1450;
 constexpr int belowTree = 50;
 constexpr int gap = 120;
 
-constexpr int toTwips(int pixels)
+int pixelsOrNone(int twips)
 {
-    return pixels * twipsPerPixel;
-}
-
-int toPixels(int twips)
-{
-    return qRound(qMax(twips, 0) / double(twipsPerPixel));
+    return toPixels(qMax(twips, 0));
 }
 
 } // namespace
@@ -29,9 +25,9 @@ ObjectBrowserLayout objectBrowserLayout(const QSize &form)
     const int width = toTwips(form.width()) - besideTree;
     const int height = toTwips(form.height()) - belowTree;
     const int buttons = treeOffset + qMax(width, 0) + gap;
-    return {.tree = {toPixels(treeOffset), toPixels(treeOffset), toPixels(width), toPixels(height)},
+    return {.tree = {toPixels(treeOffset), toPixels(treeOffset), pixelsOrNone(width), pixelsOrNone(height)},
             .buttonLeft = toPixels(buttons),
-            .buttonWidth = toPixels(toTwips(form.width()) - buttons - treeOffset)};
+            .buttonWidth = pixelsOrNone(toTwips(form.width()) - buttons - treeOffset)};
 }
 
 } // namespace zephira
