@@ -26,7 +26,6 @@ namespace zephira {
 
 namespace {
 
-const QString anonymousUser = u"anonymous"_s;
 const QString anonymousPassword = u"anonymous@example.com"_s;
 const QString rootKey = u"r"_s;
 const QString applicationTitle = u"Zephira"_s;
@@ -200,7 +199,7 @@ void FrmConnect::deleteProfile()
 
 void FrmConnect::setAnonymous(bool ticked)
 {
-    m_ui->txtUser->setText(ticked ? anonymousUser : QString());
+    m_ui->txtUser->setText(ticked ? anonymousUser.toString() : QString());
     m_ui->txtPass->setText(ticked ? anonymousPassword : QString());
     noteChange();
 }

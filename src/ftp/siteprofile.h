@@ -5,6 +5,9 @@
 
 namespace zephira {
 
+/// The user name that servers accept for guests.
+constexpr QStringView anonymousUser = u"anonymous";
+
 /// A saved site: one small profile file with the extension ".ftp" in the program folder.
 struct SiteProfile {
     QString siteName;

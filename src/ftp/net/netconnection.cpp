@@ -3,14 +3,13 @@
 
 #include "core/paths.h"
 #include "ftp/namepattern.h"
+#include "ftp/siteprofile.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
 namespace {
-
-constexpr auto anonymousUser = "anonymous";
 
 /// The path without its trailing "/", unless it is the root.
 QString withoutLastSlash(const QString &path)
@@ -22,7 +21,7 @@ QString withoutLastSlash(const QString &path)
 
 bool NetConnection::logIn(const QString &server, quint16 port, const QString &user, const QString &password)
 {
-    const QByteArray userName = user.isEmpty() ? QByteArray(anonymousUser) : user.toUtf8();
+    const QByteArray userName = user.isEmpty() ? anonymousUser.toUtf8() : user.toUtf8();
     if (!m_conversation.logIn(server, port, userName, password.toUtf8()))
         return false;
     m_folder = m_names.shown(QString(), m_conversation.loginFolder());
