@@ -55,7 +55,7 @@ void DocumentControls::setProjectPath(const QString &path)
 
 QString DocumentControls::commonDialogFile() const
 {
-    return m_dialog.fileName;
+    return m_dialog.fileName();
 }
 
 } // namespace zephira

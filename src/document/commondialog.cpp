@@ -7,7 +7,7 @@ namespace zephira {
 
 QString CommonDialog::fileTitle() const
 {
-    return fileTitleOf(fileName);
+    return fileTitleOf(m_fileName);
 }
 
 } // namespace zephira

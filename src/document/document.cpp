@@ -97,7 +97,7 @@ void Document::becomeNew()
     m_hasFile = false;
     m_path.clear();
     m_title = u"New Document"_s;
-    m_dialog.fileName.clear();
+    m_dialog.setFileName({});
     m_window.setCaption(u"Zephira - [New Document]"_s);
     m_window.setPathPanel(u"Untitled"_s);
 }
@@ -117,7 +117,7 @@ void Document::newFromTemplate()
 
 void Document::SetSyntax()
 {
-    chooseLanguage(m_dialog.fileName);
+    chooseLanguage(m_dialog.fileName());
 }
 
 void Document::chooseLanguage(const QString &fileName)
@@ -164,14 +164,14 @@ void Document::open()
     discardPreview();
     if (!mayGoOn(PromptIcon::Shown))
         return;
-    m_dialog.title = u"Open a document..."_s;
-    m_dialog.filter = openFilter();
-    const auto chosen =
-        m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, false, m_dialog.fileName});
+    m_dialog.setTitle(u"Open a document..."_s);
+    m_dialog.setFilter(openFilter());
+    const auto chosen = m_context.prompts.file(
+        {m_dialog.title(), m_dialog.filter(), m_dialog.initialFolder(), false, m_dialog.fileName()});
     if (!chosen || chosen->isEmpty())
         return;
     const QString &name = *chosen;
-    m_dialog.fileName = name;
+    m_dialog.setFileName(name);
     m_context.document.setProjectPath(folderOf(name));
     SetSyntax();
     readInto(name);
@@ -198,15 +198,15 @@ bool Document::doSave()
 
 bool Document::DoSaveAs()
 {
-    m_dialog.title = u"Save a document..."_s;
-    m_dialog.initialFolder = m_context.document.projectPath();
+    m_dialog.setTitle(u"Save a document..."_s);
+    m_dialog.setInitialFolder(m_context.document.projectPath());
     if (const LanguageRow *row = languageRow(m_context.document.languageRow()))
-        m_dialog.filter = row->saveFilter.toString();
+        m_dialog.setFilter(row->saveFilter.toString());
 
     QString name;
     for (;;) {
-        const auto chosen =
-            m_context.prompts.file({m_dialog.title, m_dialog.filter, m_dialog.initialFolder, true, m_dialog.fileName});
+        const auto chosen = m_context.prompts.file(
+            {m_dialog.title(), m_dialog.filter(), m_dialog.initialFolder(), true, m_dialog.fileName()});
         if (!chosen || chosen->isEmpty() || *chosen == u" "_s)
             return false;
         name = *chosen;
@@ -225,7 +225,7 @@ bool Document::DoSaveAs()
         tellError(m_context.prompts, saved.error());
         return false;
     }
-    m_dialog.fileName = name;
+    m_dialog.setFileName(name);
     SetSyntax();
     adopt(name);
     m_context.document.setProjectPath(folderOf(name));
@@ -291,7 +291,7 @@ void Document::openText(const QString &path)
     if (!mayGoOn(PromptIcon::Shown))
         return;
     orRaise(m_context.editor.openFile(path));
-    m_dialog.fileName = path;
+    m_dialog.setFileName(path);
     adopt(path);
     SetSyntax();
     m_context.document.setProjectPath(folderOf(path));
@@ -313,7 +313,7 @@ bool Document::openDropped(const QString &path)
     // If the designer stayed in front, it would keep the previous page and later write it over the new text.
     if (m_context.designer.isShowing())
         m_window.selectCodeTab();
-    m_dialog.fileName = path;
+    m_dialog.setFileName(path);
     adopt(path);
     m_window.setCountPanel(m_context.editor.textLength());
     return true;
@@ -321,7 +321,7 @@ bool Document::openDropped(const QString &path)
 
 void Document::openAtStart(const QString &path)
 {
-    m_dialog.fileName = path;
+    m_dialog.setFileName(path);
     adopt(path);
     m_window.selectListedFile(path);
     SetSyntax();
@@ -347,7 +347,7 @@ void Document::openRecovered(const QString &copy, const QString &name)
 
 void Document::revert()
 {
-    if (m_dialog.fileName.isEmpty())
+    if (m_dialog.fileName().isEmpty())
         return;
     const Answer answer = m_context.prompts.ask(
         {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
@@ -358,10 +358,10 @@ void Document::revert()
         return;
     // Loading raises the change event, but the flag must not change.
     const bool modified = m_modified;
-    if (const Result<void> opened = m_context.editor.openFile(m_dialog.fileName); !opened)
+    if (const Result<void> opened = m_context.editor.openFile(m_dialog.fileName()); !opened)
         tellError(m_context.prompts, opened.error());
     else
-        endingQuietly([&] { m_context.designer.loadDocument(m_dialog.fileName); });
+        endingQuietly([&] { m_context.designer.loadDocument(m_dialog.fileName()); });
     setModified(modified);
 }
 

@@ -134,7 +134,7 @@ void TstCommandRouter::saving()
     ScriptedPrompts &prompts = bench.world.prompts;
     const auto expectDialog = [&](const QString &answer) {
         prompts.expectFile({u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s, bench.world.document.project,
-                            true, bench.dialog.fileName},
+                            true, bench.dialog.fileName()},
                            answer);
     };
     expectDialog(u"/a.txt"_s);
@@ -564,7 +564,7 @@ void TstCommandRouter::formattingBarElsewhere()
     bench.world.designer.showing = true;
     for (const QString &key : {u"preview"_s, u"links"_s, u"specchars"_s, u"ftp"_s})
         bench.toolbar1(key);
-    bench.dialog.fileName = u"/a.htm"_s;
+    bench.dialog.setFileName(u"/a.htm"_s);
     bench.world.prompts.expect(
         {u"Are you sure you wish to discard changes and revert to last saved copy of this document?"_s,
          {},

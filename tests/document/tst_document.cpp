@@ -81,13 +81,13 @@ struct Bench {
 
     FileRequest openRequest() const
     {
-        return {u"Open a document..."_s, QStringView(requiredOpenFilter).toString(), {}, false, dialog.fileName};
+        return {u"Open a document..."_s, QStringView(requiredOpenFilter).toString(), {}, false, dialog.fileName()};
     }
 
     FileRequest saveRequest(const QString &filter = u"Text Files|*.txt|All Files|*.*"_s,
                             const QString &folder = u"Project Path"_s) const
     {
-        return {u"Save a document..."_s, filter, folder, true, dialog.fileName};
+        return {u"Save a document..."_s, filter, folder, true, dialog.fileName()};
     }
 
     static Question overwrite(const QString &name)
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(bench.fakes.document.row, 0);
         QCOMPARE(bench.window.caption, u"Zephira - [New Document]"_s);
         QCOMPARE(bench.window.pathPanel, u"Untitled"_s);
-        QCOMPARE(bench.dialog.fileName, QString());
+        QCOMPARE(bench.dialog.fileName(), QString());
     }
 
     void doNewAsksWithoutAnIcon()
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QCOMPARE(bench.window.count, 15);
         QCOMPARE(bench.fakes.document.project, u"/site/"_s);
         QCOMPARE(bench.fakes.document.row, 1);
-        QCOMPARE(bench.dialog.fileName, u"/site/my page.html"_s);
+        QCOMPARE(bench.dialog.fileName(), u"/site/my page.html"_s);
         QCOMPARE(bench.window.codeTabs, 1);
         QVERIFY((bench.fakes.editor.commands
                  == std::vector<FakeEditor::ExecutedCommand>{{numberOf(EditorCommand::GoToLine), 0}}));
@@ -178,7 +178,7 @@ private Q_SLOTS:
         bench.openFile(u"/site/a.css"_s, "a{}");
         bench.fakes.prompts.expectFile(bench.openRequest(), std::nullopt);
         bench.document.open();
-        QCOMPARE(bench.dialog.fileName, u"/site/a.css"_s);
+        QCOMPARE(bench.dialog.fileName(), u"/site/a.css"_s);
         QCOMPARE(bench.document.docPath(), u"/site/a.css"_s);
         QCOMPARE(bench.fakes.document.row, 8);
     }
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(bench.fakes.files.contents[u"/new.css"_s], QByteArray("text"));
         QCOMPARE(bench.fakes.document.row, 8); // The language follows the new extension.
         QCOMPARE(bench.document.docTitle(), u"/new.css"_s);
-        QCOMPARE(bench.dialog.fileName, u"/new.css"_s);
+        QCOMPARE(bench.dialog.fileName(), u"/new.css"_s);
         QCOMPARE(bench.fakes.document.project, u"/"_s);
         QVERIFY(!bench.document.docModified());
 
@@ -271,7 +271,7 @@ private Q_SLOTS:
         bench.document.saveAs();
         QVERIFY(bench.fakes.prompts.verify());
         QCOMPARE(bench.document.docPath(), u"/a.txt"_s);
-        QCOMPARE(bench.dialog.fileName, u"/a.txt"_s);
+        QCOMPARE(bench.dialog.fileName(), u"/a.txt"_s);
         QCOMPARE(bench.fakes.document.row, 0);
         QVERIFY(bench.document.docModified());
         QCOMPARE(bench.window.notices, QStringList());
@@ -319,7 +319,7 @@ private Q_SLOTS:
         QCOMPARE(bench.window.caption, u"Zephira - [New Document]"_s);
         QCOMPARE(bench.window.pathPanel, u"Untitled"_s);
         QCOMPARE(bench.fakes.document.row, 8);
-        QCOMPARE(bench.dialog.fileName, QString());
+        QCOMPARE(bench.dialog.fileName(), QString());
         QVERIFY(bench.document.docModified());
         QVERIFY(!bench.document.docHasFile());
 
@@ -361,7 +361,7 @@ private Q_SLOTS:
     void aRowOutsideTheTableKeepsTheFilter()
     {
         Bench bench;
-        bench.dialog.filter = u"Left|*.left"_s;
+        bench.dialog.setFilter(u"Left|*.left"_s);
         bench.fakes.document.row = -1;
         bench.fakes.prompts.expectFile(bench.saveRequest(u"Left|*.left"_s), std::nullopt);
         bench.document.saveAs();
@@ -487,7 +487,7 @@ private Q_SLOTS:
         bench.window.file = u"a.jpeg"_s;
         bench.document.OpenAFile();
         QCOMPARE(bench.document.docPath(), u"/site/img/a.jpeg"_s);
-        QCOMPARE(bench.dialog.fileName, u"/site/img/a.jpeg"_s);
+        QCOMPARE(bench.dialog.fileName(), u"/site/img/a.jpeg"_s);
         QCOMPARE(bench.fakes.editor.text(), u"bytes"_s);
         QCOMPARE(bench.fakes.document.project, u"/site/img/"_s);
         QCOMPARE(bench.window.codeTabs, 0); // The view isn't changed.
@@ -646,7 +646,7 @@ private Q_SLOTS:
         QVERIFY(bench.document.openDropped(u"/d/a.gif"_s));
         QCOMPARE(bench.fakes.editor.text(), u"GIF89a"_s);
         QCOMPARE(bench.document.docPath(), u"/d/a.gif"_s);
-        QCOMPARE(bench.dialog.fileName, u"/d/a.gif"_s);
+        QCOMPARE(bench.dialog.fileName(), u"/d/a.gif"_s);
         QCOMPARE(bench.window.caption, u"Zephira - [/d/a.gif]"_s);
         QCOMPARE(bench.window.pathPanel, u"/d/a.gif"_s);
         QCOMPARE(bench.window.count, 6);
