@@ -50,10 +50,10 @@ void SideLists::makeCustomTabs()
         m_pane.setPage(list->objectName(), list, SidePane::Fill::AfterShowing,
                        [custom = m_custom, tab] { custom->load(tab); });
     }
-    m_pane.tabs()->titleOf = [custom = m_custom](const QString &key) {
+    m_pane.tabs()->setTitles([custom = m_custom](const QString &key) {
         const bool isCustom = key.size() == 2 && key.startsWith(u'c') && key.back().isDigit();
         return isCustom ? custom->title(key.back().digitValue()) : QString();
-    };
+    });
 }
 
 CustomTabs &SideLists::customTabs()

@@ -31,9 +31,9 @@ SideTabBar::SideTabBar(QWidget *parent) : QTabBar(parent)
 /// A title may have to be read from a file, so it is only fetched when the tip is shown.
 bool SideTabBar::event(QEvent *event)
 {
-    if (event->type() == QEvent::ToolTip && titleOf) {
+    if (event->type() == QEvent::ToolTip && m_titleOf) {
         const int tab = tabAt(static_cast<QHelpEvent *>(event)->pos());
-        if (const QString title = titleOf(tabData(tab).toString()); !title.isEmpty())
+        if (const QString title = m_titleOf(tabData(tab).toString()); !title.isEmpty())
             setTabToolTip(tab, title);
     }
     return QTabBar::event(event);

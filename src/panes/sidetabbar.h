@@ -4,6 +4,7 @@
 #include <QTabBar>
 
 #include <functional>
+#include <utility>
 
 namespace zephira {
 
@@ -16,8 +17,8 @@ class SideTabBar : public QTabBar
 public:
     explicit SideTabBar(QWidget *parent = nullptr);
 
-    /// Returns the title of a page for its tab's tip, by the tab's key; empty if the tip is up to date.
-    std::function<QString(const QString &key)> titleOf;
+    /// `titleOf` returns the title of a page for its tab's tip, by the tab's key; empty if the tip is up to date.
+    void setTitles(std::function<QString(const QString &key)> titleOf) { m_titleOf = std::move(titleOf); }
 
 Q_SIGNALS:
     /// The tab that is already selected was clicked; a click on another tab is a change of the tab.
@@ -33,6 +34,9 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+
+private:
+    std::function<QString(const QString &key)> m_titleOf;
 };
 
 } // namespace zephira

@@ -77,7 +77,7 @@ private Q_SLOTS:
         const Bench bench;
         SideTabBar &tabs = *bench.pane.tabs();
         tabs.setTabToolTip(0, u"Plain things"_s);
-        tabs.titleOf = [](const QString &key) { return key == u"custom" ? u"CSS properties"_s : QString(); };
+        tabs.setTitles([](const QString &key) { return key == u"custom" ? u"CSS properties"_s : QString(); });
         for (const int tab : {0, 3}) {
             const QPoint place = tabs.tabRect(tab).center();
             QHelpEvent event(QEvent::ToolTip, place, tabs.mapToGlobal(place));
