@@ -151,11 +151,10 @@ int runProgram(QApplication &application, const QString &argument)
     QObject::connect(&endSignals, &EndSignals::received, &window, [&window] { window.windowEnd().endNow(); });
     const SessionEnd sessionEnd(application, window.windowEnd());
     const SuddenEnd suddenEnd([&window] { window.windowEnd().keepAtSuddenEnd(); });
-    try {
-        runStartProcedure(window, argument);
-    } catch (const HandlerError &error) {
-        return tellFailedStart(error.description);
-    }
+    int status = EXIT_SUCCESS;
+    if (!endingWith([&](const QString &description) { status = tellFailedStart(description); },
+                    [&] { runStartProcedure(window, argument); }))
+        return status;
     // If a start dialog has ended the program, the event loop, which hasn't started yet, would not notice.
     return ended ? EXIT_SUCCESS : QApplication::exec();
 }

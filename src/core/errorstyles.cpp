@@ -13,10 +13,16 @@ void ignoringErrors(std::initializer_list<Statement> statements)
 
 bool endingQuietly(const Statement &body)
 {
+    return endingWith([](const QString &) {}, body);
+}
+
+bool endingWith(const std::function<void(const QString &description)> &failed, const Statement &body)
+{
     try {
         body();
         return true;
-    } catch (const HandlerError &) {
+    } catch (const HandlerError &error) {
+        failed(error.description);
         return false;
     }
 }

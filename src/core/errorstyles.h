@@ -13,7 +13,7 @@
 
 namespace zephira {
 
-/// Raised by a statement that fails inside a handler; caught only by the three error styles below.
+/// Raised by a statement that fails inside a handler; caught only by the error styles below.
 struct HandlerError {
     QString description;
 };
@@ -25,6 +25,9 @@ void ignoringErrors(std::initializer_list<Statement> statements);
 
 /// Runs the body; the first error ends it silently. Returns whether the body completed.
 bool endingQuietly(const Statement &body);
+
+/// The same for a handler that answers in its own way: `failed` is called with the error's description.
+bool endingWith(const std::function<void(const QString &description)> &failed, const Statement &body);
 
 /// Runs each statement in turn. A failure is reported in a critical message box with OK and Cancel that names the form
 /// and the procedure. OK continues with the next statement, Cancel skips the rest.

@@ -147,14 +147,13 @@ bool writeTruth(Configuration &configuration, Setting setting, bool value)
 int requiredNumber(const Configuration &configuration, Setting setting, const QString &file)
 {
     const QString text = configuration.value(setting);
-    try {
-        return CLng(text);
-    } catch (const HandlerError &) {
-        const SettingRow &row = settingRow(setting);
-        const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
-        throw HandlerError{u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section,
-                                                                                                  file, problem)};
-    }
+    int number = 0;
+    if (endingQuietly([&] { number = CLng(text); }))
+        return number;
+    const SettingRow &row = settingRow(setting);
+    const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
+    throw HandlerError{
+        u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section, file, problem)};
 }
 
 const std::vector<UserSettingRow> &userSettingRows()

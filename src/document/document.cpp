@@ -254,19 +254,18 @@ void Document::OpenAFile()
 
 void Document::openFileOrImage(const QString &path)
 {
-    try {
+    const auto failed = [this](const QString &description) {
+        m_context.prompts.tell(u"An error has occured.\r\n"_s + description
+                                   + u"\r\nThe routine will now reset itself..."_s,
+                               {}, Question::Icon::Critical);
+    };
+    endingWith(failed, [&] {
         const FileType *type = fileTypeOf(fileTitleOf(path));
         if (type && type->isImage)
             openImage(path);
         else
             openText(path);
-    } catch (const HandlerError &error) {
-        m_context.prompts.ask(
-            {u"An error has occured.\r\n"_s + error.description + u"\r\nThe routine will now reset itself..."_s,
-             {},
-             Question::Icon::Critical,
-             Question::Buttons::Ok});
-    }
+    });
 }
 
 void Document::openImage(const QString &path)

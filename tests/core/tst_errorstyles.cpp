@@ -32,6 +32,21 @@ private Q_SLOTS:
         QVERIFY(!reached);
     }
 
+    void endingWithHandsOverTheDescription()
+    {
+        QStringList told;
+        const auto tell = [&](const QString &description) { told.append(description); };
+        QVERIFY(endingWith(tell, [] {}));
+        QVERIFY(told.isEmpty());
+        bool reached = false;
+        QVERIFY(!endingWith(tell, [&] {
+            orRaise(Result<void>(Error{Error::Code::Failed, u"lost"_s}));
+            reached = true;
+        }));
+        QCOMPARE(told, QStringList{u"lost"_s});
+        QVERIFY(!reached);
+    }
+
     void aValueComesThrough()
     {
         QCOMPARE(orRaise(Result<int>(7)), 7);

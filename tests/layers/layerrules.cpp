@@ -65,6 +65,7 @@ constexpr Rule codeRules[] = {
     // Applications, event loops, menus and drags also have an exec(), which is allowed.
     {uR"((?<!application)(?<!loop)(?<!menu)(?<!drag)(?:\.|->|::|\b(?<!\.)(?<!->)(?<!::))exec\s*\()", u"desktop/",
      u"only the form opener runs a dialog"},
+    {uR"(\bcatch\s*\(\s*(const\s+)?HandlerError\b)", u"core/errorstyles.", u"only the error styles catch errors"},
     // app/program.cpp creates the only store. The transfer sends files of any size in blocks, while the store handles
     // whole files, and the designer reads resources that are compiled into it. Names, dates and folders may be used
     // anywhere.

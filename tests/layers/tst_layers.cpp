@@ -218,6 +218,11 @@ private Q_SLOTS:
         row("a file at home", u"files/a.cpp"_s, u"QFile file(path);\n"_s, {});
         row("names of files", u"panes/a.cpp"_s,
             u"#include <QFile>\nbool there = QFile::exists(path) && QDialog::open();\n"_s, {});
+        row("an error caught by hand", u"app/a.cpp"_s,
+            u"void f() { try { g(); } catch (const HandlerError &error) {} }\n"_s,
+            u"app/a.cpp:2: only the error styles catch errors"_s);
+        row("an error caught at home", u"core/errorstyles.cpp"_s,
+            u"void f() { try { g(); } catch (HandlerError &) {} }\n"_s, {});
         row("a header twice", u"app/a.h"_s, u"int a;\n"_s, u"app/a.h:1: a header is included once"_s);
         row("a thousand lines", u"app/a.cpp"_s, QString(999, u'\n'), {});
         row("more lines", u"app/a.cpp"_s, QString(1000, u'\n'),
