@@ -7,6 +7,7 @@
 #include "widgets/tipwithkeys.h"
 
 #include "core/editingcontrol.h"
+#include "core/errorstyles.h"
 #include "core/prompts.h"
 
 #include <QAction>
@@ -102,7 +103,7 @@ void frmqv::showText(const QString &path)
 
 void frmqv::tellFailure(const Error &error)
 {
-    m_context.prompts.tell(error.sentence, windowTitle(), Question::Icon::Critical);
+    tellError(m_context.prompts, error, windowTitle(), Question::Icon::Critical);
     if (!m_hasContent)
         close();
 }
