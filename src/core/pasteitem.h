@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/result.h"
+
 #include <QString>
 
 namespace zephira {
@@ -11,6 +13,10 @@ struct AppContext;
 /// stays. An empty item does nothing. In visual mode the selected text and the item are both inserted into the
 /// designer.
 void pasteBehindSelection(const AppContext &context, const QString &item);
+
+/// The same for the text that a wizard tried to make. If that failed, the error is told under the wizard's title and
+/// nothing is inserted. Returns whether there was a text, and the wizard may close.
+bool pasteOrTell(const AppContext &context, const Result<QString> &item, const QString &title);
 
 /// The same for lists that need the code view: in visual mode a message says so instead.
 void pasteInCodeView(const AppContext &context, const QString &item);

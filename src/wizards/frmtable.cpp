@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/frmtable.h"
 
-#include "core/errorstyles.h"
 #include "core/pasteitem.h"
-#include "core/prompts.h"
 #include "ui_frmtable.h"
 #include "wizards/tablemarkup.h"
 
@@ -36,13 +34,17 @@ frmTable::~frmTable() = default;
 bool frmTable::AddTable(qint32 columns, qint32 rows, const QString &width, const QString &background,
                         const QString &border, const QString &lightAndDark)
 {
-    return insert(plainTableMarkup({columns, rows}, tableFields(), {width, background, border, lightAndDark}));
+    return pasteOrTell(m_context,
+                       plainTableMarkup({columns, rows}, tableFields(), {width, background, border, lightAndDark}),
+                       windowTitle());
 }
 
 bool frmTable::AddTableAsp(qint32 columns, qint32 rows, const QString &width, const QString &background,
                            const QString &border, const QString &lightAndDark)
 {
-    return insert(aspTableMarkup({columns, rows}, tableFields(), {width, background, border, lightAndDark}));
+    return pasteOrTell(m_context,
+                       aspTableMarkup({columns, rows}, tableFields(), {width, background, border, lightAndDark}),
+                       windowTitle());
 }
 
 TableFields frmTable::tableFields() const
@@ -82,16 +84,6 @@ std::optional<qint32> frmTable::countIn(QLineEdit *field)
         field->selectAll();
     }
     return count;
-}
-
-bool frmTable::insert(const Result<QString> &markup)
-{
-    if (!markup) {
-        tellError(m_context.prompts, markup.error(), windowTitle());
-        return false;
-    }
-    pasteBehindSelection(m_context, markup.value());
-    return true;
 }
 
 void frmTable::insertTable()

@@ -18,8 +18,6 @@ class frmTable;
 
 struct CellFields;
 struct TableFields;
-template<typename T>
-class Result;
 
 /// The full table wizard: size, layout and colours of a table, in plain markup or for a server-side script, and single
 /// cells that are inserted while the window stays open. Everything is inserted after the selection, which is kept.
@@ -44,7 +42,6 @@ private:
     CellFields cellFields() const;
     /// The number in a field; if there is none, moves the focus to the field and returns nothing.
     std::optional<qint32> countIn(QLineEdit *field);
-    bool insert(const Result<QString> &markup);
     void insertTable();
     void insertCell();
 

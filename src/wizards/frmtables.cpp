@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/frmtables.h"
 
-#include "core/errorstyles.h"
 #include "core/pasteitem.h"
-#include "core/prompts.h"
 #include "ui_frmtables.h"
 #include "wizards/tablemarkup.h"
 #include "wizards/windowdragger.h"
@@ -25,13 +23,7 @@ frmTables::~frmTables() = default;
 
 bool frmTables::AddTable(qint32 columns, qint32 rows)
 {
-    const Result<QString> markup = simpleTableMarkup({.columns = columns, .rows = rows});
-    if (!markup) {
-        tellError(m_context.prompts, markup.error(), windowTitle());
-        return false;
-    }
-    pasteBehindSelection(m_context, markup.value());
-    return true;
+    return pasteOrTell(m_context, simpleTableMarkup({.columns = columns, .rows = rows}), windowTitle());
 }
 
 void frmTables::CleanUp()

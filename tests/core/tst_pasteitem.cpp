@@ -52,6 +52,23 @@ private Q_SLOTS:
         QVERIFY(world.inserter.inserted.isEmpty());
     }
 
+    void aTextThatCouldBeMadeIsPasted()
+    {
+        TestContext world;
+        QVERIFY(pasteOrTell(world, u"<table>"_s, u"Table Wizard"_s));
+        QCOMPARE(world.inserter.inserted, QStringList{u"<table>"_s});
+        QVERIFY(world.prompts.verify());
+    }
+
+    void anErrorIsToldInsteadOfAText()
+    {
+        TestContext world;
+        world.prompts.expectTell(u"It is too large"_s, u"Table Wizard"_s, Question::Icon::Exclamation);
+        QVERIFY(!pasteOrTell(world, Error{Error::Code::TooLarge, u"It is too large"_s}, u"Table Wizard"_s));
+        QVERIFY(world.inserter.inserted.isEmpty());
+        QVERIFY(world.prompts.verify());
+    }
+
     void visualMode()
     {
         TestContext world;
