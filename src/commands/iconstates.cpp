@@ -71,12 +71,19 @@ QPixmap faint(const QPixmap &pixmap)
     return result;
 }
 
+/// Thin lines are blended with what is behind them, and get stronger where there is one colour to tell it by.
 QPixmap inColour(const QPixmap &pixmap, const QColor &colour)
 {
-    QPixmap result = pixmap;
-    QPainter painter(&result);
+    constexpr int layers = 3;
+    QPixmap coloured = pixmap;
+    QPainter painter(&coloured);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(result.rect(), colour);
+    painter.fillRect(coloured.rect(), colour);
+    painter.end();
+    QPixmap result = coloured;
+    painter.begin(&result);
+    for (int layer = 1; layer < layers; ++layer)
+        painter.drawPixmap(0, 0, coloured);
     return result;
 }
 

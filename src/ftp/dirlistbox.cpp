@@ -60,7 +60,7 @@ void DirListBox::refresh()
 void DirListBox::fill()
 {
     clear();
-    const QIcon open = ftpImage(openFolderImage, *this);
+    const QIcon open = ftpImage(openFolderImage);
     const auto makeItem = [](const QString &path, const QString &caption, const QIcon &icon) {
         auto *item = new QTreeWidgetItem({caption});
         item->setIcon(0, icon);
@@ -76,7 +76,7 @@ void DirListBox::fill()
         current = item;
     }
 
-    const QIcon closed = ftpImage(folderImage, *this);
+    const QIcon closed = ftpImage(folderImage);
     const QString inside = withSlash(m_path);
     QList<QTreeWidgetItem *> items;
     const QStringList names = QDir(m_path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);

@@ -110,7 +110,7 @@ private:
 
 FileListView::FileListView(QWidget *parent)
     : QTreeView(parent)
-    , m_model(new FileRowsModel([this](int number) { return ftpImage(number, *this); }, this))
+    , m_model(new FileRowsModel(&ftpImage, this))
     , m_icons(new IconList(this, [this] { Q_EMIT listClicked(); }))
 {
     setModel(m_model);

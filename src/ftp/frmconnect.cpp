@@ -94,8 +94,8 @@ void FrmConnect::buildTree()
     tree->clear();
     auto *root = new QTreeWidgetItem(tree, {u"Profiles"_s});
     root->setData(0, KeyRole, rootKey);
-    root->setIcon(0, themeIcon(u"folder-network"_s));
-    const QIcon picture = ftpImage(rootImage, *this);
+    root->setIcon(0, themeIcon(u"folder-network"_s, QStyle::SP_DirOpenIcon));
+    const QIcon picture = ftpImage(rootImage);
     const QStringList files = m_ui->File1->entries();
     for (const QString &file : files) {
         auto *item = new QTreeWidgetItem(root, {file});

@@ -6,7 +6,6 @@
 
 #include <QIconEngine>
 #include <QStyle>
-#include <QWidget>
 
 #include <utility>
 
@@ -70,16 +69,15 @@ private:
 
 } // namespace
 
-QIcon ftpImage(int number, const QWidget &widget)
+QIcon ftpImage(int number)
 {
     const ImageRow &row = images[number - 1];
-    const QIcon icon = themeIcon(row.icon.toString());
-    return icon.isNull() ? widget.style()->standardIcon(row.fallback, nullptr, &widget) : icon;
+    return themeIcon(row.icon.toString(), row.fallback);
 }
 
-QIcon ftpFolderImage(const QWidget &widget)
+QIcon ftpFolderImage()
 {
-    return QIcon(new FolderEngine(ftpImage(folderImage, widget), ftpImage(openFolderImage, widget)));
+    return QIcon(new FolderEngine(ftpImage(folderImage), ftpImage(openFolderImage)));
 }
 
 } // namespace zephira

@@ -3,15 +3,13 @@
 
 #include <QIcon>
 
-class QWidget;
-
 namespace zephira {
 
 /// A picture of the image lists by its number, from 1 to 13, in a large and a small size; see fileimages.h for the
-/// meaning of the numbers. If the icon theme lacks the picture, the widget's style provides one.
-QIcon ftpImage(int number, const QWidget &widget);
+/// meaning of the numbers. If the icon theme lacks the picture, the application's style provides one.
+QIcon ftpImage(int number);
 
 /// The picture of a folder in the tree; it differs while the folder is selected.
-QIcon ftpFolderImage(const QWidget &widget);
+QIcon ftpFolderImage();
 
 } // namespace zephira

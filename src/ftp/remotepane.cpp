@@ -60,8 +60,7 @@ void RemotePane::clearTree()
 
 void RemotePane::addRoot()
 {
-    m_parts.tree.addTopLevelItem(
-        makeItem(remoteRootKey.toString(), remoteRootText.toString(), ftpImage(rootImage, m_parts.tree)));
+    m_parts.tree.addTopLevelItem(makeItem(remoteRootKey.toString(), remoteRootText.toString(), ftpImage(rootImage)));
 }
 
 std::optional<RemoteNode> RemotePane::selectedNode() const
@@ -97,7 +96,7 @@ void RemotePane::addFolders(const QString &parentKey, const QStringList &names)
     QSet<QString> present;
     for (int i = 0; i < parent->childCount(); ++i)
         present.insert(keyOf(*parent->child(i)));
-    const QIcon icon = ftpFolderImage(m_parts.tree);
+    const QIcon icon = ftpFolderImage();
     QList<QTreeWidgetItem *> items;
     for (const QString &name : names) {
         const QString key = parentKey + name + u'/';

@@ -94,7 +94,7 @@ void frmselprj::addButton(const TemplateButton &button)
 void frmselprj::listCustomTemplates()
 {
     QListWidget *list = m_ui->ListView2;
-    const QIcon picture = themeIcon(u"text-x-generic"_s);
+    const QIcon picture = themeIcon(u"text-x-generic"_s, QStyle::SP_FileIcon);
     for (const QString &name : customTemplateNames(m_customFolder)) {
         auto *item = new QListWidgetItem(picture, name, list);
         item->setFlags(item->flags() | Qt::ItemIsEditable);

@@ -117,6 +117,12 @@ QIcon themeIcon(const QString &name)
         name, [name] { return QIcon::fromTheme(name); }, true));
 }
 
+QIcon themeIcon(const QString &name, QStyle::StandardPixmap fallback)
+{
+    const QIcon icon = themeIcon(name);
+    return icon.isNull() ? QApplication::style()->standardIcon(fallback) : icon;
+}
+
 QIcon keptIcon(const QString &name, std::function<QIcon()> make)
 {
     return QIcon(new KeptIconEngine(name, std::move(make), false));

@@ -33,6 +33,8 @@ struct IconPicturesHint : QStyleHintReturn {
 
 /// A theme icon, as from QIcon::fromTheme(), that is looked up only if no picture of it is cached.
 QIcon themeIcon(const QString &name);
+/// The same, or one of the application's style where the theme lacks it.
+QIcon themeIcon(const QString &name, QStyle::StandardPixmap fallback);
 
 /// The same for an icon from another source: `make` creates it if no picture is cached under the name.
 QIcon keptIcon(const QString &name, std::function<QIcon()> make);

@@ -251,7 +251,7 @@ private Q_SLOTS:
         Driver d(f);
         const auto paper = [&] {
             const QImage picture = d.preview().viewport()->grab().toImage();
-            return picture.pixelColor(picture.width() - 4, picture.height() / 2);
+            return picture.pixelColor(picture.width() - 4, picture.height() - 4);
         };
         const auto colourOf = [&](int style) {
             return static_cast<quint32>(d.preview().engine().send(QsciScintillaBase::SCI_STYLEGETFORE, style));
