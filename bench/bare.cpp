@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // bare [FILE]: a window with nothing but a QScintilla editor and its own HTML lexer, the least that an editor built on
 // QScintilla can cost.
-#include <Qsci/qscilexerhtml.h>
-#include <Qsci/qsciscintilla.h>
-
 #include <QApplication>
 #include <QFile>
 #include <QMainWindow>
+#include <Qsci/qscilexerhtml.h>
+#include <Qsci/qsciscintilla.h>
 
 int main(int argc, char **argv)
 {

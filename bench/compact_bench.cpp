@@ -4,10 +4,10 @@
 #include "shownpage.h"
 #include "tools/sourceformatter.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 #include <QFile>
+
+#include <benchmark/benchmark.h>
 
 using namespace zephira;
 

@@ -5,8 +5,6 @@
 #include "files/diskfilestore.h"
 #include "web/designer/designerwidget.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -16,6 +14,7 @@
 #include <chrono>
 #include <functional>
 
+#include <benchmark/benchmark.h>
 #include <unistd.h>
 
 using namespace zephira;

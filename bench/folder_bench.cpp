@@ -6,16 +6,15 @@
 #include "panes/filepane.h"
 #include "panes/foldertree.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 
-#include <dirent.h>
-
 #include <string>
 #include <vector>
+
+#include <benchmark/benchmark.h>
+#include <dirent.h>
 
 using namespace zephira;
 using namespace Qt::StringLiterals;

@@ -5,16 +5,15 @@
 #include "ftp/ftpbench.h"
 #include "ftp/ftpdesk.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QTreeWidget>
 
-#include <dirent.h>
-
 #include <string>
 #include <vector>
+
+#include <benchmark/benchmark.h>
+#include <dirent.h>
 
 using namespace zephira;
 using namespace Qt::StringLiterals;

@@ -3,11 +3,11 @@
 // each until it is painted.
 #include "shownpage.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 #include <QFile>
 #include <QKeyEvent>
+
+#include <benchmark/benchmark.h>
 
 using namespace zephira;
 

@@ -3,12 +3,11 @@
 // comparison copies it there with cp followed by an fsync.
 #include "files/diskfilestore.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QByteArray>
 #include <QFile>
 #include <QString>
 
+#include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>

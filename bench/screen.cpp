@@ -39,7 +39,7 @@ Screen::Screen()
 
     const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
     m_root = screen->root;
-    m_area = double(screen->width_in_pixels) * screen->height_in_pixels;
+    m_area = static_cast<double>(screen->width_in_pixels) * screen->height_in_pixels;
     // Damage to the root window is damage to everything on it.
     xcb_damage_create(m_connection, xcb_generate_id(m_connection), m_root, XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
     xcb_flush(m_connection);
@@ -64,7 +64,7 @@ Painted Screen::look(Milliseconds atMost)
             painted.right = std::max(painted.right, area.x + area.width);
             painted.bottom = std::max(painted.bottom, area.y + area.height);
             painted.anything = true;
-            painted.share += double(area.width) * area.height / m_area;
+            painted.share += static_cast<double>(area.width) * area.height / m_area;
         }
     };
     takeNote();

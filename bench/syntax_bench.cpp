@@ -4,15 +4,14 @@
 #include "syntax/languageregistry.h"
 #include "syntax/syntaxengine.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 #include <QByteArray>
-
 #include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciscintilla.h>
 
 #include <vector>
+
+#include <benchmark/benchmark.h>
 
 using namespace zephira;
 using namespace Qt::StringLiterals;

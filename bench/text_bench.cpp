@@ -14,8 +14,6 @@
 #include "tags/tagfile.h"
 #include "tools/sourceformatter.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -25,6 +23,7 @@
 #include <string>
 #include <vector>
 
+#include <benchmark/benchmark.h>
 #include <malloc.h>
 
 using namespace zephira;

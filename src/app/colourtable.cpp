@@ -14,7 +14,7 @@ ColourTable readColours(const Configuration &configuration, const QString &file)
         const auto number = [&](ColourPart part) {
             return requiredNumber(configuration, colourSetting(row, part), file);
         };
-        ColourEntry &entry = table[size_t(row)];
+        ColourEntry &entry = table[static_cast<std::size_t>(row)];
         entry.background = number(ColourPart::Background);
         entry.foreground = number(ColourPart::Foreground);
         entry.fontStyle = number(ColourPart::FontStyle);
@@ -26,19 +26,19 @@ void applyColours(const ColourTable &table, EditingControl &editor)
 {
     std::array<int, fontStyleTotal> styles{};
     std::array<int, colourItemTotal> colours{};
-    for (size_t row = 0; row < appearanceRows.size(); ++row) {
+    for (std::size_t row = 0; row < appearanceRows.size(); ++row) {
         const AppearanceRow &items = appearanceRows[row];
         if (items.fontStyle >= 0)
-            styles[size_t(items.fontStyle)] = table[row].fontStyle;
+            styles[static_cast<std::size_t>(items.fontStyle)] = table[row].fontStyle;
         if (items.foreground >= 0)
-            colours[size_t(items.foreground)] = table[row].foreground;
+            colours[static_cast<std::size_t>(items.foreground)] = table[row].foreground;
         if (items.background >= 0)
-            colours[size_t(items.background)] = table[row].background;
+            colours[static_cast<std::size_t>(items.background)] = table[row].background;
     }
     for (int item = 0; item < fontStyleTotal; ++item)
-        editor.setFontStyle(item, styles[size_t(item)]);
+        editor.setFontStyle(item, styles[static_cast<std::size_t>(item)]);
     for (int item = 0; item < colourItemTotal; ++item)
-        editor.setColor(item, quint32(colours[size_t(item)]));
+        editor.setColor(item, static_cast<quint32>(colours[static_cast<std::size_t>(item)]));
 }
 
 } // namespace zephira

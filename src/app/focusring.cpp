@@ -31,10 +31,12 @@ void FocusRing::walk(bool backward)
     const QWidget *focus = QApplication::focusWidget();
     const auto here = std::ranges::find_if(
         m_parts, [focus](const Part &part) { return focus && (part.area == focus || part.area->isAncestorOf(focus)); });
-    const size_t count = m_parts.size();
+    const std::size_t count = m_parts.size();
     // If no part has the focus, start at an end.
-    size_t at = here != m_parts.end() ? static_cast<size_t>(here - m_parts.begin()) : backward ? 0 : count - 1;
-    for (size_t tries = 0; tries < count; ++tries) {
+    std::size_t at = here != m_parts.end() ? static_cast<std::size_t>(here - m_parts.begin())
+        : backward                         ? 0
+                                           : count - 1;
+    for (std::size_t tries = 0; tries < count; ++tries) {
         at = (at + (backward ? count - 1 : 1)) % count;
         const Part &part = m_parts[at];
         QWidget *control = part.area->isVisible() ? firstControl(*part.area) : nullptr;

@@ -296,7 +296,7 @@ void frmmain::languageSet(int row)
 {
     if (row < 0 || row >= languageCount)
         return;
-    const LanguageRow &language = languageRows()[size_t(row)];
+    const LanguageRow &language = languageRows()[static_cast<std::size_t>(row)];
     m_formattingBar->setMet(Need::Markup, language.markupTools);
     // In visual mode the menu stays disabled, because it inserts into the source.
     m_menus->setMet(Need::Markup, language.markupTools && !m_designer.isShowing());

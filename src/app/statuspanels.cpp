@@ -57,7 +57,7 @@ protected:
 
 StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar), m_bar(bar), m_clock(clock)
 {
-    for (size_t i = 0; i < statusPanels.size(); ++i) {
+    for (std::size_t i = 0; i < statusPanels.size(); ++i) {
         const StatusPanel &row = statusPanels[i];
         const QString text = QStringView(row.text).toString();
         QLabel *label = row.stretch ? new PathLabel(text, &bar) : new QLabel(text, &bar);
@@ -81,12 +81,12 @@ StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar),
 
 QString StatusPanels::text(int panel) const
 {
-    return m_panels[size_t(panel - 1)]->text();
+    return m_panels[static_cast<std::size_t>(panel - 1)]->text();
 }
 
 void StatusPanels::setText(int panel, const QString &text)
 {
-    QLabel *label = m_panels[size_t(panel - 1)];
+    QLabel *label = m_panels[static_cast<std::size_t>(panel - 1)];
     label->setText(text);
     if (panel == FileName)
         label->setToolTip(text);
@@ -94,7 +94,7 @@ void StatusPanels::setText(int panel, const QString &text)
 
 void StatusPanels::setLit(int panel, bool lit)
 {
-    m_panels[size_t(panel - 1)]->setEnabled(lit);
+    m_panels[static_cast<std::size_t>(panel - 1)]->setEnabled(lit);
 }
 
 void StatusPanels::setUnsaved(bool unsaved)

@@ -51,10 +51,10 @@ void ViewSwitch::selectNext()
 
 void ViewSwitch::selectTab(WorkspaceView view)
 {
-    if (m_parts.tabs.currentIndex() == int(view))
+    if (m_parts.tabs.currentIndex() == static_cast<int>(view))
         m_views.select(view);
     else
-        m_parts.tabs.setCurrentIndex(int(view));
+        m_parts.tabs.setCurrentIndex(static_cast<int>(view));
 }
 
 void ViewSwitch::focusView()

@@ -25,7 +25,7 @@ std::span<const WindowTab> sideTabs()
         {u"c5", u"", u"Custom tab 5", u"#custom5"},
         {u"c6", u"", u"Custom tab 6", u"#custom6"},
     };
-    static_assert(std::size(tabs) == std::size_t(SideTab::Custom6));
+    static_assert(std::size(tabs) == static_cast<std::size_t>(SideTab::Custom6));
     return tabs;
 }
 

@@ -30,13 +30,13 @@ qreal linear(int part)
 {
     static const auto table = [] {
         std::array<qreal, 256> values{};
-        for (size_t i = 0; i < values.size(); ++i) {
+        for (std::size_t i = 0; i < values.size(); ++i) {
             const qreal share = static_cast<qreal>(i) / 255;
             values[i] = share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
         }
         return values;
     }();
-    return table[static_cast<size_t>(part)];
+    return table[static_cast<std::size_t>(part)];
 }
 
 qreal luminance(QRgb colour)

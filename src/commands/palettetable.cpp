@@ -237,7 +237,7 @@ constexpr PaletteToolbar toolbars[] = {
     {u"Scripts", scripts}, {u"CFML", cfml},     {u"ASP", asp},     {u"SSI", ssi},
 };
 
-static_assert(std::size(toolbars) == std::size_t(PaletteTab::Ssi) + 1);
+static_assert(std::size(toolbars) == static_cast<std::size_t>(PaletteTab::Ssi) + 1);
 
 } // namespace
 

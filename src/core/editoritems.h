@@ -111,9 +111,9 @@ constexpr std::array<AppearanceRow, 18> appearanceRows{{
 constexpr std::array<quint32, colourItemTotal> shippedColours = [] {
     std::array<quint32, colourItemTotal> colours{};
     for (const AppearanceRow &row : appearanceRows) {
-        colours[std::size_t(row.foreground)] = row.shippedForeground;
+        colours[static_cast<std::size_t>(row.foreground)] = row.shippedForeground;
         if (row.background != noItem)
-            colours[std::size_t(row.background)] = row.shippedBackground;
+            colours[static_cast<std::size_t>(row.background)] = row.shippedBackground;
     }
     return colours;
 }();

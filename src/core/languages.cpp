@@ -126,7 +126,7 @@ const std::array<LanguageRow, languageCount> &languageRows()
 
 const LanguageRow *languageRow(int row)
 {
-    return row >= 0 && row < languageCount ? &languageRows()[size_t(row)] : nullptr;
+    return row >= 0 && row < languageCount ? &languageRows()[static_cast<std::size_t>(row)] : nullptr;
 }
 
 bool linksImages(const QString &text)

@@ -13,7 +13,7 @@ namespace zephira {
 
 namespace {
 
-constexpr int customTabCount = int(Setting::LastCustomTab) - int(Setting::FirstCustomTab) + 1;
+constexpr int customTabCount = static_cast<int>(Setting::LastCustomTab) - static_cast<int>(Setting::FirstCustomTab) + 1;
 constexpr int partsOfColour = 3;
 
 Setting behind(Setting first, int places)
@@ -34,13 +34,13 @@ void addCustomTabs(std::vector<SettingRow> &rows)
 void addColours(std::vector<SettingRow> &rows)
 {
     for (int row = 0; row < std::ssize(appearanceRows); ++row) {
-        const AppearanceRow &shipped = appearanceRows[size_t(row)];
+        const AppearanceRow &shipped = appearanceRows[static_cast<std::size_t>(row)];
         const auto add = [&](ColourPart part, QStringView end, SettingKind kind, int value) {
             rows.push_back({colourSetting(row, part), u"Colors"_s, u"clr%1%2"_s.arg(row).arg(end), kind,
                             SettingApplies::InEditor, QString::number(value), true});
         };
-        add(ColourPart::Background, u"bg", SettingKind::Colour, qint32(shipped.shippedBackground));
-        add(ColourPart::Foreground, u"fr", SettingKind::Colour, qint32(shipped.shippedForeground));
+        add(ColourPart::Background, u"bg", SettingKind::Colour, static_cast<qint32>(shipped.shippedBackground));
+        add(ColourPart::Foreground, u"fr", SettingKind::Colour, static_cast<qint32>(shipped.shippedForeground));
         add(ColourPart::FontStyle, u"fnt", SettingKind::FontStyle, shipped.shippedFontStyle);
     }
 }
@@ -111,7 +111,7 @@ const std::vector<SettingRow> &settingRows()
 
 const SettingRow &settingRow(Setting setting)
 {
-    return settingRows().at(static_cast<size_t>(setting));
+    return settingRows().at(static_cast<std::size_t>(setting));
 }
 
 Setting customTabSetting(int tab)
@@ -164,7 +164,7 @@ const std::vector<UserSettingRow> &userSettingRows()
 
 const UserSettingRow &userSettingRow(UserSetting setting)
 {
-    return userSettingRows().at(static_cast<size_t>(setting));
+    return userSettingRows().at(static_cast<std::size_t>(setting));
 }
 
 } // namespace zephira

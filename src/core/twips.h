@@ -17,7 +17,7 @@ constexpr int toTwips(int pixels)
 /// The nearest number of whole pixels.
 constexpr int toPixels(int twips)
 {
-    return qRound(twips / double(twipsPerPixel));
+    return qRound(twips / static_cast<double>(twipsPerPixel));
 }
 
 } // namespace zephira

@@ -37,8 +37,7 @@ std::optional<quint64> prefixedNumber(QStringView text)
     const QChar kind = text[1].toLower();
     const int base = kind == u'h' ? 16 : kind == u'o' ? 8 : 0;
     const QStringView digits = text.sliced(2);
-    const bool plain =
-        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c < QChar(128) && c.isLetterOrNumber(); });
+    const bool plain = std::ranges::all_of(digits, [](QChar c) { return c < QChar(128) && c.isLetterOrNumber(); });
     bool ok = false;
     const quint64 value = base != 0 && plain ? digits.toULongLong(&ok, base) : 0;
     return ok ? std::optional(value) : std::nullopt;
@@ -48,7 +47,7 @@ double decimalNumber(QStringView text)
 {
     // toDouble() would accept "inf" and "nan", which aren't numbers here. "D" marks an exponent like "E".
     constexpr QStringView allowed = u"0123456789+-.eEdD";
-    const bool plain = std::all_of(text.begin(), text.end(), [&](QChar c) { return allowed.contains(c); });
+    const bool plain = std::ranges::all_of(text, [&](QChar c) { return allowed.contains(c); });
     bool ok = false;
     const double value =
         plain ? text.toString().replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive).toDouble(&ok) : 0;
@@ -128,20 +127,20 @@ qsizetype InStrRev(const QString &text, const QString &find, qsizetype start, Qt
 QString LCase(const QString &text)
 {
     QString lower = text;
-    std::transform(lower.cbegin(), lower.cend(), lower.begin(), [](QChar c) { return c.toLower(); });
+    std::ranges::transform(lower, lower.begin(), [](QChar c) { return c.toLower(); });
     return lower;
 }
 
 QString UCase(const QString &text)
 {
     QString upper = text;
-    std::transform(upper.cbegin(), upper.cend(), upper.begin(), [](QChar c) { return c.toUpper(); });
+    std::ranges::transform(upper, upper.begin(), [](QChar c) { return c.toUpper(); });
     return upper;
 }
 
 QString LTrim(const QString &text)
 {
-    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c != u' '; });
+    const auto first = std::ranges::find_if(text, [](QChar c) { return c != u' '; });
     return text.sliced(first - text.begin());
 }
 

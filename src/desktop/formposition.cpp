@@ -104,7 +104,7 @@ QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens)
         return wanted;
     QRect place(wanted.topLeft(), wanted.size().boundedTo(all.size()).expandedTo(grip));
     const QRect upperEdge(place.topLeft(), QSize(place.width(), grip.height()));
-    const bool reachable = std::any_of(screens.begin(), screens.end(), [&](const QRect &screen) {
+    const bool reachable = std::ranges::any_of(screens, [&](const QRect &screen) {
         const QRect shown = screen & upperEdge;
         return shown.width() >= grip.width() && shown.height() >= grip.height() / 2;
     });

@@ -3,10 +3,10 @@
 
 #include <QGuiApplication>
 
-#include <xcb/xcb.h>
-
 #include <cstdlib>
 #include <memory>
+
+#include <xcb/xcb.h>
 
 namespace zephira {
 

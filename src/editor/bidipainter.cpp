@@ -43,7 +43,7 @@ QColor styleColour(const SciEngine &engine, unsigned int message, int style)
 
 void BidiPainter::learn(QByteArrayView utf8)
 {
-    const size_t before = m_known.size();
+    const std::size_t before = m_known.size();
     forEachRightToLeft(utf8, [&](char32_t code, QByteArrayView bytes) {
         if (m_known.insert(code).second)
             setCell(code, bytes.toByteArray());
@@ -113,8 +113,8 @@ std::vector<BidiPainter::Piece> BidiPainter::piecesOf(qsizetype line, qsizetype 
     forEachRightToLeft(text, [&](char32_t, QByteArrayView) { any = true; });
     if (!any)
         return pieces;
-    std::vector<unsigned char> styles(static_cast<size_t>(text.size()));
-    for (size_t i = 0; i < styles.size(); ++i)
+    std::vector<unsigned char> styles(static_cast<std::size_t>(text.size()));
+    for (std::size_t i = 0; i < styles.size(); ++i)
         styles[i] = static_cast<unsigned char>(m_engine.styleAt(start + static_cast<qsizetype>(i)));
     for (BidiStretch stretch : bidiStretches(text, styles)) {
         stretch.start += start;

@@ -108,7 +108,7 @@ std::vector<BidiStretch> bidiStretches(QByteArrayView line, std::span<const unsi
     };
     for (qsizetype i = 0; i < line.size();) {
         const Character c = characterAt(line, i);
-        const int style = styles[static_cast<size_t>(i)];
+        const int style = styles[static_cast<std::size_t>(i)];
         if (open && (style != open->style || i - open->start >= longestStretch))
             close();
         if (open) {

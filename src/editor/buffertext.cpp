@@ -59,7 +59,7 @@ LineEnds mostFrequentLineEnd(QByteArrayView utf8)
         else if (utf8[i] == '\r')
             ++counts[2];
     }
-    return kinds[static_cast<size_t>(std::ranges::max_element(counts) - counts.begin())];
+    return kinds[static_cast<std::size_t>(std::ranges::max_element(counts) - counts.begin())];
 }
 
 qsizetype utf16Length(QByteArrayView utf8)
@@ -76,11 +76,12 @@ qsizetype utf16Length(QByteArrayView utf8)
         std::array<quint8, lanes> sums{};
         for (qsizetype row = 0; row < rows; ++row, byte += lanes) {
             for (qsizetype lane = 0; lane < lanes; ++lane) {
-                sums[size_t(lane)] = quint8(sums[size_t(lane)] + int(startsCharacter(byte[lane]))
-                                            + int(startsSurrogatePair(byte[lane])));
+                sums[static_cast<std::size_t>(lane)] = static_cast<quint8>(
+                    sums[static_cast<std::size_t>(lane)] + static_cast<int>(startsCharacter(byte[lane]))
+                    + static_cast<int>(startsSurrogatePair(byte[lane])));
             }
         }
-        units += std::accumulate(sums.begin(), sums.end(), qsizetype(0));
+        units += std::accumulate(sums.begin(), sums.end(), static_cast<qsizetype>(0));
     }
     return units + std::count_if(byte, end, startsCharacter) + std::count_if(byte, end, startsSurrogatePair);
 }

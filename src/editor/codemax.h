@@ -4,13 +4,12 @@
 #include "core/editingcontrol.h"
 #include "editor/accessiblenews.h"
 #include "editor/editoroptions.h"
+#include "editor/qsci.h"
 #include "editor/sciengine.h"
 #include "editor/typingrules.h"
 #include "editor/undoableformat.h"
 #include "files/documentfile.h"
 #include "files/textfile.h"
-
-#include "editor/qsci.h"
 
 #include <QFont>
 #include <QPointer>

@@ -127,7 +127,7 @@ void CodeMax::replaceSelections(const std::function<QString(const QString &)> &m
         }
         m_engine.send(SCI_ENDUNDOACTION);
         m_engine.send(SCI_SETEMPTYSELECTION, carets.front());
-        for (size_t i = 1; i < carets.size(); ++i)
+        for (std::size_t i = 1; i < carets.size(); ++i)
             m_engine.send(SCI_ADDSELECTION, carets[i], carets[i]);
         m_engine.send(SCI_SCROLLCARET);
         m_engine.send(SCI_CHOOSECARETX);

@@ -50,9 +50,9 @@ EditorAppearance::EditorAppearance(SciEngine engine) : m_engine(engine)
 
 void EditorAppearance::setColour(int item, quint32 colour)
 {
-    if (!isItem(item) || m_looks.colours[static_cast<size_t>(item)] == colour)
+    if (!isItem(item) || m_looks.colours[static_cast<std::size_t>(item)] == colour)
         return;
-    m_looks.colours[static_cast<size_t>(item)] = colour;
+    m_looks.colours[static_cast<std::size_t>(item)] = colour;
     if (m_dark == isDark())
         applyColour(item);
     else
@@ -61,20 +61,20 @@ void EditorAppearance::setColour(int item, quint32 colour)
 
 quint32 EditorAppearance::colour(int item) const
 {
-    return isItem(item) ? m_looks.colours[static_cast<size_t>(item)] : 0;
+    return isItem(item) ? m_looks.colours[static_cast<std::size_t>(item)] : 0;
 }
 
 void EditorAppearance::setFontStyle(int item, int style)
 {
-    if (!isStyle(item) || m_looks.styles[static_cast<size_t>(item)] == style)
+    if (!isStyle(item) || m_looks.styles[static_cast<std::size_t>(item)] == style)
         return;
-    m_looks.styles[static_cast<size_t>(item)] = style;
+    m_looks.styles[static_cast<std::size_t>(item)] = style;
     applyStyle(item);
 }
 
 int EditorAppearance::fontStyle(int item) const
 {
-    return isStyle(item) ? m_looks.styles[static_cast<size_t>(item)] : 0;
+    return isStyle(item) ? m_looks.styles[static_cast<std::size_t>(item)] : 0;
 }
 
 void EditorAppearance::setFont(const FontChoice &font)
@@ -103,7 +103,7 @@ void EditorAppearance::showStyles()
 /// the colour of the text or the window, because then the other colours are meant to fit these.
 bool EditorAppearance::isDark() const
 {
-    const auto isShipped = [this](int item) { return colour(item) == shippedColours[static_cast<size_t>(item)]; };
+    const auto isShipped = [this](int item) { return colour(item) == shippedColours[static_cast<std::size_t>(item)]; };
     const QColor paper = m_engine.view().palette().color(QPalette::Active, QPalette::Base);
     return !m_onPaper && paper.lightness() < 128 && isShipped(WindowColour) && isShipped(TextFore);
 }
@@ -118,7 +118,7 @@ void EditorAppearance::setOnPaper(bool on)
 /// The colour of an item under the current desktop palette.
 quint32 EditorAppearance::current(int item) const
 {
-    const auto index = static_cast<size_t>(item);
+    const auto index = static_cast<std::size_t>(item);
     const quint32 chosen = m_looks.colours[index];
     return m_dark && chosen == shippedColours[index] ? colourItemTable[index].dark : chosen;
 }
@@ -157,9 +157,9 @@ void EditorAppearance::applyFont()
 
 void EditorAppearance::applyStyle(int item)
 {
-    const int engineStyle = fontStyleTable[static_cast<size_t>(item)];
+    const int engineStyle = fontStyleTable[static_cast<std::size_t>(item)];
     const bool isSeen = m_showsStyles || item == TextFont || item == LineNumberFont;
-    const int style = isSeen ? m_looks.styles[static_cast<size_t>(item)] : NormalStyle;
+    const int style = isSeen ? m_looks.styles[static_cast<std::size_t>(item)] : NormalStyle;
     // Line numbers don't take bold, italic or underline from the text's font.
     const bool text = engineStyle != lineNumberStyle;
     setStyle(Sci::SCI_STYLESETBOLD, engineStyle, (text && m_looks.font.bold) || style & BoldStyle);
@@ -177,7 +177,7 @@ void EditorAppearance::setStyle(unsigned int message, int style, qsizetype value
 
 void EditorAppearance::applyColour(int item)
 {
-    const auto [name, target, index, dark] = colourItemTable[static_cast<size_t>(item)];
+    const auto [name, target, index, dark] = colourItemTable[static_cast<std::size_t>(item)];
     const int plain = engineColour(shown(item));
     switch (target) {
     case ColourTarget::Window:

@@ -90,7 +90,7 @@ void EditorMargins::updateWidths()
             m_engine.send(Sci::SCI_SETMARGINWIDTHN, margin, width);
     };
     const auto lineHeight = m_engine.send(Sci::SCI_TEXTHEIGHT, 0);
-    const auto digits = std::max<size_t>(std::to_string(m_engine.lineCount()).size(), fewestDigits);
+    const auto digits = std::max<std::size_t>(std::to_string(m_engine.lineCount()).size(), fewestDigits);
     const std::string widest = "_" + std::string(digits, '9');
     setWidth(Bookmarks, m_leftMargin ? lineHeight : 0);
     setWidth(LineNumbers,

@@ -38,14 +38,14 @@ class WithoutMarks
 public:
     explicit WithoutMarks(const SciEngine &engine) : m_engine(engine)
     {
-        for (size_t i = 0; i < marks.size(); ++i) {
+        for (std::size_t i = 0; i < marks.size(); ++i) {
             m_styles[i] = engine.send(Sci::SCI_INDICGETSTYLE, marks[i]);
             engine.send(Sci::SCI_INDICSETSTYLE, marks[i], Sci::INDIC_HIDDEN);
         }
     }
     ~WithoutMarks()
     {
-        for (size_t i = 0; i < marks.size(); ++i)
+        for (std::size_t i = 0; i < marks.size(); ++i)
             m_engine.send(Sci::SCI_INDICSETSTYLE, marks[i], m_styles[i]);
     }
     Q_DISABLE_COPY_MOVE(WithoutMarks)

@@ -13,7 +13,7 @@ namespace {
 using Sci = QsciScintillaBase;
 
 /// Up to this many replacements are made one by one, which keeps the bookmarks between them in place.
-constexpr size_t fewReplacements = 1000;
+constexpr std::size_t fewReplacements = 1000;
 
 } // namespace
 
@@ -84,7 +84,7 @@ qsizetype EditorSearch::toOffset(qsizetype position) const
     const SciEngine &engine = m_editor.engine();
     const qsizetype line = engine.lineOf(position);
     const qsizetype end = std::min(position, engine.lineEnd(line));
-    return m_lineStarts[static_cast<size_t>(line)] + utf16Length(engine.bytes(engine.lineStart(line), end));
+    return m_lineStarts[static_cast<std::size_t>(line)] + utf16Length(engine.bytes(engine.lineStart(line), end));
 }
 
 qsizetype EditorSearch::toPosition(qsizetype offset) const
@@ -105,7 +105,7 @@ std::vector<EditorSearch::Range> EditorSearch::toPositions(const std::vector<Tex
         const qsizetype itsLine = next - m_lineStarts.begin() - 1;
         if (itsLine != line) {
             line = itsLine;
-            knownOffset = m_lineStarts[static_cast<size_t>(line)];
+            knownOffset = m_lineStarts[static_cast<std::size_t>(line)];
             knownPosition = engine.lineStart(line);
         }
         knownPosition += byteOffset(engine.bytes(knownPosition, engine.lineEnd(line)), offset - knownOffset);
@@ -220,14 +220,14 @@ SearchOutcome EditorSearch::replaceAll()
     m_editor.perform([&] {
         engine.send(Sci::SCI_BEGINUNDOACTION);
         if (matches.size() <= fewReplacements) {
-            for (size_t i = matches.size(); i-- > 0;)
+            for (std::size_t i = matches.size(); i-- > 0;)
                 m_editor.replaceBytes(ranges[i].first, ranges[i].second,
                                       toBuffer(matches[i].replacement, m_editor.typedLineEnds()));
         } else {
             // Replaced in one piece, with the text between the matches copied: linear in any case.
             QByteArray whole;
             qsizetype done = ranges.front().first;
-            for (size_t i = 0; i < matches.size(); ++i) {
+            for (std::size_t i = 0; i < matches.size(); ++i) {
                 whole += engine.bytes(done, ranges[i].first);
                 whole += toBuffer(matches[i].replacement, m_editor.typedLineEnds());
                 done = ranges[i].second;

@@ -2,7 +2,6 @@
 #include "editor/hotkeys.h"
 
 #include "core/editorcommand.h"
-
 #include "editor/qsci.h"
 
 #include <array>

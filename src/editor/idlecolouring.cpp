@@ -2,7 +2,6 @@
 #include "editor/idlecolouring.h"
 
 #include "editor/longruns.h"
-
 #include "syntax/syntaxstyle.h"
 
 #include <QElapsedTimer>
@@ -146,7 +145,7 @@ void IdleColouring::passOver(qsizetype position)
         const qsizetype size = m_engine.lineStart(line + 1) - start;
         if (size <= longLineBytes)
             continue;
-        m_styles.assign(static_cast<size_t>(size), static_cast<unsigned char>(SyntaxStyle::Text));
+        m_styles.assign(static_cast<std::size_t>(size), static_cast<unsigned char>(SyntaxStyle::Text));
         m_work += size;
         showStyles(start, m_engine.bytes(start, start + size), {});
     }
@@ -216,7 +215,7 @@ IdleColouring::Stretch IdleColouring::nextStretch(qsizetype targetLine, qsizetyp
 IdleColouring::StyledLines IdleColouring::styleStretch(const Stretch &stretch, bool mayStopEarly)
 {
     const auto [line, start, text] = stretch;
-    m_styles.resize(static_cast<size_t>(text.size()));
+    m_styles.resize(static_cast<std::size_t>(text.size()));
     StateCollector::Settled settled;
     if (m_dirty.any() && mayStopEarly) {
         settled = [this, first = line](qsizetype index, LineState state) {
@@ -248,15 +247,15 @@ void IdleColouring::showStyles(qsizetype start, QByteArrayView text, const std::
 /// the text's lines after the first.
 std::span<const unsigned char> IdleColouring::shownStyles(QByteArrayView text, const std::vector<qsizetype> &offsets)
 {
-    const std::span styles = std::span(m_styles).first(static_cast<size_t>(text.size()));
+    const std::span styles = std::span(m_styles).first(static_cast<std::size_t>(text.size()));
     m_brokenStyles.clear();
     qsizetype begin = 0;
     const auto breakLine = [&](qsizetype end) {
         if (end - begin > longLineBytes) {
             if (m_brokenStyles.empty())
                 m_brokenStyles.assign(styles.begin(), styles.end());
-            const std::span line =
-                std::span(m_brokenStyles).subspan(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
+            const std::span line = std::span(m_brokenStyles)
+                                       .subspan(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
             breakLongRuns(text.sliced(begin, end - begin), line);
         }
         begin = end;
@@ -280,14 +279,15 @@ IdleColouring::FoldedLines IdleColouring::foldStretch(const Stretch &stretch, co
     const auto foldLine = [&](qsizetype end) {
         const FoldLine folded = m_language->foldRules().fold(
             stretch.text.sliced(offset, end - offset),
-            std::span(m_styles).subspan(static_cast<size_t>(offset), static_cast<size_t>(end - offset)), fold);
+            std::span(m_styles).subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(end - offset)),
+            fold);
         setFold(line, packedFold(folded, fold.level));
         if (m_lineFolded)
             m_lineFolded(line, folded.level, fold.level);
         offset = end;
         ++line;
     };
-    for (size_t i = 0; i < styled.offsets.size(); ++i) {
+    for (std::size_t i = 0; i < styled.offsets.size(); ++i) {
         foldLine(styled.offsets[i]);
         m_engine.send(Sci::SCI_SETLINESTATE, line, static_cast<int>(styled.states[i]));
     }

@@ -67,17 +67,17 @@ const QTextLayout &LinePages::layoutOf(qsizetype line)
         return *m_layout;
     const qsizetype start = m_engine.lineStart(line);
     const QByteArrayView bytes = m_engine.bytes(start, m_engine.lineEnd(line));
-    std::vector<unsigned char> styles(static_cast<size_t>(bytes.size()));
-    for (size_t i = 0; i < styles.size(); ++i)
+    std::vector<unsigned char> styles(static_cast<std::size_t>(bytes.size()));
+    for (std::size_t i = 0; i < styles.size(); ++i)
         styles[i] = static_cast<unsigned char>(m_engine.styleAt(start + static_cast<qsizetype>(i)));
 
     QString text;
     QList<QTextLayout::FormatRange> formats;
     const auto add = [&](qsizetype from, qsizetype to) {
         while (from < to) {
-            const unsigned char style = styles[static_cast<size_t>(from)];
+            const unsigned char style = styles[static_cast<std::size_t>(from)];
             qsizetype end = from;
-            while (end < to && styles[static_cast<size_t>(end)] == style)
+            while (end < to && styles[static_cast<std::size_t>(end)] == style)
                 ++end;
             const QString run = QString::fromUtf8(bytes.sliced(from, end - from));
             formats.append({static_cast<int>(text.size()), static_cast<int>(run.size()), formatOf(style)});
@@ -159,7 +159,7 @@ void LinePages::paint(int page)
 {
     QRect area(0, 0, m_device.width(), m_device.height());
     m_frame(m_painter, true, area, page);
-    const auto next = static_cast<size_t>(page);
+    const auto next = static_cast<std::size_t>(page);
     const Row end = next < m_starts.size() ? m_starts[next] : Row{m_engine.lineCount(), 0};
     QPointF place(area.left() + m_numberWidth, area.top());
     visitRows(m_starts[next - 1], [&](Row at, const QTextLine &row) {

@@ -11,18 +11,18 @@ namespace {
 
 struct Character {
     char32_t code = 0;
-    size_t size = 1;
+    std::size_t size = 1;
 };
 
-Character characterAt(QByteArrayView text, size_t at)
+Character characterAt(QByteArrayView text, std::size_t at)
 {
-    const auto byte = [&](size_t i) { return static_cast<unsigned char>(text[static_cast<qsizetype>(i)]); };
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[static_cast<qsizetype>(i)]); };
     const unsigned char first = byte(at);
-    const size_t size = first < 0xc0 ? 1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
-    if (size == 1 || at + size > static_cast<size_t>(text.size()))
+    const std::size_t size = first < 0xc0 ? 1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
+    if (size == 1 || at + size > static_cast<std::size_t>(text.size()))
         return {first, 1};
     char32_t code = first & (0x7f >> size);
-    for (size_t i = 1; i < size; ++i)
+    for (std::size_t i = 1; i < size; ++i)
         code = code << 6 | (byte(at + i) & 0x3f);
     return {code, size};
 }
@@ -65,12 +65,12 @@ private:
             return isApart(next) || isIdeograph(next);
         if (isIdeograph(m_before) && isIdeograph(next))
             return true;
-        return m_word >= static_cast<size_t>(longestWord) && m_piece >= 2 && isApart(m_before) && isApart(next);
+        return m_word >= static_cast<std::size_t>(longestWord) && m_piece >= 2 && isApart(m_before) && isApart(next);
     }
 
     char32_t m_before = 0;
-    size_t m_word = 0;  ///< bytes since the last blank
-    size_t m_piece = 0; ///< characters since the last beginning
+    std::size_t m_word = 0;  ///< bytes since the last blank
+    std::size_t m_piece = 0; ///< characters since the last beginning
 };
 
 } // namespace
@@ -80,7 +80,7 @@ void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles)
     unsigned char style = 0;
     bool isTwin = false;
     Pieces pieces;
-    for (size_t i = 0; i < styles.size();) {
+    for (std::size_t i = 0; i < styles.size();) {
         const Character c = characterAt(text, i);
         if (i == 0 || styles[i] != style) {
             style = styles[i];
@@ -90,7 +90,7 @@ void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles)
         } else if (pieces.beginsWith(c)) {
             isTwin = !isTwin;
         }
-        for (const size_t end = std::min(i + c.size, styles.size()); i < end; ++i) {
+        for (const std::size_t end = std::min(i + c.size, styles.size()); i < end; ++i) {
             if (isTwin && styles[i] < twinDistance)
                 styles[i] = static_cast<unsigned char>(styles[i] + twinDistance);
         }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/propertiesdialog.h"
 
-#include "ui_propertiesdialog.h"
-
 #include "editor/codemax.h"
 #include "editor/editorappearance.h"
 #include "editor/editormargins.h"
+#include "ui_propertiesdialog.h"
 #include "widgets/qtvalues.h"
 
 #include <QPainter>
@@ -145,7 +144,7 @@ void PropertiesDialog::reject()
 
 const AppearanceRow &PropertiesDialog::row() const
 {
-    return appearanceRows.at(static_cast<size_t>(std::max(m_ui->lstItems->currentRow(), 0)));
+    return appearanceRows.at(static_cast<std::size_t>(std::max(m_ui->lstItems->currentRow(), 0)));
 }
 
 void PropertiesDialog::fillControls()
@@ -179,7 +178,9 @@ void PropertiesDialog::fillControls()
 void PropertiesDialog::showRow()
 {
     const AppearanceRow &shown = row();
-    const auto colour = [this](int item) { return item < 0 ? 0 : m_draft.looks.colours.at(static_cast<size_t>(item)); };
+    const auto colour = [this](int item) {
+        return item < 0 ? 0 : m_draft.looks.colours.at(static_cast<std::size_t>(item));
+    };
     const bool hasBackground = shown.background >= 0;
     const bool automatic = hasBackground && colour(shown.background) == automaticColour;
     paintSwatch(*m_ui->cmdForeground, colour(shown.foreground), true);
@@ -191,7 +192,7 @@ void PropertiesDialog::showRow()
     const bool hasStyle = shown.fontStyle >= 0;
     m_ui->cboStyle->setEnabled(hasStyle);
     m_ui->lblStyle->setEnabled(hasStyle);
-    const int style = hasStyle ? m_draft.looks.styles.at(static_cast<size_t>(shown.fontStyle)) : 0;
+    const int style = hasStyle ? m_draft.looks.styles.at(static_cast<std::size_t>(shown.fontStyle)) : 0;
     m_ui->cboStyle->setCurrentIndex(m_ui->cboStyle->findData(style));
 }
 
@@ -216,7 +217,7 @@ void PropertiesDialog::chooseColour(int item)
 {
     if (item < 0)
         return;
-    quint32 &colour = m_draft.looks.colours.at(static_cast<size_t>(item));
+    quint32 &colour = m_draft.looks.colours.at(static_cast<std::size_t>(item));
     const auto chosen = m_editor.prompts().colour(colour);
     if (!chosen)
         return;
@@ -230,7 +231,7 @@ void PropertiesDialog::setAutomatic(bool on)
     const int item = row().background;
     if (item < 0)
         return;
-    m_draft.looks.colours.at(static_cast<size_t>(item)) = on ? automaticColour : m_draft.looks.colours[0];
+    m_draft.looks.colours.at(static_cast<std::size_t>(item)) = on ? automaticColour : m_draft.looks.colours[0];
     showRow();
     showPreview();
 }
@@ -239,7 +240,7 @@ void PropertiesDialog::setStyle(int index)
 {
     if (row().fontStyle < 0)
         return;
-    m_draft.looks.styles.at(static_cast<size_t>(row().fontStyle)) = m_ui->cboStyle->itemData(index).toInt();
+    m_draft.looks.styles.at(static_cast<std::size_t>(row().fontStyle)) = m_ui->cboStyle->itemData(index).toInt();
     showPreview();
 }
 

@@ -105,7 +105,7 @@ void TypingRules::breakLines() const
         moved += text.size() - (to - from);
     }
     m_engine.send(Sci::SCI_SETEMPTYSELECTION, after.front());
-    for (size_t i = 1; i < after.size(); ++i)
+    for (std::size_t i = 1; i < after.size(); ++i)
         m_engine.send(Sci::SCI_ADDSELECTION, after[i], after[i]);
     m_engine.send(Sci::SCI_SCROLLCARET);
     m_engine.send(Sci::SCI_CHOOSECARETX);
@@ -168,8 +168,8 @@ void TypingRules::deleteForward() const
 
 std::vector<qsizetype> TypingRules::carets() const
 {
-    std::vector<qsizetype> positions(static_cast<size_t>(m_engine.send(Sci::SCI_GETSELECTIONS)));
-    for (size_t i = 0; i < positions.size(); ++i)
+    std::vector<qsizetype> positions(static_cast<std::size_t>(m_engine.send(Sci::SCI_GETSELECTIONS)));
+    for (std::size_t i = 0; i < positions.size(); ++i)
         positions[i] = m_engine.send(Sci::SCI_GETSELECTIONNCARET, static_cast<qsizetype>(i));
     return positions;
 }
@@ -179,7 +179,7 @@ void TypingRules::settleCarets(const std::vector<qsizetype> &before) const
     if (m_engine.send(Sci::SCI_SELECTIONISRECTANGLE))
         return;
     const std::vector<qsizetype> now = carets();
-    for (size_t i = 0; i < now.size(); ++i) {
+    for (std::size_t i = 0; i < now.size(); ++i) {
         const bool forward = before.size() == now.size() && now[i] > before[i];
         const qsizetype line = m_engine.lineOf(now[i]);
         const qsizetype start = m_engine.lineStart(line);

@@ -43,7 +43,7 @@ void UndoableFormat::changeWasUndone(int number, bool undone)
 {
     if (number < 0 || number >= std::ssize(m_changes))
         return;
-    const Change &change = m_changes[static_cast<size_t>(number)];
+    const Change &change = m_changes[static_cast<std::size_t>(number)];
     m_format = undone ? change.before : change.after;
     applyLineEnds();
 }
@@ -59,7 +59,7 @@ void UndoableFormat::applyLineEnds()
     LineEnds typed = m_format.lineEnds;
     if (typed == LineEnds::Mixed)
         typed = mostFrequentLineEnd(m_engine.bytes(0, m_engine.length()));
-    m_engine.send(Sci::SCI_SETEOLMODE, engineLineEnds.at(static_cast<size_t>(typed)));
+    m_engine.send(Sci::SCI_SETEOLMODE, engineLineEnds.at(static_cast<std::size_t>(typed)));
 }
 
 } // namespace zephira

@@ -9,11 +9,11 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstring>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 

@@ -203,7 +203,7 @@ FileSignature DiskFileStore::signature(const QString &path) const
     if (!name || m_calls.stat(name->constData(), status) != 0)
         return {};
     return {true, status.st_dev, status.st_ino, status.st_size,
-            qint64(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec};
+            static_cast<qint64>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec};
 }
 
 } // namespace zephira

@@ -38,7 +38,7 @@ constexpr std::array reasons{
 
 QString reasonOf(int error)
 {
-    const auto known = std::find_if(reasons.begin(), reasons.end(), [=](const Reason &r) { return r.error == error; });
+    const auto known = std::ranges::find_if(reasons, [=](const Reason &r) { return r.error == error; });
     return known == reasons.end() ? QString::fromLocal8Bit(std::strerror(error)) : known->text.toString();
 }
 

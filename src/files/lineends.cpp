@@ -23,7 +23,7 @@ template<typename Char, typename Stretch, typename LineEnd>
 void walkLines(std::span<const Char> text, Stretch stretch, LineEnd lineEnd)
 {
     while (!text.empty()) {
-        const auto stop = std::find_if(text.begin(), text.end(), [](Char c) { return c == '\r' || c == '\n'; });
+        const auto stop = std::ranges::find_if(text, [](Char c) { return c == '\r' || c == '\n'; });
         const auto length = static_cast<std::size_t>(stop - text.begin());
         stretch(text.first(length));
         text = text.subspan(length);
@@ -43,7 +43,7 @@ Text withLineEnds(std::span<const Char> text, std::span<const Char> replacement)
         text, [&](auto stretch) { size += stretch.size(); }, [&] { size += replacement.size(); });
     Text result(static_cast<qsizetype>(size), Qt::Uninitialized);
     auto *out = reinterpret_cast<Char *>(result.data());
-    const auto put = [&](std::span<const Char> part) { out = std::copy(part.begin(), part.end(), out); };
+    const auto put = [&](std::span<const Char> part) { out = std::ranges::copy(part, out).out; };
     walkLines(text, put, [&] { put(replacement); });
     return result;
 }

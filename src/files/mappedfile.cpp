@@ -20,7 +20,8 @@ std::shared_ptr<const MappedFile> MappedFile::map(int file)
     struct stat status = {};
     void *address = MAP_FAILED;
     if (::fstat(file, &status) == 0 && status.st_size > 0)
-        address = ::mmap(nullptr, size_t(status.st_size), PROT_READ, MAP_PRIVATE | MAP_POPULATE, file, 0);
+        address =
+            ::mmap(nullptr, static_cast<std::size_t>(status.st_size), PROT_READ, MAP_PRIVATE | MAP_POPULATE, file, 0);
     if (address == MAP_FAILED) {
         ::fcntl(file, F_SETLEASE, F_UNLCK);
         return nullptr;
@@ -30,7 +31,7 @@ std::shared_ptr<const MappedFile> MappedFile::map(int file)
 
 MappedFile::~MappedFile()
 {
-    ::munmap(m_address, size_t(m_size));
+    ::munmap(m_address, static_cast<std::size_t>(m_size));
     ::close(m_file); // Also releases the lease.
 }
 

@@ -165,7 +165,7 @@ QByteArray writtenValue(const QString &value)
 /// The line end of the profile's first line.
 QByteArray lineEndOf(QByteArrayView profile)
 {
-    const auto end = std::find_if(profile.begin(), profile.end(), [](char c) { return c == '\r' || c == '\n'; });
+    const auto end = std::ranges::find_if(profile, [](char c) { return c == '\r' || c == '\n'; });
     if (end == profile.end() || (*end == '\r' && end + 1 != profile.end() && end[1] == '\n'))
         return "\r\n";
     return QByteArray(1, *end);

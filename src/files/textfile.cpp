@@ -29,7 +29,7 @@ std::optional<char> toWindows1252(char32_t codePoint)
 {
     if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint < 0x100))
         return static_cast<char>(codePoint);
-    const auto letter = std::find(windowsLetters.begin(), windowsLetters.end(), codePoint);
+    const auto letter = std::ranges::find(windowsLetters, codePoint);
     if (letter == windowsLetters.end())
         return {};
     return static_cast<char>(0x80 + (letter - windowsLetters.begin()));
@@ -123,7 +123,7 @@ Result<QByteArray> encodeWith(QByteArrayView utf8, const TextFormat &format, qsi
 {
     const QByteArrayView mark = byteOrderMark(format);
     QByteArray bytes(mark.size() + largest, Qt::Uninitialized);
-    char *out = std::copy(mark.begin(), mark.end(), bytes.data());
+    char *out = std::ranges::copy(mark, bytes.data()).out;
     Utf8Reader reader(utf8);
     while (!reader.atEnd()) {
         const QByteArrayView rest = reader.rest();
@@ -204,8 +204,7 @@ Result<QByteArray> encodeText(QByteArrayView utf8, const TextFormat &format)
 
 QByteArray windows1252ToUtf8(QByteArrayView bytes)
 {
-    const auto foreign =
-        std::count_if(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    const auto foreign = std::ranges::count_if(bytes, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
     QByteArray utf8(bytes.size() + 2 * foreign, Qt::Uninitialized);
     char *out = utf8.data();
     for (const char c : bytes) {

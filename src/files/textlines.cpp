@@ -16,7 +16,7 @@ QStringList textLines(const QString &text)
     QStringList lines;
     QStringView rest(text);
     while (!rest.isEmpty()) {
-        const auto end = std::find_if(rest.begin(), rest.end(), [](QChar c) { return c == u'\r' || c == u'\n'; });
+        const auto end = std::ranges::find_if(rest, [](QChar c) { return c == u'\r' || c == u'\n'; });
         const qsizetype length = end - rest.begin();
         lines.append(rest.first(length).toString());
         rest = rest.sliced(length);

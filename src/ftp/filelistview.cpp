@@ -155,12 +155,13 @@ void FileListView::prepare(QAbstractItemView &view)
 
 void FileListView::setView(int view)
 {
-    m_view = FileListMode(std::clamp(view, int(FileListMode::LargeIcons), int(FileListMode::Report)));
+    m_view = FileListMode(
+        std::clamp(view, static_cast<int>(FileListMode::LargeIcons), static_cast<int>(FileListMode::Report)));
     m_icons->setVisible(m_view != FileListMode::Report);
     setFocusProxy(m_view == FileListMode::Report ? nullptr : m_icons);
     if (m_view == FileListMode::Report)
         return;
-    const IconLayout &layout = iconLayouts[int(m_view)];
+    const IconLayout &layout = iconLayouts[static_cast<int>(m_view)];
     m_icons->setViewMode(layout.mode);
     m_icons->setFlow(layout.flow);
     m_icons->setMovement(QListView::Static);
@@ -227,7 +228,7 @@ void FileListView::editName()
     const QModelIndex current = currentIndex().siblingAtColumn(FileRowsModel::Name);
     QAbstractItemView &view = shownView();
     view.setFocus();
-    view.edit(cells.contains(current) ? current : *std::min_element(cells.cbegin(), cells.cend()));
+    view.edit(cells.contains(current) ? current : *std::ranges::min_element(cells));
 }
 
 QAbstractItemView &FileListView::shownView() const

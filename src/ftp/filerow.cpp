@@ -7,7 +7,7 @@ namespace zephira {
 
 qint64 totalBytes(const std::vector<FileRow> &rows)
 {
-    return std::accumulate(rows.begin(), rows.end(), qint64(0),
+    return std::accumulate(rows.begin(), rows.end(), static_cast<qint64>(0),
                            [](qint64 sum, const FileRow &row) { return sum + row.bytes.toLongLong(); });
 }
 

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/frmconnect.h"
 
+#include "core/errorstyles.h"
+#include "core/filestore.h"
+#include "core/itemroles.h"
+#include "core/prompts.h"
+#include "core/vbtext.h"
 #include "ftp/filetypes.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpconnection.h"
@@ -8,12 +13,6 @@
 #include "ftp/ftpimages.h"
 #include "ftp/siteprofile.h"
 #include "ui_frmconnect.h"
-
-#include "core/errorstyles.h"
-#include "core/filestore.h"
-#include "core/itemroles.h"
-#include "core/prompts.h"
-#include "core/vbtext.h"
 #include "widgets/themeicon.h"
 
 #include <QKeyEvent>

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/frmmainftp.h"
 
+#include "core/appcontext.h"
+#include "core/clock.h"
+#include "core/errorstyles.h"
+#include "core/formopener.h"
+#include "core/prompts.h"
 #include "ftp/dirlistbox.h"
 #include "ftp/filelistview.h"
 #include "ftp/ftpclient.h"
@@ -9,12 +14,6 @@
 #include "ftp/remotepane.h"
 #include "ftp/sessionlogfile.h"
 #include "ui_frmmainftp.h"
-
-#include "core/appcontext.h"
-#include "core/clock.h"
-#include "core/errorstyles.h"
-#include "core/formopener.h"
-#include "core/prompts.h"
 
 #include <QAction>
 #include <QCloseEvent>

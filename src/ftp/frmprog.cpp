@@ -27,13 +27,13 @@ constexpr quint32 paintInterval = 1000 / 20;
 /// Limits a bar's maximum to what its numbers can hold. It is never 0, which would mean "unknown".
 void setBarMaximum(QProgressBar &bar, double maximum)
 {
-    bar.setRange(0, int(std::clamp(maximum, 1.0, double(std::numeric_limits<int>::max()))));
+    bar.setRange(0, static_cast<int>(std::clamp(maximum, 1.0, static_cast<double>(std::numeric_limits<int>::max()))));
     bar.setValue(0);
 }
 
 void setBarValue(QProgressBar &bar, qint64 value)
 {
-    bar.setValue(int(std::min<qint64>(value, bar.maximum())));
+    bar.setValue(static_cast<int>(std::min<qint64>(value, bar.maximum())));
 }
 
 /// Milliseconds since the machine was started, which wrap around after 49 days. Called about a million times per
@@ -44,7 +44,7 @@ quint32 tickCount()
     constexpr qint64 nanoseconds = 1'000'000;
     timespec now = {};
     clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
-    return quint32(now.tv_sec * perSecond + now.tv_nsec / nanoseconds);
+    return static_cast<quint32>(now.tv_sec * perSecond + now.tv_nsec / nanoseconds);
 }
 
 } // namespace
@@ -103,8 +103,8 @@ void frmProg::cancel()
 void frmProg::beginRun(qint64 total, double barMaximum)
 {
     setBarMaximum(*m_ui->ProgressBar2, barMaximum);
-    m_ui->lbLeft->setText(CStr(double(total) / 1024));
-    m_ui->lbCelkem->setText(Format(double(total), u"### ### ###.##") + u" Kb"_s);
+    m_ui->lbLeft->setText(CStr(static_cast<double>(total) / 1024));
+    m_ui->lbCelkem->setText(Format(static_cast<double>(total), u"### ### ###.##") + u" Kb"_s);
     m_progress.reset();
     repaint();
     m_paintedAt = tickCount();

@@ -66,7 +66,7 @@ std::optional<quint16> extendedPassivePort(const FtpReply &reply)
     if (isDigit(parts.front()) || !parts.startsWith(divider) || !parts.endsWith(parts.front()))
         return {};
     const QByteArray digits = parts.sliced(3, parts.size() - 4);
-    if (!std::all_of(digits.begin(), digits.end(), isDigit))
+    if (!std::ranges::all_of(digits, isDigit))
         return {};
     return validPort(digits.toUInt());
 }
@@ -115,7 +115,7 @@ std::optional<QByteArray> quotedFolder(const FtpReply &reply)
 bool hasFeature(const FtpReply &reply, QByteArrayView feature)
 {
     const QList<QByteArray> lines = reply.text.split('\n');
-    return reply.isSuccess() && std::any_of(lines.begin(), lines.end(), [&](const QByteArray &line) {
+    return reply.isSuccess() && std::ranges::any_of(lines, [&](const QByteArray &line) {
                const QByteArray words = line.trimmed();
                const QByteArrayView word = QByteArrayView(words).first(std::min(words.size(), feature.size()));
                return word.compare(feature, Qt::CaseInsensitive) == 0

@@ -43,7 +43,7 @@ Words wordsOf(QByteArrayView line)
 template<typename Number>
 std::optional<Number> digits(QByteArrayView text)
 {
-    bool ok = !text.isEmpty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    bool ok = !text.isEmpty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
     const qulonglong value = ok ? text.toULongLong(&ok) : 0;
     if (!ok || value > static_cast<qulonglong>(std::numeric_limits<Number>::max()))
         return {};
@@ -207,7 +207,7 @@ std::optional<ListedEntry> readDosLine(QByteArrayView line, const Words &words)
     constexpr qsizetype behindFolder = 10;
     const QByteArrayView rest = line.sliced(words[2].end());
     const auto isBlank = [](char c) { return c == ' '; };
-    const qsizetype blanks = std::find_if_not(rest.begin(), rest.end(), isBlank) - rest.begin();
+    const qsizetype blanks = std::ranges::find_if_not(rest, isBlank) - rest.begin();
     const qsizetype divider = std::min<qsizetype>(blanks, isFolder ? behindFolder : 1);
     return ListedEntry{rest.sliced(divider).toByteArray(), isFolder, false, *size, *time};
 }

@@ -24,13 +24,13 @@ bool isPlainName(std::basic_string_view<Unit> name)
         return (unit >= 0 && unit < 0x20) || unit == 0x7f || unit == '/' || unit == '\\';
     };
     return !name.empty() && name != std::basic_string_view(dots, 1) && name != std::basic_string_view(dots, 2)
-        && std::none_of(name.begin(), name.end(), isForbidden);
+        && std::ranges::none_of(name, isForbidden);
 }
 
 template<typename Unit>
 bool endsNoCommand(std::basic_string_view<Unit> text)
 {
-    return std::none_of(text.begin(), text.end(), [](Unit unit) { return unit == '\r' || unit == '\n' || unit == 0; });
+    return std::ranges::none_of(text, [](Unit unit) { return unit == '\r' || unit == '\n' || unit == 0; });
 }
 
 } // namespace

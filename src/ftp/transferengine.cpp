@@ -58,7 +58,7 @@ public:
 
 private:
     /// In bytes; a multiple of the block, and with the buffer of the connection small enough for the processor's memory.
-    static constexpr qsizetype gatheredSize = 64 * qsizetype(blockSize);
+    static constexpr qsizetype gatheredSize = 64 * static_cast<qsizetype>(blockSize);
 
     void handOn()
     {
@@ -87,7 +87,8 @@ TransferEngine::Outcome TransferEngine::run(const TransferQueue &queue)
     m_progress = {.total = queue.total()};
     m_number = 0;
     m_count = static_cast<int>(queue.files.size());
-    m_displays.progress.beginRun(m_progress.total, double(m_progress.total) * (downloads ? downloadSlack : 1));
+    m_displays.progress.beginRun(m_progress.total,
+                                 static_cast<double>(m_progress.total) * (downloads ? downloadSlack : 1));
     for (const TransferQueue::File &file : queue.files) {
         if (!(this->*move)(file))
             return Outcome::Stopped;
@@ -99,7 +100,7 @@ TransferEngine::Outcome TransferEngine::run(const TransferQueue &queue)
 bool TransferEngine::download(const TransferQueue::File &file)
 {
     beginFile(u"Downloading File: %1 / %2 bytù."_s.arg(file.name, QString::number(file.size)),
-              double(file.size) * downloadSlack);
+              static_cast<double>(file.size) * downloadSlack);
     // The name came from a server: it must not lead out of the folder.
     if (!isSafeRemoteName(file.name))
         return refuse(u"This name can't be used for a file here: %1"_s.arg(file.name));
@@ -154,7 +155,8 @@ Result<void> TransferEngine::store(const QString &path, Received &received)
 
 bool TransferEngine::upload(const TransferQueue::File &file)
 {
-    beginFile(u"Uploading file: %1 / %2 bytes."_s.arg(file.name, QString::number(file.size)), double(file.size));
+    beginFile(u"Uploading file: %1 / %2 bytes."_s.arg(file.name, QString::number(file.size)),
+              static_cast<double>(file.size));
     const QString path = m_client.session.ftpLocalFolder + file.name;
     const QString remote = m_client.session.ftpRemoteFolder + file.name;
     m_displays.log.logSoon(LogEntry::UploadBegun, {path, remote});
@@ -196,7 +198,7 @@ TransferEngine::Sending TransferEngine::send(QFile &local)
         if (local.read(block.data(), size) != size)
             return Sending::Unreadable;
         quint32 count = 0;
-        if (!m_client.operations.InternetWriteFile(m_handle, block.data(), quint32(size), count))
+        if (!m_client.operations.InternetWriteFile(m_handle, block.data(), static_cast<quint32>(size), count))
             return Sending::Refused;
         sent += size;
         countBlock(size);
@@ -227,7 +229,7 @@ bool TransferEngine::open(const QString &remote, quint32 access)
 void TransferEngine::countBlock(qint64 bytes)
 {
     // The difference is correct even if the ticks wrapped around meanwhile.
-    m_progress.addBlock(bytes, qint32(m_ticks() - m_startTicks));
+    m_progress.addBlock(bytes, static_cast<qint32>(m_ticks() - m_startTicks));
     m_displays.progress.moved(m_progress);
 }
 

@@ -17,7 +17,7 @@ constexpr QStringView rateMask = u"#.##";
 
 void TransferProgress::endFile()
 {
-    carried = CLng(double(elapsed) / 1000);
+    carried = CLng(static_cast<double>(elapsed) / 1000);
 }
 
 void TransferProgress::addBlock(qint64 bytes, qint32 milliseconds)
@@ -29,19 +29,20 @@ void TransferProgress::addBlock(qint64 bytes, qint32 milliseconds)
     elapsed = milliseconds;
     if (elapsed < 1)
         return;
-    rate = float((double(doneFile) / 1000 / (double(elapsed) / 1000) + double(rate)) / 2);
-    timing = {double(elapsed) / 1000 + carried, rate, kilobytesLeft() / double(rate)};
+    rate = static_cast<float>(
+        (static_cast<double>(doneFile) / 1000 / (static_cast<double>(elapsed) / 1000) + static_cast<double>(rate)) / 2);
+    timing = {static_cast<double>(elapsed) / 1000 + carried, rate, kilobytesLeft() / static_cast<double>(rate)};
     isTimed = true;
 }
 
 double TransferProgress::kilobytesLeft() const
 {
-    return double(total) / 1000 - double(doneAll) / 1024;
+    return static_cast<double>(total) / 1000 - static_cast<double>(doneAll) / 1024;
 }
 
 QString TransferProgress::movedText() const
 {
-    return Format(double(doneAll) / 1024, kilobytesMask) + u" Kb"_s;
+    return Format(static_cast<double>(doneAll) / 1024, kilobytesMask) + u" Kb"_s;
 }
 
 QString TransferProgress::leftText() const
@@ -56,7 +57,7 @@ QString TransferProgress::timeText() const
 
 QString TransferProgress::rateText() const
 {
-    return Format(double(timing.rate), rateMask) + u" Kbps"_s;
+    return Format(static_cast<double>(timing.rate), rateMask) + u" Kbps"_s;
 }
 
 QString TransferProgress::timeLeftText() const

@@ -9,7 +9,7 @@ namespace zephira {
 
 qint64 TransferQueue::total() const
 {
-    return std::accumulate(files.begin(), files.end(), qint64(0),
+    return std::accumulate(files.begin(), files.end(), static_cast<qint64>(0),
                            [](qint64 sum, const File &file) { return sum + file.size; });
 }
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/registerforms.h"
 
-#include "panes/oebrowser.h"
-
 #include "core/formcatalogue.h"
+#include "panes/oebrowser.h"
 
 using namespace Qt::StringLiterals;
 

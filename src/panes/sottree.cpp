@@ -11,7 +11,7 @@ SotTree parseSotTree(const QStringList &lines)
     // The last node of each depth. There are no gaps between depths, because a node is only accepted with its parent.
     std::vector<qsizetype> lastAt;
     for (const QString &line : lines) {
-        const auto text = std::find_if(line.begin(), line.end(), [](QChar c) { return c != u'\t'; });
+        const auto text = std::ranges::find_if(line, [](QChar c) { return c != u'\t'; });
         const auto depth = static_cast<std::size_t>(text - line.begin());
         const auto node = static_cast<qsizetype>(tree.nodes.size());
         if (depth > lastAt.size()) {

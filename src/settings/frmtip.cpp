@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/frmtip.h"
 
-#include "settings/tips.h"
-#include "ui_frmtip.h"
-
 #include "core/filestore.h"
 #include "core/usersettings.h"
 #include "files/textfile.h"
+#include "settings/tips.h"
+#include "ui_frmtip.h"
 
 #include <QPushButton>
 #include <QRandomGenerator>

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/registerforms.h"
 
+#include "core/formcatalogue.h"
 #include "settings/frmabout.h"
 #include "settings/frmtip.h"
-
-#include "core/formcatalogue.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "start/registerforms.h"
 
-#include "start/frmselprj.h"
-
 #include "core/formcatalogue.h"
+#include "start/frmselprj.h"
 
 using namespace Qt::StringLiterals;
 

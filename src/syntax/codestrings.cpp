@@ -192,7 +192,7 @@ void ProceduralLexer::paintHereDocument(Walk &walk) const
 bool ProceduralLexer::openRawString(Walk &walk, const Byte *quote) const
 {
     const QByteArrayView prefix(reinterpret_cast<const char *>(walk.p), quote - walk.p);
-    if (std::find(std::begin(rawPrefixes), std::end(rawPrefixes), prefix) == std::end(rawPrefixes))
+    if (std::ranges::find(rawPrefixes, prefix) == std::end(rawPrefixes))
         return false;
     const Byte *last = std::min(walk.end, quote + 1 + longestRawDelimiter + 1);
     const Byte *q = std::find_if_not(quote + 1, last, isRawDelimiter);

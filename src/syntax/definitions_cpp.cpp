@@ -26,7 +26,7 @@ __FILE__ __LINE__ __DATE__ __TIME__ __cplusplus
 constexpr QStringView types = uR"(
 FILE NULL clock_t errno_t fpos_t int8_t int16_t int32_t int64_t int_fast8_t int_fast16_t int_fast32_t int_fast64_t
 int_least8_t int_least16_t int_least32_t int_least64_t intmax_t intptr_t max_align_t nullptr_t off_t pid_t ptrdiff_t
-sig_atomic_t size_t ssize_t time_t uint8_t uint16_t uint32_t uint64_t uint_fast8_t uint_fast16_t uint_fast32_t
+sig_atomic_t std::size_t ssize_t time_t uint8_t uint16_t uint32_t uint64_t uint_fast8_t uint_fast16_t uint_fast32_t
 uint_fast64_t uint_least8_t uint_least16_t uint_least32_t uint_least64_t uintmax_t uintptr_t va_list wint_t
 any array atomic basic_string bitset byte chrono complex condition_variable deque error_code exception forward_list
 fstream function future ifstream initializer_list iostream istream istringstream jthread list lock_guard map monostate

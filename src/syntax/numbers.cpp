@@ -39,7 +39,7 @@ bool isFraction(const Byte *point, const Byte *end)
 /// The words of a date: "AM", "PM", and month names, full or abbreviated.
 bool isDateWord(const Byte *p, const Byte *end)
 {
-    return std::any_of(std::begin(dateWords), std::end(dateWords), [p, end](std::string_view word) {
+    return std::ranges::any_of(dateWords, [p, end](std::string_view word) {
         return end - p >= static_cast<std::ptrdiff_t>(word.size()) && (word.size() == 3 || end - p == 2)
             && std::equal(word.begin(), word.end(), p, [](char own, Byte other) { return own == (other | 32); });
     });

@@ -100,16 +100,14 @@ void ProceduralLexer::addWords(const QString &list, TokenKind kind)
 
 void ProceduralLexer::addEntry(const QByteArray &entry, TokenKind kind, std::size_t index)
 {
-    const bool word =
-        std::all_of(entry.begin(), entry.end(), [this](char c) { return m_isWord[static_cast<Byte>(c)]; });
+    const bool word = std::ranges::all_of(entry, [this](char c) { return m_isWord[static_cast<Byte>(c)]; });
     if (word && kind != TokenKind::LongComment && kind != TokenKind::String)
         m_words.add(entry, static_cast<Byte>(kind));
     else
         m_symbols.add({entry, kind, static_cast<quint16>(index)});
     if (has(m_dialect, Dialect::Preprocessor) && entry.startsWith('#') && entry.size() > 1) {
         const QByteArray name = entry.sliced(1);
-        const bool file =
-            std::find(std::begin(fileDirectives), std::end(fileDirectives), name) != std::end(fileDirectives);
+        const bool file = std::ranges::find(fileDirectives, name) != std::end(fileDirectives);
         m_directives.add(name, file ? NamesFile : Plain);
     }
 }
@@ -249,8 +247,8 @@ void ProceduralLexer::paintWord(Walk &walk) const
         return paintSymbol(walk);
 
     const TokenKind kind = static_cast<TokenKind>(found & ~beginsEntry);
-    walk.operandBefore = kind != TokenKind::Keyword
-        || std::find(std::begin(valueKeywords), std::end(valueKeywords), word) != std::end(valueKeywords);
+    walk.operandBefore =
+        kind != TokenKind::Keyword || std::ranges::find(valueKeywords, word) != std::end(valueKeywords);
     if (kind == TokenKind::None) {
         if (has(m_dialect, Dialect::RawStrings) && q < walk.end && *q == '"' && openRawString(walk, q))
             return;

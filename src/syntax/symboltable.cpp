@@ -41,7 +41,7 @@ void SymbolTable::add(Symbol symbol)
 void SymbolTable::finish(const std::array<bool, 256> &isWord)
 {
     m_isWord = isWord;
-    std::stable_sort(m_symbols.begin(), m_symbols.end(), [](const Symbol &a, const Symbol &b) {
+    std::ranges::stable_sort(m_symbols, [](const Symbol &a, const Symbol &b) {
         if (firstOf(a) != firstOf(b))
             return firstOf(a) < firstOf(b);
         return a.size() != b.size() ? a.size() > b.size() : a.kind < b.kind;

@@ -38,7 +38,7 @@ Byte TagLexer::Names::find(const Byte *begin, const Byte *end, quint32 hash) con
     if (found != 0 || all)
         return std::max<Byte>(found, knownName);
     const bool fold = words.step(0, 'A') != 'A';
-    const bool begins = std::any_of(beginnings.begin(), beginnings.end(), [=](const QByteArray &beginning) {
+    const bool begins = std::ranges::any_of(beginnings, [=](const QByteArray &beginning) {
         return end - begin > beginning.size()
             && std::equal(beginning.begin(), beginning.end(), begin, [fold](char own, Byte other) {
                    return static_cast<Byte>(own) == (fold && isLetter(other) ? (other | 32) : other);

@@ -68,7 +68,7 @@ Code scriptCode(QByteArrayView value)
 
 bool isServerDirective(QByteArrayView word)
 {
-    return std::any_of(std::begin(serverDirectives), std::end(serverDirectives), [word](QByteArrayView directive) {
+    return std::ranges::any_of(serverDirectives, [word](QByteArrayView directive) {
         return word.size() == directive.size() && findFolded(word, directive) == 0;
     });
 }

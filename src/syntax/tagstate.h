@@ -71,7 +71,7 @@ struct TagState {
                 | quint32{namesLanguage} << 5;
         if (mode != Mode::Block)
             inner |= quint32{inSubset} << 10;
-        const auto serverIndex = std::find(std::begin(servers), std::end(servers), server) - std::begin(servers);
+        const auto serverIndex = std::ranges::find(servers, server) - std::begin(servers);
         return static_cast<quint32>(mode) | static_cast<quint32>(code) << 4 | inner << 7
             | static_cast<quint32>(serverIndex) << 18 | (serverDetail & detailMask) << 20 | quint32{serverScript} << 31;
     }

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/frmqv.h"
 
+#include "core/editingcontrol.h"
+#include "core/errorstyles.h"
+#include "core/prompts.h"
 #include "ui_frmqv.h"
 #include "views/picturefile.h"
 #include "views/quickviewrules.h"
 #include "widgets/tipwithkeys.h"
-
-#include "core/editingcontrol.h"
-#include "core/errorstyles.h"
-#include "core/prompts.h"
 
 #include <QAction>
 #include <QFileInfo>

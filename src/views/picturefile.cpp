@@ -30,7 +30,7 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
     reader.setAutoTransform(true);
 
     const QSize size = reader.size();
-    if (size.isValid() && qint64(size.width()) * size.height() > maximumPicturePixels) {
+    if (size.isValid() && static_cast<qint64>(size.width()) * size.height() > maximumPicturePixels) {
         return Error{Error::Code::TooLarge,
                      u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(
                          path, QString::number(size.width()), QString::number(size.height()))};

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/registerforms.h"
 
+#include "core/formcatalogue.h"
 #include "views/frmqv.h"
 #include "views/frmwebdisp.h"
 #include "views/inserthtmldlg.h"
 #include "views/inserttabledlg.h"
-
-#include "core/formcatalogue.h"
 
 using namespace Qt::StringLiterals;
 

@@ -32,7 +32,7 @@ QByteArray pixelsOf(const QPixmap &picture)
 QPixmap pictureOf(QSize size, const QByteArray &pixels)
 {
     if (size.width() <= 0 || size.height() <= 0 || size.width() > largestSide || size.height() > largestSide
-        || pixels.size() != qsizetype(4) * size.width() * size.height())
+        || pixels.size() != static_cast<qsizetype>(4) * size.width() * size.height())
         return {};
     // The image refers to the bytes, so the picture needs a copy of it.
     const QImage image(reinterpret_cast<const uchar *>(pixels.constData()), size.width(), size.height(),

@@ -38,7 +38,7 @@ private:
         qreal scale = 1;
 
         friend bool operator==(const Key &, const Key &) = default;
-        friend size_t qHash(const Key &key, size_t seed)
+        friend std::size_t qHash(const Key &key, std::size_t seed)
         {
             return qHashMulti(seed, key.icon, key.size.width(), key.size.height(), key.scale);
         }

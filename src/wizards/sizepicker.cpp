@@ -21,9 +21,9 @@ int pixelsOf(int twips, const QWidget &widget)
 }
 
 /// 0-based index of the square at a row and a column, which count from 1.
-size_t indexOf(int row, int column)
+std::size_t indexOf(int row, int column)
 {
-    return static_cast<size_t>((row - 1) * SizePicker::sideLength + column - 1);
+    return static_cast<std::size_t>((row - 1) * SizePicker::sideLength + column - 1);
 }
 
 } // namespace

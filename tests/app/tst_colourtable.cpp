@@ -22,10 +22,10 @@ private Q_SLOTS:
         for (const AppearanceRow &items : appearanceRows) {
             for (const int item : {items.foreground, items.background}) {
                 if (item >= 0)
-                    ++colours[size_t(item)];
+                    ++colours[static_cast<std::size_t>(item)];
             }
             if (items.fontStyle >= 0)
-                ++styles[size_t(items.fontStyle)];
+                ++styles[static_cast<std::size_t>(items.fontStyle)];
         }
         for (const int uses : colours)
             QCOMPARE(uses, 1);

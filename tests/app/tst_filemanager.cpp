@@ -597,9 +597,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("answer");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("saved");
-        QTest::newRow("cancel") << int(Answer::Cancel) << u"changed"_s << QByteArray("old");
-        QTest::newRow("no") << int(Answer::No) << u"new"_s << QByteArray("old");
-        QTest::newRow("yes") << int(Answer::Yes) << u"new"_s << QByteArray("changed");
+        QTest::newRow("cancel") << static_cast<int>(Answer::Cancel) << u"changed"_s << QByteArray("old");
+        QTest::newRow("no") << static_cast<int>(Answer::No) << u"new"_s << QByteArray("old");
+        QTest::newRow("yes") << static_cast<int>(Answer::Yes) << u"new"_s << QByteArray("changed");
     }
 
     void aDropAsksAboutChanges()
@@ -614,8 +614,9 @@ private Q_SLOTS:
         bench.drop({dropped});
         QTEST(window.rt().text(), "text");
         QTEST(WindowBench::read(old), "saved");
-        QCOMPARE(window.docModified(), answer == int(Answer::Cancel));
-        QCOMPARE(bench.tree().selectedFolder(), answer == int(Answer::Cancel) ? bench.folder() : bench.site());
+        QCOMPARE(window.docModified(), answer == static_cast<int>(Answer::Cancel));
+        QCOMPARE(bench.tree().selectedFolder(),
+                 answer == static_cast<int>(Answer::Cancel) ? bench.folder() : bench.site());
     }
 
     void aDropInVisualModeLeadsToTheText()

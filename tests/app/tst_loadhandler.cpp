@@ -62,7 +62,7 @@ private Q_SLOTS:
         QVERIFY(!rt.selBounds());
         QCOMPARE(rt.editorFont().name, bench.configuration.value(Setting::FontName));
         QCOMPARE(rt.color(KeywordFore),
-                 quint32(bench.configuration.value(colourSetting(5, ColourPart::Foreground)).toInt()));
+                 static_cast<quint32>(bench.configuration.value(colourSetting(5, ColourPart::Foreground)).toInt()));
         QCOMPARE(rt.fontStyle(KeywordFont), bench.configuration.value(colourSetting(5, ColourPart::FontStyle)).toInt());
         QVERIFY(bench.find<QAction>(u"highlightlines"_s)->isChecked());
         QVERIFY(!bench.find<QAction>(u"mnuviewtip"_s)->isChecked());

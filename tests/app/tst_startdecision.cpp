@@ -18,17 +18,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("argument");
         QTest::addColumn<int>("kind");
-        QTest::newRow("empty") << u""_s << int(StartArgument::None);
-        QTest::newRow("nodialog") << u"/nodialog"_s << int(StartArgument::NoDialog);
-        QTest::newRow("case counts") << u"/NoDialog"_s << int(StartArgument::File);
-        QTest::newRow("blank behind") << u"/nodialog "_s << int(StartArgument::File);
-        QTest::newRow("file") << u"a page.html"_s << int(StartArgument::File);
+        QTest::newRow("empty") << u""_s << static_cast<int>(StartArgument::None);
+        QTest::newRow("nodialog") << u"/nodialog"_s << static_cast<int>(StartArgument::NoDialog);
+        QTest::newRow("case counts") << u"/NoDialog"_s << static_cast<int>(StartArgument::File);
+        QTest::newRow("blank behind") << u"/nodialog "_s << static_cast<int>(StartArgument::File);
+        QTest::newRow("file") << u"a page.html"_s << static_cast<int>(StartArgument::File);
     }
 
     void argument()
     {
         QFETCH(QString, argument);
-        QTEST(int(startArgument(argument)), "kind");
+        QTEST(static_cast<int>(startArgument(argument)), "kind");
     }
 
     void actions_data()

@@ -388,7 +388,7 @@ private Q_SLOTS:
                 continue;
             ++keys;
             bench.run(DesignerCommand::SelectAll);
-            QCOMPARE(bench.status(button.command), int(DesignerStatus::Enabled));
+            QCOMPARE(bench.status(button.command), static_cast<int>(DesignerStatus::Enabled));
             const QKeySequence pressed(button.keys.toString(), QKeySequence::PortableText);
             QTest::keyClick(bench.keyboardOf(u"DHTMLEdit1"_s), pressed[0].key(), pressed[0].keyboardModifiers());
             QVERIFY2(waitUntil([&] { return bench.status(button.command) == DesignerStatus::On; }, WebBench::patience),

@@ -54,14 +54,15 @@ void WebBench::paste(const QString &markup) const
 void WebBench::run(DesignerCommand command, const QVariant &argument) const
 {
     QVariant result;
-    QMetaObject::invokeMethod(&designer(), "ExecCommand", Q_RETURN_ARG(QVariant, result), Q_ARG(int, int(command)),
-                              Q_ARG(int, 2), Q_ARG(QVariant, argument));
+    QMetaObject::invokeMethod(&designer(), "ExecCommand", Q_RETURN_ARG(QVariant, result),
+                              Q_ARG(int, static_cast<int>(command)), Q_ARG(int, 2), Q_ARG(QVariant, argument));
 }
 
 int WebBench::status(DesignerCommand command) const
 {
     int status = -1;
-    QMetaObject::invokeMethod(&designer(), "QueryStatus", Q_RETURN_ARG(int, status), Q_ARG(int, int(command)));
+    QMetaObject::invokeMethod(&designer(), "QueryStatus", Q_RETURN_ARG(int, status),
+                              Q_ARG(int, static_cast<int>(command)));
     return status;
 }
 

@@ -26,7 +26,10 @@ struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, W
 
     // ViewTabs
     void selectNext() override { calls.append(QStringLiteral("selectNext")); }
-    void selectTab(WorkspaceView view) override { calls.append(QStringLiteral("selectTab %1").arg(int(view))); }
+    void selectTab(WorkspaceView view) override
+    {
+        calls.append(QStringLiteral("selectTab %1").arg(static_cast<int>(view)));
+    }
 
     // CheckMarks
     bool isChecked(QStringView name) const override { return checked.contains(name.toString()); }
@@ -39,7 +42,10 @@ struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, W
     }
 
     // PaneCommands
-    void selectSideTab(SideTab tab) override { calls.append(QStringLiteral("selectSideTab %1").arg(int(tab))); }
+    void selectSideTab(SideTab tab) override
+    {
+        calls.append(QStringLiteral("selectSideTab %1").arg(static_cast<int>(tab)));
+    }
     void addCustomEntry() override { calls.append(QStringLiteral("addCustomEntry")); }
     void setSelectorListVisible(bool on) override { calls.append(QStringLiteral("setSelectorListVisible %1").arg(on)); }
     bool isSelectorPressed() const override { return selectorPressed; }

@@ -214,7 +214,7 @@ void TstCommandRouter::codeViewMenu()
     bench.expectLimitation(inCodeView);
     bench.menu(name);
     QVERIFY(bench.world.prompts.verify());
-    QCOMPARE(bench.world.editor.commands.size(), std::size_t(1));
+    QCOMPARE(bench.world.editor.commands.size(), static_cast<std::size_t>(1));
     QVERIFY(bench.world.designer.commands.empty());
 }
 

@@ -281,7 +281,7 @@ void TstCommandTables::designerMenus()
     QList<int> actual;
     while (const MenuItem *item = findMenuItem(u"%1_%2"_s.arg(array).arg(actual.size()))) {
         const auto *command = std::get_if<DesignerCommand>(&item->command.effect);
-        actual.append(int(command ? *command : item->asks));
+        actual.append(static_cast<int>(command ? *command : item->asks));
         QCOMPARE(item->kind == MenuItem::Kind::Divider, actual.back() == 0);
     }
     QTEST(actual, "commands");

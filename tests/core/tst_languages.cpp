@@ -77,7 +77,7 @@ private Q_SLOTS:
     void rows()
     {
         QFETCH(int, row);
-        const LanguageRow &language = languageRows()[size_t(row)];
+        const LanguageRow &language = languageRows()[static_cast<std::size_t>(row)];
         QTEST(language.text.toString(), "text");
         QTEST(language.editorLanguage.toString(), "editorLanguage");
         QTEST(language.markupTools, "open");
@@ -214,7 +214,7 @@ private Q_SLOTS:
     {
         for (const FileType &type : fileTypes()) {
             const auto isSame = [&](const FileType &other) { return other.extension == type.extension; };
-            QCOMPARE(std::count_if(fileTypes().begin(), fileTypes().end(), isSame), 1);
+            QCOMPARE(std::ranges::count_if(fileTypes(), isSame), 1);
             QCOMPARE(type.extension.toString(), type.extension.toString().toLower());
         }
     }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/paths.h"
-
 #include "support/testregistry.h"
 
 #include <QTest>

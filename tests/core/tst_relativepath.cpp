@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/relativepath.h"
-
 #include "core/errorstyles.h"
+#include "core/relativepath.h"
 #include "support/testregistry.h"
 
 #include <QTest>

@@ -17,10 +17,10 @@ class TstSettings : public QObject
 private Q_SLOTS:
     void rowsStandWhereTheirNamesSay()
     {
-        for (size_t i = 0; i < settingRows().size(); ++i)
-            QCOMPARE(size_t(settingRows()[i].setting), i);
-        for (size_t i = 0; i < userSettingRows().size(); ++i)
-            QCOMPARE(size_t(userSettingRows()[i].setting), i);
+        for (std::size_t i = 0; i < settingRows().size(); ++i)
+            QCOMPARE(static_cast<std::size_t>(settingRows()[i].setting), i);
+        for (std::size_t i = 0; i < userSettingRows().size(); ++i)
+            QCOMPARE(static_cast<std::size_t>(userSettingRows()[i].setting), i);
     }
 
     void everyKeyStandsOnce()
@@ -28,7 +28,7 @@ private Q_SLOTS:
         QSet<QString> keys;
         for (const SettingRow &row : settingRows())
             keys.insert(u"[%1] %2"_s.arg(row.section, row.key).toLower());
-        QCOMPARE(size_t(keys.size()), settingRows().size());
+        QCOMPARE(static_cast<std::size_t>(keys.size()), settingRows().size());
     }
 
     void keys_data()
@@ -73,7 +73,7 @@ private Q_SLOTS:
 
     void coloursAreTheLastRows()
     {
-        QCOMPARE(settingRows().size(), size_t(Setting::FirstColour) + 3 * appearanceRows.size());
+        QCOMPARE(settingRows().size(), static_cast<std::size_t>(Setting::FirstColour) + 3 * appearanceRows.size());
         QCOMPARE(settingRows().back().setting, colourSetting(17, ColourPart::FontStyle));
     }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/vbtext.h"
-
 #include "core/errorstyles.h"
+#include "core/vbtext.h"
 #include "support/testregistry.h"
 
 #include <QTest>
@@ -118,10 +117,10 @@ private Q_SLOTS:
 
     void inStrVariants()
     {
-        QCOMPARE(InStr(u"abc"_s, u"c"_s), qsizetype(3));
-        QCOMPARE(InStr(1, u"abc"_s, u"B"_s, Qt::CaseInsensitive), qsizetype(2));
-        QCOMPARE(InStrRev(u"abcABC"_s, u"abc"_s), qsizetype(1));
-        QCOMPARE(InStrRev(u"abcABC"_s, u"abc"_s, -1, Qt::CaseInsensitive), qsizetype(4));
+        QCOMPARE(InStr(u"abc"_s, u"c"_s), static_cast<qsizetype>(3));
+        QCOMPARE(InStr(1, u"abc"_s, u"B"_s, Qt::CaseInsensitive), static_cast<qsizetype>(2));
+        QCOMPARE(InStrRev(u"abcABC"_s, u"abc"_s), static_cast<qsizetype>(1));
+        QCOMPARE(InStrRev(u"abcABC"_s, u"abc"_s, -1, Qt::CaseInsensitive), static_cast<qsizetype>(4));
     }
 
     void inStrRev_data()
@@ -241,7 +240,7 @@ private Q_SLOTS:
     void conversionOfNumbers()
     {
         QCOMPARE(CInt(2.5), qint16(2));
-        QCOMPARE(CLng(3.5), qint32(4));
+        QCOMPARE(CLng(3.5), static_cast<qint32>(4));
         QCOMPARE(CDbl(u" 1.25 "_s), 1.25);
         QCOMPARE(CDbl(u"&HFF"_s), 255.0);
         QCOMPARE(outcome([] { return CLng(std::numeric_limits<double>::quiet_NaN()); }), overflow);

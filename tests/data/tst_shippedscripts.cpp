@@ -112,7 +112,7 @@ private Q_SLOTS:
             // Each level is indented by two blanks.
             const QStringList all = body.split(u"\r\n"_s);
             for (const QString &line : all) {
-                const auto blanks = std::find_if(line.begin(), line.end(), [](QChar letter) { return letter != u' '; });
+                const auto blanks = std::ranges::find_if(line, [](QChar letter) { return letter != u' '; });
                 QVERIFY2((blanks - line.begin()) % 2 == 0, qPrintable(line));
             }
         }

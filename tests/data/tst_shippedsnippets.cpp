@@ -29,7 +29,7 @@ std::vector<CustomTabFile::Entry> entriesOf(const QString &file)
 bool hasEntry(const QString &file, const QString &title, const QString &code)
 {
     const auto entries = entriesOf(file);
-    return std::find(entries.begin(), entries.end(), CustomTabFile::Entry{title, code}) != entries.end();
+    return std::ranges::find(entries, CustomTabFile::Entry{title, code}) != entries.end();
 }
 
 void addFiles()
@@ -86,11 +86,11 @@ private Q_SLOTS:
         const QStringList lines = shippedLines(u"ctabs/"_s + file);
         const CustomTabFile tab = parseCustomTab(lines);
         QCOMPARE(tab.header, lines.first());
-        QCOMPARE(qsizetype(tab.entries.size()), (lines.size() - 1) / 2);
+        QCOMPARE(static_cast<qsizetype>(tab.entries.size()), (lines.size() - 1) / 2);
         QStringList titles;
         QStringList codes;
-        for (qsizetype i = 0; i < qsizetype(tab.entries.size()); ++i) {
-            const auto &[title, code] = tab.entries[size_t(i)];
+        for (qsizetype i = 0; i < static_cast<qsizetype>(tab.entries.size()); ++i) {
+            const auto &[title, code] = tab.entries[static_cast<std::size_t>(i)];
             QCOMPARE(u"#EXTINF,"_s + title, lines[2 * i + 1]);
             QCOMPARE(code, lines[2 * i + 2]);
             titles << title;

@@ -73,9 +73,9 @@ private Q_SLOTS:
         const SotTree tree = parseSotTree(lines);
         QCOMPARE(tree.faultyLine, qsizetype{0});
         const QStringList paths = pathsOf(lines);
-        QCOMPARE(qsizetype(tree.nodes.size()), paths.size());
+        QCOMPARE(static_cast<qsizetype>(tree.nodes.size()), paths.size());
         for (qsizetype i = 0; i < paths.size(); ++i) {
-            const SotTree::Node &node = tree.nodes[size_t(i)];
+            const SotTree::Node &node = tree.nodes[static_cast<std::size_t>(i)];
             const QString parent = node.parent < 0 ? QString() : paths[node.parent] + u" » "_s;
             QCOMPARE(parent + node.caption, paths[i]);
         }

@@ -403,7 +403,7 @@ private Q_SLOTS:
         bench.fakes.files.contents = {{u"/site/a.htmltemp.html"_s, "one"}, {u"/site/b.htmltemp.html"_s, "two"}};
         bench.document.setPreviewTarget(u"/site/a.htmltemp.html"_s);
         bench.document.setPreviewTarget(u"/site/a.htmltemp.html"_s);
-        QCOMPARE(bench.fakes.files.contents.size(), size_t(2));
+        QCOMPARE(bench.fakes.files.contents.size(), static_cast<std::size_t>(2));
         bench.document.setPreviewTarget(u"/site/b.htmltemp.html"_s);
         QVERIFY(!bench.fakes.files.contents.contains(u"/site/a.htmltemp.html"_s));
         QVERIFY(bench.fakes.files.contents.contains(u"/site/b.htmltemp.html"_s));

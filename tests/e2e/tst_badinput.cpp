@@ -9,10 +9,10 @@
 #include <QFile>
 #include <QTest>
 
+#include <array>
+
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <array>
 
 using namespace zephira;
 using namespace zephira::titles;

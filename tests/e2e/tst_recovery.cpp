@@ -8,11 +8,10 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <array>
 #include <csignal>
 
 #include <sys/stat.h>
-
-#include <array>
 
 using namespace zephira;
 using namespace zephira::titles;

@@ -44,7 +44,7 @@ private Q_SLOTS:
         const QByteArray utf8 = line.toUtf8();
         std::vector<unsigned char> bytes;
         for (qsizetype i = 0; i < line.size(); ++i)
-            bytes.insert(bytes.end(), static_cast<size_t>(QString(line[i]).toUtf8().size()),
+            bytes.insert(bytes.end(), static_cast<std::size_t>(QString(line[i]).toUtf8().size()),
                          static_cast<unsigned char>(styles[i].unicode()));
         QStringList stretches;
         for (const BidiStretch &stretch : bidiStretches(utf8, bytes))
@@ -92,7 +92,7 @@ private Q_SLOTS:
             boxes.emplace_back(box.left(), box.right());
         }
         std::ranges::sort(boxes);
-        for (size_t i = 1; i < boxes.size(); ++i) {
+        for (std::size_t i = 1; i < boxes.size(); ++i) {
             QVERIFY(boxes[i].second - boxes[i].first > 2);
             QVERIFY(boxes[i].first >= boxes[i - 1].second - 1);
         }
@@ -329,7 +329,7 @@ private Q_SLOTS:
         const QString line = words.repeated(300'000 / words.toUtf8().size() + 1);
         f.editor.setText(line);
         const qsizetype middle = line.size() / 2;
-        for (const qsizetype first : {qsizetype(0), middle, line.size() - 20}) {
+        for (const qsizetype first : {static_cast<qsizetype>(0), middle, line.size() - 20}) {
             f.editor.select({0, static_cast<int>(first), 0, static_cast<int>(first)});
             f.editor.engine().send(Sci::SCI_SCROLLCARET);
             const QImage picture = f.editor.viewport()->grab().toImage();

@@ -152,7 +152,7 @@ private Q_SLOTS:
             QVERIFY(isBold(style));
         f.editor.setLanguage({});
         QVERIFY(isBold(2));
-        QCOMPARE(f.editor.fontStyle(KeywordFont), int(BoldStyle));
+        QCOMPARE(f.editor.fontStyle(KeywordFont), static_cast<int>(BoldStyle));
     }
 
     void theFontReachesEveryStyle()
@@ -275,12 +275,12 @@ private Q_SLOTS:
             const qsizetype equals = line.indexOf('=');
             shipped[QString::fromLatin1(line.left(equals))] = line.mid(equals + 1).trimmed().toLongLong();
         }
-        for (size_t row = 0; row < appearanceRows.size(); ++row) {
+        for (std::size_t row = 0; row < appearanceRows.size(); ++row) {
             const auto check = [&](int item, const QString &part) {
                 if (item == noItem)
                     return;
                 const quint32 colour = static_cast<quint32>(shipped.value(u"clr%1%2"_s.arg(row).arg(part), 77));
-                QCOMPARE(shippedColours[static_cast<size_t>(item)], colour);
+                QCOMPARE(shippedColours[static_cast<std::size_t>(item)], colour);
             };
             check(appearanceRows[row].foreground, u"fr"_s);
             check(appearanceRows[row].background, u"bg"_s);
@@ -299,7 +299,7 @@ private Q_SLOTS:
         // A colour that was set reads back unchanged.
         QCOMPARE(f.editor.color(WindowColour), 0xffffffu);
         for (int item = 0; item < colourItemTotal; ++item)
-            QCOMPARE(f.editor.color(item), shippedColours[static_cast<size_t>(item)]);
+            QCOMPARE(f.editor.color(item), shippedColours[static_cast<std::size_t>(item)]);
         f.editor.setPalette(before);
         f.waitForColours();
         QCOMPARE(f.editor.grab().toImage(), light);
@@ -315,7 +315,7 @@ private Q_SLOTS:
             };
             return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
         };
-        const auto darkOf = [](int item) { return colourItemTable[static_cast<size_t>(item)].dark; };
+        const auto darkOf = [](int item) { return colourItemTable[static_cast<std::size_t>(item)].dark; };
         for (const AppearanceRow &row : appearanceRows) {
             if (row.fontStyle == noItem)
                 continue;

@@ -40,7 +40,7 @@ private Q_SLOTS:
             ends.push_back(ends.back() + part.toUtf8().size());
         if (line.isEmpty())
             ends.pop_back();
-        for (size_t i = 1; i < ends.size(); ++i) {
+        for (std::size_t i = 1; i < ends.size(); ++i) {
             QCOMPARE(graphemeBehind(line, ends[i - 1]), ends[i]);
             QCOMPARE(graphemeBefore(line, ends[i]), ends[i - 1]);
             QCOMPARE(graphemeStart(line, ends[i]), ends[i]);

@@ -199,9 +199,9 @@ private Q_SLOTS:
         QCOMPARE(f.editor.text(), u"<p>before</p>"_s);
         f.editor.redo();
         QCOMPARE(f.editor.text(), onePageLine());
-        QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETVISIBLE, int(SyntaxStyle::Text)), 1);
+        QCOMPARE(f.editor.engine().send(Sci::SCI_STYLEGETVISIBLE, static_cast<int>(SyntaxStyle::Text)), 1);
         // The line of the caret has its styles, and the caret is visible.
-        QCOMPARE(f.editor.engine().styleAt(1), int(SyntaxStyle::TagElement));
+        QCOMPARE(f.editor.engine().styleAt(1), static_cast<int>(SyntaxStyle::TagElement));
         const qsizetype x = f.editor.engine().send(Sci::SCI_POINTXFROMPOSITION, 0, f.editor.engine().caret());
         QVERIFY(x >= 0 && x < f.editor.width());
     }

@@ -68,7 +68,7 @@ private Q_SLOTS:
             searchFor(pattern, flags.contains(u'r'), flags.contains(u'c'), flags.contains(u'w'));
         const auto matches = search.all(text, 0, text.size(), replacement);
         QString replaced = text;
-        for (size_t i = matches.size(); i-- > 0;)
+        for (std::size_t i = matches.size(); i-- > 0;)
             replaced.replace(matches[i].start, matches[i].end - matches[i].start, matches[i].replacement);
         QCOMPARE(replaced, result);
         // Searching forward and backward finds the same matches.

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/atomicwrite.h"
-
 #include "files/diskfilestore.h"
 #include "files/faultycalls.h"
 #include "support/testregistry.h"
@@ -42,7 +41,7 @@ void put(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
+    QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
 }
 
 QStringList namesIn(const QTemporaryDir &folder)

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/desktopusersettings.h"
-
 #include "support/testregistry.h"
 
 #include <QFile>

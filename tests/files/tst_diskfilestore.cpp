@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/diskfilestore.h"
-
 #include "files/faultycalls.h"
 #include "files/textfile.h"
 #include "support/testregistry.h"
@@ -55,7 +54,7 @@ class TstDiskFileStore : public QObject
     {
         QFile file(at(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
+        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
     }
     QByteArray get(const QString &name) const
     {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/documentfile.h"
-
 #include "core/clock.h"
 #include "files/diskfilestore.h"
+#include "files/documentfile.h"
 #include "files/recoverycopies.h"
 #include "support/testregistry.h"
 
@@ -66,7 +65,7 @@ struct Desk {
     {
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
+        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
     }
     QByteArray get() const
     {
@@ -128,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(desk.get(),
                  QByteArray("\xEF\xBB\xBF"
                             "before the gap behind it"));
-        QCOMPARE(desk.files.lastPieces.size(), std::size_t(3));
+        QCOMPARE(desk.files.lastPieces.size(), static_cast<std::size_t>(3));
         QVERIFY(desk.files.lastPieces[1].data() == pieces[0].data()
                 && desk.files.lastPieces[2].data() == pieces[1].data());
     }

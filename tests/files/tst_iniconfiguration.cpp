@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/iniconfiguration.h"
-
 #include "files/faultycalls.h"
+#include "files/iniconfiguration.h"
 #include "support/testregistry.h"
 
 #include <QDateTime>
@@ -33,7 +32,7 @@ class TstIniConfiguration : public QObject
     {
         QFile file(ini());
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
+        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
     }
     QByteArray get() const
     {

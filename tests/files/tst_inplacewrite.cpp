@@ -29,7 +29,7 @@ private:
     {
         QFile file(at(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
+        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
     }
     QByteArray get(const QString &name) const
     {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/lineends.h"
-
 #include "support/testregistry.h"
 
 #include <QRandomGenerator>

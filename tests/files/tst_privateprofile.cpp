@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/privateprofile.h"
-
 #include "support/testregistry.h"
 
 #include <QRandomGenerator>
@@ -180,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(profileValue(profile, u"section999"_s, u"key299"_s), std::optional(u"a value of some length"_s));
         const QByteArray changed = withProfileValue(profile, u"section500"_s, u"key150"_s, u"short"_s).value();
         QCOMPARE(changed.size(),
-                 profile.size() - qsizetype(std::char_traits<char>::length("a value of some length")) + 5);
+                 profile.size() - static_cast<qsizetype>(std::char_traits<char>::length("a value of some length")) + 5);
         QCOMPARE(profileValue(changed, u"section500"_s, u"key150"_s), std::optional(u"short"_s));
         QVERIFY(!profileValue(QByteArray(10'000'000, '['), u"s"_s, u"k"_s));
         QVERIFY(!profileValue(QByteArray(10'000'000, '='), u"s"_s, u"k"_s));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/testregistry.h"
-
 #include "files/iniconfiguration.h"
+#include "support/testregistry.h"
 
 #include <QFile>
 #include <QProcess>
@@ -49,7 +48,7 @@ class TstProbes : public QObject
     {
         QFile file(at(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
+        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
     }
     QByteArray get(const QString &name) const
     {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/recoverycopies.h"
-
 #include "core/clock.h"
 #include "files/diskfilestore.h"
+#include "files/recoverycopies.h"
 #include "support/testregistry.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/recoveryschedule.h"
-
 #include "support/testregistry.h"
 
 #include <QTest>

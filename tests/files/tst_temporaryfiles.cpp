@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/temporaryfiles.h"
-
 #include "files/diskfilestore.h"
 #include "files/faultycalls.h"
+#include "files/temporaryfiles.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -97,10 +96,10 @@ private Q_SLOTS:
     void whatAKilledSaveLeavesGoesWithTheNext_data()
     {
         QTest::addColumn<int>("place");
-        QTest::newRow("writing") << int(Call::Write);
-        QTest::newRow("flushing") << int(Call::Sync);
-        QTest::newRow("closing") << int(Call::Close);
-        QTest::newRow("taking the name") << int(Call::Rename);
+        QTest::newRow("writing") << static_cast<int>(Call::Write);
+        QTest::newRow("flushing") << static_cast<int>(Call::Sync);
+        QTest::newRow("closing") << static_cast<int>(Call::Close);
+        QTest::newRow("taking the name") << static_cast<int>(Call::Rename);
     }
 
     void whatAKilledSaveLeavesGoesWithTheNext()

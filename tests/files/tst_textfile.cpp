@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/textfile.h"
-
 #include "files/utf8.h"
 #include "support/testregistry.h"
 

@@ -10,11 +10,11 @@
 #include <QFile>
 #include <QTest>
 
+#include <csignal>
+
 #include <pwd.h>
 #include <sys/prctl.h>
 #include <unistd.h>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 

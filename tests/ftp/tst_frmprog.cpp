@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/frmprog.h"
-
 #include "ftp/ftpclient.h"
 #include "ftp/recordingdesk.h"
 #include "ftp/recordingoperations.h"

@@ -67,7 +67,7 @@ private Q_SLOTS:
         for (QAction *action : choosable(openActions(bench))) {
             chosen.clear();
             action->trigger();
-            QCOMPARE(chosen.size(), std::size_t(1));
+            QCOMPARE(chosen.size(), static_cast<std::size_t>(1));
             const FtpMenuItem &item = *chosen.front();
             QCOMPARE(item.name.toString(), entryOf(action->objectName()));
             QVERIFY2(hasEffect(item), qPrintable(action->objectName()));
@@ -90,8 +90,8 @@ private Q_SLOTS:
         bench.choose(u"zBinary"_s);
         QCOMPARE(bench.client->session.ftpTransferType, 2);
         bench.choose(u"zsBigIc"_s);
-        QCOMPARE(bench.remote().view(), int(FileListMode::LargeIcons));
-        QCOMPARE(bench.local().view(), int(FileListMode::Report));
+        QCOMPARE(bench.remote().view(), static_cast<int>(FileListMode::LargeIcons));
+        QCOMPARE(bench.local().view(), static_cast<int>(FileListMode::Report));
         bench.choose(u"zConnect"_s);
         QCOMPARE(bench.world.forms.modal, QStringList{u"FrmConnect"_s});
         bench.choose(u"zDisconnect"_s);

@@ -101,7 +101,7 @@ void TstFtpConnection::flags()
     QVERIFY(bench.connectToServer({u"x"_s, binary, passive}));
     QCOMPARE(bench.operations.log[2],
              u"InternetConnectA(1, \"ftp.example.com\", 21, \"me\", \"secret\", 1, %1, 0)"_s.arg(flags));
-    QTEST(int(bench.client.session.ftpTransferType), "type");
+    QTEST(static_cast<int>(bench.client.session.ftpTransferType), "type");
     QCOMPARE(bench.desk.binary, binary);
     QCOMPARE(bench.desk.passive, passive);
 }

@@ -44,7 +44,7 @@ private Q_SLOTS:
             icons.push_back(ftpImage(number));
         for (const auto &[name, palette] : desktopPalettes()) {
             QApplication::setPalette(palette);
-            for (size_t i = 0; i < icons.size(); ++i) {
+            for (std::size_t i = 0; i < icons.size(); ++i) {
                 for (const int size : {16, 32}) {
                     const QImage normal = icons[i].pixmap(size).toImage();
                     const QImage selected = icons[i].pixmap(QSize(size, size), QIcon::Selected).toImage();

@@ -127,7 +127,8 @@ void TstFtpLists::noScrollBarWithoutNeed()
     Bench bench;
     for (int i = 0; i < files; ++i) {
         bench.write(u"page %1.htm"_s.arg(i), QByteArray(i * 100, 'x'));
-        bench.operations.folders[u"/*.*"_s].push_back(foundFile(u"remote page %1.htm"_s.arg(i), quint64(i) * 1000));
+        bench.operations.folders[u"/*.*"_s].push_back(
+            foundFile(u"remote page %1.htm"_s.arg(i), static_cast<quint64>(i) * 1000));
     }
     bench.openConnected();
     for (const QString &view : {u"BigIc"_s, u"SmallIc"_s, u"Seznam"_s, u"Report"_s}) {
@@ -317,7 +318,7 @@ void TstFtpLists::manyEntries()
     Bench bench;
     std::deque<FindData> entries;
     for (int i = 0; i < count; ++i) {
-        entries.push_back(foundFile(u"file%1.html"_s.arg(i), quint64(i)));
+        entries.push_back(foundFile(u"file%1.html"_s.arg(i), static_cast<quint64>(i)));
         entries.push_back(foundFolder(u"folder%1"_s.arg(i)));
     }
     bench.operations.folders[u"/*.*"_s] = std::move(entries);
@@ -325,11 +326,11 @@ void TstFtpLists::manyEntries()
     QCOMPARE(bench.remote().count(), count);
     QCOMPARE(bench.node(u"/"_s)->childCount(), count);
     bench.remote().selectAll();
-    QCOMPARE(bench.remote().selected().size(), std::size_t(count));
+    QCOMPARE(bench.remote().selected().size(), static_cast<std::size_t>(count));
     Bench::clickHead(bench.remote(), FileRowsModel::Name);
     QCOMPARE(bench.names(bench.remote()).first(), u"file9999.html"_s);
     bench.remote().setView(FileListMode::LargeIcons);
-    QCOMPARE(bench.remote().selected().size(), std::size_t(count));
+    QCOMPARE(bench.remote().selected().size(), static_cast<std::size_t>(count));
 }
 
 void TstFtpLists::sorting()
@@ -382,9 +383,9 @@ void TstFtpLists::views()
         for (int view = 0; view < views.size(); ++view) {
             bench.choose(prefix + views[view]);
             QCOMPARE(list->property("View").toInt(), view);
-            QCOMPARE(icons->isVisible(), view != int(FileListMode::Report));
+            QCOMPARE(icons->isVisible(), view != static_cast<int>(FileListMode::Report));
             // An item fills its whole cell, however short the first name is.
-            if (view != int(FileListMode::Report))
+            if (view != static_cast<int>(FileListMode::Report))
                 QVERIFY(icons->visualRect(icons->model()->index(1, 0)).width() * 10 > icons->gridSize().width() * 9);
         }
         // The icon view shows the same rows, and clicks in it select them.
@@ -392,10 +393,10 @@ void TstFtpLists::views()
         QCOMPARE(icons->size(), list->size());
         QTest::mouseClick(icons->viewport(), Qt::LeftButton, {},
                           icons->visualRect(icons->model()->index(1, 0)).center());
-        QCOMPARE(list->selected().size(), std::size_t(1));
+        QCOMPARE(list->selected().size(), static_cast<std::size_t>(1));
         QVERIFY(bench.panel(2).contains(u" 1 Files selected, "_s));
         list->setProperty("View", 99);
-        QCOMPARE(list->property("View").toInt(), int(FileListMode::Report));
+        QCOMPARE(list->property("View").toInt(), static_cast<int>(FileListMode::Report));
     }
 }
 
@@ -409,7 +410,7 @@ void TstFtpLists::popups()
         const QPoint place = list->visualRect(list->model()->index(1, 0)).center();
         QTest::mousePress(list->viewport(), Qt::RightButton, {}, place);
         QTRY_VERIFY(menu.isVisible());
-        QCOMPARE(list->selected().size(), std::size_t(1));
+        QCOMPARE(list->selected().size(), static_cast<std::size_t>(1));
         menu.close();
         QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, place);
         QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(5, 5), list->mapToGlobal(QPoint(5, 5)));

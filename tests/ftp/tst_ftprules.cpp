@@ -115,7 +115,7 @@ void TstFtpRules::date_data()
     row("two digits", {2023, 12, 31, 23, 59, 59}, u"31.12.202323:59"_s);
     row("midnight", {1999, 1, 1, 0, 0, 0}, u"1.1.19990:00"_s);
     row("ten past", {2024, 2, 29, 13, 10, 0}, u"29.2.202413:10"_s);
-    QTest::newRow("none told") << quint64(0) << u"1.1.16010:00"_s;
+    QTest::newRow("none told") << static_cast<quint64>(0) << u"1.1.16010:00"_s;
 }
 
 void TstFtpRules::date()
@@ -129,14 +129,14 @@ void TstFtpRules::remoteRow_data()
     QTest::addColumn<quint64>("bytes");
     QTest::addColumn<QString>("size");
     QTest::addColumn<QString>("exact");
-    QTest::newRow("empty") << quint64(0) << u"0Kb"_s << u"0"_s;
-    QTest::newRow("half a kilobyte") << quint64(512) << u"0.5Kb"_s << u"512"_s;
-    QTest::newRow("a kilobyte") << quint64(1024) << u"1Kb"_s << u"1024"_s;
-    QTest::newRow("decimals") << quint64(1500) << u"1.46Kb"_s << u"1500"_s;
-    QTest::newRow("groups") << quint64(1234567890) << u"1 205 632.71Kb"_s << u"1234567890"_s;
-    QTest::newRow("just below 4 GiB") << quint64(4294967295) << u"4 194 304Kb"_s << u"4294967295"_s;
-    QTest::newRow("4 GiB") << quint64(4294967296) << u"0Kb"_s << u"0"_s;
-    QTest::newRow("above 4 GiB") << quint64(4294967296 + 2048) << u"2Kb"_s << u"2048"_s;
+    QTest::newRow("empty") << static_cast<quint64>(0) << u"0Kb"_s << u"0"_s;
+    QTest::newRow("half a kilobyte") << static_cast<quint64>(512) << u"0.5Kb"_s << u"512"_s;
+    QTest::newRow("a kilobyte") << static_cast<quint64>(1024) << u"1Kb"_s << u"1024"_s;
+    QTest::newRow("decimals") << static_cast<quint64>(1500) << u"1.46Kb"_s << u"1500"_s;
+    QTest::newRow("groups") << static_cast<quint64>(1234567890) << u"1 205 632.71Kb"_s << u"1234567890"_s;
+    QTest::newRow("just below 4 GiB") << static_cast<quint64>(4294967295) << u"4 194 304Kb"_s << u"4294967295"_s;
+    QTest::newRow("4 GiB") << static_cast<quint64>(4294967296) << u"0Kb"_s << u"0"_s;
+    QTest::newRow("above 4 GiB") << static_cast<quint64>(4294967296 + 2048) << u"2Kb"_s << u"2048"_s;
 }
 
 void TstFtpRules::remoteRow()
@@ -161,7 +161,7 @@ void TstFtpRules::listing()
                                      foundFolder(u".."_s),  foundFile(u"a/b"_s, 1), oddFile, foundFile(u"..\\x"_s, 1)};
     const RemoteListing listing = readRemoteListing(operations, 7, u"/*.*"_s);
     QCOMPARE(listing.folders, (QStringList{u"pub"_s, u"docs"_s}));
-    QCOMPARE(listing.files.size(), std::size_t(2));
+    QCOMPARE(listing.files.size(), static_cast<std::size_t>(2));
     QCOMPARE(listing.files[0].name, u"cut.txt"_s);
     QCOMPARE(listing.files[1].name, u"odd.gif"_s);
     QCOMPARE(operations.log.first(), u"FtpFindFirstFileA(7, \"/*.*\", 0x84000000, 0)"_s);

@@ -127,7 +127,7 @@ void TstLocalCommands::refill()
     QCOMPARE(bench.client.session.ftpLocalFolder, folder);
     QCOMPARE(bench.panel(), u"Local: 3 Files in folder: "_s + folder);
     QVERIFY(bench.view.list.selected().empty());
-    QCOMPARE(bench.view.list.rows.size(), std::size_t(3));
+    QCOMPARE(bench.view.list.rows.size(), static_cast<std::size_t>(3));
     const FileRow &first = bench.view.list.rows.front();
     QCOMPARE(first.name, u"a.htm"_s);
     QCOMPARE(first.size, u"1.02 Kb"_s);
@@ -161,11 +161,11 @@ void TstLocalCommands::sizes_data()
 {
     QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("size");
-    QTest::newRow("empty") << qint64(0) << u"0 Kb"_s;
-    QTest::newRow("half") << qint64(500) << u"0.5 Kb"_s;
-    QTest::newRow("1024") << qint64(1024) << u"1.02 Kb"_s;
-    QTest::newRow("decimal half") << qint64(1005) << u"1.01 Kb"_s;
-    QTest::newRow("groups") << qint64(12'345'678'901) << u"12 345 678.9 Kb"_s;
+    QTest::newRow("empty") << static_cast<qint64>(0) << u"0 Kb"_s;
+    QTest::newRow("half") << static_cast<qint64>(500) << u"0.5 Kb"_s;
+    QTest::newRow("1024") << static_cast<qint64>(1024) << u"1.02 Kb"_s;
+    QTest::newRow("decimal half") << static_cast<qint64>(1005) << u"1.01 Kb"_s;
+    QTest::newRow("groups") << static_cast<qint64>(12'345'678'901) << u"12 345 678.9 Kb"_s;
 }
 
 void TstLocalCommands::sizes()

@@ -73,7 +73,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("command");
         QTest::addColumn<int>("misbehaviour");
         for (const char *command : {"", "USER", "PASS", "TYPE", "PWD", "FEAT"}) {
-            for (int which = 0; which < int(std::size(misbehaviours)); ++which)
+            for (int which = 0; which < static_cast<int>(std::size(misbehaviours)); ++which)
                 QTest::addRow("%s %s", command, misbehaviours[which].name) << QByteArray(command) << which;
         }
     }
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("command");
         QTest::addColumn<int>("misbehaviour");
         for (const char *command : {"CWD", "EPSV", "LIST", "RETR", "STOR", "DELE", "RNFR", "RNTO"}) {
-            for (int which = 0; which < int(std::size(misbehaviours)); ++which)
+            for (int which = 0; which < static_cast<int>(std::size(misbehaviours)); ++which)
                 QTest::addRow("%s %s", command, misbehaviours[which].name) << QByteArray(command) << which;
         }
     }

@@ -133,11 +133,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<quint64>("time");
         QTest::addColumn<QList<int>>("parts");
-        QTest::newRow("beginning") << quint64(0) << QList<int>{1601, 1, 1, 0, 0, 0};
-        QTest::newRow("1970") << quint64(116444736000000000) << QList<int>{1970, 1, 1, 0, 0, 0};
-        QTest::newRow("a second before") << quint64(116444735990000000) << QList<int>{1969, 12, 31, 23, 59, 59};
-        QTest::newRow("2001") << quint64(126282568200000000) << QList<int>{2001, 3, 5, 9, 7, 0};
-        QTest::newRow("leap day") << quint64(133536855090000000) << QList<int>{2024, 2, 29, 13, 5, 9};
+        QTest::newRow("beginning") << static_cast<quint64>(0) << QList<int>{1601, 1, 1, 0, 0, 0};
+        QTest::newRow("1970") << static_cast<quint64>(116444736000000000) << QList<int>{1970, 1, 1, 0, 0, 0};
+        QTest::newRow("a second before") << static_cast<quint64>(116444735990000000)
+                                         << QList<int>{1969, 12, 31, 23, 59, 59};
+        QTest::newRow("2001") << static_cast<quint64>(126282568200000000) << QList<int>{2001, 3, 5, 9, 7, 0};
+        QTest::newRow("leap day") << static_cast<quint64>(133536855090000000) << QList<int>{2024, 2, 29, 13, 5, 9};
     }
 
     void times()
@@ -153,7 +154,7 @@ private Q_SLOTS:
     void timesThatAreNone()
     {
         SystemTime parts{2001, 3, 5, 9, 7, 0};
-        QVERIFY(!FileTimeToSystemTime(quint64(1) << 63, parts));
+        QVERIFY(!FileTimeToSystemTime(static_cast<quint64>(1) << 63, parts));
         QCOMPARE(parts, (SystemTime{2001, 3, 5, 9, 7, 0}));
         QVERIFY(!systemTimeToFileTime({2001, 2, 29, 0, 0, 0}));
         QVERIFY(!systemTimeToFileTime({2001, 3, 5, 24, 0, 0}));

@@ -5,10 +5,10 @@
 
 #include <QTest>
 
+#include <thread>
+
 #include <netinet/in.h>
 #include <unistd.h>
-
-#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -47,9 +47,9 @@ private Q_SLOTS:
         const SocketAddress address = numeric(host, 21);
         QTEST(address.family(), "family");
         QCOMPARE(address.host(), host.toLatin1());
-        QCOMPARE(address.port(), quint16(21));
+        QCOMPARE(address.port(), static_cast<quint16>(21));
         const SocketAddress other = address.withPort(65535);
-        QCOMPARE(other.port(), quint16(65535));
+        QCOMPARE(other.port(), static_cast<quint16>(65535));
         QVERIFY(other.isSameHost(address));
         QVERIFY(!other.isSameHost(numeric(u"192.0.2.8"_s)));
         QVERIFY(!other.isSameHost(SocketAddress()));

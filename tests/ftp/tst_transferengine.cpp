@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/transferengine.h"
-
 #include "files/diskfilestore.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingdesk.h"
 #include "ftp/recordingoperations.h"
+#include "ftp/transferengine.h"
 #include "support/scriptedprompts.h"
 #include "support/testregistry.h"
 
@@ -89,7 +88,7 @@ QByteArray sample(qsizetype size)
 {
     QByteArray bytes(size, Qt::Uninitialized);
     for (qsizetype i = 0; i < size; ++i)
-        bytes[i] = char((i * 7 + i / 251) & 0xff);
+        bytes[i] = static_cast<char>((i * 7 + i / 251) & 0xff);
     return bytes;
 }
 
@@ -130,13 +129,16 @@ void TstTransferEngine::download_data()
     QTest::addColumn<qsizetype>("size");
     QTest::addColumn<qsizetype>("reads");
 
-    QTest::newRow("empty") << qsizetype(0) << qsizetype(1);
-    QTest::newRow("one byte") << qsizetype(1) << qsizetype(1);
-    QTest::newRow("one byte less than a block") << qsizetype(1023) << qsizetype(1);
-    QTest::newRow("a block: the second read gives nothing") << qsizetype(1024) << qsizetype(2);
-    QTest::newRow("one byte more") << qsizetype(1025) << qsizetype(2);
-    QTest::newRow("several chunks in memory") << qsizetype(3 * 1024 * 1024) << qsizetype(3 * 1024 + 1);
-    QTest::newRow("several chunks and a bit") << qsizetype(2 * 1024 * 1024 + 17) << qsizetype(2 * 1024 + 1);
+    QTest::newRow("empty") << static_cast<qsizetype>(0) << static_cast<qsizetype>(1);
+    QTest::newRow("one byte") << static_cast<qsizetype>(1) << static_cast<qsizetype>(1);
+    QTest::newRow("one byte less than a block") << static_cast<qsizetype>(1023) << static_cast<qsizetype>(1);
+    QTest::newRow("a block: the second read gives nothing")
+        << static_cast<qsizetype>(1024) << static_cast<qsizetype>(2);
+    QTest::newRow("one byte more") << static_cast<qsizetype>(1025) << static_cast<qsizetype>(2);
+    QTest::newRow("several chunks in memory")
+        << static_cast<qsizetype>(3 * 1024 * 1024) << static_cast<qsizetype>(3 * 1024 + 1);
+    QTest::newRow("several chunks and a bit")
+        << static_cast<qsizetype>(2 * 1024 * 1024 + 17) << static_cast<qsizetype>(2 * 1024 + 1);
 }
 
 void TstTransferEngine::download()
@@ -150,7 +152,7 @@ void TstTransferEngine::download()
     QCOMPARE(run.local(u"x.bin"_s), sample(size));
     QCOMPARE(run.calls(u"InternetReadFile"_s).size(), reads);
     QCOMPARE(run.display.blocks, reads);
-    QCOMPARE(run.display.last.doneAll, qint64(size));
+    QCOMPARE(run.display.last.doneAll, static_cast<qint64>(size));
     QCOMPARE(run.engine.handle(), 0u);
 }
 
@@ -159,11 +161,11 @@ void TstTransferEngine::upload_data()
     QTest::addColumn<qsizetype>("size");
     QTest::addColumn<QList<int>>("writes");
 
-    QTest::newRow("empty: one write of nothing") << qsizetype(0) << QList<int>{0};
-    QTest::newRow("one byte") << qsizetype(1) << QList<int>{1};
-    QTest::newRow("a block") << qsizetype(1024) << QList<int>{1024};
-    QTest::newRow("one byte more") << qsizetype(1025) << QList<int>{1024, 1};
-    QTest::newRow("two blocks") << qsizetype(2048) << QList<int>{1024, 1024};
+    QTest::newRow("empty: one write of nothing") << static_cast<qsizetype>(0) << QList<int>{0};
+    QTest::newRow("one byte") << static_cast<qsizetype>(1) << QList<int>{1};
+    QTest::newRow("a block") << static_cast<qsizetype>(1024) << QList<int>{1024};
+    QTest::newRow("one byte more") << static_cast<qsizetype>(1025) << QList<int>{1024, 1};
+    QTest::newRow("two blocks") << static_cast<qsizetype>(2048) << QList<int>{1024, 1024};
 }
 
 void TstTransferEngine::upload()

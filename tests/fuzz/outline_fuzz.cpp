@@ -37,7 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     PlainOutline plain;
     if (errorOf([&] { plain.parse(text); }) != error)
         std::abort();
-    if (!std::equal(leaves.begin(), leaves.end(), plain.leaves.begin(), plain.leaves.end(), same))
+    if (!std::ranges::equal(leaves, plain.leaves.begin(), plain.leaves.end(), same))
         std::abort();
     return 0;
 }

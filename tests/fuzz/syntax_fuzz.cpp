@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
         const QByteArrayView rest = text.sliced(offset);
         std::vector<unsigned char> part(static_cast<std::size_t>(rest.size()));
         engine.styleRange(rest, stateThere, part);
-        if (!std::equal(part.begin(), part.end(), whole.begin() + offset))
+        if (!std::ranges::equal(part, whole.begin() + offset))
             std::abort();
     }
     FoldState fold;

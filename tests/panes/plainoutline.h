@@ -16,7 +16,7 @@ inline QString plainTagAttribute(const QString &attributeName, const QString &in
 {
     using namespace Qt::StringLiterals;
     const QString pattern = UCase(attributeName) + u"="_s;
-    const qsizetype p = CInt(double(innerText.isEmpty() ? 0 : InStr(1, UCase(innerText), pattern)));
+    const qsizetype p = CInt(static_cast<double>(innerText.isEmpty() ? 0 : InStr(1, UCase(innerText), pattern)));
     if (p == 0)
         return innerText;
     qsizetype q = InStr(p, innerText, u" "_s);
@@ -102,7 +102,7 @@ public:
             } else if (name == u"layer") {
                 add(Layers, first(inner, {u"name"_s, u"id"_s}, inner));
             } else if (name == u"title") {
-                const qsizetype closing = CInt(double(InStr(position, text, u"</"_s)));
+                const qsizetype closing = CInt(static_cast<double>(InStr(position, text, u"</"_s)));
                 const QString chunk = Trim(Mid(text, lt, closing - lt + 9));
                 const QString tagText = Mid(chunk, 2, chunk.size() - 3);
                 leaves.push_back({Title, Mid(tagText, 7, tagText.size() - 13), tagText, lt - 1});

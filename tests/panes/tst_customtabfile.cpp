@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/customtabfile.h"
-
 #include "files/textlines.h"
+#include "panes/customtabfile.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/customtabs.h"
-
 #include "core/itemroles.h"
 #include "files/filenumber.h"
+#include "panes/customtabs.h"
 #include "support/fakes.h"
 #include "support/itemviews.h"
 #include "support/testregistry.h"

@@ -19,7 +19,7 @@ const QString overflow = u"Overflow"_s;
 /// tag at its position.
 QString lineOf(const OutlineLeaf &leaf, const QString &text)
 {
-    QString line = outlineRoots()[static_cast<size_t>(leaf.group)].key.toString() + u": "_s + leaf.caption;
+    QString line = outlineRoots()[static_cast<std::size_t>(leaf.group)].key.toString() + u": "_s + leaf.caption;
     const QString tag = u'<' + leaf.tagText;
     if (text.mid(leaf.position, tag.size()) != tag)
         line += u" [not at its place]"_s;
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QStringList lines;
         for (const OutlineRoot &root : outlineRoots())
             lines.append(
-                u"%1|%2|%3|%4"_s.arg(root.caption, root.key, outlineRoots()[static_cast<size_t>(root.parent)].key)
+                u"%1|%2|%3|%4"_s.arg(root.caption, root.key, outlineRoots()[static_cast<std::size_t>(root.parent)].key)
                     .arg(static_cast<int>(root.picture)));
         QCOMPARE(lines,
                  (QStringList{
@@ -226,10 +226,10 @@ private Q_SLOTS:
     void leavesKnowTheirPlaces()
     {
         const Found found = scan(u"ab<body>\r\n<p><a href='x'>"_s);
-        QCOMPARE(found.leaves.size(), size_t(2));
-        QCOMPARE(found.leaves[0].position, qsizetype(2));
+        QCOMPARE(found.leaves.size(), static_cast<std::size_t>(2));
+        QCOMPARE(found.leaves[0].position, static_cast<qsizetype>(2));
         QCOMPARE(found.leaves[0].tagText, u"body"_s);
-        QCOMPARE(found.leaves[1].position, qsizetype(13));
+        QCOMPARE(found.leaves[1].position, static_cast<qsizetype>(13));
         QCOMPARE(found.leaves[1].tagText, u"a href='x'"_s);
     }
 
@@ -288,7 +288,7 @@ private Q_SLOTS:
             const Found expected = plainScan(text);
             QCOMPARE(found.lines, expected.lines);
             QCOMPARE(found.error, expected.error);
-            for (size_t i = 0; i < found.leaves.size(); ++i) {
+            for (std::size_t i = 0; i < found.leaves.size(); ++i) {
                 QCOMPARE(found.leaves[i].tagText, expected.leaves[i].tagText);
                 QCOMPARE(found.leaves[i].position, expected.leaves[i].position);
             }

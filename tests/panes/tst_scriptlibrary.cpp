@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/scriptlibrary.h"
-
 #include "core/itemroles.h"
+#include "panes/scriptlibrary.h"
 #include "support/fakes.h"
 #include "support/itemviews.h"
 #include "support/testregistry.h"

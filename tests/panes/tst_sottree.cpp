@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/sottree.h"
-
 #include "files/textlines.h"
+#include "panes/sottree.h"
 #include "support/testregistry.h"
 
 #include <QRandomGenerator>

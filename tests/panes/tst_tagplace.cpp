@@ -45,10 +45,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<qsizetype>("position");
         QTest::addColumn<QList<int>>("range");
-        QTest::newRow("first line") << u"a<b c>d"_s << qsizetype(1) << QList<int>{0, 1, 0, 6};
-        QTest::newRow("third line") << u"a\r\nb\r\nxy<b c>"_s << qsizetype(8) << QList<int>{2, 2, 2, 7};
-        QTest::newRow("at the start of a line") << u"a\r\n<b c>"_s << qsizetype(3) << QList<int>{1, 0, 1, 5};
-        QTest::newRow("other line ends") << u"a\nb\r<b c>"_s << qsizetype(4) << QList<int>{2, 0, 2, 5};
+        QTest::newRow("first line") << u"a<b c>d"_s << static_cast<qsizetype>(1) << QList<int>{0, 1, 0, 6};
+        QTest::newRow("third line") << u"a\r\nb\r\nxy<b c>"_s << static_cast<qsizetype>(8) << QList<int>{2, 2, 2, 7};
+        QTest::newRow("at the start of a line")
+            << u"a\r\n<b c>"_s << static_cast<qsizetype>(3) << QList<int>{1, 0, 1, 5};
+        QTest::newRow("other line ends") << u"a\nb\r<b c>"_s << static_cast<qsizetype>(4) << QList<int>{2, 0, 2, 5};
     }
 
     void select()

@@ -43,7 +43,7 @@ std::vector<unsigned char> stylesOf(const SyntaxEngine &engine, QByteArrayView t
 {
     const std::size_t size = static_cast<std::size_t>(text.size());
     const std::unique_ptr<char[]> exact(new char[size]);
-    std::copy(text.begin(), text.end(), exact.get());
+    std::ranges::copy(text, exact.get());
     std::vector<unsigned char> styles(size + 2 * guardSize, guard);
     engine.styleRange({exact.get(), text.size()}, state, std::span(styles).subspan(guardSize, size));
     const auto untouched = [](unsigned char byte) { return byte == guard; };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "syntax/languagedefinition.h"
-
 #include "support/testregistry.h"
+#include "syntax/languagedefinition.h"
 
 #include <QSet>
 #include <QTest>

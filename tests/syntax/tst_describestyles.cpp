@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "syntax/describestyles.h"
-
 #include "support/testregistry.h"
+#include "syntax/describestyles.h"
 #include "syntax/styled.h"
 
 #include <QTest>

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/testregistry.h"
 #include "syntax/corpus.h"
 #include "syntax/styled.h"
-
-#include "support/testregistry.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -173,7 +172,7 @@ void TstLineStates::restartAtAnyLine()
         for (const qsizetype start : lineStartsOf(text)) {
             QVERIFY(whole.states.contains(start));
             const auto part = stylesOf(engine, QByteArrayView(text).sliced(start), whole.states.at(start));
-            QVERIFY2(std::equal(part.begin(), part.end(), whole.styles.begin() + start, whole.styles.end()),
+            QVERIFY2(std::ranges::equal(part, whole.styles.begin() + start, whole.styles.end()),
                      text.toPercentEncoding(" <>/").constData());
         }
     }
@@ -240,7 +239,7 @@ void TstLineStates::anyBytesInAnyState()
     for (int round = 0; round < 3000; ++round) {
         const QByteArray bytes = round % 2 ? corpusBytes(dice, static_cast<int>(dice() % 200)) : corpusText(dice, 20);
         const auto styles = stylesOf(engine, bytes, static_cast<LineState>(dice()));
-        QVERIFY(std::all_of(styles.begin(), styles.end(), [](unsigned char s) { return s < syntaxStyleCount; }));
+        QVERIFY(std::ranges::all_of(styles, [](unsigned char s) { return s < syntaxStyleCount; }));
     }
 }
 

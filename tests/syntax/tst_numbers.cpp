@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "syntax/numbers.h"
-
 #include "support/testregistry.h"
+#include "syntax/numbers.h"
 
 #include <QTest>
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/testregistry.h"
 #include "syntax/symboltable.h"
 #include "syntax/wordtable.h"
-
-#include "support/testregistry.h"
 
 #include <QTest>
 

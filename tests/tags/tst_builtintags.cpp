@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tags/builtintags.h"
-
 #include "support/testregistry.h"
+#include "tags/builtintags.h"
 #include "tags/tagfile.h"
 
 #include <QTest>

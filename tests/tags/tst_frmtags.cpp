@@ -51,7 +51,7 @@ private Q_SLOTS:
         QCOMPARE(palette.form.widget().windowTitle(), u"Insert Tag ..."_s);
         QCOMPARE(palette.list().count(), 44);
         for (int row = 0; row < 44; ++row)
-            QCOMPARE(palette.list().item(row)->text(), paletteTags()[static_cast<size_t>(43 - row)].item);
+            QCOMPARE(palette.list().item(row)->text(), paletteTags()[static_cast<std::size_t>(43 - row)].item);
         QVERIFY(palette.list().selectedItems().isEmpty());
     }
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tags/tagtree.h"
-
 #include "core/itemroles.h"
 #include "support/fakes.h"
 #include "support/itemviews.h"
 #include "support/testregistry.h"
 #include "tags/builtintags.h"
+#include "tags/tagtree.h"
 
 #include <QTest>
 

@@ -189,10 +189,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<qsizetype>("position");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("first") << u"x<a b>y<c>"_s << qsizetype(0) << u"<a b>"_s;
-        QTest::newRow("behind a beginning") << u"x<a b>y<c>"_s << qsizetype(2) << u"<c>"_s;
-        QTest::newRow("an end before it") << u"a>b<c>"_s << qsizetype(0) << u"<c>"_s;
-        QTest::newRow("two beginnings") << u"<a <b>"_s << qsizetype(0) << u"<a <b>"_s;
+        QTest::newRow("first") << u"x<a b>y<c>"_s << static_cast<qsizetype>(0) << u"<a b>"_s;
+        QTest::newRow("behind a beginning") << u"x<a b>y<c>"_s << static_cast<qsizetype>(2) << u"<c>"_s;
+        QTest::newRow("an end before it") << u"a>b<c>"_s << static_cast<qsizetype>(0) << u"<c>"_s;
+        QTest::newRow("two beginnings") << u"<a <b>"_s << static_cast<qsizetype>(0) << u"<a <b>"_s;
     }
 
     void nextTagText()

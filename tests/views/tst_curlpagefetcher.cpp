@@ -63,7 +63,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("answer");
         QTest::addColumn<int>("code");
         const auto row = [](const char *name, const QByteArray &answer, Error::Code code) {
-            QTest::newRow(name) << answer << int(code);
+            QTest::newRow(name) << answer << static_cast<int>(code);
         };
         row("not found", "HTTP/1.1 404 Not Found\r\nContent-Length: 4\r\n\r\nnone", Error::Code::NotFound);
         row("server error", "HTTP/1.1 500 Oops\r\nContent-Length: 4\r\n\r\noops", Error::Code::NotFound);
@@ -90,7 +90,7 @@ private Q_SLOTS:
         CurlPageFetcher fetcher({.whole = std::chrono::milliseconds(1500), .bytes = 1000});
         const Result<FetchedPage> page = fetcher.fetch(server.address(u"/page"_s));
         QVERIFY(!page.ok());
-        QCOMPARE(int(page.error().code), code);
+        QCOMPARE(static_cast<int>(page.error().code), code);
         QVERIFY(!page.error().sentence.isEmpty());
     }
 

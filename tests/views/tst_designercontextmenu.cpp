@@ -81,8 +81,9 @@ private Q_SLOTS:
             QVERIFY(entry.state == DesignerMenuState::Unchecked);
             designer.commands.clear();
             menu.run(index);
-            QCOMPARE(designer.commands, isSeparator ? std::vector<int>{} : std::vector<int>{int(entry.command)});
-            commands.insert(int(entry.command));
+            QCOMPARE(designer.commands,
+                     isSeparator ? std::vector<int>{} : std::vector<int>{static_cast<int>(entry.command)});
+            commands.insert(static_cast<int>(entry.command));
         }
         QCOMPARE(commands.size(), 11); // Ten entries, and the separators' none.
     }

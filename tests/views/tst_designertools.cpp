@@ -71,7 +71,7 @@ private Q_SLOTS:
         QVERIFY(bench.designer.runs == std::vector<Run>({{DesignerCommand::SetForeColor, Default, u"#FF0000"_s}}));
         bench.world.prompts.expectColour(0x0000ff, std::nullopt); // Cancelled.
         bench.tools.click(DesignerCommand::SetForeColor);
-        QCOMPARE(bench.designer.runs.size(), size_t(1));
+        QCOMPARE(bench.designer.runs.size(), static_cast<std::size_t>(1));
     }
 
     void colours_data()
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(bench.tools.blockFormats(), names.mid(0, 16));
         QVERIFY(bench.designer.runs == std::vector<Run>({{DesignerCommand::GetBlockFormatNames, DontPromptUser, {}}}));
         QVERIFY(!bench.tools.documentComplete());
-        QCOMPARE(bench.designer.runs.size(), size_t(1));
+        QCOMPARE(bench.designer.runs.size(), static_cast<std::size_t>(1));
     }
 
     void fontsWaitForTheCommand_data()
@@ -140,7 +140,7 @@ private Q_SLOTS:
         bench.designer.statuses[DesignerCommand::SetFontSize] = status;
         bench.tools.chooseFont(u"Verdana"_s);
         bench.tools.chooseFontSize(7);
-        QCOMPARE(bench.designer.runs.size(), size_t(runs ? 2 : 0));
+        QCOMPARE(bench.designer.runs.size(), static_cast<std::size_t>(runs ? 2 : 0));
         if (runs)
             QVERIFY(bench.designer.runs[1] == (Run{DesignerCommand::SetFontSize, Default, 7}));
     }

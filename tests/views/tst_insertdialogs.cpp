@@ -91,7 +91,7 @@ private Q_SLOTS:
         dialog.form.type(u"TableCaption"_s, u"Figures"_s);
         dialog.form.key(Qt::Key_Return);
         QVERIFY(!dialog.form.isOpen());
-        QCOMPARE(dialog.world.designer.runs.size(), size_t(1));
+        QCOMPARE(dialog.world.designer.runs.size(), static_cast<std::size_t>(1));
         const FakeDesigner::Run &run = dialog.world.designer.runs.front();
         QCOMPARE(run.command, DesignerCommand::InsertTable);
         QCOMPARE(run.prompting, DesignerPrompting::DontPromptUser);
@@ -106,7 +106,7 @@ private Q_SLOTS:
         dialog.form.type(u"Cols"_s, u"100"_s);
         dialog.form.press(u"OkCmd"_s);
         QVERIFY(!dialog.form.isOpen());
-        QCOMPARE(dialog.world.designer.runs.size(), size_t(1));
+        QCOMPARE(dialog.world.designer.runs.size(), static_cast<std::size_t>(1));
     }
 
     void noTable_data()

@@ -50,7 +50,7 @@ struct FakeWindow final : WorkspaceWindow {
     void setVisualMenusEnabled(bool enabled) override { visualMenus = enabled; }
     void selectTab(WorkspaceView view) override
     {
-        tab = int(view);
+        tab = static_cast<int>(view);
         views->select(view);
     }
 };
@@ -144,7 +144,7 @@ private Q_SLOTS:
         bench.select(WorkspaceView(next));
         QCOMPARE(bench.world.editor.text(), asks ? u"newer"_s : u"new"_s);
         QVERIFY(bench.window.modified);
-        QCOMPARE(int(bench.window.shown), next);
+        QCOMPARE(static_cast<int>(bench.window.shown), next);
         QVERIFY(!bench.world.designer.leaving);
     }
 
@@ -207,8 +207,8 @@ private Q_SLOTS:
         bench.openFile(u"/site/page.html"_s, u"<p>"_s);
         for (const int view : std::as_const(way))
             bench.select(WorkspaceView(view));
-        QCOMPARE(int(bench.window.shown), way.isEmpty() ? 0 : way.last());
-        QCOMPARE(int(bench.views.current()), way.isEmpty() ? 0 : way.last());
+        QCOMPARE(static_cast<int>(bench.window.shown), way.isEmpty() ? 0 : way.last());
+        QCOMPARE(static_cast<int>(bench.views.current()), way.isEmpty() ? 0 : way.last());
         QTEST(bench.window.sourceMenus, "sourceMenus");
         QTEST(bench.window.visualMenus, "visualMenus");
     }
@@ -359,7 +359,7 @@ private Q_SLOTS:
         bench.select(WorkspaceView::Preview);
         QCOMPARE(bench.browser.calls, QStringList{copy});
         QCOMPARE(bench.window.notices, QStringList{u"It is read-only."_s});
-        QCOMPARE(int(bench.window.shown), 1);
+        QCOMPARE(static_cast<int>(bench.window.shown), 1);
     }
 
     void asp_data()
@@ -415,7 +415,7 @@ private Q_SLOTS:
             QCOMPARE(bench.file(u"/www/a.asp"_s), QByteArray("theirs"));
         QCOMPARE(bench.browser.calls, address.isEmpty() ? QStringList() : QStringList{address});
         QTEST(bench.window.previewTarget, "target");
-        QCOMPARE(int(bench.window.shown), 1); // Also after a refusal.
+        QCOMPARE(static_cast<int>(bench.window.shown), 1); // Also after a refusal.
     }
 
     void aspWithoutARootIsABareName()
@@ -468,7 +468,7 @@ private Q_SLOTS:
         bench.world.prompts.expect(saveQuestion, Answer::Cancel);
         bench.select(WorkspaceView::Visual);
         QCOMPARE(bench.window.tab, 0);
-        QCOMPARE(int(bench.window.shown), 0);
+        QCOMPARE(static_cast<int>(bench.window.shown), 0);
         QCOMPARE(bench.window.saves, 0);
         QVERIFY(bench.window.sourceMenus);
         QVERIFY(!bench.window.visualMenus);
@@ -548,7 +548,7 @@ private Q_SLOTS:
         bench.world.designer.html = u"edited"_s;
         bench.views.reset();
         QCOMPARE(bench.world.designer.html, u"file"_s);
-        QCOMPARE(int(bench.window.shown), 2);
+        QCOMPARE(static_cast<int>(bench.window.shown), 2);
         QVERIFY(!bench.window.modified);
     }
 
@@ -560,7 +560,7 @@ private Q_SLOTS:
         bench.select(WorkspaceView::Preview);
         bench.select(WorkspaceView::Visual);
         QCOMPARE(bench.window.tab, 0);
-        QCOMPARE(int(bench.window.shown), 0);
+        QCOMPARE(static_cast<int>(bench.window.shown), 0);
         QVERIFY(bench.world.designer.loaded.isEmpty());
     }
 

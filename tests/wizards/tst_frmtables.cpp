@@ -199,8 +199,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<qsizetype>("inserted");
-        QTest::newRow("Return creates") << Qt::Key_Return << qsizetype(1);
-        QTest::newRow("Escape cancels") << Qt::Key_Escape << qsizetype(0);
+        QTest::newRow("Return creates") << Qt::Key_Return << static_cast<qsizetype>(1);
+        QTest::newRow("Escape cancels") << Qt::Key_Escape << static_cast<qsizetype>(0);
     }
 
     void keys()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "wizards/tablemarkup.h"
-
 #include "support/testregistry.h"
+#include "wizards/tablemarkup.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -116,7 +115,7 @@ QString simpleReference(TableSize size)
     return text + u"</TABLE>\r\n"_s;
 }
 
-template<typename T, size_t N>
+template<typename T, std::size_t N>
 T oneOf(QRandomGenerator &random, const T (&values)[N])
 {
     return values[random.bounded(static_cast<quint32>(N))];

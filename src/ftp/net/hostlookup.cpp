@@ -3,11 +3,11 @@
 
 #include <QUrl>
 
-#include <netdb.h>
-
 #include <future>
 #include <memory>
 #include <thread>
+
+#include <netdb.h>
 
 namespace zephira {
 

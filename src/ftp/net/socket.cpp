@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/net/socket.h"
 
+#include <cerrno>
+
+#include <linux/sockios.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
-
-#include <linux/sockios.h>
-
-#include <cerrno>
 
 namespace zephira {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/net/socketaddress.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include <arpa/inet.h>
 #include <netdb.h>
 #include <netinet/in.h>
-
-#include <algorithm>
-#include <cstring>
 
 namespace zephira {
 

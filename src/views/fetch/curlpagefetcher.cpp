@@ -3,9 +3,9 @@
 
 #include "views/fetchedtext.h"
 
-#include <curl/curl.h>
-
 #include <memory>
+
+#include <curl/curl.h>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +23,7 @@ struct Body {
     bool isTooLarge = false;
 };
 
-size_t take(char *data, size_t size, size_t count, void *target)
+std::size_t take(char *data, std::size_t size, std::size_t count, void *target)
 {
     auto &body = *static_cast<Body *>(target);
     const auto length = static_cast<qsizetype>(size * count);

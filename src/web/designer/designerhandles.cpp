@@ -65,7 +65,7 @@ void DesignerHandles::paintEvent(QPaintEvent *)
     if (!m_frame.isNull()) {
         paintFrame(painter);
         // Signs must not cover the selected element or its grips.
-        const int around = int(std::ceil(gripSize / 2)) + 1;
+        const int around = static_cast<int>(std::ceil(gripSize / 2)) + 1;
         painter.setClipRegion(
             QRegion(rect()).subtracted(m_frame.toAlignedRect().adjusted(-around, -around, around, around)));
     }

@@ -138,7 +138,7 @@ void DesignerWidget::takeCommand(const QVariantMap &report)
 void DesignerWidget::takeText(const QString &source)
 {
     m_text = PageRoundTrip(source, freshMarkPrefix(source), documentKind(m_baseFile));
-    m_page->setAllowance(int(source.size() / charactersInMillisecond));
+    m_page->setAllowance(static_cast<int>(source.size() / charactersInMillisecond));
 }
 
 void DesignerWidget::setDocumentHtml(const QString &html)

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/designerwidget.h"
-
 #include "core/errorstyles.h"
 #include "web/designer/designerclipboard.h"
 #include "web/designer/designerpage.h"
+#include "web/designer/designerwidget.h"
 #include "web/designer/insertedtable.h"
 
 #include <QPointer>

@@ -101,8 +101,10 @@ void TstDesignerLoss::lateClipboardKey()
 {
     m_bench->show(u"<p>a[b]c</p>"_s);
     const auto tell = [this](const QString &page, int number, DesignerCommand command) {
-        bridge().tell(
-            {{u"kind"_s, u"command"_s}, {u"page"_s, page}, {u"number"_s, number}, {u"command"_s, int(command)}});
+        bridge().tell({{u"kind"_s, u"command"_s},
+                       {u"page"_s, page},
+                       {u"number"_s, number},
+                       {u"command"_s, static_cast<int>(command)}});
         QCoreApplication::processEvents();
     };
     const QString own = lastReport().value(u"page"_s).toString();

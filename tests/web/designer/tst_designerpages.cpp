@@ -36,7 +36,7 @@ QStringList realPages()
     }
     std::ranges::sort(dressed);
     std::ranges::sort(others);
-    return (dressed + others).first(qMin(wantedPages, int(dressed.size() + others.size())));
+    return (dressed + others).first(qMin(wantedPages, static_cast<int>(dressed.size() + others.size())));
 }
 
 } // namespace

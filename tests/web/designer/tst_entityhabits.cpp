@@ -48,7 +48,7 @@ private Q_SLOTS:
     void characters()
     {
         QFETCH(QString, reference);
-        QTEST(uint(entityCharacter(reference)), "character");
+        QTEST(static_cast<uint>(entityCharacter(reference)), "character");
     }
 
     void writes_data()
