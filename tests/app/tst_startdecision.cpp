@@ -21,7 +21,7 @@ private Q_SLOTS:
         QTest::newRow("empty") << u""_s << static_cast<int>(StartArgument::None);
         QTest::newRow("nodialog") << u"/nodialog"_s << static_cast<int>(StartArgument::NoDialog);
         QTest::newRow("case counts") << u"/NoDialog"_s << static_cast<int>(StartArgument::File);
-        QTest::newRow("blank behind") << u"/nodialog "_s << static_cast<int>(StartArgument::File);
+        QTest::newRow("blank after it") << u"/nodialog "_s << static_cast<int>(StartArgument::File);
         QTest::newRow("file") << u"a page.html"_s << static_cast<int>(StartArgument::File);
     }
 
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QTest::newRow("nodialog, all on") << NoDialog << 1 << u"1"_s << Actions{};
         QTest::newRow("nodialog, all off") << NoDialog << 0 << u"0"_s << Actions{};
         QTest::newRow("start dialog alone") << None << 0 << u"1"_s << Actions{ShowStartDialog};
-        QTest::newRow("tips 2 is not 1") << None << 2 << u"1"_s << Actions{ShowStartDialog};
+        QTest::newRow("tips 2 doesn't count as 1") << None << 2 << u"1"_s << Actions{ShowStartDialog};
         QTest::newRow("nothing") << None << 0 << u"0"_s << Actions{};
         QTest::newRow("file, tips off") << File << 0 << u"1"_s << Actions{};
         QTest::newRow("tip, then start dialog")

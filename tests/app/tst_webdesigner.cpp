@@ -537,8 +537,8 @@ private Q_SLOTS:
         QTest::newRow("delete column") << pageWith(cell) << 12 << u"<td"_s << 0;
         const QByteArray both = pageWith("<table><tr><td>" + picture + "</td></tr></table>");
         QTest::newRow("make 2D in a cell") << both << 8 << u"absolute"_s << 1;
-        QTest::newRow("insert row behind the position") << both << 10 << u"<tr"_s << 2;
-        QTest::newRow("delete column behind the position") << both << 14 << u"<td"_s << 0;
+        QTest::newRow("insert row after the position") << both << 10 << u"<tr"_s << 2;
+        QTest::newRow("delete column after the position") << both << 14 << u"<td"_s << 0;
     }
 
     void theContextMenuActs()

@@ -116,8 +116,8 @@ void TstDesktopShell::openFailures_data()
     QTest::newRow("missing file") << u"/no/such/file"_s << u"/no/such/file can't be found."_s;
     QTest::newRow("no scheme") << u"example.org"_s << u"\"example.org\" is neither a full path nor an address."_s;
     QTest::newRow("drive") << u"C:/x"_s << u"\"C:/x\" is neither a full path nor an address."_s;
-    QTest::newRow("nobody opens it") << u"zephira-test://x"_s
-                                     << u"The desktop has no program that opens zephira-test://x."_s;
+    QTest::newRow("no program for it") << u"zephira-test://x"_s
+                                       << u"The desktop has no program that opens zephira-test://x."_s;
 }
 
 void TstDesktopShell::openFailures()

@@ -30,7 +30,7 @@ private Q_SLOTS:
         QTest::newRow("a word") << u"שלום"_s << u"0000"_s << QStringList{u"שלום"_s};
         QTest::newRow("two words") << u"x של ום."_s << u"00000000"_s << QStringList{u"של ום"_s};
         QTest::newRow("a Latin word between") << u"של x ום"_s << u"0000000"_s << QStringList{u"של"_s, u"ום"_s};
-        QTest::newRow("a number behind") << u"של 12 x"_s << u"0000000"_s << QStringList{u"של 12"_s};
+        QTest::newRow("a number after it") << u"של 12 x"_s << u"0000000"_s << QStringList{u"של 12"_s};
         QTest::newRow("Arabic") << u"<سلام>"_s << u"000000"_s << QStringList{u"سلام"_s};
         QTest::newRow("another style") << u"של ום"_s << u"00011"_s << QStringList{u"של"_s, u"ום"_s};
         QTest::newRow("a tab") << u"של\tום"_s << u"00000"_s << QStringList{u"של"_s, u"ום"_s};

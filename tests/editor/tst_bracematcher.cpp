@@ -22,9 +22,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("at"); // -1 for none
         const QString c = u"C/C++"_s;
         const QString html = u"HTML"_s;
-        QTest::newRow("behind an opening one") << c << u"(|a(b))"_s << u")"_s << 5;
+        QTest::newRow("after an opening one") << c << u"(|a(b))"_s << u")"_s << 5;
         QTest::newRow("in front of an opening one") << c << u"x|[1]"_s << u"]"_s << 3;
-        QTest::newRow("behind a closing one") << c << u"{{}}|"_s << u"{"_s << 0;
+        QTest::newRow("after a closing one") << c << u"{{}}|"_s << u"{"_s << 0;
         QTest::newRow("not in a string") << c << u"(|\")\")"_s << u")"_s << 4;
         QTest::newRow("no partner") << c << u"(|a"_s << QString() << -1;
         QTest::newRow("no bracket") << c << u"a|b"_s << QString() << -1;

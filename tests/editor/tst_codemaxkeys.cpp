@@ -168,7 +168,7 @@ private Q_SLOTS:
         QTest::newRow("plain") << u"ab"_s << 1 << u"a\r\n|b"_s;
         QTest::newRow("blanks") << u"  ab"_s << 4 << u"  ab\r\n  |"_s;
         QTest::newRow("tab") << u"\tab"_s << 3 << u"\tab\r\n\t|"_s;
-        QTest::newRow("behind a brace") << u"  if {"_s << 6 << u"  if {\r\n  \t|"_s;
+        QTest::newRow("after a brace") << u"  if {"_s << 6 << u"  if {\r\n  \t|"_s;
         QTest::newRow("at the beginning") << u"  ab"_s << 0 << u"\r\n|  ab"_s;
     }
     void newLinesAreIndented()

@@ -180,8 +180,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("column");
         QTest::addColumn<int>("reachedLine");
         QTest::addColumn<int>("reachedColumn");
-        QTest::newRow("column behind the line") << 0 << 99 << 0 << 3;
-        QTest::newRow("line behind the text") << 99 << 0 << 1 << 2;
+        QTest::newRow("column beyond the line") << 0 << 99 << 0 << 3;
+        QTest::newRow("line beyond the text") << 99 << 0 << 1 << 2;
         QTest::newRow("negative line") << -1 << 5 << 0 << 0;
         QTest::newRow("negative column") << 1 << -5 << 1 << 0;
     }

@@ -26,7 +26,7 @@ private Q_SLOTS:
         QTest::newRow("nothing else there") << QByteArray("   ") << false << QByteArray("   ");
         QTest::newRow("an empty line") << QByteArray("") << false << QByteArray("");
         QTest::newRow("an opening brace") << QByteArray("if (x) {") << false << QByteArray("\t");
-        QTest::newRow("a brace and blanks behind it") << QByteArray("\tif {  ") << false << QByteArray("\t\t");
+        QTest::newRow("a brace followed by blanks") << QByteArray("\tif {  ") << false << QByteArray("\t\t");
         QTest::newRow("a brace with blanks for tabs") << QByteArray(" {") << true << QByteArray("    ");
         QTest::newRow("a closing brace") << QByteArray("\t}") << false << QByteArray("\t");
     }

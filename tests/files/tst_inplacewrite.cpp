@@ -87,7 +87,7 @@ private Q_SLOTS:
         QTest::newRow("longer") << QByteArray("old") << QByteArray("the new text").repeated(1000);
         QTest::newRow("shorter") << QByteArray("the old text") << QByteArray("new");
         QTest::newRow("nothing") << QByteArray("the old text") << QByteArray();
-        QTest::newRow("behind nothing") << QByteArray() << QByteArray("new");
+        QTest::newRow("from nothing") << QByteArray() << QByteArray("new");
     }
 
     void sizes()

@@ -51,7 +51,7 @@ private Q_SLOTS:
         row("key before all sections", "k=1\n[s]\nx=2\n", none);
         row("no section", "k=1\n", none);
         row("no file", "", none);
-        row("text behind the section's name", "[s] ; main\nk=v\n", u"v"_s);
+        row("text after the section's name", "[s] ; main\nk=v\n", u"v"_s);
         row("section that isn't closed", "[s]\n[t\nk=v\n", u"v"_s);
         row("line without an equals sign", "[s]\nk\nk=v\n", u"v"_s);
         row("line of an equals sign", "[s]\n=x\nk=v\n", u"v"_s);
@@ -88,11 +88,11 @@ private Q_SLOTS:
         row("only the first is replaced", "[s]\nk=1\nk=2\n[s]\nk=3\n", "[s]\nk=v\nk=2\n[s]\nk=3\n");
         row("new key", "[s]\nx=1\n[t]\ny=2\n", "[s]\nx=1\nk=v\n[t]\ny=2\n");
         row("new key before blank lines", "[s]\nx=1\n\n  \n[t]\ny=2\n", "[s]\nx=1\nk=v\n\n  \n[t]\ny=2\n");
-        row("new key behind a comment", "[s]\nx=1\n; end\n\n", "[s]\nx=1\n; end\nk=v\n\n");
+        row("new key after a comment", "[s]\nx=1\n; end\n\n", "[s]\nx=1\n; end\nk=v\n\n");
         row("new key in an empty section", "[s]\n\n[t]\n", "[s]\nk=v\n\n[t]\n");
-        row("new key behind a line without an end", "[s]\nx=1", "[s]\nx=1\nk=v\n");
+        row("new key after a line without an end", "[s]\nx=1", "[s]\nx=1\nk=v\n");
         row("new section", "[t]\nk=1\n", "[t]\nk=1\n[s]\nk=v\n");
-        row("new section behind a line without an end", "[t]\nk=1", "[t]\nk=1\n[s]\nk=v\n");
+        row("new section after a line without an end", "[t]\nk=1", "[t]\nk=1\n[s]\nk=v\n");
         row("new section in a file of CR", "[t]\rk=1\r", "[t]\rk=1\r[s]\rk=v\r");
         row("line ends as the first one", "[t]\r\nk=1\n", "[t]\r\nk=1\n[s]\r\nk=v\r\n");
         row("everything else stays",

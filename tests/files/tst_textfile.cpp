@@ -156,7 +156,7 @@ private Q_SLOTS:
             u"The character \u201C\u0416\u201D (U+0416) in line 3 can't be stored as Windows-1252."_s);
         row("line 4, all kinds", "a\rb\nc\r\n\xD0\x96",
             u"The character \u201C\u0416\u201D (U+0416) in line 4 can't be stored as Windows-1252."_s);
-        row("behind a CR", "a\r\xD0\x96",
+        row("after a CR", "a\r\xD0\x96",
             u"The character \u201C\u0416\u201D (U+0416) in line 2 can't be stored as Windows-1252."_s);
         row("the first of two", "\xE2\x86\x92\n\xD0\x96",
             u"The character \u201C\u2192\u201D (U+2192) in line 1 can't be stored as Windows-1252."_s);

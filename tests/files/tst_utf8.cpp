@@ -26,7 +26,7 @@ private Q_SLOTS:
         row("three bytes", "\xE0\xA0\x80\xEF\xBF\xBF", true);
         row("four bytes", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", true);
         row("last before the surrogates", "\xED\x9F\xBF", true);
-        row("first behind the surrogates", "\xEE\x80\x80", true);
+        row("first after the surrogates", "\xEE\x80\x80", true);
         row("lone continuation", "\x80", false);
         row("overlong slash, two bytes", "\xC0\xAF", false);
         row("overlong, two bytes", "\xC1\xBF", false);

@@ -118,8 +118,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("port");
         QTest::addColumn<QByteArray>("last");
-        QTest::newRow("nobody is there") << "229 Here (|||1|)"_ba
-                                         << "EPSV PASV RETR"_ba;
+        QTest::newRow("no listener") << "229 Here (|||1|)"_ba
+                                     << "EPSV PASV RETR"_ba;
         QTest::newRow("nonsense") << "229 Here"_ba
                                   << "EPSV PASV RETR"_ba;
         QTest::newRow("not now") << "425 Not now"_ba

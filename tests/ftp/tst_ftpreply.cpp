@@ -46,12 +46,12 @@ private Q_SLOTS:
         QTest::newRow("lines that begin like other replies") << "220-Hello\n230 no\n220-more\n220 Ready"_ba << 220;
         QTest::newRow("code alone as the end") << "220-Hello\n220"_ba << 220;
         QTest::newRow("not ended") << "220-Hello\n221 no"_ba << 0;
-        QTest::newRow("a line behind the end") << "220 Hello\n220 again"_ba << 0;
+        QTest::newRow("a line after the end") << "220 Hello\n220 again"_ba << 0;
         QTest::newRow("no code") << "Hello"_ba << 0;
         QTest::newRow("empty") << ""_ba << 0;
         QTest::newRow("two digits") << "22"_ba << 0;
         QTest::newRow("four digits") << "2200 Hello"_ba << 0;
-        QTest::newRow("no class of replies") << "620 Hello"_ba << 0;
+        QTest::newRow("not a reply class") << "620 Hello"_ba << 0;
         QTest::newRow("begins with a blank") << " 220 Hello"_ba << 0;
     }
 
@@ -144,8 +144,8 @@ private Q_SLOTS:
                                 << "/a b"_ba;
         QTest::newRow("quotes") << "257 \"/a \"\"b\"\"\" is current"_ba
                                 << "/a \"b\""_ba;
-        QTest::newRow("nothing behind") << "257 \"/home\""_ba
-                                        << "/home"_ba;
+        QTest::newRow("nothing after it") << "257 \"/home\""_ba
+                                          << "/home"_ba;
         QTest::newRow("not ended") << "257 \"/home"_ba
                                    << "none"_ba;
         QTest::newRow("no quotes") << "257 /home"_ba
@@ -164,7 +164,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("feature");
         QTest::addColumn<bool>("has");
-        QTest::newRow("with facts behind it") << "MLST"_ba << true;
+        QTest::newRow("with facts after it") << "MLST"_ba << true;
         QTest::newRow("as the last word") << "UTF8"_ba << true;
         QTest::newRow("in lower case") << "utf8"_ba << true;
         QTest::newRow("the beginning of a word") << "ML"_ba << false;

@@ -115,7 +115,7 @@ void TstFtpRules::date_data()
     row("two digits", {2023, 12, 31, 23, 59, 59}, u"31.12.202323:59"_s);
     row("midnight", {1999, 1, 1, 0, 0, 0}, u"1.1.19990:00"_s);
     row("ten past", {2024, 2, 29, 13, 10, 0}, u"29.2.202413:10"_s);
-    QTest::newRow("none told") << static_cast<quint64>(0) << u"1.1.16010:00"_s;
+    QTest::newRow("none given") << static_cast<quint64>(0) << u"1.1.16010:00"_s;
 }
 
 void TstFtpRules::date()

@@ -106,8 +106,8 @@ private Q_SLOTS:
                                               << "332 Account?"_ba;
         QTest::newRow("the password") << "PASS"_ba
                                       << "530 No"_ba;
-        QTest::newRow("an account behind the password") << "PASS"_ba
-                                                        << "332 Account?"_ba;
+        QTest::newRow("an account after the password") << "PASS"_ba
+                                                       << "332 Account?"_ba;
         QTest::newRow("binary transfers") << "TYPE"_ba
                                           << "504 No"_ba;
     }
@@ -363,8 +363,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("passive");
         QTest::newRow("no port") << "229 Here (|||0|)"_ba
                                  << "227 Here (127,0,0,1,0,0)"_ba;
-        QTest::newRow("a port where nobody is") << "229 Here (|||1|)"_ba
-                                                << "227 Here (127,0,0,1,0,1)"_ba;
+        QTest::newRow("a port without a listener") << "229 Here (|||1|)"_ba
+                                                   << "227 Here (127,0,0,1,0,1)"_ba;
         QTest::newRow("nonsense") << "229 Here"_ba
                                   << "227 Here"_ba;
         QTest::newRow("refused") << "500 What?"_ba

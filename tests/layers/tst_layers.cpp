@@ -137,7 +137,7 @@ private Q_SLOTS:
         QTest::newRow("a logic header") << u"wizards/tablemarkup.h"_s << true << false;
         QTest::newRow("a logic source") << u"wizards/tablemarkup.cpp"_s << true << false;
         QTest::newRow("one of a subfolder") << u"ftp/net/socket.cpp"_s << true << false;
-        QTest::newRow("one behind a variable") << u"commands/menutable.cpp"_s << true << false;
+        QTest::newRow("one in a variable") << u"commands/menutable.cpp"_s << true << false;
         QTest::newRow("a form") << u"wizards/frmtables.h"_s << false << true;
         QTest::newRow("a widget") << u"wizards/sizepicker.h"_s << false << false;
     }
@@ -174,7 +174,7 @@ private Q_SLOTS:
             u"views/a.cpp:2: only web includes the web engine"_s);
         row("the program from below", u"panes/a.cpp"_s, u"#include \"app/program.h\"\n"_s,
             u"panes/a.cpp:2: panes includes nothing of app"_s);
-        row("a folder beside", u"panes/a.cpp"_s, u"#include \"views/a.h\"\n"_s,
+        row("a folder next to it", u"panes/a.cpp"_s, u"#include \"views/a.h\"\n"_s,
             u"panes/a.cpp:2: panes includes nothing of views"_s);
         row("a folder that nobody knows", u"panes/a.cpp"_s, u"#include \"other/a.h\"\n"_s,
             u"panes/a.cpp:2: panes includes nothing of other"_s);

@@ -72,7 +72,8 @@ void TstFoldLevels::folds_data()
     row("a server block", "HTML", "<% For Each x In y %>\n<b>z</b>\n<% Next %>\nx", "0+ 1 1 0");
     row("every element of XML", "XML", "<a>\n<b c='d'/>\n<e\n/>\n<?x?>\n</a>\nx", "0+ 1 1+ 2 1 1 0");
     row("words that open and close", "Basic", "Sub a()\n  Do While b\n  Loop\nEnd Sub\nx", "0+ 1+ 2 1 0");
-    row("words that only look so", "Basic", "Declare Sub a Lib \"b\"\nExit Sub\nOpen f For Input As #1\nx", "0 0 0 0");
+    row("words that only look alike", "Basic", "Declare Sub a Lib \"b\"\nExit Sub\nOpen f For Input As #1\nx",
+        "0 0 0 0");
     row("nested words", "Pascal", "begin\n repeat\n  x\n until y;\nend;\nz", "0+ 1+ 2 2 1 0");
     row("Perl", "Perl", "sub f {\n}\nx", "0+ 1 0");
 }

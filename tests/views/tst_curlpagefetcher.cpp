@@ -99,7 +99,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("address");
         QTest::newRow("the scheme alone") << u"http://"_s;
         QTest::newRow("nothing") << QString();
-        QTest::newRow("a port that nobody listens at") << u"http://127.0.0.1:1/"_s;
+        QTest::newRow("a port without a listener") << u"http://127.0.0.1:1/"_s;
         QTest::newRow("no address") << u"http://[::"_s;
         QTest::newRow("a scheme that is refused") << u"gopher://127.0.0.1/"_s;
     }

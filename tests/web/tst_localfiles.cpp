@@ -48,7 +48,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("allowed");
         QTest::newRow("itself") << u"site/page.html"_s << true;
-        QTest::newRow("beside it") << u"site/img/a.png"_s << true;
+        QTest::newRow("next to it") << u"site/img/a.png"_s << true;
         QTest::newRow("its folder") << u"site"_s << true;
         QTest::newRow("a link that stays within") << u"site/in/a.png"_s << true;
         QTest::newRow("up and down again") << u"site/img/../page.html"_s << true;
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QTest::newRow("outside by dots") << u"site/../secret/key.txt"_s << false;
         QTest::newRow("outside by a link") << u"site/link.txt"_s << false;
         QTest::newRow("outside by a linked folder") << u"site/out/key.txt"_s << false;
-        QTest::newRow("a folder whose name begins so") << u"site2/other.html"_s << false;
+        QTest::newRow("a folder whose name begins the same") << u"site2/other.html"_s << false;
         QTest::newRow("not there") << u"site/none.png"_s << false;
         QTest::newRow("the folder above") << u""_s << false;
     }
@@ -86,8 +86,8 @@ private Q_SLOTS:
         QTest::newRow("outside of it by a link") << u"site"_s << u"site/link.txt"_s << false;
         QTest::newRow("a project elsewhere") << u"secret"_s << u"site/img/a.png"_s << false;
         QTest::newRow("a project elsewhere, its file") << u"secret"_s << u"secret/key.txt"_s << false;
-        QTest::newRow("a project that isn't there") << u"none"_s << u"site/img/a.png"_s << false;
-        QTest::newRow("beside the page as ever") << u"secret"_s << u"site/sub/deep.html"_s << true;
+        QTest::newRow("a project that doesn't exist") << u"none"_s << u"site/img/a.png"_s << false;
+        QTest::newRow("next to the page as always") << u"secret"_s << u"site/sub/deep.html"_s << true;
     }
 
     /// A page inside the project may load files from all of the project, such as "../css/s.css".

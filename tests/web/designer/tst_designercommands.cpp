@@ -149,7 +149,7 @@ void TstDesignerCommands::commands_data()
     row("table in an item", InsertTable, QVariantMap{{u"NumRows"_s, 1}, {u"NumCols"_s, 1}, {u"TableAttrs"_s, u""_s}},
         u"<ul><li>x|</li></ul>"_s, 3,
         u"<ul><li>x<table>\n<tbody>\n<tr>\n<td>|<br></td>\n</tr>\n</tbody>\n</table></li></ul>"_s);
-    row("no table of no rows", InsertTable, QVariantMap{{u"NumRows"_s, 0}}, u"<p>a|</p>"_s, 3, u"<p>a|</p>"_s);
+    row("no table without rows", InsertTable, QVariantMap{{u"NumRows"_s, 0}}, u"<p>a|</p>"_s, 3, u"<p>a|</p>"_s);
 
     const QString square =
         u"<table><tbody><tr><td>%1</td><td>%2</td></tr><tr><td>%3</td><td>%4</td></tr></tbody></table>"_s;

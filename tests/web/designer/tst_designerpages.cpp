@@ -116,7 +116,7 @@ void TstDesignerPages::idleScripts_data()
     QTest::newRow("with values") << u"<script type=\"text/javascript\" src=\"s.js\" id=\"s\"></script>"_s;
     QTest::newRow("with a text") << u"<script>if (a < b) c();</script>"_s;
     QTest::newRow("for others") << u"<script nomodule src=\"s.js\"></script>"_s;
-    QTest::newRow("for others, behind") << u"<script src=\"s.js\" nomodule></script>"_s;
+    QTest::newRow("for others, after it") << u"<script src=\"s.js\" nomodule></script>"_s;
     QTest::newRow("in no script") << u"<noscript><script src=\"s.js\"></script></noscript>"_s;
     QTest::newRow("in a template") << u"<template><script src=\"s.js\"></script></template>"_s;
     QTest::newRow("with server code") << u"<script src=\"<%= s %>\"></script>"_s;

@@ -68,7 +68,7 @@ void TstDesignerPlainText::typing_data()
     row("a line end with Shift", "ab", 1, 1, {u"Shift\n"_s, u"x"_s}, u"a\r\nxb"_s);
     row("a line end at the end", "ab", 2, 2, {u"\n"_s}, u"ab\r\n"_s);
     row("line ends at the end", "ab", 2, 2, {u"\n"_s, u"\n"_s, u"c"_s, u"\n"_s}, u"ab\r\n\r\nc\r\n"_s);
-    row("behind the last line end", "ab\r\n", 3, 3, {u"c"_s}, u"ab\r\nc"_s);
+    row("after the last line end", "ab\r\n", 3, 3, {u"c"_s}, u"ab\r\nc"_s);
     row("a line end in place of text", "abcd", 1, 3, {u"\n"_s}, u"a\r\nd"_s);
     row("text in place of lines", "a\r\nb\r\nc", 1, 4, {u"x"_s}, u"axc"_s);
     row("a tabulator", "ab", 1, 1, {u"\t"_s, u"x"_s}, u"a\txb"_s);

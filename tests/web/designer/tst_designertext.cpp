@@ -122,12 +122,12 @@ void TstDesignerText::edited_data()
     row("that mark before a fragment", u"\ufeff<p>a</p>"_s);
     row("text before the doctype", u"a<!DOCTYPE html><html><body><p>b</p></body></html>"_s,
         u"<html>\r\n<head></head>\r\n<body>a<!DOCTYPE html><p>b</p></body></html>"_s);
-    row("text behind the root", u"<html>\r\n<head></head>\r\n<body>\r\na</body></html>b"_s,
+    row("text after the root", u"<html>\r\n<head></head>\r\n<body>\r\na</body></html>b"_s,
         u"<html>\r\n<head></head>\r\n<body>\r\nab\r\n</body>\r\n</html>\r\n"_s);
     row("an include alone", u"<!--#include file=\"a\" -->\r\n"_s);
-    row("server code that nobody closed", u"<p>a</p><% b"_s);
-    row("a comment that nobody closed", u"<html>\r\n<head></head>\r\n<body>a<!-- b"_s);
-    row("server code alone that nobody closed", u"<% a <p>b</p>"_s);
+    row("unclosed server code", u"<p>a</p><% b"_s);
+    row("an unclosed comment", u"<html>\r\n<head></head>\r\n<body>a<!-- b"_s);
+    row("unclosed server code alone", u"<% a <p>b</p>"_s);
     row("a root without its parts", u"<html>\r\n<p>a</p>\r\n"_s,
         u"<html>\r\n<head></head>\r\n<body><p>a</p>\r\n</body>\r\n</html>\r\n"_s);
     row("a head alone", u"<title>t</title>\r\n<p>a</p>"_s);
@@ -143,7 +143,7 @@ void TstDesignerText::edited_data()
     row("text between rows", u"<table>a<tr><td>b</table>"_s, u"a<table><tr><td>b</td></tr></table>"_s);
     row("groups of rows",
         u"<table><thead><tr><td>a</td></tr></thead><tbody><tr><td>b<table><tr><td>c</td></tr></table></td></tr></tbody><tbody id=\"d\"><tr><td>e</td></tr></tbody></table>"_s);
-    row("rows behind a head", u"<table><thead><tr><td>a</td></tr></thead><tr><td>b</td></tr></table>"_s);
+    row("rows after a head", u"<table><thead><tr><td>a</td></tr></thead><tr><td>b</td></tr></table>"_s);
     row("PHP between rows without a group", u"<table><?php a ?><tr><td>b</td></tr><?php } ?></table>"_s);
     row("statements",
         u"<% if a %><p>b</p><% else %><p>c</p><% end if %><table><% do %><tr><td>d</td></tr><% loop %></table>"_s);

@@ -123,7 +123,7 @@ void TstDesignerTrust::readsOnlyBeneathItsFolder_data()
     QTest::addColumn<int>("width");
     QTest::newRow("in its folder") << u"in.svg"_s << 30;
     QTest::newRow("below its folder") << u"sub/in.svg"_s << 30;
-    QTest::newRow("beside its folder") << u"../out.svg"_s << 0;
+    QTest::newRow("next to its folder") << u"../out.svg"_s << 0;
     QTest::newRow("by a link that leads out") << u"link.svg"_s << 0;
 }
 

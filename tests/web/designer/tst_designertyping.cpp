@@ -39,13 +39,13 @@ void TstDesignerTyping::keys_data()
         u"<p id=\"i\" class=\"c\">ab</p><p class=\"c\">x|</p>"_s);
     row("a line break", u"<p>ab|cd</p>"_s, {u"Shift+Enter"_s, u"x"_s}, u"<p>ab<br>x|cd</p>"_s);
     row("a line break at the end", u"<p>ab|</p>"_s, {u"Shift+Enter"_s, u"x"_s}, u"<p>ab<br>x|</p>"_s);
-    row("behind a heading", u"<h1>ab|</h1>"_s, {u"Enter"_s, u"x"_s}, u"<h1>ab</h1><p>x|</p>"_s);
+    row("after a heading", u"<h1>ab|</h1>"_s, {u"Enter"_s, u"x"_s}, u"<h1>ab</h1><p>x|</p>"_s);
     row("within a heading", u"<h1>a|b</h1>"_s, {u"Enter"_s}, u"<h1>a</h1><h1>|b</h1>"_s);
     row("an empty page", u"|"_s, {u"a"_s, u"Enter"_s, u"b"_s}, u"<p>a</p><p>b|</p>"_s);
     row("bare text", u"ab|cd<hr>"_s, {u"Enter"_s}, u"<p>ab</p><p>|cd</p><hr>"_s);
-    row("behind a coloured word", u"<p><font color=\"red\">a|</font></p>"_s, {u"Enter"_s, u"x"_s},
+    row("after a coloured word", u"<p><font color=\"red\">a|</font></p>"_s, {u"Enter"_s, u"x"_s},
         u"<p><font color=\"red\">a</font></p><p><font color=\"red\">x|</font></p>"_s);
-    row("behind a link", u"<p><a href=\"x\">a|</a></p>"_s, {u"Enter"_s, u"x"_s},
+    row("after a link", u"<p><a href=\"x\">a|</a></p>"_s, {u"Enter"_s, u"x"_s},
         u"<p><a href=\"x\">a</a></p><p>x|</p>"_s);
     row("a new item", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"b"_s}, u"<ul><li>a</li><li>b|</li></ul>"_s);
     row("out of a list", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"Enter"_s, u"b"_s},
@@ -85,7 +85,7 @@ void TstDesignerTyping::keys_data()
     row("the last item into a paragraph", u"<p>a|</p><ul><li>b</li></ul><p>c</p>"_s, {u"Delete"_s},
         u"<p>a|b</p><p>c</p>"_s);
     row("an empty paragraph before", u"<p>|<br></p><h1 id=\"h\">c</h1>"_s, {u"Delete"_s}, u"<h1 id=\"h\">|c</h1>"_s);
-    row("an empty paragraph behind", u"<p>a</p><p>|<br></p><p>c</p>"_s, {u"Backspace"_s}, u"<p>a|</p><p>c</p>"_s);
+    row("an empty paragraph after it", u"<p>a</p><p>|<br></p><p>c</p>"_s, {u"Backspace"_s}, u"<p>a|</p><p>c</p>"_s);
     row("blanks where two meet", u"<p>a\n</p>\n<p>\n|b</p>"_s, {u"Backspace"_s}, u"<p>a|b</p>\n"_s);
     row("a table in front", u"<table><tbody><tr><td>a</td></tr></tbody></table><p class=\"k\">|y</p>"_s,
         {u"Backspace"_s}, u"{<table><tbody><tr><td>a</td></tr></tbody></table><p class=\"k\">y</p>"_s);

@@ -26,7 +26,7 @@ private Q_SLOTS:
         row("a whole page", u"<!-- 1 --><!DOCTYPE html>\r\n<html><body>x</body><!-- 2 -->\r\n</html>\r\n<!-- 3 -->"_s,
             u"<!DOCTYPE html><html><body>x"_s);
         row("without a body's end", u"<html><p>x\r\n<!-- 2 -->"_s, u"<html><p>x\r\n<!--zsx0c-->"_s);
-        row("text behind the body", u"<body>x</body>y"_s, u"<body>x</body>y"_s);
+        row("text after the body", u"<body>x</body>y"_s, u"<body>x</body>y"_s);
         row("a mark of the bytes' order", u"\ufeff<!DOCTYPE html><p>x"_s, u"<!DOCTYPE html><p>x"_s);
         row("a doctype that comes too late", u"x<!DOCTYPE html><p>y"_s, u"x<!--zsx0c--><p>y"_s);
         row("server code at both ends", u"<%@ a %><html>x</html><% b %>"_s, u"<html>x"_s);
@@ -51,9 +51,9 @@ private Q_SLOTS:
             u"<!-- 1 -->\n<!doctype HTML>\r\n<HTML><BODY>x</BODY>\n<!-- 2 -->\r\n</HTML>\r\n<% 3 %>"_s,
             u"<html><head></head><body>y</body></html>"_s,
             u"<!-- 1 -->\n<!doctype HTML>\r\n<html>\r\n<head></head>\r\n<body>y</BODY>\n<!-- 2 -->\r\n</HTML>\r\n<% 3 %>"_s);
-        row("a body that nobody ended", u"<html><body>x</html>"_s, u"<html><head></head><body>x</body></html>"_s,
+        row("an unclosed body", u"<html><body>x</html>"_s, u"<html><head></head><body>x</body></html>"_s,
             u"<html>\r\n<head></head>\r\n<body>x</body></html>"_s);
-        row("a root that nobody ended", u"<html><body>x</body>\r\n"_s, u"<html><head></head><body>x</body></html>"_s,
+        row("an unclosed root", u"<html><body>x</body>\r\n"_s, u"<html><head></head><body>x</body></html>"_s,
             u"<html>\r\n<head></head>\r\n<body>x</body>\r\n</html>\r\n"_s);
         row("a fragment", u"x"_s, u"<html><head></head><body>x<b>y</b></body></html>"_s, u"x<b>y</b>"_s);
         row("a fragment with a style sheet", u"<style>a</style>\r\nx"_s,
@@ -67,12 +67,12 @@ private Q_SLOTS:
         row("text without an end", u"<p>x<plaintext>y"_s,
             u"<html><head></head><body><p>x</p><plaintext>y</b></plaintext></body></html>"_s,
             u"<p>x</p><plaintext>y</b>"_s);
-        row("more behind a text without an end", u"<plaintext>y"_s,
+        row("more after an unterminated text", u"<plaintext>y"_s,
             u"<html><head></head><body><plaintext>y</plaintext>z</body></html>"_s,
             u"<plaintext>y</plaintext>z</body></html>"_s);
-        row("an end that nobody closed", u"<html><body>x<% y"_s,
+        row("unclosed server code at the end", u"<html><body>x<% y"_s,
             u"<html><head></head><body>x<!--zsx0s--></body></html>"_s, u"<html>\r\n<head></head>\r\n<body>x<% y"_s);
-        row("an end that nobody closed and that moved", u"<html><body>x<% y"_s,
+        row("unclosed server code at the end that moved", u"<html><body>x<% y"_s,
             u"<html><head></head><body><!--zsx0s-->x</body></html>"_s,
             u"<html>\r\n<head></head>\r\n<body><% yx\r\n</body>\r\n</html>\r\n"_s);
         row("an include alone", u"<!--#include file=\"a\" -->"_s, u"<html><head></head><body>x</body></html>"_s,

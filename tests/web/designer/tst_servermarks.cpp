@@ -53,7 +53,7 @@ private Q_SLOTS:
         row("moved", u"<!--zsx2s--><p><!--zsx1c--></p>"_s, u"<%= b %><p><!-- c --></p>"_s);
         row("twice", u"<!--zsx2s--><!--zsx2s-->"_s, u"<%= b %><%= b %>"_s);
         row("without its comment", u"<p>zsx2s</p>"_s, u"<p><%= b %></p>"_s);
-        row("a number that nobody gave", u"zsx9v zsx10s"_s, u"zsx9v zsx10s"_s);
+        row("an unknown number", u"zsx9v zsx10s"_s, u"zsx9v zsx10s"_s);
         row("words that only begin like a mark", u"zsx zsxa zsx0 zsx0z zs0v"_s, u"zsx zsxa zsx0 zsx0z zs0v"_s);
         row("a number beyond all numbers", u"zsx99999999999999999999v"_s, u"zsx99999999999999999999v"_s);
     }
