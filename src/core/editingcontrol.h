@@ -86,7 +86,8 @@ public:
     /// Colours have red in the lowest byte; `item` is a ColourItem.
     virtual void setColor(int item, quint32 colour) = 0;
     virtual quint32 color(int item) const = 0;
-    /// Font styles, items are those of FontStyleItem: 0 normal, 1 bold, 2 italic, 3 bold italic, 4 underlined; other bits are kept.
+    /// Font styles, items are those of FontStyleItem: 0 normal, 1 bold, 2 italic, 3 bold italic, 4 underlined; other
+    /// bits are kept.
     virtual void setFontStyle(int item, int style) = 0;
     virtual int fontStyle(int item) const = 0;
 
