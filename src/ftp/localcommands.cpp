@@ -8,6 +8,7 @@
 #include "core/shell.h"
 #include "core/vbtext.h"
 #include "ftp/extensionchange.h"
+#include "ftp/fileimages.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/localview.h"

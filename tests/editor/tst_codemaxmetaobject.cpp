@@ -205,7 +205,8 @@ private Q_SLOTS:
         f.editor.setText(u"text"_s);
         for (int number = -10; number < 3000; ++number) {
             const bool known = f.editor.globals().hotKeyCount(number) > 0
-                || std::ranges::find(namedCommands, number, numberOf) != std::end(namedCommands);
+                || std::ranges::any_of(namedCommands,
+                                       [number](EditorCommand command) { return numberOf(command) == number; });
             if (!known)
                 f.editor.ExecuteCmd(number, 0);
         }

@@ -172,7 +172,7 @@ void TstLineStates::restartAtAnyLine()
         for (const qsizetype start : lineStartsOf(text)) {
             QVERIFY(whole.states.contains(start));
             const auto part = stylesOf(engine, QByteArrayView(text).sliced(start), whole.states.at(start));
-            QVERIFY2(std::ranges::equal(part, whole.styles.begin() + start, whole.styles.end()),
+            QVERIFY2(std::equal(part.begin(), part.end(), whole.styles.begin() + start, whole.styles.end()),
                      text.toPercentEncoding(" <>/").constData());
         }
     }
