@@ -269,11 +269,11 @@ private Q_SLOTS:
         QVERIFY(paper().lightness() < 60);
         QApplication::setPalette(before);
         QTRY_COMPARE(paper(), QColor(Qt::white));
-        QCOMPARE(colourOf(0), colourItemTable[TextFore].initial);
+        QCOMPARE(colourOf(0), shippedColours[TextFore]);
         QCOMPARE(colourOf(2), 0x0000ffu);
         d.press(QDialogButtonBox::Ok);
         QCOMPARE(f.editor.color(KeywordFore), 0x0000ffu);
-        QCOMPARE(f.editor.color(TextFore), colourItemTable[TextFore].initial);
+        QCOMPARE(f.editor.color(TextFore), shippedColours[TextFore]);
     }
 
     void thePreviewIsAPageThatCannotBeChanged()

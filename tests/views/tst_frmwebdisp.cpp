@@ -133,10 +133,10 @@ private Q_SLOTS:
         source->setColor(TextFore, 0x0000ff);
         QCOMPARE(text(), 0x0000ffu);
         QCOMPARE(paper(), QColor(Qt::white));
-        source->setColor(TextFore, colourItemTable[TextFore].initial);
+        source->setColor(TextFore, shippedColours[TextFore]);
         QApplication::setPalette(before);
         QTRY_COMPARE(paper(), QColor(Qt::white));
-        QCOMPARE(text(), colourItemTable[TextFore].initial);
+        QCOMPARE(text(), shippedColours[TextFore]);
     }
 
     void theButtonKeepsTheKeyboard()
