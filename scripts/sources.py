@@ -29,11 +29,11 @@ class CompileFlags:
             # The command line with the most options stands for its folder: its include paths cover those of the others.
             self._of_folder[file.parent] = max(words, self._of_folder.get(file.parent, []), key=len)
 
-    def of_all(self):
-        """The include paths and definitions of all files of src/ together."""
+    def of_all(self, *folders):
+        """The include paths and definitions of all files below the folders together."""
         words = {}
         for file, own in self._of_file.items():
-            if (ROOT / "src") in file.parents:
+            if any(ROOT / folder in file.parents for folder in folders):
                 pairs = zip(own, own[1:] + [""])
                 for word, following in pairs:
                     if word == "-isystem":
