@@ -248,10 +248,10 @@ void FileListView::sortBy(int column)
 void FileListView::endEdit(const QPersistentModelIndex &cell, const QString &newName)
 {
     const QString oldName = cell.data().toString();
-    if (!cell.isValid() || newName.isEmpty() || newName == oldName || !mayRename)
+    if (!cell.isValid() || newName.isEmpty() || newName == oldName || !m_mayRename)
         return;
     // The rows may have changed meanwhile.
-    if (mayRename(oldName, newName) && cell.isValid())
+    if (m_mayRename(oldName, newName) && cell.isValid())
         m_model->setData(cell, newName, Qt::EditRole);
 }
 

@@ -7,6 +7,7 @@
 #include <QTreeView>
 
 #include <functional>
+#include <utility>
 
 class QListView;
 
@@ -30,8 +31,12 @@ public:
     /// Enables dragging, which shows the selected rows' pictures; nothing accepts the drop.
     void setDragging(bool on);
 
-    /// Called with an edited name; returns false to restore the old one.
-    std::function<bool(const QString &oldName, const QString &newName)> mayRename;
+    /// `mayRename` is called with an edited name, and returns false to restore the old one. Without it every old name
+    /// is restored.
+    void setRenaming(std::function<bool(const QString &oldName, const QString &newName)> mayRename)
+    {
+        m_mayRename = std::move(mayRename);
+    }
 
     int count() const override;
     bool contains(const QString &name) const override;
@@ -64,6 +69,7 @@ private:
     void sortBy(int column);
     void endEdit(const QPersistentModelIndex &cell, const QString &newName);
 
+    std::function<bool(const QString &oldName, const QString &newName)> m_mayRename;
     FileRowsModel *m_model;
     QListView *m_icons;
     FileListMode m_view = FileListMode::Report;

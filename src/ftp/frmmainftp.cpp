@@ -135,11 +135,11 @@ void frmmainftp::connectLocalPane()
     connect(list, &FileListView::popupRequested, this,
             [this](const QPoint &place) { m_menus->menu(ftpname::localMenu).popup(place); });
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_local->renameStarted(name); });
-    list->mayRename = [this](const QString &oldName, const QString &newName) {
+    list->setRenaming([this](const QString &oldName, const QString &newName) {
         bool stays = false;
         guard(u"ListView1_AfterLabelEdit"_s, [&] { stays = m_local->renameEnded(oldName, newName); });
         return stays;
-    };
+    });
     connect(m_localPane, &LocalPane::driveChosen, this,
             [this](const QString &drive) { guard(u"Drive1_Change"_s, [&] { m_local->chooseDrive(drive); }); });
     connect(m_localPane, &LocalPane::folderChosen, this, [this] { m_local->refill(); });
@@ -162,9 +162,8 @@ void frmmainftp::connectRemotePane()
     connect(list, &FileListView::popupRequested, this,
             [this](const QPoint &place) { m_menus->menu(ftpname::remoteMenu).popup(place); });
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_remote->renameStarted(name); });
-    list->mayRename = [this](const QString &oldName, const QString &newName) {
-        return m_remote->renameEnded(oldName, newName);
-    };
+    list->setRenaming(
+        [this](const QString &oldName, const QString &newName) { return m_remote->renameEnded(oldName, newName); });
     connect(m_remotePane, &RemotePane::nodeChosen, this, [this](const RemoteNode &node) { m_remote->openNode(node); });
     connect(m_remotePane, &RemotePane::deletePressed, this,
             [this] { guard(u"zRemDF_Click"_s, [this] { m_remote->removeFolder(); }); });
