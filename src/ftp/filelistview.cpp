@@ -228,7 +228,7 @@ void FileListView::editName()
     const QModelIndex current = currentIndex().siblingAtColumn(FileRowsModel::Name);
     QAbstractItemView &view = shownView();
     view.setFocus();
-    view.edit(cells.contains(current) ? current : *std::ranges::min_element(cells));
+    view.edit(cells.contains(current) ? current : *std::ranges::min_element(cells, std::less<QModelIndex>()));
 }
 
 QAbstractItemView &FileListView::shownView() const

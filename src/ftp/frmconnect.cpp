@@ -6,7 +6,7 @@
 #include "core/itemroles.h"
 #include "core/prompts.h"
 #include "core/vbtext.h"
-#include "ftp/filetypes.h"
+#include "ftp/fileimages.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpconnection.h"
 #include "ftp/ftpdesk.h"
