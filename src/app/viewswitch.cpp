@@ -9,14 +9,36 @@
 #include "files/appfolder.h"
 #include "views/previewpane.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
+
+namespace {
+
+/// The events in which the user does something; mere movements are not among them.
+constexpr QEvent::Type acts[] = {
+    QEvent::KeyPress,
+    QEvent::Shortcut,
+    QEvent::InputMethod,
+    QEvent::MouseButtonPress,
+    QEvent::MouseButtonDblClick,
+    QEvent::TabletPress,
+    QEvent::TouchBegin,
+    QEvent::ContextMenu,
+    QEvent::Drop,
+    QEvent::Close,
+};
+
+} // namespace
 
 ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner)
     : QObject(owner)
@@ -27,6 +49,7 @@ ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebV
     , m_preview(new PreviewPane(m_browser, &parts.pages))
 {
     m_parts.pages.addWidget(m_preview);
+    m_parts.designer.setLeaving([this] { m_views.finishLeaving(); });
     QTabBar &tabs = m_parts.tabs;
     connect(&tabs, &QTabBar::currentChanged, this, [this](int tab) { m_views.select(WorkspaceView(tab)); });
     connect(&tabs, &QTabBar::tabBarClicked, this, [this](int tab) {
@@ -157,11 +180,35 @@ void ViewSwitch::setVisualMenusEnabled(bool enabled)
     m_parts.menus.setMet(Need::VisualView, enabled);
 }
 
+/// While waiting, what the user does first completes the change of view. This sees the events of all windows; what reaches
+/// the program by another way, such as assistive technology, calls finishLeaving() itself.
+void ViewSwitch::setWaiting(bool waiting)
+{
+    if (waiting == m_isWaiting)
+        return;
+    m_isWaiting = waiting;
+    if (waiting)
+        qApp->installEventFilter(this);
+    else
+        qApp->removeEventFilter(this);
+}
+
+/// The tabs themselves know that a view is being left, and events of the designer still belong to it.
+bool ViewSwitch::comesAfterLeaving(const QObject *watched, const QEvent &event) const
+{
+    if (!m_isWaiting || std::ranges::find(acts, event.type()) == std::end(acts) || watched == &m_parts.tabs)
+        return false;
+    const auto *widget = qobject_cast<const QWidget *>(watched);
+    return !widget || (widget != m_designerWidget && !m_designerWidget->isAncestorOf(widget));
+}
+
 /// The pointer reaches the tabs before it clicks, which leaves time to load the web engine. If loading fails, the click
 /// reports it.
 bool ViewSwitch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseMove && !m_isWarm) {
+    if (comesAfterLeaving(watched, *event))
+        m_views.finishLeaving();
+    if (watched == &m_parts.tabs && event->type() == QEvent::MouseMove && !m_isWarm) {
         m_isWarm = true;
         QTimer::singleShot(0, this, [this] {
             if (!m_browser.isAttached() && make(WorkspaceView::Preview))

@@ -59,6 +59,7 @@ public:
     bool prepare(WorkspaceView view) override;
     void showControls(WorkspaceView view) override;
     void setSourceMenusEnabled(bool enabled) override;
+    void setWaiting(bool waiting) override;
     void setVisualMenusEnabled(bool enabled) override;
     void selectTab(WorkspaceView view) override;
 
@@ -68,6 +69,7 @@ protected:
 private:
     Result<void> make(WorkspaceView view);
     QWidget *page(WorkspaceView view) const;
+    bool comesAfterLeaving(const QObject *watched, const QEvent &event) const;
 
     const AppContext m_context;
     const Parts m_parts;
@@ -77,6 +79,7 @@ private:
     PreviewPane *m_preview = nullptr;
     QWidget *m_designerWidget = nullptr;
     bool m_isWarm = false;
+    bool m_isWaiting = false;
 };
 
 } // namespace zephira

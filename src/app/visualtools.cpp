@@ -41,19 +41,23 @@ void VisualTools::connectDesigner()
 void VisualTools::connectBar()
 {
     connect(&m_bar, &DesignerBar::buttonClicked, this, [this](DesignerCommand command) {
+        m_context.designer.finishLeaving();
         m_tools.click(command);
         showState(); // The click has toggled the button, whether or not the command succeeded.
         Q_EMIT finished();
     });
     connect(&m_bar, &DesignerBar::fontChosen, this, [this](const QString &name) {
+        m_context.designer.finishLeaving();
         m_tools.chooseFont(name);
         Q_EMIT finished();
     });
     connect(&m_bar, &DesignerBar::fontSizeChosen, this, [this](int size) {
+        m_context.designer.finishLeaving();
         m_tools.chooseFontSize(size);
         Q_EMIT finished();
     });
     connect(&m_bar, &DesignerBar::fontSizeTyped, this, [this](const QString &text) {
+        m_context.designer.finishLeaving();
         if (const std::optional<QString> before = m_tools.enterFontSize(text))
             m_bar.showFontSize(*before);
         else

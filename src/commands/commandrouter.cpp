@@ -89,8 +89,21 @@ CommandRouter::CommandRouter(const CommandParts &parts)
 
 void CommandRouter::run(const Command &command)
 {
+    m_parts.context.designer.finishLeaving();
     if (!isRefused(command.refusal, m_parts.context.designer, m_parts.context.prompts))
         std::visit(EffectRunner(m_parts, m_formatting), command.effect);
+}
+
+void CommandRouter::runTag(const QuickTag &tag)
+{
+    m_parts.context.designer.finishLeaving();
+    m_palette.run(tag);
+}
+
+void CommandRouter::heading(int size)
+{
+    m_parts.context.designer.finishLeaving();
+    m_palette.heading(size);
 }
 
 } // namespace zephira

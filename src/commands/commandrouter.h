@@ -9,7 +9,8 @@
 namespace zephira {
 
 /// Runs what was chosen in a menu, a toolbar, a pull-down or the palette. The chosen row says what it does; a row
-/// without an effect does nothing, and is never enabled.
+/// without an effect does nothing, and is never enabled. Each finds the designer's text at home if visual mode is being
+/// left.
 class CommandRouter
 {
 public:
@@ -17,9 +18,9 @@ public:
 
     void run(const Command &command);
     /// A button of the tool palette.
-    void runTag(const QuickTag &tag) { m_palette.run(tag); }
+    void runTag(const QuickTag &tag);
     /// Heading size 1 to 6 of the palette's pull-down.
-    void heading(int size) { m_palette.heading(size); }
+    void heading(int size);
     /// The window is closing: commands that wait for something leave the document alone from now on.
     void abandon() { m_formatting.abandon(); }
 

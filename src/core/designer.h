@@ -114,9 +114,10 @@ public:
     virtual void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) = 0;
     virtual void setEvents(DesignerEvents events) = 0;
 
-    /// Sets `finish` while visual mode is being left, which takes a while: until it is set to empty again, isShowing()
-    /// first calls it to end visual mode and carry the text back to the code view.
-    virtual void setLeaving(std::function<void()> finish) = 0;
+    /// Leaving visual mode takes a while, during which the code view still holds the old text. Returns when the designer's
+    /// text has been carried back and visual mode has ended; at once if it isn't being left. Whoever reads, changes or
+    /// saves the code view's text on the user's behalf calls this first.
+    virtual void finishLeaving() = 0;
     /// A page in this folder or below it may load files from anywhere in it; any other page only from its own folder
     /// and below. Empty for none. Takes effect with the next load.
     virtual void setProjectFolder(const QString &folder) = 0;
@@ -147,7 +148,7 @@ public:
     void setSnapToGrid(bool) override {}
     void setContextMenu(const QStringList &, const QList<DesignerMenuState> &) override {}
     void setEvents(DesignerEvents) override {}
-    void setLeaving(std::function<void()>) override {}
+    void finishLeaving() override {}
     void setProjectFolder(const QString &) override {}
 };
 

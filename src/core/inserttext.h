@@ -16,6 +16,7 @@ public:
 
     void InsertAtCaret(const QString &text) override
     {
+        m_designer.finishLeaving();
         if (m_designer.isShowing())
             m_designer.pasteHtml(text);
         else

@@ -54,6 +54,7 @@ bool Document::mayGoOn(PromptIcon icon)
 
 void Document::flushDesigner()
 {
+    m_context.designer.finishLeaving();
     // Leaving visual mode carries the designer's text back.
     if (holdsDesignersWork())
         m_window.selectCodeTab();
@@ -80,6 +81,7 @@ void Document::discardPreview()
 
 void Document::doNew()
 {
+    m_context.designer.finishLeaving();
     if (!mayGoOn(PromptIcon::Hidden))
         return;
     m_context.editor.setText({});
@@ -184,6 +186,7 @@ void Document::open()
 
 bool Document::doSave()
 {
+    m_context.designer.finishLeaving();
     if (!m_hasFile)
         return DoSaveAs();
     const Result<void> saved = m_context.editor.saveFile(m_path, false);
@@ -198,6 +201,7 @@ bool Document::doSave()
 
 bool Document::DoSaveAs()
 {
+    m_context.designer.finishLeaving();
     m_dialog.setTitle(u"Save a document..."_s);
     m_dialog.setInitialFolder(m_context.document.projectPath());
     if (const LanguageRow *row = languageRow(m_context.document.languageRow()))
@@ -254,6 +258,7 @@ void Document::OpenAFile()
 
 void Document::openFileOrImage(const QString &path)
 {
+    m_context.designer.finishLeaving();
     const auto failed = [this](const QString &description) {
         m_context.prompts.tell(u"An error has occured.\r\n"_s + description
                                    + u"\r\nThe routine will now reset itself..."_s,
@@ -399,6 +404,7 @@ void Document::clearClipboard()
 
 bool Document::askToClose()
 {
+    m_context.designer.finishLeaving();
     m_saveFailedAtClose = false;
     if (!m_modified && !holdsDesignersWork())
         return true;

@@ -11,12 +11,10 @@ void LateDesigner::attach(Designer &designer)
     m_designer->setEvents(std::exchange(m_events, {}));
 }
 
-bool LateDesigner::isShowing() const
+void LateDesigner::finishLeaving()
 {
-    // A copy, because the handler is reset while it runs.
-    if (const auto finish = m_finishLeaving)
-        finish();
-    return m_isShowing;
+    if (m_finishLeaving)
+        m_finishLeaving();
 }
 
 void LateDesigner::setEvents(DesignerEvents events)

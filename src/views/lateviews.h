@@ -16,7 +16,7 @@ public:
     bool isAttached() const { return m_designer != &m_none; }
 
     /// Whether the window is in visual mode, even if the designer isn't visible at the moment.
-    bool isShowing() const override;
+    bool isShowing() const override { return m_isShowing; }
     void setShowing(bool showing) { m_isShowing = showing; }
     bool isDirty() const override { return m_designer->isDirty(); }
     QString documentHtml() override { return m_designer->documentHtml(); }
@@ -45,7 +45,9 @@ public:
     }
     /// Handlers that were set before the real designer existed are passed on to it.
     void setEvents(DesignerEvents events) override;
-    void setLeaving(std::function<void()> finish) override { m_finishLeaving = std::move(finish); }
+    void finishLeaving() override;
+    /// What finishLeaving() does from now on.
+    void setLeaving(std::function<void()> finish) { m_finishLeaving = std::move(finish); }
     void setProjectFolder(const QString &folder) override { m_designer->setProjectFolder(folder); }
 
 private:

@@ -12,6 +12,7 @@
 #include "core/prompts.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -72,9 +73,24 @@ void WorkspaceViews::tellProjectFolder()
     m_context.designer.setProjectFolder(folder);
 }
 
+void WorkspaceViews::wait(std::optional<WorkspaceView> next)
+{
+    m_leavingFor = next;
+    m_window.setWaiting(next.has_value());
+}
+
+void WorkspaceViews::finishLeaving()
+{
+    if (m_leavingFor)
+        select(*m_leavingFor);
+}
+
 void WorkspaceViews::select(WorkspaceView view)
 {
     ++m_change;
+    // Who comes later than the designer's text is asked for goes another way, or asks for it anew.
+    if (m_leavingFor)
+        wait({});
     if (view == m_current && view != WorkspaceView::Preview)
         return;
     if (!m_window.prepare(view)) {
@@ -103,18 +119,21 @@ void WorkspaceViews::reset()
 }
 
 /// Brings the designer's text back to the code view when another view is selected. Until the designer answers, commands
-/// may arrive: those that ask whether the designer is showing complete the change of view first. Returns false if
-/// another change of view happened in between, which takes precedence.
+/// may arrive: they call finishLeaving(), which completes the change of view, and then go on. Returns false if another
+/// change of view happened in between, which takes precedence.
 bool WorkspaceViews::carryBack(WorkspaceView next)
 {
     if (m_current != WorkspaceView::Visual)
         return true;
     Designer &designer = m_context.designer;
     const int change = m_change;
-    designer.setLeaving([this, next] { select(next); });
+    wait(next);
+    const auto arrive = qScopeGuard([&] {
+        if (change == m_change)
+            wait({});
+    });
     const bool isDirty = designer.isDirty();
     const QString text = isDirty && change == m_change ? designer.documentHtml() : QString();
-    designer.setLeaving({});
     if (change != m_change)
         return false;
     if (isDirty) {

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace zephira {
 
 /// The three views of the document, in the order of their tabs.
@@ -32,6 +34,9 @@ public:
     virtual void showControls(WorkspaceView view) = 0;
     /// Enables or disables the menus that work on the document's source.
     virtual void setSourceMenusEnabled(bool enabled) = 0;
+    /// While the designer's text is being carried back, whatever the user does has to come after it: each such act calls
+    /// WorkspaceViews::finishLeaving() first.
+    virtual void setWaiting(bool waiting) = 0;
     /// Enables or disables the five menus of the designer.
     virtual void setVisualMenusEnabled(bool enabled) = 0;
     /// Selects a view's tab, which selects the view.
@@ -49,6 +54,10 @@ public:
     void select(WorkspaceView view);
     WorkspaceView current() const { return m_current; }
 
+    /// Carries the designer's text back and goes on to the view for which visual mode is being left. Does nothing if it
+    /// isn't being left.
+    void finishLeaving();
+
     /// Restores the designer's text from before visual mode.
     void reset();
 
@@ -64,6 +73,7 @@ private:
     void selectPreview();
     void selectVisual();
     bool carryBack(WorkspaceView next);
+    void wait(std::optional<WorkspaceView> next);
     void show(WorkspaceView view);
 
     void previewStyleSheet();
@@ -79,6 +89,8 @@ private:
     WorkspaceView m_current = WorkspaceView::Code;
     /// Identifies a change of view, to detect others that happen while it waits for the designer.
     int m_change = 0;
+    /// The view for which visual mode is being left just now.
+    std::optional<WorkspaceView> m_leavingFor;
     QString m_designerBase;
 };
 

@@ -9,7 +9,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QRandomGenerator>
 #include <QTimer>
 
 using namespace zephira;
@@ -129,42 +128,6 @@ private Q_SLOTS:
         QVERIFY(bench.design());
         bench.select(1);
         QCOMPARE(bench.window->rt().text(), QString::fromLatin1("3 < 4" + content));
-    }
-
-    /// Commands that are given while the designer is being left act on its text: nothing is lost or overwritten by late
-    /// text.
-    void commandsWhileTheDesignerIsLeft()
-    {
-        constexpr int runs = 200;
-        constexpr int latest = 60;
-        QRandomGenerator random(11);
-        WebBench bench(u"page.html"_s, pageText);
-        for (int run = 0; run < runs; ++run) {
-            QVERIFY(bench.design());
-            const QString word = u"word%1"_s.arg(run);
-            bench.paste(word);
-            bool isSaved = false;
-            bool isInserted = false;
-            const int saveAfter = random.bounded(latest);
-            const int insertAfter = random.bounded(latest);
-            const QString late = u"late%1"_s.arg(run);
-            QTimer::singleShot(saveAfter, bench.window.get(), [&] {
-                bench.choose(u"save"_s);
-                isSaved = true;
-            });
-            QTimer::singleShot(insertAfter, bench.window.get(), [&] {
-                bench.window->InsertAtCaret(late);
-                isInserted = true;
-            });
-            bench.select(1);
-            QVERIFY(waitUntil([&] { return isSaved && isInserted; }, WebBench::patience));
-            const QString text = bench.window->rt().text();
-            QVERIFY2(text.contains(word), qPrintable(u"run %1: "_s.arg(run) + text));
-            QVERIFY2(text.count(late) == 1, qPrintable(u"run %1: "_s.arg(run) + text));
-            QVERIFY2(WindowBench::read(bench.file).contains(word.toUtf8()), qPrintable(u"run %1"_s.arg(run)));
-            bench.choose(u"save"_s);
-            QCOMPARE(QString::fromUtf8(WindowBench::read(bench.file)), bench.window->rt().text());
-        }
     }
 
     void savingBringsTheTextHome()

@@ -26,6 +26,8 @@ class TstCommandRouter : public QObject
 private Q_SLOTS:
     void commandsOfParts_data();
     void commandsOfParts();
+    void commandsFindTheDesignersTextAtHome_data();
+    void commandsFindTheDesignersTextAtHome();
     void documentCommands();
     void saving();
     void opening();
@@ -95,6 +97,54 @@ void TstCommandRouter::commandsOfParts()
     bench.menu(name);
     QCOMPARE(bench.window.calls, QStringList{call});
     QVERIFY(bench.world.forms.modal.isEmpty());
+}
+
+void TstCommandRouter::commandsFindTheDesignersTextAtHome_data()
+{
+    QTest::addColumn<std::function<void(RouterBench &)>>("act");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const std::function<void(RouterBench &)> &act, const QString &text) {
+        QTest::newRow(name) << act << text;
+    };
+    row(
+        "menu", [](RouterBench &bench) { bench.menu(u"paste"_s); }, u"pastedhome"_s);
+    row(
+        "toolbar", [](RouterBench &bench) { bench.tBar(u"paste"_s); }, u"pastedhome"_s);
+    row(
+        "palette", [](RouterBench &bench) { bench.palette(1, u"break"_s, 0); }, u"<br>home"_s);
+    row(
+        "heading", [](RouterBench &bench) { bench.router.heading(1); }, u"<h1></h1>home"_s);
+    row(
+        "insertion", [](RouterBench &bench) { bench.inserter.InsertAtCaret(u"new "_s); }, u"new home"_s);
+    row(
+        "save by name", [](RouterBench &bench) { bench.document.doSave(); }, u"home"_s);
+    row(
+        "new by name", [](RouterBench &bench) { bench.document.doNew(); }, u""_s);
+    row(
+        "close", [](RouterBench &bench) { bench.document.askToClose(); }, u"home"_s);
+}
+
+/// While visual mode is being left the code view still holds the text from before.
+void TstCommandRouter::commandsFindTheDesignersTextAtHome()
+{
+    QFETCH(std::function<void(RouterBench &)>, act);
+    QFETCH(QString, text);
+    RouterBench bench;
+    bench.world.files.contents[u"/a.html"_s] = "old";
+    bench.document.openAtStart(u"/a.html"_s);
+    bench.world.clipboard.setText(u"pasted"_s);
+    bench.world.designer.showing = true;
+    int finished = 0;
+    bench.world.designer.leaving = [&] {
+        if (++finished > 1)
+            return;
+        bench.world.designer.showing = false;
+        bench.world.editor.setText(u"home"_s);
+        bench.world.editor.selectOffsets(0, 0);
+    };
+    act(bench);
+    QVERIFY(finished > 0);
+    QCOMPARE(bench.world.editor.text(), text);
 }
 
 /// Each of them can be recognised by what it asks or writes.

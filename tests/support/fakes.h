@@ -68,6 +68,7 @@ struct FakeDesigner final : Designer {
     QStringList menuEntries;
     QList<DesignerMenuState> menuStates;
     DesignerEvents events;
+    /// What finishLeaving() does.
     std::function<void()> leaving;
     QString projectFolder;
     /// Called while the text is being transferred.
@@ -100,7 +101,11 @@ struct FakeDesigner final : Designer {
     void setSnapToGrid(bool on) override { snapping = on; }
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
     void setEvents(DesignerEvents handlers) override { events = std::move(handlers); }
-    void setLeaving(std::function<void()> finish) override { leaving = std::move(finish); }
+    void finishLeaving() override
+    {
+        if (leaving)
+            leaving();
+    }
     void setProjectFolder(const QString &folder) override { projectFolder = folder; }
 };
 

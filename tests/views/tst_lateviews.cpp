@@ -76,6 +76,18 @@ private Q_SLOTS:
         QVERIFY(designer.isShowing());
     }
 
+    void whoeverLeavesItSaysHowThatIsFinished()
+    {
+        LateDesigner designer;
+        int finished = 0;
+        designer.finishLeaving();
+        designer.setLeaving([&] { ++finished; });
+        QVERIFY(!designer.isShowing());
+        QCOMPARE(finished, 0);
+        designer.finishLeaving();
+        QCOMPARE(finished, 1);
+    }
+
     void aBrowserThatIsNotThereGoesNowhere()
     {
         LateBrowser browser;

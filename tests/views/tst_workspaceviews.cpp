@@ -24,6 +24,7 @@ struct FakeWindow final : WorkspaceWindow {
     WorkspaceView shown = WorkspaceView::Code;
     bool sourceMenus = true;
     bool visualMenus = false;
+    bool waiting = false;
     WorkspaceViews *views = nullptr;
     FakeDesigner *designer = nullptr;
     int tab = 0;
@@ -48,6 +49,7 @@ struct FakeWindow final : WorkspaceWindow {
     }
     void setSourceMenusEnabled(bool enabled) override { sourceMenus = enabled; }
     void setVisualMenusEnabled(bool enabled) override { visualMenus = enabled; }
+    void setWaiting(bool on) override { waiting = on; }
     void selectTab(WorkspaceView view) override
     {
         tab = static_cast<int>(view);
@@ -119,8 +121,8 @@ private Q_SLOTS:
         QTest::newRow("a command on the way to the preview") << true << 1;
     }
 
-    /// A command that asks for visual mode while the designer's text is being transferred waits for the text, and what
-    /// the command then does isn't overwritten.
+    /// finishLeaving() while the designer's text is being transferred completes the change of view, and what is done then
+    /// isn't overwritten. Asking whether visual mode is showing only gives an answer.
     void commandsWhileTheDesignerIsLeft()
     {
         QFETCH(bool, asks);
@@ -131,12 +133,13 @@ private Q_SLOTS:
         bench.world.designer.dirty = true;
         bench.world.designer.html = u"new"_s;
         bench.world.designer.meanwhile = [&] {
+            QVERIFY(bench.window.waiting);
+            QVERIFY(bench.world.context.designer.isShowing());
+            QCOMPARE(bench.world.editor.text(), u"old"_s);
             if (!asks)
                 return;
-            QVERIFY(bench.world.designer.leaving);
-            const auto finish = bench.world.designer.leaving;
-            finish();
-            QVERIFY(!bench.world.designer.leaving);
+            bench.views.finishLeaving();
+            QVERIFY(!bench.window.waiting);
             QVERIFY(!bench.world.designer.showing);
             QCOMPARE(bench.world.editor.text(), u"new"_s);
             bench.world.editor.setText(u"newer"_s);
@@ -145,7 +148,11 @@ private Q_SLOTS:
         QCOMPARE(bench.world.editor.text(), asks ? u"newer"_s : u"new"_s);
         QVERIFY(bench.window.modified);
         QCOMPARE(static_cast<int>(bench.window.shown), next);
-        QVERIFY(!bench.world.designer.leaving);
+        QVERIFY(!bench.window.waiting);
+        const int selected = bench.window.tab;
+        bench.views.finishLeaving();
+        QCOMPARE(bench.window.tab, selected);
+        QCOMPARE(static_cast<int>(bench.window.shown), next);
     }
 
     void theLossOfAProcessIsTold()
@@ -182,7 +189,7 @@ private Q_SLOTS:
         bench.select(WorkspaceView::Code);
         QCOMPARE(bench.window.shown, WorkspaceView::Visual);
         QCOMPARE(bench.world.editor.text(), u"old"_s);
-        QVERIFY(!bench.world.designer.leaving);
+        QVERIFY(!bench.window.waiting);
     }
 
     void controlsAndMenus_data()

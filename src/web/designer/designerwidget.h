@@ -71,7 +71,8 @@ public:
     void setSnapToGrid(bool on) override { setLook(QStringLiteral("snapToGrid"), on); }
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
     void setEvents(DesignerEvents events) override;
-    void setLeaving(std::function<void()>) override {}
+    /// Whoever shows and hides the widget knows when it is left.
+    void finishLeaving() override {}
     void setProjectFolder(const QString &folder) override;
 
     QWebEngineView &view() { return *m_view; }
