@@ -31,8 +31,8 @@ void TstDesignerTyping::keys_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QStringList>("keys");
     QTest::addColumn<QString>("after");
-    const auto row = [](const char *name, const QString &before, const QStringList &keys, const QString &after) {
-        QTest::newRow(name) << before << keys << after;
+    const auto row = [](const QByteArray &name, const QString &before, const QStringList &keys, const QString &after) {
+        QTest::newRow(name.constData()) << before << keys << after;
     };
     row("a new paragraph", u"<p>ab|cd</p>"_s, {u"Enter"_s, u"x"_s}, u"<p>ab</p><p>x|cd</p>"_s);
     row("its id stays with the first", u"<p id=\"i\" class=\"c\">ab|</p>"_s, {u"Enter"_s, u"x"_s},
@@ -47,6 +47,35 @@ void TstDesignerTyping::keys_data()
         u"<p><font color=\"red\">a</font></p><p><font color=\"red\">x|</font></p>"_s);
     row("after a link", u"<p><a href=\"x\">a|</a></p>"_s, {u"Enter"_s, u"x"_s},
         u"<p><a href=\"x\">a</a></p><p>x|</p>"_s);
+    // Of a bold link no part is left that holds nothing, and what follows it is plain.
+    const QString boldLink = u"<p><b><a href=\"x\">%1</a></b></p>"_s;
+    const QString linkedBold = u"<p><a href=\"x\"><b>%1</b></a></p>"_s;
+    for (const QString &link : {boldLink, linkedBold}) {
+        const QByteArray which = link == boldLink ? "a bold link" : "a linked bold";
+        row("behind " + which, link.arg(u"ab|"_s), {u"Enter"_s, u"x"_s}, link.arg(u"ab"_s) + u"<p>x|</p>"_s);
+        row("twice behind " + which, link.arg(u"ab|"_s), {u"Enter"_s, u"Enter"_s, u"x"_s},
+            link.arg(u"ab"_s) + u"<p><br></p><p>x|</p>"_s);
+        row("within " + which, link.arg(u"a|b"_s), {u"Enter"_s}, link.arg(u"a"_s) + link.arg(u"|b"_s));
+        row("before " + which, link.arg(u"|ab"_s), {u"Enter"_s}, u"<p><br></p>"_s + link.arg(u"|ab"_s));
+        row("behind it and back, " + which, link.arg(u"ab|"_s), {u"Enter"_s, u"Backspace"_s},
+            link.arg(u"ab"_s).replace(u"</p>"_s, u"|</p>"_s));
+        row("a part of " + which, link.arg(u"a[b]"_s), {u"Enter"_s}, link.arg(u"a"_s) + u"<p>|<br></p>"_s);
+        row("bare, " + which, link.arg(u"ab|"_s).mid(3).chopped(4) + u"<hr>"_s, {u"Enter"_s, u"x"_s},
+            link.arg(u"ab"_s) + u"<p>x|</p><hr>"_s);
+        row("before text, " + which, link.arg(u"ab|"_s).replace(u"</p>"_s, u"c</p>"_s), {u"Enter"_s},
+            link.arg(u"ab"_s) + u"<p>|c</p>"_s);
+        row("behind text, " + which, link.arg(u"|ab"_s).replace(u"<p>"_s, u"<p>c"_s), {u"Enter"_s},
+            u"<p>c</p>"_s + link.arg(u"|ab"_s));
+    }
+    row("a bold link in a bold text", u"<p><b>a <a href=\"x\">b|</a> c</b></p>"_s, {u"Enter"_s, u"x"_s},
+        u"<p><b>a <a href=\"x\">b</a></b></p><p><b>x|c</b></p>"_s);
+    row("the name of a bold link", u"<p><b><a id=\"i\" href=\"x\">|ab</a></b></p>"_s, {u"Enter"_s},
+        u"<p><br></p><p><b><a id=\"i\" href=\"x\">|ab</a></b></p>"_s);
+    row("before a link", u"<p><a href=\"x\">|ab</a></p>"_s, {u"Enter"_s}, u"<p><br></p><p><a href=\"x\">|ab</a></p>"_s);
+    const QString bold = u"<p><b>%1</b></p>"_s;
+    row("behind bold text", bold.arg(u"ab|"_s), {u"Enter"_s, u"x"_s}, bold.arg(u"ab"_s) + bold.arg(u"x|"_s));
+    row("in bold text", bold.arg(u"a|b"_s), {u"Enter"_s, u"x"_s}, bold.arg(u"a"_s) + bold.arg(u"x|b"_s));
+    row("before bold text", bold.arg(u"|ab"_s), {u"Enter"_s}, bold.arg(u"<br>"_s) + bold.arg(u"|ab"_s));
     row("a new item", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"b"_s}, u"<ul><li>a</li><li>b|</li></ul>"_s);
     row("out of a list", u"<ul><li>a|</li></ul>"_s, {u"Enter"_s, u"Enter"_s, u"b"_s},
         u"<ul><li>a</li></ul><p>b|</p>"_s);
