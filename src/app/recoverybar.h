@@ -2,16 +2,13 @@
 #pragma once
 
 #include "files/leftcopies.h"
-
-#include <QFrame>
-
-class QGridLayout;
+#include "widgets/noticebar.h"
 
 namespace zephira {
 
 /// Lists texts that were not saved when the program ended, one per line, and stays until the user has decided about all
-/// of them. It never takes the focus by itself.
-class RecoveryBar final : public QFrame
+/// of them.
+class RecoveryBar final : public NoticeBar
 {
     Q_OBJECT
 
@@ -38,7 +35,6 @@ private:
     void fill();
 
     QList<LeftCopy> m_copies;
-    QGridLayout *m_layout;
 };
 
 } // namespace zephira

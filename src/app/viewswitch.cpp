@@ -59,6 +59,7 @@ ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebV
     // A click on a tab focuses its view, wherever the focus was. Queued, because the click is signalled before the view
     // changes.
     connect(&tabs, &QTabBar::tabBarClicked, this, &ViewSwitch::focusView, Qt::QueuedConnection);
+    connect(m_preview, &PreviewPane::remoteAllowed, this, [this] { m_views.allowRemote(); });
     connect(&m_parts.designerBar, &DesignerBar::resetClicked, this, [this] {
         m_views.reset();
         focusView();
@@ -108,6 +109,11 @@ void ViewSwitch::setPreviewTarget(const QString &target)
 QString ViewSwitch::scratchFolder() const
 {
     return orRaise(zephira::scratchFolder());
+}
+
+int ViewSwitch::documentNumber() const
+{
+    return m_parts.document.number();
 }
 
 void ViewSwitch::notice(const QString &sentence)

@@ -55,6 +55,7 @@ public:
     bool doSave() override;
     void setPreviewTarget(const QString &target) override;
     QString scratchFolder() const override;
+    int documentNumber() const override;
     void notice(const QString &sentence) override;
     bool prepare(WorkspaceView view) override;
     void showControls(WorkspaceView view) override;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -42,6 +42,12 @@ public:
     /// Pages in this folder or below it may load files from anywhere in it; other pages only from their own folder and
     /// below. Empty for none. Takes effect with the next navigation.
     virtual void setProjectFolder(const QString &folder) = 0;
+
+    /// Whether pages of this machine may load from others; it counts from the next navigation on. A page that came over the
+    /// network itself is free.
+    virtual void setRemoteAllowed(bool allowed) = 0;
+    /// Is called with the hosts that the page wanted to load from and may not; with none when another page comes.
+    virtual void onRemoteRefused(std::function<void(const QStringList &hosts)> handler) = 0;
 };
 
 } // namespace zephira

@@ -121,6 +121,8 @@ public:
     /// A page in this folder or below it may load files from anywhere in it; any other page only from its own folder
     /// and below. Empty for none. Takes effect with the next load.
     virtual void setProjectFolder(const QString &folder) = 0;
+    /// Whether a page may load style sheets, pictures and fonts from other machines; it counts from the next load on.
+    virtual void setRemoteAllowed(bool allowed) = 0;
 };
 
 /// Takes the designer's place until the visual view is first opened: never showing, never dirty.
@@ -150,6 +152,7 @@ public:
     void setEvents(DesignerEvents) override {}
     void finishLeaving() override {}
     void setProjectFolder(const QString &) override {}
+    void setRemoteAllowed(bool) override {}
 };
 
 } // namespace zephira

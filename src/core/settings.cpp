@@ -97,6 +97,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {WindowLeft, own, {}, u"Left"_s, Number, AtStart},
         {WindowHeight, own, {}, u"Height"_s, Number, AtStart},
         {WindowWidth, own, {}, u"Width"_s, Number, AtStart},
+        {RemoteContent, own, {}, u"RemoteContent"_s, Switch, AtUse},
     };
     // clang-format on
 }

@@ -98,13 +98,14 @@ enum class UserSetting : int {
     WindowLeft,
     WindowHeight,
     WindowWidth,
+    RemoteContent,
 };
 
 /// One value of the per-user store.
 struct UserSettingRow {
     UserSetting setting;
     QString branch;
-    QString section; ///< empty where each form has a section of its own, named after the form
+    QString section; ///< empty where each form, or each project folder, has a section of its own, named after it
     QString key;
     SettingKind kind;
     SettingApplies applies;

@@ -26,16 +26,16 @@ public:
         write(row.branch, row.section, row.key, value);
     }
 
-    /// The same for a value that each form has, in the section named after the form.
-    QString GetSetting(UserSetting setting, const QString &form, const QString &fallback) const
+    /// The same for a value that each form, or each project folder, has, in the section named after it.
+    QString GetSetting(UserSetting setting, const QString &owner, const QString &fallback) const
     {
         const UserSettingRow &row = userSettingRow(setting);
-        return read(row.branch, form, row.key, fallback);
+        return read(row.branch, owner, row.key, fallback);
     }
-    void SaveSetting(UserSetting setting, const QString &form, const QString &value)
+    void SaveSetting(UserSetting setting, const QString &owner, const QString &value)
     {
         const UserSettingRow &row = userSettingRow(setting);
-        write(row.branch, form, row.key, value);
+        write(row.branch, owner, row.key, value);
     }
 
 private:

@@ -96,6 +96,7 @@ void Document::doNew()
 /// Makes the document a new one, without a file.
 void Document::becomeNew()
 {
+    ++m_number;
     m_hasFile = false;
     m_path.clear();
     m_title = u"New Document"_s;

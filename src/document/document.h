@@ -23,6 +23,8 @@ public:
     QString docTitle() const { return m_title; }
     /// The full path, empty for a new document.
     QString docPath() const { return m_path; }
+    /// Tells a document without a file from those before.
+    int number() const { return m_number; }
     /// The last temporary preview file, or the address of a preview.
     QString previewTarget() const { return m_previewTarget; }
 
@@ -97,6 +99,7 @@ private:
     bool m_modified = false;
     bool m_hasFile = false;
     bool m_saveFailedAtClose = false;
+    int m_number = 0;
     QString m_title;
     QString m_path;
     QString m_previewTarget;

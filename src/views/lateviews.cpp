@@ -32,6 +32,8 @@ void LateBrowser::attach(Browser &browser)
         m_browser->onNavigateComplete(std::exchange(m_navigateComplete, {}));
     if (m_processLost)
         m_browser->onProcessLost(std::exchange(m_processLost, {}));
+    if (m_remoteRefused)
+        m_browser->onRemoteRefused(std::exchange(m_remoteRefused, {}));
 }
 
 void LateBrowser::onProcessLost(std::function<void()> handler)
@@ -46,6 +48,20 @@ void LateBrowser::setProjectFolder(const QString &folder)
 {
     if (m_browser)
         m_browser->setProjectFolder(folder);
+}
+
+void LateBrowser::setRemoteAllowed(bool allowed)
+{
+    if (m_browser)
+        m_browser->setRemoteAllowed(allowed);
+}
+
+void LateBrowser::onRemoteRefused(std::function<void(const QStringList &)> handler)
+{
+    if (m_browser)
+        m_browser->onRemoteRefused(std::move(handler));
+    else
+        m_remoteRefused = std::move(handler);
 }
 
 void LateBrowser::navigate(const QString &address)

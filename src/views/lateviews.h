@@ -49,6 +49,7 @@ public:
     /// What finishLeaving() does from now on.
     void setLeaving(std::function<void()> finish) { m_finishLeaving = std::move(finish); }
     void setProjectFolder(const QString &folder) override { m_designer->setProjectFolder(folder); }
+    void setRemoteAllowed(bool allowed) override { m_designer->setRemoteAllowed(allowed); }
 
 private:
     NoDesigner m_none;
@@ -76,11 +77,14 @@ public:
     void onNavigateComplete(std::function<void()> handler) override;
     void onProcessLost(std::function<void()> handler) override;
     void setProjectFolder(const QString &folder) override;
+    void setRemoteAllowed(bool allowed) override;
+    void onRemoteRefused(std::function<void(const QStringList &hosts)> handler) override;
 
 private:
     Browser *m_browser = nullptr;
     std::function<void()> m_navigateComplete;
     std::function<void()> m_processLost;
+    std::function<void(const QStringList &hosts)> m_remoteRefused;
 };
 
 } // namespace zephira

@@ -2,6 +2,7 @@
 #include "views/previewpane.h"
 
 #include "core/browser.h"
+#include "views/remotebar.h"
 #include "widgets/tipwithkeys.h"
 
 #include <QAction>
@@ -77,9 +78,13 @@ PreviewPane::PreviewPane(Browser &browser, QWidget *parent) : QWidget(parent), m
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(bar);
+    m_remoteBar = new RemoteBar(this);
+    layout->addWidget(m_remoteBar);
 
     connect(m_address, &QLineEdit::returnPressed, this, &PreviewPane::go);
     connect(goButton, &QPushButton::clicked, this, &PreviewPane::go);
+    connect(m_remoteBar, &RemoteBar::allowed, this, &PreviewPane::remoteAllowed);
+    m_browser.onRemoteRefused([this](const QStringList &hosts) { m_remoteBar->setHosts(hosts); });
     m_browser.onNavigateComplete([this] { m_address->setText(m_browser.locationUrl()); });
 }
 

@@ -9,9 +9,11 @@ class QToolBar;
 namespace zephira {
 
 class Browser;
+class RemoteBar;
 
-/// The preview: a browser below its address bar. The bar exists from the start, the browser is added when needed. While
-/// the focus is here, the editing keys belong to the page, and F5 reloads it.
+/// The preview: a browser below its address bar and the question about what a page wants to load from other hosts. The
+/// bars exist from the start, the browser is added when needed. While the focus is here, the editing keys belong to the
+/// page, and F5 reloads it.
 class PreviewPane final : public QWidget
 {
     Q_OBJECT
@@ -22,6 +24,10 @@ public:
 
     /// Puts the browser's widget below the bar.
     void setBrowserWidget(QWidget *widget);
+
+Q_SIGNALS:
+    /// The page may load from other machines.
+    void remoteAllowed();
 
 protected:
     bool event(QEvent *event) override;
@@ -35,6 +41,7 @@ private:
     Browser &m_browser;
     QToolBar *m_buttons = nullptr;
     QLineEdit *m_address = nullptr;
+    RemoteBar *m_remoteBar = nullptr;
 };
 
 } // namespace zephira

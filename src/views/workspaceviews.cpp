@@ -10,7 +10,9 @@
 #include "core/languages.h"
 #include "core/paths.h"
 #include "core/prompts.h"
+#include "core/usersettings.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <QUrl>
@@ -66,11 +68,51 @@ void WorkspaceViews::designerLost()
     m_window.notice(u"The designer's process has ended. The page is shown in its last known state."_s);
 }
 
-void WorkspaceViews::tellProjectFolder()
+/// Tells browser and designer what the document's page may load.
+void WorkspaceViews::prepareLoad()
 {
     const QString folder = hasProject(m_context.document) ? m_context.document.projectPath() : QString();
+    const bool isAllowed = isRemoteAllowed();
     m_browser.setProjectFolder(folder);
+    m_browser.setRemoteAllowed(isAllowed);
     m_context.designer.setProjectFolder(folder);
+    m_context.designer.setRemoteAllowed(isAllowed);
+}
+
+/// The project folder by which the document's permission is kept; empty for a document that lies elsewhere. One without a
+/// file is shown by a copy in the project.
+QString WorkspaceViews::permittedProject() const
+{
+    if (!hasProject(m_context.document) || m_context.document.projectPath().isEmpty())
+        return {};
+    const QString project = QDir::cleanPath(m_context.document.projectPath());
+    const QString name = m_context.document.commonDialogFile();
+    const bool isWithin =
+        name.isEmpty() ? QFileInfo(project).isDir() : QDir::cleanPath(name).startsWith(withSlash(project));
+    return isWithin ? project : QString();
+}
+
+QString WorkspaceViews::documentKey() const
+{
+    const QString name = m_context.document.commonDialogFile();
+    return name.isEmpty() ? QString::number(m_window.documentNumber()) : name;
+}
+
+bool WorkspaceViews::isRemoteAllowed() const
+{
+    const QString project = permittedProject();
+    return m_permittedDocuments.contains(documentKey())
+        || (!project.isEmpty() && m_context.settings.GetSetting(UserSetting::RemoteContent, project, u"0"_s) == u"1"_s);
+}
+
+void WorkspaceViews::allowRemote()
+{
+    if (const QString project = permittedProject(); !project.isEmpty())
+        m_context.settings.SaveSetting(UserSetting::RemoteContent, project, u"1"_s);
+    else
+        m_permittedDocuments.insert(documentKey());
+    prepareLoad();
+    m_browser.refresh();
 }
 
 void WorkspaceViews::wait(std::optional<WorkspaceView> next)
@@ -97,7 +139,7 @@ void WorkspaceViews::select(WorkspaceView view)
         m_window.selectTab(WorkspaceView::Code);
         return;
     }
-    tellProjectFolder();
+    prepareLoad();
     endingQuietly([&] {
         switch (view) {
         case WorkspaceView::Code:

@@ -4,6 +4,7 @@
 #include "core/appcontext.h"
 #include "core/browser.h"
 
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -25,6 +26,8 @@ public:
     virtual void setPreviewTarget(const QString &target) = 0;
     /// The user's own folder for temporary files, without a trailing separator.
     virtual QString scratchFolder() const = 0;
+    /// Distinguishes a document without a file from the next one.
+    virtual int documentNumber() const = 0;
     /// Shows a problem without interrupting the user.
     virtual void notice(const QString &sentence) = 0;
 
@@ -58,6 +61,10 @@ public:
     /// isn't being left.
     void finishLeaving();
 
+    /// The user lets the document's page load from other hosts. If the document is in the project, this holds for all its
+    /// pages from now on; otherwise for this document while the program runs. The preview is reloaded.
+    void allowRemote();
+
     /// Restores the designer's text from before visual mode.
     void reset();
 
@@ -68,7 +75,10 @@ public:
     void designerLost();
 
 private:
-    void tellProjectFolder();
+    void prepareLoad();
+    QString permittedProject() const;
+    QString documentKey() const;
+    bool isRemoteAllowed() const;
     void selectCode();
     void selectPreview();
     void selectVisual();
@@ -92,6 +102,8 @@ private:
     /// The view for which visual mode is being left just now.
     std::optional<WorkspaceView> m_leavingFor;
     QString m_designerBase;
+    /// Documents outside of the project whose pages may load from other machines.
+    QSet<QString> m_permittedDocuments;
 };
 
 /// Name of a document's copy for display: in the same folder, so that relative links work, with the same extension.

@@ -27,9 +27,9 @@ namespace {
 constexpr qsizetype mostGivenBytes = 600'000;
 
 constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
-    QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::LocalContentCanAccessRemoteUrls,
-    QWebEngineSettings::AutoLoadIconsForPage,     QWebEngineSettings::PluginsEnabled,
-    QWebEngineSettings::FullScreenSupportEnabled, QWebEngineSettings::ScreenCaptureEnabled,
+    QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::AutoLoadIconsForPage,
+    QWebEngineSettings::PluginsEnabled,           QWebEngineSettings::FullScreenSupportEnabled,
+    QWebEngineSettings::ScreenCaptureEnabled,
 };
 
 } // namespace
@@ -40,8 +40,13 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
     setUrlRequestInterceptor(&m_fence);
     for (const QWebEngineSettings::WebAttribute attribute : closedToPages)
         settings()->setAttribute(attribute, false);
+    // The engine would refuse whatever the user allows. It's the fence that keeps local pages from other machines, whose
+    // answers no script of theirs can read either way.
+    settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 
+    // Queued, because the engine waits for the answer.
+    connect(&m_fence, &LocalFileFence::remoteRefused, this, &BrowserPage::refuse, Qt::QueuedConnection);
     connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl &address) { m_fence.files().shown(address); });
     const auto takeEnd = [this] {
         m_isAlive = true;
@@ -110,6 +115,24 @@ void BrowserPage::endIfHanging(std::function<void()> again)
         m_again = again;
         ::kill(static_cast<pid_t>(process), SIGKILL);
     });
+}
+
+/// Every page begins with nothing that was refused, by whatever way it is gone to.
+bool BrowserPage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)
+{
+    if (isMainFrame && !m_refusedHosts.isEmpty()) {
+        m_refusedHosts.clear();
+        Q_EMIT remoteRefused({});
+    }
+    return QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
+}
+
+void BrowserPage::refuse(const QString &host)
+{
+    if (m_refusedHosts.contains(host))
+        return;
+    m_refusedHosts.append(host);
+    Q_EMIT remoteRefused(m_refusedHosts);
 }
 
 void BrowserPage::javaScriptAlert(const QUrl &, const QString &message)

@@ -27,6 +27,8 @@ public:
     void setMessages(ScriptMessageBar &messages) { m_messages = &messages; }
     /// Pages inside this folder may load files from anywhere in it.
     void setProjectFolder(const QString &folder) { m_fence.files().setProjectFolder(folder); }
+    /// Whether pages of this machine may load from others; it counts from the next load on.
+    void setRemoteAllowed(bool allowed) { m_fence.setRemoteAllowed(allowed); }
 
     /// Opens an address on behalf of the user. If the current page doesn't respond because of an endless script, its
     /// process is killed.
@@ -46,8 +48,11 @@ Q_SIGNALS:
     void letGo();
     /// The page's process has ended unexpectedly.
     void processLost();
+    /// The hosts that the page wanted to load from and may not; none when another page comes.
+    void remoteRefused(const QStringList &hosts);
 
 protected:
+    bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
     void javaScriptAlert(const QUrl &origin, const QString &message) override;
     bool javaScriptConfirm(const QUrl &origin, const QString &message) override;
     bool javaScriptPrompt(const QUrl &origin, const QString &message, const QString &preset, QString *result) override;
@@ -57,6 +62,7 @@ protected:
 private:
     void openInPlace(const QWebEngineNewWindowRequest &request);
     void endIfHanging(std::function<void()> again);
+    void refuse(const QString &host);
 
     const FileStore &m_files;
     ScriptMessageBar *m_messages = nullptr;
@@ -65,7 +71,8 @@ private:
     bool m_isAlive = true;
     /// Repeats the navigation after the process of an unresponsive page was killed.
     std::function<void()> m_again;
-    LocalFileFence m_fence;
+    LocalFileFence m_fence{RemoteUse::Browser};
+    QStringList m_refusedHosts;
 };
 
 } // namespace zephira

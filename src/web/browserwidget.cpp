@@ -118,6 +118,16 @@ void BrowserWidget::setProjectFolder(const QString &folder)
     m_page->setProjectFolder(folder);
 }
 
+void BrowserWidget::setRemoteAllowed(bool allowed)
+{
+    m_page->setRemoteAllowed(allowed);
+}
+
+void BrowserWidget::onRemoteRefused(std::function<void(const QStringList &)> handler)
+{
+    connect(m_page, &BrowserPage::remoteRefused, this, handler);
+}
+
 void BrowserWidget::showContextMenu(const QPoint &place)
 {
     QMenu menu(this);

@@ -44,6 +44,8 @@ public:
     void onNavigateComplete(std::function<void()> handler) override;
     void onProcessLost(std::function<void()> handler) override;
     void setProjectFolder(const QString &folder) override;
+    void setRemoteAllowed(bool allowed) override;
+    void onRemoteRefused(std::function<void(const QStringList &hosts)> handler) override;
 
 Q_SIGNALS:
     void NavigateComplete();

@@ -2,24 +2,33 @@
 #pragma once
 
 #include "web/localfiles.h"
+#include "web/remoteaccess.h"
 
 #include <QWebEngineUrlRequestInterceptor>
 
 namespace zephira {
 
-/// Applies the rules of LocalFiles to every request of a page; refused requests never leave the engine. Install it with
-/// the page's setUrlRequestInterceptor(), and tell files() where the page goes.
+/// Applies the rules of LocalFiles and mayGoOut() to every request of a page; refused requests never leave the engine.
+/// Install it with the page's setUrlRequestInterceptor(), and tell files() where the page goes.
 class LocalFileFence final : public QWebEngineUrlRequestInterceptor
 {
     Q_OBJECT
 
 public:
-    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+    explicit LocalFileFence(RemoteUse use) : m_use(use) {}
 
     LocalFiles &files() { return m_files; }
+    /// Whether pages of this machine may load from others; nothing of what was refused is asked for again.
+    void setRemoteAllowed(bool allowed) { m_isRemoteAllowed = allowed; }
     void interceptRequest(QWebEngineUrlRequestInfo &request) override;
 
+Q_SIGNALS:
+    /// A page of this machine may not load from that host, for want of the user's permission.
+    void remoteRefused(const QString &host);
+
 private:
+    const RemoteUse m_use;
+    bool m_isRemoteAllowed = false;
     LocalFiles m_files;
 };
 

@@ -2,6 +2,7 @@
 #include "web/localfiles.h"
 
 #include "core/paths.h"
+#include "web/remoteaccess.h"
 
 #include <QFileInfo>
 
@@ -67,6 +68,11 @@ QString LocalFiles::readableFolder(const QUrl &page) const
     const auto folder = std::find_if(m_folders.rbegin(), m_folders.rend(),
                                      [&](const QString &open) { return liesBeneath(file, open); });
     return folder == m_folders.rend() ? QString() : *folder;
+}
+
+bool LocalFiles::isLocal() const
+{
+    return !isRemote(m_shown) || (!m_coming.isEmpty() && !isRemote(m_coming));
 }
 
 bool LocalFiles::mayShow(const QUrl &address) const

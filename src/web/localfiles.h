@@ -25,6 +25,8 @@ public:
 
     /// Whether the window may navigate to an address that a page requests.
     bool mayShow(const QUrl &address) const;
+    /// Whether a local page is shown or about to be; a remote page counts only once it is shown and no other one is coming.
+    bool isLocal() const;
     /// Whether the current page, or the one about to be shown, may load something from an address.
     bool mayLoad(const QUrl &address) const;
 

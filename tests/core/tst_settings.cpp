@@ -89,6 +89,7 @@ private Q_SLOTS:
         QTest::newRow("left") << UserSetting::WindowLeft << u"zephira/frmmain/Left"_s;
         QTest::newRow("height") << UserSetting::WindowHeight << u"zephira/frmmain/Height"_s;
         QTest::newRow("width") << UserSetting::WindowWidth << u"zephira/frmmain/Width"_s;
+        QTest::newRow("remote content") << UserSetting::RemoteContent << u"zephira/frmmain/RemoteContent"_s;
     }
 
     void userValues()

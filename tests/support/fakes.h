@@ -71,6 +71,7 @@ struct FakeDesigner final : Designer {
     /// What finishLeaving() does.
     std::function<void()> leaving;
     QString projectFolder;
+    bool isRemoteAllowed = false;
     /// Called while the text is being transferred.
     std::function<void()> meanwhile;
 
@@ -107,6 +108,7 @@ struct FakeDesigner final : Designer {
             leaving();
     }
     void setProjectFolder(const QString &folder) override { projectFolder = folder; }
+    void setRemoteAllowed(bool allowed) override { isRemoteAllowed = allowed; }
 };
 
 struct FakeBrowser final : Browser {
@@ -119,6 +121,8 @@ struct FakeBrowser final : Browser {
     std::function<void()> navigateComplete;
     std::function<void()> processLost;
     QString projectFolder;
+    bool isRemoteAllowed = false;
+    std::function<void(const QStringList &)> remoteRefused;
 
     void navigate(const QString &address) override { calls.append(address); }
     void goBack() override { calls.append(QStringLiteral("back")); }
@@ -134,6 +138,11 @@ struct FakeBrowser final : Browser {
     }
     void onProcessLost(std::function<void()> handler) override { processLost = std::move(handler); }
     void setProjectFolder(const QString &folder) override { projectFolder = folder; }
+    void setRemoteAllowed(bool allowed) override { isRemoteAllowed = allowed; }
+    void onRemoteRefused(std::function<void(const QStringList &)> handler) override
+    {
+        remoteRefused = std::move(handler);
+    }
     void onNavigateComplete(std::function<void()> handler) override { navigateComplete = std::move(handler); }
 };
 

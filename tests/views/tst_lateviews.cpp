@@ -50,6 +50,7 @@ private Q_SLOTS:
         designer.setShowDetails(true);
         designer.setBrowseMode(true);
         designer.setSnapToGrid(true);
+        designer.setRemoteAllowed(true);
         designer.setContextMenu({u"Cut"_s}, {DesignerMenuState::Greyed});
         QCOMPARE(real.html, u"<b>"_s);
         QCOMPARE(real.loaded, QStringList{u"/a"_s});
@@ -58,7 +59,7 @@ private Q_SLOTS:
         QVERIFY(real.runs.front()
                 == (FakeDesigner::Run{DesignerCommand::SetFontSize, DesignerPrompting::DontPromptUser, 3}));
         QVERIFY(designer.showBorders() && designer.showDetails() && designer.browseMode() && designer.snapToGrid());
-        QVERIFY(real.borders && real.details && real.browsing && real.snapping);
+        QVERIFY(real.borders && real.details && real.browsing && real.snapping && real.isRemoteAllowed);
         QCOMPARE(real.menuEntries, QStringList{u"Cut"_s});
         designer.setEvents({.displayChanged = [&] { changes = 10; }});
         real.events.displayChanged();
@@ -107,11 +108,18 @@ private Q_SLOTS:
         LateBrowser browser;
         int navigations = 0;
         browser.onNavigateComplete([&] { ++navigations; });
+        QStringList refused;
+        browser.setRemoteAllowed(true);
+        browser.onRemoteRefused([&](const QStringList &hosts) { refused = hosts; });
         FakeBrowser real;
         real.location = u"file:///a.html"_s;
         browser.attach(real);
         real.navigateComplete();
         QCOMPARE(navigations, 1);
+        real.remoteRefused({u"example.org"_s});
+        QCOMPARE(refused, QStringList{u"example.org"_s});
+        browser.setRemoteAllowed(true);
+        QVERIFY(real.isRemoteAllowed);
         browser.navigate(u"/a.html"_s);
         browser.goBack();
         browser.goForward();

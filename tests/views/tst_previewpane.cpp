@@ -5,6 +5,7 @@
 #include "views/previewpane.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
@@ -66,6 +67,44 @@ private Q_SLOTS:
         for (QAction *action : actions)
             action->trigger();
         QCOMPARE(browser.calls, (QStringList{u"back"_s, u"forward"_s, u"stop"_s, u"refresh"_s, u"home"_s}));
+    }
+
+    void remoteHosts_data()
+    {
+        QTest::addColumn<QStringList>("hosts");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("one") << QStringList{u"a.org"_s} << u"This page wants to load from a.org."_s;
+        QTest::newRow("two") << QStringList{u"a.org"_s, u"b.org"_s}
+                             << u"This page wants to load from a.org and b.org."_s;
+        QTest::newRow("four") << QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s}
+                              << u"This page wants to load from a, b, c and d."_s;
+        QTest::newRow("more") << QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s}
+                              << u"This page wants to load from a, b, c and 2 others."_s;
+    }
+
+    void remoteHosts()
+    {
+        QFETCH(QStringList, hosts);
+        QFETCH(QString, text);
+        FakeBrowser browser;
+        PreviewPane pane(browser);
+        int allowed = 0;
+        connect(&pane, &PreviewPane::remoteAllowed, &pane, [&] { ++allowed; });
+        auto *bar = pane.findChild<QWidget *>(u"remoteBar"_s);
+        QVERIFY(bar && bar->isHidden());
+        for (const char *button : {"remoteAllow", "remoteNotNow"}) {
+            browser.remoteRefused(hosts);
+            QVERIFY(!bar->isHidden());
+            QCOMPARE(pane.findChild<QLabel *>(u"remoteText"_s)->text(), text);
+            for (const QString &host : hosts)
+                QVERIFY(pane.findChild<QLabel *>(u"remoteText"_s)->toolTip().contains(host));
+            pane.findChild<QPushButton *>(QString::fromLatin1(button))->click();
+            QCOMPARE(allowed, 1);
+        }
+        QVERIFY(bar->isHidden());
+        browser.remoteRefused(hosts);
+        browser.remoteRefused({});
+        QVERIFY(bar->isHidden());
     }
 
     void keysOfTheToolBar_data()

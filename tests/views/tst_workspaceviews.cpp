@@ -40,6 +40,8 @@ struct FakeWindow final : WorkspaceWindow {
     }
     void setPreviewTarget(const QString &target) override { previewTarget = target; }
     QString scratchFolder() const override { return u"/scratch"_s; }
+    int document = 0;
+    int documentNumber() const override { return document; }
     void notice(const QString &sentence) override { notices.append(sentence); }
     bool prepare(WorkspaceView view) override { return view != missing; }
     void showControls(WorkspaceView view) override
@@ -176,6 +178,62 @@ private Q_SLOTS:
         QCOMPARE(bench.browser.projectFolder, u"/site/"_s);
         bench.select(WorkspaceView::Visual);
         QCOMPARE(bench.world.designer.projectFolder, u"/site/"_s);
+    }
+
+    void permissionForOtherMachines_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("otherProject");
+        QTest::addColumn<QString>("otherName");
+        QTest::addColumn<bool>("atOnce");       // Whether the other document is allowed as well.
+        QTest::addColumn<bool>("afterRestart"); // Whether the first one still is.
+        QTest::newRow("a page beside it in the project")
+            << u"/site/"_s << u"/site/a.html"_s << u"/site"_s << u"/site/sub/b.html"_s << true << true;
+        QTest::newRow("another project") << u"/site/"_s << u"/site/a.html"_s << u"/other/"_s << u"/other/a.html"_s
+                                         << false << true;
+        QTest::newRow("a project whose name begins the same")
+            << u"/site"_s << u"/site/a.html"_s << u"/site2"_s << u"/site2/a.html"_s << false << true;
+        QTest::newRow("a page elsewhere")
+            << u"/site/"_s << u"/site/a.html"_s << u"/site/"_s << u"/b.html"_s << false << true;
+        QTest::newRow("without a project")
+            << u"Project Path"_s << u"/site/a.html"_s << u"Project Path"_s << u"/site/b.html"_s << false << false;
+        QTest::newRow("outside of the project")
+            << u"/site/"_s << u"/a.html"_s << u"/site/"_s << u"/site/a.html"_s << false << false;
+        QTest::newRow("without a file") << u"Project Path"_s << u""_s << u"Project Path"_s << u""_s << false << false;
+    }
+
+    /// A document in the project is allowed with all of the project, and for good; another one alone, while the program runs.
+    void permissionForOtherMachines()
+    {
+        QFETCH(QString, project);
+        QFETCH(QString, name);
+        Bench bench;
+        bench.world.document.project = project;
+        bench.world.document.dialogFile = name;
+        bench.select(WorkspaceView::Preview);
+        QVERIFY(!bench.browser.isRemoteAllowed);
+        QVERIFY(!bench.world.designer.isRemoteAllowed);
+        bench.browser.calls.clear();
+        bench.views.allowRemote();
+        QVERIFY(bench.browser.isRemoteAllowed);
+        QVERIFY(bench.world.designer.isRemoteAllowed);
+        QCOMPARE(bench.browser.calls, QStringList{u"refresh"_s});
+        bench.select(WorkspaceView::Preview);
+        QVERIFY(bench.browser.isRemoteAllowed);
+
+        WorkspaceViews restarted(bench.world, bench.browser, bench.window);
+        restarted.select(WorkspaceView::Preview);
+        QTEST(bench.browser.isRemoteAllowed, "afterRestart");
+
+        QFETCH(QString, otherProject);
+        QFETCH(QString, otherName);
+        bench.world.document.project = otherProject;
+        bench.world.document.dialogFile = otherName;
+        ++bench.window.document;
+        bench.select(WorkspaceView::Preview);
+        QTEST(bench.browser.isRemoteAllowed, "atOnce");
+        QTEST(bench.world.designer.isRemoteAllowed, "atOnce");
     }
 
     /// Going back to the designer before it has been left keeps it selected.

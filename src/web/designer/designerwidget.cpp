@@ -416,6 +416,11 @@ void DesignerWidget::setProjectFolder(const QString &folder)
     m_page->setProjectFolder(folder);
 }
 
+void DesignerWidget::setRemoteAllowed(bool allowed)
+{
+    m_page->setRemoteAllowed(allowed);
+}
+
 bool DesignerWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && m_isComplete)

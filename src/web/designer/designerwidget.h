@@ -74,6 +74,7 @@ public:
     /// Whoever shows and hides the widget knows when it is left.
     void finishLeaving() override {}
     void setProjectFolder(const QString &folder) override;
+    void setRemoteAllowed(bool allowed) override;
 
     QWebEngineView &view() { return *m_view; }
     DesignerPage &page() { return *m_page; }
