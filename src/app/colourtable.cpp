@@ -11,9 +11,7 @@ ColourTable readColours(const Configuration &configuration, const QString &file)
 {
     ColourTable table;
     for (int row = 0; row < std::ssize(appearanceRows); ++row) {
-        const auto number = [&](ColourPart part) {
-            return requiredNumber(configuration, colourSetting(row, part), file);
-        };
+        const auto number = [&](ColourPart part) { return wholeNumber(configuration, colourSetting(row, part), file); };
         ColourEntry &entry = table[static_cast<std::size_t>(row)];
         entry.background = number(ColourPart::Background);
         entry.foreground = number(ColourPart::Foreground);

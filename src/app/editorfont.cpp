@@ -22,7 +22,7 @@ FontChoice editorFont(const Configuration &configuration, const FontChoice &init
     font.italic = isTrue(configuration, Setting::FontItalic);
     if (const QString name = configuration.value(Setting::FontName); !name.isEmpty())
         font.name = name;
-    if (const double size = configuration.value(Setting::FontSize).toDouble(); size > 0)
+    if (const double size = measure(configuration, Setting::FontSize); size > 0)
         font.size = std::clamp(size, smallestFont, largestFont);
     font.strikethrough = isTrue(configuration, Setting::FontStrikethrough);
     font.underline = isTrue(configuration, Setting::FontUnderline);

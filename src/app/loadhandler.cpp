@@ -85,7 +85,7 @@ void LoadHandler::run()
 int LoadHandler::number(Setting setting) const
 {
     const WindowServices &services = m_window.services();
-    return requiredNumber(services.configuration, setting, services.iniFile);
+    return wholeNumber(services.configuration, setting, services.iniFile);
 }
 
 /// The lines of an installed list without which the program can't start.

@@ -47,7 +47,7 @@ void runStartProcedure(frmmain &window, const QString &argument)
     begin(u"showWindow");
     window.show();
     begin(u"readShowTips");
-    const int showTips = window.services().settings.GetSetting(UserSetting::ShowTips).toInt();
+    const int showTips = wholeNumber(window.services().settings, UserSetting::ShowTips);
     begin(u"readSelprj");
     const QString selprj = window.services().configuration.value(Setting::StartDialog);
     begin(u"showDialogs");

@@ -42,7 +42,7 @@ void chooseFont(const AppContext &context)
     writeTruth(configuration, Setting::FontBold, font.bold);
     writeTruth(configuration, Setting::FontItalic, font.italic);
     configuration.setValue(Setting::FontName, font.name);
-    configuration.setValue(Setting::FontSize, QString::number(font.size));
+    writeMeasure(configuration, Setting::FontSize, font.size);
     writeTruth(configuration, Setting::FontStrikethrough, font.strikethrough);
     writeTruth(configuration, Setting::FontUnderline, font.underline);
 }
@@ -109,7 +109,7 @@ void toggleTips(const CommandParts &parts)
 {
     constexpr QStringView entry = menuname::tipOfTheDay;
     const bool on = !parts.marks.isChecked(entry);
-    parts.context.settings.SaveSetting(UserSetting::ShowTips, on ? u"1"_s : u"0"_s);
+    writeSwitch(parts.context.settings, UserSetting::ShowTips, on);
     parts.marks.setChecked(entry, on);
 }
 

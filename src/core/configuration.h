@@ -14,7 +14,7 @@ class Configuration
 public:
     virtual ~Configuration() = default;
 
-    /// A missing key reads as the row's fallback.
+    /// The value as it is stored, whatever its kind. A missing key reads as the row's fallback.
     QString value(Setting setting) const
     {
         const SettingRow &row = settingRow(setting);

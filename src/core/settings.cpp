@@ -5,7 +5,12 @@
 #include "core/editoritems.h"
 #include "core/errorstyles.h"
 #include "core/languages.h"
+#include "core/usersettings.h"
 #include "core/vbtext.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -37,12 +42,29 @@ void addColours(std::vector<SettingRow> &rows)
         const AppearanceRow &shipped = appearanceRows[static_cast<std::size_t>(row)];
         const auto add = [&](ColourPart part, QStringView end, SettingKind kind, int value) {
             rows.push_back({colourSetting(row, part), u"Colors"_s, u"clr%1%2"_s.arg(row).arg(end), kind,
-                            SettingApplies::InEditor, QString::number(value), true});
+                            SettingApplies::AtStart, QString::number(value), true});
         };
         add(ColourPart::Background, u"bg", SettingKind::Colour, static_cast<qint32>(shipped.shippedBackground));
         add(ColourPart::Foreground, u"fr", SettingKind::Colour, static_cast<qint32>(shipped.shippedForeground));
         add(ColourPart::FontStyle, u"fnt", SettingKind::FontStyle, shipped.shippedFontStyle);
     }
+}
+
+/// The row, after a check that it is of one of the kinds as which the caller reads or writes it.
+template<typename Row>
+const Row &ofKind(const Row &row, std::initializer_list<SettingKind> kinds)
+{
+    if (std::ranges::find(kinds, row.kind) == kinds.end())
+        throw std::logic_error("the setting " + row.key.toStdString() + " is of another kind");
+    return row;
+}
+
+constexpr std::initializer_list<SettingKind> wholeKinds = {SettingKind::Switch, SettingKind::Number,
+                                                           SettingKind::Colour, SettingKind::FontStyle};
+
+QString switchText(bool on)
+{
+    return on ? u"1"_s : u"0"_s;
 }
 
 std::vector<SettingRow> makeSettingRows()
@@ -55,16 +77,16 @@ std::vector<SettingRow> makeSettingRows()
         {StartDialog, u"Startup"_s, u"selprj"_s, Switch, AtStart, u"1"_s},
         {RootSelection, u"startup"_s, u"rootsel"_s, Number, AtStart, u"2"_s, true},
         {HighlightLine, u"options"_s, u"highlight"_s, Switch, AtStart, u"1"_s, true},
-        {LineNumbers, u"options"_s, u"linenumber"_s, Switch, InEditor, u"1"_s, true},
-        {LeftMargin, u"options"_s, u"leftmargin"_s, Switch, InEditor, u"1"_s, true},
-        {Whitespace, u"options"_s, u"whitespace"_s, Switch, InEditor, u"0"_s, true},
-        {SelectionBounds, u"options"_s, u"selbounds"_s, Switch, InEditor, u"0"_s, true},
-        {FontName, u"font"_s, u"name"_s, Text, InEditor, u"Liberation Mono"_s},
-        {FontSize, u"font"_s, u"size"_s, Measure, InEditor, u"10"_s},
-        {FontBold, u"font"_s, u"bold"_s, Truth, InEditor, u"False"_s},
-        {FontItalic, u"font"_s, u"italic"_s, Truth, InEditor, u"False"_s},
-        {FontStrikethrough, u"font"_s, u"strikethrough"_s, Truth, InEditor, u"False"_s},
-        {FontUnderline, u"font"_s, u"underline"_s, Truth, InEditor, u"False"_s},
+        {LineNumbers, u"options"_s, u"linenumber"_s, Switch, AtStart, u"1"_s, true},
+        {LeftMargin, u"options"_s, u"leftmargin"_s, Switch, AtStart, u"1"_s, true},
+        {Whitespace, u"options"_s, u"whitespace"_s, Switch, AtStart, u"0"_s, true},
+        {SelectionBounds, u"options"_s, u"selbounds"_s, Switch, AtStart, u"0"_s, true},
+        {FontName, u"font"_s, u"name"_s, Text, AtStart, u"Liberation Mono"_s},
+        {FontSize, u"font"_s, u"size"_s, Measure, AtStart, u"10"_s},
+        {FontBold, u"font"_s, u"bold"_s, Truth, AtStart, u"False"_s},
+        {FontItalic, u"font"_s, u"italic"_s, Truth, AtStart, u"False"_s},
+        {FontStrikethrough, u"font"_s, u"strikethrough"_s, Truth, AtStart, u"False"_s},
+        {FontUnderline, u"font"_s, u"underline"_s, Truth, AtStart, u"False"_s},
         {FileFilters, u"Filters"_s, u"Filters"_s, Patterns, AtStart, shippedFilters()},
     };
     addCustomTabs(rows);
@@ -72,7 +94,7 @@ std::vector<SettingRow> makeSettingRows()
                 {
                     {BrowserPath, u"Paths"_s, u"IEPATH"_s, Path, AtUse, {}},
                     {ServerRoot, u"server"_s, u"root"_s, Path, AtUse, {}},
-                    {ServerAddress, u"server"_s, u"url"_s, Text, AtUse, {}},
+                    {ServerAddress, u"server"_s, u"url"_s, Text, AtUse, {}, false, u"http://localhost/"_s},
                 });
     // clang-format on
     addColours(rows);
@@ -83,21 +105,20 @@ std::vector<UserSettingRow> makeUserSettingRows()
 {
     using enum UserSetting;
     using enum SettingKind;
-    using enum SettingApplies;
     // The branch of this executable, and the one shared by all copies of the program, whatever their executable's name.
     const QString own = u"zephira"_s;
     const QString shared = u"Zephira"_s;
     // clang-format off: a row a line
     return {
-        {ShowTips, own, u"Options"_s, u"Show Tips at Startup"_s, Switch, AtStart, u"1"_s},
-        {ProgramFolder, shared, u"data"_s, u"apppath"_s, Path, AtStart},
-        {ProgramVersion, shared, u"data"_s, u"version"_s, Text, AtStart},
-        {WindowShowState, own, {}, u"WindowState"_s, Number, AtStart},
-        {WindowTop, own, {}, u"Top"_s, Number, AtStart},
-        {WindowLeft, own, {}, u"Left"_s, Number, AtStart},
-        {WindowHeight, own, {}, u"Height"_s, Number, AtStart},
-        {WindowWidth, own, {}, u"Width"_s, Number, AtStart},
-        {RemoteContent, own, {}, u"RemoteContent"_s, Switch, AtUse},
+        {ShowTips, own, u"Options"_s, u"Show Tips at Startup"_s, Switch, u"1"_s},
+        {ProgramFolder, shared, u"data"_s, u"apppath"_s, Path},
+        {ProgramVersion, shared, u"data"_s, u"version"_s, Text},
+        {WindowShowState, own, {}, u"WindowState"_s, Number},
+        {WindowTop, own, {}, u"Top"_s, Number},
+        {WindowLeft, own, {}, u"Left"_s, Number},
+        {WindowHeight, own, {}, u"Height"_s, Number},
+        {WindowWidth, own, {}, u"Width"_s, Number},
+        {RemoteContent, own, {}, u"RemoteContent"_s, Switch},
     };
     // clang-format on
 }
@@ -127,34 +148,53 @@ Setting colourSetting(int row, ColourPart part)
 
 bool isSwitchedOn(const Configuration &configuration, Setting setting)
 {
+    ofKind(settingRow(setting), {SettingKind::Switch});
     return configuration.value(setting) == u"1"_s;
 }
 
 bool writeSwitch(Configuration &configuration, Setting setting, bool on)
 {
-    return configuration.setValue(setting, on ? u"1"_s : u"0"_s);
+    ofKind(settingRow(setting), {SettingKind::Switch});
+    return configuration.setValue(setting, switchText(on));
 }
 
 bool isTrue(const Configuration &configuration, Setting setting)
 {
+    ofKind(settingRow(setting), {SettingKind::Truth});
     return configuration.value(setting).compare(u"True"_s, Qt::CaseInsensitive) == 0;
 }
 
 bool writeTruth(Configuration &configuration, Setting setting, bool value)
 {
+    ofKind(settingRow(setting), {SettingKind::Truth});
     return configuration.setValue(setting, value ? u"True"_s : u"False"_s);
 }
 
-int requiredNumber(const Configuration &configuration, Setting setting, const QString &file)
+double measure(const Configuration &configuration, Setting setting)
 {
+    ofKind(settingRow(setting), {SettingKind::Measure});
+    return configuration.value(setting).toDouble();
+}
+
+bool writeMeasure(Configuration &configuration, Setting setting, double value)
+{
+    ofKind(settingRow(setting), {SettingKind::Measure});
+    return configuration.setValue(setting, QString::number(value));
+}
+
+int wholeNumber(const Configuration &configuration, Setting setting, const QString &file)
+{
+    const SettingRow &row = ofKind(settingRow(setting), wholeKinds);
     const QString text = configuration.value(setting);
-    int number = 0;
-    if (endingQuietly([&] { number = CLng(text); }))
-        return number;
-    const SettingRow &row = settingRow(setting);
-    const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
-    throw HandlerError{
-        u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section, file, problem)};
+    try {
+        return CLng(text);
+    } catch (const HandlerError &) {
+        if (!row.isRequired)
+            return 0;
+        const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
+        throw HandlerError{u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section,
+                                                                                                  file, problem)};
+    }
 }
 
 const std::vector<UserSettingRow> &userSettingRows()
@@ -166,6 +206,32 @@ const std::vector<UserSettingRow> &userSettingRows()
 const UserSettingRow &userSettingRow(UserSetting setting)
 {
     return userSettingRows().at(static_cast<std::size_t>(setting));
+}
+
+int wholeNumber(const UserSettings &settings, UserSetting setting)
+{
+    ofKind(userSettingRow(setting), wholeKinds);
+    return settings.GetSetting(setting).toInt();
+}
+
+void writeSwitch(UserSettings &settings, UserSetting setting, bool on)
+{
+    ofKind(userSettingRow(setting), {SettingKind::Switch});
+    settings.SaveSetting(setting, switchText(on));
+}
+
+int wholeNumber(const UserSettings &settings, UserSetting setting, const QString &form, int fallback)
+{
+    ofKind(userSettingRow(setting), {SettingKind::Number});
+    bool converted = false;
+    const int value = settings.GetSetting(setting, form, QString::number(fallback)).toInt(&converted);
+    return converted ? value : fallback;
+}
+
+void writeNumber(UserSettings &settings, UserSetting setting, const QString &form, int number)
+{
+    ofKind(userSettingRow(setting), {SettingKind::Number});
+    settings.SaveSetting(setting, form, QString::number(number));
 }
 
 } // namespace zephira

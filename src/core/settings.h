@@ -8,6 +8,7 @@
 namespace zephira {
 
 class Configuration;
+class UserSettings;
 
 /// The settings of the installation, kept in zephira.ini. Those of colours come from colourSetting(), those of custom
 /// tabs from customTabSetting().
@@ -47,11 +48,10 @@ enum class SettingKind {
     Path,
 };
 
-/// When a new value takes effect.
+/// When the program looks at a value, and so from when on a new one is in effect.
 enum class SettingApplies {
-    AtStart,  ///< the next start of the program
-    InEditor, ///< at once if the writer also applies it to the editing control, otherwise at the next start
-    AtUse,    ///< whenever it is next used
+    AtStart, ///< at the next start, unless whoever writes the value also applies it to the running program
+    AtUse,   ///< whenever it is next used
 };
 
 /// One setting of the installation.
@@ -62,8 +62,8 @@ struct SettingRow {
     SettingKind kind;
     SettingApplies applies;
     QString shipped;         ///< value in the installed zephira.ini
-    bool isRequired = false; ///< the program doesn't start without it
-    QString fallback = {};   ///< value of a missing key
+    bool isRequired = false; ///< the program doesn't start without a valid value
+    QString fallback = {};   ///< what a missing or empty value counts as
 };
 
 /// All settings, in the order of Setting; the 54 colours and styles come last.
@@ -78,15 +78,22 @@ enum class ColourPart { Background, Foreground, FontStyle };
 /// The setting for a part of one of appearanceRows; `row` is 0-based.
 Setting colourSetting(int row, ColourPart part);
 
-/// Whether the value is exactly "1".
+// A value as its kind says. Reading or writing it as another kind is a mistake in the program and raises
+// std::logic_error. The functions that write return false if the store couldn't be written.
+
+/// Whether a switch is exactly "1".
 bool isSwitchedOn(const Configuration &configuration, Setting setting);
 bool writeSwitch(Configuration &configuration, Setting setting, bool on);
-/// Whether the value is "True", without regard to case.
+/// Whether a truth is "True", without regard to case.
 bool isTrue(const Configuration &configuration, Setting setting);
 bool writeTruth(Configuration &configuration, Setting setting, bool value);
-/// A number without which the program can't start. If it is missing or not a 32-bit integer, raises HandlerError with a
-/// sentence that names key, section and file.
-int requiredNumber(const Configuration &configuration, Setting setting, const QString &file);
+/// A measure; 0 if it isn't a number.
+double measure(const Configuration &configuration, Setting setting);
+bool writeMeasure(Configuration &configuration, Setting setting, double value);
+/// A number, colour or font style, or a switch of which other values than 0 and 1 are to be told apart. If it is
+/// missing or not a 32-bit integer, it counts as 0; where the row says that it is required, HandlerError is raised with
+/// a sentence that names key, section and file.
+int wholeNumber(const Configuration &configuration, Setting setting, const QString &file);
 
 /// The values of the per-user store.
 enum class UserSetting : int {
@@ -108,12 +115,20 @@ struct UserSettingRow {
     QString section; ///< empty where each form, or each project folder, has a section of its own, named after it
     QString key;
     SettingKind kind;
-    SettingApplies applies;
-    QString fallback = {}; ///< value of a missing key
+    QString fallback = {}; ///< what a missing value counts as
 };
 
 /// All values, in the order of UserSetting.
 const std::vector<UserSettingRow> &userSettingRows();
 const UserSettingRow &userSettingRow(UserSetting setting);
+
+// The same for the per-user store.
+
+/// A number, or a switch of which other values than 0 and 1 are to be told apart; 0 if it isn't a 32-bit integer.
+int wholeNumber(const UserSettings &settings, UserSetting setting);
+void writeSwitch(UserSettings &settings, UserSetting setting, bool on);
+/// A number that each form has. A missing or malformed one counts as `fallback`.
+int wholeNumber(const UserSettings &settings, UserSetting setting, const QString &form, int fallback);
+void writeNumber(UserSettings &settings, UserSetting setting, const QString &form, int number);
 
 } // namespace zephira

@@ -33,19 +33,11 @@ class Placement
 public:
     Placement(UserSettings &settings, QString form) : m_settings(settings), m_form(std::move(form)) {}
 
-    void save(UserSetting setting, int number) const
-    {
-        m_settings.SaveSetting(setting, m_form, QString::number(number));
-    }
+    void save(UserSetting setting, int number) const { writeNumber(m_settings, setting, m_form, number); }
 
     void savePixels(UserSetting setting, int pixels) const { save(setting, toTwips(pixels)); }
 
-    int number(UserSetting setting, int fallback) const
-    {
-        bool converted = false;
-        const int value = m_settings.GetSetting(setting, m_form, QString::number(fallback)).toInt(&converted);
-        return converted ? value : fallback;
-    }
+    int number(UserSetting setting, int fallback) const { return wholeNumber(m_settings, setting, m_form, fallback); }
 
     int pixels(UserSetting setting, int fallback) const { return toPixels(number(setting, toTwips(fallback))); }
 

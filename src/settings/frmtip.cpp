@@ -28,8 +28,7 @@ frmTip::frmTip(const AppContext &context, QWidget *owner, Random random)
     m_ui->picTip->setPixmap(hint.pixmap(QSize(side, side), devicePixelRatioF()));
     m_ui->tipFrame->setBackgroundRole(QPalette::Base);
 
-    const QString shown = context.settings.GetSetting(UserSetting::ShowTips);
-    m_ui->chkLoadTipsAtStartup->setChecked(shown.toInt() != 0);
+    m_ui->chkLoadTipsAtStartup->setChecked(wholeNumber(context.settings, UserSetting::ShowTips) != 0);
 
     connect(m_ui->chkLoadTipsAtStartup, &QCheckBox::clicked, this, &frmTip::saveSwitch);
     connect(m_ui->cmdNextTip, &QPushButton::clicked, this, &frmTip::showNextTip);
@@ -58,7 +57,7 @@ void frmTip::showNextTip()
 
 void frmTip::saveSwitch(bool ticked)
 {
-    m_context.settings.SaveSetting(UserSetting::ShowTips, ticked ? u"1"_s : u"0"_s);
+    writeSwitch(m_context.settings, UserSetting::ShowTips, ticked);
 }
 
 } // namespace zephira

@@ -53,8 +53,7 @@ QString previewCopyName(const QString &name)
 
 QString serverAddress(const QString &server, const QString &fileName)
 {
-    const QString base = server.isEmpty() ? u"http://localhost/"_s : server;
-    return withSlash(base) + QString::fromLatin1(QUrl::toPercentEncoding(fileName));
+    return withSlash(server) + QString::fromLatin1(QUrl::toPercentEncoding(fileName));
 }
 
 WorkspaceViews::WorkspaceViews(const AppContext &context, Browser &browser, WorkspaceWindow &window)

@@ -111,9 +111,9 @@ private:
 ///     previewCopyName("/site/page.html") == "/site/page.htmltemp.html"
 QString previewCopyName(const QString &name);
 
-/// Address at which a server delivers a file in its root folder. An empty server means the one on this machine.
+/// Address at which a server delivers a file in its root folder.
 ///
-///     serverAddress("", "a b.asp") == "http://localhost/a%20b.asp"
+///     serverAddress("http://localhost", "a b.asp") == "http://localhost/a%20b.asp"
 QString serverAddress(const QString &server, const QString &fileName);
 
 } // namespace zephira

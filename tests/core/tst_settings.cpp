@@ -4,8 +4,11 @@
 #include "support/fakes.h"
 #include "support/testregistry.h"
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+
+#include <stdexcept>
 
 using namespace zephira;
 using namespace Qt::StringLiterals;
@@ -104,12 +107,112 @@ private Q_SLOTS:
         QCOMPARE(settings.values, (std::map<QString, QString>{{place, u"here"_s}}));
     }
 
+    void shippedValuesFitTheirKind()
+    {
+        const std::map<SettingKind, QRegularExpression> forms = {
+            {SettingKind::Switch, QRegularExpression(u"^[01]$"_s)},
+            {SettingKind::Truth, QRegularExpression(u"^(True|False)$"_s)},
+            {SettingKind::Number, QRegularExpression(uR"(^\d+$)"_s)},
+            {SettingKind::Measure, QRegularExpression(uR"(^\d+(\.\d+)?$)"_s)},
+            {SettingKind::Colour, QRegularExpression(uR"(^(-1|\d{1,8})$)"_s)},
+            {SettingKind::FontStyle, QRegularExpression(u"^[0-4]$"_s)},
+            {SettingKind::Text, QRegularExpression(u"^[^;]*$"_s)},
+            {SettingKind::Patterns, QRegularExpression(uR"(^\*\.?\w+(;\*\.?\w+)*$)"_s)},
+            {SettingKind::Path, QRegularExpression(u"^[^;]*$"_s)},
+        };
+        for (const SettingRow &row : settingRows())
+            QVERIFY2(forms.at(row.kind).match(row.shipped).hasMatch(), qPrintable(row.key));
+    }
+
+    /// What must be there ships with a value.
+    void whatIsRequiredIsShipped()
+    {
+        for (const SettingRow &row : settingRows())
+            QVERIFY2(!row.isRequired || !row.shipped.isEmpty(), qPrintable(row.key));
+    }
+
+    void aMissingValueCountsAsTheFallback()
+    {
+        MemoryConfiguration configuration;
+        for (const SettingRow &row : settingRows()) {
+            const Configuration &read = configuration;
+            QCOMPARE(read.value(row.setting), row.fallback);
+            configuration.setValue(row.setting, u"x"_s);
+            QCOMPARE(read.value(row.setting), u"x"_s);
+        }
+        QCOMPARE(settingRow(Setting::ServerAddress).fallback, u"http://localhost/"_s);
+    }
+
+    /// A setting is read and written as what it is; anything else is a mistake in the program.
+    void aSettingHasOneKind()
+    {
+        MemoryConfiguration configuration;
+        MemoryUserSettings settings;
+        for (const SettingRow &row : settingRows()) {
+            using enum SettingKind;
+            const auto isAllowed = [](const auto &act) {
+                try {
+                    act();
+                } catch (const std::logic_error &) {
+                    return false;
+                } catch (const HandlerError &) {
+                    return true; // The value is missing.
+                }
+                return true;
+            };
+            const Setting setting = row.setting;
+            const bool isWhole =
+                row.kind == Switch || row.kind == Number || row.kind == Colour || row.kind == FontStyle;
+            QCOMPARE(isAllowed([&] { isSwitchedOn(configuration, setting); }), row.kind == Switch);
+            QCOMPARE(isAllowed([&] { isTrue(configuration, setting); }), row.kind == Truth);
+            QCOMPARE(isAllowed([&] { measure(configuration, setting); }), row.kind == Measure);
+            QCOMPARE(isAllowed([&] { zephira::wholeNumber(configuration, setting, {}); }), isWhole);
+            QCOMPARE(isAllowed([&] { writeSwitch(configuration, setting, true); }), row.kind == Switch);
+            QCOMPARE(isAllowed([&] { writeTruth(configuration, setting, true); }), row.kind == Truth);
+            QCOMPARE(isAllowed([&] { writeMeasure(configuration, setting, 1); }), row.kind == Measure);
+        }
+        QVERIFY_EXCEPTION_THROWN(zephira::wholeNumber(settings, UserSetting::ProgramFolder), std::logic_error);
+        QVERIFY_EXCEPTION_THROWN(zephira::wholeNumber(settings, UserSetting::ShowTips, u"frmmain"_s, 0),
+                                 std::logic_error);
+        QVERIFY_EXCEPTION_THROWN(writeSwitch(settings, UserSetting::WindowTop, true), std::logic_error);
+        QVERIFY_EXCEPTION_THROWN(writeNumber(settings, UserSetting::ShowTips, u"frmmain"_s, 0), std::logic_error);
+        QVERIFY(settings.values.empty());
+    }
+
+    void measures()
+    {
+        MemoryConfiguration configuration;
+        QCOMPARE(measure(configuration, Setting::FontSize), 0.0);
+        configuration.put(u"font"_s, u"size"_s, u"large"_s);
+        QCOMPARE(measure(configuration, Setting::FontSize), 0.0);
+        QVERIFY(writeMeasure(configuration, Setting::FontSize, 10.5));
+        QCOMPARE(measure(configuration, Setting::FontSize), 10.5);
+        QCOMPARE(configuration.log, QStringList{u"[font] size=10.5"_s});
+        configuration.writable = false;
+        QVERIFY(!writeMeasure(configuration, Setting::FontSize, 11));
+    }
+
+    void numbersOfAForm()
+    {
+        MemoryUserSettings settings;
+        QCOMPARE(zephira::wholeNumber(settings, UserSetting::WindowTop, u"frmTip"_s, 7), 7);
+        writeNumber(settings, UserSetting::WindowTop, u"frmTip"_s, -30);
+        QCOMPARE(settings.values, (std::map<QString, QString>{{u"zephira/frmTip/Top"_s, u"-30"_s}}));
+        QCOMPARE(zephira::wholeNumber(settings, UserSetting::WindowTop, u"frmTip"_s, 7), -30);
+        settings.SaveSetting(UserSetting::WindowTop, u"frmTip"_s, u"up"_s);
+        QCOMPARE(zephira::wholeNumber(settings, UserSetting::WindowTop, u"frmTip"_s, 7), 7);
+    }
+
     void tipsShowUntilTheyAreSwitchedOff()
     {
         MemoryUserSettings settings;
-        QCOMPARE(settings.GetSetting(UserSetting::ShowTips), u"1"_s);
-        settings.SaveSetting(UserSetting::ShowTips, u"0"_s);
+        QCOMPARE(zephira::wholeNumber(settings, UserSetting::ShowTips), 1);
+        writeSwitch(settings, UserSetting::ShowTips, false);
         QCOMPARE(settings.GetSetting(UserSetting::ShowTips), u"0"_s);
+        QCOMPARE(zephira::wholeNumber(settings, UserSetting::ShowTips), 0);
+        writeSwitch(settings, UserSetting::ShowTips, true);
+        settings.SaveSetting(UserSetting::ShowTips, u"no"_s);
+        QCOMPARE(zephira::wholeNumber(settings, UserSetting::ShowTips), 0);
     }
 
     void switchesAreExact()
@@ -139,7 +242,7 @@ private Q_SLOTS:
         QCOMPARE(configuration.log, (QStringList{u"[font] bold=False"_s, u"[font] bold=True"_s}));
     }
 
-    void requiredNumber_data()
+    void wholeNumber_data()
     {
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("message"); // empty if the value converts
@@ -157,7 +260,7 @@ private Q_SLOTS:
                u"number (\"99999999999\")."_s;
     }
 
-    void requiredNumber()
+    void wholeNumber()
     {
         QFETCH(QString, value);
         QFETCH(QString, message);
@@ -166,13 +269,24 @@ private Q_SLOTS:
         QString raised;
         int number = 0;
         try {
-            number = zephira::requiredNumber(configuration, Setting::HighlightLine, u"/x/zephira.ini"_s);
+            number = zephira::wholeNumber(configuration, Setting::HighlightLine, u"/x/zephira.ini"_s);
         } catch (const HandlerError &error) {
             raised = error.description;
         }
         QCOMPARE(raised, message);
         if (message.isEmpty())
             QCOMPARE(QString::number(number), value);
+    }
+
+    /// The program starts without a number that isn't required.
+    void aNumberThatIsNotRequiredCountsAsNone()
+    {
+        MemoryConfiguration configuration;
+        QCOMPARE(zephira::wholeNumber(configuration, Setting::StartDialog, {}), 0);
+        configuration.put(u"startup"_s, u"selprj"_s, u"yes"_s);
+        QCOMPARE(zephira::wholeNumber(configuration, Setting::StartDialog, {}), 0);
+        configuration.put(u"startup"_s, u"selprj"_s, u"3"_s);
+        QCOMPARE(zephira::wholeNumber(configuration, Setting::StartDialog, {}), 3);
     }
 };
 
