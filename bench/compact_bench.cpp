@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // compact_bench FILE: the code view shows the file, gets the result of Compact, which is a single line, and then an
 // undo and a redo; each until it is painted.
-#include "shownpage.h"
+#include "bench/shownpage.h"
 #include "tools/sourceformatter.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // longline_bench FILE: a file that is one long line is opened in the code view, scrolled to the side, and walked to its end;
 // each until it is painted.
-#include "shownpage.h"
+#include "bench/shownpage.h"
 
 #include <QApplication>
 #include <QFile>

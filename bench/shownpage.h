@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "bench/noprompts.h"
 #include "core/clock.h"
 #include "editor/codemax.h"
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
-#include "noprompts.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -186,15 +186,12 @@ int wholeNumber(const Configuration &configuration, Setting setting, const QStri
 {
     const SettingRow &row = ofKind(settingRow(setting), wholeKinds);
     const QString text = configuration.value(setting);
-    try {
-        return CLng(text);
-    } catch (const HandlerError &) {
-        if (!row.isRequired)
-            return 0;
-        const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
-        throw HandlerError{u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section,
-                                                                                                  file, problem)};
-    }
+    int number = 0;
+    if (endingQuietly([&] { number = CLng(text); }) || !row.isRequired)
+        return number;
+    const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
+    throw HandlerError{
+        u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section, file, problem)};
 }
 
 const std::vector<UserSettingRow> &userSettingRows()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bidipainter.h"
+#include "editor/editorfixture.h"
 #include "editor/editormargins.h"
-#include "editorfixture.h"
 #include "support/testregistry.h"
 
 #include <QApplication>

@@ -2,7 +2,6 @@
 #include "editor/editorfixture.h"
 #include "editor/editorprinter.h"
 #include "editor/linepages.h"
-#include "editorfixture.h"
 #include "support/testregistry.h"
 #include "widgets/qtvalues.h"
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorfixture.h"
 #include "editor/propertiesdialog.h"
-#include "editorfixture.h"
 #include "support/palettes.h"
 #include "support/testregistry.h"
 

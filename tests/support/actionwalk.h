@@ -3,31 +3,35 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QMenuBar>
 #include <QToolBar>
 
 namespace zephira {
 
-/// Who listens to a signal, which QObject tells its heirs alone.
+/// The number of a signal's receivers, which QObject tells only its subclasses.
 struct Listeners : QObject {
     static int to(const QObject &sender, const char *signal) { return (sender.*&Listeners::receivers)(signal); }
 };
 
-/// How many listen to an action beside the widgets that show it. What those listen with is counted on an action that
-/// stands beside it and does nothing.
+/// The number of receivers of an action, not counting the widgets that show it. These are counted on an idle action
+/// that is added to the same widgets.
 inline int effectsOf(QAction &action)
 {
     QAction idle(nullptr);
-    for (QObject *holder : action.associatedObjects()) {
+    const QList<QObject *> holders = action.associatedObjects();
+    for (QObject *holder : holders) {
         if (auto *menu = qobject_cast<QMenu *>(holder))
             menu->addAction(&idle);
         else if (auto *bar = qobject_cast<QToolBar *>(holder))
             bar->addAction(&idle);
+        else if (auto *menuBar = qobject_cast<QMenuBar *>(holder))
+            menuBar->addAction(&idle);
     }
     const char *signal = SIGNAL(triggered(bool));
     return Listeners::to(action, signal) - Listeners::to(idle, signal);
 }
 
-/// What is wrong with an action: one that can be chosen has exactly one effect, one that opens a menu may have one.
+/// What is wrong with an action: one that can be chosen must have exactly one effect, one that opens a menu at most one.
 inline QStringList faultsOf(QAction &action)
 {
     if (action.isSeparator() || !action.isEnabled())
@@ -51,7 +55,8 @@ inline QStringList faultsOf(const QList<QAction *> &actions)
 inline QList<QAction *> actionsOf(const QWidget &holder)
 {
     QList<QAction *> found;
-    for (QAction *action : holder.actions()) {
+    const QList<QAction *> all = holder.actions();
+    for (QAction *action : all) {
         found.append(action);
         if (action->menu())
             found.append(actionsOf(*action->menu()));
@@ -59,7 +64,7 @@ inline QList<QAction *> actionsOf(const QWidget &holder)
     return found;
 }
 
-/// Those that the user can choose, without what only opens a menu.
+/// The actions that the user can choose, without those that only open a menu.
 inline QList<QAction *> choosable(QList<QAction *> actions)
 {
     actions.removeIf(

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "designerbench.h"
 #include "support/testregistry.h"
+#include "web/designer/designerbench.h"
 
 #include <QDirIterator>
 #include <QFile>
