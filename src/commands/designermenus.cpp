@@ -25,15 +25,13 @@ private:
     std::optional<DesignerMenuEntry> look(const MenuItem &item, DesignerCommand command) const
     {
         const int status = m_designer.queryStatus(command);
-        DesignerMenuEntry entry{item.name.toString(), status >= DesignerStatus::Enabled};
-        if (command == DesignerCommand::AbsolutePosition) {
-            entry.enabled = status == DesignerStatus::On || status == DesignerStatus::Enabled;
-            entry.caption = status == DesignerStatus::On ? u"Set Position Attribute To 1D"_s
-                                                         : u"Set Position Attribute To Absolute"_s;
-        }
-        if (item.kind == MenuItem::Kind::Check)
-            entry.checked = status == DesignerStatus::On;
-        return entry;
+        const bool isOn = status == DesignerStatus::On;
+        const std::optional<bool> checked = item.kind == MenuItem::Kind::Check ? std::optional(isOn) : std::nullopt;
+        if (command == DesignerCommand::AbsolutePosition)
+            return DesignerMenuEntry{item.name.toString(), isOn || status == DesignerStatus::Enabled, checked,
+                                     isOn ? u"Set Position Attribute To 1D"_s
+                                          : u"Set Position Attribute To Absolute"_s};
+        return DesignerMenuEntry{item.name.toString(), status >= DesignerStatus::Enabled, checked};
     }
 
     std::optional<DesignerMenuEntry> look(const MenuItem &item, const TurnsSwitch &effect) const
