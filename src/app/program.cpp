@@ -31,6 +31,7 @@
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
 #include "tags/registerforms.h"
+#include "tools/registerforms.h"
 #include "views/registerforms.h"
 #include "widgets/keptpictures.h"
 #include "wizards/registerforms.h"
@@ -118,6 +119,7 @@ int runProgram(QApplication &application, const QString &argument)
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);
+    tools::registerForms(catalogue);
     views::registerForms(
         catalogue,
         [&](QWidget *parent) -> EditorView {

@@ -54,8 +54,10 @@ void openFtpClient(const AppContext &context)
 
 void weighDocument(const AppContext &context)
 {
+    // The document may be private, whatever folder the copy lies in.
+    constexpr int ownerOnly = 0600;
     const Result<void> written =
-        context.files.write(context.appPath + u"/ldtemp.html"_s, context.editor.text().toUtf8());
+        context.files.write(context.appPath + u"/ldtemp.html"_s, context.editor.text().toUtf8(), ownerOnly);
     if (written)
         context.forms.openModal(u"frmDocSize"_s);
     else

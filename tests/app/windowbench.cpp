@@ -9,6 +9,7 @@
 #include "start/registerforms.h"
 #include "support/sourcefolder.h"
 #include "tags/registerforms.h"
+#include "tools/registerforms.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
@@ -54,6 +55,7 @@ WindowBench::WindowBench()
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     zephira::settings::registerForms(catalogue);
+    zephira::tools::registerForms(catalogue);
     views::registerForms(
         catalogue,
         [this](QWidget *parent) -> EditorView {

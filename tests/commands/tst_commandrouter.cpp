@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/commandfunctions.h"
 #include "commands/routerbench.h"
+#include "files/diskfilestore.h"
 #include "support/testregistry.h"
 #include "views/designercommands.h"
 
+#include <QFileInfo>
 #include <QLocale>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -65,6 +69,7 @@ private Q_SLOTS:
     void formattingBarElsewhere();
     void loadTime();
     void loadTimeTellsAFailure();
+    void theWeighedCopyIsPrivate();
     void pullDowns_data();
     void pullDowns();
     void pullDownsAreRefused_data() { pullDowns_data(); }
@@ -637,6 +642,22 @@ void TstCommandRouter::loadTime()
     bench.toolbar1(u"loadtime"_s);
     QCOMPARE(bench.world.files.contents[u"/app/ldtemp.html"_s], QByteArray("<p>\xc3\xa4</p>\r\n"));
     QCOMPARE(bench.world.forms.modal, QStringList{u"frmDocSize"_s});
+}
+
+void TstCommandRouter::theWeighedCopyIsPrivate()
+{
+    const QTemporaryDir folder;
+    TestContext world;
+    DiskFileStore files;
+    const AppContext context{world.editor,   world.inserter, world.designer, world.document, world.configuration,
+                             world.settings, files,          world.prompts,  world.shell,    world.clipboard,
+                             world.clock,    world.forms,    folder.path()};
+    world.editor.setText(u"secret"_s);
+    weighDocument(context);
+    const QFileInfo copy(folder.filePath(u"ldtemp.html"_s));
+    QCOMPARE(copy.size(), 6);
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    QCOMPARE(copy.permissions() & others, QFile::Permissions());
 }
 
 void TstCommandRouter::loadTimeTellsAFailure()

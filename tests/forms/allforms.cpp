@@ -13,6 +13,7 @@
 #include "start/registerforms.h"
 #include "support/scriptedprompts.h"
 #include "tags/registerforms.h"
+#include "tools/registerforms.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
@@ -48,6 +49,7 @@ FormCatalogue allForms()
     start::registerForms(catalogue);
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);
+    tools::registerForms(catalogue);
     const auto ftpParts = std::make_shared<FtpParts>();
     ftp::registerForms(catalogue, {ftpParts, &ftpParts->client});
     const auto parts = std::make_shared<EditorParts>();

@@ -37,7 +37,7 @@ constexpr FolderRow folderRows[] = {
     {u"editor", u"core files syntax widgets"},
     {u"web", u"core files"},
     {u"desktop", u"core widgets"},
-    {u"tools", u"core"},
+    {u"tools", u"core files"},
     {u"tags", u"core files widgets"},
     {u"panes", u"core files widgets"},
     {u"views", u"core files widgets"},
@@ -47,7 +47,7 @@ constexpr FolderRow folderRows[] = {
     {u"document", u"core files"},
     {u"start", u"core files widgets"},
     {u"commands", u"core tools views widgets document"},
-    {u"app", u"core files syntax widgets editor desktop tags panes views wizards settings ftp document start commands"},
+    {u"app", u"core files syntax widgets editor desktop tags panes views wizards settings tools ftp document start commands"},
 };
 
 constexpr Rule includeRules[] = {

@@ -12,6 +12,7 @@
 #include "panes/sottree.h"
 #include "syntax/describestyles.h"
 #include "tags/tagfile.h"
+#include "tools/imagelinks.h"
 #include "tools/sourceformatter.h"
 #include "views/fetchedtext.h"
 #include "views/pagefetcher.h"
@@ -168,6 +169,21 @@ QByteArray printHierarchical(const QByteArray &input)
     }
 }
 
+/// One line for each image that a page names, or an error.
+QByteArray printImageLinks(const QByteArray &input)
+{
+    QByteArray out;
+    QStringList urls;
+    const auto tell = [&out](const QString &description) { out = "error\t" + description.toUtf8() + '\n'; };
+    if (!endingWith(tell, [&] { LinksFromHTML(urls, textOf(input)); }))
+        return out;
+    for (const QString &url : urls.sliced(1)) {
+        addEscaped(out, url);
+        out.append('\n');
+    }
+    return out;
+}
+
 /// The page with marks instead of server code and comments.
 QByteArray printServerMarks(const QByteArray &input)
 {
@@ -252,6 +268,7 @@ constexpr Parser table[] = {
     {"compact", printFormatted<Compact>},
     {"simple", printFormatted<Simple>},
     {"hierarchical", printHierarchical},
+    {"imagelinks", printImageLinks},
     {"listing", printList},
     {"listing-mlsd", printMlsd},
     {"ftpreply", printReply},

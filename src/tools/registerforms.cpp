@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/registerforms.h"
+
+#include "core/formcatalogue.h"
+#include "tools/frmdocsize.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira::tools {
+
+void registerForms(FormCatalogue &catalogue)
+{
+    catalogue.add<frmDocSize>(u"frmDocSize"_s);
+}
+
+} // namespace zephira::tools

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <algorithm>
+#include <ctime>
+#include <functional>
+
+namespace zephira {
+
+/// How many times the processor's time a run takes for ten times the text: the least of some rounds, because another
+/// process may disturb one. At most 12 is linear.
+inline double timesForTenTimes(const std::function<QString(qsizetype count)> &makeText, qsizetype count,
+                               const std::function<void(const QString &text)> &run)
+{
+    const auto seconds = [&run](const QString &text) {
+        timespec before{};
+        timespec after{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &before);
+        run(text);
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &after);
+        constexpr double nanosecond = 1e-9;
+        return static_cast<double>(after.tv_sec - before.tv_sec)
+            + nanosecond * static_cast<double>(after.tv_nsec - before.tv_nsec);
+    };
+    const QString small = makeText(count);
+    const QString large = makeText(10 * count);
+    constexpr int rounds = 7;
+    double least = seconds(small);
+    double most = seconds(large);
+    for (int round = 1; round < rounds; ++round) {
+        least = std::min(least, seconds(small));
+        most = std::min(most, seconds(large));
+    }
+    return most / least;
+}
+
+} // namespace zephira
