@@ -3,6 +3,7 @@
 
 #include "core/formcatalogue.h"
 #include "tools/frmdocsize.h"
+#include "tools/frmlinkextract.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,6 +12,7 @@ namespace zephira::tools {
 void registerForms(FormCatalogue &catalogue)
 {
     catalogue.add<frmDocSize>(u"frmDocSize"_s);
+    catalogue.add<frmlinkextract>(u"frmlinkextract"_s);
 }
 
 } // namespace zephira::tools

@@ -3,6 +3,7 @@
 #include "support/testregistry.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -57,6 +58,40 @@ private Q_SLOTS:
         QCOMPARE(size, u"1.98 KB"_s);
         QCOMPARE(image, u"a.gif"_s);
         QCOMPARE(bench.read(bench.appPath() + u"/ldtemp.html"_s), window.rt().text().toUtf8());
+    }
+
+    void linksFromTheDisk_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::newRow("menu") << u"mnule"_s;
+        QTest::newRow("pull-down") << u"linkextract"_s;
+    }
+
+    void linksFromTheDisk()
+    {
+        QFETCH(QString, command);
+        WindowBench bench;
+        const QString page = bench.write(u"page.html"_s, "<a href=x.htm><a href=\"y.htm\">");
+        const QString saved = bench.folder() + u"/links.html"_s;
+        frmmain &window = bench.start(page);
+        window.show();
+        bench.prompts.expectFile(
+            {u"Select File"_s, u"HTML Pages (*.html, *.htm)|*.html;*.htm|All Files|*.*"_s, {}, false, {}}, page);
+        bench.prompts.expectFile(
+            {u"Save File"_s, u"HTML File|*.html|HTM File|*.htm|All Files|*.*"_s, bench.folder() + u'/', true, {}},
+            saved);
+        const NextForm links(window, [](QWidget &form) {
+            for (const QString &button : {u"cmdOnE"_s, u"cmdSave"_s})
+                QTest::mouseClick(form.findChild<QPushButton *>(button), Qt::LeftButton);
+        });
+        bench.choose(command);
+        QCOMPARE(links.name, u"frmlinkextract"_s);
+        QVERIFY(bench.prompts.verify());
+        QCOMPARE(bench.read(saved),
+                 QByteArray("<HTML>\r\n<BODY>\r\n<A HREF=\"y.htm\">y.htm</A><BR>\r\n"
+                            "<A HREF=\"x.htm\">x.htm</A><BR>\r\n"
+                            "<A HREF=\"\"y.htm\"\">\"y.htm\"</A><BR>"));
+        QCOMPARE(window.rt().text(), u"<a href=x.htm><a href=\"y.htm\">"_s);
     }
 };
 

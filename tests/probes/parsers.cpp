@@ -13,6 +13,7 @@
 #include "syntax/describestyles.h"
 #include "tags/tagfile.h"
 #include "tools/imagelinks.h"
+#include "tools/linktargets.h"
 #include "tools/sourceformatter.h"
 #include "views/fetchedtext.h"
 #include "views/pagefetcher.h"
@@ -184,6 +185,17 @@ QByteArray printImageLinks(const QByteArray &input)
     return out;
 }
 
+/// One line for each link target of a page.
+QByteArray printLinkTargets(const QByteArray &input)
+{
+    QByteArray out;
+    for (const QString &target : linkTargets(textOf(input)).targets) {
+        addEscaped(out, target);
+        out.append('\n');
+    }
+    return out;
+}
+
 /// The page with marks instead of server code and comments.
 QByteArray printServerMarks(const QByteArray &input)
 {
@@ -269,6 +281,7 @@ constexpr Parser table[] = {
     {"simple", printFormatted<Simple>},
     {"hierarchical", printHierarchical},
     {"imagelinks", printImageLinks},
+    {"linktargets", printLinkTargets},
     {"listing", printList},
     {"listing-mlsd", printMlsd},
     {"ftpreply", printReply},

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Arbitrary pages: the link targets equal those of the straightforward search.
+#include "fuzz/check.h"
+#include "tools/linktargets.h"
+#include "tools/plainlinktargets.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+{
+    using namespace zephira;
+    // For a long text the straightforward search takes more time than the fuzzer allows.
+    if (size > 4000)
+        return 0;
+    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    check(linkTargets(text).targets == plainLinkTargets(text));
+    return 0;
+}
