@@ -9,6 +9,7 @@
 #include "tools/linklistmodel.h"
 #include "ui_frmdocsize.h"
 
+#include <QLayout>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +24,9 @@ frmDocSize::frmDocSize(const AppContext &context, QWidget *owner)
           u"Other Files"_s, QIcon::fromTheme(u"image-x-generic"_s, style()->standardIcon(QStyle::SP_FileIcon)), this))
 {
     m_ui->setupUi(this);
+    // A window's least height leaves out the lines that wrapped notes need.
+    const int width = layout()->totalMinimumSize().width();
+    setMinimumSize(width, layout()->totalMinimumHeightForWidth(width));
     m_ui->lstlinks->setModel(m_links);
     connect(m_ui->Command1, &QPushButton::clicked, this, &frmDocSize::accept);
     endingQuietly([this] { weigh(); });
