@@ -2,8 +2,16 @@
 #include "wizards/registerforms.h"
 
 #include "core/formcatalogue.h"
+#include "wizards/doctype.h"
+#include "wizards/frmcsv.h"
+#include "wizards/frmiframe.h"
+#include "wizards/frminsbreak.h"
+#include "wizards/frmredirect.h"
 #include "wizards/frmtable.h"
 #include "wizards/frmtables.h"
+#include "wizards/frmvbwiz.h"
+#include "wizards/frmwizcookie.h"
+#include "wizards/frmwizmarquee.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,8 +19,16 @@ namespace zephira::wizards {
 
 void registerForms(FormCatalogue &catalogue)
 {
+    catalogue.add<doctype>(u"doctype"_s);
+    catalogue.add<frmRedirect>(u"frmRedirect"_s);
     catalogue.add<frmTable>(u"frmTable"_s);
     catalogue.add<frmTables>(u"frmTables"_s);
+    catalogue.add<frmcsv>(u"frmcsv"_s);
+    catalogue.add<frmiframe>(u"frmiframe"_s);
+    catalogue.add<frminsbreak>(u"frminsbreak"_s);
+    catalogue.add<frmvbwiz>(u"frmvbwiz"_s);
+    catalogue.add<frmwizMarquee>(u"frmwizMarquee"_s);
+    catalogue.add<frmwizcookie>(u"frmwizcookie"_s);
 }
 
 } // namespace zephira::wizards

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/appcontext.h"
+
+#include <QDate>
+#include <QDialog>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class frmwizcookie;
+}
+
+/// Inserts a script that sets a cookie. Its last day is typed, or chosen from a calendar.
+class frmwizcookie final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmwizcookie(const AppContext &context, QWidget *owner);
+    ~frmwizcookie() override;
+
+private:
+    void addCalendar();
+    /// The day in the date's box, or today if there is none.
+    QDate typedDay() const;
+    void insertCookie();
+
+    const std::unique_ptr<Ui::frmwizcookie> m_ui;
+    const AppContext m_context;
+};
+
+} // namespace zephira
