@@ -6,12 +6,14 @@
 #include "wizards/frmcsv.h"
 #include "wizards/frmiframe.h"
 #include "wizards/frminsbreak.h"
+#include "wizards/frmlinkwiz.h"
 #include "wizards/frmredirect.h"
 #include "wizards/frmtable.h"
 #include "wizards/frmtables.h"
 #include "wizards/frmvbwiz.h"
 #include "wizards/frmwizcookie.h"
 #include "wizards/frmwizmarquee.h"
+#include "wizards/imagewizard.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +21,7 @@ namespace zephira::wizards {
 
 void registerForms(FormCatalogue &catalogue)
 {
+    catalogue.add<ImageWizard>(u"ImageWizard"_s);
     catalogue.add<doctype>(u"doctype"_s);
     catalogue.add<frmRedirect>(u"frmRedirect"_s);
     catalogue.add<frmTable>(u"frmTable"_s);
@@ -26,6 +29,7 @@ void registerForms(FormCatalogue &catalogue)
     catalogue.add<frmcsv>(u"frmcsv"_s);
     catalogue.add<frmiframe>(u"frmiframe"_s);
     catalogue.add<frminsbreak>(u"frminsbreak"_s);
+    catalogue.add<frmlinkwiz>(u"frmlinkwiz"_s);
     catalogue.add<frmvbwiz>(u"frmvbwiz"_s);
     catalogue.add<frmwizMarquee>(u"frmwizMarquee"_s);
     catalogue.add<frmwizcookie>(u"frmwizcookie"_s);

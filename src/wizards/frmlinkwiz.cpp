@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wizards/frmlinkwiz.h"
+
+#include "core/pasteitem.h"
+#include "core/prompts.h"
+#include "ui_frmlinkwiz.h"
+#include "wizards/linkmarkup.h"
+#include "wizards/longfields.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+frmlinkwiz::frmlinkwiz(const AppContext &context, QWidget *owner)
+    : QDialog(owner), m_ui(std::make_unique<Ui::frmlinkwiz>()), m_context(context)
+{
+    m_ui->setupUi(this);
+    acceptAnyText(*this);
+    m_ui->Combo3->addItems(linkPrefixes());
+    m_ui->Combo3->setCurrentIndex(-1);
+    connect(m_ui->Combo3, &QComboBox::currentIndexChanged, this, [this] {
+        putPrefix();
+        m_isPrefixPut = true;
+    });
+    // Choosing the same entry once more changes no index, but it is a choice all the same.
+    connect(m_ui->Combo3, &QComboBox::activated, this, [this] {
+        if (!std::exchange(m_isPrefixPut, false))
+            putPrefix();
+    });
+    connect(m_ui->Command1, &QPushButton::clicked, this, &frmlinkwiz::browse);
+    connect(m_ui->OKButton, &QPushButton::clicked, this, &frmlinkwiz::insertLink);
+    connect(m_ui->CancelButton, &QPushButton::clicked, this, &frmlinkwiz::reject);
+}
+
+frmlinkwiz::~frmlinkwiz() = default;
+
+void frmlinkwiz::putPrefix()
+{
+    m_ui->text5->setText(withPrefix(m_ui->Combo3->currentText(), m_ui->text5->text()));
+}
+
+void frmlinkwiz::browse()
+{
+    const auto file = m_context.prompts.file({.title = u"Browse for file"_s, .filter = u"All Files (*.*)|*.*"_s});
+    if (file)
+        m_ui->text5->setText(projectReference(m_context.document, *file));
+}
+
+void frmlinkwiz::insertLink()
+{
+    pasteBehindSelection(m_context,
+                         linkMarkup({
+                             .address = m_ui->text5->text(),
+                             .text = m_ui->Text4->text(),
+                             .target = m_ui->Combo1->currentText(),
+                             .statusText = m_ui->Text1->text(),
+                             .title = m_ui->Text2->text(),
+                             .name = m_ui->Text3->text(),
+                         }));
+    accept();
+}
+
+} // namespace zephira

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/appcontext.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class frmlinkwiz;
+}
+
+/// Inserts a link in the active view.
+class frmlinkwiz final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmlinkwiz(const AppContext &context, QWidget *owner);
+    ~frmlinkwiz() override;
+
+private:
+    void putPrefix();
+    void browse();
+    void insertLink();
+
+    const std::unique_ptr<Ui::frmlinkwiz> m_ui;
+    const AppContext m_context;
+    /// Whether a change of the index has put the prefix before the choice is reported.
+    bool m_isPrefixPut = false;
+};
+
+} // namespace zephira

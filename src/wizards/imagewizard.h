@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/appcontext.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace zephira {
+
+namespace Ui {
+class ImageWizard;
+}
+
+struct ImageFields;
+
+/// Inserts a picture, whose size is read from its file.
+class ImageWizard final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    ImageWizard(const AppContext &context, QWidget *owner);
+    ~ImageWizard() override;
+
+private:
+    ImageFields fields() const;
+    void browse();
+    /// Fills in the picture's size; that of a file that is no picture isn't known, and the fields stay.
+    void measure(const QString &file);
+    void insertImage();
+
+    const std::unique_ptr<Ui::ImageWizard> m_ui;
+    const AppContext m_context;
+};
+
+} // namespace zephira

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace zephira {
+
+class DocumentHost;
+
+// Links and pictures. Fields are inserted as typed: nothing is quoted or checked.
+
+/// The ways in which an address can begin, in the order of the list.
+QStringList linkPrefixes();
+
+/// The address after a prefix was chosen: it replaces an address that is only a prefix, in any case, and comes before
+/// any other.
+QString withPrefix(const QString &prefix, const QString &address);
+
+struct LinkFields {
+    QString address = {};
+    QString text = {};
+    QString target = {};
+    /// If empty, the link leaves the status bar alone.
+    QString statusText = {};
+    QString title = {};
+    QString name = {};
+};
+
+QString linkMarkup(const LinkFields &fields);
+
+/// How a page of the project refers to a file: relative to the project's folder, or by the full name if there is no
+/// project.
+QString projectReference(const DocumentHost &document, const QString &file);
+
+struct ImageFields {
+    /// The picture's full name, and what projectReference() makes of it.
+    QString file = {};
+    QString reference = {};
+    QString width = {};
+    QString height = {};
+    QString alternative = {};
+    QString border = {};
+
+    /// Whether the full name is written. A reference that begins with a colon is one to another drive, which no page can
+    /// follow.
+    bool usesFullName() const { return reference.startsWith(u':'); }
+};
+
+/// The tag and a line end.
+QString imageMarkup(const ImageFields &fields);
+
+} // namespace zephira
