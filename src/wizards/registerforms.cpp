@@ -3,7 +3,10 @@
 
 #include "core/formcatalogue.h"
 #include "wizards/doctype.h"
+#include "wizards/formwizard.h"
+#include "wizards/frmaddchoice.h"
 #include "wizards/frmcsv.h"
+#include "wizards/frmdropdown.h"
 #include "wizards/frmiframe.h"
 #include "wizards/frminsbreak.h"
 #include "wizards/frmlinkwiz.h"
@@ -21,12 +24,15 @@ namespace zephira::wizards {
 
 void registerForms(FormCatalogue &catalogue)
 {
+    catalogue.add<FormWizard>(u"FormWizard"_s);
     catalogue.add<ImageWizard>(u"ImageWizard"_s);
     catalogue.add<doctype>(u"doctype"_s);
     catalogue.add<frmRedirect>(u"frmRedirect"_s);
     catalogue.add<frmTable>(u"frmTable"_s);
     catalogue.add<frmTables>(u"frmTables"_s);
+    catalogue.add<frmaddchoice>(u"frmaddchoice"_s);
     catalogue.add<frmcsv>(u"frmcsv"_s);
+    catalogue.add<frmdropdown>(u"frmdropdown"_s);
     catalogue.add<frmiframe>(u"frmiframe"_s);
     catalogue.add<frminsbreak>(u"frminsbreak"_s);
     catalogue.add<frmlinkwiz>(u"frmlinkwiz"_s);
