@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowbench.h"
+#include "support/testregistry.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+/// Each command that opens a small wizard, in the real window: the text comes into the document, and one undo takes it
+/// back.
+class TstWizardCommands final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aWizardWritesAndUndoTakesItBack_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const QString &place, const QString &command, const QString &form, const QString &button,
+                            const QString &text) {
+            QTest::newRow(qPrintable(place + u' ' + command + u' ' + button))
+                << place << command << form << button << text;
+        };
+        const QString link = u"[old<a href=\"\" target=\"_self\" name=\"\" title=\"\"></a>]"_s;
+        const QString image = u"[old\r\n<img src=\"\" width=\"\" height=\"\" alt=\"\" border=\"0\">\r\n]"_s;
+        row(u"menu"_s, u"mnuaspredirect"_s, u"frmRedirect"_s, u"Command1"_s,
+            u"[old<meta http-equiv=\"refresh\" content=\"0\"; url=\"http://\">]"_s);
+        row(u"menu"_s, u"mnuaspredirect"_s, u"frmRedirect"_s, u"Command3"_s, u"[oldResponse.redirect\"http://\"]"_s);
+        row(u"menu"_s, u"mnuinsbreakd"_s, u"frminsbreak"_s, u"Command1"_s, u"[old<br clear=\"\" > ]"_s);
+        row(u"menu"_s, u"iframe"_s, u"frmiframe"_s, u"Command2"_s,
+            u"[old<iframe src=\"\" name=\"\" id=\"\" width=\"\" height=\"\" marginwidth=\"\" marginheight=\"\" align=\"\">"
+            "</iframe>]"_s);
+        row(u"menu"_s, u"mnuvbsw"_s, u"frmvbwiz"_s, u"Command1"_s, u"[old<% If  =  Then \r\n\r\nEnd If %>\r\n]"_s);
+        row(u"menu"_s, u"mnucw"_s, u"frmwizcookie"_s, u"Command1"_s,
+            u"[old<%\r\n  Response.Cookies(\"Type\") = \"\"\r\n"
+            "  Response.Cookies(\"Type\").Expires = \"10/26/2002\"\r\n  Response.Cookies(\"Type\").Domain =\"\"\r\n"
+            " Response.Cookies(\"Type\").Path = \"\"\r\nResponse.Cookies(\"Type\").Secure = FALSE \r\n%>]"_s);
+        row(u"menu"_s, u"mnuformwiz"_s, u"FormWizard"_s, u"Command10"_s,
+            u"[old<form action=\"action goes here\" method=\"POST\" name=\"Form1\">\r\n"
+            "<p>enter your field label name<input type=\"text\" size=\"20\" name=\"T1\"></p>\r\n"
+            "<p>enter your field label name<input type=\"text\" size=\"20\" name=\"T2\"></p>\r\n"
+            "<p><input type=\"submit\" name=\"B1\" value=\"Submit\">\r\n"
+            "<input type=\"reset\"name=\"B2\"value=\"Reset\"></p>\r\n </form>]"_s);
+        row(u"menu"_s, u"mnuimw"_s, u"ImageWizard"_s, u"OKButton"_s, image);
+        row(u"menu"_s, u"linkwiz"_s, u"frmlinkwiz"_s, u"OKButton"_s, link);
+        row(u"Toolbar1"_s, u"links"_s, u"frmlinkwiz"_s, u"OKButton"_s, link);
+        row(u"Toolbar_0"_s, u"link"_s, u"frmlinkwiz"_s, u"OKButton"_s, link);
+        row(u"Toolbar_1"_s, u"link"_s, u"frmlinkwiz"_s, u"OKButton"_s, link);
+        row(u"Toolbar_1"_s, u"picture"_s, u"ImageWizard"_s, u"OKButton"_s, image);
+    }
+
+    void aWizardWritesAndUndoTakesItBack()
+    {
+        QFETCH(QString, place);
+        QFETCH(QString, command);
+        QFETCH(QString, form);
+        QFETCH(QString, button);
+        WindowBench bench;
+        frmmain &window = open(bench);
+        const QString opened = run(bench, place, command,
+                                   [&button](QWidget &wizard) { wizard.findChild<QPushButton *>(button)->click(); });
+        QCOMPARE(opened, form);
+        QTEST(window.rt().text(), "text");
+        QVERIFY(window.docModified());
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+    }
+
+    void theDocumentTypeComesFirst()
+    {
+        WindowBench bench;
+        frmmain &window = open(bench);
+        const QString opened = run(bench, u"Toolbar_1"_s, u"doctype"_s, [](QWidget &wizard) {
+            QTest::keyClick(wizard.findChild<QComboBox *>(u"Combo1"_s), Qt::Key_Down);
+            QTest::keyClick(wizard.findChild<QComboBox *>(u"Combo1"_s), Qt::Key_Return);
+        });
+        QCOMPARE(opened, u"doctype"_s);
+        QCOMPARE(window.rt().text(), u"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\">\r\n[old]"_s);
+        QCOMPARE(window.rt().selText(), u"old"_s);
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+    }
+
+    void scrollingTextIsTyped()
+    {
+        WindowBench bench;
+        frmmain &window = open(bench);
+        const QString opened = run(bench, u"menu"_s, u"mnumw"_s, [](QWidget &wizard) {
+            QTest::keyClicks(wizard.findChild<QLineEdit *>(u"Text1"_s), u"News"_s);
+            QTest::keyClick(wizard.findChild<QLineEdit *>(u"Text1"_s), Qt::Key_Return);
+        });
+        QCOMPARE(opened, u"frmwizMarquee"_s);
+        QCOMPARE(window.rt().text(),
+                 u"[old<Marquee align=\"Left\" behavior=\"Scoll\" bgcolor=\"#FFFFFF\" direction=\"Left\" "
+                 "scrollamount=\"0\" scrolldelay=\"0\">News</Marquee>]"_s);
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+    }
+
+    void aVariableReplacesTheSelection()
+    {
+        WindowBench bench;
+        frmmain &window = open(bench);
+        const auto choose = [](QWidget &wizard) {
+            QTest::keyClick(wizard.findChild<QComboBox *>(u"Combo1"_s), Qt::Key_Down);
+            QTest::keyClick(&wizard, Qt::Key_Escape);
+        };
+        QCOMPARE(runAction(*actionWithTip(bench, u"Server Variables"_s), choose), u"frmcsv"_s);
+        QCOMPARE(window.rt().text(), u"[ALL_HTTP\t]"_s);
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+    }
+
+    void aMenuTakesItsChoicesFromASecondForm()
+    {
+        WindowBench bench;
+        frmmain &window = open(bench);
+        const QString opened = run(bench, u"menu"_s, u"mnuddg"_s, [](QWidget &menu) {
+            QTimer::singleShot(0, &menu, [] {
+                QWidget *choice = QApplication::activeModalWidget();
+                QCOMPARE(choice->objectName(), u"frmaddchoice"_s);
+                auto *text = choice->findChild<QLineEdit *>(u"Text1"_s);
+                QTest::keyClicks(text, u"One"_s);
+                QTest::keyClick(text, Qt::Key_Return);
+            });
+            menu.findChild<QPushButton *>(u"Command1"_s)->click();
+            QTest::keyClicks(menu.findChild<QWidget *>(u"Text1"_s), u"m"_s);
+            QTest::keyClick(menu.findChild<QWidget *>(u"Text1"_s), Qt::Key_Return);
+        });
+        QCOMPARE(opened, u"frmdropdown"_s);
+        QCOMPARE(window.rt().text(),
+                 u"[old<select size=\"1\" name=\"m\">\r\n  <option>One</option>\r\n</select>\r\n]"_s);
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+    }
+
+private:
+    using Work = std::function<void(QWidget &)>;
+
+    /// The window with a page in which "old" is selected.
+    static frmmain &open(WindowBench &bench)
+    {
+        frmmain &window = bench.start(bench.write(u"page.html"_s, "[old]"));
+        window.show();
+        window.rt().select({0, 1, 0, 4});
+        return window;
+    }
+
+    static QAction *actionWithTip(const WindowBench &bench, const QString &tip)
+    {
+        const QList<QAction *> actions = bench.window->findChildren<QAction *>();
+        const auto found = std::ranges::find_if(actions, [&](const QAction *a) { return a->toolTip().contains(tip); });
+        if (found == actions.end())
+            qFatal("no command has the tip %s", qPrintable(tip));
+        return *found;
+    }
+
+    /// Runs a command, works the form that it opens, and returns the form's name. A form that is left open is closed.
+    static QString run(const WindowBench &bench, const QString &place, const QString &command, const Work &work)
+    {
+        if (place == u"menu")
+            return runAction(*bench.find<QAction>(command), work);
+        const QList<QAction *> actions = bench.find<QToolBar>(place)->actions();
+        const auto found = std::ranges::find(actions, command, &QAction::objectName);
+        if (found == actions.end())
+            qFatal("%s has no button %s", qPrintable(place), qPrintable(command));
+        return runAction(**found, work);
+    }
+
+    static QString runAction(QAction &action, const Work &work)
+    {
+        QString form;
+        QTimer::singleShot(0, &action, [&] {
+            auto *wizard = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (!wizard)
+                return;
+            form = wizard->objectName();
+            work(*wizard);
+            if (wizard->isVisible())
+                wizard->reject();
+        });
+        [&] { QVERIFY2(action.isEnabled(), qPrintable(action.objectName())); }();
+        action.trigger();
+        return form;
+    }
+};
+
+ZEPHIRA_TEST(TstWizardCommands)
+#include "tst_wizardcommands.moc"
