@@ -9,6 +9,7 @@
 #include "app/startprocedure.h"
 #include "app/suddenend.h"
 #include "app/windowend.h"
+#include "colour/registerforms.h"
 #include "commands/icons.h"
 #include "commands/iconstates.h"
 #include "core/clock.h"
@@ -113,6 +114,7 @@ int runProgram(QApplication &application, const QString &argument)
 
     FormCatalogue catalogue;
     announceComingForms(catalogue);
+    colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     panes::registerForms(catalogue);
     start::registerForms(catalogue);

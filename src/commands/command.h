@@ -22,9 +22,12 @@ class ViewTabs;
 class WindowCommands;
 struct QuickTag;
 
-/// Opens a form modally.
+/// Opens a form: modally, or as a window beside the main one, which is brought to the front if it is open already.
 struct OpensForm {
+    enum class Kind { Modal, Modeless };
+
     QStringView form;
+    Kind kind = Kind::Modal;
 
     friend bool operator==(const OpensForm &, const OpensForm &) = default;
 };

@@ -37,7 +37,13 @@ public:
     {
         endingQuietly([&] { m_context.designer.execCommand(command); });
     }
-    void operator()(const OpensForm &effect) const { m_context.forms.openModal(effect.form.toString()); }
+    void operator()(const OpensForm &effect) const
+    {
+        if (effect.kind == OpensForm::Kind::Modeless)
+            m_context.forms.openModeless(effect.form.toString());
+        else
+            m_context.forms.openModal(effect.form.toString());
+    }
     void operator()(const EditsView &effect) const
     {
         if (m_context.designer.isShowing())

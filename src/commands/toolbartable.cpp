@@ -91,7 +91,7 @@ constexpr ToolButton formattingButtons[] = {
             u"frmTags",
             tagEntries}),
     markup({u"loadtime", u"Size of the document and time to load it", u"chronometer", {weighDocument}, u"frmDocSize"}),
-    {u"specchars", u"Special characters", u":\u03a9", {OpensForm{u"frmChar"}}, u"frmChar"},
+    {u"specchars", u"Special characters", u":\u03a9", {OpensForm{u"frmChar", OpensForm::Kind::Modeless}}, u"frmChar"},
     {u"ftp", u"FTP client", u"folder-sync", {&PaneCommands::showFtp}, u"frmmainftp"},
     {u"reset", u"Discard Changes and Reload document", u"document-revert", {&Document::revert}},
 };

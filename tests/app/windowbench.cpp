@@ -3,6 +3,7 @@
 
 #include "app/comingforms.h"
 #include "app/loadhandler.h"
+#include "colour/registerforms.h"
 #include "ftp/registerforms.h"
 #include "panes/registerforms.h"
 #include "settings/registerforms.h"
@@ -49,6 +50,7 @@ WindowBench::WindowBench()
         write(u"app/"_s + source.relativeFilePath(file), read(file));
     }
     announceComingForms(catalogue);
+    colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     panes::registerForms(catalogue);
     start::registerForms(catalogue);

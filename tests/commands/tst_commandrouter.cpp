@@ -628,7 +628,8 @@ void TstCommandRouter::formattingBarElsewhere()
         Answer::No);
     bench.toolbar1(u"reset"_s);
     QVERIFY(bench.world.prompts.verify());
-    QCOMPARE(bench.world.forms.modal, (QStringList{u"frmTags"_s, u"frmlinkwiz"_s, u"frmChar"_s}));
+    QCOMPARE(bench.world.forms.modal, (QStringList{u"frmTags"_s, u"frmlinkwiz"_s}));
+    QCOMPARE(bench.world.forms.modeless, QStringList{u"frmChar"_s});
     QCOMPARE(bench.window.calls, (QStringList{u"selectTab 1"_s, u"showFtp"_s}));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/allforms.h"
 
+#include "colour/registerforms.h"
 #include "core/clock.h"
 #include "editor/codemax.h"
 #include "files/diskfilestore.h"
@@ -44,6 +45,7 @@ struct FtpParts {
 FormCatalogue allForms()
 {
     FormCatalogue catalogue;
+    colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     panes::registerForms(catalogue);
     start::registerForms(catalogue);

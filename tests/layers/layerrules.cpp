@@ -42,12 +42,14 @@ constexpr FolderRow folderRows[] = {
     {u"panes", u"core files widgets"},
     {u"views", u"core files widgets"},
     {u"wizards", u"core widgets"},
+    {u"colour", u"core widgets"},
     {u"settings", u"core files widgets"},
     {u"ftp", u"core files widgets"},
     {u"document", u"core files"},
     {u"start", u"core files widgets"},
     {u"commands", u"core tools views widgets document"},
-    {u"app", u"core files syntax widgets editor desktop tags panes views wizards settings tools ftp document start commands"},
+    {u"app",
+     u"core files syntax widgets editor desktop colour tags panes views wizards settings tools ftp document start commands"},
 };
 
 constexpr Rule includeRules[] = {

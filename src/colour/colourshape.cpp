@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "colour/colourshape.h"
+
+#include <QPainter>
+
+namespace zephira {
+
+void ColourShape::setFillColour(const QColor &colour)
+{
+    m_colour = colour;
+    update();
+}
+
+void ColourShape::paintEvent(QPaintEvent *)
+{
+    constexpr qreal cornerRadius = 4;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(m_colour);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+}
+
+} // namespace zephira
