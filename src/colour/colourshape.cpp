@@ -17,7 +17,7 @@ void ColourShape::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(m_colour);
+    painter.setBrush(m_colour.isValid() ? QBrush(m_colour) : QBrush(Qt::NoBrush));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
 }
 

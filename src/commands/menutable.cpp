@@ -49,6 +49,13 @@ constexpr MenuItem opens(QStringView name, QStringView caption, QStringView form
     return {name, caption, shortcut, icon, statusTip, {OpensForm{form}}, form};
 }
 
+/// The entry, with its form as a window beside the main one.
+constexpr MenuItem beside(MenuItem item)
+{
+    item.command.effect = OpensForm{item.form, OpensForm::Kind::Modeless};
+    return item;
+}
+
 /// An entry whose feature isn't available yet.
 constexpr MenuItem missing(QStringView name, QStringView caption)
 {
@@ -174,7 +181,7 @@ constexpr MenuItem formatSourceItems[] = {
 constexpr MenuItem toolItems[] = {
     opens(u"mnuascwiz", u"Ascii Wizard", u"frmascii", {}, u"Show the code of a key in three notations"),
     opens(u"mnucp", u"Color Picker", u"ColorPick", u"color-picker", u"Choose a color"),
-    opens(u"colors", u"&Color Spy", u"frmColorSpy", u"crosshairs", u"Read a color from the screen"),
+    beside(opens(u"colors", u"&Color Spy", u"frmColorSpy", u"crosshairs", u"Read a color from the screen")),
     opens(u"mnucw", u"Cookie Wizard", u"frmwizcookie", {}, u"Build a script that sets a cookie"),
     opens(u"mnuddg", u"Drop Down Generator", u"frmdropdown", u"#combo", u"Build a drop-down list"),
     opens(u"mnuformwiz", u"Form Wizard", u"FormWizard", u"#form", u"Build a form"),

@@ -93,6 +93,20 @@ private Q_SLOTS:
         QCOMPARE(window.findChildren<QDialog *>(u"frmChar"_s).size(), 1);
     }
 
+    void theSpyIsOneWindowBesideTheMainOne()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        QVERIFY(bench.find<QAction>(u"colors"_s)->isEnabled());
+        bench.choose(u"colors"_s);
+        QWidget *spy = window.forms().openForm(u"frmColorSpy"_s);
+        QVERIFY(spy && spy->isVisible());
+        QVERIFY(!QApplication::activeModalWidget());
+        bench.choose(u"colors"_s);
+        QCOMPARE(window.forms().openForm(u"frmColorSpy"_s), spy);
+        QCOMPARE(window.findChildren<QDialog *>(u"frmColorSpy"_s).size(), 1);
+    }
+
     void theMapWritesAtTheCaretOfThatMoment()
     {
         WindowBench bench;

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void codeViewMenu();
     void formMenu_data();
     void formMenu();
+    void formBeside();
     void rowsWithoutAnEffect_data();
     void rowsWithoutAnEffect();
     void designerMenus_data();
@@ -282,7 +283,6 @@ void TstCommandRouter::formMenu_data()
     };
     row("mnuascwiz", "frmascii");
     row("mnucp", "ColorPick");
-    row("colors", "frmColorSpy");
     row("mnucw", "frmwizcookie");
     row("mnuddg", "frmdropdown");
     row("mnuformwiz", "FormWizard");
@@ -314,6 +314,14 @@ void TstCommandRouter::formMenu()
     QCOMPARE(bench.world.forms.modal, QStringList{form});
     QVERIFY(bench.world.forms.modeless.isEmpty());
     QVERIFY(bench.window.calls.isEmpty());
+}
+
+void TstCommandRouter::formBeside()
+{
+    RouterBench bench;
+    bench.menu(u"colors"_s);
+    QCOMPARE(bench.world.forms.modeless, QStringList{u"frmColorSpy"_s});
+    QVERIFY(bench.world.forms.modal.isEmpty());
 }
 
 /// Missing entries, submenus and separators do nothing.
