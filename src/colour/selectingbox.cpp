@@ -42,4 +42,11 @@ void SelectingBox::focusInEvent(QFocusEvent *event)
         QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
+void SelectingBox::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!hasSelectedText())
+        selectAll();
+    QLineEdit::contextMenuEvent(event);
+}
+
 } // namespace zephira

@@ -5,7 +5,8 @@
 
 namespace zephira {
 
-/// A text box that selects its whole text whenever it takes the focus, by the mouse as well. It can be marked as
+/// A text box that selects its whole text whenever it takes the focus, by the mouse as well, and
+/// before its menu opens, so that a right click can copy it. It can be marked as
 /// holding no value.
 class SelectingBox final : public QLineEdit
 {
@@ -20,6 +21,7 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     bool m_marked = false;

@@ -6,7 +6,10 @@
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -170,6 +173,36 @@ private Q_SLOTS:
         picker.form->press(u"cmdCopyLong"_s);
         QCOMPARE(picker.world.clipboard.content, u"16777088"_s);
         QVERIFY(picker.world.inserter.inserted.isEmpty());
+    }
+
+    void aRightClickOffersToCopy_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("hexadecimal") << u"TEXTHEX"_s << u"#80FFFF"_s;
+        QTest::newRow("decimal") << u"TEXTRGB"_s << u"RGB(128,255,255)"_s;
+        QTest::newRow("long") << u"TEXTLONG"_s << u"16777088"_s;
+    }
+
+    void aRightClickOffersToCopy()
+    {
+        QFETCH(QString, box);
+        QFETCH(QString, text);
+        const Picker picker;
+        auto &result = picker.form->get<SelectingBox>(box);
+        QContextMenuEvent click(QContextMenuEvent::Mouse, {5, 5}, result.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&result, &click);
+        QWidget *menu = QApplication::activePopupWidget();
+        QVERIFY(menu);
+        const QList<QAction *> actions = menu->actions();
+        const auto copies =
+            std::ranges::find_if(actions, [](const QAction *action) { return action->text().startsWith(u"&Copy"_s); });
+        QVERIFY(copies != actions.end());
+        QAction *copy = *copies;
+        QVERIFY(copy->isEnabled());
+        copy->trigger();
+        menu->close();
+        QCOMPARE(QApplication::clipboard()->text(), text);
     }
 
     void thePalette()
