@@ -75,10 +75,12 @@ public:
     void operator()(const InsertsTag &effect) const
     {
         const QuickTag &tag = *effect.tag;
-        if (tag.kind == TagKind::TagEditor)
+        if (tag.kind != TagKind::TagEditor)
+            m_context.editor.replaceSelections([&tag](const QString &text) { return quickTagText(tag, text); });
+        else if (tag.before.isEmpty())
             m_context.forms.openModal(tag.form().toString());
         else
-            m_context.editor.replaceSelections([&tag](const QString &text) { return quickTagText(tag, text); });
+            m_context.forms.openModalOnPage(tag.form().toString(), tag.before.toInt());
     }
 
 private:

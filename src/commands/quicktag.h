@@ -24,7 +24,7 @@ enum class TagKind {
     Headings,  ///< a pull-down of the six heading sizes
     Selector,  ///< shows and hides the list of style selectors
     Property,  ///< a note, then the first custom tab
-    TagEditor, ///< the tag editor on the page whose number is `before`
+    TagEditor, ///< the tag editor; on the page whose number is `before`, if there is one
     Missing,   ///< needs a program that this system doesn't have
 };
 

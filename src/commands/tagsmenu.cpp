@@ -38,7 +38,7 @@ constexpr QuickTag entries[] = {
     behind(u"Head1", u"&Heading 1", u"<h1></h1>"),
     behind(u"head2", u"&Heading 2", u"<h2></h2>"),
     behind(u"head3", u"&Heading 3", u"<h3></h3>"),
-    {u"tagwiz", TagKind::TagEditor, u"&Advanced Tag Wizard", u"tools-wizard", u"0"},
+    {u"tagwiz", TagKind::TagEditor, u"&Advanced Tag Wizard", u"tools-wizard"},
 };
 
 } // namespace

@@ -18,6 +18,9 @@ public:
     /// Does nothing if the form isn't available.
     virtual void openModal(const QString &form, QWidget *owner) = 0;
     void openModal(const QString &form) { openModal(form, nullptr); }
+    /// The same for a form of several pages: it opens on the page of that number, its property "page", which counts from
+    /// 0.
+    virtual void openModalOnPage(const QString &form, int page) = 0;
     /// Shows the form as a modeless window, or raises it if it is already open.
     virtual void openModeless(const QString &form) = 0;
 };

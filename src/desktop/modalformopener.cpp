@@ -44,6 +44,12 @@ void bringToFront(QWidget *window)
     window->activateWindow();
 }
 
+void showPage(QWidget *form, std::optional<int> page)
+{
+    if (page)
+        form->setProperty("page", *page);
+}
+
 void runModally(QWidget *form)
 {
     if (auto *dialog = qobject_cast<QDialog *>(form)) {
@@ -70,13 +76,25 @@ bool ModalFormOpener::isAvailable(const QString &form) const
 
 void ModalFormOpener::openModal(const QString &form, QWidget *owner)
 {
+    open(form, owner, {});
+}
+
+void ModalFormOpener::openModalOnPage(const QString &form, int page)
+{
+    open(form, nullptr, page);
+}
+
+void ModalFormOpener::open(const QString &form, QWidget *owner, std::optional<int> page)
+{
     if (!isAvailable(form))
         return;
     QWidget *window = openForm(form);
-    if (window && window != m_waiting)
-        bringToFront(window);
-    else
-        run(form, modalOwner(owner));
+    if (!window || window == m_waiting) {
+        run(form, modalOwner(owner), page);
+        return;
+    }
+    showPage(window, page);
+    bringToFront(window);
 }
 
 void ModalFormOpener::openModalOver(const QString &form, const QString &hiddenForm)
@@ -95,13 +113,14 @@ QWidget *ModalFormOpener::modalOwner(QWidget *wanted) const
     return wanted ? wanted : m_owner.data();
 }
 
-void ModalFormOpener::run(const QString &form, QWidget *owner)
+void ModalFormOpener::run(const QString &form, QWidget *owner, std::optional<int> page)
 {
     const bool waiting = m_waiting && m_waiting->objectName() == form;
     // The form may be destroyed together with its owner while it is showing.
     const QPointer<QWidget> window = waiting ? m_waiting.data() : make(form, owner);
     if (waiting)
         m_waiting.clear();
+    showPage(window, page);
     runModally(window);
     delete window;
 }

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace zephira {
@@ -28,6 +29,7 @@ public:
     using FormOpener::openModal;
     /// While a modal form is open, it owns the new one.
     void openModal(const QString &form, QWidget *owner) override;
+    void openModalOnPage(const QString &form, int page) override;
     void openModeless(const QString &form) override;
 
     /// Like openModal(), on top of a second form that is made but not shown. The next openModal() shows that one.
@@ -41,7 +43,8 @@ public:
 private:
     QWidget *make(const QString &form, QWidget *owner);
     QWidget *modalOwner(QWidget *wanted) const;
-    void run(const QString &form, QWidget *owner);
+    void open(const QString &form, QWidget *owner, std::optional<int> page);
+    void run(const QString &form, QWidget *owner, std::optional<int> page = {});
 
     const FormCatalogue &m_catalogue;
     QPointer<QWidget> m_owner;

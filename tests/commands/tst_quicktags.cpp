@@ -331,6 +331,8 @@ void TstQuickTags::tagsMenuIsComplete()
     bench.menu(u"Image"_s);
     bench.menu(u"tagwiz"_s);
     QCOMPARE(bench.world.forms.modal, (QStringList{u"frmTagEdit"_s, u"frmTagEdit"_s}));
+    // The second opens on the page that was shown last.
+    QCOMPARE(bench.world.forms.pages, QList<int>{6});
 }
 
 void TstQuickTags::titledText_data()

@@ -190,12 +190,20 @@ struct FakeFormOpener final : FormOpener {
     std::set<QString> unavailable;
     QStringList modal;
     QStringList modeless;
+    /// The pages that were asked for, of forms that are in `modal`.
+    QList<int> pages;
     /// Called instead of showing the form.
     std::function<void(const QString &form)> onOpen;
 
     bool isAvailable(const QString &form) const override { return !unavailable.contains(form); }
     using FormOpener::openModal;
     void openModal(const QString &form, QWidget *) override { open(form, modal); }
+    void openModalOnPage(const QString &form, int page) override
+    {
+        if (isAvailable(form))
+            pages.append(page);
+        open(form, modal);
+    }
     void openModeless(const QString &form) override { open(form, modeless); }
 
 private:

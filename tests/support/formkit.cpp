@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTest>
 #include <QTextEdit>
 
@@ -50,6 +51,17 @@ void choose(QComboBox *list, const QString &text)
         qFatal("%s has no entry \"%s\"", qPrintable(list->objectName()), qPrintable(text));
 }
 
+void turnTo(QTabWidget *pages, const QString &tab)
+{
+    for (int i = 0; i < pages->count(); ++i) {
+        if (pages->tabText(i) == tab) {
+            pages->setCurrentIndex(i);
+            return;
+        }
+    }
+    qFatal("%s has no tab \"%s\"", qPrintable(pages->objectName()), qPrintable(tab));
+}
+
 template<typename T>
 T to(QObject *object)
 {
@@ -75,6 +87,9 @@ const ValueRule valueRules[] = {
      [](QObject *o, const QString &value) { to<QSpinBox *>(o)->setValue(value.toInt()); }},
     {is<QAbstractSlider>, [](const QObject *o) { return QString::number(to<const QAbstractSlider *>(o)->value()); },
      [](QObject *o, const QString &value) { to<QAbstractSlider *>(o)->setValue(value.toInt()); }},
+    {is<QTabWidget>,
+     [](const QObject *o) { return to<const QTabWidget *>(o)->tabText(to<const QTabWidget *>(o)->currentIndex()); },
+     [](QObject *o, const QString &value) { turnTo(to<QTabWidget *>(o), value); }},
     {isCheckable, [](const QObject *o) { return to<const QAbstractButton *>(o)->isChecked() ? u"on"_s : u"off"_s; },
      [](QObject *o, const QString &value) {
          auto *button = to<QAbstractButton *>(o);

@@ -56,7 +56,7 @@ public:
     }
 
     /// The value of a control as text: the text of a text box, "on" or "off" for a check box or radio button, the
-    /// current text of a list, the caption of anything else.
+    /// current text of a list, the caption of the tab in front, the caption of anything else.
     QString value(const QString &name) const;
     /// Sets the value of a control, given in the same form.
     void set(const QString &name, const QString &value) const;

@@ -56,7 +56,8 @@ void playGoldenCase(const FormCatalogue &catalogue, const QString &folder)
     const QStringList steps = lines.sliced(1);
     for (const QString &step : steps)
         play(form, step);
-    QCOMPARE(world.inserter.inserted.join(QString()).toUtf8(), contentOf(folder + u"/expected.html"_s));
+    const QString inserted = world.inserter.inserted.join(QString()) + world.editor.text();
+    QCOMPARE(inserted.toUtf8(), contentOf(folder + u"/expected.html"_s));
 }
 
 } // namespace zephira

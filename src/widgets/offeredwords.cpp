@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/offeredwords.h"
+
+#include <QAction>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+void offerWords(QLineEdit *field, const QStringList &words)
+{
+    auto *completer = new QCompleter(words, field);
+    field->setCompleter(completer);
+    QAction *open = field->addAction(field->style()->standardIcon(QStyle::SP_ArrowDown), QLineEdit::TrailingPosition);
+    open->setText(u"Choose a word"_s);
+    open->setToolTip(u"Choose a word (Alt+Down)"_s);
+    open->setShortcut(Qt::ALT | Qt::Key_Down);
+    open->setShortcutContext(Qt::WidgetShortcut);
+    QObject::connect(open, &QAction::triggered, field, [field, completer] {
+        field->setFocus();
+        completer->setCompletionPrefix({});
+        completer->complete();
+    });
+}
+
+} // namespace zephira
