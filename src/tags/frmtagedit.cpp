@@ -148,6 +148,7 @@ void frmTagEdit::addPages()
     for (const PageRow &row : pages) {
         auto *page = new QWidget(this);
         row.draw(page);
+        page->setAccessibleName(row.tab.toString());
         m_ui->SSTab1->addTab(page, row.tab.toString());
         auto *ok = page->findChild<QPushButton *>(tagTemplates()[static_cast<std::size_t>(number)].okButton.toString());
         connect(ok, &QPushButton::clicked, this, [this, number] { insertTag(number); });

@@ -21,7 +21,11 @@ public:
     using QTabBar::QTabBar;
 
 protected:
-    QSize tabSizeHint(int index) const override { return QTabBar::tabSizeHint(index).transposed(); }
+    QSize tabSizeHint(int index) const override
+    {
+        // Room for a bold caption, too.
+        return QTabBar::tabSizeHint(index).transposed() + QSize(fontMetrics().averageCharWidth() * 2, 0);
+    }
 
     void paintEvent(QPaintEvent *) override
     {
@@ -38,6 +42,10 @@ protected:
             painter.translate(centre);
             painter.rotate(90);
             painter.translate(-centre);
+            // In dark palettes the tab in front hardly differs from the others.
+            QFont captionFont = font();
+            captionFont.setBold(i == currentIndex());
+            painter.setFont(captionFont);
             painter.drawControl(QStyle::CE_TabBarTabLabel, tab);
             painter.restore();
         }

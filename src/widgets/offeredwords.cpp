@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/offeredwords.h"
 
+#include "widgets/themeicon.h"
+
 #include <QAction>
 #include <QCompleter>
 #include <QLineEdit>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +15,7 @@ void offerWords(QLineEdit *field, const QStringList &words)
 {
     auto *completer = new QCompleter(words, field);
     field->setCompleter(completer);
-    QAction *open = field->addAction(field->style()->standardIcon(QStyle::SP_ArrowDown), QLineEdit::TrailingPosition);
+    QAction *open = field->addAction(themeIcon(u"go-down"_s, QStyle::SP_ArrowDown), QLineEdit::TrailingPosition);
     open->setText(u"Choose a word"_s);
     open->setToolTip(u"Choose a word (Alt+Down)"_s);
     open->setShortcut(Qt::ALT | Qt::Key_Down);

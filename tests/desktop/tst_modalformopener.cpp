@@ -22,6 +22,7 @@ private Q_SLOTS:
     void unknownForms();
     void modalDialog();
     void modalWindow();
+    void modalFormOnAPage();
     void modalFormOverModalForm();
     void modalFormOverAnOwner();
     void modalFormIsNotMadeTwice();
@@ -115,6 +116,31 @@ void TstModalFormOpener::modalWindow()
     m_opener->openModal(u"frmPlain"_s);
     QVERIFY(seen);
     QVERIFY(!QApplication::activeModalWidget());
+}
+
+void TstModalFormOpener::modalFormOnAPage()
+{
+    m_opener->openModalOnPage(u"frmOne"_s, 6);
+    QCOMPARE(m_made, 0);
+    makeAvailable();
+    QList<QVariant> pages;
+    whileOpen([&] {
+        QWidget *form = m_opener->openForm(u"frmOne"_s);
+        pages.append(form->property("page"));
+        // A form that is open turns to the page, and isn't made again.
+        m_opener->openModalOnPage(u"frmOne"_s, 2);
+        pages.append(form->property("page"));
+        form->close();
+    });
+    m_opener->openModalOnPage(u"frmOne"_s, 6);
+    QCOMPARE(pages, (QList<QVariant>{6, 2}));
+    QCOMPARE(m_made, 1);
+    whileOpen([&] {
+        pages.append(m_opener->openForm(u"frmOne"_s)->property("page"));
+        m_opener->closeAll();
+    });
+    m_opener->openModal(u"frmOne"_s);
+    QVERIFY(!pages.last().isValid());
 }
 
 void TstModalFormOpener::modalFormOverModalForm()

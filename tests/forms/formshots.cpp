@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // formshots DIR [SCALE]     saves a picture of each form, in a light and a dark palette: DIR/frmTable-light@1x.png …
+//                           and of each page that has a tab: DIR/frmTagEdit-page1-light@1x.png …
 // formshots --names FORM    prints the current list of names of a form, as a start for tests/forms/names/FORM.txt
 #include "forms/allforms.h"
 #include "support/fakes.h"
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTest>
 #include <QTextStream>
 #include <QWidget>
@@ -67,10 +69,16 @@ int takePictures(const FormCatalogue &catalogue, const QDir &folder, const QStri
             form->show();
             if (!QTest::qWaitForWindowExposed(form.get()))
                 return 1;
-            const QString file = u"%1-%2@%3x.png"_s.arg(name, QLatin1StringView(scheme.name), scale);
-            if (!form->grab().save(folder.filePath(file))) {
-                QTextStream(stderr) << folder.filePath(file) << " can't be written\n";
-                return 1;
+            auto *tabs = form->findChild<QTabWidget *>();
+            for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
+                if (tabs)
+                    tabs->setCurrentIndex(page);
+                const QString part = page > 0 ? u"-page%1"_s.arg(page) : QString();
+                const QString file = name + part + u"-%1@%2x.png"_s.arg(QLatin1StringView(scheme.name), scale);
+                if (!form->grab().save(folder.filePath(file))) {
+                    QTextStream(stderr) << folder.filePath(file) << " can't be written\n";
+                    return 1;
+                }
             }
         }
     }

@@ -252,7 +252,8 @@ private Q_SLOTS:
         QCOMPARE(editor.form.value(u"SSTab1"_s), u"TR"_s);
         editor.form.key(Qt::Key_Tab);
         QCOMPARE(editor.form.focus(), u"CoAlignTR"_s);
-        editor.form.key(Qt::Key_PageUp, Qt::ControlModifier);
+        editor.form.get<QPushButton>(u"Command5"_s).setFocus();
+        editor.form.key(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(editor.form.value(u"SSTab1"_s), u"TD"_s);
     }
 
