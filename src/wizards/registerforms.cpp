@@ -7,6 +7,7 @@
 #include "wizards/frmaddchoice.h"
 #include "wizards/frmcsv.h"
 #include "wizards/frmdropdown.h"
+#include "wizards/frmframeswiz.h"
 #include "wizards/frmiframe.h"
 #include "wizards/frminsbreak.h"
 #include "wizards/frmlinkwiz.h"
@@ -27,6 +28,7 @@ void registerForms(FormCatalogue &catalogue)
     catalogue.add<FormWizard>(u"FormWizard"_s);
     catalogue.add<ImageWizard>(u"ImageWizard"_s);
     catalogue.add<doctype>(u"doctype"_s);
+    catalogue.add<frmFramesWiz>(u"frmFramesWiz"_s);
     catalogue.add<frmRedirect>(u"frmRedirect"_s);
     catalogue.add<frmTable>(u"frmTable"_s);
     catalogue.add<frmTables>(u"frmTables"_s);
