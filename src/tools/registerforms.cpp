@@ -4,6 +4,7 @@
 #include "core/formcatalogue.h"
 #include "tools/frmdocsize.h"
 #include "tools/frmlinkextract.h"
+#include "tools/frmtextthtml.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,7 @@ void registerForms(FormCatalogue &catalogue)
 {
     catalogue.add<frmDocSize>(u"frmDocSize"_s);
     catalogue.add<frmlinkextract>(u"frmlinkextract"_s);
+    catalogue.add<frmtextthtml>(u"frmtextthtml"_s);
 }
 
 } // namespace zephira::tools

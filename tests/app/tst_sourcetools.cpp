@@ -3,6 +3,7 @@
 #include "support/testregistry.h"
 
 #include <QApplication>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -92,6 +93,35 @@ private Q_SLOTS:
                             "<A HREF=\"x.htm\">x.htm</A><BR>\r\n"
                             "<A HREF=\"\"y.htm\"\">\"y.htm\"</A><BR>"));
         QCOMPARE(window.rt().text(), u"<a href=x.htm><a href=\"y.htm\">"_s);
+    }
+
+    void theConverterOpens_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<int>("position");
+        QTest::newRow("menu") << u"mnutextwiz"_s << 0;
+        QTest::newRow("palette") << QString() << 7;
+    }
+
+    void theConverterOpens()
+    {
+        QFETCH(QString, entry);
+        QFETCH(int, position);
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.show();
+        QString html;
+        const NextForm converter(window, [&html](QWidget &form) {
+            QTest::mouseClick(form.findChild<QPushButton *>(u"cmdConvert"_s), Qt::LeftButton);
+            html = form.findChild<QPlainTextEdit *>(u"txtHTML"_s)->toPlainText();
+        });
+        if (position == 0)
+            bench.choose(entry);
+        else
+            bench.click(u"Toolbar_2"_s, position);
+        QCOMPARE(converter.name, u"frmtextthtml"_s);
+        QVERIFY(html.startsWith(u"<p align=center>"));
+        QVERIFY(!window.docModified());
     }
 };
 
