@@ -74,7 +74,7 @@ private:
     QString m_row;
 };
 
-/// Whether what was handed on does something. A button of the palette does what its kind says.
+/// Whether what was passed on does something. A button of the palette does what its kind says.
 bool isWhole(const Chosen &chosen, const FormCatalogue &catalogue, const QString &row)
 {
     if (!chosen.commands.empty())
@@ -102,6 +102,7 @@ private Q_SLOTS:
         bench.start();
         // The language that opens every toolbar.
         bench.window->context().document.setLanguageRow(language::Html);
+        bench.window->menus().setMet(Need::ListedFile, true);
         const QList<QAction *> actions = rowsOf(bench);
         QStringList faults;
         int enabled = 0;
@@ -139,6 +140,7 @@ private Q_SLOTS:
         bench.start();
         bench.window->context().document.setLanguageRow(language::Html);
         bench.window->menus().setMet(Need::VisualView, true);
+        bench.window->menus().setMet(Need::ListedFile, true);
         const QList<QAction *> buttons = actionsOf(*bench.find<QToolBar>(u"Toolbar2"_s));
         for (QAction *action : buttons)
             action->setEnabled(true);

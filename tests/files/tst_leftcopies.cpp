@@ -9,6 +9,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -41,6 +46,23 @@ class TstLeftCopies final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// A copy of another running program is that program's own until it has ended.
+    void copiesOfAnotherRunningProgram()
+    {
+        const QTemporaryDir folder;
+        const pid_t other = ::fork();
+        if (other == 0) {
+            for (;;)
+                ::pause();
+        }
+        write(folder, u"open-20240229-120000-000-%1-a.htm"_s.arg(other));
+        const QList<LeftCopy> whileItRuns = leftCopies(folder.path());
+        ::kill(other, SIGKILL);
+        ::waitpid(other, nullptr, 0);
+        QCOMPARE(whileItRuns, QList<LeftCopy>());
+        QCOMPARE(leftCopies(folder.path()).size(), 1);
+    }
+
     void copiesOfEndedProcesses()
     {
         const QTemporaryDir folder;

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void staysWhereItIs();
     void readsOnlyBeneathItsFolder_data();
     void readsOnlyBeneathItsFolder();
+    void readsBeneathTheProject();
     void nothingOfTheDesignerIsWithinReach();
 
 private:
@@ -125,6 +126,17 @@ void TstDesignerTrust::readsOnlyBeneathItsFolder_data()
     QTest::newRow("below its folder") << u"sub/in.svg"_s << 30;
     QTest::newRow("next to its folder") << u"../out.svg"_s << 0;
     QTest::newRow("by a link that leads out") << u"link.svg"_s << 0;
+}
+
+/// The folder of the project takes the place of the page's own, if the page is in it.
+void TstDesignerTrust::readsBeneathTheProject()
+{
+    m_bench->write(u"site/out.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' width='30' height='20'></svg>");
+    m_bench->designer.setProjectFolder(m_bench->folder.path() + u"/site"_s);
+    m_bench->designer.loadDocument(m_bench->write(u"site/sub/page.html"_s, "<img src=\"../out.svg\">"));
+    m_bench->awaitComplete();
+    QTRY_VERIFY_WITH_TIMEOUT(m_bench->ask(u"document.images[0].complete"_s).toBool(), DesignerBench::patience);
+    QCOMPARE(m_bench->ask(u"document.images[0].naturalWidth"_s).toInt(), 30);
 }
 
 void TstDesignerTrust::readsOnlyBeneathItsFolder()
