@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/elementmarkup.h"
 
+#include "wizards/attribute.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
 namespace {
-
-QString attribute(const QString &name, const QString &value, const QString &quotes = u"\""_s)
-{
-    return u' ' + name + u'=' + quotes + value + quotes;
-}
 
 QString clearValue(LineBreak kind)
 {
@@ -28,7 +25,7 @@ QString clearValue(LineBreak kind)
     return {};
 }
 
-/// Empty for a value that names itself the default.
+/// Empty for a value that says it is the default.
 QString attributeUnlessDefault(const QString &name, const QString &value)
 {
     return value.endsWith(u"default)") ? QString() : attribute(name, value);

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/framesmarkup.h"
 
+#include "wizards/attribute.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
 namespace {
-
-QString attribute(const QString &name, const QString &value)
-{
-    return u" "_s + name + u"=\""_s + value + u"\""_s;
-}
 
 QString frameLine(const FrameFields &frame)
 {

@@ -3,19 +3,11 @@
 
 #include "core/documenthost.h"
 #include "core/relativepath.h"
+#include "wizards/attribute.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
-
-namespace {
-
-QString attribute(const QString &name, const QString &value)
-{
-    return u' ' + name + u"=\""_s + value + u'"';
-}
-
-} // namespace
 
 QStringList linkPrefixes()
 {
