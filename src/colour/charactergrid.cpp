@@ -118,7 +118,7 @@ void CharacterGrid::leaveEvent(QEvent *event)
 
 void CharacterGrid::focusOutEvent(QFocusEvent *event)
 {
-    // A button that is let go over another window isn't reported.
+    // The release of a button over another window isn't reported.
     release();
     Q_EMIT lookedAway();
     QWidget::focusOutEvent(event);

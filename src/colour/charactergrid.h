@@ -7,11 +7,11 @@
 
 namespace zephira {
 
-/// The cells of the character map, of which one is the current one. The mouse and the keyboard move it.
+/// The cells of the character map. One of them is the current cell; the mouse and the keyboard move it.
 class CharacterGrid final : public QWidget
 {
     Q_OBJECT
-    /// Index of the current cell, from 1.
+    /// Index of the current cell, 1-based.
     Q_PROPERTY(int index READ index WRITE setIndex)
 
 public:
@@ -22,7 +22,7 @@ public:
     /// Code of the current cell's character.
     int code() const { return m_map.code(); }
 
-    /// Makes a cell the current one as a press and a release of the left button do.
+    /// Makes a cell the current one, as a click with the left button does.
     void click(MapCell cell);
 
     QSize sizeHint() const override;
@@ -30,15 +30,15 @@ public:
 Q_SIGNALS:
     /// Another cell has become the current one.
     void currentChanged(int code);
-    /// The left button was pressed on a cell, and released again.
+    /// The left button was pressed on a cell and released again.
     void pressed();
     void released();
     /// The current cell was chosen by a double click or by Return.
     void chosen();
-    /// The character of that code is looked at: by the pointer, or as the current one of the keyboard. The point is in
+    /// The character with that code is pointed at, or has become the current one through the keyboard. The point is in
     /// the grid.
     void lookedAt(int code, QPoint point);
-    /// No character is looked at any more.
+    /// No character is pointed at any more.
     void lookedAway();
 
 protected:

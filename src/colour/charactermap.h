@@ -9,7 +9,7 @@
 
 namespace zephira {
 
-/// A place in the character map. Row and column count from 0.
+/// A position in the character map. Row and column are 0-based.
 struct MapCell {
     int row = 0;
     int column = 0;
@@ -17,7 +17,7 @@ struct MapCell {
     friend bool operator==(const MapCell &, const MapCell &) = default;
 };
 
-/// Holds the index of the current cell, which counts from 1, row by row. The cells show the codes from 32 on.
+/// Keeps the index of the current cell, which is 1-based and counts row by row. The cells show the codes from 32 on.
 class CharacterMap
 {
 public:
@@ -25,7 +25,7 @@ public:
     static constexpr int rows = 7;
 
     int index() const { return m_index; }
-    /// An index outside the map changes nothing.
+    /// Ignores an index outside the map.
     void setIndex(int index);
 
     MapCell cell() const;
@@ -33,7 +33,7 @@ public:
     /// Code of the current cell's character.
     int code() const { return m_index + 31; }
 
-    /// The steps of the keyboard. They end at the edges of the map; sideways, they go on in the next row.
+    /// Steps made with the keyboard. They stop at the edges of the map, but sideways steps continue in the next row.
     void stepSideways(int cells) { setIndex(m_index + cells); }
     void stepDown(int rows) { setIndex(m_index + rows * columns); }
     void toRowStart() { setCell({cell().row, 0}); }
@@ -50,12 +50,13 @@ private:
 
 /// The size of a cell in a map of that size, in whole pixels.
 QSize cellSize(QSize map);
-/// The cell at a point of the map; nothing beside the cells.
+/// The cell at a point of the map; nothing for a point outside the cells.
 std::optional<MapCell> cellAt(QPoint point, QSize map);
-/// The place of a cell in the map.
+/// The rectangle of a cell in the map.
 QRect cellRect(MapCell cell, QSize map);
 
-/// Place for something of that size beside a point: to its lower right, or on the other side where `bounds` end.
+/// Where to put something of that size next to a point: to its lower right, or on the other side if it would not fit
+/// into `bounds`.
 QPoint placeBeside(QPoint point, QSize size, const QRect &bounds);
 
 } // namespace zephira

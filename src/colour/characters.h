@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// The codes of the character map: the printable ones of Windows-1252 and the holes between them.
+/// The codes of the character map: the printable ones of Windows-1252 and the gaps between them.
 inline constexpr int firstCharacterCode = 32;
 inline constexpr int lastCharacterCode = 255;
 
@@ -13,7 +13,7 @@ inline constexpr int lastCharacterCode = 255;
 /// outside the map.
 QString characterOfCode(int code);
 
-/// A line about the character of a code: the code, its name, and its entity in markup if there is one.
+/// A line describing the character with a code: the code, the name, and the entity in markup if there is one.
 QString characterCaption(int code);
 
 } // namespace zephira

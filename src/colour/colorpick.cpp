@@ -13,7 +13,7 @@ namespace zephira {
 
 namespace {
 
-/// No colour is longer; a longer selection isn't even read.
+/// The longest text of a colour; a longer selection isn't even read.
 constexpr int longestColour = 64;
 
 constexpr std::pair<Notation, int> boxes[] = {
@@ -47,7 +47,7 @@ ColorPick::ColorPick(const AppContext &context, QWidget *owner)
     connect(m_ui->cmdFromSelection, &QPushButton::clicked, this,
             [this, colour = selected.value_or(0)] { takeColour(colour); });
 
-    // The boxes come with the hexadecimal channels alone.
+    // The layout fills in only the hexadecimal channels.
     for (int channel = 0; channel < 3; ++channel)
         m_notations.changed(Notation::Hex, channel);
 }
@@ -104,7 +104,7 @@ void ColorPick::boxChanged(Notation notation, int channel)
 {
     if (!m_notations.changed(notation, channel) || notation != Notation::Hex)
         return;
-    // A channel that is complete passes the focus on.
+    // When a channel is complete, the focus moves to the next box.
     const SelectingBox *typed = box(notation, channel);
     if (typed->hasFocus() && typed->text().size() == typed->maxLength()
         && typed->cursorPosition() == typed->maxLength())
@@ -117,7 +117,7 @@ void ColorPick::choose()
     if (!colour)
         return;
     m_ui->LONGTEXT->setText(QString::number(*colour));
-    // The number may be there already while another box is only half typed.
+    // The number may already be known while another box is only half filled in.
     m_notations.changed(Notation::Long, 0);
 }
 

@@ -22,7 +22,7 @@ class SelectingBox;
 class ColorPick final : public QDialog, private ColourBoxes
 {
     Q_OBJECT
-    /// Whether the form itself writes into its boxes at the moment.
+    /// Whether the form itself is writing into its boxes.
     Q_PROPERTY(bool Updating READ isUpdating)
 
 public:

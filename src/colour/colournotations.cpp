@@ -16,7 +16,7 @@ namespace {
 
 constexpr int channelCount = 3;
 
-/// The digits of a number in that base, each of which must be one, up to `longest`.
+/// The value of a text that consists only of digits of that base, at most `longest` of them.
 std::optional<int> digitsIn(const QString &text, int base, int longest)
 {
     const bool digits = !text.isEmpty() && text.size() <= longest && std::ranges::all_of(text, [base](QChar digit) {
@@ -40,7 +40,7 @@ QString textOf(Notation notation, quint8 channel)
 
 quint32 colourOf(Channels channels)
 {
-    return channels[0] | quint32(channels[1]) << 8 | quint32(channels[2]) << 16;
+    return channels[0] | static_cast<quint32>(channels[1]) << 8 | static_cast<quint32>(channels[2]) << 16;
 }
 
 Channels channelsOf(quint32 colour)

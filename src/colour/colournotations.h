@@ -33,7 +33,7 @@ public:
     virtual ~ColourBoxes() = default;
     virtual QString text(Notation notation, int channel) const = 0;
     virtual void setText(Notation notation, int channel, const QString &text) = 0;
-    /// Marks a box whose text is no value, or takes the mark away.
+    /// Marks a box whose text isn't a value, or removes the mark.
     virtual void setMarked(Notation notation, int channel, bool marked) = 0;
     virtual void setResult(Notation notation, const QString &text) = 0;
     /// Red in the lowest byte.

@@ -30,7 +30,7 @@ QString requestInterface()
 
 constexpr std::chrono::seconds timeLimit{30};
 
-/// The path of a request with that token, as the portal makes it from the caller's name on the bus.
+/// The path that the portal gives to a request with that token, made from the caller's name on the bus.
 QString requestPath(const QDBusConnection &bus, const QString &token)
 {
     const QString sender = bus.baseService().mid(1).replace(u'.', u'_');
@@ -93,7 +93,7 @@ void ColourPortal::pick()
         if (reply.isError())
             fail();
         else if (reply.value().path() != m_request)
-            // An old portal makes paths of its own.
+            // Old portals choose the path themselves.
             listen(reply.value().path());
     });
 }

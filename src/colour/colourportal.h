@@ -30,9 +30,9 @@ public:
 Q_SIGNALS:
     /// Red in the lowest byte.
     void picked(quint32 colour);
-    /// The user has picked nothing.
+    /// The user cancelled.
     void dismissed();
-    /// There was no answer, or none that can be used; the sentence is for the user.
+    /// There was no usable answer; the sentence is for the user.
     void failed(const QString &sentence);
 
 private Q_SLOTS:

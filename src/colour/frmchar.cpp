@@ -47,7 +47,7 @@ frmChar::frmChar(const AppContext &context, QWidget *owner)
 
 frmChar::~frmChar()
 {
-    // The grid loses the focus after the form's own part is gone.
+    // The grid still loses the focus, and reports it, after this part of the form is destroyed.
     m_ui->Picture1->disconnect(this);
 }
 

@@ -107,6 +107,8 @@ void frmColorSpy::tick()
     const QImage pixel = pointer ? m_sources.screen->picture(QRect(*pointer, QSize(1, 1))) : QImage();
     if (pixel.isNull()) {
         stop();
+        if (m_zoom)
+            m_zoom->hide();
         m_ui->lblStatus->setText(tr("The screen can't be read."));
         return;
     }

@@ -24,7 +24,7 @@ class ScreenColours;
 /// What the spy reads colours from.
 struct SpySources {
     std::shared_ptr<ScreenColours> screen;
-    /// Makes the way to the desktop's portal, for when the screen can't be read.
+    /// Creates the connection to the desktop's portal, used when the screen can't be read.
     std::function<std::unique_ptr<ColourPortal>()> makePortal;
 };
 
@@ -43,7 +43,7 @@ protected:
 
 private:
     void start();
-    /// Ends the spying and keeps the colour, or takes back the one from before.
+    /// Ends the spying and keeps the colour, or restores the previous one.
     void take();
     void giveUp();
     void stop();
@@ -52,7 +52,7 @@ private:
     void waitForPortal(bool waiting, const QString &status);
     void showColour(quint32 colour);
     void clearColour();
-    /// Moves the pointer for an arrow key; false for any other key.
+    /// Moves the pointer if the key is an arrow key; returns false for any other key.
     bool movePointer(int key);
 
     const std::unique_ptr<Ui::frmColorSpy> m_ui;

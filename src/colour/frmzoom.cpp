@@ -19,7 +19,7 @@ frmZoom::frmZoom(const ScreenColours &screen, QWidget *owner)
     , m_timer(new QTimer(this))
 {
     m_ui->setupUi(this);
-    // The window that spies keeps the keyboard.
+    // The color spy's window keeps the keyboard focus.
     setAttribute(Qt::WA_ShowWithoutActivating);
     m_timer->setObjectName(u"tmrZoom"_s);
     m_timer->setInterval(ZoomTicks::interval);
@@ -52,7 +52,7 @@ void frmZoom::tick()
 {
     const std::optional<QPoint> pointer = m_screen.pointer();
     if (!pointer) {
-        // There is nothing to look at, and won't be.
+        // The screen can't be read, now or later.
         m_timer->stop();
         return;
     }

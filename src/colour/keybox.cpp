@@ -16,14 +16,14 @@ KeyBox::KeyBox(QWidget *parent) : QLineEdit(parent)
 
 void KeyBox::keyPressEvent(QKeyEvent *event)
 {
-    // Escape belongs to the form, which closes.
+    // Escape belongs to the form, which closes. Some keys without a text would paste.
     if (event->key() == Qt::Key_Escape || event->text().isEmpty()) {
-        QLineEdit::keyPressEvent(event);
+        event->ignore();
         return;
     }
     take(event->text());
-    // A control character is shown in numbers only: what the box makes of it, pasting for one, isn't a key.
-    if (event->text().front().isPrint())
+    // A control character is shown only as numbers; what the box would do with it, such as pasting, isn't a key.
+    if (QChar::isPrint(firstCodePoint(event->text())))
         insert(event->text());
     event->accept();
 }

@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// A text box that takes one key at a time: each key that has a text empties the box first. Keys that end up as text in
-/// another way, such as composed ones, count too; nothing can be pasted.
+/// A text box that takes one key at a time: each key that produces text empties the box first. Keys that produce text
+/// in another way, such as composed ones, count too; nothing can be pasted.
 class KeyBox final : public QLineEdit
 {
     Q_OBJECT

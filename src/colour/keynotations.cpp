@@ -9,7 +9,7 @@ QString binaryDigits(char32_t code)
 {
     QString digits;
     quint32 left = code;
-    for (quint32 weight = std::max(std::bit_floor(quint32(code)), 0x80U); weight > 0; weight /= 2) {
+    for (quint32 weight = std::max(std::bit_floor(static_cast<quint32>(code)), 0x80U); weight > 0; weight /= 2) {
         digits += left >= weight ? u'1' : u'0';
         if (left >= weight)
             left -= weight;

@@ -16,7 +16,7 @@ namespace zephira::colour {
 
 void registerForms(FormCatalogue &catalogue)
 {
-    // The bus is connected when the portal is first asked.
+    // The bus is connected when the portal is first used.
     registerForms(catalogue, {std::make_shared<XScreenColours>(), [] {
                                   return std::make_unique<ColourPortal>(QDBusConnection::sessionBus());
                               }});

@@ -9,13 +9,13 @@
 
 namespace zephira {
 
-/// The pixels of the whole desktop and the pointer over it. All places are native pixels, with no scale factor, in one
-/// plane that all screens share.
+/// The pixels of the whole desktop and the pointer over it. All positions are native pixels, with no scale factor, in
+/// one plane that all screens share.
 class ScreenColours
 {
 public:
     virtual ~ScreenColours() = default;
-    /// Whether the desktop lets programs read the screen. If not, the others give nothing.
+    /// Whether the desktop lets programs read the screen. If not, the other functions return nothing.
     virtual bool isReadable() const = 0;
     virtual std::optional<QPoint> pointer() const = 0;
     virtual void movePointer(QPoint place) = 0;

@@ -27,7 +27,7 @@ std::optional<quint32> colourOfText(const QString &text)
     if (!digits.match(trimmed).hasMatch() && !word.match(trimmed).hasMatch())
         return {};
     const QColor colour(trimmed);
-    // The word for no colour at all is a name, too.
+    // "transparent", which is no colour, is a name too.
     if (!colour.isValid() || colour.alpha() != 255)
         return {};
     return colourOf(

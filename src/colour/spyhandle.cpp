@@ -55,10 +55,13 @@ void SpyHandle::mouseReleaseEvent(QMouseEvent *event)
 void SpyHandle::keyPressEvent(QKeyEvent *event)
 {
     const int key = event->key();
-    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
-        Q_EMIT activated();
-    else
+    if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter) {
         QWidget::keyPressEvent(event);
+        return;
+    }
+    // A key that is held down would start again what it has just ended.
+    if (!event->isAutoRepeat())
+        Q_EMIT activated();
 }
 
 } // namespace zephira

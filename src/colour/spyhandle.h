@@ -5,8 +5,7 @@
 
 namespace zephira {
 
-/// The picture of a cross from which the colour spy is dragged over the screen. It has no picture while the cross is
-/// away.
+/// The cross that the user drags over the screen with the colour spy. It shows no picture while it is being dragged.
 class SpyHandle final : public QWidget
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 namespace zephira {
 
 /// The colour that the spy shows for a page: "#" and the three channels in hexadecimal. Only a channel of 0 is written
-/// with two digits; any other small one stays one digit long.
+/// with two digits; any other value below 16 has only one.
 QString spyNotation(const Channels &channels);
 
 } // namespace zephira

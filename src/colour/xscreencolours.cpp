@@ -22,6 +22,9 @@ using Reply = std::unique_ptr<T, Free>;
 
 xcb_connection_t *server()
 {
+    // Under Wayland the X server has only the pixels of its own windows, and the pointer only over them.
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return nullptr;
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return x11 ? x11->connection() : nullptr;
 }
@@ -34,7 +37,7 @@ xcb_window_t rootOf(xcb_connection_t *connection)
 /// The pixels of an area within the root window.
 QImage pixelsOf(xcb_connection_t *connection, const QRect &area)
 {
-    constexpr uint32_t allPlanes = ~uint32_t(0);
+    constexpr uint32_t allPlanes = ~static_cast<uint32_t>(0);
     const auto request =
         xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, rootOf(connection), static_cast<int16_t>(area.x()),
                       static_cast<int16_t>(area.y()), static_cast<uint16_t>(area.width()),
@@ -43,7 +46,7 @@ QImage pixelsOf(xcb_connection_t *connection, const QRect &area)
     xcb_generic_error_t *failed = nullptr;
     const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(connection, request, &failed));
     std::free(failed);
-    const qsizetype bytes = qsizetype(area.width()) * area.height() * 4;
+    const qsizetype bytes = static_cast<qsizetype>(area.width()) * area.height() * 4;
     if (!reply || reply->depth < 24 || xcb_get_image_data_length(reply.get()) < bytes)
         return {};
     const auto format = reply->depth == 30 ? QImage::Format_RGB30 : QImage::Format_RGB32;

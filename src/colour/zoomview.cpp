@@ -7,7 +7,7 @@ namespace {
 
 constexpr int refreshAfter = 250;
 
-/// Pixels of the screen that fill so many pixels of the picture, the last of them perhaps in part.
+/// How many pixels of the screen fill that number of pixels of the picture; the last one may be cut off.
 int screenPixels(int picture, int factor)
 {
     return (picture + factor - 1) / factor;
@@ -29,7 +29,7 @@ std::array<QRect, 4> frameAround(QPoint centre)
 ZoomView zoomView(QPoint pointer, QSize picture, int factor)
 {
     ZoomView view;
-    // Half a picture in whole pixels of the screen: the halves of an odd size count in the division.
+    // Half the picture in whole pixels of the screen; an odd size is halved only after the division.
     const QPoint half(picture.width() / (2 * factor), picture.height() / (2 * factor));
     view.area =
         QRect(pointer - half, QSize(screenPixels(picture.width(), factor), screenPixels(picture.height(), factor)));

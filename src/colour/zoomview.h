@@ -11,7 +11,7 @@
 
 namespace zephira {
 
-/// How many pixels of the picture a pixel of the screen takes.
+/// How many pixels of the picture each pixel of the screen fills.
 inline constexpr int zoomFactor = 1000 / 100;
 
 /// What a magnified view shows and draws. All values are native pixels.
@@ -37,7 +37,7 @@ public:
 
     struct Due {
         bool redraw = false;
-        /// The window is to be put on top of all others again.
+        /// Whether the window is to be raised above all others again.
         bool raise = false;
 
         friend bool operator==(const Due &, const Due &) = default;

@@ -32,7 +32,7 @@ struct Picker {
     explicit Picker(const QString &selected = {})
     {
         world.editor.setText(selected);
-        world.editor.selectOffsets(0, int(selected.size()));
+        world.editor.selectOffsets(0, static_cast<int>(selected.size()));
         form = std::make_unique<LivingForm>(catalogue(), u"ColorPick"_s, world);
     }
 

@@ -69,8 +69,9 @@ void verifyInStep(const EchoingBoxes &boxes)
 {
     const Channels channels = channelsOf(boxes.colour);
     for (int i = 0; i < 3; ++i) {
-        QCOMPARE(boxes.text(Notation::Hex, i).toUInt(nullptr, 16), uint(channels.at(static_cast<std::size_t>(i))));
-        QCOMPARE(boxes.text(Notation::Rgb, i).toUInt(), uint(channels.at(static_cast<std::size_t>(i))));
+        QCOMPARE(boxes.text(Notation::Hex, i).toUInt(nullptr, 16),
+                 static_cast<uint>(channels.at(static_cast<std::size_t>(i))));
+        QCOMPARE(boxes.text(Notation::Rgb, i).toUInt(), static_cast<uint>(channels.at(static_cast<std::size_t>(i))));
     }
     QCOMPARE(
         boxes.results.at(Notation::Hex),
@@ -79,7 +80,7 @@ void verifyInStep(const EchoingBoxes &boxes)
              u"RGB("_s + boxes.text(Notation::Rgb, 0) + u',' + boxes.text(Notation::Rgb, 1) + u','
                  + boxes.text(Notation::Rgb, 2) + u')');
     QCOMPARE(boxes.results.at(Notation::Long), boxes.text(Notation::Long, 0));
-    QCOMPARE(boxes.text(Notation::Long, 0).toLongLong() & 0xffffff, qint64(boxes.colour));
+    QCOMPARE(boxes.text(Notation::Long, 0).toLongLong() & 0xffffff, static_cast<qint64>(boxes.colour));
 }
 
 } // namespace
@@ -210,11 +211,11 @@ private Q_SLOTS:
             switch (random.bounded(4)) {
             case 0:
                 boxes.setText(Notation::Hex, channel, QString::number(value, 16));
-                QCOMPARE(int(channelsOf(boxes.colour).at(static_cast<std::size_t>(channel))), value);
+                QCOMPARE(static_cast<int>(channelsOf(boxes.colour).at(static_cast<std::size_t>(channel))), value);
                 break;
             case 1:
                 boxes.setText(Notation::Rgb, channel, QString::number(value));
-                QCOMPARE(int(channelsOf(boxes.colour).at(static_cast<std::size_t>(channel))), value);
+                QCOMPARE(static_cast<int>(channelsOf(boxes.colour).at(static_cast<std::size_t>(channel))), value);
                 break;
             case 2: {
                 const quint32 colour = random.bounded(0x1000000U);
@@ -229,7 +230,7 @@ private Q_SLOTS:
                 const int place = notation == Notation::Long ? 0 : channel;
                 const QString before = boxes.text(notation, place);
                 const quint32 colour = boxes.colour;
-                boxes.setText(notation, place, nonsense[random.bounded(int(nonsense.size()))]);
+                boxes.setText(notation, place, nonsense[random.bounded(static_cast<int>(nonsense.size()))]);
                 QCOMPARE(boxes.marked, (std::set<Box>{{notation, place}}));
                 QCOMPARE(boxes.colour, colour);
                 boxes.setText(notation, place, before);

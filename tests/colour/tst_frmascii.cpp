@@ -61,7 +61,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("shown");
         const auto row = [](const char *name, Qt::Key key, const QString &text, const QStringList &shown) {
-            QTest::newRow(name) << int(key) << text << shown;
+            QTest::newRow(name) << static_cast<int>(key) << text << shown;
         };
         row("A", Qt::Key_A, u"A"_s, letterA);
         row("z", Qt::Key_Z, u"z"_s, {u"z"_s, u"Ascii: 122"_s, u"Binary: 01111010"_s, u"Hex: 7A"_s});
@@ -72,6 +72,8 @@ private Q_SLOTS:
             {u"\u00e4"_s, u"Ascii: 228"_s, u"Binary: 11100100"_s, u"Hex: E4"_s});
         row("euro", Qt::Key_E, u"\u20ac"_s,
             {u"\u20ac"_s, u"Ascii: 8364"_s, u"Binary: 10000010101100"_s, u"Hex: 20AC"_s});
+        row("above the first plane", Qt::Key_unknown, u"\U0001f600"_s,
+            {u"\U0001f600"_s, u"Ascii: 128512"_s, u"Binary: 11111011000000000"_s, u"Hex: 1F600"_s});
         row("code 0", Qt::Key_At, QString(QChar(0)), {{}, u"Ascii: 0"_s, u"Binary: 00000000"_s, u"Hex: 0"_s});
     }
 
@@ -118,6 +120,9 @@ private Q_SLOTS:
         QTest::sendKeyEvent(QTest::Click, &converter.form.get(u"Text1"_s), Qt::Key_V, u"\x16"_s, Qt::ControlModifier);
         QCOMPARE(converter.shown(), (QStringList{{}, u"Ascii: 22"_s, u"Binary: 00010110"_s, u"Hex: 16"_s}));
         QTest::mouseClick(&converter.form.get(u"Text1"_s), Qt::MiddleButton);
+        QCOMPARE(converter.form.value(u"Text1"_s), QString());
+        QTest::sendKeyEvent(QTest::Click, &converter.form.get(u"Text1"_s), Qt::Key_Insert, QString(),
+                            Qt::ShiftModifier);
         QCOMPARE(converter.form.value(u"Text1"_s), QString());
         QApplication::clipboard()->clear();
     }

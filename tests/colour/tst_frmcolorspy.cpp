@@ -11,6 +11,7 @@
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
+#include <QKeyEvent>
 #include <QTest>
 #include <QTimer>
 
@@ -56,7 +57,7 @@ double processorTime()
 {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
 } // namespace
@@ -119,6 +120,10 @@ private Q_SLOTS:
         spy.form->key(Qt::Key_Return);
         QVERIFY(!spy.timer().isActive());
         QCOMPARE(spy.shown(), (QStringList{u"1542"_s, u"#6600"_s, u"6"_s, u"6"_s, u"0"_s}));
+        // A key that is held down doesn't start again.
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, true);
+        QApplication::sendEvent(&spy.form->get(u"picCursor"_s), &held);
+        QVERIFY(!spy.timer().isActive());
         spy.form->key(Qt::Key_Right);
         QCOMPARE(spy.screen->place, QPoint(6, 6));
     }

@@ -39,19 +39,19 @@ private Q_SLOTS:
     void digitsAddUpToTheCode()
     {
         for (char32_t code = 0; code < 0x3000; ++code) {
-            QCOMPARE(binaryDigits(code).toUInt(nullptr, 2), uint(code));
+            QCOMPARE(binaryDigits(code).toUInt(nullptr, 2), static_cast<uint>(code));
             QVERIFY(binaryDigits(code).size() >= 8);
-            QCOMPARE(hexadecimalDigits(code).toUInt(nullptr, 16), uint(code));
+            QCOMPARE(hexadecimalDigits(code).toUInt(nullptr, 16), static_cast<uint>(code));
         }
     }
 
     void theFirstCodePoint()
     {
-        QCOMPARE(uint(firstCodePoint(u"A")), 65U);
-        QCOMPARE(uint(firstCodePoint(u"BA")), 66U);
-        QCOMPARE(uint(firstCodePoint(u"\U0001f600x")), 0x1f600U);
+        QCOMPARE(static_cast<uint>(firstCodePoint(u"A")), 65U);
+        QCOMPARE(static_cast<uint>(firstCodePoint(u"BA")), 66U);
+        QCOMPARE(static_cast<uint>(firstCodePoint(u"\U0001f600x")), 0x1f600U);
         const QString half(QChar(0xd83d));
-        QCOMPARE(uint(firstCodePoint(half)), 0xd83dU);
+        QCOMPARE(static_cast<uint>(firstCodePoint(half)), 0xd83dU);
     }
 };
 

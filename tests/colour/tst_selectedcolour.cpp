@@ -46,7 +46,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         const auto colour = colourOfText(text);
-        QTEST(colour ? qint64(*colour) : qint64(-1), "colour");
+        QTEST(colour ? qint64(*colour) : static_cast<qint64>(-1), "colour");
     }
 };
 

@@ -82,6 +82,15 @@ private Q_SLOTS:
         QVERIFY(m_screen.picture({30'000, 30'000, 1, 1}).isNull());
     }
 
+    void underWaylandTheScreenIsNotReadable()
+    {
+        qputenv("WAYLAND_DISPLAY", "wayland-0");
+        const bool readable = m_screen.isReadable() || m_screen.pointer() || !m_screen.picture({0, 0, 1, 1}).isNull();
+        qunsetenv("WAYLAND_DISPLAY");
+        QVERIFY(!readable);
+        QVERIFY(m_screen.isReadable());
+    }
+
     void thePointerMovesByNativePixels()
     {
         m_screen.movePointer({41, 43});

@@ -32,7 +32,7 @@ private Q_SLOTS:
         QFETCH(int, red);
         QFETCH(int, green);
         QFETCH(int, blue);
-        QTEST(spyNotation({quint8(red), quint8(green), quint8(blue)}), "text");
+        QTEST(spyNotation({static_cast<quint8>(red), static_cast<quint8>(green), static_cast<quint8>(blue)}), "text");
     }
 
     void aSizeThatDividesEvenly()
@@ -63,7 +63,7 @@ private Q_SLOTS:
     {
         for (int side = 1; side < 500; ++side) {
             const ZoomView view = zoomView({1000, 1000}, {side, side});
-            QCOMPARE(1000 - view.area.x(), int(side / 2.0 / 10));
+            QCOMPARE(1000 - view.area.x(), static_cast<int>(side / 2.0 / 10));
             const int whole = side / 10;
             QCOMPARE(view.area.width(), whole * 10 < side ? whole + 1 : whole);
             QCOMPARE(view.area.height(), view.area.width());
