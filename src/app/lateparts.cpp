@@ -9,7 +9,7 @@ namespace zephira {
 
 namespace {
 
-/// Whether the Tab key can stop at it. The field of a box is reached by way of the box.
+/// Whether the Tab key can stop at the control. A box's line edit gets the focus through the box.
 bool isTabStop(const QWidget &widget)
 {
     return widget.focusPolicy() & Qt::TabFocus && !widget.focusProxy();
@@ -28,7 +28,7 @@ QWidget *lastTabStop(const QWidget &window)
 
 LateParts::LateParts(QWidget &window, HiddenParts when) : m_window(window), m_when(when)
 {
-    // Without an interval it comes when no event is waiting.
+    // Without an interval the timer fires when no event is waiting.
     connect(&m_idle, &QTimer::timeout, this, &LateParts::makeNext);
     if (m_when == HiddenParts::AfterPicture)
         m_window.installEventFilter(this);
@@ -62,8 +62,8 @@ void LateParts::makeNext()
         moveInFocusChain(lastOther, part.before);
 }
 
-/// Puts the controls that stand behind `lastOther`, up to the end of the tab order, behind `before` and what came there
-/// earlier.
+/// Moves the controls after `lastOther`, up to the end of the tab order, to the position after `before` and the
+/// controls that were inserted there earlier.
 void LateParts::moveInFocusChain(const QWidget *lastOther, QWidget *before)
 {
     QList<QWidget *> added;

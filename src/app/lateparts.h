@@ -13,8 +13,8 @@
 
 namespace zephira {
 
-/// The parts of a window that nobody sees at first. They are made in the order in which they are added: at once, or when
-/// the window has been painted and has nothing else to do, one at a time.
+/// The parts of a window that are invisible at first. They are created in the order in which they were added: at once,
+/// or one at a time when the window has been painted and is idle.
 class LateParts final : public QObject
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ public:
     /// The window must outlive this.
     LateParts(QWidget &window, HiddenParts when);
 
-    /// Adds what makes a part, or goes on with parts that were added before. What it makes takes the place in the tab
-    /// order that it would have if it were made now.
+    /// Adds a function that creates a part, or adds to parts created earlier. Its controls get the positions in the tab
+    /// order that they would have if they were created now.
     void add(std::function<void()> make);
 
-    /// Makes at once what is still to be made, for whoever needs it.
+    /// Creates all remaining parts at once, for code that needs them.
     void finish();
 
 protected:
@@ -45,7 +45,7 @@ private:
     QWidget &m_window;
     const HiddenParts m_when;
     std::deque<Part> m_parts;
-    /// By the control behind which late ones were put: the last of them.
+    /// For each control after which late ones were inserted: the last of these.
     QHash<QWidget *, QPointer<QWidget>> m_lastBehind;
     QTimer m_idle;
 };

@@ -12,7 +12,7 @@ namespace zephira {
 SessionEnd::SessionEnd(QGuiApplication &application, WindowEnd &end, QObject *owner) : QObject(owner), m_end(end)
 {
     application.installEventFilter(this);
-    // The last document isn't opened again, so there is nothing that a later session should start.
+    // The program doesn't reopen its last document, so a later session needn't start it again.
     connect(&application, &QGuiApplication::saveStateRequest, this,
             [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
     connect(&application, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
@@ -26,8 +26,8 @@ SessionEnd::SessionEnd(QGuiApplication &application, WindowEnd &end, QObject *ow
     });
 }
 
-/// The session tells the application to quit, which by itself would close the window and so ask a second time, when nobody
-/// is there any more to answer.
+/// The session tells the application to quit. That alone would close the window and so ask a second time, when nobody
+/// can answer any more.
 bool SessionEnd::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Quit)

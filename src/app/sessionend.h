@@ -9,8 +9,8 @@ namespace zephira {
 
 class WindowEnd;
 
-/// Takes part in the end of the desktop's session: asks about changes as long as the session can wait for an answer, and
-/// ends the program without another question once the session is over.
+/// Handles the end of the desktop session: asks about changes while the session can wait for an answer, and ends the
+/// program without another question once the session is over.
 class SessionEnd final : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ namespace zephira {
 
 namespace {
 
-/// What exit() calls is given nothing, so that this stands here.
+/// A global, because exit() calls its handlers without arguments.
 struct Watch {
     std::function<void()> keep;
     std::thread::id thread;
@@ -21,7 +21,7 @@ Watch &watch()
     return kept;
 }
 
-/// Another thread that ends the process would read the text while it changes.
+/// If another thread ended the process, it would read the text while that changes.
 void keepAtExit()
 {
     if (const std::function<void()> keep = std::exchange(watch().keep, {});
@@ -34,7 +34,7 @@ void keepAtExit()
 SuddenEnd::SuddenEnd(std::function<void()> keep)
 {
     watch() = {std::move(keep), std::this_thread::get_id()};
-    // Registered behind the watch, and so called before the watch is taken down.
+    // Registered after the watch was created, and so called before it is destroyed.
     [[maybe_unused]] static const int registered = std::atexit(keepAtExit);
 }
 

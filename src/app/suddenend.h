@@ -5,13 +5,13 @@
 
 namespace zephira {
 
-/// Hears of an end that nothing in the program has decided: a library that has lost the connection to the display calls
-/// exit() in the middle of the event loop. One process has one of these.
+/// Notices when something other than the program ends the process: a library that loses the connection to the display
+/// calls exit() in the middle of the event loop. There must be only one instance per process.
 class SuddenEnd
 {
 public:
-    /// `keep` runs while the process ends, in the thread that made this object. It may neither show anything nor wait for
-    /// anybody.
+    /// `keep` runs while the process ends, in the thread that created this object. It must neither show anything nor
+    /// wait for anything.
     explicit SuddenEnd(std::function<void()> keep);
     ~SuddenEnd();
     SuddenEnd(const SuddenEnd &) = delete;

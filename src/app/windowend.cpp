@@ -61,7 +61,7 @@ void WindowEnd::endWithSession()
 
 void WindowEnd::keepAtSuddenEnd()
 {
-    // What the designer holds would have to be asked for; its last copy is no older than a few seconds.
+    // The designer's text could only be requested from its page; its last copy is at most a few seconds old.
     const Document &document = m_window.document();
     if (document.docModified() && !document.holdsDesignersWork())
         m_recovery.writeNow();

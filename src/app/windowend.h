@@ -26,11 +26,10 @@ public:
     /// The desktop session is about to end. Returns whether it may: if the user can be asked, only if the user agrees;
     /// otherwise always, after unsaved text was written to a recovery copy.
     bool agreesToSessionEnd(bool canAsk);
-    /// The session is over: leaves everything in order but what is not saved, of which a recovery copy stays, and ends the
-    /// process.
+    /// The session is over: cleans up, keeps a recovery copy of unsaved text, and ends the process.
     void endWithSession();
-    /// The process ends in the middle of something, without its window: what is not saved stays as a recovery copy as far
-    /// as it can be had at once.
+    /// The process ends unexpectedly and without its window: keeps a recovery copy of the unsaved text that is
+    /// available at once.
     void keepAtSuddenEnd();
 
     // WindowCommands

@@ -9,8 +9,8 @@
 namespace zephira {
 
 /// Runs what was chosen in a menu, a toolbar, a pull-down or the palette. The chosen row says what it does; a row
-/// without an effect does nothing, and is never enabled. Each finds the designer's text at home if visual mode is being
-/// left.
+/// without an effect does nothing, and is never enabled. If visual mode is being left, every command first waits until
+/// the code view has the designer's text.
 class CommandRouter
 {
 public:

@@ -18,7 +18,7 @@ namespace {
 
 constexpr qreal disabledOpacity = 0.4;
 
-/// What the Web Content Accessibility Guidelines ask for where a picture tells something.
+/// The contrast that the Web Content Accessibility Guidelines require of meaningful pictures.
 constexpr qreal visibleContrast = 3;
 /// An icon can be seen when so much of what it paints can.
 constexpr qreal visibleShare = 0.25;

@@ -64,7 +64,7 @@ QAction *CommandToolBar::action(const QString &key) const
 
 void CommandToolBar::setMet(Need need, bool met)
 {
-    // The rows come first, in their order; what else the window has added stands behind them.
+    // The rows come first, in order, followed by whatever else the window has added.
     const QList<QAction *> buttons = actions();
     for (std::size_t row = 0; row < m_table.buttons.size(); ++row) {
         QAction *button = buttons[static_cast<qsizetype>(row)];

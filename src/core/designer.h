@@ -121,7 +121,7 @@ public:
     /// A page in this folder or below it may load files from anywhere in it; any other page only from its own folder
     /// and below. Empty for none. Takes effect with the next load.
     virtual void setProjectFolder(const QString &folder) = 0;
-    /// Whether a page may load style sheets, pictures and fonts from other machines; it counts from the next load on.
+    /// Whether a page may load style sheets, pictures and fonts from other hosts. Takes effect with the next load.
     virtual void setRemoteAllowed(bool allowed) = 0;
 };
 

@@ -14,8 +14,8 @@ struct AppContext;
 /// designer.
 void pasteBehindSelection(const AppContext &context, const QString &item);
 
-/// The same for the text that a wizard tried to make. If that failed, the error is told under the wizard's title and
-/// nothing is inserted. Returns whether there was a text, and the wizard may close.
+/// The same for the text that a wizard tried to make. If that failed, a message with the wizard's title says why and
+/// nothing is inserted. Returns whether there was a text, so that the wizard may close.
 bool pasteOrTell(const AppContext &context, const Result<QString> &item, const QString &title);
 
 /// The same for lists that need the code view: in visual mode a message says so instead.

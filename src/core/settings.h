@@ -48,7 +48,7 @@ enum class SettingKind {
     Path,
 };
 
-/// When the program looks at a value, and so from when on a new one is in effect.
+/// When the program reads a value, and so when a new one takes effect.
 enum class SettingApplies {
     AtStart, ///< at the next start, unless whoever writes the value also applies it to the running program
     AtUse,   ///< whenever it is next used
@@ -90,9 +90,9 @@ bool writeTruth(Configuration &configuration, Setting setting, bool value);
 /// A measure; 0 if it isn't a number.
 double measure(const Configuration &configuration, Setting setting);
 bool writeMeasure(Configuration &configuration, Setting setting, double value);
-/// A number, colour or font style, or a switch of which other values than 0 and 1 are to be told apart. If it is
-/// missing or not a 32-bit integer, it counts as 0; where the row says that it is required, HandlerError is raised with
-/// a sentence that names key, section and file.
+/// A number, colour or font style, or a switch whose values other than 0 and 1 matter. If it is missing or not a 32-bit
+/// integer, it counts as 0; where the row says that it is required, HandlerError is raised with a sentence that names
+/// key, section and file.
 int wholeNumber(const Configuration &configuration, Setting setting, const QString &file);
 
 /// The values of the per-user store.
@@ -124,7 +124,7 @@ const UserSettingRow &userSettingRow(UserSetting setting);
 
 // The same for the per-user store.
 
-/// A number, or a switch of which other values than 0 and 1 are to be told apart; 0 if it isn't a 32-bit integer.
+/// A number, or a switch whose values other than 0 and 1 matter; 0 if it isn't a 32-bit integer.
 int wholeNumber(const UserSettings &settings, UserSetting setting);
 void writeSwitch(UserSettings &settings, UserSetting setting, bool on);
 /// A number that each form has. A missing or malformed one counts as `fallback`.

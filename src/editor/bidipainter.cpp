@@ -28,8 +28,8 @@ constexpr double cellPadding = 3;
 constexpr char enSpace[] = "\xe2\x80\x82";
 constexpr char hairSpace[] = "\xe2\x80\x8a";
 constexpr char noSpace[] = "\xe2\x80\x8b";
-/// Of lines beyond, in bytes, only the part is looked through that is asked for. It is widened up to text that is read from
-/// left to right, where stretches end, or if there is none, by so many bytes.
+/// Of lines longer than this, in bytes, only the requested part is searched. It is extended to left-to-right text,
+/// where stretches end, or by this number of bytes if there is none.
 constexpr qsizetype longestWhole = 16 * 1024;
 constexpr qsizetype widestMargin = 8 * 1024;
 constexpr int markedIndicators[] = {BoundsIndicator, MatchIndicator, BraceIndicator};
@@ -60,7 +60,7 @@ void BidiPainter::fontChanged()
         forgetLayouts();
 }
 
-/// The engine must forget the lines that it has laid out with other cells.
+/// Makes the engine discard the layout of lines with other cells.
 void BidiPainter::forgetLayouts() const
 {
     m_engine.send(Sci::SCI_SETCONTROLCHARSYMBOL, m_engine.send(Sci::SCI_GETCONTROLCHARSYMBOL));
@@ -103,7 +103,7 @@ QPointF BidiPainter::pointOf(qsizetype position) const
             static_cast<double>(m_engine.send(Sci::SCI_POINTYFROMPOSITION, 0, position))};
 }
 
-/// The pieces of a line that lie between two positions, or reach in there.
+/// The pieces of a line that lie, at least partly, between two positions.
 std::vector<BidiPainter::Piece> BidiPainter::piecesOf(qsizetype line, qsizetype from, qsizetype to) const
 {
     std::vector<Piece> pieces;
@@ -146,7 +146,7 @@ std::vector<BidiPainter::Piece> BidiPainter::visiblePieces(qsizetype line) const
     return piecesOf(line, positionAt(area.left(), top), positionAt(area.right(), bottom));
 }
 
-/// The part of a line that has to be looked at to know the stretches between two of its positions.
+/// The part of a line that must be searched to find the stretches between two of its positions.
 std::pair<qsizetype, qsizetype> BidiPainter::widened(qsizetype line, qsizetype from, qsizetype to) const
 {
     const qsizetype start = m_engine.lineStart(line);
@@ -302,7 +302,7 @@ QColor BidiPainter::backgroundOf(const Piece &piece) const
     return styleColour(m_engine, Sci::SCI_STYLEGETBACK, m_engine.styleAt(piece.start));
 }
 
-/// The line that marks a width of the text stands behind it.
+/// The edge line is drawn behind the text.
 void BidiPainter::paintEdge(QPainter &painter, const Piece &piece) const
 {
     if (m_engine.send(Sci::SCI_GETEDGEMODE) != Sci::EDGE_LINE)

@@ -21,9 +21,9 @@ namespace zephira {
 class EditorAppearance;
 
 /// Paints right-to-left text. The editor engine lays characters out only from left to right and takes runs of
-/// right-to-left letters for empty. So each such letter is given a cell of its own in the engine, about as wide as the
-/// letter, which gives the line its correct width; each stretch of these letters is then painted in the right order
-/// over its cells.
+/// right-to-left letters to have no width. So each such letter is given a cell of its own in the engine, about as wide
+/// as the letter, which gives the line its correct width; each stretch of these letters is then painted in the right
+/// order over its cells.
 class BidiPainter
 {
 public:
@@ -37,7 +37,7 @@ public:
     /// Whether the document has, or had, such text.
     bool isNeeded() const { return !m_known.empty(); }
 
-    /// Where something that is dragged over the text would be dropped: a caret stands there; -1 for nowhere.
+    /// Shows a caret where something dragged over the text would be dropped; -1 for none.
     void setDropPosition(qsizetype position);
 
     /// Paints the stretches of the visible lines, after the engine has painted the text.

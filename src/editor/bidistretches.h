@@ -22,13 +22,13 @@ struct BidiStretch {
 /// costs a test of each byte.
 void forEachRightToLeft(QByteArrayView utf8, const std::function<void(char32_t, QByteArrayView)> &found);
 
-/// Whether no stretch reaches beyond a byte: it is a letter that is read from left to right.
+/// Whether every stretch ends at this byte, because it is a left-to-right letter.
 bool endsStretch(char byte);
 
-/// The parts of a line (UTF-8, a style number for each byte) that are read from right to left in a text that otherwise is
-/// read from left to right: from a right-to-left letter to the last one, or the last number, before a left-to-right
-/// letter. A stretch ends with its style, so that code keeps its order whatever its strings hold, and behind about a
-/// thousand characters.
+/// The parts of a line (UTF-8, a style number for each byte) that are read from right to left in a text that otherwise
+/// is read from left to right: from a right-to-left letter to the last one, or the last number, before a left-to-right
+/// letter. A stretch ends where the style changes, so that code keeps its order whatever its strings contain, and after
+/// about a thousand characters.
 std::vector<BidiStretch> bidiStretches(QByteArrayView line, std::span<const unsigned char> styles);
 
 } // namespace zephira

@@ -18,7 +18,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// These keep what stands between them in one place of a line that is read from left to right.
+/// These marks keep the text between them at its position in a left-to-right line.
 constexpr QChar isolateStart(0x2066);
 constexpr QChar isolateEnd(0x2069);
 constexpr double pointsPerInch = 72;
@@ -41,7 +41,7 @@ LinePages::LinePages(const SciEngine &engine, QPaintDevice &device, QPainter &pa
     breakPages();
 }
 
-/// In pixels of the device: formats of a layout keep no other size for it.
+/// In device pixels, the only unit in which a layout's formats can hold it.
 QFont LinePages::fontOf(int style) const
 {
     QFont font = styleFont(m_engine, style, 0);
@@ -167,7 +167,7 @@ void LinePages::paint(int page)
             return false;
         if (at.row == 0 && m_numberWidth > 0)
             paintNumber(at.line, place, row.ascent());
-        // A row knows its place below those of its line that stand before it.
+        // A row's position includes the rows above it in the same line.
         row.draw(&m_painter, place - row.position());
         place.ry() += row.height();
         return true;

@@ -18,21 +18,22 @@ class QPainter;
 
 namespace zephira {
 
-/// The pages of a text that holds letters which are read from right to left; the engine prints only the other direction.
-/// Lines are wrapped at words, and bear their numbers where the window shows them.
+/// The pages of a text with right-to-left letters, because the engine prints only from left to right. Lines are wrapped
+/// at words, and have line numbers if the window shows them.
 class LinePages
 {
 public:
-    /// Puts what a page bears beside the text into the area, and takes its room from that; or takes the room only.
+    /// Draws what surrounds the text of a page into the area and removes its space from the area, or only removes the
+    /// space.
     using Frame = std::function<void(QPainter &, bool drawing, QRect &area, int page)>;
 
-    /// The text is to have its styles already, and stays as it is while there are pages of it. The painter paints on the
-    /// device, of which a page is as large as.
+    /// The text must be styled, and must not change while its pages exist. The painter paints on the device, which
+    /// determines the size of a page.
     LinePages(const SciEngine &engine, QPaintDevice &device, QPainter &painter, Frame frame,
               bool strikethrough = false);
 
     int count() const { return static_cast<int>(m_starts.size()); }
-    /// Pages count from 1.
+    /// Page numbers are 1-based.
     void paint(int page);
 
 private:
@@ -58,7 +59,7 @@ private:
     Frame m_frame;
     bool m_strikethrough;
     std::map<int, QTextCharFormat> m_formats;
-    /// The line that was laid out last; a long one fills several pages.
+    /// The line laid out last, kept because a long one fills several pages.
     qsizetype m_line = -1;
     std::unique_ptr<QTextLayout> m_layout;
     /// The first row of each page.

@@ -27,14 +27,14 @@ Character characterAt(QByteArrayView text, std::size_t at)
     return {code, size};
 }
 
-/// Letters of alphabets that stand beside each other without touching, and what is written among them.
+/// Letters of alphabets in which neighbours aren't joined, and the characters used between them.
 bool isApart(char32_t code)
 {
     constexpr char32_t behindCyrillic = 0x530;
     return code < 0x80 || (code < behindCyrillic && !QChar::isMark(code));
 }
 
-/// Signs each of which is a syllable or a word.
+/// Characters that each stand for a syllable or a word.
 bool isIdeograph(char32_t code)
 {
     const bool isKana = code >= 0x3041 && code < 0x3100 && !QChar::isMark(code);
@@ -42,11 +42,11 @@ bool isIdeograph(char32_t code)
         || (code >= 0x20000 && code < 0x32000);
 }
 
-/// Tells where the pieces of a run begin.
+/// Finds where the pieces of a run begin.
 class Pieces
 {
 public:
-    /// The run's next character; true where it begins a piece.
+    /// Takes the run's next character; returns whether it begins a piece.
     bool beginsWith(Character next)
     {
         const bool begins = isBreak(next.code);

@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// The font of one of the engine's styles, so many points larger than it is set.
+/// The font of one of the engine's styles, enlarged by the given number of points.
 QFont styleFont(const SciEngine &engine, int style, qsizetype zoom);
 
 } // namespace zephira

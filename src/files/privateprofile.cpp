@@ -103,8 +103,7 @@ public:
     /// Whether the name contains neither NUL nor any of the characters, and so can be written and read back.
     bool avoids(QByteArrayView characters) const
     {
-        return std::none_of(m_bytes.begin(), m_bytes.end(),
-                            [&](char c) { return c == '\0' || characters.contains(c); });
+        return std::ranges::none_of(m_bytes, [&](char c) { return c == '\0' || characters.contains(c); });
     }
 
 private:

@@ -72,8 +72,8 @@ int monthNumber(QByteArrayView name)
 {
     constexpr const char *names[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    const auto found = std::find_if(std::begin(names), std::end(names),
-                                    [&](const char *month) { return name.compare(month, Qt::CaseInsensitive) == 0; });
+    const auto found =
+        std::ranges::find_if(names, [&](const char *month) { return name.compare(month, Qt::CaseInsensitive) == 0; });
     return found == std::end(names) ? 0 : static_cast<int>(found - std::begin(names)) + 1;
 }
 

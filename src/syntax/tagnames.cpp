@@ -61,8 +61,8 @@ Code scriptCode(QByteArrayView value)
 {
     if (value.trimmed().isEmpty())
         return Code::JavaScript;
-    const auto row = std::find_if(std::begin(scriptTypes), std::end(scriptTypes),
-                                  [value](const auto &type) { return findFolded(value, type.part) >= 0; });
+    const auto row =
+        std::ranges::find_if(scriptTypes, [value](const auto &type) { return findFolded(value, type.part) >= 0; });
     return row == std::end(scriptTypes) ? Code::Plain : row->code;
 }
 
@@ -75,8 +75,8 @@ bool isServerDirective(QByteArrayView word)
 
 bool isDeclarationWord(QByteArrayView word)
 {
-    return std::any_of(std::begin(declarationWords), std::end(declarationWords),
-                       [word](QByteArrayView known) { return word.compare(known, Qt::CaseInsensitive) == 0; });
+    return std::ranges::any_of(declarationWords,
+                               [word](QByteArrayView known) { return word.compare(known, Qt::CaseInsensitive) == 0; });
 }
 
 bool saysServerScript(QByteArrayView directive, bool current)

@@ -93,7 +93,7 @@ constexpr PictureRow pictures[] = {
     {u"Command13", u"txtSourceImg", Question::Icon::None},
 };
 
-/// The families that pages have always asked for, then the fonts of the system.
+/// The font families that pages have always used, then those of the system.
 QStringList fontNames()
 {
     QStringList names{u"Arial"_s,   u"Courier New"_s, u"Georgia"_s, u"Times New Roman"_s, u"Trebuchet MS"_s,
@@ -126,7 +126,7 @@ frmTagEdit::frmTagEdit(const AppContext &context, QWidget *owner, std::shared_pt
     connect(m_ui->SSTab1, &QTabWidget::currentChanged, this, &frmTagEdit::pageShown);
     setPage(m_memory->page);
     pageShown(page());
-    // The user begins in the first field of the page, not in its tab.
+    // The focus starts in the first field of the page, not on its tab.
     m_ui->SSTab1->currentWidget()->nextInFocusChain()->setFocus();
 }
 
@@ -180,7 +180,7 @@ void frmTagEdit::bindPictures()
 void frmTagEdit::pageShown(int page)
 {
     m_memory->page = page;
-    // Return in a field is the OK of the page that is shown.
+    // Return in a field presses OK on the visible page.
     findChild<QPushButton *>(tagTemplates()[static_cast<std::size_t>(page)].okButton.toString())->setDefault(true);
 }
 
@@ -240,7 +240,7 @@ void frmTagEdit::choosePicture(QLineEdit *field, Question::Icon icon)
     if (!chosen)
         return;
     m_memory->pictureFolder = QFileInfo(*chosen).path();
-    // An empty project path is no base for a link; then the field stays as it is.
+    // Links can't be relative to an empty project path, so the field stays as it is.
     ignoringErrors({[&] { field->setText(MakeRelativePath(projectPath, *chosen)); }});
 }
 

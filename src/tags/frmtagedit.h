@@ -19,7 +19,7 @@ class frmTagEdit;
 class ColourSwatch;
 struct TagFields;
 
-/// What the tag editor remembers from one opening to the next, while the program runs.
+/// What the tag editor remembers from one use to the next while the program runs.
 struct TagEditorMemory {
     int page = 0;
     /// The folder of the picture that was chosen last.
@@ -31,7 +31,7 @@ struct TagEditorMemory {
 class frmTagEdit final : public QDialog
 {
     Q_OBJECT
-    /// The page that is shown, counted from 0.
+    /// The 0-based index of the visible page.
     Q_PROPERTY(int page READ page WRITE setPage)
 
 public:

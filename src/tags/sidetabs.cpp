@@ -14,7 +14,7 @@ namespace zephira {
 
 namespace {
 
-/// The style turns the captions of tabs at the side by a right angle; this turns them back.
+/// The style rotates the captions of tabs at the side by a right angle; this undoes that.
 class SideTabBar final : public QTabBar
 {
 public:
@@ -42,7 +42,7 @@ protected:
             painter.translate(centre);
             painter.rotate(90);
             painter.translate(-centre);
-            // In dark palettes the tab in front hardly differs from the others.
+            // In dark palettes the current tab hardly differs from the others.
             QFont captionFont = font();
             captionFont.setBold(i == currentIndex());
             painter.setFont(captionFont);
@@ -67,7 +67,7 @@ protected:
 SideTabs::SideTabs(QWidget *parent) : QTabWidget(parent)
 {
     auto *bar = new SideTabBar(this);
-    // The name that this part of the widget always has.
+    // The tab bar's name in every QTabWidget.
     bar->setObjectName(u"qt_tabwidget_tabbar"_s);
     setTabBar(bar);
     setTabPosition(QTabWidget::West);

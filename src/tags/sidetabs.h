@@ -5,8 +5,8 @@
 
 namespace zephira {
 
-/// Pages with their tabs at the left, one below the other, whose captions read from left to right. Besides the usual
-/// keys, Up and Down in the tabs go from page to page.
+/// Pages with tabs at the left, one below the other and with horizontal captions. Besides the usual keys, Up and Down
+/// move from tab to tab.
 class SideTabs final : public QTabWidget
 {
     Q_OBJECT

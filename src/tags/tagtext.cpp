@@ -76,7 +76,7 @@ constexpr TagPiece fontPieces[] = {
     fixed(u"></font>"),
 };
 
-// The start of this tag belongs to its width: without a width there is none.
+// The beginning of this tag belongs to the width field: without a width it is missing.
 constexpr TagPiece rulePieces[] = {
     optional(u"<hr width=\"", u"txtWHR"),
     optional(u" size=\"", u"txtSizeHR"),

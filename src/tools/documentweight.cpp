@@ -15,7 +15,7 @@ constexpr double limit = 10;
 constexpr qsizetype lengthBelow = 4;
 constexpr qsizetype lengthAbove = 5;
 
-/// What stands before the digits for the exponents -01 to -05; any other exponent stands for itself.
+/// What is put before the digits for the exponents -01 to -05; any other exponent is used as it is.
 QString prefixFor(const QString &exponent)
 {
     static const std::array<QString, 5> zeros{u"0."_s, u"0.0"_s, u"0.00"_s, u"0.000"_s, u"0.0000"_s};

@@ -24,7 +24,7 @@ constexpr LineSpeed modemLan{24.68};
 std::optional<QString> sizeCaption(double kilobytes);
 
 /// The time to download that much, as "2.14 Sec.", cut like the size. A number that is so small that its text has an
-/// exponent is rewritten by a fixed pattern that fits the exponent -02 alone; where the outcome is no number, the
+/// exponent is rewritten by a fixed pattern that is right only for the exponent -02; if the result isn't a number, the
 /// caption is "0.00 Sec.".
 QString timeCaption(double kilobytes, LineSpeed line);
 

@@ -24,7 +24,7 @@ frmDocSize::frmDocSize(const AppContext &context, QWidget *owner)
           u"Other Files"_s, QIcon::fromTheme(u"image-x-generic"_s, style()->standardIcon(QStyle::SP_FileIcon)), this))
 {
     m_ui->setupUi(this);
-    // A window's least height leaves out the lines that wrapped notes need.
+    // A window's minimum height doesn't include the extra lines of wrapped notes.
     const int width = layout()->totalMinimumSize().width();
     setMinimumSize(width, layout()->totalMinimumHeightForWidth(width));
     m_ui->lstlinks->setModel(m_links);

@@ -65,7 +65,7 @@ void frmlinkextract::restorePlace()
     const int top = m_context.settings.GetSetting(UserSetting::WindowTop, section, {}).toInt(&hasTop);
     const int left = m_context.settings.GetSetting(UserSetting::WindowLeft, section, {}).toInt(&hasLeft);
     const QPoint place(toPixels(left), toPixels(top));
-    // A place on a screen that is gone would hide the window.
+    // A saved position on a screen that no longer exists would hide the window.
     if (hasTop && hasLeft && QGuiApplication::screenAt(place))
         move(place);
 }
@@ -101,7 +101,7 @@ bool frmlinkextract::ExtractURL(SearchText *richText, LinkList *list, const QStr
         richText->setText(std::move(text).value());
     }
 
-    // The events of a pause could otherwise start another search.
+    // Otherwise the events processed during a search could start another one.
     setEnabled(false);
     QElapsedTimer sincePause;
     sincePause.start();

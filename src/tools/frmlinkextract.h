@@ -28,11 +28,11 @@ public:
 
     /// Appends the targets found in `richText` to the list. Before that, the list is cleared if `clearList` says so,
     /// gets a scroll extent in pixels unless `extent` is 0, and the file is loaded into `richText` unless its name is
-    /// blank. A file that can't be read, and targets that are too many to list, are told. Returns whether the search
-    /// came to its end; it doesn't when the form is closed meanwhile.
+    /// blank. If the file can't be read or there are too many targets, a message says so. Returns whether the search
+    /// was completed, which it isn't if the form is closed meanwhile.
     Q_INVOKABLE bool ExtractURL(zephira::SearchText *richText, zephira::LinkList *list, const QString &filePath,
                                 bool clearList, int extent);
-    /// Writes the page of links, in UTF-8, over an existing file too. Returns whether that worked.
+    /// Writes the page of links in UTF-8, replacing an existing file. Returns whether that succeeded.
     Q_INVOKABLE bool SaveLinksPage(const QString &filePath);
 
     void done(int result) override;

@@ -33,8 +33,8 @@ CharacterFormat::Alignment alignmentOf(const QTextBlock &block)
     return alignment & Qt::AlignHCenter ? CharacterFormat::Alignment::Center : CharacterFormat::Alignment::Left;
 }
 
-/// The format of characters. What they leave open is that of the text as a whole; its colour is black, also where a
-/// dark palette shows it light.
+/// The format of characters. What they don't set themselves is taken from the text as a whole, whose colour is black
+/// even if a dark palette shows it light.
 CharacterFormat formatOf(const QTextCharFormat &format, const QTextBlock &block)
 {
     const QFont font = format.font().resolve(block.document()->defaultFont());
@@ -50,7 +50,7 @@ CharacterFormat formatOf(const QTextCharFormat &format, const QTextBlock &block)
     };
 }
 
-/// The part of a run that lies in the stretch, with line ends as the program writes them.
+/// The part of a run within the range, with line ends as the program writes them.
 QString partOf(const QString &text, int position, int start, int end)
 {
     const int from = std::max(start - position, 0);

@@ -30,11 +30,11 @@ qsizetype valueStart(QStringView text, qsizetype found)
 qsizetype valueEnd(QStringView text, qsizetype start)
 {
     const QStringView rest = text.sliced(std::min(start, text.size()));
-    return text.size() - (rest.end() - std::find_if(rest.begin(), rest.end(), endsValue));
+    return text.size() - (rest.end() - std::ranges::find_if(rest, endsValue));
 }
 
-/// The addresses of the tags of a page, asked for from the first tag to the last. Many `<img` may stand before one ">";
-/// what was found for one of them is kept for the next, so that no stretch of the page is searched twice.
+/// The addresses of the tags of a page, to be requested from the first tag to the last. Many `<img` may precede one
+/// ">"; what was found for one of them is kept for the next, so that no part of the page is searched twice.
 class AddressFinder
 {
 public:
@@ -57,7 +57,7 @@ private:
     {
         const qsizetype found = m_lower.indexOf(source, start);
         m_source = found < 0 ? m_html.size() : found;
-        // The tag may end where the value's first sign would be.
+        // The tag may end where the value's first character would be.
         const qsizetype behind = m_source + source.size();
         if (behind >= m_html.size() || m_html[behind] == u'>') {
             m_address.clear();

@@ -6,7 +6,7 @@
 
 namespace zephira {
 
-/// The value behind the first "src" in a tag, wherever it stands, in any case: it begins behind the character that
+/// The value behind the first "src" in a tag, at any position and in any case: it begins after the character that
 /// follows "src", and behind a double quote next to that, and ends before a blank, a ">" or a double quote. An
 /// apostrophe is part of the value. Empty if there is no "src" or no value.
 QString URLFromTag(const QString &tag);

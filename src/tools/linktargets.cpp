@@ -26,7 +26,7 @@ bool runPass(const QString &text, const Pass &pass, const std::function<bool()> 
              qsizetype &length)
 {
     const QStringMatcher matcher(pass.match, Qt::CaseInsensitive);
-    // Both passes begin behind the first character.
+    // Both passes skip the first character.
     for (qsizetype start = matcher.indexIn(text, 1); start >= 0; start = matcher.indexIn(text, start + 1)) {
         if (yield && !yield()) {
             found.stopped = true;

@@ -15,7 +15,7 @@ namespace zephira {
 /// target ends at the latest 800 characters after the beginning of its match.
 struct LinkTargets {
     QStringList targets;
-    /// Whether `targets` ends early, because it would have more than maximumTargetsLength characters.
+    /// Whether `targets` is incomplete, because it would have more than maximumTargetsLength characters in total.
     bool truncated = false;
     /// Whether `yield` ended the search.
     bool stopped = false;
@@ -24,14 +24,14 @@ struct LinkTargets {
 /// `yield` is called for each match; the search ends when it returns false.
 LinkTargets linkTargets(const QString &text, const std::function<bool()> &yield = {});
 
-/// A page that lists the targets as links. It has no closing tags; without targets it is empty.
+/// A page that lists the targets as links, without closing tags; empty if there are no targets.
 QString linksPage(const QStringList &targets);
 
 /// What to open for a target: an address with a scheme and a full path as they are, anything else as a path in the
 /// given folder.
 QString targetToOpen(const QString &target, const QString &folder);
 
-/// In UTF-16 code units; a text of nothing but `href=` has eight hundred times its own length in targets.
+/// In UTF-16 code units. The targets of a text of nothing but `href=` are eight hundred times as long as the text.
 constexpr qsizetype maximumTargetsLength = 128LL * 1024 * 1024;
 
 } // namespace zephira

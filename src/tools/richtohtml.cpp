@@ -35,7 +35,7 @@ constexpr SwitchTag switchTags[] = {
     {&CharacterFormat::strikethrough, u's'},
 };
 
-/// The tags between two formats; `before` is empty at the start, where only the switches have a known state: off.
+/// The tags between two formats. `before` is empty at the start, when only the switches have a known state: off.
 QString tagsBetween(const std::optional<CharacterFormat> &before, const CharacterFormat &now)
 {
     QString tags;

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// A text that is searched and never shown. A page of many megabytes costs it nothing to lay out.
+/// A text that is searched but never shown, so that a page of many megabytes needn't be laid out.
 class SearchText final : public QWidget
 {
     Q_OBJECT

@@ -73,8 +73,8 @@ const QChar *skipLayout(const QChar *in, const QChar *end, qsizetype *blanks)
     return in;
 }
 
-/// The text without layout, and with `divider` between a tag and one that directly follows it. All is done in one pass,
-/// because the memory that each further one would take costs more than its work.
+/// The text without layout, and with `divider` between a tag and one that directly follows it. Everything is done in
+/// one pass, because allocating memory for another one would take longer than the work itself.
 QString withoutLayout(QStringView text, QStringView divider)
 {
     const qsizetype tags = divider.isEmpty() ? 0 : std::ranges::count(text, u'<');
@@ -82,7 +82,7 @@ QString withoutLayout(QStringView text, QStringView divider)
     QChar *out = result.data();
     const QChar *const end = text.cend();
     for (const QChar *in = text.cbegin(); in != end;) {
-        // Letters and most signs lie above all that needs a look.
+        // Letters and most other characters are above all those that need checking.
         while (in != end && *in > u'>')
             *out++ = *in++;
         if (in == end)
@@ -186,8 +186,8 @@ QStringView openingOf(QStringView text)
 
 enum class Blanks { Kept, TrimmedAroundTags };
 
-/// IndentTags(), and where it is wanted TrimAroundTags() of its result: no run of blanks reaches beyond a piece, and what
-/// is put between pieces is no tag.
+/// IndentTags(), and TrimAroundTags() of its result if requested. Both can be done piece by piece, because no run of
+/// blanks extends beyond a piece, and what is inserted between pieces contains no tags.
 QString indented(QStringView text, Blanks blanks, const FormatterYield &yield)
 {
     const QStringView opening = openingOf(text);

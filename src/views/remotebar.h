@@ -7,7 +7,7 @@
 
 namespace zephira {
 
-/// Tells which machines the page in the preview would load from, and asks whether it may.
+/// Shows from which hosts the page in the preview wants to load, and asks whether it may.
 class RemoteBar final : public NoticeBar
 {
     Q_OBJECT
@@ -15,14 +15,14 @@ class RemoteBar final : public NoticeBar
 public:
     explicit RemoteBar(QWidget *parent);
 
-    /// The hosts that were refused; without one there is nothing to ask.
+    /// Sets the hosts that were refused; without any, nothing is asked.
     void setHosts(const QStringList &hosts);
 
 Q_SIGNALS:
     void allowed();
 };
 
-/// What the bar says, which names the first hosts only.
+/// The bar's message, which names only the first hosts.
 ///
 ///     remoteNotice({"a.org", "b.org"}) == "This page wants to load from a.org and b.org."
 QString remoteNotice(const QStringList &hosts);

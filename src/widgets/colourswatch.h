@@ -16,7 +16,7 @@ class ColourSwatch final : public QAbstractButton
 public:
     explicit ColourSwatch(QWidget *parent = nullptr);
 
-    /// Shows from now on the colour whose name stands in the field.
+    /// Shows the colour named in the field, and follows its changes.
     void follow(QLineEdit *field);
     /// Invalid if there is no such colour.
     QColor colour() const { return m_colour; }

@@ -22,7 +22,7 @@ NoticeBar::NoticeBar(const QString &name, const QString &accessibleName, QWidget
 void NoticeBar::setLines(const QList<NoticeLine> &lines)
 {
     while (QLayoutItem *item = m_layout->takeAt(0)) {
-        // The button that was pressed is one of them, and still at work.
+        // The pressed button is one of them, and its signal is still being processed.
         item->widget()->hide();
         item->widget()->setObjectName(QString());
         item->widget()->deleteLater();
@@ -39,7 +39,7 @@ void NoticeBar::addLine(int number, const NoticeLine &line)
     text->setObjectName(line.name);
     text->setTextFormat(Qt::PlainText);
     text->setToolTip(line.tip);
-    // A long name is cut, never the window widened.
+    // A long name is cut instead of widening the window.
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_layout->addWidget(text, number, 0);
     int column = 0;

@@ -11,7 +11,7 @@ class QGridLayout;
 
 namespace zephira {
 
-/// A line of a NoticeBar: what it tells, and the buttons that answer it.
+/// A line of a NoticeBar: its message, and the buttons that answer it.
 struct NoticeLine {
     struct Button {
         QString name;
@@ -27,8 +27,8 @@ struct NoticeLine {
     QList<Button> buttons;
 };
 
-/// Tells something beside what the user works on, and stays until it is answered. It takes the keyboard only from the tab
-/// key, never by itself or by a click.
+/// Shows messages next to what the user is working on until they are answered. It gets the keyboard focus only through
+/// the Tab key, never by itself or by a click.
 class NoticeBar : public QFrame
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ class NoticeBar : public QFrame
 public:
     NoticeBar(const QString &name, const QString &accessibleName, QWidget *parent);
 
-    /// The lines that stand from now on; without one the bar is hidden.
+    /// Replaces the lines; without any, the bar is hidden.
     void setLines(const QList<NoticeLine> &lines);
 
 private:

@@ -12,13 +12,13 @@ struct RefreshFields {
     QString delay = {};
 };
 
-/// The tag that lets another page follow. Delay and address are in two quoted values.
+/// The tag that redirects to another page. Delay and address are in two quoted values.
 QString refreshMarkup(const RefreshFields &fields);
 
-/// Where the text goes on after a line break.
+/// Where the text continues after a line break.
 enum class LineBreak { Unchosen, Normal, ClearRight, ClearLeft, ClearBoth };
 
-/// A line break. An unchosen one has an empty "clear" attribute.
+/// A line break. If no kind was chosen, its "clear" attribute is empty.
 QString breakMarkup(LineBreak kind);
 
 struct InlineFrameFields {
@@ -30,7 +30,7 @@ struct InlineFrameFields {
     QString marginWidth = {};
     QString marginHeight = {};
     QString alignment = {};
-    /// A value that ends in "default)" omits its attribute.
+    /// The attribute is omitted for a value that ends in "default)".
     QString scrolling = {};
     QString border = {};
 };

@@ -39,7 +39,7 @@ Result<QString> formMarkup(const FormFields &fields)
         + fields.name + u"\">"_s;
     for (int i = 1; i <= count; ++i)
         text += formField(i);
-    // The second button has no blanks between its attributes, and the closing tag has one in front of it.
+    // The second button has no blanks between its attributes, and there is one before the closing tag.
     return text + u"\r\n<p><input type=\"submit\" name=\"B1\" value=\"Submit\">\r\n"_s
         + u"<input type=\"reset\"name=\"B2\"value=\"Reset\"></p>\r\n </form>"_s;
 }

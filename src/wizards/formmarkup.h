@@ -14,11 +14,12 @@ struct FormFields {
     QString name = {};
     QString action = {};
     QString method = {};
-    /// The number of text fields, as typed: rounded to an integer, halves to even. No number, or one below 1, means none.
+    /// The number of text fields, as typed: rounded to an integer, halves to even. A text that isn't a number, or a
+    /// number below 1, means none.
     QString count = {};
 };
 
-/// A form with numbered text fields and two buttons. More than mostFormFields fields are Code::TooLarge.
+/// A form with numbered text fields and two buttons. Fails with Code::TooLarge for more than mostFormFields fields.
 Result<QString> formMarkup(const FormFields &fields);
 
 /// Nobody edits a form with more fields; two mistyped digits must not use up all memory.
@@ -28,7 +29,7 @@ constexpr int mostFormFields = 500'000;
 struct MenuChoice {
     QString text = {};
     bool selected = false;
-    /// A single dot stands for a choice without a value of its own.
+    /// A single dot means that the choice has no value of its own.
     QString value = noValue.toString();
 
     static constexpr QStringView noValue = u".";

@@ -11,7 +11,7 @@ namespace zephira {
 
 namespace {
 
-/// Only the label keeps to the canvas; the bar itself doesn't.
+/// Only the label is limited to the canvas; the bar isn't.
 QString labelOf(double place)
 {
     return QString::number(std::clamp(std::floor(place) - 1, 0.0, 100.0)) + u" %"_s;

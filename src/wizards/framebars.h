@@ -6,7 +6,8 @@
 namespace zephira {
 
 /// The two bars that divide the frames. A chosen bar follows the mouse, without a button held, until a click drops it;
-/// the next click picks it up again. Places are in units of the canvas, which has 100 each way; a bar may lie outside.
+/// the next click picks it up again. Positions are in units of the canvas, which is 100 by 100; a bar may lie outside
+/// it.
 class FrameBars
 {
 public:
@@ -14,9 +15,9 @@ public:
 
     /// Chooses a bar, which follows the mouse from now on.
     void arm(Bar bar);
-    /// The mouse has moved to a place of the canvas. Returns whether a bar has moved.
+    /// To be called when the mouse has moved to a position in the canvas. Returns whether a bar has moved.
     bool moveTo(double x, double y);
-    /// Moves the bar that follows the mouse by so many units. Returns whether there is one.
+    /// Moves the bar that follows the mouse by that number of units. Returns whether there is one.
     bool moveBy(double right, double down);
     /// A click: drops the chosen bar, or picks it up.
     void click();
@@ -31,7 +32,7 @@ public:
     QString verticalLabel() const { return m_verticalLabel; }
     QString horizontalLabel() const { return m_horizontalLabel; }
 
-    /// The share that is written: of the side behind the bar, plus 1.
+    /// The percentage that is written: the share of the side after the bar, plus 1.
     qint16 colPercent() const;
     qint16 rowPercent() const;
 

@@ -18,7 +18,7 @@ constexpr int thickness = 5;
 
 FrameDivider::FrameDivider(Qt::Orientation direction, QWidget *canvas) : QWidget(canvas), m_direction(direction)
 {
-    // The canvas follows the mouse, also over its bars.
+    // The canvas also tracks the mouse over its bars.
     setAttribute(Qt::WA_TransparentForMouseEvents);
     fit();
 }

@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-/// A bar across the canvas of the frames wizard. Its place is in units of the canvas.
+/// A bar across the canvas of the frames wizard. Its position is in units of the canvas.
 class FrameDivider final : public QWidget
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     void setPlace(double place);
     /// Whether it follows the mouse, and is drawn so.
     void setArmed(bool armed);
-    /// Moves to its place in a canvas of another size.
+    /// Moves to its position in a canvas of another size.
     void fit();
 
 protected:
@@ -46,7 +46,7 @@ public:
     QSize sizeHint() const override { return {380, 260}; }
 
 Q_SIGNALS:
-    /// The mouse has moved, with or without a button held; in units, also outside the canvas.
+    /// The mouse has moved, with or without a button held. The position is in units and may be outside the canvas.
     void mouseMoved(double x, double y);
     /// An arrow key was pressed.
     void stepped(int right, int down);

@@ -43,14 +43,14 @@ FramePane::FramePane(QWidget *parent) : QAbstractButton(parent)
 void FramePane::setRed(bool red)
 {
     m_red = red;
-    // Whoever doesn't see the colour is told as well.
+    // Users who can't see the colour get the same information.
     setAccessibleDescription(red ? u"Chosen"_s : QString());
     update();
 }
 
 void FramePane::paintEvent(QPaintEvent *)
 {
-    // White and red whatever the palette is, so the lines on them are black.
+    // The panes are white and red in every palette, so their lines are black.
     QPainter painter(this);
     const QRectF edge = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setPen(Qt::black);
@@ -73,7 +73,7 @@ void FramePane::paintEvent(QPaintEvent *)
 
 FramePreview::FramePreview(QWidget *parent) : QFrame(parent)
 {
-    // The fields below must not squeeze it.
+    // The fields below must not take its room.
     setMinimumHeight(140);
     for (const PaneRow &row : paneRows) {
         auto *pane = new FramePane(this);

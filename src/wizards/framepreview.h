@@ -37,7 +37,7 @@ class FramePreview final : public QFrame
 public:
     explicit FramePreview(QWidget *parent = nullptr);
 
-    /// Divides the panes at these units. No pane becomes so small that it can't be clicked.
+    /// Divides the panes at these positions. Every pane stays large enough to be clicked.
     void divide(int left, int top);
     /// Makes this pane red and all others white.
     void choose(int group);

@@ -15,7 +15,7 @@ struct FrameFields {
     QString marginHeight = {};
     QString scrolling = {};
     bool border = false;
-    /// Whether the reader must not resize the frame.
+    /// Whether visitors can't resize the frame.
     bool fixedSize = false;
 };
 

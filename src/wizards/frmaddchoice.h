@@ -13,7 +13,7 @@ namespace Ui {
 class frmaddchoice;
 }
 
-/// Adds a choice to the open drop-down wizard, its owner.
+/// Adds a choice to the drop-down wizard that owns this form.
 class frmaddchoice final : public QDialog
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ namespace Ui {
 class frmcsv;
 }
 
-/// A list of server variables. The chosen name replaces the selection when the form is closed, however that is done.
+/// A list of server variables. However the form is closed, the chosen name then replaces the selection.
 class frmcsv final : public QDialog
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     void done(int result) override;
 
 protected:
-    /// There is no button that Return could press, so it closes the form itself.
+    /// There is no default button, so Return closes the form directly.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

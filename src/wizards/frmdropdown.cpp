@@ -16,7 +16,7 @@ namespace {
 
 enum Column { TextColumn, SelectedColumn, ValueColumn };
 
-/// What the list shows for a choice that is selected at first.
+/// What the list shows for an initially selected choice.
 constexpr QStringView yes = u"Yes";
 
 } // namespace

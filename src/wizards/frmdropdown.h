@@ -30,7 +30,7 @@ public:
 
 private:
     MenuFields fields() const;
-    /// Moves the selected choice; nothing happens at the ends of the list and without a selected choice.
+    /// Moves the selected choice. Does nothing at the ends of the list or if none is selected.
     void moveSelected(int by);
     void insertMenu();
 

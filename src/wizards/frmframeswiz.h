@@ -25,7 +25,7 @@ class frmFramesWiz final : public QDialog
     /// Whether a bar follows the mouse.
     Q_PROPERTY(bool TrackV READ trackV)
     Q_PROPERTY(bool TrackH READ trackH)
-    /// The percentages that are written; those of the last time that the second page was opened.
+    /// The percentages that are written: those from when the second page was last opened.
     Q_PROPERTY(int RowPercent READ rowPercent)
     Q_PROPERTY(int ColPercent READ colPercent)
 
@@ -42,7 +42,7 @@ public:
     Q_INVOKABLE void BuildCode();
 
 private:
-    /// The fields of one group, which counts from 1.
+    /// The fields of a group; `group` is 1-based.
     FrameFields frame(int group) const;
     FramesFields fields() const;
     void arm(FrameBars::Bar bar);

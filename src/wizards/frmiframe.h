@@ -13,7 +13,7 @@ namespace Ui {
 class frmiframe;
 }
 
-/// Inserts a frame that stands in the text of a page.
+/// Inserts an inline frame.
 class frmiframe final : public QDialog
 {
     Q_OBJECT

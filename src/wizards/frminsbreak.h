@@ -15,7 +15,7 @@ class frminsbreak;
 
 enum class LineBreak;
 
-/// Inserts a line break, after which the text goes on where one or both margins are free.
+/// Inserts a line break. The text after it may continue only where one or both margins are free.
 class frminsbreak final : public QDialog
 {
     Q_OBJECT

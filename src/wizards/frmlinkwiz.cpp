@@ -24,7 +24,7 @@ frmlinkwiz::frmlinkwiz(const AppContext &context, QWidget *owner)
         putPrefix();
         m_isPrefixPut = true;
     });
-    // Choosing the same entry once more changes no index, but it is a choice all the same.
+    // Choosing the current entry again doesn't change the index, but is still a choice.
     connect(m_ui->Combo3, &QComboBox::activated, this, [this] {
         if (!std::exchange(m_isPrefixPut, false))
             putPrefix();

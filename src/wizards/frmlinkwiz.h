@@ -29,7 +29,7 @@ private:
 
     const std::unique_ptr<Ui::frmlinkwiz> m_ui;
     const AppContext m_context;
-    /// Whether a change of the index has put the prefix before the choice is reported.
+    /// Whether the change of index has already inserted the prefix when the choice is reported.
     bool m_isPrefixPut = false;
 };
 

@@ -13,7 +13,7 @@ namespace Ui {
 class frmRedirect;
 }
 
-/// Lets another page follow: by a tag of the page, or by a statement of its script.
+/// Redirects to another page: by a tag in the page, or by a statement in its script.
 class frmRedirect final : public QDialog
 {
     Q_OBJECT

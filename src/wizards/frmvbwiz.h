@@ -13,7 +13,7 @@ namespace Ui {
 class frmvbwiz;
 }
 
-/// Inserts an If statement of a page's script.
+/// Inserts an If statement into a page's script.
 class frmvbwiz final : public QDialog
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ namespace zephira {
 
 namespace {
 
-/// As in the date that the form starts with.
+/// The format of the date with which the form opens.
 constexpr QStringView dayFormat = u"MM/dd/yyyy";
 
 } // namespace

@@ -14,7 +14,7 @@ namespace Ui {
 class frmwizcookie;
 }
 
-/// Inserts a script that sets a cookie. Its last day is typed, or chosen from a calendar.
+/// Inserts a script that sets a cookie. Its expiry date is typed or chosen from a calendar.
 class frmwizcookie final : public QDialog
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
 
 private:
     void addCalendar();
-    /// The day in the date's box, or today if there is none.
+    /// The date in the date box, or today's if there is none.
     QDate typedDay() const;
     void insertCookie();
 

@@ -28,7 +28,7 @@ private:
     MarqueeFields fields() const;
     void insertMarquee();
     void chooseColour();
-    /// Paints the colour that is in the text box on the button beside it.
+    /// Paints the button in the colour given in the text box beside it.
     void showColour();
 
     const std::unique_ptr<Ui::frmwizMarquee> m_ui;

@@ -27,7 +27,7 @@ public:
 private:
     ImageFields fields() const;
     void browse();
-    /// Fills in the picture's size; that of a file that is no picture isn't known, and the fields stay.
+    /// Fills in the picture's size; leaves the fields unchanged if the file isn't a picture.
     void measure(const QString &file);
     void insertImage();
 

@@ -42,8 +42,8 @@ struct ImageFields {
     QString alternative = {};
     QString border = {};
 
-    /// Whether the full name is written. A reference that begins with a colon is one to another drive, which no page can
-    /// follow.
+    /// Whether the full name is written. A reference that begins with a colon is to another drive, and no page can
+    /// follow it.
     bool usesFullName() const { return reference.startsWith(u':'); }
 };
 

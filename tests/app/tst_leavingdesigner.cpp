@@ -23,7 +23,7 @@ const QByteArray source("<!DOCTYPE html>\r\n<html><head><title>t</title></head>\
 
 /// What may come while the designer is being left.
 enum class Act { Type, Paste, Insert, Save, SaveAs, Undo, QuickTag, Close, ReadByName };
-constexpr int actCount = int(Act::ReadByName) + 1;
+constexpr int actCount = static_cast<int>(Act::ReadByName) + 1;
 constexpr const char *actNames[] = {"type", "paste", "insert", "save", "save as", "undo", "quick tag", "close", "read"};
 
 /// The palette's button for a line break.
@@ -135,9 +135,9 @@ void TstLeavingDesigner::nothingIsLost()
         // Undo and close alone: what they find is checked, not what others make of it afterwards.
         const auto act = Act(random.bounded(actCount));
         const bool isAlone = act == Act::Undo || act == Act::Close;
-        const auto other = isAlone ? act : Act(random.bounded(int(Act::SaveAs)));
-        const QByteArray name =
-            QByteArray("run ") + QByteArray::number(number) + ": " + actNames[int(act)] + ", " + actNames[int(other)];
+        const auto other = isAlone ? act : Act(random.bounded(static_cast<int>(Act::SaveAs)));
+        const QByteArray name = QByteArray("run ") + QByteArray::number(number) + ": " + actNames[static_cast<int>(act)]
+            + ", " + actNames[static_cast<int>(other)];
         QVERIFY2(bench.design(), name);
         Run run{bench, number};
         bench.paste(run.word(u"word"));

@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(Listeners::to(menusOf(bench), SIGNAL(chosen(zephira::FtpMenuItem))), 1);
     }
 
-    /// What a click hands on is the row with the clicked name, and what it does no other row does.
+    /// A click passes on the row with the clicked name, and no two rows have the same effect.
     void eachRowHandsOnWhatItDoes()
     {
         Bench bench;

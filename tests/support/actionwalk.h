@@ -8,7 +8,7 @@
 
 namespace zephira {
 
-/// The number of a signal's receivers, which QObject tells only its subclasses.
+/// The number of a signal's receivers, which QObject reveals only to its subclasses.
 struct Listeners : QObject {
     static int to(const QObject &sender, const char *signal) { return (sender.*&Listeners::receivers)(signal); }
 };
@@ -31,7 +31,8 @@ inline int effectsOf(QAction &action)
     return Listeners::to(action, signal) - Listeners::to(idle, signal);
 }
 
-/// What is wrong with an action: one that can be chosen must have exactly one effect, one that opens a menu at most one.
+/// What is wrong with an action: it must have exactly one effect if it can be chosen, and at most one if it opens a
+/// menu.
 inline QStringList faultsOf(QAction &action)
 {
     if (action.isSeparator() || !action.isEnabled())

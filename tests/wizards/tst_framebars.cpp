@@ -62,13 +62,13 @@ private Q_SLOTS:
         QVERIFY(bars.moveTo(place, 7));
         QCOMPARE(bars.left(), place + 1);
         QTEST(bars.verticalLabel(), "label");
-        QTEST(int(bars.colPercent()), "percent");
+        QTEST(static_cast<int>(bars.colPercent()), "percent");
         QCOMPARE(bars.top(), 50.0);
         bars.arm(Bar::Horizontal);
         QVERIFY(bars.moveTo(7, place));
         QCOMPARE(bars.top(), place + 1);
         QTEST(bars.horizontalLabel(), "label");
-        QTEST(int(bars.rowPercent()), "percent");
+        QTEST(static_cast<int>(bars.rowPercent()), "percent");
         QCOMPARE(bars.left(), place + 1);
         // It comes back with the mouse.
         QVERIFY(bars.moveTo(7, 20));
