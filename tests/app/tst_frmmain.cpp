@@ -372,8 +372,8 @@ private Q_SLOTS:
     {
         WindowBench bench;
         bench.start();
-        QVERIFY(!bench.find<QAction>(u"mnucp"_s)->isEnabled());
-        QCOMPARE(bench.find<QAction>(u"mnucp"_s)->toolTip(), u"Color Picker (not available yet)"_s);
+        QVERIFY(!bench.find<QAction>(u"mnumtw"_s)->isEnabled());
+        QCOMPARE(bench.find<QAction>(u"mnumtw"_s)->toolTip(), u"Meta Tag Wizard (not available yet)"_s);
         QVERIFY(bench.find<QAction>(u"mnutblwiz"_s)->isEnabled());
     }
 

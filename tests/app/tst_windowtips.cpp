@@ -154,18 +154,19 @@ private Q_SLOTS:
         bench.find<QTabBar>(u"workspace"_s)->setCurrentIndex(1);
         bench.find<QTabBar>(u"workspace"_s)->setCurrentIndex(0);
         QList<QAction *> all = buttonsOf(window);
-        for (const QMenu *menu : window.findChildren<QMenu *>())
+        const QList<QMenu *> menus = window.findChildren<QMenu *>();
+        for (const QMenu *menu : menus)
             all += menu->actions();
         int closed = 0;
-        for (const QAction *action : all) {
+        for (const QAction *action : std::as_const(all)) {
             if (action->isEnabled() || action->isSeparator() || action->text().isEmpty())
                 continue;
             ++closed;
             const QString name = action->text().remove(u'&').remove(QRegularExpression(u"\\.+$"_s));
             QVERIFY2(action->toolTip().startsWith(name), qPrintable(action->text() + u": "_s + action->toolTip()));
         }
-        // A walk that has lost its way would find no fault either.
-        QVERIFY2(closed > 40, qPrintable(QString::number(closed)));
+        // A walk that misses most of them would find no fault either.
+        QVERIFY2(closed > 30, qPrintable(QString::number(closed)));
     }
 
     /// Each tab of the side pane is called in its tip what its page is called.
