@@ -23,7 +23,11 @@ frmRedirect::frmRedirect(const AppContext &context, QWidget *owner)
     connect(qApp, &QApplication::focusChanged, this, &frmRedirect::followFocus);
 }
 
-frmRedirect::~frmRedirect() = default;
+frmRedirect::~frmRedirect()
+{
+    // The base class takes the focus away, when there is no form any more to follow it.
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void frmRedirect::insertRefresh()
 {
