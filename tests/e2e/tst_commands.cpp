@@ -36,16 +36,20 @@ public:
     /// Waits for another process of the same executable besides the known one.
     bool waitFor(const ProgramFolder &folder, qint64 known)
     {
-        return QTest::qWaitFor([&] { return find(folder.executable(), known); }, patience);
+        m_executable = folder.executable();
+        m_known = known;
+        return QTest::qWaitFor([&] { return find(); }, patience);
     }
     /// Waits until the process shows a window with that title; returns the window's state as the window manager reports
     /// it.
-    QByteArray windowState(const QString &title) const
+    QByteArray windowState(const QString &title)
     {
         QByteArray state;
         // The window manager sets the state a moment after the window is shown.
         const bool told = QTest::qWaitFor(
             [&] {
+                // What was found first may have been a fork on the way to the new process.
+                find();
                 const QByteArray window = outputOf(u"xdotool"_s,
                                                    {u"search"_s, u"--all"_s, u"--pid"_s, QString::number(m_pid),
                                                     u"--name"_s, u'^' + QRegularExpression::escape(title) + u'$'});
@@ -58,12 +62,14 @@ public:
     }
 
 private:
-    bool find(const QString &executable, qint64 known)
+    /// Looks for the process among those that run now.
+    bool find()
     {
+        m_pid = 0;
         const QStringList entries = QDir(u"/proc"_s).entryList(QDir::Dirs);
         for (const QString &entry : entries) {
             const int pid = entry.toInt();
-            if (pid > 0 && pid != known && QFile::symLinkTarget(u"/proc/"_s + entry + u"/exe"_s) == executable)
+            if (pid > 0 && pid != m_known && QFile::symLinkTarget(u"/proc/"_s + entry + u"/exe"_s) == m_executable)
                 m_pid = pid;
         }
         return m_pid > 0;
@@ -77,6 +83,8 @@ private:
         return process.readAllStandardOutput().trimmed();
     }
 
+    QString m_executable;
+    qint64 m_known = 0;
     int m_pid = 0;
 };
 
