@@ -41,7 +41,8 @@ void RecoveryBar::answered(const LeftCopy &copy)
 void RecoveryBar::fill()
 {
     QList<NoticeLine> shown;
-    for (const LeftCopy &copy : m_copies.first(qMin(static_cast<qsizetype>(lines), m_copies.size()))) {
+    const QList<LeftCopy> copies = m_copies.first(qMin(static_cast<qsizetype>(lines), m_copies.size()));
+    for (const LeftCopy &copy : copies) {
         const qsizetype number = shown.size();
         const QString text = u"%1 was not saved when the program ended (started %2)."_s.arg(
             copy.name, QLocale::system().toString(copy.began, QLocale::ShortFormat));

@@ -10,7 +10,6 @@
 #include <array>
 #include <cmath>
 #include <initializer_list>
-#include <ranges>
 
 namespace zephira {
 
@@ -53,11 +52,13 @@ bool isVisible(const QPixmap &pixmap, const QColor &background)
 QColor bestOn(std::initializer_list<QColor> backgrounds, std::initializer_list<QColor> colours)
 {
     const auto worst = [&](const QColor &colour) {
-        return std::ranges::min(backgrounds | std::views::transform([&](const QColor &background) {
-                                    return contrast(colour, background);
-                                }));
+        qreal least = contrast(colour, *backgrounds.begin());
+        for (const QColor &background : backgrounds)
+            least = std::min(least, contrast(colour, background));
+        return least;
     };
-    return *std::ranges::max_element(colours, {}, worst);
+    const auto isWorse = [&](const QColor &one, const QColor &other) { return worst(one) < worst(other); };
+    return std::max(colours, isWorse);
 }
 
 QPixmap faint(const QPixmap &pixmap)

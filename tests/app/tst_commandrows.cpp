@@ -152,7 +152,8 @@ private Q_SLOTS:
         Menus &menus = bench.window->menus();
         QVERIFY(disconnect(&menus, &Menus::chosen, nullptr, nullptr));
         connect(&menus, &Menus::chosen, this, note);
-        for (auto *bar : bench.window->findChildren<CommandToolBar *>()) {
+        const QList<CommandToolBar *> toolBars = bench.window->findChildren<CommandToolBar *>();
+        for (auto *bar : toolBars) {
             QVERIFY(disconnect(bar, &CommandToolBar::chosen, nullptr, nullptr));
             connect(bar, &CommandToolBar::chosen, this, note);
         }

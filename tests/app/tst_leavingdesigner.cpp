@@ -155,7 +155,7 @@ void TstLeavingDesigner::nothingIsLost()
         }
         const QString text = run.text();
         QVERIFY2(text.count(run.word(u"word")) == 1, name + ": " + text.toUtf8());
-        for (const QString &wanted : run.wanted)
+        for (const QString &wanted : std::as_const(run.wanted))
             QVERIFY2(text.count(wanted) == (act == other ? 2 : 1),
                      name + ": " + wanted.toUtf8() + ": " + text.toUtf8());
         QCOMPARE(text.count(u"<br>"_s), breaks + run.breaks);

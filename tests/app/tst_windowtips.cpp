@@ -43,7 +43,8 @@ void (EditingControl::*editOf(const Command &command))()
 /// The keys that choose from a menu what the button does, or what it opens.
 QStringView keysFor(QStringView key, const Command &command)
 {
-    for (const MenuItem *row : rowsWithKeys(menuBarTable())) {
+    const auto rows = rowsWithKeys(menuBarTable());
+    for (const MenuItem *row : rows) {
         const bool sameEdit = editOf(command) && editOf(command) == editOf(row->command);
         if (row->command.effect == command.effect || sameEdit || row->name == key)
             return row->shortcut;
@@ -64,8 +65,10 @@ QString keysIn(const QString &tip)
 QList<QAction *> buttonsOf(const QWidget &window)
 {
     QList<QAction *> found;
-    for (const QToolBar *bar : window.findChildren<QToolBar *>()) {
-        for (QAction *action : bar->actions()) {
+    const QList<QToolBar *> bars = window.findChildren<QToolBar *>();
+    for (const QToolBar *bar : bars) {
+        const QList<QAction *> actions = bar->actions();
+        for (QAction *action : actions) {
             if (!action->isSeparator() && !action->text().isEmpty())
                 found.append(action);
         }
@@ -75,7 +78,8 @@ QList<QAction *> buttonsOf(const QWidget &window)
 
 QString barOf(const QAction &action)
 {
-    for (const QObject *holder : action.associatedObjects()) {
+    const QList<QObject *> holders = action.associatedObjects();
+    for (const QObject *holder : holders) {
         if (qobject_cast<const QToolBar *>(holder))
             return holder->objectName();
     }
@@ -85,7 +89,8 @@ QString barOf(const QAction &action)
 QStringList namedKeys(const QWidget &window)
 {
     QStringList found;
-    for (const QAction *action : buttonsOf(window)) {
+    const QList<QAction *> buttons = buttonsOf(window);
+    for (const QAction *action : buttons) {
         if (const QString keys = keysIn(action->toolTip()); !keys.isEmpty())
             found.append(u"%1 %2 %3"_s.arg(barOf(*action), action->objectName(), keys));
     }

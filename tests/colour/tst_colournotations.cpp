@@ -180,7 +180,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, changes);
         EchoingBoxes boxes;
-        for (const QString &change : changes.split(u' ')) {
+        const QStringList steps = changes.split(u' ');
+        for (const QString &change : steps) {
             const QString box = change.section(u'=', 0, 0);
             const Notation notation = box.startsWith(u'h') ? Notation::Hex
                 : box.startsWith(u'r')                     ? Notation::Rgb

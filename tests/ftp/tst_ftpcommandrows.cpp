@@ -64,7 +64,8 @@ private Q_SLOTS:
         std::vector<const FtpMenuItem *> chosen;
         connect(&menus, &FtpMenus::chosen, this, [&](const FtpMenuItem &item) { chosen.push_back(&item); });
         QHash<QString, FtpEffect> effects;
-        for (QAction *action : choosable(openActions(bench))) {
+        const QList<QAction *> choices = choosable(openActions(bench));
+        for (QAction *action : choices) {
             chosen.clear();
             action->trigger();
             QCOMPARE(chosen.size(), static_cast<std::size_t>(1));
