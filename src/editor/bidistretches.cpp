@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bidistretches.h"
 
+#include "files/utf8.h"
+
 #include <QChar>
 
 #include <algorithm>
@@ -82,7 +84,7 @@ Effect effectOf(char32_t code)
 
 void forEachRightToLeft(QByteArrayView utf8, const std::function<void(char32_t, QByteArrayView)> &found)
 {
-    for (qsizetype i = 0; i < utf8.size(); ++i) {
+    for (qsizetype i = asciiLength(utf8); i < utf8.size(); ++i, i += asciiLength(utf8.sliced(i))) {
         if (!mayBegin(byteAt(utf8, i)))
             continue;
         const Character c = characterAt(utf8, i);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/buffertext.h"
 
+#include "files/utf8.h"
+
 #include <QStringDecoder>
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 
 namespace zephira {
 
@@ -64,26 +65,15 @@ LineEnds mostFrequentLineEnd(QByteArrayView utf8)
 
 qsizetype utf16Length(QByteArrayView utf8)
 {
-    // Every byte except continuation bytes counts one, and the first byte of a four-byte sequence counts two. The
-    // compiler vectorises blocks of a fixed size whose sums fit into a byte, which matters because a large file is
-    // counted when it is loaded.
-    constexpr qsizetype lanes = 32;
-    constexpr qsizetype rows = 127;
-    const char *byte = utf8.data();
-    const char *const end = byte + utf8.size();
     qsizetype units = 0;
-    while (end - byte >= lanes * rows) {
-        std::array<quint8, lanes> sums{};
-        for (qsizetype row = 0; row < rows; ++row, byte += lanes) {
-            for (qsizetype lane = 0; lane < lanes; ++lane) {
-                sums[static_cast<std::size_t>(lane)] = static_cast<quint8>(
-                    sums[static_cast<std::size_t>(lane)] + static_cast<int>(startsCharacter(byte[lane]))
-                    + static_cast<int>(startsSurrogatePair(byte[lane])));
-            }
-        }
-        units += std::accumulate(sums.begin(), sums.end(), static_cast<qsizetype>(0));
+    for (const char *byte = utf8.begin(); byte != utf8.end();) {
+        const qsizetype ascii = asciiLength({byte, utf8.end() - byte});
+        units += ascii;
+        // Every other byte except continuation bytes counts one, and the first byte of a four-byte sequence counts two.
+        for (byte += ascii; byte != utf8.end() && static_cast<unsigned char>(*byte) >= 0x80; ++byte)
+            units += static_cast<int>(startsCharacter(*byte)) + static_cast<int>(startsSurrogatePair(*byte));
     }
-    return units + std::count_if(byte, end, startsCharacter) + std::count_if(byte, end, startsSurrogatePair);
+    return units;
 }
 
 qsizetype byteOffset(QByteArrayView utf8, qsizetype utf16)

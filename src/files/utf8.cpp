@@ -5,12 +5,11 @@
 
 namespace zephira {
 
-namespace {
-
-/// Skips ASCII, in large blocks first.
-const char *skipAscii(const char *next, const char *end)
+qsizetype asciiLength(QByteArrayView bytes)
 {
     constexpr quint64 highBits = 0x8080808080808080;
+    const char *next = bytes.begin();
+    const char *const end = bytes.end();
     while (end - next >= 32) {
         quint64 words[4];
         std::memcpy(words, next, sizeof words);
@@ -27,10 +26,8 @@ const char *skipAscii(const char *next, const char *end)
     }
     while (next != end && static_cast<unsigned char>(*next) < 0x80)
         ++next;
-    return next;
+    return next - bytes.begin();
 }
-
-} // namespace
 
 std::optional<char32_t> Utf8Reader::next()
 {
@@ -60,15 +57,14 @@ std::optional<char32_t> Utf8Reader::next()
 
 bool isValidUtf8(QByteArrayView bytes)
 {
-    const char *next = bytes.begin();
-    while ((next = skipAscii(next, bytes.end())) != bytes.end()) {
-        Utf8Reader reader({next, bytes.end() - next});
+    while (!(bytes = bytes.sliced(asciiLength(bytes))).isEmpty()) {
+        Utf8Reader reader(bytes);
         // After one non-ASCII character more are likely, so the whole run is read character by character.
         while (!reader.atEnd() && static_cast<unsigned char>(*reader.rest().begin()) >= 0x80) {
             if (!reader.next())
                 return false;
         }
-        next = reader.rest().begin();
+        bytes = reader.rest();
     }
     return true;
 }

@@ -8,8 +8,11 @@
 
 namespace zephira {
 
+/// How many bytes before the first one that isn't ASCII; large blocks are compared at once.
+qsizetype asciiLength(QByteArrayView bytes);
+
 /// Whether the bytes are strictly valid UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF. Noncharacters
-/// and NUL are allowed. Text that is mostly ASCII is read eight bytes at a time.
+/// and NUL are allowed. Fast for text that is mostly ASCII.
 bool isValidUtf8(QByteArrayView bytes);
 
 /// Walks through UTF-8 code point by code point.
