@@ -6,13 +6,13 @@
 #include "core/itemroles.h"
 #include "core/prompts.h"
 #include "core/vbtext.h"
-#include "ftp/fileimages.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpconnection.h"
 #include "ftp/ftpdesk.h"
-#include "ftp/ftpimages.h"
 #include "ftp/siteprofile.h"
 #include "ui_frmconnect.h"
+#include "widgets/fileicons.h"
+#include "widgets/fileimages.h"
 #include "widgets/themeicon.h"
 
 #include <QKeyEvent>
@@ -94,7 +94,7 @@ void FrmConnect::buildTree()
     auto *root = new QTreeWidgetItem(tree, {u"Profiles"_s});
     root->setData(0, KeyRole, rootKey);
     root->setIcon(0, themeIcon(u"folder-network"_s, QStyle::SP_DirOpenIcon));
-    const QIcon picture = ftpImage(rootImage);
+    const QIcon picture = fileIcon(rootImage);
     const QStringList files = m_ui->File1->entries();
     for (const QString &file : files) {
         auto *item = new QTreeWidgetItem(root, {file});

@@ -6,14 +6,14 @@
 #include "core/errorstyles.h"
 #include "core/formopener.h"
 #include "core/prompts.h"
-#include "ftp/dirlistbox.h"
-#include "ftp/filelistview.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpmenus.h"
 #include "ftp/localpane.h"
 #include "ftp/remotepane.h"
 #include "ftp/sessionlogfile.h"
 #include "ui_frmmainftp.h"
+#include "widgets/dirlistbox.h"
+#include "widgets/filelistview.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/ftpcommandtables.h"
 
-#include "ftp/filelistmode.h"
 #include "ftp/ftpconnection.h"
 #include "ftp/ftpwindowcommands.h"
 #include "ftp/localcommands.h"
 #include "ftp/remotecommands.h"
+#include "widgets/filelistmode.h"
 
 #include <string_view>
 

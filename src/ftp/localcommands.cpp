@@ -8,13 +8,13 @@
 #include "core/shell.h"
 #include "core/vbtext.h"
 #include "ftp/extensionchange.h"
-#include "ftp/fileimages.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/localview.h"
 #include "ftp/programdata.h"
 #include "ftp/sessionlogfile.h"
 #include "ftp/shownfolder.h"
+#include "widgets/fileimages.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/localpane.h"
 
-#include "ftp/dirlistbox.h"
-#include "ftp/filelistview.h"
+#include "widgets/dirlistbox.h"
 #include "widgets/drivebox.h"
 #include "widgets/filelistbox.h"
+#include "widgets/filelistview.h"
 
 #include <QAction>
 #include <QEvent>

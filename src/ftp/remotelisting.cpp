@@ -2,8 +2,8 @@
 #include "ftp/remotelisting.h"
 
 #include "core/vbtext.h"
-#include "ftp/fileimages.h"
 #include "ftp/safenames.h"
+#include "widgets/fileimages.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ftp/filerow.h"
 #include "ftp/internetoperations.h"
+#include "widgets/filerow.h"
 
 #include <QStringList>
 

@@ -2,9 +2,9 @@
 #include "ftp/remotepane.h"
 
 #include "core/itemroles.h"
-#include "ftp/fileimages.h"
-#include "ftp/filelistview.h"
-#include "ftp/ftpimages.h"
+#include "widgets/fileicons.h"
+#include "widgets/fileimages.h"
+#include "widgets/filelistview.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -60,7 +60,7 @@ void RemotePane::clearTree()
 
 void RemotePane::addRoot()
 {
-    m_parts.tree.addTopLevelItem(makeItem(remoteRootKey.toString(), remoteRootText.toString(), ftpImage(rootImage)));
+    m_parts.tree.addTopLevelItem(makeItem(remoteRootKey.toString(), remoteRootText.toString(), fileIcon(rootImage)));
 }
 
 std::optional<RemoteNode> RemotePane::selectedNode() const
@@ -96,7 +96,7 @@ void RemotePane::addFolders(const QString &parentKey, const QStringList &names)
     QSet<QString> present;
     for (int i = 0; i < parent->childCount(); ++i)
         present.insert(keyOf(*parent->child(i)));
-    const QIcon icon = ftpFolderImage();
+    const QIcon icon = folderIcon();
     QList<QTreeWidgetItem *> items;
     for (const QString &name : names) {
         const QString key = parentKey + name + u'/';

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ftp/filerow.h"
+#include "widgets/filerow.h"
 
 #include <QStringList>
 

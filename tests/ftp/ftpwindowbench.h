@@ -2,11 +2,11 @@
 #pragma once
 
 #include "core/itemroles.h"
-#include "ftp/dirlistbox.h"
-#include "ftp/filelistview.h"
-#include "ftp/filerowsmodel.h"
 #include "ftp/ftpbench.h"
 #include "ftp/ftpdesk.h"
+#include "widgets/dirlistbox.h"
+#include "widgets/filelistview.h"
+#include "widgets/filerowsmodel.h"
 
 #include <QAction>
 #include <QComboBox>

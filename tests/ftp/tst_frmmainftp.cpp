@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/itemroles.h"
-#include "ftp/dirlistbox.h"
-#include "ftp/filelistview.h"
-#include "ftp/filerowsmodel.h"
 #include "ftp/ftpdesk.h"
 #include "ftp/ftpwindowbench.h"
 #include "ftp/sessionlog.h"
 #include "support/testregistry.h"
+#include "widgets/dirlistbox.h"
+#include "widgets/filelistview.h"
+#include "widgets/filerowsmodel.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/itemroles.h"
-#include "ftp/filelistview.h"
 #include "ftp/ftpbench.h"
 #include "ftp/ftpserver.h"
 #include "ftp/net/netoperations.h"
 #include "support/testregistry.h"
+#include "widgets/filelistview.h"
 
 #include <QAction>
 #include <QLineEdit>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/filelistview.h"
+#include "widgets/filelistview.h"
 
-#include "ftp/filerowsmodel.h"
-#include "ftp/ftpimages.h"
+#include "widgets/fileicons.h"
+#include "widgets/filerowsmodel.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -110,7 +110,7 @@ private:
 
 FileListView::FileListView(QWidget *parent)
     : QTreeView(parent)
-    , m_model(new FileRowsModel(&ftpImage, this))
+    , m_model(new FileRowsModel(&fileIcon, this))
     , m_icons(new IconList(this, [this] { Q_EMIT listClicked(); }))
 {
     setModel(m_model);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ftp/filelistmode.h"
-#include "ftp/filerow.h"
+#include "widgets/filelistmode.h"
+#include "widgets/filerow.h"
 
 #include <QTreeView>
 

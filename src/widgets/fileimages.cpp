@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/fileimages.h"
+#include "widgets/fileimages.h"
 
 #include "core/paths.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/dirlistbox.h"
+#include "widgets/dirlistbox.h"
 
 #include "core/itemroles.h"
 #include "core/paths.h"
-#include "ftp/fileimages.h"
-#include "ftp/ftpimages.h"
+#include "widgets/fileicons.h"
+#include "widgets/fileimages.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -60,7 +60,7 @@ void DirListBox::refresh()
 void DirListBox::fill()
 {
     clear();
-    const QIcon open = ftpImage(openFolderImage);
+    const QIcon open = fileIcon(openFolderImage);
     const auto makeItem = [](const QString &path, const QString &caption, const QIcon &icon) {
         auto *item = new QTreeWidgetItem({caption});
         item->setIcon(0, icon);
@@ -76,7 +76,7 @@ void DirListBox::fill()
         current = item;
     }
 
-    const QIcon closed = ftpImage(folderImage);
+    const QIcon closed = fileIcon(folderImage);
     const QString inside = withSlash(m_path);
     QList<QTreeWidgetItem *> items;
     const QStringList names = QDir(m_path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/filerowsmodel.h"
+#include "widgets/filerowsmodel.h"
 
 #include <algorithm>
 #include <numeric>

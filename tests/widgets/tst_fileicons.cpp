@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/icons.h"
 #include "commands/iconstates.h"
-#include "ftp/fileimages.h"
-#include "ftp/ftpimages.h"
 #include "support/palettes.h"
 #include "support/testregistry.h"
+#include "widgets/fileicons.h"
+#include "widgets/fileimages.h"
 
 #include <QApplication>
 #include <QScopeGuard>
@@ -13,7 +13,7 @@
 using namespace zephira;
 
 /// The pictures of files and folders.
-class TstFtpImages : public QObject
+class TstFileIcons : public QObject
 {
     Q_OBJECT
 
@@ -39,9 +39,9 @@ private Q_SLOTS:
         const auto restore = qScopeGuard([&] { QApplication::setPalette(before); });
         QApplication::setStyle(new IconStates);
         const IconTheme theme(*qApp);
-        std::vector<QIcon> icons{ftpFolderImage()};
+        std::vector<QIcon> icons{folderIcon()};
         for (int number = 1; number <= openFolderImage; ++number)
-            icons.push_back(ftpImage(number));
+            icons.push_back(fileIcon(number));
         for (const auto &[name, palette] : desktopPalettes()) {
             QApplication::setPalette(palette);
             for (std::size_t i = 0; i < icons.size(); ++i) {
@@ -69,12 +69,12 @@ private Q_SLOTS:
         const auto look = [](const QIcon &icon, QIcon::Mode mode) {
             return icon.pixmap(QSize(16, 16), mode).toImage();
         };
-        const QIcon folder = ftpFolderImage();
-        QCOMPARE(look(folder, QIcon::Normal), look(ftpImage(folderImage), QIcon::Normal));
-        QCOMPARE(look(folder, QIcon::Selected), look(ftpImage(openFolderImage), QIcon::Selected));
-        QVERIFY(look(folder, QIcon::Normal) != look(ftpImage(openFolderImage), QIcon::Normal));
+        const QIcon folder = folderIcon();
+        QCOMPARE(look(folder, QIcon::Normal), look(fileIcon(folderImage), QIcon::Normal));
+        QCOMPARE(look(folder, QIcon::Selected), look(fileIcon(openFolderImage), QIcon::Selected));
+        QVERIFY(look(folder, QIcon::Normal) != look(fileIcon(openFolderImage), QIcon::Normal));
     }
 };
 
-ZEPHIRA_TEST(TstFtpImages)
-#include "tst_ftpimages.moc"
+ZEPHIRA_TEST(TstFileIcons)
+#include "tst_fileicons.moc"

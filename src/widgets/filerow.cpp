@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/filerow.h"
+#include "widgets/filerow.h"
 
 #include <numeric>
 

@@ -7,9 +7,9 @@ namespace zephira {
 
 /// A picture of the image lists by its number, from 1 to 13, in a large and a small size; see fileimages.h for the
 /// meaning of the numbers. If the icon theme lacks the picture, the application's style provides one.
-QIcon ftpImage(int number);
+QIcon fileIcon(int number);
 
 /// The picture of a folder in the tree; it differs while the folder is selected.
-QIcon ftpFolderImage();
+QIcon folderIcon();
 
 } // namespace zephira

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/ftpimages.h"
+#include "widgets/fileicons.h"
 
-#include "ftp/fileimages.h"
+#include "widgets/fileimages.h"
 #include "widgets/themeicon.h"
 
 #include <QIconEngine>
@@ -69,15 +69,15 @@ private:
 
 } // namespace
 
-QIcon ftpImage(int number)
+QIcon fileIcon(int number)
 {
     const ImageRow &row = images[number - 1];
     return themeIcon(row.icon.toString(), row.fallback);
 }
 
-QIcon ftpFolderImage()
+QIcon folderIcon()
 {
-    return QIcon(new FolderEngine(ftpImage(folderImage), ftpImage(openFolderImage)));
+    return QIcon(new FolderEngine(fileIcon(folderImage), fileIcon(openFolderImage)));
 }
 
 } // namespace zephira
