@@ -3,7 +3,7 @@
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
 #include "files/iniconfiguration.h"
-#include "ftp/ftpserver.h"
+#include "ftp/net/ftpserver.h"
 #include "support/testregistry.h"
 
 #include <QFile>

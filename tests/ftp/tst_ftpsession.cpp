@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/itemroles.h"
 #include "ftp/ftpbench.h"
-#include "ftp/ftpserver.h"
+#include "ftp/net/ftpserver.h"
 #include "ftp/net/netoperations.h"
 #include "support/testregistry.h"
 #include "widgets/filelistview.h"

@@ -16,6 +16,22 @@ namespace {
 
 constexpr auto licence = "// SPDX-License-Identifier: GPL-3.0-or-later\n"_L1;
 
+/// The folders of tests that have no counterpart in the sources, because they test all of them or help to.
+const QRegularExpression testsOfTheWhole(u"^(data|e2e|forms|fuzz|layers|probes|scripts|support)$"_s);
+
+/// The folders below `root` that build something, however deep, relative to it.
+QStringList foldersWithTargets(const QDir &root)
+{
+    QStringList result;
+    QDirIterator files(root.path(), {u"CMakeLists.txt"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString folder = root.relativeFilePath(QFileInfo(files.next()).path());
+        if (folder != u"."_s)
+            result.append(folder);
+    }
+    return result;
+}
+
 } // namespace
 
 /// The rules for the sources, checked on every source, and on small examples that break them.
@@ -63,17 +79,39 @@ private Q_SLOTS:
     {
         const QDir sources(sourcePath(u"src"_s));
         const QDir tests(sourcePath(u"tests"_s));
-        const QStringList all = folders();
-        for (const QString &folder : all)
+        const QStringList ours = foldersWithTargets(sources);
+        QVERIFY(ours.contains(u"ftp/net"_s));
+        for (const QString &folder : ours)
             QVERIFY2(tests.exists(folder + u"/CMakeLists.txt"_s), qPrintable(folder + u" has no tests"_s));
-        // These folders have no counterpart in the sources.
-        static const QRegularExpression others(u"^(data|e2e|forms|fuzz|layers|probes|scripts|support)$"_s);
-        QDirIterator files(tests.path(), {u"CMakeLists.txt"_s}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QString folder = tests.relativeFilePath(QFileInfo(files.next()).path());
-            if (!folder.contains(others))
-                QVERIFY2(sources.exists(folder), qPrintable(u"the sources have no folder "_s + folder));
+        const QStringList theirs = foldersWithTargets(tests);
+        for (const QString &folder : theirs)
+            QVERIFY2(ours.contains(folder) || folder.contains(testsOfTheWhole),
+                     qPrintable(u"the sources have no folder "_s + folder));
+    }
+
+    void eachTestLiesBesideWhatItTests()
+    {
+        const QDir tests(sourcePath(u"tests"_s));
+        const QStringList folders = foldersWithTargets(tests);
+        int found = 0;
+        QStringList strangers;
+        for (const QString &folder : folders) {
+            if (folder.contains(testsOfTheWhole))
+                continue;
+            const QDir place(tests.filePath(folder));
+            const QRegularExpression own(u"^#include \"%1/\\w+\\.h\""_s.arg(folder),
+                                         QRegularExpression::MultilineOption);
+            const QStringList files = place.entryList({u"tst_*.cpp"_s}, QDir::Files);
+            for (const QString &name : files) {
+                QFile file(place.filePath(name));
+                QVERIFY(file.open(QIODevice::ReadOnly));
+                if (!QString::fromUtf8(file.readAll()).contains(own))
+                    strangers.append(folder + u'/' + name);
+                ++found;
+            }
         }
+        QVERIFY(found > 100);
+        QVERIFY2(strangers.isEmpty(), qPrintable(u"these include nothing of their folder: "_s + strangers.join(u' ')));
     }
 
     void logicLinksLogic()

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/netclient.h"
-#include "ftp/scriptedserver.h"
+#include "ftp/net/netclient.h"
+#include "ftp/net/scriptedserver.h"
 #include "support/testregistry.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/ftpserver.h"
+#include "ftp/net/ftpserver.h"
 
 #include "ftp/net/hostlookup.h"
 #include "ftp/net/socket.h"
@@ -121,7 +121,7 @@ QStringList FtpServer::command() const
     if (m_kind == Kind::Vsftpd)
         return {u"/usr/sbin/vsftpd"_s, m_root.filePath(u"vsftpd.conf"_s)};
     return {u"/usr/bin/python3"_s,
-            sourcePath(u"tests/ftp/ftpserver.py"_s),
+            sourcePath(u"tests/ftp/net/ftpserver.py"_s),
             m_host,
             QString::number(m_port),
             user(),

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/ftpserver.h"
-#include "ftp/netclient.h"
+#include "ftp/net/ftpserver.h"
+#include "ftp/net/netclient.h"
 #include "support/testregistry.h"
 
 #include <QDir>

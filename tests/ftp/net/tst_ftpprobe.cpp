@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/ftpserver.h"
-#include "ftp/scriptedserver.h"
+#include "ftp/net/ftpserver.h"
+#include "ftp/net/scriptedserver.h"
 #include "support/testregistry.h"
 
 #include <QFile>

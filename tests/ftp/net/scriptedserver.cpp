@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/scriptedserver.h"
+#include "ftp/net/scriptedserver.h"
 
 #include "ftp/net/hostlookup.h"
 
