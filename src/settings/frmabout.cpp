@@ -2,7 +2,6 @@
 #include "settings/frmabout.h"
 
 #include "core/errorstyles.h"
-#include "core/filestore.h"
 #include "core/prompts.h"
 #include "core/shell.h"
 #include "settings/systeminformation.h"
@@ -43,9 +42,7 @@ frmAbout::frmAbout(const AppContext &context, QWidget *owner)
 {
     m_ui->setupUi(this);
     m_ui->lblVersion->setText(u"Version "_s + QStringLiteral(ZEPHIRA_VERSION));
-    const QString picture = context.appPath + u"/zephira.svg"_s;
-    const QIcon icon = context.files.FileExists(picture) ? QIcon(picture) : windowIcon();
-    m_ui->picIcon->setPixmap(icon.pixmap(QSize(pictureSide, pictureSide), devicePixelRatioF()));
+    m_ui->picIcon->setPixmap(windowIcon().pixmap(QSize(pictureSide, pictureSide), devicePixelRatioF()));
     addCredits();
 
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAbout::accept);

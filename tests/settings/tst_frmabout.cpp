@@ -4,7 +4,10 @@
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QPixmap>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -18,6 +21,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void texts();
+    void pictureOfTheProgram();
     void creditOpensItsAddress_data();
     void creditOpensItsAddress();
     void creditThatCannotBeOpened();
@@ -53,6 +57,18 @@ void TstFrmAbout::texts()
     QCOMPARE(m_form->value(u"lblPurposeQuestion"_s), u"What does it do?"_s);
     QVERIFY(!m_form->value(u"lblNameAnswer"_s).isEmpty());
     QVERIFY(!m_form->value(u"lblPurposeAnswer"_s).isEmpty());
+}
+
+void TstFrmAbout::pictureOfTheProgram()
+{
+    QPixmap picture(96, 96);
+    picture.fill(QColor(0x20, 0x80, 0xc0));
+    const auto restore = qScopeGuard([before = QApplication::windowIcon()] { QApplication::setWindowIcon(before); });
+    QApplication::setWindowIcon(picture);
+    cleanup();
+    init();
+    const QPixmap shown = m_form->get<QLabel>(u"picIcon"_s).pixmap(Qt::ReturnByValue);
+    QCOMPARE(shown.toImage().convertedTo(QImage::Format_RGB32), picture.toImage().convertedTo(QImage::Format_RGB32));
 }
 
 void TstFrmAbout::creditOpensItsAddress_data()
