@@ -71,8 +71,17 @@ constexpr Rule codeRules[] = {
     // app/program.cpp creates the only store. The transfer sends files of any size in blocks, while the store handles
     // whole files, and the designer reads resources that are compiled into it. Names, dates and folders may be used
     // anywhere.
-    {uR"((?<!include <)\b(QFile|QSaveFile|QTemporaryFile|DiskFileStore)\b(?!\s*::)|(?<![:\w])::open\s*\(|\bfopen\s*\(|\bi?o?fstream\b)",
+    {uR"((?<!include <)\b(QFile|QSaveFile|QTemporaryFile|QTemporaryDir|QLockFile|QSettings|DiskFileStore)\b(?!\s*::)|(?<![:\w])::open(at)?\s*\(|\bQFile\s*::\s*copy\b|\bmkstemp\b|\bfopen\s*\(|\bi?o?fstream\b)",
      u"files/ app/program.cpp ftp/transferengine. web/designer/designerpage.cpp", u"only files opens files"},
+    // Pictures are read from the bytes that the store gives. These readers and constructors open a file by its name; a
+    // text rule can't see types, so that icons are the strictest: from an engine, a picture or another icon alone. The
+    // program's own icon is compiled into it.
+    {uR"((?<!include <)\bQ(Movie|SvgRenderer)\b|\bQImage(Reader|Writer)(\s+\w+)?\s*[({]\s*[^&\s])", u"",
+     u"a picture is read from bytes"},
+    {uR"(\bQIcon(\s+\w+)?[({]\s*(?!new\b|(m_)?(pixmap|icon)\b|const\b|[)}]|\w+(\s+\w|\s*&|\s*\)\s*>))|\baddFile\s*\()",
+     u"app/program.cpp", u"an icon isn't read from a file"},
+    {uR"(\bQ(Pixmap|Image|Picture)(\s+\w+)?[({]\s*([\w.]+\s*(\+|->|::)\s*)*(\w*(path|file|name)|u?_s)\s*[)},]|(pixmap|image|picture)\w*(\.|->)load\s*\()",
+     u"", u"a picture is read from bytes"},
 };
 
 constexpr auto guiModules = uR"(^<Qt(Widgets|Gui|Svg|PrintSupport|Network|DBus|WebEngine\w*|WebChannel)\b)";

@@ -253,6 +253,42 @@ private Q_SLOTS:
             u"panes/a.cpp:2: only files opens files"_s);
         row("a file of C's", u"panes/a.cpp"_s, u"FILE *f = fopen(path, mode);\n"_s,
             u"panes/a.cpp:2: only files opens files"_s);
+        row("a folder for a time", u"panes/a.cpp"_s, u"QTemporaryDir folder;\n"_s,
+            u"panes/a.cpp:2: only files opens files"_s);
+        row("settings of one's own", u"panes/a.cpp"_s, u"#include <QSettings>\nQSettings settings(path);\n"_s,
+            u"panes/a.cpp:3: only files opens files"_s);
+        row("settings at home", u"files/a.cpp"_s, u"QSettings settings(path);\n"_s, {});
+        row("a lock", u"start/a.cpp"_s, u"QLockFile lock(path);\n"_s, u"start/a.cpp:2: only files opens files"_s);
+        row("a copied file", u"panes/a.cpp"_s, u"bool done = QFile::copy(a, b);\n"_s,
+            u"panes/a.cpp:2: only files opens files"_s);
+        row("a picture by its name", u"views/a.cpp"_s, u"QImageReader reader(path);\n"_s,
+            u"views/a.cpp:2: a picture is read from bytes"_s);
+        row("a picture of bytes", u"views/a.cpp"_s,
+            u"QImageReader reader(&buffer);\nint a = QImageReader::allocationLimit();\n"_s, {});
+        row("a film", u"views/a.cpp"_s, u"#include <QMovie>\nQMovie film(device);\n"_s,
+            u"views/a.cpp:3: a picture is read from bytes"_s);
+        row("a pixmap by its name", u"views/a.cpp"_s, u"QPixmap pixmap(m_context.appPath + u\"/a.png\"_s);\n"_s,
+            u"views/a.cpp:2: a picture is read from bytes"_s);
+        row("an image by its name", u"views/a.cpp"_s, u"const auto image = QImage(fileName);\n"_s,
+            u"views/a.cpp:2: a picture is read from bytes"_s);
+        row("a loaded pixmap", u"views/a.cpp"_s, u"m_pixmap.load(path);\n"_s,
+            u"views/a.cpp:2: a picture is read from bytes"_s);
+        row("a painted picture", u"views/a.cpp"_s,
+            u"QPixmap pixmap(size * ratio);\nQImage image(side, side, QImage::Format_RGB32);\n"
+            u"QPixmap inFile(const QString &path);\n"_s,
+            {});
+        row("an icon by its name", u"settings/a.cpp"_s,
+            u"const QIcon icon = there ? QIcon(picture) : windowIcon();\n"_s,
+            u"settings/a.cpp:2: an icon isn't read from a file"_s);
+        row("an icon of a resource", u"settings/a.cpp"_s, u"QIcon icon{u\":/a.svg\"_s};\n"_s,
+            u"settings/a.cpp:2: an icon isn't read from a file"_s);
+        row("the icon of the program", u"app/program.cpp"_s, u"QIcon icon{u\":/a.svg\"_s};\n"_s, {});
+        row("an icon's file", u"settings/a.cpp"_s, u"icon.addFile(path);\n"_s,
+            u"settings/a.cpp:2: an icon isn't read from a file"_s);
+        row("icons of other things", u"settings/a.cpp"_s,
+            u"QIcon a(new Engine);\nQIcon b(pixmap);\nQIcon c = ok ? QIcon() : QIcon(m_icon);\n"
+            u"QIcon iconFor(const QString &name);\nQIcon shape(QStringView name);\nstd::function<QIcon(int)> made;\n"_s,
+            {});
         row("a file at home", u"files/a.cpp"_s, u"QFile file(path);\n"_s, {});
         row("names of files", u"panes/a.cpp"_s,
             u"#include <QFile>\nbool there = QFile::exists(path) && QDialog::open();\n"_s, {});
