@@ -3,6 +3,7 @@
 
 #include "core/languages.h"
 #include "document/commondialog.h"
+#include "document/document.h"
 #include "panes/filepane.h"
 
 #include <QComboBox>
@@ -56,6 +57,11 @@ void DocumentControls::setProjectPath(const QString &path)
 QString DocumentControls::commonDialogFile() const
 {
     return m_dialog.fileName();
+}
+
+bool DocumentControls::isModified() const
+{
+    return m_document && m_document->docModified();
 }
 
 } // namespace zephira

@@ -10,6 +10,7 @@ class QComboBox;
 namespace zephira {
 
 class CommonDialog;
+class Document;
 class FilePane;
 
 /// The controls that show the document's language and project folder.
@@ -22,6 +23,8 @@ public:
     DocumentControls(const CommonDialog &dialog, FilePane &files, QObject *owner);
 
     QComboBox *languages() const { return m_languages; }
+    /// Sets the document, which depends on these controls and so is created later.
+    void attach(const Document &document) { m_document = &document; }
 
     // DocumentHost
     int languageRow() const override;
@@ -30,6 +33,7 @@ public:
     QString projectPath() const override;
     void setProjectPath(const QString &path) override;
     QString commonDialogFile() const override;
+    bool isModified() const override;
 
 Q_SIGNALS:
     /// A row was set or chosen, even if it was already selected.
@@ -39,6 +43,7 @@ private:
     const CommonDialog &m_dialog;
     FilePane &m_files;
     QComboBox *m_languages;
+    const Document *m_document = nullptr;
 };
 
 } // namespace zephira

@@ -117,7 +117,7 @@ int runProgram(QApplication &application, const QString &argument)
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     panes::registerForms(catalogue);
-    start::registerForms(catalogue);
+    start::registerForms(catalogue, recovery);
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);

@@ -25,6 +25,9 @@ public:
 
     /// The common dialog's file name: the document's full path, or empty.
     virtual QString commonDialogFile() const = 0;
+
+    /// Whether the text has changes that aren't saved.
+    virtual bool isModified() const = 0;
 };
 
 /// Whether the user has set a project folder. The folder needn't exist.

@@ -10,6 +10,7 @@
 #include "core/languages.h"
 #include "core/paths.h"
 #include "core/relativepath.h"
+#include "files/templatename.h"
 
 using namespace Qt::StringLiterals;
 
@@ -380,9 +381,8 @@ void Document::saveAsTemplate()
         m_context.prompts.tell(u"You did not enter a file name, the file will not be saved"_s);
         return;
     }
-    if (fileTitleOf(answer) != answer) {
-        m_context.prompts.tell(u"A template's name can't contain a folder: %1"_s.arg(answer), {},
-                               Question::Icon::Exclamation);
+    if (const Result<void> checked = checkTemplateName(answer); !checked) {
+        tellError(m_context.prompts, checked.error());
         return;
     }
     const Result<void> saved = m_context.editor.saveFile(m_context.appPath + u"/templates/custom/"_s + answer, false);

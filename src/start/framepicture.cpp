@@ -61,10 +61,10 @@ QRectF scaled(const Frame &frame, QSizeF page)
                   frame.height * page.height() / 100);
 }
 
-/// Lines that represent text: a list of links has short ones in the link colour.
+/// Lines that represent text: a list of links has coloured ones.
 void paintLines(QPainter &painter, QRectF area, Kind kind, const QPalette &palette)
 {
-    QColor ink = palette.color(kind == Kind::Links ? QPalette::Link : QPalette::Text);
+    QColor ink = palette.color(kind == Kind::Links ? QPalette::Highlight : QPalette::Text);
     ink.setAlphaF(kind == Kind::Links ? 0.8F : 0.35F);
     painter.setPen(QPen(ink, 1.5));
     area.adjust(6, 8, -6, -4);

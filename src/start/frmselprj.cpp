@@ -8,37 +8,30 @@
 #include "core/languages.h"
 #include "core/prompts.h"
 #include "start/customtemplates.h"
-#include "start/framepicture.h"
+#include "start/documenttext.h"
 #include "start/labeleditdelegate.h"
 #include "start/templates.h"
 #include "ui_frmselprj.h"
 #include "widgets/themeicon.h"
 
 #include <QAction>
-#include <QGridLayout>
-#include <QPushButton>
+#include <QPersistentModelIndex>
 
 using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-namespace {
-
-constexpr int textColumns = 3;
-constexpr int pictureColumns = 4;
-constexpr QSize pictureSize(104, 78);
-
-} // namespace
-
-frmselprj::frmselprj(const AppContext &context, QWidget *owner)
+frmselprj::frmselprj(const AppContext &context, RecoveryCopies &recovery, QWidget *owner)
     : QDialog(owner)
     , m_context(context)
+    , m_recovery(recovery)
     , m_templateFolder(context.appPath + u"/templates/"_s)
-    , m_customFolder(m_templateFolder + u"custom"_s)
     , m_ui(std::make_unique<Ui::frmselprj>())
 {
     m_ui->setupUi(this);
-    addTemplateButtons();
+    for (const TemplateButtons *page :
+         {m_ui->htmlPage, m_ui->framesPage, m_ui->cssPage, m_ui->webPage, m_ui->win32Page})
+        connect(page, &TemplateButtons::chosen, this, &frmselprj::useTemplate);
     listCustomTemplates();
 
     m_ui->Check1->setChecked(isSwitchedOn(context.configuration, Setting::StartDialog));
@@ -53,55 +46,27 @@ frmselprj::~frmselprj()
     m_ui->ListView2->itemDelegate()->disconnect(this);
 }
 
-void frmselprj::addTemplateButtons()
-{
-    for (const TemplateButton &button : templateButtons())
-        addButton(button);
-    // The buttons stay together at the top of a page that is larger than needed.
-    for (int page = 0; page <= static_cast<int>(TemplatePage::Win32); ++page) {
-        auto *grid = static_cast<QGridLayout *>(m_ui->SSTab1->widget(page)->layout());
-        grid->setRowStretch(grid->rowCount(), 1);
-    }
-}
-
-void frmselprj::addButton(const TemplateButton &button)
-{
-    QWidget *page = m_ui->SSTab1->widget(static_cast<int>(button.page));
-    auto *grid = static_cast<QGridLayout *>(page->layout());
-    const bool pictured = button.page == TemplatePage::Frames;
-    const int columns = pictured ? pictureColumns : textColumns;
-    const QString file = button.file.toString();
-
-    auto *control = new QPushButton(button.caption.toString(), page);
-    control->setObjectName(button.name);
-    control->setAutoDefault(false);
-    control->setAccessibleName(control->text().trimmed());
-    control->setToolTip(file.isEmpty() ? tr("Keeps the text and only sets the language") : file);
-    if (pictured) {
-        const FramePicture picture = framePicture(file, palette(), pictureSize);
-        control->setIcon(picture.icon);
-        control->setIconSize(pictureSize);
-        control->setAccessibleName(picture.description);
-        control->setToolTip(picture.description);
-    } else {
-        control->setMinimumHeight(2 * control->sizeHint().height());
-    }
-    const int index = grid->count();
-    grid->addWidget(control, index / columns, index % columns);
-    connect(control, &QPushButton::clicked, this, [this, &button] { useTemplate(button); });
-}
-
 void frmselprj::listCustomTemplates()
 {
+    m_ui->File1->setPath(m_templateFolder + u"custom"_s);
     QListWidget *list = m_ui->ListView2;
     const QIcon picture = themeIcon(u"text-x-generic"_s, QStyle::SP_FileIcon);
-    for (const QString &name : customTemplateNames(m_customFolder)) {
-        auto *item = new QListWidgetItem(picture, name, list);
+    const QStringList names = m_ui->File1->entries();
+    for (const QString &name : names) {
+        auto *item = new QListWidgetItem(picture, name);
         item->setFlags(item->flags() | Qt::ItemIsEditable);
+        list->addItem(item);
     }
+    m_ui->lblNoTemplates->setVisible(names.isEmpty());
+
     auto *delegate = new LabelEditDelegate(list);
     list->setItemDelegate(delegate);
-    connect(delegate, &LabelEditDelegate::labelEdited, this, &frmselprj::renameCustom);
+    // Only when the label's editor is gone: a message of ours would take the focus from it and end the editing again.
+    connect(delegate, &LabelEditDelegate::labelEdited, this,
+            [this](const QPersistentModelIndex &row, const QString &newName) {
+                QMetaObject::invokeMethod(
+                    this, [this, row, newName] { renameCustom(row, newName); }, Qt::QueuedConnection);
+            });
     connect(list, &QListWidget::itemDoubleClicked, this, &frmselprj::useCustomTemplate);
 
     // The keyboard equivalent of a double click.
@@ -114,14 +79,13 @@ void frmselprj::listCustomTemplates()
 
 void frmselprj::useTemplate(const TemplateButton &button)
 {
-    const QString file = button.file.toString();
-    if (!file.isEmpty()) {
-        const Result<QString> text = readTemplate(m_context.files, m_templateFolder + file);
-        if (!text) {
-            tellError(m_context.prompts, text.error(), windowTitle(), Question::Icon::Critical);
+    if (!button.file.isEmpty()) {
+        const Result<QString> text = readTemplate(m_context.files, m_templateFolder + button.file.toString());
+        const Result<void> put = text ? replaceDocumentText(m_context, m_recovery, text.value()) : text.error();
+        if (!put) {
+            tell(put.error());
             return;
         }
-        m_context.editor.setText(text.value());
     }
     m_context.document.setLanguageRow(button.language);
     accept();
@@ -131,13 +95,17 @@ void frmselprj::useCustomTemplate(const QListWidgetItem *item)
 {
     if (!item)
         return;
-    const Result<QString> text = readTemplate(m_context.files, m_customFolder + u'/' + item->text());
+    const Result<QString> text = readTemplate(m_context.files, m_ui->File1->path() + u'/' + item->text());
     if (!text) {
-        tellError(m_context.prompts, text.error(), windowTitle(), Question::Icon::Critical);
+        tell(text.error());
         return;
     }
-    if (!text.value().isEmpty())
-        m_context.editor.setText(text.value());
+    if (!text.value().isEmpty()) {
+        if (const Result<void> put = replaceDocumentText(m_context, m_recovery, text.value()); !put) {
+            tell(put.error());
+            return;
+        }
+    }
     if (const auto language = languageOfTemplate(item->text())) {
         m_context.document.setLanguageRow(language->row);
         if (!language->editorLanguage.isEmpty())
@@ -146,11 +114,19 @@ void frmselprj::useCustomTemplate(const QListWidgetItem *item)
     accept();
 }
 
-void frmselprj::renameCustom(const QString &oldName, const QString &newName)
+void frmselprj::renameCustom(const QPersistentModelIndex &row, const QString &newName)
 {
-    const Result<void> renamed = renameCustomTemplate(m_context.files, m_customFolder, oldName, newName);
-    if (!renamed)
-        tellError(m_context.prompts, renamed.error(), windowTitle(), Question::Icon::Critical);
+    const Result<void> renamed =
+        renameCustomTemplate(m_context.files, m_recovery, m_ui->File1->path(), row.data().toString(), newName);
+    if (renamed)
+        m_ui->ListView2->model()->setData(row, newName);
+    else
+        tell(renamed.error());
+}
+
+void frmselprj::tell(const Error &error)
+{
+    tellError(m_context.prompts, error, windowTitle(), Question::Icon::Critical);
 }
 
 } // namespace zephira

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "start/labeleditdelegate.h"
 
+#include <QMetaProperty>
+
 namespace zephira {
 
-void LabelEditDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+void LabelEditDelegate::setModelData(QWidget *editor, QAbstractItemModel *, const QModelIndex &index) const
 {
-    const QString oldText = index.data().toString();
-    QStyledItemDelegate::setModelData(editor, model, index);
-    Q_EMIT labelEdited(oldText, index.data().toString());
+    Q_EMIT labelEdited(index, editor->metaObject()->userProperty().read(editor).toString());
 }
 
 } // namespace zephira

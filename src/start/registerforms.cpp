@@ -8,10 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace zephira::start {
 
-void registerForms(FormCatalogue &catalogue)
+void registerForms(FormCatalogue &catalogue, RecoveryCopies &recovery)
 {
-    catalogue.add(u"frmselprj"_s,
-                  [](const AppContext &context, QWidget *owner) { return new frmselprj(context, owner); });
+    catalogue.add(u"frmselprj"_s, [&recovery](const AppContext &context, QWidget *owner) {
+        return new frmselprj(context, recovery, owner);
+    });
 }
 
 } // namespace zephira::start

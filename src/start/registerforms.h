@@ -4,10 +4,12 @@
 namespace zephira {
 
 class FormCatalogue;
+class RecoveryCopies;
 
 namespace start {
 
-void registerForms(FormCatalogue &catalogue);
+/// The copies must outlive the forms.
+void registerForms(FormCatalogue &catalogue, RecoveryCopies &recovery);
 
 } // namespace start
 } // namespace zephira

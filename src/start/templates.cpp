@@ -65,8 +65,12 @@ std::span<const TemplateButton> templateButtons()
 Result<QString> readTemplate(const FileStore &files, const QString &path)
 {
     Result<QByteArray> bytes = files.read(path);
-    if (bytes)
-        return toCrLf(QString::fromUtf8(decodeText(std::move(bytes).value()).utf8));
+    if (bytes) {
+        const QByteArray utf8 = decodeText(std::move(bytes).value()).utf8;
+        if (utf8.contains('\0'))
+            return Error{Error::Code::Malformed, u"The template file \"%1\" is not a text file."_s.arg(lastName(path))};
+        return toCrLf(QString::fromUtf8(utf8));
+    }
     if (bytes.error().code != Error::Code::NotFound)
         return bytes.error();
     return Error{

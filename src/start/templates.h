@@ -26,7 +26,8 @@ struct TemplateButton {
 /// All buttons, page by page in their visual order.
 std::span<const TemplateButton> templateButtons();
 
-/// Text of a template file, with CR LF line ends. If the file is missing, the error names file and folder.
+/// Text of a template file, with CR LF line ends. If the file is missing, the error names file and folder; a file with a
+/// NUL character isn't a text and fails, too.
 Result<QString> readTemplate(const FileStore &files, const QString &path);
 
 } // namespace zephira

@@ -53,7 +53,7 @@ WindowBench::WindowBench()
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     panes::registerForms(catalogue);
-    start::registerForms(catalogue);
+    start::registerForms(catalogue, recovery);
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     zephira::settings::registerForms(catalogue);

@@ -574,6 +574,12 @@ private Q_SLOTS:
         bench.fakes.prompts.expectTell(u"A template's name can't contain a folder: ../my.html"_s, {},
                                        Question::Icon::Exclamation);
         bench.document.saveAsTemplate();
+        bench.fakes.prompts.expectInput(request, u"my\tpage.html"_s);
+        bench.fakes.prompts.expectTell(
+            u"A template's name can't contain a line end, a tab or any other control character."_s, {},
+            Question::Icon::Exclamation);
+        bench.document.saveAsTemplate();
+        QCOMPARE(bench.fakes.files.contents.size(), 1U);
     }
 
     void clearClipboard()

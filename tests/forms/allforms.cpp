@@ -48,13 +48,14 @@ FormCatalogue allForms()
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     panes::registerForms(catalogue);
-    start::registerForms(catalogue);
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);
     tools::registerForms(catalogue);
     const auto ftpParts = std::make_shared<FtpParts>();
     ftp::registerForms(catalogue, {ftpParts, &ftpParts->client});
     const auto parts = std::make_shared<EditorParts>();
+    // The viewer below, which the catalogue keeps, keeps the parts alive for both.
+    start::registerForms(catalogue, parts->recovery);
     views::registerForms(
         catalogue,
         [parts](QWidget *parent) -> EditorView {

@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/recoverycopies.h"
 #include "start/registerforms.h"
 #include "start/templates.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -31,6 +35,8 @@ private Q_SLOTS:
     void switchIsRead();
     void switchIsWrittenAtOnce();
     void cancel();
+    void tabKey_data();
+    void tabKey();
     void templateButton_data();
     void templateButton();
     void languageButtonKeepsTheText();
@@ -43,6 +49,14 @@ private Q_SLOTS:
     void customTemplateThatIsGone();
     void renaming();
     void renamingToTheOwnName();
+    void refusedName_data();
+    void refusedName();
+    void renamingWithEscape();
+    void unsavedTextIsKept();
+    void unsavedTextThatCannotBeKeptStays();
+    void pictureAsATemplate();
+    void noTemplates();
+    void tenThousandTemplates();
     void closingWhileALabelIsEdited();
 
 private:
@@ -50,9 +64,11 @@ private:
     void addCustom(const QString &name, const QByteArray &content = "text");
     void doubleClick(const QString &row);
     void rename(const QString &row, const QString &name);
+    QStringList rows() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<TestContext> m_world;
+    std::unique_ptr<RecoveryCopies> m_recovery;
     std::unique_ptr<LivingForm> m_form;
 };
 
@@ -61,6 +77,7 @@ void TstFrmSelPrj::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_world = std::make_unique<TestContext>();
     m_world->context.appPath = m_folder->path();
+    m_recovery = std::make_unique<RecoveryCopies>(m_folder->filePath(u"recovery"_s), m_world->files, m_world->clock);
     m_world->editor.setText(u"before"_s);
     m_world->document.row = 4;
 }
@@ -68,13 +85,14 @@ void TstFrmSelPrj::init()
 void TstFrmSelPrj::cleanup()
 {
     m_form.reset();
+    m_recovery.reset();
     m_world.reset();
 }
 
 void TstFrmSelPrj::open()
 {
     FormCatalogue catalogue;
-    start::registerForms(catalogue);
+    start::registerForms(catalogue, *m_recovery);
     m_form = std::make_unique<LivingForm>(catalogue, u"frmselprj"_s, *m_world);
 }
 
@@ -111,6 +129,15 @@ void TstFrmSelPrj::rename(const QString &row, const QString &name)
     label->setText(name);
     QTest::keyClick(label, Qt::Key_Return);
     QTRY_VERIFY(!list.isPersistentEditorOpen(item) && !list.viewport()->findChild<QLineEdit *>());
+}
+
+QStringList TstFrmSelPrj::rows() const
+{
+    const auto &list = m_form->get<QListWidget>(u"ListView2"_s);
+    QStringList texts;
+    for (int row = 0; row < list.count(); ++row)
+        texts.append(list.item(row)->text());
+    return texts;
 }
 
 void TstFrmSelPrj::tabs()
@@ -193,6 +220,39 @@ void TstFrmSelPrj::cancel()
     QCOMPARE(m_world->editor.text(), u"before"_s);
     QCOMPARE(m_world->document.row, 4);
     QVERIFY(m_world->configuration.log.isEmpty());
+}
+
+void TstFrmSelPrj::tabKey_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QStringList>("controls");
+    QStringList buttons[5];
+    for (const TemplateButton &row : templateButtons())
+        buttons[static_cast<int>(row.page)].append(row.name.toString());
+    for (int page = 0; page < 5; ++page)
+        QTest::addRow("page %d", page) << page << buttons[page];
+    QTest::newRow("user templates") << 5 << QStringList{u"ListView2"_s};
+    QTest::newRow("wizards") << 6 << QStringList{u"ListView1"_s};
+}
+
+/// The tab key goes from the tabs through the page in front to what stands below it, and around; Shift+Tab goes back.
+void TstFrmSelPrj::tabKey()
+{
+    QFETCH(int, page);
+    QFETCH(QStringList, controls);
+    open();
+    auto &tabs = m_form->get<QTabWidget>(u"SSTab1"_s);
+    tabs.setCurrentIndex(page);
+    tabs.tabBar()->setFocus();
+    controls.append({u"Check1"_s, u"CancelButton"_s});
+    for (const QString &control : std::as_const(controls)) {
+        m_form->key(Qt::Key_Tab);
+        QCOMPARE(m_form->focus(), control);
+    }
+    m_form->key(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), tabs.tabBar());
+    m_form->key(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(m_form->focus(), u"CancelButton"_s);
 }
 
 void TstFrmSelPrj::templateButton_data()
@@ -320,9 +380,12 @@ void TstFrmSelPrj::renaming()
     open();
     rename(u"letter.html"_s, u"mail.html"_s);
     const QString folder = m_folder->filePath(u"templates/custom/"_s);
-    QCOMPARE(m_world->files.log,
-             (QStringList{u"write "_s + folder + u"mail.html"_s, u"remove "_s + folder + u"letter.html"_s}));
+    QTRY_COMPARE(m_world->files.log,
+                 (QStringList{u"write "_s + folder + u"mail.html"_s, u"remove "_s + folder + u"letter.html"_s}));
+    QCOMPARE(rows(), QStringList{u"mail.html"_s});
     QVERIFY(m_form->isOpen());
+    doubleClick(u"mail.html"_s);
+    QCOMPARE(m_world->editor.text(), u"text"_s);
 }
 
 void TstFrmSelPrj::renamingToTheOwnName()
@@ -330,7 +393,132 @@ void TstFrmSelPrj::renamingToTheOwnName()
     addCustom(u"letter.html"_s);
     open();
     rename(u"letter.html"_s, u"letter.html"_s);
-    QVERIFY(m_world->files.contents.empty());
+    // What is left is the recovery copy.
+    QTRY_COMPARE(m_world->files.contents.size(), 1U);
+    QTRY_VERIFY(m_world->files.contents.begin()->first.startsWith(m_folder->filePath(u"recovery/disk-"_s)));
+    QCOMPARE(m_world->files.contents.begin()->second, "text");
+    QCOMPARE(m_world->files.log.size(), 3);
+}
+
+void TstFrmSelPrj::refusedName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("message");
+    const QString folder = u"A template's name can't contain a folder: "_s;
+    QTest::newRow("out of the folder") << u"../up.html"_s << folder + u"../up.html"_s;
+    QTest::newRow("backslash") << u"a\\b.html"_s << folder + u"a\\b.html"_s;
+    QTest::newRow("tab") << u"a\tb.html"_s
+                         << u"A template's name can't contain a line end, a tab or any other control character."_s;
+    QTest::newRow("no name") << u""_s << u"A template must have a name."_s;
+}
+
+void TstFrmSelPrj::refusedName()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, message);
+    addCustom(u"letter.html"_s);
+    open();
+    bool told = false;
+    m_world->prompts.expect({message, u"Select Template"_s, Question::Icon::Critical, Question::Buttons::Ok},
+                            Answer::Ok, [&told] { told = true; });
+    rename(u"letter.html"_s, name);
+    QTRY_VERIFY(told);
+    QVERIFY(m_world->files.log.isEmpty());
+    QCOMPARE(rows(), QStringList{u"letter.html"_s});
+}
+
+void TstFrmSelPrj::renamingWithEscape()
+{
+    addCustom(u"letter.html"_s);
+    open();
+    m_form->get<QTabWidget>(u"SSTab1"_s).setCurrentIndex(5);
+    auto &list = m_form->get<QListWidget>(u"ListView2"_s);
+    list.setCurrentRow(0);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_F2);
+    auto *label = list.viewport()->findChild<QLineEdit *>();
+    QVERIFY(label);
+    QTest::keyClicks(label, u"other"_s);
+    QTest::keyClick(label, Qt::Key_Escape);
+    QTRY_VERIFY(!list.viewport()->findChild<QLineEdit *>());
+    QCoreApplication::processEvents();
+    QVERIFY(m_world->files.log.isEmpty());
+    QCOMPARE(rows(), QStringList{u"letter.html"_s});
+    QVERIFY(m_form->isOpen());
+}
+
+void TstFrmSelPrj::unsavedTextIsKept()
+{
+    m_world->files.contents[m_folder->filePath(u"templates/blank.html"_s)] = "page";
+    m_world->document.modified = true;
+    open();
+    m_form->press(u"Command2"_s);
+    QCOMPARE(m_world->editor.text(), u"page"_s);
+    QVERIFY(!m_form->isOpen());
+    const QStringList log = m_world->files.log;
+    QCOMPARE(log.size(), 1);
+    QVERIFY2(log.first().startsWith(u"write "_s + m_folder->filePath(u"recovery/open-"_s)), qPrintable(log.first()));
+    QCOMPARE(m_world->files.contents.at(log.first().sliced(6)), "before");
+}
+
+void TstFrmSelPrj::unsavedTextThatCannotBeKeptStays()
+{
+    addCustom(u"letter.html"_s);
+    m_world->document.modified = true;
+    QVERIFY(QFile(m_folder->filePath(u"file"_s)).open(QIODevice::WriteOnly));
+    const QString impossible = m_folder->filePath(u"file/recovery"_s);
+    m_recovery = std::make_unique<RecoveryCopies>(impossible, m_world->files, m_world->clock);
+    open();
+    m_world->prompts.expectTell(
+        u"The document's text was not replaced, because its unsaved changes could not be backed up. The file \"%1\" could "
+        "not be saved: a part of its path is not a folder."_s.arg(impossible),
+        u"Select Template"_s, Question::Icon::Critical);
+    doubleClick(u"letter.html"_s);
+    QCOMPARE(m_world->editor.text(), u"before"_s);
+    QCOMPARE(m_world->document.row, 4);
+    QVERIFY(m_form->isOpen());
+}
+
+void TstFrmSelPrj::pictureAsATemplate()
+{
+    addCustom(u"logo.png"_s, QByteArray("\x89PNG\0", 5));
+    open();
+    m_world->prompts.expectTell(u"The template file \"logo.png\" is not a text file."_s, u"Select Template"_s,
+                                Question::Icon::Critical);
+    doubleClick(u"logo.png"_s);
+    QCOMPARE(m_world->editor.text(), u"before"_s);
+    QVERIFY(m_form->isOpen());
+}
+
+void TstFrmSelPrj::noTemplates()
+{
+    open();
+    m_form->get<QTabWidget>(u"SSTab1"_s).setCurrentIndex(5);
+    QVERIFY(m_form->get(u"lblNoTemplates"_s).isVisible());
+    m_form.reset();
+    addCustom(u"letter.html"_s);
+    open();
+    m_form->get<QTabWidget>(u"SSTab1"_s).setCurrentIndex(5);
+    QVERIFY(!m_form->get(u"lblNoTemplates"_s).isVisible());
+}
+
+void TstFrmSelPrj::tenThousandTemplates()
+{
+    for (int i = 0; i < 10'000; ++i)
+        addCustom(u"page%1.html"_s.arg(i, 5, 10, QChar(u'0')));
+    QElapsedTimer time;
+    time.start();
+    open();
+    m_form->get<QTabWidget>(u"SSTab1"_s).setCurrentIndex(5);
+    auto &list = m_form->get<QListWidget>(u"ListView2"_s);
+    list.setFocus();
+    m_form->key(Qt::Key_End);
+    QCOMPARE(list.currentRow(), 9999);
+    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
+    rename(u"page09999.html"_s, u"last.html"_s);
+    QTRY_COMPARE(list.item(9999)->text(), u"last.html"_s);
+    doubleClick(u"page00000.html"_s);
+    QCOMPARE(m_world->document.row, 1);
 }
 
 void TstFrmSelPrj::closingWhileALabelIsEdited()

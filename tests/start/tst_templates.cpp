@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/languages.h"
+#include "files/recoverycopies.h"
 #include "start/customtemplates.h"
+#include "start/documenttext.h"
 #include "start/templates.h"
 #include "support/fakes.h"
 #include "support/sourcefolder.h"
@@ -20,6 +22,7 @@ class TstTemplates : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void buttons_data();
     void buttons();
     void everyButtonOnce();
@@ -30,11 +33,48 @@ private Q_SLOTS:
     void text();
     void missingFile();
     void unreadableFile();
-    void customNames();
+    void notAText();
+    void utf16IsAText();
     void renaming();
     void renamingToTheOwnName();
+    void renamingOverAnother();
     void renamingFails();
+    void renamingWithoutAFolderForCopies();
+    void documentText();
+    void documentTextStaysWithoutACopy();
+
+private:
+    Result<void> rename(const QString &oldName, const QString &newName);
+    QList<QByteArray> kept(const QString &name) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    FakeClock m_clock;
+    MemoryFileStore m_files;
 };
+
+void TstTemplates::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_files = MemoryFileStore();
+}
+
+/// Renames a template in the folder "/c", with an empty folder for recovery copies.
+Result<void> TstTemplates::rename(const QString &oldName, const QString &newName)
+{
+    RecoveryCopies recovery(m_folder->filePath(u"recovery"_s), m_files, m_clock);
+    return renameCustomTemplate(m_files, recovery, u"/c"_s, oldName, newName);
+}
+
+/// The recovery copies of the file with that name.
+QList<QByteArray> TstTemplates::kept(const QString &name) const
+{
+    QList<QByteArray> copies;
+    for (const auto &[path, bytes] : m_files.contents) {
+        if (path.startsWith(m_folder->filePath(u"recovery/disk-"_s)) && path.endsWith(u'-' + name))
+            copies.append(bytes);
+    }
+    return copies;
+}
 
 void TstTemplates::buttons_data()
 {
@@ -190,41 +230,118 @@ void TstTemplates::unreadableFile()
     QCOMPARE(text.error().sentence, u"No."_s);
 }
 
-void TstTemplates::customNames()
+void TstTemplates::notAText()
 {
-    const QTemporaryDir folder;
-    for (const QString &name : {u"b.html"_s, u"A.txt"_s, u"noext"_s})
-        QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
-    QVERIFY(QDir(folder.path()).mkdir(u"sub"_s));
-    QCOMPARE(customTemplateNames(folder.path()), (QStringList{u"A.txt"_s, u"b.html"_s, u"noext"_s}));
-    QCOMPARE(customTemplateNames(folder.filePath(u"none"_s)), QStringList());
+    MemoryFileStore files;
+    files.contents[u"/t/logo.png"_s] = QByteArray("\x89PNG\r\n\0\1", 8);
+    const Result<QString> text = readTemplate(files, u"/t/logo.png"_s);
+    QVERIFY(!text.ok());
+    QCOMPARE(text.error().sentence, u"The template file \"logo.png\" is not a text file."_s);
+}
+
+void TstTemplates::utf16IsAText()
+{
+    MemoryFileStore files;
+    files.contents[u"/t/x.txt"_s] = QByteArray("\xff\xfe"
+                                               "a\0",
+                                               4);
+    QCOMPARE(readTemplate(files, u"/t/x.txt"_s).valueOr({}), u"a"_s);
 }
 
 void TstTemplates::renaming()
 {
-    MemoryFileStore files;
-    files.contents[u"/c/old.html"_s] = "text";
-    QVERIFY(renameCustomTemplate(files, u"/c"_s, u"old.html"_s, u"new.html"_s).ok());
-    QCOMPARE(files.log, (QStringList{u"write /c/new.html"_s, u"remove /c/old.html"_s}));
-    QCOMPARE(files.contents.at(u"/c/new.html"_s), "text");
+    m_files.contents[u"/c/old.html"_s] = "text";
+    QVERIFY(rename(u"old.html"_s, u"new.html"_s).ok());
+    QCOMPARE(m_files.log, (QStringList{u"write /c/new.html"_s, u"remove /c/old.html"_s}));
+    QCOMPARE(m_files.contents, (std::map<QString, QByteArray>{{u"/c/new.html"_s, "text"}}));
 }
 
 void TstTemplates::renamingToTheOwnName()
 {
-    MemoryFileStore files;
-    files.contents[u"/c/x.html"_s] = "text";
-    QVERIFY(renameCustomTemplate(files, u"/c"_s, u"x.html"_s, u"x.html"_s).ok());
-    QVERIFY(files.contents.empty());
+    m_files.contents[u"/c/x.html"_s] = "text";
+    QVERIFY(rename(u"x.html"_s, u"x.html"_s).ok());
+    QCOMPARE(m_files.log.mid(1), (QStringList{u"write /c/x.html"_s, u"remove /c/x.html"_s}));
+    QCOMPARE(kept(u"x.html"_s), QList<QByteArray>{"text"});
+    QCOMPARE(m_files.contents.size(), 1U);
 }
 
+void TstTemplates::renamingOverAnother()
+{
+    m_files.contents[u"/c/x.html"_s] = "text";
+    m_files.contents[u"/c/y.html"_s] = "other";
+    QVERIFY(rename(u"x.html"_s, u"y.html"_s).ok());
+    QCOMPARE(kept(u"y.html"_s), QList<QByteArray>{"other"});
+    QCOMPARE(m_files.contents.at(u"/c/y.html"_s), "text");
+    QVERIFY(!m_files.contents.contains(u"/c/x.html"_s));
+}
+
+/// What fails before the copy is written changes nothing.
 void TstTemplates::renamingFails()
 {
-    MemoryFileStore files;
-    files.contents[u"/c/x.html"_s] = "text";
-    files.unwritable[u"/c/y/z"_s] = {Error::Code::Unwritable, u"No such folder."_s};
-    QVERIFY(!renameCustomTemplate(files, u"/c"_s, u"x.html"_s, u"y/z"_s).ok());
-    QVERIFY(!renameCustomTemplate(files, u"/c"_s, u"none"_s, u"y"_s).ok());
-    QCOMPARE(files.contents.size(), 1U);
+    m_files.contents[u"/c/x.html"_s] = "text";
+    m_files.contents[u"/c/y.html"_s] = "other";
+    const std::map<QString, QByteArray> before = m_files.contents;
+    m_files.unwritable[u"/c/z.html"_s] = {Error::Code::Unwritable, u"Full."_s};
+    m_files.unreadable[u"/c/y.html"_s] = {Error::Code::Unreadable, u"No."_s};
+    QCOMPARE(rename(u"x.html"_s, u"z.html"_s).error().sentence, u"Full."_s);
+    QCOMPARE(
+        rename(u"x.html"_s, u"y.html"_s).error().sentence,
+        u"The template was not renamed, because the file \"y.html\", which would be overwritten, could not be backed "
+        "up. No."_s);
+    QVERIFY(!rename(u"none"_s, u"y"_s).ok());
+    QCOMPARE(rename(u"x.html"_s, u"../x.html"_s).error().code, Error::Code::Refused);
+    QCOMPARE(m_files.contents, before);
+}
+
+void TstTemplates::renamingWithoutAFolderForCopies()
+{
+    m_files.contents[u"/c/x.html"_s] = "text";
+    QVERIFY(QFile(m_folder->filePath(u"file"_s)).open(QIODevice::WriteOnly));
+    RecoveryCopies impossible(m_folder->filePath(u"file/recovery"_s), m_files, m_clock);
+    QVERIFY(!renameCustomTemplate(m_files, impossible, u"/c"_s, u"x.html"_s, u"x.html"_s).ok());
+    QCOMPARE(m_files.contents.at(u"/c/x.html"_s), "text");
+    QVERIFY(m_files.log.isEmpty());
+}
+
+void TstTemplates::documentText()
+{
+    TestContext world;
+    world.editor.setText(u"old"_s);
+    RecoveryCopies recovery(m_folder->filePath(u"recovery"_s), world.files, world.clock);
+    QVERIFY(replaceDocumentText(world, recovery, u"new"_s).ok());
+    QCOMPARE(world.editor.text(), u"new"_s);
+    QVERIFY(world.files.contents.empty()); // Nothing was unsaved.
+
+    world.document.modified = true;
+    world.document.dialogFile = u"/site/page.html"_s;
+    QVERIFY(replaceDocumentText(world, recovery, u"newer"_s).ok());
+    QCOMPARE(world.editor.text(), u"newer"_s);
+    QCOMPARE(world.files.contents.size(), 1U);
+    const auto &[path, bytes] = *world.files.contents.begin();
+    QVERIFY2(path.startsWith(recovery.folder() + u"/open-"_s) && path.endsWith(u"-page.html"_s), qPrintable(path));
+    QCOMPARE(bytes, "new");
+
+    world.document.dialogFile.clear();
+    QVERIFY(replaceDocumentText(world, recovery, u""_s).ok());
+    QVERIFY(std::ranges::any_of(world.files.contents,
+                                [](const auto &file) { return file.first.endsWith(u"-New Document"_s); }));
+    QVERIFY(replaceDocumentText(world, recovery, u"last"_s).ok());
+    QCOMPARE(world.files.contents.size(), 2U); // An empty text isn't worth a copy.
+}
+
+void TstTemplates::documentTextStaysWithoutACopy()
+{
+    TestContext world;
+    world.editor.setText(u"old"_s);
+    world.document.modified = true;
+    QVERIFY(QFile(m_folder->filePath(u"file"_s)).open(QIODevice::WriteOnly));
+    RecoveryCopies recovery(m_folder->filePath(u"file/recovery"_s), world.files, world.clock);
+    const Result<void> replaced = replaceDocumentText(world, recovery, u"new"_s);
+    QVERIFY(!replaced.ok());
+    QVERIFY2(replaced.error().sentence.startsWith(
+                 u"The document's text was not replaced, because its unsaved changes could not be backed up. "_s),
+             qPrintable(replaced.error().sentence));
+    QCOMPARE(world.editor.text(), u"old"_s);
 }
 
 ZEPHIRA_TEST(TstTemplates)

@@ -176,6 +176,7 @@ struct FakeDocumentHost final : DocumentHost {
     QString language;
     QString project = QStringLiteral("Project Path");
     QString dialogFile;
+    bool modified = false;
 
     int languageRow() const override { return row; }
     QString languageText() const override { return language; }
@@ -183,6 +184,7 @@ struct FakeDocumentHost final : DocumentHost {
     QString projectPath() const override { return project; }
     void setProjectPath(const QString &path) override { project = path; }
     QString commonDialogFile() const override { return dialogFile; }
+    bool isModified() const override { return modified; }
 };
 
 struct FakeFormOpener final : FormOpener {
