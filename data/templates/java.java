@@ -1,5 +1,5 @@
 /**
- * Greets everybody named on the command line.
+ * Greets everybody named on the command line. The file has the name of its class: Program.java.
  */
 public class Program {
 

@@ -1,7 +1,7 @@
 "use strict";
 
 /**
- * Marks the links that point to the current page.
+ * Marks the links that point to the current page with the class "current".
  */
 function markCurrentLinks(links, address) {
   for (const link of links) {
