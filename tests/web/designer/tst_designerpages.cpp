@@ -1,42 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/installedpages.h"
 #include "support/testregistry.h"
 #include "web/designer/designerbench.h"
 
-#include <QDirIterator>
-#include <QFile>
-
-#include <algorithm>
+#include <QMap>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
 namespace {
 
-constexpr int wantedPages = 200;
-constexpr qint64 largestPage = 200000;
+/// As many pages are looked at, most of them with a style sheet and a script, and no more of one package.
+constexpr qsizetype wantedPages = 200;
+constexpr qsizetype wantedDressed = 180;
+constexpr qsizetype mostOfOnePackage = 40;
 
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Pages of the installed documentation; those with a style sheet and a script come first.
 QStringList realPages()
 {
-    QStringList dressed;
-    QStringList others;
-    QDirIterator files(u"/usr/share/doc"_s, {u"*.html"_s}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        if (files.fileInfo().size() > largestPage)
-            continue;
-        const QByteArray page = content(path);
-        (page.contains("stylesheet") && page.contains("<script") ? dressed : others).append(path);
-    }
-    std::ranges::sort(dressed);
-    std::ranges::sort(others);
-    return (dressed + others).first(qMin(wantedPages, static_cast<int>(dressed.size() + others.size())));
+    const QStringList dressed = installedPages(wantedDressed, isDressed);
+    return dressed
+        + installedPages(wantedPages - dressed.size(), [](const QByteArray &page) { return !isDressed(page); });
 }
 
 } // namespace
@@ -143,8 +126,10 @@ void TstDesignerPages::realPagesStayAsTheyAre()
 {
     const QStringList pages = realPages();
     QCOMPARE(pages.size(), wantedPages);
+    QMap<QString, int> packages;
     QStringList harmed;
     for (const QString &path : pages) {
+        QVERIFY2(++packages[packageFolder(path)] <= mostOfOnePackage, qPrintable(path));
         if (const QString how = harm(path); !how.isEmpty())
             harmed.append(path + u": "_s + how);
     }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/installedpages.h"
 #include "support/testregistry.h"
 #include "web/designer/designerbench.h"
 
-#include <QDirIterator>
-#include <QFile>
-#include <QMap>
 #include <QXmlStreamEntityResolver>
 #include <QXmlStreamReader>
 
@@ -16,7 +14,6 @@ namespace {
 /// As many real pages as there have to be, and as many as there may be.
 constexpr int leastPages = 29;
 constexpr int mostPages = 60;
-constexpr qint64 largestPage = 200000;
 
 /// The names of characters that the document types of XHTML declare.
 class Entities final : public QXmlStreamEntityResolver
@@ -36,37 +33,10 @@ QString fault(const QString &page)
     return xml.hasError() ? u"line %1: "_s.arg(xml.lineNumber()) + xml.errorString() : QString();
 }
 
-QString read(const QString &path)
+bool isWellFormedXhtml(const QByteArray &content)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/// Well-formed XHTML pages of installed documentation, some of each package.
-QStringList realPages()
-{
-    QMap<QString, QStringList> packages;
-    QDirIterator files(u"/usr/share/doc"_s, {u"*.html"_s, u"*.xhtml"_s}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        if (files.fileInfo().size() > largestPage)
-            continue;
-        const QString page = read(path);
-        if (page.left(600).contains(u"DTD XHTML"_s) && page.contains(u"<body"_s) && fault(page).isEmpty())
-            packages[path.section(u'/', 0, 4)].append(path);
-    }
-    QStringList chosen;
-    for (int place = 0; chosen.size() < mostPages; ++place) {
-        const qsizetype before = chosen.size();
-        for (QStringList &pages : packages) {
-            pages.sort();
-            if (place < pages.size() && chosen.size() < mostPages)
-                chosen.append(pages[place]);
-        }
-        if (chosen.size() == before)
-            break;
-    }
-    return chosen;
+    const QString page = QString::fromUtf8(content);
+    return page.left(600).contains(u"DTD XHTML"_s) && page.contains(u"<body"_s) && fault(page).isEmpty();
 }
 
 } // namespace
@@ -167,7 +137,7 @@ void TstDesignerXhtml::oneLetter()
 
 void TstDesignerXhtml::realPagesStayWellFormed()
 {
-    const QStringList pages = realPages();
+    const QStringList pages = installedPages(mostPages, isWellFormedXhtml);
     QVERIFY2(pages.size() >= leastPages, qPrintable(QString::number(pages.size())));
     QStringList harmed;
     int typed = 0;
