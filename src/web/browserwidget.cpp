@@ -2,6 +2,7 @@
 #include "web/browserwidget.h"
 
 #include "web/browserpage.h"
+#include "web/hiddenfocus.h"
 #include "web/pageaddress.h"
 #include "web/scriptmessagebar.h"
 
@@ -35,6 +36,7 @@ BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
     layout->addWidget(m_view.get(), 1);
     m_page->setMessages(*m_messages);
     setFocusProxy(m_view.get());
+    keepFocusFromHidden(*this);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     // Queued, because the engine waits until the signal was handled.
     connect(m_view.get(), &QWidget::customContextMenuRequested, this, &BrowserWidget::showContextMenu,

@@ -98,6 +98,28 @@ private Q_SLOTS:
         QVERIFY(page.close());
     }
 
+    /// A page in an endless script holds neither the keys nor the next preview up.
+    void aPageThatHangsIsLeft()
+    {
+        const QByteArray hang = "<script>setTimeout(() => { while (true); }, 300)</script>";
+        PageInProgram page(pageOfTwoColours().replace("</body>", hang + "</body>"));
+        QVERIFY(page.isShown());
+        QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
+        QTest::qWait(1000); // By now it hangs.
+        QVERIFY2(page.goOn(designerColour), qPrintable(page.colour()));
+        page.program.type(page.title, u"typed here"_s);
+        page.program.key(page.title, u"ctrl+s"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(page.file).contains("<p>typed herex</p>"), patience);
+        QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
+        QTest::qWait(1000);
+        // The code view takes what is typed, and closing asks as always.
+        page.program.key(page.title, u"F8 F8"_s);
+        page.program.type(page.title, u"in the code "_s);
+        page.program.key(page.title, u"ctrl+s"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(page.file).contains("in the code "), patience);
+        QVERIFY(page.close());
+    }
+
     void editingKeysInThePreviewLeaveTheSourceAlone()
     {
         const QByteArray content = pageOfTwoColours();

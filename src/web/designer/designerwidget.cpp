@@ -8,6 +8,7 @@
 #include "web/designer/designerhandles.h"
 #include "web/designer/designerpage.h"
 #include "web/designer/nestedwait.h"
+#include "web/hiddenfocus.h"
 
 #include <QElapsedTimer>
 #include <QEvent>
@@ -73,6 +74,7 @@ DesignerWidget::DesignerWidget(const FileStore &files, Prompts &prompts, QWidget
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view.get());
     setFocusProxy(m_view.get());
+    keepFocusFromHidden(*this);
     hide();
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     connectPage();
