@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "panes/folderwatch.h"
 #include "widgets/filelistbox.h"
+#include "widgets/folderwatch.h"
 
 #include <QWidget>
 

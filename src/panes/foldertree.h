@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "panes/folderwatch.h"
+#include "widgets/folderwatch.h"
 
 #include <QTreeWidget>
 

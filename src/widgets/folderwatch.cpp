@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/folderwatch.h"
+#include "widgets/folderwatch.h"
 
 #include <QFileInfo>
 #include <QFileSystemWatcher>
