@@ -2,6 +2,7 @@
 #include "files/iniconfiguration.h"
 
 #include "files/diskfilestore.h"
+#include "files/fileerror.h"
 #include "files/filesystemcalls.h"
 #include "files/privateprofile.h"
 #include "files/textfile.h"
@@ -16,6 +17,8 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+
+using namespace Qt::StringLiterals;
 
 namespace zephira {
 
@@ -33,7 +36,8 @@ public:
         int result = -1;
         while (m_file >= 0 && (result = flock(m_file, LOCK_EX)) != 0 && errno == EINTR) {}
         // A file system without locks still allows writing; then the last writer wins.
-        m_held = result == 0 || (m_file >= 0 && (errno == ENOLCK || errno == ENOTSUP || errno == EBADF));
+        const bool withoutLocks = m_file >= 0 && (errno == ENOLCK || errno == ENOTSUP || errno == EBADF);
+        m_error = result == 0 || withoutLocks ? 0 : errno;
     }
     ~FolderLock()
     {
@@ -43,12 +47,14 @@ public:
     FolderLock(const FolderLock &) = delete;
     FolderLock &operator=(const FolderLock &) = delete;
 
-    bool isHeld() const { return m_held; }
+    bool isHeld() const { return m_error == 0; }
+    /// Why the folder isn't locked, as errno.
+    int error() const { return m_error; }
 
 private:
     FileSystemCalls m_calls;
     int m_file;
-    bool m_held = false;
+    int m_error = 0;
 };
 
 /// A profile as UTF-8. UTF-16 is converted; everything else stays as it is, including a byte order mark and invalid
@@ -91,34 +97,53 @@ bool isSettled(const FileSignature &signature)
 
 QString ReadIni(const QString &section, const QString &key, const QString &file)
 {
-    Result<QByteArray> bytes = DiskFileStore().read(file);
-    return bytes ? shortValue(profileFrom(std::move(bytes).value()).bytes, section, key) : QString();
+    return readIniValues(section, {key}, file).valueOr({QString()}).constFirst();
 }
 
 bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode)
+{
+    return writeIniValue(section, key, value, file, mode).ok();
+}
+
+Result<QStringList> readIniValues(const QString &section, const QStringList &keys, const QString &file)
+{
+    Result<QByteArray> bytes = DiskFileStore().read(file);
+    if (!bytes)
+        return bytes.error();
+    const Profile profile = profileFrom(std::move(bytes).value());
+    QStringList values;
+    for (const QString &key : keys)
+        values.append(shortValue(profile.bytes, section, key));
+    return values;
+}
+
+Result<void> writeIniValue(const QString &section, const QString &key, const QString &value, const QString &file,
+                           int mode)
 {
     FileSystemCalls calls;
     DiskFileStore store;
     // The lock must be on the folder in which the file is replaced, which is the folder of a symbolic link's target.
     const Result<QByteArray> target = linkTarget(calls, file);
     if (!target)
-        return false;
+        return target.error();
     const QFileInfo info(QFile::decodeName(target.value()));
     const FolderLock lock(QFile::encodeName(info.path()));
     if (!lock.isHeld())
-        return false;
+        return saveError(file, lock.error());
 
     Result<QByteArray> bytes = store.read(info.filePath());
     if (!bytes && bytes.error().code != Error::Code::NotFound)
-        return false;
+        return bytes.error();
     const Profile profile = profileFrom(bytes.valueOr(QByteArray()));
     const std::optional<QByteArray> changed = withProfileValue(profile.bytes, section, key, value);
     if (!changed)
-        return false;
+        return saveError(file, Error::Code::Malformed, u"a name is not allowed in it"_s);
     if (bytes && *changed == profile.bytes)
-        return true;
+        return {};
     const Result<QByteArray> encoded = profile.converted ? encodeText(*changed, *profile.converted) : *changed;
-    return encoded.ok() && store.write(info.filePath(), encoded.value(), mode).ok();
+    if (!encoded)
+        return encoded.error();
+    return store.write(info.filePath(), encoded.value(), mode);
 }
 
 IniConfiguration::IniConfiguration(QString file) : m_file(std::move(file)) {}

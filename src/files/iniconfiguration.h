@@ -2,9 +2,11 @@
 #pragma once
 
 #include "core/configuration.h"
+#include "core/result.h"
 #include "files/diskfilestore.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace zephira {
 
@@ -17,6 +19,14 @@ QString ReadIni(const QString &section, const QString &key, const QString &file)
 /// written. Safe if other processes write the same file at the same time. Line breaks in the value become spaces.
 /// `mode` applies to a new file.
 bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode = 0666);
+
+/// Reads several values of a section, in the order of their keys and each like ReadIni(), from one state of the file.
+/// Fails if the file can't be read; Code::NotFound if there is none.
+Result<QStringList> readIniValues(const QString &section, const QStringList &keys, const QString &file);
+
+/// Like WriteIni(), for callers that report a failure.
+Result<void> writeIniValue(const QString &section, const QString &key, const QString &value, const QString &file,
+                           int mode = 0666);
 
 /// The configuration in a private profile file. Every value is the one currently in the file; the file is read again
 /// unless it is unchanged since the last read.

@@ -122,6 +122,42 @@ private Q_SLOTS:
         QCOMPARE(get(), QByteArray("[s]\r\nk=old\r\n"));
     }
 
+    void valuesOfOneState()
+    {
+        QCOMPARE(readIniValues(u"s"_s, {u"k"_s}, ini()).error().code, Error::Code::NotFound);
+        QCOMPARE(readIniValues(u"s"_s, {u"k"_s}, m_folder->path()).error().sentence,
+                 u"The file \"%1\" could not be read: it is a folder."_s.arg(m_folder->path()));
+        put("[S]\r\nb=2\r\nA=" + QByteArray(1000, 'x') + "\r\n");
+        QCOMPARE(readIniValues(u"s"_s, {u"a"_s, u"none"_s, u"b"_s}, ini()).value(),
+                 (QStringList{QString(999, u'x'), {}, u"2"_s}));
+        QCOMPARE(readIniValues(u"none"_s, {u"a"_s}, ini()).value(), QStringList{QString()});
+    }
+
+    void aFailureIsTold_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("no folder") << u"none/a.ini"_s << u"k"_s << u"its folder does not exist"_s;
+        QTest::newRow("a file in the path") << u"file/a.ini"_s << u"k"_s << u"a part of its path is not a folder"_s;
+        QTest::newRow("name too long") << QString(256, u'x') << u"k"_s << u"its name is too long"_s;
+        QTest::newRow("NUL") << u"a\0b"_s << u"k"_s << u"its name contains a NUL character"_s;
+        QTest::newRow("no key") << u"a.ini"_s << u"k=x"_s << u"a name is not allowed in it"_s;
+    }
+
+    void aFailureIsTold()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, key);
+        QFETCH(QString, reason);
+        QFile(m_folder->filePath(u"file"_s)).open(QIODevice::WriteOnly);
+        const QString path = m_folder->filePath(file);
+        const auto written = writeIniValue(u"s"_s, key, u"v"_s, path);
+        QVERIFY(!written);
+        QCOMPARE(written.error().sentence, u"The file \""_s + path + u"\" could not be saved: "_s + reason + u'.');
+        QVERIFY(writeIniValue(u"s"_s, u"k"_s, u"v"_s, ini()).ok());
+    }
+
     void linkIsKept()
     {
         QVERIFY(QDir(m_folder->path()).mkdir(u"real"_s));
