@@ -11,7 +11,10 @@
 #include "wizards/frmiframe.h"
 #include "wizards/frminsbreak.h"
 #include "wizards/frmlinkwiz.h"
+#include "wizards/frmloadtags.h"
+#include "wizards/frmmeta.h"
 #include "wizards/frmredirect.h"
+#include "wizards/frmsavetags.h"
 #include "wizards/frmtable.h"
 #include "wizards/frmtables.h"
 #include "wizards/frmvbwiz.h"
@@ -29,6 +32,7 @@ void registerForms(FormCatalogue &catalogue)
     catalogue.add<ImageWizard>(u"ImageWizard"_s);
     catalogue.add<doctype>(u"doctype"_s);
     catalogue.add<frmFramesWiz>(u"frmFramesWiz"_s);
+    catalogue.add<frmMeta>(u"frmMeta"_s);
     catalogue.add<frmRedirect>(u"frmRedirect"_s);
     catalogue.add<frmTable>(u"frmTable"_s);
     catalogue.add<frmTables>(u"frmTables"_s);
@@ -38,6 +42,8 @@ void registerForms(FormCatalogue &catalogue)
     catalogue.add<frmiframe>(u"frmiframe"_s);
     catalogue.add<frminsbreak>(u"frminsbreak"_s);
     catalogue.add<frmlinkwiz>(u"frmlinkwiz"_s);
+    catalogue.add<frmloadtags>(u"frmloadtags"_s);
+    catalogue.add<frmsavetags>(u"frmsavetags"_s);
     catalogue.add<frmvbwiz>(u"frmvbwiz"_s);
     catalogue.add<frmwizMarquee>(u"frmwizMarquee"_s);
     catalogue.add<frmwizcookie>(u"frmwizcookie"_s);

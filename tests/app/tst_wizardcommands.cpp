@@ -43,6 +43,10 @@ private Q_SLOTS:
             u"[old<iframe src=\"\" name=\"\" id=\"\" width=\"\" height=\"\" marginwidth=\"\" marginheight=\"\" align=\"\">"
             "</iframe>]"_s);
         row(u"menu"_s, u"mnuvbsw"_s, u"frmvbwiz"_s, u"Command1"_s, u"[old<% If  =  Then \r\n\r\nEnd If %>\r\n]"_s);
+        const QString meta = u"[<META NAME=\"description\" content=\"\"> \r\n<META NAME=\"keywords\" content=\"\">\r\n"
+                             "<META NAME=\"author\" content=\"\">\r\n<META NAME=\"Copyright\" content=\"\">]"_s;
+        row(u"menu"_s, u"mnumtw"_s, u"frmMeta"_s, u"Command4"_s, meta);
+        row(u"Toolbar_1"_s, u"meta"_s, u"frmMeta"_s, u"Command4"_s, meta);
         row(u"menu"_s, u"mnucw"_s, u"frmwizcookie"_s, u"Command1"_s,
             u"[old<%\r\n  Response.Cookies(\"Type\") = \"\"\r\n"
             "  Response.Cookies(\"Type\").Expires = \"10/26/2002\"\r\n  Response.Cookies(\"Type\").Domain =\"\"\r\n"

@@ -41,7 +41,7 @@ constexpr FolderRow folderRows[] = {
     {u"tags", u"core files widgets"},
     {u"panes", u"core files widgets"},
     {u"views", u"core files widgets"},
-    {u"wizards", u"core widgets"},
+    {u"wizards", u"core files widgets"},
     {u"colour", u"core widgets"},
     {u"settings", u"core files widgets"},
     {u"ftp", u"core files widgets"},

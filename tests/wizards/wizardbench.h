@@ -5,6 +5,8 @@
 #include "support/formkit.h"
 #include "wizards/registerforms.h"
 
+#include <functional>
+
 namespace zephira {
 
 inline FormCatalogue wizardCatalogue()
@@ -19,15 +21,20 @@ struct WizardBench {
     TestContext world;
     LivingForm form;
 
-    explicit WizardBench(const QString &name) : form(wizardCatalogue(), name, prepared(world)) {}
+    /// `prepare` may change the world before the wizard is made.
+    explicit WizardBench(const QString &name, const std::function<void(TestContext &)> &prepare = {})
+        : form(wizardCatalogue(), name, prepared(world, prepare))
+    {}
 
     QStringList inserted() const { return world.inserter.inserted; }
 
 private:
-    static const AppContext &prepared(TestContext &world)
+    static const AppContext &prepared(TestContext &world, const std::function<void(TestContext &)> &prepare)
     {
         world.editor.setText(QStringLiteral("<p>chosen</p>"));
         world.editor.selectPart(QStringLiteral("chosen"));
+        if (prepare)
+            prepare(world);
         return world.context;
     }
 };

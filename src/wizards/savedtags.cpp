@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wizards/savedtags.h"
+
+#include "files/iniconfiguration.h"
+
+#include <QFileInfo>
+
+#include <iterator>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+struct FactRow {
+    QStringView key;
+    QString SiteFacts::*fact;
+};
+
+// In the order in which they are written.
+constexpr FactRow factRows[] = {
+    {u"Desc", &SiteFacts::description},
+    {u"Keywords", &SiteFacts::keywords},
+    {u"Author", &SiteFacts::author},
+    {u"cright", &SiteFacts::copyright},
+};
+
+const QString section = u"Saved Tags"_s;
+
+} // namespace
+
+QString savedTagsFolder(const QString &appPath)
+{
+    return appPath + u"/Tags"_s;
+}
+
+Result<void> saveTags(const SiteFacts &facts, const QString &folder, const QString &name)
+{
+    if (!QFileInfo::exists(folder))
+        return {};
+    const QString fileName = name + savedTagsExtension.toString();
+    if (fileName.contains(u'/') || fileName.contains(QChar::Null))
+        return Error{Error::Code::Refused, u"\""_s + fileName + u"\" can't be the name of a file."_s};
+    for (const FactRow &row : factRows) {
+        const auto saved = writeIniValue(section, row.key.toString(), facts.*row.fact, folder + u'/' + fileName);
+        if (!saved)
+            return saved;
+    }
+    return {};
+}
+
+Result<SiteFacts> loadTags(const QString &folder, const QString &fileName)
+{
+    QStringList keys;
+    for (const FactRow &row : factRows)
+        keys.append(row.key.toString());
+    const Result<QStringList> values = readIniValues(section, keys, folder + u'/' + fileName);
+    if (!values)
+        return values.error();
+    SiteFacts facts;
+    for (qsizetype i = 0; i < keys.size(); ++i)
+        facts.*factRows[i].fact = values.value()[i];
+    return facts;
+}
+
+} // namespace zephira
