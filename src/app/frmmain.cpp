@@ -300,7 +300,7 @@ void frmmain::languageSet(int row)
     const LanguageRow &language = languageRows()[static_cast<std::size_t>(row)];
     m_formattingBar->setMet(Need::Markup, language.markupTools);
     // In visual mode the menu stays disabled, because it inserts into the source.
-    m_menus->setMet(Need::Markup, language.markupTools && !m_designer.isShowing());
+    m_menus->setMet(Need::QuickTags, language.markupTools && !m_designer.isShowing());
     m_rt->setLanguage(QStringView(language.editorLanguage).toString());
 }
 

@@ -179,6 +179,7 @@ void ViewSwitch::showControls(WorkspaceView view)
 void ViewSwitch::setSourceMenusEnabled(bool enabled)
 {
     m_parts.menus.setMet(Need::SourceView, enabled);
+    m_parts.menus.setMet(Need::QuickTags, enabled);
 }
 
 void ViewSwitch::setVisualMenusEnabled(bool enabled)

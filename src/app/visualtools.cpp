@@ -68,7 +68,7 @@ void VisualTools::connectBar()
 void VisualTools::connectMenus()
 {
     for (const MenuItem &item : menuBarTable()) {
-        if (item.needs.testFlag(Need::VisualView))
+        if (item.need == Need::VisualView)
             connect(m_menus.menu(item.name), &QMenu::aboutToShow, this, [this, &item] { updateMenu(item); });
     }
 }

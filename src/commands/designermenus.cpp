@@ -51,7 +51,7 @@ private:
     /// A form or a function that writes into the page.
     std::optional<DesignerMenuEntry> look(const MenuItem &item, const auto &) const
     {
-        const bool isText = !item.needs.testFlag(Need::PageText) || m_designer.selectionType() != u"Control";
+        const bool isText = item.need != Need::PageText || m_designer.selectionType() != u"Control";
         const bool isOpen = item.asks == DesignerCommand::None || isAvailable(item.asks);
         return DesignerMenuEntry{item.name.toString(), isText && isOpen};
     }

@@ -128,7 +128,7 @@ void Menus::setMet(std::span<const MenuItem> items, Need need, bool met)
 {
     for (const MenuItem &item : items) {
         setMet(item.children, need, met);
-        if (!item.needs.testFlag(need))
+        if (item.need != need)
             continue;
         if (item.kind == MenuItem::Kind::Menu)
             menu(item.name)->setEnabled(met); // Its entry in the menu bar follows.

@@ -39,8 +39,7 @@ public:
     bool isChecked(QStringView entry) const override;
     void setChecked(QStringView entry, bool checked) override;
 
-    /// Enables or disables every menu and entry whose row needs something; a row that needs several things follows the
-    /// last reported one.
+    /// Enables or disables every menu and entry whose row needs something.
     void setMet(Need need, bool met);
     /// Disables the entries whose form can't be opened yet and says so in their tool tips.
     void applyAvailability(const FormOpener &forms);

@@ -23,15 +23,16 @@ constexpr MenuItem check(QStringView name, QStringView caption, const Command &c
     return {name, caption, shortcut, {}, statusTip, command, {}, Kind::Check};
 }
 
-constexpr MenuItem menu(QStringView name, QStringView caption, std::span<const MenuItem> children, Needs needs = {})
+constexpr MenuItem menu(QStringView name, QStringView caption, std::span<const MenuItem> children,
+                        Need need = Need::Nothing)
 {
-    return {name, caption, {}, {}, {}, {}, {}, Kind::Menu, children, needs};
+    return {name, caption, {}, {}, {}, {}, {}, Kind::Menu, children, need};
 }
 
 /// The row, with something that it needs.
-constexpr MenuItem needing(Needs needs, MenuItem item)
+constexpr MenuItem needing(Need need, MenuItem item)
 {
-    item.needs = needs;
+    item.need = need;
     return item;
 }
 
@@ -295,7 +296,7 @@ constexpr MenuItem bar[] = {
     menu(u"edit", u"&Edit", editItems),
     menu(u"tools", u"&Tools", toolItems, Need::SourceView),
     menu(u"options", u"&Options", optionItems),
-    menu(menuname::tags, u"&Fast Web Tags", {}, Need::SourceView | Need::Markup),
+    menu(menuname::tags, u"&Fast Web Tags", {}, Need::QuickTags),
     menu(u"mnuplugins", u"Plugins", pluginItems),
     menu(u"help", u"&Help", helpItems),
     {u"mnusep", u"|", {}, {}, {}, {}, {}, Kind::Bar},

@@ -34,7 +34,7 @@ struct MenuItem {
     Kind kind = Kind::Entry;
     std::span<const MenuItem> children = {};
     /// What the entry or menu needs besides its form.
-    Needs needs = {};
+    Need need = Need::Nothing;
     /// In the designer's menus: the command whose status enables the entry, if its effect isn't one.
     DesignerCommand asks = DesignerCommand::None;
 };

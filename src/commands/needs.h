@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QFlags>
-
 namespace zephira {
 
 /// What must be the case for a row of a menu or toolbar to be enabled. Whoever knows that something has changed opens
-/// and closes all rows that need it.
+/// and closes all rows that need it. A row needs at most one thing, so no two reports contradict each other.
 enum class Need {
-    Markup = 1,     ///< a language that the markup tools are for
-    SourceView = 2, ///< the code view
-    VisualView = 4, ///< the designer
-    ListedFile = 8, ///< a file that is selected in the file list
-    PageText = 16,  ///< in the designer: no element is selected as a whole
+    Nothing,
+    Markup,     ///< a language that the markup tools are for
+    SourceView, ///< the code view
+    VisualView, ///< the designer
+    /// For the quick tags of the menu bar, the later of two: the choice of a language opens them for markup in the code
+    /// view, and the return to the code view opens them in any language.
+    QuickTags,
+    ListedFile, ///< a file that is selected in the file list
+    PageText,   ///< in the designer: no element is selected as a whole
 };
-Q_DECLARE_FLAGS(Needs, Need)
-Q_DECLARE_OPERATORS_FOR_FLAGS(Needs)
 
 } // namespace zephira

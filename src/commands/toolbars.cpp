@@ -68,7 +68,7 @@ void CommandToolBar::setMet(Need need, bool met)
     const QList<QAction *> buttons = actions();
     for (std::size_t row = 0; row < m_table.buttons.size(); ++row) {
         QAction *button = buttons[static_cast<qsizetype>(row)];
-        if (m_table.buttons[row].needs.testFlag(need))
+        if (m_table.buttons[row].need == need)
             button->setEnabled(met && !m_unavailable.contains(button));
     }
 }

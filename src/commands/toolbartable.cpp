@@ -69,7 +69,7 @@ constexpr Command around(QStringView before, QStringView after)
 /// A button, or a separator, for documents in a markup language.
 constexpr ToolButton markup(ToolButton button)
 {
-    button.needs = Need::Markup;
+    button.need = Need::Markup;
     return button;
 }
 

@@ -32,7 +32,7 @@ struct ToolButton {
     QStringView form = {};
     std::span<const PullDownEntry> pullDown = {};
     /// What the button needs besides its form.
-    Needs needs = {};
+    Need need = Need::Nothing;
 };
 
 struct ToolBarTable {

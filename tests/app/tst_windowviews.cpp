@@ -158,6 +158,23 @@ private Q_SLOTS:
         QCOMPARE(bench.menus(), u"++-----"_s);
     }
 
+    /// The quick tags follow whichever was last, the choice of a language or the return to the code view.
+    void theReturnToTheCodeViewOpensTheQuickTagsInAnyLanguage()
+    {
+        ViewBench bench;
+        auto *languages = bench.find<QComboBox>(u"cboLang"_s);
+        languages->setCurrentIndex(2);
+        QCOMPARE(bench.menus(), u"+------"_s);
+        bench.select(3);
+        QCOMPARE(bench.menus(), u"--+++++"_s);
+        bench.select(1);
+        QCOMPARE(bench.menus(), u"++-----"_s);
+        languages->setCurrentIndex(5);
+        QCOMPARE(bench.menus(), u"+------"_s);
+        languages->setCurrentIndex(1);
+        QCOMPARE(bench.menus(), u"++-----"_s);
+    }
+
     void theCopyFromBeforeGoesWithTheNextOne()
     {
         ViewBench bench;
