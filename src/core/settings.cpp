@@ -21,7 +21,7 @@ namespace {
 constexpr int customTabCount = static_cast<int>(Setting::LastCustomTab) - static_cast<int>(Setting::FirstCustomTab) + 1;
 constexpr int partsOfColour = 3;
 
-Setting behind(Setting first, int places)
+Setting settingAfter(Setting first, int places)
 {
     return static_cast<Setting>(static_cast<int>(first) + places);
 }
@@ -138,12 +138,12 @@ const SettingRow &settingRow(Setting setting)
 
 Setting customTabSetting(int tab)
 {
-    return behind(Setting::FirstCustomTab, tab - 1);
+    return settingAfter(Setting::FirstCustomTab, tab - 1);
 }
 
 Setting colourSetting(int row, ColourPart part)
 {
-    return behind(Setting::FirstColour, row * partsOfColour + static_cast<int>(part));
+    return settingAfter(Setting::FirstColour, row * partsOfColour + static_cast<int>(part));
 }
 
 bool isSwitchedOn(const Configuration &configuration, Setting setting)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/vbtext.h"
 
+#include "core/characters.h"
 #include "core/errorstyles.h"
 
 #include <algorithm>
@@ -14,19 +15,10 @@ namespace zephira {
 
 namespace {
 
-void require(bool valid)
+void requireArgument(bool valid)
 {
     if (!valid)
         throw HandlerError{u"Invalid procedure call or argument"_s};
-}
-
-QStringView withoutBlanks(QStringView text)
-{
-    while (text.startsWith(u' '))
-        text = text.sliced(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text;
 }
 
 /// The value of a text such as "&HFF" or "&O17"; nothing if the text doesn't have this form.
@@ -71,7 +63,7 @@ T rounded(double number)
 template<typename T>
 T converted(const QString &text)
 {
-    const QStringView trimmed = withoutBlanks(text);
+    const QStringView trimmed = withoutSpaces(text);
     const std::optional<quint64> bits = prefixedNumber(trimmed);
     if (!bits)
         return rounded<T>(decimalNumber(trimmed));
@@ -84,7 +76,7 @@ T converted(const QString &text)
 
 QString Mid(const QString &text, qsizetype start, std::optional<qsizetype> length)
 {
-    require(start >= 1 && length.value_or(0) >= 0);
+    requireArgument(start >= 1 && length.value_or(0) >= 0);
     if (start > text.size())
         return QString();
     return text.sliced(start - 1, std::min(length.value_or(text.size()), text.size() - start + 1));
@@ -92,19 +84,19 @@ QString Mid(const QString &text, qsizetype start, std::optional<qsizetype> lengt
 
 QString Left(const QString &text, qsizetype length)
 {
-    require(length >= 0);
+    requireArgument(length >= 0);
     return text.first(std::min(length, text.size()));
 }
 
 QString Right(const QString &text, qsizetype length)
 {
-    require(length >= 0);
+    requireArgument(length >= 0);
     return text.last(std::min(length, text.size()));
 }
 
 qsizetype InStr(qsizetype start, const QString &text, const QString &find, Qt::CaseSensitivity compare)
 {
-    require(start >= 1);
+    requireArgument(start >= 1);
     if (start > text.size())
         return 0;
     return find.isEmpty() ? start : text.indexOf(find, start - 1, compare) + 1;
@@ -117,7 +109,7 @@ qsizetype InStr(const QString &text, const QString &find)
 
 qsizetype InStrRev(const QString &text, const QString &find, qsizetype start, Qt::CaseSensitivity compare)
 {
-    require(start >= 1 || start == -1);
+    requireArgument(start >= 1 || start == -1);
     const qsizetype end = start == -1 ? text.size() : start;
     if (text.isEmpty() || end > text.size())
         return 0;
@@ -152,12 +144,12 @@ QString RTrim(const QString &text)
 
 QString Trim(const QString &text)
 {
-    return withoutBlanks(text).toString();
+    return withoutSpaces(QStringView(text)).toString();
 }
 
 double CDbl(const QString &text)
 {
-    const QStringView trimmed = withoutBlanks(text);
+    const QStringView trimmed = withoutSpaces(text);
     const std::optional<quint64> bits = prefixedNumber(trimmed);
     return bits ? static_cast<double>(*bits) : decimalNumber(trimmed);
 }

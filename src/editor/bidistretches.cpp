@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bidistretches.h"
 
+#include "editor/utf8character.h"
 #include "files/utf8.h"
 
 #include <QChar>
@@ -23,23 +24,6 @@ unsigned char byteAt(QByteArrayView text, qsizetype at)
 bool mayBegin(unsigned char byte)
 {
     return byte >= 0xd6 && (byte <= 0xe0 || byte == 0xe2 || byte == 0xef || byte == 0xf0);
-}
-
-struct Character {
-    char32_t code = 0;
-    qsizetype size = 1;
-};
-
-Character characterAt(QByteArrayView text, qsizetype at)
-{
-    const unsigned char first = byteAt(text, at);
-    const qsizetype size = first < 0xc0 ? 1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
-    if (size == 1 || at + size > text.size())
-        return {first, 1};
-    char32_t code = first & (0x7f >> size);
-    for (qsizetype i = 1; i < size; ++i)
-        code = code << 6 | (byteAt(text, at + i) & 0x3f);
-    return {code, size};
 }
 
 bool isRightToLeft(char32_t code)
@@ -87,7 +71,7 @@ void forEachRightToLeft(QByteArrayView utf8, const std::function<void(char32_t, 
     for (qsizetype i = asciiLength(utf8); i < utf8.size(); ++i, i += asciiLength(utf8.sliced(i))) {
         if (!mayBegin(byteAt(utf8, i)))
             continue;
-        const Character c = characterAt(utf8, i);
+        const Utf8Character c = utf8CharacterAt(utf8, i);
         if (isRightToLeft(c.code))
             found(c.code, utf8.sliced(i, c.size));
         i += c.size - 1;
@@ -109,7 +93,7 @@ std::vector<BidiStretch> bidiStretches(QByteArrayView line, std::span<const unsi
         open.reset();
     };
     for (qsizetype i = 0; i < line.size();) {
-        const Character c = characterAt(line, i);
+        const Utf8Character c = utf8CharacterAt(line, i);
         const int style = styles[static_cast<std::size_t>(i)];
         if (open && (style != open->style || i - open->start >= longestStretch))
             close();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/longruns.h"
 
+#include "editor/utf8character.h"
+
 #include <QChar>
 
 #include <algorithm>
@@ -8,24 +10,6 @@
 namespace zephira {
 
 namespace {
-
-struct Character {
-    char32_t code = 0;
-    std::size_t size = 1;
-};
-
-Character characterAt(QByteArrayView text, std::size_t at)
-{
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[static_cast<qsizetype>(i)]); };
-    const unsigned char first = byte(at);
-    const std::size_t size = first < 0xc0 ? 1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
-    if (size == 1 || at + size > static_cast<std::size_t>(text.size()))
-        return {first, 1};
-    char32_t code = first & (0x7f >> size);
-    for (std::size_t i = 1; i < size; ++i)
-        code = code << 6 | (byte(at + i) & 0x3f);
-    return {code, size};
-}
 
 /// Letters of alphabets in which neighbours aren't joined, and the characters used between them.
 bool isApart(char32_t code)
@@ -47,7 +31,7 @@ class Pieces
 {
 public:
     /// Takes the run's next character; returns whether it begins a piece.
-    bool beginsWith(Character next)
+    bool beginsWith(Utf8Character next)
     {
         const bool begins = isBreak(next.code);
         m_word = begins && (m_before == ' ' || next.code == ' ') ? 0 : m_word;
@@ -65,11 +49,11 @@ private:
             return isApart(next) || isIdeograph(next);
         if (isIdeograph(m_before) && isIdeograph(next))
             return true;
-        return m_word >= static_cast<std::size_t>(longestWord) && m_piece >= 2 && isApart(m_before) && isApart(next);
+        return m_word >= longestWord && m_piece >= 2 && isApart(m_before) && isApart(next);
     }
 
     char32_t m_before = 0;
-    std::size_t m_word = 0;  ///< bytes since the last blank
+    qsizetype m_word = 0;    ///< bytes since the last blank
     std::size_t m_piece = 0; ///< characters since the last beginning
 };
 
@@ -81,7 +65,7 @@ void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles)
     bool isTwin = false;
     Pieces pieces;
     for (std::size_t i = 0; i < styles.size();) {
-        const Character c = characterAt(text, i);
+        const Utf8Character c = utf8CharacterAt(text, static_cast<qsizetype>(i));
         if (i == 0 || styles[i] != style) {
             style = styles[i];
             isTwin = false;
@@ -90,7 +74,7 @@ void breakLongRuns(QByteArrayView text, std::span<unsigned char> styles)
         } else if (pieces.beginsWith(c)) {
             isTwin = !isTwin;
         }
-        for (const std::size_t end = std::min(i + c.size, styles.size()); i < end; ++i) {
+        for (const std::size_t end = std::min(i + static_cast<std::size_t>(c.size), styles.size()); i < end; ++i) {
             if (isTwin && styles[i] < twinDistance)
                 styles[i] = static_cast<unsigned char>(styles[i] + twinDistance);
         }

@@ -136,10 +136,4 @@ QString expandReplacement(const QString &replacement, const QRegularExpressionMa
     return expanded;
 }
 
-qsizetype behindCharacter(const QString &text, qsizetype offset)
-{
-    const bool pair = offset + 1 < text.size() && text[offset].isHighSurrogate() && text[offset + 1].isLowSurrogate();
-    return offset + (pair ? 2 : 1);
-}
-
 } // namespace zephira

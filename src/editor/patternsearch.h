@@ -60,7 +60,4 @@ private:
 /// feed, "\t" a tab, "\\" and "\$" a backslash and a dollar sign; anything else is literal.
 QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match);
 
-/// The offset after the character at `offset`, which may be a surrogate pair.
-qsizetype behindCharacter(const QString &text, qsizetype offset);
-
 } // namespace zephira

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/privateprofile.h"
 
+#include "core/characters.h"
 #include "files/textfile.h"
 #include "files/utf8.h"
 
@@ -13,15 +14,6 @@ using namespace Qt::StringLiterals;
 namespace zephira {
 
 namespace {
-
-QByteArrayView withoutBlanks(QByteArrayView bytes)
-{
-    while (bytes.startsWith(' '))
-        bytes = bytes.sliced(1);
-    while (bytes.endsWith(' '))
-        bytes.chop(1);
-    return bytes;
-}
 
 bool isQuoted(QByteArrayView value)
 {
@@ -72,17 +64,17 @@ Line Lines::take()
 
 Line Lines::read(QByteArrayView text)
 {
-    const QByteArrayView trimmed = withoutBlanks(text);
+    const QByteArrayView trimmed = withoutSpaces(text);
     if (trimmed.isEmpty())
         return {Line::Kind::Blank};
     if (trimmed.front() == '[') {
         const qsizetype close = trimmed.indexOf(']');
-        return close < 0 ? Line() : Line{Line::Kind::Section, withoutBlanks(trimmed.sliced(1, close - 1))};
+        return close < 0 ? Line() : Line{Line::Kind::Section, withoutSpaces(trimmed.sliced(1, close - 1))};
     }
     const qsizetype equals = text.indexOf('=');
     if (trimmed.front() == ';' || equals < 0)
         return {};
-    return {Line::Kind::Key, withoutBlanks(text.first(equals)), text.sliced(equals + 1)};
+    return {Line::Kind::Key, withoutSpaces(text.first(equals)), text.sliced(equals + 1)};
 }
 
 /// A name to compare others with, not case-sensitive. Nearly all names are ASCII, which needs no conversion.
@@ -90,7 +82,7 @@ class Name
 {
 public:
     explicit Name(const QString &name)
-        : m_bytes(withoutBlanks(name.toUtf8()).toByteArray()), m_name(QString::fromUtf8(m_bytes))
+        : m_bytes(withoutSpaces(QByteArrayView(name.toUtf8())).toByteArray()), m_name(QString::fromUtf8(m_bytes))
     {}
 
     const QByteArray &bytes() const { return m_bytes; }
@@ -119,7 +111,7 @@ struct ValuePlace {
     const char *sectionEnd = nullptr;
 };
 
-ValuePlace find(QByteArrayView profile, const Name &section, const Name &key)
+ValuePlace findValue(QByteArrayView profile, const Name &section, const Name &key)
 {
     ValuePlace place;
     Lines lines(profile);
@@ -141,7 +133,7 @@ ValuePlace find(QByteArrayView profile, const Name &section, const Name &key)
 
 QString readValue(QByteArrayView raw)
 {
-    QByteArrayView value = withoutBlanks(raw);
+    QByteArrayView value = withoutSpaces(raw);
     if (isQuoted(value))
         value = value.sliced(1, value.size() - 2);
     if (!isValidUtf8(value))
@@ -162,7 +154,7 @@ QByteArray writtenValue(const QString &value)
 }
 
 /// The line end of the profile's first line.
-QByteArray lineEndOf(QByteArrayView profile)
+QByteArray firstLineEnd(QByteArrayView profile)
 {
     const auto end = std::ranges::find_if(profile, [](char c) { return c == '\r' || c == '\n'; });
     if (end == profile.end() || (*end == '\r' && end + 1 != profile.end() && end[1] == '\n'))
@@ -174,7 +166,7 @@ QByteArray lineEndOf(QByteArrayView profile)
 
 std::optional<QString> profileValue(QByteArrayView profile, const QString &section, const QString &key)
 {
-    const ValuePlace place = find(profile, Name(section), Name(key));
+    const ValuePlace place = findValue(profile, Name(section), Name(key));
     return place.value ? std::optional(readValue(*place.value)) : std::nullopt;
 }
 
@@ -187,7 +179,7 @@ std::optional<QByteArray> withProfileValue(const QByteArray &profile, const QStr
         || keyName.bytes().startsWith(';') || keyName.bytes().startsWith('['))
         return {};
 
-    const ValuePlace place = find(profile, sectionName, keyName);
+    const ValuePlace place = findValue(profile, sectionName, keyName);
     const QByteArray written = writtenValue(value);
     QByteArray result = profile;
     if (place.value) {
@@ -197,7 +189,7 @@ std::optional<QByteArray> withProfileValue(const QByteArray &profile, const QStr
             old = old.sliced(1);
         return result.replace(old.begin() - profile.constData(), old.size(), written);
     }
-    const QByteArray lineEnd = lineEndOf(profile);
+    const QByteArray lineEnd = firstLineEnd(profile);
     QByteArray added = keyName.bytes() + '=' + written + lineEnd;
     if (!place.sectionFound)
         added.prepend('[' + sectionName.bytes() + ']' + lineEnd);

@@ -9,6 +9,12 @@
 
 namespace zephira {
 
+/// The letter in lower case; any other byte, and any letter beyond ASCII, as it is.
+constexpr Byte lowerCase(Byte byte)
+{
+    return byte >= 'A' && byte <= 'Z' ? static_cast<Byte>(byte + 32) : byte;
+}
+
 /// Whether the bytes at `p` begin with `text`.
 inline bool standsAt(const Byte *p, const Byte *end, QByteArrayView text)
 {

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syntax/symboltable.h"
 
+#include "syntax/bytescan.h"
+
 #include <algorithm>
 
 namespace zephira {
 
 namespace {
-
-Byte lower(Byte byte)
-{
-    return byte >= 'A' && byte <= 'Z' ? static_cast<Byte>(byte + 32) : byte;
-}
 
 Byte firstOf(const Symbol &symbol)
 {
@@ -33,7 +30,7 @@ void SymbolTable::add(Symbol symbol)
         return;
     if (!m_caseSensitive) {
         for (char &byte : symbol.bytes)
-            byte = static_cast<char>(lower(static_cast<Byte>(byte)));
+            byte = static_cast<char>(lowerCase(static_cast<Byte>(byte)));
     }
     m_symbols.push_back(std::move(symbol));
 }
@@ -53,7 +50,7 @@ void SymbolTable::finish(const std::array<bool, 256> &isWord)
     }
     if (!m_caseSensitive) {
         for (Byte upper = 'A'; upper <= 'Z'; ++upper)
-            m_first[upper] = m_first[lower(upper)];
+            m_first[upper] = m_first[lowerCase(upper)];
     }
 }
 
@@ -77,7 +74,7 @@ const Symbol *SymbolTable::find(const Byte *p, const Byte *end) const
         const auto *bytes = reinterpret_cast<const Byte *>(symbol.bytes.constData());
         const bool same = m_caseSensitive
             ? std::equal(bytes, bytes + size, p)
-            : std::equal(bytes, bytes + size, p, [](Byte own, Byte other) { return own == lower(other); });
+            : std::equal(bytes, bytes + size, p, [](Byte own, Byte other) { return own == lowerCase(other); });
         const bool insideWord =
             symbol.kind != TokenKind::String && size < room && m_isWord[bytes[size - 1]] && m_isWord[p[size]];
         if (same && !insideWord)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syntax/tagnames.h"
 
+#include "syntax/bytescan.h"
+
 #include <algorithm>
 
 namespace zephira {
@@ -41,17 +43,12 @@ constexpr QByteArrayView declarationWords[] = {
     "PUBLIC",   "SYSTEM",  "EMPTY",    "ANY",      "CDATA",   "NDATA",     "ID",       "IDREF",  "IDREFS",  "ENTITY",
     "ENTITIES", "NMTOKEN", "NMTOKENS", "NOTATION", "#PCDATA", "#REQUIRED", "#IMPLIED", "#FIXED", "INCLUDE", "IGNORE"};
 
-Byte lower(char c)
-{
-    const Byte byte = static_cast<Byte>(c);
-    return byte >= 'A' && byte <= 'Z' ? static_cast<Byte>(byte + 32) : byte;
-}
-
 /// The offset of `part`, given in lower case, in `text` in upper or lower case; -1 if it doesn't occur.
 qsizetype findFolded(QByteArrayView text, QByteArrayView part)
 {
-    const auto hit = std::search(text.begin(), text.end(), part.begin(), part.end(),
-                                 [](char a, char b) { return lower(a) == static_cast<Byte>(b); });
+    const auto hit = std::search(text.begin(), text.end(), part.begin(), part.end(), [](char a, char b) {
+        return lowerCase(static_cast<Byte>(a)) == static_cast<Byte>(b);
+    });
     return hit == text.end() ? -1 : hit - text.begin();
 }
 

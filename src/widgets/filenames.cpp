@@ -2,6 +2,7 @@
 #include "widgets/filenames.h"
 
 #include "core/vbtext.h"
+#include "core/wildcard.h"
 
 #include <QDirIterator>
 
@@ -11,44 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace zephira {
-
-namespace {
-
-/// The index after the character at `i`: a character is one code unit, or two if the first is a high surrogate.
-qsizetype behindCharacter(QStringView text, qsizetype i)
-{
-    return i + (text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1);
-}
-
-/// On a mismatch the last star takes one more character; earlier stars never need to be tried again.
-bool matchesWildcard(QStringView pattern, QStringView name)
-{
-    qsizetype p = 0;
-    qsizetype n = 0;
-    qsizetype behindStar = -1;
-    qsizetype starEnd = 0;
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == u'*') {
-            behindStar = ++p;
-            starEnd = n;
-        } else if (p < pattern.size() && pattern[p] == u'?') {
-            ++p;
-            n = behindCharacter(name, n);
-        } else if (p < pattern.size() && pattern[p] == name[n]) {
-            ++p;
-            ++n;
-        } else if (behindStar >= 0) {
-            p = behindStar;
-            starEnd = behindCharacter(name, starEnd);
-            n = starEnd;
-        } else {
-            return false;
-        }
-    }
-    return pattern.mid(p).count(u'*') == pattern.size() - p;
-}
-
-} // namespace
 
 FilePatterns::FilePatterns(const QString &list)
 {

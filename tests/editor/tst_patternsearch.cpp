@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/characters.h"
 #include "editor/patternsearch.h"
 #include "support/testregistry.h"
 

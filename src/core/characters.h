@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringView>
+
+namespace zephira {
+
+/// The position behind the character at `offset`: a surrogate pair is one character. Both are 0-based code units, and
+/// `offset` is within the text.
+inline qsizetype behindCharacter(QStringView text, qsizetype offset)
+{
+    const bool pair = offset + 1 < text.size() && text[offset].isHighSurrogate() && text[offset + 1].isLowSurrogate();
+    return offset + (pair ? 2 : 1);
+}
+
+/// A view of text or bytes without the spaces (only character 32) at its ends.
+template<typename View>
+View withoutSpaces(View text)
+{
+    while (!text.isEmpty() && text.front() == u' ')
+        text = text.sliced(1);
+    while (!text.isEmpty() && text.back() == u' ')
+        text.chop(1);
+    return text;
+}
+
+} // namespace zephira
