@@ -17,7 +17,7 @@ namespace zephira {
 
 namespace {
 
-void take(StartAction action, frmmain &window)
+void perform(StartAction action, frmmain &window)
 {
     switch (action) {
     case StartAction::ShowStartDialog:
@@ -52,7 +52,7 @@ void runStartProcedure(frmmain &window, const QString &argument)
     const QString selprj = window.services().configuration.value(Setting::StartDialog);
     begin(u"showDialogs");
     for (const StartAction action : startActions(startArgument(argument), showTips, selprj))
-        take(action, window);
+        perform(action, window);
 }
 
 } // namespace zephira

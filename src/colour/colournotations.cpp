@@ -31,7 +31,7 @@ std::optional<quint8> channelOf(Notation notation, const QString &text)
     return notation == Notation::Hex ? hexChannel(text) : decimalChannel(text);
 }
 
-QString textOf(Notation notation, quint8 channel)
+QString digitsOf(Notation notation, quint8 channel)
 {
     return notation == Notation::Hex ? QString::number(channel, 16).toUpper() : QString::number(channel);
 }
@@ -106,7 +106,7 @@ bool ColourNotations::fromLong()
     const Channels channels = channelsOf(static_cast<quint32>(*number));
     for (const Notation notation : {Notation::Hex, Notation::Rgb}) {
         for (int i = 0; i < channelCount; ++i)
-            m_boxes.setText(notation, i, textOf(notation, channels.at(static_cast<std::size_t>(i))));
+            m_boxes.setText(notation, i, digitsOf(notation, channels.at(static_cast<std::size_t>(i))));
     }
     checkHex();
     checkRgb();
@@ -171,7 +171,7 @@ void ColourNotations::follow(Notation notation, const Channels &channels, int ch
         const quint8 channel = channels.at(static_cast<std::size_t>(i));
         const std::optional<quint8> shown = channelOf(notation, m_boxes.text(notation, i));
         if (i == changed || (shown && *shown != channel))
-            m_boxes.setText(notation, i, textOf(notation, channel));
+            m_boxes.setText(notation, i, digitsOf(notation, channel));
     }
 }
 

@@ -35,7 +35,7 @@ xcb_window_t rootOf(xcb_connection_t *connection)
 }
 
 /// The pixels of an area within the root window.
-QImage pixelsOf(xcb_connection_t *connection, const QRect &area)
+QImage imageOfArea(xcb_connection_t *connection, const QRect &area)
 {
     constexpr uint32_t allPlanes = ~static_cast<uint32_t>(0);
     const auto request =
@@ -94,7 +94,7 @@ QImage XScreenColours::picture(const QRect &area) const
     const QRect visible = area & QRect(0, 0, desktop->width, desktop->height);
     if (visible.isEmpty())
         return {};
-    const QImage pixels = pixelsOf(connection, visible);
+    const QImage pixels = imageOfArea(connection, visible);
     if (visible == area || pixels.isNull())
         return pixels;
     QImage picture(area.size(), QImage::Format_RGB32);

@@ -17,7 +17,7 @@ int offsetOf(const SciEngine &engine, qsizetype position)
     return AccessibleEditor::offsetOf(engine, position);
 }
 
-QString textOf(const SciEngine &engine, qsizetype position, qsizetype length)
+QString textInRange(const SciEngine &engine, qsizetype position, qsizetype length)
 {
     return fromBuffer(engine.bytes(position, position + length), LineEnds::Mixed);
 }
@@ -28,7 +28,7 @@ void AccessibleNews::inserted(qsizetype position, qsizetype length)
 {
     if (!isListenedTo())
         return;
-    QAccessibleTextInsertEvent event(&m_source, offsetOf(m_engine, position), textOf(m_engine, position, length));
+    QAccessibleTextInsertEvent event(&m_source, offsetOf(m_engine, position), textInRange(m_engine, position, length));
     tell(event);
 }
 
@@ -36,7 +36,7 @@ void AccessibleNews::willRemove(qsizetype position, qsizetype length)
 {
     if (!isListenedTo())
         return;
-    QAccessibleTextRemoveEvent event(&m_source, offsetOf(m_engine, position), textOf(m_engine, position, length));
+    QAccessibleTextRemoveEvent event(&m_source, offsetOf(m_engine, position), textInRange(m_engine, position, length));
     tell(event);
 }
 

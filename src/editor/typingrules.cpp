@@ -27,13 +27,13 @@ bool isPlainBackspace(const QKeyEvent &key)
     return key.key() == Qt::Key_Backspace && !(key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
 }
 
-bool isBlank(QByteArrayView text)
+bool isIndentation(QByteArrayView text)
 {
     return std::ranges::all_of(text, [](char c) { return c == ' ' || c == '\t'; });
 }
 
 /// The line end typed by the Enter key.
-QByteArray lineEndOf(const SciEngine &engine)
+QByteArray currentLineEnd(const SciEngine &engine)
 {
     switch (engine.send(Sci::SCI_GETEOLMODE)) {
     case Sci::SC_EOL_LF:
@@ -90,7 +90,7 @@ void TypingRules::breakLines() const
     for (qsizetype i = 0; i < m_engine.send(Sci::SCI_GETSELECTIONS); ++i)
         ranges.emplace_back(m_engine.send(Sci::SCI_GETSELECTIONNSTART, i), m_engine.send(Sci::SCI_GETSELECTIONNEND, i));
     std::ranges::sort(ranges);
-    const QByteArray lineEnd = lineEndOf(m_engine);
+    const QByteArray lineEnd = currentLineEnd(m_engine);
     std::vector<qsizetype> after;
     qsizetype moved = 0;
     for (const auto &[start, end] : ranges) {
@@ -98,7 +98,7 @@ void TypingRules::breakLines() const
         const qsizetype lineStart = m_engine.lineStart(m_engine.lineOf(at));
         const QByteArrayView above = m_engine.bytes(lineStart, at);
         const QByteArray text = m_options.autoIndent ? lineEnd + indentBelow(above, m_options) : lineEnd;
-        const qsizetype from = m_options.autoIndent && isBlank(above) ? lineStart : at;
+        const qsizetype from = m_options.autoIndent && isIndentation(above) ? lineStart : at;
         const qsizetype to = end + moved;
         m_engine.replace(from, to, text);
         after.push_back(from + text.size());
@@ -205,7 +205,7 @@ void TypingRules::indentNewLine() const
     if (m_engine.send(Sci::SCI_GETSELECTIONS) > 1 || line == 0 || caret != m_engine.lineStart(line))
         return;
     const QByteArrayView above = m_engine.bytes(m_engine.lineStart(line - 1), m_engine.lineEnd(line - 1));
-    const bool blank = isBlank(above);
+    const bool blank = isIndentation(above);
     const QByteArray indent = indentBelow(above, m_options);
     m_engine.replace(caret, caret, indent);
     if (blank)

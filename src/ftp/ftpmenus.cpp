@@ -18,7 +18,7 @@ namespace zephira {
 namespace {
 
 /// The picture with a small computer or server in its corner.
-QIcon pictureOf(const QIcon &picture, FtpToolKey::Side side, const QToolBar &toolBar)
+QIcon withEmblem(const QIcon &picture, FtpToolKey::Side side, const QToolBar &toolBar)
 {
     if (side == FtpToolKey::Side::None)
         return picture;
@@ -97,7 +97,7 @@ void FtpMenus::addKeys(QToolBar &toolBar, std::span<const FtpToolKey> keys)
 {
     for (const FtpToolKey &row : keys) {
         QAction &does = entry(row.entry);
-        QAction *key = toolBar.addAction(pictureOf(does.icon(), row.side, toolBar),
+        QAction *key = toolBar.addAction(withEmblem(does.icon(), row.side, toolBar),
                                          row.label.isEmpty() ? row.tip.toString() : row.label.toString());
         key->setObjectName(row.key.toString());
         key->setToolTip(tipWithKeys(row.tip, row.pressed));

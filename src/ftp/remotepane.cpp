@@ -24,7 +24,7 @@ QString keyOf(const QTreeWidgetItem &item)
     return item.data(0, KeyRole).toString();
 }
 
-QTreeWidgetItem *makeItem(const QString &key, const QString &text, const QIcon &icon)
+QTreeWidgetItem *makeNode(const QString &key, const QString &text, const QIcon &icon)
 {
     auto *item = new QTreeWidgetItem({text});
     item->setData(0, KeyRole, key);
@@ -60,7 +60,7 @@ void RemotePane::clearTree()
 
 void RemotePane::addRoot()
 {
-    m_parts.tree.addTopLevelItem(makeItem(remoteRootKey.toString(), remoteRootText.toString(), fileIcon(rootImage)));
+    m_parts.tree.addTopLevelItem(makeNode(remoteRootKey.toString(), remoteRootText.toString(), fileIcon(rootImage)));
 }
 
 std::optional<RemoteNode> RemotePane::selectedNode() const
@@ -103,7 +103,7 @@ void RemotePane::addFolders(const QString &parentKey, const QStringList &names)
         if (present.contains(key))
             continue;
         present.insert(key);
-        items.append(makeItem(key, name, icon));
+        items.append(makeNode(key, name, icon));
     }
     parent->addChildren(items);
     parent->setExpanded(true);

@@ -42,7 +42,7 @@ bool isRead(const QTreeWidgetItem *item)
     return item->data(0, ReadRole).toBool();
 }
 
-QTreeWidgetItem *makeItem(const QString &path, const QString &caption, QStringView icon)
+QTreeWidgetItem *makeFolderItem(const QString &path, const QString &caption, QStringView icon)
 {
     auto *item = new QTreeWidgetItem(QStringList(caption));
     item->setIcon(0, themeIcon(icon.toString()));
@@ -55,7 +55,7 @@ QTreeWidgetItem *makeItem(const QString &path, const QString &caption, QStringVi
 
 QTreeWidgetItem *makeFolder(const QString &path, const QString &caption)
 {
-    return makeItem(path, caption, u"folder");
+    return makeFolderItem(path, caption, u"folder");
 }
 
 /// The child that is the folder `target` or contains it, or nullptr.
@@ -131,9 +131,9 @@ void FolderTree::showWholeComputer()
     };
     for (const StandardFolder &place : places) {
         const QString folder = QStandardPaths::writableLocation(place.location);
-        addTopLevelItem(makeItem(withSlash(folder), place.caption.toString(), place.icon));
+        addTopLevelItem(makeFolderItem(withSlash(folder), place.caption.toString(), place.icon));
     }
-    QTreeWidgetItem *computer = makeItem({}, u"My Computer"_s, u"computer");
+    QTreeWidgetItem *computer = makeFolderItem({}, u"My Computer"_s, u"computer");
     m_start = makeFolder(QDir::rootPath(), QDir::toNativeSeparators(QDir::rootPath()));
     computer->addChild(m_start);
     addTopLevelItem(computer);

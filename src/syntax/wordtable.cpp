@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t smallestTable = 16;
 
-const unsigned char *bytesOf(QByteArrayView view)
+const unsigned char *unsignedBytes(QByteArrayView view)
 {
     return reinterpret_cast<const unsigned char *>(view.data());
 }
@@ -35,7 +35,7 @@ void WordTable::merge(QByteArrayView word, unsigned char bits)
 {
     const quint32 hash = hashOf(word);
     const std::size_t size = static_cast<std::size_t>(word.size());
-    if (const std::size_t index = m_entries.empty() ? 0 : indexOf(bytesOf(word), size, hash)) {
+    if (const std::size_t index = m_entries.empty() ? 0 : indexOf(unsignedBytes(word), size, hash)) {
         m_entries[index - 1].value |= bits;
         return;
     }
@@ -53,7 +53,7 @@ void WordTable::merge(QByteArrayView word, unsigned char bits)
 
 unsigned char WordTable::find(QByteArrayView word) const
 {
-    return find(bytesOf(word), static_cast<std::size_t>(word.size()), hashOf(word));
+    return find(unsignedBytes(word), static_cast<std::size_t>(word.size()), hashOf(word));
 }
 
 quint32 WordTable::hashOf(QByteArrayView word) const
@@ -66,7 +66,7 @@ quint32 WordTable::hashOf(QByteArrayView word) const
 
 bool WordTable::equals(const Entry &entry, const unsigned char *word) const
 {
-    const unsigned char *own = bytesOf(m_words) + entry.offset;
+    const unsigned char *own = unsignedBytes(m_words) + entry.offset;
     for (quint32 i = 0; i < entry.length; ++i) {
         if (own[i] != m_fold[word[i]])
             return false;

@@ -20,7 +20,7 @@ QVariant valueOf(Designer &designer, DesignerCommand query)
                                                  : QVariant();
 }
 
-bool isOpen(int status)
+bool isEnabled(int status)
 {
     return hasValue(status) || status == DesignerStatus::Mixed;
 }
@@ -41,8 +41,8 @@ DesignerBarState designerBarState(Designer &designer)
         state.buttons.append({status >= DesignerStatus::Enabled, status == DesignerStatus::On});
     }
     state.font = {valueOf(designer, DesignerCommand::GetFontName).toString(),
-                  isOpen(designer.queryStatus(DesignerCommand::GetFontName))};
-    state.size = {currentFontSize(designer), isOpen(designer.queryStatus(DesignerCommand::GetFontSize))};
+                  isEnabled(designer.queryStatus(DesignerCommand::GetFontName))};
+    state.size = {currentFontSize(designer), isEnabled(designer.queryStatus(DesignerCommand::GetFontSize))};
     return state;
 }
 

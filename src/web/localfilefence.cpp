@@ -5,7 +5,7 @@ namespace zephira {
 
 namespace {
 
-RemoteKind kindOf(QWebEngineUrlRequestInfo::ResourceType type)
+RemoteKind remoteKindOf(QWebEngineUrlRequestInfo::ResourceType type)
 {
     switch (type) {
     case QWebEngineUrlRequestInfo::ResourceTypeStylesheet:
@@ -26,7 +26,7 @@ void LocalFileFence::interceptRequest(QWebEngineUrlRequestInfo &request)
         request.block(!m_files.mayShow(address));
         return;
     }
-    const RemoteRequest remote{address, request.firstPartyUrl(), kindOf(request.resourceType())};
+    const RemoteRequest remote{address, request.firstPartyUrl(), remoteKindOf(request.resourceType())};
     const bool mayGo = mayGoOut(remote, m_use, m_files.isLocal(), m_isRemoteAllowed);
     request.block(!mayGo || !m_files.mayLoad(address));
     if (!mayGo && !m_isRemoteAllowed)

@@ -17,7 +17,7 @@ namespace {
 /// Schemes that pages may use in addition to local files. All others, such as the engine's own pages, are refused.
 constexpr QStringView openSchemes[] = {u"http", u"https", u"ws", u"wss", u"data", u"blob", u"about"};
 
-bool isOpen(const QUrl &address)
+bool hasOpenScheme(const QUrl &address)
 {
     return std::ranges::find(openSchemes, address.scheme()) != std::end(openSchemes);
 }
@@ -78,7 +78,7 @@ bool LocalFiles::isLocal() const
 bool LocalFiles::mayShow(const QUrl &address) const
 {
     if (!address.isLocalFile())
-        return isOpen(address);
+        return hasOpenScheme(address);
     // A missing page reveals nothing, so it may be shown: then the engine tells the user about it in its own words.
     const bool isOwn = address == m_coming || address == m_shown;
     return (isOwn && !QFileInfo::exists(address.toLocalFile())) || !readableFolder(address).isEmpty();
@@ -87,7 +87,7 @@ bool LocalFiles::mayShow(const QUrl &address) const
 bool LocalFiles::mayLoad(const QUrl &address) const
 {
     if (!address.isLocalFile())
-        return isOpen(address);
+        return hasOpenScheme(address);
     const QString file = fileBehind(address);
     if (file.isEmpty())
         return false;

@@ -45,7 +45,7 @@ QString fileOf(const QString &file, const QString &theme)
     return file + u'-' + theme;
 }
 
-QString textOf(const FileSignature &signature)
+QString stampOf(const FileSignature &signature)
 {
     return u"%1/%2/%3"_s.arg(signature.inode).arg(signature.size).arg(signature.modifiedNs);
 }
@@ -149,11 +149,11 @@ KeptPictures::Shelf KeptPictures::readShelf() const
 
 QString KeptPictures::stamp() const
 {
-    QString stamp = textOf(m_files.signature(m_program));
+    QString stamp = stampOf(m_files.signature(m_program));
     const QStringList folders = QIcon::themeSearchPaths();
     for (const QString &folder : folders) {
         for (const QString &name : {u"index.theme"_s, u"icon-theme.cache"_s})
-            stamp += u' ' + textOf(m_files.signature(folder + u'/' + m_theme + u'/' + name));
+            stamp += u' ' + stampOf(m_files.signature(folder + u'/' + m_theme + u'/' + name));
     }
     return stamp;
 }

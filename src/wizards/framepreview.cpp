@@ -28,7 +28,7 @@ constexpr PaneRow paneRows[] = {
     {u"P4", u"Bottom right frame", 4},
 };
 
-std::size_t indexOf(int group)
+std::size_t paneIndex(int group)
 {
     return static_cast<std::size_t>(group - 1);
 }
@@ -81,7 +81,7 @@ FramePreview::FramePreview(QWidget *parent) : QFrame(parent)
         pane->setAccessibleName(row.place.toString());
         pane->setToolTip(row.place.toString());
         connect(pane, &FramePane::clicked, this, [this, group = row.group] { Q_EMIT paneClicked(group); });
-        m_panes[indexOf(row.group)] = pane;
+        m_panes[paneIndex(row.group)] = pane;
     }
 }
 
@@ -95,12 +95,12 @@ void FramePreview::divide(int left, int top)
 void FramePreview::choose(int group)
 {
     for (FramePane *pane : m_panes)
-        pane->setRed(pane == m_panes[indexOf(group)]);
+        pane->setRed(pane == m_panes[paneIndex(group)]);
 }
 
 bool FramePreview::isChosen(int group) const
 {
-    return m_panes[indexOf(group)]->isRed();
+    return m_panes[paneIndex(group)]->isRed();
 }
 
 void FramePreview::resizeEvent(QResizeEvent *event)
@@ -113,10 +113,10 @@ void FramePreview::layOut()
 {
     const int x = width() * m_left / units;
     const int y = height() * m_top / units;
-    m_panes[indexOf(1)]->setGeometry(0, 0, x, y);
-    m_panes[indexOf(3)]->setGeometry(x, 0, width() - x, y);
-    m_panes[indexOf(2)]->setGeometry(0, y, x, height() - y);
-    m_panes[indexOf(4)]->setGeometry(x, y, width() - x, height() - y);
+    m_panes[paneIndex(1)]->setGeometry(0, 0, x, y);
+    m_panes[paneIndex(3)]->setGeometry(x, 0, width() - x, y);
+    m_panes[paneIndex(2)]->setGeometry(0, y, x, height() - y);
+    m_panes[paneIndex(4)]->setGeometry(x, y, width() - x, height() - y);
 }
 
 } // namespace zephira

@@ -23,7 +23,7 @@ struct TableParts {
     QString tail;
 };
 
-Result<QString> joined(TableSize size, const TableParts &parts)
+Result<QString> assembled(TableSize size, const TableParts &parts)
 {
     const qint64 rows = std::max(size.rows, 0);
     const qint64 cells = std::max(size.columns, 1);
@@ -100,28 +100,28 @@ TableAttributes tableAttributes(const TableFields &fields)
 
 Result<QString> simpleTableMarkup(TableSize size)
 {
-    return joined(size,
-                  {
-                      .head = u"<TABLE Align=\"center\" Border=\"0\">\r\n"_s,
-                      .rowStart = u"<TR>\r\n"_s,
-                      .cell = u"<TD> </TD>\r\n"_s,
-                      // The next row, or the end of the table, continues on the same line.
-                      .rowEnd = u"\t</TR>"_s,
-                      .tail = u"</TABLE>\r\n"_s,
-                  });
+    return assembled(size,
+                     {
+                         .head = u"<TABLE Align=\"center\" Border=\"0\">\r\n"_s,
+                         .rowStart = u"<TR>\r\n"_s,
+                         .cell = u"<TD> </TD>\r\n"_s,
+                         // The next row, or the end of the table, continues on the same line.
+                         .rowEnd = u"\t</TR>"_s,
+                         .tail = u"</TABLE>\r\n"_s,
+                     });
 }
 
 Result<QString> plainTableMarkup(TableSize size, const TableFields &fields, const TableAttributes &attributes)
 {
     const QString alignment = fields.alignment.isEmpty() ? QString() : u"Align=\""_s + fields.alignment + u"\""_s;
-    return joined(size,
-                  {
-                      .head = tableTag(alignment, u"\""_s, fields, attributes) + lineEnd,
-                      .rowStart = u"<TR>\r\n"_s,
-                      .cell = u"  <TD>&nbsp;</TD>\r\n"_s,
-                      .rowEnd = u" </TR>\r\n"_s,
-                      .tail = u"</TABLE>\r\n"_s,
-                  });
+    return assembled(size,
+                     {
+                         .head = tableTag(alignment, u"\""_s, fields, attributes) + lineEnd,
+                         .rowStart = u"<TR>\r\n"_s,
+                         .cell = u"  <TD>&nbsp;</TD>\r\n"_s,
+                         .rowEnd = u" </TR>\r\n"_s,
+                         .tail = u"</TABLE>\r\n"_s,
+                     });
 }
 
 Result<QString> aspTableMarkup(TableSize size, const TableFields &fields, const TableAttributes &attributes)
@@ -131,7 +131,7 @@ Result<QString> aspTableMarkup(TableSize size, const TableFields &fields, const 
         return fields.responseWrite ? u"response.write\""_s + markup + u"\""_s : markup;
     };
     const auto delimiter = [&](const QString &mark) { return fields.responseWrite ? mark : QString(); };
-    return joined(
+    return assembled(
         size,
         {
             .head = delimiter(u"<%"_s) + lineEnd + line(tableTag(alignment, u"\"\""_s, fields, attributes)) + lineEnd,

@@ -23,7 +23,7 @@ struct Body {
     bool isTooLarge = false;
 };
 
-std::size_t take(char *data, std::size_t size, std::size_t count, void *target)
+std::size_t receive(char *data, std::size_t size, std::size_t count, void *target)
 {
     auto &body = *static_cast<Body *>(target);
     const auto length = static_cast<qsizetype>(size * count);
@@ -34,7 +34,7 @@ std::size_t take(char *data, std::size_t size, std::size_t count, void *target)
     return size * count;
 }
 
-Error::Code kindOf(CURLcode code)
+Error::Code errorCodeOf(CURLcode code)
 {
     switch (code) {
     case CURLE_OPERATION_TIMEDOUT:
@@ -72,7 +72,7 @@ Result<FetchedPage> CurlPageFetcher::fetch(const QString &address)
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(m_limits.connecting.count()));
     curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, static_cast<long>(m_limits.whole.count()));
-    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &take);
+    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &receive);
     curl_easy_setopt(handle, CURLOPT_WRITEDATA, &body);
 
     const CURLcode outcome = curl_easy_perform(handle);
@@ -80,7 +80,7 @@ Result<FetchedPage> CurlPageFetcher::fetch(const QString &address)
         return Error{Error::Code::TooLarge, u"The document %1 is too large."_s.arg(address)};
     if (outcome != CURLE_OK) {
         return Error{
-            kindOf(outcome),
+            errorCodeOf(outcome),
             u"The document %1 can't be fetched: %2."_s.arg(address, QString::fromUtf8(curl_easy_strerror(outcome)))};
     }
     if (body.bytes.isEmpty())

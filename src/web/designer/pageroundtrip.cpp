@@ -69,7 +69,7 @@ bool isOutside(const PagePiece &piece, QStringView source)
 }
 
 /// Whether the piece is unclosed and therefore extends to the end of the page.
-bool isOpen(const PagePiece &piece, QStringView source)
+bool isLeftOpen(const PagePiece &piece, QStringView source)
 {
     const bool canBeOpen = piece.kind == PieceKind::Comment || piece.kind == PieceKind::ServerText;
     return canBeOpen && piece.end == source.size() && !piece.in(source).endsWith(u'>');
@@ -310,7 +310,7 @@ void PageRoundTrip::splitEnds(std::vector<PagePiece> &pieces)
     }
     m_isFragment = !isBlankText(source)
         && std::ranges::all_of(pieces, [source](const PagePiece &piece) { return rootTag(piece, source).isEmpty(); });
-    if (!pieces.empty() && isOpen(pieces.back(), source))
+    if (!pieces.empty() && isLeftOpen(pieces.back(), source))
         m_openEnd = pieces.back().in(source).toString();
     // The engine drops a doctype that comes too late.
     for (auto piece = root; piece != tail; ++piece) {
