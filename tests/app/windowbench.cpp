@@ -8,6 +8,7 @@
 #include "panes/registerforms.h"
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
+#include "support/diskfiles.h"
 #include "support/sourcefolder.h"
 #include "tags/registerforms.h"
 #include "tools/registerforms.h"
@@ -95,12 +96,7 @@ frmmain &WindowBench::start(const QString &argument)
 
 QString WindowBench::write(const QString &name, const QByteArray &content) const
 {
-    const QString path = m_folder.path() + u'/' + name;
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("can't write %s", qPrintable(path));
-    return path;
+    return putFile(m_folder.path() + u'/' + name, content);
 }
 
 QByteArray WindowBench::read(const QString &path)

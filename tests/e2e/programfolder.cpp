@@ -2,6 +2,7 @@
 #include "e2e/programfolder.h"
 
 #include "files/iniconfiguration.h"
+#include "support/diskfiles.h"
 #include "support/sourcefolder.h"
 
 #include <QDir>
@@ -48,12 +49,7 @@ ProgramFolder::ProgramFolder()
 
 QString ProgramFolder::write(const QString &name, const QByteArray &content) const
 {
-    const QString path = place(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("can't write %s", qPrintable(path));
-    return path;
+    return putFile(place(name), content);
 }
 
 QStringList ProgramFolder::recoveryCopies() const

@@ -2,9 +2,9 @@
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QTest>
 
@@ -21,12 +21,6 @@ namespace {
 
 /// Milliseconds within which a changed text must be in a copy.
 constexpr int recoveryPatience = 15000;
-
-mode_t modeOf(const QString &path)
-{
-    struct stat status = {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
 
 } // namespace
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/appfolder.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -14,26 +15,6 @@ using namespace Qt::StringLiterals;
 using namespace zephira;
 
 namespace {
-
-void put(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can't be read)");
-}
-
-uint modeOf(const QString &path)
-{
-    struct stat status = {};
-    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777u : 0u;
-}
 
 /// During its lifetime, access checks are answered as for a user without privileges, even if root runs the test; actual
 /// operations still have the real privileges.
@@ -92,16 +73,16 @@ void TstAppFolder::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir().mkpath(at(u"bin"_s)));
-    put(at(u"share/zephira.ini"_s), "[Startup]\r\nselprj=0\r\n");
-    put(at(u"share/readme.txt"_s), "Read me");
-    put(at(u"share/templates/blank.html"_s), "<html>");
+    putFile(at(u"share/zephira.ini"_s), "[Startup]\r\nselprj=0\r\n");
+    putFile(at(u"share/readme.txt"_s), "Read me");
+    putFile(at(u"share/templates/blank.html"_s), "<html>");
     QVERIFY(QDir().mkpath(at(u"share/templates/custom"_s)));
     QVERIFY(QFile::setPermissions(at(u"share/readme.txt"_s), QFile::ReadOwner | QFile::ReadOther));
 }
 
 void TstAppFolder::portable()
 {
-    put(at(u"bin/zephira.ini"_s), "");
+    putFile(at(u"bin/zephira.ini"_s), "");
     const Result<QString> path = prepare();
     QVERIFY(path.ok());
     QCOMPARE(path.value(), at(u"bin"_s));
@@ -110,11 +91,11 @@ void TstAppFolder::portable()
 
 void TstAppFolder::portableOfAnotherUser()
 {
-    put(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
-    put(at(u"bin/zephira"_s), "program");
-    put(at(u"bin/zephiraweb.so"_s), "module");
-    put(at(u"bin/templates/blank.html"_s), "<body>");
-    put(at(u"bin/templates/tool.so"_s), "data");
+    putFile(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
+    putFile(at(u"bin/zephira"_s), "program");
+    putFile(at(u"bin/zephiraweb.so"_s), "module");
+    putFile(at(u"bin/templates/blank.html"_s), "<body>");
+    putFile(at(u"bin/templates/tool.so"_s), "data");
     QVERIFY(QFile::setPermissions(at(u"bin/zephira"_s), QFile::Permissions::fromInt(0x5555)));
     QVERIFY(QFile::setPermissions(at(u"bin"_s), QFile::Permissions::fromInt(0x5555)));
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions::fromInt(0x7755)));
@@ -155,7 +136,7 @@ void TstAppFolder::firstStartFills()
 
 void TstAppFolder::existingFilesStay()
 {
-    put(at(u"home/zephira/readme.txt"_s), "Mine");
+    putFile(at(u"home/zephira/readme.txt"_s), "Mine");
     QVERIFY(prepare().ok());
     QCOMPARE(contentOf(at(u"home/zephira/readme.txt"_s)), "Mine");
     QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<html>");
@@ -206,7 +187,7 @@ void TstAppFolder::configurationThatIsAFolder()
 
 void TstAppFolder::configurationThatCannotBeRead()
 {
-    put(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
+    putFile(at(u"bin/zephira.ini"_s), "[Startup]\r\n");
     QVERIFY(QFile::setPermissions(at(u"bin/zephira.ini"_s), QFile::Permissions()));
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions::fromInt(0x7755)));
     // Root can read everything.
@@ -223,7 +204,7 @@ void TstAppFolder::configurationThatCannotBeRead()
 
 void TstAppFolder::placeTakenByAFile()
 {
-    put(at(u"home"_s), "in the way");
+    putFile(at(u"home"_s), "in the way");
     const Result<QString> path = prepare();
     QVERIFY(!path.ok());
     QCOMPARE(path.error().code, Error::Code::Unwritable);
@@ -260,7 +241,7 @@ void TstAppFolder::scratchRefusesALink()
 
 void TstAppFolder::scratchRefusesAFile()
 {
-    put(at(u"cache/zephira/scratch"_s), "");
+    putFile(at(u"cache/zephira/scratch"_s), "");
     const Result<QString> folder = scratchFolder(at(u"cache"_s));
     QVERIFY(!folder.ok());
     QCOMPARE(folder.error().code, Error::Code::Refused);

@@ -2,6 +2,7 @@
 #include "files/atomicwrite.h"
 #include "files/diskfilestore.h"
 #include "files/faultycalls.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -30,19 +31,6 @@ const QByteArray oldContent("the old text\n");
 const QByteArray newContent = QByteArray("the new text, which is longer\r\n").repeated(500);
 constexpr QByteArrayView newPieces[] = {"", "first ", "second ", "", "third\n"};
 constexpr char joinedPieces[] = "first second third\n";
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-void put(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
-}
 
 QStringList namesIn(const QTemporaryDir &folder)
 {
@@ -93,7 +81,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"a.htm"_s);
-        put(path, oldContent);
+        putFile(path, oldContent);
         QVERIFY(DiskFileStore().write(path, std::span<const QByteArrayView>()));
         QCOMPARE(contentOf(path), QByteArray());
     }
@@ -120,7 +108,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"a.htm"_s);
-        put(path, oldContent);
+        putFile(path, oldContent);
         FaultyCalls calls;
         calls.writeLimit = 0;
         const Result<void> written = DiskFileStore(calls).write(path, newPieces);
@@ -154,7 +142,7 @@ private Q_SLOTS:
             const QTemporaryDir folder;
             const QString path = folder.filePath(u"a.htm"_s);
             if (replaces)
-                put(path, oldContent);
+                putFile(path, oldContent);
             FaultyCalls calls;
             calls.intervene = [&](int number, Call) { return number == failing ? error : 0; };
             const Result<void> written = DiskFileStore(calls).write(path, newContent);
@@ -189,7 +177,7 @@ private Q_SLOTS:
         for (int interrupted = 0;; ++interrupted) {
             const QTemporaryDir folder;
             const QString path = folder.filePath(u"a.htm"_s);
-            put(path, oldContent);
+            putFile(path, oldContent);
             FaultyCalls calls;
             calls.intervene = [&](int number, Call) { return number == interrupted ? EINTR : 0; };
             QVERIFY(DiskFileStore(calls).write(path, newContent));
@@ -216,7 +204,7 @@ private Q_SLOTS:
             const QTemporaryDir folder;
             const QString path = folder.filePath(u"a.htm"_s);
             if (replaces)
-                put(path, oldContent);
+                putFile(path, oldContent);
             const int status = inChild([&] {
                 FaultyCalls calls;
                 // The writes are small, so that the process is also killed between two of them.
@@ -245,7 +233,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"a.htm"_s);
-        put(path, oldContent);
+        putFile(path, oldContent);
         const int status = inChild([&] {
             std::signal(SIGXFSZ, SIG_IGN);
             const rlimit limit{10'000, 10'000};
@@ -262,7 +250,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"a.htm"_s);
-        put(path, oldContent);
+        putFile(path, oldContent);
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
         FaultyCalls calls;
         QFile::Permissions duringWrite;
@@ -339,10 +327,10 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"a.htm"_s);
         FaultyCalls plain;
-        put(path, oldContent);
+        putFile(path, oldContent);
         QVERIFY(DiskFileStore(plain).writeCopy(path, std::array{QByteArrayView(newContent)}));
         for (int failing = 0; failing < plain.count(); ++failing) {
-            put(path, oldContent);
+            putFile(path, oldContent);
             FaultyCalls calls;
             calls.intervene = [failing](int number, Call) { return number == failing ? ENOSPC : 0; };
             DiskFileStore store(calls);
@@ -360,7 +348,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"a.htm"_s);
-        put(path, oldContent);
+        putFile(path, oldContent);
         const QByteArray name = QFile::encodeName(path);
         if (chown(name.constData(), 4711, 4712) != 0) {
             // Only root can give a file to another user.

@@ -2,6 +2,7 @@
 #include "files/diskfilestore.h"
 #include "files/faultycalls.h"
 #include "files/textfile.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -33,12 +34,6 @@ QString unread(const QString &path, const QString &reason)
     return u"The file \"%1\" could not be read: %2."_s.arg(path, reason);
 }
 
-mode_t modeOf(const QString &path)
-{
-    struct stat status = {};
-    return lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
-
 } // namespace
 
 class TstDiskFileStore : public QObject
@@ -50,17 +45,8 @@ class TstDiskFileStore : public QObject
 
     QString at(const QString &name) const { return m_folder->filePath(name); }
     QByteArray native(const QString &name) const { return QFile::encodeName(at(name)); }
-    void put(const QString &name, const QByteArray &content) const
-    {
-        QFile file(at(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
-    }
-    QByteArray get(const QString &name) const
-    {
-        QFile file(at(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-    }
+    void put(const QString &name, const QByteArray &content) const { putFile(at(name), content); }
+    QByteArray get(const QString &name) const { return contentOf(at(name)); }
 
 private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }

@@ -3,6 +3,7 @@
 #include "files/diskfilestore.h"
 #include "files/documentfile.h"
 #include "files/recoverycopies.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -61,17 +62,8 @@ struct Desk {
 
     Desk() { files.recovery = folder.filePath(u"recovery"_s); }
 
-    void put(const QByteArray &content) const
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
-    }
-    QByteArray get() const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-    }
+    void put(const QByteArray &content) const { putFile(path, content); }
+    QByteArray get() const { return contentOf(path); }
     Result<void> save(QByteArrayView text, const TextFormat &format = {})
     {
         return document.save(path, {&text, 1}, format);

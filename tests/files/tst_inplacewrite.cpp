@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/faultycalls.h"
 #include "files/inplacewrite.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QDir>
@@ -25,17 +26,8 @@ class TstInPlaceWrite final : public QObject
 private:
     QString at(const QString &name) const { return m_folder->filePath(name); }
     static QByteArray native(const QString &path) { return QFile::encodeName(path); }
-    void put(const QString &name, const QByteArray &content) const
-    {
-        QFile file(at(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
-    }
-    QByteArray get(const QString &name) const
-    {
-        QFile file(at(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-    }
+    void put(const QString &name, const QByteArray &content) const { putFile(at(name), content); }
+    QByteArray get(const QString &name) const { return contentOf(at(name)); }
     Result<void> write(const QString &name, QByteArrayView content)
     {
         return writeInPlace(m_calls, at(name), {&content, 1});
@@ -107,9 +99,7 @@ private Q_SLOTS:
         put(u"a"_s, "old");
         QCOMPARE(chmod(native(at(u"a"_s)).constData(), 0741), 0);
         QVERIFY(write(u"a"_s, "new"));
-        struct stat status = {};
-        QCOMPARE(stat(native(at(u"a"_s)).constData(), &status), 0);
-        QCOMPARE(status.st_mode & 07777, mode_t(0741));
+        QCOMPARE(modeOf(at(u"a"_s)), mode_t(0741));
     }
 
     void eachCallFails()

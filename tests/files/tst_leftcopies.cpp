@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/leftcopies.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -21,11 +21,7 @@ namespace {
 
 QString write(const QTemporaryDir &folder, const QString &name)
 {
-    const QString path = folder.filePath(name);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write("text") != 4)
-        qFatal("can't write %s", qPrintable(path));
-    return path;
+    return putFile(folder.filePath(name), "text");
 }
 
 /// The id of a process that has ended.

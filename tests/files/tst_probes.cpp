@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/iniconfiguration.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,17 +44,8 @@ class TstProbes : public QObject
     QTemporaryDir m_folder;
 
     QString at(const QString &name) const { return m_folder.filePath(name); }
-    void put(const QString &name, const QByteArray &content) const
-    {
-        QFile file(at(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
-    }
-    QByteArray get(const QString &name) const
-    {
-        QFile file(at(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-    }
+    void put(const QString &name, const QByteArray &content) const { putFile(at(name), content); }
+    QByteArray get(const QString &name) const { return contentOf(at(name)); }
 
 private Q_SLOTS:
     void saveProbeCopiesEveryByte()

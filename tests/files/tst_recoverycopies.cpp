@@ -2,6 +2,7 @@
 #include "core/clock.h"
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QCoreApplication>
@@ -24,12 +25,6 @@ public:
     QDateTime time = QDateTime(QDate(2024, 2, 29), QTime(12, 0), Qt::UTC);
     QDateTime now() const override { return time; }
 };
-
-mode_t modeOf(const QString &path)
-{
-    struct stat status = {};
-    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
 
 const QString process = QString::number(QCoreApplication::applicationPid());
 

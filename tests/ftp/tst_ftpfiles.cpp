@@ -2,11 +2,11 @@
 #include "core/errorstyles.h"
 #include "ftp/sessionlogfile.h"
 #include "ftp/siteprofile.h"
+#include "support/diskfiles.h"
 #include "support/fakes.h"
 #include "support/testregistry.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,17 +37,6 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
-    static void write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
 
     QTemporaryDir m_folder;
 };
@@ -58,7 +47,7 @@ void TstFtpFiles::profileBytes()
 {
     const QString file = path(u"My Site.ftp"_s);
     QVERIFY(writeSiteProfile({u"My Site"_s, u"ftp.example.com"_s, u"me"_s, {}, u"21"_s}, file));
-    QCOMPARE(read(file),
+    QCOMPARE(contentOf(file),
              QByteArray("[PROFIL]\r\nsname=My Site\r\nadresa=ftp.example.com\r\nID=me\r\npass=\r\nport=21\r\n"));
 }
 
@@ -106,9 +95,9 @@ void TstFtpFiles::profileIsPrivate()
 void TstFtpFiles::profileOverwritesOnlyItsKeys()
 {
     const QString file = path(u"mine.ftp"_s);
-    write(file, "; by hand\r\n[PROFIL]\r\nPASS=old\r\nnote=stays\r\n[other]\r\npass=stays too\r\n");
+    putFile(file, "; by hand\r\n[PROFIL]\r\nPASS=old\r\nnote=stays\r\n[other]\r\npass=stays too\r\n");
     QVERIFY(writeSiteProfile({u"mine"_s, u"example.com"_s, u"me"_s, {}, u"21"_s}, file));
-    QCOMPARE(read(file),
+    QCOMPARE(contentOf(file),
              QByteArray("; by hand\r\n[PROFIL]\r\nPASS=\r\nnote=stays\r\nsname=mine\r\n"
                         "adresa=example.com\r\nID=me\r\nport=21\r\n[other]\r\npass=stays too\r\n"));
 }

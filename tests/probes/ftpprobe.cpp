@@ -7,6 +7,7 @@
 #include "files/diskfilestore.h"
 #include "ftp/net/netoperations.h"
 #include "ftp/safenames.h"
+#include "probes/fail.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -22,12 +23,6 @@ using namespace zephira;
 
 constexpr quint32 blockSize = 1024;
 constexpr qsizetype pieceSize = 1024 * blockSize;
-
-int fail(const QString &sentence)
-{
-    std::fprintf(stderr, "%s\n", qUtf8Printable(sentence));
-    return 1;
-}
 
 int get(InternetOperations &operations, InternetHandle connection, const QStringList &arguments)
 {

@@ -3,22 +3,13 @@
 // iniprobe FILE SECTION KEY @VALUEFILE: writes one key, whose value is the content of a file.
 #include "files/diskfilestore.h"
 #include "files/iniconfiguration.h"
+#include "probes/fail.h"
 
 #include <QCoreApplication>
 
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int fail(const QString &sentence)
-{
-    std::fprintf(stderr, "%s\n", qUtf8Printable(sentence));
-    return 1;
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {

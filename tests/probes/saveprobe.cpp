@@ -4,23 +4,12 @@
 #include "files/diskfilestore.h"
 #include "files/documentfile.h"
 #include "files/recoverycopies.h"
+#include "probes/fail.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>
 
-#include <cstdio>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int fail(const QString &sentence)
-{
-    std::fprintf(stderr, "%s\n", qUtf8Printable(sentence));
-    return 1;
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/diskfilestore.h"
+#include "support/diskfiles.h"
 #include "support/eventwait.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
@@ -7,7 +8,6 @@
 #include "web/scriptmessagebar.h"
 
 #include <QCheckBox>
-#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
@@ -44,12 +44,7 @@ struct Bench {
 
     QString write(const QString &name, const QByteArray &content) const
     {
-        const QString path = folder.path() + u'/' + name;
-        QDir().mkpath(path.section(u'/', 0, -2));
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("can't write %s", qPrintable(path));
-        return path;
+        return putFile(folder.path() + u'/' + name, content);
     }
 
     QWebEnginePage &page() const { return *browser.findChild<QWebEngineView *>()->page(); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ftp/net/ftpserver.h"
 #include "ftp/net/scriptedserver.h"
+#include "support/diskfiles.h"
 #include "support/testregistry.h"
 
 #include <QFile>
@@ -34,12 +35,6 @@ Run ftpprobe(const QStringList &arguments)
     if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
         return {};
     return {process.exitCode(), process.readAllStandardOutput()};
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "no such file"_ba;
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/designer/designerbench.h"
 
-#include <QFile>
+#include "support/diskfiles.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMouseEvent>
@@ -205,12 +206,7 @@ void DesignerBench::drag(const QPoint &from, const QPoint &to)
 
 QString DesignerBench::write(const QString &name, const QByteArray &content) const
 {
-    const QString path = folder.path() + u'/' + name;
-    QDir().mkpath(path.section(u'/', 0, -2));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("can't write %s", qPrintable(path));
-    return path;
+    return putFile(folder.path() + u'/' + name, content);
 }
 
 } // namespace zephira
