@@ -19,6 +19,8 @@
 #include <QTest>
 #include <QToolBar>
 
+#include <cerrno>
+
 using namespace zephira;
 using namespace Qt::StringLiterals;
 
@@ -421,21 +423,69 @@ private Q_SLOTS:
         QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("new old"));
     }
 
+    void aFailedSaveAsIsTold_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isThere");
+        QTest::addColumn<bool>("isFull");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("missing folder") << u"%1/none/a.txt"_s << false << false << u"its folder does not exist"_s;
+        QTest::newRow("read-only file") << u"%1/ro/a.txt"_s << true << false << u"it is read-only"_s;
+        QTest::newRow("full disk") << u"%1/a.txt"_s << false << true << u"the disk is full"_s;
+        QTest::newRow("no disk") << u"/dev/full"_s << true << false << u"it is not a regular file"_s;
+    }
+
+    /// And the close that comes after it goes on, with a copy of the text.
     void aFailedSaveAsIsTold()
     {
+        QFETCH(QString, name);
+        QFETCH(bool, isThere);
+        QFETCH(bool, isFull);
+        QFETCH(QString, reason);
         WindowBench bench;
+        const QString locked = bench.write(u"ro/a.txt"_s, "old");
+        QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner));
         frmmain &window = bench.start();
+        window.show();
         window.rt().setSelText(u"text"_s);
-        const QString path = bench.folder() + u"/none/a.txt"_s;
-        bench.prompts.expectFile({u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s,
-                                  window.context().document.projectPath(), true},
-                                 path);
-        bench.prompts.expectTell(u"The file \"%1\" could not be saved: its folder does not exist."_s.arg(path), {},
-                                 Question::Icon::Exclamation);
+        const QString path = name.contains(u'%') ? name.arg(bench.folder()) : name;
+        bench.calls.intervene = [&](int, FileSystemCalls::Call call) {
+            return isFull && call == FileSystemCalls::Call::Write ? ENOSPC : 0;
+        };
+        const auto expectFailure = [&](const ScriptedPrompts::During &during) {
+            bench.prompts.expectFile({u"Save a document..."_s, u"Text Files|*.txt|All Files|*.*"_s,
+                                      window.context().document.projectPath(), true},
+                                     path);
+            if (isThere)
+                bench.prompts.expect(
+                    {u"File: "_s + path + u"\n\nThe file you have entered\nalready exists. Overwrite?"_s,
+                     u"Overwrite?"_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                    Answer::Yes);
+            bench.prompts.expect({u"The file \"%1\" could not be saved: "_s.arg(path) + reason + u'.',
+                                  {},
+                                  Question::Icon::Exclamation,
+                                  Question::Buttons::Ok},
+                                 Answer::Ok, during);
+        };
+        expectFailure({});
         bench.choose(u"saveas"_s);
         QVERIFY(bench.prompts.verify());
         QVERIFY(window.docModified());
         QVERIFY(!window.docHasFile());
+        QCOMPARE(window.rt().text(), u"text"_s);
+
+        bench.prompts.expect({u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::Yes);
+        expectFailure([&] { isFull = false; });
+        QVERIFY(window.close());
+        QVERIFY(bench.prompts.verify());
+        const QStringList copies = QDir(bench.folder() + u"/recovery"_s).entryList(QDir::Files);
+        QCOMPARE(copies.size(), 1);
+        QVERIFY2(copies.front().startsWith(u"open-"), qPrintable(copies.front())); // The next start tells of it.
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/"_s + copies.front()), QByteArray("text"));
+        QCOMPARE(WindowBench::read(locked), QByteArray("old"));
+        QVERIFY(!QFile::exists(bench.folder() + u"/a.txt"_s));
     }
 
     /// The system ends the process: the typed text is saved in a copy at once, and nothing is asked.

@@ -7,6 +7,7 @@
 #include "core/webviews.h"
 #include "editor/codemax.h"
 #include "files/diskfilestore.h"
+#include "files/faultycalls.h"
 #include "files/iniconfiguration.h"
 #include "files/recoverycopies.h"
 #include "ftp/ftpclient.h"
@@ -71,7 +72,9 @@ public:
     FakeShell shell;
     FakeClipboard clipboard;
     FakeClock clock;
-    DiskFileStore files;
+    /// The system calls of everything that `files` does.
+    FaultyCalls calls;
+    DiskFileStore files{calls};
     RecoveryCopies recovery;
     IniConfiguration configuration;
     RecordingOperations ftpOperations;

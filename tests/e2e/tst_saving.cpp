@@ -101,6 +101,61 @@ private Q_SLOTS:
         QCOMPARE(ProgramFolder::read(folder.place(u"rescued.txt"_s)), "new " + old);
     }
 
+    void aSaveAsThatFailsIsTold_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::newRow("read-only folder") << u"closed/page.txt"_s;
+        QTest::newRow("read-only file") << u"site/locked.txt"_s;
+        QTest::newRow("no folder") << u"none/page.txt"_s;
+        QTest::newRow("full disk") << u"site/page.txt"_s;
+        QTest::newRow("no disk") << u"/dev/full"_s;
+    }
+
+    /// In a box, whatever the reason; the text stays, and a close that goes on all the same leaves a copy.
+    void aSaveAsThatFailsIsTold()
+    {
+        QFETCH(QString, place);
+        const bool isFull = QByteArray(QTest::currentDataTag()) == "full disk";
+        ProgramFolder folder;
+        const QString locked = folder.write(u"site/locked.txt"_s, "old");
+        const QString closed = QFileInfo(folder.write(u"closed/other.txt"_s, "other")).path();
+        QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner));
+        QVERIFY(QFile::setPermissions(closed, QFile::ReadOwner | QFile::ExeOwner));
+        const QString path = place.startsWith(u'/') ? place : folder.place(place);
+        RunningProgram program(folder, {u"/nodialog"_s},
+                               isFull ? RunningProgram::withoutSizeSignal() : RunningProgram::boundByPermissions());
+        QVERIFY(program.waitForWindow(untitled));
+        program.type(untitled, u"new text"_s);
+        const auto fail = [&] {
+            program.fillIn(saveDialog, path);
+            if (QFile::exists(path))
+                program.answer(overwrite, u"alt+y"_s);
+            QVERIFY(program.waitForWindow(message));
+            if (isFull)
+                program.limitFileSize(1000000);
+            program.key(message, u"Return"_s);
+            QVERIFY(program.waitUntilGone(message));
+        };
+        if (isFull)
+            program.limitFileSize(4);
+        program.key(untitled, u"alt+f a"_s);
+        fail();
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        QVERIFY(program.isRunning());
+        if (isFull)
+            program.limitFileSize(4);
+        program.close(untitled);
+        program.answer(modified, u"alt+y"_s);
+        fail();
+        QCOMPARE(program.waitForEnd(), 0);
+        QCOMPARE(folder.recoveryCopies().size(), 1);
+        QCOMPARE(ProgramFolder::read(folder.recoveryCopies().first()), "new text");
+        QCOMPARE(ProgramFolder::read(locked), "old");
+        QVERIFY(QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        for (const QString &name : {u"site"_s, u"closed"_s})
+            QCOMPARE(QDir(folder.place(name)).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
     void aFolderThatAllowsNoNewFilesIsWrittenInPlace()
     {
         ProgramFolder folder;
