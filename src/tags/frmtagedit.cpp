@@ -25,10 +25,10 @@
 #include "ui_tagpagetextarea.h"
 #include "ui_tagpagetr.h"
 #include "widgets/colourswatch.h"
+#include "widgets/fieldlookups.h"
 #include "widgets/offeredwords.h"
 #include "widgets/qtvalues.h"
 
-#include <QFileInfo>
 #include <QFontDatabase>
 
 #include <limits>
@@ -115,6 +115,8 @@ frmTagEdit::frmTagEdit(const AppContext &context, QWidget *owner, std::shared_pt
     addPages();
     bindColours();
     bindPictures();
+    offerFiles(findChild<QPushButton *>(u"browseHref"_s), findChild<QLineEdit *>(u"txtHrefAnch"_s), m_context,
+               m_memory->files);
     auto *fonts = findChild<QComboBox *>(u"CoFonts"_s);
     fonts->addItems(fontNames());
     fonts->setCompleter(nullptr);
@@ -233,13 +235,10 @@ void frmTagEdit::choosePicture(QLineEdit *field, Question::Icon icon)
         return;
     }
     const QString projectPath = m_context.document.projectPath();
-    const QString folder = m_memory->pictureFolder.isEmpty() && project ? projectPath : m_memory->pictureFolder;
-    const auto chosen = m_context.prompts.file({.title = u"Picture"_s,
-                                                .filter = u"Pictures|%1|All Files|*.*"_s.arg(picturePatterns()),
-                                                .initialFolder = folder});
+    const auto chosen =
+        m_memory->files->choose(m_context, u"Picture"_s, u"Pictures|%1|All Files|*.*"_s.arg(picturePatterns()));
     if (!chosen)
         return;
-    m_memory->pictureFolder = QFileInfo(*chosen).path();
     // Links can't be relative to an empty project path, so the field stays as it is.
     ignoringErrors({[&] { field->setText(MakeRelativePath(projectPath, *chosen)); }});
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/appcontext.h"
+#include "core/filelookup.h"
 #include "core/prompts.h"
 
 #include <QDialog>
@@ -22,8 +23,7 @@ struct TagFields;
 /// What the tag editor remembers from one use to the next while the program runs.
 struct TagEditorMemory {
     int page = 0;
-    /// The folder of the picture that was chosen last.
-    QString pictureFolder = {};
+    std::shared_ptr<FileLookup> files = std::make_shared<FileLookup>();
 };
 
 /// The tag editor: sixteen pages, each with the fields of one tag. The built tag replaces the code view's selection,

@@ -3,16 +3,18 @@
 
 #include "core/pasteitem.h"
 #include "ui_formwizard.h"
+#include "widgets/fieldlookups.h"
 #include "wizards/formmarkup.h"
 #include "wizards/longfields.h"
 
 namespace zephira {
 
-FormWizard::FormWizard(const AppContext &context, QWidget *owner)
+FormWizard::FormWizard(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup)
     : QDialog(owner), m_ui(std::make_unique<Ui::FormWizard>()), m_context(context)
 {
     m_ui->setupUi(this);
     acceptAnyText(*this);
+    offerFiles(m_ui->browseText8, m_ui->Text8, m_context, lookup);
     QFont large = m_ui->banner->font();
     large.setBold(true);
     large.setPointSizeF(large.pointSizeF() * 1.4);

@@ -13,13 +13,15 @@ namespace Ui {
 class FormWizard;
 }
 
+class FileLookup;
+
 /// Inserts a form with some text fields and its two buttons.
 class FormWizard final : public QDialog
 {
     Q_OBJECT
 
 public:
-    FormWizard(const AppContext &context, QWidget *owner);
+    FormWizard(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup);
     ~FormWizard() override;
 
 private:

@@ -3,6 +3,7 @@
 
 #include "core/pasteitem.h"
 #include "ui_frmframeswiz.h"
+#include "widgets/fieldlookups.h"
 #include "wizards/framesmarkup.h"
 #include "wizards/longfields.h"
 
@@ -12,11 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-frmFramesWiz::frmFramesWiz(const AppContext &context, QWidget *owner)
+frmFramesWiz::frmFramesWiz(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmFramesWiz>()), m_context(context)
 {
     m_ui->setupUi(this);
     acceptAnyText(*this);
+    offerFiles(m_ui->browseSource1, m_ui->Source1, m_context, lookup);
+    offerFiles(m_ui->browseSource2, m_ui->Source2, m_context, lookup);
+    offerFiles(m_ui->browseSource3, m_ui->Source3, m_context, lookup);
+    offerFiles(m_ui->browseSource4, m_ui->Source4, m_context, lookup);
     connect(m_ui->optV, &QRadioButton::clicked, this, [this] { arm(FrameBars::Bar::Vertical); });
     connect(m_ui->optH, &QRadioButton::clicked, this, [this] { arm(FrameBars::Bar::Horizontal); });
     connect(m_ui->M, &FrameCanvas::mouseMoved, this, [this](double x, double y) {
@@ -77,6 +82,8 @@ void frmFramesWiz::arm(FrameBars::Bar bar)
 {
     m_bars.arm(bar);
     showBars();
+    // There the arrow keys move the bar that was just chosen.
+    m_ui->M->setFocus();
 }
 
 void frmFramesWiz::showBars()

@@ -14,6 +14,7 @@ namespace Ui {
 class frmFramesWiz;
 }
 
+class FileLookup;
 struct FrameFields;
 struct FramesFields;
 
@@ -30,7 +31,7 @@ class frmFramesWiz final : public QDialog
     Q_PROPERTY(int ColPercent READ colPercent)
 
 public:
-    frmFramesWiz(const AppContext &context, QWidget *owner);
+    frmFramesWiz(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup);
     ~frmFramesWiz() override;
 
     bool trackV() const { return m_bars.TrackV(); }

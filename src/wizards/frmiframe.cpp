@@ -3,16 +3,18 @@
 
 #include "core/pasteitem.h"
 #include "ui_frmiframe.h"
+#include "widgets/fieldlookups.h"
 #include "wizards/elementmarkup.h"
 #include "wizards/longfields.h"
 
 namespace zephira {
 
-frmiframe::frmiframe(const AppContext &context, QWidget *owner)
+frmiframe::frmiframe(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmiframe>()), m_context(context)
 {
     m_ui->setupUi(this);
     acceptAnyText(*this);
+    offerFiles(m_ui->browseSource, m_ui->source, m_context, lookup);
     // The alignment is empty until one is chosen.
     m_ui->fralign->setCurrentIndex(-1);
     connect(m_ui->Command2, &QPushButton::clicked, this, &frmiframe::insertFrame);

@@ -13,13 +13,15 @@ namespace Ui {
 class frmiframe;
 }
 
+class FileLookup;
+
 /// Inserts an inline frame.
 class frmiframe final : public QDialog
 {
     Q_OBJECT
 
 public:
-    frmiframe(const AppContext &context, QWidget *owner);
+    frmiframe(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup);
     ~frmiframe() override;
 
 private:

@@ -2,8 +2,8 @@
 #include "wizards/frmlinkwiz.h"
 
 #include "core/pasteitem.h"
-#include "core/prompts.h"
 #include "ui_frmlinkwiz.h"
+#include "widgets/fieldlookups.h"
 #include "wizards/linkmarkup.h"
 #include "wizards/longfields.h"
 
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-frmlinkwiz::frmlinkwiz(const AppContext &context, QWidget *owner)
+frmlinkwiz::frmlinkwiz(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmlinkwiz>()), m_context(context)
 {
     m_ui->setupUi(this);
@@ -29,7 +29,7 @@ frmlinkwiz::frmlinkwiz(const AppContext &context, QWidget *owner)
         if (!std::exchange(m_isPrefixPut, false))
             putPrefix();
     });
-    connect(m_ui->Command1, &QPushButton::clicked, this, &frmlinkwiz::browse);
+    offerFiles(m_ui->Command1, m_ui->text5, m_context, lookup);
     connect(m_ui->OKButton, &QPushButton::clicked, this, &frmlinkwiz::insertLink);
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &frmlinkwiz::reject);
 }
@@ -39,13 +39,6 @@ frmlinkwiz::~frmlinkwiz() = default;
 void frmlinkwiz::putPrefix()
 {
     m_ui->text5->setText(withPrefix(m_ui->Combo3->currentText(), m_ui->text5->text()));
-}
-
-void frmlinkwiz::browse()
-{
-    const auto file = m_context.prompts.file({.title = u"Browse for file"_s, .filter = u"All Files (*.*)|*.*"_s});
-    if (file)
-        m_ui->text5->setText(projectReference(m_context.document, *file));
 }
 
 void frmlinkwiz::insertLink()

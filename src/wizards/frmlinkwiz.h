@@ -13,18 +13,19 @@ namespace Ui {
 class frmlinkwiz;
 }
 
+class FileLookup;
+
 /// Inserts a link in the active view.
 class frmlinkwiz final : public QDialog
 {
     Q_OBJECT
 
 public:
-    frmlinkwiz(const AppContext &context, QWidget *owner);
+    frmlinkwiz(const AppContext &context, QWidget *owner, const std::shared_ptr<FileLookup> &lookup);
     ~frmlinkwiz() override;
 
 private:
     void putPrefix();
-    void browse();
     void insertLink();
 
     const std::unique_ptr<Ui::frmlinkwiz> m_ui;

@@ -5,6 +5,7 @@
 #include "ui_frmloadtags.h"
 #include "widgets/itemchoice.h"
 #include "wizards/frmmeta.h"
+#include "wizards/longfields.h"
 #include "wizards/savedtags.h"
 
 using namespace Qt::StringLiterals;
@@ -22,6 +23,7 @@ frmloadtags::frmloadtags(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmloadtags>()), m_context(context)
 {
     m_ui->setupUi(this);
+    acceptAnyText(*this);
     m_ui->Text1->setText(nothingPicked.toString());
     m_ui->Text1->hide();
     connect(m_ui->File1, &SavedTagsList::picked, m_ui->Text1, &QLineEdit::setText);

@@ -3,6 +3,8 @@
 
 #include "core/pasteitem.h"
 #include "ui_frmtable.h"
+#include "widgets/fieldlookups.h"
+#include "wizards/longfields.h"
 #include "wizards/tablemarkup.h"
 
 namespace zephira {
@@ -11,9 +13,11 @@ frmTable::frmTable(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmTable>()), m_context(context)
 {
     m_ui->setupUi(this);
-    // Typed text is used unchanged: a completer would turn "row" into "Row".
-    for (QComboBox *list : {m_ui->Combo4, m_ui->Combo5, m_ui->Combo7})
-        list->setCompleter(nullptr);
+    acceptAnyText(*this);
+    offerColours(m_ui->Text8Swatch, m_ui->Text8, m_context);
+    offerColours(m_ui->bordercolSwatch, m_ui->bordercol, m_context);
+    offerColours(m_ui->lightcolSwatch, m_ui->lightcol, m_context);
+    offerColours(m_ui->darkcolSwatch, m_ui->darkcol, m_context);
     connect(m_ui->Command1, &QPushButton::clicked, this, &frmTable::insertTable);
     connect(m_ui->Command2, &QPushButton::clicked, this, &frmTable::reject);
     connect(m_ui->Command3, &QPushButton::clicked, this, &frmTable::insertCell);

@@ -3,6 +3,7 @@
 
 #include "core/pasteitem.h"
 #include "ui_frmtables.h"
+#include "wizards/longfields.h"
 #include "wizards/tablemarkup.h"
 #include "wizards/windowdragger.h"
 
@@ -12,6 +13,7 @@ frmTables::frmTables(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmTables>()), m_context(context)
 {
     m_ui->setupUi(this);
+    acceptAnyText(*this);
     new WindowDragger(m_ui->Frame1);
     connect(m_ui->Frame1, &SizePicker::picked, this, &frmTables::pick);
     connect(m_ui->cmdCreate, &QPushButton::clicked, this, &frmTables::create);

@@ -4,11 +4,11 @@
 #include "core/pasteitem.h"
 #include "core/prompts.h"
 #include "ui_frmwizmarquee.h"
-#include "widgets/qtvalues.h"
+#include "widgets/fieldlookups.h"
 #include "wizards/elementmarkup.h"
 #include "wizards/longfields.h"
 
-#include <QPainter>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -32,9 +32,7 @@ frmwizMarquee::frmwizMarquee(const AppContext &context, QWidget *owner)
     acceptAnyText(*this);
     connect(m_ui->Command2, &QPushButton::clicked, this, &frmwizMarquee::insertMarquee);
     connect(m_ui->Command3, &QPushButton::clicked, this, &frmwizMarquee::reject);
-    connect(m_ui->swatch, &QToolButton::clicked, this, &frmwizMarquee::chooseColour);
-    connect(m_ui->Text7, &QLineEdit::textChanged, this, &frmwizMarquee::showColour);
-    showColour();
+    offerColours(m_ui->swatch, m_ui->Text7, m_context);
 }
 
 frmwizMarquee::~frmwizMarquee() = default;
@@ -64,26 +62,6 @@ void frmwizMarquee::insertMarquee()
     }
     pasteBehindSelection(m_context, marqueeMarkup(fields()));
     accept();
-}
-
-void frmwizMarquee::chooseColour()
-{
-    const QColor shown(m_ui->Text7->text());
-    if (const auto colour = m_context.prompts.colour(toColourNumber(shown.isValid() ? shown : QColor(Qt::white))))
-        m_ui->Text7->setText(toQColor(*colour).name().toUpper());
-}
-
-void frmwizMarquee::showColour()
-{
-    const QColor colour(m_ui->Text7->text());
-    QPixmap picture(m_ui->swatch->iconSize() * devicePixelRatioF());
-    picture.setDevicePixelRatio(devicePixelRatioF());
-    picture.fill(colour.isValid() ? colour : Qt::transparent);
-    QPainter painter(&picture);
-    painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawRect(QRectF(QPointF(0.5, 0.5), QSizeF(m_ui->swatch->iconSize()) - QSizeF(1, 1)));
-    painter.end();
-    m_ui->swatch->setIcon(picture);
 }
 
 } // namespace zephira

@@ -27,9 +27,6 @@ public:
 private:
     MarqueeFields fields() const;
     void insertMarquee();
-    void chooseColour();
-    /// Paints the button in the colour given in the text box beside it.
-    void showColour();
 
     const std::unique_ptr<Ui::frmwizMarquee> m_ui;
     const AppContext m_context;

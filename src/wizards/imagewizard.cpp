@@ -3,15 +3,17 @@
 
 #include "core/designer.h"
 #include "core/editingcontrol.h"
+#include "core/filelookup.h"
 #include "core/filestore.h"
 #include "core/pasteitem.h"
-#include "core/prompts.h"
 #include "ui_imagewizard.h"
 #include "wizards/linkmarkup.h"
 #include "wizards/longfields.h"
 
 #include <QBuffer>
 #include <QImageReader>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -25,8 +27,8 @@ constexpr QStringView pictureFilter =
 
 } // namespace
 
-ImageWizard::ImageWizard(const AppContext &context, QWidget *owner)
-    : QDialog(owner), m_ui(std::make_unique<Ui::ImageWizard>()), m_context(context)
+ImageWizard::ImageWizard(const AppContext &context, QWidget *owner, std::shared_ptr<FileLookup> lookup)
+    : QDialog(owner), m_ui(std::make_unique<Ui::ImageWizard>()), m_context(context), m_lookup(std::move(lookup))
 {
     m_ui->setupUi(this);
     acceptAnyText(*this);
@@ -53,7 +55,7 @@ ImageFields ImageWizard::fields() const
 
 void ImageWizard::browse()
 {
-    const auto file = m_context.prompts.file({.title = u"Select an Image..."_s, .filter = pictureFilter.toString()});
+    const auto file = m_lookup->choose(m_context, u"Select an Image..."_s, pictureFilter.toString());
     if (!file)
         return;
     m_ui->Text1->setText(*file);

@@ -13,6 +13,7 @@ namespace Ui {
 class ImageWizard;
 }
 
+class FileLookup;
 struct ImageFields;
 
 /// Inserts a picture, whose size is read from its file.
@@ -21,7 +22,7 @@ class ImageWizard final : public QDialog
     Q_OBJECT
 
 public:
-    ImageWizard(const AppContext &context, QWidget *owner);
+    ImageWizard(const AppContext &context, QWidget *owner, std::shared_ptr<FileLookup> lookup);
     ~ImageWizard() override;
 
 private:
@@ -33,6 +34,7 @@ private:
 
     const std::unique_ptr<Ui::ImageWizard> m_ui;
     const AppContext m_context;
+    const std::shared_ptr<FileLookup> m_lookup;
 };
 
 } // namespace zephira

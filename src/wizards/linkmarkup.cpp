@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/linkmarkup.h"
 
-#include "core/documenthost.h"
-#include "core/relativepath.h"
 #include "wizards/attribute.h"
 
 using namespace Qt::StringLiterals;
@@ -29,12 +27,6 @@ QString linkMarkup(const LinkFields &fields)
     return u"<a"_s + attribute(u"href"_s, fields.address) + attribute(u"target"_s, fields.target)
         + attribute(u"name"_s, fields.name) + status + attribute(u"title"_s, fields.title) + u'>' + fields.text
         + u"</a>"_s;
-}
-
-QString projectReference(const DocumentHost &document, const QString &file)
-{
-    const QString project = document.projectPath();
-    return hasProject(document) && !project.isEmpty() ? MakeRelativePath(project, file) : file;
 }
 
 QString imageMarkup(const ImageFields &fields)

@@ -6,8 +6,6 @@
 
 namespace zephira {
 
-class DocumentHost;
-
 // Links and pictures. Fields are inserted as typed: nothing is quoted or checked.
 
 /// The ways in which an address can begin, in the order of the list.
@@ -28,10 +26,6 @@ struct LinkFields {
 };
 
 QString linkMarkup(const LinkFields &fields);
-
-/// How a page of the project refers to a file: relative to the project's folder, or by the full name if there is no
-/// project.
-QString projectReference(const DocumentHost &document, const QString &file);
 
 struct ImageFields {
     /// The picture's full name, and what projectReference() makes of it.

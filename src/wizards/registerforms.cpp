@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/registerforms.h"
 
+#include "core/filelookup.h"
 #include "core/formcatalogue.h"
 #include "wizards/doctype.h"
 #include "wizards/formwizard.h"
@@ -22,16 +23,31 @@
 #include "wizards/frmwizmarquee.h"
 #include "wizards/imagewizard.h"
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira::wizards {
 
+namespace {
+
+/// The factory of a form in which files can be looked up.
+template<typename Form>
+FormCatalogue::Factory with(const std::shared_ptr<FileLookup> &lookup)
+{
+    return
+        [lookup](const AppContext &context, QWidget *owner) -> QWidget * { return new Form(context, owner, lookup); };
+}
+
+} // namespace
+
 void registerForms(FormCatalogue &catalogue)
 {
-    catalogue.add<FormWizard>(u"FormWizard"_s);
-    catalogue.add<ImageWizard>(u"ImageWizard"_s);
+    const auto files = std::make_shared<FileLookup>();
+    catalogue.add(u"FormWizard"_s, with<FormWizard>(files));
+    catalogue.add(u"ImageWizard"_s, with<ImageWizard>(files));
     catalogue.add<doctype>(u"doctype"_s);
-    catalogue.add<frmFramesWiz>(u"frmFramesWiz"_s);
+    catalogue.add(u"frmFramesWiz"_s, with<frmFramesWiz>(files));
     catalogue.add<frmMeta>(u"frmMeta"_s);
     catalogue.add<frmRedirect>(u"frmRedirect"_s);
     catalogue.add<frmTable>(u"frmTable"_s);
@@ -39,9 +55,9 @@ void registerForms(FormCatalogue &catalogue)
     catalogue.add<frmaddchoice>(u"frmaddchoice"_s);
     catalogue.add<frmcsv>(u"frmcsv"_s);
     catalogue.add<frmdropdown>(u"frmdropdown"_s);
-    catalogue.add<frmiframe>(u"frmiframe"_s);
+    catalogue.add(u"frmiframe"_s, with<frmiframe>(files));
     catalogue.add<frminsbreak>(u"frminsbreak"_s);
-    catalogue.add<frmlinkwiz>(u"frmlinkwiz"_s);
+    catalogue.add(u"frmlinkwiz"_s, with<frmlinkwiz>(files));
     catalogue.add<frmloadtags>(u"frmloadtags"_s);
     catalogue.add<frmsavetags>(u"frmsavetags"_s);
     catalogue.add<frmvbwiz>(u"frmvbwiz"_s);

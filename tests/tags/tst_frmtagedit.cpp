@@ -370,6 +370,27 @@ private Q_SLOTS:
         QVERIFY(editor.form.isOpen());
     }
 
+    void theAddressIsAFileOfTheProject()
+    {
+        TagEditor editor;
+        const auto expect = [&](const QString &folder, const std::optional<QString> &answer) {
+            editor.world.prompts.expectFile(
+                {.title = u"Browse for file"_s, .filter = u"All Files (*.*)|*.*"_s, .initialFolder = folder}, answer);
+        };
+        expect({}, u"/site/a.htm"_s);
+        editor.form.press(u"browseHref"_s);
+        QCOMPARE(editor.form.value(u"txtHrefAnch"_s), u"/site/a.htm"_s);
+        editor.world.document.project = u"/site/"_s;
+        expect(u"/site"_s, std::nullopt);
+        editor.form.press(u"browseHref"_s);
+        QCOMPARE(editor.form.value(u"txtHrefAnch"_s), u"/site/a.htm"_s);
+        expect(u"/site"_s, u"/site/b/c.htm"_s);
+        editor.form.press(u"browseHref"_s);
+        QVERIFY(editor.world.prompts.verify());
+        editor.form.press(u"cmdOK"_s);
+        QCOMPARE(editor.document(), u"[<a href=\"b/c.htm\"></a>]"_s);
+    }
+
     void targetsAreOffered()
     {
         const TagEditor editor;

@@ -109,6 +109,18 @@ private Q_SLOTS:
                              "<input type=\"reset\"name=\"B2\"value=\"Reset\"></p>\r\n </form>"_s});
     }
 
+    void theActionIsAFileOfTheProject()
+    {
+        WizardBench wizard(u"FormWizard"_s);
+        wizard.world.document.project = u"/site/"_s;
+        wizard.world.prompts.expectFile(
+            {.title = u"Browse for file"_s, .filter = u"All Files (*.*)|*.*"_s, .initialFolder = u"/site/"_s},
+            u"/site/order.asp"_s);
+        wizard.form.press(u"browseText8"_s);
+        QVERIFY(wizard.world.prompts.verify());
+        QCOMPARE(wizard.form.value(u"Text8"_s), u"order.asp"_s);
+    }
+
     void tooManyFieldsAreTold()
     {
         WizardBench wizard(u"FormWizard"_s);

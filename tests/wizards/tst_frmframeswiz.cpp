@@ -112,7 +112,8 @@ private Q_SLOTS:
         const Wizard wizard;
         wizard.form.get<QWidget>(u"optV"_s).setFocus();
         wizard.form.key(Qt::Key_Space);
-        wizard.canvas().setFocus();
+        // The arrow keys now move the bar.
+        QCOMPARE(wizard.form.focus(), u"M"_s);
         wizard.form.key(Qt::Key_Right);
         wizard.form.key(Qt::Key_Right);
         wizard.form.key(Qt::Key_Left);
@@ -277,6 +278,26 @@ private Q_SLOTS:
         wizard.form.press(u"cmdFinish"_s);
         QVERIFY(wizard.world.inserter.inserted.value(0).contains(u"<frame name=\""_s + longText
                                                                  + u"\" src=\"a\0\x01\r\nb\" marginwidth=\"\""_s));
+    }
+
+    void eachSourceIsAFileOfTheProject()
+    {
+        Wizard wizard;
+        wizard.world.document.project = u"/site/"_s;
+        wizard.form.press(u"Command1"_s);
+        const QStringList panes{u"P2"_s, u"P3"_s, u"P5"_s, u"P4"_s};
+        QString folder = u"/site/"_s;
+        for (int group = 1; group <= 4; ++group) {
+            const QString number = QString::number(group);
+            wizard.form.press(panes[group - 1]);
+            wizard.world.prompts.expectFile(
+                {.title = u"Browse for file"_s, .filter = u"All Files (*.*)|*.*"_s, .initialFolder = folder},
+                u"/site/a/%1.htm"_s.arg(number));
+            wizard.form.press(u"browseSource"_s + number);
+            QCOMPARE(wizard.form.value(u"Source"_s + number), u"a/%1.htm"_s.arg(number));
+            folder = u"/site/a"_s;
+        }
+        QVERIFY(wizard.world.prompts.verify());
     }
 
     void closesWithoutText_data()

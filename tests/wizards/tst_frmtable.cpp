@@ -2,6 +2,7 @@
 #include "support/fakes.h"
 #include "support/formkit.h"
 #include "support/testregistry.h"
+#include "widgets/colourswatch.h"
 #include "wizards/frmtable.h"
 #include "wizards/registerforms.h"
 
@@ -252,6 +253,32 @@ private Q_SLOTS:
         wizard.form.key(Qt::Key_Return);
         QVERIFY(!wizard.form.isOpen());
         QCOMPARE(wizard.world.inserter.inserted.size(), 1);
+    }
+
+    void swatches_data()
+    {
+        QTest::addColumn<QString>("field");
+        for (const QString &field : {u"Text8"_s, u"bordercol"_s, u"lightcol"_s, u"darkcol"_s})
+            QTest::newRow(qPrintable(field)) << field;
+    }
+
+    void swatches()
+    {
+        QFETCH(QString, field);
+        Wizard wizard;
+        const auto &swatch = wizard.form.get<ColourSwatch>(field + u"Swatch"_s);
+        wizard.world.prompts.expectColour(0xffffff, std::nullopt);
+        wizard.form.press(swatch.objectName());
+        QCOMPARE(wizard.form.value(field), u"Default"_s);
+        // By keyboard: the swatch comes right behind its field.
+        wizard.form.get(field).setFocus();
+        wizard.form.key(Qt::Key_Tab);
+        QCOMPARE(wizard.form.focus(), swatch.objectName());
+        wizard.world.prompts.expectColour(0xffffff, 0x0080ff);
+        wizard.form.key(Qt::Key_Space);
+        QCOMPARE(wizard.form.value(field), u"#FF8000"_s);
+        QCOMPARE(swatch.colour(), QColor(0xff, 0x80, 0));
+        QVERIFY(wizard.world.prompts.verify());
     }
 };
 

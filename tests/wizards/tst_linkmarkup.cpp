@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/fakes.h"
 #include "support/testregistry.h"
 #include "wizards/fieldtemplate.h"
 #include "wizards/linkmarkup.h"
@@ -99,25 +98,6 @@ private Q_SLOTS:
                            .alternative = u"ö<"_s,
                            .border = u"0"_s}),
               "text");
-    }
-
-    void referenceToAFile_data()
-    {
-        QTest::addColumn<QString>("project");
-        QTest::addColumn<QString>("reference");
-        QTest::newRow("no project") << u"Project Path"_s << u"/site/img/a.png"_s;
-        QTest::newRow("an empty one") << u""_s << u"/site/img/a.png"_s;
-        QTest::newRow("above") << u"/site/"_s << u"img/a.png"_s;
-        QTest::newRow("beside") << u"/site/pages/"_s << u"../img/a.png"_s;
-        QTest::newRow("one that is gone") << u"/gone/deeper/"_s << u"../../site/img/a.png"_s;
-    }
-
-    void referenceToAFile()
-    {
-        QFETCH(QString, project);
-        FakeDocumentHost host;
-        host.project = project;
-        QTEST(projectReference(host, u"/site/img/a.png"_s), "reference");
     }
 
     void anyFieldsFillTheTemplates()

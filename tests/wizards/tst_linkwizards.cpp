@@ -27,11 +27,13 @@ QByteArray picture(int width, int height)
     return buffer.data();
 }
 
-void browse(WizardBench &wizard, const std::optional<QString> &file)
+/// Chooses a file in the dialog, which starts in `folder`.
+void browse(WizardBench &wizard, const QString &folder, const std::optional<QString> &file)
 {
-    const FileRequest request = wizard.form.widget().objectName() == u"ImageWizard"
-        ? FileRequest{.title = u"Select an Image..."_s, .filter = pictureFilter}
-        : FileRequest{.title = u"Browse for file"_s, .filter = u"All Files (*.*)|*.*"_s};
+    const bool isPicture = wizard.form.widget().objectName() == u"ImageWizard";
+    const FileRequest request{.title = isPicture ? u"Select an Image..."_s : u"Browse for file"_s,
+                              .filter = isPicture ? pictureFilter : u"All Files (*.*)|*.*"_s,
+                              .initialFolder = folder};
     wizard.world.prompts.expectFile(request, file);
     wizard.form.press(u"Command1"_s);
     QVERIFY(wizard.world.prompts.verify());
@@ -90,12 +92,12 @@ private Q_SLOTS:
     void aFileIsNamedRelativeToTheProject()
     {
         WizardBench wizard(u"frmlinkwiz"_s);
-        browse(wizard, u"/site/b/c.htm"_s);
+        browse(wizard, {}, u"/site/b/c.htm"_s);
         QCOMPARE(wizard.form.value(u"text5"_s), u"/site/b/c.htm"_s);
         wizard.world.document.project = u"/site/a/"_s;
-        browse(wizard, std::nullopt);
+        browse(wizard, u"/site/b"_s, std::nullopt);
         QCOMPARE(wizard.form.value(u"text5"_s), u"/site/b/c.htm"_s);
-        browse(wizard, u"/site/b/c.htm"_s);
+        browse(wizard, u"/site/b"_s, u"/site/b/c.htm"_s);
         QCOMPARE(wizard.form.value(u"text5"_s), u"../b/c.htm"_s);
     }
 
@@ -159,13 +161,13 @@ private Q_SLOTS:
         WizardBench wizard(u"ImageWizard"_s);
         wizard.world.document.project = u"/site/"_s;
         wizard.world.files.contents[u"/site/img/a.png"_s] = picture(30, 20);
-        browse(wizard, u"/site/img/a.png"_s);
+        browse(wizard, u"/site/"_s, u"/site/img/a.png"_s);
         QCOMPARE(wizard.form.value(u"Text1"_s), u"/site/img/a.png"_s);
         QCOMPARE(wizard.form.value(u"lblrel"_s), u"img/a.png"_s);
         QCOMPARE(wizard.form.value(u"txtwidth"_s), u"30"_s);
         QCOMPARE(wizard.form.value(u"txtheight"_s), u"20"_s);
         QCOMPARE(wizard.form.get(u"Sizer"_s).size(), QSize(30, 20));
-        browse(wizard, std::nullopt);
+        browse(wizard, u"/site/img"_s, std::nullopt);
         QCOMPARE(wizard.form.value(u"Text1"_s), u"/site/img/a.png"_s);
     }
 
@@ -184,7 +186,7 @@ private Q_SLOTS:
         if (!content.isEmpty())
             wizard.world.files.contents[u"/a.png"_s] = content;
         wizard.form.set(u"txtwidth"_s, u"5"_s);
-        browse(wizard, u"/a.png"_s);
+        browse(wizard, {}, u"/a.png"_s);
         QCOMPARE(wizard.form.value(u"Text1"_s), u"/a.png"_s);
         QCOMPARE(wizard.form.value(u"lblrel"_s), u"/a.png"_s);
         QCOMPARE(wizard.form.value(u"txtwidth"_s), u"5"_s);
@@ -208,7 +210,7 @@ private Q_SLOTS:
         wizard.world.designer.showing = designer;
         wizard.world.document.project = u"/site/"_s;
         wizard.world.files.contents[u"/site/img/a.png"_s] = picture(30, 20);
-        browse(wizard, u"/site/img/a.png"_s);
+        browse(wizard, u"/site/"_s, u"/site/img/a.png"_s);
         wizard.form.press(u"OKButton"_s);
         QVERIFY(!wizard.form.isOpen());
         QCOMPARE(wizard.inserted(), QStringList{text});
