@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowbench.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -14,7 +16,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-/// Each command that opens a small wizard, in the real window: the text comes into the document, and one undo takes it
+/// Each command that opens a wizard, in the real window: the text comes into the document, and one undo takes it
 /// back.
 class TstWizardCommands final : public QObject
 {
@@ -39,9 +41,9 @@ private Q_SLOTS:
             u"[old<meta http-equiv=\"refresh\" content=\"0\"; url=\"http://\">]"_s);
         row(u"menu"_s, u"mnuaspredirect"_s, u"frmRedirect"_s, u"Command3"_s, u"[oldResponse.redirect\"http://\"]"_s);
         row(u"menu"_s, u"mnuinsbreakd"_s, u"frminsbreak"_s, u"Command1"_s, u"[old<br clear=\"\" > ]"_s);
-        row(u"menu"_s, u"iframe"_s, u"frmiframe"_s, u"Command2"_s,
+        const QString frame =
             u"[old<iframe src=\"\" name=\"\" id=\"\" width=\"\" height=\"\" marginwidth=\"\" marginheight=\"\" align=\"\">"
-            "</iframe>]"_s);
+            "</iframe>]"_s;
         row(u"menu"_s, u"mnuvbsw"_s, u"frmvbwiz"_s, u"Command1"_s, u"[old<% If  =  Then \r\n\r\nEnd If %>\r\n]"_s);
         const QString meta = u"[<META NAME=\"description\" content=\"\"> \r\n<META NAME=\"keywords\" content=\"\">\r\n"
                              "<META NAME=\"author\" content=\"\">\r\n<META NAME=\"Copyright\" content=\"\">]"_s;
@@ -63,6 +65,14 @@ private Q_SLOTS:
         row(u"Toolbar_0"_s, u"link"_s, u"frmlinkwiz"_s, u"OKButton"_s, link);
         row(u"Toolbar_1"_s, u"link"_s, u"frmlinkwiz"_s, u"OKButton"_s, link);
         row(u"Toolbar_1"_s, u"picture"_s, u"ImageWizard"_s, u"OKButton"_s, image);
+        const QString frames = u"[old"_s + golden(u"frames-defaults"_s) + u']';
+        row(u"menu"_s, u"mnuframewiz"_s, u"frmFramesWiz"_s, u"Command1 cmdFinish"_s, frames);
+        row(u"Toolbar_5"_s, u"framewiz"_s, u"frmFramesWiz"_s, u"Command1 cmdFinish"_s, frames);
+        const QString quick = u"[old"_s + golden(u"simple-defaults"_s) + u']';
+        row(u"menu"_s, u"mnutblwiz"_s, u"frmTables"_s, u"cmdCreate"_s, quick);
+        row(u"Toolbar_3"_s, u"qtable"_s, u"frmTables"_s, u"cmdCreate"_s, quick);
+        row(u"Toolbar_3"_s, u"table"_s, u"frmTable"_s, u"Command1"_s, u"[old"_s + golden(u"plain-defaults"_s) + u']');
+        row(u"Toolbar_5"_s, u"iframe"_s, u"frmiframe"_s, u"Command2"_s, frame);
     }
 
     void aWizardWritesAndUndoTakesItBack()
@@ -73,11 +83,85 @@ private Q_SLOTS:
         QFETCH(QString, button);
         WindowBench bench;
         frmmain &window = open(bench);
-        const QString opened = run(bench, place, command,
-                                   [&button](QWidget &wizard) { wizard.findChild<QPushButton *>(button)->click(); });
+        const QString opened = run(bench, place, command, [&button](QWidget &wizard) {
+            const QStringList buttons = button.split(u' ');
+            for (const QString &name : buttons)
+                wizard.findChild<QPushButton *>(name)->click();
+        });
         QCOMPARE(opened, form);
         QTEST(window.rt().text(), "text");
         QVERIFY(window.docModified());
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+    }
+
+    /// Images have a page of their own; the other commands open the page that was shown last.
+    void theTagEditorOpensOnItsPages()
+    {
+        WindowBench bench;
+        frmmain &window = open(bench);
+        QStringList pages;
+        const auto build = [&](const QString &button) {
+            return [&pages, button](QWidget &editor) {
+                pages.append(editor.property("page").toString());
+                editor.findChild<QPushButton *>(button)->click();
+            };
+        };
+        QCOMPARE(run(bench, u"menu"_s, u"tagwiz"_s, build(u"cmdOK"_s)), u"frmTagEdit"_s);
+        QCOMPARE(window.rt().text(), u"[<a></a>]"_s);
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+        window.rt().select({0, 1, 0, 4});
+        QCOMPARE(run(bench, u"menu"_s, u"Image"_s, build(u"Command12"_s)), u"frmTagEdit"_s);
+        QCOMPARE(window.rt().text(), u"[<img align=\"Left\">]"_s);
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+        QCOMPARE(runAction(*bench.find<QAction>(u"dtw"_s), build(u"Command18_6"_s)), u"frmTagEdit"_s);
+        QCOMPARE(runAction(*bench.find<QAction>(u"dtw"_s),
+                           [&](QWidget &editor) {
+                               editor.setProperty("page", 15);
+                               editor.findChild<QPushButton *>(u"Command5"_s)->click();
+                           }),
+                 u"frmTagEdit"_s);
+        QVERIFY(window.rt().text().contains(u"<tr align=\"Left\" valign=\"Top\">"_s));
+        QCOMPARE(run(bench, u"menu"_s, u"tagwiz"_s, build(u"Command18_15"_s)), u"frmTagEdit"_s);
+        QCOMPARE(pages, (QStringList{u"0"_s, u"6"_s, u"6"_s, u"15"_s}));
+    }
+
+    void savedTagsComeBack()
+    {
+        WindowBench bench;
+        QVERIFY(QDir(bench.appPath()).mkdir(u"Tags"_s));
+        frmmain &window = open(bench);
+        const auto inCompanion = [](QWidget &wizard, const QString &button, const Work &work) {
+            QTimer::singleShot(0, &wizard, [&work] { work(*QApplication::activeModalWidget()); });
+            wizard.findChild<QPushButton *>(button)->click();
+        };
+        run(bench, u"menu"_s, u"mnumtw"_s, [&](QWidget &wizard) {
+            QTest::keyClicks(wizard.findChild<QLineEdit *>(u"txtAuthor"_s), u"me"_s);
+            inCompanion(wizard, u"Command1"_s, [](QWidget &companion) {
+                QCOMPARE(companion.objectName(), u"frmsavetags"_s);
+                auto *name = companion.findChild<QLineEdit *>(u"Text1"_s);
+                QTest::keyClicks(name, u"shop"_s);
+                QTest::keyClick(name, Qt::Key_Return);
+            });
+            QVERIFY(wizard.isVisible());
+        });
+        QCOMPARE(WindowBench::read(bench.appPath() + u"/Tags/shop.smt"_s),
+                 "[Saved Tags]\r\nDesc=\r\nKeywords=\r\nAuthor=me\r\ncright=\r\n");
+        const QString opened = run(bench, u"menu"_s, u"mnumtw"_s, [&](QWidget &wizard) {
+            inCompanion(wizard, u"Command2"_s, [](QWidget &companion) {
+                QCOMPARE(companion.objectName(), u"frmloadtags"_s);
+                auto *list = companion.findChild<QWidget *>(u"File1"_s);
+                QTest::keyClick(list, Qt::Key_Down);
+                QTest::keyClick(list, Qt::Key_Return);
+            });
+            QTest::keyClick(wizard.findChild<QLineEdit *>(u"txtCopy"_s), Qt::Key_Return);
+        });
+        QCOMPARE(opened, u"frmMeta"_s);
+        QCOMPARE(window.rt().text(),
+                 u"[<META NAME=\"description\" content=\"\"> \r\n<META NAME=\"keywords\" content=\"\">\r\n"
+                 "<META NAME=\"author\" content=\"me\">\r\n<META NAME=\"Copyright\" content=\"\">]"_s);
         window.rt().undo();
         QCOMPARE(window.rt().text(), u"[old]"_s);
     }
@@ -160,6 +244,13 @@ private:
         window.show();
         window.rt().select({0, 1, 0, 4});
         return window;
+    }
+
+    /// The text that a golden case expects.
+    static QString golden(const QString &name)
+    {
+        return QString::fromUtf8(
+            WindowBench::read(sourcePath(u"tests/golden/wizards/"_s + name + u"/expected.html"_s)));
     }
 
     static QAction *actionWithTip(const WindowBench &bench, const QString &tip)
