@@ -7,6 +7,7 @@
 #include "app/editorfont.h"
 #include "app/filepanecommands.h"
 #include "app/focusring.h"
+#include "app/pluginmenu.h"
 #include "app/recoverybar.h"
 #include "app/sidecommands.h"
 #include "app/sidelists.h"
@@ -204,10 +205,11 @@ void frmmain::buildCommands()
         *m_context, {*m_document, *m_viewSwitch, *m_sidePane->tabs(), *m_filePane, *m_menus, *m_forms}, this);
     m_sideCommands = std::make_unique<SideCommands>(
         SideCommands::Parts{*m_context, *m_sidePane, *m_sideLists, *m_palette, *m_selectorList, *m_rt, *m_forms});
+    m_plugins = std::make_unique<PluginMenu>(*m_context, *m_menus, this);
     m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
     m_router =
         std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus, *m_sideCommands,
-                                                     *m_filePaneCommands, *m_end, m_visualTools->tools()});
+                                                     *m_filePaneCommands, *m_end, m_visualTools->tools(), *m_plugins});
 }
 
 /// Offers unsaved texts of earlier runs in a bar above the text.

@@ -27,6 +27,7 @@ class FilePaneCommands;
 class Menus;
 class ModalFormOpener;
 class Palette;
+class PluginMenu;
 class RecoveryBar;
 class RecoveryKeeper;
 class SelectorList;
@@ -119,6 +120,7 @@ public:
     SideLists &sideLists() { return *m_sideLists; }
     ModalFormOpener &forms() { return *m_forms; }
     LateParts &late() { return m_late; }
+    PluginMenu &plugins() { return *m_plugins; }
     CommandRouter &router() { return *m_router; }
     WindowEnd &windowEnd() { return *m_end; }
 
@@ -172,6 +174,7 @@ private:
     std::unique_ptr<RecoveryKeeper> m_recoveryKeeper;
     std::unique_ptr<SideLists> m_sideLists;
     std::unique_ptr<SideCommands> m_sideCommands;
+    std::unique_ptr<PluginMenu> m_plugins;
     std::unique_ptr<WindowEnd> m_end;
     std::unique_ptr<CommandRouter> m_router;
 };

@@ -3,6 +3,7 @@
 
 #include "app/editorfont.h"
 #include "app/frmmain.h"
+#include "app/pluginmenu.h"
 #include "app/sidelists.h"
 #include "app/startdecision.h"
 #include "app/statuspanels.h"
@@ -67,6 +68,7 @@ const LoadHandler::Step LoadHandler::steps[] = {
     {u"readStyleSelectors", &LoadHandler::readStyleSelectors},
     {u"rootScriptFolder", &LoadHandler::rootScriptFolder},
     {u"fillTagTree", &LoadHandler::fillTagTree},
+    {u"scanPlugins", &LoadHandler::scanPlugins},
     {u"clearModified", &LoadHandler::clearModified},
     {u"readAspTags", &LoadHandler::readAspTags},
     {u"openArgument", &LoadHandler::openArgument},
@@ -223,6 +225,11 @@ void LoadHandler::fillTagTree()
         throw startError(captions.error());
     m_window.late().add(
         [&lists = m_window.sideLists(), captions = captions.value()] { lists.tags().addTags(captions); });
+}
+
+void LoadHandler::scanPlugins()
+{
+    m_window.late().add([&plugins = m_window.plugins()] { plugins.scan(); });
 }
 
 void LoadHandler::clearModified()

@@ -45,6 +45,7 @@ private:
     void readStyleSelectors();
     void rootScriptFolder();
     void fillTagTree();
+    void scanPlugins();
     void clearModified();
     void readAspTags();
     void openArgument();

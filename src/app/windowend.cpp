@@ -2,6 +2,7 @@
 #include "app/windowend.h"
 
 #include "app/frmmain.h"
+#include "app/pluginmenu.h"
 #include "commands/commandrouter.h"
 #include "core/errorstyles.h"
 #include "core/shell.h"
@@ -105,6 +106,7 @@ void WindowEnd::endProcess()
 {
     m_hasEnded = true;
     m_window.router().abandon();
+    m_window.plugins().abandon();
     m_services.endProcess();
 }
 

@@ -71,6 +71,13 @@ struct WrapsSelection {
     friend bool operator==(const WrapsSelection &, const WrapsSelection &) = default;
 };
 
+/// Runs the plug-in of an entry of the menu of plug-ins, counted from 0.
+struct RunsPlugin {
+    int entry = 0;
+
+    friend bool operator==(const RunsPlugin &, const RunsPlugin &) = default;
+};
+
 /// Writes the text of an entry of the tag menu, or opens the tag editor for it.
 struct InsertsTag {
     const QuickTag *tag = nullptr;
@@ -83,7 +90,7 @@ using Effect =
     std::variant<std::monostate, void (Document::*)(), void (ViewTabs::*)(), void (WindowCommands::*)(),
                  void (PaneCommands::*)(), void (FileListCommands::*)(), void (SourceFormatting::*)(),
                  void (*)(const AppContext &), void (*)(const CommandParts &), EditorCommand, DesignerCommand,
-                 OpensForm, EditsView, EditsText, TurnsSwitch, SetsBlockFormat, WrapsSelection, InsertsTag>;
+                 OpensForm, EditsView, EditsText, TurnsSwitch, SetsBlockFormat, WrapsSelection, RunsPlugin, InsertsTag>;
 
 /// What a row of a menu, a toolbar or a pull-down does when it is chosen.
 struct Command {

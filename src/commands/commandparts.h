@@ -95,6 +95,16 @@ public:
     virtual void setHighlightMode(int mode) = 0;
 };
 
+/// The menu of plug-ins.
+class PluginCommands
+{
+public:
+    virtual ~PluginCommands() = default;
+
+    /// Runs the plug-in of an entry, counted from 0, and inserts its text. Returns when it has ended.
+    virtual void runPlugin(int entry) = 0;
+};
+
 /// The parts that commands work on. All outlive the commands.
 struct CommandParts {
     const AppContext &context;
@@ -105,6 +115,7 @@ struct CommandParts {
     FileListCommands &files;
     WindowCommands &window;
     DesignerTools &designer;
+    PluginCommands &plugins;
 };
 
 } // namespace zephira

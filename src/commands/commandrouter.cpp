@@ -72,6 +72,7 @@ public:
         m_context.editor.replaceSelections(
             [&effect](const QString &text) { return QString(effect.before % text % effect.after); });
     }
+    void operator()(const RunsPlugin &effect) const { m_parts.plugins.runPlugin(effect.entry); }
     void operator()(const InsertsTag &effect) const
     {
         const QuickTag &tag = *effect.tag;

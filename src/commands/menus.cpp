@@ -62,6 +62,7 @@ Menus::Menus(QMenuBar *bar, QObject *owner) : QObject(owner)
     for (const MenuItem &item : popupTable())
         makeMenu(item, bar);
     setMet(Need::VisualView, false);
+    setMet(Need::Plugin, false);
 }
 
 QMenu *Menus::makeMenu(const MenuItem &item, QWidget *parent)
@@ -99,8 +100,24 @@ void Menus::addEntry(QMenu *menu, const MenuItem &item)
     menu->addAction(entry);
     if (item.name.isEmpty() || entry->isSeparator())
         return;
+    listen(entry, item.command);
+}
+
+QAction *Menus::addElement(QStringView menu, QStringView array, int element, const Command &command)
+{
+    QMenu *owner = this->menu(menu);
+    auto *entry = new QAction(owner);
+    entry->setObjectName(array.toString() + u'_' + QString::number(element));
+    entry->setMenuRole(QAction::NoRole);
+    owner->addAction(entry);
+    listen(entry, command);
+    return entry;
+}
+
+void Menus::listen(QAction *entry, const Command &command)
+{
     m_actions.insert(entry->objectName(), entry);
-    connect(entry, &QAction::triggered, this, [this, entry, command = item.command] {
+    connect(entry, &QAction::triggered, this, [this, entry, command] {
         // Only the command sets the check mark: undo what the click did to it.
         if (entry->isCheckable())
             entry->setChecked(!entry->isChecked());

@@ -41,6 +41,9 @@ public:
 
     /// Enables or disables every menu and entry whose row needs something.
     void setMet(Need need, bool met);
+    /// Adds an entry to a menu array, behind the elements that the table has or that were added before. Its name is that
+    /// of the array with the number of the element.
+    QAction *addElement(QStringView menu, QStringView array, int element, const Command &command);
     /// Disables the entries whose form can't be opened yet and says so in their tool tips.
     void applyAvailability(const FormOpener &forms);
 
@@ -52,6 +55,7 @@ private:
     QMenu *makeMenu(const MenuItem &item, QWidget *parent);
     void fill(QMenu *menu, std::span<const MenuItem> items);
     void addEntry(QMenu *menu, const MenuItem &item);
+    void listen(QAction *entry, const Command &command);
     void setMet(std::span<const MenuItem> items, Need need, bool met);
 
     QHash<QString, QAction *> m_actions;

@@ -218,7 +218,7 @@ constexpr MenuItem optionItems[] = {
 };
 
 constexpr MenuItem pluginItems[] = {
-    missing(u"mnupluginoptions_0", u"No Plugins Installed"),
+    {u"mnupluginoptions_0", u"No Plugins Installed", {}, {}, {}, {RunsPlugin{0}}, {}, Kind::Entry, {}, Need::Plugin},
 };
 
 constexpr MenuItem helpItems[] = {

@@ -58,6 +58,8 @@ inline constexpr QStringView fileList = u"mnufilerc";
 inline constexpr QStringView customTab = u"cmenu";
 inline constexpr QStringView highlightedLines = u"highlightlines";
 inline constexpr QStringView tipOfTheDay = u"mnuviewtip";
+inline constexpr QStringView plugins = u"mnuplugins";
+inline constexpr QStringView pluginEntries = u"mnupluginoptions";
 } // namespace menuname
 
 } // namespace zephira

@@ -15,6 +15,7 @@ enum class Need {
     QuickTags,
     ListedFile, ///< a file that is selected in the file list
     PageText,   ///< in the designer: no element is selected as a whole
+    Plugin,     ///< a plug-in that was found
 };
 
 } // namespace zephira

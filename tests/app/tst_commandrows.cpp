@@ -65,6 +65,10 @@ public:
     bool operator()(const TurnsSwitch &effect) const { return effect.entry == m_row && effect.get && effect.set; }
     bool operator()(const SetsBlockFormat &effect) const { return effect.number < mostBlockFormats; }
     bool operator()(const WrapsSelection &effect) const { return !effect.before.isEmpty() && !effect.after.isEmpty(); }
+    bool operator()(const RunsPlugin &effect) const
+    {
+        return m_row == u"%1_%2"_s.arg(menuname::pluginEntries).arg(effect.entry);
+    }
     bool operator()(const InsertsTag &effect) const { return effect.tag && effect.tag->key == m_row; }
     /// A function, or an operation of a part.
     bool operator()(const auto &run) const { return run != nullptr; }
@@ -103,6 +107,7 @@ private Q_SLOTS:
         // The language that opens every toolbar.
         bench.window->context().document.setLanguageRow(language::Html);
         bench.window->menus().setMet(Need::ListedFile, true);
+        bench.window->menus().setMet(Need::Plugin, true);
         const QList<QAction *> actions = rowsOf(bench);
         QStringList faults;
         int enabled = 0;
@@ -141,6 +146,7 @@ private Q_SLOTS:
         bench.window->context().document.setLanguageRow(language::Html);
         bench.window->menus().setMet(Need::VisualView, true);
         bench.window->menus().setMet(Need::ListedFile, true);
+        bench.window->menus().setMet(Need::Plugin, true);
         const QList<QAction *> buttons = actionsOf(*bench.find<QToolBar>(u"Toolbar2"_s));
         for (QAction *action : buttons)
             action->setEnabled(true);
@@ -183,6 +189,7 @@ private Q_SLOTS:
         WindowBench bench;
         bench.start();
         bench.window->context().document.setLanguageRow(language::Html);
+        bench.window->menus().setMet(Need::Plugin, true);
         const QList<QAction *> all = actionsOf(*bench.window->menuBar());
         for (const QAction *action : all) {
             const MenuItem *item = findMenuItem(action->objectName());

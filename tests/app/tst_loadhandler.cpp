@@ -22,13 +22,13 @@ private Q_SLOTS:
     void stepsRunInTheirOrder()
     {
         WindowBench bench;
-        const QStringList expected = {u"restorePlacement"_s,    u"setHelpFile"_s,       u"setFilePattern"_s,
-                                      u"recordProgramFolder"_s, u"fetchSelection"_s,    u"fillDesignerFonts"_s,
-                                      u"disableDesigner"_s,     u"readRootSelect"_s,    u"createEditorGlobals"_s,
-                                      u"readDisplayModes"_s,    u"applyFont"_s,         u"applyDisplayModes"_s,
-                                      u"applyColourTable"_s,    u"registerLanguages"_s, u"removeHotKeys"_s,
-                                      u"readStyleSelectors"_s,  u"rootScriptFolder"_s,  u"fillTagTree"_s,
-                                      u"clearModified"_s,       u"readAspTags"_s,       u"openArgument"_s};
+        const QStringList expected = {
+            u"restorePlacement"_s,    u"setHelpFile"_s,       u"setFilePattern"_s,  u"recordProgramFolder"_s,
+            u"fetchSelection"_s,      u"fillDesignerFonts"_s, u"disableDesigner"_s, u"readRootSelect"_s,
+            u"createEditorGlobals"_s, u"readDisplayModes"_s,  u"applyFont"_s,       u"applyDisplayModes"_s,
+            u"applyColourTable"_s,    u"registerLanguages"_s, u"removeHotKeys"_s,   u"readStyleSelectors"_s,
+            u"rootScriptFolder"_s,    u"fillTagTree"_s,       u"scanPlugins"_s,     u"clearModified"_s,
+            u"readAspTags"_s,         u"openArgument"_s};
         QCOMPARE(bench.start().startSteps(), expected);
         QCOMPARE(bench.window->property("startSteps").toStringList(), expected);
     }

@@ -19,7 +19,7 @@
 namespace zephira {
 
 /// The window's parts as commands see them. It records each call as "name" or "name argument".
-struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, WindowCommands {
+struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, WindowCommands, PluginCommands {
     QStringList calls;
     std::set<QString> checked;
     bool selectorPressed = false;
@@ -57,6 +57,9 @@ struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, W
     void showInQuickView() override { calls.append(QStringLiteral("showInQuickView")); }
     void insertLink() override { calls.append(QStringLiteral("insertLink")); }
     void editFilters() override { calls.append(QStringLiteral("editFilters")); }
+
+    // PluginCommands
+    void runPlugin(int entry) override { calls.append(QStringLiteral("runPlugin %1").arg(entry)); }
 
     // WindowCommands
     void newWindow() override { calls.append(QStringLiteral("newWindow")); }
@@ -100,7 +103,7 @@ struct RouterBench {
     FakeSurface surface;
     Document document{context, dialog, surface};
     DesignerTools designer{context};
-    CommandRouter router{{context, document, window, window, window, window, window, designer}};
+    CommandRouter router{{context, document, window, window, window, window, window, designer, window}};
 
     /// Chooses a menu entry, which may be one of the tag menu.
     void menu(const QString &name)

@@ -46,10 +46,11 @@ constexpr FolderRow folderRows[] = {
     {u"settings", u"core files widgets"},
     {u"ftp", u"core files widgets"},
     {u"document", u"core files"},
-    {u"start", u"core files widgets"},
+    {u"plugins", u"core widgets"},
+    {u"start", u"core files plugins widgets"},
     {u"commands", u"core tools views widgets document"},
     {u"app",
-     u"core files syntax widgets editor desktop colour tags panes views wizards settings tools ftp document start commands"},
+     u"core files syntax widgets editor desktop colour tags panes views wizards settings tools ftp document plugins start commands"},
 };
 
 constexpr Rule includeRules[] = {

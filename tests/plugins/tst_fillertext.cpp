@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plugins/filler/fillertext.h"
+#include "support/testregistry.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+class TstFillerText final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void paragraphs()
+    {
+        static const QRegularExpression form(u"^<p>[A-Z][^<>&\r\n]{150,450}\\.</p>\r\n$"_s);
+        QStringList texts;
+        for (int i = 0; i < fillerParagraphs(); ++i) {
+            texts.append(fillerParagraph(i));
+            QVERIFY2(texts.last().contains(form), qPrintable(texts.last()));
+        }
+        QCOMPARE(texts.removeDuplicates(), 0);
+        QVERIFY(texts.size() >= 5);
+        QCOMPARE(fillerParagraph(fillerParagraphs()), texts.first());
+    }
+};
+
+ZEPHIRA_TEST(TstFillerText)
+#include "tst_fillertext.moc"
