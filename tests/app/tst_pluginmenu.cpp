@@ -143,7 +143,9 @@ private Q_SLOTS:
             typed = rt.text();
         });
         QTimer::singleShot(60, bench.window.get(), [&] {
-            bench.prompts.expect({u"The file has changed.\r\n\r\nDo you want to save the changes?"_s}, Answer::No);
+            bench.prompts.expect({u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
+                                  u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                                 Answer::No);
             bench.window->close();
         });
         bench.choose(u"mnupluginoptions_0"_s);
