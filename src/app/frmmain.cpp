@@ -11,6 +11,7 @@
 #include "app/recoverybar.h"
 #include "app/sidecommands.h"
 #include "app/sidelists.h"
+#include "app/spellingmenu.h"
 #include "app/statuspanels.h"
 #include "app/viewswitch.h"
 #include "app/visualtools.h"
@@ -41,6 +42,7 @@
 #include "panes/selectorlist.h"
 #include "panes/sidepane.h"
 #include "panes/sidetabbar.h"
+#include "tools/spelling/spellcheck.h"
 #include "ui_frmmain.h"
 
 #include <QAction>
@@ -203,8 +205,8 @@ void frmmain::buildCommands()
 {
     m_filePaneCommands = new FilePaneCommands(
         *m_context, {*m_document, *m_viewSwitch, *m_sidePane->tabs(), *m_filePane, *m_menus, *m_forms}, this);
-    m_sideCommands = std::make_unique<SideCommands>(
-        SideCommands::Parts{*m_context, *m_sidePane, *m_sideLists, *m_palette, *m_selectorList, *m_rt, *m_forms});
+    m_sideCommands = std::make_unique<SideCommands>(SideCommands::Parts{
+        *m_context, *m_sidePane, *m_sideLists, *m_palette, *m_selectorList, *m_rt, *m_forms, m_services.spelling});
     m_plugins = std::make_unique<PluginMenu>(*m_context, *m_menus, this);
     m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
     m_router =
@@ -248,6 +250,7 @@ void frmmain::connectEditor()
         if (on)
             m_rt->setHighlightedLine(m_rt->selection(true).EndLineNo);
     });
+    new SpellingMenu(*m_menus->menu(menuname::suggestions), *m_rt, m_services.spelling.lexicon(), this);
     m_rt->installEventFilter(this);
     connect(m_rt, &CodeMax::OvertypeChanged, this,
             [this](bool on) { m_panels->setText(StatusPanels::Insert, on ? u"OVR"_s : u"INS"_s); });

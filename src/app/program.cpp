@@ -33,6 +33,8 @@
 #include "start/registerforms.h"
 #include "tags/registerforms.h"
 #include "tools/registerforms.h"
+#include "tools/spelling/registerspelling.h"
+#include "tools/spelling/spellcheck.h"
 #include "views/registerforms.h"
 #include "widgets/keptpictures.h"
 #include "wizards/registerforms.h"
@@ -67,6 +69,15 @@ QString installedData()
 QString modulePath(const QString &name)
 {
     return QCoreApplication::applicationDirPath() + u'/' + name;
+}
+
+/// Where the spelling check's list of names may be. A program folder that an older version filled doesn't have it.
+QStringList nameFiles(const QString &appPath)
+{
+    QStringList files;
+    for (const QString &folder : {appPath, QCoreApplication::applicationDirPath(), installedData()})
+        files.append(folder + u"/deps/names.dic"_s);
+    return files;
 }
 
 /// The folder of the recovery copies, next to the per-user settings.
@@ -112,6 +123,13 @@ int runProgram(QApplication &application, const QString &argument)
     DesktopClipboard clipboard;
     NetOperations ftpOperations(clock);
 
+    SpellCheck spelling({.files = files,
+                         .settings = userSettings,
+                         .loadSpeller = [] { return loadModuleAs<Speller>(modulePath(u"zephiraspell.so"_s)); },
+                         .findDictionaries = [] { return dictionariesIn(dictionaryFolders()); },
+                         .customFile = appPath.value() + u"/custom.dic"_s,
+                         .nameFiles = nameFiles(appPath.value())});
+
     FormCatalogue catalogue;
     announceComingForms(catalogue);
     colour::registerForms(catalogue);
@@ -122,6 +140,7 @@ int runProgram(QApplication &application, const QString &argument)
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);
     tools::registerForms(catalogue);
+    tools::registerSpelling(catalogue, spelling);
     views::registerForms(
         catalogue,
         [&](QWidget *parent) -> EditorView {
@@ -142,6 +161,7 @@ int runProgram(QApplication &application, const QString &argument)
                     .clock = clock,
                     .catalogue = catalogue,
                     .webViews = [] { return loadModuleAs<WebViews>(modulePath(u"zephiraweb.so"_s)); },
+                    .spelling = spelling,
                     .appPath = appPath.value(),
                     .iniFile = iniFile,
                     .executable = QCoreApplication::applicationFilePath(),

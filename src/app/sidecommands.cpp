@@ -11,6 +11,7 @@
 #include "panes/customtabs.h"
 #include "panes/selectorlist.h"
 #include "panes/sidepane.h"
+#include "tools/spelling/checkspelling.h"
 
 using namespace Qt::StringLiterals;
 
@@ -75,6 +76,11 @@ void SideCommands::showFtp()
     const DocumentHost &document = m_parts.context.document;
     if (window && hasProject(document))
         window->setProperty("LocalFolder", document.projectPath());
+}
+
+void SideCommands::checkSpelling()
+{
+    zephira::checkSpelling(m_parts.context, m_parts.spelling);
 }
 
 } // namespace zephira

@@ -12,9 +12,10 @@ class Palette;
 class SelectorList;
 class SideLists;
 class SidePane;
+class SpellCheck;
 
 /// The commands for what is shown besides the document: the side pane, the selector list over the palette, the quick
-/// view and the FTP window.
+/// view, the FTP window and the spelling check.
 class SideCommands final : public PaneCommands
 {
 public:
@@ -27,6 +28,7 @@ public:
         /// Gets the focus when the list of selectors is hidden.
         QWidget &codeView;
         ModalFormOpener &forms;
+        SpellCheck &spelling;
     };
 
     explicit SideCommands(const Parts &parts) : m_parts(parts) {}
@@ -39,6 +41,7 @@ public:
     void setSelectorPressed(bool pressed) override;
     void showReadme() override;
     void showFtp() override;
+    void checkSpelling() override;
 
 private:
     const Parts m_parts;

@@ -17,6 +17,7 @@ class FormCatalogue;
 class Prompts;
 class RecoveryCopies;
 class Shell;
+class SpellCheck;
 class UserSettings;
 
 /// When the window creates the parts that aren't visible at first.
@@ -35,6 +36,7 @@ struct WindowServices {
     Clock &clock;
     const FormCatalogue &catalogue;
     WebViewsLoader webViews;
+    SpellCheck &spelling;
     /// The program folder, without a trailing separator.
     QString appPath;
     /// Full path of the configuration's file, for messages.

@@ -65,6 +65,8 @@ public:
     virtual void showReadme() = 0;
     /// Opens the FTP window; its local folder is preset to the project folder if one is set.
     virtual void showFtp() = 0;
+    /// Checks the spelling of the selection, or of the whole text.
+    virtual void checkSpelling() = 0;
 };
 
 /// The pop-up menu of the file list. The first two work on the selected file.

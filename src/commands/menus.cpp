@@ -91,6 +91,7 @@ void Menus::addEntry(QMenu *menu, const MenuItem &item)
     entry->setObjectName(item.name);
     entry->setSeparator(item.kind == MenuItem::Kind::Divider);
     entry->setCheckable(item.kind == MenuItem::Kind::Check);
+    entry->setEnabled(item.kind != MenuItem::Kind::Title);
     entry->setStatusTip(item.statusTip.toString());
     if (!item.shortcut.isEmpty())
         entry->setShortcut(QKeySequence::fromString(item.shortcut.toString(), QKeySequence::PortableText));

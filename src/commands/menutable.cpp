@@ -332,7 +332,9 @@ constexpr MenuItem fileListItems[] = {
 
 constexpr MenuItem hiddenItems[] = {menu(menuname::fileList, u"filerc", fileListItems)};
 
-constexpr MenuItem suggestionItems[] = {missing(u"sug_0", u"- Spelling Suggestions -")};
+constexpr MenuItem suggestionItems[] = {
+    {.name = u"sug_0", .caption = u"- Spelling Suggestions -", .kind = Kind::Title},
+};
 
 constexpr MenuItem customTabItems[] = {
     {u"mnuaddcentry", u"Add Entry", {}, u"list-add", u"Add an entry to this tab", {&PaneCommands::addCustomEntry}},
@@ -340,7 +342,7 @@ constexpr MenuItem customTabItems[] = {
 
 constexpr MenuItem popups[] = {
     menu(u"mnuhid", u"hid", hiddenItems),
-    menu(u"mnuspell", u"Spelling", suggestionItems),
+    menu(menuname::suggestions, u"Spelling", suggestionItems),
     menu(menuname::customTab, u"cmenu", customTabItems),
 };
 

@@ -18,6 +18,7 @@ struct MenuItem {
         Divider, ///< a line; it has a name only if it is an element of a menu array
         Menu,    ///< a menu with `children`
         Bar,     ///< a disabled text between the menus of the bar
+        Title,   ///< a disabled text above the entries of a menu
         Missing, ///< an entry whose feature isn't available yet
     };
 
@@ -56,6 +57,7 @@ namespace menuname {
 inline constexpr QStringView tags = u"Tags";
 inline constexpr QStringView fileList = u"mnufilerc";
 inline constexpr QStringView customTab = u"cmenu";
+inline constexpr QStringView suggestions = u"mnuspell";
 inline constexpr QStringView highlightedLines = u"highlightlines";
 inline constexpr QStringView tipOfTheDay = u"mnuviewtip";
 inline constexpr QStringView plugins = u"mnuplugins";

@@ -119,9 +119,9 @@ void PaletteCommands::tidy(const QuickTag &tag)
     openForm(tag);
 }
 
-void PaletteCommands::checkSpelling(const QuickTag &tag)
+void PaletteCommands::checkSpelling(const QuickTag &)
 {
-    m_context.forms.openModal(tag.form().toString());
+    m_panes.checkSpelling();
 }
 
 void PaletteCommands::openHelp(const QuickTag &)

@@ -119,6 +119,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {WindowHeight, own, {}, u"Height"_s, Number},
         {WindowWidth, own, {}, u"Width"_s, Number},
         {RemoteContent, own, {}, u"RemoteContent"_s, Switch},
+        {SpellingDictionary, own, u"Spelling"_s, u"Dictionary"_s, Text},
     };
     // clang-format on
 }

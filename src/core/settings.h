@@ -106,6 +106,7 @@ enum class UserSetting : int {
     WindowHeight,
     WindowWidth,
     RemoteContent,
+    SpellingDictionary,
 };
 
 /// One value of the per-user store.

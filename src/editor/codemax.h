@@ -196,6 +196,8 @@ public:
     /// Sends accessibility events to `listener` instead of assistive technology, even while none is running.
     void setAccessibleListener(AccessibleNews::Listener listener) { m_news.setListener(std::move(listener)); }
     Prompts &prompts() { return m_services.prompts; }
+    /// Where on the screen the last context menu was requested.
+    QPoint menuPlace() const { return m_menuPlace; }
     const EditorServices &services() const { return m_services; }
     /// Runs something that changes the text or selection as one action: Change and SelChange are emitted at most once,
     /// at its end.
@@ -316,6 +318,7 @@ private:
     bool m_strikeShown = false;
     bool m_dragDrop = true;
     bool m_addsCaret = false;
+    QPoint m_menuPlace;
     QPointer<FindDialog> m_findDialog;
     QPointer<GoToDialog> m_goToDialog;
     QPointer<PropertiesDialog> m_properties;

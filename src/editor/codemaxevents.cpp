@@ -260,11 +260,11 @@ void CodeMax::contextMenuEvent(QContextMenuEvent *event)
     }
     event->accept();
     const QPointer<CodeMax> alive(this);
-    const QPoint at = event->globalPos();
+    m_menuPlace = event->globalPos();
     bool handled = false;
     Q_EMIT RClick(&handled);
     if (alive && !handled)
-        showContextMenu(at);
+        showContextMenu(m_menuPlace);
 }
 
 void CodeMax::showContextMenu(const QPoint &at)

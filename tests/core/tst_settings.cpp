@@ -93,6 +93,7 @@ private Q_SLOTS:
         QTest::newRow("height") << UserSetting::WindowHeight << u"zephira/frmmain/Height"_s;
         QTest::newRow("width") << UserSetting::WindowWidth << u"zephira/frmmain/Width"_s;
         QTest::newRow("remote content") << UserSetting::RemoteContent << u"zephira/frmmain/RemoteContent"_s;
+        QTest::newRow("dictionary") << UserSetting::SpellingDictionary << u"zephira/Spelling/Dictionary"_s;
     }
 
     void userValues()

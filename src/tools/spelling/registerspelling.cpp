@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/spelling/registerspelling.h"
+
+#include "core/formcatalogue.h"
+#include "tools/spelling/spellchecker1.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira::tools {
+
+void registerSpelling(FormCatalogue &catalogue, SpellCheck &check)
+{
+    catalogue.add(u"SpellChecker1"_s, [&check](const AppContext &context, QWidget *owner) -> QWidget * {
+        return new SpellChecker1(context, check, owner);
+    });
+}
+
+} // namespace zephira::tools
