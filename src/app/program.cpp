@@ -123,12 +123,14 @@ int runProgram(QApplication &application, const QString &argument)
     DesktopClipboard clipboard;
     NetOperations ftpOperations(clock);
 
-    SpellCheck spelling({.files = files,
-                         .settings = userSettings,
-                         .loadSpeller = [] { return loadModuleAs<Speller>(modulePath(u"zephiraspell.so"_s)); },
-                         .findDictionaries = [] { return dictionariesIn(dictionaryFolders()); },
-                         .customFile = appPath.value() + u"/custom.dic"_s,
-                         .nameFiles = nameFiles(appPath.value())});
+    const auto spelling = std::make_shared<SpellCheck>(Lexicon::Parts{
+        .files = files,
+        .settings = userSettings,
+        .loadSpeller = [] { return loadModuleAs<Speller>(modulePath(u"zephiraspell.so"_s)); },
+        .findDictionaries = [] { return dictionariesIn(dictionaryFolders()); },
+        .customFile = appPath.value() + u"/custom.dic"_s,
+        .nameFiles = nameFiles(appPath.value()),
+    });
 
     FormCatalogue catalogue;
     announceComingForms(catalogue);
@@ -161,7 +163,7 @@ int runProgram(QApplication &application, const QString &argument)
                     .clock = clock,
                     .catalogue = catalogue,
                     .webViews = [] { return loadModuleAs<WebViews>(modulePath(u"zephiraweb.so"_s)); },
-                    .spelling = spelling,
+                    .spelling = *spelling,
                     .appPath = appPath.value(),
                     .iniFile = iniFile,
                     .executable = QCoreApplication::applicationFilePath(),

@@ -12,6 +12,7 @@
 #include "support/sourcefolder.h"
 #include "tags/registerforms.h"
 #include "tools/registerforms.h"
+#include "tools/spelling/registerspelling.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
@@ -50,6 +51,7 @@ WindowBench::WindowBench()
         // Read and written, because QFile::copy() waits for the disk at each file.
         write(u"app/"_s + source.relativeFilePath(file), read(file));
     }
+    write(u"app/deps/names.dic"_s, "p\nnbsp\n");
     announceComingForms(catalogue);
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
@@ -59,6 +61,7 @@ WindowBench::WindowBench()
     tags::registerForms(catalogue);
     zephira::settings::registerForms(catalogue);
     zephira::tools::registerForms(catalogue);
+    zephira::tools::registerSpelling(catalogue, {std::shared_ptr<SpellCheck>(), &spelling.check});
     views::registerForms(
         catalogue,
         [this](QWidget *parent) -> EditorView {
@@ -85,6 +88,7 @@ frmmain &WindowBench::start(const QString &argument)
                                                       .clock = clock,
                                                       .catalogue = catalogue,
                                                       .webViews = loadWebViews,
+                                                      .spelling = spelling.check,
                                                       .appPath = appPath(),
                                                       .iniFile = configuration.file(),
                                                       .executable = u"/opt/zephira/zephira"_s,

@@ -13,6 +13,7 @@
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
 #include "support/fakes.h"
+#include "tools/spelling/fakespeller.h"
 
 #include <QAction>
 #include <QLabel>
@@ -78,6 +79,7 @@ public:
     RecoveryCopies recovery;
     IniConfiguration configuration;
     RecordingOperations ftpOperations;
+    SpellingBench spelling{files, settings, appPath()};
     FormCatalogue catalogue;
     FakeWebViews webViews;
     /// Returns the fakes, unless a test sets something else before the start.

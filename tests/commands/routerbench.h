@@ -52,6 +52,7 @@ struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, W
     void setSelectorPressed(bool pressed) override { selectorPressed = pressed; }
     void showReadme() override { calls.append(QStringLiteral("showReadme")); }
     void showFtp() override { calls.append(QStringLiteral("showFtp")); }
+    void checkSpelling() override { calls.append(QStringLiteral("checkSpelling")); }
 
     // FileListCommands
     void showInQuickView() override { calls.append(QStringLiteral("showInQuickView")); }

@@ -233,7 +233,7 @@ void TstMenus::popups()
     mnuinslink "Insert Link to this file"
     mnuef "Edit Filters"
 mnuspell "Spelling"
-  sug_0 "- Spelling Suggestions -"
+  sug_0 "- Spelling Suggestions -" disabled
 cmenu "cmenu"
   mnuaddcentry "Add Entry")"_s);
 }

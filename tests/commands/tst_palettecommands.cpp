@@ -143,7 +143,7 @@ void TstPaletteCommands::spelling()
 {
     RouterBench bench;
     bench.palette(0, u"spell"_s, 2);
-    QCOMPARE(bench.world.forms.modal, QStringList{u"SpellChecker1"_s});
+    QCOMPARE(bench.window.calls, QStringList{u"checkSpelling"_s});
 }
 
 void TstPaletteCommands::helpOpensTheGuide()

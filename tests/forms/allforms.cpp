@@ -12,9 +12,11 @@
 #include "panes/registerforms.h"
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
-#include "support/scriptedprompts.h"
+#include "support/fakes.h"
 #include "tags/registerforms.h"
 #include "tools/registerforms.h"
+#include "tools/spelling/fakespeller.h"
+#include "tools/spelling/registerspelling.h"
 #include "views/registerforms.h"
 #include "wizards/registerforms.h"
 
@@ -40,6 +42,24 @@ struct FtpParts {
     FtpClient client{operations};
 };
 
+/// Shared by the forms of the spelling check: a question about a word.
+struct SpellingParts {
+    MemoryFileStore files;
+    MemoryUserSettings settings;
+    SpellingBench bench{files, settings};
+
+    SpellingParts()
+    {
+        bench.dictionaries.push_back({u"en_GB"_s, u"/dict/en_GB"_s});
+        bench.speller.suggested[u"sentense"_s] = {u"sentence"_s, u"sentences"_s, u"sense"_s};
+        if (!bench.check.lexicon().OpenLexicon())
+            qFatal("there is no dictionary");
+        bench.check.start(u"<p>A sentense with a word that no dictionary has.</p>"_s);
+        bench.check.ignore();
+        bench.check.ignore();
+    }
+};
+
 } // namespace
 
 FormCatalogue allForms()
@@ -53,6 +73,8 @@ FormCatalogue allForms()
     tools::registerForms(catalogue);
     const auto ftpParts = std::make_shared<FtpParts>();
     ftp::registerForms(catalogue, {ftpParts, &ftpParts->client});
+    const auto spellingParts = std::make_shared<SpellingParts>();
+    tools::registerSpelling(catalogue, {spellingParts, &spellingParts->bench.check});
     const auto parts = std::make_shared<EditorParts>();
     // The viewer below, which the catalogue keeps, keeps the parts alive for both.
     start::registerForms(catalogue, parts->recovery);

@@ -59,8 +59,10 @@ std::string HunspellSpeller::encoded(const QString &word)
     if (!m_hunspell || word.size() > longestWord)
         return {};
     m_encode.resetState();
+    m_decode.resetState();
+    // Not every encoder reports the characters that it replaces.
     const QByteArray bytes = m_encode.encode(word);
-    return m_encode.hasError() ? std::string() : bytes.toStdString();
+    return m_decode.decode(bytes) == word ? bytes.toStdString() : std::string();
 }
 
 bool HunspellSpeller::knows(const QString &word)

@@ -4,15 +4,18 @@
 #include "core/formcatalogue.h"
 #include "tools/spelling/spellchecker1.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira::tools {
 
-void registerSpelling(FormCatalogue &catalogue, SpellCheck &check)
+void registerSpelling(FormCatalogue &catalogue, std::shared_ptr<SpellCheck> check)
 {
-    catalogue.add(u"SpellChecker1"_s, [&check](const AppContext &context, QWidget *owner) -> QWidget * {
-        return new SpellChecker1(context, check, owner);
-    });
+    catalogue.add(u"SpellChecker1"_s,
+                  [check = std::move(check)](const AppContext &context, QWidget *owner) -> QWidget * {
+                      return new SpellChecker1(context, *check, owner);
+                  });
 }
 
 } // namespace zephira::tools

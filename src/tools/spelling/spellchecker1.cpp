@@ -107,16 +107,16 @@ void SpellChecker1::showQuestion()
 void SpellChecker1::showSentence()
 {
     const Excerpt sentence = m_check.sentence();
-    m_ui->txtSentence->setPlainText(sentence.text);
-    QTextCursor word(m_ui->txtSentence->document());
-    word.setPosition(static_cast<int>(sentence.word.start));
-    m_ui->txtSentence->setTextCursor(word);
-    word.setPosition(static_cast<int>(sentence.word.end()), QTextCursor::KeepAnchor);
-    QTextCharFormat marked;
-    marked.setBackground(palette().highlight());
-    marked.setForeground(palette().highlightedText());
-    word.mergeCharFormat(marked);
-    m_ui->txtSentence->ensureCursorVisible();
+    QTextEdit *box = m_ui->txtSentence;
+    box->setPlainText(sentence.text);
+    QTextEdit::ExtraSelection marked{QTextCursor(box->document()), {}};
+    marked.cursor.setPosition(static_cast<int>(sentence.word.start));
+    box->setTextCursor(marked.cursor);
+    marked.cursor.setPosition(static_cast<int>(sentence.word.end()), QTextCursor::KeepAnchor);
+    marked.format.setBackground(palette().highlight());
+    marked.format.setForeground(palette().highlightedText());
+    box->setExtraSelections({marked});
+    box->ensureCursorVisible();
 }
 
 /// Nothing can be answered without a question, and a change needs another word.
