@@ -21,6 +21,8 @@ constexpr int longestSelection = 15;
 SpellingMenu::SpellingMenu(QMenu &menu, CodeMax &editor, Lexicon &lexicon, QObject *owner)
     : QObject(owner), m_menu(menu), m_editor(editor), m_lexicon(lexicon)
 {
+    // The last row is a line, which menus otherwise leave out.
+    menu.setSeparatorsCollapsible(false);
     connect(&editor, &CodeMax::RClick, this, [this](bool *handled) {
         // Without a dictionary the editing control shows its own menu, as if the word were right.
         endingQuietly([this, handled] {
