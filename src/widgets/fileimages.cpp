@@ -14,7 +14,8 @@ struct FileImage {
     int image;
 };
 
-/// What servers hold has little to do with what the editor opens, so this isn't a part of core's table of file types.
+/// What servers hold has little to do with what the editor opens: most of these aren't in core's table of file types, and
+/// the newer pictures and pages of that table have no picture of their own here.
 constexpr FileImage fileImages[] = {
     {u"avi", 8}, {u"mpg", 8}, {u"mpeg", 8}, {u"mov", 8}, {u"gif", 4}, {u"jpg", 1}, {u"jpeg", 1}, {u"jpe", 1},
     {u"bmp", 1}, {u"htm", 2}, {u"html", 2}, {u"xml", 2}, {u"asp", 2}, {u"js", 5},  {u"css", 5},  {u"cgi", 5},

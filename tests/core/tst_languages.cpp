@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/languages.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>
@@ -253,6 +257,31 @@ private Q_SLOTS:
         listed.append(u"css"_s);
         listed.sort();
         QCOMPARE(listed, languageExtensions());
+    }
+
+    /// Dialogs whose filters are texts of their own name no file type that the table doesn't know.
+    void everyFilterInTheSourcesNamesKnownTypes()
+    {
+        static const QRegularExpression literals(u"\"((?:\\\\.|[^\"\\\\\\n])*)\""_s);
+        static const QRegularExpression patterns(uR"([|;]\*\.(\w+))"_s);
+        int found = 0;
+        QDirIterator files(sourcePath(u"src"_s), {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            // The list of filters in the table itself has a pattern for no type.
+            if (file.fileName().endsWith(u"core/languages.cpp"))
+                continue;
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString text = QString::fromUtf8(file.readAll());
+            for (const QRegularExpressionMatch &literal : literals.globalMatch(text)) {
+                for (const QRegularExpressionMatch &pattern : patterns.globalMatch(literal.captured(1))) {
+                    QVERIFY2(fileTypeOf(u'.' + pattern.captured(1)),
+                             qPrintable(file.fileName() + u": "_s + pattern.captured(1)));
+                    ++found;
+                }
+            }
+        }
+        QVERIFY(found >= 10);
     }
 
     void defaultFiltersAreLetterForLetter()
