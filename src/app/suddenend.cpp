@@ -21,7 +21,7 @@ Watch &watch()
     return kept;
 }
 
-/// If another thread ended the process, it would read the text while that changes.
+/// Does nothing if another thread ends the process: that one would read the text while this one may be changing it.
 void keepAtExit()
 {
     if (const std::function<void()> keep = std::exchange(watch().keep, {});

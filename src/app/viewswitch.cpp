@@ -200,7 +200,8 @@ void ViewSwitch::setWaiting(bool waiting)
         qApp->removeEventFilter(this);
 }
 
-/// The tabs themselves know that a view is being left, and events of the designer still belong to it.
+/// Whether the event is an act of the user that has to wait for the change of view. A click on the tabs needn't, because
+/// it starts a change of its own; nor need events of the designer, which still belong to the view that is being left.
 bool ViewSwitch::comesAfterLeaving(const QObject *watched, const QEvent &event) const
 {
     if (!m_isWaiting || std::ranges::find(acts, event.type()) == std::end(acts) || watched == &m_parts.tabs)

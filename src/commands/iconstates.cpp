@@ -72,7 +72,8 @@ QPixmap faint(const QPixmap &pixmap)
     return result;
 }
 
-/// Thin lines are blended with what is behind them, and get stronger where there is one colour to tell it by.
+/// The picture in one colour. It is drawn several times over itself, because its thin lines are half transparent and
+/// would otherwise be too faint in a single colour.
 QPixmap inColour(const QPixmap &pixmap, const QColor &colour)
 {
     constexpr int layers = 3;

@@ -220,7 +220,7 @@ QString tagText(const TagTemplate &tag, const TagFields &fields)
 
 ColourParts GetRGB(quint32 colour)
 {
-    // The divisor of the last part is one less than a shift would be; for a single byte the quotient is the same.
+    // 65535 instead of 65536 makes no difference, because each part is a single byte.
     return {colour & 0xffU, (colour & 0xff00U) >> 8U, (colour & 0xff0000U) / 65535U};
 }
 

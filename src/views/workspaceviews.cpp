@@ -78,8 +78,8 @@ void WorkspaceViews::prepareLoad()
     m_context.designer.setRemoteAllowed(isAllowed);
 }
 
-/// The project folder by which the document's permission is kept; empty for a document that lies elsewhere. One without a
-/// file is shown by a copy in the project.
+/// The project folder if the document is within it: then what the user allows is remembered for the project. Otherwise
+/// empty. A document without a file counts as within, because the copy that shows it is made in the project.
 QString WorkspaceViews::permittedProject() const
 {
     if (!hasProject(m_context.document) || m_context.document.projectPath().isEmpty())
@@ -129,7 +129,8 @@ void WorkspaceViews::finishLeaving()
 void WorkspaceViews::select(WorkspaceView view)
 {
     ++m_change;
-    // Who comes later than the designer's text is asked for goes another way, or asks for it anew.
+    // An earlier change is still waiting for the designer's text. It ends here, since this one overtakes it and asks for
+    // the text itself if it needs it.
     if (m_leavingFor)
         wait({});
     if (view == m_current && view != WorkspaceView::Preview)

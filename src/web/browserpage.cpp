@@ -40,8 +40,8 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
     setUrlRequestInterceptor(&m_fence);
     for (const QWebEngineSettings::WebAttribute attribute : closedToPages)
         settings()->setAttribute(attribute, false);
-    // The engine would refuse whatever the user allows. It's the fence that keeps local pages from other machines, whose
-    // answers no script of theirs can read either way.
+    // Closed, this setting would refuse even what the user has allowed, so the fence alone decides what a local page
+    // loads from other machines. Either way, the page's scripts can't read what such a machine answers.
     settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 
@@ -117,7 +117,8 @@ void BrowserPage::endIfHanging(std::function<void()> again)
     });
 }
 
-/// Every page begins with nothing that was refused, by whatever way it is gone to.
+/// The refused hosts were those of the previous page, so they are forgotten whenever another one comes: by a link, the
+/// history or our own doing.
 bool BrowserPage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)
 {
     if (isMainFrame && !m_refusedHosts.isEmpty()) {

@@ -18,12 +18,13 @@ public:
     explicit LocalFileFence(RemoteUse use) : m_use(use) {}
 
     LocalFiles &files() { return m_files; }
-    /// Whether pages of this machine may load from others; nothing of what was refused is asked for again.
+    /// Whether pages of this machine may load from others. It counts for later requests; the engine doesn't repeat those
+    /// that were refused, so the caller reloads the page.
     void setRemoteAllowed(bool allowed) { m_isRemoteAllowed = allowed; }
     void interceptRequest(QWebEngineUrlRequestInfo &request) override;
 
 Q_SIGNALS:
-    /// A page of this machine may not load from that host, for want of the user's permission.
+    /// A page of this machine was kept from loading from that host, because the user hasn't allowed it.
     void remoteRefused(const QString &host);
 
 private:

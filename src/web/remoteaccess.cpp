@@ -46,8 +46,8 @@ bool mayGoOut(const RemoteRequest &request, RemoteUse use, bool isLocal, bool is
         return isAllowed && request.kind == RemoteKind::Look;
     if (isAllowed || isRemote(request.page))
         return true;
-    // The engine knows of a page a moment before it shows. What a frame of a page loads has no page by the engine's word, so
-    // that what shows counts.
+    // A page's first requests come a moment before it is shown, so the page that the engine names counts first. For what
+    // a frame loads it names none; then the shown page decides.
     const bool isOfLocal = request.page.isLocalFile() || request.page.scheme() == u"data";
     return !isOfLocal && !isLocal;
 }

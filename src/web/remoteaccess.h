@@ -15,13 +15,13 @@ bool isRemote(const QUrl &address);
 ///     remoteHost("http://localhost:8080/a.css") == "localhost:8080"
 QString remoteHost(const QUrl &address);
 
-/// Who shows a page.
+/// What a page is shown for.
 enum class RemoteUse {
-    Browser,  ///< as browsers do
-    Designer, ///< to edit it: how it looks is wanted, nothing else
+    Browser,  ///< to see it as in any browser
+    Designer, ///< to edit it: only what decides about its look is loaded
 };
 
-/// What is loaded, as far as that makes a difference.
+/// What is loaded, as far as the rules tell it apart.
 enum class RemoteKind {
     Look, ///< a style sheet, a picture or a font
     Other,
@@ -29,13 +29,13 @@ enum class RemoteKind {
 
 struct RemoteRequest {
     QUrl address;
-    /// The page in the window that the engine asks for; empty where it can't tell.
+    /// The page for which the engine loads it; empty if the engine doesn't say.
     QUrl page;
     RemoteKind kind = RemoteKind::Other;
 };
 
-/// Whether a request may go to another machine. A page of this machine asks nobody until the user has allowed it; one that
-/// came over the network itself is free. `isLocal` says which of them shows.
+/// Whether a request may go to another machine. A page of this machine may load from others only if the user has allowed
+/// it; a page that came over the network may do so anyway. `isLocal` says which of the two is shown at the moment.
 bool mayGoOut(const RemoteRequest &request, RemoteUse use, bool isLocal, bool isAllowed);
 
 } // namespace zephira

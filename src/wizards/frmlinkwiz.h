@@ -30,7 +30,7 @@ private:
 
     const std::unique_ptr<Ui::frmlinkwiz> m_ui;
     const AppContext m_context;
-    /// Whether the change of index has already inserted the prefix when the choice is reported.
+    /// A choice of another entry is reported twice, first as a change of the index. Whether the prefix was inserted then.
     bool m_isPrefixPut = false;
 };
 

@@ -25,7 +25,7 @@ frmRedirect::frmRedirect(const AppContext &context, QWidget *owner)
 
 frmRedirect::~frmRedirect()
 {
-    // The base class takes the focus away, when there is no form any more to follow it.
+    // The base class's destructor takes the focus away. Its signal must not reach this part, which is gone by then.
     disconnect(qApp, nullptr, this, nullptr);
 }
 

@@ -46,7 +46,7 @@ constexpr PageSetting pageSettings[] = {
     {QWebEngineSettings::FullScreenSupportEnabled, false},
     {QWebEngineSettings::HyperlinkAuditingEnabled, false},
     {QWebEngineSettings::JavascriptCanOpenWindows, false},
-    // What may be loaded is the fence's to say.
+    // The LocalFileFence decides what is loaded; a setting of the engine would refuse even what the user has allowed.
     {QWebEngineSettings::LocalContentCanAccessRemoteUrls, true},
     {QWebEngineSettings::PdfViewerEnabled, false},
     {QWebEngineSettings::PlaybackRequiresUserGesture, true},

@@ -71,7 +71,7 @@ public:
     void setSnapToGrid(bool on) override { setLook(QStringLiteral("snapToGrid"), on); }
     void setContextMenu(const QStringList &entries, const QList<DesignerMenuState> &states) override;
     void setEvents(DesignerEvents events) override;
-    /// Whoever shows and hides the widget knows when it is left.
+    /// Does nothing: the change of view belongs to the window, and LateDesigner forwards the call to it.
     void finishLeaving() override {}
     void setProjectFolder(const QString &folder) override;
     void setRemoteAllowed(bool allowed) override;
