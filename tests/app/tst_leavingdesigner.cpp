@@ -21,7 +21,7 @@ namespace {
 
 const QByteArray source("<!DOCTYPE html>\r\n<html><head><title>t</title></head>\r\n<body><p>old</p></body></html>\r\n");
 
-/// What may come while the designer is being left.
+/// What a user or a script may do while the designer is being left.
 enum class Act { Type, Paste, Insert, Save, SaveAs, Undo, QuickTag, Close, ReadByName };
 constexpr int actCount = static_cast<int>(Act::ReadByName) + 1;
 constexpr const char *actNames[] = {"type", "paste", "insert", "save", "save as", "undo", "quick tag", "close", "read"};
@@ -37,7 +37,7 @@ const QuickTag &breakButton()
     qFatal("the palette has no line break");
 }
 
-/// One change from the designer to the code view, with acts at moments of its own.
+/// One change from the designer to the code view, with acts at random moments of it.
 struct Run {
     WebBench &bench;
     int number = 0;
@@ -116,7 +116,8 @@ struct Run {
 
 } // namespace
 
-/// The way from the designer to the code view takes a moment. Whatever comes in it finds the designer's text at home.
+/// The change from the designer to the code view takes a moment. Whatever is done meanwhile finds the designer's text
+/// in the code view already.
 class TstLeavingDesigner : public QObject
 {
     Q_OBJECT
@@ -132,7 +133,7 @@ void TstLeavingDesigner::nothingIsLost()
     QRandomGenerator random(11);
     WebBench bench(u"page.html"_s, source);
     for (int number = 0; number < runs; ++number) {
-        // Undo and close alone: what they find is checked, not what others make of it afterwards.
+        // Undo and close come alone: they are judged by the text that they find, and a second act would change it.
         const auto act = Act(random.bounded(actCount));
         const bool isAlone = act == Act::Undo || act == Act::Close;
         const auto other = isAlone ? act : Act(random.bounded(static_cast<int>(Act::SaveAs)));
@@ -149,7 +150,7 @@ void TstLeavingDesigner::nothingIsLost()
         QVERIFY2(waitUntil([&] { return run.done == (isAlone ? 1 : 2); }, WebBench::patience), name);
         QCOMPARE(bench.tabs().currentIndex(), 0);
         if (run.isUndone) {
-            // It took back what came from the designer, and nothing else.
+            // Only the designer's text was taken back, and redo brings it again.
             QVERIFY2(!run.text().contains(run.word(u"word")), name);
             bench.choose(u"redo"_s);
         }

@@ -47,7 +47,7 @@ struct RemoteBench : WebBench {
 
     QWidget &bar() const { return *find<QWidget>(u"remoteBar"_s); }
     QStringList requests() const { return looks.requests() + scripts.requests(); }
-    /// Whether the preview shows the page and asks for its hosts, and nobody was asked for anything since `before`.
+    /// Whether the preview shows the page and asks the user about its hosts, and no host got a request since `before`.
     bool asks(const QStringList &before)
     {
         const bool isAsked =
@@ -58,7 +58,7 @@ struct RemoteBench : WebBench {
                     return text.contains(hostOf(looks.address({}))) && text.contains(hostOf(scriptHost({})));
                 },
                 patience);
-        // What was refused is refused by now; what wasn't would be on its way.
+        // Long enough for a request that wasn't refused to arrive.
         waitUntil([] { return false; }, 300);
         return isAsked && requests() == before;
     }

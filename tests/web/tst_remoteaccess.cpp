@@ -76,7 +76,7 @@ private Q_SLOTS:
         QTEST(remoteHost(QUrl(address)), "host");
     }
 
-    /// What shows, and what is on its way.
+    /// A local page counts as soon as it is asked for, a remote one only once it is shown.
     void localPages()
     {
         LocalFiles files;

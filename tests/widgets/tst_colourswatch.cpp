@@ -39,7 +39,7 @@ private Q_SLOTS:
         field.setText(text);
         QCOMPARE(swatch.colour(), colour);
         const QImage picture = swatch.grab().toImage();
-        // A quarter from the left: beside the line that crosses out what is no colour.
+        // This pixel lies beside the line that crosses out a swatch without a colour.
         const QColor painted = picture.pixelColor(picture.width() / 4, picture.height() / 3);
         QCOMPARE(painted, colour.isValid() ? colour : swatch.palette().color(QPalette::Base));
     }

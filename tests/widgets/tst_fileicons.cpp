@@ -17,7 +17,7 @@ class TstFileIcons : public QObject
 {
     Q_OBJECT
 
-    /// What the picture is like where it is thickest.
+    /// The colour of the picture's most opaque pixel.
     static QColor inkOf(const QImage &picture)
     {
         QColor ink(Qt::transparent);

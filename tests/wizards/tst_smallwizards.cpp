@@ -336,7 +336,7 @@ private Q_SLOTS:
         QCOMPARE(editor.anchorOffset(), length + 14);
         QCOMPARE(editor.caretOffset(), length + 11);
         QCOMPARE(wizard.inserted(), QStringList());
-        // Nothing looks for an earlier line.
+        // The wizard doesn't look for a line that is there already, so that a second one comes before it.
         const LivingForm again(wizardCatalogue(), u"doctype"_s, wizard.world);
         again.set(u"Combo1"_s, u"HTML 4.0 Strict"_s);
         again.press(u"OKButton"_s);

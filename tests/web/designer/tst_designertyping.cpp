@@ -47,7 +47,7 @@ void TstDesignerTyping::keys_data()
         u"<p><font color=\"red\">a</font></p><p><font color=\"red\">x|</font></p>"_s);
     row("after a link", u"<p><a href=\"x\">a|</a></p>"_s, {u"Enter"_s, u"x"_s},
         u"<p><a href=\"x\">a</a></p><p>x|</p>"_s);
-    // Of a bold link no part is left that holds nothing, and what follows it is plain.
+    // No empty element remains of a bold link, and what is typed behind it is plain.
     const QString boldLink = u"<p><b><a href=\"x\">%1</a></b></p>"_s;
     const QString linkedBold = u"<p><a href=\"x\"><b>%1</b></a></p>"_s;
     for (const QString &link : {boldLink, linkedBold}) {

@@ -41,7 +41,7 @@ bool isWellFormedXhtml(const QByteArray &content)
 
 } // namespace
 
-/// A page that an XML parser takes is taken by it after a letter was typed.
+/// A page that a strict XML parser accepts is still accepted by it after a letter was typed in the designer.
 class TstDesignerXhtml final : public QObject
 {
     Q_OBJECT
@@ -108,7 +108,7 @@ void TstDesignerXhtml::oneLetter_data()
     row("a number for it", u"<p>a&#228;&#xe4;b</p>"_s, u"<p>aZ&#228;&#xe4;b</p>"_s);
     row("empty elements", u"<p>a<br/><img src='x.png' alt=''/><br /><a id=\"n\"></a></p>"_s,
         u"<p>aZ<br /><img src=\"x.png\" alt=\"\" /><br /><a id=\"n\"></a></p>"_s);
-    // As browsers read it, which take it for a start tag.
+    // Browsers ignore the slash and read a start tag.
     row("an element closed at once", u"<p>a</p><div class=\"c\"/><p>b</p>"_s,
         u"<p>aZ</p><div class=\"c\"><p>b</p></div>"_s);
     row("a switch", u"<p>a<input type=\"checkbox\" checked=\"checked\" disabled=\"disabled\" /></p>"_s,
