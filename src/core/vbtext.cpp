@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/vbtext.h"
 
-#include "core/characters.h"
 #include "core/errorstyles.h"
+#include "core/textparts.h"
 
 #include <algorithm>
 #include <cmath>

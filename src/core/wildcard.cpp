@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/wildcard.h"
 
-#include "core/characters.h"
+#include "core/textparts.h"
 
 namespace zephira {
 

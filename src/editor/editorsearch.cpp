@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorsearch.h"
 
-#include "core/characters.h"
+#include "core/textparts.h"
 #include "editor/buffertext.h"
 #include "editor/codemax.h"
 

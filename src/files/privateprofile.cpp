@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/privateprofile.h"
 
-#include "core/characters.h"
+#include "core/textparts.h"
 #include "files/textfile.h"
 #include "files/utf8.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/characters.h"
+#include "core/textparts.h"
 #include "editor/patternsearch.h"
 #include "support/testregistry.h"
 

@@ -7,6 +7,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -73,6 +74,20 @@ private Q_SLOTS:
             }
             QVERIFY2(lines > 0 && lines < maximumFolderLines, qPrintable(u"%1 has %2 lines"_s.arg(folder).arg(lines)));
         }
+    }
+
+    /// Whoever looks for a file by its name finds one. Only the registration of forms is the same thing in each folder.
+    void noTwoFilesHaveOneName()
+    {
+        QSet<QString> names;
+        QDirIterator files(sourcePath(u"src"_s), {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            const QString name = files.fileName();
+            QVERIFY2(!names.contains(name) || name.startsWith(u"registerforms."), qPrintable(path));
+            names.insert(name);
+        }
+        QVERIFY(names.size() > 50);
     }
 
     void testsMirrorTheSources()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/characters.h"
+#include "core/textparts.h"
 #include "support/testregistry.h"
 
 #include <QByteArray>
@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
-class TstCharacters final : public QObject
+class TstTextParts final : public QObject
 {
     Q_OBJECT
 
@@ -58,6 +58,6 @@ private Q_SLOTS:
     }
 };
 
-ZEPHIRA_TEST(TstCharacters)
+ZEPHIRA_TEST(TstTextParts)
 
-#include "tst_characters.moc"
+#include "tst_textparts.moc"
