@@ -43,8 +43,8 @@ public:
     /// below. Empty for none. Takes effect with the next navigation.
     virtual void setProjectFolder(const QString &folder) = 0;
 
-    /// Whether pages of this machine may load from others; it counts from the next navigation on. A page that came over the
-    /// network itself is free.
+    /// Whether pages of this machine may load from others; takes effect with the next navigation. A page that came over
+    /// the network may always do so.
     virtual void setRemoteAllowed(bool allowed) = 0;
     /// Is called with the hosts that the page wanted to load from and may not; with none when another page comes.
     virtual void onRemoteRefused(std::function<void(const QStringList &hosts)> handler) = 0;

@@ -30,10 +30,16 @@ public:
     virtual bool isModified() const = 0;
 };
 
+/// Whether the box holds another text than its initial one, be it an empty one.
+inline bool hasProjectText(const DocumentHost &host)
+{
+    return host.projectPath() != noProjectPath;
+}
+
 /// Whether the user has set a project folder. The folder needn't exist.
 inline bool hasProject(const DocumentHost &host)
 {
-    return host.projectPath() != noProjectPath;
+    return hasProjectText(host) && !host.projectPath().isEmpty();
 }
 
 } // namespace zephira

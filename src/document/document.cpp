@@ -281,7 +281,8 @@ void Document::openImage(const QString &path)
         orRaise(m_window.showPicture(path));
         return;
     }
-    if (!hasProject(m_context.document)) {
+    // With an emptied box, the link fails below.
+    if (!hasProjectText(m_context.document)) {
         m_context.prompts.tell(u"Please enter a Project Path to insert image links"_s, {}, Question::Icon::Exclamation);
         return;
     }

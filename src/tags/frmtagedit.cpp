@@ -224,7 +224,8 @@ void frmTagEdit::chooseColour(const ColourSwatch &swatch, QLineEdit *field)
 
 void frmTagEdit::choosePicture(QLineEdit *field, Question::Icon icon)
 {
-    const bool project = hasProject(m_context.document);
+    // With an emptied box there is no question; the link fails below.
+    const bool project = hasProjectText(m_context.document);
     const Question question{u"Please select a project path, if you continue, your images path will be distorted if you "
                             "continue"_s,
                             {},

@@ -82,7 +82,7 @@ void WorkspaceViews::prepareLoad()
 /// empty. A document without a file counts as within, because the copy that shows it is made in the project.
 QString WorkspaceViews::permittedProject() const
 {
-    if (!hasProject(m_context.document) || m_context.document.projectPath().isEmpty())
+    if (!hasProject(m_context.document))
         return {};
     const QString project = QDir::cleanPath(m_context.document.projectPath());
     const QString name = m_context.document.commonDialogFile();

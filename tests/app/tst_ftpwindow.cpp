@@ -80,6 +80,9 @@ void TstFtpWindow::buttonWithoutAProject()
     QCOMPARE(bench.window->context().document.projectPath(), u"Project Path"_s);
     bench.click(u"Toolbar1"_s, u"ftp"_s);
     QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), bench.appPath() + u'/');
+    bench.window->context().document.setProjectPath({});
+    bench.click(u"Toolbar1"_s, u"ftp"_s);
+    QCOMPARE(ftpWindow(bench)->property("LocalFolder").toString(), bench.appPath() + u'/');
 }
 
 void TstFtpWindow::connectAndDownload()

@@ -461,6 +461,20 @@ private Q_SLOTS:
         QCOMPARE(bench.fakes.editor.text(), QString());
     }
 
+    /// An emptied box isn't the initial one: the link is tried, and fails for want of a base.
+    void anImageWithAnEmptyProjectPathFails()
+    {
+        Bench bench;
+        bench.fakes.document.language = u"HTML"_s;
+        bench.fakes.document.project.clear();
+        bench.window.file = u"a.bmp"_s;
+        bench.fakes.prompts.expectTell(
+            u"An error has occured.\r\nInvalid procedure call or argument\r\nThe routine will now reset itself..."_s,
+            {}, Question::Icon::Critical);
+        bench.document.OpenAFile();
+        QCOMPARE(bench.fakes.editor.text(), QString());
+    }
+
     void anImageInOtherLanguagesGoesToTheQuickView_data()
     {
         QTest::addColumn<QString>("language");
