@@ -11,6 +11,7 @@
 #include "start/documenttext.h"
 #include "start/labeleditdelegate.h"
 #include "start/templates.h"
+#include "start/wizardlist.h"
 #include "ui_frmselprj.h"
 #include "widgets/themeicon.h"
 
@@ -33,6 +34,8 @@ frmselprj::frmselprj(const AppContext &context, RecoveryCopies &recovery, QWidge
          {m_ui->htmlPage, m_ui->framesPage, m_ui->cssPage, m_ui->webPage, m_ui->win32Page})
         connect(page, &TemplateButtons::chosen, this, &frmselprj::useTemplate);
     listCustomTemplates();
+    m_wizards = std::make_unique<WizardList>(context, recovery, *m_ui->filePlugin, *m_ui->ListView1, *this);
+    m_ui->lblNoWizards->setVisible(m_ui->ListView1->count() == 0);
 
     m_ui->Check1->setChecked(isSwitchedOn(context.configuration, Setting::StartDialog));
     connect(m_ui->Check1, &QCheckBox::clicked, this,

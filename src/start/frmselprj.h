@@ -15,6 +15,7 @@ namespace zephira {
 
 class RecoveryCopies;
 struct TemplateButton;
+class WizardList;
 
 namespace Ui {
 class frmselprj;
@@ -42,6 +43,7 @@ private:
     RecoveryCopies &m_recovery;
     const QString m_templateFolder;
     std::unique_ptr<Ui::frmselprj> m_ui;
+    std::unique_ptr<WizardList> m_wizards;
 };
 
 } // namespace zephira

@@ -4,8 +4,32 @@
 
 #include <QTest>
 
+#include <tidy/tidy.h>
+#include <tidy/tidybuffio.h>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
+
+namespace {
+
+/// All errors and warnings of HTML Tidy; empty if the page follows the rules.
+QByteArray complaintsOfTidy(const QByteArray &page)
+{
+    const TidyDoc document = tidyCreate();
+    TidyBuffer messages;
+    tidyBufInit(&messages);
+    tidySetErrorBuffer(document, &messages);
+    tidySetCharEncoding(document, "utf8");
+    tidyParseString(document, page.constData());
+    QByteArray complaints;
+    if (tidyErrorCount(document) + tidyWarningCount(document) > 0)
+        complaints = QByteArray(reinterpret_cast<const char *>(messages.bp), static_cast<qsizetype>(messages.size));
+    tidyBufFree(&messages);
+    tidyRelease(document);
+    return complaints;
+}
+
+} // namespace
 
 class TstArticlePage final : public QObject
 {
@@ -42,6 +66,30 @@ private Q_SLOTS:
         QVERIFY(page.contains(u"<title>&lt;b&gt;</title>"_s));
         QVERIFY(!page.contains(u"description"_s));
         QVERIFY(page.contains(u"    <header>\r\n      <h1>&lt;b&gt;</h1>\r\n    </header>\r\n"_s));
+    }
+
+    void thePageIsValid_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("description");
+        QTest::newRow("plain") << u"Bees"_s << u"A year with bees"_s;
+        QTest::newRow("no description") << u"Bees"_s << QString();
+        QTest::newRow("markup") << u"</title><script>\"'&amp;"_s << u"\"><b>&copy"_s;
+        QTest::newRow("another script") << u"養蜂"_s << u"نحل"_s;
+    }
+
+    void thePageIsValid()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, description);
+        QCOMPARE(complaintsOfTidy(articlePage({title, u"en"_s, description}).toUtf8()), QByteArray());
+    }
+
+    /// The check finds what is wrong.
+    void aWrongPageIsFound()
+    {
+        QByteArray page = articlePage({u"Bees"_s, u"en"_s, {}}).toUtf8();
+        QVERIFY(complaintsOfTidy(page.replace("</h1>", "</h2>")).contains("h1"));
     }
 
     void directions_data()
