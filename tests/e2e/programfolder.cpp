@@ -39,10 +39,14 @@ ProgramFolder::ProgramFolder()
     copyTree(sourcePath(u"data"_s), path());
     QVERIFY(QDir().mkpath(home()));
     QVERIFY(QFile::copy(program, executable()));
-    // The modules are next to the program.
-    const QFileInfoList all = QFileInfo(program).dir().entryInfoList({u"*.so"_s}, QDir::Files);
-    for (const QFileInfo &module : all)
-        QVERIFY(QFile::copy(module.filePath(), path() + u'/' + module.fileName()));
+    // The modules are next to the program, the extensions in their folders.
+    const QDir built = QFileInfo(program).dir();
+    for (const QString &folder : {u"."_s, u"plugins"_s, u"wizards"_s}) {
+        QVERIFY(QDir().mkpath(path() + u'/' + folder));
+        const QStringList modules = QDir(built.filePath(folder)).entryList({u"*.so"_s}, QDir::Files);
+        for (const QString &module : modules)
+            QVERIFY(QFile::copy(built.filePath(folder + u'/' + module), path() + u'/' + folder + u'/' + module));
+    }
     setTips(false);
     setIni(u"Startup"_s, u"selprj"_s, u"0"_s);
 }
