@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -15,11 +17,14 @@ class TstFillerText final : public QObject
 private Q_SLOTS:
     void paragraphs()
     {
-        static const QRegularExpression form(u"^<p>[A-Z][^<>&\r\n]{150,450}\\.</p>\r\n$"_s);
+        static const QRegularExpression form(u"^<p>[A-Z][^<>&]{150,450}\\.</p>\r\n$"_s);
         QStringList texts;
         for (int i = 0; i < fillerParagraphs(); ++i) {
             texts.append(fillerParagraph(i));
             QVERIFY2(texts.last().contains(form), qPrintable(texts.last()));
+            const QStringList lines = texts.last().split(u"\r\n"_s);
+            QVERIFY(std::ranges::all_of(lines, [](const QString &line) { return line.size() <= 80; }));
+            QVERIFY2(lines.size() >= 4 && !texts.last().contains(u"  "_s), qPrintable(texts.last()));
         }
         QCOMPARE(texts.removeDuplicates(), 0);
         QVERIFY(texts.size() >= 5);

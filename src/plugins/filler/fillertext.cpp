@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plugins/filler/fillertext.h"
 
+#include <QStringBuilder>
+
 #include <iterator>
 
 using namespace Qt::StringLiterals;
@@ -8,6 +10,8 @@ using namespace Qt::StringLiterals;
 namespace zephira {
 
 namespace {
+
+constexpr qsizetype lineWidth = 80;
 
 constexpr QStringView paragraphs[] = {
     u"The first train of the morning leaves before the bakery opens. Whoever takes it knows the three stops by heart: "
@@ -27,6 +31,18 @@ constexpr QStringView paragraphs[] = {
     u"another hand's breadth up their poles.",
 };
 
+/// Breaks the text between words into lines of at most that many characters.
+QString wrapped(QStringView text, qsizetype width)
+{
+    QString lines;
+    while (text.size() > width) {
+        const qsizetype end = text.lastIndexOf(u' ', width);
+        lines += text.first(end) % u"\r\n";
+        text = text.sliced(end + 1);
+    }
+    return lines % text;
+}
+
 } // namespace
 
 int fillerParagraphs()
@@ -36,7 +52,7 @@ int fillerParagraphs()
 
 QString fillerParagraph(int number)
 {
-    return u"<p>"_s + paragraphs[number % fillerParagraphs()].toString() + u"</p>\r\n"_s;
+    return wrapped(QString(u"<p>" % paragraphs[number % fillerParagraphs()] % u"</p>"), lineWidth) % u"\r\n";
 }
 
 } // namespace zephira
