@@ -105,16 +105,21 @@ bool WriteIni(const QString &section, const QString &key, const QString &value, 
     return writeIniValue(section, key, value, file, mode).ok();
 }
 
-Result<QStringList> readIniValues(const QString &section, const QStringList &keys, const QString &file)
+QStringList iniValues(const QByteArray &content, const QString &section, const QStringList &keys)
 {
-    Result<QByteArray> bytes = DiskFileStore().read(file);
-    if (!bytes)
-        return bytes.error();
-    const Profile profile = profileFrom(std::move(bytes).value());
+    const Profile profile = profileFrom(content);
     QStringList values;
     for (const QString &key : keys)
         values.append(shortValue(profile.bytes, section, key));
     return values;
+}
+
+Result<QStringList> readIniValues(const QString &section, const QStringList &keys, const QString &file)
+{
+    const Result<QByteArray> content = DiskFileStore().read(file);
+    if (!content)
+        return content.error();
+    return iniValues(content.value(), section, keys);
 }
 
 Result<void> writeIniValue(const QString &section, const QString &key, const QString &value, const QString &file,

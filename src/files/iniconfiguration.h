@@ -20,8 +20,10 @@ QString ReadIni(const QString &section, const QString &key, const QString &file)
 /// `mode` applies to a new file.
 bool WriteIni(const QString &section, const QString &key, const QString &value, const QString &file, int mode = 0666);
 
-/// Reads several values of a section, in the order of their keys and each like ReadIni(), from one state of the file.
-/// Fails if the file can't be read; Code::NotFound if there is none.
+/// Values of one section of a profile's content, in the order of their keys and each like ReadIni().
+QStringList iniValues(const QByteArray &content, const QString &section, const QStringList &keys);
+
+/// The same for a file, from one state of it. Fails if the file can't be read; Code::NotFound if there is none.
 Result<QStringList> readIniValues(const QString &section, const QStringList &keys, const QString &file);
 
 /// Like WriteIni(), for callers that report a failure.

@@ -5,8 +5,6 @@
 
 #include <QFileInfo>
 
-#include <iterator>
-
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -27,6 +25,23 @@ constexpr FactRow factRows[] = {
 };
 
 const QString section = u"Saved Tags"_s;
+
+QStringList keys()
+{
+    QStringList keys;
+    for (const FactRow &row : factRows)
+        keys.append(row.key.toString());
+    return keys;
+}
+
+SiteFacts factsFrom(const QStringList &values)
+{
+    SiteFacts facts;
+    auto value = values.begin();
+    for (const FactRow &row : factRows)
+        facts.*row.fact = *value++;
+    return facts;
+}
 
 } // namespace
 
@@ -50,18 +65,15 @@ Result<void> saveTags(const SiteFacts &facts, const QString &folder, const QStri
     return {};
 }
 
+SiteFacts savedTags(const QByteArray &content)
+{
+    return factsFrom(iniValues(content, section, keys()));
+}
+
 Result<SiteFacts> loadTags(const QString &folder, const QString &fileName)
 {
-    QStringList keys;
-    for (const FactRow &row : factRows)
-        keys.append(row.key.toString());
-    const Result<QStringList> values = readIniValues(section, keys, folder + u'/' + fileName);
-    if (!values)
-        return values.error();
-    SiteFacts facts;
-    for (qsizetype i = 0; i < keys.size(); ++i)
-        facts.*factRows[i].fact = values.value()[i];
-    return facts;
+    const Result<QStringList> values = readIniValues(section, keys(), folder + u'/' + fileName);
+    return values ? Result<SiteFacts>(factsFrom(values.value())) : values.error();
 }
 
 } // namespace zephira

@@ -4,6 +4,7 @@
 #include "core/result.h"
 #include "wizards/metamarkup.h"
 
+#include <QByteArray>
 #include <QString>
 
 namespace zephira {
@@ -22,8 +23,11 @@ QString savedTagsFolder(const QString &appPath);
 /// the facts change. If there is no such folder, nothing is saved, and that isn't an error.
 Result<void> saveTags(const SiteFacts &facts, const QString &folder, const QString &name);
 
-/// Reads a file of saved tags, given by its name with the extension. Missing values read as empty. Fails with
-/// Code::NotFound if there is no such file.
+/// The facts in a file's content. Missing values are empty.
+SiteFacts savedTags(const QByteArray &content);
+
+/// Reads a file of saved tags, given by its name with the extension. Fails with Code::NotFound if there is no
+/// such file.
 Result<SiteFacts> loadTags(const QString &folder, const QString &fileName);
 
 } // namespace zephira

@@ -19,6 +19,7 @@
 #include "views/pagefetcher.h"
 #include "web/designer/pageroundtrip.h"
 #include "web/designer/servermarks.h"
+#include "wizards/savedtags.h"
 
 #include <algorithm>
 #include <utility>
@@ -34,6 +35,14 @@ QByteArray printProfile(const QByteArray &input)
     for (const ProfileEntry &entry : profileEntries(input))
         out += entry.section.toUtf8() + '\t' + entry.key.toUtf8() + '\t' + entry.value.toUtf8() + '\n';
     return out;
+}
+
+/// One line for each fact that saved meta tags hold.
+QByteArray printSavedTags(const QByteArray &input)
+{
+    const SiteFacts facts = savedTags(input);
+    return facts.description.toUtf8() + '\n' + facts.keywords.toUtf8() + '\n' + facts.author.toUtf8() + '\n'
+        + facts.copyright.toUtf8() + '\n';
 }
 
 const char *lineEndsName(LineEnds ends)
@@ -263,6 +272,7 @@ constexpr char16_t perl[] = u"Perl";
 
 constexpr Parser table[] = {
     {"ini", printProfile},
+    {"smt", printSavedTags},
     {"textfile", printTextFile},
     {"servermarks", printServerMarks},
     {"designertext", printDesignerText},
