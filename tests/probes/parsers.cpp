@@ -187,7 +187,8 @@ QByteArray printImageLinks(const QByteArray &input)
     const auto tell = [&out](const QString &description) { out = "error\t" + description.toUtf8() + '\n'; };
     if (!endingWith(tell, [&] { LinksFromHTML(urls, textOf(input)); }))
         return out;
-    for (const QString &url : urls.sliced(1)) {
+    const QStringList links = urls.sliced(1);
+    for (const QString &url : links) {
         addEscaped(out, url);
         out.append('\n');
     }
@@ -198,7 +199,8 @@ QByteArray printImageLinks(const QByteArray &input)
 QByteArray printLinkTargets(const QByteArray &input)
 {
     QByteArray out;
-    for (const QString &target : linkTargets(textOf(input)).targets) {
+    const QStringList targets = linkTargets(textOf(input)).targets;
+    for (const QString &target : targets) {
         addEscaped(out, target);
         out.append('\n');
     }
@@ -245,7 +247,8 @@ QByteArray printMlsd(const QByteArray &input)
 QByteArray printReply(const QByteArray &input)
 {
     FtpReplyReader reader;
-    for (const QByteArray &line : input.split('\n')) {
+    const QByteArrayList lines = input.split('\n');
+    for (const QByteArray &line : lines) {
         if (!reader.take(line) || reader.isComplete())
             break;
     }

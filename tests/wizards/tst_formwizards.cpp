@@ -201,6 +201,22 @@ private Q_SLOTS:
                              "</select>\r\n"_s});
     }
 
+    /// The list shows such a choice in time, and the menu has all of it.
+    void longAndStrangeChoices()
+    {
+        const QString text = u"\"<ü"_s.repeated(50'000) + u"\0\x01\r\n\t\U0001F600"_s;
+        WizardBench menu(u"frmdropdown"_s);
+        for (int i = 0; i < 3; ++i)
+            addChoice(menu, text, false, text);
+        menu.form.widget().grab();
+        menu.form.set(u"Text1"_s, u"m"_s);
+        menu.form.press(u"Command5"_s);
+        menu.form.press(u"Command7"_s);
+        const QString option = u"  <option Value=\""_s + text + u"\">"_s + text + u"</option>\r\n"_s;
+        QCOMPARE(menu.inserted(),
+                 QStringList{u"chosen<select size=\"1\" name=\"m\">\r\n"_s + option.repeated(3) + u"</select>\r\n"_s});
+    }
+
     void aChoiceNeedsAText()
     {
         WizardBench menu(u"frmdropdown"_s);

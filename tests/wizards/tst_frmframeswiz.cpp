@@ -248,9 +248,9 @@ private Q_SLOTS:
             wizard.form.set(u"Name"_s + number, u"n"_s + number);
         wizard.form.press(u"cmdFinish"_s);
         QVERIFY(!wizard.form.isOpen());
-        const QString text = wizard.world.inserter.inserted.value(0);
+        const QStringList lines = wizard.world.inserter.inserted.value(0).split(u"\r\n"_s);
         QStringList names;
-        for (const QString &line : text.split(u"\r\n"_s)) {
+        for (const QString &line : lines) {
             if (line.startsWith(u"    <frame name"))
                 names.append(line.section(u'"', 1, 1));
         }
