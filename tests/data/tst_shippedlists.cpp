@@ -3,6 +3,7 @@
 #include "support/testregistry.h"
 #include "tags/builtintags.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -194,6 +195,13 @@ private Q_SLOTS:
     {
         QFETCH(QString, selector);
         QVERIFY(shippedLines(u"deps/csssel.dat"_s).contains(selector));
+    }
+
+    /// Logs and meta tags are saved only into folders that exist.
+    void foldersToSaveInExist()
+    {
+        for (const QString &folder : {u"Logon"_s, u"Tags"_s})
+            QVERIFY2(QFileInfo(shippedFolder() + folder).isDir(), qPrintable(folder));
     }
 };
 
