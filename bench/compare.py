@@ -222,6 +222,23 @@ def tools(_programs, report, inputs, build, work):
     report.row("Compact of 10 MB", compact["Compact/large"] / 1e6, median(tidy("-i", inputs(10)) for _ in range(3)), 0.5, "tidy -i")
 
 
+def spelling(_programs, report, inputs, build, _work):
+    """The spelling check of 1 MB up to its first question, compared with the hunspell command over such a page."""
+    page = inputs(1)
+    times = in_process(build, "spell_bench", str(page), str(build.parent / "src/tools/spelling/names.dic"))
+    theirs = median(checked_by_hunspell(page) for _ in range(5))
+    report.row("spelling of 1 MB, first question", times["first question"] / 1e6, theirs, 0.1, "hunspell -H -l")
+    report.row("dictionary loaded", times["load"] / 1e6, 150, 1.0, "0.15 s")
+
+
+def checked_by_hunspell(page):
+    """The wall-clock time of one run of the hunspell command in milliseconds."""
+    begin = time.monotonic()
+    environment = dict(os.environ, LC_ALL="C.UTF-8")
+    subprocess.run(["hunspell", "-d", "en_US", "-H", "-l", page], stdout=subprocess.DEVNULL, env=environment, check=True)
+    return (time.monotonic() - begin) * 1e3
+
+
 def compacting(_programs, report, inputs, build, _work):
     """Compact of 10 MB in the code view, which makes it a single line, and its undo and redo, each until painted."""
     times = in_process(build, "compact_bench", str(inputs(10)))
@@ -346,7 +363,7 @@ def ftp(_programs, report, _inputs, build, work):
 
 
 GROUPS = {"start": start, "open": opening, "type": typing, "longline": long_line, "preview": preview, "designer": designer, "colour": colouring, "functions": functions, "tools": tools, "compact": compacting,
-          "save": saving, "folder": local_folder, "ftpfolder": ftp_folder, "ftp": ftp}
+          "spell": spelling, "save": saving, "folder": local_folder, "ftpfolder": ftp_folder, "ftp": ftp}
 
 
 def main(build, folder, work, *groups):

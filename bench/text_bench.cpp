@@ -13,6 +13,8 @@
 #include "syntax/syntaxengine.h"
 #include "tags/tagfile.h"
 #include "tools/sourceformatter.h"
+#include "tools/spelling/customdictionary.h"
+#include "tools/spelling/words.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -119,6 +121,12 @@ void outline(Input &input)
     benchmark::DoNotOptimize(leaves);
 }
 
+void walkWords(Input &input)
+{
+    for (TextPlace word = nextWord(input.text, 0); word.length > 0; word = nextWord(input.text, word.end()))
+        benchmark::DoNotOptimize(word);
+}
+
 const TextFunction functions[] = {
     {"decodeText UTF-8", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.utf8)); }},
     {"decodeText Windows-1252", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.windows1252)); }},
@@ -149,6 +157,8 @@ const TextFunction functions[] = {
     {"Compact", [](Input &input) { benchmark::DoNotOptimize(Compact(input.text)); }},
     {"Simple", [](Input &input) { benchmark::DoNotOptimize(Simple(input.text)); }},
     {"Hierarchical", [](Input &input) { benchmark::DoNotOptimize(Hierarchical(input.tables)); }},
+    {"nextWord", walkWords},
+    {"readCustomDictionary", [](Input &input) { benchmark::DoNotOptimize(readCustomDictionary(input.profile)); }},
 };
 
 /// Evicts the inputs from the processor's caches. Otherwise only the small one would be read from there, which would

@@ -37,7 +37,7 @@ constexpr FolderRow folderRows[] = {
     {u"editor", u"core files syntax widgets"},
     {u"web", u"core files"},
     {u"desktop", u"core widgets"},
-    {u"tools", u"core files"},
+    {u"tools", u"core files syntax"},
     {u"tags", u"core files widgets"},
     {u"panes", u"core files widgets"},
     {u"views", u"core files widgets"},

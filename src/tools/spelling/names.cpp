@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// names OUT FILE...: writes the list of names that the spelling check knows besides its dictionary: the words of the
-// definitions of all languages, of the files with style sheet properties and rules, and those of SQL and of style sheet
-// units, for which the program has no other table. One word to a line, in lower case, each once.
+// names < STYLES > LIST: the list of names that the spelling check knows besides its dictionary, one to a line, in lower
+// case, each once. They are the words in the definitions of all languages, in STYLES, which are the properties and rules
+// of style sheets, and those of SQL and of style sheet units, for which the program has no other table.
 #include "syntax/languagewords.h"
 #include "tools/spelling/words.h"
 
-#include <QFile>
-
 #include <cstdlib>
+#include <iostream>
+#include <iterator>
 #include <set>
+#include <string>
 
 using namespace zephira;
 
@@ -43,21 +44,15 @@ void addWords(std::set<QString> &names, QStringView text)
 
 } // namespace
 
-int main(int argc, char **argv)
+int main()
 {
+    const std::string styles(std::istreambuf_iterator<char>(std::cin), {});
     std::set<QString> names;
     addWords(names, languageWords().join(u'\n'));
     addWords(names, units);
     addWords(names, sql);
-    for (int i = 2; i < argc; ++i) {
-        QFile file(QFile::decodeName(argv[i]));
-        if (!file.open(QIODevice::ReadOnly))
-            return EXIT_FAILURE;
-        addWords(names, QString::fromUtf8(file.readAll()));
-    }
-    QByteArray list;
+    addWords(names, QString::fromStdString(styles));
     for (const QString &name : names)
-        list += name.toUtf8() + '\n';
-    QFile out(argc > 1 ? QFile::decodeName(argv[1]) : QString());
-    return out.open(QIODevice::WriteOnly) && out.write(list) == list.size() ? EXIT_SUCCESS : EXIT_FAILURE;
+        std::cout << name.toStdString() << '\n';
+    return !styles.empty() && std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
