@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/frmabout.h"
 
+#include "core/clipboard.h"
 #include "core/errorstyles.h"
 #include "core/prompts.h"
 #include "core/shell.h"
+#include "settings/libraries.h"
 #include "settings/systeminformation.h"
 #include "ui_frmabout.h"
 
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPushButton>
 
@@ -18,22 +21,9 @@ namespace {
 
 constexpr int pictureSide = 96;
 
-/// A label with a sentence that ends in a link.
-struct Credit {
-    QStringView name;
-    QStringView sentence;
-    QStringView link;
-    QStringView address;
-};
-
-constexpr Credit credits[] = {
-    {u"lblLicence", u"Free software under the", u"GNU General Public License, version 3 or later",
-     u"https://www.gnu.org/licenses/gpl-3.0.html"},
-    {u"lblQt", u"Windows, dialogs and pages by", u"Qt", u"https://www.qt.io/"},
-    {u"lblQScintilla", u"The code view is based on", u"QScintilla",
-     u"https://www.riverbankcomputing.com/software/qscintilla/"},
-    {u"lblTidy", u"Pages are checked with", u"HTML Tidy", u"https://www.html-tidy.org/"},
-};
+/// The first of the credits, in the form of the others.
+const Library licence{u"lblLicence", u"Free software under the", u"GNU General Public License, version 3 or later",
+                      u"https://www.gnu.org/licenses/gpl-3.0.html"};
 
 } // namespace
 
@@ -46,6 +36,7 @@ frmAbout::frmAbout(const AppContext &context, QWidget *owner)
     addCredits();
 
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAbout::accept);
+    connect(m_ui->cmdCopy, &QPushButton::clicked, this, &frmAbout::copyVersions);
     connect(m_ui->cmdSysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
 }
 
@@ -54,14 +45,17 @@ frmAbout::~frmAbout() = default;
 void frmAbout::addCredits()
 {
     QWidget *before = m_ui->picIcon;
-    for (const Credit &credit : credits) {
+    std::vector<Library> credits = libraries();
+    credits.insert(credits.begin(), licence);
+    for (const Library &credit : std::as_const(credits)) {
         const QString sentence = credit.sentence.toString();
-        const QString link = credit.link.toString();
+        const QString link = credit.name.toString();
         const QString address = credit.address.toString();
-        auto *label = new QLabel(u"%1 <a href=\"%2\">%3</a>"_s.arg(sentence, address, link), this);
-        label->setObjectName(credit.name);
+        auto *label =
+            new QLabel(u"%1 <a href=\"%2\">%3</a> %4"_s.arg(sentence, address, link, credit.version).trimmed(), this);
+        label->setObjectName(credit.label);
         label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-        label->setAccessibleName(sentence + u' ' + link);
+        label->setAccessibleName((sentence + u' ' + link + u' ' + credit.version).trimmed());
         label->setToolTip(address);
         connect(label, &QLabel::linkActivated, this, &frmAbout::openLink);
         m_ui->creditLayout->addWidget(label);
@@ -69,7 +63,8 @@ void frmAbout::addCredits()
         before = label;
     }
     setTabOrder(before, m_ui->cmdSysInfo);
-    setTabOrder(m_ui->cmdSysInfo, m_ui->cmdOK);
+    setTabOrder(m_ui->cmdSysInfo, m_ui->cmdCopy);
+    setTabOrder(m_ui->cmdCopy, m_ui->cmdOK);
     m_ui->cmdOK->setFocus();
 }
 
@@ -77,6 +72,13 @@ void frmAbout::openLink(const QString &address)
 {
     if (const Result<void> opened = m_context.shell.open(address); !opened)
         tellError(m_context.prompts, opened.error(), windowTitle());
+}
+
+void frmAbout::copyVersions()
+{
+    const QString desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP", u"unknown"_s);
+    m_context.clipboard.setText(
+        versionReport(QStringLiteral(ZEPHIRA_VERSION), desktop + u" ("_s + QGuiApplication::platformName() + u')'));
 }
 
 void frmAbout::StartSysInfo()

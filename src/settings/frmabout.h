@@ -25,6 +25,8 @@ public:
 private:
     void addCredits();
     void openLink(const QString &address);
+    /// Copies the versions and what system this is, for a report about an error.
+    void copyVersions();
     void StartSysInfo();
 
     const AppContext &m_context;

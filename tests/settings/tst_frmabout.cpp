@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/libraries.h"
 #include "settings/registerforms.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
@@ -24,6 +25,9 @@ private Q_SLOTS:
     void pictureOfTheProgram();
     void creditOpensItsAddress_data();
     void creditOpensItsAddress();
+    void creditsNameTheirVersions();
+    void copy();
+    void tabKey();
     void creditThatCannotBeOpened();
     void systemInformation();
     void systemInformationIsMissing();
@@ -79,6 +83,9 @@ void TstFrmAbout::creditOpensItsAddress_data()
     QTest::newRow("Qt") << u"lblQt"_s << u"https://www.qt.io/"_s;
     QTest::newRow("QScintilla") << u"lblQScintilla"_s << u"https://www.riverbankcomputing.com/software/qscintilla/"_s;
     QTest::newRow("HTML Tidy") << u"lblTidy"_s << u"https://www.html-tidy.org/"_s;
+    QTest::newRow("Qt WebEngine") << u"lblWebEngine"_s << u"https://doc.qt.io/qt-6/qtwebengine-index.html"_s;
+    QTest::newRow("Hunspell") << u"lblHunspell"_s << u"https://hunspell.github.io/"_s;
+    QTest::newRow("libcurl") << u"lblCurl"_s << u"https://curl.se/libcurl/"_s;
 }
 
 void TstFrmAbout::creditOpensItsAddress()
@@ -91,6 +98,49 @@ void TstFrmAbout::creditOpensItsAddress()
     QTest::keyClick(&credit, Qt::Key_Tab);
     QTest::keyClick(&credit, Qt::Key_Return);
     QCOMPARE(m_world->shell.opened, QStringList{address});
+}
+
+void TstFrmAbout::creditsNameTheirVersions()
+{
+    QCOMPARE(m_form->value(u"lblQt"_s),
+             u"Windows and dialogs by <a href=\"https://www.qt.io/\">Qt</a> "_s + QString::fromLatin1(qVersion()));
+    for (const Library &library : libraries()) {
+        const auto &label = m_form->get<QLabel>(library.label.toString());
+        QVERIFY(label.text().endsWith(u"</a> "_s + library.version));
+        QCOMPARE(label.accessibleName(),
+                 library.sentence.toString() + u' ' + library.name.toString() + u' ' + library.version);
+    }
+    QVERIFY(m_form->value(u"lblLicence"_s).endsWith(u"</a>"_s));
+}
+
+void TstFrmAbout::copy()
+{
+    m_form->press(u"cmdCopy"_s);
+    const QStringList lines = m_world->clipboard.content.split(u'\n');
+    QCOMPARE(lines.size(), static_cast<qsizetype>(libraries().size()) + 4);
+    QCOMPARE(lines.first(), u"Zephira 2.1.0"_s);
+    QCOMPARE(lines[1], u"Qt "_s + QString::fromLatin1(qVersion()));
+    QCOMPARE(lines[lines.size() - 2],
+             u"Desktop: %1 (offscreen)"_s.arg(qEnvironmentVariable("XDG_CURRENT_DESKTOP", u"unknown"_s)));
+    QCOMPARE(lines.last(), u""_s);
+    QVERIFY(m_form->isOpen());
+}
+
+void TstFrmAbout::tabKey()
+{
+    QCOMPARE(m_form->focus(), u"cmdOK"_s);
+    QStringList reached;
+    do {
+        m_form->key(Qt::Key_Tab);
+        // A label is reached first, and then its link.
+        if (!reached.contains(m_form->focus()))
+            reached.append(m_form->focus());
+    } while (reached.last() != u"cmdOK"_s);
+    QStringList expected{u"lblLicence"_s};
+    for (const Library &library : libraries())
+        expected.append(library.label.toString());
+    expected.append({u"cmdSysInfo"_s, u"cmdCopy"_s, u"cmdOK"_s});
+    QCOMPARE(reached, expected);
 }
 
 void TstFrmAbout::creditThatCannotBeOpened()

@@ -2,8 +2,11 @@
 #include "settings/frmtip.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
+#include "support/sourcefolder.h"
 #include "support/testregistry.h"
 
+#include <QFile>
+#include <QLabel>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +27,7 @@ private Q_SLOTS:
     void nextTipDrawsAgain();
     void sameTipTwice();
     void oneLine();
+    void shippedTipsFit();
     void missingFile();
     void emptyFile();
     void ok();
@@ -133,6 +137,26 @@ void TstFrmTip::oneLine()
         QCOMPARE(shown(), u"Only <b>one</b>"_s);
         m_form->press(u"cmdNextTip"_s);
     }
+}
+
+/// None of the shipped tips is cut off.
+void TstFrmTip::shippedTipsFit()
+{
+    QFile file(sourcePath(u"data/TIPOFDAY.TXT"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    putTips(file.readAll());
+    constexpr int count = 40;
+    for (int i = 0; i < count; ++i)
+        m_random.append((i + 0.5) / count);
+    open();
+    const auto &label = m_form->get<QLabel>(u"lblTipText"_s);
+    QSet<QString> seen;
+    for (int i = 0; i < count; ++i) {
+        seen.insert(label.text());
+        QVERIFY2(label.heightForWidth(label.width()) <= label.height(), qPrintable(label.text()));
+        m_form->press(u"cmdNextTip"_s);
+    }
+    QCOMPARE(seen.size(), count);
 }
 
 void TstFrmTip::missingFile()

@@ -4,6 +4,7 @@
 #include "support/testregistry.h"
 
 #include <QFile>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -71,9 +72,12 @@ void TstTips::shippedTips()
     QFile file(sourcePath(u"data/TIPOFDAY.TXT"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList tips = tipLines(QString::fromUtf8(file.readAll()));
-    QVERIFY(tips.size() >= 20);
-    for (const QString &tip : tips)
-        QVERIFY(!tip.trimmed().isEmpty());
+    QCOMPARE(tips.size(), 40);
+    QCOMPARE(QSet<QString>(tips.begin(), tips.end()).size(), 40);
+    for (const QString &tip : tips) {
+        QVERIFY2(tip.size() >= 40 && tip.size() <= 160, qPrintable(tip));
+        QVERIFY2(tip.endsWith(u'.') && tip == tip.trimmed(), qPrintable(tip));
+    }
 }
 
 ZEPHIRA_TEST(TstTips)
