@@ -76,7 +76,9 @@ void paintLines(QPainter &painter, QRectF area, Kind kind, const QPalette &palet
 
 void paintFrame(QPainter &painter, const QRectF &area, Kind kind, const QPalette &palette)
 {
-    painter.setPen(QPen(palette.color(QPalette::Mid), 1));
+    QColor edge = palette.color(QPalette::Text);
+    edge.setAlphaF(0.5F);
+    painter.setPen(QPen(edge, 1));
     painter.setBrush(palette.brush(kind == Kind::Bar ? QPalette::Highlight : QPalette::Base));
     painter.drawRect(area);
     if (kind != Kind::Bar)
