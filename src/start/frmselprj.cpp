@@ -83,10 +83,11 @@ void frmselprj::listCustomTemplates()
 void frmselprj::useTemplate(const TemplateButton &button)
 {
     if (!button.file.isEmpty()) {
-        const Result<QString> text = readTemplate(m_context.files, m_templateFolder + button.file.toString());
-        const Result<void> put = text ? replaceDocumentText(m_context, m_recovery, text.value()) : text.error();
-        if (!put) {
-            tell(put.error());
+        Result<void> done = m_ui->temp->loadFile(m_context.files, m_templateFolder + button.file.toString());
+        if (done)
+            done = replaceDocumentText(m_context, m_recovery, m_ui->temp->text());
+        if (!done) {
+            tell(done.error());
             return;
         }
     }
@@ -98,16 +99,12 @@ void frmselprj::useCustomTemplate(const QListWidgetItem *item)
 {
     if (!item)
         return;
-    const Result<QString> text = readTemplate(m_context.files, m_ui->File1->path() + u'/' + item->text());
-    if (!text) {
-        tell(text.error());
+    Result<void> done = m_ui->temp->loadFile(m_context.files, m_ui->File1->path() + u'/' + item->text());
+    if (done && !m_ui->temp->text().isEmpty())
+        done = replaceDocumentText(m_context, m_recovery, m_ui->temp->text());
+    if (!done) {
+        tell(done.error());
         return;
-    }
-    if (!text.value().isEmpty()) {
-        if (const Result<void> put = replaceDocumentText(m_context, m_recovery, text.value()); !put) {
-            tell(put.error());
-            return;
-        }
     }
     if (const auto language = languageOfTemplate(item->text())) {
         m_context.document.setLanguageRow(language->row);

@@ -274,6 +274,7 @@ void TstFrmSelPrj::templateButton()
     m_form->get<QTabWidget>(u"SSTab1"_s).setCurrentIndex(static_cast<int>(row.page));
     m_form->press(row.name.toString());
     QCOMPARE(m_world->editor.text(), u"one\r\ntwo"_s);
+    QCOMPARE(m_form->get(u"temp"_s).property("Text").toString(), u"one\r\ntwo"_s);
     QCOMPARE(m_world->document.row, row.language);
     QVERIFY(!m_form->isOpen());
 }
