@@ -38,8 +38,8 @@ namespace {
 
 /// Commands of the editing control whose keys are needed for menus, in the order in which they are unregistered.
 constexpr EditorCommand commandsWithoutKeys[] = {
-    EditorCommand::TransposeLines, EditorCommand::CutByOldKey,  EditorCommand::SelectWord, EditorCommand::FindNextByKey,
-    EditorCommand::FindByKey,      EditorCommand::ReplaceByKey, EditorCommand::GoToByKey,
+    EditorCommand::CutByKey,  EditorCommand::PasteByKey,   EditorCommand::CopyByKey, EditorCommand::FindNextByKey,
+    EditorCommand::FindByKey, EditorCommand::ReplaceByKey, EditorCommand::GoToByKey,
 };
 
 HandlerError startError(const Error &error)

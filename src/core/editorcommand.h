@@ -17,11 +17,11 @@ enum class EditorCommand : int {
     // Usually also offered by menus; a program with such menus unbinds their keys here.
     FindByKey = 129,
     ReplaceByKey = 139,
-    CutByOldKey = 140,
+    PasteByKey = 140,
     GoToByKey = 160,
     FindNextByKey = 161,
-    TransposeLines = 197,
-    SelectWord = 198,
+    CutByKey = 197,
+    CopyByKey = 198,
 
     // The control's own commands.
     FindPrevious = 1000,
@@ -37,7 +37,6 @@ enum class EditorCommand : int {
     ResetZoom,
     UndoText,
     RedoText,
-    CutText,
     CopyText,
     PasteText,
     DeleteText,

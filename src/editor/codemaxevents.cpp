@@ -17,6 +17,8 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace zephira {
 
 using namespace Qt::StringLiterals;
@@ -276,16 +278,18 @@ void CodeMax::showContextMenu(const QPoint &at)
     const auto add = [&](const QString &text, EditorCommand command, bool enabled) {
         QAction *action = menu->addAction(text);
         action->setEnabled(enabled);
-        for (int i = 0; i < m_globals->hotKeyCount(numberOf(command)) && i < 1; ++i)
-            action->setShortcut(m_globals->hotKey(numberOf(command), i).keys);
+        // A key that a menu of the window has taken over still does the same.
+        const auto hotKey = std::ranges::find(initialHotKeys(), numberOf(command), &CodeMaxHotKey::command);
+        if (hotKey != initialHotKeys().end())
+            action->setShortcut(hotKey->keys);
         connect(action, &QAction::triggered, this, [this, command] { executeCmd(command); });
     };
     add(tr("&Undo"), EditorCommand::UndoText, writable && canUndo());
     add(tr("&Redo"), EditorCommand::RedoText, writable && canRedo());
     menu->addSeparator();
-    add(tr("Cu&t"), EditorCommand::CutText, writable && canCopy());
-    add(tr("&Copy"), EditorCommand::CopyText, canCopy());
-    add(tr("&Paste"), EditorCommand::PasteText, writable && m_engine.send(SCI_CANPASTE));
+    add(tr("Cu&t"), EditorCommand::CutByKey, writable && canCopy());
+    add(tr("&Copy"), EditorCommand::CopyByKey, canCopy());
+    add(tr("&Paste"), EditorCommand::PasteByKey, writable && m_engine.send(SCI_CANPASTE));
     add(tr("&Delete"), EditorCommand::DeleteText, writable && canCopy());
     menu->addSeparator();
     add(tr("Select &All"), EditorCommand::SelectAll, true);

@@ -33,7 +33,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("command");
         using enum EditorCommand;
         for (const EditorCommand command :
-             {TransposeLines, CutByOldKey, SelectWord, FindNextByKey, FindByKey, ReplaceByKey, GoToByKey})
+             {CutByKey, PasteByKey, CopyByKey, FindNextByKey, FindByKey, ReplaceByKey, GoToByKey})
             QTest::addRow("%d", numberOf(command)) << numberOf(command);
     }
     void commandsThatAMenuReplacesLoseTheirKeys()
@@ -68,17 +68,63 @@ private Q_SLOTS:
         f.show();
         f.editor.setText(u"one\r\ntwo"_s);
         f.editor.select({1, 0, 1, 0});
-        QTest::keyClick(&f.editor, Qt::Key_T, Qt::ControlModifier);
-        QCOMPARE(f.editor.text(), u"two\r\none"_s);
+        f.editor.select({0, 0, 0, 3});
+        QTest::keyClick(&f.editor, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"one"_s);
+        f.editor.select({1, 0, 1, 3});
+        QTest::keyClick(&f.editor, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(f.editor.text(), u"one\r\none"_s);
         f.editor.select({0, 0, 0, 3});
         QTest::keyClick(&f.editor, Qt::Key_Delete, Qt::ShiftModifier);
         QCOMPARE(f.editor.text(), u"\r\none"_s);
-        QCOMPARE(QGuiApplication::clipboard()->text(), u"two"_s);
-        f.editor.select({1, 1, 1, 1});
-        QTest::keyClick(&f.editor, Qt::Key_W, Qt::ControlModifier);
-        QCOMPARE(f.editor.selText(), u"one"_s);
+        f.editor.select({1, 0, 1, 2});
+        QTest::keyClick(&f.editor, Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(f.editor.text(), u"\r\ne"_s);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"on"_s);
         QTest::keyClick(&f.editor, Qt::Key_F, Qt::ControlModifier);
         QVERIFY(f.editor.findChild<FindDialog *>());
+    }
+
+    void theClipboardByNumber()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"one two"_s);
+        f.editor.executeCmd(137);
+        QCOMPARE(f.editor.selText(), u"one two"_s);
+        f.editor.select({0, 0, 0, 3});
+        f.editor.executeCmd(198);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"one"_s);
+        QCOMPARE(f.editor.text(), u"one two"_s);
+        f.editor.select({0, 3, 0, 7});
+        f.editor.executeCmd(197);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u" two"_s);
+        QCOMPARE(f.editor.text(), u"one"_s);
+        f.editor.executeCmd(140);
+        f.editor.executeCmd(140);
+        QCOMPARE(f.editor.text(), u"one two two"_s);
+    }
+
+    /// The menu names the keys even after a menu of the window has taken them over.
+    void theContextMenuNamesItsKeys()
+    {
+        EditorFixture f;
+        f.show();
+        CodeMaxGlobals &globals = f.editor.globals();
+        for (const CodeMaxHotKey &hotKey : initialHotKeys())
+            globals.UnregisterHotKey(hotKey);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(20, 20), f.editor.mapToGlobal(QPoint(20, 20)));
+        QCoreApplication::sendEvent(f.editor.viewport(), &event);
+        auto *menu = f.editor.findChild<QMenu *>(u"editorMenu"_s);
+        QVERIFY(menu);
+        QStringList keys;
+        const QList<QAction *> actions = choosable(actionsOf(*menu));
+        for (const QAction *action : actions)
+            keys.append(action->shortcut().toString(QKeySequence::PortableText));
+        QCOMPARE(keys,
+                 (QStringList{u"Ctrl+Z"_s, u"Ctrl+Y"_s, u"Ctrl+X"_s, u"Ctrl+C"_s, u"Ctrl+V"_s, u"Del"_s, u"Ctrl+A"_s,
+                              u"Ctrl+F2"_s, QString()}));
+        menu->close();
     }
 
     /// A menu's shortcut reaches the menu while the editor has the focus, even if the editor uses the key itself.
