@@ -9,8 +9,8 @@
 #include "desktop/modalformopener.h"
 #include "document/recoverykeeper.h"
 #include "panes/filepane.h"
-#include "views/picturefile.h"
 #include "views/workspaceviews.h"
+#include "widgets/picturefile.h"
 
 #include <QPixmap>
 #include <QWidget>

@@ -37,13 +37,13 @@
 #include "editor/editorappearance.h"
 #include "files/leftcopies.h"
 #include "files/recoverycopies.h"
-#include "panes/droppedfile.h"
 #include "panes/filepane.h"
 #include "panes/selectorlist.h"
 #include "panes/sidepane.h"
 #include "panes/sidetabbar.h"
 #include "tools/spelling/spellcheck.h"
 #include "ui_frmmain.h"
+#include "widgets/droppedfile.h"
 
 #include <QAction>
 #include <QCloseEvent>

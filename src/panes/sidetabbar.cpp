@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panes/sidetabbar.h"
 
-#include "panes/droppedfile.h"
+#include "widgets/droppedfile.h"
 
 #include <QDropEvent>
 #include <QHelpEvent>

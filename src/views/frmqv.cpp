@@ -5,8 +5,8 @@
 #include "core/errorstyles.h"
 #include "core/prompts.h"
 #include "ui_frmqv.h"
-#include "views/picturefile.h"
 #include "views/quickviewrules.h"
+#include "widgets/picturefile.h"
 #include "widgets/tipwithkeys.h"
 
 #include <QAction>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/droppedfile.h"
+#include "widgets/droppedfile.h"
 
 #include <QList>
 #include <QMimeData>

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/picturefile.h"
+#include "widgets/picturefile.h"
 
 #include "core/filestore.h"
 
 #include <QBuffer>
 #include <QImageReader>
 #include <QScopeGuard>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +17,18 @@ namespace {
 
 /// In MiB. A pixel takes at most eight bytes, in pictures with 16 bits for each of four channels.
 constexpr int memoryForLargestPicture = 8 * maximumPicturePixels / (1024 * 1024) + 1;
+
+bool isTooLarge(QSize size)
+{
+    return static_cast<qint64>(size.width()) * size.height() > maximumPicturePixels;
+}
+
+Error tooLarge(const QString &path, QSize size)
+{
+    return {Error::Code::TooLarge,
+            u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(
+                path, QString::number(size.width()), QString::number(size.height()))};
+}
 
 } // namespace
 
@@ -30,19 +44,19 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
     reader.setAutoTransform(true);
 
     const QSize size = reader.size();
-    if (size.isValid() && static_cast<qint64>(size.width()) * size.height() > maximumPicturePixels) {
-        return Error{Error::Code::TooLarge,
-                     u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(
-                         path, QString::number(size.width()), QString::number(size.height()))};
-    }
+    if (size.isValid() && isTooLarge(size))
+        return tooLarge(path, size);
     // The limit applies to the whole process, so it is lifted only while this picture is read.
     const auto restoreLimit =
         qScopeGuard([limit = QImageReader::allocationLimit()] { QImageReader::setAllocationLimit(limit); });
     QImageReader::setAllocationLimit(memoryForLargestPicture);
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.isNull())
         return Error{Error::Code::Malformed, u"The picture %1 can't be shown: %2."_s.arg(path, reader.errorString())};
-    return QPixmap::fromImage(image);
+    // Some formats don't say their size in advance.
+    if (isTooLarge(image.size()))
+        return tooLarge(path, image.size());
+    return QPixmap::fromImage(std::move(image));
 }
 
 } // namespace zephira

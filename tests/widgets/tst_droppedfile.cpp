@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panes/droppedfile.h"
 #include "support/testregistry.h"
+#include "widgets/droppedfile.h"
 
 #include <QMimeData>
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/fakes.h"
 #include "support/testregistry.h"
-#include "views/picturefile.h"
+#include "widgets/picturefile.h"
 
 #include <QBuffer>
 #include <QImage>
