@@ -8,7 +8,7 @@ namespace zephira {
 namespace {
 
 constexpr QStringView comingForms[] = {
-    u"ImageMap", u"frmOptions", u"frmfa", u"frmthcon", u"frmvalidate",
+    u"frmOptions", u"frmfa", u"frmthcon", u"frmvalidate",
 };
 
 } // namespace

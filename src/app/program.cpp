@@ -136,6 +136,10 @@ int runProgram(QApplication &application, const QString &argument)
     announceComingForms(catalogue);
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
+    wizards::registerImageMap(catalogue, [&](QWidget *parent) -> EditorView {
+        auto *editor = new CodeMax({files, recovery, prompts}, parent);
+        return {editor, editor};
+    });
     panes::registerForms(catalogue);
     start::registerForms(catalogue, recovery);
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));

@@ -19,4 +19,7 @@ struct EditorView {
 /// class, so that they can be built and tested without the editor library.
 using ViewerFactory = std::function<EditorView(QWidget *parent)>;
 
+/// The same for an editing control that can be typed into.
+using EditorFactory = std::function<EditorView(QWidget *parent)>;
+
 } // namespace zephira

@@ -21,6 +21,7 @@
 #include "wizards/frmvbwiz.h"
 #include "wizards/frmwizcookie.h"
 #include "wizards/frmwizmarquee.h"
+#include "wizards/imagemap.h"
 #include "wizards/imagewizard.h"
 
 #include <memory>
@@ -63,6 +64,13 @@ void registerForms(FormCatalogue &catalogue)
     catalogue.add<frmvbwiz>(u"frmvbwiz"_s);
     catalogue.add<frmwizMarquee>(u"frmwizMarquee"_s);
     catalogue.add<frmwizcookie>(u"frmwizcookie"_s);
+}
+
+void registerImageMap(FormCatalogue &catalogue, const EditorFactory &makeEditor)
+{
+    catalogue.add(u"ImageMap"_s, [makeEditor](const AppContext &context, QWidget *owner) {
+        return new ImageMap(context, makeEditor, owner);
+    });
 }
 
 } // namespace zephira::wizards

@@ -4,9 +4,11 @@
 #include "support/testregistry.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -232,6 +234,53 @@ private Q_SLOTS:
                  u"[old<select size=\"1\" name=\"m\">\r\n  <option>One</option>\r\n</select>\r\n]"_s);
         window.rt().undo();
         QCOMPARE(window.rt().text(), u"[old]"_s);
+    }
+
+    /// The image map stays in its own editor, from which it is copied.
+    void anImageMapIsDrawnAndCopied()
+    {
+        WindowBench bench;
+        frmmain &window = open(bench);
+        QImage image(60, 40, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        const QString file = bench.folder() + u"/map.bmp"_s;
+        QVERIFY(image.save(file));
+        bench.prompts.expectFile({.filter = u"JPEG files|*.jpg|GIF files|*.GIF|Bitmap files|*.BMP|All Files|*.*"_s},
+                                 file);
+        const QString expected = u"<!-- Created by Zephira -->\r\n<!-- Start of Image Map -->\r\n<IMG SRC=\"%1\" "
+                                 "USEMAP=\"#%1\" WIDTH=60 HEIGHT=40 BORDER=0>\r\n<MAP NAME=\"%1\">\r\n"
+                                 "<AREA SHAPE=POLY COORDS=\"0,0,10,0,10,1\" HREF = \"a.html\" ALT = \"\">\r\n</MAP>\r\n"
+                                 "<!-- End of Image Map -->\r\n"_s.arg(file);
+        const QString opened = run(bench, u"Toolbar_0"_s, u"imagemap"_s, [&](QWidget &creator) {
+            const auto press = [&creator](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+                QTest::keyClick(creator.focusWidget(), key, modifiers);
+            };
+            const auto button = [&creator](int number) {
+                creator.findChild<QToolBar *>(u"Toolbar1"_s)->actions().at(number - 1)->trigger();
+            };
+            press(Qt::Key_O, Qt::ControlModifier);
+            press(Qt::Key_Space);
+            press(Qt::Key_Right, Qt::ShiftModifier);
+            press(Qt::Key_Space);
+            press(Qt::Key_Space);
+            press(Qt::Key_Down);
+            press(Qt::Key_Space);
+            button(7);
+            creator.findChild<QLineEdit *>(u"Text3_0"_s)->setText(u"a.html"_s);
+            button(9);
+            QCOMPARE(creator.focusWidget()->objectName(), u"Text6"_s);
+            QCOMPARE(creator.focusWidget()->property("Text").toString(), expected);
+            press(Qt::Key_A, Qt::ControlModifier);
+            press(Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(QGuiApplication::clipboard()->text(), expected);
+            press(Qt::Key_X, Qt::ControlModifier);
+            QCOMPARE(creator.focusWidget()->property("Text").toString(), QString());
+            press(Qt::Key_V, Qt::ControlModifier);
+            QCOMPARE(creator.focusWidget()->property("Text").toString(), expected);
+        });
+        QCOMPARE(opened, u"ImageMap"_s);
+        QCOMPARE(window.rt().text(), u"[old]"_s);
+        QVERIFY(!window.docModified());
     }
 
 private:

@@ -55,6 +55,10 @@ WindowBench::WindowBench()
     announceComingForms(catalogue);
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
+    wizards::registerImageMap(catalogue, [this](QWidget *parent) -> EditorView {
+        auto *editor = new CodeMax({files, recovery, prompts}, parent);
+        return {editor, editor};
+    });
     panes::registerForms(catalogue);
     start::registerForms(catalogue, recovery);
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));

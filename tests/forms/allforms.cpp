@@ -78,6 +78,10 @@ FormCatalogue allForms()
     const auto parts = std::make_shared<EditorParts>();
     // The viewer below, which the catalogue keeps, keeps the parts alive for both.
     start::registerForms(catalogue, parts->recovery);
+    wizards::registerImageMap(catalogue, [parts](QWidget *parent) -> EditorView {
+        auto *editor = new CodeMax({parts->files, parts->recovery, parts->prompts}, parent);
+        return {editor, editor};
+    });
     views::registerForms(
         catalogue,
         [parts](QWidget *parent) -> EditorView {

@@ -5,7 +5,12 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace zephira {
+
+class LivingForm;
+struct TestContext;
 
 /// A golden case is a folder tests/golden/<area>/<case> with two files. fields.txt says what the user does, one step
 /// per line, and expected.html is the text that is inserted into the document, byte for byte:
@@ -22,5 +27,12 @@ void addGoldenCases(const QString &area);
 
 /// Plays a case with a form from the catalogue and compares what it inserts.
 void playGoldenCase(const FormCatalogue &catalogue, const QString &folder);
+
+/// A step that only some forms know. Returns false for all others.
+using GoldenStep = std::function<bool(TestContext &world, const LivingForm &form, const QString &step)>;
+
+/// The same for a form that writes into an editing control of its own, which `makeCatalogue` takes from the world.
+void playGoldenCase(const std::function<FormCatalogue(TestContext &world)> &makeCatalogue, const QString &folder,
+                    const GoldenStep &ownStep);
 
 } // namespace zephira
