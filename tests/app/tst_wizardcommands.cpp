@@ -258,6 +258,7 @@ private Q_SLOTS:
             const auto button = [&creator](int number) {
                 creator.findChild<QToolBar *>(u"Toolbar1"_s)->actions().at(number - 1)->trigger();
             };
+            QVERIFY(QTest::qWaitForWindowActive(&creator));
             press(Qt::Key_O, Qt::ControlModifier);
             press(Qt::Key_Space);
             press(Qt::Key_Right, Qt::ShiftModifier);
