@@ -182,6 +182,7 @@ void ImageMap::connectPicture()
     });
     connect(picture, &MapPicture::stepped, this, [this](QPoint place) {
         showPlace(place);
+        m_ui->Picture1->setAccessibleDescription(m_ui->lblPlace->text());
         m_ui->HScroll1->makeVisible(place.x(), m_ui->MainPic->width());
         m_ui->VScroll1->makeVisible(place.y(), m_ui->MainPic->height());
     });
@@ -261,7 +262,6 @@ void ImageMap::showDrawing()
 void ImageMap::showPlace(QPoint place)
 {
     m_ui->lblPlace->setText(u"%1, %2"_s.arg(place.x()).arg(place.y()));
-    m_ui->Picture1->setAccessibleDescription(m_ui->lblPlace->text());
 }
 
 void ImageMap::makeBarsReady()
@@ -275,8 +275,9 @@ void ImageMap::makeBarsReady()
 void ImageMap::moveToCorner()
 {
     const int distance = toPixels(distanceFromCorner);
-    const QWidget *owner = parentWidget();
-    move((owner ? owner->screen() : screen())->geometry().topLeft() + QPoint(distance, distance));
+    const QScreen &screen = *(parentWidget() ? parentWidget() : this)->screen();
+    resize(size().boundedTo(screen.availableSize()));
+    move(screen.geometry().topLeft() + QPoint(distance, distance));
 }
 
 void ImageMap::browse()
@@ -299,15 +300,18 @@ void ImageMap::openPicture(const QString &file)
 
 bool ImageMap::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop)
+    const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
+    if (!isDrag && event->type() != QEvent::Drop)
         return QDialog::eventFilter(watched, event);
-    if (droppedFile(static_cast<QDropEvent *>(event)->mimeData()).isEmpty())
+    // All three are drops to be, or drops.
+    auto *drop = static_cast<QDropEvent *>(event);
+    if (droppedFile(drop->mimeData()).isEmpty())
         return QDialog::eventFilter(watched, event);
     // A text box would take the file's address as text.
-    if (event->type() == QEvent::DragEnter)
-        dragEnterEvent(static_cast<QDragEnterEvent *>(event));
+    if (isDrag)
+        drop->acceptProposedAction();
     else
-        dropEvent(static_cast<QDropEvent *>(event));
+        dropEvent(drop);
     return true;
 }
 

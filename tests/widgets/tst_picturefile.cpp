@@ -41,6 +41,7 @@ class TstPictureFile : public QObject
 private Q_SLOTS:
     void read();
     void contentDecides();
+    void aboveTheUsualLimit();
     void failures_data();
     void failures();
     void limitIsRestored();
@@ -61,6 +62,20 @@ void TstPictureFile::contentDecides()
     MemoryFileStore files;
     files.contents[u"/p.gif"_s] = bitmap(3, 2);
     QVERIFY(readPicture(files, u"/p.gif"_s).ok());
+}
+
+void TstPictureFile::aboveTheUsualLimit()
+{
+    // Readers usually allocate no more than 128 MiB.
+    const QSize size(6000, 6000);
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    MemoryFileStore files;
+    QBuffer buffer(&files.contents[u"/p.jpg"_s]);
+    QVERIFY(image.save(&buffer, "JPG"));
+    const Result<QPixmap> picture = readPicture(files, u"/p.jpg"_s);
+    QVERIFY(picture.ok());
+    QCOMPARE(picture.value().size(), size);
 }
 
 void TstPictureFile::failures_data()

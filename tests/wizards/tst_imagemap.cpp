@@ -65,6 +65,7 @@ struct Creator {
         QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
         enter.ignore();
         QCoreApplication::sendEvent(&target, &enter);
+        QVERIFY(enter.isAccepted());
         QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&target, &drop);
     }
@@ -705,6 +706,36 @@ private Q_SLOTS:
         text.setText(u"words"_s);
         c.drop(c.form.get<QWidget>(u"Text5_0"_s), text);
         QCOMPARE(c.form.value(u"Text5_0"_s), u"words"_s);
+    }
+
+    /// A text box by itself takes drags of text alone.
+    void draggingAFileOverATextBox()
+    {
+        const Creator c;
+        auto &box = c.form.get<QWidget>(u"Text3_0"_s);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(u"/dragged.png"_s)});
+        QDragEnterEvent enter({2, 2}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        enter.ignore();
+        QCoreApplication::sendEvent(&box, &enter);
+        QVERIFY(enter.isAccepted());
+        QDragMoveEvent move({3, 3}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        move.ignore();
+        QCoreApplication::sendEvent(&box, &move);
+        QVERIFY(move.isAccepted());
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&box, &leave);
+    }
+
+    void draggingAnAddressOpensNothing()
+    {
+        const Creator c;
+        QMimeData data;
+        data.setUrls({QUrl(u"http://localhost/a.png"_s)});
+        QDragEnterEvent enter({2, 2}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        enter.ignore();
+        QCoreApplication::sendEvent(&c.form.widget(), &enter);
+        QVERIFY(!enter.isAccepted());
     }
 
     void droppingWhileTheTextIsShown()
