@@ -118,9 +118,11 @@ private Q_SLOTS:
         auto *menu = f.editor.findChild<QMenu *>(u"editorMenu"_s);
         QVERIFY(menu);
         QStringList keys;
-        const QList<QAction *> actions = choosable(actionsOf(*menu));
-        for (const QAction *action : actions)
-            keys.append(action->shortcut().toString(QKeySequence::PortableText));
+        const QList<QAction *> actions = menu->actions();
+        for (const QAction *action : actions) {
+            if (!action->isSeparator())
+                keys.append(action->shortcut().toString(QKeySequence::PortableText));
+        }
         QCOMPARE(keys,
                  (QStringList{u"Ctrl+Z"_s, u"Ctrl+Y"_s, u"Ctrl+X"_s, u"Ctrl+C"_s, u"Ctrl+V"_s, u"Del"_s, u"Ctrl+A"_s,
                               u"Ctrl+F2"_s, QString()}));
