@@ -8,7 +8,10 @@ namespace zephira {
 namespace {
 
 constexpr QStringView comingForms[] = {
-    u"frmOptions", u"frmfa", u"frmthcon", u"frmvalidate",
+    u"frmOptions",
+    u"frmfa",
+    u"frmthcon",
+    u"frmvalidate",
 };
 
 } // namespace
