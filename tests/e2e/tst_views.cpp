@@ -135,6 +135,29 @@ private Q_SLOTS:
         QCOMPARE(ProgramFolder::read(page.file), content);
     }
 
+    /// From preview and designer as from the code; nothing of it gets into the page.
+    void keysLeaveTheViews()
+    {
+        const QByteArray content = pageOfTwoColours();
+        PageInProgram page(content);
+        QVERIFY(page.isShown());
+        QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
+        // Back one part, to the tabs, and on to the designer's.
+        page.program.key(page.title, u"ctrl+shift+F6 Right"_s);
+        QVERIFY2(page.program.waitForMiddleColour(page.title, designerColour), qPrintable(page.colour()));
+        // All parts once.
+        page.program.key(page.title, u"ctrl+F6 ctrl+F6 ctrl+F6 ctrl+F6 ctrl+F6 Left"_s);
+        QVERIFY2(page.program.waitForMiddleColour(page.title, previewColour), qPrintable(page.colour()));
+        page.program.key(page.title, u"ctrl+F6 ctrl+F6 ctrl+F6 ctrl+F6 ctrl+F6 Right"_s);
+        QVERIFY2(page.program.waitForMiddleColour(page.title, designerColour), qPrintable(page.colour()));
+        // Into the designer again, which takes the keys.
+        page.program.key(page.title, u"ctrl+F6"_s);
+        page.program.type(page.title, u"typed here"_s);
+        page.program.key(page.title, u"ctrl+s"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(page.file).contains("<p>typed herex</p>"), patience);
+        QVERIFY(page.close());
+    }
+
     void withoutTheModuleTheProgramSaysSoAndGoesOn()
     {
         ProgramFolder folder;

@@ -2,6 +2,10 @@
 #include "support/testregistry.h"
 #include "web/designer/designerbench.h"
 
+#include <QLineEdit>
+
+#include <memory>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -17,6 +21,7 @@ private Q_SLOTS:
     void keys_data();
     void keys();
     void commentsOutliveAJoin();
+    void keysComeWithTheFocus();
 
 private:
     /// "Enter", "Shift+Enter", "Backspace", "Delete", "Control+Backspace", or a text.
@@ -190,6 +195,34 @@ void TstDesignerTyping::commentsOutliveAJoin()
     m_bench->press(Qt::Key_Backspace);
     QTRY_COMPARE_WITH_TIMEOUT(m_bench->designer.documentHtml(),
                               u"<p>a<!-- one -->b<% three %><!-- four -->c</p><!-- two -->"_s, DesignerBench::patience);
+}
+
+/// The page is loaded, and its selection changed, while another control has the focus.
+void TstDesignerTyping::keysComeWithTheFocus()
+{
+    QWidget window;
+    QLineEdit other(&window);
+    const std::unique_ptr<QWidget, void (*)(QWidget *)> designer(&m_bench->designer, [](QWidget *widget) {
+        widget->setParent(nullptr);
+        widget->show();
+    });
+    designer->setParent(&window);
+    designer->setGeometry(0, 50, 600, 400);
+    designer->show();
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    other.setFocus();
+    m_bench->load(u"<p>a</p><p>b</p>"_s);
+    designer->setFocus();
+    m_bench->type(u"Z"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->body(), u"<p>Za</p><p>b</p>"_s, DesignerBench::patience);
+    other.setFocus();
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"document.hasFocus()"_s).toBool(), false, DesignerBench::patience);
+    m_bench->ask(u"getSelection().collapse(document.body.lastChild, 0); null"_s);
+    designer->setFocus();
+    m_bench->type(u"Y"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->body(), u"<p>Za</p><p>Yb</p>"_s, DesignerBench::patience);
 }
 
 ZEPHIRA_TEST(TstDesignerTyping)

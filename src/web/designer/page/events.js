@@ -10,7 +10,8 @@ import {bodyElement, caretRangeFromPoint, closest, elementOf, isNamed} from './n
 import {insertPlainText, isPlain, onPlainInput} from './plaintext.js';
 import {Drag, gripAt, isLocked} from './positions.js';
 import {reportPlace, reportState, wantCommand} from './reports.js';
-import {controlNames, isAbsolute, placeCaret, placeCaretIn, selectedControl, selectElement} from './selection.js';
+import {awakeSelection, controlNames, isAbsolute, noteSelection, placeCaret, placeCaretIn, selectedControl,
+    selectElement} from './selection.js';
 import {currentTable} from './tables.js';
 import {beforeInputActions, inputActions} from './typing.js';
 
@@ -193,7 +194,10 @@ const onDrop = event => {
     reportState();
 };
 
-const onSelectionChange = () => reportState();
+const onSelectionChange = () => {
+    noteSelection();
+    reportState();
+};
 
 const listeners = {
     mousedown: onMouseDown, mousemove: onMouseMove, mouseup: onMouseUp, keydown: onKeyDown, beforeinput: onBeforeInput,
@@ -206,4 +210,5 @@ export const listen = () => {
     for (const [type, listener] of Object.entries(listeners))
         document.addEventListener(type, listener, {capture: true});
     window.addEventListener('resize', reportPlace);
+    window.addEventListener('focus', awakeSelection);
 };

@@ -22,6 +22,7 @@ export const openDocument = documentMember('open');
 export const writeDocument = documentMember('write');
 export const closeDocument = documentMember('close');
 export const readyState = documentMember('readyState');
+export const hasFocus = documentMember('hasFocus');
 export const setDocumentMember = (name, value) =>
     Object.getOwnPropertyDescriptor(Document.prototype, name).set.call(document, value);
 

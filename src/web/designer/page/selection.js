@@ -2,7 +2,7 @@
 
 // The selection and its contents.
 
-import {bodyElement, createTreeWalker, isBlankText, isElement, isNamed, isText, rootElement, wordSet} from './nodes.js';
+import {bodyElement, createTreeWalker, hasFocus, isBlankText, isElement, isNamed, isText, rootElement, wordSet} from './nodes.js';
 
 // Elements that a click selects as a whole.
 export const controlNames = wordSet(`img input select textarea button object embed applet iframe hr video audio canvas table
@@ -77,6 +77,21 @@ export const restore = (mark, replaced = new Map()) => {
     if (anchor?.isConnected && focus?.isConnected)
         getSelection().setBaseAndExtent(anchor, Math.min(mark.anchorOffset, lengthOf(anchor)),
             focus, Math.min(mark.focusOffset, lengthOf(focus)));
+};
+
+// The engine takes no typing at a selection that was set while the page didn't have the focus.
+let isIdle = false;
+
+export const noteSelection = () => {
+    isIdle ||= !hasFocus();
+};
+
+export const awakeSelection = () => {
+    const mark = isIdle ? bookmark() : null;
+    isIdle = false;
+    if (mark)
+        getSelection().removeAllRanges();
+    restore(mark);
 };
 
 // Whether a range includes content of a node, rather than only touching its edge.
