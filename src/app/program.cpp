@@ -83,7 +83,7 @@ QStringList nameFiles(const QString &appPath)
 /// The folder of the recovery copies, next to the per-user settings.
 QString recoveryFolder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Zephira/recovery"_s;
+    return userFolder() + u"/recovery"_s;
 }
 
 /// The file that caches icon pictures between runs.

@@ -147,4 +147,9 @@ Result<QString> scratchFolder()
     return scratchFolder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
 }
 
+QString userFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Zephira"_s;
+}
+
 } // namespace zephira

@@ -16,6 +16,10 @@ namespace zephira {
 /// folder can't be created or filled, or if zephira.ini in it can't be read.
 Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome);
 
+/// The folder in which the desktop keeps the user's settings and recovery copies, without a trailing separator; it may not
+/// exist yet.
+QString userFolder();
+
 /// The fixed folder for temporary files, "zephira/scratch" below `cacheHome`, created with mode 0700 if it is missing.
 /// A more permissive mode is restricted. Fails if a link, a file or another user's folder is in its place.
 Result<QString> scratchFolder(const QString &cacheHome);

@@ -73,12 +73,7 @@ bool LocalCommands::confirm(const QString &question)
 
 bool LocalCommands::mayChange(const QStringList &names, const QString &question)
 {
-    QStringList needed;
-    for (const QString &name : names) {
-        if (isProgramData(m_context.appPath, m_client.session.ftpLocalFolder + name))
-            needed.append(name);
-    }
-    return needed.isEmpty() || confirm(u"Zephira itself needs: "_s + needed.join(u", "_s) + u"\r\n"_s + question);
+    return mayChangeProgramData(m_context, m_client.session.ftpLocalFolder, names, question);
 }
 
 QString LocalCommands::pathOf(const FileRow &file) const

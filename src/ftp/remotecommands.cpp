@@ -9,6 +9,7 @@
 #include "ftp/extensionchange.h"
 #include "ftp/ftpclient.h"
 #include "ftp/ftpdesk.h"
+#include "ftp/programdata.h"
 #include "ftp/remotelisting.h"
 #include "ftp/remoteview.h"
 #include "ftp/safenames.h"
@@ -84,6 +85,11 @@ void RemoteCommands::download()
         m_context.prompts.tell(u"No file selected!!"_s, {}, Question::Icon::None);
         return;
     }
+    QStringList names;
+    for (const FileRow &file : files)
+        names.append(file.name);
+    if (!mayOverwriteProgramData(m_context, m_client.session.ftpLocalFolder, names))
+        return;
     m_desk.log(LogEntry::DownloadQueued);
     TransferQueue queue{TransferQueue::Direction::Download, {}};
     for (const FileRow &file : files) {

@@ -122,6 +122,35 @@ class TstFtp : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// The local list opens on the program's folder, which a server's file must not change unasked.
+    void aDownloadOverTheProgramsOwnFileAsks()
+    {
+        const FtpServer server(FtpServer::Kind::Pyftpdlib);
+        server.addFile("tags.dat", "theirs");
+        const ProgramFolder folder;
+        const QString tags = folder.path() + u"/tags.dat"_s;
+        const QByteArray own = ProgramFolder::read(tags);
+        QVERIFY(!own.isEmpty());
+        FtpSession session(folder);
+        RunningProgram &program = session.program();
+        session.saveProfile(server, u"Secret word 9"_s);
+        session.connectByProfile();
+        program.key(ftpWindow, u"Tab Home Down Tab ctrl+a"_s);
+        program.key(ftpWindow, u"alt+r d Return"_s);
+        program.answer(message, u"alt+n"_s);
+        QVERIFY(program.waitUntilGone(message));
+        QCOMPARE(program.waitForWindows({untitled, ftpWindow}).size(), 2);
+        QCOMPARE(ProgramFolder::read(tags), own);
+        program.key(ftpWindow, u"alt+r d Return"_s);
+        program.answer(message, u"alt+y"_s);
+        session.runTransfer();
+        QCOMPARE(ProgramFolder::read(tags), "theirs" + own.mid(6)); // The rest of a longer file stays.
+        program.close(ftpWindow);
+        QVERIFY(program.waitUntilGone(ftpWindow));
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+    }
+
     void filesGoBothWays_data()
     {
         QTest::addColumn<FtpServer::Kind>("kind");

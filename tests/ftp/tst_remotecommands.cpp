@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/appfolder.h"
 #include "ftp/fakeviews.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingdesk.h"
@@ -7,6 +8,9 @@
 #include "support/fakes.h"
 #include "support/testregistry.h"
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -73,6 +77,7 @@ private Q_SLOTS:
     void refreshWithoutSelection();
     void downloadNothing();
     void download();
+    void downloadOverTheProgramsFiles();
     void newFolder();
     void newFolderWithoutName_data();
     void newFolderWithoutName();
@@ -270,6 +275,67 @@ void TstRemoteCommands::download()
     bench.view.list.selection = {u"b.gif"_s};
     bench.commands.download();
     QCOMPARE(bench.client.queue.files, (std::vector<TransferQueue::File>{{u"b.gif"_s, 500}}));
+}
+
+/// What the program needs is not overwritten unasked: its data, its profiles, the user's settings and recovery copies,
+/// also where a link stands for one.
+void TstRemoteCommands::downloadOverTheProgramsFiles()
+{
+    Bench bench;
+    const QTemporaryDir disk;
+    QVERIFY(QDir().mkpath(userFolder()));
+    const QTemporaryDir settings(userFolder() + u"/test-XXXXXX"_s);
+    const QString copy = settings.filePath(u"open-1-a.htm"_s);
+    for (const QString &name : {u"app/tags.dat"_s, u"app/mine.htm"_s, u"app/own.ftp"_s, u"app/Logon/log.txt"_s,
+                                u"app/deps/csssel.dat"_s, copy}) {
+        const QString path = QDir(disk.path()).filePath(name);
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QVERIFY(QDir().mkpath(disk.filePath(u"other"_s)));
+    QVERIFY(QFile::link(disk.filePath(u"app/tags.dat"_s), disk.filePath(u"other/link.dat"_s)));
+    TestContext &world = bench.world;
+    const AppContext context{
+        world.editor,   world.inserter, world.designer,         world.document, world.configuration,
+        world.settings, world.files,    world.prompts,          world.shell,    world.clipboard,
+        world.clock,    world.forms,    disk.filePath(u"app"_s)};
+    RemoteCommands commands(bench.client, bench.desk, bench.view, context);
+    bench.enterPub();
+    struct Row {
+        QString folder;
+        QStringList files;
+        QString asked;
+    };
+    const Row rows[] = {
+        {u"app/"_s, {u"mine.htm"_s, u"new.dat"_s}, {}},
+        {u"app/"_s, {u"mine.htm"_s, u"own.ftp"_s, u"tags.dat"_s}, u"own.ftp, tags.dat"_s},
+        {u"app/Logon/"_s, {u"log.txt"_s}, {}},
+        {u"app/deps/"_s, {u"new.dat"_s}, {}},
+        {u"app/deps/"_s, {u"csssel.dat"_s}, u"csssel.dat"_s},
+        {settings.path() + u'/', {u"open-1-a.htm"_s}, u"open-1-a.htm"_s},
+        {u"other/"_s, {u"tags.dat"_s}, {}},
+        {u"other/"_s, {u"link.dat"_s}, u"link.dat"_s},
+    };
+    for (const Row &row : rows) {
+        bench.client.session.ftpLocalFolder = QDir(disk.path()).filePath(row.folder);
+        bench.view.list.rows.clear();
+        for (const QString &name : row.files)
+            bench.view.list.rows.push_back(Bench::remoteFile(name, 1));
+        bench.view.list.selection = {row.files.begin(), row.files.end()};
+        for (const Answer answer : {Answer::No, Answer::Yes}) {
+            if (!row.asked.isEmpty())
+                bench.expectYesNo(u"Zephira itself needs: "_s + row.asked + u"\r\nOverwrite it all the same?"_s,
+                                  answer);
+            bench.desk.calls.clear();
+            bench.client.queue = {};
+            commands.download();
+            QVERIFY2(bench.world.prompts.verify(), qPrintable(row.files.join(u' ')));
+            const bool goesOn = row.asked.isEmpty() || answer == Answer::Yes;
+            QCOMPARE(bench.desk.calls.contains(u"openModal frmProg"_s), goesOn);
+            QCOMPARE(bench.client.queue.files.size(), goesOn ? static_cast<std::size_t>(row.files.size()) : 0);
+        }
+    }
 }
 
 void TstRemoteCommands::newFolder()
