@@ -49,9 +49,10 @@ void SavedTagsList::keyPressEvent(QKeyEvent *event)
 
 void SavedTagsList::refresh()
 {
+    // Watched before it is read, so that no change is missed in between.
+    m_watch.add(m_path);
     // Names that begin with a dot are listed, too: an empty name was saved as ".smt".
     const QStringList names = fileNames(m_path, pattern() + u";.smt;.*.smt"_s);
-    m_watch.add(m_path);
     const QString selected = fileName();
     const QScopedValueRollback refreshing(m_isRefreshing, true);
     clear();
