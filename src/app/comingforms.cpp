@@ -11,7 +11,6 @@ constexpr QStringView comingForms[] = {
     u"frmOptions",
     u"frmfa",
     u"frmthcon",
-    u"frmvalidate",
 };
 
 } // namespace

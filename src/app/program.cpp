@@ -145,7 +145,7 @@ int runProgram(QApplication &application, const QString &argument)
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);
-    tools::registerForms(catalogue);
+    tools::registerForms(catalogue, [] { return loadModuleAs<TidyEngine>(modulePath(u"zephiratidy.so"_s)); });
     tools::registerSpelling(catalogue, spelling);
     views::registerForms(
         catalogue,

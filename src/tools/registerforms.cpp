@@ -5,16 +5,22 @@
 #include "tools/frmdocsize.h"
 #include "tools/frmlinkextract.h"
 #include "tools/frmtextthtml.h"
+#include "tools/frmvalidate.h"
+#include "tools/output.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zephira::tools {
 
-void registerForms(FormCatalogue &catalogue)
+void registerForms(FormCatalogue &catalogue, const TidyEngineLoader &loadTidy)
 {
     catalogue.add<frmDocSize>(u"frmDocSize"_s);
     catalogue.add<frmlinkextract>(u"frmlinkextract"_s);
     catalogue.add<frmtextthtml>(u"frmtextthtml"_s);
+    catalogue.add(u"frmvalidate"_s, [loadTidy](const AppContext &context, QWidget *owner) {
+        return new frmvalidate(context, loadTidy, owner);
+    });
+    catalogue.add<output>(u"output"_s);
 }
 
 } // namespace zephira::tools

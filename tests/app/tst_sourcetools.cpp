@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowbench.h"
+#include "support/eventwait.h"
 #include "support/testregistry.h"
 
 #include <QApplication>
@@ -93,6 +94,54 @@ private Q_SLOTS:
                             "<A HREF=\"x.htm\">x.htm</A><BR>\r\n"
                             "<A HREF=\"\"y.htm\"\">\"y.htm\"</A><BR>"));
         QCOMPARE(window.rt().text(), u"<a href=x.htm><a href=\"y.htm\">"_s);
+    }
+
+    void theValidatorSendsItsText()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start(bench.write(u"page.html"_s, "<title>x</title>\n<p>a <foo>b\n"));
+        window.show();
+        const QString before = window.rt().text();
+        bench.prompts.expectTell(u"Note: This will only tidy the last saved copy of this document!"_s);
+        bench.prompts.expect({u"Are you sure you want to send changes to the main Zephira window?"_s,
+                              {},
+                              Question::Icon::Question,
+                              Question::Buttons::YesNo},
+                             Answer::Yes);
+        QString language;
+        QString shown;
+        QString selected;
+        const NextForm validator(window, [&](QWidget &form) {
+            language = form.findChild<QLabel *>(u"lblinput"_s)->text();
+            const auto press = [&form](const QString &button) {
+                QTest::mouseClick(form.findChild<QPushButton *>(button), Qt::LeftButton);
+            };
+            const auto *cancel = form.findChild<QPushButton *>(u"cmdCancel"_s);
+            press(u"Command1"_s);
+            QVERIFY(waitUntil([cancel] { return !cancel->isVisible(); }, 10'000));
+            auto *list = form.findChild<QTreeView *>(u"ListView1"_s);
+            list->setFocus();
+            list->setCurrentIndex(list->model()->index(list->model()->rowCount() - 1, 0));
+            QTest::keyClick(list, Qt::Key_Return);
+            selected = window.rt().selText();
+            const NextForm output(
+                form, [&shown](QWidget &text) { shown = text.findChild<QPlainTextEdit *>(u"text1"_s)->toPlainText(); });
+            press(u"Command2"_s);
+            QCOMPARE(output.name, u"output"_s);
+            press(u"Command3"_s);
+            QVERIFY(waitUntil([&form] { return !form.isVisible(); }, 10'000));
+        });
+        bench.click(u"Toolbar_0"_s, u"tidy"_s);
+        QCOMPARE(validator.name, u"frmvalidate"_s);
+        QVERIFY(bench.prompts.verify());
+        QCOMPARE(language, u"HTML"_s);
+        QCOMPARE(selected, u"<foo>"_s);
+        QVERIFY2(window.rt().text().endsWith(u"<P>a b</P>\r\n</BODY>\r\n</HTML>\r\n"), qPrintable(window.rt().text()));
+        QCOMPARE(window.rt().text(), QString(shown).replace(u"\n"_s, u"\r\n"_s));
+        QVERIFY(window.docModified());
+        // One undo step takes all of it back.
+        window.rt().undo();
+        QCOMPARE(window.rt().text(), before);
     }
 
     void theConverterOpens_data()

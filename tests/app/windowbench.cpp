@@ -11,6 +11,7 @@
 #include "support/diskfiles.h"
 #include "support/sourcefolder.h"
 #include "tags/registerforms.h"
+#include "tools/realtidy.h"
 #include "tools/registerforms.h"
 #include "tools/spelling/registerspelling.h"
 #include "views/registerforms.h"
@@ -64,7 +65,7 @@ WindowBench::WindowBench()
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     zephira::settings::registerForms(catalogue);
-    zephira::tools::registerForms(catalogue);
+    zephira::tools::registerForms(catalogue, realTidy);
     zephira::tools::registerSpelling(catalogue, {std::shared_ptr<SpellCheck>(), &spelling.check});
     views::registerForms(
         catalogue,

@@ -14,6 +14,7 @@
 #include "start/registerforms.h"
 #include "support/fakes.h"
 #include "tags/registerforms.h"
+#include "tools/realtidy.h"
 #include "tools/registerforms.h"
 #include "tools/spelling/fakespeller.h"
 #include "tools/spelling/registerspelling.h"
@@ -70,7 +71,7 @@ FormCatalogue allForms()
     panes::registerForms(catalogue);
     tags::registerForms(catalogue);
     settings::registerForms(catalogue);
-    tools::registerForms(catalogue);
+    tools::registerForms(catalogue, realTidy);
     const auto ftpParts = std::make_shared<FtpParts>();
     ftp::registerForms(catalogue, {ftpParts, &ftpParts->client});
     const auto spellingParts = std::make_shared<SpellingParts>();

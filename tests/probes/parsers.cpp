@@ -12,6 +12,7 @@
 #include "panes/sottree.h"
 #include "syntax/describestyles.h"
 #include "tags/tagfile.h"
+#include "tools/fonttags.h"
 #include "tools/imagelinks.h"
 #include "tools/linktargets.h"
 #include "tools/sourceformatter.h"
@@ -207,6 +208,12 @@ QByteArray printLinkTargets(const QByteArray &input)
     return out;
 }
 
+/// The page without font and center tags.
+QByteArray printWithoutFontTags(const QByteArray &input)
+{
+    return withoutFontTags(decodeText(input).utf8);
+}
+
 /// The page with marks instead of server code and comments.
 QByteArray printServerMarks(const QByteArray &input)
 {
@@ -295,6 +302,7 @@ constexpr Parser table[] = {
     {"hierarchical", printHierarchical},
     {"imagelinks", printImageLinks},
     {"linktargets", printLinkTargets},
+    {"fonttags", printWithoutFontTags},
     {"listing", printList},
     {"listing-mlsd", printMlsd},
     {"ftpreply", printReply},

@@ -13,9 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-namespace {
-
-QByteArray contentOf(const QString &path)
+QByteArray goldenContent(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -23,7 +21,12 @@ QByteArray contentOf(const QString &path)
     return file.readAll();
 }
 
-void play(const LivingForm &form, const QString &step)
+QStringList goldenLines(const QString &path)
+{
+    return QString::fromUtf8(goldenContent(path)).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void playGoldenStep(const LivingForm &form, const QString &step)
 {
     if (step.startsWith(u"press ")) {
         form.press(step.mid(6));
@@ -34,8 +37,6 @@ void play(const LivingForm &form, const QString &step)
         qFatal("\"%s\" is no step of a golden case", qPrintable(step));
     form.set(step.left(sign), step.mid(sign + 3));
 }
-
-} // namespace
 
 void addGoldenCases(const QString &area)
 {
@@ -56,17 +57,17 @@ void playGoldenCase(const FormCatalogue &catalogue, const QString &folder)
 void playGoldenCase(const std::function<FormCatalogue(TestContext &world)> &makeCatalogue, const QString &folder,
                     const GoldenStep &ownStep)
 {
-    const QStringList lines = QString::fromUtf8(contentOf(folder + u"/fields.txt"_s)).split(u'\n', Qt::SkipEmptyParts);
+    const QStringList lines = goldenLines(folder + u"/fields.txt"_s);
     QVERIFY2(!lines.isEmpty() && lines.first().startsWith(u"form "), "the first line names the form");
     TestContext world;
     const LivingForm form(makeCatalogue(world), lines.first().mid(5), world);
     const QStringList steps = lines.sliced(1);
     for (const QString &step : steps) {
         if (!ownStep(world, form, step))
-            play(form, step);
+            playGoldenStep(form, step);
     }
     const QString inserted = world.inserter.inserted.join(QString()) + world.editor.text();
-    QCOMPARE(inserted.toUtf8(), contentOf(folder + u"/expected.html"_s));
+    QCOMPARE(inserted.toUtf8(), goldenContent(folder + u"/expected.html"_s));
 }
 
 } // namespace zephira

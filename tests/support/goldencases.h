@@ -3,7 +3,9 @@
 
 #include "core/formcatalogue.h"
 
+#include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -24,6 +26,13 @@ struct TestContext;
 
 /// Adds the column "folder" and a row for each case of an area; fails the test if there is none.
 void addGoldenCases(const QString &area);
+
+/// The content of a file of a case, and its lines without the empty ones; fails the test if the file can't be read.
+QByteArray goldenContent(const QString &path);
+QStringList goldenLines(const QString &path);
+
+/// Plays one step of a case.
+void playGoldenStep(const LivingForm &form, const QString &step);
 
 /// Plays a case with a form from the catalogue and compares what it inserts.
 void playGoldenCase(const FormCatalogue &catalogue, const QString &folder);

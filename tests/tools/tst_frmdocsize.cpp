@@ -27,7 +27,7 @@ struct Weight {
         if (bytes)
             world.files.contents[copyPath] = QByteArray(*bytes, 'x');
         FormCatalogue forms;
-        tools::registerForms(forms);
+        tools::registerForms(forms, {});
         form = std::make_unique<LivingForm>(forms, u"frmDocSize"_s, world);
     }
 

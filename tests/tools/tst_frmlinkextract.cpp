@@ -31,7 +31,7 @@ struct Extractor {
     {
         form.reset();
         FormCatalogue forms;
-        tools::registerForms(forms);
+        tools::registerForms(forms, {});
         form = std::make_unique<LivingForm>(forms, u"frmlinkextract"_s, world);
     }
 

@@ -29,7 +29,7 @@ struct Converter {
     static FormCatalogue catalogue()
     {
         FormCatalogue forms;
-        tools::registerForms(forms);
+        tools::registerForms(forms, {});
         return forms;
     }
 
