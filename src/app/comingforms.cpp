@@ -10,7 +10,6 @@ namespace {
 constexpr QStringView comingForms[] = {
     u"frmOptions",
     u"frmfa",
-    u"frmthcon",
 };
 
 } // namespace

@@ -34,10 +34,13 @@ public:
     void setProjectPath(const QString &path) override;
     QString commonDialogFile() const override;
     bool isModified() const override;
+    void openFile(const QString &path) override { Q_EMIT fileWanted(path); }
 
 Q_SIGNALS:
     /// A row was set or chosen, even if it was already selected.
     void languageSet(int row);
+    /// A form wants a file to become the document.
+    void fileWanted(const QString &path);
 
 private:
     const CommonDialog &m_dialog;

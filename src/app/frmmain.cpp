@@ -259,6 +259,7 @@ void frmmain::connectEditor()
 void frmmain::connectCommands()
 {
     connect(m_documentControls, &DocumentControls::languageSet, this, &frmmain::languageSet);
+    connect(m_documentControls, &DocumentControls::fileWanted, this, &frmmain::openInCodeView);
     const auto run = [this](const Command &command) { m_router->run(command); };
     connect(m_menus, &Menus::chosen, this, run);
     connect(m_standardBar, &CommandToolBar::chosen, this, run);
@@ -364,6 +365,11 @@ void frmmain::dropEvent(QDropEvent *event)
     if (path.isEmpty())
         return;
     event->acceptProposedAction();
+    openInCodeView(path);
+}
+
+void frmmain::openInCodeView(const QString &path)
+{
     // Changes in the designer belong to the current page, so they are carried back before another one is opened.
     m_document->flushDesigner();
     m_document->openFileOrImage(path);

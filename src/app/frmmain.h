@@ -132,6 +132,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void openInCodeView(const QString &path);
     void buildDocument();
     void buildBars();
     void buildSidePane();

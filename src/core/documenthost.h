@@ -28,6 +28,9 @@ public:
 
     /// Whether the text has changes that aren't saved.
     virtual bool isModified() const = 0;
+
+    /// Opens a file as the window's document, after asking about unsaved changes. What can't be read is reported.
+    virtual void openFile(const QString &path) = 0;
 };
 
 /// Whether the box holds another text than its initial one, be it an empty one.

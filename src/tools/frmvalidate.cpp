@@ -56,6 +56,8 @@ frmvalidate::frmvalidate(const AppContext &context, const TidyEngineLoader &load
     m_ui->ListView1->setModel(m_messages);
     m_ui->lblinput->setText(m_context.document.languageText().toUpper());
     m_ui->cbodc->addItems(tidyDocumentTypes());
+    // A completer would turn "Auto" into "auto".
+    m_ui->cbodc->setCompleter(nullptr);
     m_ui->cboCE->addItems(tidyCharEncodings());
     setWorking(false);
     connect(m_ui->Command1, &QPushButton::clicked, this, [this] { cleanUp({}); });

@@ -4,6 +4,7 @@
 #include "support/testregistry.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -142,6 +143,36 @@ private Q_SLOTS:
         // One undo step takes all of it back.
         window.rt().undo();
         QCOMPARE(window.rt().text(), before);
+    }
+
+    void aTextFileBecomesTheDocument()
+    {
+        WindowBench bench;
+        const QString page = bench.folder() + u"/page.html"_s;
+        const QString text = bench.write(u"text.txt"_s, "caf\xe9\nsecond line\n");
+        frmmain &window = bench.start(bench.write(u"old.txt"_s, "old"));
+        window.show();
+        window.rt().setSelText(u"typed "_s);
+        const QString old = bench.folder() + u"/old.txt"_s;
+        bench.prompts.expect({u"Do you wish to open this file?"_s, {}, Question::Icon::None, Question::Buttons::YesNo},
+                             Answer::Yes);
+        bench.prompts.expect({u"Document: "_s + old + u"\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::Yes);
+        const NextForm wizard(window, [&](QWidget &form) {
+            form.findChild<QLineEdit *>(u"Text1"_s)->setText(text);
+            form.findChild<QLineEdit *>(u"Text2"_s)->setText(page);
+            QTest::mouseClick(form.findChild<QPushButton *>(u"Command1"_s), Qt::LeftButton);
+        });
+        bench.choose(u"mnuthw"_s);
+        QCOMPARE(wizard.name, u"frmthcon"_s);
+        QVERIFY(bench.prompts.verify());
+        // What was typed before has been saved, and the page is the document now.
+        QCOMPARE(WindowBench::read(old), QByteArray("typed old"));
+        QCOMPARE(window.document().docPath(), page);
+        QVERIFY(window.rt().text().contains(u"caf\u00e9<BR>\r\nsecond line<BR>\r\n"));
+        QCOMPARE(window.context().document.languageText().toUpper(), u"HTML"_s);
+        QVERIFY(!window.docModified());
     }
 
     void theConverterOpens_data()

@@ -119,7 +119,7 @@ FileSignature MemoryFileStore::signature(const QString &path) const
     if (entry == contents.end())
         return {};
     // The hash of the content replaces the modification time, so that direct changes of `contents` are noticed, too.
-    return {true, 1, 1, entry->second.size(), static_cast<qint64>(qHash(entry->second))};
+    return {true, 1, qHash(path), entry->second.size(), static_cast<qint64>(qHash(entry->second))};
 }
 
 QString MemoryConfiguration::read(const QString &section, const QString &key) const

@@ -177,6 +177,8 @@ struct FakeDocumentHost final : DocumentHost {
     QString project = QStringLiteral("Project Path");
     QString dialogFile;
     bool modified = false;
+    /// The files that were opened.
+    QStringList opened;
 
     int languageRow() const override { return row; }
     QString languageText() const override { return language; }
@@ -185,6 +187,7 @@ struct FakeDocumentHost final : DocumentHost {
     void setProjectPath(const QString &path) override { project = path; }
     QString commonDialogFile() const override { return dialogFile; }
     bool isModified() const override { return modified; }
+    void openFile(const QString &path) override { opened.append(path); }
 };
 
 struct FakeFormOpener final : FormOpener {
