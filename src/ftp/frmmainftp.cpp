@@ -9,6 +9,7 @@
 #include "ftp/ftpclient.h"
 #include "ftp/ftpmenus.h"
 #include "ftp/localpane.h"
+#include "ftp/menukey.h"
 #include "ftp/remotepane.h"
 #include "ftp/sessionlogfile.h"
 #include "ui_frmmainftp.h"
@@ -132,8 +133,9 @@ void frmmainftp::connectLocalPane()
             [this] { guard(u"zLokDS_Click"_s, [this] { m_local->deleteFiles(); }); });
     connect(list, &FileListView::renamePressed, this,
             [this] { guard(u"zLokRS_Click"_s, [this] { m_local->rename(); }); });
-    connect(list, &FileListView::popupRequested, this,
-            [this](const QPoint &place) { m_menus->menu(ftpname::localMenu).popup(place); });
+    const auto popUp = [this](const QPoint &place) { m_menus->menu(ftpname::localMenu).popup(place); };
+    connect(list, &FileListView::popupRequested, this, popUp);
+    onMenuKey(*m_ui->Dir1, popUp);
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_local->renameStarted(name); });
     list->setRenaming([this](const QString &oldName, const QString &newName) {
         bool stays = false;
@@ -159,8 +161,9 @@ void frmmainftp::connectRemotePane()
             [this] { guard(u"zRemDS_Click"_s, [this] { m_remote->deleteFiles(); }); });
     connect(list, &FileListView::renamePressed, this,
             [this] { guard(u"zRemRS_Click"_s, [this] { m_remote->rename(); }); });
-    connect(list, &FileListView::popupRequested, this,
-            [this](const QPoint &place) { m_menus->menu(ftpname::remoteMenu).popup(place); });
+    const auto popUp = [this](const QPoint &place) { m_menus->menu(ftpname::remoteMenu).popup(place); };
+    connect(list, &FileListView::popupRequested, this, popUp);
+    onMenuKey(*m_ui->TView1, popUp);
     connect(list, &FileListView::editStarted, this, [this](const QString &name) { m_remote->renameStarted(name); });
     list->setRenaming(
         [this](const QString &oldName, const QString &newName) { return m_remote->renameEnded(oldName, newName); });

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void tabInAName();
     void panelAfterADoubleClick();
     void bigIconsScrollInOneDirection();
+    void menuKeysOfTheLists_data();
     void menuKeysOfTheLists();
     void manyLogLines();
     void namesAreShownAsTheyAre();
@@ -262,15 +263,39 @@ void TstFtpLists::bigIconsScrollInOneDirection()
     }
 }
 
+void TstFtpLists::menuKeysOfTheLists_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("menu");
+    QTest::newRow("local files") << u"ListView1"_s << u"zLocal"_s;
+    QTest::newRow("local folders") << u"Dir1"_s << u"zLocal"_s;
+    QTest::newRow("server's files") << u"ListView2"_s << u"zRemote"_s;
+    QTest::newRow("server's folders") << u"TView1"_s << u"zRemote"_s;
+}
+
 void TstFtpLists::menuKeysOfTheLists()
 {
+    QFETCH(QString, name);
+    QFETCH(QString, menu);
     Bench bench;
     bench.openConnected();
-    const QSignalSpy here(&bench.local(), &FileListView::popupRequested);
-    Bench::click(bench.local(), 0);
-    QTest::keyClick(&bench.local(), Qt::Key_F10, Qt::ShiftModifier);
-    QTRY_COMPARE(here.size(), 1);
-    bench.form->get<QMenu>(u"zLocal"_s).close();
+    auto &view = bench.form->get<QAbstractItemView>(name);
+    auto &popUp = bench.form->get<QMenu>(menu);
+    view.setFocus();
+    view.setCurrentIndex(view.model()->index(0, 0));
+    const QRect place(view.mapToGlobal(QPoint()), view.size());
+    QTest::keyClick(&view, Qt::Key_F10);
+    QTest::keyClick(&view, Qt::Key_F10, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    QVERIFY(!popUp.isVisible());
+    QTest::keyClick(&view, Qt::Key_F10, Qt::ShiftModifier);
+    QTRY_VERIFY(popUp.isVisible());
+    QVERIFY(place.contains(popUp.pos()));
+    popUp.close();
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, view.viewport()->rect().center(), place.center());
+    QCoreApplication::sendEvent(&view, &key);
+    QTRY_VERIFY(popUp.isVisible());
+    popUp.close();
 }
 
 void TstFtpLists::manyLogLines()
