@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QFile>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
@@ -172,6 +173,44 @@ private Q_SLOTS:
         bench.select(u"Zephira"_s);
         QVERIFY(!bench.rightClick());
         bench.closeMenus();
+    }
+
+    void aFileOfWordsThatCantBeWritten()
+    {
+        SpellingWindow bench;
+        const QString file = bench.write(u"app/custom.dic"_s, "mine\n");
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+        bench.open(u"baad mine"_s);
+        inForm(*bench.window, [](QWidget &form) {
+            press(form, u"cmdAdd"_s);
+            // The question stays, and can be answered otherwise.
+            press(form, u"cmdChange"_s);
+        });
+        bench.prompts.expectTell(u"The file \"%1\" could not be saved: it is read-only."_s.arg(file), u"Spelling"_s,
+                                 Question::Icon::Exclamation);
+        bench.expectComplete();
+        bench.click(u"Toolbar_0"_s, u"spell"_s);
+        QCOMPARE(bench.window->rt().text(), u"bad mine"_s);
+        QCOMPARE(WindowBench::read(file), QByteArray("mine\n"));
+    }
+
+    void rubbishInsteadOfWords()
+    {
+        SpellingWindow bench;
+        const QByteArray rubbish = QByteArray("\x7f"
+                                              "ELF\0\xff\n\n\x80\n",
+                                              10)
+                                       .repeated(1000)
+            + "mine";
+        const QString file = bench.write(u"app/custom.dic"_s, rubbish);
+        bench.open(u"mine baad"_s);
+        inForm(*bench.window, [](QWidget &form) { press(form, u"cmdAdd"_s); });
+        bench.prompts.expectTell(
+            u"Not every line of the file %1 is a word. Unused lines: 2000; the first is line 1."_s.arg(file), {},
+            Question::Icon::Exclamation);
+        bench.expectComplete();
+        bench.click(u"Toolbar_0"_s, u"spell"_s);
+        QCOMPARE(WindowBench::read(file), rubbish + "\nbaad\n");
     }
 
     void inVisualModeNothingIsChecked()

@@ -47,6 +47,7 @@ ProgramFolder::ProgramFolder()
         for (const QString &module : modules)
             QVERIFY(QFile::copy(built.filePath(folder + u'/' + module), path() + u'/' + folder + u'/' + module));
     }
+    QVERIFY(QFile::copy(QStringLiteral(ZEPHIRA_NAMES), path() + u"/deps/names.dic"_s));
     setTips(false);
     setIni(u"Startup"_s, u"selprj"_s, u"0"_s);
 }
