@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "commands/menutable.h"
+#include "app/windowbench.h"
 #include "editor/hotkeys.h"
 #include "support/sourcefolder.h"
 #include "support/testregistry.h"
@@ -25,8 +25,6 @@ private Q_SLOTS:
     void entriesExist();
 
 private:
-    void addKeys(std::span<const MenuItem> items);
-
     QString m_tips;
     QSet<QKeySequence> m_keys;
     QStringList m_captions;
@@ -37,22 +35,17 @@ void TstShippedTips::initTestCase()
     QFile file(sourcePath(u"data/TIPOFDAY.TXT"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     m_tips = QString::fromUtf8(file.readAll());
-    addKeys(menuBarTable());
-    addKeys(popupTable());
+    WindowBench bench;
+    const QList<QAction *> entries = bench.start().findChildren<QAction *>();
+    for (const QAction *entry : entries) {
+        m_captions.append(entry->text().remove(u'&'));
+        const QList<QKeySequence> keys = entry->shortcuts();
+        m_keys.unite(QSet<QKeySequence>(keys.begin(), keys.end()));
+    }
     for (const CodeMaxHotKey &row : initialHotKeys())
         m_keys.insert(QKeySequence(row.keys));
-    // The way round the parts of the window isn't a row of a table.
+    // The way round the parts of the window is a short-cut without an entry.
     m_keys.insert(QKeySequence(u"Ctrl+F6"_s));
-}
-
-void TstShippedTips::addKeys(std::span<const MenuItem> items)
-{
-    for (const MenuItem &item : items) {
-        if (!item.shortcut.isEmpty())
-            m_keys.insert(QKeySequence(item.shortcut.toString()));
-        m_captions.append(item.caption.toString().remove(u'&'));
-        addKeys(item.children);
-    }
 }
 
 void TstShippedTips::keysExist()
