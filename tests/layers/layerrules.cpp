@@ -230,7 +230,8 @@ QStringList linkViolations(const QString &path, const QString &cmake)
     static const QRegularExpression logic(uR"(zephira_logic\(\s*(\w+)\s([^)]*)\))"_s);
     static const QRegularExpression blanks(uR"(\s+)"_s);
     // The modules that wait for a connection or a page, or look words up, or check pages, are logic that also links a system library.
-    static const QRegularExpression allowed(u"^(core|\\w+_logic|Threads::Threads|CURL::libcurl|hunspell|Tidy::tidy)$"_s);
+    static const QRegularExpression allowed(
+        u"^(core|\\w+_logic|Threads::Threads|CURL::libcurl|hunspell|Tidy::tidy)$"_s);
     QStringList result;
     for (const QRegularExpressionMatch &match : logic.globalMatch(cmake)) {
         const QStringList libraries = match.captured(2).section(u"LINK"_s, 1).split(blanks, Qt::SkipEmptyParts);
