@@ -40,9 +40,11 @@ void PluginMenu::scan()
 {
     m_files->setPath(m_folder.path());
     m_files->setPattern(modulePattern.toString());
-    scanPlugins(
+    const QString reason = scanPlugins(
         m_folder, m_files->entries(), [this](const QString &caption, const QString &tag) { addEntry(caption, tag); },
         [this](const QString &text) { m_text = text; });
+    // No message tells of a bad module; who misses an entry and points at the menu finds it here.
+    m_menus.menu(menuname::plugins)->menuAction()->setStatusTip(reason);
 }
 
 void PluginMenu::addEntry(const QString &caption, const QString &tag)

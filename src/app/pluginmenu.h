@@ -21,6 +21,7 @@ public:
     PluginMenu(const AppContext &context, Menus &menus, QWidget *window);
 
     /// Looks for plug-ins and gives each of them an entry. Until one is found, the first entry says that there is none.
+    /// If the search ended early, the menu's status tip says why.
     void scan();
     /// Ends the runs without a result: the window is closing.
     void abandon() { m_run.abandon(); }

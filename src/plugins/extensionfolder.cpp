@@ -40,18 +40,23 @@ std::shared_ptr<LateBound> ExtensionFolder::create(const QString &name)
     if (const auto object = m_inUse.value(name).lock(); object && object->isAlive())
         return object;
     const QString file = fileOf(name);
+    if (file.isEmpty())
+        throw HandlerError{u"There is no module for %1."_s.arg(name)};
     if (!isTrustedModule(file, m_programFolder))
         throw HandlerError{u"Others can change the module %1."_s.arg(file)};
     std::shared_ptr<LateBound> object;
+    QString reason = u"it doesn't know the name %1"_s.arg(name);
     runForeign([&] {
         QPluginLoader loader(QFileInfo(file).canonicalFilePath());
         // Without this hint a function that the module needs and nobody has ends the process at its first call.
         loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
         if (QObject *module = loader.instance())
             object = objectOf(*module, name);
+        else
+            reason = loader.errorString();
     });
     if (!object)
-        throw HandlerError{u"The module %1 doesn't make the object %2."_s.arg(file, name)};
+        throw HandlerError{u"The module %1 makes no object: %2."_s.arg(file, reason)};
     return object;
 }
 

@@ -6,6 +6,7 @@
 #include <QMetaMethod>
 #include <QMetaProperty>
 
+#include <exception>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -54,6 +55,8 @@ void runForeign(const std::function<void()> &code)
     // The code is compiled elsewhere and may throw anything.
     try {
         code();
+    } catch (const std::exception &error) {
+        throw HandlerError{u"The module has raised an error: %1."_s.arg(QString::fromUtf8(error.what()))};
     } catch (...) {
         throw HandlerError{u"The module has raised an error."_s};
     }

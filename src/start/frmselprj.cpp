@@ -35,7 +35,11 @@ frmselprj::frmselprj(const AppContext &context, RecoveryCopies &recovery, QWidge
         connect(page, &TemplateButtons::chosen, this, &frmselprj::useTemplate);
     listCustomTemplates();
     m_wizards = std::make_unique<WizardList>(context, recovery, *m_ui->filePlugin, *m_ui->ListView1, *this);
-    m_ui->lblNoWizards->setVisible(m_ui->ListView1->count() == 0);
+    // No message tells of a bad module, but the page does.
+    if (const QString reason = m_wizards->whyIncomplete(); !reason.isEmpty())
+        m_ui->lblNoWizards->setText(reason);
+    else
+        m_ui->lblNoWizards->setVisible(m_ui->ListView1->count() == 0);
 
     m_ui->Check1->setChecked(isSwitchedOn(context.configuration, Setting::StartDialog));
     connect(m_ui->Check1, &QCheckBox::clicked, this,

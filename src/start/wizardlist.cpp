@@ -44,7 +44,7 @@ void WizardList::fill(FileListBox &files)
     files.setPath(m_folder.path());
     files.setPattern(modulePattern.toString());
     const QIcon picture = themeIcon(u"tools-wizard"_s, QStyle::SP_FileIcon);
-    scanWizards(m_folder, files.entries(), m_context.prompts, [&](const QString &key, const QString &text) {
+    m_reason = scanWizards(m_folder, files.entries(), m_context.prompts, [&](const QString &key, const QString &text) {
         auto *row = new QListWidgetItem(picture, text);
         row->setData(KeyRole, key);
         m_list.insertItem(0, row);

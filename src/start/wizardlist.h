@@ -27,6 +27,9 @@ public:
     WizardList(const AppContext &context, RecoveryCopies &recovery, FileListBox &files, QListWidget &list,
                QDialog &dialog);
 
+    /// Why the search for wizards ended early; empty if it didn't.
+    QString whyIncomplete() const { return m_reason; }
+
 private:
     void fill(FileListBox &files);
     void run(const QListWidgetItem *row);
@@ -38,6 +41,7 @@ private:
     QDialog &m_dialog;
     ExtensionFolder m_folder;
     ExtensionRun m_run;
+    QString m_reason;
 };
 
 } // namespace zephira

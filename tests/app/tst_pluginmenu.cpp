@@ -44,6 +44,7 @@ private Q_SLOTS:
         QCOMPARE(files->path(), bench.appPath() + u"/plugins"_s);
         QCOMPARE(files->pattern(), u"*.so"_s);
         QVERIFY(!files->isVisible());
+        QCOMPARE(bench.find<QMenu>(u"mnuplugins"_s)->menuAction()->statusTip(), QString());
         QVERIFY(!bench.window->docModified());
     }
 
@@ -57,6 +58,8 @@ private Q_SLOTS:
         QCOMPARE(
             entries(bench),
             (QStringList{u"mnupluginoptions_0 a a.Main"_s, u"mnupluginoptions_1 versionless b-versionless.Main"_s}));
+        QCOMPARE(bench.find<QMenu>(u"mnuplugins"_s)->menuAction()->statusTip(),
+                 u"The search ended at b-versionless.so. The member pluginversion can't be read."_s);
     }
 
     /// While the hidden parts wait for the first picture, so do the plug-ins.

@@ -36,6 +36,7 @@ private Q_SLOTS:
     {
         const ModuleBench bench;
         QCOMPARE(scan(bench), QStringList());
+        QCOMPARE(m_reason, QString());
     }
 
     void membersAsFunctions()
@@ -51,17 +52,28 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("module");
         QTest::addColumn<bool>("hasEntry");
-        QTest::newRow("can't be made") << u"b-unknown"_s << testmodule::citizen() << false;
-        QTest::newRow("throws from create") << u"b-throwscreate"_s << testmodule::citizen() << false;
-        QTest::newRow("throws from its constructor") << u"b-throwsnew"_s << testmodule::citizen() << false;
-        QTest::newRow("throws while loading") << u"b-throwing"_s << testmodule::throwing() << false;
-        QTest::newRow("another build") << u"b-unresolved"_s << testmodule::unresolved() << false;
-        QTest::newRow("neither create nor members") << u"b-bare"_s << testmodule::bare() << false;
-        QTest::newRow("throws from its title") << u"b-throwstitle"_s << testmodule::citizen() << false;
-        QTest::newRow("throws from its version") << u"b-throwsversion"_s << testmodule::citizen() << true;
-        QTest::newRow("throws from its description") << u"b-throwsdescription"_s << testmodule::citizen() << true;
-        QTest::newRow("no version") << u"b-versionless"_s << testmodule::citizen() << true;
-        QTest::newRow("no module at all") << u"b-text"_s << sourceOfThisTest() << false;
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("can't be made") << u"b-unknown"_s << testmodule::citizen() << false
+                                       << u"makes no object: it doesn't know the name b-unknown.Main."_s;
+        QTest::newRow("throws from create") << u"b-throwscreate"_s << testmodule::citizen() << false
+                                            << u"The module has raised an error: a bad citizen."_s;
+        QTest::newRow("throws from its constructor") << u"b-throwsnew"_s << testmodule::citizen() << false
+                                                     << u"The module has raised an error: a bad citizen."_s;
+        QTest::newRow("throws while loading")
+            << u"b-throwing"_s << testmodule::throwing() << false << u"The module has raised an error."_s;
+        QTest::newRow("another build") << u"b-unresolved"_s << testmodule::unresolved() << false
+                                       << u"undefined symbol"_s;
+        QTest::newRow("neither create nor members")
+            << u"b-bare"_s << testmodule::bare() << false << u"The member pluginId can't be read."_s;
+        QTest::newRow("throws from its title") << u"b-throwstitle"_s << testmodule::citizen() << false
+                                               << u"The module has raised an error: a bad citizen."_s;
+        QTest::newRow("throws from its version") << u"b-throwsversion"_s << testmodule::citizen() << true
+                                                 << u"The module has raised an error: a bad citizen."_s;
+        QTest::newRow("throws from its description") << u"b-throwsdescription"_s << testmodule::citizen() << true
+                                                     << u"The module has raised an error: a bad citizen."_s;
+        QTest::newRow("no version") << u"b-versionless"_s << testmodule::citizen() << true
+                                    << u"The member pluginversion can't be read."_s;
+        QTest::newRow("no module at all") << u"b-text"_s << sourceOfThisTest() << false << u"makes no object: "_s;
     }
 
     void aBadOneEndsIt()
@@ -78,6 +90,9 @@ private Q_SLOTS:
             expected.append((name == u"b-versionless" ? u"versionless"_s : name) + u": "_s + name + u".Main"_s);
         QCOMPARE(scan(bench), expected);
         QVERIFY(!takeLog().contains(u"new c"_s));
+        QFETCH(QString, reason);
+        QVERIFY2(m_reason.startsWith(u"The search ended at %1.so. "_s.arg(name)) && m_reason.contains(reason),
+                 qPrintable(m_reason));
     }
 
     void others()
@@ -86,6 +101,8 @@ private Q_SLOTS:
         bench.plugin(u"a.so"_s);
         QVERIFY(QFile::setPermissions(bench.path() + u"/plugins"_s, QFile::Permissions::fromInt(0x7777)));
         QCOMPARE(scan(bench), QStringList());
+        QCOMPARE(m_reason,
+                 u"The search ended at a.so. Others can change the module %1/plugins/a.so."_s.arg(bench.path()));
         QVERIFY(takeLog().isEmpty());
     }
 
@@ -120,16 +137,19 @@ private:
     static QString sourceOfThisTest() { return sourcePath(u"tests/plugins/tst_extensionscan.cpp"_s); }
 
     /// What the search adds and tells.
-    static QStringList scan(const ModuleBench &bench)
+    QStringList scan(const ModuleBench &bench)
     {
         ExtensionFolder folder(pluginKind, bench.path());
         QStringList found;
-        scanPlugins(
+        m_reason = scanPlugins(
             folder, folder.fileNames(),
             [&found](const QString &caption, const QString &tag) { found.append(caption + u": "_s + tag); },
             [&found](const QString &text) { found.append(text); });
         return found;
     }
+
+    /// Why the last search ended early.
+    QString m_reason;
 };
 
 ZEPHIRA_TEST(TstExtensionScan)

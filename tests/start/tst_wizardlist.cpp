@@ -57,6 +57,14 @@ private Q_SLOTS:
         const auto &files = m_form->get<FileListBox>(u"filePlugin"_s);
         QCOMPARE(files.path(), m_bench->path() + u"/wizards"_s);
         QCOMPARE(files.pattern(), u"*.so"_s);
+        QVERIFY(m_form->get(u"lblNoWizards"_s).isVisible());
+        QCOMPARE(m_form->value(u"lblNoWizards"_s),
+                 u"The search ended at c-throwstitle.so. The module has raised an error: a bad citizen."_s);
+    }
+
+    void noNoteIfAllAreThere()
+    {
+        open({u"a.so"_s, u"b.so"_s});
         QVERIFY(!m_form->get(u"lblNoWizards"_s).isVisible());
     }
 
