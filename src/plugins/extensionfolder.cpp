@@ -56,7 +56,7 @@ std::shared_ptr<LateBound> ExtensionFolder::create(const QString &name)
             reason = loader.errorString();
     });
     if (!object)
-        throw HandlerError{u"The module %1 makes no object: %2."_s.arg(file, reason)};
+        throw HandlerError{u"The module makes no object: %1."_s.arg(reason)};
     return object;
 }
 
