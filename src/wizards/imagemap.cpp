@@ -2,10 +2,11 @@
 #include "wizards/imagemap.h"
 
 #include "core/editingcontrol.h"
-#include "core/prompts.h"
+#include "core/filelookup.h"
 #include "core/twips.h"
 #include "ui_imagemap.h"
 #include "widgets/droppedfile.h"
+#include "widgets/fieldlookups.h"
 #include "widgets/picturefile.h"
 #include "wizards/longfields.h"
 #include "wizards/mapmarkup.h"
@@ -20,6 +21,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -54,11 +56,13 @@ struct ImageMap::Row {
     QRadioButton *picked;
     QLineEdit *text;
     QLineEdit *link;
+    QPushButton *browse;
     QLineEdit *alternative;
 };
 
-ImageMap::ImageMap(const AppContext &context, const EditorFactory &makeEditor, QWidget *owner)
-    : QDialog(owner), m_ui(std::make_unique<Ui::ImageMap>()), m_context(context)
+ImageMap::ImageMap(const AppContext &context, const EditorFactory &makeEditor, std::shared_ptr<FileLookup> lookup,
+                   QWidget *owner)
+    : QDialog(owner), m_ui(std::make_unique<Ui::ImageMap>()), m_context(context), m_lookup(std::move(lookup))
 {
     m_ui->setupUi(this);
     acceptAnyText(*this);
@@ -219,6 +223,7 @@ void ImageMap::connectRows()
             m_drawing.show(area, on);
             showDrawing();
         });
+        offerFiles(controls.browse, controls.link, m_context, m_lookup);
         connect(controls.text, &QLineEdit::textChanged, this,
                 [this, area](const QString &text) { m_drawing.setText(area, text); });
     }
@@ -227,9 +232,9 @@ void ImageMap::connectRows()
 ImageMap::Row ImageMap::row(int area) const
 {
     const QString number = u"_%1"_s.arg(area);
-    return {findChild<QCheckBox *>(u"Check1"_s + number), findChild<QRadioButton *>(u"Option1"_s + number),
-            findChild<QLineEdit *>(u"Text2"_s + number), findChild<QLineEdit *>(u"Text3"_s + number),
-            findChild<QLineEdit *>(u"Text5"_s + number)};
+    return {findChild<QCheckBox *>(u"Check1"_s + number),        findChild<QRadioButton *>(u"Option1"_s + number),
+            findChild<QLineEdit *>(u"Text2"_s + number),         findChild<QLineEdit *>(u"Text3"_s + number),
+            findChild<QPushButton *>(u"browseText3"_s + number), findChild<QLineEdit *>(u"Text5"_s + number)};
 }
 
 void ImageMap::alignControls()
@@ -282,7 +287,7 @@ void ImageMap::moveToCorner()
 
 void ImageMap::browse()
 {
-    if (const auto file = m_context.prompts.file({.filter = pictureFilter.toString()}))
+    if (const auto file = m_lookup->choose(m_context, {}, pictureFilter.toString()))
         openPicture(*file);
 }
 

@@ -18,6 +18,7 @@ namespace Ui {
 class ImageMap;
 }
 
+class FileLookup;
 struct ImageMapFields;
 
 /// The image map creator: draws up to six areas on a picture, gives each a link and an alternative text, and shows the
@@ -46,7 +47,8 @@ class ImageMap final : public QDialog
     Q_PROPERTY(QString Quote READ quote CONSTANT)
 
 public:
-    ImageMap(const AppContext &context, const EditorFactory &makeEditor, QWidget *owner);
+    ImageMap(const AppContext &context, const EditorFactory &makeEditor, std::shared_ptr<FileLookup> lookup,
+             QWidget *owner);
     ~ImageMap() override;
 
     int currentArea() const { return m_drawing.currentArea(); }
@@ -102,6 +104,7 @@ private:
 
     const std::unique_ptr<Ui::ImageMap> m_ui;
     const AppContext m_context;
+    const std::shared_ptr<FileLookup> m_lookup;
     EditorView m_editor;
     MapDrawing m_drawing;
 };

@@ -68,8 +68,9 @@ void registerForms(FormCatalogue &catalogue)
 
 void registerImageMap(FormCatalogue &catalogue, const EditorFactory &makeEditor)
 {
-    catalogue.add(u"ImageMap"_s, [makeEditor](const AppContext &context, QWidget *owner) {
-        return new ImageMap(context, makeEditor, owner);
+    const auto files = std::make_shared<FileLookup>();
+    catalogue.add(u"ImageMap"_s, [makeEditor, files](const AppContext &context, QWidget *owner) {
+        return new ImageMap(context, makeEditor, files, owner);
     });
 }
 

@@ -52,11 +52,14 @@ inline void pressButton(const LivingForm &form, int number)
     QTest::mouseClick(bar.widgetForAction(&toolbarButton(form, number)), Qt::LeftButton);
 }
 
-/// Opens a file that the user chooses.
-inline void openPicture(TestContext &world, const LivingForm &form, const std::optional<QString> &path)
+/// Opens a file that the user chooses in a dialog, which starts in a folder.
+inline void openPicture(TestContext &world, const LivingForm &form, const std::optional<QString> &path,
+                        const QString &folder = {})
 {
     world.prompts.expectFile(
-        {.filter = QStringLiteral("JPEG files|*.jpg|GIF files|*.GIF|Bitmap files|*.BMP|All Files|*.*")}, path);
+        {.filter = QStringLiteral("JPEG files|*.jpg|GIF files|*.GIF|Bitmap files|*.BMP|All Files|*.*"),
+         .initialFolder = folder},
+        path);
     form.get<QAction>(QStringLiteral("SubMenuOpen")).trigger();
 }
 

@@ -4,6 +4,7 @@
 #include "wizards/imagemapbench.h"
 
 #include <QAbstractButton>
+#include <QAbstractSlider>
 #include <QDragEnterEvent>
 #include <QImageReader>
 #include <QImageWriter>
@@ -228,6 +229,19 @@ private Q_SLOTS:
         QCOMPARE(c.form.value(u"Text4"_s), u"/p/map.png"_s);
     }
 
+    void linksAreLookedUp()
+    {
+        Creator c;
+        c.world.document.project = u"/site/"_s;
+        c.world.prompts.expectFile(
+            {.title = u"Browse for file"_s, .filter = u"All Files (*.*)|*.*"_s, .initialFolder = u"/site/"_s},
+            u"/site/pages/a.html"_s);
+        c.form.press(u"browseText3_4"_s);
+        QCOMPARE(c.form.value(u"Text3_4"_s), u"pages/a.html"_s);
+        // The picture is looked for in the same folder.
+        openPicture(c.world, c.form, {}, u"/site/pages"_s);
+    }
+
     void openingByKeyboard()
     {
         Creator c;
@@ -244,15 +258,16 @@ private Q_SLOTS:
         int opened = 0;
         const QList<QByteArray> formats = QImageReader::supportedImageFormats();
         const auto check = [&](const QByteArray &format, const QByteArray &content, QSize size) {
-            c.world.files.contents[u"/picture"_s] = content;
-            openPicture(c.world, c.form, u"/picture"_s);
+            c.world.files.contents[u"/p/picture"_s] = content;
+            openPicture(c.world, c.form, u"/p/picture"_s, opened > 0 ? u"/p"_s : QString());
             if (c.picture().size() == size)
                 ++opened;
             else
                 QTest::qFail(format.constData(), __FILE__, __LINE__);
         };
         int side = 10;
-        for (const QByteArray &format : QImageWriter::supportedImageFormats()) {
+        const QList<QByteArray> written = QImageWriter::supportedImageFormats();
+        for (const QByteArray &format : written) {
             // Icons are written in many sizes.
             if (!formats.contains(format) || format == "ico" || format == "cur" || format == "icns")
                 continue;
@@ -289,7 +304,7 @@ private Q_SLOTS:
         c.form.set(u"Text3_0"_s, u"link"_s);
         c.setBar(u"VScroll1"_s, -7);
         c.world.files.contents[u"/bad"_s] = content;
-        openPicture(c.world, c.form, u"/bad"_s);
+        openPicture(c.world, c.form, u"/bad"_s, u"/p"_s);
         QCOMPARE(c.picture().size(), QSize(320, 200));
         QCOMPARE(c.form.value(u"Text4"_s), u"/p/map.png"_s);
         QCOMPARE(c.form.value(u"Text1"_s), u"typed"_s);
@@ -302,8 +317,8 @@ private Q_SLOTS:
     {
         Creator c;
         c.open({320, 200});
-        openPicture(c.world, c.form, u"/none.png"_s);
-        openPicture(c.world, c.form, {});
+        openPicture(c.world, c.form, u"/none.png"_s, u"/p"_s);
+        openPicture(c.world, c.form, {}, u"/"_s);
         QCOMPARE(c.form.value(u"Text4"_s), u"/p/map.png"_s);
         QCOMPARE(c.picture().size(), QSize(320, 200));
     }
