@@ -3,6 +3,7 @@
 
 #include <QObject>
 
+class QAction;
 class QMenu;
 
 namespace zephira {

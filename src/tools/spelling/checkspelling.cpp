@@ -8,6 +8,7 @@
 #include "core/prompts.h"
 #include "tools/spelling/spellcheck.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 using namespace Qt::StringLiterals;

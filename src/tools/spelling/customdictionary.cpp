@@ -28,8 +28,10 @@ bool isCustomWord(QStringView word)
     bool hasLetter = false;
     for (qsizetype at = 0; at < word.size(); ++at) {
         char32_t character = word[at].unicode();
-        if (word[at].isHighSurrogate() && at + 1 < word.size() && word[at + 1].isLowSurrogate())
-            character = QChar::surrogateToUcs4(word[at], word[at + 1]), ++at;
+        if (word[at].isHighSurrogate() && at + 1 < word.size() && word[at + 1].isLowSurrogate()) {
+            character = QChar::surrogateToUcs4(word[at], word[at + 1]);
+            ++at;
+        }
         if (QChar::isSpace(character) || !QChar::isPrint(character))
             return false;
         hasLetter |= QChar::isLetter(character);

@@ -5,6 +5,7 @@
 #include "tools/spelling/spellcheck.h"
 #include "ui_spellchecker1.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QSignalBlocker>
 

@@ -107,7 +107,7 @@ private Q_SLOTS:
         LexiconBench bench;
         bench.settings.SaveSetting(UserSetting::SpellingDictionary, chosen);
         bench.spelling.dictionaries.clear();
-        for (const QString &name : installed)
+        for (const QString &name : std::as_const(installed))
             bench.spelling.dictionaries.push_back({name, u"/dict/"_s + name});
         QVERIFY(bench.lexicon().OpenLexicon().ok());
         QTEST(bench.lexicon().dictionary(), "used");

@@ -168,8 +168,7 @@ private Q_SLOTS:
         for (int round = 0; round < 5000; ++round) {
             const QString text = generatedText(random, pieces, 15);
             CheckBench bench(text);
-            QString expected = text;
-            // With marks that are no words, each change can be undone in the result.
+            // The brackets, which only changes put in, are taken out of the result.
             for (int answers = 0; bench.check.isAsking(); ++answers) {
                 QVERIFY(answers <= text.size());
                 const QString word = bench.check.word();
@@ -191,7 +190,7 @@ private Q_SLOTS:
                     break;
                 }
             }
-            QCOMPARE(bench.check.text().remove(u'[').remove(u']'), expected);
+            QCOMPARE(bench.check.text().remove(u'[').remove(u']'), text);
         }
     }
 
