@@ -60,6 +60,7 @@ ViewSwitch::ViewSwitch(const AppContext &context, const Parts &parts, const WebV
     // changes.
     connect(&tabs, &QTabBar::tabBarClicked, this, &ViewSwitch::focusView, Qt::QueuedConnection);
     connect(m_preview, &PreviewPane::remoteAllowed, this, [this] { m_views.allowRemote(); });
+    connect(m_preview, &PreviewPane::remoteForbidden, this, [this] { m_views.forbidRemote(); });
     connect(&m_parts.designerBar, &DesignerBar::resetClicked, this, [this] {
         m_views.reset();
         focusView();
@@ -174,6 +175,11 @@ void ViewSwitch::showControls(WorkspaceView view)
     m_parts.pages.setCurrentWidget(page(view));
     if (hadFocus)
         focusView();
+}
+
+void ViewSwitch::showRemoteAllowed(bool allowed)
+{
+    m_preview->setRemoteAllowed(allowed);
 }
 
 void ViewSwitch::setSourceMenusEnabled(bool enabled)

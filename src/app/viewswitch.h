@@ -61,6 +61,7 @@ public:
     void showControls(WorkspaceView view) override;
     void setSourceMenusEnabled(bool enabled) override;
     void setWaiting(bool waiting) override;
+    void showRemoteAllowed(bool allowed) override;
     void setVisualMenusEnabled(bool enabled) override;
     void selectTab(WorkspaceView view) override;
 

@@ -68,12 +68,18 @@ PreviewPane::PreviewPane(Browser &browser, QWidget *parent) : QWidget(parent), m
     auto *goButton = new QPushButton(u"Go"_s, bar);
     goButton->setObjectName(u"cmdgo"_s);
     goButton->setToolTip(u"Show the page at this address"_s);
+    m_forbid = new QPushButton(u"Block Others"_s, bar);
+    m_forbid->setObjectName(u"remoteForbid"_s);
+    m_forbid->setToolTip(
+        u"Block what the page loads from other machines, which you have allowed, and load the page again"_s);
+    m_forbid->hide();
 
     auto *barLayout = new QHBoxLayout(bar);
     barLayout->setContentsMargins(2, 2, 2, 2);
     barLayout->addWidget(m_buttons);
     barLayout->addWidget(m_address, 1);
     barLayout->addWidget(goButton);
+    barLayout->addWidget(m_forbid);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -84,6 +90,7 @@ PreviewPane::PreviewPane(Browser &browser, QWidget *parent) : QWidget(parent), m
     connect(m_address, &QLineEdit::returnPressed, this, &PreviewPane::go);
     connect(goButton, &QPushButton::clicked, this, &PreviewPane::go);
     connect(m_remoteBar, &RemoteBar::allowed, this, &PreviewPane::remoteAllowed);
+    connect(m_forbid, &QPushButton::clicked, this, &PreviewPane::remoteForbidden);
     m_browser.onRemoteRefused([this](const QStringList &hosts) { m_remoteBar->setHosts(hosts); });
     m_browser.onNavigateComplete([this] { m_address->setText(m_browser.locationUrl()); });
 }
@@ -102,6 +109,13 @@ void PreviewPane::setBrowserWidget(QWidget *widget)
 {
     static_cast<QVBoxLayout *>(layout())->addWidget(widget, 1);
     setFocusProxy(widget);
+}
+
+void PreviewPane::setRemoteAllowed(bool allowed)
+{
+    if (!allowed && m_forbid->hasFocus())
+        setFocus(); // It would go to whatever comes next.
+    m_forbid->setVisible(allowed);
 }
 
 /// Keys that no part of the pane handles arrive here before they become shortcuts of the window.

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QLineEdit;
+class QPushButton;
 class QToolBar;
 
 namespace zephira {
@@ -24,10 +25,14 @@ public:
 
     /// Puts the browser's widget below the bar.
     void setBrowserWidget(QWidget *widget);
+    /// Whether the page may load from other machines; if so, a button offers to take that back.
+    void setRemoteAllowed(bool allowed);
 
 Q_SIGNALS:
     /// The page may load from other machines.
     void remoteAllowed();
+    /// It no longer may.
+    void remoteForbidden();
 
 protected:
     bool event(QEvent *event) override;
@@ -41,6 +46,7 @@ private:
     Browser &m_browser;
     QToolBar *m_buttons = nullptr;
     QLineEdit *m_address = nullptr;
+    QPushButton *m_forbid = nullptr;
     RemoteBar *m_remoteBar = nullptr;
 };
 

@@ -76,6 +76,7 @@ void WorkspaceViews::prepareLoad()
     m_browser.setRemoteAllowed(isAllowed);
     m_context.designer.setProjectFolder(folder);
     m_context.designer.setRemoteAllowed(isAllowed);
+    m_window.showRemoteAllowed(isAllowed);
 }
 
 /// The project folder if the document is within it: then what the user allows is remembered for the project. Otherwise
@@ -110,6 +111,15 @@ void WorkspaceViews::allowRemote()
         m_context.settings.SaveSetting(UserSetting::RemoteContent, project, u"1"_s);
     else
         m_permittedDocuments.insert(documentKey());
+    prepareLoad();
+    m_browser.refresh();
+}
+
+void WorkspaceViews::forbidRemote()
+{
+    if (const QString project = permittedProject(); !project.isEmpty())
+        m_context.settings.SaveSetting(UserSetting::RemoteContent, project, u"0"_s);
+    m_permittedDocuments.remove(documentKey());
     prepareLoad();
     m_browser.refresh();
 }

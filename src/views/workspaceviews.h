@@ -28,6 +28,8 @@ public:
     virtual QString scratchFolder() const = 0;
     /// Distinguishes a document without a file from the next one.
     virtual int documentNumber() const = 0;
+    /// The document's page may load from other hosts, which the user can take back, or it may not.
+    virtual void showRemoteAllowed(bool allowed) = 0;
     /// Shows a problem without interrupting the user.
     virtual void notice(const QString &sentence) = 0;
 
@@ -64,6 +66,8 @@ public:
     /// The user lets the document's page load from other hosts. If the document is in the project, this holds for all its
     /// pages from now on; otherwise for this document while the program runs. The preview is reloaded.
     void allowRemote();
+    /// Takes that permission back and reloads the preview.
+    void forbidRemote();
 
     /// Restores the designer's text from before visual mode.
     void reset();

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void permissionIsTheProjects();
     void theDesignerHasTheLooks();
     void notNow();
+    void permissionIsTakenBack();
 };
 
 void TstRemoteContent::nothingBeforeTheClick()
@@ -161,6 +162,36 @@ void TstRemoteContent::notNow()
     // It is asked for again with the next showing.
     bench.select(1);
     QVERIFY(bench.asks({}));
+}
+
+/// Where it was given, for all pages of the project, and for the designer.
+void TstRemoteContent::permissionIsTakenBack()
+{
+    RemoteBench bench;
+    bench.openPage(u"site/page.html"_s);
+    QVERIFY(bench.asks({}));
+    auto *forbid = bench.find<QPushButton>(u"remoteForbid"_s);
+    QVERIFY(!forbid->isVisible());
+    bench.allow();
+    QVERIFY(bench.showsAll());
+    QVERIFY(forbid->isVisible());
+    waitUntil([] { return false; }, 300); // The page has had what it wanted.
+    const QStringList before = bench.requests();
+    forbid->click();
+    QVERIFY(bench.showsPage(u"local"_s));
+    QVERIFY(bench.asks(before));
+    QVERIFY(!forbid->isVisible());
+    bench.select(1);
+    QVERIFY(bench.design());
+    waitUntil([] { return false; }, 300);
+    QCOMPARE(bench.requests(), before);
+    bench.select(1);
+    bench.openPage(u"site/other.html"_s);
+    QVERIFY(bench.asks(before));
+    // And given again.
+    bench.allow();
+    QVERIFY(bench.showsAll());
+    QVERIFY(forbid->isVisible());
 }
 
 ZEPHIRA_TEST(TstRemoteContent)

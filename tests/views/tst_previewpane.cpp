@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QToolBar>
 
@@ -105,6 +106,21 @@ private Q_SLOTS:
         browser.remoteRefused(hosts);
         browser.remoteRefused({});
         QVERIFY(bar->isHidden());
+    }
+
+    void remoteHostsAreTakenBack()
+    {
+        FakeBrowser browser;
+        PreviewPane pane(browser);
+        auto *button = pane.findChild<QPushButton *>(u"remoteForbid"_s);
+        QVERIFY(button && button->isHidden());
+        QSignalSpy forbidden(&pane, &PreviewPane::remoteForbidden);
+        pane.setRemoteAllowed(true);
+        QVERIFY(!button->isHidden());
+        button->click();
+        QCOMPARE(forbidden.size(), 1);
+        pane.setRemoteAllowed(false);
+        QVERIFY(button->isHidden());
     }
 
     void keysOfTheToolBar_data()

@@ -42,6 +42,8 @@ struct FakeWindow final : WorkspaceWindow {
     QString scratchFolder() const override { return u"/scratch"_s; }
     int document = 0;
     int documentNumber() const override { return document; }
+    bool remoteShown = false;
+    void showRemoteAllowed(bool allowed) override { remoteShown = allowed; }
     void notice(const QString &sentence) override { notices.append(sentence); }
     bool prepare(WorkspaceView view) override { return view != missing; }
     void showControls(WorkspaceView view) override
@@ -221,6 +223,21 @@ private Q_SLOTS:
         QCOMPARE(bench.browser.calls, QStringList{u"refresh"_s});
         bench.select(WorkspaceView::Preview);
         QVERIFY(bench.browser.isRemoteAllowed);
+        QVERIFY(bench.window.remoteShown);
+
+        // Taken back and given again.
+        bench.browser.calls.clear();
+        bench.views.forbidRemote();
+        QVERIFY(!bench.browser.isRemoteAllowed);
+        QVERIFY(!bench.world.designer.isRemoteAllowed);
+        QVERIFY(!bench.window.remoteShown);
+        QCOMPARE(bench.browser.calls, QStringList{u"refresh"_s});
+        {
+            WorkspaceViews later(bench.world, bench.browser, bench.window);
+            later.select(WorkspaceView::Preview);
+            QVERIFY(!bench.browser.isRemoteAllowed);
+        }
+        bench.views.allowRemote();
 
         WorkspaceViews restarted(bench.world, bench.browser, bench.window);
         restarted.select(WorkspaceView::Preview);
