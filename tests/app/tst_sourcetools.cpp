@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowbench.h"
+#include "app/windowend.h"
 #include "support/eventwait.h"
 #include "support/testregistry.h"
 
@@ -143,6 +144,28 @@ private Q_SLOTS:
         // One undo step takes all of it back.
         window.rt().undo();
         QCOMPARE(window.rt().text(), before);
+    }
+
+    void theProgramEndsInTheMiddleOfACheck()
+    {
+        for (int round = 0; round < 6; ++round) {
+            WindowBench bench;
+            const QByteArray page = QByteArray("<p>text <foo> <b>bold</b>\n").repeated(200'000);
+            frmmain &window = bench.start(bench.write(u"page.html"_s, page));
+            window.show();
+            bench.prompts.expectTell(u"Note: This will only tidy the last saved copy of this document!"_s);
+            bool isWorking = false;
+            const NextForm validator(window, [&](QWidget &form) {
+                QTest::mouseClick(form.findChild<QPushButton *>(u"Command1"_s), Qt::LeftButton);
+                isWorking = form.findChild<QPushButton *>(u"cmdCancel"_s)->isVisible();
+                QTest::qWait(round * 30);
+                window.windowEnd().endNow();
+            });
+            bench.click(u"Toolbar_0"_s, u"tidy"_s);
+            QCOMPARE(validator.name, u"frmvalidate"_s);
+            QVERIFY(isWorking);
+            QCOMPARE(bench.ended, 1);
+        }
     }
 
     void aTextFileBecomesTheDocument()

@@ -5,6 +5,8 @@
 #include "tools/frmtextthtml.h"
 #include "tools/registerforms.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QTest>
 
@@ -136,6 +138,33 @@ private Q_SLOTS:
         converter.form.press(u"Command2"_s);
         QVERIFY(converter.world.prompts.verify());
         QCOMPARE(converter.box().currentFont().pointSizeF(), 20.0);
+    }
+
+    void pastedFromElsewhere_data()
+    {
+        QTest::addColumn<QString>("clipboard");
+        QTest::newRow("browser")
+            << uR"(<html><body><!--StartFragment--><p style="font-family: Verdana; text-align: center"><span style="font-weight: 700; color: rgb(18, 52, 86);">one</span><span style="font-style: italic; text-decoration: underline;">two</span><span style="text-decoration: line-through">three</span></p><!--EndFragment--></body></html>)"_s;
+        QTest::newRow("office program")
+            << uR"(<html><head><meta name="generator" content="Office"/><style type="text/css">p { margin-bottom: 0.1in }</style></head><body lang="en-US"><p align="center"><font face="Verdana"><font color="#123456"><b>one</b></font><i><u>two</u></i><strike>three</strike></font></p></body></html>)"_s;
+    }
+
+    void pastedFromElsewhere()
+    {
+        QFETCH(QString, clipboard);
+        const Converter converter;
+        converter.box().clear();
+        auto *data = new QMimeData;
+        data->setHtml(clipboard);
+        data->setText(u"onetwothree"_s);
+        QGuiApplication::clipboard()->setMimeData(data);
+        converter.box().setFocus();
+        converter.form.key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(converter.box().toPlainText(), u"onetwothree"_s);
+        const QString html = converter.converted();
+        QVERIFY2(html.startsWith(u"<p align=center><b><font face=\"Verdana\"><font color=#123456>one</b>"),
+                 qPrintable(html));
+        QVERIFY2(html.contains(u"<u><i>") && html.contains(u"two</u></i><s>") && html.contains(u"three"), qPrintable(html));
     }
 
     void pastedFormatsAreSeen()

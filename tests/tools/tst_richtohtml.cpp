@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/lineartime.h"
 #include "support/testregistry.h"
+#include "tools/plainrichtohtml.h"
 #include "tools/richtohtml.h"
 
 #include <QRandomGenerator>
@@ -8,48 +9,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
-
-namespace {
-
-/// One character after another, as the rules are told.
-QString plainRichToHtml(const std::vector<FormattedRun> &runs)
-{
-    QString html;
-    int alignment = -1;
-    bool bold = false;
-    bool underline = false;
-    bool italic = false;
-    bool strikethrough = false;
-    std::optional<QString> fontName;
-    std::optional<quint32> colour;
-    const auto turn = [&html](bool &memory, bool now, const QString &on, const QString &off) {
-        if (memory != now)
-            html += now ? on : off;
-        memory = now;
-    };
-    for (const auto &[text, format] : runs) {
-        for (const QChar character : text) {
-            if (alignment != static_cast<int>(format.alignment)) {
-                alignment = static_cast<int>(format.alignment);
-                html += QStringList{u"<p align=left>"_s, u"<p align=right>"_s, u"<p align=center>"_s}[alignment];
-            }
-            turn(bold, format.bold, u"<b>"_s, u"</b>"_s);
-            turn(underline, format.underline, u"<u>"_s, u"</u>"_s);
-            turn(italic, format.italic, u"<i>"_s, u"</i>"_s);
-            turn(strikethrough, format.strikethrough, u"<s>"_s, u"</s>"_s);
-            if (fontName != format.fontName)
-                html += u"<font face=\"%1\">"_s.arg(format.fontName);
-            fontName = format.fontName;
-            if (colour != format.colour)
-                html += u"<font color=#%1>"_s.arg(RGBtoHEX(format.colour));
-            colour = format.colour;
-            html += character;
-        }
-    }
-    return html;
-}
-
-} // namespace
 
 class TstRichToHtml final : public QObject
 {

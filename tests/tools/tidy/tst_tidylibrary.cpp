@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/testregistry.h"
 #include "support/textgenerator.h"
-#include "tools/realtidy.h"
 #include "tools/tidied.h"
+#include "tools/tidy/tidylibrary.h"
 
 #include <QTest>
-
-#include <pthread.h>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -83,7 +81,7 @@ const QStringList soup{u"<p>"_s,
 Result<TidyOutcome> cleaned(const QByteArray &file, const TidyChoices &choices = {})
 {
     TidyWatch watch;
-    return tidied(*realTidy().value(), file, choices, watch);
+    return tidied(TidyLibrary(), file, choices, watch);
 }
 
 /// The sentences of a kind.
@@ -438,7 +436,7 @@ private Q_SLOTS:
         TidyWatch watch;
         watch.cancel();
         const Result<TidyOutcome> outcome =
-            tidied(*realTidy().value(), QByteArray("<p>x</p>\n").repeated(1'000'000), {}, watch);
+            tidied(TidyLibrary(), QByteArray("<p>x</p>\n").repeated(1'000'000), {}, watch);
         QVERIFY(!outcome.ok());
         QCOMPARE(outcome.error().sentence, u"The check was canceled."_s);
     }
@@ -446,11 +444,10 @@ private Q_SLOTS:
     void progressGrows()
     {
         TidyWatch watch;
-        QVERIFY(
-            tidied(*realTidy().value(), QByteArray("<p>x</p>\n").repeated(1000), ticked({u"Check7"_s}), watch).ok());
+        QVERIFY(tidied(TidyLibrary(), QByteArray("<p>x</p>\n").repeated(1000), ticked({u"Check7"_s}), watch).ok());
         QVERIFY2(watch.permille() > 300, qPrintable(QString::number(watch.permille())));
         TidyWatch whole;
-        QVERIFY(tidied(*realTidy().value(), QByteArray("<p>x</p>\n").repeated(1000), {}, whole).ok());
+        QVERIFY(tidied(TidyLibrary(), QByteArray("<p>x</p>\n").repeated(1000), {}, whole).ok());
         QVERIFY2(whole.permille() > 750 && whole.permille() <= 1000, qPrintable(QString::number(whole.permille())));
     }
 };
