@@ -206,8 +206,16 @@ def parse_probe(build, name, page):
         return (time.monotonic() - begin) * 1e3
 
 
+def tidy_probe(build, module, page):
+    """The wall-clock time of a whole run of tidyprobe, which cleans the page with the validator's module, in milliseconds."""
+    with open(page, "rb") as text:
+        begin = time.monotonic()
+        subprocess.run([build.parent / "tests/probes/tidyprobe", module], stdin=text, stdout=subprocess.DEVNULL, check=True)
+        return (time.monotonic() - begin) * 1e3
+
+
 def tools(_programs, report, inputs, build, work):
-    """Outline and formatter with 10 MB, compared with the time that the tidy command takes for such a page."""
+    """Outline, formatter and validator with 10 MB, compared with the time that the tidy command takes for such a page."""
     # Hierarchical is measured with tables alone, because on other pages its indentation only ever grows.
     tables = work / "tables10.html"
     tables.write_bytes(makehtml.page(10 * MB, (makehtml.table,), (1,)))
@@ -218,6 +226,9 @@ def tools(_programs, report, inputs, build, work):
     ):
         ours = median(parse_probe(build, name, page) for _ in range(5))
         report.row(f"{name} of 10 MB, whole run", ours, median(tidy(option, page) for _ in range(3)), limit, f"tidy {option}")
+    module = build.parent / "src/app/zephiratidy.so"
+    cleaned = median(tidy_probe(build, module, inputs(10)) for _ in range(5))
+    report.row("clean-up of 10 MB, whole run", cleaned, median(tidy("-q", inputs(10)) for _ in range(5)), 1.5, "tidy")
     compact = in_process(build, "text_bench", "--benchmark_filter=^Compact/", str(inputs(1)), str(inputs(10)))
     report.row("Compact of 10 MB", compact["Compact/large"] / 1e6, median(tidy("-i", inputs(10)) for _ in range(3)), 0.5, "tidy -i")
 

@@ -12,9 +12,15 @@
 #include "syntax/languageregistry.h"
 #include "syntax/syntaxengine.h"
 #include "tags/tagfile.h"
+#include "tools/fonttags.h"
+#include "tools/imagelinks.h"
+#include "tools/linktargets.h"
+#include "tools/richtohtml.h"
 #include "tools/sourceformatter.h"
 #include "tools/spelling/customdictionary.h"
 #include "tools/spelling/words.h"
+#include "tools/textpage.h"
+#include "tools/tidyplaces.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -127,6 +133,25 @@ void walkWords(Input &input)
         benchmark::DoNotOptimize(word);
 }
 
+/// A message for every other line.
+void findPlaces(Input &input)
+{
+    std::vector<TidyMessage> messages;
+    for (int line = 0; line < input.lines.size(); line += 2)
+        messages.push_back({.line = line, .column = 20});
+    toTextPlaces(messages, input.lf, false);
+    benchmark::DoNotOptimize(messages);
+}
+
+/// Lines of text in turns bold and not.
+void richToMarkup(Input &input)
+{
+    std::vector<FormattedRun> runs;
+    for (const QString &line : std::as_const(input.lines))
+        runs.push_back({line, {.bold = runs.size() % 2 == 0}});
+    benchmark::DoNotOptimize(richToHtml(runs));
+}
+
 const TextFunction functions[] = {
     {"decodeText UTF-8", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.utf8)); }},
     {"decodeText Windows-1252", [](Input &input) { benchmark::DoNotOptimize(decodeText(input.windows1252)); }},
@@ -154,6 +179,17 @@ const TextFunction functions[] = {
     {"colour Java", [](Input &input) { colour(input, u"Java"_s); }},
     {"fold HTML", [](Input &input) { fold(input, u"HTML"_s); }},
     {"outline", [](Input &input) { outline(input); }},
+    {"LinksFromHTML",
+     [](Input &input) {
+         QStringList urls;
+         benchmark::DoNotOptimize(LinksFromHTML(urls, input.text));
+     }},
+    {"linkTargets", [](Input &input) { benchmark::DoNotOptimize(linkTargets(input.text)); }},
+    {"linksPage", [](Input &input) { benchmark::DoNotOptimize(linksPage(input.lines)); }},
+    {"richToHtml", richToMarkup},
+    {"textPage", [](Input &input) { benchmark::DoNotOptimize(textPage(input.utf8, {})); }},
+    {"withoutFontTags", [](Input &input) { benchmark::DoNotOptimize(withoutFontTags(input.lf)); }},
+    {"toTextPlaces", findPlaces},
     {"Compact", [](Input &input) { benchmark::DoNotOptimize(Compact(input.text)); }},
     {"Simple", [](Input &input) { benchmark::DoNotOptimize(Simple(input.text)); }},
     {"Hierarchical", [](Input &input) { benchmark::DoNotOptimize(Hierarchical(input.tables)); }},
