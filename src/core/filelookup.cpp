@@ -22,8 +22,7 @@ std::optional<QString> FileLookup::choose(const AppContext &context, const QStri
 
 QString projectReference(const DocumentHost &document, const QString &file)
 {
-    const QString project = document.projectPath();
-    return hasProject(document) && !project.isEmpty() ? MakeRelativePath(project, file) : file;
+    return hasProject(document) ? MakeRelativePath(document.projectPath(), file) : file;
 }
 
 } // namespace zephira

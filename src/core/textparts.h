@@ -13,6 +13,26 @@ inline qsizetype behindCharacter(QStringView text, qsizetype offset)
     return offset + (pair ? 2 : 1);
 }
 
+/// Whether a character or byte is one of those that make up line ends.
+template<typename Unit>
+constexpr bool isLineEnd(Unit unit)
+{
+    return unit == u'\r' || unit == u'\n';
+}
+
+/// Whether a line ends with the character at `at`, a 0-based index: a line feed, or a carriage return without one.
+inline bool endsLine(QStringView text, qsizetype at)
+{
+    return text[at] == u'\n' || (text[at] == u'\r' && (at + 1 == text.size() || text[at + 1] != u'\n'));
+}
+
+/// Whether a character or byte is an ASCII letter.
+template<typename Unit>
+constexpr bool isAsciiLetter(Unit unit)
+{
+    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+}
+
 /// A view of text or bytes without the spaces (only character 32) at its ends.
 template<typename View>
 View withoutSpaces(View text)

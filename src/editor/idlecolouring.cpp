@@ -37,7 +37,7 @@ qsizetype packedFold(const FoldLine &line, int nextLevel)
     return level | std::min(nextLevel, deepestLevel) << nextLevelShift;
 }
 
-bool endsLine(QByteArrayView text)
+bool endsWithLineEnd(QByteArrayView text)
 {
     return !text.isEmpty() && (text.back() == '\n' || text.back() == '\r');
 }
@@ -226,7 +226,7 @@ IdleColouring::StyledLines IdleColouring::styleStretch(const Stretch &stretch, b
     StateCollector lines(settled);
     const LineState state = line == 0 ? 0 : static_cast<LineState>(m_engine.send(Sci::SCI_GETLINESTATE, line));
     const StyledRange styled = m_language->styleRange(text, state, m_styles, lines);
-    if (!lines.stopped && endsLine(text) && (lines.offsets.empty() || lines.offsets.back() < text.size())) {
+    if (!lines.stopped && endsWithLineEnd(text) && (lines.offsets.empty() || lines.offsets.back() < text.size())) {
         lines.offsets.push_back(text.size());
         lines.states.push_back(styled.state);
     }

@@ -12,7 +12,7 @@ constexpr LanguageDefinition (*definitions[])() = {
     javaDefinition, javaScriptDefinition, vbScriptDefinition, phpDefinition,
 };
 
-QStringList wordsOf(const CodeMaxLanguage &language)
+QStringList listedWords(const CodeMaxLanguage &language)
 {
     QStringList words;
     for (const QString &list : {language.Keywords, language.Operators, language.ScopeKeywords1, language.ScopeKeywords2,
@@ -25,9 +25,9 @@ QStringList wordsOf(const CodeMaxLanguage &language)
 
 QStringList languageWords()
 {
-    QStringList words = wordsOf(perlLanguage());
+    QStringList words = listedWords(perlLanguage());
     for (const auto &define : definitions)
-        words += wordsOf(define().language);
+        words += listedWords(define().language);
     return words;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/fonttags.h"
 
+#include "core/textparts.h"
+
 #include <algorithm>
 
 namespace zephira {
@@ -21,11 +23,6 @@ constexpr Section sections[] = {
 
 /// Elements whose content isn't markup.
 constexpr QByteArrayView rawElements[] = {"script", "style"};
-
-bool isAsciiLetter(char sign)
-{
-    return (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z');
-}
 
 bool isNamePart(char sign)
 {

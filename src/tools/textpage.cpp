@@ -2,6 +2,7 @@
 #include "tools/textpage.h"
 
 #include "core/filestore.h"
+#include "core/textparts.h"
 #include "files/textfile.h"
 
 #include <algorithm>
@@ -19,11 +20,6 @@ QByteArray valueOr(const QString &value, const char *fallback)
     return value.isEmpty() ? QByteArray(fallback) : value.toUtf8();
 }
 
-bool isLineEnd(char byte)
-{
-    return byte == '\r' || byte == '\n';
-}
-
 /// Adds a line end, the text, and another line end.
 void addAfterBlank(QByteArray &page, const QByteArray &text)
 {
@@ -34,7 +30,7 @@ void addLines(QByteArray &page, QByteArrayView text)
 {
     const char *const end = text.end();
     for (const char *next = text.begin(); next != end;) {
-        const char *const last = std::find_if(next, end, isLineEnd);
+        const char *const last = std::find_if(next, end, isLineEnd<char>);
         page.append(next, last - next).append("<BR>").append(lineEnd);
         next = last;
         if (end - next >= lineEnd.size() && QByteArrayView(next, lineEnd.size()) == lineEnd)

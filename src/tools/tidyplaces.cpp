@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/tidyplaces.h"
 
+#include "core/textparts.h"
+
 #include <algorithm>
 #include <numeric>
 
@@ -77,17 +79,6 @@ struct LineStart {
     int line = 0;
     qsizetype offset = 0;
 };
-
-bool isLineEnd(QChar sign)
-{
-    return sign == u'\r' || sign == u'\n';
-}
-
-/// Whether a line ends with this character; the first one of CR LF ends none.
-bool endsLine(const QString &text, qsizetype at)
-{
-    return text[at] == u'\n' || (text[at] == u'\r' && (at + 1 == text.size() || text[at + 1] != u'\n'));
-}
 
 /// Where a line begins; if there is no such line, the last one.
 LineStart startOfLine(const QString &text, int line)

@@ -23,7 +23,7 @@ bool isTooLarge(QSize size)
     return static_cast<qint64>(size.width()) * size.height() > maximumPicturePixels;
 }
 
-Error tooLarge(const QString &path, QSize size)
+Error tooManyPixels(const QString &path, QSize size)
 {
     return {Error::Code::TooLarge,
             u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(
@@ -45,7 +45,7 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
 
     const QSize size = reader.size();
     if (size.isValid() && isTooLarge(size))
-        return tooLarge(path, size);
+        return tooManyPixels(path, size);
     // The limit applies to the whole process, so it is lifted only while this picture is read.
     const auto restoreLimit =
         qScopeGuard([limit = QImageReader::allocationLimit()] { QImageReader::setAllocationLimit(limit); });
@@ -55,7 +55,7 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
         return Error{Error::Code::Malformed, u"The picture %1 can't be shown: %2."_s.arg(path, reader.errorString())};
     // Some formats don't say their size in advance.
     if (isTooLarge(image.size()))
-        return tooLarge(path, image.size());
+        return tooManyPixels(path, image.size());
     return QPixmap::fromImage(std::move(image));
 }
 

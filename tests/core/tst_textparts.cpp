@@ -37,6 +37,46 @@ private Q_SLOTS:
         QTEST(behindCharacter(text, offset), "behind");
     }
 
+    void linesEnd_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QList<qsizetype>>("ends");
+        QTest::newRow("none") << u"ab"_s << QList<qsizetype>{};
+        QTest::newRow("line feeds") << u"a\n\n"_s << QList<qsizetype>{1, 2};
+        QTest::newRow("both") << u"a\r\nb\r\n"_s << QList<qsizetype>{2, 5};
+        QTest::newRow("carriage returns") << u"a\r\rb\r"_s << QList<qsizetype>{1, 2, 4};
+        QTest::newRow("the other way round") << u"a\n\rb"_s << QList<qsizetype>{1, 2};
+    }
+
+    void linesEnd()
+    {
+        QFETCH(QString, text);
+        QList<qsizetype> found;
+        for (qsizetype at = 0; at < text.size(); ++at) {
+            if (endsLine(text, at))
+                found.append(at);
+        }
+        QTEST(found, "ends");
+    }
+
+    void charactersAndBytes()
+    {
+        QString lineEnds;
+        QString letters;
+        for (char16_t unit = 0; unit < 0x180; ++unit) {
+            const QChar character(unit);
+            lineEnds += isLineEnd(character) ? QString(character) : QString();
+            letters += isAsciiLetter(character) ? QString(character) : QString();
+            if (unit < 0x100) {
+                const char byte = static_cast<char>(unit);
+                QCOMPARE(isLineEnd(byte), isLineEnd(character));
+                QCOMPARE(isAsciiLetter(byte), isAsciiLetter(character));
+            }
+        }
+        QCOMPARE(lineEnds, u"\n\r"_s);
+        QCOMPARE(letters, u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"_s);
+    }
+
     void spacesAtBothEndsGo_data()
     {
         QTest::addColumn<QString>("text");

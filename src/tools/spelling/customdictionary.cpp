@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/spelling/customdictionary.h"
 
+#include "core/textparts.h"
 #include "files/utf8.h"
 
 #include <QSet>
@@ -13,11 +14,6 @@ namespace {
 
 constexpr qsizetype longestWord = 100;
 constexpr QByteArrayView byteOrderMark = "\xef\xbb\xbf";
-
-bool isLineEnd(char byte)
-{
-    return byte == '\n' || byte == '\r';
-}
 
 } // namespace
 
@@ -48,7 +44,7 @@ CustomDictionary readCustomDictionary(const QByteArray &bytes)
     qsizetype start = all.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
     while (start < all.size()) {
         ++number;
-        const auto end = std::find_if(all.begin() + start, all.end(), isLineEnd) - all.begin();
+        const auto end = std::find_if(all.begin() + start, all.end(), isLineEnd<char>) - all.begin();
         const QByteArrayView line = all.sliced(start, end - start).trimmed();
         start = end + (all.sliced(end).startsWith("\r\n") ? 2 : 1);
         if (line.isEmpty())

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/spelling/words.h"
 
+#include "core/textparts.h"
+
 #include <QChar>
 #include <QStringBuilder>
 
@@ -19,11 +21,6 @@ constexpr qsizetype longestWord = 60;
 constexpr bool isAscii(char16_t unit)
 {
     return unit < 0x80;
-}
-
-constexpr bool isAsciiLetter(char16_t unit)
-{
-    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
 }
 
 constexpr bool isAsciiDigit(char16_t unit)
@@ -103,12 +100,6 @@ bool endsSentence(QStringView text, qsizetype at)
     return (unit == u'.' || unit == u'!' || unit == u'?') && (at + 1 == text.size() || text[at + 1].isSpace());
 }
 
-/// Whether a line feed or a lone carriage return is at `at`, so that each line end counts once.
-bool isLineEnd(QStringView text, qsizetype at)
-{
-    return text[at] == u'\n' || (text[at] == u'\r' && (at + 1 == text.size() || text[at + 1] != u'\n'));
-}
-
 /// Adds a text without its runs of white space.
 void append(QString &shown, QStringView text)
 {
@@ -140,7 +131,7 @@ SentenceEnd startOfSentence(QStringView text, qsizetype wordStart)
             return {start};
         if (!text[start - 1].isSpace())
             lineEnds = 0;
-        else if (isLineEnd(text, start - 1) && ++lineEnds == 2)
+        else if (endsLine(text, start - 1) && ++lineEnds == 2)
             return {start};
     }
     return {between(text, start), start > 0};
@@ -154,7 +145,7 @@ SentenceEnd endOfSentence(QStringView text, qsizetype wordEnd)
             return {end + 1};
         if (!text[end].isSpace())
             lineEnds = 0;
-        else if (isLineEnd(text, end) && ++lineEnds == 2)
+        else if (endsLine(text, end) && ++lineEnds == 2)
             return {end};
     }
     return {between(text, end), end < text.size()};
