@@ -147,8 +147,11 @@ void findPlaces(Input &input)
 void richToMarkup(Input &input)
 {
     std::vector<FormattedRun> runs;
-    for (const QString &line : std::as_const(input.lines))
-        runs.push_back({line, {.bold = runs.size() % 2 == 0}});
+    for (const QString &line : std::as_const(input.lines)) {
+        CharacterFormat format;
+        format.bold = runs.size() % 2 == 0;
+        runs.push_back({line, format});
+    }
     benchmark::DoNotOptimize(richToHtml(runs));
 }
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArrayView>
 #include <QStringView>
+
+#include <type_traits>
 
 namespace zephira {
 
@@ -33,10 +36,12 @@ constexpr bool isAsciiLetter(Unit unit)
     return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
 }
 
-/// A view of text or bytes without the spaces (only character 32) at its ends.
+/// A view of text or bytes without the spaces (only character 32) at its ends. Only for views: of a text that is passed
+/// itself, a copy would be returned, and a view of that copy would outlive it.
 template<typename View>
 View withoutSpaces(View text)
 {
+    static_assert(std::is_same_v<View, QStringView> || std::is_same_v<View, QByteArrayView>);
     while (!text.isEmpty() && text.front() == u' ')
         text = text.sliced(1);
     while (!text.isEmpty() && text.back() == u' ')

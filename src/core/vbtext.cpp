@@ -63,7 +63,7 @@ T rounded(double number)
 template<typename T>
 T converted(const QString &text)
 {
-    const QStringView trimmed = withoutSpaces(text);
+    const QStringView trimmed = withoutSpaces(QStringView(text));
     const std::optional<quint64> bits = prefixedNumber(trimmed);
     if (!bits)
         return rounded<T>(decimalNumber(trimmed));
@@ -149,7 +149,7 @@ QString Trim(const QString &text)
 
 double CDbl(const QString &text)
 {
-    const QStringView trimmed = withoutSpaces(text);
+    const QStringView trimmed = withoutSpaces(QStringView(text));
     const std::optional<quint64> bits = prefixedNumber(trimmed);
     return bits ? static_cast<double>(*bits) : decimalNumber(trimmed);
 }

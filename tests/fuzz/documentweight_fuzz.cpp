@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
         return 0;
     std::memcpy(numbers, data, sizeof numbers);
     const auto [kilobytes, speed] = numbers;
-    if (!std::isfinite(kilobytes) || kilobytes < 0 || !std::isfinite(speed))
+    if (!std::isfinite(kilobytes) || kilobytes < 0 || !std::isfinite(speed) || speed <= 0)
         return 0;
     const double back = numberText(kilobytes).toDouble();
     check(std::abs(back - kilobytes) <= 1e-14 * kilobytes || kilobytes < 1e-300);

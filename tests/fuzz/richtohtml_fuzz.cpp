@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     std::vector<FormattedRun> runs;
     for (std::size_t at = 0; at + 4 <= size; at += 4) {
         const unsigned char bits = data[at];
-        runs.push_back({QString(data[at + 3] % 8, QChar(data[at + 3])),
+        runs.push_back({QString(data[at + 3] % 8, QChar(ushort{data[at + 3]})),
                         {.alignment = static_cast<CharacterFormat::Alignment>(bits % 3),
                          .bold = (bits & 8) != 0,
                          .underline = (bits & 16) != 0,

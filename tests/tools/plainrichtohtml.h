@@ -3,6 +3,8 @@
 
 #include "tools/richtohtml.h"
 
+#include <QStringList>
+
 #include <optional>
 #include <vector>
 
