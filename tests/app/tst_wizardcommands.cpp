@@ -245,7 +245,8 @@ private Q_SLOTS:
         image.fill(Qt::gray);
         const QString file = bench.folder() + u"/map.bmp"_s;
         QVERIFY(image.save(file));
-        bench.prompts.expectFile({.filter = u"JPEG files|*.jpg|GIF files|*.GIF|Bitmap files|*.BMP|All Files|*.*"_s},
+        bench.prompts.expectFile({.filter = u"JPEG files|*.jpg|GIF files|*.GIF|Bitmap files|*.BMP|All Files|*.*"_s,
+                                  .initialFolder = window.context().document.projectPath()},
                                  file);
         const QString expected = u"<!-- Created by Zephira -->\r\n<!-- Start of Image Map -->\r\n<IMG SRC=\"%1\" "
                                  "USEMAP=\"#%1\" WIDTH=60 HEIGHT=40 BORDER=0>\r\n<MAP NAME=\"%1\">\r\n"
