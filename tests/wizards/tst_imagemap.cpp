@@ -8,6 +8,7 @@
 #include <QDragEnterEvent>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
