@@ -243,7 +243,8 @@ private Q_SLOTS:
     void openGroupsHoldEveryExtensionOfALanguage()
     {
         QStringList listed;
-        for (const FilterGroup &group : groupsOf(openFilter()).sliced(2)) {
+        const QList<FilterGroup> groups = groupsOf(openFilter()).sliced(2);
+        for (const FilterGroup &group : groups) {
             if (group.caption == u"Style Sheets") {
                 QCOMPARE(group.extensions, QStringList{u"cs"_s});
                 continue;
@@ -324,7 +325,8 @@ private Q_SLOTS:
     {
         for (int row = 0; row < languageCount; ++row) {
             bool isBehindAll = false;
-            for (const FilterGroup &group : groupsOf(languageRow(row)->saveFilter.toString())) {
+            const QList<FilterGroup> groups = groupsOf(languageRow(row)->saveFilter.toString());
+            for (const FilterGroup &group : groups) {
                 if (group.caption == u"All Files") {
                     QCOMPARE(group.extensions, QStringList{u"*"_s});
                     isBehindAll = true;
