@@ -164,7 +164,8 @@ private Q_SLOTS:
         const QString html = converter.converted();
         QVERIFY2(html.startsWith(u"<p align=center><b><font face=\"Verdana\"><font color=#123456>one</b>"),
                  qPrintable(html));
-        QVERIFY2(html.contains(u"<u><i>") && html.contains(u"two</u></i><s>") && html.contains(u"three"), qPrintable(html));
+        QVERIFY2(html.contains(u"<u><i>") && html.contains(u"two</u></i><s>") && html.contains(u"three"),
+                 qPrintable(html));
     }
 
     void pastedFormatsAreSeen()

@@ -304,7 +304,9 @@ private Q_SLOTS:
         const QString page = uR"(<html><head><title>a</title>
 <script>if (a < b) document.write("<font>x</font>");</script><style>p { color: red }</style></head>
 <body bgcolor="#fff"><!-- <font> --><p>&eacute; &euro; a&nbsp;b &amp; <?php echo "<font>"; ?> <% x = "<center>" %>
-<pre>  a	b
+<pre>  a)"
+                             u"\t"
+                             uR"(b
   <font size=1>c</font></pre><a title="<font>" href="a?b=c&d=e">x</a></body></html>)"_s;
         const QString with = cleaned(page.toUtf8(), ticked({}, u"utf8"_s)).value().text;
         const QString without = cleaned(page.toUtf8(), ticked({u"Check7"_s}, u"utf8"_s)).value().text;
