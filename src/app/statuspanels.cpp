@@ -19,7 +19,7 @@ struct StatusPanel {
     const char16_t *text; ///< shown until there is a value
     const char16_t *name; ///< for assistive technology
     int stretch = 0;
-    const char16_t *widest = u""; ///< reserves the panel's width for changing values
+    const char16_t *widest = u""; ///< reserves the panel's width for changing values, where there is room
 };
 
 constexpr std::array<StatusPanel, 10> statusPanels = {{
@@ -53,20 +53,47 @@ protected:
     }
 };
 
+/// A label that keeps room for its widest value. Where the window is narrow, it makes do with half of that, whatever it
+/// shows, so that no value widens the window.
+class ValueLabel final : public QLabel
+{
+public:
+    ValueLabel(const QString &text, const QString &widest, QWidget *parent) : QLabel(text, parent), m_widest(widest) {}
+
+    QSize sizeHint() const override
+    {
+        const QSize natural = QLabel::sizeHint();
+        return {qMax(natural.width(), room()), natural.height()};
+    }
+    QSize minimumSizeHint() const override { return {room() / 2, QLabel::minimumSizeHint().height()}; }
+
+private:
+    int room() const { return fontMetrics().horizontalAdvance(m_widest) + 2 * margin(); }
+
+    QString m_widest;
+};
+
+QLabel *makeLabel(const StatusPanel &row, QWidget *parent)
+{
+    const QString text = QStringView(row.text).toString();
+    if (row.stretch)
+        return new PathLabel(text, parent);
+    if (row.widest[0])
+        return new ValueLabel(text, QStringView(row.widest).toString(), parent);
+    return new QLabel(text, parent);
+}
+
 } // namespace
 
 StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar), m_bar(bar), m_clock(clock)
 {
     for (std::size_t i = 0; i < statusPanels.size(); ++i) {
         const StatusPanel &row = statusPanels[i];
-        const QString text = QStringView(row.text).toString();
-        QLabel *label = row.stretch ? new PathLabel(text, &bar) : new QLabel(text, &bar);
+        QLabel *label = makeLabel(row, &bar);
         label->setObjectName(u"stBar_%1"_s.arg(i + 1));
         label->setAccessibleName(QStringView(row.name).toString());
         label->setTextFormat(Qt::PlainText);
         label->setMargin(2);
-        if (row.widest[0])
-            label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringView(row.widest).toString()) + 4);
         if (row.stretch)
             label->setSizePolicy(QSizePolicy::Ignored,
                                  QSizePolicy::Preferred); // A long path is cut instead of widening the window.

@@ -610,14 +610,32 @@ private Q_SLOTS:
         QVERIFY(!bar->isVisible());
     }
 
-    /// At the first start, on a screen of 1366 × 768 pixels at scale 2, minus the window frame.
+    void theWindowFitsALowScreen_data()
+    {
+        QTest::addColumn<int>("scale");
+        QTest::addColumn<QSize>("frame"); // As large as the scale leaves room for.
+        QTest::newRow("1") << 1 << QSize(16, 48);
+        QTest::newRow("2") << 2 << QSize(16, 48);
+        QTest::newRow("3") << 3 << QSize(16, 0);
+    }
+
+    /// At the first start, on a screen of 1366 × 768 pixels, minus the window frame, whatever the panels show.
     void theWindowFitsALowScreen()
     {
+        QFETCH(int, scale);
+        QFETCH(QSize, frame);
         WindowBench bench;
         bench.write(u"recovery/open-20240229-120000-000-1-page.html"_s, "lost");
-        const QSize least = bench.start().minimumSizeHint();
-        QVERIFY2(least.width() <= 683 - 16 && least.height() <= 384 - 48,
-                 qPrintable(u"%1 x %2"_s.arg(least.width()).arg(least.height())));
+        frmmain &window = bench.start();
+        const QSize room = QSize(1366 / scale, 768 / scale) - frame;
+        for (const bool isLong : {false, true}) {
+            for (const int panel : {2, 4, 9, 10})
+                bench.find<QLabel>(u"stBar_%1"_s.arg(panel))->setText(isLong ? u"12345678901234567890"_s : u"1"_s);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+            const QSize least = window.minimumSizeHint();
+            QVERIFY2(least.width() <= room.width() && least.height() <= room.height(),
+                     qPrintable(u"%1 x %2"_s.arg(least.width()).arg(least.height())));
+        }
     }
 
     void nothingIsOfferedWithoutACrash()
