@@ -9,12 +9,12 @@
 #include "ftp/ftpclient.h"
 #include "ftp/ftpmenus.h"
 #include "ftp/localpane.h"
-#include "ftp/menukey.h"
 #include "ftp/remotepane.h"
 #include "ftp/sessionlogfile.h"
 #include "ui_frmmainftp.h"
 #include "widgets/dirlistbox.h"
 #include "widgets/filelistview.h"
+#include "widgets/menukey.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -71,11 +71,6 @@ bool LocalCommands::confirm(const QString &question)
     return m_context.prompts.ask({question, {}, Question::Icon::Question, Question::Buttons::YesNo}) == Answer::Yes;
 }
 
-bool LocalCommands::mayChange(const QStringList &names, const QString &question)
-{
-    return mayChangeProgramData(m_context, m_client.session.ftpLocalFolder, names, question);
-}
-
 QString LocalCommands::pathOf(const FileRow &file) const
 {
     return m_client.session.ftpLocalFolder + file.name;
@@ -186,7 +181,7 @@ void LocalCommands::deleteFiles()
     QStringList names;
     for (const FileRow &file : files)
         names.append(file.name);
-    if (!mayChange(names, u"Delete it all the same?"_s))
+    if (!mayChangeProgramData(m_context, m_client.session.ftpLocalFolder, names, u"Delete it all the same?"_s))
         return;
     for (const FileRow &file : files)
         require(QFile::remove(pathOf(file)),
@@ -219,7 +214,7 @@ bool LocalCommands::renameEnded(const QString &oldName, const QString &newName)
         refuse(u"More than one file with the same name in one folder? no way!"_s);
         return false;
     }
-    if (!mayChange({oldName}, u"Rename it all the same?"_s))
+    if (!mayChangeProgramData(m_context, folder, {oldName}, u"Rename it all the same?"_s))
         return false;
     require(QFile::rename(folder + oldName, folder + newName), u"Path/File access error"_s);
     return true;

@@ -44,9 +44,6 @@ public:
 private:
     void refuse(const QString &message);
     bool confirm(const QString &question);
-    /// Asks for confirmation if the program itself needs some of these files, listing their names. Returns true if the
-    /// command may proceed.
-    bool mayChange(const QStringList &names, const QString &question);
     QString pathOf(const FileRow &file) const;
 
     FtpClient &m_client;

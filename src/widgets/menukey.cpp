@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ftp/menukey.h"
+#include "widgets/menukey.h"
 
 #include <QAbstractItemView>
 #include <QContextMenuEvent>
