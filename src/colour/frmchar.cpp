@@ -7,6 +7,8 @@
 #include "core/pasteitem.h"
 #include "ui_frmchar.h"
 
+#include <QWindow>
+
 namespace zephira {
 
 namespace {
@@ -14,12 +16,18 @@ namespace {
 /// How far the shadow of the enlarged cell reaches, in pixels.
 constexpr QPoint shadow{3, 3};
 
+/// A window of its own, not a dialog: a dialog would stay above the program's other windows.
+constexpr Qt::WindowFlags windowOfItsOwn = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+    | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
+
 } // namespace
 
 frmChar::frmChar(const AppContext &context, QWidget *owner)
-    : QDialog(owner), m_ui(std::make_unique<Ui::frmChar>()), m_context(context)
+    : QDialog(owner, windowOfItsOwn), m_ui(std::make_unique<Ui::frmChar>()), m_context(context)
 {
     m_ui->setupUi(this);
+    // The program ends with its main window, even while this one is open.
+    setAttribute(Qt::WA_QuitOnClose, false);
     // The two lie over the grid and must not take its mouse events.
     for (QLabel *picture : {m_ui->Picture3, m_ui->Picture2})
         picture->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -49,6 +57,14 @@ frmChar::~frmChar()
 {
     // The grid still loses the focus, and reports it, after this part of the form is destroyed.
     m_ui->Picture1->disconnect(this);
+}
+
+void frmChar::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    // The parent is there only so that it takes this window along when it is destroyed.
+    if (QWindow *window = windowHandle())
+        window->setTransientParent(nullptr);
 }
 
 void frmChar::makeCursorInvisible()

@@ -13,7 +13,8 @@ namespace Ui {
 class frmChar;
 }
 
-/// The character map: collects characters in a text box, from which they go to the document as they are.
+/// The character map: collects characters in a text box, from which they go to the document as they are. Its window has
+/// no owner, so the main window can cover it; it still ends with the main window.
 class frmChar final : public QDialog
 {
     Q_OBJECT
@@ -28,6 +29,9 @@ public:
     /// Writes the collected characters into the document and closes: in visual mode as text in place of the designer's
     /// selection, otherwise behind the code view's.
     Q_INVOKABLE void inserttext();
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 private:
     void addCharacter();

@@ -6,9 +6,13 @@
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -238,6 +242,29 @@ private Q_SLOTS:
         visual.world.designer.showing = true;
         visual.form.press(u"Command1"_s);
         QVERIFY(visual.world.designer.pasted.isEmpty());
+    }
+
+    void theWindowHasNoOwner()
+    {
+        TestContext world;
+        auto main = std::make_unique<QWidget>();
+        main->show();
+        const QPointer<QWidget> map = Map::catalogue().make(u"frmChar"_s, world, main.get());
+        map->show();
+        QVERIFY(QTest::qWaitForWindowExposed(map));
+        const auto hasOwner = [&] { return map->windowHandle()->transientParent() != nullptr; };
+        QVERIFY(map->isWindow());
+        QVERIFY(!hasOwner());
+        QCOMPARE(map->windowType(), Qt::Window);
+        map->hide();
+        map->show();
+        QVERIFY(!hasOwner());
+        // The main window's end is the program's end, and takes the map along.
+        QTimer::singleShot(0, main.get(), &QWidget::close);
+        QTimer::singleShot(5000, main.get(), [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        main.reset();
+        QVERIFY(!map);
     }
 
     void cancelAndEscapeClose()
