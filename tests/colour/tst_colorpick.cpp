@@ -24,6 +24,12 @@ FormCatalogue catalogue()
     return forms;
 }
 
+QStringList allBoxes()
+{
+    return {u"HEXTEXT_0"_s, u"HEXTEXT_1"_s, u"HEXTEXT_2"_s, u"RGBTEXT_0"_s, u"RGBTEXT_1"_s,
+            u"RGBTEXT_2"_s, u"LONGTEXT"_s,  u"TEXTHEX"_s,   u"TEXTRGB"_s,   u"TEXTLONG"_s};
+}
+
 /// The picker over a document in which `selected` is selected.
 struct Picker {
     TestContext world;
@@ -39,8 +45,7 @@ struct Picker {
     QStringList shown() const
     {
         QStringList values;
-        for (const QString &name : {u"HEXTEXT_0"_s, u"HEXTEXT_1"_s, u"HEXTEXT_2"_s, u"RGBTEXT_0"_s, u"RGBTEXT_1"_s,
-                                    u"RGBTEXT_2"_s, u"LONGTEXT"_s, u"TEXTHEX"_s, u"TEXTRGB"_s, u"TEXTLONG"_s})
+        for (const QString &name : allBoxes())
             values.append(form->value(name));
         return values;
     }
@@ -149,18 +154,81 @@ private Q_SLOTS:
         QCOMPARE(box.accessibleDescription(), QString());
     }
 
+    void everyBoxSelectsItsTextOnFocus_data()
+    {
+        QTest::addColumn<QString>("box");
+        for (const QString &name : allBoxes())
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
     void everyBoxSelectsItsTextOnFocus()
     {
+        QFETCH(QString, box);
         const Picker picker;
-        for (const QString &name :
-             {u"HEXTEXT_1"_s, u"RGBTEXT_0"_s, u"LONGTEXT"_s, u"TEXTHEX"_s, u"TEXTRGB"_s, u"TEXTLONG"_s}) {
-            auto &box = picker.form->get<SelectingBox>(name);
-            box.setFocus();
-            QCOMPARE(box.selectedText(), box.text());
+        auto &chosen = picker.form->get<SelectingBox>(box);
+        const QString text = chosen.text();
+        QVERIFY(!text.isEmpty());
+        // By the Tab key.
+        picker.form->get(u"Command_colorpicker"_s).setFocus();
+        for (int i = 0; i < 20 && picker.form->focus() != box; ++i)
+            picker.form->key(Qt::Key_Tab);
+        QCOMPARE(picker.form->focus(), box);
+        QCOMPARE(chosen.selectedText(), text);
+        // By the mouse.
+        picker.form->get(u"Command_colorpicker"_s).setFocus();
+        chosen.deselect();
+        picker.form->press(box);
+        QTRY_COMPARE(chosen.selectedText(), text);
+        // A click into the box that has the focus puts the caret there.
+        picker.form->press(box);
+        QTest::qWait(0);
+        QCOMPARE(chosen.selectedText(), QString());
+    }
+
+    void updatingIsOnWhileTheFormWrites()
+    {
+        const Picker picker;
+        QWidget &form = picker.form->widget();
+        QVERIFY(!form.property("Updating").toBool());
+        for (const QString &typed : {u"HEXTEXT_1"_s, u"RGBTEXT_2"_s, u"LONGTEXT"_s}) {
+            // Each box that changes, with the flag at that moment.
+            QMap<QString, bool> seen;
+            QObject listener;
+            for (const QString &name : allBoxes()) {
+                auto &box = picker.form->get<SelectingBox>(name);
+                // Results only show; what counts is the boxes that could start another round.
+                if (!box.isReadOnly())
+                    connect(&box, &QLineEdit::textChanged, &listener,
+                            [&seen, &form, name] { seen[name] = form.property("Updating").toBool(); });
+            }
+            picker.form->set(typed, typed == u"LONGTEXT"_s ? u"657930"_s : u"77"_s);
+            QVERIFY(seen.contains(typed));
+            QVERIFY(!seen.take(typed));
+            QVERIFY(seen.size() >= 2);
+            QVERIFY(!seen.values().contains(false));
+            QVERIFY(!form.property("Updating").toBool());
         }
-        auto &box = picker.form->get<SelectingBox>(u"TEXTHEX"_s);
-        picker.form->press(u"TEXTHEX"_s);
-        QTRY_COMPARE(box.selectedText(), u"#80FFFF"_s);
+    }
+
+    void aDecimalAbove255ChangesNothingElse()
+    {
+        const Picker picker;
+        const QStringList expected = picker.shown();
+        for (const int value : {256, 257, 300, 512, 999}) {
+            for (int channel = 0; channel < 3; ++channel) {
+                const QString box = u"RGBTEXT_%1"_s.arg(channel);
+                const QString before = picker.form->value(box);
+                picker.form->set(box, QString::number(value));
+                QVERIFY(picker.isMarked(box));
+                QStringList changed = expected;
+                changed[3 + channel] = QString::number(value);
+                QCOMPARE(picker.shown(), changed);
+                QCOMPARE(picker.colour(), QColor(128, 255, 255));
+                picker.form->set(box, before);
+                QVERIFY(!picker.isMarked(box));
+                QCOMPARE(picker.shown(), expected);
+            }
+        }
     }
 
     void theCopyButtons()
@@ -231,6 +299,10 @@ private Q_SLOTS:
         QTest::newRow("three digits") << u"#0af"_s << u"00 AA FF 0 170 255 16755200 #00AAFF RGB(0,170,255) 16755200"_s;
         QTest::newRow("six digits") << u"#0f0a01"_s << u"0F 0A 01 15 10 1 68111 #0F0A01 RGB(15,10,1) 68111"_s;
         QTest::newRow("channels") << u"rgb(1, 2, 3)"_s << u"01 02 03 1 2 3 197121 #010203 RGB(1,2,3) 197121"_s;
+        QTest::newRow("percentages") << u"rgb(100%, 50%, 0%)"_s
+                                     << u"FF 80 00 255 128 0 33023 #FF8000 RGB(255,128,0) 33023"_s;
+        QTest::newRow("the newest name") << u"rebeccapurple"_s
+                                         << u"66 33 99 102 51 153 10040166 #663399 RGB(102,51,153) 10040166"_s;
         QTest::newRow("name") << u"navy"_s << u"00 00 80 0 0 128 8388608 #000080 RGB(0,0,128) 8388608"_s;
     }
 

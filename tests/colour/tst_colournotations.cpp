@@ -161,6 +161,10 @@ private Q_SLOTS:
         row("letters in the long box", u"l=12x"_s, u"80 FF FF 128 255 255 12x! #80FFFF RGB(128,255,255) 16777088"_s);
         row("not hexadecimal", u"h0=G1"_s, u"G1! FF FF 128 255 255 16777088 #80FFFF RGB(128,255,255) 16777088"_s);
         row("above 255", u"r0=256"_s, u"80 FF FF 256! 255 255 16777088 #80FFFF RGB(128,255,255) 16777088"_s);
+        row("the largest of three digits", u"r2=999"_s,
+            u"80 FF FF 128 255 999! 16777088 #80FFFF RGB(128,255,255) 16777088"_s);
+        row("three too large", u"r0=999 r1=300 r2=256"_s,
+            u"80 FF FF 999! 300! 256! 16777088 #80FFFF RGB(128,255,255) 16777088"_s);
         row("letters in a decimal box", u"r0=a"_s, u"80 FF FF a! 255 255 16777088 #80FFFF RGB(128,255,255) 16777088"_s);
         row("an empty box ends quietly", u"h0="_s, u" FF FF 128 255 255 16777088 #80FFFF RGB(128,255,255) 16777088"_s);
         row("an empty decimal box", u"r1="_s, u"80 FF FF 128  255 16777088 #80FFFF RGB(128,255,255) 16777088"_s);
@@ -209,7 +213,7 @@ private Q_SLOTS:
         for (int i = 0; i < 10'000; ++i) {
             const int value = random.bounded(256);
             const int channel = random.bounded(3);
-            switch (random.bounded(4)) {
+            switch (random.bounded(5)) {
             case 0:
                 boxes.setText(Notation::Hex, channel, QString::number(value, 16));
                 QCOMPARE(static_cast<int>(channelsOf(boxes.colour).at(static_cast<std::size_t>(channel))), value);
@@ -222,6 +226,23 @@ private Q_SLOTS:
                 const quint32 colour = random.bounded(0x1000000U);
                 boxes.setText(Notation::Long, 0, QString::number(colour));
                 QCOMPARE(boxes.colour, colour);
+                break;
+            }
+            case 3: {
+                // A decimal that is too large marks its own box and changes nothing else.
+                const QString expected = boxes.state();
+                const QString before = boxes.text(Notation::Rgb, channel);
+                const QString large = QString::number(random.bounded(256, 1000));
+                const int rounds = boxes.rounds;
+                boxes.setText(Notation::Rgb, channel, large);
+                // The decimal boxes are the parts 3 to 5.
+                QStringList parts = expected.split(u' ');
+                parts[3 + channel] = large + u'!';
+                QCOMPARE(boxes.state(), parts.join(u' '));
+                QCOMPARE(boxes.rounds, rounds);
+                boxes.setText(Notation::Rgb, channel, before);
+                // The hexadecimal box follows, in upper case.
+                QCOMPARE(boxes.state().toUpper(), expected.toUpper());
                 break;
             }
             default: {

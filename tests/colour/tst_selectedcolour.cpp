@@ -27,6 +27,17 @@ private Q_SLOTS:
         row(u"RGB( 255 , 0 , 16 )"_s, 0x1000ff);
         row(u"red"_s, 0x0000ff);
         row(u"CornflowerBlue"_s, 0xed9564);
+        row(u"rgb(100%,0%,50%)"_s, 0x8000ff);
+        row(u"rgb( 33.3% , 0.2% , 99.9% )"_s, 0xff0155);
+        row(u"rebeccapurple"_s, 0x993366);
+        row(u"RebeccaPurple"_s, 0x993366);
+        row(u"rgb(101%,0%,0%)"_s, -1);
+        row(u"rgb(100.5%,0%,0%)"_s, -1);
+        row(u"rgb(10%,0,0)"_s, -1);
+        row(u"rgb(10,20%,30)"_s, -1);
+        row(u"rgb(-1%,0%,0%)"_s, -1);
+        row(u"rgb(.%,0%,0%)"_s, -1);
+        row(u"rgb(99999999999999999999999999999%,0%,0%)"_s, -1);
         row({}, -1);
         row(u"#12"_s, -1);
         row(u"#1234"_s, -1);
