@@ -56,6 +56,12 @@ void frmColorSpy::hideEvent(QHideEvent *event)
     QDialog::hideEvent(event);
 }
 
+bool frmColorSpy::focusNextPrevChild(bool next)
+{
+    // In a text box the arrow keys would move the caret and no longer the pointer.
+    return !m_timer->isActive() && QDialog::focusNextPrevChild(next);
+}
+
 void frmColorSpy::start()
 {
     if (!m_sources.screen->isReadable()) {

@@ -31,8 +31,9 @@ frmZoom::~frmZoom() = default;
 void frmZoom::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    m_timer->start();
-    tick();
+    // What is shown may be old.
+    m_ticks = {};
+    watch();
 }
 
 void frmZoom::hideEvent(QHideEvent *event)
@@ -46,6 +47,23 @@ void frmZoom::resizeEvent(QResizeEvent *event)
     QDialog::resizeEvent(event);
     if (const auto pointer = m_screen.pointer(); pointer && isVisible())
         redraw(*pointer);
+}
+
+void frmZoom::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isVisible())
+        watch();
+}
+
+void frmZoom::watch()
+{
+    if (isMinimized()) {
+        m_timer->stop();
+        return;
+    }
+    m_timer->start();
+    tick();
 }
 
 void frmZoom::tick()

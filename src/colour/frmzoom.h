@@ -32,8 +32,11 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    /// Starts the timer, or stops it while the window is minimised and shows nothing.
+    void watch();
     void tick();
     void redraw(QPoint pointer);
     void dodge();

@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <ctime>
 
@@ -205,18 +206,92 @@ private Q_SLOTS:
         QVERIFY(!timer->isActive());
     }
 
+    void theZoomStaysOnTopAndTakesNoActivation()
+    {
+        const Spy spy;
+        spy.press();
+        const frmZoom *zoom = spy.zoom();
+        QVERIFY(QTest::qWaitForWindowExposed(zoom->windowHandle()));
+        QVERIFY(zoom->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        QVERIFY(zoom->testAttribute(Qt::WA_ShowWithoutActivating));
+        QCOMPARE(spy.form->focus(), u"picCursor"_s);
+        // The picture fills the window.
+        QCOMPARE(zoom->findChild<ZoomPicture *>(u"picZoom"_s)->geometry(), zoom->rect());
+    }
+
+    void theTimersRunOnlyWhileTheyAreNeeded()
+    {
+        const Spy spy;
+        spy.press();
+        const auto *timer = spy.zoom()->findChild<QTimer *>(u"tmrZoom"_s);
+        // The view stays after the release, and stays fresh; the spy's timer is off.
+        spy.release();
+        QVERIFY(!spy.timer().isActive());
+        QVERIFY(spy.zoom()->isVisible());
+        QVERIFY(timer->isActive());
+        // While nothing moves, the screen is read at the told refresh only, every 250 ms.
+        QTest::qWait(300);
+        const int before = spy.screen->reads;
+        QTest::qWait(1100);
+        const int reads = spy.screen->reads - before;
+        QVERIFY2(reads >= 1 && reads <= 5, qPrintable(QString::number(reads)));
+        // A minimised view needs no timer.
+        spy.zoom()->showMinimized();
+        QTRY_VERIFY(spy.zoom()->isMinimized());
+        QVERIFY(!timer->isActive());
+        spy.zoom()->showNormal();
+        QTRY_VERIFY(timer->isActive());
+        spy.zoom()->hide();
+        QVERIFY(!timer->isActive());
+    }
+
+    void theZoomIsFreshWhenItIsShownAgain()
+    {
+        const Spy spy;
+        spy.screen->place = {100, 100};
+        spy.press();
+        spy.release();
+        spy.zoom()->hide();
+        spy.screen->pixels.fill(Qt::red);
+        spy.press();
+        const auto *picture = spy.zoom()->findChild<ZoomPicture *>(u"picZoom"_s);
+        QCOMPARE(picture->picture().pixel(5, 5), qRgb(255, 0, 0));
+    }
+
+    void tabKeepsTheArrowKeysWithTheSpy()
+    {
+        const Spy spy;
+        spy.form->key(Qt::Key_Space);
+        spy.form->key(Qt::Key_Tab);
+        QCOMPARE(spy.form->focus(), u"picCursor"_s);
+        spy.form->key(Qt::Key_Right);
+        QCOMPARE(spy.screen->place, QPoint(6, 7));
+        spy.form->key(Qt::Key_Return);
+        spy.form->key(Qt::Key_Tab);
+        QCOMPARE(spy.form->focus(), u"txtColor"_s);
+    }
+
+    /// Geometry, reading the pixels, drawing, and painting in the window.
     void theZoomIsDrawnFast()
     {
-        const FakeScreen screen;
-        const QSize size(400, 400);
+        const Spy spy;
+        spy.press();
+        frmZoom *zoom = spy.zoom();
+        auto *timer = zoom->findChild<QTimer *>(u"tmrZoom"_s);
+        zoom->resize(400, 400);
+        const auto *picture = zoom->findChild<ZoomPicture *>(u"picZoom"_s);
+        QTRY_COMPARE(picture->picture().size(), QSize(400, 400));
         double best = 1000;
         for (int i = 0; i < 20; ++i) {
+            spy.screen->place = {100 + i, 100};
+            const int reads = spy.screen->reads;
             const double before = processorTime();
-            const ZoomView view = zoomView({100, 100}, size);
-            const QImage picture = zoomPicture(screen.picture(view.area), view, size);
+            QVERIFY(QMetaObject::invokeMethod(timer, "timeout"));
+            zoom->repaint();
             best = std::min(best, processorTime() - before);
-            QCOMPARE(picture.size(), size);
+            QCOMPARE(spy.screen->reads, reads + 1);
         }
+        qInfo("a redraw takes %.2f ms", best);
         QVERIFY2(best < 4, qPrintable(u"%1 ms"_s.arg(best)));
     }
 };

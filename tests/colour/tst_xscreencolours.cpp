@@ -3,14 +3,22 @@
 #include "colour/registerforms.h"
 #include "colour/spyhandle.h"
 #include "colour/xscreencolours.h"
+#include "colour/zoompicture.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPainter>
 #include <QScreen>
 #include <QTest>
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+#include <memory>
+
+#include <xcb/xcb.h>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -41,6 +49,36 @@ protected:
         QPainter(this).drawImage(QPoint(), picture);
     }
 };
+
+struct Free {
+    void operator()(void *memory) const { std::free(memory); }
+};
+
+template<typename T>
+using Reply = std::unique_ptr<T, Free>;
+
+xcb_connection_t *server()
+{
+    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+}
+
+xcb_atom_t atomOf(QByteArrayView name)
+{
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        server(), xcb_intern_atom(server(), 0, static_cast<uint16_t>(name.size()), name.data()), nullptr));
+    return reply->atom;
+}
+
+/// The values of a window's property, which are window ids or atoms.
+QList<quint32> propertyOf(const QWidget &window, QByteArrayView name)
+{
+    constexpr uint32_t longest = 64;
+    const auto request = xcb_get_property(server(), 0, static_cast<xcb_window_t>(window.winId()), atomOf(name),
+                                          XCB_GET_PROPERTY_TYPE_ANY, 0, longest);
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(server(), request, nullptr));
+    const auto *values = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+    return {values, values + xcb_get_property_value_length(reply.get()) / 4};
+}
 
 } // namespace
 
@@ -109,6 +147,12 @@ private Q_SLOTS:
         form.get(u"picCursor"_s).setFocus();
         m_screen.movePointer({41, 43});
         QTest::keyClick(&form.get(u"picCursor"_s), Qt::Key_Space);
+        // The magnified view lies above, and the keys stay with the spy.
+        auto *zoom = form.widget().findChild<frmZoom *>();
+        QVERIFY(QTest::qWaitForWindowExposed(zoom));
+        QTRY_VERIFY(propertyOf(*zoom, "_NET_WM_STATE").contains(atomOf("_NET_WM_STATE_ABOVE")));
+        QTest::qWait(300);
+        QCOMPARE(QApplication::activeWindow(), &form.widget());
         QTRY_COMPARE(form.value(u"txtRed"_s), u"41"_s);
         QTest::keyClick(&form.get(u"picCursor"_s), Qt::Key_Right);
         QTRY_COMPARE(form.value(u"txtRed"_s), u"42"_s);
@@ -118,8 +162,38 @@ private Q_SLOTS:
         QTest::keyClick(&form.get(u"picCursor"_s), Qt::Key_Return);
         QCOMPARE(form.value(u"txtBlue"_s), u"77"_s);
         // The magnified view has got out of the pointer's way.
-        const auto *zoom = form.widget().findChild<frmZoom *>();
         QTRY_VERIFY(!zoom->frameGeometry().contains(QCursor::pos()));
+    }
+
+    void theMapHasNoOwner()
+    {
+        TestContext world;
+        FormCatalogue forms;
+        colour::registerForms(forms);
+        QWidget owner;
+        owner.show();
+        const std::unique_ptr<QWidget> map(forms.make(u"frmChar"_s, world, &owner));
+        map->show();
+        QVERIFY(QTest::qWaitForWindowExposed(map.get()));
+        // Nothing tells the window manager to keep it above another window.
+        QCOMPARE(propertyOf(*map, "WM_TRANSIENT_FOR"), QList<quint32>());
+        QCOMPARE(propertyOf(*map, "_NET_WM_WINDOW_TYPE"), QList<quint32>{atomOf("_NET_WM_WINDOW_TYPE_NORMAL")});
+    }
+
+    /// As in the window, with the screen read from the server.
+    void theZoomIsDrawnFast()
+    {
+        const QSize size(400, 400);
+        double best = 1000;
+        for (int i = 0; i < 20; ++i) {
+            const std::clock_t before = std::clock();
+            const ZoomView view = zoomView({100, 100}, size);
+            const QImage picture = zoomPicture(m_screen.picture(view.area), view, size);
+            best = std::min(best, 1e3 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC);
+            QCOMPARE(picture.size(), size);
+        }
+        qInfo("a redraw takes %.2f ms", best);
+        QVERIFY2(best < 4, qPrintable(u"%1 ms"_s.arg(best)));
     }
 
 private:
