@@ -1,5 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "colour/colourportal.h"
+#include "colour/colourshape.h"
+#include "colour/fakescreen.h"
+#include "colour/frmcolorspy.h"
+#include "colour/frmzoom.h"
+#include "colour/registerforms.h"
+#include "support/fakes.h"
+#include "support/formkit.h"
 #include "support/testregistry.h"
 
 #include <QDBusArgument>
@@ -82,6 +89,56 @@ public Q_SLOTS:
 private:
     QDBusConnection m_bus;
 };
+
+/// A request that the portal works on, which can be told to end.
+class FakeRequest final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Request")
+
+public:
+    int closed = 0;
+
+public Q_SLOTS:
+    void Close() { ++closed; }
+};
+
+namespace {
+
+/// The spy on a desktop that doesn't let programs read the screen, with a portal on a private bus.
+struct PortalSpy {
+    TestContext world;
+    std::unique_ptr<LivingForm> form;
+
+    PortalSpy(const QDBusConnection &bus, std::chrono::milliseconds limit)
+    {
+        auto screen = std::make_shared<FakeScreen>();
+        screen->readable = false;
+        FormCatalogue forms;
+        colour::registerForms(forms, {screen, [bus, limit] {
+                                          auto portal = std::make_unique<ColourPortal>(bus);
+                                          portal->setTimeLimit(limit);
+                                          return portal;
+                                      }});
+        form = std::make_unique<LivingForm>(forms, u"frmColorSpy"_s, world);
+    }
+
+    void press() const { QTest::mouseClick(&form->get(u"picCursor"_s), Qt::LeftButton); }
+    QString status() const { return form->value(u"lblStatus"_s); }
+    bool canCancel() const { return form->get(u"cmdCancel"_s).isEnabled(); }
+    QStringList shown() const
+    {
+        QStringList values;
+        for (const QString &name : {u"txtColor"_s, u"txtHTML"_s, u"txtRed"_s, u"txtGreen"_s, u"txtBlue"_s})
+            values.append(form->value(name));
+        return values;
+    }
+};
+
+const QStringList noColour{{}, {}, {}, {}, {}};
+const QString waiting = u"Click a pixel on the screen."_s;
+
+} // namespace
 
 /// Picking a colour through a portal on a bus of the test's own.
 class TstColourPortal final : public QObject
@@ -237,6 +294,107 @@ private Q_SLOTS:
         m_portal->answers = true;
         m_colour->pick();
         QTRY_COMPARE(m_picked->size(), 1);
+    }
+
+    void theFormShowsThePickedColour()
+    {
+        m_portal->results = {{u"color"_s, QVariant::fromValue(Shares{1, 0.5, 0})}};
+        const PortalSpy spy(*m_client, 30s);
+        QVERIFY(!spy.canCancel());
+        spy.press();
+        QCOMPARE(spy.status(), waiting);
+        QVERIFY(spy.canCancel());
+        QTRY_COMPARE(spy.shown(), (QStringList{u"33023"_s, u"#FF8000"_s, u"255"_s, u"128"_s, u"0"_s}));
+        QCOMPARE(spy.form->get<ColourShape>(u"picColor"_s).fillColour(), QColor(255, 128, 0));
+        QCOMPARE(spy.status(), QString());
+        QVERIFY(!spy.canCancel());
+        // There is nothing to magnify, and nothing to read again and again.
+        QVERIFY(!spy.form->widget().findChild<frmZoom *>());
+        QVERIFY(!spy.form->widget().findChild<QTimer *>(u"timSpy"_s)->isActive());
+    }
+
+    void theFormByKeyboard()
+    {
+        m_portal->results = {{u"color"_s, QVariant::fromValue(Shares{0, 0, 1})}};
+        const PortalSpy spy(*m_client, 30s);
+        spy.form->key(Qt::Key_Space);
+        QTRY_COMPARE(spy.form->value(u"txtHTML"_s), u"#0000FF"_s);
+    }
+
+    void theFormAfterNoPick()
+    {
+        m_portal->response = 1;
+        const PortalSpy spy(*m_client, 30s);
+        spy.press();
+        QTRY_VERIFY(!spy.canCancel());
+        QCOMPARE(spy.status(), QString());
+        QCOMPARE(spy.shown(), noColour);
+    }
+
+    void theFormWithoutAPortal()
+    {
+        QVERIFY(m_server->unregisterService(u"org.freedesktop.portal.Desktop"_s));
+        const PortalSpy spy(*m_client, 30s);
+        spy.press();
+        QTRY_COMPARE(spy.status(), u"This desktop doesn't let programs read the screen."_s);
+        QVERIFY(!spy.canCancel());
+        QCOMPARE(spy.shown(), noColour);
+    }
+
+    void theFormEndsTheRequest_data()
+    {
+        QTest::addColumn<QString>("by");
+        for (const QString &by : {u"Cancel"_s, u"Escape"_s, u"closing"_s})
+            QTest::newRow(qPrintable(by)) << by;
+    }
+
+    void theFormEndsTheRequest()
+    {
+        QFETCH(QString, by);
+        m_portal->answers = false;
+        const PortalSpy spy(*m_client, 30s);
+        spy.press();
+        QTRY_COMPARE(m_portal->requests.size(), 1);
+        FakeRequest request;
+        QVERIFY(m_server->registerObject(m_portal->requests.constFirst(), &request, QDBusConnection::ExportAllSlots));
+        // A second press doesn't ask again.
+        spy.press();
+        if (by == u"Cancel"_s)
+            spy.form->press(u"cmdCancel"_s);
+        else if (by == u"Escape"_s)
+            spy.form->key(Qt::Key_Escape);
+        else
+            spy.form->widget().close();
+        QVERIFY(!spy.canCancel());
+        QCOMPARE(spy.status(), QString());
+        QCOMPARE(spy.form->isOpen(), by != u"closing"_s);
+        QTRY_COMPARE(request.closed, 1);
+        // An answer that was under way changes nothing.
+        m_portal->results = {{u"color"_s, QVariant::fromValue(Shares{0, 1, 0})}};
+        m_portal->answer(m_portal->requests.constFirst());
+        QTest::qWait(100);
+        QCOMPARE(spy.shown(), noColour);
+        QCOMPARE(m_portal->requests.size(), 1);
+    }
+
+    void theFormOverAPortalThatNeverAnswers()
+    {
+        m_portal->answers = false;
+        const PortalSpy spy(*m_client, 300ms);
+        spy.press();
+        QVERIFY(spy.canCancel());
+        // The form still answers while it waits.
+        QTest::mouseClick(&spy.form->get(u"txtColor"_s), Qt::LeftButton);
+        QCOMPARE(spy.form->focus(), u"txtColor"_s);
+        QTRY_COMPARE(spy.status(), u"The desktop didn't answer."_s);
+        QVERIFY(!spy.canCancel());
+        QCOMPARE(spy.shown(), noColour);
+        // Another try works, and the sentence goes.
+        m_portal->answers = true;
+        m_portal->results = {{u"color"_s, QVariant::fromValue(Shares{0, 1, 0})}};
+        spy.press();
+        QTRY_COMPARE(spy.form->value(u"txtHTML"_s), u"#00FF00"_s);
+        QCOMPARE(spy.status(), QString());
     }
 
 private:
