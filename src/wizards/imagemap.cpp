@@ -121,17 +121,17 @@ void ImageMap::addButtons()
         QStringView tip;
     };
     static constexpr ButtonRow rows[] = {
-        {u"Polygon", u"draw-polygon", u"Draw polygons, side by side"},
-        {u"Rectangle", u"draw-rectangle", u"Draw rectangles"},
-        {u"Circle", u"draw-ellipse", u"Draw circles from their centres"},
+        {u"Polygon", u"draw-polygon", u"Polygons, drawn side by side"},
+        {u"Rectangle", u"draw-rectangle", u"Rectangles, drawn from corner to corner"},
+        {u"Circle", u"draw-ellipse", u"Circles, drawn from their centers"},
         {},
-        {u"Clear", u"edit-clear", u"Empty the area that is picked"},
+        {u"Clear", u"edit-clear", u"Clear the area that is picked"},
         {},
-        {u"Accept", u"dialog-ok-apply", u"Write the coordinates of the area, and go on to the next"},
+        {u"Accept", u"dialog-ok-apply", u"Accept the coordinates of the area, and go on to the next"},
         {},
-        {u"Make HTML", u"text-html", u"Show the finished picture and map as text"},
+        {u"Make HTML", u"text-html", u"Make HTML of the finished picture and map"},
         {},
-        {u"Back", u"go-previous", u"Go back to the picture"},
+        {u"Back", u"go-previous", u"Back to the picture"},
     };
     auto *tools = new QActionGroup(this);
     for (const ButtonRow &row : rows) {
