@@ -24,7 +24,8 @@ struct ShownBench : WindowBench {
     QStringList names() const
     {
         QStringList names;
-        for (const QObject *object : window->findChildren<QObject *>()) {
+        const QList<QObject *> objects = window->findChildren<QObject *>();
+        for (const QObject *object : objects) {
             if (!object->objectName().isEmpty())
                 names.append(QString::fromLatin1(object->metaObject()->className()) + u' ' + object->objectName());
         }
@@ -98,7 +99,8 @@ private Q_SLOTS:
         QCOMPARE(later.tree(u"asptags"_s)->topLevelItemCount(), atOnce.tree(u"asptags"_s)->topLevelItemCount());
         QCOMPARE(later.tree(u"TRV"_s)->topLevelItemCount(), atOnce.tree(u"TRV"_s)->topLevelItemCount());
         QCOMPARE(later.find<QComboBox>(u"FontCombo"_s)->count(), atOnce.find<QComboBox>(u"FontCombo"_s)->count());
-        for (const QAction *action : later.find<QToolBar>(u"Toolbar2"_s)->actions())
+        const QList<QAction *> actions = later.find<QToolBar>(u"Toolbar2"_s)->actions();
+        for (const QAction *action : actions)
             QVERIFY(!action->isEnabled());
         QCOMPARE(later.tabOrder(), atOnce.tabOrder());
     }

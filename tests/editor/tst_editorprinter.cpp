@@ -75,7 +75,7 @@ private Q_SLOTS:
         const QByteArray pdf = printed(f);
         QCOMPARE(pdf.count("/Type /Page\n"), 1);
         // A font tells which letters its pictures are of.
-        for (const QChar letter : line) {
+        for (const QChar letter : std::as_const(line)) {
             const QByteArray code = '<' + QByteArray::number(letter.unicode(), 16).rightJustified(4, '0') + '>';
             if (letter.direction() == QChar::DirR)
                 QVERIFY2(pdf.toLower().contains(code), code.constData());
@@ -194,7 +194,8 @@ private:
     static QSet<QByteArray> coloursIn(const QByteArray &unpackedPdf)
     {
         QSet<QByteArray> colours;
-        for (const QByteArray &line : unpackedPdf.split('\n')) {
+        const QByteArrayList lines = unpackedPdf.split('\n');
+        for (const QByteArray &line : lines) {
             if (line.endsWith(" scn"))
                 colours.insert(line);
         }

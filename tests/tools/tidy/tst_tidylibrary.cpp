@@ -335,7 +335,7 @@ private Q_SLOTS:
         QRandomGenerator random(62);
         const QStringList ends{u"\n"_s, u"\r\n"_s, u"\r"_s};
         for (int round = 0; round < 300; ++round) {
-            const QString end = ends[round % 3];
+            const QString &end = ends[round % 3];
             QStringList lines;
             for (int line = 0; line < 5; ++line)
                 lines.append(generatedText(random, linePieces, 12) + u"<foo>"_s + generatedText(random, linePieces, 3));
@@ -401,7 +401,8 @@ private Q_SLOTS:
     void rubbish()
     {
         QFETCH(QByteArray, file);
-        for (const QString &encoding : tidyCharEncodings())
+        const QStringList encodings = tidyCharEncodings();
+        for (const QString &encoding : encodings)
             QVERIFY(cleaned(file, ticked({u"Check7"_s}, encoding)).ok());
     }
 
