@@ -157,7 +157,7 @@ private Q_SLOTS:
     void theShippedWizard()
     {
         const auto dialog = openModal();
-        const auto fillIn = [this](QDialog &form) {
+        const auto fillIn = [](QDialog &form) {
             QVERIFY(QApplication::activeModalWidget() == &form);
             auto *ok = form.findChild<QPushButton *>(u"cmdOK"_s);
             QVERIFY(!ok->isEnabled());
