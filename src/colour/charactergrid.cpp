@@ -12,6 +12,21 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
+namespace {
+
+/// A grey for lines and for the current cell without the focus. It is told from the background, and the text from it, in
+/// dark palettes as well, whose own greys are nearly the background.
+QColor greyOf(const QPalette &colours)
+{
+    constexpr int shareOfText = 30;
+    const QColor base = colours.color(QPalette::Base);
+    const QColor text = colours.color(QPalette::Text);
+    const auto blend = [](int from, int to) { return (from * (100 - shareOfText) + to * shareOfText) / 100; };
+    return {blend(base.red(), text.red()), blend(base.green(), text.green()), blend(base.blue(), text.blue())};
+}
+
+} // namespace
+
 CharacterGrid::CharacterGrid(QWidget *parent) : QWidget(parent)
 {
     constexpr int points = 8;
@@ -49,8 +64,9 @@ void CharacterGrid::paintEvent(QPaintEvent *)
     const QRect grid({}, QSize(cell.width() * CharacterMap::columns, cell.height() * CharacterMap::rows));
     painter.fillRect(grid, palette().color(QPalette::Base));
     const QRect current = cellRect(m_map.cell(), size());
-    painter.fillRect(current, palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-    painter.setPen(palette().color(QPalette::Mid));
+    const QColor grey = greyOf(palette());
+    painter.fillRect(current, hasFocus() ? palette().color(QPalette::Highlight) : grey);
+    painter.setPen(grey);
     for (int column = 0; column <= CharacterMap::columns; ++column)
         painter.drawLine(column * cell.width(), 0, column * cell.width(), grid.height());
     for (int row = 0; row <= CharacterMap::rows; ++row)

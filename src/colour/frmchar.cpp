@@ -31,7 +31,8 @@ frmChar::frmChar(const AppContext &context, QWidget *owner)
     // The two lie over the grid and must not take its mouse events.
     for (QLabel *picture : {m_ui->Picture3, m_ui->Picture2})
         picture->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_ui->Picture3->setBackgroundRole(QPalette::Mid);
+    // The same grey in any palette: in a dark one, the palette's own greys are nearly the background.
+    m_ui->Picture3->setPalette(QColor(Qt::gray));
     m_ui->Picture3->setAutoFillBackground(true);
     m_ui->Picture2->setBackgroundRole(QPalette::Base);
     m_ui->Picture2->setForegroundRole(QPalette::Text);

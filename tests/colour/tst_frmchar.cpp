@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -198,6 +200,41 @@ private Q_SLOTS:
         const QImage picture = map.grid().grab().toImage();
         QCOMPARE(picture.pixelColor(corner), map.grid().palette().color(QPalette::Highlight));
         QCOMPARE(picture.pixelColor(other), map.grid().palette().color(QPalette::Base));
+    }
+
+    void theGridIsLegible_data()
+    {
+        QTest::addColumn<QColor>("base");
+        QTest::addColumn<QColor>("text");
+        QTest::newRow("light") << QColor(0xfc, 0xfc, 0xfc) << QColor(0x23, 0x26, 0x29);
+        QTest::newRow("dark") << QColor(0x1b, 0x1e, 0x20) << QColor(0xfc, 0xfc, 0xfc);
+    }
+
+    void theGridIsLegible()
+    {
+        QFETCH(QColor, base);
+        QFETCH(QColor, text);
+        const Map map;
+        QPalette colours(base.darker(110));
+        colours.setColor(QPalette::Base, base);
+        colours.setColor(QPalette::Text, text);
+        map.grid().setPalette(colours);
+        map.click({0, 0});
+        map.form.get(u"txtCopy"_s).setFocus();
+        const QImage picture = map.grid().grab().toImage();
+        const QRect current = cellRect({0, 0}, map.grid().size());
+        const auto differ = [](const QColor &one, const QColor &other) {
+            return std::abs(one.lightness() - other.lightness());
+        };
+        // The current cell without the focus, and a line between two cells.
+        const QColor cell = picture.pixelColor(current.center());
+        const QColor line = picture.pixelColor(3 * current.width(), current.height() / 2);
+        for (const QColor &grey : {cell, line}) {
+            QVERIFY(differ(grey, base) >= 50);
+            QVERIFY(differ(grey, text) >= 100);
+        }
+        const auto &shadow = map.form.get<QLabel>(u"Picture3"_s);
+        QCOMPARE(shadow.palette().color(shadow.backgroundRole()), QColor(Qt::gray));
     }
 
     void copy()
