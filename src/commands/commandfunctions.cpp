@@ -9,6 +9,7 @@
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
 #include "core/filestore.h"
+#include "core/fontsettings.h"
 #include "core/formopener.h"
 #include "core/prompts.h"
 #include "core/settings.h"
@@ -37,14 +38,7 @@ void chooseFont(const AppContext &context)
     context.editor.setEditorFont(*choice);
 
     // The control may adjust the choice, so the font that it now has is the one to save.
-    const FontChoice font = context.editor.editorFont();
-    Configuration &configuration = context.configuration;
-    writeTruth(configuration, Setting::FontBold, font.bold);
-    writeTruth(configuration, Setting::FontItalic, font.italic);
-    configuration.setValue(Setting::FontName, font.name);
-    writeMeasure(configuration, Setting::FontSize, font.size);
-    writeTruth(configuration, Setting::FontStrikethrough, font.strikethrough);
-    writeTruth(configuration, Setting::FontUnderline, font.underline);
+    static_cast<void>(context.configuration.setValues(fontChanges(context.editor.editorFont())));
 }
 
 void openFtpClient(const AppContext &context)

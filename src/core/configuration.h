@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/result.h"
 #include "core/settings.h"
 
 #include <QString>
+
+#include <span>
+#include <vector>
 
 namespace zephira {
 
@@ -22,16 +26,15 @@ public:
         return kept.isEmpty() ? row.fallback : kept;
     }
     /// Writes at once. Returns false if the store couldn't be written.
-    bool setValue(Setting setting, const QString &value)
-    {
-        const SettingRow &row = settingRow(setting);
-        return write(row.section, row.key, value);
-    }
+    bool setValue(Setting setting, const QString &value) { return setValues({{setting, value}}).ok(); }
+    /// Writes all values at once, in this order, so that the last one of a setting counts. If the store can't be
+    /// written, it keeps all its values.
+    Result<void> setValues(const std::vector<SettingChange> &changes) { return write(changes); }
 
 private:
     /// Section and key are not case-sensitive. Returns "" for a missing value.
     virtual QString read(const QString &section, const QString &key) const = 0;
-    virtual bool write(const QString &section, const QString &key, const QString &value) = 0;
+    virtual Result<void> write(std::span<const SettingChange> changes) = 0;
 };
 
 } // namespace zephira

@@ -155,8 +155,13 @@ bool isSwitchedOn(const Configuration &configuration, Setting setting)
 
 bool writeSwitch(Configuration &configuration, Setting setting, bool on)
 {
+    return configuration.setValues({switchChange(setting, on)}).ok();
+}
+
+SettingChange switchChange(Setting setting, bool on)
+{
     ofKind(settingRow(setting), {SettingKind::Switch});
-    return configuration.setValue(setting, switchText(on));
+    return {setting, switchText(on)};
 }
 
 bool isTrue(const Configuration &configuration, Setting setting)
@@ -167,8 +172,13 @@ bool isTrue(const Configuration &configuration, Setting setting)
 
 bool writeTruth(Configuration &configuration, Setting setting, bool value)
 {
+    return configuration.setValues({truthChange(setting, value)}).ok();
+}
+
+SettingChange truthChange(Setting setting, bool value)
+{
     ofKind(settingRow(setting), {SettingKind::Truth});
-    return configuration.setValue(setting, value ? u"True"_s : u"False"_s);
+    return {setting, value ? u"True"_s : u"False"_s};
 }
 
 double measure(const Configuration &configuration, Setting setting)
@@ -179,8 +189,13 @@ double measure(const Configuration &configuration, Setting setting)
 
 bool writeMeasure(Configuration &configuration, Setting setting, double value)
 {
+    return configuration.setValues({measureChange(setting, value)}).ok();
+}
+
+SettingChange measureChange(Setting setting, double value)
+{
     ofKind(settingRow(setting), {SettingKind::Measure});
-    return configuration.setValue(setting, QString::number(value));
+    return {setting, QString::number(value)};
 }
 
 int wholeNumber(const Configuration &configuration, Setting setting, const QString &file)
@@ -193,6 +208,12 @@ int wholeNumber(const Configuration &configuration, Setting setting, const QStri
     const QString problem = text.isEmpty() ? u"is missing"_s : u"isn't a number (\"%1\")"_s.arg(text.left(80));
     throw HandlerError{
         u"Zephira can't start: the key \"%1\" in section [%2] of %3 %4."_s.arg(row.key, row.section, file, problem)};
+}
+
+SettingChange numberChange(Setting setting, int number)
+{
+    ofKind(settingRow(setting), {SettingKind::Number, SettingKind::Colour, SettingKind::FontStyle});
+    return {setting, QString::number(number)};
 }
 
 const std::vector<UserSettingRow> &userSettingRows()

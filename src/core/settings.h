@@ -75,25 +75,39 @@ Setting customTabSetting(int tab);
 
 enum class ColourPart { Background, Foreground, FontStyle };
 
+/// A value to write, as it is to be stored.
+struct SettingChange {
+    Setting setting;
+    QString value;
+
+    friend bool operator==(const SettingChange &, const SettingChange &) = default;
+};
+
 /// The setting for a part of one of appearanceRows; `row` is 0-based.
 Setting colourSetting(int row, ColourPart part);
 
 // A value as its kind says. Reading or writing it as another kind is a mistake in the program and raises
-// std::logic_error. The functions that write return false if the store couldn't be written.
+// std::logic_error. The functions that write return false if the store couldn't be written; the others that take a value
+// return it as it is to be written together with more.
 
 /// Whether a switch is exactly "1".
 bool isSwitchedOn(const Configuration &configuration, Setting setting);
 bool writeSwitch(Configuration &configuration, Setting setting, bool on);
+SettingChange switchChange(Setting setting, bool on);
 /// Whether a truth is "True", without regard to case.
 bool isTrue(const Configuration &configuration, Setting setting);
 bool writeTruth(Configuration &configuration, Setting setting, bool value);
+SettingChange truthChange(Setting setting, bool value);
 /// A measure; 0 if it isn't a number.
 double measure(const Configuration &configuration, Setting setting);
 bool writeMeasure(Configuration &configuration, Setting setting, double value);
+SettingChange measureChange(Setting setting, double value);
 /// A number, colour or font style, or a switch whose values other than 0 and 1 matter. If it is missing or not a 32-bit
 /// integer, it counts as 0; where the row says that it is required, HandlerError is raised with a sentence that names
 /// key, section and file.
 int wholeNumber(const Configuration &configuration, Setting setting, const QString &file);
+/// A number, colour or font style.
+SettingChange numberChange(Setting setting, int number);
 
 /// The values of the per-user store.
 enum class UserSetting : int {

@@ -4,7 +4,6 @@
 #include "files/diskfilestore.h"
 #include "files/fileerror.h"
 #include "files/filesystemcalls.h"
-#include "files/privateprofile.h"
 #include "files/textfile.h"
 #include "files/writetarget.h"
 
@@ -14,6 +13,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -93,6 +93,38 @@ bool isSettled(const FileSignature &signature)
     return signature.modifiedNs < (now - coarsest).count();
 }
 
+/// Writes several values, or none.
+Result<void> writeProfile(std::span<const ProfileEntry> values, const QString &file, int mode, FileSystemCalls &calls)
+{
+    DiskFileStore store(calls);
+    // The lock must be on the folder in which the file is replaced, which is the folder of a symbolic link's target.
+    const Result<QByteArray> target = linkTarget(calls, file);
+    if (!target)
+        return target.error();
+    const QFileInfo info(QFile::decodeName(target.value()));
+    const FolderLock lock(QFile::encodeName(info.path()));
+    if (!lock.isHeld())
+        return saveError(file, lock.error());
+
+    Result<QByteArray> bytes = store.read(info.filePath());
+    if (!bytes && bytes.error().code != Error::Code::NotFound)
+        return bytes.error();
+    const Profile profile = profileFrom(bytes.valueOr(QByteArray()));
+    QByteArray changed = profile.bytes;
+    for (const auto &[section, key, value] : values) {
+        std::optional<QByteArray> next = withProfileValue(changed, section, key, value);
+        if (!next)
+            return saveError(file, Error::Code::Malformed, u"a name is not allowed in it"_s);
+        changed = *std::move(next);
+    }
+    if (bytes && changed == profile.bytes)
+        return {};
+    const Result<QByteArray> encoded = profile.converted ? encodeText(changed, *profile.converted) : changed;
+    if (!encoded)
+        return encoded.error();
+    return store.write(info.filePath(), encoded.value(), mode);
+}
+
 } // namespace
 
 QString ReadIni(const QString &section, const QString &key, const QString &file)
@@ -125,35 +157,25 @@ Result<QStringList> readIniValues(const QString &section, const QStringList &key
 Result<void> writeIniValue(const QString &section, const QString &key, const QString &value, const QString &file,
                            int mode)
 {
-    FileSystemCalls calls;
-    DiskFileStore store;
-    // The lock must be on the folder in which the file is replaced, which is the folder of a symbolic link's target.
-    const Result<QByteArray> target = linkTarget(calls, file);
-    if (!target)
-        return target.error();
-    const QFileInfo info(QFile::decodeName(target.value()));
-    const FolderLock lock(QFile::encodeName(info.path()));
-    if (!lock.isHeld())
-        return saveError(file, lock.error());
-
-    Result<QByteArray> bytes = store.read(info.filePath());
-    if (!bytes && bytes.error().code != Error::Code::NotFound)
-        return bytes.error();
-    const Profile profile = profileFrom(bytes.valueOr(QByteArray()));
-    const std::optional<QByteArray> changed = withProfileValue(profile.bytes, section, key, value);
-    if (!changed)
-        return saveError(file, Error::Code::Malformed, u"a name is not allowed in it"_s);
-    if (bytes && *changed == profile.bytes)
-        return {};
-    const Result<QByteArray> encoded = profile.converted ? encodeText(*changed, *profile.converted) : *changed;
-    if (!encoded)
-        return encoded.error();
-    return store.write(info.filePath(), encoded.value(), mode);
+    const ProfileEntry entry{section, key, value};
+    return writeIniValues({&entry, 1}, file, mode);
 }
 
-IniConfiguration::IniConfiguration(QString file) : m_file(std::move(file)) {}
+Result<void> writeIniValues(std::span<const ProfileEntry> values, const QString &file, int mode)
+{
+    FileSystemCalls calls;
+    return writeProfile(values, file, mode, calls);
+}
 
-IniConfiguration::IniConfiguration(QString file, FileSystemCalls &calls) : m_file(std::move(file)), m_store(calls) {}
+IniConfiguration::IniConfiguration(QString file)
+    : m_file(std::move(file)), m_ownCalls(std::make_unique<FileSystemCalls>()), m_calls(*m_ownCalls), m_store(m_calls)
+{}
+
+IniConfiguration::IniConfiguration(QString file, FileSystemCalls &calls)
+    : m_file(std::move(file)), m_calls(calls), m_store(m_calls)
+{}
+
+IniConfiguration::~IniConfiguration() = default;
 
 QString IniConfiguration::read(const QString &section, const QString &key) const
 {
@@ -166,9 +188,15 @@ QString IniConfiguration::read(const QString &section, const QString &key) const
     return shortValue(m_profile, section, key);
 }
 
-bool IniConfiguration::write(const QString &section, const QString &key, const QString &value)
+Result<void> IniConfiguration::write(std::span<const SettingChange> changes)
 {
-    return WriteIni(section, key, value, m_file);
+    std::vector<ProfileEntry> entries;
+    for (const auto &[setting, value] : changes) {
+        const SettingRow &row = settingRow(setting);
+        entries.push_back({row.section, row.key, value});
+    }
+    constexpr int usualMode = 0666;
+    return writeProfile(entries, m_file, usualMode, m_calls);
 }
 
 } // namespace zephira

@@ -4,9 +4,13 @@
 #include "core/configuration.h"
 #include "core/result.h"
 #include "files/diskfilestore.h"
+#include "files/privateprofile.h"
 
 #include <QString>
 #include <QStringList>
+
+#include <memory>
+#include <span>
 
 namespace zephira {
 
@@ -30,22 +34,28 @@ Result<QStringList> readIniValues(const QString &section, const QStringList &key
 Result<void> writeIniValue(const QString &section, const QString &key, const QString &value, const QString &file,
                            int mode = 0666);
 
+/// The same for several values, in this order. On failure the file keeps all its values.
+Result<void> writeIniValues(std::span<const ProfileEntry> values, const QString &file, int mode = 0666);
+
 /// The configuration in a private profile file. Every value is the one currently in the file; the file is read again
 /// unless it is unchanged since the last read.
 class IniConfiguration final : public Configuration
 {
 public:
     explicit IniConfiguration(QString file);
-    /// Uses system calls that a test observes; they must outlive the configuration.
+    /// Uses system calls that a test observes or makes fail; they must outlive the configuration.
     IniConfiguration(QString file, FileSystemCalls &calls);
+    ~IniConfiguration() override;
 
     QString file() const { return m_file; }
 
 private:
     QString read(const QString &section, const QString &key) const override;
-    bool write(const QString &section, const QString &key, const QString &value) override;
+    Result<void> write(std::span<const SettingChange> changes) override;
 
     QString m_file;
+    const std::unique_ptr<FileSystemCalls> m_ownCalls;
+    FileSystemCalls &m_calls;
     DiskFileStore m_store;
     /// The profile as last read, in UTF-8, and the state of its file at that time.
     mutable QByteArray m_profile;

@@ -43,7 +43,8 @@ DesignerView FakeWebViews::makeDesigner(const FileStore &, Prompts &, QWidget *p
 }
 
 WindowBench::WindowBench()
-    : recovery(m_folder.path() + u"/recovery"_s, files, clock), configuration(m_folder.path() + u"/app/zephira.ini"_s)
+    : recovery(m_folder.path() + u"/recovery"_s, files, clock)
+    , configuration(m_folder.path() + u"/app/zephira.ini"_s, configurationCalls)
 {
     const QDir source(sourcePath(u"data"_s));
     QDirIterator data(source.path(), QDir::Files, QDirIterator::Subdirectories);

@@ -77,6 +77,8 @@ public:
     FaultyCalls calls;
     DiskFileStore files{calls};
     RecoveryCopies recovery;
+    /// The system calls of the configuration.
+    FaultyCalls configurationCalls;
     IniConfiguration configuration;
     RecordingOperations ftpOperations;
     SpellingBench spelling{files, settings, appPath()};

@@ -171,6 +171,7 @@ private Q_SLOTS:
             QCOMPARE(isAllowed([&] { writeSwitch(configuration, setting, true); }), row.kind == Switch);
             QCOMPARE(isAllowed([&] { writeTruth(configuration, setting, true); }), row.kind == Truth);
             QCOMPARE(isAllowed([&] { writeMeasure(configuration, setting, 1); }), row.kind == Measure);
+            QCOMPARE(isAllowed([&] { numberChange(setting, 1); }), isWhole && row.kind != Switch);
         }
         QVERIFY_EXCEPTION_THROWN(zephira::wholeNumber(settings, UserSetting::ProgramFolder), std::logic_error);
         QVERIFY_EXCEPTION_THROWN(zephira::wholeNumber(settings, UserSetting::ShowTips, u"frmmain"_s, 0),

@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
 #include <vector>
 
@@ -183,6 +184,45 @@ private Q_SLOTS:
         QVERIFY(WriteIni(u"font"_s, u"size"_s, u"12"_s, ini()));
         QCOMPARE(configuration.value(Setting::FontSize), u"12"_s);
         QCOMPARE(configuration.file(), ini());
+    }
+
+    void severalValuesAreWrittenInOneGo()
+    {
+        put("[font]\nsize=12\n[other]\nx=1\n");
+        FaultyCalls calls;
+        IniConfiguration configuration(ini(), calls);
+        QVERIFY(
+            configuration
+                .setValues({{Setting::FontSize, u"9"_s}, {Setting::FontName, u"Mono"_s}, {Setting::FontSize, u"10"_s}})
+                .ok());
+        QCOMPARE(get(), QByteArray("[font]\nsize=10\nname=Mono\n[other]\nx=1\n"));
+        QCOMPARE(std::ranges::count(calls.made(), FileSystemCalls::Call::Rename), 1);
+        QVERIFY(configuration.setValues({}).ok());
+    }
+
+    /// Whichever call fails, the file holds all the old values or all the new ones.
+    void severalValuesOrNone()
+    {
+        const QByteArray old = "[font]\nsize=12\n";
+        const QByteArray changed = "[font]\nsize=9\nname=Mono\n";
+        const std::vector<SettingChange> changes{{Setting::FontSize, u"9"_s}, {Setting::FontName, u"Mono"_s}};
+        int failures = 0;
+        for (int failing = 0;; ++failing) {
+            put(old);
+            FaultyCalls calls;
+            calls.intervene = [failing](int number, FileSystemCalls::Call) { return number == failing ? ENOSPC : 0; };
+            const Result<void> written = IniConfiguration(ini(), calls).setValues(changes);
+            QVERIFY(get() == changed || (!written && get() == old));
+            QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                     QStringList{u"zephira.ini"_s});
+            if (!written) {
+                ++failures;
+                QVERIFY2(written.error().sentence.contains(ini()), qPrintable(written.error().sentence));
+            }
+            if (failing >= calls.count())
+                break;
+        }
+        QVERIFY(failures > 3);
     }
 
     /// A start reads some seventy values.

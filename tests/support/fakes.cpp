@@ -128,13 +128,16 @@ QString MemoryConfiguration::read(const QString &section, const QString &key) co
     return entry == m_values.end() ? QString() : entry->second;
 }
 
-bool MemoryConfiguration::write(const QString &section, const QString &key, const QString &value)
+Result<void> MemoryConfiguration::write(std::span<const SettingChange> changes)
 {
     if (!writable)
-        return false;
-    put(section, key, value);
-    log.append(u"[%1] %2=%3"_s.arg(section, key, value));
-    return true;
+        return Error{Error::Code::Unwritable, u"The settings could not be saved."_s};
+    for (const auto &[setting, value] : changes) {
+        const SettingRow &row = settingRow(setting);
+        put(row.section, row.key, value);
+        log.append(u"[%1] %2=%3"_s.arg(row.section, row.key, value));
+    }
+    return {};
 }
 
 void MemoryConfiguration::put(const QString &section, const QString &key, const QString &value)

@@ -252,7 +252,7 @@ struct MemoryConfiguration final : Configuration {
 
 private:
     QString read(const QString &section, const QString &key) const override;
-    bool write(const QString &section, const QString &key, const QString &value) override;
+    Result<void> write(std::span<const SettingChange> changes) override;
 
     std::map<QString, QString> m_values;
 };
