@@ -147,8 +147,12 @@ void CodeMax::findNext(bool backward)
 
 void CodeMax::showProperties()
 {
-    if (!m_properties)
-        m_properties = new PropertiesDialog(*this, dialogOwner(this));
+    // It stands in front of the modal form that opens it, and not behind one because it was opened before.
+    if (QWidget *owner = dialogOwner(this);
+        !m_properties || (owner != m_properties && owner != m_properties->parent())) {
+        delete m_properties;
+        m_properties = new PropertiesDialog(*this, owner);
+    }
     m_properties->bring();
 }
 
