@@ -8,7 +8,6 @@ namespace zephira {
 namespace {
 
 constexpr QStringView comingForms[] = {
-    u"frmOptions",
     u"frmfa",
 };
 

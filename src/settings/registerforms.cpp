@@ -3,6 +3,7 @@
 
 #include "core/formcatalogue.h"
 #include "settings/frmabout.h"
+#include "settings/frmoptions.h"
 #include "settings/frmtip.h"
 
 using namespace Qt::StringLiterals;
@@ -13,6 +14,7 @@ void registerForms(FormCatalogue &catalogue)
 {
     catalogue.add(u"frmAbout"_s,
                   [](const AppContext &context, QWidget *owner) { return new frmAbout(context, owner); });
+    catalogue.add<frmOptions>(u"frmOptions"_s);
     catalogue.add(u"frmTip"_s, [](const AppContext &context, QWidget *owner) { return new frmTip(context, owner); });
 }
 

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/appcontext.h"
+#include "settings/options.h"
+
+#include <QDialog>
+
+#include <array>
+#include <memory>
+
+class QLineEdit;
+
+namespace zephira {
+
+namespace Ui {
+class frmOptions;
+}
+
+/// Edits the settings of the installation. What it saves of colours, fonts and font styles it takes from the editing
+/// control, whose own dialog sets them.
+class frmOptions final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmOptions(const AppContext &context, QWidget *owner);
+    ~frmOptions() override;
+
+private:
+    void addPages();
+    void showPage(const QString &key);
+    std::array<QLineEdit *, 6> customTabFields() const;
+    void show(const Options &options);
+    Options shown() const;
+    /// Returns false, after a message, if the settings can't be written.
+    bool save();
+    void chooseBrowser();
+    void chooseServerRoot();
+
+    const std::unique_ptr<Ui::frmOptions> m_ui;
+    const AppContext m_context;
+};
+
+} // namespace zephira
