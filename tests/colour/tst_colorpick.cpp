@@ -24,11 +24,8 @@ FormCatalogue catalogue()
     return forms;
 }
 
-QStringList allBoxes()
-{
-    return {u"HEXTEXT_0"_s, u"HEXTEXT_1"_s, u"HEXTEXT_2"_s, u"RGBTEXT_0"_s, u"RGBTEXT_1"_s,
-            u"RGBTEXT_2"_s, u"LONGTEXT"_s,  u"TEXTHEX"_s,   u"TEXTRGB"_s,   u"TEXTLONG"_s};
-}
+const QStringList allBoxes{u"HEXTEXT_0"_s, u"HEXTEXT_1"_s, u"HEXTEXT_2"_s, u"RGBTEXT_0"_s, u"RGBTEXT_1"_s,
+                           u"RGBTEXT_2"_s, u"LONGTEXT"_s,  u"TEXTHEX"_s,   u"TEXTRGB"_s,   u"TEXTLONG"_s};
 
 /// The picker over a document in which `selected` is selected.
 struct Picker {
@@ -45,7 +42,7 @@ struct Picker {
     QStringList shown() const
     {
         QStringList values;
-        for (const QString &name : allBoxes())
+        for (const QString &name : allBoxes)
             values.append(form->value(name));
         return values;
     }
@@ -157,7 +154,7 @@ private Q_SLOTS:
     void everyBoxSelectsItsTextOnFocus_data()
     {
         QTest::addColumn<QString>("box");
-        for (const QString &name : allBoxes())
+        for (const QString &name : allBoxes)
             QTest::newRow(qPrintable(name)) << name;
     }
 
@@ -194,7 +191,7 @@ private Q_SLOTS:
             // Each box that changes, with the flag at that moment.
             QMap<QString, bool> seen;
             QObject listener;
-            for (const QString &name : allBoxes()) {
+            for (const QString &name : allBoxes) {
                 auto &box = picker.form->get<SelectingBox>(name);
                 // Results only show; what counts is the boxes that could start another round.
                 if (!box.isReadOnly())
