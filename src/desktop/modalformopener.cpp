@@ -39,6 +39,7 @@ private:
 
 void bringToFront(QWidget *window)
 {
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
     window->activateWindow();

@@ -91,6 +91,13 @@ private Q_SLOTS:
         bench.click(u"Toolbar1"_s, u"specchars"_s);
         QCOMPARE(window.forms().openForm(u"frmChar"_s), map);
         QCOMPARE(window.findChildren<QDialog *>(u"frmChar"_s).size(), 1);
+        // It can be minimised by itself, and comes back.
+        map->showMinimized();
+        QTRY_VERIFY(map->isMinimized());
+        QVERIFY(!window.isMinimized());
+        bench.click(u"Toolbar1"_s, u"specchars"_s);
+        QTRY_VERIFY(!map->isMinimized());
+        QVERIFY(map->isVisible());
     }
 
     void theSpyIsOneWindowBesideTheMainOne()
