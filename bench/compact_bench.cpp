@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// compact_bench FILE: the code view shows the file, gets the result of Compact, which is a single line, and then an
-// undo and a redo; each until it is painted.
-#include "bench/shownpage.h"
-#include "tools/sourceformatter.h"
+// compact_bench FILE: the main window with all its bars and panes shows the file, gets the command Compact, whose result
+// is a single line, and then an undo and a redo; each until it is painted.
+#include "app/windowbench.h"
 
 #include <QApplication>
 #include <QFile>
@@ -10,37 +9,51 @@
 #include <benchmark/benchmark.h>
 
 using namespace zephira;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 enum class Step { Compact, Undo, Redo };
 
+QString entryOf(Step step)
+{
+    switch (step) {
+    case Step::Compact:
+        return u"mnufcomp"_s;
+    case Step::Undo:
+        return u"undo"_s;
+    case Step::Redo:
+        return u"redo"_s;
+    }
+    return {};
+}
+
+void paint(frmmain &window)
+{
+    window.repaint();
+    window.rt().viewport()->repaint();
+    QApplication::processEvents();
+}
+
 void measure(benchmark::State &state, const QString &file, Step wanted)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        ShownPage page;
-        page.open(file);
-        const auto take = [&](Step step) {
+        WindowBench bench;
+        frmmain &window = bench.start(file);
+        window.show();
+        paint(window);
+        for (const Step step : {Step::Compact, Step::Undo, Step::Redo}) {
+            const QString before = window.rt().text();
             if (step == wanted)
                 state.ResumeTiming();
-            switch (step) {
-            case Step::Compact:
-                page.editor.setText(Compact(page.editor.text()));
-                break;
-            case Step::Undo:
-                page.editor.undo();
-                break;
-            case Step::Redo:
-                page.editor.redo();
-                break;
-            }
-            page.paint();
+            bench.choose(entryOf(step));
+            paint(window);
             if (step == wanted)
                 state.PauseTiming();
-        };
-        for (const Step step : {Step::Compact, Step::Undo, Step::Redo})
-            take(step);
+            if (window.rt().text() == before)
+                qFatal("%s did nothing", qPrintable(entryOf(step)));
+        }
         state.ResumeTiming();
     }
 }
