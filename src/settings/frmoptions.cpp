@@ -6,9 +6,12 @@
 #include "core/itemroles.h"
 #include "core/paths.h"
 #include "core/prompts.h"
+#include "settings/presetpicture.h"
 #include "ui_frmoptions.h"
 
+#include <QFontDatabase>
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <iterator>
@@ -35,6 +38,7 @@ constexpr Page pages[] = {
     {display, u"Font Styles", u"Font Styles", &Ui::frmOptions::frcolors},
     {display, u"Fonts", u"Fonts", &Ui::frmOptions::frcolors},
     {display, u"Display Options", u"Display Options", &Ui::frmOptions::frdisplayoptions},
+    {display, u"Appearance", u"Appearance", &Ui::frmOptions::frappearance},
     {others, u"Project Explorer Filters", u"Filters", &Ui::frmOptions::frfilters},
     {others, u"Start-Up Options", u"startup", &Ui::frmOptions::frstartup},
     {others, u"Program Paths", u"paths", &Ui::frmOptions::frpaths},
@@ -46,6 +50,7 @@ frmOptions::frmOptions(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_ui(std::make_unique<Ui::frmOptions>()), m_context(context)
 {
     m_ui->setupUi(this);
+    addPresets();
     addPages();
     show(loadOptions(context.configuration, context.settings));
 
@@ -99,6 +104,52 @@ void frmOptions::showPage(const QString &key)
 {
     const auto page = std::ranges::find(pages, key, [](const Page &each) { return each.key; });
     m_ui->pages->setCurrentWidget(m_ui.get()->*(page == std::end(pages) ? &Ui::frmOptions::frcolors : page->frame));
+    showPreset();
+}
+
+void frmOptions::addPresets()
+{
+    QListWidget *list = m_ui->lstpresets;
+    const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QFontMetrics metrics(font);
+    list->setIconSize({metrics.horizontalAdvance(u'0') * 35, metrics.height() * 3 / 2});
+    for (const ColourPreset &preset : colourPresets()) {
+        auto *entry = new QListWidgetItem(preset.name.toString(), list);
+        // What ships has other colours on a dark desktop, and then its place is left empty.
+        QPixmap picture = presetPicture(preset, font, list->iconSize(), devicePixelRatioF());
+        if (preset.colours == shippedColours && palette().color(QPalette::Base).lightness() < 128)
+            picture.fill(Qt::transparent);
+        entry->setIcon(picture);
+    }
+    connect(list, &QListWidget::itemSelectionChanged, this, &frmOptions::usePreset);
+}
+
+/// Selects the preset that the control shows. The control's own dialog may have changed its colours meanwhile.
+void frmOptions::showPreset()
+{
+    const QSignalBlocker quiet(m_ui->lstpresets);
+    if (const auto shown = shownPreset(m_context.editor))
+        m_ui->lstpresets->setCurrentRow(*shown);
+    else
+        m_ui->lstpresets->clearSelection();
+}
+
+void frmOptions::usePreset()
+{
+    const QList<QListWidgetItem *> chosen = m_ui->lstpresets->selectedItems();
+    if (chosen.isEmpty())
+        return;
+    const auto row = static_cast<std::size_t>(m_ui->lstpresets->row(chosen.first()));
+    const ColourPreset &preset = colourPresets()[row];
+    m_unsaved = {m_unsaved ? m_unsaved->before : coloursOf(m_context.editor), &preset};
+    setColours(m_context.editor, preset.colours);
+}
+
+void frmOptions::reject()
+{
+    if (m_unsaved)
+        takeBackPreset(m_context.editor, *m_unsaved->preset, m_unsaved->before);
+    QDialog::reject();
 }
 
 std::array<QLineEdit *, 6> frmOptions::customTabFields() const
@@ -146,7 +197,9 @@ Options frmOptions::shown() const
 bool frmOptions::save()
 {
     const Result<void> saved = saveOptions(shown(), m_context.editor, m_context.configuration, m_context.settings);
-    if (!saved)
+    if (saved)
+        m_unsaved.reset();
+    else
         tellError(m_context.prompts, saved.error(), windowTitle());
     return saved.ok();
 }

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/appcontext.h"
+#include "settings/colourpresets.h"
 #include "settings/options.h"
 
 #include <QDialog>
 
 #include <array>
 #include <memory>
+#include <optional>
 
 class QLineEdit;
 
@@ -27,8 +29,13 @@ public:
     frmOptions(const AppContext &context, QWidget *owner);
     ~frmOptions() override;
 
+    void reject() override;
+
 private:
     void addPages();
+    void addPresets();
+    void showPreset();
+    void usePreset();
     void showPage(const QString &key);
     std::array<QLineEdit *, 6> customTabFields() const;
     void show(const Options &options);
@@ -40,6 +47,13 @@ private:
 
     const std::unique_ptr<Ui::frmOptions> m_ui;
     const AppContext m_context;
+
+    /// A preset that the editing control shows although it isn't saved, and the colours before the first such one.
+    struct UnsavedPreset {
+        EditorColours before;
+        const ColourPreset *preset;
+    };
+    std::optional<UnsavedPreset> m_unsaved;
 };
 
 } // namespace zephira

@@ -5,6 +5,7 @@
 #include "core/itemroles.h"
 #include "panes/customtabs.h"
 #include "panes/filepane.h"
+#include "settings/colourpresets.h"
 #include "support/testregistry.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QDialog>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -218,6 +220,36 @@ private Q_SLOTS:
         QCOMPARE(restarted.rt().color(CommentFore), 0x123456U);
         QCOMPARE(restarted.rt().fontStyle(CommentFont), static_cast<int>(BoldStyle));
         QCOMPARE(restarted.rt().editorFont().size, 17.0);
+    }
+
+    /// All of it but the dividers, which have one key for two.
+    void aPresetOutlivesARestart()
+    {
+        WindowBench bench;
+        frmmain &window = bench.start();
+        window.show();
+        const auto choose = [&window](const QDialog &form, int row) {
+            turnTo(form, u"Appearance"_s);
+            auto *list = form.findChild<QListWidget *>(u"lstpresets"_s);
+            QCOMPARE(list->currentRow(), 0);
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+            QCOMPARE(shownPreset(window.rt()), std::optional(row));
+        };
+        inOptions(bench, [&](QDialog &form) {
+            choose(form, 4);
+            form.close();
+        });
+        QCOMPARE(shownPreset(window.rt()), std::optional(0));
+        inOptions(bench, [&](QDialog &form) {
+            choose(form, 2);
+            click(form, u"cmdOK"_s);
+        });
+        frmmain &restarted = bench.start();
+        for (int item = 0; item < colourItemTotal; ++item) {
+            if (item != MarginDividerColour)
+                QCOMPARE(restarted.rt().color(item), colourPresets()[2].colours.at(static_cast<std::size_t>(item)));
+        }
+        QCOMPARE(restarted.rt().color(MarginDividerColour), shippedColours[MarginDividerColour]);
     }
 
     void aReadOnlyFileStaysWhole()

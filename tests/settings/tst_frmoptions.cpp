@@ -2,11 +2,13 @@
 #include "core/editorcommand.h"
 #include "core/editoritems.h"
 #include "core/itemroles.h"
+#include "settings/colourpresets.h"
 #include "settings/registerforms.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
 #include "support/testregistry.h"
 
+#include <QListWidget>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -15,7 +17,8 @@ using namespace zephira;
 
 namespace {
 
-const QStringList frames = {u"frcolors"_s, u"frdisplayoptions"_s, u"frfilters"_s, u"frpaths"_s, u"frstartup"_s};
+const QStringList frames = {u"frappearance"_s, u"frcolors"_s, u"frdisplayoptions"_s,
+                            u"frfilters"_s,    u"frpaths"_s,  u"frstartup"_s};
 const QString tips = u"zephira/Options/Show Tips at Startup"_s;
 
 } // namespace
@@ -45,6 +48,11 @@ private Q_SLOTS:
     void theServerRootIsChosen_data();
     void theServerRootIsChosen();
     void aFailureIsToldAndNothingIsLost();
+    void aPresetShowsAtOnceAndIsSaved();
+    void cancelTakesAPresetBack();
+    void whatWasChangedAfterAPresetStays();
+    void thePresetThatShowsIsSelected();
+    void theTabKeyChoosesNoPreset();
 
 private:
     void open();
@@ -61,6 +69,12 @@ private:
     void click(const QTreeWidgetItem *node) const
     {
         QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualItemRect(node).center());
+    }
+    void choosePreset(const QString &name) const
+    {
+        auto &list = m_form->get<QListWidget>(u"lstpresets"_s);
+        const QListWidgetItem *entry = list.findItems(name, Qt::MatchExactly).constFirst();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(entry).center());
     }
     QString visibleFrames() const
     {
@@ -111,8 +125,8 @@ void TstFrmOptions::theTree()
     QCOMPARE(
         nodes,
         (QStringList{u" - Display & Feel - "_s, u"Colors=Colors"_s, u"Font Styles=Font Styles"_s, u"Fonts=Fonts"_s,
-                     u"Display Options=Display Options"_s, u" - Others - "_s, u"Project Explorer Filters=Filters"_s,
-                     u"Start-Up Options=startup"_s, u"Program Paths=paths"_s}));
+                     u"Display Options=Display Options"_s, u"Appearance=Appearance"_s, u" - Others - "_s,
+                     u"Project Explorer Filters=Filters"_s, u"Start-Up Options=startup"_s, u"Program Paths=paths"_s}));
     QCOMPARE(visibleFrames(), u"frcolors"_s);
     QVERIFY(m_form->focus() == u"TreeView1"_s);
 }
@@ -126,6 +140,7 @@ void TstFrmOptions::aNodeShowsItsPage_data()
     QTest::newRow("Font Styles") << 0 << 1 << u"frcolors"_s;
     QTest::newRow("Fonts") << 0 << 2 << u"frcolors"_s;
     QTest::newRow("Display Options") << 0 << 3 << u"frdisplayoptions"_s;
+    QTest::newRow("Appearance") << 0 << 4 << u"frappearance"_s;
     QTest::newRow("Filters") << 1 << 0 << u"frfilters"_s;
     QTest::newRow("startup") << 1 << 1 << u"frstartup"_s;
     QTest::newRow("paths") << 1 << 2 << u"frpaths"_s;
@@ -153,13 +168,13 @@ void TstFrmOptions::theArrowKeysTurnThePages()
 {
     open();
     QStringList seen;
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 8; ++i) {
         m_form->key(Qt::Key_Down);
         seen.append(visibleFrames());
     }
     QCOMPARE(seen,
-             (QStringList{u"frcolors"_s, u"frcolors"_s, u"frdisplayoptions"_s, u"frcolors"_s, u"frfilters"_s,
-                          u"frstartup"_s, u"frpaths"_s}));
+             (QStringList{u"frcolors"_s, u"frcolors"_s, u"frdisplayoptions"_s, u"frappearance"_s, u"frcolors"_s,
+                          u"frfilters"_s, u"frstartup"_s, u"frpaths"_s}));
 }
 
 void TstFrmOptions::whatIsLoaded()
@@ -374,6 +389,73 @@ void TstFrmOptions::aFailureIsToldAndNothingIsLost()
     m_form->press(u"cmdOK"_s);
     QVERIFY(!m_form->isOpen());
     QCOMPARE(kept(u"filters"_s, u"filters"_s), u"*.mine"_s);
+}
+
+void TstFrmOptions::aPresetShowsAtOnceAndIsSaved()
+{
+    open();
+    click(tree().topLevelItem(0)->child(4));
+    choosePreset(u"Dark"_s);
+    QCOMPARE(m_world->editor.color(WindowColour), 0x28231fU);
+    QVERIFY(m_world->configuration.log.isEmpty());
+    m_form->press(u"Command2"_s);
+    QCOMPARE(kept(u"colors"_s, u"clr17fr"_s), QString::number(0x28231f));
+    m_form->press(u"cmdCancel"_s);
+    QCOMPARE(m_world->editor.color(WindowColour), 0x28231fU);
+}
+
+void TstFrmOptions::cancelTakesAPresetBack()
+{
+    EditorColours before{};
+    for (std::size_t i = 0; i < before.size(); ++i)
+        before[i] = static_cast<quint32>(i) + 1;
+    setColours(m_world->editor, before);
+    open();
+    click(tree().topLevelItem(0)->child(4));
+    choosePreset(u"Dark"_s);
+    m_form->key(Qt::Key_Down);
+    QCOMPARE(shownPreset(m_world->editor), std::optional(3));
+    m_form->key(Qt::Key_Escape);
+    QVERIFY(!m_form->isOpen());
+    QCOMPARE(coloursOf(m_world->editor), before);
+}
+
+/// A colour that the control's own dialog sets is the user's, whatever becomes of the preset.
+void TstFrmOptions::whatWasChangedAfterAPresetStays()
+{
+    setColours(m_world->editor, shippedColours);
+    open();
+    click(tree().topLevelItem(0)->child(4));
+    choosePreset(u"High contrast"_s);
+    m_world->editor.setColor(CommentFore, 7);
+    m_form->press(u"cmdCancel"_s);
+    EditorColours expected = shippedColours;
+    expected[CommentFore] = 7;
+    QCOMPARE(coloursOf(m_world->editor), expected);
+}
+
+void TstFrmOptions::thePresetThatShowsIsSelected()
+{
+    setColours(m_world->editor, colourPresets()[2].colours);
+    open();
+    auto &list = m_form->get<QListWidget>(u"lstpresets"_s);
+    QCOMPARE(list.currentRow(), 2);
+    m_world->editor.setColor(CommentFore, 7);
+    click(tree().topLevelItem(0)->child(4));
+    QVERIFY(list.selectedItems().isEmpty());
+    QCOMPARE(m_world->editor.color(CommentFore), 7U);
+}
+
+void TstFrmOptions::theTabKeyChoosesNoPreset()
+{
+    setColours(m_world->editor, {});
+    open();
+    click(tree().topLevelItem(0)->child(4));
+    m_form->key(Qt::Key_Tab);
+    QCOMPARE(m_form->focus(), u"lstpresets"_s);
+    QCOMPARE(coloursOf(m_world->editor), EditorColours{});
+    m_form->key(Qt::Key_Down);
+    QVERIFY(shownPreset(m_world->editor).has_value());
 }
 
 ZEPHIRA_TEST(TstFrmOptions)
