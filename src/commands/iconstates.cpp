@@ -142,6 +142,19 @@ QPixmap IconStates::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
     }
 }
 
+void IconStates::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                             const QWidget *widget) const
+{
+    const auto *row = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem *>(option) : nullptr;
+    if (!row || row->menuItemType != QStyleOptionMenuItem::Separator || row->text.isEmpty()) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionMenuItem line(*row);
+    line.text.clear();
+    QProxyStyle::drawControl(element, &line, painter, widget);
+}
+
 int IconStates::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                           QStyleHintReturn *answer) const
 {

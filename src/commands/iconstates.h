@@ -19,7 +19,7 @@ qreal shareSeen(const QImage &picture, const QColor &background);
 /// then they take the colour of selected text. Icons of the theme that would vanish in the window, or in its lists, take
 /// the colour of text. Styles of their own accord take the colour out of the former, which the
 /// theme's icons have none of, and give the latter the colour of the selection. It knows of the pictures of icons that are
-/// kept, too.
+/// kept, too. The lines in menus are plain: a text that such a row has, to be read from outside, isn't painted.
 class IconStates final : public QProxyStyle
 {
     Q_OBJECT
@@ -31,6 +31,8 @@ public:
     void setPictures(IconPictures *pictures) { m_pictures = pictures; }
 
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap, const QStyleOption *option) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *answer) const override;
     QIcon standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const override;

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QListWidget>
+#include <QPainter>
 #include <QStyleOption>
 #include <QTest>
 
@@ -141,6 +142,25 @@ private Q_SLOTS:
         const QColor colour = drawn(QIcon::Disabled, Qt::black, Qt::blue).pixelColor(8, 8);
         QVERIFY2(std::abs(colour.alpha() - 102) <= 1, qPrintable(QString::number(colour.alpha())));
         QCOMPARE(colour.red(), 0);
+    }
+
+    /// A line in a menu looks the same with a text.
+    void linesInMenusArePlain()
+    {
+        const IconStates style;
+        const auto painted = [&style](const QString &text, QStyleOptionMenuItem::MenuItemType type) {
+            QStyleOptionMenuItem row;
+            row.rect = QRect(0, 0, 100, 20);
+            row.menuItemType = type;
+            row.text = text;
+            QImage picture(100, 20, QImage::Format_ARGB32_Premultiplied);
+            picture.fill(Qt::white);
+            QPainter painter(&picture);
+            style.drawControl(QStyle::CE_MenuItem, &row, &painter, nullptr);
+            return picture;
+        };
+        QCOMPARE(painted(u"-"_s, QStyleOptionMenuItem::Separator), painted({}, QStyleOptionMenuItem::Separator));
+        QVERIFY(painted(u"-"_s, QStyleOptionMenuItem::Normal) != painted({}, QStyleOptionMenuItem::Normal));
     }
 
     void activeIsTheSame() { QCOMPARE(drawn(QIcon::Active, Qt::red, Qt::blue).pixelColor(8, 8), QColor(Qt::red)); }
