@@ -228,9 +228,9 @@ int main(int argc, char **argv)
         inputs.emplace_back(file.readAll());
     }
     for (const TextFunction &function : functions) {
-        for (const auto &[suffix, input] : {std::pair("/small", &inputs[0]), std::pair("/large", &inputs[1])}) {
-            benchmark::RegisterBenchmark((std::string(function.name) + suffix).c_str(),
-                                         [&function, input](benchmark::State &state) {
+        for (const auto &size : {std::pair("/small", &inputs[0]), std::pair("/large", &inputs[1])}) {
+            benchmark::RegisterBenchmark((std::string(function.name) + size.first).c_str(),
+                                         [&function, input = size.second](benchmark::State &state) {
                                              for (auto _ : state) {
                                                  state.PauseTiming();
                                                  emptyCaches();
