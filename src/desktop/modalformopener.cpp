@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QEventLoop>
 
+#include <algorithm>
 #include <utility>
 
 namespace zephira {
@@ -150,10 +151,10 @@ QWidget *ModalFormOpener::openForm(const QString &form) const
 void ModalFormOpener::closeAll()
 {
     const auto open = std::exchange(m_open, {});
-    for (auto window = open.rbegin(); window != open.rend(); ++window) {
-        if (*window)
-            (*window)->close();
-    }
+    std::for_each(open.rbegin(), open.rend(), [](const auto &window) {
+        if (window)
+            window->close();
+    });
 }
 
 QWidget *ModalFormOpener::make(const QString &form, QWidget *owner)

@@ -152,8 +152,8 @@ bool TypingRules::eraseCharacters(bool backward) const
         return false;
     std::ranges::sort(ranges);
     m_engine.send(Sci::SCI_BEGINUNDOACTION);
-    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range)
-        m_engine.replace(range->first, range->second, {});
+    std::for_each(ranges.rbegin(), ranges.rend(),
+                  [this](const auto &range) { m_engine.replace(range.first, range.second, {}); });
     m_engine.send(Sci::SCI_ENDUNDOACTION);
     m_engine.send(Sci::SCI_SCROLLCARET);
     m_engine.send(Sci::SCI_CHOOSECARETX);
