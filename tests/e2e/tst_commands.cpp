@@ -330,8 +330,8 @@ private Q_SLOTS:
         const QString wizard = u"Table Wizard ..."_s;
         RunningProgram program(folder, {path});
         QVERIFY(program.waitForWindow(caption));
-        // Below it are the enabled entries of the web viewer, the statement wizard and the text wizard.
-        program.key(caption, u"alt+t Up Up Up Up Return"_s);
+        // Below it are the web viewer, the statement wizard, the text wizard and the wizard for text files.
+        program.key(caption, u"alt+t Up Up Up Up Up Return"_s);
         QVERIFY(program.waitForWindow(wizard));
         program.key(wizard, u"Return"_s);
         QVERIFY(program.waitUntilGone(wizard));
