@@ -2,17 +2,24 @@
 #include "app/endsignals.h"
 
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 
 #include <fcntl.h>
 #include <unistd.h>
 
+using namespace std::chrono_literals;
+
 namespace zephira {
 
 namespace {
+
+/// Time for keys that were pressed before the signal to come through the queues of the display and the event loop.
+constexpr auto inputDelay = 50ms;
 
 /// The write end of the pipe, the only state that the signal handler uses.
 std::atomic<int> writeEnd{-1};
@@ -42,7 +49,7 @@ EndSignals::EndSignals(QObject *owner) : QObject(owner)
     connect(notifier, &QSocketNotifier::activated, this, [this] {
         char byte = 0;
         while (read(m_readEnd, &byte, 1) == 1) {}
-        Q_EMIT received();
+        QTimer::singleShot(inputDelay, this, &EndSignals::received);
     });
     struct sigaction action = {};
     action.sa_handler = tell;

@@ -5,9 +5,9 @@
 
 namespace zephira {
 
-/// Reports in the event loop that the process is asked to end by SIGTERM, SIGHUP or SIGINT. The first signal of each
-/// kind is reported; a second one has its default effect and ends the process. Only one instance may exist in a
-/// process.
+/// Reports in the event loop that the process is asked to end by SIGTERM, SIGHUP or SIGINT, 50 milliseconds late, so
+/// that keys pressed before are still taken. The first signal of each kind is reported; a second one has its default
+/// effect and ends the process. Only one instance may exist in a process.
 class EndSignals final : public QObject
 {
     Q_OBJECT
