@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/runningprogram.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTest>
 
 #include <unistd.h>
@@ -41,6 +43,32 @@ bool waitFor(Condition condition)
         QTest::qWait(step);
     }
     return true;
+}
+
+/// What the system tells of the processor time of each thread, and whether each sleeps.
+struct ThreadTimes {
+    QByteArray times;
+    bool asleep = true;
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+ThreadTimes threadTimes(qint64 pid)
+{
+    ThreadTimes all;
+    const QDir tasks(u"/proc/%1/task"_s.arg(pid));
+    const QStringList names = tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &name : names) {
+        all.times += contentOf(tasks.filePath(name + u"/schedstat"_s));
+        // The state is the letter behind the name in brackets.
+        const QByteArray state = contentOf(tasks.filePath(name + u"/stat"_s));
+        all.asleep = all.asleep && state.mid(state.lastIndexOf(')') + 2, 1) == "S";
+    }
+    return all;
 }
 
 } // namespace
@@ -202,6 +230,18 @@ QString RunningProgram::middleColour(const QString &title) const
 bool RunningProgram::waitForMiddleColour(const QString &title, const QString &colour) const
 {
     return waitFor([&] { return middleColour(title) == colour; });
+}
+
+bool RunningProgram::waitUntilIdle() const
+{
+    ThreadTimes before;
+    return waitFor([&] {
+        QTest::qWait(2 * step);
+        const ThreadTimes now = threadTimes(pid());
+        const bool idle = now.asleep && now.times == before.times;
+        before = now;
+        return idle;
+    });
 }
 
 void RunningProgram::limitFileSize(qint64 bytes) const

@@ -58,6 +58,9 @@ public:
     /// Waits until the middle of the window has that colour.
     bool waitForMiddleColour(const QString &title, const QString &colour) const;
 
+    /// Waits until no thread of the program has had work for a tenth of a second: keys sent before have taken effect.
+    bool waitUntilIdle() const;
+
     /// From now on a write that would make a file larger than this fails.
     void limitFileSize(qint64 bytes) const;
     bool isRunning() const { return m_process.state() == QProcess::Running; }

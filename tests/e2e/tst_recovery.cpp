@@ -92,6 +92,7 @@ private Q_SLOTS:
         RunningProgram program(folder, {path});
         QVERIFY(program.waitForWindow(caption));
         program.type(caption, u"unsaved "_s);
+        QVERIFY(program.waitUntilIdle());
         QCOMPARE(folder.recoveryCopies(), QStringList());
         QCOMPARE(::kill(static_cast<pid_t>(program.pid()), signal), 0);
         QCOMPARE(program.waitForEnd(), 0);
@@ -109,6 +110,7 @@ private Q_SLOTS:
         RunningProgram program(folder, {path});
         QVERIFY(program.waitForWindow(caption));
         program.type(caption, u"unsaved "_s);
+        QVERIFY(program.waitUntilIdle());
         QCOMPARE(folder.recoveryCopies(), QStringList());
         program.cutFromDisplay(caption);
         QCOMPARE(program.waitForEnd(), 1);
