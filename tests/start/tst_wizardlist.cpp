@@ -234,13 +234,13 @@ private:
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
     }
 
-    /// Calls the function as soon as the wizard's form is there.
+    /// Calls the function as soon as the wizard's form is there and takes keys.
     void whenAsked(const std::function<void(QDialog &)> &act)
     {
         QTimer::singleShot(5, this, [this, act] {
             const QWidgetList windows = QApplication::topLevelWidgets();
             for (QWidget *window : windows) {
-                if (window->objectName() == u"ArticleForm" && window->isVisible())
+                if (window->objectName() == u"ArticleForm" && window->isVisible() && window->focusWidget())
                     return act(*static_cast<QDialog *>(window));
             }
             whenAsked(act);
