@@ -9,6 +9,9 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# Thin archives: a library names its object files and holds no second copy of them.
+set(CMAKE_CXX_ARCHIVE_CREATE "<CMAKE_AR> qcT <TARGET> <LINK_FLAGS> <OBJECTS>")
+set(CMAKE_CXX_ARCHIVE_APPEND "<CMAKE_AR> qT <TARGET> <LINK_FLAGS> <OBJECTS>")
 
 # The compile rules of every target.
 add_library(zephira_rules INTERFACE)
@@ -27,7 +30,9 @@ target_link_options(zephira_rules INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--as-nee
 if(ZEPHIRA_SANITIZE)
   # One test run covers both build trees; the prefix shows which of them a test comes from.
   set(ZEPHIRA_TEST_PREFIX asan.)
-  target_compile_options(zephira_rules INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+  # Compressed, what the objects hold for debuggers takes half the space.
+  target_compile_options(zephira_rules INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
+    -fno-sanitize-recover=undefined -gz)
   # The sanitizers add a relocation for each source location they report; packed, these take a twentieth of the space.
   target_link_options(zephira_rules INTERFACE -fsanitize=address,undefined
     -Wl,-z,pack-relative-relocs -Wl,--compress-debug-sections=zlib)
