@@ -181,6 +181,16 @@ QStringList shapeViolations(const QString &path, const QString &text)
     return result;
 }
 
+/// Matches literals and comments.
+const QRegularExpression &noCode()
+{
+    // Raw strings come before plain ones, and literals before comments, because the first alternative that matches
+    // wins.
+    static const QRegularExpression pattern(
+        uR"re(R"(\w*)\((?:.|\n)*?\)\1"|"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])+'|//[^\n]*|/\*(?:.|\n)*?\*/)re"_s);
+    return pattern;
+}
+
 } // namespace
 
 Layers readLayers(const QString &sourceFolder)
@@ -251,18 +261,27 @@ QStringList violations(const QString &path, const QString &text, const Layers &l
 
 QString codeOf(const QString &text)
 {
-    // Raw strings come before plain ones, and literals before comments, because the first alternative that matches
-    // wins.
-    static const QRegularExpression noCode(
-        uR"re(R"(\w*)\((?:.|\n)*?\)\1"|"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])+'|//[^\n]*|/\*(?:.|\n)*?\*/)re"_s);
     QString code;
     qsizetype end = 0;
-    for (const QRegularExpressionMatch &match : noCode.globalMatch(text)) {
+    for (const QRegularExpressionMatch &match : noCode().globalMatch(text)) {
         code += QStringView(text).mid(end, match.capturedStart() - end);
         code += QString(match.captured().count(u'\n'), u'\n');
         end = match.capturedEnd();
     }
     return code + QStringView(text).mid(end).toString();
+}
+
+QStringList literalsOf(const QString &text)
+{
+    static const QRegularExpression include(uR"(^\s*#\s*include\s*$)"_s);
+    QStringList literals;
+    for (const QRegularExpressionMatch &match : noCode().globalMatch(text)) {
+        const qsizetype line = text.lastIndexOf(u'\n', match.capturedStart()) + 1;
+        const bool isComment = match.captured().startsWith(u'/');
+        if (!isComment && !text.mid(line, match.capturedStart() - line).contains(include))
+            literals.append(match.captured());
+    }
+    return literals;
 }
 
 } // namespace zephira

@@ -35,6 +35,10 @@ QStringList linkViolations(const QString &path, const QString &cmake);
 /// The source without comments and without string and character literals; line ends are kept.
 QString codeOf(const QString &text);
 
+/// The string and character literals of a source as they are written, with their quotes. Names of included files are
+/// none.
+QStringList literalsOf(const QString &text);
+
 constexpr int maximumLines = 1000;
 constexpr qsizetype maximumFolderLines = 7500;
 

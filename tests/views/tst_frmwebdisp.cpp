@@ -96,7 +96,8 @@ private Q_SLOTS:
         QVERIFY(viewer.form.isOpen());
     }
 
-    /// The source is shown by the editing control, whose shipped colours go along with the desktop.
+    /// The source is shown by the editing control, whose shipped colours go along with the desktop, while those that
+    /// the user chose stay.
     void theSourceIsDarkOnADarkDesktop()
     {
         const QPalette before = QApplication::palette();
@@ -123,13 +124,18 @@ private Q_SLOTS:
             const QImage picture = source->viewport()->grab().toImage();
             return picture.pixelColor(picture.width() - 4, picture.height() - 4);
         };
-        const auto text = [&] {
-            return static_cast<quint32>(source->engine().send(QsciScintillaBase::SCI_STYLEGETFORE, 0));
+        const auto colourOf = [&](int style) {
+            return static_cast<quint32>(source->engine().send(QsciScintillaBase::SCI_STYLEGETFORE, style));
         };
+        const auto text = [&] { return colourOf(0); };
+        const auto keyword = [&] { return colourOf(2); };
+        source->setColor(KeywordFore, 0x123456);
         QCOMPARE(paper(), QColor(Qt::white));
+        QCOMPARE(keyword(), 0x123456u);
         QApplication::setPalette(desktopPalettes()[2].palette);
         QTRY_VERIFY2(paper().lightness() < 60, qPrintable(paper().name()));
         QCOMPARE(text(), colourItemTable[TextFore].dark);
+        QCOMPARE(keyword(), 0x123456u);
         source->setColor(TextFore, 0x0000ff);
         QCOMPARE(text(), 0x0000ffu);
         QCOMPARE(paper(), QColor(Qt::white));
@@ -137,6 +143,8 @@ private Q_SLOTS:
         QApplication::setPalette(before);
         QTRY_COMPARE(paper(), QColor(Qt::white));
         QCOMPARE(text(), shippedColours[TextFore]);
+        QCOMPARE(keyword(), 0x123456u);
+        QCOMPARE(source->color(KeywordFore), 0x123456u);
     }
 
     void theButtonKeepsTheKeyboard()
