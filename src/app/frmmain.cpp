@@ -56,7 +56,7 @@ namespace zephira {
 namespace {
 
 constexpr int sidePaneWidth = 250;
-constexpr int lowestPane = 100;
+constexpr int lowestPane = 96;
 constexpr int lowestView = 30;
 
 void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)

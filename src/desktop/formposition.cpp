@@ -5,6 +5,7 @@
 #include "core/usersettings.h"
 
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
 #include <QWidget>
 
@@ -62,6 +63,10 @@ void save(QWidget &form, const Placement &placement)
 
 void restore(QWidget &form, const Placement &placement)
 {
+    // A window that is smaller than its contents allow is enlarged when it shows, which loses the place of its frame:
+    // its title would be above the screen. So its least size is settled first.
+    if (QLayout *contents = form.layout())
+        contents->activate();
     QRect place(form.pos(), form.size());
     const QScreen *screen = form.screen();
     // A size that isn't stored yet is limited to the screen.
@@ -75,7 +80,7 @@ void restore(QWidget &form, const Placement &placement)
     const QList<QScreen *> screens = QGuiApplication::screens();
     for (const QScreen *each : screens)
         areas.append(each->availableGeometry());
-    place = placeOnScreens(place, areas);
+    place = placeOnScreens(place, form.minimumSize(), areas);
     form.move(place.topLeft());
     form.resize(place.size());
 
@@ -86,7 +91,7 @@ void restore(QWidget &form, const Placement &placement)
 
 } // namespace
 
-QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens)
+QRect placeOnScreens(const QRect &wanted, const QSize &least, const QList<QRect> &screens)
 {
     constexpr QSize grip(80, 24);
     QRect all;
@@ -94,7 +99,7 @@ QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens)
         all |= screen;
     if (all.isEmpty())
         return wanted;
-    QRect place(wanted.topLeft(), wanted.size().boundedTo(all.size()).expandedTo(grip));
+    QRect place(wanted.topLeft(), wanted.size().boundedTo(all.size()).expandedTo(grip).expandedTo(least));
     const QRect upperEdge(place.topLeft(), QSize(place.width(), grip.height()));
     const bool reachable = std::ranges::any_of(screens, [&](const QRect &screen) {
         const QRect shown = screen & upperEdge;
@@ -103,9 +108,10 @@ QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens)
     if (reachable)
         return place;
     const QRect &screen = screens.first();
-    place.setSize(place.size().boundedTo(screen.size()));
-    place.moveLeft(std::clamp(place.x(), screen.x(), screen.x() + screen.width() - place.width()));
-    place.moveTop(std::clamp(place.y(), screen.y(), screen.y() + screen.height() - place.height()));
+    place.setSize(place.size().boundedTo(screen.size()).expandedTo(least));
+    // The upper left corner is what must be visible of a window that is larger than the screen.
+    place.moveLeft(qMax(qMin(place.x(), screen.x() + screen.width() - place.width()), screen.x()));
+    place.moveTop(qMax(qMin(place.y(), screen.y() + screen.height() - place.height()), screen.y()));
     return place;
 }
 

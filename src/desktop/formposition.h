@@ -20,9 +20,10 @@ class UserSettings;
 /// without a stored size is limited to the size of its screen.
 void FormPosition(QWidget &form, bool saving, UserSettings &settings);
 
-/// Where a window should go, in pixels. Its size is at most that of all screens together and at least a title bar. If
-/// enough of the window's upper edge to grab it lies on a screen, the wanted place is kept; else the result is the
-/// nearest place on the first screen, made small enough to fit. Without screens, the wanted place is returned as is.
-QRect placeOnScreens(const QRect &wanted, const QList<QRect> &screens);
+/// Where a window should go, in pixels. Its size is at most that of all screens together and at least a title bar and
+/// `least`, below which its contents can't go. If enough of the window's upper edge to grab it lies on a screen, the
+/// wanted place is kept; else the result is the nearest place on the first screen, made small enough to fit. Without
+/// screens, the wanted place is returned as is.
+QRect placeOnScreens(const QRect &wanted, const QSize &least, const QList<QRect> &screens);
 
 } // namespace zephira

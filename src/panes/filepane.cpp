@@ -18,7 +18,7 @@ namespace zephira {
 
 namespace {
 
-constexpr int lowestList = 36;
+constexpr int lowestList = 16;
 
 } // namespace
 

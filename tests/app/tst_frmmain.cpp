@@ -616,7 +616,7 @@ private Q_SLOTS:
         QTest::addColumn<QSize>("frame"); // As large as the scale leaves room for.
         QTest::newRow("1") << 1 << QSize(16, 48);
         QTest::newRow("2") << 2 << QSize(16, 48);
-        QTest::newRow("3") << 3 << QSize(16, 0);
+        QTest::newRow("3") << 3 << QSize(16, 9);
     }
 
     /// At the first start, on a screen of 1366 × 768 pixels, minus the window frame, whatever the panels show.

@@ -5,6 +5,7 @@
 
 #include <QScreen>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +52,9 @@ private Q_SLOTS:
     void aFirstSizeFitsTheScreen();
     void screens_data();
     void screens();
+    void contentsNeedTheirRoom_data();
+    void contentsNeedTheirRoom();
+    void theSizeIsSettledBeforeTheWindowShows();
 
 private:
     QString stored(const char *key) const
@@ -204,7 +208,46 @@ void TstFormPosition::screens()
     QFETCH(QRect, wanted);
     QFETCH(QList<QRect>, screens);
     QFETCH(QRect, expected);
-    QCOMPARE(placeOnScreens(wanted, screens), expected);
+    QCOMPARE(placeOnScreens(wanted, {}, screens), expected);
+}
+
+/// What the contents need comes before what fits, and the title is visible in any case. On a screen of 1366 × 768 at
+/// scale 3 there is hardly more room than a window needs.
+void TstFormPosition::contentsNeedTheirRoom_data()
+{
+    QTest::addColumn<QRect>("wanted");
+    QTest::addColumn<QSize>("least");
+    QTest::addColumn<QRect>("expected");
+    QTest::newRow("enough") << QRect(10, 20, 400, 208) << QSize(300, 200) << QRect(10, 20, 400, 208);
+    QTest::newRow("too low") << QRect(0, 0, 439, 208) << QSize(416, 240) << QRect(0, 0, 439, 240);
+    QTest::newRow("too narrow") << QRect(5, 6, 300, 240) << QSize(416, 200) << QRect(5, 6, 416, 240);
+    QTest::newRow("larger than the screen") << QRect(0, 0, 300, 200) << QSize(500, 300) << QRect(0, 0, 500, 300);
+    QTest::newRow("outside") << QRect(600, 300, 300, 200) << QSize(416, 240) << QRect(39, 16, 416, 240);
+    QTest::newRow("outside and larger") << QRect(600, 300, 300, 200) << QSize(500, 300) << QRect(0, 0, 500, 300);
+}
+
+void TstFormPosition::contentsNeedTheirRoom()
+{
+    QFETCH(QRect, wanted);
+    QFETCH(QSize, least);
+    QTEST(placeOnScreens(wanted, least, {QRect(0, 0, 1366 / 3, 768 / 3)}), "expected");
+}
+
+/// A window that the layout enlarges when it shows loses the place of its frame, and its title with it.
+void TstFormPosition::theSizeIsSettledBeforeTheWindowShows()
+{
+    QWidget contents;
+    contents.setMinimumSize(500, 400);
+    auto *layout = new QVBoxLayout(m_form.get());
+    layout->addWidget(&contents);
+    put("Height", u"3000"_s);
+    put("Width", u"4500"_s);
+    position(false);
+    const QSize settled = m_form->size();
+    QVERIFY(settled.width() >= 500 && settled.height() >= 400);
+    m_form->show();
+    QCOMPARE(m_form->size(), settled);
+    contents.setParent(nullptr);
 }
 
 ZEPHIRA_TEST(TstFormPosition)
