@@ -2,8 +2,10 @@
 #include "commands/toolbars.h"
 
 #include "commands/icons.h"
+#include "commands/menutable.h"
 #include "commands/toolbartable.h"
 #include "core/formopener.h"
+#include "widgets/tipwithkeys.h"
 
 #include <QAction>
 #include <QMenu>
@@ -28,14 +30,12 @@ CommandToolBar::CommandToolBar(const ToolBarTable &table, QWidget *parent)
 
 void CommandToolBar::addButton(const ToolButton &button)
 {
-    const QString key = button.key.toString();
-    QAction *action = new QAction(button.tip.toString(), this);
-    action->setObjectName(key);
-    action->setToolTip(action->text());
-    setCommandIcon(action, button.icon);
+    QAction *action = new QAction(this);
+    action->setObjectName(button.key);
     addAction(action);
-    QToolButton *toolButton = qobject_cast<QToolButton *>(widgetForAction(action));
-    toolButton->setAccessibleName(action->text());
+    const MenuItem *entry = findMenuItem(button.entry);
+    setTip(action, tipWithKeys(button.tip, entry ? entry->shortcut : QStringView()));
+    setCommandIcon(action, button.icon);
     connect(action, &QAction::triggered, this, [this, &button] { Q_EMIT chosen(button.command); });
     if (button.pullDown.empty())
         return;
@@ -54,7 +54,22 @@ void CommandToolBar::addButton(const ToolButton &button)
         });
     }
     action->setMenu(menu);
-    toolButton->setPopupMode(QToolButton::MenuButtonPopup);
+    qobject_cast<QToolButton *>(widgetForAction(action))->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void CommandToolBar::setTip(QAction *action, const QString &tip)
+{
+    action->setText(tip);
+    action->setToolTip(tip);
+    widgetForAction(action)->setAccessibleName(tip);
+}
+
+void CommandToolBar::showKeys(QStringView entry, const QString &keys)
+{
+    for (const ToolButton &button : m_table.buttons) {
+        if (!button.entry.isEmpty() && button.entry == entry)
+            setTip(action(button.key.toString()), tipWithKeys(button.tip, keys));
+    }
 }
 
 QAction *CommandToolBar::action(const QString &key) const

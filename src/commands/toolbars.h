@@ -25,6 +25,9 @@ public:
     /// The button or pull-down entry with a key, or nullptr.
     QAction *action(const QString &key) const;
 
+    /// Names new keys in the tips of the buttons that do what a menu entry does.
+    void showKeys(QStringView entry, const QString &keys);
+
     /// Enables or disables the buttons and separators that need something. Buttons that aren't available yet stay
     /// disabled.
     void setMet(Need need, bool met);
@@ -40,6 +43,7 @@ Q_SIGNALS:
 
 private:
     void addButton(const ToolButton &button);
+    void setTip(QAction *action, const QString &tip);
 
     const ToolBarTable &m_table;
     QSet<const QAction *> m_unavailable;

@@ -12,20 +12,27 @@ namespace {
 
 constexpr ToolButton separator{};
 
+/// A button that does what a menu entry does, which has the button's key for a name unless another is given.
+constexpr ToolButton likeEntry(ToolButton button, QStringView entry = {})
+{
+    button.entry = entry.isEmpty() ? button.key : entry;
+    return button;
+}
+
 /// The editing buttons act on the code view whichever view is visible, unlike the menu entries.
 constexpr ToolButton standardButtons[] = {
-    {u"new", u"New document (Ctrl+N)", u"document-new", {&Document::newDocument}},
-    {u"open", u"Open a document (Ctrl+O)", u"document-open", {&Document::open}},
-    {u"save", u"Save the document (Ctrl+S)", u"document-save", {&Document::save}},
-    {u"print", u"Print the document (Ctrl+P)", u"document-print", {&Document::print}},
+    likeEntry({u"new", u"New document", u"document-new", {&Document::newDocument}}, u"mnunewdoc"),
+    likeEntry({u"open", u"Open a document", u"document-open", {&Document::open}}),
+    likeEntry({u"save", u"Save the document", u"document-save", {&Document::save}}),
+    likeEntry({u"print", u"Print the document", u"document-print", {&Document::print}}),
     separator,
-    {u"cut", u"Cut (Ctrl+X)", u"edit-cut", {EditsText{&EditingControl::cut}}},
-    {u"copy", u"Copy (Ctrl+C)", u"edit-copy", {EditsText{&EditingControl::copy}}},
-    {u"paste", u"Paste (Ctrl+V)", u"edit-paste", {EditsText{&EditingControl::paste}}},
-    {u"delete", u"Delete (Del)", u"edit-delete", {deleteSelectedText}},
+    likeEntry({u"cut", u"Cut", u"edit-cut", {EditsText{&EditingControl::cut}}}),
+    likeEntry({u"copy", u"Copy", u"edit-copy", {EditsText{&EditingControl::copy}}}),
+    likeEntry({u"paste", u"Paste", u"edit-paste", {EditsText{&EditingControl::paste}}}),
+    likeEntry({u"delete", u"Delete", u"edit-delete", {deleteSelectedText}}),
     separator,
-    {u"undo", u"Undo (Ctrl+Z)", u"edit-undo", {undoFromToolbar}},
-    {u"redo", u"Redo (Ctrl+Y)", u"edit-redo", {redoFromToolbar}},
+    likeEntry({u"undo", u"Undo", u"edit-undo", {undoFromToolbar}}),
+    likeEntry({u"redo", u"Redo", u"edit-redo", {redoFromToolbar}}),
 };
 
 /// An entry of a pull-down that works only in the code view.

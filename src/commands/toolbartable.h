@@ -25,6 +25,7 @@ struct PullDownEntry {
 /// One button of a toolbar; without a key it is a separator.
 struct ToolButton {
     QStringView key = {};
+    /// Without the keys of `entry`, which are put behind it.
     QStringView tip = {};
     QStringView icon = {};
     Command command = {};
@@ -33,6 +34,8 @@ struct ToolButton {
     std::span<const PullDownEntry> pullDown = {};
     /// What the button needs besides its form.
     Need need = Need::Nothing;
+    /// The menu entry that does the same, or empty.
+    QStringView entry = {};
 };
 
 struct ToolBarTable {

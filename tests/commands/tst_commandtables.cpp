@@ -238,15 +238,17 @@ void TstCommandTables::formattingBarOrder()
     QCOMPARE(formattingToolBar().buttons.back().tip, QStringView(u"Discard Changes and Reload document"));
 }
 
-/// A button of the standard toolbar does the same as a menu entry; its tip names that entry's shortcut.
+/// A button of the standard toolbar does the same as a menu entry, which has keys for its tip to name.
 void TstCommandTables::tipsNameTheirKeys()
 {
     for (const ToolButton &button : standardToolBar().buttons) {
         if (button.key.isEmpty())
             continue;
-        const MenuItem *item = findMenuItem(button.key == u"new" ? u"mnunewdoc" : button.key);
+        QVERIFY(button.entry == (button.key == u"new" ? QStringView(u"mnunewdoc") : button.key));
+        const MenuItem *item = findMenuItem(button.entry);
         QVERIFY(item);
-        QVERIFY2(button.tip.endsWith(u" (%1)"_s.arg(item->shortcut)), qPrintable(button.tip.toString()));
+        QVERIFY2(!item->shortcut.isEmpty(), qPrintable(button.key.toString()));
+        QVERIFY2(!button.tip.contains(u'('), qPrintable(button.tip.toString()));
     }
 }
 

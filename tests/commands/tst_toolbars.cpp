@@ -20,6 +20,7 @@ class TstToolBars : public QObject
 private Q_SLOTS:
     void standard();
     void formatting();
+    void tipsNameTheKeysOfTheirEntries();
     void buttonsReportTheirCommands();
     void languagesCloseWhatIsAboutMarkup();
     void unavailableButtonsStayClosed();
@@ -43,6 +44,23 @@ void TstToolBars::standard()
     QCOMPARE(keys,
              (QStringList{u"new"_s, u"open"_s, u"save"_s, u"print"_s, u"cut"_s, u"copy"_s, u"paste"_s, u"delete"_s,
                           u"undo"_s, u"redo"_s}));
+}
+
+void TstToolBars::tipsNameTheKeysOfTheirEntries()
+{
+    CommandToolBar bar(standardToolBar());
+    const QAction *button = bar.action(u"new"_s);
+    const QWidget *control = bar.widgetForAction(bar.action(u"new"_s));
+    QCOMPARE(button->toolTip(), u"New document (Ctrl+N)"_s);
+    QCOMPARE(control->accessibleName(), button->toolTip());
+    bar.showKeys(u"mnunewdoc", u"F11"_s);
+    QCOMPARE(button->toolTip(), u"New document (F11)"_s);
+    QCOMPARE(button->text(), button->toolTip());
+    QCOMPARE(control->accessibleName(), button->toolTip());
+    bar.showKeys(u"mnunewdoc", {});
+    QCOMPARE(button->toolTip(), u"New document"_s);
+    bar.showKeys(u"nothing", u"F1"_s);
+    QCOMPARE(bar.action(u"save"_s)->toolTip(), u"Save the document (Ctrl+S)"_s);
 }
 
 void TstToolBars::formatting()
