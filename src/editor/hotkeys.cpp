@@ -4,7 +4,9 @@
 #include "core/editorcommand.h"
 #include "editor/qsci.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace zephira {
 
@@ -76,11 +78,56 @@ constexpr std::array hotKeys{
     row(Sci::SCI_MOVESELECTEDLINESDOWN, Alt, Qt::Key_Down),
 };
 
+struct CommandUse {
+    int command;
+    QStringView use;
+};
+
+constexpr CommandUse use(EditorCommand command, QStringView text)
+{
+    return {numberOf(command), text};
+}
+
+constexpr CommandUse uses[] = {
+    use(UndoText, u"undoes the last change of the text"),
+    use(RedoText, u"redoes a change of the text"),
+    use(CopyText, u"copies the selected text"),
+    use(PasteText, u"inserts the clipboard's text"),
+    use(DeleteText, u"deletes text"),
+    use(SelectAll, u"selects the whole text"),
+    use(FindPrevious, u"finds the text further up"),
+    use(ToggleBookmark, u"sets or removes a bookmark"),
+    use(NextBookmark, u"goes to the next bookmark"),
+    use(PreviousBookmark, u"goes to the previous bookmark"),
+    use(ClearBookmarks, u"removes all bookmarks"),
+    use(ToggleOvertype, u"changes between inserting and overtyping"),
+    use(ToggleFold, u"folds or unfolds lines of the text"),
+    use(ToggleAllFolds, u"folds or unfolds the whole text"),
+    use(GoToMatchingBrace, u"goes to the matching bracket in the text"),
+    use(SelectToMatchingBrace, u"selects up to the matching bracket in the text"),
+    use(ResetZoom, u"shows the text in its usual size"),
+    use(AddNextOccurrence, u"selects the next occurrence of the selected text, too"),
+    {Sci::SCI_ZOOMIN, u"shows the text larger"},
+    {Sci::SCI_ZOOMOUT, u"shows the text smaller"},
+    {Sci::SCI_SELECTIONDUPLICATE, u"doubles the selected text"},
+    {Sci::SCI_LINEDELETE, u"deletes the line"},
+    {Sci::SCI_LOWERCASE, u"makes the selected text lower case"},
+    {Sci::SCI_UPPERCASE, u"makes the selected text upper case"},
+    {Sci::SCI_MOVESELECTEDLINESUP, u"moves the selected lines up"},
+    {Sci::SCI_MOVESELECTEDLINESDOWN, u"moves the selected lines down"},
+};
+
 } // namespace
 
 std::span<const CodeMaxHotKey> initialHotKeys()
 {
     return hotKeys;
+}
+
+QStringView hotKeyUse(int command)
+{
+    const auto found = std::ranges::find(uses, command, &CommandUse::command);
+    return found == std::end(uses) ? QStringView() : found->use;
 }
 
 bool isShortcutLike(QKeyCombination keys)
