@@ -16,6 +16,7 @@
 #include "app/viewswitch.h"
 #include "app/visualtools.h"
 #include "app/windowend.h"
+#include "app/windowkeys.h"
 #include "app/windowtabs.h"
 #include "commands/commandrouter.h"
 #include "commands/designerbar.h"
@@ -43,6 +44,7 @@
 #include "panes/sidetabbar.h"
 #include "tools/spelling/spellcheck.h"
 #include "ui_frmmain.h"
+#include "views/previewpane.h"
 #include "widgets/droppedfile.h"
 
 #include <QAction>
@@ -118,10 +120,11 @@ void frmmain::buildDocument()
 
     m_inserter = std::make_unique<TextInserter>(*m_rt, m_designer);
     m_forms = std::make_unique<ModalFormOpener>(m_services.catalogue, this);
+    m_keys = std::make_unique<WindowKeys>(m_services.settings);
     m_context = std::make_unique<const AppContext>(
         AppContext{*m_rt, *m_inserter, m_designer, *m_documentControls, m_services.configuration, m_services.settings,
                    m_services.files, m_services.prompts, m_services.shell, m_services.clipboard, m_services.clock,
-                   *m_forms, m_services.appPath});
+                   *m_forms, *m_keys, m_services.appPath});
     m_forms->setContext(*m_context);
     m_surface = std::make_unique<DocumentSurface>(
         DocumentSurface::Parts{*this, *m_panels, *m_filePane, m_services.files, *m_forms});
@@ -136,6 +139,10 @@ void frmmain::buildBars()
 
     m_standardBar = new CommandToolBar(standardToolBar(), this);
     m_formattingBar = new CommandToolBar(formattingToolBar(), this);
+    m_keys->attach(*m_menus, *m_standardBar, *m_rt);
+    m_rt->namedKeys = [this](EditorCommand command, const QKeySequence &first) {
+        return m_keys->namedKeys(command, first);
+    };
     m_standardBar->addSeparator();
     m_standardBar->addWidget(m_documentControls->languages());
     addToolBar(m_standardBar);
@@ -190,6 +197,7 @@ void frmmain::buildWorkspace()
             return m_services.webViews();
         },
         this);
+    m_viewSwitch->preview().editsText = [this](const QKeySequence &keys) { return m_keys->editsText(keys); };
     m_surface->attach(*m_viewSwitch, *m_recoveryKeeper);
     m_visualTools = new VisualTools(*m_context, *m_designerBar, *m_menus, this);
     connect(m_visualTools, &VisualTools::finished, m_viewSwitch, &ViewSwitch::focusView);
@@ -208,6 +216,7 @@ void frmmain::buildCommands()
     m_sideCommands = std::make_unique<SideCommands>(SideCommands::Parts{
         *m_context, *m_sidePane, *m_sideLists, *m_palette, *m_selectorList, *m_rt, *m_forms, m_services.spelling});
     m_plugins = std::make_unique<PluginMenu>(*m_context, *m_menus, this);
+    m_plugins->added = [this](QAction *entry, const QString &plugin) { m_keys->addPlugin(entry, plugin); };
     m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
     m_router =
         std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus, *m_sideCommands,

@@ -38,6 +38,7 @@ class StatusPanels;
 class ViewSwitch;
 class VisualTools;
 class WindowEnd;
+class WindowKeys;
 
 namespace Ui {
 class frmmain;
@@ -169,6 +170,7 @@ private:
     FilePaneCommands *m_filePaneCommands = nullptr;
     std::unique_ptr<Inserter> m_inserter;
     std::unique_ptr<ModalFormOpener> m_forms;
+    std::unique_ptr<WindowKeys> m_keys;
     std::unique_ptr<const AppContext> m_context;
     std::unique_ptr<DocumentSurface> m_surface;
     std::unique_ptr<Document> m_document;

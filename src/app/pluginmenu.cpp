@@ -54,6 +54,8 @@ void PluginMenu::addEntry(const QString &caption, const QString &tag)
         entry = m_menus.addElement(menuname::plugins, menuname::pluginEntries, m_count, {RunsPlugin{m_count}});
     entry->setText(caption);
     entry->setData(tag);
+    if (added)
+        added(entry, tag);
     ++m_count;
     // The first entry, which the table closes, and the menu.
     m_menus.setMet(Need::Plugin, true);

@@ -5,6 +5,9 @@
 #include "plugins/extensionfolder.h"
 #include "plugins/extensionrun.h"
 
+#include <functional>
+
+class QAction;
 class QWidget;
 
 namespace zephira {
@@ -27,6 +30,9 @@ public:
     void abandon() { m_run.abandon(); }
     /// How many entries have been added.
     int count() const { return m_count; }
+
+    /// Told of each new entry and the name of its plug-in.
+    std::function<void(QAction *, const QString &)> added;
 
     // PluginCommands
     void runPlugin(int entry) override;

@@ -40,6 +40,7 @@ public:
 
     ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner);
 
+    PreviewPane &preview() { return *m_preview; }
     /// Focuses the current view.
     void focusView();
     QString designerBase() const { return m_views.designerBase(); }

@@ -2,6 +2,7 @@
 #include "commands/icons.h"
 
 #include "commands/glyphs.h"
+#include "commands/menukeys.h"
 #include "widgets/themeicon.h"
 
 #include <QAction>
@@ -60,10 +61,7 @@ void IconTheme::followPalette()
 
 void markNotAvailable(QAction *action)
 {
-    QString name = action->text().remove(u'&');
-    while (name.endsWith(u'.'))
-        name.chop(1);
-    const QString notYet = u"%1 (not available yet)"_s.arg(name);
+    const QString notYet = u"%1 (not available yet)"_s.arg(plainCaption(action->text()));
     action->setEnabled(false);
     action->setToolTip(notYet);
     action->setStatusTip(notYet);

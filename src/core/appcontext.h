@@ -7,6 +7,7 @@ namespace zephira {
 
 class Clipboard;
 class Clock;
+class CommandKeys;
 class Configuration;
 class Designer;
 class DocumentHost;
@@ -33,6 +34,7 @@ struct AppContext {
     Clipboard &clipboard;
     Clock &clock;
     FormOpener &forms;
+    CommandKeys &keys;
     /// The program folder, the root of all data files; without a trailing separator.
     QString appPath;
 };

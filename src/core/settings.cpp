@@ -120,6 +120,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {WindowWidth, own, {}, u"Width"_s, Number},
         {RemoteContent, own, {}, u"RemoteContent"_s, Switch},
         {SpellingDictionary, own, u"Spelling"_s, u"Dictionary"_s, Text},
+        {MenuKeys, own, u"Keys"_s, {}, Text},
     };
     // clang-format on
 }

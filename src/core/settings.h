@@ -121,6 +121,7 @@ enum class UserSetting : int {
     WindowWidth,
     RemoteContent,
     SpellingDictionary,
+    MenuKeys,
 };
 
 /// One value of the per-user store.
@@ -128,7 +129,7 @@ struct UserSettingRow {
     UserSetting setting;
     QString branch;
     QString section; ///< empty where each form, or each project folder, has a section of its own, named after it
-    QString key;
+    QString key;     ///< empty where each command has a value of its own, named after it
     SettingKind kind;
     QString fallback = {}; ///< what a missing value counts as
 };

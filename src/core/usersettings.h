@@ -4,6 +4,7 @@
 #include "core/settings.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace zephira {
 
@@ -20,28 +21,54 @@ public:
         const UserSettingRow &row = userSettingRow(setting);
         return read(row.branch, row.section, row.key, row.fallback);
     }
-    void SaveSetting(UserSetting setting, const QString &value)
+    /// Returns false if the value couldn't be written.
+    bool SaveSetting(UserSetting setting, const QString &value)
     {
         const UserSettingRow &row = userSettingRow(setting);
-        write(row.branch, row.section, row.key, value);
+        return write(row.branch, row.section, row.key, value);
     }
 
-    /// The same for a value that each form, or each project folder, has, in the section named after it.
+    /// The same for a value that each form, each project folder or each command has, in a section or under a key named
+    /// after it.
     QString GetSetting(UserSetting setting, const QString &owner, const QString &fallback) const
     {
         const UserSettingRow &row = userSettingRow(setting);
-        return read(row.branch, owner, row.key, fallback);
+        return read(row.branch, sectionOf(row, owner), keyOf(row, owner), fallback);
     }
-    void SaveSetting(UserSetting setting, const QString &owner, const QString &value)
+    bool SaveSetting(UserSetting setting, const QString &owner, const QString &value)
     {
         const UserSettingRow &row = userSettingRow(setting);
-        write(row.branch, owner, row.key, value);
+        return write(row.branch, sectionOf(row, owner), keyOf(row, owner), value);
+    }
+    /// Removes the value, so that it is missing again. Returns false if the store couldn't be written.
+    bool RemoveSetting(UserSetting setting, const QString &owner)
+    {
+        const UserSettingRow &row = userSettingRow(setting);
+        return remove(row.branch, sectionOf(row, owner), keyOf(row, owner));
+    }
+    /// The owners that have a value under a key named after them, in no particular order.
+    QStringList owners(UserSetting setting) const
+    {
+        const UserSettingRow &row = userSettingRow(setting);
+        return keys(row.branch, row.section);
     }
 
 private:
+    static QString sectionOf(const UserSettingRow &row, const QString &owner)
+    {
+        return row.section.isEmpty() ? owner : row.section;
+    }
+    static QString keyOf(const UserSettingRow &row, const QString &owner)
+    {
+        return row.key.isEmpty() ? owner : row.key;
+    }
+
     virtual QString read(const QString &branch, const QString &section, const QString &key,
                          const QString &fallback) const = 0;
-    virtual void write(const QString &branch, const QString &section, const QString &key, const QString &value) = 0;
+    virtual bool write(const QString &branch, const QString &section, const QString &key, const QString &value) = 0;
+    virtual bool remove(const QString &branch, const QString &section, const QString &key) = 0;
+    /// The keys of a section that have a value.
+    virtual QStringList keys(const QString &branch, const QString &section) const = 0;
 };
 
 } // namespace zephira

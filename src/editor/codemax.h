@@ -12,6 +12,7 @@
 #include "files/textfile.h"
 
 #include <QFont>
+#include <QKeySequence>
 #include <QPointer>
 #include <QVariantMap>
 
@@ -76,6 +77,10 @@ public:
 
     /// The registered languages and the hot keys of this control.
     CodeMaxGlobals &globals() { return *m_globals; }
+
+    /// The keys that the context menu names for a command which has these keys at first. A window whose menus have keys of
+    /// their own sets it.
+    std::function<QKeySequence(EditorCommand, const QKeySequence &)> namedKeys;
 
     QString text() const override;
     void setText(const QString &text) override;

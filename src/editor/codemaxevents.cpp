@@ -281,7 +281,7 @@ void CodeMax::showContextMenu(const QPoint &at)
         // A key that a menu of the window has taken over still does the same.
         const auto hotKey = std::ranges::find(initialHotKeys(), numberOf(command), &CodeMaxHotKey::command);
         if (hotKey != initialHotKeys().end())
-            action->setShortcut(hotKey->keys);
+            action->setShortcut(namedKeys ? namedKeys(command, hotKey->keys) : QKeySequence(hotKey->keys));
         connect(action, &QAction::triggered, this, [this, command] { executeCmd(command); });
     };
     add(tr("&Undo"), EditorCommand::UndoText, writable && canUndo());

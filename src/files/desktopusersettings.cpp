@@ -21,9 +21,29 @@ QString level(QString name)
     return name.isEmpty() ? u"%"_s : name;
 }
 
+/// The name that was escaped.
+QString nameOf(QString level)
+{
+    if (level == u'%')
+        return {};
+    return level.replace(u"%5C"_s, u"\\"_s).replace(u"%2F"_s, u"/"_s).replace(u"%25"_s, u"%"_s);
+}
+
+QString storeGroup(const QString &branch, const QString &section)
+{
+    return level(branch) + u'/' + level(section);
+}
+
 QString storeKey(const QString &branch, const QString &section, const QString &key)
 {
-    return level(branch) + u'/' + level(section) + u'/' + level(key);
+    return storeGroup(branch, section) + u'/' + level(key);
+}
+
+/// Whether all that was set has reached the file.
+bool isWritten(QSettings &settings)
+{
+    settings.sync();
+    return settings.status() == QSettings::NoError;
 }
 
 } // namespace
@@ -35,11 +55,29 @@ QString DesktopUserSettings::read(const QString &branch, const QString &section,
     return settings.value(storeKey(branch, section, key), fallback).toString();
 }
 
-void DesktopUserSettings::write(const QString &branch, const QString &section, const QString &key, const QString &value)
+bool DesktopUserSettings::write(const QString &branch, const QString &section, const QString &key, const QString &value)
 {
     QSettings settings = store();
     settings.setValue(storeKey(branch, section, key), value);
-    settings.sync();
+    return isWritten(settings);
+}
+
+bool DesktopUserSettings::remove(const QString &branch, const QString &section, const QString &key)
+{
+    QSettings settings = store();
+    settings.remove(storeKey(branch, section, key));
+    return isWritten(settings);
+}
+
+QStringList DesktopUserSettings::keys(const QString &branch, const QString &section) const
+{
+    QSettings settings = store();
+    settings.beginGroup(storeGroup(branch, section));
+    QStringList names;
+    const QStringList levels = settings.childKeys();
+    for (const QString &each : levels)
+        names.append(nameOf(each));
+    return names;
 }
 
 QString DesktopUserSettings::fileName()

@@ -14,7 +14,9 @@ class DesktopUserSettings final : public UserSettings
 public:
     QString read(const QString &branch, const QString &section, const QString &key,
                  const QString &fallback) const override;
-    void write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
+    bool write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
+    bool remove(const QString &branch, const QString &section, const QString &key) override;
+    QStringList keys(const QString &branch, const QString &section) const override;
 
     /// Full path of the store's file. Other per-user files are next to it.
     static QString fileName();

@@ -6,6 +6,7 @@
 #include "core/itemroles.h"
 #include "core/paths.h"
 #include "core/prompts.h"
+#include "settings/keypage.h"
 #include "settings/presetpicture.h"
 #include "ui_frmoptions.h"
 
@@ -42,6 +43,7 @@ constexpr Page pages[] = {
     {others, u"Project Explorer Filters", u"Filters", &Ui::frmOptions::frfilters},
     {others, u"Start-Up Options", u"startup", &Ui::frmOptions::frstartup},
     {others, u"Program Paths", u"paths", &Ui::frmOptions::frpaths},
+    {others, u"Keyboard", u"Keyboard", &Ui::frmOptions::frkeyboard},
 };
 
 } // namespace
@@ -52,6 +54,7 @@ frmOptions::frmOptions(const AppContext &context, QWidget *owner)
     m_ui->setupUi(this);
     addPresets();
     addPages();
+    m_keys = new KeyPage(*m_ui, context.keys, this);
     show(loadOptions(context.configuration, context.settings));
 
     connect(m_ui->cmdOK, &QPushButton::clicked, this, [this] {
@@ -196,10 +199,12 @@ Options frmOptions::shown() const
 
 bool frmOptions::save()
 {
-    const Result<void> saved = saveOptions(shown(), m_context.editor, m_context.configuration, m_context.settings);
-    if (saved)
+    Result<void> saved = saveOptions(shown(), m_context.editor, m_context.configuration, m_context.settings);
+    if (saved) {
         m_unsaved.reset();
-    else
+        saved = m_keys->save();
+    }
+    if (!saved)
         tellError(m_context.prompts, saved.error(), windowTitle());
     return saved.ok();
 }

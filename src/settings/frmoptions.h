@@ -18,6 +18,7 @@ namespace zephira {
 namespace Ui {
 class frmOptions;
 }
+class KeyPage;
 
 /// Edits the settings of the installation. What it saves of colours, fonts and font styles it takes from the editing
 /// control, whose own dialog sets them.
@@ -47,6 +48,7 @@ private:
 
     const std::unique_ptr<Ui::frmOptions> m_ui;
     const AppContext m_context;
+    KeyPage *m_keys = nullptr;
 
     /// A preset that the editing control shows although it isn't saved, and the colours before the first such one.
     struct UnsavedPreset {

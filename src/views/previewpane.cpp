@@ -37,19 +37,13 @@ constexpr NavigationButton navigationButtons[] = {
     {u"home", u"Back to the document", u"go-home", [](Browser &browser) { browser.goHome(); }},
 };
 
-constexpr Qt::Key refreshKey = Qt::Key_F5;
+constexpr QKeyCombination refreshKey = Qt::Key_F5;
 
 /// The window uses these keys for the code view, which is hidden here, so the user wouldn't see their effect.
-constexpr QKeyCombination ownKeys[] = {
+constexpr QKeyCombination editingKeys[] = {
     Qt::CTRL | Qt::Key_Z, Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::Key_X, Qt::CTRL | Qt::Key_C,
-    Qt::CTRL | Qt::Key_V, Qt::CTRL | Qt::Key_A, Qt::Key_Delete,       refreshKey,
+    Qt::CTRL | Qt::Key_V, Qt::CTRL | Qt::Key_A, Qt::Key_Delete,
 };
-
-bool isOwnKey(const QKeyEvent &event)
-{
-    const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier, Qt::Key(event.key()));
-    return std::ranges::find(ownKeys, pressed) != std::end(ownKeys);
-}
 
 } // namespace
 
@@ -118,6 +112,13 @@ void PreviewPane::setRemoteAllowed(bool allowed)
     m_forbid->setVisible(allowed);
 }
 
+bool PreviewPane::isOwnKey(const QKeyEvent &event) const
+{
+    const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier, Qt::Key(event.key()));
+    const auto answer = editsText ? editsText(QKeySequence(pressed)) : std::nullopt;
+    return pressed == refreshKey || answer.value_or(std::ranges::find(editingKeys, pressed) != std::end(editingKeys));
+}
+
 /// Keys that no part of the pane handles arrive here before they become shortcuts of the window.
 bool PreviewPane::event(QEvent *event)
 {
@@ -130,7 +131,7 @@ bool PreviewPane::event(QEvent *event)
 
 void PreviewPane::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == refreshKey)
+    if (event->key() == refreshKey.key())
         m_browser.refresh();
     else
         QWidget::keyPressEvent(event);

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QKeySequence>
 #include <QWidget>
 
+#include <functional>
+#include <optional>
+
+class QKeyEvent;
 class QLineEdit;
 class QPushButton;
 class QToolBar;
@@ -13,8 +18,8 @@ class Browser;
 class RemoteBar;
 
 /// The preview: a browser below its address bar and the question about what a page wants to load from other hosts. The
-/// bars exist from the start, the browser is added when needed. While the focus is here, the editing keys belong to the
-/// page, and F5 reloads it.
+/// bars exist from the start, the browser is added when needed. While the focus is here, keys that edit the text belong to
+/// the page, and F5 reloads it.
 class PreviewPane final : public QWidget
 {
     Q_OBJECT
@@ -22,6 +27,10 @@ class PreviewPane final : public QWidget
 public:
     /// The browser must outlive the pane.
     explicit PreviewPane(Browser &browser, QWidget *parent = nullptr);
+
+    /// Whether keys run a command of the window that edits the text; no value if they run none. Without an answer the
+    /// usual editing keys do.
+    std::function<std::optional<bool>(const QKeySequence &)> editsText;
 
     /// Puts the browser's widget below the bar.
     void setBrowserWidget(QWidget *widget);
@@ -41,6 +50,7 @@ protected:
 
 private:
     void addButtons();
+    bool isOwnKey(const QKeyEvent &event) const;
     void go();
 
     Browser &m_browser;

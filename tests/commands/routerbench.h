@@ -97,9 +97,9 @@ struct RouterBench {
     TestContext world;
     TextInserter inserter{world.editor, world.designer};
     FakeParts window;
-    AppContext context{world.editor,   inserter,    world.designer,       world.document, world.configuration,
-                       world.settings, world.files, world.prompts,        world.shell,    world.clipboard,
-                       world.clock,    world.forms, world.context.appPath};
+    AppContext context{world.editor,   inserter,    world.designer, world.document,       world.configuration,
+                       world.settings, world.files, world.prompts,  world.shell,          world.clipboard,
+                       world.clock,    world.forms, world.keys,     world.context.appPath};
     CommonDialog dialog;
     FakeSurface surface;
     Document document{context, dialog, surface};

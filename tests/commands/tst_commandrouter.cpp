@@ -661,7 +661,7 @@ void TstCommandRouter::theWeighedCopyIsPrivate()
     DiskFileStore files;
     const AppContext context{world.editor,   world.inserter, world.designer, world.document, world.configuration,
                              world.settings, files,          world.prompts,  world.shell,    world.clipboard,
-                             world.clock,    world.forms,    folder.path()};
+                             world.clock,    world.forms,    world.keys,     folder.path()};
     world.editor.setText(u"secret"_s);
     weighDocument(context);
     const QFileInfo copy(folder.filePath(u"ldtemp.html"_s));

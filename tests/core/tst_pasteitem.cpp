@@ -31,9 +31,9 @@ private Q_SLOTS:
         QFETCH(QString, item);
         TestContext world;
         TextInserter inserter(world.editor, world.designer);
-        const AppContext context{world.editor,   inserter,    world.designer,       world.document, world.configuration,
-                                 world.settings, world.files, world.prompts,        world.shell,    world.clipboard,
-                                 world.clock,    world.forms, world.context.appPath};
+        const AppContext context{world.editor,   inserter,    world.designer, world.document,       world.configuration,
+                                 world.settings, world.files, world.prompts,  world.shell,          world.clipboard,
+                                 world.clock,    world.forms, world.keys,     world.context.appPath};
         world.editor.setText(u"one two three"_s);
         world.editor.placeCaret(0);
         if (!selected.isEmpty())

@@ -83,7 +83,7 @@ private Q_SLOTS:
     void userValues_data()
     {
         QTest::addColumn<UserSetting>("setting");
-        QTest::addColumn<QString>("place"); // branch/section/key; a form's own section is shown as that of "frmmain"
+        QTest::addColumn<QString>("place"); // branch/section/key; what has an owner is shown as that of "frmmain"
         QTest::newRow("tips") << UserSetting::ShowTips << u"zephira/Options/Show Tips at Startup"_s;
         QTest::newRow("folder") << UserSetting::ProgramFolder << u"Zephira/data/apppath"_s;
         QTest::newRow("version") << UserSetting::ProgramVersion << u"Zephira/data/version"_s;
@@ -94,6 +94,7 @@ private Q_SLOTS:
         QTest::newRow("width") << UserSetting::WindowWidth << u"zephira/frmmain/Width"_s;
         QTest::newRow("remote content") << UserSetting::RemoteContent << u"zephira/frmmain/RemoteContent"_s;
         QTest::newRow("dictionary") << UserSetting::SpellingDictionary << u"zephira/Spelling/Dictionary"_s;
+        QTest::newRow("keys") << UserSetting::MenuKeys << u"zephira/Keys/frmmain"_s;
     }
 
     void userValues()
@@ -101,11 +102,32 @@ private Q_SLOTS:
         QFETCH(UserSetting, setting);
         QFETCH(QString, place);
         MemoryUserSettings settings;
-        if (userSettingRow(setting).section.isEmpty())
+        if (userSettingRow(setting).section.isEmpty() || userSettingRow(setting).key.isEmpty())
             settings.SaveSetting(setting, u"frmmain"_s, u"here"_s);
         else
             settings.SaveSetting(setting, u"here"_s);
         QCOMPARE(settings.values, (std::map<QString, QString>{{place, u"here"_s}}));
+    }
+
+    void valuesUnderTheirOwners()
+    {
+        MemoryUserSettings settings;
+        using enum UserSetting;
+        QCOMPARE(settings.owners(MenuKeys), QStringList());
+        QCOMPARE(settings.GetSetting(MenuKeys, u"save"_s, u"none"_s), u"none"_s);
+        QVERIFY(settings.SaveSetting(MenuKeys, u"save"_s, u"F11"_s));
+        QVERIFY(settings.SaveSetting(MenuKeys, u"open"_s, {}));
+        settings.SaveSetting(SpellingDictionary, u"en"_s);
+        QCOMPARE(settings.owners(MenuKeys), (QStringList{u"open"_s, u"save"_s}));
+        QCOMPARE(settings.GetSetting(MenuKeys, u"save"_s, u"none"_s), u"F11"_s);
+        QCOMPARE(settings.GetSetting(MenuKeys, u"open"_s, u"none"_s), QString());
+        QVERIFY(settings.RemoveSetting(MenuKeys, u"save"_s));
+        QCOMPARE(settings.owners(MenuKeys), QStringList{u"open"_s});
+        QCOMPARE(settings.GetSetting(MenuKeys, u"save"_s, u"none"_s), u"none"_s);
+        settings.writable = false;
+        QVERIFY(!settings.SaveSetting(MenuKeys, u"save"_s, u"F11"_s));
+        QVERIFY(!settings.RemoveSetting(MenuKeys, u"open"_s));
+        QCOMPARE(settings.owners(MenuKeys), QStringList{u"open"_s});
     }
 
     void shippedValuesFitTheirKind()

@@ -16,21 +16,24 @@ namespace {
 /// Records the order in which the keys were read and written.
 struct OrderedSettings final : UserSettings {
     MemoryUserSettings store;
-    mutable QStringList keys;
+    mutable QStringList log;
 
 private:
     QString read(const QString &branch, const QString &section, const QString &key,
                  const QString &fallback) const override
     {
-        keys.append(key);
+        log.append(key);
         const auto entry = store.values.find(branch + u'/' + section + u'/' + key);
         return entry == store.values.end() ? fallback : entry->second;
     }
-    void write(const QString &branch, const QString &section, const QString &key, const QString &value) override
+    bool write(const QString &branch, const QString &section, const QString &key, const QString &value) override
     {
-        keys.append(key);
+        log.append(key);
         store.values[branch + u'/' + section + u'/' + key] = value;
+        return true;
     }
+    bool remove(const QString &, const QString &, const QString &) override { return false; }
+    QStringList keys(const QString &, const QString &) const override { return {}; }
 };
 
 } // namespace
@@ -82,7 +85,7 @@ void TstFormPosition::init()
 void TstFormPosition::saving()
 {
     position(true);
-    QCOMPARE(m_settings->keys, (QStringList{u"WindowState"_s, u"Top"_s, u"Left"_s, u"Height"_s, u"Width"_s}));
+    QCOMPARE(m_settings->log, (QStringList{u"WindowState"_s, u"Top"_s, u"Left"_s, u"Height"_s, u"Width"_s}));
     QCOMPARE(stored("WindowState"), u"0"_s);
     QCOMPARE(stored("Top"), u"450"_s);
     QCOMPARE(stored("Left"), u"600"_s);
@@ -120,7 +123,7 @@ void TstFormPosition::restoring()
     put("Width", u"4500"_s);
     put("WindowState", u"0"_s);
     position(false);
-    QCOMPARE(m_settings->keys, (QStringList{u"Top"_s, u"Left"_s, u"Height"_s, u"Width"_s, u"WindowState"_s}));
+    QCOMPARE(m_settings->log, (QStringList{u"Top"_s, u"Left"_s, u"Height"_s, u"Width"_s, u"WindowState"_s}));
     QCOMPARE(m_form->geometry(), QRect(100, 50, 300, 200));
     QVERIFY(!m_form->isMaximized());
 }

@@ -66,6 +66,39 @@ private Q_SLOTS:
         QCOMPARE(m_settings.read(u"a%2Fb"_s, u"c"_s, u"d"_s, u""_s), u"4"_s);
     }
 
+    void theKeysOfASectionAreListed()
+    {
+        const QStringList names = {u"save"_s, u"a/b"_s, u"c\\d"_s, u"e%2Ff"_s, u"\u00E4 b.Main"_s, u""_s};
+        for (const QString &name : names)
+            QVERIFY(m_settings.write(u"k"_s, u"Keys"_s, name, u"F11"_s));
+        QVERIFY(m_settings.write(u"k"_s, u"Keys below"_s, u"other"_s, u"F11"_s));
+        const auto sorted = [](QStringList list) {
+            list.sort();
+            return list;
+        };
+        QCOMPARE(sorted(DesktopUserSettings().keys(u"k"_s, u"Keys"_s)), sorted(names));
+        QCOMPARE(m_settings.keys(u"k"_s, u"nothing"_s), QStringList());
+        for (const QString &name : names)
+            QVERIFY(m_settings.remove(u"k"_s, u"Keys"_s, name));
+        QVERIFY(m_settings.remove(u"k"_s, u"Keys"_s, u"nothing"_s));
+        QCOMPARE(DesktopUserSettings().keys(u"k"_s, u"Keys"_s), QStringList());
+        QCOMPARE(m_settings.read(u"k"_s, u"Keys"_s, u"save"_s, u"fallback"_s), u"fallback"_s);
+        QCOMPARE(m_settings.keys(u"k"_s, u"Keys below"_s), QStringList{u"other"_s});
+    }
+
+    /// A file stands where the folder would be, which stops even the superuser.
+    void aStoreThatCantBeWritten()
+    {
+        const QString place = m_folder.path() + u"/file"_s;
+        QFile file(place);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, place);
+        const bool written = m_settings.write(u"r"_s, u"s"_s, u"t"_s, u"2"_s);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
+        QVERIFY(!written);
+    }
+
     void isWrittenAtOnce()
     {
         m_settings.write(u"Zephira"_s, u"data"_s, u"version"_s, u"210"_s);

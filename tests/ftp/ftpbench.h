@@ -21,7 +21,7 @@ struct FtpBench {
     DiskFileStore files;
     AppContext context{world.editor,   world.inserter, world.designer, world.document, world.configuration,
                        world.settings, files,          world.prompts,  world.shell,    world.clipboard,
-                       world.clock,    world.forms,    folder.path()};
+                       world.clock,    world.forms,    world.keys,     folder.path()};
     RecordingOperations operations;
     std::shared_ptr<FtpClient> client;
     FormCatalogue catalogue;

@@ -374,7 +374,7 @@ void TstLocalCommands::programDataIsNamed()
     const QTemporaryDir program;
     const AppContext context{world.editor,   world.inserter, world.designer, world.document, world.configuration,
                              world.settings, world.files,    world.prompts,  world.shell,    world.clipboard,
-                             world.clock,    world.forms,    program.path()};
+                             world.clock,    world.forms,    world.keys,     program.path()};
     LocalCommands commands(bench.client, bench.desk, bench.view, context);
     const auto put = [&](const QString &name) {
         QDir(program.path()).mkpath(QFileInfo(program.filePath(name)).path());

@@ -296,10 +296,10 @@ void TstRemoteCommands::downloadOverTheProgramsFiles()
     QVERIFY(QDir().mkpath(disk.filePath(u"other"_s)));
     QVERIFY(QFile::link(disk.filePath(u"app/tags.dat"_s), disk.filePath(u"other/link.dat"_s)));
     TestContext &world = bench.world;
-    const AppContext context{
-        world.editor,   world.inserter, world.designer,         world.document, world.configuration,
-        world.settings, world.files,    world.prompts,          world.shell,    world.clipboard,
-        world.clock,    world.forms,    disk.filePath(u"app"_s)};
+    const AppContext context{world.editor,        world.inserter,         world.designer, world.document,
+                             world.configuration, world.settings,         world.files,    world.prompts,
+                             world.shell,         world.clipboard,        world.clock,    world.forms,
+                             world.keys,          disk.filePath(u"app"_s)};
     RemoteCommands commands(bench.client, bench.desk, bench.view, context);
     bench.enterPub();
     struct Row {

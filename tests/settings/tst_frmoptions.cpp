@@ -17,8 +17,8 @@ using namespace zephira;
 
 namespace {
 
-const QStringList frames = {u"frappearance"_s, u"frcolors"_s, u"frdisplayoptions"_s,
-                            u"frfilters"_s,    u"frpaths"_s,  u"frstartup"_s};
+const QStringList frames = {u"frappearance"_s, u"frcolors"_s, u"frdisplayoptions"_s, u"frfilters"_s,
+                            u"frkeyboard"_s,   u"frpaths"_s,  u"frstartup"_s};
 const QString tips = u"zephira/Options/Show Tips at Startup"_s;
 
 } // namespace
@@ -122,11 +122,11 @@ void TstFrmOptions::theTree()
         for (int j = 0; j < root->childCount(); ++j)
             nodes.append(root->child(j)->text(0) + u'=' + root->child(j)->data(0, KeyRole).toString());
     }
-    QCOMPARE(
-        nodes,
-        (QStringList{u" - Display & Feel - "_s, u"Colors=Colors"_s, u"Font Styles=Font Styles"_s, u"Fonts=Fonts"_s,
-                     u"Display Options=Display Options"_s, u"Appearance=Appearance"_s, u" - Others - "_s,
-                     u"Project Explorer Filters=Filters"_s, u"Start-Up Options=startup"_s, u"Program Paths=paths"_s}));
+    QCOMPARE(nodes,
+             (QStringList{u" - Display & Feel - "_s, u"Colors=Colors"_s, u"Font Styles=Font Styles"_s, u"Fonts=Fonts"_s,
+                          u"Display Options=Display Options"_s, u"Appearance=Appearance"_s, u" - Others - "_s,
+                          u"Project Explorer Filters=Filters"_s, u"Start-Up Options=startup"_s,
+                          u"Program Paths=paths"_s, u"Keyboard=Keyboard"_s}));
     QCOMPARE(visibleFrames(), u"frcolors"_s);
     QVERIFY(m_form->focus() == u"TreeView1"_s);
 }
@@ -144,6 +144,7 @@ void TstFrmOptions::aNodeShowsItsPage_data()
     QTest::newRow("Filters") << 1 << 0 << u"frfilters"_s;
     QTest::newRow("startup") << 1 << 1 << u"frstartup"_s;
     QTest::newRow("paths") << 1 << 2 << u"frpaths"_s;
+    QTest::newRow("Keyboard") << 1 << 3 << u"frkeyboard"_s;
     QTest::newRow("first root") << 0 << -1 << u"frcolors"_s;
     QTest::newRow("second root") << 1 << -1 << u"frcolors"_s;
 }
@@ -168,13 +169,13 @@ void TstFrmOptions::theArrowKeysTurnThePages()
 {
     open();
     QStringList seen;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 9; ++i) {
         m_form->key(Qt::Key_Down);
         seen.append(visibleFrames());
     }
     QCOMPARE(seen,
              (QStringList{u"frcolors"_s, u"frcolors"_s, u"frdisplayoptions"_s, u"frappearance"_s, u"frcolors"_s,
-                          u"frfilters"_s, u"frstartup"_s, u"frpaths"_s}));
+                          u"frfilters"_s, u"frstartup"_s, u"frpaths"_s, u"frkeyboard"_s}));
 }
 
 void TstFrmOptions::whatIsLoaded()

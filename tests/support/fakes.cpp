@@ -152,9 +152,37 @@ QString MemoryUserSettings::read(const QString &branch, const QString &section, 
     return entry == values.end() ? fallback : entry->second;
 }
 
-void MemoryUserSettings::write(const QString &branch, const QString &section, const QString &key, const QString &value)
+bool MemoryUserSettings::write(const QString &branch, const QString &section, const QString &key, const QString &value)
 {
-    values[branch + u'/' + section + u'/' + key] = value;
+    if (writable)
+        values[branch + u'/' + section + u'/' + key] = value;
+    return writable;
+}
+
+bool MemoryUserSettings::remove(const QString &branch, const QString &section, const QString &key)
+{
+    if (writable)
+        values.erase(branch + u'/' + section + u'/' + key);
+    return writable;
+}
+
+QStringList MemoryUserSettings::keys(const QString &branch, const QString &section) const
+{
+    const QString place = branch + u'/' + section + u'/';
+    QStringList found;
+    for (const auto &[name, value] : values) {
+        if (name.startsWith(place))
+            found.append(name.mid(place.size()));
+    }
+    return found;
+}
+
+Result<void> FakeCommandKeys::save(std::span<const KeyChange> changes)
+{
+    if (failure)
+        return *failure;
+    saved.insert(saved.end(), changes.begin(), changes.end());
+    return {};
 }
 
 } // namespace zephira

@@ -5,6 +5,7 @@
 #include "core/browser.h"
 #include "core/clipboard.h"
 #include "core/clock.h"
+#include "core/commandkeys.h"
 #include "core/configuration.h"
 #include "core/designer.h"
 #include "core/documenthost.h"
@@ -260,11 +261,34 @@ private:
 struct MemoryUserSettings final : UserSettings {
     /// Values by "branch/section/key".
     std::map<QString, QString> values;
+    bool writable = true;
 
 private:
     QString read(const QString &branch, const QString &section, const QString &key,
                  const QString &fallback) const override;
-    void write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
+    bool write(const QString &branch, const QString &section, const QString &key, const QString &value) override;
+    bool remove(const QString &branch, const QString &section, const QString &key) override;
+    QStringList keys(const QString &branch, const QString &section) const override;
+};
+
+/// Three commands, one without keys, and two uses of keys beside them.
+struct FakeCommandKeys final : CommandKeys {
+    std::vector<CommandKey> rows = {
+        {QStringLiteral("save"), QStringLiteral("File > Save"), QStringLiteral("Ctrl+S"), QStringLiteral("Ctrl+S")},
+        {QStringLiteral("font"), QStringLiteral("Options > Font"), QStringLiteral("F7"), QStringLiteral("F7")},
+        {QStringLiteral("table"), QStringLiteral("Tools > Table Wizard"), {}, {}},
+    };
+    std::vector<OtherKey> uses = {
+        {QStringLiteral("Ctrl+M"), QStringLiteral("goes to the matching bracket in the text"), true},
+        {QStringLiteral("Alt+F"), QStringLiteral("opens the menu File"), false},
+    };
+    /// What was saved, in order; if `failure` is set, nothing.
+    std::vector<KeyChange> saved;
+    std::optional<Error> failure;
+
+    std::vector<CommandKey> commands() const override { return rows; }
+    std::vector<OtherKey> others() const override { return uses; }
+    Result<void> save(std::span<const KeyChange> changes) override;
 };
 
 /// One of each fake, and the context made of them. The prompts come first, so that they are destroyed last and report
@@ -282,8 +306,9 @@ struct TestContext {
     FakeShell shell;
     FakeClock clock;
     FakeFormOpener forms;
-    AppContext context{editor, inserter,  designer, document, configuration,         settings, files, prompts,
-                       shell,  clipboard, clock,    forms,    QStringLiteral("/app")};
+    FakeCommandKeys keys;
+    AppContext context{editor,  inserter, designer,  document, configuration, settings, files,
+                       prompts, shell,    clipboard, clock,    forms,         keys,     QStringLiteral("/app")};
 
     TestContext() = default;
     Q_DISABLE_COPY_MOVE(TestContext)

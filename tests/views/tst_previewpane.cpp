@@ -198,6 +198,26 @@ private Q_SLOTS:
         QCOMPARE(bench.browser.calls, key.key() == Qt::Key_F5 ? QStringList{u"refresh"_s} : QStringList());
     }
 
+    /// The window knows which of its keys edit the text; F5 stays the pane's.
+    void theWindowSaysWhichKeysEdit()
+    {
+        for (const auto &[key, isTheWindows] :
+             {std::pair(Qt::CTRL | Qt::Key_U, false), std::pair(Qt::CTRL | Qt::Key_Z, true),
+              std::pair(Qt::CTRL | Qt::Key_S, true), std::pair(Qt::CTRL | Qt::Key_Y, false),
+              std::pair(QKeyCombination(Qt::Key_F5), false)}) {
+            PaneInWindow bench{QKeySequence(key)};
+            static_cast<PreviewPane *>(bench.window.centralWidget())->editsText =
+                [](const QKeySequence &keys) -> std::optional<bool> {
+                if (keys == QKeySequence(u"Ctrl+Y"_s))
+                    return std::nullopt;
+                return keys == QKeySequence(u"Ctrl+U"_s);
+            };
+            QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+            QTest::keyClick(&bench.page, key.key(), key.keyboardModifiers());
+            QCOMPARE(bench.runs, isTheWindows ? 1 : 0);
+        }
+    }
+
     void theAddressLoadsThePageAgainToo()
     {
         PaneInWindow bench{QKeySequence(Qt::Key_F5)};
