@@ -22,6 +22,8 @@ enum Column { CommandColumn, KeysColumn };
 KeyPage::KeyPage(Ui::frmOptions &ui, CommandKeys &keys, QObject *owner)
     : QObject(owner), m_ui(ui), m_keys(keys), m_plan(keys.commands(), keys.others())
 {
+    // The list stays as it is when a sentence takes two lines.
+    m_ui.lblkeyclash->setMinimumHeight(2 * m_ui.lblkeyclash->fontMetrics().lineSpacing());
     fill();
     showKeys();
     choose();
@@ -99,8 +101,10 @@ void KeyPage::choose()
 
 void KeyPage::judge()
 {
-    m_ui.lblkeyclash->clear();
+    say({});
     const auto row = selected();
+    if (!row)
+        say(u"Select a command, then press its new keys in the box."_s);
     const QString keys = m_ui.keyedit->keys();
     m_ui.cmdkeyset->setEnabled(row && keys != m_plan.command(*row).keys);
     if (!m_ui.cmdkeyset->isEnabled())
@@ -111,14 +115,13 @@ void KeyPage::judge()
     m_ui.cmdkeyset->setEnabled(refusal.isEmpty() && clash.yields());
     const QString shown = shownKeys(keys);
     if (!refusal.isEmpty())
-        m_ui.lblkeyclash->setText(refusal);
+        say(refusal);
     else if (clash.command)
-        m_ui.lblkeyclash->setText(
-            u"%1 runs %2. Set takes it from there."_s.arg(shown, m_plan.command(*clash.command).caption));
+        say(u"%1 runs %2. Set takes it from there."_s.arg(shown, m_plan.command(*clash.command).caption));
     else if (clash.isClash() && clash.yields())
-        m_ui.lblkeyclash->setText(u"%1 %2. Set lets it run this command instead."_s.arg(shown, clash.other.use));
+        say(u"%1 %2. Set lets it run this command instead."_s.arg(shown, clash.other.use));
     else if (clash.isClash())
-        m_ui.lblkeyclash->setText(u"%1 %2. Choose other keys."_s.arg(shown, clash.other.use));
+        say(u"%1 %2. Choose other keys."_s.arg(shown, clash.other.use));
 }
 
 void KeyPage::set()
@@ -127,27 +130,34 @@ void KeyPage::set()
     const auto loser = m_plan.set(*selected(), keys);
     showKeys();
     choose();
-    m_ui.lblkeyclash->setText(lossOf(loser, keys));
+    if (loser)
+        say(lossOf(*loser, keys));
 }
 
 void KeyPage::reset()
 {
-    QString loss;
-    if (const auto row = selected())
-        loss = lossOf(m_plan.reset(*row), m_plan.command(*row).shipped);
+    const auto row = selected();
+    std::optional<std::size_t> loser;
+    if (row)
+        loser = m_plan.reset(*row);
     else
         m_plan.resetAll();
     showKeys();
     choose();
-    m_ui.lblkeyclash->setText(loss);
+    if (loser)
+        say(lossOf(*loser, m_plan.command(*row).keys));
 }
 
-/// Tells which command has lost the keys.
-QString KeyPage::lossOf(std::optional<std::size_t> loser, const QString &keys) const
+/// Says a sentence below the box, and to those who can't see it.
+void KeyPage::say(const QString &sentence)
 {
-    if (!loser)
-        return {};
-    return u"%1 has lost %2."_s.arg(m_plan.command(*loser).caption, shownKeys(keys));
+    m_ui.lblkeyclash->setText(sentence);
+    m_ui.keyedit->setAccessibleDescription(sentence);
+}
+
+QString KeyPage::lossOf(std::size_t loser, const QString &keys) const
+{
+    return u"%1 has lost %2."_s.arg(m_plan.command(loser).caption, shownKeys(keys));
 }
 
 } // namespace zephira

@@ -36,7 +36,9 @@ private:
     void judge();
     void set();
     void reset();
-    QString lossOf(std::optional<std::size_t> loser, const QString &keys) const;
+    void say(const QString &sentence);
+    /// Tells which command has lost its keys.
+    QString lossOf(std::size_t loser, const QString &keys) const;
 
     Ui::frmOptions &m_ui;
     CommandKeys &m_keys;

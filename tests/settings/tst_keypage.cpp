@@ -114,7 +114,9 @@ void TstKeyPage::whatIsListed()
     QVERIFY(!box().isEnabled());
     QVERIFY(!canSet());
     QCOMPARE(m_form->value(u"cmdkeyreset"_s), u"Reset All"_s);
+    QCOMPARE(clash(), u"Select a command, then press its new keys in the box."_s);
     select(1);
+    QCOMPARE(clash(), QString());
     QVERIFY(box().isEnabled());
     QCOMPARE(box().keys(), u"F7"_s);
     QCOMPARE(m_form->value(u"cmdkeyreset"_s), u"Reset"_s);
@@ -168,6 +170,7 @@ void TstKeyPage::aClashIsTold()
     select(2);
     press(u"F7"_s);
     QCOMPARE(clash(), u"F7 runs Options > Font. Set takes it from there."_s);
+    QCOMPARE(box().accessibleDescription(), clash());
     QCOMPARE(shown()[1], u"F7"_s);
     m_form->press(u"cmdkeyset"_s);
     QCOMPARE(shown(), (QStringList{u"Ctrl+S"_s, u"()"_s, u"(F7)"_s}));
