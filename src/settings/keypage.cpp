@@ -53,7 +53,11 @@ void KeyPage::fill()
     }
     list->header()->setStretchLastSection(false);
     list->header()->setSectionResizeMode(CommandColumn, QHeaderView::Stretch);
-    list->header()->setSectionResizeMode(KeysColumn, QHeaderView::ResizeToContents);
+    // A search doesn't change the columns.
+    QFont changed = list->font();
+    changed.setBold(true);
+    list->header()->setSectionResizeMode(KeysColumn, QHeaderView::Fixed);
+    list->header()->resizeSection(KeysColumn, QFontMetrics(changed).horizontalAdvance(u"Ctrl+Alt+Shift+F12 "_s));
 }
 
 /// What differs from what ships stands out.
