@@ -23,7 +23,9 @@ struct NoSettings final : UserSettings {
     {
         return fallback;
     }
-    void write(const QString &, const QString &, const QString &, const QString &) override {}
+    bool write(const QString &, const QString &, const QString &, const QString &) override { return false; }
+    bool remove(const QString &, const QString &, const QString &) override { return false; }
+    QStringList keys(const QString &, const QString &) const override { return {}; }
 };
 
 /// A check for which nothing is loaded yet.
