@@ -144,6 +144,8 @@ void ImageMap::addButtons()
         action->setCheckable(true);
         if (m_ui->Toolbar1->actions().size() <= CircleButton)
             tools->addAction(action);
+        // The buttons of a tool bar can't be reached by the Tab key by themselves, and these commands have no other keys.
+        m_ui->Toolbar1->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
         connect(action, &QAction::triggered, this, &ImageMap::followButtons);
     }
     button(PolygonButton).setChecked(true);
@@ -159,6 +161,8 @@ void ImageMap::addEditor(const EditorFactory &makeEditor)
     m_editor.control->setLanguage(u"HTML"_s);
     m_ui->drawingLayout->addWidget(m_editor.widget, 0, 0, 2, 2);
     m_editor.widget->hide();
+    // It takes the place of the picture.
+    setTabOrder(m_ui->Picture1, m_editor.widget);
     // The editor uses the Tab key itself.
     connect(new QShortcut(Qt::CTRL | Qt::Key_F6, this), &QShortcut::activated, this, [this] { focusNextChild(); });
     connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_F6, this), &QShortcut::activated, this,

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QImageReader>
 #include <QImageWriter>
@@ -15,6 +16,8 @@
 #include <QScreen>
 #include <QUrl>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -513,6 +516,44 @@ private Q_SLOTS:
         QCOMPARE(c.form.get<QWidget>(u"MainPic"_s).height(), height);
         c.button(makeHtml);
         QVERIFY(!c.world.editor.text().contains(u"edited"_s));
+    }
+
+    void toolsAndCommandsByKeyboard()
+    {
+        const Creator c;
+        const auto focusedButton = [&c] {
+            auto &bar = c.form.get<QToolBar>(u"Toolbar1"_s);
+            const QList<QAction *> actions = bar.actions();
+            const auto found = std::ranges::find(actions, QApplication::focusWidget(),
+                                                 [&bar](QAction *action) { return bar.widgetForAction(action); });
+            return found == actions.end() ? c.form.focus() : (*found)->text();
+        };
+        const auto walkBack = [&](const QStringList &labels) {
+            for (const QString &label : labels) {
+                c.form.key(Qt::Key_Backtab, Qt::ShiftModifier);
+                QCOMPARE(focusedButton(), label);
+            }
+        };
+        c.picture().setFocus();
+        walkBack({u"Make HTML"_s, u"Accept"_s, u"Clear"_s, u"Circle"_s, u"Rectangle"_s});
+        c.form.key(Qt::Key_Space);
+        QCOMPARE(c.state("Tool"), QVariant(2));
+        walkBack({u"Polygon"_s, u"Text5_5"_s});
+        c.picture().setFocus();
+        c.form.key(Qt::Key_Space);
+        c.form.key(Qt::Key_Right);
+        c.form.key(Qt::Key_Space);
+        walkBack({u"Make HTML"_s, u"Accept"_s});
+        c.form.key(Qt::Key_Space);
+        QCOMPARE(c.text(0), u"<AREA SHAPE=RECT COORDS=\"0,0,1,0\""_s);
+        c.form.key(Qt::Key_Tab);
+        c.form.key(Qt::Key_Space);
+        QCOMPARE(c.form.focus(), u"Text6"_s);
+        c.form.key(Qt::Key_F6, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(focusedButton(), u"Back"_s);
+        c.form.key(Qt::Key_Space);
+        QVERIFY(!c.shows(u"Text6"_s));
+        QCOMPARE(c.form.focus(), u"Picture1"_s);
     }
 
     void theTextCanBeLeftByKeyboard()
