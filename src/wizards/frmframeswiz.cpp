@@ -122,6 +122,8 @@ void frmFramesWiz::back()
     m_ui->cmdFinish->setEnabled(false);
     m_ui->Command1->setEnabled(true);
     m_ui->Command1->setDefault(true);
+    // The button just pressed now closes the wizard; the Return key must not press it again.
+    m_ui->M->setFocus();
 }
 
 void frmFramesWiz::choose(int group)

@@ -226,6 +226,7 @@ private Q_SLOTS:
         QCOMPARE(wizard.form.value(u"cmdBack"_s), u"&Cancel"_s);
         QVERIFY(!wizard.form.get<QPushButton>(u"cmdFinish"_s).isEnabled());
         QVERIFY(wizard.form.get<QPushButton>(u"Command1"_s).isEnabled());
+        QCOMPARE(wizard.form.focus(), u"M"_s);
         wizard.form.press(u"optV"_s);
         wizard.moveTo(79, 0);
         QCOMPARE(wizard.flag("ColPercent"), QVariant(51));
@@ -238,6 +239,20 @@ private Q_SLOTS:
         wizard.form.press(u"cmdBack"_s);
         QVERIFY(!wizard.form.isOpen());
         QVERIFY(wizard.world.inserter.inserted.isEmpty());
+    }
+
+    /// The button that goes back closes the wizard on the first page, and what was typed would be lost.
+    void returnAfterBackGoesOn()
+    {
+        const Wizard wizard;
+        wizard.form.press(u"Command1"_s);
+        wizard.form.type(u"Name1"_s, u"one"_s);
+        wizard.form.get<QWidget>(u"cmdBack"_s).setFocus();
+        wizard.form.key(Qt::Key_Space);
+        QVERIFY(wizard.shows(u"FrameOne"_s));
+        wizard.form.key(Qt::Key_Return);
+        QVERIFY(wizard.shows(u"FrameTwo"_s));
+        QCOMPARE(wizard.form.value(u"Name1"_s), u"one"_s);
     }
 
     void theOrderIsThatOfTheGrid()
