@@ -230,6 +230,14 @@ private Q_SLOTS:
         QVERIFY(form.get<QPushButton>(u"Command19"_s).isDefault());
     }
 
+    void theChosenPageHasTheFocus()
+    {
+        const TagEditor editor;
+        editor.form.widget().setProperty("page", 6);
+        QCOMPARE(editor.form.focus(), u"txtSourceImg"_s);
+        QVERIFY(editor.form.get<QPushButton>(u"Command12"_s).isDefault());
+    }
+
     void aPageNumberThatIsNoneChangesNothing()
     {
         const TagEditor editor(3);
