@@ -8,6 +8,7 @@
 #include "widgets/colourswatch.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QGroupBox>
@@ -407,6 +408,15 @@ private Q_SLOTS:
         QCOMPARE(editor.document(), u"[<a target=\"main\"></a>]"_s);
         const QAction *open = editor.form.get<QLineEdit>(u"txtTargetAnch"_s).actions().first();
         QCOMPARE(open->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Down));
+    }
+
+    void returnBehindATypedTargetIsOk()
+    {
+        const TagEditor editor;
+        editor.form.type(u"txtTargetAnch"_s, u"_blank"_s);
+        QVERIFY(!QApplication::activePopupWidget());
+        editor.form.key(Qt::Key_Return);
+        QCOMPARE(editor.document(), u"[<a target=\"_blank\"></a>]"_s);
     }
 
     void longAndStrangeTexts()

@@ -23,7 +23,7 @@ private Q_SLOTS:
         field.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&field));
         QTest::keyClick(&field, Qt::Key_Down, Qt::AltModifier);
-        QAbstractItemView *list = field.completer()->popup();
+        QAbstractItemView *list = listOf(field);
         QVERIFY(list->isVisible());
         QCOMPARE(list->model()->rowCount(), 2);
         QCOMPARE(field.text(), u"own"_s);
@@ -42,10 +42,11 @@ private Q_SLOTS:
         field.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&field));
         QTest::keyClick(&field, Qt::Key_Down, Qt::AltModifier);
-        QTest::keyClick(field.completer()->popup(), Qt::Key_Escape);
+        QTest::keyClick(listOf(field), Qt::Key_Escape);
         QCOMPARE(field.text(), u"own"_s);
     }
 
+    /// A list that opened by itself would take the Return key, which belongs to the form.
     void whatIsTypedStandsAsItIs()
     {
         QLineEdit field;
@@ -53,12 +54,29 @@ private Q_SLOTS:
         field.show();
         field.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&field));
-        QTest::keyClicks(&field, u"_T"_s);
-        QCOMPARE(field.text(), u"_T"_s);
-        field.completer()->popup()->hide();
+        QTest::keyClicks(&field, u"_t"_s);
+        QCOMPARE(field.text(), u"_t"_s);
+        QVERIFY(!listOf(field)->isVisible());
         QTest::keyClicks(&field, u"ab"_s);
-        QCOMPARE(field.text(), u"_Tab"_s);
+        QCOMPARE(field.text(), u"_tab"_s);
     }
+
+    void typingClosesTheList()
+    {
+        QLineEdit field;
+        offerWords(&field, {u"_blank"_s, u"_top"_s});
+        field.show();
+        field.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&field));
+        QTest::keyClick(&field, Qt::Key_Down, Qt::AltModifier);
+        QVERIFY(listOf(field)->isVisible());
+        QTest::keyClicks(listOf(field), u"_b"_s);
+        QCOMPARE(field.text(), u"_b"_s);
+        QVERIFY(!listOf(field)->isVisible());
+    }
+
+private:
+    static QAbstractItemView *listOf(const QLineEdit &field) { return field.findChild<QCompleter *>()->popup(); }
 };
 
 ZEPHIRA_TEST(TstOfferedWords)
