@@ -201,8 +201,7 @@ void TagLexer::paintEntity(Walk &walk) const
 
 bool TagLexer::openComment(Walk &walk) const
 {
-    const auto begin = std::find_if(m_commentBegins.begin(), m_commentBegins.end(),
-                                    [&walk](const QByteArray &sign) { return walk.at(sign); });
+    const auto begin = std::ranges::find_if(m_commentBegins, [&walk](const QByteArray &sign) { return walk.at(sign); });
     if (begin == m_commentBegins.end())
         return false;
     const bool htmlComment = m_embedded && *begin == "<!--";

@@ -5,6 +5,7 @@
 #include "support/testregistry.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -55,7 +56,8 @@ private Q_SLOTS:
             modal.close();
         });
         QAction *key = nullptr;
-        for (QAction *action : window.findChildren<QAction *>(u"color"_s))
+        const auto actions = window.findChildren<QAction *>(u"color"_s);
+        for (QAction *action : actions)
             key = action;
         QVERIFY(key);
         QVERIFY(key->isEnabled());

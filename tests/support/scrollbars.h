@@ -55,7 +55,8 @@ inline QStringList needlessScrollBars(const QWidget &window)
 {
     QStringList found;
     settleLayouts();
-    for (QAbstractScrollArea *area : window.findChildren<QAbstractScrollArea *>()) {
+    const auto areas = window.findChildren<QAbstractScrollArea *>();
+    for (QAbstractScrollArea *area : areas) {
         if (!area->isVisible() || qobject_cast<QHeaderView *>(area))
             continue;
         const bool shows[] = {area->horizontalScrollBar()->isVisible(), area->verticalScrollBar()->isVisible()};

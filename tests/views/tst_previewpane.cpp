@@ -13,6 +13,8 @@
 #include <QTest>
 #include <QToolBar>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -97,7 +99,7 @@ private Q_SLOTS:
             browser.remoteRefused(hosts);
             QVERIFY(!bar->isHidden());
             QCOMPARE(pane.findChild<QLabel *>(u"remoteText"_s)->text(), text);
-            for (const QString &host : hosts)
+            for (const QString &host : std::as_const(hosts))
                 QVERIFY(pane.findChild<QLabel *>(u"remoteText"_s)->toolTip().contains(host));
             pane.findChild<QPushButton *>(QString::fromLatin1(button))->click();
             QCOMPARE(allowed, 1);

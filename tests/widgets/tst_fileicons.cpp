@@ -48,7 +48,7 @@ private Q_SLOTS:
                 for (const int size : {16, 32}) {
                     const QImage normal = icons[i].pixmap(size).toImage();
                     const QImage selected = icons[i].pixmap(QSize(size, size), QIcon::Selected).toImage();
-                    const auto place = [&] {
+                    const auto place = [&name = name, i] {
                         return QString(QLatin1String(name) + u' ' + QString::number(i)).toUtf8();
                     };
                     QVERIFY2(!normal.isNull() && !selected.isNull(), place().constData());
