@@ -65,6 +65,18 @@ FrameCanvas::FrameCanvas(QWidget *parent)
     setBackgroundRole(QPalette::Base);
 }
 
+void FrameCanvas::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    if (!hasFocus())
+        return;
+    // No style shows on a plain frame that the keys work there.
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(rect().adjusted(1, 1, -2, -2));
+}
+
 void FrameCanvas::mouseMoveEvent(QMouseEvent *event)
 {
     const QPointF place = event->position();

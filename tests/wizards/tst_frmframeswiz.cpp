@@ -5,6 +5,7 @@
 #include "wizards/registerforms.h"
 
 #include <QComboBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -135,6 +136,16 @@ private Q_SLOTS:
         QCOMPARE(wizard.top(), 51.0);
         wizard.form.key(Qt::Key_Return);
         QVERIFY(wizard.shows(u"FrameTwo"_s));
+    }
+
+    void theFocusOfTheCanvasIsShown()
+    {
+        const Wizard wizard;
+        wizard.form.get<QWidget>(u"optV"_s).setFocus();
+        const QImage without = wizard.canvas().grab().toImage();
+        wizard.canvas().setFocus();
+        QVERIFY(wizard.canvas().hasFocus());
+        QVERIFY(wizard.canvas().grab().toImage() != without);
     }
 
     void theSecondPage()
