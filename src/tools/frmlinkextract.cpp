@@ -101,7 +101,8 @@ bool frmlinkextract::ExtractURL(SearchText *richText, LinkList *list, const QStr
         richText->setText(std::move(text).value());
     }
 
-    // Otherwise the events processed during a search could start another one.
+    // Otherwise the events processed during a search could start another one. A control that is closed loses the focus.
+    const QPointer<QWidget> focus = focusWidget();
     setEnabled(false);
     QElapsedTimer sincePause;
     sincePause.start();
@@ -117,6 +118,8 @@ bool frmlinkextract::ExtractURL(SearchText *richText, LinkList *list, const QStr
     if (!self)
         return false;
     setEnabled(true);
+    if (focus)
+        focus->setFocus();
     if (found.stopped)
         return false;
     list->append(found.targets);

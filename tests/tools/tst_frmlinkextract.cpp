@@ -104,6 +104,15 @@ private Q_SLOTS:
         QVERIFY(extractor.list().rows().isEmpty());
     }
 
+    void theFocusStaysWhereItWas()
+    {
+        Extractor extractor;
+        auto &button = extractor.form->get<QPushButton>(u"cmdOnE"_s);
+        button.setFocus();
+        extractor.extract("<a href=\"x.htm\">");
+        QCOMPARE(extractor.widget().focusWidget(), &button);
+    }
+
     void anyEncoding_data()
     {
         QTest::addColumn<QByteArray>("content");
