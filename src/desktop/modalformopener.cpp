@@ -46,6 +46,23 @@ void bringToFront(QWidget *window)
     window->activateWindow();
 }
 
+/// The window that gets the focus back when a form over `owner` is closed.
+QWidget *windowInFront(const QWidget *owner)
+{
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    return owner ? owner->window() : nullptr;
+}
+
+/// Window managers do this themselves, but lose track if a form is closed together with the question that it asked.
+void giveFocusBack(QWidget *window)
+{
+    // A program that isn't in front stays where it is.
+    const bool isInFront = QGuiApplication::applicationState() == Qt::ApplicationActive;
+    if (isInFront && window && window->isVisible() && !window->isMinimized())
+        window->activateWindow();
+}
+
 void showPage(QWidget *form, std::optional<int> page)
 {
     if (page)
@@ -122,9 +139,11 @@ void ModalFormOpener::run(const QString &form, QWidget *owner, std::optional<int
     const QPointer<QWidget> window = waiting ? m_waiting.data() : make(form, owner);
     if (waiting)
         m_waiting.clear();
+    const QPointer<QWidget> before = windowInFront(owner);
     showPage(window, page);
     runModally(window);
     delete window;
+    giveFocusBack(before);
 }
 
 void ModalFormOpener::openModeless(const QString &form)

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void unknownForms();
     void modalDialog();
     void modalWindow();
+    void focusGoesBack();
     void modalFormOnAPage();
     void modalFormOverModalForm();
     void modalFormOverAnOwner();
@@ -101,6 +102,29 @@ void TstModalFormOpener::modalDialog()
     QCOMPARE(m_made, 1);
     QVERIFY(form.isNull());
     QVERIFY(!m_opener->openForm(u"frmOne"_s));
+}
+
+/// Also if the form is closed together with a question, and if another window than the owner had the focus.
+void TstModalFormOpener::focusGoesBack()
+{
+    makeAvailable();
+    QWidget other;
+    const QList<QWidget *> windows{m_owner.get(), &other};
+    for (QWidget *window : windows)
+        window->show();
+    for (QWidget *window : windows) {
+        window->activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), window);
+        whileOpen([] {
+            QWidget *form = QApplication::activeModalWidget();
+            QDialog question(form);
+            QTimer::singleShot(0, &question, &QDialog::accept);
+            question.exec();
+            form->close();
+        });
+        m_opener->openModal(u"frmOne"_s);
+        QTRY_COMPARE(QApplication::activeWindow(), window);
+    }
 }
 
 void TstModalFormOpener::modalWindow()
