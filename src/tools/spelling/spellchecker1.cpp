@@ -26,13 +26,18 @@ SpellChecker1::SpellChecker1(const AppContext &context, SpellCheck &check, QWidg
     m_ui->setupUi(this);
     m_ui->txtChange->setMaxLength(std::numeric_limits<int>::max());
     const auto on = [this](QPushButton *button, const std::function<void()> &give) {
-        connect(button, &QPushButton::clicked, this, [this, give] { answer(give); });
+        connect(button, &QPushButton::clicked, this, [this, give] {
+            answer([&give]() -> Result<void> {
+                give();
+                return {};
+            });
+        });
     };
     on(m_ui->cmdIgnore, [this] { m_check.ignore(); });
     on(m_ui->cmdIgnoreAll, [this] { m_check.ignoreAll(); });
-    on(m_ui->cmdAdd, [this] { add(); });
     on(m_ui->cmdChange, [this] { m_check.change(m_ui->txtChange->text()); });
     on(m_ui->cmdChangeAll, [this] { m_check.changeAll(m_ui->txtChange->text()); });
+    connect(m_ui->cmdAdd, &QPushButton::clicked, this, [this] { answer([this] { return m_check.add(); }); });
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &SpellChecker1::reject);
     connect(m_ui->txtChange, &QLineEdit::textChanged, this, &SpellChecker1::updateChanges);
     connect(m_ui->lstSuggestions, &QListWidget::currentTextChanged, this, [this](const QString &word) {
@@ -59,29 +64,23 @@ void SpellChecker1::listDictionaries()
 void SpellChecker1::chooseDictionary(int row)
 {
     QComboBox *list = m_ui->cboDictionary;
-    answer([&] {
-        if (const Result<void> chosen = m_check.choose(list->itemData(row).toString()); !chosen)
-            tellError(m_context.prompts, chosen.error(), windowTitle());
-    });
+    answer([&] { return m_check.choose(list->itemData(row).toString()); });
     list->setCurrentIndex(list->findData(m_check.lexicon().dictionary()));
 }
 
-/// Gives an answer and shows the next question, or closes after the last one.
-void SpellChecker1::answer(const std::function<void()> &give)
+/// Gives an answer and shows the next question, or closes after the last one. An answer that can't be given leaves the
+/// question, and what was typed, as they are.
+void SpellChecker1::answer(const std::function<Result<void>()> &give)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    give();
-    if (m_check.isAsking())
+    const Result<void> given = give();
+    if (given && m_check.isAsking())
         showQuestion();
     QGuiApplication::restoreOverrideCursor();
-    if (!m_check.isAsking())
+    if (!given)
+        tellError(m_context.prompts, given.error(), windowTitle());
+    else if (!m_check.isAsking())
         accept();
-}
-
-void SpellChecker1::add()
-{
-    if (const Result<void> added = m_check.add(); !added)
-        tellError(m_context.prompts, added.error(), windowTitle());
 }
 
 void SpellChecker1::showQuestion()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/appcontext.h"
+#include "core/result.h"
 
 #include <QDialog>
 
@@ -30,8 +31,7 @@ public:
 private:
     void listDictionaries();
     void chooseDictionary(int row);
-    void answer(const std::function<void()> &give);
-    void add();
+    void answer(const std::function<Result<void>()> &give);
     void showQuestion();
     void showSentence();
     void updateChanges();
