@@ -158,6 +158,9 @@ void Lexicon::useCustomWords(const QStringList &words)
 
 Result<void> Lexicon::add(const QString &word)
 {
+    // Such a line would count as faulty when the file is read again.
+    if (!isCustomWord(word))
+        return Error{Error::Code::Refused, u"This word is too long to be added."_s};
     // Another window may have added words since the file was read.
     const Result<QByteArray> bytes = customBytes();
     if (!bytes)

@@ -45,7 +45,8 @@ public:
     bool knows(QStringView word);
     /// Words that may have been meant, the likeliest first.
     QStringList suggestions(const QString &word);
-    /// Adds a word to the user's own, and to their file. If that can't be written, the word isn't added.
+    /// Adds a word to the user's own, and to their file. Fails if that can't be written or can't hold the word; the word
+    /// isn't added then.
     Result<void> add(const QString &word);
 
     /// The installed dictionaries, and the name of the one in use.

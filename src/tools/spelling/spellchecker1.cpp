@@ -2,6 +2,7 @@
 #include "tools/spelling/spellchecker1.h"
 
 #include "core/errorstyles.h"
+#include "tools/spelling/customdictionary.h"
 #include "tools/spelling/spellcheck.h"
 #include "ui_spellchecker1.h"
 
@@ -119,7 +120,7 @@ void SpellChecker1::showSentence()
     box->ensureCursorVisible();
 }
 
-/// Nothing can be answered without a question, and a change needs another word.
+/// Nothing can be answered without a question, a change needs another word, and not every word can be added.
 void SpellChecker1::updateChanges()
 {
     const bool isAsking = m_check.isAsking();
@@ -127,8 +128,9 @@ void SpellChecker1::updateChanges()
     const bool isChange = isAsking && !replacement.isEmpty() && replacement != m_check.word();
     m_ui->cmdChange->setEnabled(isChange);
     m_ui->cmdChangeAll->setEnabled(isChange);
-    for (QPushButton *button : {m_ui->cmdIgnore, m_ui->cmdIgnoreAll, m_ui->cmdAdd})
+    for (QPushButton *button : {m_ui->cmdIgnore, m_ui->cmdIgnoreAll})
         button->setEnabled(isAsking);
+    m_ui->cmdAdd->setEnabled(isAsking && isCustomWord(m_check.word()));
 }
 
 } // namespace zephira

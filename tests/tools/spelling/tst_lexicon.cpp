@@ -233,6 +233,21 @@ private Q_SLOTS:
         QVERIFY(!bench.lexicon().knows(u"next"));
     }
 
+    void whatTheFileCantHoldIsNotAdded()
+    {
+        LexiconBench bench;
+        bench.names() = "x";
+        bench.custom() = "mine\n";
+        QVERIFY(bench.lexicon().OpenLexicon().ok());
+        const Result<void> added = bench.lexicon().add(QString(101, u'x'));
+        QVERIFY(!added);
+        QCOMPARE(added.error().sentence, u"This word is too long to be added."_s);
+        QCOMPARE(bench.custom(), QByteArray("mine\n"));
+        QVERIFY(bench.lexicon().add(QString(100, u'x')).ok());
+        QVERIFY(bench.lexicon().OpenLexicon().ok());
+        QCOMPARE(bench.lexicon().takeNotes(), QStringList());
+    }
+
     void missingNamesAreTold()
     {
         LexiconBench bench;

@@ -275,7 +275,8 @@ private Q_SLOTS:
         SpellForm bench(QString(1000, u'x') + u" good"_s);
         QCOMPARE(bench.form->get<QTextEdit>(u"txtSentence"_s).toPlainText().size(), 61 + 5);
         QCOMPARE(bench.form->value(u"txtChange"_s), QString());
-        QCOMPARE(bench.enabled(), u"Ignore IgnoreAll Add Cancel"_s);
+        // The list of the user's words couldn't hold it.
+        QCOMPARE(bench.enabled(), u"Ignore IgnoreAll Cancel"_s);
         bench.form->type(u"txtChange"_s, u"short"_s);
         bench.form->press(u"cmdChange"_s);
         QCOMPARE(bench.check().text(), u"short good"_s);
