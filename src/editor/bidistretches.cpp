@@ -68,13 +68,17 @@ Effect effectOf(char32_t code)
 
 void forEachRightToLeft(QByteArrayView utf8, const std::function<void(char32_t, QByteArrayView)> &found)
 {
-    for (qsizetype i = asciiLength(utf8); i < utf8.size(); ++i, i += asciiLength(utf8.sliced(i))) {
-        if (!mayBegin(byteAt(utf8, i)))
-            continue;
-        const Utf8Character c = utf8CharacterAt(utf8, i);
-        if (isRightToLeft(c.code))
-            found(c.code, utf8.sliced(i, c.size));
-        i += c.size - 1;
+    for (qsizetype i = 0; i < utf8.size();) {
+        if (byteAt(utf8, i) < 0x80) {
+            i += asciiLength(utf8.sliced(i));
+        } else if (!mayBegin(byteAt(utf8, i))) {
+            ++i;
+        } else {
+            const Utf8Character c = utf8CharacterAt(utf8, i);
+            if (isRightToLeft(c.code))
+                found(c.code, utf8.sliced(i, c.size));
+            i += c.size;
+        }
     }
 }
 

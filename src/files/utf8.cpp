@@ -1,28 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/utf8.h"
 
-#include <cstring>
+#include <QtEndian>
+
+#include <bit>
 
 namespace zephira {
 
 qsizetype asciiLength(QByteArrayView bytes)
 {
     constexpr quint64 highBits = 0x8080808080808080;
+    const auto word = [](const char *place) { return qFromLittleEndian<quint64>(place) & highBits; };
     const char *next = bytes.begin();
     const char *const end = bytes.end();
-    while (end - next >= 32) {
-        quint64 words[4];
-        std::memcpy(words, next, sizeof words);
-        if (((words[0] | words[1] | words[2] | words[3]) & highBits) != 0)
-            break;
-        next += sizeof words;
-    }
-    while (end - next >= 8) {
-        quint64 word;
-        std::memcpy(&word, next, sizeof word);
-        if ((word & highBits) != 0)
-            break;
-        next += sizeof word;
+    // An array of words would be kept in memory, with a guard of the stack around each call, which takes twice the time.
+    while (end - next >= 32 && (word(next) | word(next + 8) | word(next + 16) | word(next + 24)) == 0)
+        next += 32;
+    for (; end - next >= 8; next += 8) {
+        if (const quint64 found = word(next))
+            return next + std::countr_zero(found) / 8 - bytes.begin();
     }
     while (next != end && static_cast<unsigned char>(*next) < 0x80)
         ++next;
@@ -48,7 +44,7 @@ std::optional<char32_t> Utf8Reader::next()
             return {};
         value = value << 6 | (byte(i) & 0x3F);
     }
-    constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    static constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
     if (value < smallest[length] || value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
         return {};
     m_next += length;

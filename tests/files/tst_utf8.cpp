@@ -54,6 +54,24 @@ private Q_SLOTS:
         }
     }
 
+    /// Wherever the first byte stands that isn't ASCII, and wherever the text begins in memory.
+    void asciiEndsAtTheFirstOtherByte()
+    {
+        const QByteArray ascii = QByteArray(72, '\x7F') + QByteArray(8, '\0');
+        for (qsizetype start = 0; start < 8; ++start) {
+            for (qsizetype size = 0; size <= 72; ++size) {
+                const QByteArrayView whole = QByteArrayView(ascii).sliced(start, size);
+                QCOMPARE(asciiLength(whole), size);
+                for (qsizetype other = 0; other < size; ++other) {
+                    QByteArray text = whole.toByteArray();
+                    text[other] = '\x80';
+                    text.back() = other % 2 ? '\xFF' : text.back();
+                    QCOMPARE(asciiLength(text), other);
+                }
+            }
+        }
+    }
+
     void everyCodePointReadsBack()
     {
         for (char32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint) {
