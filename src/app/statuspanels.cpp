@@ -3,11 +3,14 @@
 
 #include "core/clock.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QPainter>
 #include <QStatusBar>
 #include <QStyle>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -67,10 +70,25 @@ public:
     }
     QSize minimumSizeHint() const override { return {room() / 2, QLabel::minimumSizeHint().height()}; }
 
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+            m_advance.reset();
+        QLabel::changeEvent(event);
+    }
+
 private:
-    int room() const { return fontMetrics().horizontalAdvance(m_widest) + 2 * margin(); }
+    int room() const
+    {
+        // The status bar asks dozens of times while it is built, and measuring takes as long as everything else there.
+        if (!m_advance)
+            m_advance = fontMetrics().horizontalAdvance(m_widest);
+        return *m_advance + 2 * margin();
+    }
 
     QString m_widest;
+    mutable std::optional<int> m_advance;
 };
 
 QLabel *makeLabel(const StatusPanel &row, QWidget *parent)

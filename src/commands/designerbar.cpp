@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -63,7 +64,8 @@ QComboBox *DesignerBar::addBox(const QString &name, const QString &tip)
 {
     auto *box = new QComboBox(this);
     box->setObjectName(name);
-    box->setEditable(true);
+    // Unlike setEditable(), this leaves the list to be made when it is first opened.
+    box->setLineEdit(new QLineEdit(box));
     box->setInsertPolicy(QComboBox::NoInsert);
     // What is typed is taken literally, so nothing may be completed.
     box->setCompleter(nullptr);

@@ -10,6 +10,7 @@
 #include <array>
 #include <cmath>
 #include <initializer_list>
+#include <span>
 
 namespace zephira {
 
@@ -104,12 +105,14 @@ qreal shareSeen(const QImage &picture, const QColor &background)
     const qreal behind = luminance(background.rgb());
     int painted = 0;
     int seen = 0;
-    for (int row = 0; row < image.height(); ++row) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(row));
-        for (int column = 0; column < image.width(); ++column) {
-            if (qAlpha(line[column]) < opaqueEnough)
+    const int height = image.height();
+    const auto width = static_cast<std::size_t>(image.width());
+    for (int row = 0; row < height; ++row) {
+        const std::span line(reinterpret_cast<const QRgb *>(image.constScanLine(row)), width);
+        for (const QRgb pixel : line) {
+            if (qAlpha(pixel) < opaqueEnough)
                 continue;
-            const auto [darker, lighter] = std::minmax({behind, luminance(line[column])});
+            const auto [darker, lighter] = std::minmax({behind, luminance(pixel)});
             ++painted;
             seen += (lighter + 0.05) / (darker + 0.05) >= visibleContrast;
         }

@@ -19,7 +19,6 @@ VariableBox::VariableBox(const VariableList &list, EditingControl &editor)
         addItem(item.toString());
     setPlaceholderText(caption);
     setCurrentIndex(-1);
-    setSizeAdjustPolicy(QComboBox::AdjustToContents);
     // A click must not take the focus from the text that receives the item.
     setFocusPolicy(Qt::TabFocus);
     connect(this, &QComboBox::textActivated, this, [&editor](const QString &item) { editor.setSelText(item); });
