@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/program.h"
 
-#include "app/comingforms.h"
 #include "app/endsignals.h"
 #include "app/failedstart.h"
 #include "app/frmmain.h"
@@ -16,6 +15,7 @@
 #include "core/errorstyles.h"
 #include "core/formcatalogue.h"
 #include "desktop/desktopclipboard.h"
+#include "desktop/desktopfiletypes.h"
 #include "desktop/desktopprompts.h"
 #include "desktop/desktopshell.h"
 #include "desktop/module.h"
@@ -122,6 +122,11 @@ int runProgram(QApplication &application, const QString &argument)
     DesktopShell shell;
     DesktopClipboard clipboard;
     NetOperations ftpOperations(clock);
+    DesktopFileTypes fileTypes(files,
+                               {.dataHome = dataHome(),
+                                .configHome = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                                .executable = QCoreApplication::applicationFilePath(),
+                                .icon = appPath.value() + u"/zephira.ico"_s});
 
     const auto spelling = std::make_shared<SpellCheck>(Lexicon::Parts{
         .files = files,
@@ -133,7 +138,6 @@ int runProgram(QApplication &application, const QString &argument)
     });
 
     FormCatalogue catalogue;
-    announceComingForms(catalogue);
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     wizards::registerImageMap(catalogue, [&](QWidget *parent) -> EditorView {
@@ -144,7 +148,7 @@ int runProgram(QApplication &application, const QString &argument)
     start::registerForms(catalogue, recovery);
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
-    settings::registerForms(catalogue);
+    settings::registerForms(catalogue, fileTypes, QCoreApplication::applicationFilePath());
     tools::registerForms(catalogue, [] { return loadModuleAs<TidyEngine>(modulePath(u"zephiratidy.so"_s)); });
     tools::registerSpelling(catalogue, spelling);
     views::registerForms(

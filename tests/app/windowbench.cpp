@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowbench.h"
 
-#include "app/comingforms.h"
 #include "app/loadhandler.h"
 #include "colour/registerforms.h"
 #include "ftp/registerforms.h"
@@ -54,7 +53,6 @@ WindowBench::WindowBench()
         write(u"app/"_s + source.relativeFilePath(file), read(file));
     }
     write(u"app/deps/names.dic"_s, "p\nnbsp\n");
-    announceComingForms(catalogue);
     colour::registerForms(catalogue);
     wizards::registerForms(catalogue);
     wizards::registerImageMap(catalogue, [this](QWidget *parent) -> EditorView {
@@ -65,7 +63,7 @@ WindowBench::WindowBench()
     start::registerForms(catalogue, recovery);
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
-    zephira::settings::registerForms(catalogue);
+    zephira::settings::registerForms(catalogue, fileTypes, executable);
     zephira::tools::registerForms(catalogue, realTidy);
     zephira::tools::registerSpelling(catalogue, {std::shared_ptr<SpellCheck>(), &spelling.check});
     views::registerForms(
@@ -97,7 +95,7 @@ frmmain &WindowBench::start(const QString &argument)
                                                       .spelling = spelling.check,
                                                       .appPath = appPath(),
                                                       .iniFile = configuration.file(),
-                                                      .executable = u"/opt/zephira/zephira"_s,
+                                                      .executable = executable,
                                                       .endProcess = [this] { ++ended; },
                                                       .hiddenParts = hiddenParts});
     LoadHandler(*window, argument).run();

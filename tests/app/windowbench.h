@@ -13,6 +13,7 @@
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
 #include "support/fakes.h"
+#include "support/memoryfiletypes.h"
 #include "tools/spelling/fakespeller.h"
 
 #include <QAction>
@@ -82,6 +83,9 @@ public:
     IniConfiguration configuration;
     RecordingOperations ftpOperations;
     SpellingBench spelling{files, settings, appPath()};
+    MemoryFileTypes fileTypes;
+    /// What the program calls its own path.
+    const QString executable = QStringLiteral("/opt/zephira/zephira");
     FormCatalogue catalogue;
     FakeWebViews webViews;
     /// Returns the fakes, unless a test sets something else before the start.

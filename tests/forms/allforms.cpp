@@ -13,6 +13,7 @@
 #include "settings/registerforms.h"
 #include "start/registerforms.h"
 #include "support/fakes.h"
+#include "support/memoryfiletypes.h"
 #include "tags/registerforms.h"
 #include "tools/realtidy.h"
 #include "tools/registerforms.h"
@@ -70,7 +71,8 @@ FormCatalogue allForms()
     wizards::registerForms(catalogue);
     panes::registerForms(catalogue);
     tags::registerForms(catalogue);
-    settings::registerForms(catalogue);
+    static MemoryFileTypes fileTypes;
+    settings::registerForms(catalogue, fileTypes, u"/app/zephira"_s);
     tools::registerForms(catalogue, realTidy);
     const auto ftpParts = std::make_shared<FtpParts>();
     ftp::registerForms(catalogue, {ftpParts, &ftpParts->client});

@@ -3,6 +3,7 @@
 #include "settings/registerforms.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
+#include "support/memoryfiletypes.h"
 #include "support/testregistry.h"
 
 #include <QApplication>
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void ok();
 
 private:
+    MemoryFileTypes m_fileTypes;
     std::unique_ptr<TestContext> m_world;
     std::unique_ptr<LivingForm> m_form;
 };
@@ -42,7 +44,7 @@ private:
 void TstFrmAbout::init()
 {
     FormCatalogue catalogue;
-    settings::registerForms(catalogue);
+    settings::registerForms(catalogue, m_fileTypes, u"/app/zephira"_s);
     m_world = std::make_unique<TestContext>();
     m_form = std::make_unique<LivingForm>(catalogue, u"frmAbout"_s, *m_world);
 }

@@ -6,6 +6,7 @@
 #include "settings/registerforms.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
+#include "support/memoryfiletypes.h"
 #include "support/testregistry.h"
 
 #include <QListWidget>
@@ -86,6 +87,7 @@ private:
         return visible.join(u' ');
     }
 
+    MemoryFileTypes m_fileTypes;
     FormCatalogue m_catalogue;
     std::unique_ptr<TestContext> m_world;
     std::unique_ptr<LivingForm> m_form;
@@ -94,7 +96,7 @@ private:
 void TstFrmOptions::init()
 {
     m_catalogue = {};
-    settings::registerForms(m_catalogue);
+    settings::registerForms(m_catalogue, m_fileTypes, u"/app/zephira"_s);
     m_world = std::make_unique<TestContext>();
 }
 
