@@ -91,7 +91,6 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
     offerLeftCopies();
     connectEditor();
     connectCommands();
-    applyAvailability();
     new FocusRing(*this,
                   {{m_ui->views, [this] { m_viewSwitch->focusView(); }},
                    {m_palette},
@@ -278,14 +277,6 @@ void frmmain::connectCommands()
     const auto hideSelectors = [this] { m_sideCommands->setSelectorListVisible(false); };
     connect(m_palette, &Palette::tabClicked, this, hideSelectors);
     connect(m_selectorList, &SelectorList::finished, this, hideSelectors);
-}
-
-void frmmain::applyAvailability()
-{
-    m_menus->applyAvailability(*m_forms);
-    m_standardBar->applyAvailability(*m_forms);
-    m_formattingBar->applyAvailability(*m_forms);
-    m_palette->applyAvailability(*m_forms);
 }
 
 void frmmain::InsertAtCaret(const QString &text)

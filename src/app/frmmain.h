@@ -142,7 +142,6 @@ private:
     void offerLeftCopies();
     void connectEditor();
     void connectCommands();
-    void applyAvailability();
     void languageSet(int row);
     void selectionChanged();
     void showKeyboardLocks();

@@ -59,12 +59,12 @@ void IconTheme::followPalette()
         QIcon::setThemeName(theme);
 }
 
-void markNotAvailable(QAction *action)
+void markUnsupported(QAction *action)
 {
-    const QString notYet = u"%1 (not available yet)"_s.arg(plainCaption(action->text()));
+    const QString note = u"%1 (not on this system)"_s.arg(plainCaption(action->text()));
     action->setEnabled(false);
-    action->setToolTip(notYet);
-    action->setStatusTip(notYet);
+    action->setToolTip(note);
+    action->setStatusTip(note);
 }
 
 } // namespace zephira

@@ -36,7 +36,7 @@ private:
     void followPalette();
 };
 
-/// Disables an action whose form or feature isn't available yet. Its tips name the feature and add that note.
-void markNotAvailable(QAction *action);
+/// Disables an action that needs a program which doesn't exist on this system. Its tips say so.
+void markUnsupported(QAction *action);
 
 } // namespace zephira

@@ -4,7 +4,6 @@
 #include "commands/icons.h"
 #include "commands/menutable.h"
 #include "commands/tagsmenu.h"
-#include "core/formopener.h"
 
 #include <QAction>
 #include <QMenu>
@@ -152,18 +151,6 @@ void Menus::setMet(std::span<const MenuItem> items, Need need, bool met)
             menu(item.name)->setEnabled(met); // Its entry in the menu bar follows.
         else
             action(item.name)->setEnabled(met);
-    }
-}
-
-void Menus::applyAvailability(const FormOpener &forms)
-{
-    for (auto [name, entry] : m_actions.asKeyValueRange()) {
-        const MenuItem *item = findMenuItem(name);
-        const QuickTag *tag = findTagsEntry(name);
-        const QStringView form = item ? item->form : tag ? tag->form() : QStringView();
-        const bool missing = item && item->kind == MenuItem::Kind::Missing;
-        if (missing || (!form.isEmpty() && !forms.isAvailable(form.toString())))
-            markNotAvailable(entry);
     }
 }
 

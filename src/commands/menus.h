@@ -17,7 +17,6 @@ class QWidget;
 
 namespace zephira {
 
-class FormOpener;
 struct MenuItem;
 
 /// Builds the menu tree from its table: the menus of the bar, and the pop-up menus. The objectName of each menu and
@@ -44,8 +43,6 @@ public:
     /// Adds an entry to a menu array, behind the elements that the table has or that were added before. Its name is that
     /// of the array with the number of the element.
     QAction *addElement(QStringView menu, QStringView array, int element, const Command &command);
-    /// Disables the entries whose form can't be opened yet and says so in their tool tips.
-    void applyAvailability(const FormOpener &forms);
 
 Q_SIGNALS:
     /// An entry was chosen, by mouse, key or shortcut. Its check mark is unchanged: the command sets it.

@@ -57,12 +57,6 @@ constexpr MenuItem beside(MenuItem item)
     return item;
 }
 
-/// An entry whose feature isn't available yet.
-constexpr MenuItem missing(QStringView name, QStringView caption)
-{
-    return {name, caption, {}, {}, {}, {}, {}, Kind::Missing};
-}
-
 /// A command of the designer.
 constexpr MenuItem designs(QStringView name, QStringView caption, DesignerCommand command, QStringView icon = {})
 {

@@ -19,7 +19,6 @@ struct MenuItem {
         Menu,    ///< a menu with `children`
         Bar,     ///< a disabled text between the menus of the bar
         Title,   ///< a disabled text above the entries of a menu
-        Missing, ///< an entry whose feature isn't available yet
     };
 
     QStringView name = {};
@@ -30,7 +29,7 @@ struct MenuItem {
     QStringView statusTip = {};
     /// What choosing the entry does.
     Command command = {};
-    /// The form that must be available for the entry to be enabled, or empty.
+    /// The form that the entry opens, or empty.
     QStringView form = {};
     Kind kind = Kind::Entry;
     std::span<const MenuItem> children = {};

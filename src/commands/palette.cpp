@@ -3,7 +3,6 @@
 
 #include "commands/icons.h"
 #include "commands/palettetable.h"
-#include "core/formopener.h"
 
 #include <QAction>
 #include <QActionEvent>
@@ -128,6 +127,8 @@ void Palette::fill(int index)
         action->setToolTip(tag.label.toString());
         action->setCheckable(tag.kind == TagKind::Selector);
         bar->addAction(action);
+        if (tag.kind == TagKind::Missing)
+            markUnsupported(action);
         if (tag.kind == TagKind::Headings)
             addHeadings(action);
         else
@@ -178,18 +179,6 @@ bool Palette::isSelectorPressed() const
 void Palette::setSelectorPressed(bool pressed)
 {
     action(static_cast<int>(PaletteTab::Style), selectorKey.toString())->setChecked(pressed);
-}
-
-void Palette::applyAvailability(const FormOpener &forms)
-{
-    for (std::size_t index = 0; index < m_bars.size(); ++index) {
-        const std::span<const QuickTag> buttons = paletteToolbars()[index].buttons;
-        for (std::size_t i = 0; i < buttons.size(); ++i) {
-            const QStringView form = buttons[i].form();
-            if (buttons[i].kind == TagKind::Missing || (!form.isEmpty() && !forms.isAvailable(form.toString())))
-                markNotAvailable(m_bars[index]->actions()[static_cast<qsizetype>(i)]);
-        }
-    }
 }
 
 } // namespace zephira

@@ -13,7 +13,6 @@ class QToolBar;
 
 namespace zephira {
 
-class FormOpener;
 class PaletteBar;
 
 /// The tool palette: the tab strip `toolpane` and the toolbars `Toolbar_0` to `Toolbar_11`, of which the selected one
@@ -37,9 +36,6 @@ public:
     /// The toggle `selector`; setting it emits no click.
     bool isSelectorPressed() const;
     void setSelectorPressed(bool pressed);
-
-    /// Disables buttons whose form can't be opened yet and says so in their tool tips.
-    void applyAvailability(const FormOpener &forms);
 
 Q_SIGNALS:
     /// A button other than the pull-down of the headings was clicked.

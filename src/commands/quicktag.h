@@ -42,7 +42,7 @@ struct QuickTag {
     Refusal refusal = Refusal::None;
     QStringView shortcut = {};
 
-    /// The form that must be available for the row to work, or empty.
+    /// The form that the row opens, or empty.
     constexpr QStringView form() const
     {
         switch (kind) {

@@ -4,14 +4,11 @@
 #include "commands/icons.h"
 #include "commands/menutable.h"
 #include "commands/toolbartable.h"
-#include "core/formopener.h"
 #include "widgets/tipwithkeys.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QToolButton>
-
-#include <algorithm>
 
 namespace zephira {
 
@@ -84,42 +81,7 @@ void CommandToolBar::setMet(Need need, bool met)
     for (std::size_t row = 0; row < m_table.buttons.size(); ++row) {
         QAction *button = buttons[static_cast<qsizetype>(row)];
         if (m_table.buttons[row].need == need)
-            button->setEnabled(met && !m_unavailable.contains(button));
-    }
-}
-
-void CommandToolBar::applyAvailability(const FormOpener &forms)
-{
-    const auto closeWithout = [&](QStringView key, QStringView form) {
-        if (!form.isEmpty() && !forms.isAvailable(form.toString()))
-            close(key.toString());
-    };
-    for (const ToolButton &button : m_table.buttons) {
-        // A button stays enabled if its pull-down has an enabled entry.
-        const bool offersMore = std::ranges::any_of(button.pullDown, [&](const PullDownEntry &entry) {
-            return entry.form.isEmpty() || forms.isAvailable(entry.form.toString());
-        });
-        if (!offersMore)
-            closeWithout(button.key, button.form);
-        for (const PullDownEntry &entry : button.pullDown)
-            closeWithout(entry.key, entry.form);
-    }
-}
-
-void CommandToolBar::close(const QString &key)
-{
-    QAction *button = action(key);
-    markNotAvailable(button);
-    m_unavailable.insert(button);
-    // A button whose pull-down has no enabled entry left is disabled, unless it does something itself.
-    for (const ToolButton &owner : m_table.buttons) {
-        const bool holdsKey =
-            std::ranges::any_of(owner.pullDown, [&](const PullDownEntry &entry) { return entry.key == key; });
-        const bool isSpent = std::ranges::all_of(owner.pullDown, [&](const PullDownEntry &entry) {
-            return m_unavailable.contains(action(entry.key.toString()));
-        });
-        if (holdsKey && isSpent && !owner.form.isEmpty())
-            close(owner.key.toString());
+            button->setEnabled(met);
     }
 }
 

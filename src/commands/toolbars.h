@@ -3,12 +3,10 @@
 
 #include "commands/command.h"
 
-#include <QSet>
 #include <QToolBar>
 
 namespace zephira {
 
-class FormOpener;
 enum class Need;
 struct ToolBarTable;
 struct ToolButton;
@@ -28,14 +26,8 @@ public:
     /// Names new keys in the tips of the buttons that do what a menu entry does.
     void showKeys(QStringView entry, const QString &keys);
 
-    /// Enables or disables the buttons and separators that need something. Buttons that aren't available yet stay
-    /// disabled.
+    /// Enables or disables the buttons and separators that need something.
     void setMet(Need need, bool met);
-
-    /// Disables buttons whose form can't be opened yet and says so in their tool tips.
-    void applyAvailability(const FormOpener &forms);
-    /// Does the same for one button or pull-down entry, and for a button whose pull-down has no enabled entry left.
-    void close(const QString &key);
 
 Q_SIGNALS:
     /// A button, or an entry of a pull-down, was clicked.
@@ -46,7 +38,6 @@ private:
     void setTip(QAction *action, const QString &tip);
 
     const ToolBarTable &m_table;
-    QSet<const QAction *> m_unavailable;
 };
 
 } // namespace zephira

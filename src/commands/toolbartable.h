@@ -18,7 +18,7 @@ struct PullDownEntry {
     QStringView statusTip = {};
     /// What choosing the entry does.
     Command command = {};
-    /// The form that must be available for the entry to be enabled, or empty.
+    /// The form that the entry opens, or empty.
     QStringView form = {};
 };
 

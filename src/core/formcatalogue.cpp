@@ -9,30 +9,16 @@ void FormCatalogue::add(const QString &name, Factory factory)
     m_factories[name] = std::move(factory);
 }
 
-void FormCatalogue::announce(const QString &name)
-{
-    m_factories.try_emplace(name);
-}
-
 bool FormCatalogue::contains(const QString &name) const
 {
-    const auto entry = m_factories.find(name);
-    return entry != m_factories.end() && entry->second;
-}
-
-bool FormCatalogue::isAnnounced(const QString &name) const
-{
-    const auto entry = m_factories.find(name);
-    return entry != m_factories.end() && !entry->second;
+    return m_factories.contains(name);
 }
 
 QStringList FormCatalogue::names() const
 {
     QStringList names;
-    for (const auto &[name, factory] : m_factories) {
-        if (factory)
-            names.append(name);
-    }
+    for (const auto &[name, factory] : m_factories)
+        names.append(name);
     return names;
 }
 

@@ -28,20 +28,15 @@ public:
     {
         add(name, [](const AppContext &context, QWidget *owner) -> QWidget * { return new Form(context, owner); });
     }
-    /// Names a form that isn't available yet: commands that open it are disabled and say so, until the form is added.
-    void announce(const QString &name);
 
     /// Whether the form can be created.
     bool contains(const QString &name) const;
-    /// Whether the form was announced but not added yet.
-    bool isAnnounced(const QString &name) const;
-    /// The forms that can be created, in alphabetical order.
+    /// All forms in alphabetical order.
     QStringList names() const;
     /// Creates a form with `owner` as its parent. Returns nullptr for a name that isn't in the catalogue.
     QWidget *make(const QString &name, const AppContext &context, QWidget *owner) const;
 
 private:
-    /// An announced form has an empty factory.
     std::map<QString, Factory> m_factories;
 };
 

@@ -370,19 +370,6 @@ private Q_SLOTS:
         QCOMPARE(window.rt().text(), link);
     }
 
-    void whatComesLaterIsClosedAndSaysSo()
-    {
-        WindowBench bench;
-        FormCatalogue forms;
-        forms.announce(u"frmMeta"_s);
-        forms.add(u"frmTables"_s, [](const AppContext &, QWidget *owner) { return new QWidget(owner); });
-        bench.catalogue = forms;
-        bench.start();
-        QVERIFY(!bench.find<QAction>(u"mnumtw"_s)->isEnabled());
-        QCOMPARE(bench.find<QAction>(u"mnumtw"_s)->toolTip(), u"Meta Tag Wizard (not available yet)"_s);
-        QVERIFY(bench.find<QAction>(u"mnutblwiz"_s)->isEnabled());
-    }
-
     void aRecoveryCopyStaysWhereASaveFailedAtTheClose()
     {
         WindowBench bench;

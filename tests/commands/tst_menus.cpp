@@ -70,7 +70,6 @@ private Q_SLOTS:
     void shortcutsFireOnce();
     void checkMarksAreTheCommandsToSet();
     void everyCommandHasAStatusTip();
-    void whatIsNotAvailableSaysSo();
     void iconsComeWithTheFirstOpening();
 };
 
@@ -320,26 +319,6 @@ void TstMenus::everyCommandHasAStatusTip()
         }
     }
     QCOMPARE(w.menus.action(u"Bold"_s)->statusTip(), u"Insert <b></b>"_s);
-}
-
-void TstMenus::whatIsNotAvailableSaysSo()
-{
-    Window w;
-    FakeFormOpener forms;
-    forms.unavailable = {u"frmascii"_s, u"frmTagEdit"_s};
-    w.menus.applyAvailability(forms);
-    for (const QString &name : {u"mnuascwiz"_s, u"Image"_s, u"tagwiz"_s}) {
-        const QAction *entry = w.menus.action(name);
-        QVERIFY2(!entry->isEnabled(), qPrintable(name));
-        QVERIFY2(entry->toolTip().endsWith(u" (not available yet)"), qPrintable(entry->toolTip()));
-    }
-    for (const QString &name :
-         {u"mnucp"_s, u"save"_s, u"Bold"_s, u"about"_s, u"mnufcomp"_s, u"mnuformath"_s, u"mnufsimple"_s})
-        QVERIFY2(w.menus.action(name)->isEnabled(), qPrintable(name));
-    // The tip begins with the caption, without the menu's "&" and "...".
-    QCOMPARE(w.menus.action(u"mnuascwiz"_s)->toolTip(), u"Ascii Wizard (not available yet)"_s);
-    QCOMPARE(w.menus.action(u"tagwiz"_s)->statusTip(), u"Advanced Tag Wizard (not available yet)"_s);
-    QVERIFY(w.menus.menu(u"tools"_s)->toolTipsVisible());
 }
 
 void TstMenus::iconsComeWithTheFirstOpening()

@@ -2,7 +2,6 @@
 #include "commands/icons.h"
 #include "commands/palette.h"
 #include "commands/palettetable.h"
-#include "support/fakes.h"
 #include "support/testregistry.h"
 
 #include <QAction>
@@ -36,7 +35,7 @@ private Q_SLOTS:
     void selectorIsAToggle();
     void aTabReportsEveryClick();
     void rowsAreEquallyHigh();
-    void whatIsNotAvailableSaysSo();
+    void whatTheSystemLacksSaysSo();
 
 private:
     std::unique_ptr<IconTheme> m_theme;
@@ -211,19 +210,13 @@ void TstPalette::rowsAreEquallyHigh()
     }
 }
 
-void TstPalette::whatIsNotAvailableSaysSo()
+void TstPalette::whatTheSystemLacksSaysSo()
 {
     Palette palette;
-    FakeFormOpener forms;
-    forms.unavailable = {u"ColorPick"_s, u"frmcsv"_s, u"frmvalidate"_s, u"SpellChecker1"_s};
-    palette.applyAvailability(forms);
-    const QList<QAction *> closed{palette.action(0, u"color"_s), palette.action(0, u"tidy"_s),
-                                  palette.action(0, u"spell"_s), palette.action(4, u"topstyle"_s),
-                                  palette.toolBar(9)->actions().first()};
-    for (const QAction *action : closed) {
-        QVERIFY2(!action->isEnabled(), qPrintable(action->text()));
-        QCOMPARE(action->toolTip(), action->text() + u" (not available yet)"_s);
-    }
+    const QAction *outside = palette.action(4, u"topstyle"_s);
+    QVERIFY(!outside->isEnabled());
+    QCOMPARE(outside->toolTip(), u"Edit in TopStyle (not on this system)"_s);
+    QCOMPARE(outside->statusTip(), outside->toolTip());
     QVERIFY(palette.action(0, u"imagemap"_s)->isEnabled());
     QVERIFY(palette.action(3, u"td"_s)->isEnabled());
 }

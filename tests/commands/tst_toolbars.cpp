@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/toolbars.h"
 #include "commands/toolbartable.h"
-#include "support/fakes.h"
 #include "support/testregistry.h"
 
 #include <QAction>
@@ -23,8 +22,6 @@ private Q_SLOTS:
     void tipsNameTheKeysOfTheirEntries();
     void buttonsReportTheirCommands();
     void languagesCloseWhatIsAboutMarkup();
-    void unavailableButtonsStayClosed();
-    void aPullDownKeepsItsButtonOpen();
 };
 
 void TstToolBars::standard()
@@ -101,43 +98,6 @@ void TstToolBars::languagesCloseWhatIsAboutMarkup()
     const QList<QAction *> all = bar.actions();
     for (const QAction *action : all)
         QVERIFY(action->isEnabled());
-}
-
-void TstToolBars::unavailableButtonsStayClosed()
-{
-    CommandToolBar bar(formattingToolBar());
-    FakeFormOpener forms;
-    forms.unavailable = {u"frmmainftp"_s, u"frmDocSize"_s, u"frmTagEdit"_s};
-    bar.applyAvailability(forms);
-    bar.setMet(Need::Markup, false);
-    bar.setMet(Need::Markup, true);
-    for (const QString &key : {u"ftp"_s, u"loadtime"_s, u"dtw"_s}) {
-        QVERIFY2(!bar.action(key)->isEnabled(), qPrintable(key));
-        QCOMPARE(bar.action(key)->toolTip(), bar.action(key)->text() + u" (not available yet)"_s);
-    }
-    QVERIFY(bar.action(u"reset"_s)->isEnabled());
-    QVERIFY(bar.action(u"dts"_s)->isEnabled());
-}
-
-void TstToolBars::aPullDownKeepsItsButtonOpen()
-{
-    CommandToolBar bar(formattingToolBar());
-    FakeFormOpener forms;
-    forms.unavailable = {u"frmTags"_s, u"frmTagEdit"_s, u"frmlinkwiz"_s, u"frmlinkextract"_s};
-    bar.applyAvailability(forms);
-    // The tag list in the side pane is available, so one pull-down has an enabled entry; of the link tools none is.
-    QVERIFY(bar.action(u"htmltags"_s)->isEnabled());
-    QVERIFY(bar.action(u"dqw"_s)->isEnabled());
-    QVERIFY(!bar.action(u"dts"_s)->isEnabled());
-    QVERIFY(!bar.action(u"links"_s)->isEnabled());
-
-    // Without that entry the pull-down's button is disabled. The preview button also has an effect of its own.
-    bar.close(u"dqw"_s);
-    bar.setMet(Need::Markup, true);
-    QVERIFY(!bar.action(u"htmltags"_s)->isEnabled());
-    for (const QString &key : {u"pie"_s, u"pidb"_s, u"picb"_s})
-        bar.close(key);
-    QVERIFY(bar.action(u"preview"_s)->isEnabled());
 }
 
 ZEPHIRA_TEST(TstToolBars)

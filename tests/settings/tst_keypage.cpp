@@ -4,6 +4,7 @@
 #include "settings/registerforms.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
+#include "support/memoryfiletypes.h"
 #include "support/testregistry.h"
 
 #include <QSignalSpy>
@@ -70,6 +71,7 @@ private:
         return keys;
     }
 
+    MemoryFileTypes m_fileTypes;
     FormCatalogue m_catalogue;
     std::unique_ptr<TestContext> m_world;
     std::unique_ptr<LivingForm> m_form;
@@ -78,7 +80,7 @@ private:
 void TstKeyPage::init()
 {
     m_catalogue = {};
-    settings::registerForms(m_catalogue);
+    settings::registerForms(m_catalogue, m_fileTypes, u"/app/zephira"_s);
     m_world = std::make_unique<TestContext>();
     open();
 }
