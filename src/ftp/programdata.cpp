@@ -17,8 +17,8 @@ namespace zephira {
 
 namespace {
 
-constexpr QStringView files[] = {u"zephira",    u"zephira.ini",  u"tags.dat",   u"asptags.dat",
-                                 u"readme.txt", u"TIPOFDAY.TXT", u"zephira.svg"};
+constexpr QStringView files[] = {u"zephira",      u"zephira.ini", u"tags.dat",    u"asptags.dat", u"readme.txt",
+                                 u"TIPOFDAY.TXT", u"zephira.svg", u"zephira.ico", u"reg.ini"};
 constexpr QStringView folders[] = {u"deps/", u"ctabs/", u"help/", u"templates/", u"Scripts/", u"Tags/"};
 constexpr QStringView profileEnd = u".ftp";
 
