@@ -25,8 +25,10 @@ bool runsProgram(const FileTypeKeys &keys, const QString &shellKey, const QStrin
 /// The text without characters that XML and desktop entries have no room for.
 QString plainText(const QString &text)
 {
+    if (!text.isValidUtf16())
+        return {};
     QString plain;
-    for (const QChar c : text.isValidUtf16() ? text : QString())
+    for (const QChar c : text)
         plain += c.category() == QChar::Other_Control || c.category() == QChar::Other_NotAssigned ? QChar(u' ') : c;
     return plain.simplified();
 }
@@ -75,8 +77,9 @@ std::vector<DesktopFileType> desktopFileTypes(const FileTypeKeys &keys, const QS
 
 QString ownMimeType(const QString &extension)
 {
+    const QByteArray bytes = extension.toLower().toUtf8();
     QString name;
-    for (const char byte : extension.toLower().toUtf8()) {
+    for (const char byte : bytes) {
         const bool isPlain = (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9');
         name += isPlain ? QString(QLatin1Char(byte))
                         : u"-%1"_s.arg(static_cast<unsigned char>(byte), 2, 16, QLatin1Char('0'));

@@ -124,8 +124,9 @@ void MimeAppsList::takeOutOf(const QByteArray &group, const QByteArray &type, co
     const QByteArray value = valueOf(m_lines[place.entry], type);
     if (!split(value).contains(program))
         return;
+    const QList<QByteArray> all = value.split(';');
     QList<QByteArray> others;
-    for (const QByteArray &other : value.split(';')) {
+    for (const QByteArray &other : all) {
         if (other.trimmed() != program)
             others.append(other);
     }
