@@ -191,6 +191,10 @@ private Q_SLOTS:
         QCOMPARE(wizard.form.value(u"lblrel"_s), u"/a.png"_s);
         QCOMPARE(wizard.form.value(u"txtwidth"_s), u"5"_s);
         QCOMPARE(wizard.form.value(u"txtheight"_s), QString());
+        // Without a project the full name is what is inserted.
+        wizard.form.press(u"OKButton"_s);
+        QCOMPARE(wizard.inserted(),
+                 QStringList{u"chosen\r\n<img src=\"/a.png\" width=\"5\" height=\"\" alt=\"\" border=\"0\">\r\n"_s});
     }
 
     void aPictureFollowsTheSelection_data()
@@ -214,6 +218,18 @@ private Q_SLOTS:
         wizard.form.press(u"OKButton"_s);
         QVERIFY(!wizard.form.isOpen());
         QCOMPARE(wizard.inserted(), QStringList{text});
+    }
+
+    /// Between two drives there is no relative name.
+    void aPictureOnAnotherDriveIsNamedInFull()
+    {
+        WizardBench wizard(u"ImageWizard"_s);
+        wizard.world.document.project = u"C:"_s;
+        browse(wizard, u"C:"_s, u"D:/a.png"_s);
+        QCOMPARE(wizard.form.value(u"lblrel"_s), u":/a.png"_s);
+        wizard.form.press(u"OKButton"_s);
+        QCOMPARE(wizard.world.editor.text(),
+                 u"<p>chosen\r\n<img src=\"D:/a.png\" width=\"\" height=\"\" alt=\"\" border=\"0\">\r\n</p>"_s);
     }
 
     /// The full name goes to the code view, whichever view shows.

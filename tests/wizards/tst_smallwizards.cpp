@@ -397,6 +397,8 @@ private Q_SLOTS:
     void theRepeatGroupChangesNothing()
     {
         const WizardBench wizard(u"frmwizMarquee"_s);
+        for (const QString &control : {u"Text6"_s, u"Check3"_s})
+            QCOMPARE(wizard.form.get(control).toolTip(), u"For your own notes: it isn't inserted"_s);
         wizard.form.set(u"Text1"_s, u"x"_s);
         wizard.form.set(u"Text6"_s, u"7"_s);
         wizard.form.press(u"Check3"_s);
