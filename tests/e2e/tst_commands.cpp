@@ -241,6 +241,42 @@ private Q_SLOTS:
         QCOMPARE(ReadIni(u"Font"_s, u"Size"_s, folder.ini()), u"11"_s);
     }
 
+    /// Chosen by the keyboard alone, in effect at once and in the next process.
+    void chosenKeysOutliveTheProgram()
+    {
+        ProgramFolder folder;
+        const QString options = u"Options"_s;
+        const QString about = u"About Zephira"_s;
+        {
+            RunningProgram program(folder, {u"/nodialog"_s});
+            QVERIFY(program.waitForWindow(untitled));
+            program.key(untitled, u"F6"_s);
+            program.answer(about, u"Escape"_s);
+            QVERIFY(program.waitUntilGone(about));
+            program.key(untitled, u"alt+o Return"_s);
+            QVERIFY(program.waitForWindow(options));
+            program.key(options, u"End Tab"_s);
+            program.type(options, u"help about"_s);
+            program.key(options, u"Tab space Tab ctrl+shift+b Return Tab Return"_s);
+            QVERIFY(program.waitUntilGone(options));
+            program.key(untitled, u"ctrl+shift+b"_s);
+            program.answer(about, u"Escape"_s);
+            QVERIFY(program.waitUntilGone(about));
+            program.close(untitled);
+            QCOMPARE(program.waitForEnd(), 0);
+        }
+        const QByteArray ini = ProgramFolder::read(folder.ini());
+        RunningProgram program(folder, {u"/nodialog"_s});
+        QVERIFY(program.waitForWindow(untitled));
+        program.key(untitled, u"F6"_s);
+        QVERIFY(program.waitUntilIdle());
+        QCOMPARE(program.windows(), QStringList{untitled});
+        program.key(untitled, u"ctrl+shift+b"_s);
+        program.answer(about, u"Escape"_s);
+        QCOMPARE(ProgramFolder::read(folder.ini()), ini);
+        QVERIFY(!ini.contains("Ctrl+Shift+B"));
+    }
+
     /// The desktop's own dialog proposes the file's name, or one for a text that has no file.
     void printingIntoAFile_data()
     {
