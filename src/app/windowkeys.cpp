@@ -55,9 +55,8 @@ QString textOf(QKeyCombination keys)
 void addTextKeys(std::vector<OtherKey> &keys, const CodeMaxGlobals &globals)
 {
     for (const CodeMaxHotKey &hotKey : initialHotKeys()) {
-        const QStringView use = hotKeyUse(hotKey.command);
-        if (!use.isEmpty() && globals.commandFor(hotKey.keys))
-            keys.push_back({textOf(hotKey.keys), use.toString(), true});
+        if (globals.commandFor(hotKey.keys))
+            keys.push_back({textOf(hotKey.keys), u"is \"%1\" in the text"_s.arg(hotKeyText(hotKey.command)), true});
     }
     for (const Qt::Key key : movingKeys) {
         for (const Qt::KeyboardModifiers modifiers :
@@ -71,7 +70,7 @@ void addPageKeys(std::vector<OtherKey> &keys)
 {
     for (const DesignerButton &button : designerButtons()) {
         if (!button.keys.isEmpty())
-            keys.push_back({button.keys.toString(), u"is %1 in the visual view"_s.arg(button.tip), true});
+            keys.push_back({button.keys.toString(), u"is \"%1\" in the visual view"_s.arg(button.tip), true});
     }
 }
 

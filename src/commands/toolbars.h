@@ -22,7 +22,6 @@ public:
 
     /// The button or pull-down entry with a key, or nullptr.
     QAction *action(const QString &key) const;
-
     /// Names new keys in the tips of the buttons that do what a menu entry does.
     void showKeys(QStringView entry, const QString &keys);
 

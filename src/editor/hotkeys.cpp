@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 
 namespace zephira {
 
@@ -78,43 +77,50 @@ constexpr std::array hotKeys{
     row(Sci::SCI_MOVESELECTEDLINESDOWN, Alt, Qt::Key_Down),
 };
 
-struct CommandUse {
+struct HotKeyText {
     int command;
-    QStringView use;
+    QStringView text;
 };
 
-constexpr CommandUse use(EditorCommand command, QStringView text)
+constexpr HotKeyText text(EditorCommand command, QStringView words)
 {
-    return {numberOf(command), text};
+    return {numberOf(command), words};
 }
 
-constexpr CommandUse uses[] = {
-    use(UndoText, u"undoes the last change of the text"),
-    use(RedoText, u"redoes a change of the text"),
-    use(CopyText, u"copies the selected text"),
-    use(PasteText, u"inserts the clipboard's text"),
-    use(DeleteText, u"deletes text"),
-    use(SelectAll, u"selects the whole text"),
-    use(FindPrevious, u"finds the text further up"),
-    use(ToggleBookmark, u"sets or removes a bookmark"),
-    use(NextBookmark, u"goes to the next bookmark"),
-    use(PreviousBookmark, u"goes to the previous bookmark"),
-    use(ClearBookmarks, u"removes all bookmarks"),
-    use(ToggleOvertype, u"changes between inserting and overtyping"),
-    use(ToggleFold, u"folds or unfolds lines of the text"),
-    use(ToggleAllFolds, u"folds or unfolds the whole text"),
-    use(GoToMatchingBrace, u"goes to the matching bracket in the text"),
-    use(SelectToMatchingBrace, u"selects up to the matching bracket in the text"),
-    use(ResetZoom, u"shows the text in its usual size"),
-    use(AddNextOccurrence, u"selects the next occurrence of the selected text, too"),
-    {Sci::SCI_ZOOMIN, u"shows the text larger"},
-    {Sci::SCI_ZOOMOUT, u"shows the text smaller"},
-    {Sci::SCI_SELECTIONDUPLICATE, u"doubles the selected text"},
-    {Sci::SCI_LINEDELETE, u"deletes the line"},
-    {Sci::SCI_LOWERCASE, u"makes the selected text lower case"},
-    {Sci::SCI_UPPERCASE, u"makes the selected text upper case"},
-    {Sci::SCI_MOVESELECTEDLINESUP, u"moves the selected lines up"},
-    {Sci::SCI_MOVESELECTEDLINESDOWN, u"moves the selected lines down"},
+constexpr std::array texts{
+    text(FindByKey, u"Find"),
+    text(ReplaceByKey, u"Find and replace"),
+    text(PasteByKey, u"Paste"),
+    text(GoToByKey, u"Go to a line"),
+    text(FindNextByKey, u"Find the next match"),
+    text(CutByKey, u"Cut"),
+    text(CopyByKey, u"Copy"),
+    text(UndoText, u"Undo"),
+    text(RedoText, u"Redo"),
+    text(CopyText, u"Copy"),
+    text(PasteText, u"Paste"),
+    text(DeleteText, u"Delete the selection or the next character"),
+    text(SelectAll, u"Select the whole text"),
+    text(FindPrevious, u"Find the previous match"),
+    text(ToggleBookmark, u"Set or remove a bookmark"),
+    text(NextBookmark, u"Go to the next bookmark"),
+    text(PreviousBookmark, u"Go to the previous bookmark"),
+    text(ClearBookmarks, u"Remove all bookmarks"),
+    text(ToggleOvertype, u"Type over or insert"),
+    text(ToggleFold, u"Fold or unfold here"),
+    text(ToggleAllFolds, u"Fold or unfold everything"),
+    text(GoToMatchingBrace, u"Go to the matching bracket"),
+    text(SelectToMatchingBrace, u"Select to the matching bracket"),
+    text(ResetZoom, u"Normal text size"),
+    HotKeyText{Sci::SCI_ZOOMIN, u"Larger text"},
+    HotKeyText{Sci::SCI_ZOOMOUT, u"Smaller text"},
+    text(AddNextOccurrence, u"Select the word, then also its next occurrence"),
+    HotKeyText{Sci::SCI_SELECTIONDUPLICATE, u"Duplicate the selection or the line"},
+    HotKeyText{Sci::SCI_LINEDELETE, u"Delete the line"},
+    HotKeyText{Sci::SCI_LOWERCASE, u"Make the selection lower case"},
+    HotKeyText{Sci::SCI_UPPERCASE, u"Make the selection upper case"},
+    HotKeyText{Sci::SCI_MOVESELECTEDLINESUP, u"Move the lines up"},
+    HotKeyText{Sci::SCI_MOVESELECTEDLINESDOWN, u"Move the lines down"},
 };
 
 } // namespace
@@ -124,10 +130,10 @@ std::span<const CodeMaxHotKey> initialHotKeys()
     return hotKeys;
 }
 
-QStringView hotKeyUse(int command)
+QStringView hotKeyText(int command)
 {
-    const auto found = std::ranges::find(uses, command, &CommandUse::command);
-    return found == std::end(uses) ? QStringView() : found->use;
+    const auto row = std::ranges::find(texts, command, &HotKeyText::command);
+    return row == texts.end() ? QStringView() : row->text;
 }
 
 bool isShortcutLike(QKeyCombination keys)

@@ -3,6 +3,8 @@
 
 #include "editor/codemaxglobals.h"
 
+#include <QStringView>
+
 #include <span>
 
 namespace zephira {
@@ -10,9 +12,8 @@ namespace zephira {
 /// The initial key bindings of the control.
 std::span<const CodeMaxHotKey> initialHotKeys();
 
-/// What the command of an initial hot key does, as the end of a sentence: "deletes the line". Empty for those that a
-/// program with menus unbinds.
-QStringView hotKeyUse(int command);
+/// What the command of an initial key does, in a few words for the user; empty for a command that no initial key has.
+QStringView hotKeyText(int command);
 
 /// Whether a combination that runs no command is left to the window: letters with Ctrl never type anything.
 bool isShortcutLike(QKeyCombination keys);

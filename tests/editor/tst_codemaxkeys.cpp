@@ -129,19 +129,13 @@ private Q_SLOTS:
         menu->close();
     }
 
-    /// Each hot key does something that can be told, but for those that a program with menus unbinds.
+    /// Each hot key does something that can be told.
     void whatKeysDoIsTold()
     {
-        QStringList without;
-        for (const CodeMaxHotKey &hotKey : initialHotKeys()) {
-            if (hotKeyUse(hotKey.command).isEmpty())
-                without.append(QKeySequence(hotKey.keys).toString(QKeySequence::PortableText));
-        }
-        QCOMPARE(without,
-                 (QStringList{u"Ctrl+F"_s, u"Ctrl+R"_s, u"Ctrl+H"_s, u"Ctrl+V"_s, u"Ctrl+G"_s, u"F3"_s, u"Ctrl+X"_s,
-                              u"Shift+Del"_s, u"Ctrl+C"_s}));
-        QCOMPARE(hotKeyUse(numberOf(EditorCommand::UndoText)).toString(), u"undoes the last change of the text"_s);
-        QVERIFY(hotKeyUse(0).isEmpty());
+        for (const CodeMaxHotKey &hotKey : initialHotKeys())
+            QVERIFY2(!hotKeyText(hotKey.command).isEmpty(), qPrintable(QKeySequence(hotKey.keys).toString()));
+        QCOMPARE(hotKeyText(numberOf(EditorCommand::UndoText)).toString(), u"Undo"_s);
+        QVERIFY(hotKeyText(0).isEmpty());
     }
 
     /// A menu's shortcut reaches the menu while the editor has the focus, even if the editor uses the key itself.

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/itemroles.h"
+#include "settings/frmoptions.h"
 #include "settings/keysequencebox.h"
-#include "settings/registerforms.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
-#include "support/memoryfiletypes.h"
 #include "support/testregistry.h"
 
 #include <QSignalSpy>
@@ -71,7 +70,6 @@ private:
         return keys;
     }
 
-    MemoryFileTypes m_fileTypes;
     FormCatalogue m_catalogue;
     std::unique_ptr<TestContext> m_world;
     std::unique_ptr<LivingForm> m_form;
@@ -80,7 +78,7 @@ private:
 void TstKeyPage::init()
 {
     m_catalogue = {};
-    settings::registerForms(m_catalogue, m_fileTypes, u"/app/zephira"_s);
+    m_catalogue.add<frmOptions>(u"frmOptions"_s);
     m_world = std::make_unique<TestContext>();
     open();
 }
@@ -185,7 +183,7 @@ void TstKeyPage::keysOfTheTextAreTold()
 {
     select(2);
     press(u"Ctrl+M"_s);
-    QCOMPARE(clash(), u"Ctrl+M goes to the matching bracket in the text. Set lets it run this command instead."_s);
+    QCOMPARE(clash(), u"Ctrl+M is \"Go to the matching bracket\" in the text. Set lets it run this command instead."_s);
     m_form->press(u"cmdkeyset"_s);
     QCOMPARE(shown()[2], u"(Ctrl+M)"_s);
     QCOMPARE(clash(), QString());

@@ -18,7 +18,7 @@ KeyPlan plan()
     return {{{u"save"_s, u"File > Save"_s, u"Ctrl+S"_s, u"Ctrl+S"_s},
              {u"font"_s, u"Options > Font"_s, u"F7"_s, u"F9"_s},
              {u"table"_s, u"Tools > Table Wizard"_s, {}, {}}},
-            {{u"Ctrl+M"_s, u"goes to the matching bracket in the text"_s, true},
+            {{u"Ctrl+M"_s, u"is \"Go to the matching bracket\" in the text"_s, true},
              {u"Alt+F"_s, u"opens the menu File"_s, false},
              {u"F7"_s, u"is used by the text"_s, true},
              {u"F9"_s, u"is used by the text"_s, true}}};
@@ -73,7 +73,7 @@ private Q_SLOTS:
         two.set(save, {});
         QCOMPARE(two.clash(table, {}), KeyClash{});
         const KeyClash bracket = keys.clash(table, u"Ctrl+M"_s);
-        QCOMPARE(bracket.other.use, u"goes to the matching bracket in the text"_s);
+        QCOMPARE(bracket.other.use, u"is \"Go to the matching bracket\" in the text"_s);
         QVERIFY(bracket.isClash() && bracket.yields());
         QVERIFY(keys.clash(table, u"Alt+F"_s).isClash());
         QVERIFY(!keys.clash(table, u"Alt+F"_s).yields());

@@ -279,7 +279,7 @@ struct FakeCommandKeys final : CommandKeys {
         {QStringLiteral("table"), QStringLiteral("Tools > Table Wizard"), {}, {}},
     };
     std::vector<OtherKey> uses = {
-        {QStringLiteral("Ctrl+M"), QStringLiteral("goes to the matching bracket in the text"), true},
+        {QStringLiteral("Ctrl+M"), QStringLiteral("is \"Go to the matching bracket\" in the text"), true},
         {QStringLiteral("Alt+F"), QStringLiteral("opens the menu File"), false},
     };
     /// What was saved, in order; if `failure` is set, nothing.
