@@ -38,6 +38,7 @@
 #include "editor/editorappearance.h"
 #include "files/leftcopies.h"
 #include "files/recoverycopies.h"
+#include "handbook/helpkey.h"
 #include "panes/filepane.h"
 #include "panes/selectorlist.h"
 #include "panes/sidepane.h"
@@ -97,6 +98,7 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
                    {m_sidePane},
                    {m_documentControls->languages()},
                    {m_ui->workspace}});
+    new HelpKey(*m_context, this);
     m_sidePane->prepare = [this] { m_late.finish(); };
     m_rt->setFocus();
 }

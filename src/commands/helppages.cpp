@@ -2,6 +2,7 @@
 #include "commands/helppages.h"
 
 #include "core/errorstyles.h"
+#include "core/filestore.h"
 #include "core/prompts.h"
 #include "core/shell.h"
 
@@ -23,7 +24,13 @@ void openOrTell(const AppContext &context, const QString &pathOrUrl)
 
 void openHelp(const AppContext &context)
 {
-    openOrTell(context, context.appPath + u"/help/index.html"_s);
+    openHelpPage(context, u"index.html"_s);
+}
+
+void openHelpPage(const AppContext &context, const QString &file)
+{
+    const QString folder = context.appPath + u"/help/"_s;
+    openOrTell(context, folder + (context.files.FileExists(folder + file) ? file : u"index.html"_s));
 }
 
 void openWebsite(const AppContext &context)

@@ -175,7 +175,7 @@ void frmmainftp::connectRemotePane()
 void frmmainftp::addHelpKeys()
 {
     auto *help = new QAction(u"Help"_s, this);
-    help->setShortcut(QKeySequence::HelpContents);
+    help->setShortcut(Qt::CTRL | Qt::Key_F1); // F1 alone opens the handbook, as in every window.
     connect(help, &QAction::triggered, this, &frmmainftp::Help);
     auto *about = new QAction(u"About"_s, this);
     about->setShortcut(QKeySequence::WhatsThis);

@@ -18,7 +18,7 @@ namespace {
 /// The parts of the window in the order in which the help tells of them, in its words.
 QStringList partsOfTheHelp()
 {
-    const QString help = QString::fromUtf8(WindowBench::read(sourcePath(u"data/help/index.html"_s)));
+    const QString help = QString::fromUtf8(WindowBench::read(sourcePath(u"data/help/main-window.html"_s)));
     static const QRegularExpression row(
         u"<kbd>Ctrl\\+F6</kbd>, <kbd>Shift\\+Ctrl\\+F6</kbd></td><td>Next or previous part of the window:([^<]*)</td>"_s);
     return row.match(help).captured(1).simplified().split(u", "_s);

@@ -49,6 +49,9 @@ WindowBench::WindowBench()
     QDirIterator data(source.path(), QDir::Files, QDirIterator::Subdirectories);
     while (data.hasNext()) {
         const QString file = data.next();
+        // The pages of the handbook are many, and only their contents are there.
+        if (source.relativeFilePath(file).startsWith(u"help/"))
+            continue;
         // Read and written, because QFile::copy() waits for the disk at each file.
         write(u"app/"_s + source.relativeFilePath(file), read(file));
     }

@@ -318,20 +318,39 @@ private Q_SLOTS:
         QVERIFY(program.isRunning());
     }
 
+    void helpIsShownByTheDesktop_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("code view") << QString() << untitled << u"code-view.html"_s;
+        QTest::newRow("modal form") << u"F6"_s << u"About Zephira"_s << u"about.html"_s;
+    }
+
     void helpIsShownByTheDesktop()
     {
+        QFETCH(QString, first);
+        QFETCH(QString, window);
+        QFETCH(QString, page);
         ProgramFolder folder;
+        folder.write(u"help/"_s + page, ProgramFolder::read(QStringLiteral(ZEPHIRA_HANDBOOK) + u'/' + page));
         const QString told = folder.place(u"told"_s);
         const QString opener =
             folder.write(u"tools/xdg-open"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"" + told.toUtf8() + "\"\n");
         QVERIFY(QFile::setPermissions(opener, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         RunningProgram program(folder, {u"/nodialog"_s});
         QVERIFY(program.waitForWindow(untitled));
-        program.key(untitled, u"F1"_s);
+        if (!first.isEmpty()) {
+            program.key(untitled, first);
+            QVERIFY(program.waitForWindow(window));
+        }
+        program.key(window, u"F1"_s);
         QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(told).endsWith('\n'), patience);
         const QString shown = QUrl(QString::fromUtf8(ProgramFolder::read(told).trimmed())).path();
-        QCOMPARE(shown, folder.path() + u"/help/index.html"_s);
-        QVERIFY(QFile::exists(shown));
+        QCOMPARE(shown, folder.path() + u"/help/"_s + page);
+        QVERIFY(ProgramFolder::read(shown).contains("<h1>"));
+        if (!first.isEmpty())
+            program.answer(window, u"Escape"_s);
     }
 
     void aboutShows()

@@ -747,7 +747,7 @@ void TstFrmmainftp::helpAndAbout()
     Bench bench;
     bench.open();
     bench.world.prompts.expectTell(u"Try to do that the same way couple of times,\r\nThen click on help."_s, u"Help"_s);
-    QTest::keyClick(&bench.form->widget(), Qt::Key_F1);
+    QTest::keyClick(&bench.form->widget(), Qt::Key_F1, Qt::ControlModifier);
     bench.world.prompts.verify();
     QMetaObject::invokeMethod(&bench.form->widget(), "About");
     QCOMPARE(bench.world.forms.modal, QStringList{u"frmAbout"_s});

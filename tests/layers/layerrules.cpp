@@ -49,8 +49,9 @@ constexpr FolderRow folderRows[] = {
     {u"plugins", u"core widgets"},
     {u"start", u"core files plugins widgets"},
     {u"commands", u"core tools views widgets document"},
+    {u"handbook", u"core files editor ftp commands"},
     {u"app",
-     u"core files syntax widgets editor desktop colour tags panes views wizards settings tools ftp document plugins start commands"},
+     u"core files syntax widgets editor desktop colour tags panes views wizards settings tools ftp document plugins start commands handbook"},
 };
 
 constexpr Rule includeRules[] = {
@@ -69,11 +70,12 @@ constexpr Rule codeRules[] = {
     {uR"((?<!application)(?<!loop)(?<!menu)(?<!drag)(?:\.|->|::|\b(?<!\.)(?<!->)(?<!::))exec\s*\()", u"desktop/",
      u"only the form opener runs a dialog"},
     {uR"(\bcatch\s*\(\s*(const\s+)?HandlerError\b)", u"core/errorstyles.", u"only the error styles catch errors"},
-    // app/program.cpp creates the only store. The transfer sends files of any size in blocks, while the store handles
-    // whole files, and the designer reads resources that are compiled into it. Names, dates and folders may be used
-    // anywhere.
+    // app/program.cpp creates the program's only store, and handbook/makehandbook.cpp is a tool of the build. The
+    // transfer sends files of any size in blocks, while the store handles whole files, and the designer reads resources
+    // that are compiled into it. Names, dates and folders may be used anywhere.
     {uR"((?<!include <)\b(QFile|QSaveFile|QTemporaryFile|QTemporaryDir|QLockFile|QSettings|DiskFileStore)\b(?!\s*::)|(?<![:\w])::open(at)?\s*\(|\bQFile\s*::\s*copy\b|\bmkstemp\b|\bfopen\s*\(|\bi?o?fstream\b)",
-     u"files/ app/program.cpp ftp/transferengine. web/designer/designerpage.cpp", u"only files opens files"},
+     u"files/ app/program.cpp handbook/makehandbook.cpp ftp/transferengine. web/designer/designerpage.cpp",
+     u"only files opens files"},
     // Pictures are read from the bytes that the store gives. These readers and constructors open a file by its name; a
     // text rule can't see types, so that icons are the strictest: from an engine, a picture or another icon alone. The
     // program's own icon is compiled into it.

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// helpshots DIR     saves the pictures of the handbook in DIR, each under the name of its page: of each form, of the main
+//                   window and of its parts. scripts/help-pictures runs it.
+#include "app/webbench.h"
+#include "core/editorcommand.h"
+#include "desktop/webenginestart.h"
+#include "editor/codemax.h"
+#include "forms/allforms.h"
+#include "handbook/helptable.h"
+#include "panes/sidepane.h"
+#include "support/fakes.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPalette>
+#include <QStandardPaths>
+#include <QStyleFactory>
+#include <QTest>
+#include <QTextStream>
+#include <QTimer>
+
+#include <map>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+constexpr QSize windowSize(1100, 720);
+/// Wider pictures are made smaller, because the column of a page is not wider than this.
+constexpr int widest = 736;
+/// In milliseconds.
+constexpr int timeToPaint = 200;
+
+bool save(QWidget &widget, const QDir &folder, QStringView page)
+{
+    QTest::qWait(timeToPaint);
+    QPixmap picture = widget.grab();
+    if (picture.width() > widest)
+        picture = picture.scaledToWidth(widest, Qt::SmoothTransformation);
+    const QString file = folder.filePath(page + u".png"_s);
+    if (picture.save(file))
+        return true;
+    QTextStream(stderr) << file << " can't be written\n";
+    return false;
+}
+
+/// The document in the pictures of the main window.
+constexpr const char *document = R"(<!DOCTYPE html>
+<html lang="en">
+<head>
+  <title>Walks in Kent</title>
+  <link rel="stylesheet" href="walks.css">
+</head>
+<body>
+  <h1>Walks in Kent</h1>
+  <p>Three walks for a <em>windy</em> day, none longer than ten miles.</p>
+  <table border="1">
+    <tr><th>Walk</th><th>Miles</th></tr>
+    <tr><td><a href="wye.html">Wye Downs</a></td><td>7</td></tr>
+    <tr><td><a href="dover.html">White cliffs</a></td><td>9</td></tr>
+  </table>
+  <img src="images/wye.jpg" alt="The chalk hill above Wye">
+</body>
+</html>
+)";
+
+/// The tab of the side pane on which a part is, or an empty text.
+QString sideTabOf(const QString &part)
+{
+    static const std::map<QString, QString> tabs{{u"FilePane"_s, u"fileman"_s},
+                                                 {u"asptags"_s, u"asp"_s},
+                                                 {u"TRV"_s, u"html"_s},
+                                                 {u"ihtmltags"_s, u"ihtml"_s},
+                                                 {u"TreeView1"_s, u"documenttree"_s},
+                                                 {u"frmscripts"_s, u"scripts"_s},
+                                                 {u"c1"_s, u"c1"_s}};
+    const auto tab = tabs.find(part);
+    return tab == tabs.end() ? QString() : tab->second;
+}
+
+/// The pictures of the main window and of its parts, and of the editing control's dialogs.
+class WindowPictures
+{
+public:
+    explicit WindowPictures(const QDir &folder) : m_folder(folder), m_bench(u"walks.html"_s, document)
+    {
+        m_bench.window->resize(windowSize);
+    }
+
+    bool take()
+    {
+        for (const HelpChapter &chapter : helpChapters()) {
+            for (const HelpPage &page : chapter.pages) {
+                if (page.window == u"frmmain" && !takePart(page))
+                    return false;
+            }
+        }
+        return takeDialog(u"find", u"FindDialog"_s, EditorCommand::FindReplaceDialog)
+            && takeDialog(u"go-to-line", u"GoToDialog"_s, EditorCommand::GoToLine)
+            && takeDialog(u"editor-properties", u"PropertiesDialog"_s, EditorCommand::PropertiesDialog);
+    }
+
+private:
+    bool takePart(const HelpPage &page)
+    {
+        const QString part = page.parts.toString().section(u' ', 0, 0);
+        if (page.name == u"preview")
+            return m_bench.preview(u"Walks in Kent"_s) && save(*m_bench.window, m_folder, page.name);
+        if (page.name == u"designer") {
+            const bool taken = m_bench.design() && save(*m_bench.window, m_folder, page.name);
+            m_bench.select(1);
+            return taken;
+        }
+        if (part == u"List1")
+            return takeSelectors(page.name);
+        if (part == u"rt" || part.isEmpty())
+            return save(*m_bench.window, m_folder, page.name);
+        if (part == u"toolpane")
+            return save(*m_bench.find<QWidget>(u"paletteBar"_s), m_folder, page.name);
+        selectSideTab(sideTabOf(part));
+        return save(m_bench.window->sidePane(), m_folder, page.name);
+    }
+
+    bool takeSelectors(QStringView page)
+    {
+        auto *selectors = m_bench.find<QWidget>(u"List1"_s);
+        selectors->resize(220, 260);
+        selectors->show();
+        const bool taken = save(*selectors, m_folder, page);
+        selectors->hide();
+        return taken;
+    }
+
+    void selectSideTab(const QString &key)
+    {
+        QTabBar &tabs = *m_bench.window->sidePane().tabs();
+        for (int i = 0; i < tabs.count(); ++i) {
+            if (tabs.tabData(i).toString() == key)
+                tabs.setCurrentIndex(i);
+        }
+    }
+
+    /// A dialog of the editing control, which stays open beside the window or is modal.
+    bool takeDialog(QStringView page, const QString &name, EditorCommand command)
+    {
+        bool taken = false;
+        QTimer::singleShot(timeToPaint, m_bench.window.get(), [&] {
+            const QWidgetList windows = QApplication::topLevelWidgets();
+            for (QWidget *window : windows) {
+                if (window->objectName() == name && window->isVisible()) {
+                    taken = save(*window, m_folder, page);
+                    window->close();
+                }
+            }
+        });
+        m_bench.window->rt().executeCmd(command);
+        QTest::qWait(3 * timeToPaint);
+        return taken;
+    }
+
+    QDir m_folder;
+    WebBench m_bench;
+};
+
+/// The forms of the catalogue as they appear when they are opened.
+bool takeForms(const QDir &folder)
+{
+    const FormCatalogue catalogue = allForms();
+    for (const HelpChapter &chapter : helpChapters()) {
+        for (const HelpPage &page : chapter.pages) {
+            const QString name = page.window.toString();
+            if (!catalogue.contains(name))
+                continue;
+            TestContext world;
+            world.prompts.onFailure = [](const QString &message) { qWarning("%s", qPrintable(message)); };
+            const std::unique_ptr<QWidget> form(catalogue.make(name, world, nullptr));
+            form->show();
+            if (!QTest::qWaitForWindowExposed(form.get()) || !save(*form, folder, page.name))
+                return false;
+        }
+    }
+    return true;
+}
+
+void useLightColours()
+{
+    constexpr QRgb window = 0xFFEFF0F1;
+    QPalette palette{QColor(window), QColor(window)};
+    palette.setColor(QPalette::Base, Qt::white);
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setPalette(palette);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_SCALE_FACTOR", "1");
+    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+    useLightColours();
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 2 || !QDir().mkpath(arguments[1])) {
+        QTextStream(stderr) << "usage: helpshots DIR\n";
+        return 2;
+    }
+    const QDir folder(arguments[1]);
+    return takeForms(folder) && WindowPictures(folder).take() ? 0 : 1;
+}
