@@ -216,7 +216,7 @@ constexpr MenuItem pluginItems[] = {
 };
 
 constexpr MenuItem helpItems[] = {
-    {u"helpme", u"&General Help", u"F1", u"help-contents", u"Open the guide", {openHelp}},
+    {u"helpme", u"&General Help", u"F1", u"help-contents", u"Open the handbook", {openHelp}},
     {u"readme", u"&Readme", {}, u"documentinfo", u"Show the read-me file", {&PaneCommands::showReadme}},
     {u"mnuupdate",
      u"Update Zephira.",

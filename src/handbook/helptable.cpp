@@ -131,7 +131,7 @@ std::span<const HelpChapter> helpChapters()
 
 QString helpFile(QStringView page)
 {
-    return page + u".html"_s;
+    return page.toString() + u".html"_s;
 }
 
 QStringView helpPageFor(std::span<const QStringList> windows)

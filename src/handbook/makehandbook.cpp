@@ -72,7 +72,7 @@ Result<void> make(const QString &from, const QString &folder)
     QDir(folder).removeRecursively();
     QDir().mkpath(folder + u"/pictures"_s);
     for (const HandbookFile &file : made.value()) {
-        if (const Result<void> written = files.writeCopy(folder + u'/' + file.name, file.text.toUtf8()); !written)
+        if (const Result<void> written = files.write(folder + u'/' + file.name, file.text.toUtf8()); !written)
             return written;
     }
     if (const Result<void> copied = copyTo(folder, filesIn(from, {u"*.css"_s, u"*.js"_s}), files); !copied)

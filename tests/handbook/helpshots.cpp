@@ -8,6 +8,7 @@
 #include "forms/allforms.h"
 #include "handbook/helptable.h"
 #include "panes/sidepane.h"
+#include "panes/sidetabbar.h"
 #include "support/fakes.h"
 
 #include <QApplication>
@@ -39,7 +40,7 @@ bool save(QWidget &widget, const QDir &folder, QStringView page)
     QPixmap picture = widget.grab();
     if (picture.width() > widest)
         picture = picture.scaledToWidth(widest, Qt::SmoothTransformation);
-    const QString file = folder.filePath(page + u".png"_s);
+    const QString file = folder.filePath(page.toString() + u".png"_s);
     if (picture.save(file))
         return true;
     QTextStream(stderr) << file << " can't be written\n";

@@ -28,7 +28,7 @@ private Q_SLOTS:
                 const QString name = page.name.toString();
                 QVERIFY2(name.contains(plain) && name != contentsPage && !pages.contains(name), qPrintable(name));
                 pages.insert(name);
-                const QString place = page.window + u'/' + page.parts;
+                const QString place = u"%1/%2"_s.arg(page.window, page.parts);
                 QVERIFY2(page.window.isEmpty() || !places.contains(place), qPrintable(place));
                 places.insert(place);
             }
