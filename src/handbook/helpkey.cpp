@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QKeySequenceEdit>
 #include <QShortcut>
 #include <QWidget>
 
@@ -44,6 +45,13 @@ bool hasOwnUse(const QWidget &window)
            });
 }
 
+/// A box for keys takes this one as any other; its inner text box has the focus.
+bool takesKeys(const QWidget &control)
+{
+    return qobject_cast<const QKeySequenceEdit *>(&control)
+        || qobject_cast<const QKeySequenceEdit *>(control.parentWidget());
+}
+
 } // namespace
 
 HelpKey::HelpKey(const AppContext &context, QObject *parent) : QObject(parent), m_context(context)
@@ -58,7 +66,7 @@ bool HelpKey::eventFilter(QObject *watched, QEvent *event)
     if (!isHelpKey(*event))
         return false;
     const auto *control = qobject_cast<QWidget *>(watched);
-    if (!control || QApplication::activePopupWidget() || hasOwnUse(*control->window()))
+    if (!control || QApplication::activePopupWidget() || takesKeys(*control) || hasOwnUse(*control->window()))
         return false;
     // An accepted override comes back as a key press, before any shortcut or control has got it.
     event->accept();

@@ -2,17 +2,25 @@
 // helpshots DIR     saves the pictures of the handbook in DIR, each under the name of its page: of each form, of the main
 //                   window and of its parts. scripts/help-pictures runs it.
 #include "app/webbench.h"
+#include "colour/fakescreen.h"
+#include "colour/frmcolorspy.h"
+#include "colour/registerforms.h"
+#include "commands/icons.h"
 #include "core/editorcommand.h"
 #include "desktop/webenginestart.h"
 #include "editor/codemax.h"
 #include "forms/allforms.h"
 #include "handbook/helptable.h"
+#include "panes/filepane.h"
 #include "panes/sidepane.h"
 #include "panes/sidetabbar.h"
 #include "support/fakes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QPalette>
 #include <QStandardPaths>
 #include <QStyleFactory>
@@ -28,7 +36,7 @@ using namespace zephira;
 
 namespace {
 
-constexpr QSize windowSize(1100, 720);
+constexpr QSize windowSize(736, 540);
 /// Wider pictures are made smaller, because the column of a page is not wider than this.
 constexpr int widest = 736;
 /// In milliseconds.
@@ -88,6 +96,10 @@ public:
     explicit WindowPictures(const QDir &folder) : m_folder(folder), m_bench(u"walks.html"_s, document)
     {
         m_bench.window->resize(windowSize);
+        // The tree begins with the project, so that nothing else of this machine shows.
+        m_bench.window->filePane().setRootSelect(true);
+        m_bench.find<QLineEdit>(u"PrjPath"_s)->setText(QFileInfo(m_bench.file).path() + u'/');
+        m_bench.write(u"app/ldtemp.html"_s, document);
     }
 
     bool take()
@@ -98,12 +110,47 @@ public:
                     return false;
             }
         }
-        return takeDialog(u"find", u"FindDialog"_s, EditorCommand::FindReplaceDialog)
+        return takeForms() && takeDialog(u"find", u"FindDialog"_s, EditorCommand::FindReplaceDialog)
             && takeDialog(u"go-to-line", u"GoToDialog"_s, EditorCommand::GoToLine)
             && takeDialog(u"editor-properties", u"PropertiesDialog"_s, EditorCommand::PropertiesDialog);
     }
 
 private:
+    /// The forms as they appear when they are opened over this document.
+    bool takeForms()
+    {
+        for (const HelpChapter &chapter : helpChapters()) {
+            for (const HelpPage &page : chapter.pages) {
+                const std::unique_ptr<QWidget> form = makeForm(page.window.toString());
+                if (!form)
+                    continue;
+                form->show();
+                if (!QTest::qWaitForWindowExposed(form.get()) || !save(*form, m_folder, page.name))
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    /// Two forms need something that the window alone doesn't have: a misspelt word, and a screen.
+    std::unique_ptr<QWidget> makeForm(const QString &name)
+    {
+        TestContext &world = m_world;
+        std::unique_ptr<QWidget> form;
+        if (name == u"SpellChecker1") {
+            form.reset(m_forms.make(name, world, nullptr));
+        } else if (name == u"frmZoom") {
+            FormCatalogue catalogue;
+            colour::registerForms(catalogue, {m_screen, [] { return nullptr; }});
+            form.reset(catalogue.make(name, world, nullptr));
+        } else if (m_bench.catalogue.contains(name)) {
+            form.reset(m_bench.catalogue.make(name, m_bench.window->context(), nullptr));
+        }
+        if (form && name == u"oebrowser")
+            form->findChild<QAbstractButton *>(u"objectshow"_s)->click();
+        return form;
+    }
+
     bool takePart(const HelpPage &page)
     {
         const QString part = page.parts.toString().section(u' ', 0, 0);
@@ -163,27 +210,10 @@ private:
 
     QDir m_folder;
     WebBench m_bench;
+    TestContext m_world;
+    FormCatalogue m_forms = allForms();
+    std::shared_ptr<FakeScreen> m_screen = std::make_shared<FakeScreen>();
 };
-
-/// The forms of the catalogue as they appear when they are opened.
-bool takeForms(const QDir &folder)
-{
-    const FormCatalogue catalogue = allForms();
-    for (const HelpChapter &chapter : helpChapters()) {
-        for (const HelpPage &page : chapter.pages) {
-            const QString name = page.window.toString();
-            if (!catalogue.contains(name))
-                continue;
-            TestContext world;
-            world.prompts.onFailure = [](const QString &message) { qWarning("%s", qPrintable(message)); };
-            const std::unique_ptr<QWidget> form(catalogue.make(name, world, nullptr));
-            form->show();
-            if (!QTest::qWaitForWindowExposed(form.get()) || !save(*form, folder, page.name))
-                return false;
-        }
-    }
-    return true;
-}
 
 void useLightColours()
 {
@@ -202,11 +232,13 @@ int main(int argc, char **argv)
     const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     useLightColours();
+    QApplication::setApplicationName(u"zephira"_s);
+    const IconTheme theme(*application);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 2 || !QDir().mkpath(arguments[1])) {
         QTextStream(stderr) << "usage: helpshots DIR\n";
         return 2;
     }
     const QDir folder(arguments[1]);
-    return takeForms(folder) && WindowPictures(folder).take() ? 0 : 1;
+    return WindowPictures(folder).take() ? 0 : 1;
 }

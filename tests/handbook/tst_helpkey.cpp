@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QKeySequenceEdit>
 #include <QLineEdit>
 #include <QMenu>
 #include <QShortcut>
@@ -154,6 +155,17 @@ private Q_SLOTS:
         QTest::keyClick(&menu, Qt::Key_F1);
         QCOMPARE(bench.world.shell.opened, QStringList());
         menu.close();
+    }
+
+    void aBoxForKeysKeepsTheKey()
+    {
+        Bench bench;
+        QKeySequenceEdit keys(&bench.window);
+        keys.show();
+        keys.setFocus();
+        QTest::keyClick(&keys, Qt::Key_F1);
+        QCOMPARE(keys.keySequence().toString(), u"F1"_s);
+        QCOMPARE(bench.world.shell.opened, QStringList());
     }
 
     void aFailureIsTold()
