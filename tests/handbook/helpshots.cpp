@@ -2,6 +2,7 @@
 // helpshots DIR     saves the pictures of the handbook in DIR, each under the name of its page: of each form, of the main
 //                   window and of its parts. scripts/help-pictures runs it.
 #include "app/webbench.h"
+#include "colour/colourportal.h"
 #include "colour/fakescreen.h"
 #include "colour/frmcolorspy.h"
 #include "colour/registerforms.h"
@@ -19,6 +20,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPalette>
@@ -36,7 +38,7 @@ using namespace zephira;
 
 namespace {
 
-constexpr QSize windowSize(736, 540);
+constexpr QSize windowSize(640, 440);
 /// Wider pictures are made smaller, because the column of a page is not wider than this.
 constexpr int widest = 736;
 /// In milliseconds.
@@ -98,8 +100,12 @@ public:
         m_bench.window->resize(windowSize);
         // The tree begins with the project, so that nothing else of this machine shows.
         m_bench.window->filePane().setRootSelect(true);
-        m_bench.find<QLineEdit>(u"PrjPath"_s)->setText(QFileInfo(m_bench.file).path() + u'/');
+        auto *project = m_bench.find<QLineEdit>(u"PrjPath"_s);
+        project->setText(m_bench.appPath() + u'/');
+        project->setText(QFileInfo(m_bench.file).path() + u'/');
         m_bench.write(u"app/ldtemp.html"_s, document);
+        // This one isn't installed.
+        QFile::remove(m_bench.appPath() + u"/CMakeLists.txt"_s);
     }
 
     bool take()
@@ -140,6 +146,8 @@ private:
         if (name == u"SpellChecker1") {
             form.reset(m_forms.make(name, world, nullptr));
         } else if (name == u"frmZoom") {
+            m_screen->pixels = m_bench.window->grab().toImage();
+            m_screen->place = m_screen->pixels.rect().center();
             FormCatalogue catalogue;
             colour::registerForms(catalogue, {m_screen, [] { return nullptr; }});
             form.reset(catalogue.make(name, world, nullptr));

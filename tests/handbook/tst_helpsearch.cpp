@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "handbook/helptable.h"
 #include "support/eventwait.h"
 #include "support/testregistry.h"
 
@@ -21,14 +22,14 @@ constexpr int patience = 60000;
 struct Bench {
     QWebEngineView view;
 
-    explicit Bench(const QString &page = u"index.html"_s)
+    explicit Bench(QStringView page = contentsPage)
     {
         view.resize(900, 700);
         view.show();
         view.activateWindow();
         bool loaded = false;
         QObject::connect(&view, &QWebEngineView::loadFinished, &view, [&loaded](bool ok) { loaded = ok; });
-        view.load(QUrl::fromLocalFile(QStringLiteral(ZEPHIRA_HANDBOOK) + u'/' + page));
+        view.load(QUrl::fromLocalFile(QStringLiteral(ZEPHIRA_HANDBOOK) + u'/' + helpFile(page)));
         [&] {
             QVERIFY(waitUntil([&] { return loaded; }, patience));
             QVERIFY(waitUntil([&] { return ask(u"document.hasFocus()"_s) == u"true"; }, patience));
@@ -62,9 +63,9 @@ struct Bench {
     }
     QString focused() { return ask(u"document.activeElement.textContent || document.activeElement.id"_s); }
 
-    bool shows(const QString &file)
+    bool shows(QStringView page)
     {
-        return waitUntil([&] { return view.url().fileName() == file; }, patience);
+        return waitUntil([&] { return view.url().fileName() == helpFile(page); }, patience);
     }
 };
 
@@ -88,7 +89,7 @@ private Q_SLOTS:
     /// Each word must be on the page; the beginning of a word is enough, and case doesn't matter.
     void allWordsByTheirBeginnings()
     {
-        Bench bench(u"find.html"_s);
+        Bench bench(u"find");
         bench.type(u"TIDY capit"_s);
         QVERIFY(waitUntil([&] { return bench.found().contains(u"Validate Your HTML"); }, patience));
         QVERIFY(!bench.found().contains(u"Spelling"));
@@ -106,7 +107,7 @@ private Q_SLOTS:
         bench.press(Qt::Key_Down);
         QVERIFY(waitUntil([&] { return bench.focused() == u"Cookie Wizard"; }, patience));
         bench.press(Qt::Key_Return);
-        QVERIFY(bench.shows(u"cookie-wizard.html"_s));
+        QVERIFY(bench.shows(u"cookie-wizard"));
     }
 
     void returnOpensTheFirst()
@@ -115,7 +116,7 @@ private Q_SLOTS:
         bench.type(u"marquee"_s);
         QVERIFY(waitUntil([&] { return bench.found().startsWith(u"Marquee Wizard"); }, patience));
         bench.press(Qt::Key_Return);
-        QVERIFY(bench.shows(u"marquee-wizard.html"_s));
+        QVERIFY(bench.shows(u"marquee-wizard"));
     }
 
     void nothingFound()
@@ -128,7 +129,7 @@ private Q_SLOTS:
         bench.press(Qt::Key_Escape);
         QVERIFY(waitUntil([&] { return bench.told().isEmpty(); }, patience));
         QCOMPARE(bench.ask(u"document.getElementById('sought').value"_s), QString());
-        QCOMPARE(bench.view.url().fileName(), u"index.html"_s);
+        QCOMPARE(bench.view.url().fileName(), helpFile(contentsPage));
     }
 
     /// What a word is called that every object of a script has is a word like any other.
