@@ -65,12 +65,12 @@ private Q_SLOTS:
         QVERIFY(initialHotKeys().size() > 30);
         for (const CodeMaxHotKey &hotKey : initialHotKeys()) {
             const QString keys = QKeySequence(hotKey.keys).toString(QKeySequence::PortableText);
-            QVERIFY2(!hotKeyText(hotKey.command).isEmpty(), qPrintable(keys));
             // The menus get their keys before the text does.
             const bool isInAMenu = !commandOf(keys, u"Menu "_s).isEmpty();
-            QCOMPARE(commandOf(keys, u"Code view"_s), isInAMenu ? QString() : hotKeyText(hotKey.command).toString());
+            QVERIFY2(isInAMenu || !hotKeyUse(hotKey.command).isEmpty(), qPrintable(keys));
+            QCOMPARE(commandOf(keys, u"Code view"_s).toLower(),
+                     isInAMenu ? QString() : hotKeyUse(hotKey.command).toString());
         }
-        QVERIFY(hotKeyText(-1).isEmpty());
     }
 
     void eachKeyOfTheFileTransfer()
@@ -99,8 +99,8 @@ private Q_SLOTS:
         QTest::newRow("entry of a menu in a menu") << u"Menu File"_s << u"Ctrl+N"_s << u"New, Blank Document"_s;
         QTest::newRow("dots") << u"Menu Edit"_s << u"Ctrl+G"_s << u"Go To"_s;
         QTest::newRow("tags") << u"Menu Fast Web Tags"_s << u"Shift+Del"_s << u"Start Tag <>"_s;
-        QTest::newRow("text") << u"Code view"_s << u"Ctrl+F2"_s << u"Set or remove a bookmark"_s;
-        QTest::newRow("second key") << u"Code view"_s << u"Ctrl+="_s << u"Larger text"_s;
+        QTest::newRow("text") << u"Code view"_s << u"Ctrl+F2"_s << u"Sets or removes a bookmark"_s;
+        QTest::newRow("second key") << u"Code view"_s << u"Ctrl+="_s << u"Shows the text larger"_s;
         QTest::newRow("transfer") << u"File transfer"_s << u"F2"_s << u"Rename the selected local file"_s;
     }
 
