@@ -148,7 +148,7 @@ Result<std::vector<PlacedPage>> placedPages(const HandbookSource &source)
         }
     }
     for (const auto &[name, content] : source.pages) {
-        const bool isPlaced = std::ranges::any_of(pages, [&](const PlacedPage &page) { return page.name == name; });
+        const bool isPlaced = std::ranges::find(pages, name, &PlacedPage::name) != pages.end();
         if (!isPlaced && name != contentsPage)
             return broken(u"the page %1 is in no chapter"_s.arg(name));
     }

@@ -30,7 +30,8 @@ private Q_SLOTS:
             for (const HelpPage &page : chapter.pages) {
                 if (page.window != u"frmmain" || page.parts.isEmpty())
                     continue;
-                for (const QStringView part : page.parts.split(u' ')) {
+                const QList<QStringView> names = page.parts.split(u' ');
+                for (const QStringView part : names) {
                     const QString name = part.toString();
                     const QWidget *widget = bench.window->findChild<QWidget *>(name);
                     QVERIFY2(widget, qPrintable(name));
