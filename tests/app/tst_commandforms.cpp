@@ -52,7 +52,7 @@ private Q_SLOTS:
         bench.start();
         bench.window->context().document.setLanguageRow(language::Html);
         const QList<QAction *> actions = bench.window->findChildren<QAction *>();
-        QVERIFY2(actions.size() > 500, qPrintable(QString::number(actions.size())));
+        QVERIFY2(actions.size() > 300, qPrintable(QString::number(actions.size())));
         for (const QAction *action : actions) {
             for (const QString &text : {action->text(), action->toolTip(), action->statusTip(), action->whatsThis()})
                 QVERIFY2(!text.contains(u"available yet"_s, Qt::CaseInsensitive), qPrintable(text));

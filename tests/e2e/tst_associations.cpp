@@ -56,7 +56,7 @@ private Q_SLOTS:
     {
         const ProgramFolder folder;
         const QByteArray entry = "[Desktop Entry]\nType=Application\nName=Other\nExec=/bin/true %f\nMimeType=";
-        const QByteArray list = "# mine\n[Default Applications]\ntext/plain=notes.desktop\n";
+        const QByteArray list = "# mine\n[Default Applications]\ntext/plain=notes.desktop\ntext/html=browser.desktop\n";
         const QString listFile = folder.write(u"home/.config/mimeapps.list"_s, list);
         folder.write(u"home/.local/share/applications/notes.desktop"_s, entry + "text/plain;\n");
         folder.write(u"home/.local/share/applications/browser.desktop"_s, entry + "text/html;\n");
