@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QSet>
 
 #include <algorithm>
 #include <iterator>
@@ -91,9 +92,16 @@ void WindowKeys::readKept()
 {
     m_kept.clear();
     const QStringList names = m_settings.owners(UserSetting::MenuKeys);
+    if (names.isEmpty())
+        return;
+    QSet<QString> blocked;
+    for (const OtherKey &other : others()) {
+        if (!other.yields)
+            blocked.insert(other.keys);
+    }
     for (const QString &name : names) {
         const auto keys = normalKeys(m_settings.GetSetting(UserSetting::MenuKeys, name, {}));
-        if (keys && keysRefusal(*keys).isEmpty())
+        if (keys && keysRefusal(*keys).isEmpty() && !blocked.contains(*keys))
             m_kept.insert(name, *keys);
     }
 }
@@ -174,24 +182,53 @@ std::optional<bool> WindowKeys::editsText(const QKeySequence &keys) const
         || std::ranges::any_of(sameCommands, [&](const SameCommand &same) { return name == same.entry; });
 }
 
+/// Puts the changes in place of what is in effect, which another window may have changed meanwhile. What was kept but
+/// isn't in effect is forgotten, so that it doesn't come back when its keys become free.
+void WindowKeys::take(std::span<const KeyChange> changes)
+{
+    readKept();
+    const std::vector<CommandKey> inEffect = commands();
+    m_kept.clear();
+    for (const CommandKey &command : inEffect) {
+        if (command.keys != command.shipped)
+            m_kept.insert(command.name, command.keys);
+    }
+    for (const KeyChange &change : changes) {
+        m_kept.removeIf([&](const auto &each) { return !change.keys.isEmpty() && each.value() == change.keys; });
+        m_kept.insert(change.name, change.keys);
+    }
+}
+
+/// Writes what differs from what ships, and removes what doesn't. Returns false if something can't be written.
+bool WindowKeys::write(std::span<const KeyChange> changes)
+{
+    const QStringList names = m_settings.owners(UserSetting::MenuKeys);
+    const std::vector<CommandKey> all = commands();
+    bool written = true;
+    for (const CommandKey &command : all) {
+        const bool isChanged = std::ranges::find(changes, command.name, &KeyChange::name) != changes.end();
+        const bool isKept = names.contains(command.name);
+        if (command.keys == command.shipped) {
+            if (isKept)
+                written = m_settings.RemoveSetting(UserSetting::MenuKeys, command.name) && written;
+        } else if (isChanged || !isKept
+                   || m_settings.GetSetting(UserSetting::MenuKeys, command.name, {}) != command.keys) {
+            written = m_settings.SaveSetting(UserSetting::MenuKeys, command.name, command.keys) && written;
+        }
+    }
+    return written;
+}
+
 Result<void> WindowKeys::save(std::span<const KeyChange> changes)
 {
     if (changes.empty())
         return {};
-    const std::vector<CommandKey> commands = this->commands();
-    bool written = true;
-    for (const KeyChange &change : changes) {
-        const auto command = std::ranges::find(commands, change.name, &CommandKey::name);
-        if (command == commands.end())
-            continue;
-        written = written
-            && (change.keys == command->shipped
-                    ? m_settings.RemoveSetting(UserSetting::MenuKeys, change.name)
-                    : m_settings.SaveSetting(UserSetting::MenuKeys, change.name, change.keys));
-    }
-    if (!written)
+    const QHash<QString, QString> before = m_kept;
+    take(changes);
+    if (!write(changes)) {
+        m_kept = before;
         return Error{Error::Code::Unwritable, u"The keys could not be saved."_s};
-    readKept();
+    }
     apply();
     return {};
 }

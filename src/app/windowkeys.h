@@ -53,6 +53,8 @@ private:
     };
 
     void readKept();
+    void take(std::span<const KeyChange> changes);
+    bool write(std::span<const KeyChange> changes);
     void apply();
     QAction *entryOf(const CommandKey &command) const;
     /// The entry that keys run, or nullptr.

@@ -360,7 +360,8 @@ private Q_SLOTS:
     void brokenTexts_data()
     {
         QTest::addColumn<QString>("text");
-        for (const char *text : {"Blah", "Ctrl+", "Ctrl+K, Ctrl+L", "A", "Return", "@Variant(\\0\\0)", "\n"})
+        for (const char *text :
+             {"Blah", "Ctrl+", "Ctrl+K, Ctrl+L", "A", "Return", "Alt+F", "Ctrl+F6", "@Variant(\\0\\0)", "\n"})
             QTest::newRow(text) << QString::fromLatin1(text);
     }
 
@@ -388,6 +389,48 @@ private Q_SLOTS:
         show(bench);
         QCOMPARE(formOpenedBy(bench, u"F11"_s), u"frmwebdisp"_s);
         QCOMPARE(formOpenedBy(bench, u"F6"_s), u"frmAbout"_s);
+    }
+
+    /// What was kept but not in effect doesn't come back when the keys become free.
+    void savingCleansUp()
+    {
+        WindowBench bench;
+        bench.settings.values[place + u"webview"_s] = u"F11"_s;
+        bench.settings.values[place + u"about"_s] = u"F11"_s;
+        bench.settings.values[place + u"font"_s] = u"Blah"_s;
+        bench.settings.values[place + u"a plug-in of another day"_s] = u"F9"_s;
+        bench.start();
+        show(bench);
+        onKeyPage(bench, [&](QDialog &form) {
+            give(form, u"webview"_s, u"F10"_s);
+            push(form, u"cmdOK"_s);
+        });
+        QCOMPARE(formOpenedBy(bench, u"F10"_s), u"frmwebdisp"_s);
+        QCOMPARE(formOpenedBy(bench, u"F11"_s), QString());
+        QCOMPARE(formOpenedBy(bench, u"F6"_s), u"frmAbout"_s);
+        QCOMPARE(bench.settings.owners(UserSetting::MenuKeys),
+                 (QStringList{u"a plug-in of another day"_s, u"webview"_s}));
+    }
+
+    /// Another process has saved keys since this window read them: both changes stay, and of two the later one.
+    void twoProcessesShareTheKeys()
+    {
+        WindowBench bench;
+        bench.start();
+        show(bench);
+        bench.settings.values[place + u"about"_s] = u"F11"_s;
+        bench.settings.values[place + u"font"_s] = u"F9"_s;
+        onKeyPage(bench, [&](QDialog &form) {
+            give(form, u"mnutblwiz"_s, u"F10"_s);
+            give(form, u"webview"_s, u"F9"_s);
+            push(form, u"cmdOK"_s);
+        });
+        QCOMPARE(formOpenedBy(bench, u"F11"_s), u"frmAbout"_s);
+        QCOMPARE(formOpenedBy(bench, u"F10"_s), u"frmTables"_s);
+        QCOMPARE(formOpenedBy(bench, u"F9"_s), u"frmwebdisp"_s);
+        QCOMPARE(bench.settings.values.at(place + u"about"_s), u"F11"_s);
+        QVERIFY(!bench.settings.values.contains(place + u"font"_s));
+        QCOMPARE(commandNamed(bench, u"font"_s).keys, u"F7"_s);
     }
 
     void aStoreThatCantBeWrittenIsTold()
