@@ -143,6 +143,7 @@ void CodeMax::beforeEdit(int position, int type, int length)
     settleInsertion();
     m_colouring->beforeEdit(position);
     if (!(type & SC_MOD_BEFOREDELETE)) {
+        m_appearance->showText();
         m_inserted = {position, length};
         return;
     }

@@ -4,6 +4,7 @@
 #include "editor/bracematcher.h"
 #include "editor/buffertext.h"
 #include "editor/codemax.h"
+#include "editor/editorappearance.h"
 #include "editor/idlecolouring.h"
 #include "syntax/syntaxstyle.h"
 
@@ -194,6 +195,8 @@ void CodeMax::replaceDocument(const DecodedText &document)
     if (m_engine.send(SCI_GETLINECHARACTERINDEX) & SC_LINECHARACTERINDEX_UTF16)
         m_engine.send(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF16);
     m_inserted = {};
+    if (!utf8.isEmpty())
+        m_appearance->showText();
     m_bidi->learn(utf8);
     m_engine.send(SCI_ALLOCATE, utf8.size() + 1);
     m_engine.sendText(SCI_APPENDTEXT, utf8.size(), utf8.isEmpty() ? "" : utf8.data());

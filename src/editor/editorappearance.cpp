@@ -91,6 +91,12 @@ void EditorAppearance::setLooks(const EditorLooks &looks)
     applyAll();
 }
 
+void EditorAppearance::showText()
+{
+    if (!std::exchange(m_hasText, true))
+        applyControlFont();
+}
+
 void EditorAppearance::showStyles()
 {
     if (std::exchange(m_showsStyles, true))
@@ -148,11 +154,17 @@ void EditorAppearance::applyFont()
     m_engine.send(Sci::SCI_STYLESETITALIC, Sci::STYLE_DEFAULT, m_looks.font.italic);
     m_engine.send(Sci::SCI_STYLESETUNDERLINE, Sci::STYLE_DEFAULT, m_looks.font.underline);
     m_engine.send(Sci::SCI_STYLECLEARALL);
-    // Characters without a glyph are painted as small, narrow text, so that they never make a line higher.
+    if (m_hasText)
+        applyControlFont();
+    applyContrast();
+}
+
+/// Characters without a glyph are painted as small, narrow text, so that they never make a line higher.
+void EditorAppearance::applyControlFont()
+{
     m_engine.sendText(Sci::SCI_STYLESETFONT, Sci::STYLE_CONTROLCHAR, "Sans Serif");
     m_engine.send(Sci::SCI_STYLESETSIZEFRACTIONAL, Sci::STYLE_CONTROLCHAR,
                   m_engine.send(Sci::SCI_STYLEGETSIZEFRACTIONAL, Sci::STYLE_DEFAULT) * 4 / 5);
-    applyContrast();
 }
 
 void EditorAppearance::applyStyle(int item)

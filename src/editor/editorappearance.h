@@ -40,6 +40,8 @@ public:
     const EditorLooks &looks() const { return m_looks; }
     void setLooks(const EditorLooks &looks);
 
+    /// Enables the font of control characters from now on. An empty text has none and so avoids loading it.
+    void showText();
     /// Enables the font styles from now on. A text without syntax colouring doesn't use them and so avoids loading
     /// their fonts, which is slow.
     void showStyles();
@@ -61,6 +63,7 @@ private:
     void applyStyle(int item);
     void setStyle(unsigned int message, int style, qsizetype value);
     void applyFont();
+    void applyControlFont();
     void applyContrast();
     bool isDark() const;
     quint32 current(int item) const;
@@ -68,6 +71,7 @@ private:
 
     SciEngine m_engine;
     EditorLooks m_looks;
+    bool m_hasText = false;
     bool m_showsStyles = false;
     bool m_dark = false;
     bool m_onPaper = false;

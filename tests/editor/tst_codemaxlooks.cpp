@@ -264,6 +264,28 @@ private Q_SLOTS:
         QVERIFY(f.editor.grab().toImage() != before);
     }
 
+    /// A text has a small font for characters without a glyph, however it came; without a text nothing is loaded for it.
+    void controlCharactersAreSmall()
+    {
+        const auto size = [](EditorFixture &f, int style) {
+            return f.editor.engine().send(QsciScintillaBase::SCI_STYLEGETSIZEFRACTIONAL, style);
+        };
+        const int control = QsciScintillaBase::STYLE_CONTROLCHAR;
+        const int text = QsciScintillaBase::STYLE_DEFAULT;
+        EditorFixture typed;
+        typed.show();
+        QCOMPARE(size(typed, control), size(typed, text));
+        QTest::keyClicks(&typed.editor, u"a"_s);
+        QCOMPARE(size(typed, control), size(typed, text) * 4 / 5);
+        const auto before = size(typed, control);
+        typed.editor.setEditorFont({.name = u"Courier New"_s, .size = 30});
+        QVERIFY(size(typed, control) > before);
+        QCOMPARE(size(typed, control), size(typed, text) * 4 / 5);
+        EditorFixture set;
+        set.editor.setText(u"\x01"_s);
+        QCOMPARE(size(set, control), size(set, text) * 4 / 5);
+    }
+
     /// A new control has the colours of the shipped settings.
     void newControlsHaveTheShippedColours()
     {
