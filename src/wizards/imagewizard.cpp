@@ -11,6 +11,7 @@
 #include "wizards/longfields.h"
 
 #include <QBuffer>
+#include <QImageIOHandler>
 #include <QImageReader>
 
 #include <utility>
@@ -71,8 +72,12 @@ void ImageWizard::measure(const QString &file)
     QByteArray bytes = std::move(content).value();
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
+    // Browsers turn a photo that was taken upright, too.
+    reader.setAutoTransform(true);
     // The size comes from the file's head, so that the picture needn't fit into memory.
     QSize size = reader.size();
+    if (reader.transformation().testFlag(QImageIOHandler::TransformationRotate90))
+        size.transpose();
     m_ui->Sizer->setPixmap(QPixmap::fromImage(reader.read()));
     m_ui->Sizer->adjustSize();
     if (!size.isValid())

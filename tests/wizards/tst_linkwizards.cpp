@@ -18,13 +18,25 @@ const QString pictureFilter =
     u"All Image Files...|*.jpg;*.jpeg;*.bmp;*.gif;*.png|JPEG Files (*.jpeg,*.jpg)|*.jpg;*.jpeg|"
     "GIF Files (*.gif)|*.gif|Windows BMP Files (*.bmp)|*.bmp|PNG Files (*.png)|*.png"_s;
 
-QByteArray picture(int width, int height)
+QByteArray picture(int width, int height, const char *format = "PNG")
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(Qt::red);
     QBuffer buffer;
-    image.save(&buffer, "PNG");
+    image.save(&buffer, format);
     return buffer.data();
+}
+
+/// A photo that says that it is to be turned by a quarter to be upright.
+QByteArray turnedPhoto(int width, int height)
+{
+    // Behind the start of the file: the marker, its length, the kind, and a list of one entry, the orientation 6.
+    const QByteArray orientation = QByteArray::fromHex("ffe10022457869660000"
+                                                       "4d4d002a00000008"
+                                                       "0001"
+                                                       "011200030000000100060000"
+                                                       "00000000");
+    return picture(width, height, "JPG").insert(2, orientation);
 }
 
 /// Chooses a file in the dialog, which starts in `folder`.
@@ -169,6 +181,16 @@ private Q_SLOTS:
         QCOMPARE(wizard.form.get(u"Sizer"_s).size(), QSize(30, 20));
         browse(wizard, u"/site/img"_s, std::nullopt);
         QCOMPARE(wizard.form.value(u"Text1"_s), u"/site/img/a.png"_s);
+    }
+
+    void aTurnedPhotoHasTheSizeThatIsShown()
+    {
+        WizardBench wizard(u"ImageWizard"_s);
+        wizard.world.files.contents[u"/photo.jpg"_s] = turnedPhoto(30, 20);
+        browse(wizard, {}, u"/photo.jpg"_s);
+        QCOMPARE(wizard.form.value(u"txtwidth"_s), u"20"_s);
+        QCOMPARE(wizard.form.value(u"txtheight"_s), u"30"_s);
+        QCOMPARE(wizard.form.get(u"Sizer"_s).size(), QSize(20, 30));
     }
 
     void whatIsNoPictureHasNoSize_data()
