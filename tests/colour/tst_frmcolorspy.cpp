@@ -214,6 +214,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(zoom->windowHandle()));
         QVERIFY(zoom->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
         QVERIFY(zoom->testAttribute(Qt::WA_ShowWithoutActivating));
+        QCOMPARE(zoom->toolTip(), u"made to make picking exact colors easy"_s);
         QCOMPARE(spy.form->focus(), u"picCursor"_s);
         // The picture fills the window.
         QCOMPARE(zoom->findChild<ZoomPicture *>(u"picZoom"_s)->geometry(), zoom->rect());
