@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmvalidate.h"
 
+#include "core/designer.h"
 #include "core/documenthost.h"
 #include "core/editingcontrol.h"
 #include "core/errorstyles.h"
@@ -195,6 +196,9 @@ void frmvalidate::sendChanges()
         if (!self || answer != Answer::Yes)
             return;
         m_context.editor.setText(m_cleanedText);
+        // The designer's page would replace the text when visual mode is left.
+        if (m_context.designer.isShowing())
+            m_context.designer.setDocumentHtml(m_cleanedText);
         accept();
     });
 }

@@ -21,7 +21,8 @@ class frmvalidate;
 class TidyMessageModel;
 
 /// Checks and cleans the last saved copy of the document with Tidy, lists what Tidy says, shows the cleaned text, and
-/// can make it the text of the code view. The work is done in a thread; the form can be closed meanwhile.
+/// can make it the text of the code view, and in visual mode the designer's page as well. The work is done in a thread;
+/// the form can be closed meanwhile.
 class frmvalidate final : public QDialog
 {
     Q_OBJECT

@@ -312,6 +312,22 @@ private Q_SLOTS:
                  qPrintable(validator.world.editor.text()));
         // A single change, so that one undo takes it back.
         QCOMPARE(changes, 1);
+        QCOMPARE(validator.world.designer.html, QString());
+    }
+
+    /// Otherwise the designer would still show the old page, and would put it in place of the sent text when visual mode
+    /// is left.
+    void theDesignerShowsWhatWasSent()
+    {
+        Validator validator;
+        validator.world.designer.showing = true;
+        validator.world.designer.html = u"<p>edited later"_s;
+        validator.open();
+        validator.world.prompts.expect(sendQuestion, Answer::Yes);
+        validator.form->press(u"Command3"_s);
+        QVERIFY(waitUntil([&] { return !validator.form->isOpen(); }, 10'000));
+        QVERIFY(validator.world.editor.text().contains(u"<P>a b</P>"));
+        QCOMPARE(validator.world.designer.html, validator.world.editor.text());
     }
 
     void notSent()
