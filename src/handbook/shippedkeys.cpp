@@ -27,11 +27,6 @@ QString plainCaption(QStringView caption)
     return text;
 }
 
-QString asSentence(QStringView use)
-{
-    return use.isEmpty() ? QString() : use.first(1).toString().toUpper() + use.sliced(1).toString();
-}
-
 void addMenuRows(std::span<const MenuItem> items, const QString &way, std::vector<KeyRow> &rows)
 {
     for (const MenuItem &item : items) {
@@ -72,7 +67,7 @@ KeyGroup editorGroup(std::span<const KeyGroup> menus)
         const QString keys = QKeySequence(hotKey.keys).toString(QKeySequence::PortableText);
         if (isInAMenu(keys))
             continue;
-        const QString command = asSentence(hotKeyUse(hotKey.command));
+        const QString command = hotKeyText(hotKey.command).toString();
         const auto row = std::ranges::find(group.rows, command, &KeyRow::command);
         if (row != group.rows.end())
             row->keys.append(keys);
