@@ -333,7 +333,7 @@ private Q_SLOTS:
         QFETCH(QString, window);
         QFETCH(QString, page);
         ProgramFolder folder;
-        folder.write(u"help/"_s + page, ProgramFolder::read(QStringLiteral(ZEPHIRA_HANDBOOK) + u'/' + page));
+        folder.write(u"zephira/help/"_s + page, ProgramFolder::read(QStringLiteral(ZEPHIRA_HANDBOOK) + u'/' + page));
         const QString told = folder.place(u"told"_s);
         const QString opener =
             folder.write(u"tools/xdg-open"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"" + told.toUtf8() + "\"\n");
