@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace Qt::StringLiterals;
@@ -138,11 +139,11 @@ Result<void> DesktopFileTypes::putAll(const std::vector<Change> &changes)
             done = put(change);
         }
         if (!done) {
-            for (auto each = undone.rbegin(); each != undone.rend(); ++each) {
-                // The first error is the one to tell. What can't be put back now is put right by the next commit().
-                const Result<void> back = put(*each);
+            // The first error is the one to tell. What can't be put back now is put right by the next commit().
+            std::for_each(undone.rbegin(), undone.rend(), [this](const Change &each) {
+                const Result<void> back = put(each);
                 Q_UNUSED(back)
-            }
+            });
             return done;
         }
     }

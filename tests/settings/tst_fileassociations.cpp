@@ -16,6 +16,8 @@ namespace {
 /// The places of the check boxes.
 enum Category : std::size_t { Html, Text, Basic, Cgi, Xml, Pascal, CAndCpp, Java };
 
+constexpr CategoryFlags none = {};
+
 } // namespace
 
 class TstFileAssociations final : public QObject
@@ -328,7 +330,7 @@ void TstFileAssociations::loading()
 
 void TstFileAssociations::noRegIni()
 {
-    QVERIFY(boundCategories(m_program).value() == CategoryFlags());
+    QVERIFY(boundCategories(m_program).value() == none);
     // Giving back without a file of saved values empties them.
     QVERIFY(apply({}, only(Xml), only(Xml)).ok());
     QCOMPARE(opens(u"xml"_s), u": "_s);
@@ -338,7 +340,7 @@ void TstFileAssociations::aDamagedRegIniKeepsItsBytes()
 {
     const QByteArray damaged = "[Reg\n\xff\xfe=\nhtmexe\n]]\x01\n[regdata]\nHTML_Files\n=1\n";
     putFile(iniFile(), damaged);
-    QVERIFY(boundCategories(m_program).value() == CategoryFlags());
+    QVERIFY(boundCategories(m_program).value() == none);
     QVERIFY(choose(only(Xml)));
     QVERIFY(contentOf(iniFile()).startsWith(damaged));
     QVERIFY(boundCategories(m_program).value() == only(Xml));
@@ -386,7 +388,7 @@ void TstFileAssociations::theStoreCannotBeWritten()
     m_store.unwritable = Error{Error::Code::Unwritable, u"the disk is full"_s};
     const Result<void> applied = apply(only(Text), {});
     QCOMPARE(applied.error().sentence, u"the disk is full"_s);
-    QVERIFY(boundCategories(m_program).value() == CategoryFlags());
+    QVERIFY(boundCategories(m_program).value() == none);
     QCOMPARE(ini(u"Reg"_s, u"txtact"_s), u"Read"_s);
     QCOMPARE(m_store.committed(u"txtfile\\shell"_s), u"Read"_s);
 
