@@ -98,8 +98,8 @@ private Q_SLOTS:
         QTest::newRow("entry of a menu in a menu") << u"Menu File"_s << u"Ctrl+N"_s << u"New, Blank Document"_s;
         QTest::newRow("dots") << u"Menu Edit"_s << u"Ctrl+G"_s << u"Go To"_s;
         QTest::newRow("tags") << u"Menu Fast Web Tags"_s << u"Shift+Del"_s << u"Start Tag <>"_s;
-        QTest::newRow("text") << u"Code view"_s << u"Ctrl+F2"_s << u"Sets or removes a bookmark"_s;
-        QTest::newRow("second key") << u"Code view"_s << u"Ctrl+="_s << u"Shows the text larger"_s;
+        QTest::newRow("text") << u"Code view"_s << u"Ctrl+F2"_s << u"Set or remove a bookmark"_s;
+        QTest::newRow("second key") << u"Code view"_s << u"Ctrl+="_s << u"Larger text"_s;
         QTest::newRow("transfer") << u"File transfer"_s << u"F2"_s << u"Rename the selected local file"_s;
     }
 
