@@ -54,7 +54,7 @@ frmOptions::frmOptions(const AppContext &context, QWidget *owner)
     m_ui->setupUi(this);
     addPresets();
     addPages();
-    m_keys = new KeyPage(*m_ui, context.keys, this);
+    m_keys = std::make_unique<KeyPage>(*m_ui, context.keys);
     show(loadOptions(context.configuration, context.settings));
 
     connect(m_ui->cmdOK, &QPushButton::clicked, this, [this] {

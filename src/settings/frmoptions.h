@@ -48,7 +48,8 @@ private:
 
     const std::unique_ptr<Ui::frmOptions> m_ui;
     const AppContext m_context;
-    KeyPage *m_keys = nullptr;
+    /// It uses the controls, and the box of keys speaks to it while the window is destroyed.
+    std::unique_ptr<KeyPage> m_keys;
 
     /// A preset that the editing control shows although it isn't saved, and the colours before the first such one.
     struct UnsavedPreset {

@@ -19,8 +19,7 @@ enum Column { CommandColumn, KeysColumn };
 
 } // namespace
 
-KeyPage::KeyPage(Ui::frmOptions &ui, CommandKeys &keys, QObject *owner)
-    : QObject(owner), m_ui(ui), m_keys(keys), m_plan(keys.commands(), keys.others())
+KeyPage::KeyPage(Ui::frmOptions &ui, CommandKeys &keys) : m_ui(ui), m_keys(keys), m_plan(keys.commands(), keys.others())
 {
     // The list stays as it is when a sentence takes two lines.
     m_ui.lblkeyclash->setMinimumHeight(2 * m_ui.lblkeyclash->fontMetrics().lineSpacing());

@@ -21,7 +21,7 @@ class KeyPage final : public QObject
     Q_OBJECT
 
 public:
-    KeyPage(Ui::frmOptions &ui, CommandKeys &keys, QObject *owner);
+    KeyPage(Ui::frmOptions &ui, CommandKeys &keys);
 
     Result<void> save();
 
