@@ -3,6 +3,7 @@
 
 #include "web/designer/characterspans.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringView>
 
