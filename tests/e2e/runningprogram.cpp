@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/runningprogram.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -210,7 +211,10 @@ void RunningProgram::fillIn(const QString &dialog, const QString &text) const
 
 void RunningProgram::close(const QString &title) const
 {
-    key(title, u"alt+F4"_s); // The window manager turns it into a close request.
+    const QString id = windowId(title);
+    QVERIFY2(!id.isEmpty(), qPrintable(title + u" doesn't show, but "_s + windows().join(u", "_s)));
+    // The window manager asks the window to close, as when its button is clicked.
+    outputOf(u"wmctrl"_s, {u"-i"_s, u"-c"_s, id});
 }
 
 void RunningProgram::cutFromDisplay(const QString &title) const
@@ -251,8 +255,10 @@ void RunningProgram::limitFileSize(qint64 bytes) const
 
 int RunningProgram::waitForEnd()
 {
-    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(patience))
+    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(patience)) {
+        qWarning() << "still running, with the windows" << windows();
         return -1;
+    }
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
 }
 
