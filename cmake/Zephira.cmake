@@ -41,8 +41,12 @@ include(CheckPIESupported)
 check_pie_supported()
 
 # The whole tree shares two precompiled headers, one for targets that link only Qt6::Core and one for widgets, because
-# each is larger than all object files together.
+# each is larger than all object files together. The sanitizer tree does without the first, since its objects and programs
+# are larger, and compiling takes little longer.
 foreach(kind IN ITEMS Core Widgets)
+  if(ZEPHIRA_SANITIZE AND kind STREQUAL "Core")
+    continue()
+  endif()
   string(TOLOWER ${kind} header)
   add_library(zephira_${header}_precompiled OBJECT ${CMAKE_SOURCE_DIR}/cmake/precompiled.cpp)
   target_link_libraries(zephira_${header}_precompiled PUBLIC zephira_rules Qt6::${kind})
@@ -52,7 +56,9 @@ foreach(kind IN ITEMS Core Widgets)
 endforeach()
 # zephira_precompiled(TARGET core|widgets): compiles the target with one of them.
 function(zephira_precompiled target header)
-  target_precompile_headers(${target} REUSE_FROM zephira_${header}_precompiled)
+  if(TARGET zephira_${header}_precompiled)
+    target_precompile_headers(${target} REUSE_FROM zephira_${header}_precompiled)
+  endif()
 endfunction()
 
 # zephira_logic(NAME SOURCES ... [LINK ...]): text rules, parsers, writers, state machines. Links only Qt6::Core.
