@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "handbook/shippedkeys.h"
 
-#include "commands/menutable.h"
-#include "commands/quicktag.h"
-#include "commands/tagsmenu.h"
+#include "commands/menukeys.h"
 #include "editor/hotkeys.h"
 #include "ftp/ftpcommandtables.h"
 
 #include <QKeySequence>
 
 #include <algorithm>
-#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -18,39 +15,18 @@ namespace zephira {
 
 namespace {
 
-/// A caption without the mark of its access key and the dots behind it.
-QString plainCaption(QStringView caption)
-{
-    QString text = caption.toString().remove(u'&');
-    while (text.endsWith(u'.'))
-        text.chop(1);
-    return text;
-}
-
-void addMenuRows(std::span<const MenuItem> items, const QString &way, std::vector<KeyRow> &rows)
-{
-    for (const MenuItem &item : items) {
-        const QString command = way + plainCaption(item.caption);
-        if (!item.shortcut.isEmpty())
-            rows.push_back({command, {item.shortcut.toString()}});
-        addMenuRows(item.children, command + u", "_s, rows);
-    }
-}
-
-/// A group for each menu that has a key.
+/// A group for each menu that has a key, in the order of the menus.
 void addMenuGroups(std::vector<KeyGroup> &groups)
 {
-    for (const MenuItem &menu : menuBarTable()) {
-        KeyGroup group{u"Menu "_s + plainCaption(menu.caption), {}};
-        addMenuRows(menu.children, {}, group.rows);
-        if (menu.name == menuname::tags) {
-            for (const QuickTag &tag : tagsMenu()) {
-                if (!tag.shortcut.isEmpty())
-                    group.rows.push_back({plainCaption(tag.label), {tag.shortcut.toString()}});
-            }
-        }
-        if (!group.rows.empty())
-            groups.push_back(std::move(group));
+    const std::vector<CommandKey> commands = menuCommands();
+    for (const CommandKey &command : commands) {
+        if (command.shipped.isEmpty())
+            continue;
+        QStringList way = command.caption.split(u" > "_s);
+        const QString title = u"Menu "_s + way.takeFirst();
+        if (groups.empty() || groups.back().title != title)
+            groups.push_back({title, {}});
+        groups.back().rows.push_back({way.join(u", "_s), {command.shipped}});
     }
 }
 
