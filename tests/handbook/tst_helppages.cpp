@@ -5,6 +5,7 @@
 #include "handbook/helptable.h"
 #include "handbook/shippedkeys.h"
 #include "support/testregistry.h"
+#include "support/tidycomplaints.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,9 +13,6 @@
 #include <QTest>
 
 #include <map>
-
-#include <tidy/tidy.h>
-#include <tidy/tidybuffio.h>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -52,24 +50,6 @@ std::map<QString, QString> pagesOfWindows()
         }
     }
     return pages;
-}
-
-/// All errors and warnings of HTML Tidy.
-QByteArray complaintsOfTidy(const QByteArray &page)
-{
-    const TidyDoc document = tidyCreate();
-    TidyBuffer messages = {};
-    tidySetErrorBuffer(document, &messages);
-    tidySetCharEncoding(document, "utf8");
-    tidyParseString(document, page.constData());
-    tidyCleanAndRepair(document);
-    tidyRunDiagnostics(document);
-    QByteArray complaints;
-    if (tidyErrorCount(document) + tidyWarningCount(document) + tidyAccessWarningCount(document) > 0)
-        complaints = QByteArray(reinterpret_cast<const char *>(messages.bp), static_cast<qsizetype>(messages.size));
-    tidyBufFree(&messages);
-    tidyRelease(document);
-    return complaints;
 }
 
 /// The values of an attribute in the page, in their order.

@@ -2,6 +2,7 @@
 #include "start/templates.h"
 #include "support/sourcefolder.h"
 #include "support/testregistry.h"
+#include "support/tidycomplaints.h"
 
 #include <QColor>
 #include <QDir>
@@ -13,9 +14,6 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-
-#include <tidy/tidy.h>
-#include <tidy/tidybuffio.h>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -52,24 +50,6 @@ void addRows(const QStringList &files)
 bool isFrameset(const QByteArray &page)
 {
     return page.contains("<frameset");
-}
-
-/// All errors and warnings of HTML Tidy; empty if the page follows the rules of its doctype.
-QByteArray complaintsOfTidy(const QByteArray &page)
-{
-    const TidyDoc document = tidyCreate();
-    TidyBuffer messages = {};
-    tidySetErrorBuffer(document, &messages);
-    tidySetCharEncoding(document, "utf8");
-    tidyParseString(document, page.constData());
-    tidyCleanAndRepair(document);
-    tidyRunDiagnostics(document);
-    QByteArray complaints;
-    if (tidyErrorCount(document) + tidyWarningCount(document) + tidyAccessWarningCount(document) > 0)
-        complaints = QByteArray(reinterpret_cast<const char *>(messages.bp), static_cast<qsizetype>(messages.size));
-    tidyBufFree(&messages);
-    tidyRelease(document);
-    return complaints;
 }
 
 /// The first group of every match.

@@ -1,35 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plugins/article/articlepage.h"
 #include "support/testregistry.h"
+#include "support/tidycomplaints.h"
 
 #include <QTest>
 
-#include <tidy/tidy.h>
-#include <tidy/tidybuffio.h>
-
 using namespace Qt::StringLiterals;
 using namespace zephira;
-
-namespace {
-
-/// All errors and warnings of HTML Tidy; empty if the page follows the rules.
-QByteArray complaintsOfTidy(const QByteArray &page)
-{
-    const TidyDoc document = tidyCreate();
-    TidyBuffer messages;
-    tidyBufInit(&messages);
-    tidySetErrorBuffer(document, &messages);
-    tidySetCharEncoding(document, "utf8");
-    tidyParseString(document, page.constData());
-    QByteArray complaints;
-    if (tidyErrorCount(document) + tidyWarningCount(document) > 0)
-        complaints = QByteArray(reinterpret_cast<const char *>(messages.bp), static_cast<qsizetype>(messages.size));
-    tidyBufFree(&messages);
-    tidyRelease(document);
-    return complaints;
-}
-
-} // namespace
 
 class TstArticlePage final : public QObject
 {
