@@ -28,6 +28,9 @@ public:
     /// @param parts   in focus order; all must outlive the ring
     FocusRing(QWidget &window, std::vector<Part> parts);
 
+    /// Adds a part behind the others.
+    void add(Part part) { m_parts.push_back(std::move(part)); }
+
     /// Focuses the next or previous part that can take focus.
     void walk(bool backward);
 

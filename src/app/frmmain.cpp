@@ -13,6 +13,7 @@
 #include "app/sidelists.h"
 #include "app/spellingmenu.h"
 #include "app/statuspanels.h"
+#include "app/texttools.h"
 #include "app/viewswitch.h"
 #include "app/visualtools.h"
 #include "app/windowend.h"
@@ -92,12 +93,13 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
     offerLeftCopies();
     connectEditor();
     connectCommands();
-    new FocusRing(*this,
-                  {{m_ui->views, [this] { m_viewSwitch->focusView(); }},
-                   {m_palette},
-                   {m_sidePane},
-                   {m_documentControls->languages()},
-                   {m_ui->workspace}});
+    auto *ring = new FocusRing(*this,
+                               {{m_ui->views, [this] { m_viewSwitch->focusView(); }},
+                                {m_palette},
+                                {m_sidePane},
+                                {m_documentControls->languages()},
+                                {m_ui->workspace}});
+    m_textTools->attach(*ring);
     new HelpKey(*m_context, this);
     m_sidePane->prepare = [this] { m_late.finish(); };
     m_rt->setFocus();
@@ -219,9 +221,11 @@ void frmmain::buildCommands()
     m_plugins = std::make_unique<PluginMenu>(*m_context, *m_menus, this);
     m_plugins->added = [this](QAction *entry, const QString &plugin) { m_keys->addPlugin(entry, plugin); };
     m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
-    m_router =
-        std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus, *m_sideCommands,
-                                                     *m_filePaneCommands, *m_end, m_visualTools->tools(), *m_plugins});
+    m_textTools = std::make_unique<TextTools>(TextTools::Parts{*this, *m_rt, *m_context, *m_menus, *m_keys});
+    m_late.add([this] { m_textTools->start(); });
+    m_router = std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus,
+                                                            *m_sideCommands, *m_filePaneCommands, *m_end,
+                                                            m_visualTools->tools(), *m_plugins, *m_textTools});
 }
 
 /// Offers unsaved texts of earlier runs in a bar above the text.

@@ -35,6 +35,7 @@ class SideCommands;
 class SideLists;
 class SidePane;
 class StatusPanels;
+class TextTools;
 class ViewSwitch;
 class VisualTools;
 class WindowEnd;
@@ -177,6 +178,7 @@ private:
     std::unique_ptr<SideLists> m_sideLists;
     std::unique_ptr<SideCommands> m_sideCommands;
     std::unique_ptr<PluginMenu> m_plugins;
+    std::unique_ptr<TextTools> m_textTools;
     std::unique_ptr<WindowEnd> m_end;
     std::unique_ptr<CommandRouter> m_router;
 };

@@ -88,6 +88,12 @@ void WindowKeys::attach(Menus &menus, CommandToolBar &bar, CodeMax &rt)
         apply();
 }
 
+void WindowKeys::addTextMenus()
+{
+    if (!m_kept.isEmpty())
+        apply();
+}
+
 void WindowKeys::readKept()
 {
     m_kept.clear();

@@ -36,6 +36,9 @@ public:
     /// plug-ins that are installed.
     void addPlugin(QAction *entry, const QString &plugin);
 
+    /// The menus of the text have been made: gives their entries the keys that the user has chosen.
+    void addTextMenus();
+
     /// The keys that the context menu of the text names for a command, which has these at first.
     QKeySequence namedKeys(EditorCommand command, const QKeySequence &first) const;
     /// Whether keys run an entry that edits the text in the code view; no value if they run none.

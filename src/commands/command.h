@@ -4,6 +4,7 @@
 #include "core/designercommand.h"
 #include "core/editingcontrol.h"
 #include "core/refusals.h"
+#include "core/textcommand.h"
 
 #include <QString>
 
@@ -86,11 +87,11 @@ struct InsertsTag {
 };
 
 /// What a command does: an operation of one of the parts, a function of its own, or one of the kinds above.
-using Effect =
-    std::variant<std::monostate, void (Document::*)(), void (ViewTabs::*)(), void (WindowCommands::*)(),
-                 void (PaneCommands::*)(), void (FileListCommands::*)(), void (SourceFormatting::*)(),
-                 void (*)(const AppContext &), void (*)(const CommandParts &), EditorCommand, DesignerCommand,
-                 OpensForm, EditsView, EditsText, TurnsSwitch, SetsBlockFormat, WrapsSelection, RunsPlugin, InsertsTag>;
+using Effect = std::variant<std::monostate, void (Document::*)(), void (ViewTabs::*)(), void (WindowCommands::*)(),
+                            void (PaneCommands::*)(), void (FileListCommands::*)(), void (SourceFormatting::*)(),
+                            void (*)(const AppContext &), void (*)(const CommandParts &), EditorCommand,
+                            DesignerCommand, TextCommand, OpensForm, EditsView, EditsText, TurnsSwitch, SetsBlockFormat,
+                            WrapsSelection, RunsPlugin, InsertsTag>;
 
 /// What a row of a menu, a toolbar or a pull-down does when it is chosen.
 struct Command {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/textcommand.h"
+
 #include <QString>
 
 namespace zephira {
@@ -107,6 +109,15 @@ public:
     virtual void runPlugin(int entry) = 0;
 };
 
+/// What helps with writing in the code view.
+class TextCommands
+{
+public:
+    virtual ~TextCommands() = default;
+
+    virtual void runTextCommand(TextCommand command) = 0;
+};
+
 /// The parts that commands work on. All outlive the commands.
 struct CommandParts {
     const AppContext &context;
@@ -118,6 +129,7 @@ struct CommandParts {
     WindowCommands &window;
     DesignerTools &designer;
     PluginCommands &plugins;
+    TextCommands &text;
 };
 
 } // namespace zephira

@@ -37,6 +37,7 @@ public:
     {
         endingQuietly([&] { m_context.designer.execCommand(command); });
     }
+    void operator()(TextCommand command) const { m_parts.text.runTextCommand(command); }
     void operator()(const OpensForm &effect) const
     {
         if (effect.kind == OpensForm::Kind::Modeless)

@@ -3,6 +3,7 @@
 
 #include "commands/menutable.h"
 #include "commands/tagsmenu.h"
+#include "commands/texttable.h"
 
 #include <QSet>
 
@@ -44,6 +45,7 @@ std::vector<CommandKey> menuCommands()
 {
     std::vector<CommandKey> commands;
     addCommands(commands, {}, menuBarTable());
+    addCommands(commands, u"Code View > "_s, textMenuTable());
     return commands;
 }
 

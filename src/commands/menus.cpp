@@ -4,6 +4,7 @@
 #include "commands/icons.h"
 #include "commands/menutable.h"
 #include "commands/tagsmenu.h"
+#include "commands/texttable.h"
 
 #include <QAction>
 #include <QMenu>
@@ -135,10 +136,38 @@ void Menus::setChecked(QStringView entry, bool checked)
     m_actions[entry.toString()]->setChecked(checked);
 }
 
+void Menus::addTextMenus(QWidget &text)
+{
+    for (const MenuItem &item : textMenuTable()) {
+        const QMenu *made = makeMenu(item, &text);
+        const QList<QAction *> entries = made->findChildren<QAction *>();
+        for (QAction *entry : entries) {
+            const MenuItem *row = findMenuItem(entry->objectName());
+            if (!row)
+                continue;
+            if (row->need == Need::SourceView)
+                entry->setShortcutContext(Qt::WidgetShortcut);
+            text.addAction(entry);
+        }
+    }
+    m_hasTextMenus = true;
+    setMet(textMenuTable(), Need::SourceView, m_showsSource);
+}
+
+void Menus::offerTextMenus(QMenu &menu) const
+{
+    for (const MenuItem &item : textMenuTable())
+        menu.addMenu(this->menu(item.name));
+}
+
 void Menus::setMet(Need need, bool met)
 {
     setMet(menuBarTable(), need, met);
     setMet(popupTable(), need, met);
+    if (need == Need::SourceView)
+        m_showsSource = met;
+    if (m_hasTextMenus)
+        setMet(textMenuTable(), need, met);
 }
 
 void Menus::setMet(std::span<const MenuItem> items, Need need, bool met)

@@ -38,6 +38,12 @@ public:
     bool isChecked(QStringView entry) const override;
     void setChecked(QStringView entry, bool checked) override;
 
+    /// Adds the menus that the code view's context menu shows, once. Entries for the text have their keys in the widget
+    /// `text`, the others in its window.
+    void addTextMenus(QWidget &text);
+    /// Puts these menus into a context menu.
+    void offerTextMenus(QMenu &menu) const;
+
     /// Enables or disables every menu and entry whose row needs something.
     void setMet(Need need, bool met);
     /// Adds an entry to a menu array, behind the elements that the table has or that were added before. Its name is that
@@ -57,6 +63,8 @@ private:
 
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;
+    bool m_hasTextMenus = false;
+    bool m_showsSource = true;
 };
 
 } // namespace zephira

@@ -5,6 +5,7 @@
 #include "commands/commandparts.h"
 #include "commands/helppages.h"
 #include "commands/sourceformatting.h"
+#include "commands/texttable.h"
 #include "core/designer.h"
 #include "document/document.h"
 #include "views/designertools.h"
@@ -385,8 +386,11 @@ const MenuItem *findMenuItem(QStringView name)
 {
     if (name.isEmpty())
         return nullptr;
-    const MenuItem *found = findIn(bar, name);
-    return found ? found : findIn(popups, name);
+    for (const std::span<const MenuItem> table : {menuBarTable(), popupTable(), textMenuTable()}) {
+        if (const MenuItem *found = findIn(table, name))
+            return found;
+    }
+    return nullptr;
 }
 
 } // namespace zephira

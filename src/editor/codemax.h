@@ -20,6 +20,8 @@
 #include <functional>
 #include <memory>
 
+class QMenu;
+
 namespace zephira {
 
 class BidiPainter;
@@ -81,6 +83,9 @@ public:
     /// The keys that the context menu names for a command which has these keys at first. A window whose menus have keys of
     /// their own sets it.
     std::function<QKeySequence(EditorCommand, const QKeySequence &)> namedKeys;
+
+    /// Adds entries below the context menu's own.
+    std::function<void(QMenu &)> extendMenu;
 
     QString text() const override;
     void setText(const QString &text) override;

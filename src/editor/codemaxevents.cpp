@@ -294,6 +294,10 @@ void CodeMax::showContextMenu(const QPoint &at)
     menu->addSeparator();
     add(tr("Select &All"), EditorCommand::SelectAll, true);
     add(tr("Toggle &Bookmark"), EditorCommand::ToggleBookmark, true);
+    if (extendMenu) {
+        menu->addSeparator();
+        extendMenu(*menu);
+    }
     menu->addSeparator();
     add(tr("Propert&ies…"), EditorCommand::PropertiesDialog, true);
     menu->popup(at);

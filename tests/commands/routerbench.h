@@ -19,7 +19,13 @@
 namespace zephira {
 
 /// The window's parts as commands see them. It records each call as "name" or "name argument".
-struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, WindowCommands, PluginCommands {
+struct FakeParts final : ViewTabs,
+                         CheckMarks,
+                         PaneCommands,
+                         FileListCommands,
+                         WindowCommands,
+                         PluginCommands,
+                         TextCommands {
     QStringList calls;
     std::set<QString> checked;
     bool selectorPressed = false;
@@ -61,6 +67,12 @@ struct FakeParts final : ViewTabs, CheckMarks, PaneCommands, FileListCommands, W
 
     // PluginCommands
     void runPlugin(int entry) override { calls.append(QStringLiteral("runPlugin %1").arg(entry)); }
+
+    // TextCommands
+    void runTextCommand(TextCommand command) override
+    {
+        calls.append(QStringLiteral("runTextCommand %1").arg(static_cast<int>(command)));
+    }
 
     // WindowCommands
     void newWindow() override { calls.append(QStringLiteral("newWindow")); }
@@ -104,7 +116,7 @@ struct RouterBench {
     FakeSurface surface;
     Document document{context, dialog, surface};
     DesignerTools designer{context};
-    CommandRouter router{{context, document, window, window, window, window, window, designer, window}};
+    CommandRouter router{{context, document, window, window, window, window, window, designer, window, window}};
 
     /// Chooses a menu entry, which may be one of the tag menu.
     void menu(const QString &name)

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "assist/texthelpers.h"
+#include "commands/commandparts.h"
+
+class QMainWindow;
+
+namespace zephira {
+
+class FocusRing;
+class Menus;
+class ToolPanel;
+class WindowKeys;
+
+/// What the window offers around the text: the helpers, the panel below it, and their commands in the text's context menu
+/// and on keys.
+class TextTools final : public TextCommands
+{
+public:
+    struct Parts {
+        QMainWindow &window;
+        CodeMax &rt;
+        const AppContext &context;
+        Menus &menus;
+        WindowKeys &keys;
+    };
+
+    explicit TextTools(const Parts &parts);
+    ~TextTools() override;
+
+    /// Makes the menus and starts the helpers, which the first picture doesn't need.
+    void start();
+    /// Lets the ring of keys reach the panel.
+    void attach(FocusRing &ring);
+
+    TextHelpers &helpers() { return m_helpers; }
+    ToolPanel &panel() { return *m_panel; }
+
+    // TextCommands
+    void runTextCommand(TextCommand command) override;
+
+private:
+    const Parts m_parts;
+    ToolPanel *m_panel;
+    TextHelpers m_helpers;
+};
+
+} // namespace zephira
