@@ -21,10 +21,13 @@ package_names() {
     done | sort -u
 }
 
-# missing_packages LIST...: those of them that are not installed. A single query for all of them keeps later starts fast.
+# missing_packages LIST...: those of them that are not installed. A name with a question mark is a command as well, and the
+# package isn't missed where that command is there. A single query for all of them keeps later starts fast.
 missing_packages() {
-    local wanted
-    mapfile -t wanted < <(package_names "$@")
+    local name wanted=()
+    while read -r name; do
+        [[ $name == *"?" ]] && command -v "${name%"?"}" >/dev/null || wanted+=("${name%"?"}")
+    done < <(package_names "$@" | sort -t '?' -k 1,1)
     comm -23 <(printf '%s\n' "${wanted[@]}") <(
         # The second letter of the status is "i" if the package is installed. For an unknown package dpkg-query prints an
         # error and no line.
