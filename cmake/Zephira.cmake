@@ -84,6 +84,19 @@ function(zephira_forms name)
   zephira_precompiled(${name} widgets)
 endfunction()
 
+# zephira_install(FOLDER TARGETS|FILES|DIRECTORY ...): installs into a folder of the program folder, "." for itself. There
+# are two ways: the component "program" is the portable folder, the whole installation in one place. In the system's
+# folders, programs and modules are below that of private programs, the data below that of shared ones, and each user gets
+# a copy of it.
+function(zephira_install folder kind)
+  install(${kind} ${ARGN} DESTINATION ${folder} COMPONENT program EXCLUDE_FROM_ALL)
+  set(system ${CMAKE_INSTALL_DATADIR})
+  if(kind STREQUAL "TARGETS")
+    set(system ${CMAKE_INSTALL_LIBEXECDIR})
+  endif()
+  install(${kind} ${ARGN} DESTINATION ${system}/zephira/${folder} COMPONENT system)
+endfunction()
+
 # zephira_tests(NAME SOURCES ... CLASSES ... [LINK ...] [FORMS | WEB] [LABELS ...]): one test program for a folder and
 # kind. Each class listed under CLASSES is a QTest object registered with ZEPHIRA_TEST and becomes a ctest entry of its
 # own. With FORMS the program has a QApplication on the offscreen platform, with WEB one that can load the web engine,

@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 // makeicon SVG ICO: draws a picture in the usual sizes of icons, and writes them as one icon file.
+// makeicon SVG PNG SIDE: draws it in one size.
 
 namespace {
 
@@ -93,12 +94,14 @@ QByteArray iconFile(QSvgRenderer &picture)
 
 int main(int argc, char **argv)
 {
-    if (argc != 3)
+    constexpr int withSide = 4;
+    if (argc != withSide - 1 && argc != withSide)
         return EXIT_FAILURE;
     QSvgRenderer picture(QFile::decodeName(argv[1]));
     if (!picture.isValid())
         return EXIT_FAILURE;
-    const QByteArray bytes = iconFile(picture);
+    const QByteArray bytes =
+        argc == withSide ? compressed(drawn(picture, QByteArray(argv[3]).toInt())) : iconFile(picture);
     QFile file(QFile::decodeName(argv[2]));
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() ? EXIT_SUCCESS
                                                                                                 : EXIT_FAILURE;

@@ -4,6 +4,8 @@
 #include "app/program.h"
 #include "desktop/webenginestart.h"
 
+#include <QFileInfo>
+
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -22,6 +24,13 @@ int main(int argc, char **argv)
     if (const auto answer = zephira::informationFor(argument)) {
         std::fputs(answer->toUtf8().constData(), stdout);
         return EXIT_SUCCESS;
+    }
+
+    if (const auto fault =
+            zephira::optionFault(argument, [](const QString &name) { return QFileInfo::exists(name); })) {
+        constexpr int wrongUse = 2;
+        std::fputs(fault->toLocal8Bit().constData(), stderr);
+        return wrongUse;
     }
 
     QCoreApplication::setApplicationName(u"zephira"_s);

@@ -59,10 +59,10 @@ QString dataHome()
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
 }
 
-/// Where a package installs read-only data, relative to the executable in …/bin.
+/// Where an installation in the system has its data, relative to the folder of the executable and its modules.
 QString installedData()
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/zephira"_s);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(ZEPHIRA_DATA_FOLDER));
 }
 
 /// Modules are in the executable's folder.
@@ -109,10 +109,12 @@ int runProgram(QApplication &application, const QString &argument)
     const IconTheme theme(application);
     QApplication::setWindowIcon(keptIcon(u"zephira"_s, [] { return QIcon(u":/zephira.svg"_s); }));
 
-    const Result<QString> appPath = prepareAppPath(QCoreApplication::applicationDirPath(), installedData(), dataHome());
+    const Result<QString> appPath = prepareAppPath(QCoreApplication::applicationDirPath(), installedData(), dataHome(),
+                                                   QCoreApplication::applicationVersion());
     if (!appPath)
         return tellFailedStart(appPath.error().sentence);
 
+    makeUserFolder();
     const QString iniFile = appPath.value() + u"/zephira.ini"_s;
     SystemClock clock;
     RecoveryCopies recovery(recoveryFolder(), files, clock);

@@ -9,6 +9,8 @@ StartArgument startArgument(const QString &argument)
 {
     if (argument.isEmpty())
         return StartArgument::None;
+    if (argument == u"--ftp"_s)
+        return StartArgument::FileTransfer;
     return argument == u"/nodialog"_s ? StartArgument::NoDialog : StartArgument::File;
 }
 
@@ -16,6 +18,8 @@ std::vector<StartAction> startActions(StartArgument argument, int showTips, cons
 {
     if (argument == StartArgument::NoDialog)
         return {};
+    if (argument == StartArgument::FileTransfer)
+        return {StartAction::ShowFileTransfer};
     const bool startDialog = argument == StartArgument::None && selprj == u"1"_s;
     if (showTips != 1)
         return startDialog ? std::vector{StartAction::ShowStartDialog} : std::vector<StartAction>{};

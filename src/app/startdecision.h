@@ -8,7 +8,7 @@
 namespace zephira {
 
 /// What the command line requests. The arguments are compared as one string.
-enum class StartArgument { None, NoDialog, File };
+enum class StartArgument { None, NoDialog, FileTransfer, File };
 
 StartArgument startArgument(const QString &argument);
 
@@ -18,6 +18,7 @@ enum class StartAction {
     ShowTip,                ///< frmTip, modal over the main window
     ShowTipOverStartDialog, ///< frmTip, modal over the loaded but hidden frmselprj
     CheckViewTip,           ///< checks the menu entry for the tips
+    ShowFileTransfer,       ///< the FTP window, beside the main window
 };
 
 /// @param showTips  the setting as a number; only 1 shows tips

@@ -4,6 +4,7 @@
 #include "app/frmmain.h"
 #include "app/loadhandler.h"
 #include "app/startdecision.h"
+#include "commands/commandrouter.h"
 #include "commands/menus.h"
 #include "commands/menutable.h"
 #include "core/configuration.h"
@@ -31,6 +32,9 @@ void perform(StartAction action, frmmain &window)
         break;
     case StartAction::CheckViewTip:
         window.menus().setChecked(menuname::tipOfTheDay, true);
+        break;
+    case StartAction::ShowFileTransfer:
+        window.router().run({&PaneCommands::showFtp});
         break;
     }
 }

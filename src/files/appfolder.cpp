@@ -7,6 +7,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QStandardPaths>
 
 #include <cerrno>
@@ -23,6 +24,7 @@ namespace {
 
 const QString iniName = u"zephira.ini"_s;
 constexpr mode_t folderMode = 0700;
+constexpr int ownFileMode = 0600;
 constexpr QFile::Permissions fileMode = QFile::ReadOwner | QFile::WriteOwner;
 
 Error unmade(const QString &folder)
@@ -67,28 +69,55 @@ bool isProgram(const QFileInfo &file)
 }
 
 /// The configuration is copied last: a folder that contains it is complete.
-Result<void> fillFolder(const QString &source, const QString &target)
+Result<void> fillFolder(const QStringList &sources, const QString &target, const QSet<QString> &known,
+                        QStringList &offered)
 {
-    if (!QFileInfo::exists(source + u'/' + iniName)) {
-        return Error{
-            Error::Code::NotFound,
-            u"Zephira can't start: there is no %1 next to the program or in %2. Please reinstall the program."_s.arg(
-                iniName, source)};
+    for (const QString &source : sources) {
+        const QDir root(source);
+        QDirIterator walk(source, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        while (walk.hasNext()) {
+            const QString path = walk.next();
+            const QString relative = root.relativeFilePath(path);
+            if (relative == iniName || (!relative.contains(u'/') && isProgram(walk.fileInfo())))
+                continue;
+            offered.append(relative);
+            if (known.contains(relative))
+                continue;
+            const QString place = target + u'/' + relative;
+            const Result<void> done = walk.fileInfo().isDir() ? makePrivateFolder(place) : copyMissing(path, place);
+            if (!done)
+                return done;
+        }
     }
-    const QDir root(source);
-    QDirIterator walk(source, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
-        const QString path = walk.next();
-        const QString relative = root.relativeFilePath(path);
-        if (relative == iniName || (!relative.contains(u'/') && isProgram(walk.fileInfo())))
-            continue;
-        const QString place = target + u'/' + relative;
-        const Result<void> done = walk.fileInfo().isDir() ? makePrivateFolder(place) : copyMissing(path, place);
-        if (!done)
-            return done;
-    }
-    return copyMissing(source + u'/' + iniName, target + u'/' + iniName);
+    return copyMissing(sources.constFirst() + u'/' + iniName, target + u'/' + iniName);
 }
+
+/// What a folder has been offered: a line with the version, then one for each path. A file that its user has deleted isn't
+/// offered again, but what a later version brings is.
+class Offers
+{
+public:
+    explicit Offers(const QString &folder) : m_file(folder + u"/.installed"_s)
+    {
+        if (const Result<QByteArray> kept = DiskFileStore().read(m_file))
+            m_lines = QString::fromUtf8(kept.value()).split(u'\n');
+    }
+
+    QString version() const { return m_lines.value(0); }
+    QSet<QString> paths() const { return {m_lines.cbegin(), m_lines.cend()}; }
+    /// A record that can't be written only means that the same is looked through at the next start.
+    void keep(const QString &version, QStringList paths) const
+    {
+        paths.sort();
+        paths.prepend(version);
+        [[maybe_unused]] const Result<void> written =
+            DiskFileStore().FileStore::write(m_file, paths.join(u'\n').toUtf8(), ownFileMode);
+    }
+
+private:
+    const QString m_file;
+    QStringList m_lines;
+};
 
 /// The folder, if its configuration can be read; otherwise an error, because every setting would seem to be missing.
 Result<QString> readableFolder(const QString &folder)
@@ -101,20 +130,38 @@ Result<QString> readableFolder(const QString &folder)
 
 } // namespace
 
-Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome)
+Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome,
+                               const QString &version)
 {
     const bool isPortable = QFileInfo::exists(executableFolder + u'/' + iniName);
     if (isPortable && QFileInfo(executableFolder).isWritable())
         return readableFolder(QDir::cleanPath(executableFolder));
 
-    const QString source = isPortable ? executableFolder : installedData;
     const QString folder = QDir::cleanPath(dataHome + u"/zephira"_s);
     if (const Result<void> made = makePrivateFolder(folder); !made)
         return made.error();
-    if (!QFileInfo::exists(folder + u'/' + iniName)) {
-        if (const Result<void> filled = fillFolder(QDir::cleanPath(source), folder); !filled)
-            return filled.error();
+    const Offers offers(folder);
+    const bool isComplete = QFileInfo::exists(folder + u'/' + iniName);
+    if (isComplete && offers.version() == version)
+        return readableFolder(folder);
+
+    // An installation in the system has its data in one folder, and the modules of the extensions beside the program.
+    QStringList sources{QDir::cleanPath(executableFolder)};
+    if (!isPortable)
+        sources.prepend(QDir::cleanPath(installedData));
+    if (!QFileInfo::exists(sources.constFirst() + u'/' + iniName)) {
+        if (isComplete)
+            return readableFolder(folder);
+        return Error{
+            Error::Code::NotFound,
+            u"Zephira can't start: there is no %1 next to the program or in %2. Please reinstall the program."_s.arg(
+                iniName, sources.constFirst())};
     }
+    QStringList offered;
+    if (const Result<void> filled = fillFolder(sources, folder, isComplete ? offers.paths() : QSet<QString>(), offered);
+        !filled)
+        return isComplete ? readableFolder(folder) : filled.error();
+    offers.keep(version, offered);
     return readableFolder(folder);
 }
 
@@ -150,6 +197,13 @@ Result<QString> scratchFolder()
 QString userFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Zephira"_s;
+}
+
+void makeUserFolder()
+{
+    const QString folder = userFolder();
+    if (makePrivateFolder(folder))
+        ::chmod(QFile::encodeName(folder).constData(), folderMode);
 }
 
 } // namespace zephira

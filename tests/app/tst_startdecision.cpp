@@ -21,6 +21,7 @@ private Q_SLOTS:
         QTest::newRow("empty") << u""_s << static_cast<int>(StartArgument::None);
         QTest::newRow("nodialog") << u"/nodialog"_s << static_cast<int>(StartArgument::NoDialog);
         QTest::newRow("case counts") << u"/NoDialog"_s << static_cast<int>(StartArgument::File);
+        QTest::newRow("file transfer") << u"--ftp"_s << static_cast<int>(StartArgument::FileTransfer);
         QTest::newRow("blank after it") << u"/nodialog "_s << static_cast<int>(StartArgument::File);
         QTest::newRow("file") << u"a page.html"_s << static_cast<int>(StartArgument::File);
     }

@@ -53,6 +53,8 @@ private Q_SLOTS:
     void existingFilesStay();
     void filledFolderIsLeftAlone();
     void interruptedFillGoesOn();
+    void laterVersionAddsWhatIsNew();
+    void modulesComeFromBesideTheProgram();
     void missingDataIsAnError();
     void configurationThatIsAFolder();
     void configurationThatCannotBeRead();
@@ -64,7 +66,10 @@ private Q_SLOTS:
 
 private:
     QString at(const QString &name) const { return m_folder->path() + u'/' + name; }
-    Result<QString> prepare() const { return prepareAppPath(at(u"bin"_s), at(u"share"_s), at(u"home"_s)); }
+    Result<QString> prepare(const QString &version = u"1"_s) const
+    {
+        return prepareAppPath(at(u"bin"_s), at(u"share"_s), at(u"home"_s), version);
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -158,6 +163,38 @@ void TstAppFolder::interruptedFillGoesOn()
     QVERIFY(prepare().ok());
     QCOMPARE(contentOf(at(u"home/zephira/templates/blank.html"_s)), "<html>");
     QVERIFY(QFileInfo::exists(at(u"home/zephira/zephira.ini"_s)));
+}
+
+void TstAppFolder::laterVersionAddsWhatIsNew()
+{
+    putFile(at(u"share/templates/deleted.html"_s), "old");
+    putFile(at(u"share/templates/changed.html"_s), "old");
+    QVERIFY(prepare().ok());
+    QVERIFY(QFile::remove(at(u"home/zephira/templates/deleted.html"_s)));
+    putFile(at(u"home/zephira/templates/changed.html"_s), "mine");
+    putFile(at(u"share/templates/changed.html"_s), "newer");
+    putFile(at(u"share/help/index.html"_s), "new");
+
+    QVERIFY(prepare().ok());
+    QVERIFY(!QFile::exists(at(u"home/zephira/help/index.html"_s)));
+
+    QVERIFY(prepare(u"2"_s).ok());
+    QCOMPARE(contentOf(at(u"home/zephira/help/index.html"_s)), QByteArray("new"));
+    QCOMPARE(contentOf(at(u"home/zephira/templates/changed.html"_s)), QByteArray("mine"));
+    QVERIFY(!QFile::exists(at(u"home/zephira/templates/deleted.html"_s)));
+
+    // The data may be gone while the user's own folder is whole.
+    QVERIFY(QFile::remove(at(u"share/zephira.ini"_s)));
+    QVERIFY(prepare(u"3"_s).ok());
+}
+
+void TstAppFolder::modulesComeFromBesideTheProgram()
+{
+    putFile(at(u"bin/plugins/filler.so"_s), "module");
+    putFile(at(u"bin/zephiraweb.so"_s), "module");
+    QVERIFY(prepare().ok());
+    QCOMPARE(contentOf(at(u"home/zephira/plugins/filler.so"_s)), QByteArray("module"));
+    QVERIFY(!QFile::exists(at(u"home/zephira/zephiraweb.so"_s)));
 }
 
 void TstAppFolder::missingDataIsAnError()
