@@ -7,6 +7,9 @@
 
 #include <QSet>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -41,11 +44,24 @@ QString plainCaption(QString caption)
     return caption;
 }
 
-std::vector<CommandKey> menuCommands()
+std::vector<CommandKey> barCommands()
 {
     std::vector<CommandKey> commands;
     addCommands(commands, {}, menuBarTable());
+    return commands;
+}
+
+std::vector<CommandKey> textCommands()
+{
+    std::vector<CommandKey> commands;
     addCommands(commands, u"Code View > "_s, textMenuTable());
+    return commands;
+}
+
+std::vector<CommandKey> menuCommands()
+{
+    std::vector<CommandKey> commands = barCommands();
+    std::ranges::move(textCommands(), std::back_inserter(commands));
     return commands;
 }
 

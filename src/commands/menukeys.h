@@ -13,8 +13,12 @@ namespace zephira {
 /// The caption of an entry or a menu without the marks for menus: "Go To" for "&Go To...".
 QString plainCaption(QString caption);
 
-/// Every command of the menu bar, then of the code view's own menus, with the keys that ship, in the order of the menus.
-/// Plug-ins come while the program runs; other pop-up menus, which work on what was clicked, have no keys.
+/// Every command of the menu bar with the keys that ship, in the order of the menus. Plug-ins come while the program runs;
+/// pop-up menus, which work on what was clicked, have no keys.
+std::vector<CommandKey> barCommands();
+/// The same for the code view's own menus.
+std::vector<CommandKey> textCommands();
+/// Both, in this order.
 std::vector<CommandKey> menuCommands();
 
 /// Gives each command its keys: those that the user has kept, by the command's name, else those that ship. No keys run

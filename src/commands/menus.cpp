@@ -145,9 +145,10 @@ void Menus::addTextMenus(QWidget &text)
             const MenuItem *row = findMenuItem(entry->objectName());
             if (!row)
                 continue;
-            if (row->need == Need::SourceView)
-                entry->setShortcutContext(Qt::WidgetShortcut);
-            text.addAction(entry);
+            // What needs the text is asked for there. The other entries' keys also work while another view hides the text.
+            const bool isForText = row->need == Need::SourceView;
+            entry->setShortcutContext(isForText ? Qt::WidgetShortcut : Qt::WindowShortcut);
+            (isForText ? &text : text.window())->addAction(entry);
         }
     }
     m_hasTextMenus = true;

@@ -18,7 +18,7 @@ namespace {
 /// A group for each menu that has a key, in the order of the menus.
 void addMenuGroups(std::vector<KeyGroup> &groups)
 {
-    const std::vector<CommandKey> commands = menuCommands();
+    const std::vector<CommandKey> commands = barCommands();
     for (const CommandKey &command : commands) {
         if (command.shipped.isEmpty())
             continue;
@@ -30,7 +30,7 @@ void addMenuGroups(std::vector<KeyGroup> &groups)
     }
 }
 
-/// The keys of the code view that no menu has; a command's keys in one row.
+/// The keys of the code view: those of its own menus, then the engine's that no menu has; a command's keys in one row.
 KeyGroup editorGroup(std::span<const KeyGroup> menus)
 {
     const auto isInAMenu = [menus](const QString &keys) {
@@ -39,9 +39,18 @@ KeyGroup editorGroup(std::span<const KeyGroup> menus)
         });
     };
     KeyGroup group{u"Code view"_s, {}};
+    const std::vector<CommandKey> commands = textCommands();
+    for (const CommandKey &command : commands) {
+        if (!command.shipped.isEmpty())
+            group.rows.push_back({command.caption.section(u" > "_s, 1).replace(u" > "_s, u", "_s), {command.shipped}});
+    }
+    const auto isTaken = [&](const QString &keys) {
+        return isInAMenu(keys)
+            || std::ranges::any_of(group.rows, [&](const KeyRow &row) { return row.keys.contains(keys); });
+    };
     for (const CodeMaxHotKey &hotKey : initialHotKeys()) {
         const QString keys = QKeySequence(hotKey.keys).toString(QKeySequence::PortableText);
-        if (isInAMenu(keys))
+        if (isTaken(keys))
             continue;
         const QString command = hotKeyText(hotKey.command).toString();
         const auto row = std::ranges::find(group.rows, command, &KeyRow::command);

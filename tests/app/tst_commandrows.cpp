@@ -7,6 +7,7 @@
 #include "commands/palettecommands.h"
 #include "commands/palettetable.h"
 #include "commands/tagsmenu.h"
+#include "commands/texttable.h"
 #include "commands/toolbars.h"
 #include "commands/toolbartable.h"
 #include "core/documenthost.h"
@@ -28,8 +29,10 @@ namespace {
 QList<QAction *> rowsOf(const WindowBench &bench)
 {
     QList<QAction *> found = actionsOf(*bench.window->menuBar());
-    for (const MenuItem &popup : popupTable())
-        found.append(actionsOf(*bench.find<QMenu>(popup.name.toString())));
+    for (const std::span<const MenuItem> table : {popupTable(), textMenuTable()}) {
+        for (const MenuItem &menu : table)
+            found.append(actionsOf(*bench.find<QMenu>(menu.name.toString())));
+    }
     QStringList bars{u"tBar"_s, u"Toolbar1"_s, u"Toolbar2"_s};
     for (int palette = 0; palette < 12; ++palette)
         bars.append(u"Toolbar_%1"_s.arg(palette));
@@ -59,6 +62,7 @@ public:
     bool operator()(std::monostate) const { return false; }
     bool operator()(EditorCommand command) const { return numberOf(command) > 0; }
     bool operator()(DesignerCommand command) const { return command != DesignerCommand::None; }
+    bool operator()(TextCommand command) const { return findMenuItem(m_row)->command == Command{command}; }
     bool operator()(const OpensForm &effect) const { return m_catalogue.contains(effect.form.toString()); }
     bool operator()(const EditsView &effect) const { return effect.editor && effect.designer != DesignerCommand::None; }
     bool operator()(const EditsText &effect) const { return effect.editor; }

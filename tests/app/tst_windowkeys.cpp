@@ -2,6 +2,7 @@
 #include "app/windowbench.h"
 #include "app/windowkeys.h"
 #include "commands/menutable.h"
+#include "commands/texttable.h"
 #include "core/itemroles.h"
 #include "plugins/modulebench.h"
 #include "settings/keysequencebox.h"
@@ -157,6 +158,8 @@ private Q_SLOTS:
         bench.start();
         QStringList entries;
         collect(bench.window->menuBar()->actions(), entries);
+        for (const MenuItem &menu : textMenuTable())
+            collect(bench.find<QMenu>(menu.name.toString())->actions(), entries);
         // Until there is a plug-in, this says that there is none.
         QVERIFY(entries.removeOne(u"mnupluginoptions_0"_s));
         QStringList listed;
@@ -316,7 +319,7 @@ private Q_SLOTS:
             QStringList keys;
             const QList<QAction *> entries = menu->actions();
             for (const QAction *entry : entries) {
-                if (!entry->isSeparator())
+                if (!entry->isSeparator() && !entry->menu())
                     keys.append(entry->shortcut().toString(QKeySequence::PortableText));
             }
             delete menu;

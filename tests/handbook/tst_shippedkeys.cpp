@@ -2,6 +2,7 @@
 #include "commands/menutable.h"
 #include "commands/quicktag.h"
 #include "commands/tagsmenu.h"
+#include "commands/texttable.h"
 #include "editor/hotkeys.h"
 #include "ftp/ftpcommandtables.h"
 #include "handbook/shippedkeys.h"
@@ -60,15 +61,28 @@ private Q_SLOTS:
             QVERIFY2(!commandOf(key, u"Menu "_s).isEmpty(), qPrintable(key));
     }
 
+    void eachKeyOfTheTextsMenus()
+    {
+        QStringList keys;
+        collect(textMenuTable(), keys);
+        QVERIFY(!keys.isEmpty());
+        for (const QString &key : std::as_const(keys))
+            QVERIFY2(!commandOf(key, u"Code view"_s).isEmpty(), qPrintable(key));
+    }
+
     void eachKeyOfTheCodeView()
     {
+        QStringList ofTheText;
+        collect(textMenuTable(), ofTheText);
         QVERIFY(initialHotKeys().size() > 30);
         for (const CodeMaxHotKey &hotKey : initialHotKeys()) {
             const QString keys = QKeySequence(hotKey.keys).toString(QKeySequence::PortableText);
             // The menus get their keys before the text does.
             const bool isInAMenu = !commandOf(keys, u"Menu "_s).isEmpty();
             QVERIFY2(isInAMenu || !hotKeyText(hotKey.command).isEmpty(), qPrintable(keys));
-            QCOMPARE(commandOf(keys, u"Code view"_s), isInAMenu ? QString() : hotKeyText(hotKey.command).toString());
+            if (!ofTheText.contains(keys))
+                QCOMPARE(commandOf(keys, u"Code view"_s),
+                         isInAMenu ? QString() : hotKeyText(hotKey.command).toString());
         }
     }
 
@@ -98,6 +112,7 @@ private Q_SLOTS:
         QTest::newRow("entry of a menu in a menu") << u"Menu File"_s << u"Ctrl+N"_s << u"New, Blank Document"_s;
         QTest::newRow("dots") << u"Menu Edit"_s << u"Ctrl+G"_s << u"Go To"_s;
         QTest::newRow("tags") << u"Menu Fast Web Tags"_s << u"Shift+Del"_s << u"Start Tag <>"_s;
+        QTest::newRow("text's menu") << u"Code view"_s << u"Ctrl+J"_s << u"Lines, Join Lines"_s;
         QTest::newRow("text") << u"Code view"_s << u"Ctrl+F2"_s << u"Set or remove a bookmark"_s;
         QTest::newRow("second key") << u"Code view"_s << u"Ctrl+="_s << u"Larger text"_s;
         QTest::newRow("transfer") << u"File transfer"_s << u"F2"_s << u"Rename the selected local file"_s;
