@@ -83,6 +83,7 @@ CodeMax::CodeMax(EditorServices services, QWidget *parent)
     , m_file(services.files, services.recovery)
     , m_format(m_engine)
     , m_typing(m_engine)
+    , m_steps(m_engine)
     , m_news(*this, m_engine)
 {
     // Installed to take precedence over the editor library's factory, whose objects walk through the text at every key.
@@ -171,7 +172,7 @@ void CodeMax::noteChange()
     m_changed = true;
     if (m_actions == 0)
         QMetaObject::invokeMethod(
-            this, [this] { perform([] {}); }, Qt::QueuedConnection);
+            this, [this] { goOn([] {}); }, Qt::QueuedConnection);
 }
 
 void CodeMax::endAction()
@@ -404,6 +405,7 @@ void CodeMax::setOvertype(bool on)
     if (on == overtype())
         return;
     m_typing.setOvertype(on);
+    m_steps.setOvertype(on);
     Q_EMIT OvertypeChanged(on);
 }
 

@@ -8,6 +8,7 @@
 #include "editor/sciengine.h"
 #include "editor/typingrules.h"
 #include "editor/undoableformat.h"
+#include "editor/undosteps.h"
 #include "files/documentfile.h"
 #include "files/textfile.h"
 
@@ -210,13 +211,13 @@ public:
     QPoint menuPlace() const { return m_menuPlace; }
     const EditorServices &services() const { return m_services; }
     /// Runs something that changes the text or selection as one action: Change and SelChange are emitted at most once,
-    /// at its end.
+    /// at its end. It isn't part of the undo step of what was typed before.
     template<typename Action>
     void perform(Action action)
     {
-        ++m_actions;
-        action();
-        endAction();
+        if (m_actions == 0)
+            m_steps.end();
+        goOn(action);
     }
 
 Q_SIGNALS:
@@ -264,6 +265,15 @@ private:
         friend bool operator==(const Selection &, const Selection &) = default;
     };
 
+    /// The same without an end of the undo step.
+    template<typename Action>
+    void goOn(Action action)
+    {
+        ++m_actions;
+        action();
+        endAction();
+    }
+
     void setUpEngine();
     void connectEngine();
     void endAction();
@@ -280,6 +290,9 @@ private:
     void beforeEdit(int position, int type, int length);
     void settleInsertion();
     void runCommand(int command);
+    void type(QKeyEvent *event);
+    void beginStep(const QKeyEvent &key);
+    void deleteForward();
     void toggleFold();
     void step(unsigned int message);
     void goToBookmark(bool backward);
@@ -310,6 +323,7 @@ private:
     DocumentFile m_file;
     UndoableFormat m_format;
     TypingRules m_typing;
+    UndoSteps m_steps;
     AccessibleNews m_news;
     EditorOptions m_options;
     QString m_language;
@@ -328,6 +342,7 @@ private:
     bool m_strikeShown = false;
     bool m_dragDrop = true;
     bool m_addsCaret = false;
+    bool m_hasPreedit = false;
     QPoint m_menuPlace;
     QPointer<FindDialog> m_findDialog;
     QPointer<GoToDialog> m_goToDialog;

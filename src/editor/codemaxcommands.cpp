@@ -38,6 +38,8 @@ QWidget *dialogOwner(QWidget *editor)
 
 void CodeMax::executeCmd(int command, int argument)
 {
+    if (m_actions == 0 && command != numberOf(EditorCommand::DeleteText))
+        m_steps.end();
     if (isEngineCommand(command))
         perform([&] { m_engine.send(static_cast<unsigned int>(command)); });
     else if (command == numberOf(EditorCommand::GoToLine))
@@ -88,7 +90,7 @@ void CodeMax::runCommand(int command)
         {RedoText, [](CodeMax &editor) { editor.redo(); }},
         {CopyText, [](CodeMax &editor) { editor.copy(); }},
         {PasteText, [](CodeMax &editor) { editor.paste(); }},
-        {DeleteText, [](CodeMax &editor) { editor.perform([&] { editor.m_typing.deleteForward(); }); }},
+        {DeleteText, [](CodeMax &editor) { editor.deleteForward(); }},
     };
     const auto row = std::ranges::find(rows, static_cast<EditorCommand>(command), &Row::command);
     if (row != std::end(rows))

@@ -50,13 +50,70 @@ void CodeMax::keyPressEvent(QKeyEvent *event)
     } else if (TypingRules::isLeftToWindow(*event)) {
         event->ignore();
     } else {
-        perform([&] { m_typing.type(*event, [&] { QsciScintillaBase::keyPressEvent(event); }); });
+        type(event);
     }
 }
 
+void CodeMax::type(QKeyEvent *event)
+{
+    const bool isModifier = TypingRules::isModifier(*event);
+    goOn([&] {
+        if (!isModifier)
+            beginStep(*event);
+        m_typing.type(*event, [&] { QsciScintillaBase::keyPressEvent(event); });
+        if (!isModifier)
+            m_steps.note();
+    });
+}
+
+void CodeMax::beginStep(const QKeyEvent &key)
+{
+    const bool selected = !m_engine.send(SCI_GETSELECTIONEMPTY);
+    if (isReadOnly())
+        m_steps.end();
+    else if (TypingRules::isPlainBackspace(key) && !selected)
+        m_steps.beginErasing(UndoSteps::Kind::EraseBackward);
+    else if (const char32_t typed = TypingRules::typedCharacter(key); typed != 0 && !(selected && typed == U'\t'))
+        m_steps.begin(UndoSteps::Kind::Insertion, typed, typed);
+    else
+        m_steps.end();
+}
+
+/// Erases the character behind each caret, or the selected text.
+void CodeMax::deleteForward()
+{
+    const bool erases = m_engine.send(SCI_GETSELECTIONEMPTY) && !isReadOnly();
+    if (!erases)
+        m_steps.end();
+    goOn([&] {
+        if (erases)
+            m_steps.beginErasing(UndoSteps::Kind::EraseForward);
+        m_typing.deleteForward();
+        m_steps.note();
+    });
+}
+
+/// An input method shows its preedit text in the engine's history, which can't be done within a group of changes.
 void CodeMax::inputMethodEvent(QInputMethodEvent *event)
 {
-    perform([&] { QsciScintillaBase::inputMethodEvent(event); });
+    const QString text = event->commitString();
+    goOn([&] {
+        if (text.isEmpty() || isReadOnly()) {
+            m_steps.closeGroup();
+            QsciScintillaBase::inputMethodEvent(event);
+            return;
+        }
+        if (m_hasPreedit) {
+            m_steps.closeGroup();
+            QInputMethodEvent nothing;
+            QsciScintillaBase::inputMethodEvent(&nothing);
+        }
+        const QList<uint> characters = text.toUcs4();
+        m_steps.begin(UndoSteps::Kind::Insertion, characters.first(), characters.last());
+        QsciScintillaBase::inputMethodEvent(event);
+        m_steps.note();
+    });
+    m_hasPreedit = text.isEmpty() && !event->preeditString().isEmpty();
 }
 
 /// Passes an event to the engine at the position where the engine has the character painted under the mouse.
@@ -66,10 +123,15 @@ void CodeMax::giveToEngine(QMouseEvent *event, const std::function<void(QMouseEv
                       event->globalPosition(), event->button(), event->buttons(), event->modifiers(),
                       event->pointingDevice());
     moved.setTimestamp(event->timestamp());
-    perform([&] {
+    const auto act = [&] {
         handle(&moved);
         m_typing.settleCarets();
-    });
+    };
+    // The mouse may be moved while one types.
+    if (event->type() == QEvent::MouseMove && event->buttons() == Qt::NoButton)
+        goOn(act);
+    else
+        perform(act);
 }
 
 /// With Ctrl the engine would start a rectangular selection; here it adds a caret, and dragging selects from there.

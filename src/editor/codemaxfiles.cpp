@@ -22,6 +22,7 @@ Result<void> CodeMax::openFile(const QString &path)
 
 Result<void> CodeMax::saveFile(const QString &path, bool clearUndo)
 {
+    m_steps.end();
     Result<void> saved = store(path, clearUndo);
     if (saved && clearUndo) {
         m_engine.send(SCI_EMPTYUNDOBUFFER);

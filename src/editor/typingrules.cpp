@@ -22,11 +22,6 @@ bool isLineBreak(const QKeyEvent &key)
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
-bool isPlainBackspace(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_Backspace && !(key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
-}
-
 bool isIndentation(QByteArrayView text)
 {
     return std::ranges::all_of(text, [](char c) { return c == ' ' || c == '\t'; });
@@ -223,6 +218,31 @@ bool TypingRules::isLeftToWindow(const QKeyEvent &key)
         return true;
     // Alt with a letter that isn't a menu's mnemonic types no text either.
     return modifiers & Qt::AltModifier && !(modifiers & Qt::ControlModifier) && !key.text().isEmpty();
+}
+
+bool TypingRules::isModifier(const QKeyEvent &key)
+{
+    constexpr std::array modifiers{Qt::Key_Shift,    Qt::Key_Control,  Qt::Key_Meta,    Qt::Key_Alt,
+                                   Qt::Key_AltGr,    Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_ScrollLock,
+                                   Qt::Key_Super_L,  Qt::Key_Super_R,  Qt::Key_Hyper_L, Qt::Key_Hyper_R,
+                                   Qt::Key_Multi_key};
+    const bool dead = key.key() >= Qt::Key_Dead_Grave && key.key() <= Qt::Key_Dead_Longsolidusoverlay;
+    return dead || std::ranges::find(modifiers, key.key()) != modifiers.end();
+}
+
+/// Line ends aren't counted here.
+char32_t TypingRules::typedCharacter(const QKeyEvent &key)
+{
+    if (key.key() == Qt::Key_Tab && key.modifiers() == Qt::NoModifier)
+        return U'\t';
+    const QList<uint> characters = key.text().toUcs4();
+    const bool printable = !characters.isEmpty() && characters.first() >= U' ' && characters.first() != 0x7f;
+    return printable ? characters.first() : 0;
+}
+
+bool TypingRules::isPlainBackspace(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Backspace && !(key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
 }
 
 bool TypingRules::isPlainDelete(const QKeyEvent &key)

@@ -41,6 +41,12 @@ public:
 
     /// Whether the key types nothing and is left to the window.
     static bool isLeftToWindow(const QKeyEvent &key);
+    /// Whether the key does nothing alone.
+    static bool isModifier(const QKeyEvent &key);
+    /// The character that the key types, 0 for none.
+    static char32_t typedCharacter(const QKeyEvent &key);
+    /// Whether the key is Backspace without Ctrl or Alt.
+    static bool isPlainBackspace(const QKeyEvent &key);
     /// Whether the key is Delete without Shift, Ctrl or Alt.
     static bool isPlainDelete(const QKeyEvent &key);
     /// The indentation of a new line below a line (UTF-8, without its line end): the same as above, and one level more
