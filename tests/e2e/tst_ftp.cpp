@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "e2e/ftpsession.h"
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
@@ -13,20 +14,10 @@
 
 using namespace zephira;
 using namespace zephira::titles;
+using namespace zephira::ftptitles;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString ftpWindow = u"Zephira. FTP"_s;
-const QString sites = u"FTP Sites"_s;
-const QString transfer = u"Data transfer"_s;
-const QString logName = u"Log File"_s;
-
-/// Keys that move the focus forward by `count` controls.
-QString tabs(int count)
-{
-    return QStringList(count, u"Tab"_s).join(u' ');
-}
 
 /// Bytes of all values, in blocks that differ from each other.
 QByteArray everyByte(int size)
@@ -36,76 +27,6 @@ QByteArray everyByte(int size)
         bytes[i] = static_cast<char>((i * 7 + i / 256) & 0xff);
     return bytes;
 }
-
-/// The FTP window of a running program, driven by keys.
-class FtpSession
-{
-public:
-    explicit FtpSession(const ProgramFolder &folder) : m_folder(folder), m_program(folder, {u"/nodialog"_s})
-    {
-        QVERIFY(m_program.waitForWindow(untitled));
-        m_program.key(untitled, u"alt+t f"_s);
-        QVERIFY(m_program.waitForWindow(ftpWindow));
-    }
-
-    RunningProgram &program() { return m_program; }
-    QString profile() const { return m_folder.path() + u"/Loopback.ftp"_s; }
-
-    /// Fills in the dialog and saves it as a profile.
-    void saveProfile(const FtpServer &server, const QString &password)
-    {
-        m_program.key(ftpWindow, u"alt+f c"_s);
-        QVERIFY(m_program.waitForWindow(sites));
-        // Typing a user unchecks "Anonymous", which empties user and password, so the first letter is typed twice.
-        const QString first = server.user().first(1);
-        m_program.key(sites, tabs(1));
-        m_program.type(sites, u"Loopback"_s);
-        m_program.key(sites, tabs(1));
-        m_program.type(sites, server.host());
-        m_program.key(sites, tabs(1) + u" ctrl+a"_s);
-        m_program.type(sites, first + server.user());
-        m_program.key(sites, tabs(1));
-        m_program.type(sites, password);
-        m_program.key(sites, tabs(1) + u" ctrl+a"_s);
-        m_program.type(sites, QString::number(server.port()));
-        m_program.key(sites, tabs(2) + u" space"_s); // "Save password"
-        m_program.key(sites, tabs(7) + u" space"_s); // "Save"
-        m_program.answer(message, u"Return"_s);
-        QVERIFY(m_program.waitUntilGone(message));
-    }
-
-    /// Chooses the only profile in the dialog's tree, and connects.
-    void connectByProfile()
-    {
-        m_program.key(sites, u"Escape"_s);
-        QVERIFY(m_program.waitUntilGone(sites));
-        m_program.key(ftpWindow, u"alt+f c"_s);
-        QVERIFY(m_program.waitForWindow(sites));
-        m_program.key(sites, u"Down Down Return"_s);
-        QVERIFY(m_program.waitUntilGone(sites));
-    }
-
-    /// Runs the transfer that a command has prepared.
-    void runTransfer()
-    {
-        m_program.answer(transfer, u"Return"_s);
-        m_program.answer(message, u"Return"_s);
-        QVERIFY(m_program.waitUntilGone(transfer));
-    }
-
-    QString savedLog() const { return m_folder.path() + u"/Logon/session.txt"_s; }
-    void saveLog()
-    {
-        m_program.key(ftpWindow, u"alt+f s"_s);
-        m_program.fillIn(logName, u"session"_s);
-        m_program.answer(message, u"Return"_s);
-        QVERIFY(m_program.waitUntilGone(message));
-    }
-
-private:
-    const ProgramFolder &m_folder;
-    RunningProgram m_program;
-};
 
 /// Whether only the user may read and write the file (mode 0600).
 bool isPrivate(const QString &path)
