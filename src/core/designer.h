@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/designercommand.h"
+#include "core/textchange.h"
 
 #include <QMetaType>
 #include <QPoint>
@@ -69,8 +70,11 @@ public:
     virtual bool isShowing() const = 0;
     /// Whether the page was changed since it was loaded. Undoing every change makes it clean again.
     virtual bool isDirty() const = 0;
-    /// The whole page. A page that is not dirty comes back exactly as it was set.
+    /// The whole page. A page that is not dirty comes back exactly as it was set; in others, what was not touched is as
+    /// it was, as far as that is possible.
     virtual QString documentHtml() = 0;
+    /// The changes of the text that was set or loaded which make it what documentHtml() returned last, in order.
+    virtual TextChanges documentChanges() const { return {}; }
     /// Shows a page given as text. Relative addresses in it are still resolved against baseFile().
     virtual void setDocumentHtml(const QString &html) = 0;
     /// Loads a page from the disk and makes it the base file. Raises HandlerError if the file can't be read.

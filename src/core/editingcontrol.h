@@ -4,6 +4,7 @@
 #include "core/editorcommand.h"
 #include "core/prompts.h"
 #include "core/result.h"
+#include "core/textchange.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -34,6 +35,9 @@ public:
     virtual QString text() const = 0;
     /// Replaces the whole document. The change can be undone and raises the change event.
     virtual void setText(const QString &text) = 0;
+    /// Replaces parts of text(); the changes are in order. Selection and scroll position stay with the text around them,
+    /// and one undo step reverts all of it.
+    virtual void changeText(const TextChanges &changes) { setText(withChanges(text(), changes)); }
     /// Length of text() in UTF-16 code units, without building the text.
     virtual int textLength() const = 0;
     /// The text as it will be saved, except for the encoding: UTF-8 with the file's line ends, in two pieces that are

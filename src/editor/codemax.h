@@ -90,6 +90,7 @@ public:
 
     QString text() const override;
     void setText(const QString &text) override;
+    void changeText(const TextChanges &changes) override;
     int textLength() const override;
     QString selText() const override;
     void setSelText(const QString &text) override;

@@ -61,6 +61,32 @@ void CodeMax::setText(const QString &text)
     });
 }
 
+void CodeMax::changeText(const TextChanges &changes)
+{
+    if (changes.empty())
+        return;
+    perform([&] {
+        const WritableWhile writable(m_engine);
+        const LineEnds lineEnds = m_format.current().lineEnds;
+        const QString before = text();
+        const auto bytes = [&](qsizetype begin, qsizetype end) {
+            return toBuffer(before.sliced(begin, end - begin), lineEnds).size();
+        };
+        qsizetype place = 0;
+        qsizetype done = 0;
+        m_engine.send(SCI_BEGINUNDOACTION);
+        for (const TextChange &change : changes) {
+            const QByteArray utf8 = toBuffer(change.text, lineEnds);
+            place += bytes(done, change.begin);
+            replaceBytes(place, place + bytes(change.begin, change.end), utf8);
+            place += utf8.size();
+            done = change.end;
+        }
+        m_engine.send(SCI_ENDUNDOACTION);
+        m_changed = true;
+    });
+}
+
 /// If the file's line ends are LF or CR, each of them counts as two characters, as in Text.
 int CodeMax::textLength() const
 {

@@ -20,6 +20,7 @@ public:
     void setShowing(bool showing) { m_isShowing = showing; }
     bool isDirty() const override { return m_designer->isDirty(); }
     QString documentHtml() override { return m_designer->documentHtml(); }
+    TextChanges documentChanges() const override { return m_designer->documentChanges(); }
     void setDocumentHtml(const QString &html) override { m_designer->setDocumentHtml(html); }
     void loadDocument(const QString &path) override { m_designer->loadDocument(path); }
     QString baseFile() const override { return m_designer->baseFile(); }

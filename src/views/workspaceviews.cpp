@@ -189,10 +189,21 @@ bool WorkspaceViews::carryBack(WorkspaceView next)
     if (change != m_change)
         return false;
     if (isDirty) {
-        m_context.editor.setText(text);
+        takeText(text, designer.documentChanges());
         m_window.markModified();
     }
     return true;
+}
+
+/// Only what the designer has changed is replaced, if the code view still has the text that it was given.
+void WorkspaceViews::takeText(const QString &text, const TextChanges &changes)
+{
+    EditingControl &editor = m_context.editor;
+    const QString before = editor.text();
+    if (areInOrder(changes, before.size()) && withChanges(before, changes) == text)
+        editor.changeText(changes);
+    else
+        editor.setText(text);
 }
 
 void WorkspaceViews::show(WorkspaceView view)

@@ -3,6 +3,7 @@
 
 #include "core/appcontext.h"
 #include "core/browser.h"
+#include "core/textchange.h"
 
 #include <QSet>
 #include <QString>
@@ -87,6 +88,7 @@ private:
     void selectPreview();
     void selectVisual();
     bool carryBack(WorkspaceView next);
+    void takeText(const QString &text, const TextChanges &changes);
     void wait(std::optional<WorkspaceView> next);
     void show(WorkspaceView view);
 

@@ -28,6 +28,53 @@ private Q_SLOTS:
         QVERIFY(!f.editor.canCopy());
     }
 
+    void partsAreReplaced_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::newRow("CR LF") << QByteArray("one\r\ntw\xc3\xb6\r\nthree\r\n");
+        QTest::newRow("LF") << QByteArray("one\ntw\xc3\xb6\nthree\n");
+    }
+    void partsAreReplaced()
+    {
+        QFETCH(QByteArray, file);
+        EditorFixture f;
+        f.files.contents[u"/a.txt"_s] = file;
+        QVERIFY(f.editor.openFile(u"/a.txt"_s));
+        const QString before = f.editor.text();
+        QCOMPARE(before, u"one\r\ntwö\r\nthree\r\n"_s);
+        f.editor.select({2, 1, 2, 4});
+        QSignalSpy changes(&f.editor, &CodeMax::Change);
+        const TextChanges parts{{0, 1, u"O\r\nO"_s}, {7, 8, {}}, {10, 10, u"\U0001f600"_s}, {17, 17, u"end"_s}};
+        f.editor.changeText(parts);
+        QCOMPARE(f.editor.text(), withChanges(before, parts));
+        QCOMPARE(f.editor.text(), u"O\r\nOne\r\ntw\r\n\U0001f600three\r\nend"_s);
+        QCOMPARE(changes.count(), 1);
+        // The selection is still on the same characters.
+        QCOMPARE(f.editor.selText(), u"hre"_s);
+        f.editor.undo();
+        QCOMPARE(f.editor.text(), before);
+        QVERIFY(!f.editor.canUndo());
+        f.editor.redo();
+        QCOMPARE(f.editor.text(), withChanges(before, parts));
+        f.editor.changeText({});
+        QCOMPARE(f.editor.text(), withChanges(before, parts));
+    }
+
+    void scrollPositionStaysWhenPartsAreReplaced()
+    {
+        EditorFixture f;
+        f.show();
+        QString text;
+        for (int line = 0; line < 500; ++line)
+            text += u"line %1\r\n"_s.arg(line);
+        f.editor.setText(text);
+        f.editor.select({200, 3, 200, 3});
+        f.editor.engine().send(QsciScintillaBase::SCI_SETFIRSTVISIBLELINE, 190);
+        f.editor.changeText({{0, 0, u"new\r\nlines\r\n"_s}, {text.size(), text.size(), u"end"_s}});
+        QCOMPARE(f.editor.engine().send(QsciScintillaBase::SCI_GETFIRSTVISIBLELINE), 192);
+        QCOMPARE(f.editor.selection(false), (CodeMaxRange{202, 3, 202, 3}));
+    }
+
     void writingTextIsReadBack_data()
     {
         QTest::addColumn<QString>("written");

@@ -48,6 +48,8 @@ public:
     std::function<void()> onChange;
     /// The commands passed to executeCmd(), in order.
     std::vector<ExecutedCommand> commands;
+    /// What was passed to changeText(), in order.
+    QList<TextChanges> partChanges;
     /// Names of the operations without arguments, in order: "undo", "redo", "cut", "copy", "paste", "clearSelection",
     /// and "print".
     QStringList calls;
@@ -62,6 +64,11 @@ public:
 
     QString text() const override { return m_text; }
     void setText(const QString &text) override;
+    void changeText(const TextChanges &changes) override
+    {
+        partChanges.append(changes);
+        EditingControl::changeText(changes);
+    }
     int textLength() const override { return static_cast<int>(m_text.size()); }
     std::array<QByteArrayView, 2> utf8Pieces() const override;
     QString selText() const override;

@@ -85,6 +85,8 @@ struct FakeDesigner final : Designer {
             act();
         return text;
     }
+    TextChanges changes;
+    TextChanges documentChanges() const override { return changes; }
     void setDocumentHtml(const QString &text) override { html = text; }
     void loadDocument(const QString &path) override;
     QString baseFile() const override { return base; }

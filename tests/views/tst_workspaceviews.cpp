@@ -612,6 +612,32 @@ private Q_SLOTS:
             QCOMPARE(bench.file(u"/site/page.htmltemp.html"_s), bench.world.editor.text().toUtf8());
     }
 
+    /// The code view gets the designer's changes where they lead to its text, and otherwise the text.
+    void onlyChangesAreCarriedBack_data()
+    {
+        QTest::addColumn<TextChanges>("changes");
+        QTest::addColumn<bool>("asChanges");
+        QTest::newRow("of this text") << TextChanges{{1, 2, u"b"_s}} << true;
+        QTest::newRow("of another text") << TextChanges{{1, 2, u"c"_s}} << false;
+        QTest::newRow("beyond this text") << TextChanges{{1, 200, u"b"_s}} << false;
+        QTest::newRow("none") << TextChanges{} << false;
+    }
+    void onlyChangesAreCarriedBack()
+    {
+        QFETCH(TextChanges, changes);
+        QFETCH(bool, asChanges);
+        Bench bench;
+        bench.openFile(u"/site/page.html"_s, u"<P>a"_s);
+        bench.select(WorkspaceView::Visual);
+        bench.world.designer.dirty = true;
+        bench.world.designer.html = u"<b>a"_s;
+        bench.world.designer.changes = changes;
+        bench.select(WorkspaceView::Code);
+        QCOMPARE(bench.world.editor.text(), u"<b>a"_s);
+        QVERIFY(bench.window.modified);
+        QCOMPARE(bench.world.editor.partChanges, asChanges ? QList{changes} : QList<TextChanges>());
+    }
+
     void visualModeIsNotEnteredTwice()
     {
         Bench bench;

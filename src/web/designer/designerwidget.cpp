@@ -33,8 +33,6 @@ constexpr int keyPatience = 300;
 constexpr int keyInterval = 5;
 /// If a page loses its process more often than this, it isn't loaded again.
 constexpr int mostLosses = 3;
-/// How often to request the text of a page that keeps changing.
-constexpr int mostTries = 5;
 /// The time limit for a load as a multiple of that for an answer, and the characters for which an answer gets one more
 /// millisecond.
 constexpr int loadShare = 5;
@@ -140,6 +138,8 @@ void DesignerWidget::takeCommand(const QVariantMap &report)
 void DesignerWidget::takeText(const QString &source)
 {
     m_text = PageRoundTrip(source, freshMarkPrefix(source), documentKind(m_baseFile));
+    m_written = {};
+    m_alignment.reset();
     m_page->setAllowance(static_cast<int>(source.size() / charactersInMillisecond));
 }
 
@@ -325,21 +325,6 @@ bool DesignerWidget::isDirty() const
     if (!m_state.isDirty)
         awaitKeys();
     return m_hasLostChanges || m_state.isDirty;
-}
-
-QString DesignerWidget::documentHtml()
-{
-    if (!m_isComplete)
-        return m_text.source();
-    awaitKeys();
-    if (!m_state.isDirty)
-        return m_text.source();
-    // The page may change while its text is on the way.
-    int tries = 0;
-    do {
-        takeCopy(DesignerCopy::fromPage(ask(u"text"_s).toMap()));
-    } while (m_isComplete && m_copy.changes < m_state.changes && ++tries < mostTries);
-    return m_copy.isThere() && m_state.isDirty ? m_text.fromEngine(m_copy.text) : m_text.source();
 }
 
 void DesignerWidget::pasteHtml(const QString &html)

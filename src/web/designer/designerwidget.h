@@ -4,12 +4,14 @@
 #include "core/designer.h"
 #include "web/designer/designerquestions.h"
 #include "web/designer/designerstate.h"
+#include "web/designer/pagemerge.h"
 #include "web/designer/pageroundtrip.h"
 
 #include <QWebEngineProfile>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class QMenu;
 class QWebEngineView;
@@ -53,6 +55,7 @@ public:
     bool isShowing() const override { return !isHidden(); }
     bool isDirty() const override;
     QString documentHtml() override;
+    TextChanges documentChanges() const override { return m_written.changes; }
     void setDocumentHtml(const QString &html) override;
     void loadDocument(const QString &path) override;
     QString baseFile() const override { return m_baseFile; }
@@ -75,6 +78,10 @@ public:
     void finishLeaving() override {}
     void setProjectFolder(const QString &folder) override;
     void setRemoteAllowed(bool allowed) override;
+
+    /// The time limit in milliseconds for finding the smallest changes of the source; after that, and with 0 always, the
+    /// whole page is written.
+    void setMergePatience(int patience) { m_mergePatience = patience; }
 
     QWebEngineView &view() { return *m_view; }
     DesignerPage &page() { return *m_page; }
@@ -111,6 +118,9 @@ private:
     QVariant takeAnswer(const QVariant &answer) const;
     bool takeReport(const QVariantMap &report) const;
     void takeCopy(const DesignerCopy &copy);
+    void takeWritten(const DesignerCopy &copy);
+    std::optional<TextChanges> mergedChanges(const DesignerCopy &copy);
+    bool awaitAlignment();
     void announceDisplay();
     void awaitKeys() const;
     void setLook(const QString &name, bool on);
@@ -145,7 +155,19 @@ private:
     DesignerHandles *m_handles = nullptr;
     QMenu *m_menu = nullptr;
 
+    /// The text that documentHtml() returned last, and what makes it of the source.
+    struct Written {
+        /// DesignerState::changes, or -1 if no text of the page has been written.
+        qint64 pageChanges = -1;
+        QString text = {};
+        TextChanges changes = {};
+    };
+
     PageRoundTrip m_text;
+    Written m_written;
+    /// The source and the page as it was loaded; made when it is first needed.
+    std::shared_ptr<PageAlignment> m_alignment;
+    int m_mergePatience = 300;
     QString m_baseFile;
     QVariantMap m_looks;
     /// The last reported state; reading it may have to wait for keys that the page hasn't handled yet.

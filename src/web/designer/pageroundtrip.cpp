@@ -142,8 +142,17 @@ QString withLf(QString text)
 class TidyWriter
 {
 public:
-    TidyWriter(QStringView source, const EntityHabits &text, const EntityHabits &values, bool isXml)
-        : m_source(source), m_text(text), m_values(values), m_isXml(isXml)
+    /// How blocks that follow one another are laid out.
+    enum class Lines { OneForEachBlock, AsTheyAre };
+
+    TidyWriter(QStringView source, const EntityHabits &text, const EntityHabits &values, bool isXml, bool closesVoids,
+               Lines lines = Lines::OneForEachBlock)
+        : m_source(source)
+        , m_text(text)
+        , m_values(values)
+        , m_isXml(isXml)
+        , m_closesVoids(isXml || closesVoids)
+        , m_lines(lines)
     {
         m_out.reserve(source.size());
     }
@@ -210,7 +219,7 @@ private:
         m_out += m_afterLonely && text.startsWith(u'"') ? text.sliced(1) : text;
         m_afterLonely = false;
         const bool ends = text.endsWith(u'>');
-        if (ends && m_isXml && !m_isEnd && isOneOf(m_name, voidElements)) {
+        if (ends && m_closesVoids && !m_isEnd && isOneOf(m_name, voidElements)) {
             m_out.chop(1);
             m_out += u" />";
         }
@@ -220,6 +229,8 @@ private:
 
     bool wantsLine(QStringView name) const
     {
+        if (m_lines == Lines::AsTheyAre)
+            return false;
         if (name == u"head")
             return m_out.endsWith(u'>');
         if (name == u"body" || name == u"frameset")
@@ -260,6 +271,8 @@ private:
     const EntityHabits &m_text;
     const EntityHabits &m_values;
     const bool m_isXml;
+    const bool m_closesVoids;
+    const Lines m_lines;
     EntityHabits::Progress m_textProgress;
     EntityHabits::Progress m_valueProgress;
     QString m_out;
@@ -324,22 +337,73 @@ void PageRoundTrip::splitEnds(std::vector<PagePiece> &pieces)
         std::find_if(pieces.begin(), root, [](const PagePiece &piece) { return piece.kind == PieceKind::Doctype; });
     if (doctype != root)
         m_forEngine = doctype->in(source).toString();
+    m_doctypeLength = m_forEngine.size();
     m_forEngine += m_marks.mask(source, {root, tail});
 }
 
 void PageRoundTrip::learn(const std::vector<PagePiece> &pieces)
 {
+    bool isVoid = false;
+    bool hasClosed = false;
+    bool hasOpen = false;
     for (const PagePiece &piece : pieces) {
-        if (piece.kind == PieceKind::Text || piece.kind == PieceKind::PlainText)
-            m_textHabits.learn(piece.in(m_source));
-        else if (piece.kind == PieceKind::Value)
-            m_valueHabits.learn(piece.in(m_source));
+        const QStringView text = piece.in(m_source);
+        if (piece.kind == PieceKind::Text || piece.kind == PieceKind::PlainText) {
+            m_textHabits.learn(text);
+        } else if (piece.kind == PieceKind::Value) {
+            m_valueHabits.learn(text);
+        } else if (piece.kind == PieceKind::Markup) {
+            if (const QStringView name = tagNameOf(text); !name.isEmpty())
+                isVoid = isOneOf(name.toString().toLower(), voidElements);
+            const bool ends = isVoid && text.endsWith(u'>');
+            hasClosed = hasClosed || (ends && text.endsWith(u"/>"));
+            hasOpen = hasOpen || (ends && !text.endsWith(u"/>"));
+        }
     }
+    m_closesVoids = hasClosed && !hasOpen;
 }
 
 QString PageRoundTrip::tidied(QStringView markup) const
 {
-    return TidyWriter(markup, m_textHabits, m_valueHabits, m_isXml).write();
+    return TidyWriter(markup, m_textHabits, m_valueHabits, m_isXml, m_closesVoids).write();
+}
+
+QString PageRoundTrip::spelled(QStringView markup) const
+{
+    const QString text =
+        TidyWriter(markup, m_textHabits, m_valueHabits, m_isXml, m_closesVoids, TidyWriter::Lines::AsTheyAre).write();
+    return m_source.contains(lineEnd) || !m_source.contains(u'\n') ? text : withLf(text);
+}
+
+std::optional<TextChanges> PageRoundTrip::changesOfSource(const TextChanges &changes) const
+{
+    const QStringView source = m_source;
+    // What masked() has in the place of a part of the source need not have the same length.
+    qsizetype place = m_prolog.size();
+    const auto pass = [&](QStringView part) {
+        const QString original = m_marks.unmask(part);
+        const bool isThere = source.sliced(place).startsWith(original);
+        place += isThere ? original.size() : 0;
+        return isThere;
+    };
+    TextChanges ofSource;
+    qsizetype done = 0;
+    for (const TextChange &change : changes) {
+        if (!pass(masked().sliced(done, change.begin - done)))
+            return {};
+        const qsizetype begin = place;
+        if (!pass(masked().sliced(change.begin, change.end - change.begin)))
+            return {};
+        done = change.end;
+        const TextChange smaller = withoutSameEnds(source, {begin, place, m_marks.unmask(change.text)});
+        if (smaller.begin < smaller.end || !smaller.text.isEmpty())
+            ofSource.push_back(smaller);
+    }
+    const PageRoundTrip after(withChanges(source, ofSource), markPrefix());
+    const QString wanted = m_forEngine.first(m_doctypeLength) + withChanges(masked(), changes);
+    const bool isSame = after.m_isFragment == m_isFragment && after.m_isXml == m_isXml
+        && m_marks.withoutNumbers(after.forEngine()) == m_marks.withoutNumbers(wanted);
+    return isSame ? std::optional(std::move(ofSource)) : std::nullopt;
 }
 
 QString PageRoundTrip::fragmentForEngine(const QString &markup)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/textchange.h"
 #include "web/designer/documentkind.h"
 #include "web/designer/entityhabits.h"
 #include "web/designer/pagescan.h"
@@ -8,6 +9,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace zephira {
@@ -36,6 +38,15 @@ public:
     /// The page, given the root element as serialised by the engine; for plain text, given that text.
     QString fromEngine(const QString &rootElement) const;
 
+    /// forEngine() without its doctype: the part of the source that can be edited, with marks.
+    QStringView masked() const { return QStringView(m_forEngine).sliced(m_doctypeLength); }
+    /// A piece of the engine's markup as it belongs into masked(): like the whole page, but without lines of its own for
+    /// blocks, and with LF if the source has no CR LF.
+    QString spelled(QStringView markup) const;
+    /// The changes of the source that make these changes of masked(). Nothing if the source then would be read as another
+    /// page than masked() with its changes, for example because a text has become server code.
+    std::optional<TextChanges> changesOfSource(const TextChanges &changes) const;
+
     /// The same for markup that is inserted into the page or taken from it.
     QString fragmentForEngine(const QString &markup);
     QString fragmentFromEngine(const QString &markup) const;
@@ -53,10 +64,13 @@ private:
     QString m_prolog;
     QString m_tail;
     QString m_forEngine;
+    qsizetype m_doctypeLength = 0;
     /// An unclosed comment or block of server code at the end of the page.
     QString m_openEnd;
     bool m_isFragment = false;
     bool m_isXml = false;
+    /// Whether all tags of elements without an end tag are written with a slash.
+    bool m_closesVoids = false;
     bool m_tailEndsBody = false;
     bool m_tailEndsRoot = false;
 };

@@ -148,6 +148,24 @@ QString ServerMarks::unmask(QStringView html) const
     return text.remove(idleAttribute()).remove(writtenAttribute());
 }
 
+QString ServerMarks::withoutNumbers(QStringView html) const
+{
+    const QString opening = m_prefix + u'x';
+    QString text;
+    text.reserve(html.size());
+    qsizetype done = 0;
+    for (qsizetype found = html.indexOf(opening); found >= 0; found = html.indexOf(opening, found)) {
+        found += opening.size();
+        const Mark mark = readMark(html, found);
+        if (mark.kind.isNull())
+            continue;
+        text += html.sliced(done, found - done);
+        done = found = mark.end - 1;
+    }
+    text += html.sliced(done);
+    return text;
+}
+
 QString freshMarkPrefix(const QString &source)
 {
     QString prefix;

@@ -39,6 +39,9 @@ public:
     /// mark stay.
     QString unmask(QStringView html) const;
 
+    /// The text with the numbers of its marks left out, for comparing texts in which they were given differently.
+    QString withoutNumbers(QStringView html) const;
+
     const QString &prefix() const { return m_prefix; }
     const QStringList &blocks() const { return m_blocks; }
 

@@ -101,6 +101,7 @@ const QString showSelection = uR"js((() => {
 DesignerBench::DesignerBench()
 {
     QObject::connect(&designer, &DesignerWidget::DocumentComplete, &designer, [this] { ++m_completed; });
+    designer.setMergePatience(patience);
     designer.resize(600, 400);
     designer.show();
 }

@@ -8,6 +8,22 @@
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
+namespace {
+
+/// While it exists, the designer writes whole pages, as it does when the changes can't be told.
+class WholePages
+{
+public:
+    explicit WholePages(DesignerWidget &designer) : m_designer(designer) { m_designer.setMergePatience(0); }
+    ~WholePages() { m_designer.setMergePatience(DesignerBench::patience); }
+    Q_DISABLE_COPY_MOVE(WholePages)
+
+private:
+    DesignerWidget &m_designer;
+};
+
+} // namespace
+
 /// The page's text on its way through the engine and back.
 class TstDesignerText : public QObject
 {
@@ -174,12 +190,14 @@ void TstDesignerText::edited()
 {
     QFETCH(QString, page);
     QFETCH(QString, expected);
+    QCOMPARE(roundTrip(page), page);
+    const WholePages whole(m_bench->designer);
     const QString text = roundTrip(page);
     QCOMPARE(text, expected);
     QCOMPARE(roundTrip(text), text);
 }
 
-/// For any page: after one edit and a reload the text doesn't change any more.
+/// For any page that is written as a whole: after one edit and a reload the text doesn't change any more.
 void TstDesignerText::anyMarkupSettles()
 {
     const QStringList pieces{u"<p>"_s,      u"</p>"_s,  u"<div>"_s,      u"</div>"_s,   u"<b>"_s,
@@ -187,6 +205,7 @@ void TstDesignerText::anyMarkupSettles()
                              u"&eacute;"_s, u"<br>"_s,  u"<!-- c -->"_s, u"<% s %>"_s,  u"<ul><li>"_s,
                              u"</ul>"_s,    u"<td>"_s,  u"<table>"_s,    u"</table>"_s, u"<img a=\"<?= 1 ?>\">"_s,
                              u"<h1>"_s,     u"</h1>"_s, u"<pre>"_s,      u"</pre>"_s};
+    const WholePages whole(m_bench->designer);
     QRandomGenerator random(3);
     for (int round = 0; round < 40; ++round) {
         QString page;
@@ -251,6 +270,7 @@ void TstDesignerText::oneLetterThereAndBack()
         [this] { QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience); }();
         return m_bench->designer.documentHtml();
     };
+    int exact = 0;
     QRandomGenerator random(7);
     for (int round = 0; round < 40; ++round) {
         QString page;
@@ -259,14 +279,17 @@ void TstDesignerText::oneLetterThereAndBack()
         page += u"<p>letter</p>"_s;
         const QString there = changed(page, u"letter"_s, u"lettre"_s);
         const QString back = changed(there, u"lettre"_s, u"letter"_s);
-        const auto report = [&] { return qPrintable(page + u"\n--\n"_s + there + u"\n--\n"_s + back); };
-        QVERIFY2(there.contains(u"lettre") && !there.contains(u"letter"), report());
-        QVERIFY2(back == QString(there).replace(u"lettre"_s, u"letter"_s), report());
-        QVERIFY2(changed(back, u"letter"_s, u"lettre"_s) == there, report());
+        const QByteArray report = (page + u"\n--\n"_s + there + u"\n--\n"_s + back).toUtf8();
+        QVERIFY2(there.contains(u"lettre") && !there.contains(u"letter"), report.constData());
+        exact += there == QString(page).replace(u"letter"_s, u"lettre"_s);
+        QVERIFY2(back == QString(there).replace(u"lettre"_s, u"letter"_s), report.constData());
+        QVERIFY2(changed(back, u"letter"_s, u"lettre"_s) == there, report.constData());
         for (const QString &piece : {u"<% a %>"_s, u"<?php b ?>"_s, u"<!--#include file=\"c\" -->"_s,
                                      u"<cfif d gt 1>"_s, u"<%= l %>"_s, u"<!-- g -->"_s, u"<!DOCTYPE html>"_s})
-            QVERIFY2(back.count(piece) == page.count(piece), report());
+            QVERIFY2(back.count(piece) == page.count(piece), report.constData());
     }
+    // Where tags were dropped and text moved, the whole page may have to be written.
+    QVERIFY2(exact >= 34, qPrintable(QString::number(exact)));
 }
 
 void TstDesignerText::marksCanBeMoved()
@@ -280,10 +303,10 @@ void TstDesignerText::marksCanBeMoved()
         null)js"_s);
     QCOMPARE(m_bench->ask(u"zephiraDesigner.state().state.selection"_s).toString(), u"Control"_s);
     m_bench->run(DesignerCommand::Cut);
-    QCOMPARE(m_bench->designer.documentHtml(), u"<p>ab</p>\r\n<p>c</p>"_s);
+    QCOMPARE(m_bench->designer.documentHtml(), u"<p>ab</p><p>c</p>"_s);
     m_bench->ask(u"getSelection().collapse(document.body.lastChild.firstChild, 1); null"_s);
     m_bench->run(DesignerCommand::Paste);
-    QCOMPARE(m_bench->designer.documentHtml(), u"<p>ab</p>\r\n<p>c<% one %></p>"_s);
+    QCOMPARE(m_bench->designer.documentHtml(), u"<p>ab</p><p>c<% one %></p>"_s);
 }
 
 void TstDesignerText::serverCodeThatIsPastedIn()

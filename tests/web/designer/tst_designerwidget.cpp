@@ -577,7 +577,9 @@ void TstDesignerWidget::largePage()
     time.start();
     awaitComplete([&] { m_bench->designer.setDocumentHtml(page); });
     m_bench->designer.pasteHtml(u"<p>x</p>"_s);
-    QCOMPARE(m_bench->designer.documentHtml().size(), page.size() + u"<p>x</p>\r\n"_s.size());
+    const QString text = m_bench->designer.documentHtml();
+    QVERIFY2(text.size() == page.size() + u"<p>x</p>"_s.size() || text.size() == page.size() + u"<p>x</p>\r\n"_s.size(),
+             qPrintable(QString::number(text.size())));
     qInfo("3.5 MB there and back in %lld ms", time.elapsed());
 }
 

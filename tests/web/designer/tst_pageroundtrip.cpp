@@ -80,6 +80,10 @@ private Q_SLOTS:
         row("lonely words", u"x"_s,
             u"<html><head></head><body><input checked=\"\" value=\"\" disabled=\"\"></body></html>"_s,
             u"<input checked value=\"\" disabled>"_s);
+        row("closed tags", u"<br/><IMG src='a' />"_s,
+            u"<html><head></head><body><br><img src=\"a\"><hr></body></html>"_s, u"<br /><img src=\"a\" /><hr />"_s);
+        row("tags closed now and then", u"<br/><img src='a'>"_s,
+            u"<html><head></head><body><br><img src=\"a\"><hr></body></html>"_s, u"<br><img src=\"a\"><hr>"_s);
         row("lines for blocks", u"x"_s,
             u"<html><head></head><body><p>a</p><p>b</p><hr><ul><li>c</li></ul><i>d</i></body></html>"_s,
             u"<p>a</p>\r\n<p>b</p>\r\n<hr>\r\n<ul><li>c</li></ul><i>d</i>"_s);

@@ -15,6 +15,7 @@ import {isPlain, plainShell, plainText, setPlain, showPlainText} from './plainte
 import {gripsOf} from './positions.js';
 import {reportBy, reportCopy, reportState, reportTo, stamped, tell} from './reports.js';
 import {selectedControl, selectionType, selectStart} from './selection.js';
+import {fits, keepEdited, keepLoaded, keepSource, loadedText} from './writeback.js';
 
 let keepTimer = 0;
 
@@ -76,11 +77,13 @@ const begin = text => {
     if (isPlain)
         showPlainText(text);
     listen();
-    gatherComments();
+    gatherComments(document);
     if (bodyElement())
         showMarks(bodyElement());
     showLooks();
     selectStart();
+    if (!isPlain)
+        keepLoaded(rootElement().outerHTML);
     history.start();
 };
 
@@ -90,6 +93,7 @@ globalThis.zephiraDesigner = {
         history.reset();
         setMarkPrefix(prefix);
         setPlain(wantsPlain);
+        keepSource(wantsPlain ? '' : text);
         Object.assign(looks, wantedLooks);
         openDocument();
         writeDocument(isPlain ? plainShell : text);
@@ -127,8 +131,13 @@ globalThis.zephiraDesigner = {
     text() {
         // Changes that happened but weren't reported yet are in the text, so they must be counted.
         history.openChanges();
-        return answer(stamped(copyOfPage()));
+        const copy = copyOfPage();
+        if (!isPlain)
+            keepEdited(copy);
+        return answer(stamped(copy));
     },
+    loaded: () => answer(loadedText()),
+    fits: (changes, target, editedChanges) => answer(fits(changes, target, editedChanges)),
     font: () => answer(describeFont()),
     link: () => answer(linkAddress()),
 };

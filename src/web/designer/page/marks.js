@@ -3,7 +3,7 @@
 // Server code and comments are represented by comments of one word. Where a sign can be shown, such a comment is
 // replaced by an element, so that the user can see, select, move and delete it.
 
-import {bodyElement, closest, createElement, createTreeWalker, isNamed, rootElement, tightNames} from './nodes.js';
+import {bodyOf, closest, createElement, createTreeWalker, isNamed, rootOf, tightNames} from './nodes.js';
 
 export const markName = 'zephira-mark';
 
@@ -16,10 +16,11 @@ export const setMarkPrefix = prefix => {
 const isMarkComment = node => new RegExp(`^${markPrefix}x\\d+[sc]$`).test(node.data);
 
 // After stray end tags, a comment ends up outside the root element, where it would be invisible and get lost.
-export const gatherComments = () => {
-    const host = bodyElement() ?? rootElement();
-    const outside = [...document.childNodes].filter(node => node.nodeType === Node.COMMENT_NODE);
-    const isBefore = node => node.compareDocumentPosition(rootElement()) & Node.DOCUMENT_POSITION_FOLLOWING;
+export const gatherComments = page => {
+    const root = rootOf(page);
+    const host = bodyOf(page) ?? root;
+    const outside = [...page.childNodes].filter(node => node.nodeType === Node.COMMENT_NODE);
+    const isBefore = node => node.compareDocumentPosition(root) & Node.DOCUMENT_POSITION_FOLLOWING;
     const [before, after] = [outside.filter(isBefore), outside.filter(node => !isBefore(node))];
     host.prepend(...before);
     host.append(...after);
@@ -39,3 +40,7 @@ export const showMarks = root => {
         comment.replaceWith(mark);
     }
 };
+
+// The markup with comments in the place of the elements that represent marks.
+export const asComments = markup =>
+    markup.replace(new RegExp(`<${markName} mark="(\\w+)"[^>]*>[^]*?</${markName}>`, 'g'), '<!--$1-->');

@@ -8,6 +8,10 @@ const documentMember = name => {
     return member.get ? () => member.get.call(document) : member.value.bind(document);
 };
 
+const getterOf = name => Object.getOwnPropertyDescriptor(Document.prototype, name).get;
+// Those of any page, not only of the shown one.
+export const rootOf = page => getterOf('documentElement').call(page);
+export const bodyOf = page => getterOf('body').call(page);
 export const rootElement = documentMember('documentElement');
 export const bodyElement = documentMember('body');
 export const createElement = documentMember('createElement');

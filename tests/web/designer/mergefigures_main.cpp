@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// mergefigures [--pages N] [--random N]: what edits in the designer do to the sources of N real pages, and whether N edits
+// at random are written right, half of them on damaged pages. Exit status 1 tells of a fault.
+#include "support/installedpages.h"
+#include "web/designer/mergefigures.h"
+#include "web/designer/pageedits.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+namespace {
+
+void print(const QString &text)
+{
+    std::fputs(qPrintable(text + u'\n'), stdout);
+    std::fflush(stdout);
+}
+
+bool measurePages(DesignerBench &bench, int count)
+{
+    const MergeFigures figures =
+        measureMerges(bench, installedPages(count, [](const QByteArray &page) { return page.contains("<body"); }));
+    print(figures.table());
+    for (const QString &each : figures.wholePages)
+        print(u"whole page: "_s + each);
+    for (const QString &each : figures.faults)
+        print(each);
+    return figures.faults.isEmpty();
+}
+
+bool editRandomly(DesignerBench &bench, int count)
+{
+    QRandomGenerator random(5);
+    int whole = 0;
+    int faults = 0;
+    for (int round = 0; round < count; ++round) {
+        constexpr int damages[] = {0, 3, 0, 10};
+        const RandomEdit outcome =
+            editAtRandom(bench, randomPage(random, damages[round % 4]), random, 1 + random.bounded(10));
+        whole += outcome.isWhole;
+        if (!outcome.fault.isEmpty()) {
+            ++faults;
+            print(outcome.fault);
+        }
+    }
+    print(u"%1 edits at random: %2 whole pages, %3 faults"_s.arg(count).arg(whole).arg(faults));
+    return faults == 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.addOptions({{u"pages"_s, u"Edit so many real pages."_s, u"N"_s, u"200"_s},
+                       {u"random"_s, u"Make so many edits at random."_s, u"N"_s, u"0"_s}});
+    parser.addHelpOption();
+    parser.process(application);
+    DesignerBench bench;
+    const bool arePagesRight = measurePages(bench, parser.value(u"pages"_s).toInt());
+    const bool isRandomRight = editRandomly(bench, parser.value(u"random"_s).toInt());
+    return arePagesRight && isRandomRight ? 0 : 1;
+}
