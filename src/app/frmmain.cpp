@@ -221,7 +221,7 @@ void frmmain::buildCommands()
     m_plugins = std::make_unique<PluginMenu>(*m_context, *m_menus, this);
     m_plugins->added = [this](QAction *entry, const QString &plugin) { m_keys->addPlugin(entry, plugin); };
     m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
-    m_textTools = std::make_unique<TextTools>(TextTools::Parts{*this, *m_rt, *m_context, *m_menus, *m_keys});
+    m_textTools = std::make_unique<TextTools>(TextTools::Parts{*this, *m_rt, *m_context, *m_menus, *m_keys, *m_ui->documentLayout});
     m_late.add([this] { m_textTools->start(); });
     m_router = std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus,
                                                             *m_sideCommands, *m_filePaneCommands, *m_end,
@@ -314,6 +314,7 @@ void frmmain::languageSet(int row)
     // In visual mode the menu stays disabled, because it inserts into the source.
     m_menus->setMet(Need::QuickTags, language.markupTools && !m_designer.isShowing());
     m_rt->setLanguage(QStringView(language.editorLanguage).toString());
+    m_textTools->languageChanged();
 }
 
 void frmmain::selectionChanged()

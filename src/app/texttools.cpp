@@ -3,11 +3,16 @@
 
 #include "app/focusring.h"
 #include "app/windowkeys.h"
+#include "assist/breadcrumb.h"
 #include "assist/textfunctions.h"
 #include "commands/menus.h"
+#include "commands/texttable.h"
+#include "core/appcontext.h"
+#include "core/settings.h"
 #include "editor/codemax.h"
 #include "widgets/toolpanel.h"
 
+#include <QBoxLayout>
 #include <QMainWindow>
 
 namespace zephira {
@@ -26,15 +31,42 @@ void TextTools::start()
     m_parts.keys.addTextMenus();
     m_parts.rt.extendMenu = [this](QMenu &menu) { m_parts.menus.offerTextMenus(menu); };
     m_helpers.start();
+    showBreadcrumb(wholeNumber(m_parts.context.settings, UserSetting::Breadcrumb) != 0);
+}
+
+void TextTools::languageChanged()
+{
+    if (m_breadcrumb)
+        m_breadcrumb->takeLanguage();
+}
+
+void TextTools::showBreadcrumb(bool on)
+{
+    m_parts.menus.setChecked(textname::breadcrumb, on);
+    if (on && !m_breadcrumb) {
+        m_breadcrumb = new Breadcrumb(m_parts.rt, m_parts.document.parentWidget());
+        m_parts.document.addWidget(m_breadcrumb);
+        if (m_ring)
+            m_ring->add({m_breadcrumb});
+    }
+    if (m_breadcrumb)
+        m_breadcrumb->setOn(on);
 }
 
 void TextTools::attach(FocusRing &ring)
 {
+    m_ring = &ring;
     m_panel->made = [&ring](QWidget &panel) { ring.add({&panel}); };
 }
 
 void TextTools::runTextCommand(TextCommand command)
 {
+    if (command == TextCommand::ShowBreadcrumb) {
+        const bool on = !m_breadcrumb || !m_breadcrumb->isOn();
+        writeSwitch(m_parts.context.settings, UserSetting::Breadcrumb, on);
+        showBreadcrumb(on);
+        return;
+    }
     if (const TextFunction run = textFunction(command))
         run(m_helpers);
 }

@@ -4,10 +4,12 @@
 #include "assist/texthelpers.h"
 #include "commands/commandparts.h"
 
+class QBoxLayout;
 class QMainWindow;
 
 namespace zephira {
 
+class Breadcrumb;
 class FocusRing;
 class Menus;
 class ToolPanel;
@@ -24,6 +26,8 @@ public:
         const AppContext &context;
         Menus &menus;
         WindowKeys &keys;
+        /// Has the views of the document; what is shown below them goes to its end.
+        QBoxLayout &document;
     };
 
     explicit TextTools(const Parts &parts);
@@ -36,12 +40,19 @@ public:
 
     TextHelpers &helpers() { return m_helpers; }
     ToolPanel &panel() { return *m_panel; }
+    /// The text is in another language now.
+    void languageChanged();
 
     // TextCommands
     void runTextCommand(TextCommand command) override;
 
 private:
+    void showBreadcrumb(bool on);
+
     const Parts m_parts;
+    FocusRing *m_ring = nullptr;
+    /// Exists from when the line is first shown.
+    Breadcrumb *m_breadcrumb = nullptr;
     ToolPanel *m_panel;
     TextHelpers m_helpers;
 };

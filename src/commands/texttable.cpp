@@ -19,6 +19,13 @@ constexpr MenuItem entry(QStringView name, QStringView caption, TextCommand comm
     return {name, caption, shortcut, {}, statusTip, {command}, {}, Kind::Entry, {}, Need::SourceView};
 }
 
+/// An entry with a check mark for what the window shows beside the text.
+constexpr MenuItem shown(QStringView name, QStringView caption, TextCommand command, QStringView statusTip,
+                         QStringView shortcut = {})
+{
+    return {name, caption, shortcut, {}, statusTip, {command}, {}, Kind::Check};
+}
+
 constexpr MenuItem lineItems[] = {
     entry(u"textJoinLines", u"&Join Lines", TextCommand::JoinLines,
           u"Make one line of the selected lines, or of this one and the next", u"Ctrl+J"),
@@ -26,8 +33,14 @@ constexpr MenuItem lineItems[] = {
           u"Remove the blanks at the ends of the selected lines, or of all lines"),
 };
 
+constexpr MenuItem showItems[] = {
+    shown(textname::breadcrumb, u"&Breadcrumb", TextCommand::ShowBreadcrumb,
+          u"Show the elements around the caret in a line below the text"),
+};
+
 constexpr MenuItem menus[] = {
     menu(u"textLines", u"&Lines", lineItems),
+    menu(u"textShow", u"&Show", showItems),
 };
 
 } // namespace

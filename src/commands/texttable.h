@@ -10,4 +10,9 @@ namespace zephira {
 /// window.
 std::span<const MenuItem> textMenuTable();
 
+/// The entries whose check marks the program sets.
+namespace textname {
+inline constexpr QStringView breadcrumb = u"textBreadcrumb";
+} // namespace textname
+
 } // namespace zephira

@@ -121,6 +121,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {RemoteContent, own, {}, u"RemoteContent"_s, Switch},
         {SpellingDictionary, own, u"Spelling"_s, u"Dictionary"_s, Text},
         {MenuKeys, own, u"Keys"_s, {}, Text},
+        {Breadcrumb, own, u"Text"_s, u"Breadcrumb"_s, Switch, u"0"_s},
     };
     // clang-format on
 }

@@ -122,6 +122,7 @@ enum class UserSetting : int {
     RemoteContent,
     SpellingDictionary,
     MenuKeys,
+    Breadcrumb,
 };
 
 /// One value of the per-user store.

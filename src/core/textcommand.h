@@ -8,6 +8,7 @@ namespace zephira {
 enum class TextCommand {
     JoinLines,
     RemoveTrailingBlanks,
+    ShowBreadcrumb,
 };
 
 } // namespace zephira

@@ -95,6 +95,7 @@ private Q_SLOTS:
         QTest::newRow("remote content") << UserSetting::RemoteContent << u"zephira/frmmain/RemoteContent"_s;
         QTest::newRow("dictionary") << UserSetting::SpellingDictionary << u"zephira/Spelling/Dictionary"_s;
         QTest::newRow("keys") << UserSetting::MenuKeys << u"zephira/Keys/frmmain"_s;
+        QTest::newRow("breadcrumb") << UserSetting::Breadcrumb << u"zephira/Text/Breadcrumb"_s;
     }
 
     void userValues()
