@@ -104,6 +104,17 @@ std::vector<TextMatch> PatternSearch::all(const QString &text, qsizetype start, 
     return found;
 }
 
+bool PatternSearch::each(const QString &text, qsizetype start, const QString &replacement,
+                         const std::function<bool(TextMatch)> &take) const
+{
+    auto matches = m_expression.globalMatch(text, start);
+    while (matches.hasNext()) {
+        if (!take(toMatch(matches.next(), replacement)))
+            return true;
+    }
+    return matches.isValid();
+}
+
 QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match)
 {
     if (!replacement.contains(u'\\') && !replacement.contains(u'$'))

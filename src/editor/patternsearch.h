@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -45,6 +46,10 @@ public:
                                       const QString &replacement) const;
     /// All non-overlapping matches from start to end, from left to right.
     std::vector<TextMatch> all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const;
+    /// Passes the same to `take` one by one, from `start` to the end of the text, until that returns false. Returns false
+    /// if the expression gave up on this text, because it needed too many steps.
+    bool each(const QString &text, qsizetype start, const QString &replacement,
+              const std::function<bool(TextMatch)> &take) const;
 
 private:
     explicit PatternSearch(QRegularExpression expression, bool groups)

@@ -49,10 +49,11 @@ constexpr FolderRow folderRows[] = {
     {u"plugins", u"core widgets"},
     {u"start", u"core files plugins widgets"},
     {u"assist", u"core files syntax widgets editor tools"},
+    {u"search", u"core files widgets editor"},
     {u"commands", u"core tools views widgets document"},
     {u"handbook", u"core files editor ftp commands"},
     {u"app",
-     u"core files syntax widgets editor assist desktop colour tags panes views wizards settings tools ftp document plugins start commands handbook"},
+     u"core files syntax widgets editor assist search desktop colour tags panes views wizards settings tools ftp document plugins start commands handbook"},
 };
 
 constexpr Rule includeRules[] = {

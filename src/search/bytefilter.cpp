@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "search/bytefilter.h"
+
+#include "files/textfile.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+bool isAscii(QChar c)
+{
+    return c < QChar(0x80);
+}
+
+bool hasCase(QChar c)
+{
+    // The halves of a surrogate pair say nothing about their letter.
+    return c.isSurrogate() || c.toLower() != c || c.toUpper() != c || c.toTitleCase() != c;
+}
+
+/// The parts of a text that are found in its bytes without regard to the encoding, or whose letters have no case.
+QStringList plainParts(const QString &text, bool matchCase)
+{
+    QStringList parts;
+    qsizetype begin = 0;
+    const auto kindOf = [&](QChar c) {
+        return c == u'\n' || c == u'\r' ? 0 : isAscii(c) ? 1 : !matchCase && hasCase(c) ? 0 : 2;
+    };
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && kindOf(text[i]) == kindOf(text[begin]))
+            continue;
+        if (i > begin && kindOf(text[begin]) != 0)
+            parts.append(text.sliced(begin, i - begin));
+        begin = i;
+    }
+    return parts;
+}
+
+/// The bytes of a text in Windows-1252; empty if that has no such characters.
+QByteArray inWindows1252(const QString &text)
+{
+    QByteArray bytes;
+    for (const QChar c : text) {
+        const Result<QByteArray> byte = encodeText(QString(c).toUtf8(), {Encoding::Windows1252});
+        if (!byte)
+            return {};
+        bytes += byte.value();
+    }
+    return bytes;
+}
+
+bool holds(QByteArrayView bytes, QByteArrayView needle)
+{
+    return ::memmem(bytes.data(), static_cast<std::size_t>(bytes.size()), needle.data(),
+                    static_cast<std::size_t>(needle.size()))
+        != nullptr;
+}
+
+/// The same without regard to the case of ASCII letters, for a needle in lower case. The bytes are folded in blocks that
+/// stay in the processor's cache.
+bool holdsFolded(QByteArrayView bytes, QByteArrayView needle)
+{
+    constexpr qsizetype block = 16 * 1024;
+    constexpr qsizetype longest = 1024;
+    const QByteArrayView looked = needle.first(std::min(needle.size(), longest));
+    std::array<char, block + longest> folded;
+    qsizetype kept = 0;
+    for (qsizetype at = 0; at < bytes.size(); at += block) {
+        const qsizetype size = std::min(block, bytes.size() - at);
+        const char *from = bytes.data() + at;
+        char *to = folded.data() + kept;
+        for (qsizetype i = 0; i < size; ++i) {
+            const auto byte = static_cast<unsigned char>(from[i]);
+            to[i] = static_cast<char>(byte | (static_cast<unsigned char>(byte - 'A') < 26 ? 0x20 : 0));
+        }
+        if (holds({folded.data(), kept + size}, looked))
+            return true;
+        const qsizetype tail = std::min(looked.size() - 1, kept + size);
+        std::memmove(folded.data(), folded.data() + kept + size - tail, static_cast<std::size_t>(tail));
+        kept = tail;
+    }
+    return false;
+}
+
+/// The place behind a character class that begins at `at`; -1 if it doesn't end.
+qsizetype behindClass(const QString &expression, qsizetype at)
+{
+    qsizetype i = at + 1;
+    if (i < expression.size() && expression[i] == u'^')
+        ++i;
+    for (bool first = true; i < expression.size(); ++i, first = false) {
+        if (expression[i] == u'\\')
+            ++i;
+        else if (QStringView(expression).sliced(i).startsWith(u"[:"))
+            i = std::max(i, expression.indexOf(u":]"_s, i) + 1);
+        else if (expression[i] == u']' && !first)
+            return i + 1;
+    }
+    return -1;
+}
+
+/// The place behind a group that begins at `at`; -1 if it doesn't end.
+qsizetype behindGroup(const QString &expression, qsizetype at)
+{
+    int depth = 0;
+    for (qsizetype i = at; i >= 0 && i < expression.size();) {
+        const QChar c = expression[i];
+        if (c == u'[') {
+            i = behindClass(expression, i);
+            continue;
+        }
+        i += c == u'\\' ? 2 : 1;
+        depth += c == u'(' ? 1 : c == u')' ? -1 : 0;
+        if (depth == 0)
+            return i;
+    }
+    return -1;
+}
+
+/// Whether a group is an ordinary or a named one, or looks around; others change what the rest means.
+bool isHarmlessGroup(const QString &expression, qsizetype at)
+{
+    const QStringView rest = QStringView(expression).sliced(at + 1);
+    if (rest.startsWith(u'*'))
+        return false;
+    return !rest.startsWith(u'?') || (rest.size() > 1 && QStringView(u":=!<>|P'").contains(rest[1]));
+}
+
+/// Escapes that stand for something else than themselves, and for one letter each.
+constexpr QStringView shortEscapes = u"dDwWsSbBAZzGnrtfveahHVRXK";
+
+} // namespace
+
+QStringList certainParts(const QString &expression)
+{
+    QStringList parts;
+    QString part;
+    const auto end = [&] {
+        if (!part.isEmpty())
+            parts.append(std::exchange(part, QString()));
+    };
+    const auto endWithoutLast = [&] {
+        const bool pair = part.size() > 1 && part.back().isLowSurrogate();
+        part.chop(pair ? 2 : 1);
+        end();
+    };
+    for (qsizetype i = 0; i < expression.size();) {
+        const QChar c = expression[i];
+        if (c == u'|' || c == u')')
+            return {};
+        if (c == u'(' || c == u'[') {
+            if (c == u'(' && !isHarmlessGroup(expression, i))
+                return {};
+            end();
+            i = c == u'(' ? behindGroup(expression, i) : behindClass(expression, i);
+            if (i < 0)
+                return {};
+        } else if (c == u'?' || c == u'*' || c == u'{') {
+            endWithoutLast();
+            if (c == u'{')
+                i = std::max(i, expression.indexOf(u'}', i));
+            ++i;
+        } else if (c == u'+' || c == u'^' || c == u'$' || c == u'.') {
+            end();
+            ++i;
+        } else if (c == u'\\') {
+            const QChar code = i + 1 < expression.size() ? expression[i + 1] : QChar();
+            if (shortEscapes.contains(code))
+                end();
+            else if (code.isLetterOrNumber() || code.isNull() || !isAscii(code))
+                return {};
+            else
+                part += code;
+            i += 2;
+        } else {
+            part += c;
+            ++i;
+        }
+    }
+    end();
+    return parts;
+}
+
+ByteFilter::ByteFilter(const SearchRequest &request)
+{
+    const QStringList certain =
+        request.regularExpression ? certainParts(request.pattern) : QStringList{request.pattern};
+    QString best;
+    for (const QString &part : certain) {
+        const QStringList plain = plainParts(part, request.matchCase);
+        for (const QString &candidate : plain) {
+            if (candidate.toUtf8().size() > best.toUtf8().size())
+                best = candidate;
+        }
+    }
+    if (best.isEmpty())
+        return;
+    if (!isAscii(best.front())) {
+        m_needles.push_back({best.toUtf8()});
+        if (const QByteArray bytes = inWindows1252(best); !bytes.isEmpty())
+            m_needles.push_back({bytes});
+        return;
+    }
+    const bool letters = std::ranges::any_of(std::as_const(best), [](QChar c) { return c.isLetter(); });
+    if (request.matchCase || !letters) {
+        m_needles.push_back({best.toUtf8()});
+        return;
+    }
+    const QByteArray folded = best.toLower().toUtf8();
+    m_needles.push_back({folded, false});
+    // Two letters have a third form outside ASCII: the long s and the sign of the kelvin.
+    if (folded.contains('s'))
+        m_needles.push_back({"\xC5\xBF"});
+    if (folded.contains('k'))
+        m_needles.push_back({"\xE2\x84\xAA"});
+}
+
+bool ByteFilter::mayHold(QByteArrayView bytes) const
+{
+    if (m_needles.empty() || bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
+        return true;
+    return std::ranges::any_of(m_needles, [bytes](const Needle &needle) {
+        return needle.matchCase ? holds(bytes, needle.bytes) : holdsFolded(bytes, needle.bytes);
+    });
+}
+
+qsizetype ByteFilter::overlap() const
+{
+    qsizetype longest = 1;
+    for (const Needle &needle : m_needles)
+        longest = std::max(longest, needle.bytes.size());
+    return longest - 1;
+}
+
+} // namespace zephira
