@@ -6,8 +6,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -57,35 +55,71 @@ QByteArray inWindows1252(const QString &text)
     return bytes;
 }
 
-bool holds(QByteArrayView bytes, QByteArrayView needle)
+/// What pages hold, the most frequent first; everything else is rarer.
+constexpr QByteArrayView frequentBytes = " etaoinsrldhc<>/\"=mupg-fbw.yk\nv:;1023,_x";
+
+/// The bit that makes a letter lower case, for a byte that is looked for in either case.
+unsigned char caseBit(char byte, bool matchCase)
 {
-    return ::memmem(bytes.data(), static_cast<std::size_t>(bytes.size()), needle.data(),
-                    static_cast<std::size_t>(needle.size()))
-        != nullptr;
+    return !matchCase && byte >= 'a' && byte <= 'z' ? 0x20 : 0;
 }
 
-/// The same without regard to the case of ASCII letters, for a needle in lower case. The bytes are folded in blocks that
-/// stay in the processor's cache.
-bool holdsFolded(QByteArrayView bytes, QByteArrayView needle)
+qsizetype rarityOf(char byte)
 {
-    constexpr qsizetype block = 16 * 1024;
-    constexpr qsizetype longest = 1024;
-    const QByteArrayView looked = needle.first(std::min(needle.size(), longest));
-    std::array<char, block + longest> folded;
-    qsizetype kept = 0;
-    for (qsizetype at = 0; at < bytes.size(); at += block) {
-        const qsizetype size = std::min(block, bytes.size() - at);
-        const char *from = bytes.data() + at;
-        char *to = folded.data() + kept;
-        for (qsizetype i = 0; i < size; ++i) {
-            const auto byte = static_cast<unsigned char>(from[i]);
-            to[i] = static_cast<char>(byte | (static_cast<unsigned char>(byte - 'A') < 26 ? 0x20 : 0));
+    const qsizetype at = frequentBytes.indexOf(byte);
+    return at < 0 ? frequentBytes.size() : at;
+}
+
+/// The place of the needle's rarest byte, but not `except`.
+qsizetype rarestByte(QByteArrayView needle, qsizetype except)
+{
+    qsizetype best = except == 0 ? needle.size() - 1 : 0;
+    for (qsizetype i = 0; i < needle.size(); ++i) {
+        if (i != except && rarityOf(needle[i]) > rarityOf(needle[best]))
+            best = i;
+    }
+    return best;
+}
+
+bool isAt(const char *bytes, QByteArrayView needle, bool matchCase)
+{
+    for (qsizetype i = 0; i < needle.size(); ++i) {
+        if ((static_cast<unsigned char>(bytes[i]) | caseBit(needle[i], matchCase))
+            != static_cast<unsigned char>(needle[i]))
+            return false;
+    }
+    return true;
+}
+
+/// Whether the needle is in the bytes. Its two rarest bytes are compared at many places at once, in loops that the
+/// compiler turns into vector instructions.
+bool holds(QByteArrayView bytes, QByteArrayView needle, bool matchCase)
+{
+    const qsizetype places = bytes.size() - needle.size() + 1;
+    const qsizetype first = rarestByte(needle, -1);
+    const qsizetype second = rarestByte(needle, first);
+    const auto firstByte = static_cast<unsigned char>(needle[first]);
+    const auto secondByte = static_cast<unsigned char>(needle[second]);
+    const unsigned char firstBit = caseBit(needle[first], matchCase);
+    const unsigned char secondBit = caseBit(needle[second], matchCase);
+    constexpr qsizetype block = 64;
+    qsizetype at = 0;
+    for (; at + block <= places; at += block) {
+        const auto *firsts = reinterpret_cast<const unsigned char *>(bytes.data()) + at + first;
+        const auto *seconds = reinterpret_cast<const unsigned char *>(bytes.data()) + at + second;
+        unsigned char any = 0;
+        for (qsizetype i = 0; i < block; ++i) {
+            any |= static_cast<unsigned char>(static_cast<unsigned char>((firsts[i] | firstBit) == firstByte)
+                                              & static_cast<unsigned char>((seconds[i] | secondBit) == secondByte));
         }
-        if (holds({folded.data(), kept + size}, looked))
+        for (qsizetype i = 0; any != 0 && i < block; ++i) {
+            if (isAt(bytes.data() + at + i, needle, matchCase))
+                return true;
+        }
+    }
+    for (; at < places; ++at) {
+        if (isAt(bytes.data() + at, needle, matchCase))
             return true;
-        const qsizetype tail = std::min(looked.size() - 1, kept + size);
-        std::memmove(folded.data(), folded.data() + kept + size - tail, static_cast<std::size_t>(tail));
-        kept = tail;
     }
     return false;
 }
@@ -227,9 +261,8 @@ bool ByteFilter::mayHold(QByteArrayView bytes) const
 {
     if (m_needles.empty() || bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
         return true;
-    return std::ranges::any_of(m_needles, [bytes](const Needle &needle) {
-        return needle.matchCase ? holds(bytes, needle.bytes) : holdsFolded(bytes, needle.bytes);
-    });
+    return std::ranges::any_of(m_needles,
+                               [bytes](const Needle &needle) { return holds(bytes, needle.bytes, needle.matchCase); });
 }
 
 qsizetype ByteFilter::overlap() const
