@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/linetext.h"
 
+#include <QCollator>
+
 #include <algorithm>
+#include <vector>
 
 namespace zephira {
 
@@ -21,6 +24,37 @@ void chopBlanks(QByteArray &text)
 {
     while (!text.isEmpty() && isBlank(text.back()))
         text.chop(1);
+}
+
+/// A line's text and its end.
+struct Line {
+    QByteArrayView text;
+    QByteArrayView end;
+};
+
+std::vector<Line> linesOf(QByteArrayView text)
+{
+    std::vector<Line> lines;
+    qsizetype start = 0;
+    while (start < text.size()) {
+        const auto *const found = std::ranges::find_if(text.begin() + start, text.end(), isLineEnd);
+        const qsizetype end = found - text.begin();
+        qsizetype next = end;
+        if (end < text.size())
+            next += text.sliced(end).startsWith("\r\n") ? 2 : 1;
+        lines.push_back({text.sliced(start, end - start), text.sliced(end, next - end)});
+        start = next;
+    }
+    return lines;
+}
+
+/// The collator knows no order of numbers in the language "C".
+QCollator collatorOf(const QLocale &locale)
+{
+    QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    return collator;
 }
 
 } // namespace
@@ -63,6 +97,37 @@ QByteArray withoutTrailingBlanks(QByteArrayView lines)
             kept.append(lines[start++]);
     }
     return kept;
+}
+
+QByteArray sortedLines(QByteArrayView text, const QLocale &locale)
+{
+    struct Sorted {
+        QCollatorSortKey key;
+        QByteArrayView text;
+    };
+    const QCollator collator = collatorOf(locale);
+    const std::vector<Line> lines = linesOf(text);
+    std::vector<Sorted> order;
+    order.reserve(lines.size());
+    for (const Line &line : lines)
+        order.push_back({collator.sortKey(QString::fromUtf8(line.text)), line.text});
+    std::ranges::stable_sort(order, [](const Sorted &a, const Sorted &b) { return a.key < b.key; });
+    QByteArray sorted;
+    sorted.reserve(text.size());
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        sorted.append(order[i].text).append(lines[i].end);
+    return sorted;
+}
+
+QByteArray swappedLines(QByteArrayView first, QByteArrayView second)
+{
+    const auto endOf = [](QByteArrayView lines) {
+        const qsizetype size = lines.endsWith("\r\n") ? 2 : !lines.isEmpty() && isLineEnd(lines.back()) ? 1 : 0;
+        return lines.last(size);
+    };
+    const QByteArrayView between = endOf(first);
+    const QByteArrayView last = endOf(second);
+    return second.chopped(last.size()).toByteArray().append(between).append(first.chopped(between.size())).append(last);
 }
 
 } // namespace zephira

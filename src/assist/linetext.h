@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLocale>
 
 namespace zephira {
 
@@ -13,5 +14,13 @@ QByteArray joinedLines(QByteArrayView lines);
 
 /// The lines without the blanks and tabs at their ends.
 QByteArray withoutTrailingBlanks(QByteArrayView lines);
+
+/// The lines in the order of their letters in a language: small and capital letters are alike, numbers count by their
+/// value, and lines that are alike stay in their order. The line ends stay where they are.
+QByteArray sortedLines(QByteArrayView lines, const QLocale &locale);
+
+/// Two neighbouring blocks of lines in the other order. Line ends stay where they are: where the last line had none, it
+/// has none afterwards.
+QByteArray swappedLines(QByteArrayView first, QByteArrayView second);
 
 } // namespace zephira

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/textfunctions.h"
 
+#include "assist/caretcommands.h"
+#include "assist/lastedit.h"
 #include "assist/linecommands.h"
 
 #include <algorithm>
@@ -18,8 +20,19 @@ struct Row {
 using enum TextCommand;
 
 constexpr std::array rows{
+    Row{Capitalise, capitalise},
+    Row{CaretInEachLine, caretInEachLine},
+    Row{DeleteLines, deleteLines},
+    Row{Duplicate, duplicate},
+    Row{GoToLastEdit, goToLastEdit},
     Row{JoinLines, joinLines},
+    Row{MakeLowerCase, makeLowerCase},
+    Row{MakeUpperCase, makeUpperCase},
+    Row{MoveLinesDown, moveLinesDown},
+    Row{MoveLinesUp, moveLinesUp},
     Row{RemoveTrailingBlanks, removeTrailingBlanks},
+    Row{SelectAllOccurrences, selectAllOccurrences},
+    Row{SortLines, sortLines},
 };
 
 } // namespace

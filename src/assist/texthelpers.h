@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <memory>
+
 namespace zephira {
 
 struct AppContext;
 class CodeMax;
+class LastEdit;
 class ToolPanel;
 
 /// What helps with writing in a code view. Each helper is a member, made when the window's late parts are, or when it is
@@ -23,10 +26,13 @@ public:
     const AppContext &context() const { return m_context; }
     ToolPanel &panel() const { return m_panel; }
 
+    LastEdit &lastEdit() { return *m_lastEdit; }
+
 private:
     CodeMax &m_rt;
     const AppContext &m_context;
     ToolPanel &m_panel;
+    std::unique_ptr<LastEdit> m_lastEdit;
 };
 
 } // namespace zephira

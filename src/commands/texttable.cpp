@@ -29,6 +29,16 @@ constexpr MenuItem shown(QStringView name, QStringView caption, TextCommand comm
 constexpr MenuItem lineItems[] = {
     entry(u"textJoinLines", u"&Join Lines", TextCommand::JoinLines,
           u"Make one line of the selected lines, or of this one and the next", u"Ctrl+J"),
+    entry(u"textMoveLinesUp", u"Move &Up", TextCommand::MoveLinesUp,
+          u"Exchange the selected lines, or this one, with the line above", u"Alt+Up"),
+    entry(u"textMoveLinesDown", u"Move &Down", TextCommand::MoveLinesDown,
+          u"Exchange the selected lines, or this one, with the line below", u"Alt+Down"),
+    entry(u"textDuplicate", u"Du&plicate", TextCommand::Duplicate,
+          u"Repeat the selected text behind itself, or this line below", u"Ctrl+Shift+D"),
+    entry(u"textDeleteLines", u"D&elete", TextCommand::DeleteLines, u"Delete the selected lines, or this one",
+          u"Ctrl+Shift+K"),
+    entry(u"textSortLines", u"&Sort", TextCommand::SortLines,
+          u"Bring the selected lines, or all lines, into the order of letters and numbers"),
     entry(u"textRemoveTrailingBlanks", u"Remove Trailing &Blanks", TextCommand::RemoveTrailingBlanks,
           u"Remove the blanks at the ends of the selected lines, or of all lines"),
 };
@@ -38,7 +48,27 @@ constexpr MenuItem showItems[] = {
           u"Show the elements around the caret in a line below the text"),
 };
 
+constexpr MenuItem caretItems[] = {
+    entry(u"textSelectAllOccurrences", u"Select &All Occurrences", TextCommand::SelectAllOccurrences,
+          u"Select the selected text, or this word, everywhere", u"Ctrl+Shift+L"),
+    entry(u"textCaretInEachLine", u"Caret in &Each Line", TextCommand::CaretInEachLine,
+          u"Put a caret at the end of each selected line", u"Ctrl+Shift+I"),
+    entry(u"textGoToLastEdit", u"Go to the &Last Edit", TextCommand::GoToLastEdit,
+          u"Go to where the text was changed last, and from there to where it was changed before", u"Ctrl+Shift+Y"),
+};
+
+constexpr MenuItem caseItems[] = {
+    entry(u"textMakeUpperCase", u"&Upper Case", TextCommand::MakeUpperCase,
+          u"Make capital letters of the selected text, or of this word", u"Ctrl+Shift+U"),
+    entry(u"textMakeLowerCase", u"&Lower Case", TextCommand::MakeLowerCase,
+          u"Make small letters of the selected text, or of this word", u"Ctrl+L"),
+    entry(u"textCapitalise", u"&Capitalise Words", TextCommand::Capitalise,
+          u"Begin each word of the selected text, or this word, with a capital letter"),
+};
+
 constexpr MenuItem menus[] = {
+    menu(u"textCarets", u"Ca&rets", caretItems),
+    menu(u"textLetters", u"Le&tters", caseItems),
     menu(u"textLines", u"&Lines", lineItems),
     menu(u"textShow", u"&Show", showItems),
 };

@@ -6,9 +6,20 @@ namespace zephira {
 /// The commands that help with writing in the code view, and the windows and panels that belong to it. They are offered
 /// by the text's own context menu, by the command palette and on keys.
 enum class TextCommand {
+    Capitalise,
+    CaretInEachLine,
+    DeleteLines,
+    Duplicate,
+    GoToLastEdit,
     JoinLines,
+    MakeLowerCase,
+    MakeUpperCase,
+    MoveLinesDown,
+    MoveLinesUp,
     RemoveTrailingBlanks,
+    SelectAllOccurrences,
     ShowBreadcrumb,
+    SortLines,
 };
 
 } // namespace zephira

@@ -20,6 +20,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QMenu;
 
@@ -154,6 +155,8 @@ public:
 
     void undo() override;
     void redo() override;
+    /// With nothing selected, cut() and copy() take the lines with carets while the control shows, and paste() puts such
+    /// lines above that of the caret.
     void cut() override;
     void copy() override;
     void paste() override;
@@ -294,6 +297,11 @@ private:
     void type(QKeyEvent *event);
     void beginStep(const QKeyEvent &key);
     void deleteForward();
+    std::vector<qsizetype> caretLines() const;
+    bool takesLines() const;
+    void copyLines();
+    void removeLines();
+    void pasteLines(const QByteArray &text);
     void toggleFold();
     void step(unsigned int message);
     void goToBookmark(bool backward);

@@ -69,7 +69,13 @@ void CodeMax::runCommand(int command)
         {CutByKey, [](CodeMax &editor) { editor.cut(); }},
         {CopyByKey, [](CodeMax &editor) { editor.copy(); }},
         {AddNextOccurrence,
-         [](CodeMax &editor) { editor.perform([&] { editor.m_engine.send(SCI_MULTIPLESELECTADDNEXT); }); }},
+         [](CodeMax &editor) {
+             editor.perform([&] {
+                 // The engine searches where the last replacement was made.
+                 editor.m_engine.send(SCI_TARGETWHOLEDOCUMENT);
+                 editor.m_engine.send(SCI_MULTIPLESELECTADDNEXT);
+             });
+         }},
         {FindPrevious, [](CodeMax &editor) { editor.findNext(true); }},
         {ToggleBookmark,
          [](CodeMax &editor) { editor.m_margins->toggleBookmark(editor.m_engine.lineOf(editor.m_engine.caret())); }},

@@ -320,25 +320,6 @@ void CodeMax::step(unsigned int message)
     m_engine.send(SCI_SCROLLCARET);
 }
 
-void CodeMax::cut()
-{
-    perform([this] {
-        if (canCopy())
-            m_engine.send(SCI_CUT);
-    });
-}
-
-void CodeMax::copy()
-{
-    if (canCopy())
-        m_engine.send(SCI_COPY);
-}
-
-void CodeMax::paste()
-{
-    perform([this] { m_engine.send(SCI_PASTE); });
-}
-
 void CodeMax::clearSelection()
 {
     if (!m_engine.send(SCI_GETSELECTIONEMPTY))

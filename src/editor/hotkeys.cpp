@@ -69,12 +69,6 @@ constexpr std::array hotKeys{
     row(Sci::SCI_ZOOMIN, Ctrl, Qt::Key_Equal),
     row(Sci::SCI_ZOOMOUT, Ctrl, Qt::Key_Minus),
     row(AddNextOccurrence, Ctrl, Qt::Key_D),
-    row(Sci::SCI_SELECTIONDUPLICATE, CtrlShift, Qt::Key_D),
-    row(Sci::SCI_LINEDELETE, CtrlShift, Qt::Key_L),
-    row(Sci::SCI_LOWERCASE, Ctrl, Qt::Key_U),
-    row(Sci::SCI_UPPERCASE, CtrlShift, Qt::Key_U),
-    row(Sci::SCI_MOVESELECTEDLINESUP, Alt, Qt::Key_Up),
-    row(Sci::SCI_MOVESELECTEDLINESDOWN, Alt, Qt::Key_Down),
 };
 
 struct HotKeyText {
@@ -115,12 +109,6 @@ constexpr std::array texts{
     HotKeyText{Sci::SCI_ZOOMIN, u"Larger text"},
     HotKeyText{Sci::SCI_ZOOMOUT, u"Smaller text"},
     text(AddNextOccurrence, u"Select the word, then also its next occurrence"),
-    HotKeyText{Sci::SCI_SELECTIONDUPLICATE, u"Duplicate the selection or the line"},
-    HotKeyText{Sci::SCI_LINEDELETE, u"Delete the line"},
-    HotKeyText{Sci::SCI_LOWERCASE, u"Make the selection lower case"},
-    HotKeyText{Sci::SCI_UPPERCASE, u"Make the selection upper case"},
-    HotKeyText{Sci::SCI_MOVESELECTEDLINESUP, u"Move the lines up"},
-    HotKeyText{Sci::SCI_MOVESELECTEDLINESDOWN, u"Move the lines down"},
 };
 
 } // namespace

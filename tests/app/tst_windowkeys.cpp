@@ -479,7 +479,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("yields");
         QTest::newRow("menu") << u"Alt+E"_s << u"opens the menu Edit"_s << false;
         QTest::newRow("walk") << u"Ctrl+Shift+F6"_s << u"goes from one part of the window to another"_s << false;
-        QTest::newRow("text") << u"Ctrl+Shift+L"_s << u"is \"Delete the line\" in the text"_s << true;
+        QTest::newRow("text") << u"Ctrl+Shift+A"_s << u"is \"Fold or unfold everything\" in the text"_s << true;
         QTest::newRow("undo") << u"Ctrl+Z"_s << u"is \"Undo\" in the text"_s << true;
         QTest::newRow("by words") << u"Ctrl+Shift+Left"_s << u"moves, selects or deletes in the text"_s << true;
         QTest::newRow("visual view") << u"Ctrl+B"_s << u"is \"Bold\" in the visual view"_s << true;

@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(bench.captions(), QStringList{u"body"_s});
         bench.fixture.type(u"<i>"_s);
         QCOMPARE(bench.captions(), (QStringList{u"body"_s, u"i"_s}));
-        // The end of the word began a second step.
+        // The sign behind the word is a step of its own.
         bench.fixture.editor.undo();
         bench.fixture.editor.undo();
         QCOMPARE(bench.captions(), QStringList{u"body"_s});

@@ -47,6 +47,43 @@ private Q_SLOTS:
         QFETCH(QByteArray, lines);
         QTEST(withoutTrailingBlanks(lines), "expected");
     }
+
+    void sorted_data()
+    {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("letters and numbers") << QByteArray("b2\nB10\na\nb1") << QByteArray("a\nb1\nb2\nB10");
+        QTest::newRow("alike ones stay") << QByteArray("b\nA\na\nA\n") << QByteArray("A\na\nA\nb\n");
+        QTest::newRow("accents") << QByteArray("z\n\xc3\xa9\nf\ne") << QByteArray("e\n\xc3\xa9\nf\nz");
+        QTest::newRow("each end stays in its place") << QByteArray("b\r\na\nc") << QByteArray("a\r\nb\nc");
+        QTest::newRow("no end at the last") << QByteArray("b\na") << QByteArray("a\nb");
+        QTest::newRow("empty ones") << QByteArray("b\n\na\n") << QByteArray("\na\nb\n");
+        QTest::newRow("nothing") << QByteArray() << QByteArray();
+    }
+
+    void sorted()
+    {
+        QFETCH(QByteArray, lines);
+        QTEST(sortedLines(lines, QLocale::c()), "expected");
+        QTEST(sortedLines(lines, QLocale(QLocale::English)), "expected");
+    }
+
+    void swapped_data()
+    {
+        QTest::addColumn<QByteArray>("first");
+        QTest::addColumn<QByteArray>("second");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("with ends") << QByteArray("a\n") << QByteArray("b\nc\n") << QByteArray("b\nc\na\n");
+        QTest::newRow("at the end") << QByteArray("a\r\n") << QByteArray("b") << QByteArray("b\r\na");
+        QTest::newRow("an empty one") << QByteArray("a\n") << QByteArray("") << QByteArray("\na");
+    }
+
+    void swapped()
+    {
+        QFETCH(QByteArray, first);
+        QFETCH(QByteArray, second);
+        QTEST(swappedLines(first, second), "expected");
+    }
 };
 
 ZEPHIRA_TEST(TstLineText)
