@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowbench.h"
+#include "support/testregistry.h"
+
+#include <QTest>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+using namespace zephira;
+
+/// What helps with writing, with the keys of the real window.
+class TstTextTools : public QObject
+{
+    Q_OBJECT
+
+private:
+    /// Starts the window and waits for the menus of the text.
+    static CodeMax &begin(WindowBench &bench, const QString &text)
+    {
+        frmmain &window = bench.start();
+        window.show();
+        [&] { QVERIFY(QTest::qWaitForWindowExposed(&window)); }();
+        window.activateWindow();
+        [&] { QTRY_VERIFY(window.findChild<QAction *>(u"textJoinLines"_s)); }();
+        window.rt().setText(text);
+        window.rt().setFocus();
+        [&] { QTRY_VERIFY(window.rt().hasFocus()); }();
+        return window.rt();
+    }
+
+    static void press(WindowBench &bench, const QString &keys)
+    {
+        const QKeyCombination key = QKeySequence::fromString(keys, QKeySequence::PortableText)[0];
+        QTest::keyClick(bench.window->windowHandle(), key.key(), key.keyboardModifiers());
+    }
+
+private Q_SLOTS:
+    void keysOfTheText_data()
+    {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("join") << u"Ctrl+J"_s << u"one\r\ntwo One"_s;
+        QTest::newRow("up") << u"Alt+Up"_s << u"two\r\none\r\nOne"_s;
+        QTest::newRow("down") << u"Alt+Down"_s << u"one\r\nOne\r\ntwo"_s;
+        QTest::newRow("duplicate") << u"Ctrl+Shift+D"_s << u"one\r\ntwo\r\ntwo\r\nOne"_s;
+        QTest::newRow("delete") << u"Ctrl+Shift+K"_s << u"one\r\nOne"_s;
+        QTest::newRow("upper case") << u"Ctrl+Shift+U"_s << u"one\r\nTWO\r\nOne"_s;
+        QTest::newRow("copy and paste a line") << u"Ctrl+C,Ctrl+V"_s << u"one\r\ntwo\r\ntwo\r\nOne"_s;
+        QTest::newRow("cut a line") << u"Ctrl+X"_s << u"one\r\nOne"_s;
+        QTest::newRow("all occurrences") << u"Ctrl+Shift+L,Ctrl+Shift+U"_s << u"one\r\nTWO\r\nOne"_s;
+    }
+
+    void keysOfTheText()
+    {
+        QFETCH(QString, keys);
+        WindowBench bench;
+        CodeMax &rt = begin(bench, u"one\r\ntwo\r\nOne"_s);
+        rt.select({1, 1, 1, 1});
+        const QStringList each = keys.split(u',');
+        for (const QString &key : each)
+            press(bench, key);
+        QTEST(rt.text(), "text");
+        press(bench, u"Ctrl+Z"_s);
+        QCOMPARE(rt.text(), u"one\r\ntwo\r\nOne"_s);
+    }
+
+    /// Nothing that the window does while one types ends the step.
+    void undoGoesByWords()
+    {
+        WindowBench bench;
+        CodeMax &rt = begin(bench, {});
+        QTest::keyClicks(&rt, u"one two Three"_s);
+        QCOMPARE(rt.text(), u"one two Three"_s);
+        for (const QString &text : {u"one two"_s, u"one"_s, QString()}) {
+            press(bench, u"Ctrl+Z"_s);
+            QCOMPARE(rt.text(), text);
+        }
+        press(bench, u"Ctrl+Y"_s);
+        QCOMPARE(rt.text(), u"one"_s);
+    }
+
+    void lastEdit()
+    {
+        WindowBench bench;
+        CodeMax &rt = begin(bench, u"one\r\ntwo\r\nthree"_s);
+        rt.select({1, 3, 1, 3});
+        QTest::keyClicks(&rt, u"x"_s);
+        rt.select({0, 0, 0, 0});
+        press(bench, u"Ctrl+Shift+Y"_s);
+        QCOMPARE(rt.selection(true), (CodeMaxRange{1, 4, 1, 4}));
+    }
+
+    void caretsInLines()
+    {
+        WindowBench bench;
+        CodeMax &rt = begin(bench, u"one\r\ntwo\r\nthree"_s);
+        rt.executeCmd(EditorCommand::SelectAll);
+        press(bench, u"Ctrl+Shift+I"_s);
+        QTest::keyClicks(&rt, u";"_s);
+        QCOMPARE(rt.text(), u"one;\r\ntwo;\r\nthree;"_s);
+    }
+};
+
+ZEPHIRA_TEST(TstTextTools)
+
+#include "tst_texttools.moc"
