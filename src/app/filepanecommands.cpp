@@ -41,9 +41,14 @@ void FilePaneCommands::openListedFile()
     });
 }
 
-void FilePaneCommands::showMenu(const QPoint &place)
+void FilePaneCommands::updateMenu()
 {
     m_parts.menus.setMet(Need::ListedFile, !m_parts.pane.fileList().fileName().isEmpty());
+}
+
+void FilePaneCommands::showMenu(const QPoint &place)
+{
+    updateMenu();
     m_parts.menus.menu(menuname::fileList)->popup(place);
 }
 

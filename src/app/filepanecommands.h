@@ -32,6 +32,9 @@ public:
 
     FilePaneCommands(const AppContext &context, const Parts &parts, QObject *owner);
 
+    /// Brings the entries of the list's menu up to date without opening it.
+    void updateMenu();
+
     // FileListCommands
     void showInQuickView() override;
     void insertLink() override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/frmmain.h"
 
+#include "app/commandpalette.h"
 #include "app/documentcontrols.h"
 #include "app/documentsurface.h"
 #include "app/documenttree.h"
@@ -221,7 +222,16 @@ void frmmain::buildCommands()
     m_plugins = std::make_unique<PluginMenu>(*m_context, *m_menus, this);
     m_plugins->added = [this](QAction *entry, const QString &plugin) { m_keys->addPlugin(entry, plugin); };
     m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
-    m_textTools = std::make_unique<TextTools>(TextTools::Parts{*this, *m_rt, *m_context, *m_menus, *m_keys, *m_ui->documentLayout});
+    m_commandPalette = std::make_unique<CommandPalette>(CommandPalette::Parts{
+        *this, *m_context, *m_menus, *m_standardBar, *m_formattingBar, *m_palette, *m_designerBar, *m_rt});
+    m_commandPalette->update = [this] {
+        m_late.finish();
+        m_filePaneCommands->updateMenu();
+        if (m_designer.isShowing())
+            m_visualTools->updateMenus();
+    };
+    m_textTools = std::make_unique<TextTools>(
+        TextTools::Parts{*this, *m_rt, *m_context, *m_menus, *m_keys, *m_ui->documentLayout, *m_commandPalette});
     m_late.add([this] { m_textTools->start(); });
     m_router = std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus,
                                                             *m_sideCommands, *m_filePaneCommands, *m_end,

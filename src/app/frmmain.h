@@ -17,6 +17,7 @@
 namespace zephira {
 
 class CodeMax;
+class CommandPalette;
 class CommandRouter;
 class CommandToolBar;
 class DesignerBar;
@@ -178,6 +179,7 @@ private:
     std::unique_ptr<SideLists> m_sideLists;
     std::unique_ptr<SideCommands> m_sideCommands;
     std::unique_ptr<PluginMenu> m_plugins;
+    std::unique_ptr<CommandPalette> m_commandPalette;
     std::unique_ptr<TextTools> m_textTools;
     std::unique_ptr<WindowEnd> m_end;
     std::unique_ptr<CommandRouter> m_router;

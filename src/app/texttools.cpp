@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/texttools.h"
 
+#include "app/commandpalette.h"
 #include "app/focusring.h"
 #include "app/windowkeys.h"
 #include "assist/breadcrumb.h"
@@ -61,6 +62,10 @@ void TextTools::attach(FocusRing &ring)
 
 void TextTools::runTextCommand(TextCommand command)
 {
+    if (command == TextCommand::CommandPalette) {
+        m_parts.commands.open();
+        return;
+    }
     if (command == TextCommand::ShowBreadcrumb) {
         const bool on = !m_breadcrumb || !m_breadcrumb->isOn();
         writeSwitch(m_parts.context.settings, UserSetting::Breadcrumb, on);

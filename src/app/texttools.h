@@ -10,6 +10,7 @@ class QMainWindow;
 namespace zephira {
 
 class Breadcrumb;
+class CommandPalette;
 class FocusRing;
 class Menus;
 class ToolPanel;
@@ -28,6 +29,7 @@ public:
         WindowKeys &keys;
         /// Has the views of the document; what is shown below them goes to its end.
         QBoxLayout &document;
+        CommandPalette &commands;
     };
 
     explicit TextTools(const Parts &parts);

@@ -73,6 +73,14 @@ void VisualTools::connectMenus()
     }
 }
 
+void VisualTools::updateMenus()
+{
+    for (const MenuItem &item : menuBarTable()) {
+        if (item.need == Need::VisualView)
+            updateMenu(item);
+    }
+}
+
 void VisualTools::documentComplete()
 {
     if (!m_tools.documentComplete())

@@ -23,6 +23,8 @@ public:
     VisualTools(const AppContext &context, DesignerBar &bar, Menus &menus, QObject *owner);
 
     DesignerTools &tools() { return m_tools; }
+    /// Brings the entries of the designer's menus up to date without opening the menus.
+    void updateMenus();
     bool designerReady() const { return m_tools.designerReady(); }
 
 Q_SIGNALS:

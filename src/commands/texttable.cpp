@@ -26,6 +26,18 @@ constexpr MenuItem shown(QStringView name, QStringView caption, TextCommand comm
     return {name, caption, shortcut, {}, statusTip, {command}, {}, Kind::Check};
 }
 
+/// An entry that works in each view.
+constexpr MenuItem everywhere(MenuItem item)
+{
+    item.need = Need::Nothing;
+    return item;
+}
+
+constexpr MenuItem goItems[] = {
+    everywhere(entry(u"textCommandPalette", u"&Command Palette...", TextCommand::CommandPalette,
+                     u"Search for a command and run it", u"Ctrl+Shift+P")),
+};
+
 constexpr MenuItem lineItems[] = {
     entry(u"textJoinLines", u"&Join Lines", TextCommand::JoinLines,
           u"Make one line of the selected lines, or of this one and the next", u"Ctrl+J"),
@@ -67,9 +79,8 @@ constexpr MenuItem caseItems[] = {
 };
 
 constexpr MenuItem menus[] = {
-    menu(u"textCarets", u"Ca&rets", caretItems),
-    menu(u"textLetters", u"Le&tters", caseItems),
-    menu(u"textLines", u"&Lines", lineItems),
+    menu(u"textCarets", u"Ca&rets", caretItems), menu(u"textLetters", u"Le&tters", caseItems),
+    menu(u"textGo", u"&Go To", goItems),         menu(u"textLines", u"&Lines", lineItems),
     menu(u"textShow", u"&Show", showItems),
 };
 

@@ -122,6 +122,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {SpellingDictionary, own, u"Spelling"_s, u"Dictionary"_s, Text},
         {MenuKeys, own, u"Keys"_s, {}, Text},
         {Breadcrumb, own, u"Text"_s, u"Breadcrumb"_s, Switch, u"0"_s},
+        {CommandUses, own, u"CommandUses"_s, {}, Number},
     };
     // clang-format on
 }

@@ -123,6 +123,7 @@ enum class UserSetting : int {
     SpellingDictionary,
     MenuKeys,
     Breadcrumb,
+    CommandUses,
 };
 
 /// One value of the per-user store.

@@ -8,6 +8,7 @@ namespace zephira {
 enum class TextCommand {
     Capitalise,
     CaretInEachLine,
+    CommandPalette,
     DeleteLines,
     Duplicate,
     GoToLastEdit,

@@ -96,6 +96,7 @@ private Q_SLOTS:
         QTest::newRow("dictionary") << UserSetting::SpellingDictionary << u"zephira/Spelling/Dictionary"_s;
         QTest::newRow("keys") << UserSetting::MenuKeys << u"zephira/Keys/frmmain"_s;
         QTest::newRow("breadcrumb") << UserSetting::Breadcrumb << u"zephira/Text/Breadcrumb"_s;
+        QTest::newRow("uses") << UserSetting::CommandUses << u"zephira/CommandUses/frmmain"_s;
     }
 
     void userValues()

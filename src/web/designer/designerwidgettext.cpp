@@ -86,7 +86,8 @@ bool DesignerWidget::awaitAlignment()
 /// The changes of the source that make the copy's page, if such are found in time.
 std::optional<TextChanges> DesignerWidget::mergedChanges(const DesignerCopy &copy)
 {
-    if (m_mergePatience == 0 || m_text.isPlain() || m_text.source().size() > largestMerge || copy.text.size() > largestMerge)
+    if (m_mergePatience == 0 || m_text.isPlain() || m_text.source().size() > largestMerge
+        || copy.text.size() > largestMerge)
         return {};
     QElapsedTimer time;
     time.start();
