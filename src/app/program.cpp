@@ -151,7 +151,11 @@ int runProgram(QApplication &application, const QString &argument)
     ftp::registerForms(catalogue, std::make_shared<FtpClient>(FtpClient{ftpOperations}));
     tags::registerForms(catalogue);
     settings::registerForms(catalogue, fileTypes, QCoreApplication::applicationFilePath());
-    tools::registerForms(catalogue, [] { return loadModuleAs<TidyEngine>(modulePath(u"zephiratidy.so"_s)); });
+    const TidyEngineLoader loadTidy = [] { return loadModuleAs<TidyEngine>(modulePath(u"zephiratidy.so"_s)); };
+    const AbbreviationLoader loadAbbreviations = [] {
+        return loadModuleAs<AbbreviationEngine>(modulePath(u"zephiraemmet.so"_s));
+    };
+    tools::registerForms(catalogue, loadTidy);
     tools::registerSpelling(catalogue, spelling);
     views::registerForms(
         catalogue,
@@ -182,7 +186,8 @@ int runProgram(QApplication &application, const QString &argument)
                             ended = true;
                             QCoreApplication::exit(EXIT_SUCCESS);
                         },
-                    .hiddenParts = HiddenParts::AfterPicture});
+                    .hiddenParts = HiddenParts::AfterPicture,
+                    .text = {.loadAbbreviations = loadAbbreviations, .loadTidy = loadTidy}});
     const EndSignals endSignals;
     QObject::connect(&endSignals, &EndSignals::received, &window, [&window] { window.windowEnd().endNow(); });
     const SessionEnd sessionEnd(application, window.windowEnd());

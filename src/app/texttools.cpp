@@ -21,6 +21,7 @@ namespace zephira {
 TextTools::TextTools(const Parts &parts)
     : m_parts(parts), m_panel(new ToolPanel(parts.window)), m_helpers(parts.rt, parts.context, *m_panel)
 {
+    m_helpers.setServices(parts.services);
     m_panel->leave = [&rt = parts.rt] { rt.setFocus(); };
 }
 

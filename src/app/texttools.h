@@ -30,6 +30,7 @@ public:
         /// Has the views of the document; what is shown below them goes to its end.
         QBoxLayout &document;
         CommandPalette &commands;
+        TextServices services = {};
     };
 
     explicit TextTools(const Parts &parts);

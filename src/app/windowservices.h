@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "assist/textservices.h"
 #include "core/webviews.h"
 
 #include <QString>
@@ -46,6 +47,8 @@ struct WindowServices {
     /// Ends the process at once, without asking anything.
     std::function<void()> endProcess;
     HiddenParts hiddenParts = HiddenParts::AtOnce;
+    /// What the helpers of the code view load. The window itself shows their notices.
+    TextServices text = {};
 };
 
 } // namespace zephira

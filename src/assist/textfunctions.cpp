@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/textfunctions.h"
 
+#include "assist/abbreviationcommands.h"
 #include "assist/caretcommands.h"
 #include "assist/lastedit.h"
 #include "assist/linecommands.h"
@@ -24,6 +25,7 @@ constexpr std::array rows{
     Row{CaretInEachLine, caretInEachLine},
     Row{DeleteLines, deleteLines},
     Row{Duplicate, duplicate},
+    Row{ExpandAbbreviation, expandAbbreviation},
     Row{GoToLastEdit, goToLastEdit},
     Row{JoinLines, joinLines},
     Row{MakeLowerCase, makeLowerCase},
@@ -33,6 +35,7 @@ constexpr std::array rows{
     Row{RemoveTrailingBlanks, removeTrailingBlanks},
     Row{SelectAllOccurrences, selectAllOccurrences},
     Row{SortLines, sortLines},
+    Row{WrapWithAbbreviation, wrapWithAbbreviation},
 };
 
 } // namespace

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/texthelpers.h"
 
+#include "assist/abbreviations/abbreviations.h"
 #include "assist/lastedit.h"
+#include "core/appcontext.h"
 
 namespace zephira {
 
@@ -12,5 +14,13 @@ TextHelpers::TextHelpers(CodeMax &rt, const AppContext &context, ToolPanel &pane
 TextHelpers::~TextHelpers() = default;
 
 void TextHelpers::start() {}
+
+Abbreviations &TextHelpers::abbreviations()
+{
+    if (!m_abbreviations)
+        m_abbreviations = std::make_unique<Abbreviations>(
+            Abbreviations::Parts{m_rt, m_context.document, m_services.loadAbbreviations, m_services.notice});
+    return *m_abbreviations;
+}
 
 } // namespace zephira

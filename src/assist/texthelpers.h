@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "assist/textservices.h"
+
 #include <memory>
 
 namespace zephira {
 
+class Abbreviations;
 struct AppContext;
 class CodeMax;
 class LastEdit;
@@ -25,6 +28,11 @@ public:
     CodeMax &rt() const { return m_rt; }
     const AppContext &context() const { return m_context; }
     ToolPanel &panel() const { return m_panel; }
+    const TextServices &services() const { return m_services; }
+    /// To be called before the helpers are started.
+    void setServices(TextServices services) { m_services = std::move(services); }
+
+    Abbreviations &abbreviations();
 
     LastEdit &lastEdit() { return *m_lastEdit; }
 
@@ -33,6 +41,8 @@ private:
     const AppContext &m_context;
     ToolPanel &m_panel;
     std::unique_ptr<LastEdit> m_lastEdit;
+    TextServices m_services;
+    std::unique_ptr<Abbreviations> m_abbreviations;
 };
 
 } // namespace zephira

@@ -38,6 +38,13 @@ constexpr MenuItem goItems[] = {
                      u"Search for a command and run it", u"Ctrl+Shift+P")),
 };
 
+constexpr MenuItem abbreviationItems[] = {
+    entry(u"textExpandAbbreviation", u"&Expand Abbreviation", TextCommand::ExpandAbbreviation,
+          u"Make markup or style sheets of the abbreviation before the caret, such as ul>li*3", u"Ctrl+E"),
+    entry(u"textWrapWithAbbreviation", u"&Wrap with Abbreviation...", TextCommand::WrapWithAbbreviation,
+          u"Put the elements of an abbreviation around the selection", u"Ctrl+Shift+E"),
+};
+
 constexpr MenuItem lineItems[] = {
     entry(u"textJoinLines", u"&Join Lines", TextCommand::JoinLines,
           u"Make one line of the selected lines, or of this one and the next", u"Ctrl+J"),
@@ -78,11 +85,13 @@ constexpr MenuItem caseItems[] = {
           u"Begin each word of the selected text, or this word, with a capital letter"),
 };
 
+// A menu a line.\n// clang-format off
 constexpr MenuItem menus[] = {
-    menu(u"textCarets", u"Ca&rets", caretItems), menu(u"textLetters", u"Le&tters", caseItems),
-    menu(u"textGo", u"&Go To", goItems),         menu(u"textLines", u"&Lines", lineItems),
-    menu(u"textShow", u"&Show", showItems),
+    menu(u"textGo", u"&Go To", goItems),          menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
+    menu(u"textCarets", u"Ca&rets", caretItems),  menu(u"textLines", u"&Lines", lineItems),
+    menu(u"textLetters", u"Le&tters", caseItems), menu(u"textShow", u"&Show", showItems),
 };
+// clang-format on
 
 } // namespace
 

@@ -11,6 +11,7 @@ enum class TextCommand {
     CommandPalette,
     DeleteLines,
     Duplicate,
+    ExpandAbbreviation,
     GoToLastEdit,
     JoinLines,
     MakeLowerCase,
@@ -21,6 +22,7 @@ enum class TextCommand {
     SelectAllOccurrences,
     ShowBreadcrumb,
     SortLines,
+    WrapWithAbbreviation,
 };
 
 } // namespace zephira

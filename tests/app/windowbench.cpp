@@ -100,7 +100,8 @@ frmmain &WindowBench::start(const QString &argument)
                                                       .iniFile = configuration.file(),
                                                       .executable = executable,
                                                       .endProcess = [this] { ++ended; },
-                                                      .hiddenParts = hiddenParts});
+                                                      .hiddenParts = hiddenParts,
+                                                      .text = text});
     LoadHandler(*window, argument).run();
     return *window;
 }

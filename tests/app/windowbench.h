@@ -88,6 +88,8 @@ public:
     const QString executable = QStringLiteral("/opt/zephira/zephira");
     FormCatalogue catalogue;
     FakeWebViews webViews;
+    /// What the helpers of the text load; nothing at first.
+    TextServices text;
     /// Returns the fakes, unless a test sets something else before the start.
     WebViewsLoader loadWebViews = [this]() -> Result<WebViews *> { return &webViews; };
     HiddenParts hiddenParts = HiddenParts::AtOnce;

@@ -181,8 +181,8 @@ private Q_SLOTS:
         QVERIFY(program.waitForWindow(untitled));
         const QByteArray maps = ProgramFolder::read(u"/proc/%1/maps"_s.arg(program.pid()));
         QVERIFY(maps.contains("libQt6Widgets"));
-        for (const char *library :
-             {"WebEngine", "libcurl", "zephiraweb", "zephirafetch", "libtidy", "zephiratidy", "libLLVM", "_dri.so"})
+        for (const char *library : {"WebEngine", "libcurl", "zephiraweb", "zephirafetch", "libtidy", "zephiratidy",
+                                    "zephiraemmet", "libQt6Qml", "libLLVM", "_dri.so"})
             QVERIFY2(!maps.contains(library), library);
     }
 };
