@@ -114,6 +114,11 @@ private Q_SLOTS:
         row("delete a selection", "a.txt", "abc", "shift+Right shift+Right Delete", "c");
         row("delete a character", "a.txt", "abc", "Delete Delete", "c");
         row("undo", "a.txt", "abc", "x ctrl+a Delete ctrl+z", "xabc");
+        row("an abbreviation", "a.html", "ul>li*2", "ctrl+End ctrl+e x Tab y",
+            "<ul>\n\t<li>x</li>\n\t<li>y</li>\n</ul>");
+        row("an abbreviation taken back", "a.html", "x ul>li", "ctrl+End ctrl+e ctrl+z y", "x ul>liy");
+        row("wrapping", "a.html", "x", "ctrl+a ctrl+shift+e i Return y", "<i>x</i>y");
+        row("wrapping given up", "a.html", "x", "ctrl+a ctrl+shift+e i Escape y", "y");
         row("undo and redo", "a.txt", "abc", "ctrl+a Delete x ctrl+z ctrl+z ctrl+y", "");
         row("start tag keeps the selection in front", "a.html", "ab", "shift+Right shift+Delete", "a<>b");
         row("no tags in a text", "a.txt", "ab", "shift+Right shift+Delete", "ab");
