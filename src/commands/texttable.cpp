@@ -85,11 +85,14 @@ constexpr MenuItem caseItems[] = {
           u"Begin each word of the selected text, or this word, with a capital letter"),
 };
 
-// A menu a line.\n// clang-format off
+// clang-format off
 constexpr MenuItem menus[] = {
-    menu(u"textGo", u"&Go To", goItems),          menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
-    menu(u"textCarets", u"Ca&rets", caretItems),  menu(u"textLines", u"&Lines", lineItems),
-    menu(u"textLetters", u"Le&tters", caseItems), menu(u"textShow", u"&Show", showItems),
+    menu(u"textGo", u"&Go To", goItems),
+    menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
+    menu(u"textCarets", u"Ca&rets", caretItems),
+    menu(u"textLines", u"&Lines", lineItems),
+    menu(u"textLetters", u"Le&tters", caseItems),
+    menu(u"textShow", u"&Show", showItems),
 };
 // clang-format on
 
