@@ -2,6 +2,7 @@
 #include "desktop/webenginestart.h"
 
 #include "core/quietmessages.h"
+#include "desktop/earlyfonts.h"
 
 #include <QStringList>
 
@@ -73,9 +74,13 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     qputenv("QT_QUICK_BACKEND", "software");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // The thread reads the environment, so the last change of the environment is behind us.
+    EarlyFonts fonts;
     const QuietMessages quiet;
     const OrderlyEnd orderly;
-    return std::make_unique<QApplication>(argc, argv);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    fonts.wait();
+    return application;
 }
 
 } // namespace zephira

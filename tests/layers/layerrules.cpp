@@ -63,6 +63,7 @@ constexpr Rule includeRules[] = {
     {uR"(^<tidy)", u"tools/", u"only the tools include tidy"},
     {uR"(^<(sys/socket|netdb|netinet/|arpa/))", u"ftp/net/", u"only the file transfer opens sockets"},
     {uR"(^<hunspell/)", u"tools/", u"only the speller includes hunspell"},
+    {uR"(^<fontconfig/)", u"desktop/", u"only desktop includes fontconfig"},
 };
 
 constexpr Rule codeRules[] = {
