@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSettings>
 #include <QTest>
 
@@ -286,6 +287,25 @@ private Q_SLOTS:
         const QSettings settings(folder.home() + u"/.config/Zephira/Zephira.ini"_s, QSettings::IniFormat);
         QCOMPARE(settings.value(u"Zephira/data/apppath"_s).toString(), folder.path());
         QCOMPARE(settings.value(u"Zephira/data/version"_s).toString(), u"210"_s);
+    }
+
+    /// Looking names up takes an eighth of the time until the first picture, so their most frequent places come first.
+    void namesAreLookedUpWhereMostOfThemAre()
+    {
+        const ProgramFolder folder;
+        QProcess loader;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LD_TRACE_LOADED_OBJECTS"_s, u"1"_s); // It lists the libraries instead of starting.
+        loader.setProcessEnvironment(environment);
+        loader.start(folder.executable(), QStringList());
+        QVERIFY(loader.waitForFinished());
+        QStringList libraries;
+        for (const QByteArray &line : loader.readAllStandardOutput().split('\n')) {
+            if (line.contains("=>"))
+                libraries.append(QString::fromUtf8(line.trimmed().split('.').constFirst()));
+        }
+        const QStringList first = {u"libQt6Core"_s, u"libstdc++"_s, u"libQt6Gui"_s, u"libQt6Widgets"_s, u"libc"_s};
+        QCOMPARE(libraries.first(first.size()), first);
     }
 
 private:
