@@ -8,6 +8,7 @@
 #include <QStringConverter>
 
 #include <algorithm>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -39,27 +40,58 @@ public:
     {
         if (profile.startsWith("\xEF\xBB\xBF"))
             m_next += 3;
+        m_lineFeed = find('\n', m_next, m_end);
     }
 
     bool atEnd() const { return m_next == m_end; }
     Line take();
+    /// Skips lines up to one that begins with "[", or to the end. Most lines that are looked at are before the wanted
+    /// section.
+    void skipToSection();
 
 private:
     static Line read(QByteArrayView text);
 
+    /// The position of the first such character, or the end.
+    static const char *find(char c, const char *begin, const char *end)
+    {
+        const void *found = begin == end ? nullptr : std::memchr(begin, c, static_cast<std::size_t>(end - begin));
+        return found ? static_cast<const char *>(found) : end;
+    }
+
     const char *m_next;
     const char *m_end;
+    /// The next line feed. It is kept because there may be none, and then each line would look for it up to the end.
+    const char *m_lineFeed;
 };
 
 Line Lines::take()
 {
-    const char *stop = std::find_if(m_next, m_end, [](char c) { return c == '\r' || c == '\n'; });
+    if (m_lineFeed < m_next)
+        m_lineFeed = find('\n', m_next, m_end);
+    const char *stop = find('\r', m_next, m_lineFeed);
     Line line = read({m_next, stop - m_next});
     if (m_end - stop >= 2 && stop[0] == '\r' && stop[1] == '\n')
         ++stop;
     m_next = stop == m_end ? stop : stop + 1;
     line.next = m_next;
     return line;
+}
+
+void Lines::skipToSection()
+{
+    const char *open = find('[', m_next, m_end);
+    while (open != m_end) {
+        const char *begin = open;
+        while (begin != m_next && begin[-1] == ' ')
+            --begin;
+        if (begin == m_next || begin[-1] == '\n' || begin[-1] == '\r') {
+            m_next = begin;
+            return;
+        }
+        open = find('[', open + 1, m_end);
+    }
+    m_next = m_end;
 }
 
 Line Lines::read(QByteArrayView text)
@@ -115,7 +147,11 @@ ValuePlace findValue(QByteArrayView profile, const Name &section, const Name &ke
 {
     ValuePlace place;
     Lines lines(profile);
-    while (!lines.atEnd()) {
+    for (;;) {
+        if (!place.sectionFound)
+            lines.skipToSection();
+        if (lines.atEnd())
+            break;
         const Line line = lines.take();
         if (line.kind == Line::Kind::Section) {
             if (place.sectionFound)

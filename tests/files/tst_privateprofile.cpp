@@ -43,6 +43,9 @@ private Q_SLOTS:
         row("empty value", "[s]\nk=\n", u""_s);
         row("equals sign in the value", "[s]\nk=a=b\n", u"a=b"_s);
         row("semicolon in the value", "[s]\nk=a;b\n", u"a;b"_s);
+        row("brackets before the section", "x=[s]\n[y\nz [s]\n   [s]\nk=v\n", u"v"_s);
+        row("brackets and blanks after CR", "x=[ [[\r [ s]\rk=v\r", u"v"_s);
+        row("brackets alone", "[[[\n[", none);
         row("brackets in the value", "[s]\nk=[t]\nx=1\n", u"[t]"_s);
         row("comment", "[s]\n;k=no\n  ; k=no\nk=v\n", u"v"_s);
         row("first key wins", "[s]\nk=1\nk=2\n", u"1"_s);
