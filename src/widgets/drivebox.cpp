@@ -6,6 +6,7 @@
 
 #include <QIcon>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
 
 using namespace Qt::StringLiterals;
 
@@ -13,9 +14,15 @@ namespace zephira {
 
 DriveBox::DriveBox(QWidget *parent) : QComboBox(parent)
 {
-    // A long mount point must not make the pane wider.
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     refill();
+}
+
+QSize DriveBox::sizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const int height = qMax(fontMetrics().height(), iconSize().height()) + 2;
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, {0, height}, this);
 }
 
 void DriveBox::refill()
