@@ -29,10 +29,11 @@ void CommandToolBar::addButton(const ToolButton &button)
 {
     QAction *action = new QAction(this);
     action->setObjectName(button.key);
-    addAction(action);
     const MenuItem *entry = findMenuItem(button.entry);
     setTip(action, tipWithKeys(button.tip, entry ? entry->shortcut : QStringView()));
     setCommandIcon(action, button.icon);
+    addAction(action); // Last, because the toolbar would adapt its button to each change.
+    widgetForAction(action)->setAccessibleName(action->toolTip());
     connect(action, &QAction::triggered, this, [this, &button] { Q_EMIT chosen(button.command); });
     if (button.pullDown.empty())
         return;
@@ -58,7 +59,8 @@ void CommandToolBar::setTip(QAction *action, const QString &tip)
 {
     action->setText(tip);
     action->setToolTip(tip);
-    widgetForAction(action)->setAccessibleName(tip);
+    if (QWidget *button = widgetForAction(action))
+        button->setAccessibleName(tip);
 }
 
 void CommandToolBar::showKeys(QStringView entry, const QString &keys)
