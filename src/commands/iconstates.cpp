@@ -3,6 +3,7 @@
 
 #include "widgets/themeicon.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -44,9 +45,15 @@ qreal luminance(QRgb colour)
     return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
 }
 
-bool isVisible(const QPixmap &pixmap, const QColor &background)
+bool isVisible(const QImage &picture, const QColor &background)
 {
-    return shareSeen(pixmap.toImage(), background) >= visibleShare;
+    return shareSeen(picture, background) >= visibleShare;
+}
+
+/// The picture in the format that looking at it needs, so that looking twice converts it once.
+QImage pixelsOf(const QPixmap &pixmap)
+{
+    return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
 /// The colour of some that is seen best on the background where it is seen worst.
@@ -105,6 +112,8 @@ qreal shareSeen(const QImage &picture, const QColor &background)
     const qreal behind = luminance(background.rgb());
     int painted = 0;
     int seen = 0;
+    QRgb last = 0; // Neighbours mostly have the same colour.
+    bool lastIsSeen = false;
     const int height = image.height();
     const auto width = static_cast<std::size_t>(image.width());
     for (int row = 0; row < height; ++row) {
@@ -112,9 +121,13 @@ qreal shareSeen(const QImage &picture, const QColor &background)
         for (const QRgb pixel : line) {
             if (qAlpha(pixel) < opaqueEnough)
                 continue;
-            const auto [darker, lighter] = std::minmax({behind, luminance(pixel)});
+            if (pixel != last) {
+                const auto [darker, lighter] = std::minmax({behind, luminance(pixel)});
+                lastIsSeen = (lighter + 0.05) / (darker + 0.05) >= visibleContrast;
+                last = pixel;
+            }
             ++painted;
-            seen += (lighter + 0.05) / (darker + 0.05) >= visibleContrast;
+            seen += lastIsSeen;
         }
     }
     return painted == 0 ? 1 : static_cast<qreal>(seen) / painted;
@@ -127,7 +140,7 @@ QPixmap IconStates::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
         return faint(pixmap);
     case QIcon::Selected: {
         const QColor behind = option->palette.color(QPalette::Highlight);
-        if (isVisible(pixmap, behind))
+        if (isVisible(pixelsOf(pixmap), behind))
             return pixmap;
         const QColor text = option->palette.color(QPalette::HighlightedText);
         return inColour(pixmap, text);
@@ -135,7 +148,8 @@ QPixmap IconStates::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
     case QIcon::Normal: {
         const QColor window = option->palette.color(QPalette::Window);
         const QColor paper = option->palette.color(QPalette::Base);
-        if (isVisible(pixmap, window) && isVisible(pixmap, paper))
+        const QImage picture = pixelsOf(pixmap);
+        if (isVisible(picture, window) && isVisible(picture, paper))
             return pixmap;
         const QColor text = option->palette.color(QPalette::WindowText);
         return inColour(pixmap, bestOn({window, paper}, {text, middleGrey}));
