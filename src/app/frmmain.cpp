@@ -49,6 +49,7 @@
 #include "ui_frmmain.h"
 #include "views/previewpane.h"
 #include "widgets/droppedfile.h"
+#include "widgets/tabstrip.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -64,15 +65,16 @@ constexpr int sidePaneWidth = 250;
 constexpr int lowestPane = 96;
 constexpr int lowestView = 30;
 
-void addTabs(QTabBar &bar, std::span<const WindowTab> tabs)
+void addTabs(TabStrip &bar, std::span<const WindowTab> tabs)
 {
-    for (const WindowTab &tab : tabs) {
-        const int index = bar.addTab(iconFor(tab.icon), tab.caption.toString());
-        bar.setTabData(index, tab.key.toString());
-        bar.setTabToolTip(index, tab.tip.toString());
-        bar.setAccessibleTabName(index, tab.tip.toString());
-    }
-    bar.updateGeometry(); // A hidden bar doesn't report its new size by itself.
+    bar.fill([&] {
+        for (const WindowTab &tab : tabs) {
+            const int index = bar.addTab(iconFor(tab.icon), tab.caption.toString());
+            bar.setTabData(index, tab.key.toString());
+            bar.setTabToolTip(index, tab.tip.toString());
+            bar.setAccessibleTabName(index, tab.tip.toString());
+        }
+    });
 }
 
 } // namespace
@@ -154,7 +156,8 @@ void frmmain::buildBars()
 
     auto *paletteBar = new QToolBar(u"Tool palette"_s, this);
     paletteBar->setObjectName(u"paletteBar"_s);
-    m_palette = new Palette(paletteBar);
+    m_palette = new Palette(paletteBar, Palette::Contents::Later);
+    m_late.add([this] { m_palette->build(); });
     paletteBar->addWidget(m_palette);
     addToolBarBreak();
     addToolBar(paletteBar);
@@ -168,9 +171,22 @@ void frmmain::buildBars()
                           static_cast<QToolBar *>(m_designerBar)})
         bar->setMovable(false);
 
+    m_late.add([this] { makeSelectorList(); });
+    m_late.add([this] { addVariableBoxes(*m_palette, *m_rt); });
+}
+
+void frmmain::makeSelectorList()
+{
     m_selectorList = new SelectorList(*m_context, m_ui->centralwidget);
     m_selectorList->hide();
-    m_late.add([this] { addVariableBoxes(*m_palette, *m_rt); });
+    connect(m_selectorList, &SelectorList::finished, this, [this] { m_sideCommands->setSelectorListVisible(false); });
+}
+
+SelectorList &frmmain::selectorList()
+{
+    if (!m_selectorList)
+        m_late.finish();
+    return *m_selectorList;
 }
 
 void frmmain::buildSidePane()
@@ -218,7 +234,8 @@ void frmmain::buildCommands()
     m_filePaneCommands = new FilePaneCommands(
         *m_context, {*m_document, *m_viewSwitch, *m_sidePane->tabs(), *m_filePane, *m_menus, *m_forms}, this);
     m_sideCommands = std::make_unique<SideCommands>(SideCommands::Parts{
-        *m_context, *m_sidePane, *m_sideLists, *m_palette, *m_selectorList, *m_rt, *m_forms, m_services.spelling});
+        *m_context, *m_sidePane, *m_sideLists, *m_palette, [this]() -> SelectorList & { return selectorList(); }, *m_rt,
+        *m_forms, m_services.spelling});
     m_plugins = std::make_unique<PluginMenu>(*m_context, *m_menus, this);
     m_plugins->added = [this](QAction *entry, const QString &plugin) { m_keys->addPlugin(entry, plugin); };
     m_end = std::make_unique<WindowEnd>(*this, m_services, *m_recoveryKeeper);
@@ -292,9 +309,7 @@ void frmmain::connectCommands()
     connect(m_formattingBar, &CommandToolBar::chosen, this, run);
     connect(m_palette, &Palette::clicked, this, [this](const QuickTag &tag) { m_router->runTag(tag); });
     connect(m_palette, &Palette::headingClicked, this, [this](int size) { m_router->heading(size); });
-    const auto hideSelectors = [this] { m_sideCommands->setSelectorListVisible(false); };
-    connect(m_palette, &Palette::tabClicked, this, hideSelectors);
-    connect(m_selectorList, &SelectorList::finished, this, hideSelectors);
+    connect(m_palette, &Palette::tabClicked, this, [this] { m_sideCommands->setSelectorListVisible(false); });
 }
 
 void frmmain::InsertAtCaret(const QString &text)

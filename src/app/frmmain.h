@@ -119,7 +119,7 @@ public:
     FilePane &filePane() { return *m_filePane; }
     DesignerBar &designerBar() { return *m_designerBar; }
     StatusPanels &panels() { return *m_panels; }
-    SelectorList &selectorList() { return *m_selectorList; }
+    SelectorList &selectorList();
     SideLists &sideLists() { return *m_sideLists; }
     ModalFormOpener &forms() { return *m_forms; }
     LateParts &late() { return m_late; }
@@ -139,6 +139,7 @@ private:
     void buildDocument();
     void buildBars();
     void buildSidePane();
+    void makeSelectorList();
     void buildWorkspace();
     void buildCommands();
     void offerLeftCopies();

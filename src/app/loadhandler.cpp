@@ -208,7 +208,8 @@ void LoadHandler::removeHotKeys()
 
 void LoadHandler::readStyleSelectors()
 {
-    m_window.selectorList().addItems(dataLines(u"deps/csssel.dat"_s));
+    m_window.late().add(
+        [&window = m_window, lines = dataLines(u"deps/csssel.dat"_s)] { window.selectorList().addItems(lines); });
 }
 
 void LoadHandler::rootScriptFolder()

@@ -37,7 +37,7 @@ void SideCommands::addCustomEntry()
 
 void SideCommands::setSelectorListVisible(bool visible)
 {
-    SelectorList &list = m_parts.selectors;
+    SelectorList &list = m_parts.selectors();
     if (visible) {
         const QSize room = list.parentWidget()->size();
         list.setGeometry(0, 0, qBound(smallestListWidth, list.sizeHintForColumn(0) + roomForScrollBar, room.width()),

@@ -3,6 +3,8 @@
 
 #include "commands/commandparts.h"
 
+#include <functional>
+
 class QWidget;
 
 namespace zephira {
@@ -24,7 +26,7 @@ public:
         SidePane &pane;
         SideLists &lists;
         Palette &palette;
-        SelectorList &selectors;
+        std::function<SelectorList &()> selectors;
         /// Gets the focus when the list of selectors is hidden.
         QWidget &codeView;
         ModalFormOpener &forms;

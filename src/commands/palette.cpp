@@ -3,11 +3,11 @@
 
 #include "commands/icons.h"
 #include "commands/palettetable.h"
+#include "widgets/tabstrip.h"
 
 #include <QAction>
 #include <QActionEvent>
 #include <QMenu>
-#include <QTabBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -85,7 +85,7 @@ private:
     bool m_isBuilt = false;
 };
 
-Palette::Palette(QWidget *parent) : QWidget(parent), m_tabs(new QTabBar(this))
+Palette::Palette(QWidget *parent, Contents contents) : QWidget(parent), m_tabs(new TabStrip(this))
 {
     m_tabs->setObjectName(u"toolpane"_s);
     m_tabs->setAccessibleName(u"Tool palette"_s);
@@ -98,23 +98,36 @@ Palette::Palette(QWidget *parent) : QWidget(parent), m_tabs(new QTabBar(this))
     layout->setSpacing(0);
     layout->addWidget(m_tabs);
 
-    const std::span<const PaletteToolbar> table = paletteToolbars();
-    for (int index = 0; index < static_cast<int>(table.size()); ++index) {
-        const PaletteToolbar &row = table[static_cast<std::size_t>(index)];
-        m_tabs->setTabData(m_tabs->addTab(row.caption.toString()), row.caption.toString());
-        PaletteBar *bar = new PaletteBar(row, this);
-        bar->setObjectName(u"Toolbar_%1"_s.arg(index));
-        m_bars.push_back(bar);
-        fill(index);
-        bar->setVisible(index == 0);
-        layout->addWidget(bar);
-    }
+    m_tabs->fill([this] {
+        for (const PaletteToolbar &row : paletteToolbars())
+            m_tabs->setTabData(m_tabs->addTab(row.caption.toString()), row.caption.toString());
+    });
+    addToolBar();
+    if (contents == Contents::AtOnce)
+        build();
     connect(m_tabs, &QTabBar::currentChanged, this, &Palette::showToolbar);
     connect(m_tabs, &QTabBar::tabBarClicked, this, [this](int index) {
         // A change of the tab is reported by its own signal.
         if (index == m_tabs->currentIndex())
             Q_EMIT tabClicked(index);
     });
+}
+
+void Palette::build()
+{
+    while (m_bars.size() < paletteToolbars().size())
+        addToolBar();
+}
+
+void Palette::addToolBar()
+{
+    const int index = static_cast<int>(m_bars.size());
+    PaletteBar *bar = new PaletteBar(paletteToolbars()[m_bars.size()], this);
+    bar->setObjectName(u"Toolbar_%1"_s.arg(index));
+    m_bars.push_back(bar);
+    fill(index);
+    bar->setVisible(index == 0);
+    layout()->addWidget(bar);
 }
 
 void Palette::fill(int index)
@@ -149,11 +162,17 @@ void Palette::addHeadings(QAction *button)
 
 void Palette::showToolbar(int index)
 {
+    build();
     // A row with text alone would be lower than one with icons, and the layout would jump.
     m_bars[static_cast<std::size_t>(index)]->setMinimumHeight(m_bars[0]->sizeHint().height());
     for (std::size_t i = 0; i < m_bars.size(); ++i)
         m_bars[i]->setVisible(static_cast<int>(i) == index);
     Q_EMIT tabClicked(index);
+}
+
+QTabBar *Palette::tabs() const
+{
+    return m_tabs;
 }
 
 QToolBar *Palette::toolBar(int index) const
@@ -168,16 +187,19 @@ QAction *Palette::action(int index, const QString &key) const
 
 void Palette::addBox(PaletteTab tab, QWidget *box)
 {
+    build();
     m_bars[static_cast<std::size_t>(tab)]->setBox(box);
 }
 
 bool Palette::isSelectorPressed() const
 {
-    return action(static_cast<int>(PaletteTab::Style), selectorKey.toString())->isChecked();
+    constexpr auto bar = static_cast<std::size_t>(PaletteTab::Style);
+    return m_bars.size() > bar && action(static_cast<int>(PaletteTab::Style), selectorKey.toString())->isChecked();
 }
 
 void Palette::setSelectorPressed(bool pressed)
 {
+    build();
     action(static_cast<int>(PaletteTab::Style), selectorKey.toString())->setChecked(pressed);
 }
 

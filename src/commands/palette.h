@@ -14,18 +14,25 @@ class QToolBar;
 namespace zephira {
 
 class PaletteBar;
+class TabStrip;
 
 /// The tool palette: the tab strip `toolpane` and the toolbars `Toolbar_0` to `Toolbar_11`, of which the selected one
-/// shows. All actions exist from the start; a toolbar makes its buttons and their icons when it first shows.
+/// shows. A toolbar makes its buttons and their icons when it first shows; its actions exist before.
 class Palette : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Palette(QWidget *parent = nullptr);
+    enum class Contents { AtOnce, Later };
 
-    QTabBar *tabs() const { return m_tabs; }
-    /// Toolbar 0 to 11.
+    explicit Palette(QWidget *parent = nullptr, Contents contents = Contents::AtOnce);
+
+    /// Makes the toolbars behind the first one where they were to come later. They also come when one of them is to show
+    /// or to change.
+    void build();
+
+    QTabBar *tabs() const;
+    /// Toolbar 0 to 11, where they have been made.
     QToolBar *toolBar(int index) const;
     /// The button with a key in toolbar 0 to 5, or nullptr.
     QAction *action(int index, const QString &key) const;
@@ -45,11 +52,12 @@ Q_SIGNALS:
     void tabClicked(int index);
 
 private:
+    void addToolBar();
     void fill(int index);
     void addHeadings(QAction *button);
     void showToolbar(int index);
 
-    QTabBar *m_tabs;
+    TabStrip *m_tabs;
     std::vector<PaletteBar *> m_bars;
 };
 

@@ -18,7 +18,7 @@ constexpr int tabSize = 32;
 
 } // namespace
 
-SideTabBar::SideTabBar(QWidget *parent) : QTabBar(parent)
+SideTabBar::SideTabBar(QWidget *parent) : TabStrip(parent)
 {
     setShape(QTabBar::RoundedWest);
     setIconSize({pictureSize, pictureSize});
@@ -39,7 +39,7 @@ bool SideTabBar::event(QEvent *event)
     return QTabBar::event(event);
 }
 
-QSize SideTabBar::tabSizeHint(int) const
+QSize SideTabBar::sizeOfTab(int) const
 {
     return {tabSize, tabSize};
 }

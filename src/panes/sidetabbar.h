@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QTabBar>
+#include "widgets/tabstrip.h"
 
 #include <functional>
 #include <utility>
@@ -10,7 +10,7 @@ namespace zephira {
 
 /// A strip of upright picture tabs along the left edge. A tab's caption is not painted but read by assistive technology and
 /// shown as its tip. Files can be dropped on the strip.
-class SideTabBar : public QTabBar
+class SideTabBar : public TabStrip
 {
     Q_OBJECT
 
@@ -28,8 +28,8 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
-    QSize tabSizeHint(int index) const override;
-    QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+    QSize sizeOfTab(int index) const override;
+    QSize leastSizeOfTab(int index) const override { return sizeOfTab(index); }
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;

@@ -26,6 +26,7 @@ private Q_SLOTS:
 
     void tabs();
     void oneToolbarShows();
+    void theOtherToolbarsCanComeLater();
     void namesAreThereFromTheStart();
     void buttonsComeWithTheFirstShowing();
     void everyButtonHasALook();
@@ -53,6 +54,36 @@ void TstPalette::tabs()
         QCOMPARE(tabs->tabText(i), captions[i]);
         QCOMPARE(tabs->tabData(i).toString(), captions[i]);
     }
+}
+
+void TstPalette::theOtherToolbarsCanComeLater()
+{
+    const Palette atOnce;
+    const auto names = [](const Palette &palette) {
+        QStringList list;
+        for (const QToolBar *bar : palette.findChildren<QToolBar *>(Qt::FindDirectChildrenOnly))
+            list.append(bar->objectName());
+        return list;
+    };
+    const auto first = QStringList{u"Toolbar_0"_s};
+    Palette later(nullptr, Palette::Contents::Later);
+    QCOMPARE(later.tabs()->count(), atOnce.tabs()->count());
+    QCOMPARE(names(later), first);
+    QVERIFY(!later.isSelectorPressed());
+    later.build();
+    QCOMPARE(names(later), names(atOnce));
+    later.build();
+    QCOMPARE(names(later), names(atOnce));
+
+    Palette clicked(nullptr, Palette::Contents::Later);
+    clicked.show();
+    clicked.tabs()->setCurrentIndex(3);
+    QCOMPARE(names(clicked), names(atOnce));
+    QVERIFY(clicked.toolBar(3)->isVisible());
+
+    Palette pressed(nullptr, Palette::Contents::Later);
+    pressed.setSelectorPressed(true);
+    QVERIFY(pressed.isSelectorPressed());
 }
 
 void TstPalette::oneToolbarShows()
