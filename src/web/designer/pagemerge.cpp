@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/designer/pagemerge.h"
 
+#include "web/designer/movedwords.h"
 #include "web/designer/tagparts.h"
 #include "web/designer/tokenmatch.h"
 
 #include <QHash>
 
 #include <algorithm>
+#include <numeric>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -15,11 +17,29 @@ namespace zephira {
 
 namespace {
 
+/// How many tokens an addition or removal is moved at most.
+constexpr int farthestMove = 200;
+
 std::vector<int> keysOf(const std::vector<PageToken> &tokens)
 {
     std::vector<int> keys(tokens.size());
     std::ranges::transform(tokens, keys.begin(), &PageToken::key);
     return keys;
+}
+
+/// The source ends before the page's own end tags. Those that stand within it mean nothing to the engine, and must not
+/// be taken for the ones that it writes at the end.
+std::vector<PageToken> withoutEarlyEnds(std::vector<PageToken> tokens, QStringView page, TokenKeys &keys)
+{
+    const int stray = keys.keyOf(u"\u0002");
+    for (PageToken &token : tokens) {
+        if (token.kind != TokenKind::EndTag)
+            continue;
+        const QStringView name = readTag(page, token.begin).name(page);
+        if (name.compare(u"body", Qt::CaseInsensitive) == 0 || name.compare(u"html", Qt::CaseInsensitive) == 0)
+            token.key = stray;
+    }
+    return tokens;
 }
 
 /// The entry at an index that isn't negative.
@@ -32,6 +52,11 @@ auto &at(List &list, int index)
 int countOf(const std::vector<PageToken> &tokens)
 {
     return static_cast<int>(tokens.size());
+}
+
+std::span<const PageToken> part(const std::vector<PageToken> &tokens, int begin, int end)
+{
+    return std::span(tokens).subspan(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
 }
 
 QString lowerName(const TagAttribute &attribute, QStringView page)
@@ -51,11 +76,21 @@ QString readValue(const TagAttribute &attribute, QStringView page)
 PageAlignment::PageAlignment(QString source, QString loaded)
     : m_source(std::move(source))
     , m_loaded(std::move(loaded))
-    , m_sourceTokens(pageTokens(m_source, m_keys))
+    , m_sourceTokens(withoutEarlyEnds(pageTokens(m_source, m_keys), m_source, m_keys))
     , m_tokens(pageTokens(m_loaded, m_keys))
     , m_inSource(partnersIn(keysOf(m_sourceTokens), keysOf(m_tokens), m_keys.count()))
 {
     findElements();
+    m_otherPlaces = otherPlaces(m_source, m_sourceTokens, m_loaded, m_tokens, m_inSource);
+}
+
+std::span<const int> PageAlignment::originsOf(int token) const
+{
+    const int &partner = at(m_inSource, token);
+    if (partner >= 0)
+        return {&partner, 1};
+    const auto other = m_otherPlaces.constFind(token);
+    return other != m_otherPlaces.constEnd() ? std::span<const int>(*other) : std::span<const int>();
 }
 
 void PageAlignment::findElements()
@@ -102,9 +137,69 @@ void PageMerge::findHunks()
         while (hunk.end < count && at(m_inEdited, hunk.end) < 0)
             ++hunk.end;
         hunk.editedEnd = hunk.end < count ? at(m_inEdited, hunk.end) : editedCount;
+        moveToElements(hunk);
         m_hunks.push_back(hunk);
         index = hunk.end;
         edited = hunk.editedEnd;
+    }
+}
+
+/// Whether a hunk that adds or removes tokens adds or removes elements as a whole.
+bool PageMerge::isWhole(const MergeHunk &hunk) const
+{
+    const auto tokens = hunk.begin < hunk.end ? part(m_page.m_tokens, hunk.begin, hunk.end)
+                                              : part(m_editedTokens, hunk.editedBegin, hunk.editedEnd);
+    if (tokens.front().kind != TokenKind::StartTag)
+        return false;
+    int depth = 0;
+    for (const PageToken &token : tokens) {
+        depth += token.kind == TokenKind::StartTag && !token.isVoid;
+        depth -= token.kind == TokenKind::EndTag;
+        if (depth < 0)
+            return false;
+    }
+    return depth == 0;
+}
+
+/// Whether a hunk that adds or removes tokens means the same one token before its place, for the step -1, or after it.
+bool PageMerge::canMove(const MergeHunk &hunk, int step) const
+{
+    const int place = step < 0 ? hunk.begin - 1 : hunk.end;
+    const int edited = step < 0 ? hunk.editedBegin - 1 : hunk.editedEnd;
+    if (place < 0 || place >= countOf(m_page.m_tokens) || edited < 0 || at(m_inEdited, place) != edited)
+        return false;
+    const PageToken &opposite = hunk.begin < hunk.end
+        ? at(m_page.m_tokens, step < 0 ? hunk.end - 1 : hunk.begin)
+        : at(m_editedTokens, step < 0 ? hunk.editedEnd - 1 : hunk.editedBegin);
+    return at(m_page.m_tokens, place).key == opposite.key;
+}
+
+/// Of the places where the tokens could as well have been added or removed, such as a row behind the start tag of
+/// another one, takes one where they are whole elements.
+void PageMerge::moveToElements(MergeHunk &hunk)
+{
+    const bool isOneSided = (hunk.begin == hunk.end) != (hunk.editedBegin == hunk.editedEnd);
+    if (!isOneSided || isWhole(hunk))
+        return;
+    for (const int step : {-1, 1}) {
+        MergeHunk moved = hunk;
+        int distance = 0;
+        while (distance < farthestMove && canMove(moved, step) && !isWhole(moved)) {
+            moved.begin += step;
+            moved.end += step;
+            moved.editedBegin += step;
+            moved.editedEnd += step;
+            ++distance;
+        }
+        if (!isWhole(moved))
+            continue;
+        std::fill(m_inEdited.begin() + moved.begin, m_inEdited.begin() + moved.end, -1);
+        const MergeHunk &first = step < 0 ? moved : hunk;
+        const int place = step < 0 ? first.end : first.begin;
+        const int edited = step < 0 ? first.editedEnd : first.editedBegin;
+        std::iota(m_inEdited.begin() + place, m_inEdited.begin() + place + distance, edited);
+        hunk = moved;
+        return;
     }
 }
 
@@ -139,39 +234,60 @@ bool PageMerge::haveContiguousPartners(const MergeHunk &hunk) const
 /// The change of a hunk that is text on both sides: only the characters that differ.
 std::optional<TextChanges> PageMerge::textChange(const MergeHunk &hunk) const
 {
-    const References references = at(m_page.m_tokens, hunk.begin).references;
-    const auto isSameText = [references](const PageToken &token) {
-        return token.kind == TokenKind::Text && token.references == references;
-    };
-    const auto part = [](const std::vector<PageToken> &tokens, int begin, int end) {
-        return std::span(tokens).subspan(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
-    };
-    if (!std::ranges::all_of(part(m_page.m_tokens, hunk.begin, hunk.end), isSameText)
-        || !std::ranges::all_of(part(m_editedTokens, hunk.editedBegin, hunk.editedEnd), isSameText))
+    const auto isText = [](const PageToken &token) { return token.kind == TokenKind::Text; };
+    const auto editedTokens = part(m_editedTokens, hunk.editedBegin, hunk.editedEnd);
+    if (!std::ranges::all_of(part(m_page.m_tokens, hunk.begin, hunk.end), isText)
+        || !std::ranges::all_of(editedTokens, isText))
         return {};
-    const qsizetype begin = at(m_page.m_sourceTokens, at(m_page.m_inSource, hunk.begin)).begin;
-    const qsizetype end = at(m_page.m_sourceTokens, at(m_page.m_inSource, hunk.end - 1)).end;
+    const std::vector<PlacedCharacter> before = placedCharacters(hunk);
+    if (before.empty())
+        return {};
     const QStringView text = editedText(hunk.editedBegin, hunk.editedEnd);
-    const std::vector<CharacterSpan> before =
-        characterSpans(QStringView(m_page.m_source).sliced(begin, end - begin), references);
-    const std::vector<CharacterSpan> after = characterSpans(text, references);
+    const std::vector<CharacterSpan> after = characterSpans(text, at(m_page.m_tokens, hunk.begin).references);
+    const auto isSame = [](const PlacedCharacter &one, const CharacterSpan &other) {
+        return one.character == other.character;
+    };
     const size_t most = std::min(before.size(), after.size());
     size_t first = 0;
-    while (first < most && before[first].character == after[first].character)
+    while (first < most && isSame(before[first], after[first]))
         ++first;
     size_t last = 0;
-    while (last < most - first
-           && before[before.size() - 1 - last].character == after[after.size() - 1 - last].character)
+    while (last < most - first && isSame(before[before.size() - 1 - last], after[after.size() - 1 - last]))
         ++last;
-    const auto from = [first](const std::vector<CharacterSpan> &spans, qsizetype length) {
-        return first < spans.size() ? spans[first].begin : length;
-    };
-    const auto to = [last](const std::vector<CharacterSpan> &spans, qsizetype length) {
-        return last > 0 ? spans[spans.size() - last].begin : length;
-    };
-    const qsizetype textBegin = from(after, text.size());
-    return TextChanges{{begin + from(before, end - begin), begin + to(before, end - begin),
-                        written(text.sliced(textBegin, to(after, text.size()) - textBegin), references)}};
+    const std::span<const PlacedCharacter> gone = std::span(before).subspan(first, before.size() - last - first);
+    const auto in = [&](size_t index) { return index < after.size() ? after[index].begin : text.size(); };
+    const QStringView come = text.sliced(in(first), in(after.size() - last) - in(first));
+    if (gone.empty()) {
+        const PlacedCharacter &beside = before[first > 0 ? first - 1 : 0];
+        const qsizetype place = first > 0 ? beside.end : beside.begin;
+        return TextChanges{{place, place, written(come, beside.references)}};
+    }
+    // Tags that the engine has dropped between the characters stay.
+    TextChanges changes{{gone.front().begin, gone.front().begin, written(come, gone.front().references)}};
+    for (const PlacedCharacter &each : gone) {
+        if (each.begin != changes.back().end)
+            changes.push_back({each.begin, each.begin, {}});
+        changes.back().end = each.end;
+    }
+    return changes;
+}
+
+/// The characters of a hunk that is text, where they stand in the source; nothing if that isn't known of all.
+std::vector<PageMerge::PlacedCharacter> PageMerge::placedCharacters(const MergeHunk &hunk) const
+{
+    std::vector<PlacedCharacter> characters;
+    for (int token = hunk.begin; token < hunk.end; ++token) {
+        const std::span<const int> origins = m_page.originsOf(token);
+        if (origins.empty())
+            return {};
+        for (const int origin : origins) {
+            const PageToken &source = at(m_page.m_sourceTokens, origin);
+            for (const CharacterSpan &each : characterSpans(source.in(m_page.m_source), source.references))
+                characters.push_back(
+                    {each.character, source.begin + each.begin, source.begin + each.end, source.references});
+        }
+    }
+    return characters;
 }
 
 /// The changes of a hunk in which the same tags have other attributes.
@@ -286,19 +402,32 @@ TextChanges PageMerge::changesOf(const MergeHunk &hunk, MergeReach reach) const
 {
     if (reach == MergeReach::Between)
         return {changeBetween(hunk)};
-    if (haveContiguousPartners(hunk)) {
-        if (const auto changes = textChange(hunk))
-            return *changes;
-        if (const auto changes = tagChanges(hunk))
-            return *changes;
-    }
+    if (const auto changes = textChange(hunk))
+        return *changes;
+    if (const auto changes = haveContiguousPartners(hunk) ? tagChanges(hunk) : std::nullopt)
+        return *changes;
     const QString text = m_write(editedText(hunk.editedBegin, hunk.editedEnd));
+    if (const auto place = placeBesideMoved(hunk, reach))
+        return {{*place, *place, text}};
     const int first = partnerAfter(hunk.begin);
     if (first < hunk.end)
         return {{sourceBegin(first), sourceBehind(partnerBefore(hunk.end)), text}};
     const qsizetype place =
         reach == MergeReach::BehindPartner ? sourceBehind(partnerBefore(hunk.begin)) : sourceBegin(first);
     return {{place, place, text}};
+}
+
+/// For an addition beside a word that the engine has joined or moved: where that is in the source.
+std::optional<qsizetype> PageMerge::placeBesideMoved(const MergeHunk &hunk, MergeReach reach) const
+{
+    const bool isBehind = reach == MergeReach::BehindPartner;
+    const int beside = isBehind ? hunk.begin - 1 : hunk.begin;
+    if (hunk.begin < hunk.end || beside < 0 || beside >= countOf(m_page.m_tokens) || at(m_page.m_inSource, beside) >= 0)
+        return {};
+    const std::span<const int> origins = m_page.originsOf(beside);
+    if (origins.empty())
+        return {};
+    return isBehind ? at(m_page.m_sourceTokens, origins.back()).end : at(m_page.m_sourceTokens, origins.front()).begin;
 }
 
 TextChange PageMerge::changeBetween(const MergeHunk &hunk) const

@@ -4,9 +4,12 @@
 #include "core/textchange.h"
 #include "web/designer/pagetokens.h"
 
+#include <QHash>
+
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 
 namespace zephira {
 
@@ -30,6 +33,9 @@ private:
 
     /// Finds for each place in the loaded page the element that is open there.
     void findElements();
+    /// The tokens of the source that a token of the loaded page is made of, if these are known. They needn't stand side
+    /// by side.
+    std::span<const int> originsOf(int token) const;
 
     QString m_source;
     QString m_loaded;
@@ -38,6 +44,8 @@ private:
     std::vector<PageToken> m_tokens;
     /// For each token of the loaded page its partner in the source, or -1: then the engine has added it.
     std::vector<int> m_inSource;
+    /// For a word without a partner the tokens of the source that it is made of, where these are known.
+    QHash<int, std::vector<int>> m_otherPlaces;
     /// For each token of the loaded page the start tag of the element that contains it, or -1.
     std::vector<int> m_openAt;
     /// For each start tag of the loaded page its end tag, or -1.
@@ -92,6 +100,14 @@ public:
     MergeHunk widened(const MergeHunk &hunk, int tokens) const;
 
 private:
+    /// A character of the loaded page, where it stands in the source.
+    struct PlacedCharacter {
+        char32_t character = 0;
+        qsizetype begin = 0;
+        qsizetype end = 0;
+        References references = References::None;
+    };
+
     int partnerBefore(int place, bool both = false) const;
     int partnerAfter(int place, bool both = false) const;
     qsizetype sourceBehind(int token) const;
@@ -100,11 +116,16 @@ private:
     QStringView editedText(int begin, int end) const;
     QString written(QStringView markup, References references) const;
     bool haveContiguousPartners(const MergeHunk &hunk) const;
+    std::vector<PlacedCharacter> placedCharacters(const MergeHunk &hunk) const;
     std::optional<TextChanges> textChange(const MergeHunk &hunk) const;
     std::optional<TextChanges> tagChanges(const MergeHunk &hunk) const;
+    std::optional<qsizetype> placeBesideMoved(const MergeHunk &hunk, MergeReach reach) const;
     TextChanges attributeChanges(const PageToken &tag, const PageToken &editedTag) const;
     QString writtenAttribute(QStringView attribute) const;
     void findHunks();
+    bool isWhole(const MergeHunk &hunk) const;
+    bool canMove(const MergeHunk &hunk, int step) const;
+    void moveToElements(MergeHunk &hunk);
 
     const PageAlignment &m_page;
     const QString m_edited;

@@ -16,6 +16,9 @@ namespace zephira {
 
 namespace {
 
+/// What touches more lines than this is listed.
+constexpr int manyLines = 20;
+
 struct Edit {
     QString name;
     /// Sets the selection; returns whether the page has a place for the edit.
@@ -145,7 +148,10 @@ MergeFigures measureMerges(DesignerBench &bench, const QStringList &pages)
                 continue;
             }
             const QString text = designer.documentHtml();
-            figures.lines[edit.name].append(linesGoneAndCome(source, text));
+            const int lines = linesGoneAndCome(source, text);
+            figures.lines[edit.name].append(lines);
+            if (lines > manyLines)
+                figures.wide.append(u"%1 lines: %2"_s.arg(lines).arg(what));
             const EditedTree edited = treeOf(bench, source, text);
             if (edited.isWhole)
                 figures.wholePages.append(what);

@@ -17,6 +17,8 @@ struct MergeFigures {
     QStringList faults;
     /// Edits for which the whole page was written.
     QStringList wholePages;
+    /// Edits that touched many lines.
+    QStringList wide;
     int pages = 0;
 
     int median(const QString &edit) const;

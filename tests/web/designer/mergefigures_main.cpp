@@ -26,8 +26,8 @@ bool measurePages(DesignerBench &bench, int count)
     const MergeFigures figures =
         measureMerges(bench, installedPages(count, [](const QByteArray &page) { return page.contains("<body"); }));
     print(figures.table());
-    for (const QString &each : figures.wholePages)
-        print(u"whole page: "_s + each);
+    for (const QString &each : figures.wide)
+        print(each);
     for (const QString &each : figures.faults)
         print(each);
     return figures.faults.isEmpty();
@@ -48,7 +48,7 @@ bool editRandomly(DesignerBench &bench, int count)
             print(outcome.fault);
         }
     }
-    print(u"%1 edits at random: %2 whole pages, %3 faults"_s.arg(count).arg(whole).arg(faults));
+    print(u"%1 pages edited at random: %2 written as a whole, %3 faults"_s.arg(count).arg(whole).arg(faults));
     return faults == 0;
 }
 

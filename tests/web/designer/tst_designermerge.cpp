@@ -60,6 +60,8 @@ void TstDesignerMerge::edited_data()
     letterIn("a fragment", u"<LI>a<LI>word<B>c"_s);
     letterIn("beside references", u"<p>caf&eacute;&nbsp;word&copy 2001 &amp b"_s);
     letterIn("text before a table", u"<table>word<tr><td>b</table>"_s);
+    letterIn("text moved out of a table", u"<table><caption>a</caption><tr><td>b</td>a word<td>c</td></tr></table>"_s);
+    letterIn("a word that a stray end tag divides", u"<p>a x</i>word b"_s);
     letterIn("crossed tags", u"<b><i>a</b> word</i> c"_s);
     letterIn("repeated attributes", u"<p id=a ID='b' title='\"' / >word"_s);
     letterIn("stray end tags", u"<p>a</i></p></p> word</div> b"_s);
@@ -88,7 +90,7 @@ void TstDesignerMerge::edited_data()
     row("a paragraph removed", u"<P>a\r\n<P>b\r\n<P>c"_s, u"document.querySelectorAll('p')[1].remove()"_s,
         u"<P>a\r\n<P>c"_s);
     row("a row more", u"<TABLE><TR><TD>a<TD>b\r\n<TR><TD>c<TD>d</TABLE>"_s, u"$('tr').after($('tr').cloneNode(true))"_s,
-        u"<TABLE><TR><TD>a<TD>b\r\n<TR><TD>a</td><td>b\r\n</td></tr><tr><td>c<TD>d</TABLE>"_s);
+        u"<TABLE><TR><TD>a<TD>b\r\n<tr><td>a</td><td>b\r\n</td></tr><TR><TD>c<TD>d</TABLE>"_s);
     row("a row of a loop", u"<table><% do %><tr><td><%= a %></td></tr><% loop %></table>"_s,
         u"$('tr').after($('tr').cloneNode(true))"_s,
         u"<table><% do %><tr><td><%= a %></td></tr><tr><td><%= a %></td></tr><% loop %></table>"_s);

@@ -288,8 +288,8 @@ void TstDesignerText::oneLetterThereAndBack()
                                      u"<cfif d gt 1>"_s, u"<%= l %>"_s, u"<!-- g -->"_s, u"<!DOCTYPE html>"_s})
             QVERIFY2(back.count(piece) == page.count(piece), report.constData());
     }
-    // Where tags were dropped and text moved, the whole page may have to be written.
-    QVERIFY2(exact >= 34, qPrintable(QString::number(exact)));
+    // Where the page ends more than once, the whole page may have to be written.
+    QVERIFY2(exact >= 39, qPrintable(QString::number(exact)));
 }
 
 void TstDesignerText::marksCanBeMoved()

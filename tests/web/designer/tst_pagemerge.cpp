@@ -69,6 +69,25 @@ private Q_SLOTS:
             u"4-4:</p><hr>"_s);
         row("a removed element", u"<p>a</p><p>b</p>"_s, u"<p>a</p><p>b</p>"_s, u"<p>a</p>"_s, u"8-16:"_s, u"8-16:"_s);
         row("a stray tag stays", u"a</i>b c"_s, u"ab c"_s, u"ab d"_s, u"7-8:d"_s, u"7-8:d"_s);
+        row("a word around a stray tag", u"ab</i>cd e"_s, u"abcd e"_s, u"abcXd e"_s, u"7-7:X"_s, u"0-8:abcXd"_s);
+        row("where a stray tag is", u"ab</i>cd e"_s, u"abcd e"_s, u"abXcd e"_s, u"2-2:X"_s, u"0-8:abXcd"_s);
+        row("a stray tag between what goes", u"ab</i>cd e"_s, u"abcd e"_s, u"ad e"_s, u"1-2:|6-7:"_s, u"0-8:ad"_s);
+        row("a word around a dropped element", u"a<i>b</i><xmp><b></xmp>c<noscript><i></noscript><p>d"_s,
+            u"a<i>b</i>cd"_s, u"a<i>b</i>cdX"_s, u"52-52:X"_s, u"9-52:cdX"_s);
+        row("ends of the page in its middle", u"<html><body><p>a</body></html><p>bc"_s,
+            u"<html><head></head><body><p>a</p><p>bc</p></body></html>"_s,
+            u"<html><head></head><body><p>a</p><p>bXc</p></body></html>"_s, u"34-34:X"_s,
+            u"33-35:bXc</p></body></html>"_s);
+        const QString table = u"<table><caption>c</caption><tbody><tr><td>b</td></tr></tbody></table>"_s;
+        row("a moved word", u"<table><caption>c</caption>x<tr><td>b</table>"_s, u"x"_s + table, u"xy"_s + table,
+            u"28-28:y"_s, u"0-0:xy"_s);
+        row("beside a moved word", u"<table><caption>c</caption>x z<tr><td>b</table>"_s, u"x z"_s + table,
+            u"x y z"_s + table, u"29-29:y "_s, u"0-0:x y z"_s);
+        row("a row like the one before", u"<tr><TD>a\r\n<tr><TD>b"_s, u"<tr><td>a\n</td></tr><tr><td>b</td></tr>"_s,
+            u"<tr><td>a\n</td></tr><tr><td>a\n</td></tr><tr><td>b</td></tr>"_s, u"11-11:<tr><td>a\n</td></tr>"_s,
+            u"11-11:</td></tr><tr><td>a\n</td></tr>"_s);
+        row("the first of like paragraphs", u"<P CLASS=a>x\n<P class='a'>y"_s,
+            u"<p class=\"a\">x\n</p><p class=\"a\">y</p>"_s, u"<p class=\"a\">y</p>"_s, u"0-13:"_s, u"0-13:"_s);
         row("a mark", u"a<!--zsx0s-->b"_s, u"a<zephira-mark mark=\"zsx0s\"></zephira-mark>b"_s, u"ab"_s, u"0-14:ab"_s,
             u"0-14:ab"_s);
         row("a script", u"<script>a < b</script>"_s, u"<script>a < b</script>"_s, u"<script>a < c</script>"_s,
