@@ -58,6 +58,18 @@ void TstDesignerCommands::commands_data()
     row("list within a list", UnorderedList, {}, u"<ul><li>a<ul><li>b|</li></ul></li></ul>"_s, 7,
         u"<ul><li>a<p>b|</p></li></ul>"_s);
     row("outdent", Outdent, {}, u"<blockquote><p>a|</p></blockquote>"_s, 3, u"<p>a|</p>"_s);
+    row("centre a line of a paragraph", JustifyCenter, {}, u"<p>a<br>|b</p>"_s, 3,
+        u"<p style=\"text-align: center;\">a<br>|b</p>"_s);
+    row("centre the first line of a paragraph", JustifyCenter, {}, u"<p id=\"x\">a|<br>b</p>"_s, 3,
+        u"<p id=\"x\" style=\"text-align: center;\">a|<br>b</p>"_s);
+    row("centre lines of two paragraphs", JustifyCenter, {}, u"<p>a<br>[b</p><p>c<b>c<br>d]</b><br>e</p><p>f</p>"_s, 3,
+        u"<p style=\"text-align: center;\">a<br>[b</p><p style=\"text-align: center;\">c<b>c<br>d]</b><br>e</p><p>f</p>"_s);
+    row("right for a line keeps the style", JustifyRight, {}, u"<h1 style=\"COLOR:red; -x-own: 1\">a<br>b|</h1>"_s, 3,
+        u"<h1 style=\"COLOR:red; -x-own: 1; text-align: right\">a<br>b|</h1>"_s);
+    row("centre a line of a text with line ends", JustifyCenter, {}, u"<pre>a\nb|\nc</pre>"_s, 3,
+        u"<pre style=\"text-align: center;\">a\nb|\nc</pre>"_s);
+    row("centre lines beside bare text", JustifyCenter, {}, u"[a<p>b<br>c]</p>"_s, 3,
+        u"<p style=\"text-align: center;\">[a</p><p style=\"text-align: center;\">b<br>c]</p>"_s);
     row("centre", JustifyCenter, {}, u"<p>a|</p>"_s, 3, u"<p style=\"text-align: center;\">a|</p>"_s);
     row("right keeps the style", JustifyRight, {}, u"<p style=\"COLOR:red; -x-own: 1\">a|</p>"_s, 3,
         u"<p style=\"COLOR:red; -x-own: 1; text-align: right\">a|</p>"_s);

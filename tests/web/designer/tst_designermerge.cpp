@@ -24,6 +24,9 @@ private Q_SLOTS:
 
     void edited_data();
     void edited();
+    void emptiedParagraphs_data();
+    void emptiedParagraphs();
+    void emptyParagraphsOfTheAuthor();
     void changesLeadToTheText();
     void severalWritesFromOneLoad();
     void undoneIsUntouched();
@@ -111,6 +114,55 @@ void TstDesignerMerge::edited()
     m_bench->load(page);
     act(editScript(edit));
     QTEST(m_bench->designer.documentHtml(), "expected");
+}
+
+void TstDesignerMerge::emptiedParagraphs_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *name, const QString &page, const QString &expected) {
+        for (const bool byKey : {false, true})
+            QTest::addRow("%s, by %s", name, byKey ? "key" : "command") << page << byKey << expected;
+    };
+    row("between two", u"<p>a</p>\r\n<P>[b]</P>\r\n<p>c</p>"_s, u"<p>a</p>\r\n<p>c</p>"_s);
+    row("the last one", u"<p>a</p>\r\n<P>[b]"_s, u"<p>a</p>\r\n"_s);
+    row("before a table", u"<h1>[b]</h1><table><tr><td>c</td></tr></table>"_s, u"<table><tr><td>c</td></tr></table>"_s);
+    row("alone in a division", u"<div>\r\n<p><b>[b]</b></p></div><p>c</p>"_s, u"<p>c</p>"_s);
+    // A page needs a place for the caret.
+    row("the only one", u"<p>[b]</p>"_s, u"<p><br></p>"_s);
+    row("not the whole text", u"<p>a</p><p>[b]c</p>"_s, u"<p>a</p><p>c</p>"_s);
+}
+
+/// A paragraph whose whole text was deleted is gone from the page's text, but the user can still type into it.
+void TstDesignerMerge::emptiedParagraphs()
+{
+    QFETCH(QString, page);
+    QFETCH(bool, byKey);
+    QFETCH(QString, expected);
+    m_bench->show(page);
+    if (byKey)
+        m_bench->press(Qt::Key_Backspace);
+    else
+        m_bench->run(DesignerCommand::Delete);
+    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    const QString shown = m_bench->text();
+    QCOMPARE(m_bench->designer.documentHtml(), expected);
+    QCOMPARE(m_bench->text(), shown);
+    m_bench->type(u"x"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(m_bench->body().contains(u'x'), DesignerBench::patience);
+    const QString typed = QString(page).replace(u"[b]"_s, u"x"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->designer.documentHtml().remove(u"<b>"_s).remove(u"</b>"_s),
+                              QString(typed).remove(u"<b>"_s).remove(u"</b>"_s), DesignerBench::patience);
+}
+
+/// The user may look for room between paragraphs that were there before.
+void TstDesignerMerge::emptyParagraphsOfTheAuthor()
+{
+    const QString page = u"<p>word</p><p><br></p><p>a</p>"_s;
+    m_bench->load(page);
+    act(editScript(u"letter('word')"_s));
+    QCOMPARE(m_bench->designer.documentHtml(), u"<p>wordX</p><p><br></p><p>a</p>"_s);
 }
 
 void TstDesignerMerge::changesLeadToTheText()

@@ -5,7 +5,7 @@
 import {blockFormatNames, formatOf, selectedFormats} from './blocks.js';
 import {Command} from './command.js';
 import {applyFont, fontName, fontSize, isMixed, setFontSize} from './fonts.js';
-import {setBlockFormat, toggleList} from './formats.js';
+import {alignParagraphs, setBlockFormat, toggleList} from './formats.js';
 import {history} from './history.js';
 import {deleteSelection, hasLink, insertImage, insertTable, selectionMarkup, setLink, unlink} from './insert.js';
 import {changeDepth, deepenItem, raiseItem} from './lists.js';
@@ -35,7 +35,7 @@ const nativeStatus = name => {
     return onIf(nativeState(name));
 };
 
-const toggle = name => ({status: () => nativeStatus(name), run: () => runNative(name)});
+const alignment = (name, side) => ({status: () => nativeStatus(name), run: () => alignParagraphs(name, side)});
 const toggleText = name => ({status: () => hasText() ? nativeStatus(name) : Status.Disabled, run: () => runNative(name)});
 
 // The engine reports only the first item.
@@ -92,9 +92,9 @@ const commands = {
     [Command.InsertRow]: tableCommand(insertRow),
     [Command.InsertTable]: {status: () => enabledIf(!isFrameset()), run: insertTable},
     [Command.Italic]: toggleText('italic'),
-    [Command.JustifyCenter]: toggle('justifyCenter'),
-    [Command.JustifyLeft]: toggle('justifyLeft'),
-    [Command.JustifyRight]: toggle('justifyRight'),
+    [Command.JustifyCenter]: alignment('justifyCenter', 'center'),
+    [Command.JustifyLeft]: alignment('justifyLeft', 'left'),
+    [Command.JustifyRight]: alignment('justifyRight', 'right'),
     [Command.LockElement]: {
         status: () => positionedTarget() ? onIf(isLocked(positionedTarget())) : Status.Disabled,
         run: toggleLock,

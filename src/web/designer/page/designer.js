@@ -15,6 +15,7 @@ import {isPlain, plainShell, plainText, setPlain, showPlainText} from './plainte
 import {gripsOf} from './positions.js';
 import {reportBy, reportCopy, reportState, reportTo, stamped, tell} from './reports.js';
 import {selectedControl, selectionType, selectStart} from './selection.js';
+import {forgetEmptied, withoutEmptied} from './typing.js';
 import {fits, keepEdited, keepLoaded, keepSource, loadedText} from './writeback.js';
 
 let keepTimer = 0;
@@ -94,6 +95,7 @@ globalThis.zephiraDesigner = {
         setMarkPrefix(prefix);
         setPlain(wantsPlain);
         keepSource(wantsPlain ? '' : text);
+        forgetEmptied();
         Object.assign(looks, wantedLooks);
         openDocument();
         writeDocument(isPlain ? plainShell : text);
@@ -131,7 +133,7 @@ globalThis.zephiraDesigner = {
     text() {
         // Changes that happened but weren't reported yet are in the text, so they must be counted.
         history.openChanges();
-        const copy = copyOfPage();
+        const copy = withoutEmptied(copyOfPage);
         if (!isPlain)
             keepEdited(copy);
         return answer(stamped(copy));

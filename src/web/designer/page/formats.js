@@ -6,6 +6,7 @@ import {blockFormats, selectedFormats, selectedParagraphs, wrapParagraph} from '
 import {liftSelectedItems} from './lists.js';
 import {bodyElement, createElement, isBlankText, isElement, moveChildren, renameElement} from './nodes.js';
 import {bookmark, placeCaretIn, restore} from './selection.js';
+import {runNative, setStyleNatively} from './styles.js';
 
 // Changes a paragraph into an element of that name; `replaced` maps the old element to the new one.
 const makeBlock = (paragraph, name, replaced) => {
@@ -61,4 +62,20 @@ export const toggleList = name => {
         setBlockFormat('Normal');
     else
         setBlockFormat(name);
+};
+
+// The engine makes a paragraph of each line, even within a paragraph, which can't contain one.
+const holdsLines = ({element}) => element && (element.localName === 'pre' || element.querySelector('br') !== null);
+
+// Aligns the selected paragraphs, `side` being 'left', 'center' or 'right'.
+export const alignParagraphs = (name, side) => {
+    const paragraphs = selectedParagraphs();
+    if (!paragraphs.some(holdsLines)) {
+        runNative(name);
+        return;
+    }
+    const mark = bookmark();
+    for (const paragraph of paragraphs)
+        setStyleNatively(paragraph.element ?? wrapParagraph(paragraph, 'p'), 'text-align', side);
+    restore(mark);
 };

@@ -86,6 +86,16 @@ class History {
         return this.openChanges().slice(first);
     }
 
+    // The result of an action that leaves the page as it was.
+    unseen(action) {
+        this.openChanges();
+        try {
+            return action();
+        } finally {
+            this.observer.takeRecords();
+        }
+    }
+
     // Everything until release() is one step, however long it takes.
     hold() {
         this.close();

@@ -11,7 +11,7 @@ import {insertPlainText, isPlain, selectedPlainText} from './plaintext.js';
 import {
     bookmark, currentRange, placeCaret, placeCaretIn, reaches, restore, selectedControl, selectElement
 } from './selection.js';
-import {deleteAcrossLines} from './typing.js';
+import {deleteAcrossLines, deleteNatively} from './typing.js';
 
 // Markup from other programs contains style sheets and metadata of its own.
 const foreignSelector = 'meta,link,style,script,title,base';
@@ -179,6 +179,6 @@ export const deleteSelection = () => {
         control.remove();
         placeCaret(range.startContainer, range.startOffset);
     } else if (range.collapsed || !deleteAcrossLines(range)) {
-        nativeCommand(range.collapsed ? 'forwardDelete' : 'delete', false, null);
+        deleteNatively(range);
     }
 };

@@ -88,3 +88,7 @@ const keepStyleTexts = changes => {
 // Runs a command of the engine but keeps the authors' style texts.
 export const runNative = (name, value = null) =>
     keepStyleTexts(history.changesOf(() => nativeCommand(name, false, value)));
+
+// Sets a property as a command of the engine would.
+export const setStyleNatively = (element, property, value) =>
+    keepStyleTexts(history.changesOf(() => element.style.setProperty(property, value)));

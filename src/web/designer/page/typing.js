@@ -64,6 +64,61 @@ const trimText = (node, pattern) => {
         node.data = node.data.replace(pattern, '');
 };
 
+// Paragraphs whose whole text was deleted. They stay in the page for what is typed next, but not in its text.
+const emptied = new Set();
+
+export const forgetEmptied = () => emptied.clear();
+
+// Whether a selection is the whole text of a paragraph.
+const isWholeParagraph = range => {
+    const line = closestBlock(range.commonAncestorContainer);
+    return !range.collapsed && line !== null && isNamed(line, paragraphNames) && isLine(line)
+        && isAtStart(line, range.startContainer, range.startOffset)
+        && isAtEnd(line, range.endContainer, range.endOffset);
+};
+
+const isFiller = line => line.isConnected && isEmptyElement(line) && line.querySelectorAll('br').length === 1;
+
+// To be called when the engine has deleted the whole text of a paragraph.
+const noteEmptied = () => {
+    const line = closestBlock(getSelection().anchorNode);
+    if (line && isNamed(line, paragraphNames) && isFiller(line))
+        emptied.add(line);
+};
+
+// What goes with an emptied paragraph: the elements that contain nothing else, and one of two line ends around them.
+// Nothing if no place for the caret would be left.
+const nodesOfEmptied = line => {
+    let outer = line;
+    const isAlone = node => !seenSibling(node, 'previousSibling') && !seenSibling(node, 'nextSibling');
+    while (isAlone(outer) && isNamed(outer.parentNode, holderNames) && !isAbsolute(outer.parentNode))
+        outer = outer.parentNode;
+    if (isAlone(outer))
+        return [];
+    const [before, after] = [outer.previousSibling, outer.nextSibling];
+    return before && after && isBlankText(before) && isBlankText(after) ? [outer, after] : [outer];
+};
+
+// The result of an action that sees the page without the paragraphs that were emptied.
+export const withoutEmptied = action => {
+    const lines = [...emptied].filter(isFiller);
+    if (lines.length === 0)
+        return action();
+    return history.unseen(() => {
+        const mark = bookmark();
+        const gone = [];
+        for (const node of lines.flatMap(nodesOfEmptied)) {
+            gone.push([node, node.parentNode, node.nextSibling]);
+            node.remove();
+        }
+        const result = action();
+        for (const [node, parent, next] of gone.reverse())
+            parent.insertBefore(node, next);
+        restore(mark);
+        return result;
+    });
+};
+
 // Joins two lines in the first one; if the first is empty, it is removed instead. The caret is placed where they meet.
 const joinLines = (first, second) => {
     if (isEmptyElement(first)) {
@@ -130,8 +185,11 @@ const joinAtCaret = (node, offset, backward) => {
     return () => backward ? joinLines(other, line) : joinLines(line, other);
 };
 
+let isEmptying = false;
+
 const deleteByKey = event => {
     const range = currentRange();
+    isEmptying = isWholeParagraph(range);
     const action = range.collapsed ? joinAtCaret(range.startContainer, range.startOffset, event.inputType.endsWith('Backward'))
         : linesAcross(range) && (() => deleteAcrossLines(range));
     if (!action)
@@ -205,12 +263,26 @@ const dropJoinStyles = changes => {
     restore(mark);
 };
 
+const afterDeletion = changes => {
+    dropJoinStyles(changes);
+    if (isEmptying)
+        noteEmptied();
+};
+
+// Deletes a selection within a paragraph, or the character behind the caret.
+export const deleteNatively = range => {
+    const isWhole = isWholeParagraph(range);
+    nativeCommand(range.collapsed ? 'forwardDelete' : 'delete', false, null);
+    if (isWhole)
+        noteEmptied();
+};
+
 export const inputActions = {
     insertParagraph: nameOnce,
-    deleteContentBackward: dropJoinStyles,
-    deleteContentForward: dropJoinStyles,
-    deleteWordBackward: dropJoinStyles,
-    deleteWordForward: dropJoinStyles,
+    deleteContentBackward: afterDeletion,
+    deleteContentForward: afterDeletion,
+    deleteWordBackward: afterDeletion,
+    deleteWordForward: afterDeletion,
 };
 
 export const beforeInputActions = {
