@@ -42,6 +42,17 @@ std::vector<PageToken> withoutEarlyEnds(std::vector<PageToken> tokens, QStringVi
     return tokens;
 }
 
+/// The markup without the page's own end tags, which the source ends before.
+QStringView withoutPageEnd(QStringView markup)
+{
+    for (const QStringView tag : {QStringView(u"</html>"), QStringView(u"</body>")}) {
+        if (!markup.endsWith(tag))
+            break;
+        markup.chop(tag.size());
+    }
+    return markup;
+}
+
 /// The entry at an index that isn't negative.
 template<typename List>
 auto &at(List &list, int index)
@@ -209,6 +220,12 @@ QStringView PageMerge::editedText(int begin, int end) const
         return {};
     const qsizetype first = at(m_editedTokens, begin).begin;
     return QStringView(m_edited).sliced(first, at(m_editedTokens, end - 1).end - first);
+}
+
+/// The edited page's tokens as they are written into the source.
+QString PageMerge::writtenText(int begin, int end) const
+{
+    return m_write(withoutPageEnd(editedText(begin, end)));
 }
 
 /// Text without references is written as it is, apart from its line ends.
@@ -406,7 +423,7 @@ TextChanges PageMerge::changesOf(const MergeHunk &hunk, MergeReach reach) const
         return *changes;
     if (const auto changes = haveContiguousPartners(hunk) ? tagChanges(hunk) : std::nullopt)
         return *changes;
-    const QString text = m_write(editedText(hunk.editedBegin, hunk.editedEnd));
+    const QString text = writtenText(hunk.editedBegin, hunk.editedEnd);
     if (const auto place = placeBesideMoved(hunk, reach))
         return {{*place, *place, text}};
     const int first = partnerAfter(hunk.begin);
@@ -437,7 +454,7 @@ TextChange PageMerge::changeBetween(const MergeHunk &hunk) const
     const int editedBegin = before >= 0 ? at(m_inEdited, before) + 1 : 0;
     const int editedEnd = after < countOf(m_page.m_tokens) ? at(m_inEdited, after) : countOf(m_editedTokens);
     return {sourceBehind(before), sourceBegin(after),
-            m_write(editedText(std::min(editedBegin, hunk.editedBegin), std::max(editedEnd, hunk.editedEnd)))};
+            writtenText(std::min(editedBegin, hunk.editedBegin), std::max(editedEnd, hunk.editedEnd))};
 }
 
 std::optional<TextChanges> PageMerge::changes(const MergeHunks &hunks, MergeReach reach) const
@@ -466,7 +483,7 @@ TextChange PageMerge::changeWithin(const MergeHunk &grown, const MergeHunk &hunk
     const TextChange inner = changeOfLoaded(hunk);
     QString text = loaded.sliced(begin, inner.begin - begin).toString();
     text.append(inner.text).append(loaded.sliced(inner.end, end - inner.end));
-    return {sourceBehind(before), sourceBegin(after), m_write(text)};
+    return {sourceBehind(before), sourceBegin(after), m_write(withoutPageEnd(text))};
 }
 
 std::optional<MergeHunk> PageMerge::enclosing(const MergeHunk &hunk) const

@@ -114,6 +114,7 @@ private:
     qsizetype sourceBegin(int token) const;
     TextChange changeBetween(const MergeHunk &hunk) const;
     QStringView editedText(int begin, int end) const;
+    QString writtenText(int begin, int end) const;
     QString written(QStringView markup, References references) const;
     bool haveContiguousPartners(const MergeHunk &hunk) const;
     std::vector<PlacedCharacter> placedCharacters(const MergeHunk &hunk) const;

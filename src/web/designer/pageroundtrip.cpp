@@ -119,6 +119,13 @@ std::optional<QString> withoutRootTags(QStringView root)
     return text;
 }
 
+/// The engine's text without such tags that have no attributes.
+QString withoutBareRootTags(QStringView markup)
+{
+    static const QRegularExpression tags(u"</?(?:html|head|body)>"_s);
+    return markup.contains(u'<') ? markup.toString().remove(tags) : markup.toString();
+}
+
 /// Whether a page declares itself as XML: by its declaration, its doctype or its root.
 bool isXmlPage(QStringView prolog, QStringView root)
 {
@@ -368,8 +375,10 @@ QString PageRoundTrip::tidied(QStringView markup) const
     return TidyWriter(markup, m_textHabits, m_valueHabits, m_isXml, m_closesVoids).write();
 }
 
-QString PageRoundTrip::spelled(QStringView markup) const
+QString PageRoundTrip::spelled(QStringView whole) const
 {
+    const QString fragment = m_isFragment ? withoutBareRootTags(whole) : QString();
+    const QStringView markup = m_isFragment ? fragment : whole;
     const QString text =
         TidyWriter(markup, m_textHabits, m_valueHabits, m_isXml, m_closesVoids, TidyWriter::Lines::AsTheyAre).write();
     return m_source.contains(lineEnd) || !m_source.contains(u'\n') ? text : withLf(text);

@@ -41,7 +41,7 @@ public:
     /// forEngine() without its doctype: the part of the source that can be edited, with marks.
     QStringView masked() const { return QStringView(m_forEngine).sliced(m_doctypeLength); }
     /// A piece of the engine's markup as it belongs into masked(): like the whole page, but without lines of its own for
-    /// blocks, and with LF if the source has no CR LF.
+    /// blocks, with LF if the source has no CR LF, and without root elements if the source has none.
     QString spelled(QStringView markup) const;
     /// The changes of the source that make these changes of masked(). Nothing if the source then would be read as another
     /// page than masked() with its changes, for example because a text has become server code.

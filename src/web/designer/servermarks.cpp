@@ -160,7 +160,10 @@ QString ServerMarks::withoutNumbers(QStringView html) const
         if (mark.kind.isNull())
             continue;
         text += html.sliced(done, found - done);
-        done = found = mark.end - 1;
+        text += mark.kind;
+        // The engine gives it a value.
+        const bool hasValue = mark.kind == u'a' && html.sliced(mark.end).startsWith(emptyValue);
+        done = found = mark.end + (hasValue ? emptyValue.size() : 0);
     }
     text += html.sliced(done);
     return text;

@@ -39,7 +39,8 @@ public:
     /// mark stay.
     QString unmask(QStringView html) const;
 
-    /// The text with the numbers of its marks left out, for comparing texts in which they were given differently.
+    /// The text with the numbers of its marks and the values that the engine gives them left out, for comparing texts
+    /// in which they were given differently.
     QString withoutNumbers(QStringView html) const;
 
     const QString &prefix() const { return m_prefix; }

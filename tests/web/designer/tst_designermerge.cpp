@@ -97,6 +97,15 @@ void TstDesignerMerge::edited_data()
     row("a row of a loop", u"<table><% do %><tr><td><%= a %></td></tr><% loop %></table>"_s,
         u"$('tr').after($('tr').cloneNode(true))"_s,
         u"<table><% do %><tr><td><%= a %></td></tr><tr><td><%= a %></td></tr><% loop %></table>"_s);
+    row("a row with server code of its own", u"<table border=1><tr <?= f ?>><td>cell</td></tr>"_s,
+        u"$('tr').after($('tr').cloneNode(true))"_s,
+        u"<table border=1><tr <?= f ?>><td>cell</td></tr><tr <?= f ?>><td>cell</td></tr>"_s);
+    row("a fragment in which more has to be closed", u"<UL><LI>a<LI>b <B>c</UL>word"_s,
+        u"const p = document.createElement('p'); $('ul').after(p); p.append('x')"_s,
+        u"<UL><LI>a<LI>b <B>c</b></li></ul><p>x</p><b>word</b>"_s);
+    row("the end of a page", u"<BODY><UL><LI>a<LI>b <B>c</UL></BODY>"_s,
+        u"const p = document.createElement('p'); $('ul').after(p); p.append('x')"_s,
+        u"<BODY><UL><LI>a<LI>b <B>c</b></li></ul><p>x</p></BODY>"_s);
     row("a line break in XHTML",
         u"<html xmlns=\"http://www.w3.org/1999/xhtml\"><head><title>t</title></head><body><p>a<br/>word</p></body></html>"_s,
         u"$('p').append(document.createElement('br'))"_s,
