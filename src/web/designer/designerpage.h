@@ -27,6 +27,8 @@ public:
     void setRemoteAllowed(bool allowed) { m_fence.setRemoteAllowed(allowed); }
     /// Loads an empty page with a base for relative addresses; ready() signals when it can take a document.
     void open(const QUrl &base);
+    /// Whether the empty page that open() asked for isn't there yet.
+    bool isOpening() const { return m_isOpening; }
 
     /// Kills the process of an unresponsive page, which could otherwise block its replacement for ever.
     void endIfHanging();

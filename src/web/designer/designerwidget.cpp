@@ -173,9 +173,11 @@ void DesignerWidget::open()
     m_page->open(m_baseFile.isEmpty() ? QUrl(u"about:blank"_s) : QUrl::fromLocalFile(m_baseFile));
 }
 
+/// If the next page was set meanwhile, the empty page that was ready is about to go, and the one that replaces it will be
+/// ready later. Written into both, the page would lose what is done in between, or stay empty.
 void DesignerWidget::write(bool ready)
 {
-    if (!ready)
+    if (!ready || m_page->isOpening())
         return;
     const QPointer<DesignerWidget> self(this);
     m_page->call(u"load"_s, {m_text.forEngine(), m_text.markPrefix(), m_looks, m_text.isPlain()},

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void clipboardFromElsewhere();
     void clipboardKeys();
     void framesets();
+    void pageWhenTheOneBeforeIsReady();
     void largePage();
 
 private:
@@ -568,6 +569,28 @@ void TstDesignerWidget::framesets()
         QCOMPARE(m_bench->designer.queryStatus(command), 1);
     m_bench->designer.pasteHtml(u"<b>x</b>"_s);
     QCOMPARE(m_bench->designer.documentHtml(), page);
+}
+
+/// The next page is set at the very moment when the one before could be written. What the user does as soon as it is
+/// there must stay.
+void TstDesignerWidget::pageWhenTheOneBeforeIsReady()
+{
+    const QString page = u"<p>page</p>"_s;
+    for (int round = 0; round < 5; ++round) {
+        m_bench->designer.setDocumentHtml(u"<p>before</p>"_s);
+        const auto next = [&] { m_bench->designer.setDocumentHtml(page); };
+        connect(&m_bench->designer.page(), &DesignerPage::ready, this, next, Qt::SingleShotConnection);
+        int completed = 0;
+        const auto edit = [&] {
+            ++completed;
+            m_bench->designer.pasteHtml(u"<p>x</p>"_s);
+        };
+        const auto connection = connect(&m_bench->designer, &DesignerWidget::DocumentComplete, this, edit);
+        QTest::qWait(2000);
+        disconnect(connection);
+        QCOMPARE(completed, 1);
+        QCOMPARE(m_bench->body(), u"<p>x</p><p>page</p>"_s);
+    }
 }
 
 void TstDesignerWidget::largePage()
