@@ -3,6 +3,7 @@
 
 #include "assist/abbreviationcommands.h"
 #include "assist/caretcommands.h"
+#include "assist/gotosymbol.h"
 #include "assist/lastedit.h"
 #include "assist/linecommands.h"
 
@@ -27,6 +28,7 @@ constexpr std::array rows{
     Row{Duplicate, duplicate},
     Row{ExpandAbbreviation, expandAbbreviation},
     Row{GoToLastEdit, goToLastEdit},
+    Row{GoToSymbol, goToSymbol},
     Row{JoinLines, joinLines},
     Row{MakeLowerCase, makeLowerCase},
     Row{MakeUpperCase, makeUpperCase},

@@ -36,6 +36,8 @@ constexpr MenuItem everywhere(MenuItem item)
 constexpr MenuItem goItems[] = {
     everywhere(entry(u"textCommandPalette", u"&Command Palette...", TextCommand::CommandPalette,
                      u"Search for a command and run it", u"Ctrl+Shift+P")),
+    entry(u"textGoToSymbol", u"&Symbol...", TextCommand::GoToSymbol,
+          u"Go to a heading, an id, a rule or a function of this document", u"Ctrl+Shift+O"),
 };
 
 constexpr MenuItem abbreviationItems[] = {

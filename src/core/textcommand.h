@@ -13,6 +13,7 @@ enum class TextCommand {
     Duplicate,
     ExpandAbbreviation,
     GoToLastEdit,
+    GoToSymbol,
     JoinLines,
     MakeLowerCase,
     MakeUpperCase,

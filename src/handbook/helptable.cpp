@@ -33,6 +33,7 @@ constexpr HelpPage documentPages[] = {
     {u"start-dialog", u"frmselprj"},
     {u"find", u"FindDialog"},
     {u"go-to-line", u"GoToDialog"},
+    {u"command-palette", mainWindow, u"pickPopup"},
     {u"quick-view", u"frmqv"},
     {u"designer-html", u"InsertHTMLDlg"},
     {u"designer-table", u"InsertTableDlg"},

@@ -25,6 +25,7 @@ private Q_SLOTS:
         bench.find<QTabBar>(u"workspace"_s)->setCurrentIndex(1);
         bench.find<QTabBar>(u"workspace"_s)->setCurrentIndex(2);
         bench.find<QTabBar>(u"workspace"_s)->setCurrentIndex(0);
+        bench.choose(u"textCommandPalette"_s);
         int parts = 0;
         for (const HelpChapter &chapter : helpChapters()) {
             for (const HelpPage &page : chapter.pages) {

@@ -169,6 +169,12 @@ private:
             m_bench.select(1);
             return taken;
         }
+        if (part == u"pickPopup") {
+            m_bench.choose(u"textCommandPalette"_s);
+            const bool taken = save(*m_bench.find<QWidget>(part), m_folder, page.name);
+            m_bench.find<QLineEdit>(u"txtpick"_s)->clearFocus();
+            return taken;
+        }
         if (part == u"List1")
             return takeSelectors(page.name);
         if (part == u"rt" || part.isEmpty())

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "assist/documentsymbols.h"
+
+#include "assist/markupsymbols.h"
+#include "assist/scriptsymbols.h"
+#include "assist/stylesymbols.h"
+#include "core/languages.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+Symbols documentSymbols(QByteArrayView text, int row, const QString &path)
+{
+    if (path.endsWith(u".vbs", Qt::CaseInsensitive))
+        return scriptSymbols(text, ScriptLanguage::Basic);
+    switch (row) {
+    case language::CCpp:
+        return scriptSymbols(text, ScriptLanguage::C);
+    case language::Perl:
+        return scriptSymbols(text, ScriptLanguage::Perl);
+    case language::Basic:
+        return scriptSymbols(text, ScriptLanguage::Basic);
+    case language::Pascal:
+        return scriptSymbols(text, ScriptLanguage::Pascal);
+    case language::JavaScript:
+        return scriptSymbols(text, ScriptLanguage::JavaScript);
+    case language::StyleSheets:
+        return styleSymbols(text);
+    case language::Sql:
+        return scriptSymbols(text, ScriptLanguage::Sql);
+    default:
+        return markupSymbols(text);
+    }
+}
+
+QString symbolKind(const Symbol &symbol)
+{
+    switch (symbol.kind) {
+    case Symbol::Kind::Heading:
+        return u"Heading %1"_s.arg(symbol.level);
+    case Symbol::Kind::Id:
+        return u"Id"_s;
+    case Symbol::Kind::Rule:
+        return u"Rule"_s;
+    case Symbol::Kind::Function:
+        return u"Function"_s;
+    case Symbol::Kind::Class:
+        return u"Class"_s;
+    }
+    return {};
+}
+
+} // namespace zephira
