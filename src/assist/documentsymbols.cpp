@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-Symbols documentSymbols(QByteArrayView text, int row, const QString &path)
+DocumentSymbols documentSymbols(QByteArrayView text, int row, const QString &path)
 {
     if (path.endsWith(u".vbs", Qt::CaseInsensitive))
         return scriptSymbols(text, ScriptLanguage::Basic);
@@ -34,18 +34,18 @@ Symbols documentSymbols(QByteArrayView text, int row, const QString &path)
     }
 }
 
-QString symbolKind(const Symbol &symbol)
+QString symbolKind(const DocumentSymbol &symbol)
 {
     switch (symbol.kind) {
-    case Symbol::Kind::Heading:
+    case DocumentSymbol::Kind::Heading:
         return u"Heading %1"_s.arg(symbol.level);
-    case Symbol::Kind::Id:
+    case DocumentSymbol::Kind::Id:
         return u"Id"_s;
-    case Symbol::Kind::Rule:
+    case DocumentSymbol::Kind::Rule:
         return u"Rule"_s;
-    case Symbol::Kind::Function:
+    case DocumentSymbol::Kind::Function:
         return u"Function"_s;
-    case Symbol::Kind::Class:
+    case DocumentSymbol::Kind::Class:
         return u"Class"_s;
     }
     return {};

@@ -8,9 +8,9 @@ namespace zephira {
 /// The symbols of a document.
 /// @param row   its language, by the numbers of languageRows()
 /// @param path  its file, whose extension says more than the row where both a page and a program may be meant; or empty
-Symbols documentSymbols(QByteArrayView text, int row, const QString &path);
+DocumentSymbols documentSymbols(QByteArrayView text, int row, const QString &path);
 
 /// What kind of symbol it is, in a word or two: "Heading 2".
-QString symbolKind(const Symbol &symbol);
+QString symbolKind(const DocumentSymbol &symbol);
 
 } // namespace zephira

@@ -31,7 +31,7 @@ public:
         const SciEngine &engine = rt.engine();
         m_symbols = documentSymbols(engine.bytes(0, engine.length()), language, rt.path());
         m_names.reserve(m_symbols.size());
-        for (const Symbol &symbol : m_symbols)
+        for (const DocumentSymbol &symbol : m_symbols)
             m_names.emplace_back(symbol.name);
     }
 
@@ -72,14 +72,14 @@ private:
 
     PickRow rowOf(const Found &found) const
     {
-        const Symbol &symbol = m_symbols[found.symbol];
+        const DocumentSymbol &symbol = m_symbols[found.symbol];
         const qsizetype line = m_rt->engine().lineOf(symbol.position) + 1;
         return {symbol.name.isEmpty() ? u"(empty)"_s : symbol.name, found.match.places, symbolKind(symbol),
                 QString::number(line)};
     }
 
     QPointer<CodeMax> m_rt;
-    Symbols m_symbols;
+    DocumentSymbols m_symbols;
     std::vector<FuzzyText> m_names;
     std::vector<Found> m_found;
 };

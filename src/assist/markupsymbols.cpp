@@ -41,7 +41,7 @@ class MarkupScanner
 public:
     explicit MarkupScanner(QByteArrayView text) : m_text(text) {}
 
-    Symbols scan()
+    DocumentSymbols scan()
     {
         while (m_at < m_text.size()) {
             if (m_text[m_at] != '<') {
@@ -116,12 +116,12 @@ private:
             endHeading();
             m_level = name[1] - '0';
             m_headingAt = m_symbols.size();
-            addSymbol(m_symbols, {Symbol::Kind::Heading, {}, start, m_level});
+            addSymbol(m_symbols, {DocumentSymbol::Kind::Heading, {}, start, m_level});
         }
         Attribute attribute;
         while (readAttribute(attribute)) {
             if (isEqual(attribute.name, "id") && !attribute.value.isEmpty())
-                addSymbol(m_symbols, {Symbol::Kind::Id, symbolName(attribute.value), attribute.valueAt});
+                addSymbol(m_symbols, {DocumentSymbol::Kind::Id, symbolName(attribute.value), attribute.valueAt});
             else if (isEqual(attribute.name, "type") || isEqual(attribute.name, "language"))
                 kind = attribute.value;
         }
@@ -205,9 +205,9 @@ private:
         use(m_text.sliced(start, m_at - start), start);
     }
 
-    void append(Symbols symbols)
+    void append(DocumentSymbols symbols)
     {
-        for (Symbol &symbol : symbols)
+        for (DocumentSymbol &symbol : symbols)
             addSymbol(m_symbols, std::move(symbol));
     }
 
@@ -234,7 +234,7 @@ private:
 
     QByteArrayView m_text;
     qsizetype m_at = 0;
-    Symbols m_symbols;
+    DocumentSymbols m_symbols;
     QByteArray m_heading;
     std::size_t m_headingAt = 0;
     int m_level = 0;
@@ -242,7 +242,7 @@ private:
 
 } // namespace
 
-Symbols markupSymbols(QByteArrayView text)
+DocumentSymbols markupSymbols(QByteArrayView text)
 {
     return MarkupScanner(text).scan();
 }

@@ -7,6 +7,6 @@ namespace zephira {
 
 /// The headings and ids of a page, the rules of its styles, and the functions of its scripts and of its server code, in the
 /// order of the text. Any text is read in one pass.
-Symbols markupSymbols(QByteArrayView text);
+DocumentSymbols markupSymbols(QByteArrayView text);
 
 } // namespace zephira

@@ -10,7 +10,7 @@ namespace zephira {
 
 namespace {
 
-using Kind = Symbol::Kind;
+using Kind = DocumentSymbol::Kind;
 
 ScriptSyntax syntaxOf(ScriptLanguage language)
 {
@@ -120,7 +120,7 @@ private:
 class BracedSymbols
 {
 public:
-    BracedSymbols(ScriptLanguage language, qsizetype offset, Symbols &symbols)
+    BracedSymbols(ScriptLanguage language, qsizetype offset, DocumentSymbols &symbols)
         : m_language(language), m_offset(offset), m_symbols(symbols)
     {}
 
@@ -306,7 +306,7 @@ private:
 
     ScriptLanguage m_language;
     qsizetype m_offset;
-    Symbols &m_symbols;
+    DocumentSymbols &m_symbols;
     static constexpr std::size_t deepest = 1000;
     std::vector<Open> m_open;
     qsizetype m_deeper = 0;
@@ -323,16 +323,16 @@ private:
 
 } // namespace
 
-Symbols scriptSymbols(QByteArrayView text, ScriptLanguage language, qsizetype offset)
+DocumentSymbols scriptSymbols(QByteArrayView text, ScriptLanguage language, qsizetype offset)
 {
-    Symbols symbols;
+    DocumentSymbols symbols;
     ScriptTokens tokens(text, syntaxOf(language));
     const bool hasBraces =
         language == ScriptLanguage::JavaScript || language == ScriptLanguage::Php || language == ScriptLanguage::C;
     AnnouncedSymbols announced(language);
     BracedSymbols braced(language, offset, symbols);
     for (ScriptToken token = tokens.next(); token.kind != ScriptToken::Kind::End; token = tokens.next()) {
-        Symbol::Kind kind = Symbol::Kind::Function;
+        DocumentSymbol::Kind kind = DocumentSymbol::Kind::Function;
         if (hasBraces)
             braced.take(token);
         else if (announced.isName(token, kind))

@@ -25,9 +25,9 @@ qsizetype behindString(QByteArrayView text, qsizetype at)
 
 } // namespace
 
-Symbols styleSymbols(QByteArrayView text, qsizetype offset)
+DocumentSymbols styleSymbols(QByteArrayView text, qsizetype offset)
 {
-    Symbols symbols;
+    DocumentSymbols symbols;
     QByteArray selector;
     qsizetype start = -1;
     // For each open brace: whether the steps of an animation are in it, which aren't rules.
@@ -52,7 +52,7 @@ Symbols styleSymbols(QByteArrayView text, qsizetype offset)
         if (c == '{') {
             const bool inSteps = !open.empty() && open.back();
             if (start >= 0 && !inSteps)
-                addSymbol(symbols, {Symbol::Kind::Rule, symbolName(selector), offset + start});
+                addSymbol(symbols, {DocumentSymbol::Kind::Rule, symbolName(selector), offset + start});
             open.push_back(selector.startsWith('@') && selector.left(longest).contains("keyframes"));
             begin();
         } else if (c == '}' || c == ';') {

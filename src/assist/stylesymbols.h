@@ -7,6 +7,6 @@ namespace zephira {
 
 /// The rules of a style sheet, at-rules and the rules in them included, by their selectors. `offset` is added to each
 /// position. Any text is read in one pass.
-Symbols styleSymbols(QByteArrayView text, qsizetype offset = 0);
+DocumentSymbols styleSymbols(QByteArrayView text, qsizetype offset = 0);
 
 } // namespace zephira

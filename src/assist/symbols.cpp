@@ -5,7 +5,7 @@
 
 namespace zephira {
 
-void addSymbol(Symbols &symbols, Symbol symbol)
+void addSymbol(DocumentSymbols &symbols, DocumentSymbol symbol)
 {
     constexpr std::size_t most = 50'000;
     if (symbols.size() < most)

@@ -9,7 +9,7 @@
 namespace zephira {
 
 /// A place of a document that has a name.
-struct Symbol {
+struct DocumentSymbol {
     enum class Kind { Heading, Id, Rule, Function, Class };
 
     Kind kind = Kind::Heading;
@@ -20,13 +20,13 @@ struct Symbol {
     /// 1 to 6 of a heading, else 0.
     int level = 0;
 
-    friend bool operator==(const Symbol &, const Symbol &) = default;
+    friend bool operator==(const DocumentSymbol &, const DocumentSymbol &) = default;
 };
 
-using Symbols = std::vector<Symbol>;
+using DocumentSymbols = std::vector<DocumentSymbol>;
 
 /// Adds a symbol; beyond 50,000 of them, nothing more is added.
-void addSymbol(Symbols &symbols, Symbol symbol);
+void addSymbol(DocumentSymbols &symbols, DocumentSymbol symbol);
 
 /// A name for display: no more than 200 characters, with one blank in place of each stretch of blanks and line ends.
 QString symbolName(QByteArrayView utf8);

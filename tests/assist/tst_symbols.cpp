@@ -16,8 +16,8 @@ namespace {
 QString symbolsOf(const QByteArray &text, int row, const QString &path = {})
 {
     QStringList found;
-    const Symbols symbols = documentSymbols(text, row, path);
-    for (const Symbol &symbol : symbols)
+    const DocumentSymbols symbols = documentSymbols(text, row, path);
+    for (const DocumentSymbol &symbol : symbols)
         found.append(symbolKind(symbol) + u' ' + symbol.name);
     return found.join(u" | "_s);
 }
@@ -165,7 +165,7 @@ private Q_SLOTS:
     {
         const QByteArray text =
             "\xc3\xbc<h1>a</h1><p id='b'><style>c { }</style><script>function d() {}</script><?php function e() {} ?>";
-        const Symbols symbols = documentSymbols(text, language::Html, {});
+        const DocumentSymbols symbols = documentSymbols(text, language::Html, {});
         QCOMPARE(symbols.size(), 5U);
         QCOMPARE(symbols[0].position, text.indexOf("<h1"));
         QCOMPARE(symbols[1].position, text.indexOf("b'"));
@@ -176,7 +176,7 @@ private Q_SLOTS:
 
     void longNames()
     {
-        const Symbols symbols = documentSymbols("<h1>" + QByteArray(5000, 'x') + "</h1>", language::Html, {});
+        const DocumentSymbols symbols = documentSymbols("<h1>" + QByteArray(5000, 'x') + "</h1>", language::Html, {});
         QCOMPARE(symbols.front().name, QString(200, u'x'));
     }
 
@@ -188,8 +188,8 @@ private Q_SLOTS:
             "/m[/]/ }</script><% Sub n %><?php function o() { ?><p title=\"q\" r=<%= s %>>&lt;\xd7\xa9</p>";
         const auto check = [](const QByteArray &text) {
             for (int row = 0; row < languageCount; ++row) {
-                const Symbols symbols = documentSymbols(text, row, {});
-                for (const Symbol &symbol : symbols)
+                const DocumentSymbols symbols = documentSymbols(text, row, {});
+                for (const DocumentSymbol &symbol : symbols)
                     QVERIFY2(symbol.position >= 0 && symbol.position < text.size(), text.constData());
             }
         };
