@@ -82,7 +82,7 @@ constexpr MenuItem caseItems[] = {
     entry(u"textMakeUpperCase", u"&Upper Case", TextCommand::MakeUpperCase,
           u"Make capital letters of the selected text, or of this word", u"Ctrl+Shift+U"),
     entry(u"textMakeLowerCase", u"&Lower Case", TextCommand::MakeLowerCase,
-          u"Make small letters of the selected text, or of this word", u"Ctrl+L"),
+          u"Make small letters of the selected text, or of this word", u"Ctrl+U"),
     entry(u"textCapitalise", u"&Capitalise Words", TextCommand::Capitalise,
           u"Begin each word of the selected text, or this word, with a capital letter"),
 };
