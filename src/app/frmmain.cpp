@@ -249,8 +249,9 @@ void frmmain::buildCommands()
     };
     TextServices text = m_services.text;
     text.notice = [this](const QString &sentence) { m_panels->notice(sentence); };
-    m_textTools = std::make_unique<TextTools>(TextTools::Parts{
-        *this, *m_rt, *m_context, *m_menus, *m_keys, *m_ui->documentLayout, *m_commandPalette, std::move(text)});
+    m_textTools =
+        std::make_unique<TextTools>(TextTools::Parts{*this, *m_rt, *m_context, *m_menus, *m_keys, *m_ui->documentLayout,
+                                                     *m_commandPalette, *m_viewSwitch, std::move(text)});
     m_late.add([this] { m_textTools->start(); });
     m_router = std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus,
                                                             *m_sideCommands, *m_filePaneCommands, *m_end,

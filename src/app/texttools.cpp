@@ -9,20 +9,38 @@
 #include "commands/menus.h"
 #include "commands/texttable.h"
 #include "core/appcontext.h"
+#include "core/designer.h"
 #include "core/settings.h"
 #include "editor/codemax.h"
+#include "search/searchpage.h"
+#include "views/workspaceviews.h"
 #include "widgets/toolpanel.h"
 
 #include <QBoxLayout>
 #include <QMainWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace zephira {
+
+namespace {
+
+const QString searchPage = u"SearchPage"_s;
+
+} // namespace
 
 TextTools::TextTools(const Parts &parts)
     : m_parts(parts), m_panel(new ToolPanel(parts.window)), m_helpers(parts.rt, parts.context, *m_panel)
 {
     m_helpers.setServices(parts.services);
     m_panel->leave = [&rt = parts.rt] { rt.setFocus(); };
+    m_panel->addPage(searchPage, QObject::tr("Search"), [this](QWidget *parent) {
+        const auto showCode = [this] {
+            m_parts.views.selectTab(WorkspaceView::Code);
+            m_parts.context.designer.finishLeaving();
+        };
+        return new SearchPage({m_parts.rt, m_parts.context, showCode}, parent);
+    });
 }
 
 TextTools::~TextTools() = default;
@@ -61,10 +79,19 @@ void TextTools::attach(FocusRing &ring)
     m_panel->made = [&ring](QWidget &panel) { ring.add({&panel}); };
 }
 
+void TextTools::findInProject()
+{
+    static_cast<SearchPage *>(m_panel->enter(searchPage))->bring();
+}
+
 void TextTools::runTextCommand(TextCommand command)
 {
     if (command == TextCommand::CommandPalette) {
         m_parts.commands.open();
+        return;
+    }
+    if (command == TextCommand::FindInProject) {
+        findInProject();
         return;
     }
     if (command == TextCommand::ShowBreadcrumb) {

@@ -30,6 +30,7 @@ public:
         /// Has the views of the document; what is shown below them goes to its end.
         QBoxLayout &document;
         CommandPalette &commands;
+        ViewTabs &views;
         TextServices services = {};
     };
 
@@ -43,6 +44,8 @@ public:
 
     TextHelpers &helpers() { return m_helpers; }
     ToolPanel &panel() { return *m_panel; }
+    /// Opens the panel's page that searches the project.
+    void findInProject();
     /// The text is in another language now.
     void languageChanged();
 

@@ -33,6 +33,11 @@ constexpr MenuItem everywhere(MenuItem item)
     return item;
 }
 
+constexpr MenuItem findItems[] = {
+    everywhere(entry(u"textFindInProject", u"Find in &Project...", TextCommand::FindInProject,
+                     u"Find a text in the files of the project, and replace it there", u"Ctrl+Shift+F")),
+};
+
 constexpr MenuItem goItems[] = {
     everywhere(entry(u"textCommandPalette", u"&Command Palette...", TextCommand::CommandPalette,
                      u"Search for a command and run it", u"Ctrl+Shift+P")),
@@ -91,6 +96,7 @@ constexpr MenuItem caseItems[] = {
 constexpr MenuItem menus[] = {
     menu(u"textGo", u"&Go To", goItems),
     menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
+    menu(u"textFind", u"&Find", findItems),
     menu(u"textCarets", u"Ca&rets", caretItems),
     menu(u"textLines", u"&Lines", lineItems),
     menu(u"textLetters", u"Le&tters", caseItems),

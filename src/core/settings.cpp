@@ -123,6 +123,8 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {MenuKeys, own, u"Keys"_s, {}, Text},
         {Breadcrumb, own, u"Text"_s, u"Breadcrumb"_s, Switch, u"0"_s},
         {CommandUses, own, u"CommandUses"_s, {}, Number},
+        {SearchHistory, own, u"Search"_s, u"Searches"_s, Text},
+        {ReplacementHistory, own, u"Search"_s, u"Replacements"_s, Text},
     };
     // clang-format on
 }

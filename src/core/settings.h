@@ -124,6 +124,8 @@ enum class UserSetting : int {
     MenuKeys,
     Breadcrumb,
     CommandUses,
+    SearchHistory,
+    ReplacementHistory,
 };
 
 /// One value of the per-user store.

@@ -12,6 +12,7 @@ enum class TextCommand {
     DeleteLines,
     Duplicate,
     ExpandAbbreviation,
+    FindInProject,
     GoToLastEdit,
     GoToSymbol,
     JoinLines,

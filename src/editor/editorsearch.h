@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/patternsearch.h"
+#include "core/patternsearch.h"
 
 #include <QString>
 

@@ -59,7 +59,7 @@ constexpr std::array hotKeys{
     row(PreviousBookmark, Shift, Qt::Key_F2),
     row(ClearBookmarks, CtrlShift, Qt::Key_F2),
     row(ToggleOvertype, None, Qt::Key_Insert),
-    row(ToggleFold, CtrlShift, Qt::Key_F),
+    row(ToggleFold, Ctrl, Qt::Key_F11),
     row(ToggleAllFolds, CtrlShift, Qt::Key_A),
     row(GoToMatchingBrace, Ctrl, Qt::Key_M),
     row(SelectToMatchingBrace, CtrlShift, Qt::Key_M),

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
 #include <cerrno>
 
 #include <sys/stat.h>
@@ -20,6 +21,7 @@ namespace zephira {
 namespace {
 
 constexpr int keptVersions = 50;
+constexpr qsizetype keptRuns = 9;
 constexpr int ownerOnly = 0600;
 /// In bytes. Leaves room for the prefix in a file name of 255 bytes.
 constexpr qsizetype maximumBaseName = 180;
@@ -59,6 +61,39 @@ Result<QString> RecoveryCopies::keepDisk(const QString &path, QByteArrayView byt
         return written.error();
     removeOldest(copy);
     return copy;
+}
+
+QString RecoveryCopies::beginReplacing()
+{
+    const QString mark = u"replaced-"_s;
+    // The name of a run is as long as its time and process, and what follows is a number and the file's name.
+    const auto runOf = [&](const QString &copy) { return copy.section(u'-', 0, 4); };
+    const QDir folder(m_folder);
+    const QStringList copies = folder.entryList({mark + u'*'}, QDir::Files | QDir::Hidden, QDir::Name);
+    QStringList runs;
+    for (const QString &copy : copies) {
+        if (runs.isEmpty() || runs.back() != runOf(copy))
+            runs.append(runOf(copy));
+    }
+    const QStringList old = runs.first(std::max<qsizetype>(runs.size() - keptRuns, 0));
+    for (const QString &copy : copies) {
+        if (old.contains(runOf(copy)))
+            static_cast<void>(m_files.remove(folder.filePath(copy)));
+    }
+    m_replaced = 0;
+    return mark + stamp(m_clock.now());
+}
+
+Result<void> RecoveryCopies::keepReplaced(const QString &run, const QString &path, QByteArrayView bytes)
+{
+    if (Result<void> made = makeFolder(); !made)
+        return made;
+    QString copy;
+    do {
+        copy =
+            u"%1/%2-%3-%4"_s.arg(m_folder, run, QString::number(++m_replaced).rightJustified(5, u'0'), baseName(path));
+    } while (m_files.signature(copy).exists);
+    return m_files.write(copy, bytes, ownerOnly);
 }
 
 Result<void> RecoveryCopies::write(const QString &titleOrPath, std::span<const QByteArrayView> pieces)

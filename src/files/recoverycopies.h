@@ -19,6 +19,7 @@ class FileStore;
 ///
 ///     disk-20240229-120000-000-4711-001-index.htm      kept before a save
 ///     open-20240229-120000-000-4711-index.htm          the document of process 4711, from that time on
+///     replaced-20240229-120000-000-4711-00001-index.htm  kept by a run of "Replace in files"
 class RecoveryCopies
 {
 public:
@@ -28,6 +29,11 @@ public:
     /// Keeps the bytes found on disk under `path` and returns the copy's path. A copy is never overwritten; the newest
     /// 50 are kept.
     Result<QString> keepDisk(const QString &path, QByteArrayView bytes);
+
+    /// Begins a run that changes many files and returns its name. Removes the copies of all runs but the latest nine.
+    QString beginReplacing();
+    /// Keeps what such a run is about to replace. No copy of the run is removed before it has become the tenth.
+    Result<void> keepReplaced(const QString &run, const QString &path, QByteArrayView bytes);
 
     /// Writes the copy of the document, replacing the previous one.
     Result<void> write(const QString &titleOrPath, std::span<const QByteArrayView> pieces);
@@ -50,6 +56,7 @@ private:
     QString m_ownPrefix;
     QString m_own;
     int m_counter = 0;
+    int m_replaced = 0;
 };
 
 } // namespace zephira

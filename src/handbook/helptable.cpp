@@ -32,6 +32,7 @@ constexpr HelpPage documentPages[] = {
     {u"documents"},
     {u"start-dialog", u"frmselprj"},
     {u"find", u"FindDialog"},
+    {u"find-in-project", mainWindow, u"SearchPage"},
     {u"go-to-line", u"GoToDialog"},
     {u"command-palette", mainWindow, u"pickPopup"},
     {u"quick-view", u"frmqv"},

@@ -97,6 +97,8 @@ private Q_SLOTS:
         QTest::newRow("keys") << UserSetting::MenuKeys << u"zephira/Keys/frmmain"_s;
         QTest::newRow("breadcrumb") << UserSetting::Breadcrumb << u"zephira/Text/Breadcrumb"_s;
         QTest::newRow("uses") << UserSetting::CommandUses << u"zephira/CommandUses/frmmain"_s;
+        QTest::newRow("searches") << UserSetting::SearchHistory << u"zephira/Search/Searches"_s;
+        QTest::newRow("replacements") << UserSetting::ReplacementHistory << u"zephira/Search/Replacements"_s;
     }
 
     void userValues()

@@ -208,7 +208,7 @@ private Q_SLOTS:
         const auto visible = [&](qsizetype line) { return engine.send(Sci::SCI_GETLINEVISIBLE, line) != 0; };
         QVERIFY(engine.send(Sci::SCI_GETFOLDLEVEL, 0) & Sci::SC_FOLDLEVELHEADERFLAG);
         f.editor.select({2, 0, 2, 0});
-        QTest::keyClick(&f.editor, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(&f.editor, Qt::Key_F11, Qt::ControlModifier);
         QVERIFY(visible(1) && !visible(2) && !visible(3) && visible(4));
         QCOMPARE(f.editor.selection(false).EndLineNo, 1);
         // Selecting folded text unfolds it.

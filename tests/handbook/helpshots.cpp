@@ -18,12 +18,16 @@
 #include "support/fakes.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QDockWidget>
 #include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPalette>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QStyleFactory>
 #include <QTest>
@@ -179,6 +183,8 @@ private:
             return takeSelectors(page.name);
         if (part == u"rt" || part.isEmpty())
             return save(*m_bench.window, m_folder, page.name);
+        if (part == u"SearchPage")
+            return takeSearch(page.name);
         if (part == u"toolpane")
             return save(*m_bench.find<QWidget>(u"paletteBar"_s), m_folder, page.name);
         selectSideTab(sideTabOf(part));
@@ -192,6 +198,20 @@ private:
         selectors->show();
         const bool taken = save(*selectors, m_folder, page);
         selectors->hide();
+        return taken;
+    }
+
+    /// The panel's search, with what it finds in the project.
+    bool takeSearch(QStringView page)
+    {
+        m_bench.find<QAction>(u"textFindInProject"_s)->trigger();
+        auto *field = m_bench.find<QComboBox>(u"cboSought"_s);
+        field->setEditText(u"walk"_s);
+        m_bench.find<QPushButton>(u"cmdSearch"_s)->click();
+        QTest::qWait(3 * timeToPaint);
+        auto *panel = m_bench.find<QDockWidget>(u"toolPanel"_s);
+        const bool taken = save(*panel, m_folder, page);
+        panel->close();
         return taken;
     }
 

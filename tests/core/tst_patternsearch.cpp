@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/patternsearch.h"
 #include "core/textparts.h"
-#include "editor/patternsearch.h"
 #include "support/testregistry.h"
 
 #include <QTest>
