@@ -114,7 +114,7 @@ frmmain::~frmmain() = default;
 void frmmain::buildDocument()
 {
     m_rt = new CodeMax({m_services.files, m_services.recovery, m_services.prompts,
-                        editorFont(m_services.configuration, EditorLooks().font)},
+                        editorFont(m_services.configuration, EditorLooks().font), &m_services.settings},
                        this);
     m_rt->setObjectName(u"rt"_s);
     m_rt->setAccessibleName(u"Source of the document"_s);

@@ -41,6 +41,8 @@ enum class EditorCommand : int {
     PasteText,
     DeleteText,
     AddNextOccurrence,
+    FindWord,
+    FindWordBefore,
 };
 
 constexpr int numberOf(EditorCommand command)

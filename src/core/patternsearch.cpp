@@ -2,6 +2,7 @@
 #include "core/patternsearch.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zephira {
 
@@ -104,10 +105,10 @@ std::vector<TextMatch> PatternSearch::all(const QString &text, qsizetype start, 
     return found;
 }
 
-bool PatternSearch::each(const QString &text, qsizetype start, const QString &replacement,
+bool PatternSearch::each(const QString &text, qsizetype start, qsizetype end, const QString &replacement,
                          const std::function<bool(TextMatch)> &take) const
 {
-    auto matches = m_expression.globalMatch(text, start);
+    auto matches = m_expression.globalMatch(QStringView(text).first(end), start);
     while (matches.hasNext()) {
         if (!take(toMatch(matches.next(), replacement)))
             return true;
@@ -115,36 +116,95 @@ bool PatternSearch::each(const QString &text, qsizetype start, const QString &re
     return matches.isValid();
 }
 
+namespace {
+
+/// Collects a replacement, with the changes of case that it asks for.
+class CasedText
+{
+public:
+    void add(const QString &part)
+    {
+        if (part.isEmpty())
+            return;
+        const qsizetype first = m_next == Case::AsItIs ? 0 : part.size() > 1 && part[0].isHighSurrogate() ? 2 : 1;
+        m_text += changed(part.first(first), std::exchange(m_next, Case::AsItIs));
+        m_text += changed(part.sliced(first), m_case);
+    }
+
+    /// Takes the letter of an escape; false if it says nothing about case.
+    bool takeCode(QChar code)
+    {
+        switch (code.unicode()) {
+        case u'U':
+            m_case = Case::Capital;
+            return true;
+        case u'L':
+            m_case = Case::Small;
+            return true;
+        case u'E':
+            m_case = Case::AsItIs;
+            return true;
+        case u'u':
+            m_next = Case::Capital;
+            return true;
+        case u'l':
+            m_next = Case::Small;
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    const QString &text() const { return m_text; }
+
+private:
+    enum class Case { AsItIs, Capital, Small };
+
+    static QString changed(const QString &text, Case to)
+    {
+        return to == Case::Capital ? text.toUpper() : to == Case::Small ? text.toLower() : text;
+    }
+
+    QString m_text;
+    Case m_case = Case::AsItIs;
+    Case m_next = Case::AsItIs;
+};
+
+} // namespace
+
 QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match)
 {
     if (!replacement.contains(u'\\') && !replacement.contains(u'$'))
         return replacement;
-    QString expanded;
+    CasedText expanded;
     for (qsizetype i = 0; i < replacement.size(); ++i) {
         const QChar c = replacement[i];
         const QChar code = i + 1 < replacement.size() ? replacement[i + 1] : QChar();
         const bool digit = code >= u'0' && code <= u'9';
         if (code.isNull() || (c != u'\\' && (c != u'$' || !digit))) {
-            expanded += c;
+            // Both halves of a surrogate pair are one letter.
+            const bool isPair = c.isHighSurrogate() && code.isLowSurrogate();
+            expanded.add(replacement.sliced(i, isPair ? 2 : 1));
+            i += isPair ? 1 : 0;
             continue;
         }
         ++i;
         if (digit)
-            expanded += match.captured(code.unicode() - u'0');
+            expanded.add(match.captured(code.unicode() - u'0'));
         else if (code == u'n')
-            expanded += u'\n';
+            expanded.add(u"\n"_s);
         else if (code == u'r')
-            expanded += QStringView(replacement).sliced(i + 1).startsWith(u"\\n") ? QString() : u"\n"_s;
+            expanded.add(QStringView(replacement).sliced(i + 1).startsWith(u"\\n") ? QString() : u"\n"_s);
         else if (code == u'$')
-            expanded += u'$';
+            expanded.add(u"$"_s);
         else if (code == u't')
-            expanded += u'\t';
+            expanded.add(u"\t"_s);
         else if (code == u'\\')
-            expanded += u'\\';
-        else
-            expanded += c, expanded += code;
+            expanded.add(u"\\"_s);
+        else if (!expanded.takeCode(code))
+            expanded.add(QString(c) + code);
     }
-    return expanded;
+    return expanded.text();
 }
 
 } // namespace zephira

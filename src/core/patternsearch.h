@@ -46,9 +46,9 @@ public:
                                       const QString &replacement) const;
     /// All non-overlapping matches from start to end, from left to right.
     std::vector<TextMatch> all(const QString &text, qsizetype start, qsizetype end, const QString &replacement) const;
-    /// Passes the same to `take` one by one, from `start` to the end of the text, until that returns false. Returns false
-    /// if the expression gave up on this text, because it needed too many steps.
-    bool each(const QString &text, qsizetype start, const QString &replacement,
+    /// Passes the same to `take` one by one until that returns false. Returns false if the expression gave up on this text,
+    /// because it needed too many steps.
+    bool each(const QString &text, qsizetype start, qsizetype end, const QString &replacement,
               const std::function<bool(TextMatch)> &take) const;
 
 private:
@@ -62,7 +62,8 @@ private:
 };
 
 /// Expands a replacement for a regular expression: "\0" to "\9" and "$0" to "$9" are the groups, "\n" and "\r\n" a line
-/// feed, "\t" a tab, "\\" and "\$" a backslash and a dollar sign; anything else is literal.
+/// feed, "\t" a tab, "\\" and "\$" a backslash and a dollar sign. "\U" and "\L" make what follows capital or small
+/// letters, up to "\E" or the end, "\u" and "\l" the next letter alone. Anything else is literal.
 QString expandReplacement(const QString &replacement, const QRegularExpressionMatch &match);
 
 } // namespace zephira

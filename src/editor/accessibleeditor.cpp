@@ -2,8 +2,8 @@
 #include "editor/accessibleeditor.h"
 
 #include "editor/bidipainter.h"
-#include "editor/buffertext.h"
 #include "editor/codemax.h"
+#include "files/buffertext.h"
 
 #include <QTextBoundaryFinder>
 

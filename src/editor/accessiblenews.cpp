@@ -2,7 +2,7 @@
 #include "editor/accessiblenews.h"
 
 #include "editor/accessibleeditor.h"
-#include "editor/buffertext.h"
+#include "files/buffertext.h"
 
 #include <QAccessible>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bidipainter.h"
 
-#include "editor/buffertext.h"
 #include "editor/editorappearance.h"
 #include "editor/indicators.h"
 #include "editor/stylefont.h"
+#include "files/buffertext.h"
 #include "widgets/qtvalues.h"
 
 #include <QFontMetricsF>

@@ -4,7 +4,6 @@
 #include "editor/accessibleeditor.h"
 #include "editor/bidipainter.h"
 #include "editor/bracematcher.h"
-#include "editor/buffertext.h"
 #include "editor/codemaxglobals.h"
 #include "editor/editorappearance.h"
 #include "editor/editormargins.h"
@@ -15,6 +14,7 @@
 #include "editor/idlecolouring.h"
 #include "editor/indicators.h"
 #include "editor/propertiesdialog.h"
+#include "files/buffertext.h"
 #include "widgets/qtvalues.h"
 
 #include <QAccessible>

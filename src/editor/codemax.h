@@ -39,6 +39,7 @@ class GoToDialog;
 class IdleColouring;
 class PropertiesDialog;
 class RecoveryCopies;
+class UserSettings;
 
 /// The services that the editing control uses. All of them must outlive the control.
 struct EditorServices {
@@ -47,6 +48,8 @@ struct EditorServices {
     Prompts &prompts;
     /// The font to begin with, where that is known: each that is shown once costs the loading of it.
     std::optional<FontChoice> font = {};
+    /// Where searches are remembered for the user; without it they are for as long as the dialog exists.
+    UserSettings *settings = nullptr;
 };
 
 /// The editing control. C++ code uses it through EditingControl; scripts, tests and other outside code use the

@@ -77,6 +77,8 @@ void CodeMax::runCommand(int command)
              });
          }},
         {FindPrevious, [](CodeMax &editor) { editor.findNext(true); }},
+        {FindWord, [](CodeMax &editor) { static_cast<void>(editor.search().findWord(false)); }},
+        {FindWordBefore, [](CodeMax &editor) { static_cast<void>(editor.search().findWord(true)); }},
         {ToggleBookmark,
          [](CodeMax &editor) { editor.m_margins->toggleBookmark(editor.m_engine.lineOf(editor.m_engine.caret())); }},
         {NextBookmark, [](CodeMax &editor) { editor.goToBookmark(false); }},

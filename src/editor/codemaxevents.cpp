@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keys, mouse, drops and the context menu of the editing control.
+#include "core/graphemes.h"
 #include "editor/bidipainter.h"
 #include "editor/codemax.h"
 #include "editor/codemaxglobals.h"
 #include "editor/colouritems.h"
 #include "editor/editorappearance.h"
 #include "editor/editormargins.h"
-#include "editor/graphemes.h"
 #include "editor/hotkeys.h"
 #include "widgets/qtvalues.h"
 

@@ -2,10 +2,10 @@
 // Text and selection of the editing control.
 #include "editor/bidipainter.h"
 #include "editor/bracematcher.h"
-#include "editor/buffertext.h"
 #include "editor/codemax.h"
 #include "editor/editorappearance.h"
 #include "editor/idlecolouring.h"
+#include "files/buffertext.h"
 #include "syntax/syntaxstyle.h"
 
 #include <algorithm>

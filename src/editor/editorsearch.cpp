@@ -2,8 +2,8 @@
 #include "editor/editorsearch.h"
 
 #include "core/textparts.h"
-#include "editor/buffertext.h"
 #include "editor/codemax.h"
+#include "files/buffertext.h"
 
 #include <algorithm>
 
@@ -17,6 +17,44 @@ using Sci = QsciScintillaBase;
 constexpr std::size_t fewReplacements = 1000;
 
 } // namespace
+
+EditorSearch::EditorSearch(CodeMax &editor) : m_editor(editor)
+{
+    if (UserSettings *settings = editor.services().settings)
+        m_history.emplace(*settings);
+}
+
+QStringList EditorSearch::words(SearchHistory::Kind kind) const
+{
+    return m_history ? m_history->words(kind) : QStringList();
+}
+
+void EditorSearch::remember(SearchHistory::Kind kind, const QString &text)
+{
+    if (m_history)
+        m_history->add(kind, text);
+}
+
+const QString &EditorSearch::plainText()
+{
+    refresh();
+    return m_text;
+}
+
+EditorSearch::Range EditorSearch::scopeOf(bool inSelection)
+{
+    refresh();
+    const Range bytes = byteScope(inSelection);
+    return inSelection ? Range(toOffset(bytes.first), toOffset(bytes.second)) : Range(0, m_text.size());
+}
+
+EditorSearch::Range EditorSearch::byteScope(bool inSelection) const
+{
+    const qsizetype length = m_editor.engine().length();
+    if (!inSelection || !m_scope)
+        return {0, length};
+    return {std::min(m_scope->first, length), std::min(m_scope->second, length)};
+}
 
 Result<void> EditorSearch::setOptions(const Options &options)
 {
@@ -122,15 +160,6 @@ std::vector<EditorSearch::Range> EditorSearch::toPositions(const std::vector<Tex
     return ranges;
 }
 
-/// The range to search, in UTF-16 offsets.
-EditorSearch::Range EditorSearch::scope() const
-{
-    if (!m_options.inSelection || !m_scope)
-        return {0, m_text.size()};
-    const qsizetype length = m_editor.engine().length();
-    return {toOffset(std::min(m_scope->first, length)), toOffset(std::min(m_scope->second, length))};
-}
-
 void EditorSearch::show(const TextMatch &match)
 {
     const Range range = toPositions({match}).front();
@@ -150,7 +179,7 @@ SearchOutcome EditorSearch::find(bool against)
         return {};
     refresh();
     const bool backward = m_options.backward != against;
-    const auto [start, end] = scope();
+    const auto [start, end] = scopeOf(m_options.inSelection);
     const SciEngine &engine = m_editor.engine();
     qsizetype from = toOffset(engine.send(backward ? Sci::SCI_GETSELECTIONSTART : Sci::SCI_GETSELECTIONEND));
     from = std::clamp(from, start, end);
@@ -177,6 +206,31 @@ SearchOutcome EditorSearch::find(bool against)
     if (match)
         show(*match);
     return outcome;
+}
+
+SearchOutcome EditorSearch::findWord(bool backward)
+{
+    if (selectionSpansLines())
+        return {};
+    const SciEngine &engine = m_editor.engine();
+    QString word = seed();
+    bool isWhole = word == m_options.request.pattern && m_options.request.wholeWord;
+    if (word.isEmpty()) {
+        const qsizetype start = engine.send(Sci::SCI_WORDSTARTPOSITION, engine.caret(), 1);
+        const qsizetype end = engine.send(Sci::SCI_WORDENDPOSITION, engine.caret(), 1);
+        if (start == end)
+            return {};
+        m_editor.perform([&] { engine.send(Sci::SCI_SETSEL, start, end); });
+        word = m_editor.selText();
+        isWhole = true;
+    }
+    Options options;
+    options.request = {word, m_options.request.matchCase, isWhole, false};
+    options.replacement = m_options.replacement;
+    if (!setOptions(options))
+        return {};
+    remember(SearchHistory::Kind::Searches, word);
+    return find(backward);
 }
 
 SearchOutcome EditorSearch::replace()
@@ -211,7 +265,7 @@ SearchOutcome EditorSearch::replaceAll()
     if (!m_search || isReadOnly())
         return {};
     refresh();
-    const auto [start, end] = scope();
+    const auto [start, end] = scopeOf(m_options.inSelection);
     const std::vector<TextMatch> matches = m_search->all(m_text, start, end, m_options.replacement);
     if (matches.empty())
         return {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/patternsearch.h"
+#include "core/searchhistory.h"
 
 #include <QString>
 
@@ -34,7 +35,10 @@ public:
         bool backward = false;
     };
 
-    explicit EditorSearch(CodeMax &editor) : m_editor(editor) {}
+    /// A range of bytes or of UTF-16 code units; the end is exclusive.
+    using Range = std::pair<qsizetype, qsizetype>;
+
+    explicit EditorSearch(CodeMax &editor);
 
     /// Fails for an invalid regular expression; then the previous options stay in effect.
     Result<void> setOptions(const Options &options);
@@ -54,17 +58,30 @@ public:
     /// Replaces all matches in the text, or in the selection, in one undo step.
     SearchOutcome replaceAll();
 
-private:
-    using Range = std::pair<qsizetype, qsizetype>;
+    /// Selects the word at the caret and then its next occurrence, or the previous one; if something is selected within a
+    /// line, the next occurrence of that. It becomes the pattern of the next searches.
+    SearchOutcome findWord(bool backward);
 
+    CodeMax &editor() const { return m_editor; }
+    /// The text with line feeds as line ends, valid until it changes.
+    const QString &plainText();
+    /// What is searched: in UTF-16 code units of plainText(), or in bytes of the engine's buffer.
+    Range scopeOf(bool inSelection);
+    Range byteScope(bool inSelection) const;
+
+    /// What was searched for before, the latest first; empty if nothing is kept for the user.
+    QStringList words(SearchHistory::Kind kind) const;
+    void remember(SearchHistory::Kind kind, const QString &text);
+
+private:
     void refresh();
     qsizetype toOffset(qsizetype position) const;
     qsizetype toPosition(qsizetype offset) const;
     std::vector<Range> toPositions(const std::vector<TextMatch> &matches) const;
-    Range scope() const;
     void show(const TextMatch &match);
 
     CodeMax &m_editor;
+    std::optional<SearchHistory> m_history;
     Options m_options;
     std::optional<PatternSearch> m_search;
     std::optional<Range> m_scope; ///< byte positions

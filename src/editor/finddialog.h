@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/editorsearch.h"
+#include "editor/searchmarks.h"
 
 #include <QDialog>
 
@@ -28,16 +29,24 @@ public:
     /// Shows the result of a search in the dialog's message line.
     void showOutcome(const SearchOutcome &outcome);
 
+protected:
+    void hideEvent(QHideEvent *event) override;
+
 private:
+    SearchRequest request() const;
+    void updateMarks();
+    void showCount(const SearchMarks::Count &count);
+    void readHistory();
     void findNext();
     void replace();
     void replaceAll();
     bool takeOptions();
     void updateButtons();
     void say(const QString &sentence, bool isError = false);
-    static void remember(QComboBox &box);
+    void remember(QComboBox &box, SearchHistory::Kind kind);
 
     EditorSearch &m_search;
+    SearchMarks m_marks;
     std::unique_ptr<Ui::FindDialog> m_ui;
     bool m_replacing = false;
 };

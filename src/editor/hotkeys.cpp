@@ -54,6 +54,8 @@ constexpr std::array hotKeys{
     row(SelectAll, Ctrl, Qt::Key_A),
 
     row(FindPrevious, Shift, Qt::Key_F3),
+    row(FindWord, Ctrl, Qt::Key_F3),
+    row(FindWordBefore, CtrlShift, Qt::Key_F3),
     row(ToggleBookmark, Ctrl, Qt::Key_F2),
     row(NextBookmark, None, Qt::Key_F2),
     row(PreviousBookmark, Shift, Qt::Key_F2),
@@ -96,6 +98,8 @@ constexpr std::array texts{
     text(DeleteText, u"Delete the selection or the next character"),
     text(SelectAll, u"Select the whole text"),
     text(FindPrevious, u"Find the previous match"),
+    text(FindWord, u"Find the word or the selection"),
+    text(FindWordBefore, u"Find the word or the selection, backward"),
     text(ToggleBookmark, u"Set or remove a bookmark"),
     text(NextBookmark, u"Go to the next bookmark"),
     text(PreviousBookmark, u"Go to the previous bookmark"),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/typingrules.h"
 
-#include "editor/graphemes.h"
+#include "core/graphemes.h"
 #include "editor/hotkeys.h"
 
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/undoableformat.h"
 
-#include "editor/buffertext.h"
+#include "files/buffertext.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/filereplacement.h"
 
-#include "editor/buffertext.h"
+#include "files/buffertext.h"
 #include "files/recoverycopies.h"
 #include "files/textfile.h"
 
@@ -65,7 +65,7 @@ Result<TextChanges> replacementsIn(const QString &text, const ReplaceOrder &orde
     TextChanges changes;
     RawPlaces places(text);
     std::size_t number = 0;
-    search.value().each(plain, 0, order.replacement, [&](TextMatch match) {
+    search.value().each(plain, 0, plain.size(), order.replacement, [&](TextMatch match) {
         if (number < chosen.size() && chosen[number]) {
             const qsizetype begin = places.of(match.start);
             changes.push_back({begin, places.of(match.end), std::move(match.replacement)});

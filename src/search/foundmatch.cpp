@@ -94,7 +94,7 @@ FoundMatches findMatches(const PatternSearch &search, const QString &text, const
 {
     FoundMatches result;
     Places places(text);
-    result.gaveUp = !search.each(text, 0, replacement, [&](TextMatch match) {
+    result.gaveUp = !search.each(text, 0, text.size(), replacement, [&](TextMatch match) {
         if (static_cast<qsizetype>(result.matches.size()) >= atMost) {
             result.isCut = true;
             return false;

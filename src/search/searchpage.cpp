@@ -40,6 +40,12 @@ void fill(QComboBox &box, const QStringList &words)
     box.setEditText(text);
 }
 
+/// Whether the document's file is a file that was searched, under whatever path.
+bool isSameFile(const FileSignature &open, const FileSignature &searched)
+{
+    return open.exists && open.device == searched.device && open.inode == searched.inode;
+}
+
 bool isBelow(const QString &path, const QString &folder)
 {
     return QDir::cleanPath(path).startsWith(withSeparator(QDir::cleanPath(folder)));
@@ -222,7 +228,7 @@ void SearchPage::goIn(const FoundFile &file, const FoundMatch &match)
     const FileStore &files = m_parts.context.files;
     const auto isOpen = [&] {
         const FileSignature open = openPath().isEmpty() ? FileSignature() : files.signature(openPath());
-        return open.exists && open.device == file.signature.device && open.inode == file.signature.inode;
+        return isSameFile(open, file.signature);
     };
     // A file that another program has replaced has another number, but the same path.
     const auto isNamed = [&] { return QDir::cleanPath(openPath()) == QDir::cleanPath(file.path); };
@@ -271,8 +277,9 @@ void SearchPage::replaceNext()
     const int number = m_replacing->next++;
     const FoundFile &file = m_results->file(number);
     const std::vector<bool> chosen = m_results->chosen(number);
-    const QString named = QDir::cleanPath(openPath());
-    const bool isOpen = file.isOpenDocument || (!openPath().isEmpty() && named == QDir::cleanPath(file.path));
+    const FileSignature open = openPath().isEmpty() ? FileSignature() : m_parts.context.files.signature(openPath());
+    const bool isOpen = file.isOpenDocument || isSameFile(open, file.signature)
+        || (!openPath().isEmpty() && QDir::cleanPath(openPath()) == QDir::cleanPath(file.path));
     const ReplaceOrder order{m_search.request, m_search.replacement};
     const Result<void> replaced = isOpen
         ? replaceInDocument(file, chosen)
@@ -296,8 +303,7 @@ Result<void> SearchPage::replaceInDocument(const FoundFile &file, const std::vec
 {
     CodeMax &rt = m_parts.rt;
     const FileSignature open = openPath().isEmpty() ? FileSignature() : m_parts.context.files.signature(openPath());
-    const bool isStillOpen = open.exists && open.inode == file.signature.inode && open.device == file.signature.device;
-    if (!isStillOpen || !file.isOpenDocument)
+    if (!isSameFile(open, file.signature) || !file.isOpenDocument)
         return Error{Error::Code::Refused, tr("It was opened or closed since the search and was left as it is.")};
     if (rt.isReadOnly())
         return Error{Error::Code::Refused, tr("It is read-only in the editor.")};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/searchrun.h"
 
-#include "editor/buffertext.h"
+#include "files/buffertext.h"
 #include "files/bulkreader.h"
 #include "files/filewalk.h"
 #include "files/textfile.h"

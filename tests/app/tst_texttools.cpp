@@ -2,7 +2,11 @@
 #include "app/windowbench.h"
 #include "support/testregistry.h"
 
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
+#include <QTreeView>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
@@ -88,6 +92,35 @@ private Q_SLOTS:
         rt.select({0, 0, 0, 0});
         press(bench, u"Ctrl+Shift+Y"_s);
         QCOMPARE(rt.selection(true), (CodeMaxRange{1, 4, 1, 4}));
+    }
+
+    /// From the key over the list to the place in another file; the project stays the project.
+    void findInProject()
+    {
+        WindowBench bench;
+        CodeMax &rt = begin(bench, u"one needle"_s);
+        const QString page = bench.write(u"site/sub/page.htm"_s, "<p>\n a needle</p>\n");
+        auto *project = bench.find<QLineEdit>(u"PrjPath"_s);
+        project->setText(bench.folder() + u"/site"_s);
+        rt.select({0, 4, 0, 10});
+        press(bench, u"Ctrl+Shift+F"_s);
+        QTRY_VERIFY(bench.find<QComboBox>(u"cboSought"_s)->hasFocus());
+        QCOMPARE(bench.find<QComboBox>(u"cboSought"_s)->currentText(), u"needle"_s);
+        press(bench, u"Return"_s);
+        auto *tree = bench.find<QTreeView>(u"treFound"_s);
+        QTRY_COMPARE(tree->model()->rowCount(), 1);
+        QTRY_VERIFY(!bench.find<QPushButton>(u"cmdStop"_s)->isEnabled());
+        // The document has unsaved changes, about which the window asks.
+        bench.prompts.expect({u"Document: New Document\n\nThis document has been modified.\nDo you wish to save?"_s,
+                              u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
+                             Answer::No);
+        tree->setFocus();
+        tree->setCurrentIndex(tree->model()->index(0, 0, tree->model()->index(0, 0)));
+        press(bench, u"Return"_s);
+        QTRY_COMPARE(bench.window->context().document.commonDialogFile(), page);
+        QCOMPARE(rt.selection(false), (CodeMaxRange{1, 3, 1, 9}));
+        QVERIFY(rt.hasFocus());
+        QCOMPARE(project->text(), bench.folder() + u"/site"_s);
     }
 
     void caretsInLines()

@@ -24,6 +24,56 @@ class TstPatternSearch : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void caseChanges_data()
+    {
+        QTest::addColumn<QString>("replacement");
+        QTest::addColumn<QString>("expanded");
+        // clang-format off: a row a line
+        QTest::newRow("capitals") << u"\\U$1 x"_s << u"\u00C4RGER X"_s;
+        QTest::newRow("up to the end of the change") << u"\\U$1\\E x"_s << u"\u00C4RGER x"_s;
+        QTest::newRow("small letters") << u"\\L\\2 X"_s << u"stra\u00DFe x"_s;
+        QTest::newRow("one capital") << u"\\u$1 x"_s << u"\u00C4rger x"_s;
+        QTest::newRow("one small letter") << u"\\l$2"_s << u"sTRA\u00DFE"_s;
+        QTest::newRow("a capital, then small ones") << u"\\u\\L$2"_s << u"Stra\u00DFe"_s;
+        QTest::newRow("the other way round") << u"\\L\\u$2"_s << u"Stra\u00DFe"_s;
+        QTest::newRow("an empty group takes no letter") << u"\\u$3$1"_s << u"\u00C4rger"_s;
+        QTest::newRow("typed text") << u"\\ux\\Uyz\\Ea"_s << u"XYZa"_s;
+        QTest::newRow("a letter of two code units") << u"\\u\U00010428\U00010428"_s << u"\U00010400\U00010428"_s;
+        QTest::newRow("an escaped backslash") << u"\\\\U$1"_s << u"\\U\u00E4rger"_s;
+        QTest::newRow("nothing behind it") << u"a\\U"_s << u"a"_s;
+        QTest::newRow("others are literal") << u"\\q\\U\\q"_s << u"\\q\\Q"_s;
+        // clang-format on
+    }
+
+    void caseChanges()
+    {
+        QFETCH(QString, replacement);
+        const QString text = u"\u00E4rger-STRA\u00DFE"_s;
+        const auto match = searchFor(u"(\\w+)-(\\w+)(x?)"_s, true).next(text, 0, text.size(), replacement);
+        QVERIFY(match.has_value());
+        QTEST(match->replacement, "expanded");
+        // Only regular expressions have escapes.
+        QCOMPARE(searchFor(text, false).next(text, 0, text.size(), replacement)->replacement, replacement);
+    }
+
+    void passesMatchesOneByOne()
+    {
+        const QString text = u"a1 b2 c3"_s;
+        const PatternSearch search = searchFor(u"\\w(\\d)"_s, true);
+        std::vector<TextMatch> matches;
+        const auto twoAtMost = [&](TextMatch match) {
+            matches.push_back(std::move(match));
+            return matches.size() < 2;
+        };
+        QVERIFY(search.each(text, 1, text.size(), u"$1"_s, twoAtMost));
+        QCOMPARE(matches, (std::vector<TextMatch>{{3, 5, u"2"_s}, {6, 8, u"3"_s}}));
+        matches.clear();
+        QVERIFY(search.each(text, 0, 4, u"$1"_s, twoAtMost));
+        QCOMPARE(matches.size(), 1U);
+        const QString hopeless = QString(40, u'a') + u"b"_s;
+        QVERIFY(!searchFor(u"(?:a+a+)+[cd]"_s, true).each(hopeless, 0, hopeless.size(), {}, twoAtMost));
+    }
+
     void allMatches_data()
     {
         QTest::addColumn<QString>("text");

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorfixture.h"
 #include "editor/finddialog.h"
+#include "editor/indicators.h"
 #include "support/testregistry.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -343,6 +345,96 @@ private Q_SLOTS:
             d.press(u"cmdFindNext"_s);
         }
         QCOMPARE(box.count(), 20);
+    }
+
+    void theyAreKeptForTheUser()
+    {
+        EditorFixture f;
+        MemoryUserSettings settings;
+        CodeMax first({f.files, f.recovery, f.prompts, {}, &settings});
+        CodeMax second({f.files, f.recovery, f.prompts, {}, &settings});
+        const auto dialogOf = [](CodeMax &editor) {
+            editor.executeCmd(replaceCommand);
+            return editor.findChild<FindDialog *>();
+        };
+        const FindDialog *dialog = dialogOf(first);
+        dialog->findChild<QComboBox *>(u"cboFind"_s)->setEditText(u"sought"_s);
+        dialog->findChild<QComboBox *>(u"cboReplace"_s)->setEditText(u"put"_s);
+        dialog->findChild<QPushButton *>(u"cmdFindNext"_s)->click();
+        const FindDialog *other = dialogOf(second);
+        QCOMPARE(other->findChild<QComboBox *>(u"cboFind"_s)->itemText(0), u"sought"_s);
+        QCOMPARE(other->findChild<QComboBox *>(u"cboReplace"_s)->itemText(0), u"put"_s);
+        QCOMPARE(other->findChild<QComboBox *>(u"cboFind"_s)->currentText(), QString());
+    }
+
+    /// While one types, and until the dialog is closed.
+    void marksAndCounts()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"ab AB abc"_s);
+        Driver d(f, findCommand);
+        const auto isMarked = [&](qsizetype at) {
+            return f.editor.engine().send(QsciScintillaBase::SCI_INDICATORVALUEAT, MatchIndicator, at) != 0;
+        };
+        const auto count = [&] { return d.child<QLabel>(u"lblCount"_s).text(); };
+        auto &field = d.child<QComboBox>(u"cboFind"_s);
+        QTest::keyClicks(field.lineEdit(), u"ab"_s);
+        QTRY_COMPARE(count(), u"3 matches"_s);
+        QVERIFY(isMarked(0) && isMarked(3) && isMarked(7) && !isMarked(8));
+        d.check(u"chkMatchCase"_s, true);
+        QTRY_COMPARE(count(), u"2 matches"_s);
+        QVERIFY(!isMarked(3));
+        QTest::keyClicks(field.lineEdit(), u"c"_s);
+        QTRY_COMPARE(count(), u"1 match"_s);
+        QTest::keyClicks(field.lineEdit(), u"d"_s);
+        QTRY_COMPARE(count(), u"0 matches"_s);
+        QVERIFY(!isMarked(6));
+        d.check(u"chkRegularExpression"_s, true);
+        d.find(u"(a+a+)+"_s);
+        QTRY_COMPARE(count(), u"0 matches"_s);
+        d.find(u"("_s);
+        QCOMPARE(count(), QString());
+        d.find(u"b"_s);
+        QTRY_COMPARE(count(), u"2 matches"_s);
+        // Nothing is selected, and what the find key finds is still to be chosen.
+        QCOMPARE(f.editor.selText(), QString());
+        d.press(u"cmdClose"_s);
+        QCOMPARE(count(), QString());
+        QVERIFY(!isMarked(1));
+    }
+
+    void theWordAtTheCaret()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"red reddish\r\nred. Red"_s);
+        f.editor.select({0, 1, 0, 1});
+        QTest::keyClick(&f.editor, Qt::Key_F3, Qt::ControlModifier);
+        QCOMPARE(f.editor.selection(false), (CodeMaxRange{1, 0, 1, 3}));
+        QTest::keyClick(&f.editor, Qt::Key_F3, Qt::ControlModifier);
+        QCOMPARE(f.editor.selection(false), (CodeMaxRange{1, 5, 1, 8}));
+        QTest::keyClick(&f.editor, Qt::Key_F3, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(f.editor.selection(false), (CodeMaxRange{1, 0, 1, 3}));
+        // The find key goes on with it.
+        QTest::keyClick(&f.editor, Qt::Key_F3);
+        QCOMPARE(f.editor.selection(false), (CodeMaxRange{1, 5, 1, 8}));
+        QTest::keyClick(&f.editor, Qt::Key_F3);
+        QCOMPARE(f.editor.selection(false), (CodeMaxRange{0, 0, 0, 3}));
+    }
+
+    void theSelectionAsItIs()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"a.b axb a.bc a.b"_s);
+        f.editor.select({0, 0, 0, 3});
+        QTest::keyClick(&f.editor, Qt::Key_F3, Qt::ControlModifier);
+        QCOMPARE(f.editor.selection(false), (CodeMaxRange{0, 8, 0, 11}));
+        f.editor.setText(u"  \r\n"_s);
+        QTest::keyClick(&f.editor, Qt::Key_F3, Qt::ControlModifier);
+        QCOMPARE(f.editor.selText(), QString());
+        QVERIFY(!f.editor.findChild<FindDialog *>());
     }
 
     void tenMegabytes()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/buffertext.h"
+#include "files/buffertext.h"
 #include "files/diskfilestore.h"
 #include "files/recoverycopies.h"
 #include "files/textfile.h"

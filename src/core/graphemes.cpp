@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/graphemes.h"
+#include "core/graphemes.h"
 
 #include <QString>
 #include <QTextBoundaryFinder>
