@@ -57,12 +57,29 @@ void selectTexts(CodeMax &rt, const TextSelections &selections)
     rt.perform([&] { select(rt.engine(), selections); });
 }
 
-void TextEdits::replace(const SciEngine &engine, qsizetype start, qsizetype end, const QByteArray &text)
+void TextEdits::replace(const SciEngine &engine, qsizetype start, qsizetype end, const QByteArray &text, bool pushes)
 {
     if (engine.bytes(start, end) == QByteArrayView(text))
         return;
-    m_edits.push_back({start, end, text});
+    m_edits.push_back({start, end, text, pushes, m_growth});
     m_growth += text.size() - (end - start);
+}
+
+qsizetype TextEdits::placeOf(qsizetype position) const
+{
+    // The last change that begins before the place, or at it.
+    const auto behind = std::ranges::upper_bound(m_edits, position, {}, &Edit::start);
+    for (auto it = behind; it != m_edits.begin();) {
+        const Edit &edit = *--it;
+        const bool isInsertionHere = edit.start == edit.end && edit.start == position;
+        if (isInsertionHere && !edit.pushes)
+            continue;
+        const qsizetype size = edit.text.size();
+        if (position >= edit.end)
+            return position + edit.growthBefore + size - (edit.end - edit.start);
+        return edit.start + edit.growthBefore + std::min(size, position - edit.start);
+    }
+    return position;
 }
 
 void TextEdits::make(CodeMax &rt, const TextSelections &selections) const

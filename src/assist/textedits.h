@@ -40,11 +40,13 @@ class TextEdits
 {
 public:
     /// Puts `text` in the place of the bytes from start up to end, which aren't before the end of the change told last.
-    /// An equal text is no change.
-    void replace(const SciEngine &engine, qsizetype start, qsizetype end, const QByteArray &text);
+    /// An equal text is no change. A place at the start of an insertion is behind it then, unless it pushes nothing.
+    void replace(const SciEngine &engine, qsizetype start, qsizetype end, const QByteArray &text, bool pushes = true);
 
     /// Where a place behind the changes told so far will be.
     qsizetype moved(qsizetype position) const { return position + m_growth; }
+    /// Where a place will be when all changes are made.
+    qsizetype placeOf(qsizetype position) const;
     bool isEmpty() const { return m_edits.empty(); }
 
     /// Makes the changes in one undo step. Then selects what `selections` returns, which is called when they are made.
@@ -56,6 +58,9 @@ private:
         qsizetype start = 0;
         qsizetype end = 0;
         QByteArray text;
+        bool pushes = true;
+        /// By how much the changes before have made the text longer.
+        qsizetype growthBefore = 0;
     };
 
     std::vector<Edit> m_edits;

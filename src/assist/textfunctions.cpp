@@ -6,6 +6,7 @@
 #include "assist/gotosymbol.h"
 #include "assist/lastedit.h"
 #include "assist/linecommands.h"
+#include "assist/pairs/commentcommand.h"
 
 #include <algorithm>
 #include <array>
@@ -37,6 +38,7 @@ constexpr std::array rows{
     Row{RemoveTrailingBlanks, removeTrailingBlanks},
     Row{SelectAllOccurrences, selectAllOccurrences},
     Row{SortLines, sortLines},
+    Row{ToggleComment, toggleComment},
     Row{WrapWithAbbreviation, wrapWithAbbreviation},
 };
 

@@ -92,12 +92,18 @@ constexpr MenuItem caseItems[] = {
           u"Begin each word of the selected text, or this word, with a capital letter"),
 };
 
+constexpr MenuItem codeItems[] = {
+    entry(u"textToggleComment", u"&Comment", TextCommand::ToggleComment,
+          u"Make a comment of the selected text or of this line, or text of a comment", u"Ctrl+/"),
+};
+
 // clang-format off
 constexpr MenuItem menus[] = {
     menu(u"textGo", u"&Go To", goItems),
     menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
     menu(u"textFind", u"&Find", findItems),
     menu(u"textCarets", u"Ca&rets", caretItems),
+    menu(u"textCode", u"C&ode", codeItems),
     menu(u"textLines", u"&Lines", lineItems),
     menu(u"textLetters", u"Le&tters", caseItems),
     menu(u"textShow", u"&Show", showItems),

@@ -24,6 +24,7 @@ enum class TextCommand {
     SelectAllOccurrences,
     ShowBreadcrumb,
     SortLines,
+    ToggleComment,
     WrapWithAbbreviation,
 };
 

@@ -4,6 +4,8 @@
 #include "syntax/procedurallexer.h"
 #include "syntax/taglexer.h"
 
+#include <vector>
+
 namespace zephira {
 
 namespace {
@@ -55,7 +57,7 @@ std::unique_ptr<const LineLexer> makeLexer(const LanguageDefinition &definition)
 } // namespace
 
 SyntaxEngine::SyntaxEngine(const LanguageDefinition &definition)
-    : m_lexer(makeLexer(definition)), m_foldRules(definition)
+    : m_lexer(makeLexer(definition)), m_hasTags(definition.language.Style == 1), m_foldRules(definition)
 {}
 
 SyntaxEngine::~SyntaxEngine() = default;
@@ -85,6 +87,14 @@ StyledRange SyntaxEngine::styleRange(QByteArrayView text, LineState stateAtStart
 {
     NobodyListens sink;
     return styleRange(text, stateAtStart, styles, sink);
+}
+
+CodePlace SyntaxEngine::placeBehind(QByteArrayView partOfLine, LineState stateAtStart, SyntaxStyle before) const
+{
+    std::vector<unsigned char> styles(static_cast<std::size_t>(partOfLine.size()));
+    const StyledRange styled = styleRange(partOfLine, stateAtStart, styles);
+    const SyntaxStyle last = styles.empty() ? before : static_cast<SyntaxStyle>(styles.back());
+    return m_hasTags ? placeInMarkup(styled.state, last) : placeInCode(last);
 }
 
 } // namespace zephira

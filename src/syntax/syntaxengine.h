@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "syntax/codeplace.h"
 #include "syntax/foldlevels.h"
 #include "syntax/languagedefinition.h"
 #include "syntax/syntaxstyle.h"
@@ -53,11 +54,16 @@ public:
     /// The same without a sink.
     StyledRange styleRange(QByteArrayView text, LineState stateAtStart, std::span<unsigned char> styles) const;
 
+    /// What stands at the end of a part of a line that begins where the line does. `before` is the style of the line end
+    /// before it.
+    CodePlace placeBehind(QByteArrayView partOfLine, LineState stateAtStart, SyntaxStyle before) const;
+
     /// The folding rules of this language.
     const FoldRules &foldRules() const { return m_foldRules; }
 
 private:
     std::unique_ptr<const LineLexer> m_lexer;
+    bool m_hasTags = false;
     FoldRules m_foldRules;
 };
 

@@ -51,6 +51,7 @@ private Q_SLOTS:
         QTest::newRow("upper case") << u"Ctrl+Shift+U"_s << u"one\r\nTWO\r\nOne"_s;
         QTest::newRow("copy and paste a line") << u"Ctrl+C,Ctrl+V"_s << u"one\r\ntwo\r\ntwo\r\nOne"_s;
         QTest::newRow("cut a line") << u"Ctrl+X"_s << u"one\r\nOne"_s;
+        QTest::newRow("comment") << u"Ctrl+/"_s << u"one\r\n<!-- two -->\r\nOne"_s;
         QTest::newRow("all occurrences") << u"Ctrl+Shift+L,Ctrl+Shift+U"_s << u"one\r\nTWO\r\nOne"_s;
     }
 
