@@ -14,9 +14,10 @@ namespace zephira {
 class Browser;
 class Designer;
 class FileStore;
+class LivePage;
 class Prompts;
 
-/// A browser or a designer and its widget: two interfaces of one object, which the widget's parent owns.
+/// A browser, a designer or a live page and its widget: two interfaces of one object, which the widget's parent owns.
 struct BrowserView {
     QWidget *widget = nullptr;
     Browser *control = nullptr;
@@ -27,17 +28,23 @@ struct DesignerView {
     Designer *control = nullptr;
 };
 
-/// Creates the two views that are based on the web engine. The engine is in a module that is loaded when the first view
+struct LivePageView {
+    QWidget *widget = nullptr;
+    LivePage *control = nullptr;
+};
+
+/// Creates the views that are based on the web engine. The engine is in a module that is loaded when the first view
 /// is needed, so that a start without them isn't slowed down.
 class WebViews
 {
 public:
     virtual ~WebViews() = default;
 
-    /// Both views read the pages they open from `files`, which must outlive them.
+    /// The views read the pages they open from `files`, which must outlive them.
     virtual BrowserView makeBrowser(const FileStore &files, QWidget *parent) = 0;
     /// The designer asks the user through `prompts`, which must outlive it.
     virtual DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) = 0;
+    virtual LivePageView makeLivePage(const FileStore &files, QWidget *parent) = 0;
 };
 
 /// Returns the view factory, loading its module at the first call; fails if the module can't be loaded.

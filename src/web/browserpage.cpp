@@ -22,10 +22,6 @@ namespace zephira {
 
 namespace {
 
-/// The engine turns given text into an address of at most two million characters, in which a byte may take three of
-/// them.
-constexpr qsizetype mostGivenBytes = 600'000;
-
 constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
     QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::AutoLoadIconsForPage,
     QWebEngineSettings::PluginsEnabled,           QWebEngineSettings::FullScreenSupportEnabled,
@@ -80,10 +76,20 @@ void BrowserPage::openAsPage(const QUrl &file)
         open(file);
         return;
     }
-    const QString html = QString::fromUtf8(decodeText(std::move(content).value()).utf8);
-    endIfHanging([this, html, file] { setHtml(html, file); });
-    m_fence.files().open(file);
-    setHtml(html, file);
+    openText(QString::fromUtf8(decodeText(std::move(content).value()).utf8), file);
+}
+
+void BrowserPage::openText(const QString &html, const QUrl &base)
+{
+    endIfHanging([this, html, base] { setHtml(html, base); });
+    m_fence.files().open(base);
+    setHtml(html, base);
+}
+
+void BrowserPage::endProcess()
+{
+    if (const qint64 process = renderProcessPid(); process > 0)
+        ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
 void BrowserPage::reload()

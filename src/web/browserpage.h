@@ -16,7 +16,7 @@ class ScriptMessageBar;
 
 /// The page inside the browser. It may read local files only from its own folder, and may not download, open windows,
 /// ask for permissions or start other programs; a link that requests a new window opens in this one.
-class BrowserPage final : public QWebEnginePage
+class BrowserPage : public QWebEnginePage
 {
     Q_OBJECT
 
@@ -36,6 +36,14 @@ public:
     /// The same for a file that is shown as a page regardless of its name. A very large file is shown according to its
     /// name.
     void openAsPage(const QUrl &file);
+    /// The same for a page given as text, whose relative addresses are resolved against `base`. Text of more bytes of UTF-8
+    /// than mostGivenBytes can't be given in this way.
+    void openText(const QString &html, const QUrl &base);
+    /// The engine turns the text into an address of at most two million characters, in which a byte may take three of them.
+    static constexpr qsizetype mostGivenBytes = 600'000;
+
+    /// Kills the page's process, which takes its page with it; processLost() signals its end.
+    void endProcess();
 
     /// Reloads the current page.
     void reload();

@@ -61,10 +61,8 @@ std::optional<QString> ScriptMessageBar::ask(Kind kind, const QString &message, 
     m_no->setVisible(kind != Kind::Alert);
     m_isAccepted = false;
     show();
-    if (kind == Kind::Prompt)
-        m_input->setFocus();
-    else
-        m_yes->setFocus();
+    if (m_takesFocus)
+        (kind == Kind::Prompt ? static_cast<QWidget *>(m_input) : m_yes)->setFocus();
 
     const QPointer<ScriptMessageBar> self(this);
     QEventLoop loop;

@@ -32,6 +32,10 @@ public:
     void silence();
     /// Another page is shown, whose messages are allowed again.
     void listen();
+    /// Whether a message waits for its answer.
+    bool isAsking() const { return m_loop != nullptr; }
+    /// Messages don't take the keyboard focus, for a page beside what the user types.
+    void leaveFocus() { m_takesFocus = false; }
 
 private:
     void finish(bool accepted);
@@ -44,6 +48,7 @@ private:
     QEventLoop *m_loop = nullptr;
     int m_messages = 0;
     bool m_isSilent = false;
+    bool m_takesFocus = true;
     bool m_isAccepted = false;
 };
 

@@ -4,6 +4,7 @@
 #include "core/quietmessages.h"
 #include "web/browserwidget.h"
 #include "web/designer/designerwidget.h"
+#include "web/live/livepagewidget.h"
 
 #include <QLoggingCategory>
 #include <QWebEngineProfile>
@@ -40,6 +41,14 @@ DesignerView WebModule::makeDesigner(const FileStore &files, Prompts &prompts, Q
     designer->setObjectName(u"DHTMLEdit1"_s);
     designer->setAccessibleName(u"Visual editor of the document"_s);
     return {designer, designer};
+}
+
+LivePageView WebModule::makeLivePage(const FileStore &files, QWidget *parent)
+{
+    auto *live = new LivePageWidget(files, parent);
+    live->setObjectName(u"livePageView"_s);
+    live->setAccessibleName(u"Live page"_s);
+    return {live, live};
 }
 
 } // namespace zephira

@@ -20,6 +20,7 @@ public:
 
     BrowserView makeBrowser(const FileStore &files, QWidget *parent) override;
     DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) override;
+    LivePageView makeLivePage(const FileStore &files, QWidget *parent) override;
 };
 
 } // namespace zephira

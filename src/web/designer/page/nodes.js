@@ -27,8 +27,19 @@ export const writeDocument = documentMember('write');
 export const closeDocument = documentMember('close');
 export const readyState = documentMember('readyState');
 export const hasFocus = documentMember('hasFocus');
+export const importNode = documentMember('importNode');
+export const query = documentMember('querySelectorAll');
+export const styleSheets = documentMember('styleSheets');
 export const setDocumentMember = (name, value) =>
     Object.getOwnPropertyDescriptor(Document.prototype, name).set.call(document, value);
+
+const adoptedSheets = documentMember('adoptedStyleSheets');
+
+// Adds a sheet of ours to those of the page.
+export const adopt = sheet => {
+    if (!adoptedSheets().includes(sheet))
+        setDocumentMember('adoptedStyleSheets', [...adoptedSheets(), sheet]);
+};
 
 export const wordSet = words => new Set(words.split(/\s+/));
 
