@@ -3,6 +3,7 @@
 
 #include "app/commandpalette.h"
 #include "app/focusring.h"
+#include "app/livedock.h"
 #include "app/windowkeys.h"
 #include "assist/breadcrumb.h"
 #include "assist/textfunctions.h"
@@ -76,6 +77,7 @@ void TextTools::showBreadcrumb(bool on)
 void TextTools::attach(FocusRing &ring)
 {
     m_ring = &ring;
+    m_parts.live.attach(ring);
     m_panel->made = [&ring](QWidget &panel) { ring.add({&panel}); };
 }
 
@@ -92,6 +94,10 @@ void TextTools::runTextCommand(TextCommand command)
     }
     if (command == TextCommand::FindInProject) {
         findInProject();
+        return;
+    }
+    if (command == TextCommand::LivePage) {
+        m_parts.live.toggle();
         return;
     }
     if (command == TextCommand::ShowBreadcrumb) {

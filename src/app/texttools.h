@@ -12,6 +12,7 @@ namespace zephira {
 class Breadcrumb;
 class CommandPalette;
 class FocusRing;
+class LiveDock;
 class Menus;
 class ToolPanel;
 class WindowKeys;
@@ -31,6 +32,7 @@ public:
         QBoxLayout &document;
         CommandPalette &commands;
         ViewTabs &views;
+        LiveDock &live;
         TextServices services = {};
     };
 

@@ -45,6 +45,8 @@ public:
     void focusView();
     QString designerBase() const { return m_views.designerBase(); }
     /// See WorkspaceViews.
+    std::pair<QString, bool> permissions() const { return m_views.permissions(); }
+    void allowRemote() { m_views.allowRemote(); }
     void designerLost() { m_views.designerLost(); }
 
     // ViewTabs

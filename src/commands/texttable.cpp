@@ -72,6 +72,8 @@ constexpr MenuItem lineItems[] = {
 constexpr MenuItem showItems[] = {
     shown(textname::breadcrumb, u"&Breadcrumb", TextCommand::ShowBreadcrumb,
           u"Show the elements around the caret in a line below the text"),
+    shown(textname::livePage, u"&Live Page", TextCommand::LivePage, u"Show the page beside its source while you type",
+          u"F9"),
 };
 
 constexpr MenuItem caretItems[] = {

@@ -13,6 +13,7 @@ std::span<const MenuItem> textMenuTable();
 /// The entries whose check marks the program sets.
 namespace textname {
 inline constexpr QStringView breadcrumb = u"textBreadcrumb";
+inline constexpr QStringView livePage = u"textLivePage";
 } // namespace textname
 
 } // namespace zephira

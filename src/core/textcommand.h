@@ -16,6 +16,7 @@ enum class TextCommand {
     GoToLastEdit,
     GoToSymbol,
     JoinLines,
+    LivePage,
     MakeLowerCase,
     MakeUpperCase,
     MoveLinesDown,

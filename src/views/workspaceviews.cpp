@@ -67,11 +67,15 @@ void WorkspaceViews::designerLost()
     m_window.notice(u"The designer's process has ended. The page is shown in its last known state."_s);
 }
 
+std::pair<QString, bool> WorkspaceViews::permissions() const
+{
+    return {hasProject(m_context.document) ? m_context.document.projectPath() : QString(), isRemoteAllowed()};
+}
+
 /// Tells browser and designer what the document's page may load.
 void WorkspaceViews::prepareLoad()
 {
-    const QString folder = hasProject(m_context.document) ? m_context.document.projectPath() : QString();
-    const bool isAllowed = isRemoteAllowed();
+    const auto [folder, isAllowed] = permissions();
     m_browser.setProjectFolder(folder);
     m_browser.setRemoteAllowed(isAllowed);
     m_context.designer.setProjectFolder(folder);

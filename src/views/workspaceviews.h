@@ -67,6 +67,8 @@ public:
     /// The user lets the document's page load from other hosts. If the document is in the project, this holds for all its
     /// pages from now on; otherwise for this document while the program runs. The preview is reloaded.
     void allowRemote();
+    /// What the document's page may load: the folder of the project, or empty, and whether it may load from other hosts.
+    std::pair<QString, bool> permissions() const;
     /// Takes that permission back and reloads the preview.
     void forbidRemote();
 

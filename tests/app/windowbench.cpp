@@ -41,6 +41,14 @@ DesignerView FakeWebViews::makeDesigner(const FileStore &, Prompts &, QWidget *p
     return {widget, &designer};
 }
 
+LivePageView FakeWebViews::makeLivePage(const FileStore &, QWidget *parent)
+{
+    made.append(u"live"_s);
+    auto *widget = new QWidget(parent);
+    widget->setObjectName(u"livePageView"_s);
+    return {widget, &livePage};
+}
+
 WindowBench::WindowBench()
     : recovery(m_folder.path() + u"/recovery"_s, files, clock)
     , configuration(m_folder.path() + u"/app/zephira.ini"_s, configurationCalls)

@@ -27,11 +27,13 @@ namespace zephira {
 struct FakeWebViews final : WebViews {
     FakeBrowser browser;
     FakeDesigner designer;
-    /// The views made so far, in order: "browser", "designer".
+    FakeLivePage livePage;
+    /// The views made so far, in order: "browser", "designer", "live".
     QStringList made;
 
     BrowserView makeBrowser(const FileStore &files, QWidget *parent) override;
     DesignerView makeDesigner(const FileStore &files, Prompts &prompts, QWidget *parent) override;
+    LivePageView makeLivePage(const FileStore &files, QWidget *parent) override;
 };
 
 /// The main window with a program folder of its own, the shipped data and real files. Prompts, per-user settings,

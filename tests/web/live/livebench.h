@@ -14,7 +14,7 @@ namespace zephira {
 /// A visible live page, and a site below a temporary folder.
 struct LiveBench {
     /// Time-out in milliseconds for showing a page, long enough for a busy machine.
-    static constexpr int patience = 8000;
+    static constexpr int patience = 60000;
 
     LiveBench();
     Q_DISABLE_COPY_MOVE(LiveBench)
