@@ -94,7 +94,11 @@ void LiveDock::make()
     };
     m_pane->permissions = m_parts.permissions;
     m_pane->leave = [this] { m_parts.rt.setFocus(); };
-    connect(m_pane, &LivePane::shown, this, [this] { showCaret(false); });
+    connect(m_pane, &LivePane::shown, this, [this] {
+        showCaret(false);
+        if (!m_files.contains(m_parts.context.document.commonDialogFile()))
+            watch(m_sheets);
+    });
     connect(m_pane, &LivePane::clicked, this, &LiveDock::takeClick);
     connect(m_pane, &LivePane::scrolled, this, &LiveDock::takeScroll);
     connect(m_pane, &LivePane::sheetsChanged, this, &LiveDock::watch);
@@ -247,8 +251,10 @@ void LiveDock::takeScroll(qsizetype place, bool isAtEnd)
     bar->setValue(value);
 }
 
+/// Looks from now on whether these files, or the document's, are saved.
 void LiveDock::watch(const QStringList &sheets)
 {
+    m_sheets = sheets;
     if (!m_watcher) {
         m_watcher = new QFileSystemWatcher(this);
         const auto look = [this] { m_lookSoon.start(); };
@@ -257,7 +263,8 @@ void LiveDock::watch(const QStringList &sheets)
     }
     QHash<QString, FileSignature> files;
     QStringList paths;
-    for (const QString &file : sheets) {
+    const QString document = m_parts.context.document.commonDialogFile();
+    for (const QString &file : sheets + (document.isEmpty() ? QStringList() : QStringList{document})) {
         files.insert(file, m_files.contains(file) ? m_files.value(file) : m_parts.context.files.signature(file));
         // A file that is replaced by another one is seen in its folder alone.
         for (const QString &path : {file, QFileInfo(file).path()}) {
@@ -286,7 +293,9 @@ void LiveDock::lookForSaved()
     }
     if (changed.isEmpty())
         return;
-    watch(files); // What was replaced is watched again.
+    watch(m_sheets); // What was replaced is watched again.
+    if (changed.contains(m_parts.context.document.commonDialogFile()))
+        m_pane->showNow();
     for (const QString &file : std::as_const(changed)) {
         if (m_pane->page())
             m_pane->page()->sheetSaved(file);

@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -72,7 +73,8 @@ private:
     QTimer m_scrollSoon;
     QTimer m_lookSoon;
     QFileSystemWatcher *m_watcher = nullptr;
-    /// The style sheets of the page, as they were.
+    /// The style sheets of the page; and these and the document as they were.
+    QStringList m_sheets;
     QHash<QString, FileSignature> m_files;
     /// The state of the text that the page shows.
     quint64 m_shownVersion = 0;

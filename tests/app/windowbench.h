@@ -12,6 +12,7 @@
 #include "files/recoverycopies.h"
 #include "ftp/ftpclient.h"
 #include "ftp/recordingoperations.h"
+#include "support/fakelivepage.h"
 #include "support/fakes.h"
 #include "support/memoryfiletypes.h"
 #include "tools/spelling/fakespeller.h"

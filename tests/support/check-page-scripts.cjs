@@ -4,7 +4,7 @@
 
 // usage: check-page-scripts.cjs FILE...
 //
-// Checks the modules of the designer's page. Each name that a module uses must be declared by it, imported, or one of the
+// Checks the modules of the pages of designer and live page. Each name that a module uses must be declared by it, imported, or one of the
 // browser's. Each import must be exported by the module that it names, be used, and never be assigned to. Each export must
 // be imported by another module. The members of a frozen list, such as Command.Bold, must be in that list. Each fault is
 // printed as a line of its own, and the exit status is then 1.
@@ -15,7 +15,7 @@ const fs = require('fs');
 const path = require('path');
 const acorn = require('acorn');
 
-const browserNames = new Set(`Array Boolean CSS CSSStyleSheet Document Error HTMLTableElement Infinity JSON Map Math
+const browserNames = new Set(`Array Boolean CSS CSSStyleSheet DOMParser Document Error HTMLTableElement Infinity JSON Map Math
     MutationObserver Node NodeFilter Number Object QWebChannel Range RangeError RegExp Set String Symbol Text WeakMap
     clearTimeout document getComputedStyle getSelection globalThis innerHeight innerWidth performance qt queueMicrotask
     setTimeout undefined window`.split(/\s+/));

@@ -12,7 +12,6 @@
 #include "core/filestore.h"
 #include "core/formopener.h"
 #include "core/inserter.h"
-#include "core/livepage.h"
 #include "core/shell.h"
 #include "core/usersettings.h"
 #include "support/fakeeditor.h"
@@ -113,38 +112,6 @@ struct FakeDesigner final : Designer {
     }
     void setProjectFolder(const QString &folder) override { projectFolder = folder; }
     void setRemoteAllowed(bool allowed) override { isRemoteAllowed = allowed; }
-};
-
-struct FakeLivePage final : LivePage {
-    /// What was shown last, and what was called: "show", "reload", "caret", "follow", "sheet".
-    QString html;
-    QString file;
-    QStringList calls;
-    std::vector<qsizetype> caret;
-    qsizetype followed = -1;
-    ColourScheme scheme = ColourScheme::Desktop;
-    qreal zoom = 0;
-    QString projectFolder;
-    bool isRemoteAllowed = false;
-    LivePageEvents events;
-
-    void show(const QString &text, const QString &name) override
-    {
-        html = text;
-        file = name;
-        calls.append(QStringLiteral("show"));
-        if (events.shown)
-            events.shown();
-    }
-    void reload() override { calls.append(QStringLiteral("reload")); }
-    void showCaret(const std::vector<qsizetype> &places, bool) override { caret = places; }
-    void follow(qsizetype place, bool) override { followed = place; }
-    void sheetSaved(const QString &path) override { calls.append(QStringLiteral("sheet ") + path); }
-    void setColourScheme(ColourScheme wanted) override { scheme = wanted; }
-    void setZoom(qreal factor) override { zoom = factor; }
-    void setProjectFolder(const QString &folder) override { projectFolder = folder; }
-    void setRemoteAllowed(bool allowed) override { isRemoteAllowed = allowed; }
-    void setEvents(LivePageEvents wanted) override { events = std::move(wanted); }
 };
 
 struct FakeBrowser final : Browser {

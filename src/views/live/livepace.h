@@ -28,11 +28,11 @@ struct LiveWidth {
 };
 
 constexpr std::array<LiveWidth, 5> liveWidths{{
-    {u"As wide as the panel", 0},
-    {u"Phone, 375", 375},
-    {u"Tablet, 768", 768},
-    {u"Desktop, 1280", 1280},
-    {u"Another width", -1},
+    {u"Full width", 0},
+    {u"Phone (375)", 375},
+    {u"Tablet (768)", 768},
+    {u"Desktop (1280)", 1280},
+    {u"Other width", -1},
 }};
 
 /// How a page of a width fits into a panel: the width of its view in pixels, and how large the page is shown. A page that is

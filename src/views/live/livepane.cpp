@@ -34,7 +34,7 @@ LivePane::LivePane(QWidget *parent) : QWidget(parent)
     for (const LiveWidth &width : liveWidths)
         m_widths->addItem(width.caption.toString());
     m_widths->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_widths->setMinimumContentsLength(12);
+    m_widths->setMinimumContentsLength(14);
     m_width = new QSpinBox(this);
     m_width->setObjectName(u"liveWidth"_s);
     m_width->setAccessibleName(tr("Another width of the page"));
@@ -47,9 +47,9 @@ LivePane::LivePane(QWidget *parent) : QWidget(parent)
     m_colours->setObjectName(u"liveColours"_s);
     m_colours->setAccessibleName(tr("Colours of the page"));
     m_colours->setToolTip(tr("The colours that the page's style sheets are asked for"));
-    m_colours->addItems({tr("Colours of the desktop"), tr("Light"), tr("Dark")});
+    m_colours->addItems({tr("As desktop"), tr("Light"), tr("Dark")});
     m_colours->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_colours->setMinimumContentsLength(6);
+    m_colours->setMinimumContentsLength(10);
     auto *reload = new QToolButton(this);
     reload->setObjectName(u"liveReload"_s);
     reload->setText(tr("Reload"));

@@ -25,7 +25,7 @@ const keyed = () => {
     });
 };
 
-const valueOf = field => {
+const fieldValue = field => {
     if (field.localName === 'select')
         return [...field.options].map(option => option.selected);
     return field.type === 'checkbox' || field.type === 'radio' ? field.checked : field.value;
@@ -45,14 +45,14 @@ const setValue = (field, value) => {
 export const keptState = () => ({
     x: window.scrollX,
     y: window.scrollY,
-    fields: keyed().filter(([, field]) => isChanged(field)).map(([key, field]) => [key, valueOf(field)]),
+    fields: keyed().filter(([, field]) => isChanged(field)).map(([key, field]) => [key, fieldValue(field)]),
 });
 
 export const restoreState = state => {
     const all = new Map(keyed());
     for (const [key, value] of state.fields ?? []) {
         const field = all.get(key);
-        if (field && typeof valueOf(field) === typeof value)
+        if (field && typeof fieldValue(field) === typeof value)
             setValue(field, value);
     }
     window.scrollTo({left: state.x ?? 0, top: state.y ?? 0, behavior: 'instant'});

@@ -24,16 +24,16 @@ let kept = null;
 let keptUntil = 0;
 let expectedScroll = -1;
 
-let early = [];
-let send = report => early.push(report);
-const tell = (kind, report = {}) => send({...report, kind, load: loadNumber});
+let unsent = [];
+let deliver = message => unsent.push(message);
+const report = (kind, members = {}) => deliver({...members, kind, load: loadNumber});
 
 const takeFirst = () => {
     if (isRead || readyState() === 'loading' || !rootElement())
         return;
     isRead = true;
     first = snapshot(rootElement());
-    tell('ready');
+    report('ready');
 };
 
 const scrollTo = height => {
@@ -87,10 +87,10 @@ const noteClick = event => {
     while (node && placeOf(node) === undefined)
         node = node.parentElement;
     if (node)
-        tell('clicked', {place: placeOf(node), usable: Boolean(event.target.closest?.(usable))});
+        report('clicked', {place: placeOf(node), usable: Boolean(event.target.closest?.(usable))});
 };
 
-const keepPage = event => {
+const stayOnPage = event => {
     if (event.isTrusted && event.target.closest?.('a[href],area[href]'))
         event.preventDefault();
 };
@@ -98,7 +98,7 @@ const keepPage = event => {
 const noteScroll = () => {
     if (tree && Math.abs(window.scrollY - expectedScroll) > 1) {
         const most = rootElement().scrollHeight - innerHeight;
-        tell('scrolled', {place: placeAt(tree, length, window.scrollY), atEnd: most > 0 && window.scrollY >= most - 1});
+        report('scrolled', {place: placeAt(tree, length, window.scrollY), atEnd: most > 0 && window.scrollY >= most - 1});
     }
     expectedScroll = -1;
 };
@@ -117,11 +117,11 @@ const endKeeping = () => {
     kept = null;
 };
 
-const listen = () => {
+const hearPage = () => {
     window.addEventListener('readystatechange', takeFirst, true);
     window.addEventListener('click', noteClick, true);
-    window.addEventListener('click', keepPage);
-    window.addEventListener('auxclick', keepPage);
+    window.addEventListener('click', stayOnPage);
+    window.addEventListener('auxclick', stayOnPage);
     window.addEventListener('submit', event => event.preventDefault());
     window.addEventListener('scroll', noteScroll, {passive: true});
     window.addEventListener('resize', forgetMap);
@@ -137,7 +137,7 @@ globalThis.zephiraLive = {
         forgetOutline();
         forgetCanvas();
         openDocument();
-        listen();
+        hearPage();
         writeDocument(text);
         closeDocument();
         takeFirst();
@@ -215,10 +215,10 @@ globalThis.zephiraLive = {
     },
 };
 
-listen();
+hearPage();
 new QWebChannel(qt.webChannelTransport, channel => {
-    send = report => channel.objects.bridge.tell(report);
-    early.forEach(send);
-    early = [];
+    deliver = message => channel.objects.bridge.tell(message);
+    unsent.forEach(deliver);
+    unsent = [];
 });
 takeFirst();
