@@ -146,7 +146,7 @@ private Q_SLOTS:
             if (counter.times > 1)
                 longest = std::max(longest, time.elapsed());
         }
-        QCOMPARE(counter.last.matches, 750000);
+        QCOMPARE(counter.last.matches, 1000000);
         QVERIFY(counter.times > 3);
         QVERIFY2(longest < 250, qPrintable(QString::number(longest)));
     }
