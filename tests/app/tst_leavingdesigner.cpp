@@ -124,6 +124,7 @@ class TstLeavingDesigner : public QObject
 
 private Q_SLOTS:
     void nothingIsLost();
+    void undoTakesBackOnlyWhatWasTouched();
 };
 
 void TstLeavingDesigner::nothingIsLost()
@@ -164,6 +165,34 @@ void TstLeavingDesigner::nothingIsLost()
         QCOMPARE(QString::fromUtf8(WindowBench::read(bench.window->docPath())), text);
         QVERIFY2(bench.prompts.verify(), name);
     }
+}
+
+/// The code view keeps its place, and the author's spelling of everything else.
+void TstLeavingDesigner::undoTakesBackOnlyWhatWasTouched()
+{
+    QString page;
+    for (int line = 0; line < 300; ++line)
+        page += u"<P CLASS=a>line %1\r\n"_s.arg(line);
+    WebBench bench(u"page.html"_s, page.toUtf8());
+    CodeMax &editor = bench.window->rt();
+    const CodeMaxRange caret{200, 3, 200, 3};
+    editor.select(caret);
+    editor.engine().send(QsciScintillaBase::SCI_SETFIRSTVISIBLELINE, 190);
+    const auto firstLine = [&] { return editor.engine().send(QsciScintillaBase::SCI_GETFIRSTVISIBLELINE); };
+    const auto first = firstLine();
+    QVERIFY(first > 100);
+    QVERIFY(bench.design());
+    bench.paste(u"word"_s);
+    bench.select(1);
+    QVERIFY(waitUntil([&] { return bench.tabs().currentIndex() == 0 && editor.text() != page; }, WebBench::patience));
+    QCOMPARE(editor.text(), u"word"_s + page);
+    QCOMPARE(editor.selection(false), caret);
+    QCOMPARE(firstLine(), first);
+    bench.choose(u"undo"_s);
+    QCOMPARE(editor.text(), page);
+    QVERIFY(!editor.canUndo());
+    bench.choose(u"redo"_s);
+    QCOMPARE(editor.text(), u"word"_s + page);
 }
 
 ZEPHIRA_TEST(TstLeavingDesigner)
