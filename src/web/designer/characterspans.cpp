@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/designer/characterspans.h"
 
-#include "web/designer/entitynames.h"
+#include "core/entitynames.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/entitynames.h"
 #include "support/testregistry.h"
 #include "web/designer/entityhabits.h"
-#include "web/designer/entitynames.h"
 
 #include <QTest>
 

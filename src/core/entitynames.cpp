@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/entitynames.h"
+#include "core/entitynames.h"
 
 #include <QString>
 
@@ -10,12 +10,7 @@ namespace zephira {
 
 namespace {
 
-struct EntityName {
-    QStringView name;
-    char32_t character;
-};
-
-/// Sorted by the names' code units, for binary search.
+/// Sorted for binary search.
 constexpr EntityName names[] = {
     {u"AElig", 0xc6},     {u"Aacute", 0xc1},   {u"Acirc", 0xc2},    {u"Agrave", 0xc0},   {u"Alpha", 0x391},
     {u"Aring", 0xc5},     {u"Atilde", 0xc3},   {u"Auml", 0xc4},     {u"Beta", 0x392},    {u"Ccedil", 0xc7},
@@ -92,6 +87,11 @@ char32_t numbered(QStringView digits)
 }
 
 } // namespace
+
+std::span<const EntityName> entityNames()
+{
+    return names;
+}
 
 char32_t entityCharacter(QStringView reference)
 {
