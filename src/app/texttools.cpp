@@ -52,6 +52,7 @@ void TextTools::start()
     m_parts.keys.addTextMenus();
     m_parts.rt.extendMenu = [this](QMenu &menu) { m_parts.menus.offerTextMenus(menu); };
     m_helpers.start();
+    showSwitches();
     showBreadcrumb(wholeNumber(m_parts.context.settings, UserSetting::Breadcrumb) != 0);
 }
 
@@ -72,6 +73,17 @@ void TextTools::showBreadcrumb(bool on)
     }
     if (m_breadcrumb)
         m_breadcrumb->setOn(on);
+}
+
+void TextTools::showSwitches()
+{
+    for (const MenuItem &menu : textMenuTable()) {
+        for (const MenuItem &entry : menu.children) {
+            const auto *const command = std::get_if<TextCommand>(&entry.command.effect);
+            if (const std::optional<bool> on = command ? isSwitchedOn(m_helpers, *command) : std::nullopt)
+                m_parts.menus.setChecked(entry.name, *on);
+        }
+    }
 }
 
 void TextTools::attach(FocusRing &ring)
@@ -108,6 +120,8 @@ void TextTools::runTextCommand(TextCommand command)
     }
     if (const TextFunction run = textFunction(command))
         run(m_helpers);
+    if (isSwitchedOn(m_helpers, command))
+        showSwitches();
 }
 
 } // namespace zephira

@@ -56,6 +56,8 @@ public:
 
 private:
     void showBreadcrumb(bool on);
+    /// Sets the check marks of the menus.
+    void showSwitches();
 
     const Parts m_parts;
     FocusRing *m_ring = nullptr;

@@ -3,10 +3,12 @@
 
 #include "assist/abbreviationcommands.h"
 #include "assist/caretcommands.h"
+#include "assist/completion/completer.h"
 #include "assist/gotosymbol.h"
 #include "assist/lastedit.h"
 #include "assist/linecommands.h"
 #include "assist/pairs/commentcommand.h"
+#include "assist/texthelpers.h"
 
 #include <algorithm>
 #include <array>
@@ -18,13 +20,32 @@ namespace {
 struct Row {
     TextCommand command;
     TextFunction run;
+    /// For a switch: whether it is on.
+    bool (*isOn)(TextHelpers &) = nullptr;
 };
+
+void complete(TextHelpers &helpers)
+{
+    helpers.completer().complete();
+}
+
+bool completesWhileTyping(TextHelpers &helpers)
+{
+    return helpers.completer().isOn();
+}
+
+void switchCompletion(TextHelpers &helpers)
+{
+    helpers.completer().setOn(!helpers.completer().isOn());
+}
 
 using enum TextCommand;
 
 constexpr std::array rows{
     Row{Capitalise, capitalise},
     Row{CaretInEachLine, caretInEachLine},
+    Row{Complete, complete},
+    Row{CompleteWhileTyping, switchCompletion, completesWhileTyping},
     Row{DeleteLines, deleteLines},
     Row{Duplicate, duplicate},
     Row{ExpandAbbreviation, expandAbbreviation},
@@ -48,6 +69,12 @@ TextFunction textFunction(TextCommand command)
 {
     const auto *const row = std::ranges::find(rows, command, &Row::command);
     return row == rows.end() ? nullptr : row->run;
+}
+
+std::optional<bool> isSwitchedOn(TextHelpers &helpers, TextCommand command)
+{
+    const auto *const row = std::ranges::find(rows, command, &Row::command);
+    return row == rows.end() || !row->isOn ? std::nullopt : std::optional(row->isOn(helpers));
 }
 
 } // namespace zephira

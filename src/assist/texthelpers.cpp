@@ -2,6 +2,7 @@
 #include "assist/texthelpers.h"
 
 #include "assist/abbreviations/abbreviations.h"
+#include "assist/completion/completer.h"
 #include "assist/lastedit.h"
 #include "core/appcontext.h"
 
@@ -13,7 +14,17 @@ TextHelpers::TextHelpers(CodeMax &rt, const AppContext &context, ToolPanel &pane
 
 TextHelpers::~TextHelpers() = default;
 
-void TextHelpers::start() {}
+void TextHelpers::start()
+{
+    completer();
+}
+
+Completer &TextHelpers::completer()
+{
+    if (!m_completer)
+        m_completer = std::make_unique<Completer>(m_rt, m_context);
+    return *m_completer;
+}
 
 Abbreviations &TextHelpers::abbreviations()
 {

@@ -11,6 +11,7 @@ class Abbreviations;
 struct AppContext;
 class CodeMax;
 class LastEdit;
+class Completer;
 class ToolPanel;
 
 /// What helps with writing in a code view. Each helper is a member, made when the window's late parts are, or when it is
@@ -35,6 +36,7 @@ public:
     Abbreviations &abbreviations();
 
     LastEdit &lastEdit() { return *m_lastEdit; }
+    Completer &completer();
 
 private:
     CodeMax &m_rt;
@@ -43,6 +45,7 @@ private:
     std::unique_ptr<LastEdit> m_lastEdit;
     TextServices m_services;
     std::unique_ptr<Abbreviations> m_abbreviations;
+    std::unique_ptr<Completer> m_completer;
 };
 
 } // namespace zephira

@@ -19,7 +19,7 @@ constexpr MenuItem entry(QStringView name, QStringView caption, TextCommand comm
     return {name, caption, shortcut, {}, statusTip, {command}, {}, Kind::Entry, {}, Need::SourceView};
 }
 
-/// An entry with a check mark for what the window shows beside the text.
+/// An entry with a check mark for what the window shows beside the text, or what it does by itself.
 constexpr MenuItem shown(QStringView name, QStringView caption, TextCommand command, QStringView statusTip,
                          QStringView shortcut = {})
 {
@@ -50,6 +50,12 @@ constexpr MenuItem abbreviationItems[] = {
           u"Make markup or style sheets of the abbreviation before the caret, such as ul>li*3", u"Ctrl+E"),
     entry(u"textWrapWithAbbreviation", u"&Wrap with Abbreviation...", TextCommand::WrapWithAbbreviation,
           u"Put the elements of an abbreviation around the selection", u"Ctrl+Shift+E"),
+};
+
+constexpr MenuItem completionItems[] = {
+    entry(u"textComplete", u"&Complete", TextCommand::Complete, u"List what may stand at the caret", u"Ctrl+Space"),
+    shown(u"textCompleteWhileTyping", u"List While &Typing", TextCommand::CompleteWhileTyping,
+          u"List by itself what may stand behind <, &, : and a blank in a tag"),
 };
 
 constexpr MenuItem lineItems[] = {
@@ -102,13 +108,14 @@ constexpr MenuItem codeItems[] = {
 // clang-format off
 constexpr MenuItem menus[] = {
     menu(u"textGo", u"&Go To", goItems),
-    menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
     menu(u"textFind", u"&Find", findItems),
+    menu(u"textCompletion", u"C&ompletion", completionItems),
+    menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
     menu(u"textCarets", u"Ca&rets", caretItems),
-    menu(u"textCode", u"C&ode", codeItems),
     menu(u"textLines", u"&Lines", lineItems),
     menu(u"textLetters", u"Le&tters", caseItems),
     menu(u"textShow", u"&Show", showItems),
+    menu(u"textCode", u"C&ode", codeItems),
 };
 // clang-format on
 

@@ -125,6 +125,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {CommandUses, own, u"CommandUses"_s, {}, Number},
         {SearchHistory, own, u"Search"_s, u"Searches"_s, Text},
         {ReplacementHistory, own, u"Search"_s, u"Replacements"_s, Text},
+        {CompleteWhileTyping, own, u"Text"_s, u"CompleteWhileTyping"_s, Switch, u"1"_s},
     };
     // clang-format on
 }

@@ -126,6 +126,7 @@ enum class UserSetting : int {
     CommandUses,
     SearchHistory,
     ReplacementHistory,
+    CompleteWhileTyping,
 };
 
 /// One value of the per-user store.

@@ -9,6 +9,8 @@ enum class TextCommand {
     Capitalise,
     CaretInEachLine,
     CommandPalette,
+    Complete,
+    CompleteWhileTyping,
     DeleteLines,
     Duplicate,
     ExpandAbbreviation,

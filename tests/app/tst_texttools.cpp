@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/windowbench.h"
+#include "core/documenthost.h"
+#include "core/languages.h"
 #include "support/testregistry.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTest>
 #include <QTreeView>
 #include <QWindow>
@@ -82,6 +85,60 @@ private Q_SLOTS:
         }
         press(bench, u"Ctrl+Y"_s);
         QCOMPARE(rt.text(), u"one"_s);
+    }
+
+    void completion()
+    {
+        WindowBench bench;
+        bench.write(u"app/deps/completion.dat"_s,
+                    "A\tclass\t\t\tIts classes.\nT\tdiv\t\t2015 C1\tA division.\nT\tdl\n");
+        CodeMax &rt = begin(bench, {});
+        bench.window->context().document.setLanguageRow(language::Html);
+        const auto isShown = [&bench] {
+            const auto *popup = bench.window->findChild<QWidget *>(u"completionPopup"_s);
+            return popup && popup->isVisible();
+        };
+        QTest::keyClicks(&rt, u"<"_s);
+        QVERIFY(isShown());
+        QTest::keyClicks(&rt, u"di"_s);
+        press(bench, u"Tab"_s);
+        QVERIFY(!isShown());
+        QTest::keyClicks(&rt, u" cl"_s);
+        press(bench, u"Down"_s);
+        press(bench, u"Return"_s);
+        QTest::keyClicks(&rt, u"x"_s);
+        QCOMPARE(rt.text(), u"<div class=\"x\""_s);
+        QVERIFY(rt.hasFocus());
+
+        // Escape is for the list while it is shown.
+        press(bench, u"Ctrl+A"_s);
+        QTest::keyClicks(&rt, u"<d"_s);
+        press(bench, u"Escape"_s);
+        QVERIFY(!isShown());
+        press(bench, u"Ctrl+Space"_s);
+        QVERIFY(isShown());
+
+        // Another view closes it.
+        auto *tabs = bench.window->findChild<QTabBar *>(u"workspace"_s);
+        tabs->setCurrentIndex(1);
+        QTRY_VERIFY(!isShown());
+        tabs->setCurrentIndex(0);
+
+        // Switched off, it is there on request.
+        auto *entry = bench.window->findChild<QAction *>(u"textCompleteWhileTyping"_s);
+        QVERIFY(entry->isChecked());
+        entry->trigger();
+        QVERIFY(!entry->isChecked());
+        QCOMPARE(bench.settings.GetSetting(UserSetting::CompleteWhileTyping), u"0"_s);
+        rt.setFocus();
+        rt.setText({});
+        QTest::keyClicks(&rt, u"<"_s);
+        QVERIFY(!isShown());
+        press(bench, u"Ctrl+Space"_s);
+        QVERIFY(isShown());
+        press(bench, u"Escape"_s);
+        entry->trigger();
+        QVERIFY(entry->isChecked());
     }
 
     void lastEdit()

@@ -99,6 +99,7 @@ private Q_SLOTS:
         QTest::newRow("uses") << UserSetting::CommandUses << u"zephira/CommandUses/frmmain"_s;
         QTest::newRow("searches") << UserSetting::SearchHistory << u"zephira/Search/Searches"_s;
         QTest::newRow("replacements") << UserSetting::ReplacementHistory << u"zephira/Search/Replacements"_s;
+        QTest::newRow("completion") << UserSetting::CompleteWhileTyping << u"zephira/Text/CompleteWhileTyping"_s;
     }
 
     void userValues()
