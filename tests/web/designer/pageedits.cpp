@@ -156,13 +156,13 @@ EditedTree treeOf(DesignerBench &bench, const QString &source, const QString &wr
 {
     const QString prefix = bench.ask(u"zephiraDesigner.state().state.page"_s).toString();
     EditedTree tree;
-    tree.markup = bench.ask(u"document.documentElement.outerHTML"_s).toString();
+    tree.markup = bench.ask(u"zephiraDesigner.text().value.text"_s).toString();
     tree.isWhole = written != source && written == PageRoundTrip(source, prefix).fromEngine(tree.markup);
     tree.canBeRead =
         bench
             .ask(
                 u"new DOMParser().parseFromString((document.doctype ? new XMLSerializer().serializeToString("
-                "document.doctype) : '') + document.documentElement.outerHTML, 'text/html').documentElement.outerHTML"_s)
+                "document.doctype) : '') + zephiraDesigner.text().value.text, 'text/html').documentElement.outerHTML"_s)
             .toString()
         == tree.markup;
     static const QRegularExpression element(u"<zephira-mark mark=\"(\\w+)\"[^>]*>.*?</zephira-mark>"_s,

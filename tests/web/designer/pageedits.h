@@ -24,7 +24,7 @@ struct RandomEdit {
     QString text;
 };
 
-/// The page that the designer shows.
+/// The page that the designer shows, without what doesn't belong to its text.
 struct EditedTree {
     /// Its markup, without the numbers of marks and with comments for all of them.
     QString markup;
