@@ -154,6 +154,12 @@ def preview(programs, report, _inputs, _build, work):
     report.aim("first preview of a small page", ours, bare, 0.60, "bare web")
 
 
+def live(_programs, report, _inputs, build, _work):
+    """The live page: from a change in the middle of 50 kB to its picture."""
+    times = in_process(build, "live_bench")
+    report.row("live update of 50 kB", times["update"] / 1e6, 60, 1.0, "60 ms")
+
+
 def designer(_programs, report, inputs, build, _work):
     """The visual designer: from a key press to the state that the toolbar shows; entering and leaving it with 1 MB."""
     times = in_process(build, "designer_bench", str(inputs(1)))
@@ -393,7 +399,7 @@ def ftp(_programs, report, _inputs, build, work):
         shutil.rmtree(target)
 
 
-GROUPS = {"start": start, "open": opening, "type": typing, "longline": long_line, "preview": preview, "designer": designer, "colour": colouring, "functions": functions, "tools": tools, "compact": compacting,
+GROUPS = {"start": start, "open": opening, "type": typing, "longline": long_line, "preview": preview, "designer": designer, "live": live, "colour": colouring, "functions": functions, "tools": tools, "compact": compacting,
           "spell": spelling, "save": saving, "search": project_search, "folder": local_folder, "ftpfolder": ftp_folder, "ftp": ftp}
 
 
