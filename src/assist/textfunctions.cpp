@@ -3,12 +3,12 @@
 
 #include "assist/abbreviationcommands.h"
 #include "assist/caretcommands.h"
-#include "assist/completion/completer.h"
 #include "assist/gotosymbol.h"
 #include "assist/lastedit.h"
 #include "assist/linecommands.h"
 #include "assist/pairs/commentcommand.h"
 #include "assist/texthelpers.h"
+#include "completion/completer.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 #include "assist/texthelpers.h"
 
 #include "assist/abbreviations/abbreviations.h"
-#include "assist/completion/completer.h"
 #include "assist/lastedit.h"
+#include "completion/completer.h"
 #include "core/appcontext.h"
 
 namespace zephira {
