@@ -3,6 +3,7 @@
 
 #include "assist/abbreviationcommands.h"
 #include "assist/caretcommands.h"
+#include "assist/colourswatches.h"
 #include "assist/gotosymbol.h"
 #include "assist/lastedit.h"
 #include "assist/linecommands.h"
@@ -44,6 +45,7 @@ using enum TextCommand;
 constexpr std::array rows{
     Row{Capitalise, capitalise},
     Row{CaretInEachLine, caretInEachLine},
+    Row{ChangeColour, changeColour},
     Row{Complete, complete},
     Row{CompleteWhileTyping, switchCompletion, completesWhileTyping},
     Row{DeleteLines, deleteLines},

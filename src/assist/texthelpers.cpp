@@ -2,7 +2,9 @@
 #include "assist/texthelpers.h"
 
 #include "assist/abbreviations/abbreviations.h"
+#include "assist/colourswatches.h"
 #include "assist/lastedit.h"
+#include "assist/picturetip.h"
 #include "completion/completer.h"
 #include "core/appcontext.h"
 
@@ -17,6 +19,8 @@ TextHelpers::~TextHelpers() = default;
 void TextHelpers::start()
 {
     completer();
+    swatches();
+    new PictureTip(m_rt, m_context);
 }
 
 Completer &TextHelpers::completer()
@@ -24,6 +28,13 @@ Completer &TextHelpers::completer()
     if (!m_completer)
         m_completer = std::make_unique<Completer>(m_rt, m_context);
     return *m_completer;
+}
+
+ColourSwatches &TextHelpers::swatches()
+{
+    if (!m_swatches)
+        m_swatches = new ColourSwatches(m_rt, m_context);
+    return *m_swatches;
 }
 
 Abbreviations &TextHelpers::abbreviations()

@@ -12,6 +12,7 @@ struct AppContext;
 class CodeMax;
 class LastEdit;
 class Completer;
+class ColourSwatches;
 class ToolPanel;
 
 /// What helps with writing in a code view. Each helper is a member, made when the window's late parts are, or when it is
@@ -37,6 +38,8 @@ public:
 
     LastEdit &lastEdit() { return *m_lastEdit; }
     Completer &completer();
+    /// Made at first use.
+    ColourSwatches &swatches();
 
 private:
     CodeMax &m_rt;
@@ -46,6 +49,7 @@ private:
     TextServices m_services;
     std::unique_ptr<Abbreviations> m_abbreviations;
     std::unique_ptr<Completer> m_completer;
+    ColourSwatches *m_swatches = nullptr;
 };
 
 } // namespace zephira

@@ -58,6 +58,11 @@ constexpr MenuItem completionItems[] = {
           u"List by itself what may stand behind <, &, : and a blank in a tag"),
 };
 
+constexpr MenuItem insertItems[] = {
+    entry(u"textChangeColor", u"Change &Color...", TextCommand::ChangeColour,
+          u"Choose another color in place of the one at the caret"),
+};
+
 constexpr MenuItem lineItems[] = {
     entry(u"textJoinLines", u"&Join Lines", TextCommand::JoinLines,
           u"Make one line of the selected lines, or of this one and the next", u"Ctrl+J"),
@@ -110,12 +115,13 @@ constexpr MenuItem menus[] = {
     menu(u"textGo", u"&Go To", goItems),
     menu(u"textFind", u"&Find", findItems),
     menu(u"textCompletion", u"C&ompletion", completionItems),
+    menu(u"textInsert", u"&Insert", insertItems),
     menu(u"textAbbreviations", u"&Abbreviations", abbreviationItems),
     menu(u"textCarets", u"Ca&rets", caretItems),
     menu(u"textLines", u"&Lines", lineItems),
     menu(u"textLetters", u"Le&tters", caseItems),
-    menu(u"textShow", u"&Show", showItems),
     menu(u"textCode", u"C&ode", codeItems),
+    menu(u"textShow", u"&Show", showItems),
 };
 // clang-format on
 

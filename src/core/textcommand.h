@@ -8,6 +8,7 @@ namespace zephira {
 enum class TextCommand {
     Capitalise,
     CaretInEachLine,
+    ChangeColour,
     CommandPalette,
     Complete,
     CompleteWhileTyping,
