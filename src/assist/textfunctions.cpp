@@ -8,6 +8,8 @@
 #include "assist/lastedit.h"
 #include "assist/linecommands.h"
 #include "assist/pairs/commentcommand.h"
+#include "assist/pairs/elements.h"
+#include "assist/pairs/enclosing.h"
 #include "assist/texthelpers.h"
 #include "completion/completer.h"
 
@@ -59,7 +61,10 @@ constexpr std::array rows{
     Row{MoveLinesDown, moveLinesDown},
     Row{MoveLinesUp, moveLinesUp},
     Row{RemoveTrailingBlanks, removeTrailingBlanks},
+    Row{RenameTag, renameTag},
     Row{SelectAllOccurrences, selectAllOccurrences},
+    Row{SelectEnclosing, selectEnclosing},
+    Row{SelectInner, selectInner},
     Row{SortLines, sortLines},
     Row{ToggleComment, toggleComment},
     Row{WrapWithAbbreviation, wrapWithAbbreviation},

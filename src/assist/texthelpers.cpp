@@ -4,6 +4,8 @@
 #include "assist/abbreviations/abbreviations.h"
 #include "assist/colourswatches.h"
 #include "assist/lastedit.h"
+#include "assist/pairs/elements.h"
+#include "assist/pairs/enclosing.h"
 #include "assist/picturetip.h"
 #include "completion/completer.h"
 #include "core/appcontext.h"
@@ -35,6 +37,20 @@ ColourSwatches &TextHelpers::swatches()
     if (!m_swatches)
         m_swatches = new ColourSwatches(m_rt, m_context);
     return *m_swatches;
+}
+
+Elements &TextHelpers::elements()
+{
+    if (!m_elements)
+        m_elements = std::make_unique<Elements>(m_rt);
+    return *m_elements;
+}
+
+EnclosingElements &TextHelpers::enclosing()
+{
+    if (!m_enclosing)
+        m_enclosing = std::make_unique<EnclosingElements>(m_rt, elements());
+    return *m_enclosing;
 }
 
 Abbreviations &TextHelpers::abbreviations()

@@ -10,6 +10,8 @@ namespace zephira {
 class Abbreviations;
 struct AppContext;
 class CodeMax;
+class Elements;
+class EnclosingElements;
 class LastEdit;
 class Completer;
 class ColourSwatches;
@@ -40,12 +42,16 @@ public:
     Completer &completer();
     /// Made at first use.
     ColourSwatches &swatches();
+    Elements &elements();
+    EnclosingElements &enclosing();
 
 private:
     CodeMax &m_rt;
     const AppContext &m_context;
     ToolPanel &m_panel;
     std::unique_ptr<LastEdit> m_lastEdit;
+    std::unique_ptr<Elements> m_elements;
+    std::unique_ptr<EnclosingElements> m_enclosing;
     TextServices m_services;
     std::unique_ptr<Abbreviations> m_abbreviations;
     std::unique_ptr<Completer> m_completer;

@@ -108,6 +108,12 @@ constexpr MenuItem caseItems[] = {
 constexpr MenuItem codeItems[] = {
     entry(u"textToggleComment", u"&Comment", TextCommand::ToggleComment,
           u"Make a comment of the selected text or of this line, or text of a comment", u"Ctrl+/"),
+    entry(u"textRenameTag", u"&Rename Tag", TextCommand::RenameTag,
+          u"Select the names in the start tag and the end tag, to type both at once", u"Ctrl+Shift+R"),
+    entry(u"textSelectEnclosing", u"Select &Enclosing Element", TextCommand::SelectEnclosing,
+          u"Select the element around the caret, or the next one around it", u"Ctrl+Shift+Up"),
+    entry(u"textSelectInner", u"Select &Inner Element", TextCommand::SelectInner,
+          u"Select again what was selected before the element around it", u"Ctrl+Shift+Down"),
 };
 
 // clang-format off
