@@ -169,7 +169,7 @@ private Q_SLOTS:
         QTRY_COMPARE(tree->model()->rowCount(), 1);
         QTRY_VERIFY(!bench.find<QPushButton>(u"cmdStop"_s)->isEnabled());
         // The document has unsaved changes, about which the window asks.
-        bench.prompts.expect({u"Document: New Document\n\nThis document has been modified.\nDo you wish to save?"_s,
+        bench.prompts.expect({u"Document: \n\nThis document has been modified.\nDo you wish to save?"_s,
                               u"Document Modified."_s, Question::Icon::Question, Question::Buttons::YesNoCancel},
                              Answer::No);
         tree->setFocus();
