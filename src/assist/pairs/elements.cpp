@@ -15,9 +15,6 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// How many bytes are read for a key, and in a slice of idle time.
-constexpr qsizetype forKey = 64 * 1024;
-constexpr qsizetype forSlice = 512 * 1024;
 constexpr auto everything = std::numeric_limits<qsizetype>::max();
 
 MarkupRules rulesOf(const CodeMax &rt)
@@ -34,8 +31,6 @@ constexpr bool isBlank(char c)
 
 Elements::Elements(CodeMax &rt) : m_rt(rt), m_reader(rulesOf(rt))
 {
-    m_soon.setSingleShot(true);
-    connect(&m_soon, &QTimer::timeout, this, &Elements::readOn);
     connect(&rt, &QsciScintillaBase::SCN_MODIFIED, this, [this](int position, int type) {
         if (type & (Sci::SC_MOD_BEFOREINSERT | Sci::SC_MOD_BEFOREDELETE))
             m_reader.changedFrom(position);
@@ -53,54 +48,12 @@ void Elements::takeLanguage()
         m_reader = OpenElements(rulesOf(m_rt));
 }
 
-std::optional<std::vector<ElementTag>> Elements::soonAround(qsizetype position)
-{
-    takeLanguage();
-    if (!hasTags(m_rt))
-        return std::vector<ElementTag>();
-    auto elements = m_reader.around(m_rt.utf8Pieces(), position, forKey);
-    if (!elements) {
-        m_wanted = std::max(m_wanted, position);
-        m_soon.start(0);
-    }
-    return elements;
-}
-
 std::vector<ElementTag> Elements::around(qsizetype position)
 {
     takeLanguage();
     if (!hasTags(m_rt))
         return {};
     return m_reader.around(m_rt.utf8Pieces(), position, everything).value_or(std::vector<ElementTag>());
-}
-
-void Elements::tellAround(qsizetype position, std::function<void(const std::vector<ElementTag> &)> told)
-{
-    m_told = {};
-    if (const auto elements = soonAround(position)) {
-        told(*elements);
-        return;
-    }
-    m_wanted = position;
-    m_version = m_rt.textVersion();
-    m_told = std::move(told);
-}
-
-void Elements::readOn()
-{
-    takeLanguage();
-    if (!hasTags(m_rt))
-        return;
-    const qsizetype wanted = std::min(m_wanted, m_rt.engine().length());
-    const auto elements = m_reader.around(m_rt.utf8Pieces(), wanted, forSlice);
-    if (!elements) {
-        m_soon.start(0);
-        return;
-    }
-    m_wanted = 0;
-    const auto told = std::exchange(m_told, {});
-    if (told && m_version == m_rt.textVersion())
-        told(*elements);
 }
 
 qsizetype Elements::endOf(const ElementTag &element)
