@@ -124,7 +124,7 @@ void LiveDock::connectText()
             m_caretSoon.start();
     });
     connect(&rt, &QsciScintillaBase::SCN_MODIFIED, this, [this](int position, int type) {
-        if (m_isOpen && type & (QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT))
+        if (m_isOpen && type & (QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE))
             m_elements.changedFrom(position);
     });
     connect(rt.verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {

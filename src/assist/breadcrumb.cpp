@@ -53,7 +53,7 @@ Breadcrumb::Breadcrumb(CodeMax &rt, QWidget *parent) : QWidget(parent), m_rt(rt)
     connect(&m_rt, &CodeMax::SelChange, this, later);
     connect(&m_rt, &CodeMax::Change, this, later);
     connect(&m_rt, &QsciScintillaBase::SCN_MODIFIED, this, [this](int position, int type) {
-        if (m_isOn && type & (QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT))
+        if (m_isOn && type & (QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE))
             m_reader.changedFrom(position);
     });
     m_rt.installEventFilter(this);

@@ -64,6 +64,15 @@ private Q_SLOTS:
         QVERIFY(bench.line->isVisible());
     }
 
+    void followsChangesBeforeTheCaret()
+    {
+        Line bench;
+        bench.fixture.setMarked(u"<body>\r\n<p>x|y</p>"_s);
+        QCOMPARE(bench.captions(), (QStringList{u"body"_s, u"p"_s}));
+        bench.fixture.editor.perform([&] { bench.fixture.editor.replaceBytes(1, 5, "main"); });
+        QCOMPARE(bench.captions(), (QStringList{u"main"_s, u"p"_s}));
+    }
+
     void aClickSelectsTheElement()
     {
         Line bench;
