@@ -44,9 +44,9 @@ LivePane::LivePane(QWidget *parent) : QWidget(parent)
     m_width->setKeyboardTracking(false);
     m_width->hide();
     m_colours = new QComboBox(this);
-    m_colours->setObjectName(u"liveColours"_s);
-    m_colours->setAccessibleName(tr("Colours of the page"));
-    m_colours->setToolTip(tr("The colours that the page's style sheets are asked for"));
+    m_colours->setObjectName(u"liveColors"_s);
+    m_colours->setAccessibleName(tr("Colors of the page"));
+    m_colours->setToolTip(tr("The colors that the page's style sheets are asked for"));
     m_colours->addItems({tr("As desktop"), tr("Light"), tr("Dark")});
     m_colours->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_colours->setMinimumContentsLength(10);

@@ -166,7 +166,7 @@ private Q_SLOTS:
         Bench bench;
         bench.pane.show();
         QTRY_COMPARE(bench.shows(), 1);
-        auto *colours = bench.pane.findChild<QComboBox *>(u"liveColours"_s);
+        auto *colours = bench.pane.findChild<QComboBox *>(u"liveColors"_s);
         Q_EMIT colours->activated(2);
         QCOMPARE(bench.page.scheme, ColourScheme::Dark);
         Q_EMIT colours->activated(0);
