@@ -198,9 +198,10 @@ private:
         m_isValue = start < last && takesColours(m_line.sliced(start, last - start));
         // In a:hover #fff { } a rule begins.
         if (m_isValue && m_line[end] == ':') {
-            const qsizetype brace = m_line.indexOf('{', end);
-            const qsizetype semicolon = m_line.indexOf(';', end);
-            m_isValue = brace < 0 || (semicolon >= 0 && semicolon < brace);
+            qsizetype next = end;
+            while (next < m_line.size() && m_line[next] != '{' && m_line[next] != '}' && m_line[next] != ';')
+                ++next;
+            m_isValue = next == m_line.size() || m_line[next] != '{';
         }
     }
 
@@ -219,7 +220,7 @@ private:
                     || word.compare("hsl", Qt::CaseInsensitive) == 0 || word.compare("hsla", Qt::CaseInsensitive) == 0);
             if (word.compare("url", Qt::CaseInsensitive) == 0)
                 return close < 0 ? m_line.size() : close + 1;
-            if (!isColour || close < 0)
+            if (!isColour || close < 0 || m_line.sliced(end + 1, close - end).contains('('))
                 return end;
             add(start, close + 1);
             return close + 1;

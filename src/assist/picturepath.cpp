@@ -64,13 +64,15 @@ QByteArrayView sourceAt(QByteArrayView line, qsizetype offset)
 
 QString pictureFile(const QString &address, const QString &pageFolder, const QString &projectFolder)
 {
+    if (address.contains(u"<?") || address.contains(u"<%"))
+        return {}; // The server makes it.
     QString path = address.trimmed();
     path = path.left(path.indexOf(u'#')).left(path.indexOf(u'?'));
     const qsizetype colon = path.indexOf(u':');
     const qsizetype slash = path.indexOf(u'/');
     const bool isElsewhere = path.startsWith(u"//") || (colon >= 0 && (slash < 0 || colon < slash));
     const QString &base = path.startsWith(u'/') ? projectFolder : pageFolder;
-    if (path.isEmpty() || isElsewhere || base.isEmpty() || path.contains(u"<?") || path.contains(u"<%"))
+    if (path.isEmpty() || isElsewhere || base.isEmpty())
         return {};
     path = QString::fromUtf8(QByteArray::fromPercentEncoding(path.toUtf8()));
     return path.contains(QChar(0)) ? QString() : QDir::cleanPath(base + u'/' + path);

@@ -37,7 +37,7 @@ private Q_SLOTS:
         row("anchor", "<a href=\"#abc\" title=\"color\">red</a>", {});
         row("other properties", "font-family: Tan; content: red; width: #fff", {});
         row("wrong lengths", "color: #ff #fffff #fffffff #ggg #", {});
-        row("wrong functions", "color: rgb(1,2) rgb(1,2,3 url(red) blue", {});
+        row("wrong functions", "color: rgb(1,2) rgb(1,2,3 url(red) blue", {"blue"});
         row("names in names", "color: reddish dark-red red-dark", {});
         row("without color", "color: transparent inherit none", {});
         row("prose", "Note: it is red; the color is blue.", {});
