@@ -115,7 +115,7 @@ private Q_SLOTS:
         row("delete a character", "a.txt", "abc", "Delete Delete", "c");
         row("undo", "a.txt", "abc", "x ctrl+a Delete ctrl+z", "xabc");
         row("an abbreviation", "a.html", "ul>li*2", "ctrl+End ctrl+e x Tab y",
-            "<ul>\n\t<li>x</li>\n\t<li>y</li>\n</ul>");
+            "<ul>\r\n\t<li>x</li>\r\n\t<li>y</li>\r\n</ul>");
         row("an abbreviation taken back", "a.html", "x ul>li", "ctrl+End ctrl+e ctrl+z y", "x ul>liy");
         row("wrapping", "a.html", "x", "ctrl+a ctrl+shift+e i Return y", "<i>x</i>y");
         row("wrapping given up", "a.html", "x", "ctrl+a ctrl+shift+e i Escape y", "y");
