@@ -76,8 +76,7 @@ private Q_SLOTS:
             u"a<i>b</i>cd"_s, u"a<i>b</i>cdX"_s, u"52-52:X"_s, u"9-52:cdX"_s);
         row("ends of the page in its middle", u"<html><body><p>a</body></html><p>bc"_s,
             u"<html><head></head><body><p>a</p><p>bc</p></body></html>"_s,
-            u"<html><head></head><body><p>a</p><p>bXc</p></body></html>"_s, u"34-34:X"_s,
-            u"33-35:bXc</p>"_s);
+            u"<html><head></head><body><p>a</p><p>bXc</p></body></html>"_s, u"34-34:X"_s, u"33-35:bXc</p>"_s);
         const QString table = u"<table><caption>c</caption><tbody><tr><td>b</td></tr></tbody></table>"_s;
         row("a moved word", u"<table><caption>c</caption>x<tr><td>b</table>"_s, u"x"_s + table, u"xy"_s + table,
             u"28-28:y"_s, u"0-0:xy"_s);
