@@ -63,6 +63,7 @@ private Q_SLOTS:
         QFETCH(QString, keys);
         WindowBench bench;
         CodeMax &rt = begin(bench, u"one\r\ntwo\r\nOne"_s);
+        bench.window->context().document.setLanguageRow(language::Html);
         rt.select({1, 1, 1, 1});
         const QStringList each = keys.split(u',');
         for (const QString &key : each)
