@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/casetext.h"
 
+#include <QList>
 #include <QString>
 
 namespace zephira {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/scripttokens.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <cstring>
 
