@@ -109,7 +109,12 @@ frmmain::frmmain(const WindowServices &services, QWidget *parent)
     m_rt->setFocus();
 }
 
-frmmain::~frmmain() = default;
+frmmain::~frmmain()
+{
+    // It loses the focus when the parts that would hide it are gone.
+    if (m_selectorList)
+        m_selectorList->disconnect(this);
+}
 
 /// Creates the document and what it depends on.
 void frmmain::buildDocument()

@@ -101,7 +101,10 @@ Completer::Completer(CodeMax &rt, const AppContext &context)
 
 Completer::~Completer()
 {
-    delete m_popup;
+    // While it goes away, events still come that ask for it.
+    const CompletionPopup *popup = m_popup;
+    m_popup.clear();
+    delete popup;
 }
 
 void Completer::setOn(bool on)
