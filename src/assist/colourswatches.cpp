@@ -8,7 +8,6 @@
 #include "widgets/qtvalues.h"
 
 #include <QMouseEvent>
-#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -22,43 +21,26 @@ using Sci = QsciScintillaBase;
 constexpr int barHeight = 3;
 constexpr int reach = 1;
 
-/// Lies over the text and paints the swatches. The mouse doesn't see it.
-class SwatchLayer final : public QWidget
-{
-public:
-    SwatchLayer(const ColourSwatches &swatches, QWidget *view) : QWidget(view), m_swatches(swatches)
-    {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setAttribute(Qt::WA_NoSystemBackground);
-        resize(view->size());
-        show();
-    }
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        const auto swatches = m_swatches.swatchesIn(event->rect());
-        if (swatches.empty())
-            return;
-        QPainter painter(this);
-        for (const ColourSwatches::Swatch &swatch : swatches) {
-            painter.fillRect(swatch.box, Qt::white); // behind what is transparent
-            painter.fillRect(swatch.box, swatch.colour);
-            painter.setPen(Qt::gray);
-            painter.drawRect(swatch.box.adjusted(0, 0, -1, -1));
-        }
-    }
-
-private:
-    const ColourSwatches &m_swatches;
-};
-
 } // namespace
 
-ColourSwatches::ColourSwatches(CodeMax &rt, const AppContext &context)
-    : QObject(&rt), m_rt(rt), m_context(context), m_layer(new SwatchLayer(*this, rt.viewport()))
+ColourSwatches::ColourSwatches(CodeMax &rt, const AppContext &context) : QObject(&rt), m_rt(rt), m_context(context)
 {
     rt.viewport()->installEventFilter(this);
+    rt.paintOver = [this](QPainter &painter, const QRect &part) { paint(painter, part); };
+    // A picture without colors stays as it is.
+    if (!swatchesIn(rt.viewport()->rect()).empty())
+        rt.viewport()->update();
+}
+
+void ColourSwatches::paint(QPainter &painter, const QRect &part) const
+{
+    const std::vector<Swatch> swatches = swatchesIn(part);
+    for (const Swatch &swatch : swatches) {
+        painter.fillRect(swatch.box, Qt::white); // behind what is transparent
+        painter.fillRect(swatch.box, swatch.colour);
+        painter.setPen(Qt::gray);
+        painter.drawRect(swatch.box.adjusted(0, 0, -1, -1));
+    }
 }
 
 QRect ColourSwatches::boxOf(qsizetype start, qsizetype end) const
@@ -121,9 +103,6 @@ std::optional<ColourSwatches::Swatch> ColourSwatches::swatchAt(const QPoint &poi
 bool ColourSwatches::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::Resize:
-        m_layer->resize(m_rt.viewport()->size());
-        break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: {
         const auto *mouse = static_cast<QMouseEvent *>(event);

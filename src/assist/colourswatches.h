@@ -22,7 +22,7 @@ class ColourSwatches final : public QObject
     Q_OBJECT
 
 public:
-    /// Both must outlive the swatches.
+    /// The control owns the swatches; the context must outlive them.
     ColourSwatches(CodeMax &rt, const AppContext &context);
 
     /// Asks for another color in place of the one at the caret, if there is one.
@@ -45,10 +45,10 @@ private:
     std::optional<Swatch> swatchAt(const QPoint &point) const;
     QRect boxOf(qsizetype start, qsizetype end) const;
     void change(const Swatch &swatch);
+    void paint(QPainter &painter, const QRect &part) const;
 
     CodeMax &m_rt;
     const AppContext &m_context;
-    QWidget *m_layer;
     bool m_pressed = false;
 };
 

@@ -23,6 +23,7 @@
 #include <vector>
 
 class QMenu;
+class QPainter;
 
 namespace zephira {
 
@@ -91,6 +92,9 @@ public:
 
     /// Adds entries below the context menu's own.
     std::function<void(QMenu &)> extendMenu;
+
+    /// Paints over a part of the viewport that has just been painted.
+    std::function<void(QPainter &, const QRect &)> paintOver;
 
     QString text() const override;
     void setText(const QString &text) override;

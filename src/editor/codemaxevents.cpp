@@ -285,6 +285,8 @@ void CodeMax::paintEvent(QPaintEvent *event)
     QsciScintillaBase::paintEvent(event);
     QPainter painter(viewport());
     m_bidi->paint(painter, event->rect());
+    if (paintOver)
+        paintOver(painter, event->rect());
     painter.end();
     if (m_margins->lineNumbers() && m_appearance->fontStyle(LineNumberFont) & UnderlinedStyle)
         underlineNumbers();
