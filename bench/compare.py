@@ -29,6 +29,8 @@ class Programs:
         self.picture_tool = build / "picture"
         self.home = work / "home"
         self.templates = work / "homes"
+        # What an earlier build of the program kept there isn't valid for this one, and a start would make it again.
+        shutil.rmtree(self.templates, ignore_errors=True)
         self.commands = {
             "zephira": [folder / "zephira"],
             "bare": [build / "bare"],
