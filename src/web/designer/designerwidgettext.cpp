@@ -3,6 +3,7 @@
 #include "web/designer/designerpage.h"
 #include "web/designer/designerwidget.h"
 #include "web/designer/mergeladder.h"
+#include "web/designer/wellformed.h"
 
 #include <QElapsedTimer>
 
@@ -99,6 +100,13 @@ std::optional<TextChanges> DesignerWidget::mergedChanges(const DesignerCopy &cop
     const qsizetype doctype = page.forEngine().size() - page.masked().size();
     const PageMerge merge(*alignment, copy.text, [&page](QStringView markup) { return page.spelled(markup); });
     std::optional<TextChanges> right;
+    // The engine reads every text as HTML, in which a lone end tag may stand for an element.
+    std::optional<bool> isXml;
+    const auto staysXml = [&] {
+        if (!isXml)
+            isXml = isWellFormed(page.source());
+        return !*isXml || isWellFormed(withChanges(page.source(), *right));
+    };
     const auto check = [&](const MergeTry &attempt) {
         if (time.hasExpired(m_mergePatience))
             return MergeVerdict::Stop;
@@ -111,7 +119,9 @@ std::optional<TextChanges> DesignerWidget::mergedChanges(const DesignerCopy &cop
         const QVariant fits = ask(u"fits"_s, {QVariant(forPage(attempt.changes, doctype)), target, copy.changes});
         if (fits.typeId() != QMetaType::Bool || m_text.markPrefix() != page.markPrefix())
             return MergeVerdict::Stop;
-        return fits.toBool() ? MergeVerdict::Right : MergeVerdict::Wrong;
+        if (!fits.toBool())
+            return MergeVerdict::Wrong;
+        return attempt.target || staysXml() ? MergeVerdict::Right : MergeVerdict::Wrong;
     };
     const std::optional<TextChanges> changes = mergedByLadder(merge, check);
     if (!changes)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// mergefigures [--pages N] [--random N]: what edits in the designer do to the sources of N real pages, and whether N edits
-// at random are written right, half of them on damaged pages. Exit status 1 tells of a fault.
+// mergefigures [--pages N] [--random N] [PAGE...]: what edits in the designer do to the sources of N real pages, or of
+// those named, and whether N edits at random are written right, half of them on damaged pages. Exit status 1 tells of a
+// fault.
 #include "support/installedpages.h"
 #include "web/designer/mergefigures.h"
 #include "web/designer/pageedits.h"
@@ -21,10 +22,9 @@ void print(const QString &text)
     std::fflush(stdout);
 }
 
-bool measurePages(DesignerBench &bench, int count)
+bool measurePages(DesignerBench &bench, const QStringList &pages)
 {
-    const MergeFigures figures =
-        measureMerges(bench, installedPages(count, [](const QByteArray &page) { return page.contains("<body"); }));
+    const MergeFigures figures = measureMerges(bench, pages);
     print(figures.table());
     for (const QString &each : figures.wide)
         print(each);
@@ -60,10 +60,17 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.addOptions({{u"pages"_s, u"Edit so many real pages."_s, u"N"_s, u"200"_s},
                        {u"random"_s, u"Make so many edits at random."_s, u"N"_s, u"0"_s}});
+    parser.addPositionalArgument(u"PAGE"_s, u"Edit this page, instead of some of the installed ones."_s,
+                                 u"[PAGE...]"_s);
     parser.addHelpOption();
     parser.process(application);
     DesignerBench bench;
-    const bool arePagesRight = measurePages(bench, parser.value(u"pages"_s).toInt());
+    QStringList pages = parser.positionalArguments();
+    if (pages.isEmpty()) {
+        pages = installedPages(parser.value(u"pages"_s).toInt(),
+                               [](const QByteArray &page) { return page.contains("<body"); });
+    }
+    const bool arePagesRight = measurePages(bench, pages);
     const bool isRandomRight = editRandomly(bench, parser.value(u"random"_s).toInt());
     return arePagesRight && isRandomRight ? 0 : 1;
 }
