@@ -28,6 +28,7 @@ private Q_SLOTS:
     void emptiedParagraphs_data();
     void emptiedParagraphs();
     void emptyParagraphsOfTheAuthor();
+    void xmlStaysXml();
     void changesLeadToTheText();
     void severalWritesFromOneLoad();
     void undoneIsUntouched();
@@ -175,6 +176,19 @@ void TstDesignerMerge::emptyParagraphsOfTheAuthor()
     m_bench->load(page);
     act(editScript(u"letter('word')"_s));
     QCOMPARE(m_bench->designer.documentHtml(), u"<p>wordX</p><p><br></p><p>a</p>"_s);
+}
+
+/// For the engine, the list ends the paragraph, and the paragraph's end tag makes an empty one.
+void TstDesignerMerge::xmlStaysXml()
+{
+    const auto page = [](const QString &body) {
+        return u"<html xmlns=\"http://www.w3.org/1999/xhtml\"><head><title>t</title></head><body>%1</body></html>"_s
+            .arg(body);
+    };
+    m_bench->show(page(u"<p>a</p>\r\n<p>[b]<ul><li>c</li></ul>\r\n</p>\r\n<p>d</p>"_s));
+    m_bench->run(DesignerCommand::Delete);
+    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    QCOMPARE(m_bench->designer.documentHtml(), page(u"<p>a</p>\r\n<ul><li>c</li></ul>\r\n<p></p>\r\n<p>d</p>"_s));
 }
 
 void TstDesignerMerge::changesLeadToTheText()
