@@ -4,6 +4,7 @@
 #include "assist/texthelpers.h"
 #include "core/appcontext.h"
 #include "core/prompts.h"
+#include "core/usersettings.h"
 #include "editor/codemax.h"
 #include "widgets/qtvalues.h"
 
@@ -23,13 +24,24 @@ constexpr int reach = 1;
 
 } // namespace
 
-ColourSwatches::ColourSwatches(CodeMax &rt, const AppContext &context) : QObject(&rt), m_rt(rt), m_context(context)
+ColourSwatches::ColourSwatches(CodeMax &rt, const AppContext &context) : QObject(&rt)
+    , m_rt(rt)
+    , m_context(context)
+    , m_isOn(wholeNumber(context.settings, UserSetting::ColourSwatches) != 0)
 {
     rt.viewport()->installEventFilter(this);
     rt.paintOver = [this](QPainter &painter, const QRect &part) { paint(painter, part); };
     // A picture without colors stays as it is.
     if (!swatchesIn(rt.viewport()->rect()).empty())
         rt.viewport()->update();
+}
+
+void ColourSwatches::setOn(bool on)
+{
+    m_isOn = on;
+    m_pressed = false;
+    writeSwitch(m_context.settings, UserSetting::ColourSwatches, on);
+    m_rt.viewport()->update();
 }
 
 void ColourSwatches::paint(QPainter &painter, const QRect &part) const
@@ -69,6 +81,8 @@ QRect ColourSwatches::boxOf(qsizetype start, qsizetype end) const
 std::vector<ColourSwatches::Swatch> ColourSwatches::swatchesIn(const QRect &part) const
 {
     std::vector<Swatch> swatches;
+    if (!m_isOn)
+        return swatches;
     const SciEngine &engine = m_rt.engine();
     const qsizetype height = std::max<qsizetype>(engine.send(Sci::SCI_TEXTHEIGHT, 0), 1);
     const qsizetype first = engine.send(Sci::SCI_GETFIRSTVISIBLELINE);
@@ -156,6 +170,16 @@ void ColourSwatches::changeAtCaret()
 void changeColour(TextHelpers &helpers)
 {
     helpers.swatches().changeAtCaret();
+}
+
+void switchSwatches(TextHelpers &helpers)
+{
+    helpers.swatches().setOn(!helpers.swatches().isOn());
+}
+
+bool showsSwatches(TextHelpers &helpers)
+{
+    return helpers.swatches().isOn();
 }
 
 } // namespace zephira

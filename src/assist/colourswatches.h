@@ -25,6 +25,10 @@ public:
     /// The control owns the swatches; the context must outlive them.
     ColourSwatches(CodeMax &rt, const AppContext &context);
 
+    /// Whether they are shown; kept for the user.
+    bool isOn() const { return m_isOn; }
+    void setOn(bool on);
+
     /// Asks for another color in place of the one at the caret, if there is one.
     void changeAtCaret();
 
@@ -50,9 +54,12 @@ private:
     CodeMax &m_rt;
     const AppContext &m_context;
     bool m_pressed = false;
+    bool m_isOn;
 };
 
-/// The command.
+/// The commands.
 void changeColour(TextHelpers &helpers);
+void switchSwatches(TextHelpers &helpers);
+bool showsSwatches(TextHelpers &helpers);
 
 } // namespace zephira

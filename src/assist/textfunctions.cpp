@@ -10,6 +10,7 @@
 #include "assist/pairs/commentcommand.h"
 #include "assist/pairs/elements.h"
 #include "assist/pairs/enclosing.h"
+#include "assist/pairs/typedpairs.h"
 #include "assist/texthelpers.h"
 #include "completion/completer.h"
 
@@ -45,6 +46,7 @@ void switchCompletion(TextHelpers &helpers)
 using enum TextCommand;
 
 constexpr std::array rows{
+    Row{AutoClose, switchAutoClose, closesPairs},
     Row{Capitalise, capitalise},
     Row{CaretInEachLine, caretInEachLine},
     Row{ChangeColour, changeColour},
@@ -65,6 +67,7 @@ constexpr std::array rows{
     Row{SelectAllOccurrences, selectAllOccurrences},
     Row{SelectEnclosing, selectEnclosing},
     Row{SelectInner, selectInner},
+    Row{ShowSwatches, switchSwatches, showsSwatches},
     Row{SortLines, sortLines},
     Row{ToggleComment, toggleComment},
     Row{WrapWithAbbreviation, wrapWithAbbreviation},

@@ -6,6 +6,7 @@
 #include "assist/lastedit.h"
 #include "assist/pairs/elements.h"
 #include "assist/pairs/enclosing.h"
+#include "assist/pairs/typedpairs.h"
 #include "assist/picturetip.h"
 #include "completion/completer.h"
 #include "core/appcontext.h"
@@ -20,6 +21,8 @@ TextHelpers::~TextHelpers() = default;
 
 void TextHelpers::start()
 {
+    // A list must not come up for what is completed at once.
+    typedPairs();
     completer();
     swatches();
     new PictureTip(m_rt, m_context);
@@ -51,6 +54,13 @@ EnclosingElements &TextHelpers::enclosing()
     if (!m_enclosing)
         m_enclosing = std::make_unique<EnclosingElements>(m_rt, elements());
     return *m_enclosing;
+}
+
+TypedPairs &TextHelpers::typedPairs()
+{
+    if (!m_typedPairs)
+        m_typedPairs = std::make_unique<TypedPairs>(m_rt, m_context, elements());
+    return *m_typedPairs;
 }
 
 Abbreviations &TextHelpers::abbreviations()

@@ -16,6 +16,7 @@ class LastEdit;
 class Completer;
 class ColourSwatches;
 class ToolPanel;
+class TypedPairs;
 
 /// What helps with writing in a code view. Each helper is a member, made when the window's late parts are, or when it is
 /// used for the first time.
@@ -44,6 +45,7 @@ public:
     ColourSwatches &swatches();
     Elements &elements();
     EnclosingElements &enclosing();
+    TypedPairs &typedPairs();
 
 private:
     CodeMax &m_rt;
@@ -52,6 +54,7 @@ private:
     std::unique_ptr<LastEdit> m_lastEdit;
     std::unique_ptr<Elements> m_elements;
     std::unique_ptr<EnclosingElements> m_enclosing;
+    std::unique_ptr<TypedPairs> m_typedPairs;
     TextServices m_services;
     std::unique_ptr<Abbreviations> m_abbreviations;
     std::unique_ptr<Completer> m_completer;

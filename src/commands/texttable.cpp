@@ -83,6 +83,8 @@ constexpr MenuItem lineItems[] = {
 constexpr MenuItem showItems[] = {
     shown(textname::breadcrumb, u"&Breadcrumb", TextCommand::ShowBreadcrumb,
           u"Show the elements around the caret in a line below the text"),
+    shown(u"textSwatches", u"&Color Squares", TextCommand::ShowSwatches,
+          u"Show a small square of its color before each color in the text"),
     shown(textname::livePage, u"&Live Page", TextCommand::LivePage, u"Show the page beside its source while you type",
           u"F9"),
 };
@@ -114,6 +116,8 @@ constexpr MenuItem codeItems[] = {
           u"Select the element around the caret, or the next one around it", u"Ctrl+Shift+Up"),
     entry(u"textSelectInner", u"Select &Inner Element", TextCommand::SelectInner,
           u"Select again what was selected before the element around it", u"Ctrl+Shift+Down"),
+    shown(u"textAutoClose", u"&Close While Typing", TextCommand::AutoClose,
+          u"Put the closing bracket, quote or tag behind the caret as soon as the opening one is typed"),
 };
 
 // clang-format off

@@ -126,6 +126,8 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {SearchHistory, own, u"Search"_s, u"Searches"_s, Text},
         {ReplacementHistory, own, u"Search"_s, u"Replacements"_s, Text},
         {CompleteWhileTyping, own, u"Text"_s, u"CompleteWhileTyping"_s, Switch, u"1"_s},
+        {AutoClose, own, u"Text"_s, u"AutoClose"_s, Switch, u"0"_s},
+        {ColourSwatches, own, u"Text"_s, u"ColorSwatches"_s, Switch, u"1"_s},
     };
     // clang-format on
 }

@@ -127,6 +127,8 @@ enum class UserSetting : int {
     SearchHistory,
     ReplacementHistory,
     CompleteWhileTyping,
+    AutoClose,
+    ColourSwatches,
 };
 
 /// One value of the per-user store.

@@ -6,6 +6,7 @@ namespace zephira {
 /// The commands that help with writing in the code view, and the windows and panels that belong to it. They are offered
 /// by the text's own context menu, by the command palette and on keys.
 enum class TextCommand {
+    AutoClose,
     Capitalise,
     CaretInEachLine,
     ChangeColour,
@@ -30,6 +31,7 @@ enum class TextCommand {
     SelectEnclosing,
     SelectInner,
     ShowBreadcrumb,
+    ShowSwatches,
     SortLines,
     ToggleComment,
     WrapWithAbbreviation,

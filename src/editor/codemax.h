@@ -153,6 +153,11 @@ public:
     int fontStyle(int item) const override;
     EditorOptions options() const { return m_options; }
     void setOptions(const EditorOptions &options);
+    /// Tells how far new lines are indented, beyond what the line above says; see TypingRules.
+    void setLineBreaks(std::function<LineBreak(qsizetype start, qsizetype end)> at)
+    {
+        m_typing.setLineBreaks(std::move(at));
+    }
     /// Whether the caret's line is highlighted, by the control itself or by a program that makes HighlightedLine follow
     /// the caret.
     bool isCaretLineHighlighted() const;

@@ -27,6 +27,18 @@ bool isIndentation(QByteArrayView text)
     return std::ranges::all_of(text, [](char c) { return c == ' ' || c == '\t'; });
 }
 
+QByteArrayView blanksOf(QByteArrayView line)
+{
+    const auto *const end =
+        std::ranges::find_if_not(line.begin(), line.end(), [](char c) { return c == ' ' || c == '\t'; });
+    return line.first(end - line.begin());
+}
+
+QByteArray indentLevel(const EditorOptions &options)
+{
+    return options.tabsAsBlanks ? QByteArray(options.tabWidth, ' ') : QByteArray("\t");
+}
+
 /// The line end typed by the Enter key.
 QByteArray currentLineEnd(const SciEngine &engine)
 {
@@ -67,9 +79,11 @@ void TypingRules::type(const QKeyEvent &key, const std::function<void()> &engine
 void TypingRules::breakLine(const std::function<void()> &engineTypes) const
 {
     const bool readOnly = m_engine.send(Sci::SCI_GETREADONLY);
+    const std::vector<Break> all = readOnly ? std::vector<Break>() : breaks();
+    const bool isPlain = std::ranges::all_of(all, [](const Break &each) { return each.kind == LineBreak::Plain; });
     m_engine.send(Sci::SCI_BEGINUNDOACTION);
-    if (hasSeveral() && !readOnly) {
-        breakLines();
+    if (!readOnly && (hasSeveral() || !isPlain)) {
+        breakLines(all);
     } else {
         engineTypes();
         if (m_options.autoIndent && !readOnly)
@@ -78,26 +92,45 @@ void TypingRules::breakLine(const std::function<void()> &engineTypes) const
     m_engine.send(Sci::SCI_ENDUNDOACTION);
 }
 
-/// Puts a line end at each caret; the engine would keep only one of them. Nothing but blanks in front of one goes away.
-void TypingRules::breakLines() const
+/// The places at which lines are broken, in the order of the text.
+std::vector<TypingRules::Break> TypingRules::breaks() const
 {
-    std::vector<std::pair<qsizetype, qsizetype>> ranges;
+    std::vector<Break> all;
     for (qsizetype i = 0; i < m_engine.send(Sci::SCI_GETSELECTIONS); ++i)
-        ranges.emplace_back(m_engine.send(Sci::SCI_GETSELECTIONNSTART, i), m_engine.send(Sci::SCI_GETSELECTIONNEND, i));
-    std::ranges::sort(ranges);
+        all.push_back({m_engine.send(Sci::SCI_GETSELECTIONNSTART, i), m_engine.send(Sci::SCI_GETSELECTIONNEND, i)});
+    std::ranges::sort(all, {}, &Break::start);
+    for (Break &each : all) {
+        if (m_lineBreakAt && m_options.autoIndent)
+            each.kind = m_lineBreakAt(each.start, each.end);
+    }
+    return all;
+}
+
+/// Puts a line end at each caret; the engine would keep only one of them. Nothing but blanks in front of one goes away.
+void TypingRules::breakLines(const std::vector<Break> &breaks) const
+{
     const QByteArray lineEnd = currentLineEnd(m_engine);
     std::vector<qsizetype> after;
     qsizetype moved = 0;
-    for (const auto &[start, end] : ranges) {
+    for (const auto &[start, end, kind] : breaks) {
         const qsizetype at = start + moved;
         const qsizetype lineStart = m_engine.lineStart(m_engine.lineOf(at));
         const QByteArrayView above = m_engine.bytes(lineStart, at);
-        const QByteArray text = m_options.autoIndent ? lineEnd + indentBelow(above, m_options) : lineEnd;
+        QByteArray text = lineEnd;
+        QByteArray behind;
+        if (kind != LineBreak::Plain) {
+            const QByteArray indent = blanksOf(above).toByteArray();
+            text += indent + indentLevel(m_options);
+            if (kind == LineBreak::Between)
+                behind = lineEnd + indent;
+        } else if (m_options.autoIndent) {
+            text += indentBelow(above, m_options);
+        }
         const qsizetype from = m_options.autoIndent && isIndentation(above) ? lineStart : at;
         const qsizetype to = end + moved;
-        m_engine.replace(from, to, text);
+        m_engine.replace(from, to, text + behind);
         after.push_back(from + text.size());
-        moved += text.size() - (to - from);
+        moved += text.size() + behind.size() - (to - from);
     }
     m_engine.send(Sci::SCI_SETEMPTYSELECTION, after.front());
     for (std::size_t i = 1; i < after.size(); ++i)
@@ -252,12 +285,9 @@ bool TypingRules::isPlainDelete(const QKeyEvent &key)
 
 QByteArray TypingRules::indentBelow(QByteArrayView above, const EditorOptions &options)
 {
-    qsizetype blanks = 0;
-    while (blanks < above.size() && (above[blanks] == ' ' || above[blanks] == '\t'))
-        ++blanks;
-    QByteArray indent = above.first(blanks).toByteArray();
+    QByteArray indent = blanksOf(above).toByteArray();
     if (above.trimmed().endsWith('{'))
-        indent += options.tabsAsBlanks ? QByteArray(options.tabWidth, ' ') : QByteArray("\t");
+        indent += indentLevel(options);
     return indent;
 }
 

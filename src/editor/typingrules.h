@@ -7,11 +7,16 @@
 #include <QByteArray>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 class QKeyEvent;
 
 namespace zephira {
+
+/// What follows a line that is broken: one that is indented like it, or one level more; or one that is indented one level
+/// more and another one like it, with the caret in the first.
+enum class LineBreak { Plain, Deeper, Between };
 
 /// Handling of keys that run no command, in addition to the editor engine's: overtyping, the indentation of new lines,
 /// and moving and deleting by graphemes.
@@ -21,6 +26,10 @@ public:
     explicit TypingRules(SciEngine engine) : m_engine(engine) {}
 
     void setOptions(const EditorOptions &options) { m_options = options; }
+
+    /// Tells how to break a line where the bytes from start up to end go away; each is a plain break without it. Asked only
+    /// while new lines are indented.
+    void setLineBreaks(std::function<LineBreak(qsizetype start, qsizetype end)> at) { m_lineBreakAt = std::move(at); }
 
     /// Whether typed characters replace the ones under the caret.
     bool overtype() const { return m_overtype; }
@@ -57,11 +66,19 @@ private:
     bool hasSeveral() const;
     bool eraseCharacters(bool backward) const;
     void breakLine(const std::function<void()> &engineTypes) const;
-    void breakLines() const;
+    struct Break {
+        qsizetype start = 0;
+        qsizetype end = 0;
+        LineBreak kind = LineBreak::Plain;
+    };
+
+    std::vector<Break> breaks() const;
+    void breakLines(const std::vector<Break> &breaks) const;
     void indentNewLine() const;
 
     SciEngine m_engine;
     EditorOptions m_options;
+    std::function<LineBreak(qsizetype, qsizetype)> m_lineBreakAt;
     bool m_overtype = false;
 };
 

@@ -100,6 +100,8 @@ private Q_SLOTS:
         QTest::newRow("searches") << UserSetting::SearchHistory << u"zephira/Search/Searches"_s;
         QTest::newRow("replacements") << UserSetting::ReplacementHistory << u"zephira/Search/Replacements"_s;
         QTest::newRow("completion") << UserSetting::CompleteWhileTyping << u"zephira/Text/CompleteWhileTyping"_s;
+        QTest::newRow("closers") << UserSetting::AutoClose << u"zephira/Text/AutoClose"_s;
+        QTest::newRow("swatches") << UserSetting::ColourSwatches << u"zephira/Text/ColorSwatches"_s;
     }
 
     void userValues()

@@ -9,6 +9,7 @@
 #include "editor/idlecolouring.h"
 #include "syntax/syntaxengine.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace zephira {
@@ -71,6 +72,39 @@ bool hasTags(const CodeMax &rt)
 {
     return rt.language().compare(u"HTML", Qt::CaseInsensitive) == 0
         || rt.language().compare(u"XML", Qt::CaseInsensitive) == 0;
+}
+
+MarkupRules markupRules(const CodeMax &rt)
+{
+    return rt.language().compare(u"XML", Qt::CaseInsensitive) == 0 ? MarkupRules::Xml : MarkupRules::Html;
+}
+
+/// What follows a comment at once counts as part of it.
+bool isTagPlace(CodeMax &rt, qsizetype position)
+{
+    const auto place = placeAt(rt, position);
+    if (!place || place->language != CodePlace::Language::Markup || place->inServerBlock)
+        return false;
+    const SciEngine &engine = rt.engine();
+    return place->part == CodePlace::Part::Content
+        || (place->part == CodePlace::Part::Comment
+            && engine.bytes(std::max<qsizetype>(0, position - 3), position) == "-->");
+}
+
+std::optional<StartTag> startTagEndingAt(CodeMax &rt, qsizetype position)
+{
+    const auto place = placeAt(rt, position);
+    const bool isInside = !place || place->inServerBlock || place->part == CodePlace::Part::Comment
+        || place->part == CodePlace::Part::String;
+    if (isInside || (place->language == CodePlace::Language::Markup && place->part != CodePlace::Part::Content))
+        return {};
+    const SciEngine &engine = rt.engine();
+    const qsizetype from = std::max<qsizetype>(0, position - pairReach);
+    const QByteArray text = engine.bytes(from, position).toByteArray();
+    auto tag = startTagBefore(text, markupRules(rt), [&](qsizetype offset) { return isTagPlace(rt, from + offset); });
+    if (tag)
+        tag->begin += from;
+    return tag;
 }
 
 CommentMarks commentMarksAt(CodeMax &rt, const AppContext &context, const CodePlace &place)

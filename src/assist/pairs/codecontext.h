@@ -2,6 +2,7 @@
 #pragma once
 
 #include "assist/pairs/commenttext.h"
+#include "assist/pairs/pairtext.h"
 #include "syntax/codeplace.h"
 
 namespace zephira {
@@ -17,6 +18,13 @@ CodePlace surePlaceAt(CodeMax &rt, qsizetype position);
 
 /// Whether the text has tags: HTML or XML.
 bool hasTags(const CodeMax &rt);
+/// How the tags of such a text are read.
+MarkupRules markupRules(const CodeMax &rt);
+/// Whether a tag can begin at a byte position.
+bool isTagPlace(CodeMax &rt, qsizetype position);
+/// The start tag that ends at a byte position, with the position at which it begins; nothing if it is longer than
+/// pairReach, or has no content.
+std::optional<StartTag> startTagEndingAt(CodeMax &rt, qsizetype position);
 
 /// How comments are written at a place; both empty if there are none.
 CommentMarks commentMarksAt(CodeMax &rt, const AppContext &context, const CodePlace &place);

@@ -15,12 +15,11 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr auto everything = std::numeric_limits<qsizetype>::max();
+/// How many bytes are read for a key, and at a time when none waits.
+constexpr qsizetype portionOfKey = pairReach;
+constexpr qsizetype portion = 500'000;
 
-MarkupRules rulesOf(const CodeMax &rt)
-{
-    return rt.language().compare(u"XML", Qt::CaseInsensitive) == 0 ? MarkupRules::Xml : MarkupRules::Html;
-}
+constexpr auto everything = std::numeric_limits<qsizetype>::max();
 
 constexpr bool isBlank(char c)
 {
@@ -29,7 +28,7 @@ constexpr bool isBlank(char c)
 
 } // namespace
 
-Elements::Elements(CodeMax &rt) : m_rt(rt), m_reader(rulesOf(rt))
+Elements::Elements(CodeMax &rt) : m_rt(rt), m_reader(markupRules(rt))
 {
     connect(&rt, &QsciScintillaBase::SCN_MODIFIED, this, [this](int position, int type) {
         if (type & (Sci::SC_MOD_BEFOREINSERT | Sci::SC_MOD_BEFOREDELETE))
@@ -40,12 +39,14 @@ Elements::Elements(CodeMax &rt) : m_rt(rt), m_reader(rulesOf(rt))
         if (std::exchange(path, m_rt.path()) != m_rt.path() || !m_rt.canUndo())
             m_reader.changedFrom(0);
     });
+    m_reading.setSingleShot(true);
+    connect(&m_reading, &QTimer::timeout, this, &Elements::readOn);
 }
 
 void Elements::takeLanguage()
 {
-    if (m_reader.rules() != rulesOf(m_rt))
-        m_reader = OpenElements(rulesOf(m_rt));
+    if (m_reader.rules() != markupRules(m_rt))
+        m_reader = OpenElements(markupRules(m_rt));
 }
 
 std::vector<ElementTag> Elements::around(qsizetype position)
@@ -54,6 +55,35 @@ std::vector<ElementTag> Elements::around(qsizetype position)
     if (!hasTags(m_rt))
         return {};
     return m_reader.around(m_rt.utf8Pieces(), position, everything).value_or(std::vector<ElementTag>());
+}
+
+MarkupRules Elements::rules()
+{
+    takeLanguage();
+    return m_reader.rules();
+}
+
+std::optional<std::vector<ElementTag>> Elements::soon(qsizetype position)
+{
+    takeLanguage();
+    if (!hasTags(m_rt))
+        return std::vector<ElementTag>();
+    auto elements = m_reader.around(m_rt.utf8Pieces(), position, portionOfKey);
+    if (!elements) {
+        m_wanted = position;
+        m_reading.start(1);
+    }
+    return elements;
+}
+
+void Elements::readOn()
+{
+    takeLanguage();
+    const qsizetype wanted = std::min(m_wanted, m_rt.engine().length());
+    if (!hasTags(m_rt) || m_reader.around(m_rt.utf8Pieces(), wanted, portion))
+        Q_EMIT ready();
+    else
+        m_reading.start(1);
 }
 
 qsizetype Elements::endOf(const ElementTag &element)
