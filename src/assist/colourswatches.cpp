@@ -24,7 +24,8 @@ constexpr int reach = 1;
 
 } // namespace
 
-ColourSwatches::ColourSwatches(CodeMax &rt, const AppContext &context) : QObject(&rt)
+ColourSwatches::ColourSwatches(CodeMax &rt, const AppContext &context)
+    : QObject(&rt)
     , m_rt(rt)
     , m_context(context)
     , m_isOn(wholeNumber(context.settings, UserSetting::ColourSwatches) != 0)

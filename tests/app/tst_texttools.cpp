@@ -73,6 +73,51 @@ private Q_SLOTS:
         QCOMPARE(rt.text(), u"one\r\ntwo\r\nOne"_s);
     }
 
+    /// End tags, indentation and pairs with real keys, and the entry that closes pairs.
+    void pairsWhileTyping()
+    {
+        WindowBench bench;
+        CodeMax &rt = begin(bench, {});
+        bench.window->context().document.setLanguageRow(language::Html);
+        QTest::keyClicks(&rt, u"<div>"_s);
+        QTest::keyClick(&rt, Qt::Key_Return);
+        QTest::keyClicks(&rt, u"<b>x</ y"_s);
+        QTest::keyClick(&rt, Qt::Key_Return);
+        QTest::keyClicks(&rt, u"</"_s);
+        QCOMPARE(rt.text(), u"<div>\r\n\t<b>x</b> y\r\n</div>"_s);
+        press(bench, u"Ctrl+Z"_s);
+        QCOMPARE(rt.text(), u"<div>\r\n\t<b>x</b> y\r\n\t</"_s);
+        QTest::keyClicks(&rt, u"div>"_s);
+        QCOMPARE(rt.text(), u"<div>\r\n\t<b>x</b> y\r\n</div>"_s);
+        rt.select({1, 1, 1, 5});
+        QTest::keyClicks(&rt, u"(\""_s);
+        QCOMPARE(rt.text(), u"<div>\r\n\t(\"<b>x\")</b> y\r\n</div>"_s);
+        QCOMPARE(rt.selText(), u"<b>x"_s);
+
+        auto *entry = bench.window->findChild<QAction *>(u"textAutoClose"_s);
+        QVERIFY(entry && entry->isCheckable() && !entry->isChecked());
+        rt.setText({});
+        QTest::keyClicks(&rt, u"<p>"_s);
+        QCOMPARE(rt.text(), u"<p>"_s);
+        entry->trigger();
+        QVERIFY(entry->isChecked());
+        QCOMPARE(bench.settings.GetSetting(UserSetting::AutoClose), u"1"_s);
+        rt.setText({});
+        QTest::keyClicks(&rt, u"<p class=\"a\">x</p>"_s);
+        QCOMPARE(rt.text(), u"<p class=\"a\">x</p>"_s);
+    }
+
+    void squaresOfColors()
+    {
+        WindowBench bench;
+        begin(bench, u"color: #ff8800"_s);
+        auto *entry = bench.window->findChild<QAction *>(u"textSwatches"_s);
+        QVERIFY(entry && entry->isCheckable() && entry->isChecked());
+        entry->trigger();
+        QVERIFY(!entry->isChecked());
+        QCOMPARE(bench.settings.GetSetting(UserSetting::ColourSwatches), u"0"_s);
+    }
+
     /// Nothing that the window does while one types ends the step.
     void undoGoesByWords()
     {

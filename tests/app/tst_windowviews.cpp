@@ -275,6 +275,38 @@ private Q_SLOTS:
         QCOMPARE(bench.page(), bench.find<QWidget>(u"rt"_s));
     }
 
+    /// Whoever comes back from the preview goes on where the caret was.
+    void thePlaceInTheTextIsKept()
+    {
+        ViewBench bench;
+        bench.window->resize(800, 600);
+        bench.window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(bench.window.get()));
+        CodeMax &rt = bench.window->rt();
+        rt.setText(QString(u"<p>some words of a line</p>\r\n"_s).repeated(400));
+        rt.select({205, 8, 203, 3});
+        rt.engine().send(QsciScintillaBase::SCI_SETFIRSTVISIBLELINE, 190);
+        const auto first = [&] { return rt.engine().send(QsciScintillaBase::SCI_GETFIRSTVISIBLELINE); };
+        const qsizetype firstLine = first();
+        QCOMPARE(firstLine, qsizetype{190});
+        for (const QKeyCombination &way : {QKeyCombination(Qt::Key_Right), QKeyCombination(Qt::Key_Left)}) {
+            bench.tabs().setFocus();
+            QTest::keyClick(&bench.tabs(), way.key());
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(bench.page(), bench.find<QWidget>(u"rt"_s));
+        const CodeMaxRange range = rt.selection(false);
+        QCOMPARE(QList<int>({range.StartLineNo, range.StartColNo, range.EndLineNo, range.EndColNo}),
+                 (QList<int>{205, 8, 203, 3}));
+        QCOMPARE(first(), firstLine);
+        // The mouse does the same.
+        for (const int tab : {1, 0})
+            QTest::mouseClick(&bench.tabs(), Qt::LeftButton, {}, bench.tabs().tabRect(tab).center());
+        QCoreApplication::processEvents();
+        QCOMPARE(rt.selection(false).EndLineNo, 203);
+        QCOMPARE(first(), firstLine);
+    }
+
     void thePreviewIsNoSave()
     {
         ViewBench bench;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/assistfixture.h"
 #include "assist/colourswatches.h"
+#include "core/usersettings.h"
 #include "support/testregistry.h"
 #include "widgets/qtvalues.h"
 
@@ -54,6 +55,20 @@ private Q_SLOTS:
         QCOMPARE(bench.pixel(bench.swatches().front().box.center()).rgb(), QColor(0, 255, 0).rgb());
         bench.editor.setText(u"plain"_s);
         QVERIFY(bench.swatches().empty());
+    }
+
+    void areSwitchedOff()
+    {
+        SwatchBench bench(u"color: #ff8800"_s);
+        const QPoint at = bench.swatches().front().box.center();
+        QCOMPARE(isSwitchedOn(bench.helpers, TextCommand::ShowSwatches), std::optional(true));
+        bench.run(TextCommand::ShowSwatches);
+        QCOMPARE(isSwitchedOn(bench.helpers, TextCommand::ShowSwatches), std::optional(false));
+        QCOMPARE(bench.world.settings.GetSetting(UserSetting::ColourSwatches), u"0"_s);
+        QVERIFY(bench.swatches().empty());
+        QVERIFY(bench.pixel(at).rgb() != QColor(0xff, 0x88, 0).rgb());
+        bench.run(TextCommand::ShowSwatches);
+        QCOMPARE(bench.pixel(at).rgb(), QColor(0xff, 0x88, 0).rgb());
     }
 
     void onlyWhatIsSeen()

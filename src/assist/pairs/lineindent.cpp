@@ -138,8 +138,10 @@ void alignTypedEnds(CodeMax &rt, Elements &elements, char typed)
             !isTag || (ender < each.caret && rt.engine().bytes(ender, each.caret).lastIndexOf('<') == 0);
         if (opener < 0 || !isFirst)
             continue;
+        // What was typed is replaced too, so that the caret is behind it again when that is undone.
         if (const auto indent = alignedWith(rt, ender, opener))
-            edits.replace(rt.engine(), indent->start, indent->end, indent->text);
+            edits.replace(rt.engine(), indent->start, each.caret,
+                          indent->text + rt.engine().bytes(indent->end, each.caret).toByteArray());
     }
     if (edits.isEmpty())
         return;

@@ -300,14 +300,17 @@ private Q_SLOTS:
         QTest::newRow("end tag is there") << u"HTML"_s << u"<b|</b>"_s << u">"_s << u"<b>|</b>"_s;
         QTest::newRow("tag before a word") << u"HTML"_s << u"<b|x"_s << u">"_s << u"<b>|x"_s;
         QTest::newRow("sign") << u"HTML"_s << u"a |"_s << u"> b"_s << u"a > b|"_s;
-        QTest::newRow("comparison in a script") << u"HTML"_s << u"<script>a|</script>"_s << u"<b>"_s << u"<script>a<b>|</script>"_s;
+        QTest::newRow("comparison in a script")
+            << u"HTML"_s << u"<script>a|</script>"_s << u"<b>"_s << u"<script>a<b>|</script>"_s;
         QTest::newRow("in a value") << u"HTML"_s << u"<a title=\"|\">"_s << u"<b>"_s << u"<a title=\"<b>|\">"_s;
         QTest::newRow("in a comment of HTML") << u"HTML"_s << u"<!-- | -->"_s << u"<b>"_s << u"<!-- <b>| -->"_s;
         QTest::newRow("value") << u"HTML"_s << u"<a href|>"_s << u"=\"x\""_s << u"<a href=\"x\"|>"_s;
         QTest::newRow("quotes in text") << u"HTML"_s << u"<p>|"_s << u"\""_s << u"<p>\"|"_s;
         QTest::newRow("tag pair erased") << u"HTML"_s << u"|"_s << u"<b>\b"_s << u"<b|"_s;
-        QTest::newRow("braces of a style sheet") << u"HTML"_s << u"<style>a |</style>"_s << u"{"_s << u"<style>a {|}</style>"_s;
-        QTest::newRow("comment of VBScript") << u"HTML"_s << u"<% @language=\"VBScript\" %><% a |%>"_s << u"'"_s << u"<% @language=\"VBScript\" %><% a '|%>"_s;
+        QTest::newRow("braces of a style sheet")
+            << u"HTML"_s << u"<style>a |</style>"_s << u"{"_s << u"<style>a {|}</style>"_s;
+        QTest::newRow("comment of VBScript") << u"HTML"_s << u"<% @language=\"VBScript\" %><% a |%>"_s << u"'"_s
+                                             << u"<% @language=\"VBScript\" %><% a '|%>"_s;
         QTest::newRow("lines between tags") << u"HTML"_s << u"|"_s << u"<div>\nx"_s << u"<div>\r\n\tx|\r\n</div>"_s;
         QTest::newRow("lines between braces") << u"C/C++"_s << u"  |"_s << u"f {\nx"_s << u"  f {\r\n  \tx|\r\n  }"_s;
         // clang-format on
@@ -355,8 +358,10 @@ private Q_SLOTS:
         // clang-format off: a row a line
         QTest::newRow("behind a tag") << u"HTML"_s << u"<div>|"_s << u"\n"_s << u"<div>\r\n\t|"_s;
         QTest::newRow("further in") << u"HTML"_s << u"  <div>|x"_s << u"\n"_s << u"  <div>\r\n  \t|x"_s;
-        QTest::newRow("between tags") << u"HTML"_s << u"\t<div>|</div>x"_s << u"\n"_s << u"\t<div>\r\n\t\t|\r\n\t</div>x"_s;
-        QTest::newRow("tag in two lines") << u"HTML"_s << u"<div\r\n id=a>|"_s << u"\n"_s << u"<div\r\n id=a>\r\n \t|"_s;
+        QTest::newRow("between tags") << u"HTML"_s << u"\t<div>|</div>x"_s << u"\n"_s
+                                      << u"\t<div>\r\n\t\t|\r\n\t</div>x"_s;
+        QTest::newRow("tag in two lines")
+            << u"HTML"_s << u"<div\r\n id=a>|"_s << u"\n"_s << u"<div\r\n id=a>\r\n \t|"_s;
         QTest::newRow("behind blanks") << u"HTML"_s << u"<div> |"_s << u"\n"_s << u"<div> \r\n\t|"_s;
         QTest::newRow("end tag") << u"HTML"_s << u"<b></b>|"_s << u"\n"_s << u"<b></b>\r\n|"_s;
         QTest::newRow("void element") << u"HTML"_s << u" <br>|"_s << u"\n"_s << u" <br>\r\n |"_s;
@@ -365,27 +370,39 @@ private Q_SLOTS:
         QTest::newRow("text") << u"HTML"_s << u"\tx|y"_s << u"\n"_s << u"\tx\r\n\t|y"_s;
         QTest::newRow("comment") << u"HTML"_s << u"<!-- <b>|"_s << u"\n"_s << u"<!-- <b>\r\n|"_s;
         QTest::newRow("value") << u"HTML"_s << u"<a title=\"<b>|\">"_s << u"\n"_s << u"<a title=\"<b>\r\n|\">"_s;
-        QTest::newRow("comparison") << u"HTML"_s << u"<script>a<b>|</script>"_s << u"\n"_s << u"<script>a<b>\r\n|</script>"_s;
+        QTest::newRow("comparison") << u"HTML"_s << u"<script>a<b>|</script>"_s << u"\n"_s
+                                    << u"<script>a<b>\r\n|</script>"_s;
         QTest::newRow("script") << u"HTML"_s << u"<script>|</script>"_s << u"\n"_s << u"<script>\r\n\t|\r\n</script>"_s;
         QTest::newRow("brace") << u"HTML"_s << u"<style>a {|"_s << u"\n"_s << u"<style>a {\r\n\t|"_s;
         QTest::newRow("between braces") << u"C/C++"_s << u" if {|}"_s << u"\n"_s << u" if {\r\n \t|\r\n }"_s;
         QTest::newRow("brace in a comment") << u"C/C++"_s << u"/* {|}"_s << u"\n"_s << u"/* {\r\n\t|}"_s;
-        QTest::newRow("two carets") << u"HTML"_s << u"<i>|</i>\r\n<b>|</b>\r\nx|"_s << u"\n"_s << u"<i>\r\n\t|\r\n</i>\r\n<b>\r\n\t|\r\n</b>\r\nx\r\n|"_s;
+        QTest::newRow("two carets") << u"HTML"_s << u"<i>|</i>\r\n<b>|</b>\r\nx|"_s << u"\n"_s
+                                    << u"<i>\r\n\t|\r\n</i>\r\n<b>\r\n\t|\r\n</b>\r\nx\r\n|"_s;
         QTest::newRow("selected content") << u"HTML"_s << u"<i>«x»</i>"_s << u"\n"_s << u"<i>\r\n\t|\r\n</i>"_s;
-        QTest::newRow("brace typed") << u"C/C++"_s << u" if {\r\n\t\tx\r\n\t\t|"_s << u"}"_s << u" if {\r\n\t\tx\r\n }|"_s;
-        QTest::newRow("nested braces") << u"C/C++"_s << u"a {\r\n b { }\r\n  {\r\n  }\r\n   |"_s << u"}"_s << u"a {\r\n b { }\r\n  {\r\n  }\r\n}|"_s;
-        QTest::newRow("braces in strings") << u"C/C++"_s << u" a {\r\n\"}{{\"; // }\r\n   |"_s << u"}"_s << u" a {\r\n\"}{{\"; // }\r\n }|"_s;
+        QTest::newRow("brace typed") << u"C/C++"_s << u" if {\r\n\t\tx\r\n\t\t|"_s << u"}"_s
+                                     << u" if {\r\n\t\tx\r\n }|"_s;
+        QTest::newRow("nested braces") << u"C/C++"_s << u"a {\r\n b { }\r\n  {\r\n  }\r\n   |"_s << u"}"_s
+                                       << u"a {\r\n b { }\r\n  {\r\n  }\r\n}|"_s;
+        QTest::newRow("braces in strings")
+            << u"C/C++"_s << u" a {\r\n\"}{{\"; // }\r\n   |"_s << u"}"_s << u" a {\r\n\"}{{\"; // }\r\n }|"_s;
         QTest::newRow("brace behind text") << u"C/C++"_s << u"a {\r\n  x |"_s << u"}"_s << u"a {\r\n  x }|"_s;
         QTest::newRow("brace of no other") << u"C/C++"_s << u"a\r\n  |"_s << u"}"_s << u"a\r\n  }|"_s;
-        QTest::newRow("brace in a comment typed") << u"C/C++"_s << u"a {\r\n  /*\r\n  |"_s << u"}"_s << u"a {\r\n  /*\r\n  }|"_s;
+        QTest::newRow("brace in a comment typed")
+            << u"C/C++"_s << u"a {\r\n  /*\r\n  |"_s << u"}"_s << u"a {\r\n  /*\r\n  }|"_s;
         QTest::newRow("brace in the text of a page") << u"HTML"_s << u"a {\r\n  |"_s << u"}"_s << u"a {\r\n  }|"_s;
-        QTest::newRow("brace of a style sheet") << u"HTML"_s << u" <style>\r\n  a {\r\n   b\r\n   |"_s << u"}"_s << u" <style>\r\n  a {\r\n   b\r\n  }|"_s;
-        QTest::newRow("end tag typed") << u"HTML"_s << u" <div>\r\n\tx\r\n\t|"_s << u"</"_s << u" <div>\r\n\tx\r\n </div>|"_s;
-        QTest::newRow("end tag in full") << u"HTML"_s << u" <div>\r\n\tx\r\n\t|"_s << u"</div>"_s << u" <div>\r\n\tx\r\n </div>|"_s;
-        QTest::newRow("end tag of an outer one") << u"HTML"_s << u" <ul>\r\n\t<li>\r\n\t|"_s << u"</ul>"_s << u" <ul>\r\n\t<li>\r\n </ul>|"_s;
-        QTest::newRow("end tag behind text") << u"HTML"_s << u" <div>\r\n\tx|"_s << u"</"_s << u" <div>\r\n\tx</div>|"_s;
+        QTest::newRow("brace of a style sheet")
+            << u"HTML"_s << u" <style>\r\n  a {\r\n   b\r\n   |"_s << u"}"_s << u" <style>\r\n  a {\r\n   b\r\n  }|"_s;
+        QTest::newRow("end tag typed") << u"HTML"_s << u" <div>\r\n\tx\r\n\t|"_s << u"</"_s
+                                       << u" <div>\r\n\tx\r\n </div>|"_s;
+        QTest::newRow("end tag in full") << u"HTML"_s << u" <div>\r\n\tx\r\n\t|"_s << u"</div>"_s
+                                         << u" <div>\r\n\tx\r\n </div>|"_s;
+        QTest::newRow("end tag of an outer one")
+            << u"HTML"_s << u" <ul>\r\n\t<li>\r\n\t|"_s << u"</ul>"_s << u" <ul>\r\n\t<li>\r\n </ul>|"_s;
+        QTest::newRow("end tag behind text")
+            << u"HTML"_s << u" <div>\r\n\tx|"_s << u"</"_s << u" <div>\r\n\tx</div>|"_s;
         QTest::newRow("end tag further in") << u"HTML"_s << u"\t<p>\r\n|"_s << u"</"_s << u"\t<p>\r\n\t</p>|"_s;
-        QTest::newRow("end tags at two carets") << u"HTML"_s << u" <b>\r\n\t|\r\n <i>\r\n\t|"_s << u"</"_s << u" <b>\r\n </b>|\r\n <i>\r\n </i>|"_s;
+        QTest::newRow("end tags at two carets")
+            << u"HTML"_s << u" <b>\r\n\t|\r\n <i>\r\n\t|"_s << u"</"_s << u" <b>\r\n </b>|\r\n <i>\r\n </i>|"_s;
         // clang-format on
     }
 
