@@ -70,6 +70,12 @@ void DocumentSurface::showTemplateChooser()
     m_parts.forms.openModal(u"frmselprj"_s);
 }
 
+void DocumentSurface::fileUsed(const QString &path)
+{
+    if (m_parts.fileUsed)
+        m_parts.fileUsed(path);
+}
+
 QString DocumentSurface::listedFile() const
 {
     return m_parts.files.selectedFile();

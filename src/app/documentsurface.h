@@ -3,6 +3,8 @@
 
 #include "document/documentwindow.h"
 
+#include <functional>
+
 class QWidget;
 
 namespace zephira {
@@ -24,6 +26,7 @@ public:
         FilePane &files;
         FileStore &store;
         ModalFormOpener &forms;
+        std::function<void(const QString &path)> fileUsed;
     };
 
     explicit DocumentSurface(const Parts &parts) : m_parts(parts) {}
@@ -41,6 +44,7 @@ public:
     void documentSettled() override;
     void keepUnsavedText() override;
     void showTemplateChooser() override;
+    void fileUsed(const QString &path) override;
     QString listedFile() const override;
     QString listedFolder() const override;
     void selectListedFile(const QString &path) override;

@@ -139,7 +139,7 @@ void frmmain::buildDocument()
                    *m_forms, *m_keys, m_services.appPath});
     m_forms->setContext(*m_context);
     m_surface = std::make_unique<DocumentSurface>(
-        DocumentSurface::Parts{*this, *m_panels, *m_filePane, m_services.files, *m_forms});
+        DocumentSurface::Parts{*this, *m_panels, *m_filePane, m_services.files, *m_forms, m_services.fileUsed});
     m_document = std::make_unique<Document>(*m_context, m_commonDialog, *m_surface);
     m_documentControls->attach(*m_document);
     m_recoveryKeeper = std::make_unique<RecoveryKeeper>(m_services.recovery, *m_rt, m_designer, *m_document);

@@ -19,6 +19,7 @@
 #include "desktop/desktopprompts.h"
 #include "desktop/desktopshell.h"
 #include "desktop/module.h"
+#include "desktop/recentfiles.h"
 #include "editor/codemax.h"
 #include "files/appfolder.h"
 #include "files/desktopusersettings.h"
@@ -132,6 +133,11 @@ int runProgram(QApplication &application, const QString &argument)
 
     const auto spelling = std::make_shared<SpellCheck>(Lexicon::Parts{
         .files = files,
+    RecentFiles recentFiles(files,
+                            {.dataHome = dataHome(),
+                             .configHome = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                             .executable = QCoreApplication::applicationFilePath()});
+
         .settings = userSettings,
         .loadSpeller = [] { return loadModuleAs<Speller>(modulePath(u"zephiraspell.so"_s)); },
         .findDictionaries = [] { return dictionariesIn(dictionaryFolders()); },
@@ -188,6 +194,7 @@ int runProgram(QApplication &application, const QString &argument)
                         },
                     .hiddenParts = HiddenParts::AfterPicture,
                     .text = {.loadAbbreviations = loadAbbreviations, .loadTidy = loadTidy}});
+                    .fileUsed = [&recentFiles](const QString &path) { recentFiles.note(path); },
     const EndSignals endSignals;
     QObject::connect(&endSignals, &EndSignals::received, &window, [&window] { window.windowEnd().endNow(); });
     const SessionEnd sessionEnd(application, window.windowEnd());

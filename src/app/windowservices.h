@@ -46,6 +46,8 @@ struct WindowServices {
     QString executable;
     /// Ends the process at once, without asking anything.
     std::function<void()> endProcess;
+    /// Is told of each file that was opened or saved under a name.
+    std::function<void(const QString &path)> fileUsed = {};
     HiddenParts hiddenParts = HiddenParts::AtOnce;
     /// What the helpers of the code view load. The window itself shows their notices.
     TextServices text = {};

@@ -147,6 +147,7 @@ void Document::adopt(const QString &path)
     m_window.setCaption(u"Zephira - ["_s + path + u']');
     m_window.setPathPanel(path);
     m_window.documentSettled();
+    m_window.fileUsed(path);
 }
 
 /// Reads the file into the editing control. A failure only shows a notice, or a message box if the file is too large,

@@ -29,6 +29,8 @@ public:
     /// The text could not be saved and is about to be replaced: keeps it as a permanent recovery copy.
     virtual void keepUnsavedText() = 0;
     virtual void showTemplateChooser() = 0;
+    /// The document has this file now, which was opened or written.
+    virtual void fileUsed(const QString &path) = 0;
 
     /// The file pane: the text of the selected item, or empty; and the listed folder.
     virtual QString listedFile() const = 0;

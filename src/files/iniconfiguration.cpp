@@ -4,6 +4,7 @@
 #include "files/diskfilestore.h"
 #include "files/fileerror.h"
 #include "files/filesystemcalls.h"
+#include "files/folderlock.h"
 #include "files/textfile.h"
 #include "files/writetarget.h"
 
@@ -11,12 +12,8 @@
 #include <QFileInfo>
 
 #include <array>
-#include <cerrno>
 #include <chrono>
 #include <vector>
-
-#include <fcntl.h>
-#include <sys/file.h>
 
 using namespace Qt::StringLiterals;
 
@@ -25,37 +22,6 @@ namespace zephira {
 namespace {
 
 constexpr qsizetype longestValue = 999;
-
-/// Makes other processes that write a profile in the same folder wait. The lock is on the folder itself, so that no
-/// lock file is left next to the profile, and it is released when the process that holds it ends.
-class FolderLock
-{
-public:
-    explicit FolderLock(const QByteArray &folder) : m_file(m_calls.open(folder.constData(), O_RDONLY | O_DIRECTORY))
-    {
-        int result = -1;
-        while (m_file >= 0 && (result = flock(m_file, LOCK_EX)) != 0 && errno == EINTR) {}
-        // A file system without locks still allows writing; then the last writer wins.
-        const bool withoutLocks = m_file >= 0 && (errno == ENOLCK || errno == ENOTSUP || errno == EBADF);
-        m_error = result == 0 || withoutLocks ? 0 : errno;
-    }
-    ~FolderLock()
-    {
-        if (m_file >= 0)
-            m_calls.close(m_file);
-    }
-    FolderLock(const FolderLock &) = delete;
-    FolderLock &operator=(const FolderLock &) = delete;
-
-    bool isHeld() const { return m_error == 0; }
-    /// Why the folder isn't locked, as errno.
-    int error() const { return m_error; }
-
-private:
-    FileSystemCalls m_calls;
-    int m_file;
-    int m_error = 0;
-};
 
 /// A profile as UTF-8. UTF-16 is converted; everything else stays as it is, including a byte order mark and invalid
 /// bytes.

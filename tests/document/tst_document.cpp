@@ -50,6 +50,8 @@ struct FakeWindow final : DocumentWindow {
     void documentSettled() override { ++settled; }
     void keepUnsavedText() override { ++kept; }
     void showTemplateChooser() override { ++choosers; }
+    QStringList used;
+    void fileUsed(const QString &path) override { used.append(path); }
     QString listedFile() const override { return file; }
     QString listedFolder() const override { return folder; }
     void selectListedFile(const QString &path) override { selected.append(path); }
@@ -118,6 +120,7 @@ private Q_SLOTS:
         bench.document.doNew();
         QVERIFY(!bench.document.docModified());
         QVERIFY(!bench.document.docHasFile());
+        QCOMPARE(bench.window.used, QStringList{u"/site/page.html"_s});
         QCOMPARE(bench.document.docTitle(), u"New Document"_s);
         QCOMPARE(bench.document.docPath(), QString());
         QCOMPARE(bench.fakes.editor.text(), QString());
@@ -242,6 +245,7 @@ private Q_SLOTS:
 
         bench.fakes.editor.setText(u"more"_s);
         bench.document.save();
+        QCOMPARE(bench.window.used, QStringList{u"/new.css"_s});
         QCOMPARE(bench.fakes.files.contents[u"/new.css"_s], QByteArray("more"));
         QCOMPARE(bench.window.settled, 2);
         QVERIFY(!bench.document.docModified());
@@ -272,6 +276,7 @@ private Q_SLOTS:
         QVERIFY(bench.fakes.prompts.verify());
         QCOMPARE(bench.document.docPath(), u"/a.txt"_s);
         QCOMPARE(bench.dialog.fileName(), u"/a.txt"_s);
+        QCOMPARE(bench.window.used, QStringList{u"/a.txt"_s});
         QCOMPARE(bench.fakes.document.row, 0);
         QVERIFY(bench.document.docModified());
         QCOMPARE(bench.window.notices, QStringList());

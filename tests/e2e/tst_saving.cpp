@@ -48,6 +48,9 @@ private Q_SLOTS:
         const QString caption = saved ? RunningProgram::captionOf(path) : untitled;
         QCOMPARE(program.waitForWindows({caption}), QStringList{caption});
         QCOMPARE(ProgramFolder::read(path), saved ? "new" : "old");
+        // The desktop lists what was saved under a name.
+        const QString recent = folder.home() + u"/.local/share/recently-used.xbel"_s;
+        QTRY_COMPARE_WITH_TIMEOUT(ProgramFolder::read(recent).contains(path.toUtf8() + '"'), saved, patience);
         program.close(caption);
         if (!saved)
             program.answer(modified, u"alt+n"_s);

@@ -172,6 +172,56 @@ private Q_SLOTS:
         QCOMPARE(opened.count(), 0);
     }
 
+    /// In the desktop's list of recent files, where other programs have entries too.
+    void anOpenedFileIsListedAsRecent()
+    {
+        ProgramFolder folder;
+        folder.setTips(false);
+        const QByteArray entry = "<bookmark href=\"file:///other.txt\" modified=\"2020-01-01T00:00:00Z\"/>";
+        const QString list = folder.write(u"home/.local/share/recently-used.xbel"_s, "<xbel>" + entry + "</xbel>");
+        const QString file = folder.write(u"my page.html"_s, "x");
+        RunningProgram program(folder, {file});
+        const QString title = RunningProgram::captionOf(file);
+        QCOMPARE(program.waitForWindows({title}), QStringList{title});
+        QTRY_VERIFY_WITH_TIMEOUT(ProgramFolder::read(list).contains("/my%20page.html\""), patience);
+        const QByteArray text = ProgramFolder::read(list);
+        QVERIFY2(text.startsWith("<xbel>" + entry), text.constData());
+        QVERIFY2(text.contains("<mime:mime-type type=\"text/html\"/>"), text.constData());
+        QVERIFY2(text.contains("name=\"Zephira\" exec=\"'" + folder.executable().toUtf8() + " %f'\""),
+                 text.constData());
+    }
+
+    /// Whoever opens a file and leaves at once finds it in the list as well.
+    void aShortVisitIsListedAsRecent()
+    {
+        ProgramFolder folder;
+        const QString file = folder.write(u"page.html"_s, "x");
+        RunningProgram program(folder, {file});
+        const QString title = RunningProgram::captionOf(file);
+        QVERIFY(program.waitForWindow(title));
+        program.close(title);
+        QCOMPARE(program.waitForEnd(), 0);
+        const QString list = folder.home() + u"/.local/share/recently-used.xbel"_s;
+        QVERIFY(ProgramFolder::read(list).contains("/page.html\""));
+        QCOMPARE(QFileInfo(list).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    }
+
+    /// A second start has a window of its own, whatever the first one shows.
+    void aSecondStartWithAFileOpensAWindow()
+    {
+        ProgramFolder folder;
+        const QString file = folder.write(u"page.html"_s, "x");
+        const QString title = RunningProgram::captionOf(file);
+        RunningProgram first(folder, {file});
+        QCOMPARE(first.waitForWindows({title}), QStringList{title});
+        const QString other = folder.write(u"other.html"_s, "y");
+        const QString otherTitle = RunningProgram::captionOf(other);
+        RunningProgram second(folder, {other});
+        QCOMPARE(second.waitForWindows({otherTitle}), QStringList{otherTitle});
+        QCOMPARE(first.windows(), QStringList{title});
+        QVERIFY(first.isRunning());
+    }
+
     void severalWordsAreOneName()
     {
         ProgramFolder folder;

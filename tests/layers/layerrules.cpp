@@ -36,7 +36,7 @@ constexpr FolderRow folderRows[] = {
     {u"widgets", u"core"},
     {u"editor", u"core files syntax widgets"},
     {u"web", u"core files"},
-    {u"desktop", u"core widgets"},
+    {u"desktop", u"core files widgets"},
     {u"tools", u"core files syntax"},
     {u"tags", u"core files widgets"},
     {u"panes", u"core files widgets"},
