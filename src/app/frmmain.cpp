@@ -39,6 +39,7 @@
 #include "document/recoverykeeper.h"
 #include "editor/codemax.h"
 #include "editor/editorappearance.h"
+#include "files/crashreports.h"
 #include "files/leftcopies.h"
 #include "files/recoverycopies.h"
 #include "handbook/helpkey.h"
@@ -267,25 +268,28 @@ void frmmain::buildCommands()
                                                             m_visualTools->tools(), *m_plugins, *m_textTools});
 }
 
-/// Offers unsaved texts of earlier runs in a bar above the text.
+/// Offers unsaved texts of earlier runs, and the reports of their crashes, in a bar above the text.
 void frmmain::offerLeftCopies()
 {
     connect(m_recoveryBar, &RecoveryBar::showWanted, this,
             [this](const LeftCopy &copy) { m_document->openRecovered(copy.path, copy.name); });
-    connect(m_recoveryBar, &RecoveryBar::keepWanted, this, [this](const LeftCopy &copy) {
-        if (const Result<void> kept = putAside(copy); kept || !m_services.files.signature(copy.path).exists)
-            m_recoveryBar->answered(copy);
+    connect(m_recoveryBar, &RecoveryBar::showReportWanted, this,
+            [this](const CrashReport &report) { openInCodeView(report.path); });
+    // What another window has dealt with meanwhile is answered, too.
+    const auto answered = [this](const auto &item, const Result<void> &done) {
+        if (done || !m_services.files.signature(item.path).exists)
+            m_recoveryBar->answered(item);
         else
-            tellError(m_services.prompts, kept.error());
-    });
-    connect(m_recoveryBar, &RecoveryBar::deleteWanted, this, [this](const LeftCopy &copy) {
-        if (const Result<void> removed = m_services.files.remove(copy.path);
-            removed || !m_services.files.signature(copy.path).exists)
-            m_recoveryBar->answered(copy);
-        else
-            tellError(m_services.prompts, removed.error());
-    });
-    m_recoveryBar->setCopies(leftCopies(m_services.recovery.folder()));
+            tellError(m_services.prompts, done.error());
+    };
+    const auto keep = [answered](const auto &item) { answered(item, putAside(item)); };
+    const auto remove = [this, answered](const auto &item) { answered(item, m_services.files.remove(item.path)); };
+    connect(m_recoveryBar, &RecoveryBar::keepWanted, this, keep);
+    connect(m_recoveryBar, &RecoveryBar::deleteWanted, this, remove);
+    connect(m_recoveryBar, &RecoveryBar::keepReportWanted, this, keep);
+    connect(m_recoveryBar, &RecoveryBar::deleteReportWanted, this, remove);
+    const QString folder = m_services.recovery.folder();
+    m_recoveryBar->setContents(leftCopies(folder), crashReports(folder));
 }
 
 void frmmain::connectEditor()

@@ -22,6 +22,7 @@
 #include "desktop/recentfiles.h"
 #include "editor/codemax.h"
 #include "files/appfolder.h"
+#include "files/crashreports.h"
 #include "files/desktopusersettings.h"
 #include "files/diskfilestore.h"
 #include "files/iniconfiguration.h"
@@ -116,6 +117,7 @@ int runProgram(QApplication &application, const QString &argument)
         return tellFailedStart(appPath.error().sentence);
 
     makeUserFolder();
+    CrashWatch crashWatch(recoveryFolder());
     const QString iniFile = appPath.value() + u"/zephira.ini"_s;
     SystemClock clock;
     RecoveryCopies recovery(recoveryFolder(), files, clock);
@@ -131,13 +133,13 @@ int runProgram(QApplication &application, const QString &argument)
                                 .executable = QCoreApplication::applicationFilePath(),
                                 .icon = appPath.value() + u"/zephira.ico"_s});
 
-    const auto spelling = std::make_shared<SpellCheck>(Lexicon::Parts{
-        .files = files,
     RecentFiles recentFiles(files,
                             {.dataHome = dataHome(),
                              .configHome = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
                              .executable = QCoreApplication::applicationFilePath()});
 
+    const auto spelling = std::make_shared<SpellCheck>(Lexicon::Parts{
+        .files = files,
         .settings = userSettings,
         .loadSpeller = [] { return loadModuleAs<Speller>(modulePath(u"zephiraspell.so"_s)); },
         .findDictionaries = [] { return dictionariesIn(dictionaryFolders()); },
@@ -192,9 +194,10 @@ int runProgram(QApplication &application, const QString &argument)
                             ended = true;
                             QCoreApplication::exit(EXIT_SUCCESS);
                         },
+                    .fileUsed = [&recentFiles](const QString &path) { recentFiles.note(path); },
                     .hiddenParts = HiddenParts::AfterPicture,
                     .text = {.loadAbbreviations = loadAbbreviations, .loadTidy = loadTidy}});
-                    .fileUsed = [&recentFiles](const QString &path) { recentFiles.note(path); },
+    window.late().add([&crashWatch] { crashWatch.prepareCallList(); });
     const EndSignals endSignals;
     QObject::connect(&endSignals, &EndSignals::received, &window, [&window] { window.windowEnd().endNow(); });
     const SessionEnd sessionEnd(application, window.windowEnd());

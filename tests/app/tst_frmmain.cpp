@@ -581,6 +581,49 @@ private Q_SLOTS:
                  QByteArray("lost notes"));
     }
 
+    void theReportOfACrashIsNamedAboveTheText()
+    {
+        WindowBench bench;
+        const QString copy = bench.write(u"recovery/open-20240229-120000-000-1-page.html"_s, "<p>lost</p>");
+        const QString first = bench.write(u"recovery/crash-20240229-120000-000-1.txt"_s, "first");
+        const QString second = bench.write(u"recovery/crash-20240301-120000-000-1.txt"_s, "second");
+        frmmain &window = bench.start();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto *bar = bench.find<RecoveryBar>(u"recoveryBar"_s);
+        QVERIFY(bar->isVisible());
+        QVERIFY(window.rt().hasFocus());
+        const auto text = [&](int line) { return bench.find<QLabel>(u"recoveryText_%1"_s.arg(line))->text(); };
+        QVERIFY(text(0).startsWith(u"page.html was not saved"));
+        QVERIFY2(text(1).endsWith(u"A report is in "_s + second + u'.'), qPrintable(text(1)));
+        QVERIFY2(text(2).endsWith(u"A report is in "_s + first + u'.'), qPrintable(text(2)));
+        QVERIFY(bench.find<QLabel>(u"recoveryText_1"_s)->toolTip().contains(u"sent nowhere"));
+        QCOMPARE(bench.find<QPushButton>(u"recoveryShow_1"_s)->accessibleName(),
+                 u"Show crash-20240301-120000-000-1.txt"_s);
+
+        bench.find<QPushButton>(u"recoveryShow_1"_s)->click();
+        QCOMPARE(window.rt().text(), u"second"_s);
+        QCOMPARE(window.docPath(), second);
+        QVERIFY(!window.docModified());
+        QCOMPARE(bar->reports().size(), 2);
+
+        bench.find<QPushButton>(u"recoveryKeep_1"_s)->click();
+        QVERIFY(!QFile::exists(second));
+        QCOMPARE(WindowBench::read(bench.folder() + u"/recovery/kept-crash-20240301-120000-000-1.txt"_s),
+                 QByteArray("second"));
+        QCOMPARE(bar->reports().size(), 1);
+        bench.find<QPushButton>(u"recoveryDelete_1"_s)->click();
+        QVERIFY(!QFile::exists(first));
+        QCOMPARE(bar->reports().size(), 0);
+        QVERIFY(bar->isVisible());
+        QVERIFY(QFile::exists(copy));
+
+        // Another window may have been faster.
+        QVERIFY(QFile::remove(copy));
+        bench.find<QPushButton>(u"recoveryKeep_0"_s)->click();
+        QVERIFY(!bar->isVisible());
+    }
+
     void theBarTellsOfManyOneAfterAnother()
     {
         WindowBench bench;

@@ -2,6 +2,7 @@
 #include "e2e/programfolder.h"
 #include "e2e/runningprogram.h"
 #include "e2e/titles.h"
+#include "files/crashreports.h"
 #include "support/diskfiles.h"
 #include "support/testregistry.h"
 
@@ -117,6 +118,55 @@ private Q_SLOTS:
         QCOMPARE(folder.recoveryCopies().size(), 1);
         QCOMPARE(ProgramFolder::read(folder.recoveryCopies().first()), "unsaved text");
         QCOMPARE(ProgramFolder::read(path), "text");
+    }
+
+    /// It names the program's calls, and holds nothing of the text.
+    void aCrashLeavesAReport_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("SIGSEGV") << SIGSEGV << QByteArray("SIGSEGV");
+        QTest::newRow("SIGABRT") << SIGABRT << QByteArray("SIGABRT");
+    }
+
+    void aCrashLeavesAReport()
+    {
+        QFETCH(int, signal);
+        QFETCH(QByteArray, name);
+        ProgramFolder folder;
+        const QString path = folder.write(u"secret page.txt"_s, "confidential");
+        const QString caption = RunningProgram::captionOf(path);
+        QString report;
+        {
+            RunningProgram program(folder, {path});
+            QVERIFY(program.waitForWindow(caption));
+            program.type(caption, u"unsaved"_s);
+            QVERIFY(program.waitUntilIdle());
+            QCOMPARE(::kill(static_cast<pid_t>(program.pid()), signal), 0);
+            QCOMPARE(program.waitForEnd(), -1);
+            const QStringList files = folder.recoveryCopies().filter(u"/crash-"_s);
+            QCOMPARE(files.size(), 1);
+            report = files.constFirst();
+        }
+        QCOMPARE(modeOf(report), mode_t(0600));
+        QCOMPARE(modeOf(QFileInfo(report).path()), mode_t(0700));
+        const QByteArray text = ProgramFolder::read(report);
+        QVERIFY2(text.startsWith("Zephira 2.1.0 crashed."), text.constData());
+        QVERIFY2(text.contains("\nSignal: " + name + '\n'), text.constData());
+        QVERIFY2(text.contains("libQt6Core"), text.constData());
+        for (const char *word : {"confidential", "unsaved", "secret"})
+            QVERIFY2(!text.contains(word), text.constData());
+        QCOMPARE(ProgramFolder::read(path), "confidential");
+
+        // The next start finds it, and asks nothing.
+        const QList<CrashReport> found = crashReports(QFileInfo(report).path());
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(found[0].path, report);
+        RunningProgram next(folder, {u"/nodialog"_s});
+        QCOMPARE(next.waitForWindows({untitled}), QStringList{untitled});
+        next.close(untitled);
+        QCOMPARE(next.waitForEnd(), 0);
+        QCOMPARE(ProgramFolder::read(report), text);
     }
 
     /// The copy of a killed process stays for the user to find: a later start leaves it alone and asks nothing.
