@@ -17,6 +17,7 @@
 #include "widgets/pickpopup.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
@@ -58,7 +59,9 @@ void CommandPalette::open()
     update();
     gather();
     PickPopup::of(m_parts.window)
-        .open({u"Commands"_s, u"Search for a command"_s, u"No command is called so"_s,
+        .open({QCoreApplication::translate("CommandPalette", "Commands"),
+               QCoreApplication::translate("CommandPalette", "Search for a command"),
+               QCoreApplication::translate("CommandPalette", "No command is called so"),
                [this](const QString &typed) { return search(typed); }, [this](int row) { choose(row); }});
 }
 
@@ -117,7 +120,13 @@ void CommandPalette::addEditorCommands(const QSet<QString> &taken)
     const std::vector<EditorCommandRow> rows = editorCommandRows(m_parts.rt.globals(), taken);
     for (const EditorCommandRow &row : rows) {
         const CommandWay way{.need = Need::SourceView};
-        m_commands.push_back({{u"rt_%1"_s.arg(row.command), row.caption, u"Code view"_s, {}, {}, {way}, row.keys},
+        m_commands.push_back({{u"rt_%1"_s.arg(row.command),
+                               row.caption,
+                               QCoreApplication::translate("CommandPalette", "Code view"),
+                               {},
+                               {},
+                               {way},
+                               row.keys},
                               {actionFor(row.command)}});
     }
 }
@@ -213,7 +222,7 @@ PickRow CommandPalette::rowOf(const CommandSearch::Found &found) const
     const QAction *first = command.actions.front();
     QStringList detail{command.listed.place};
     if (first && first->isChecked())
-        detail.front() += u", on"_s;
+        detail.front() += QCoreApplication::translate("CommandPalette", ", on");
     if (!refusal.isEmpty())
         detail.prepend(refusal);
     if (!command.listed.tip.isEmpty())

@@ -7,6 +7,8 @@
 #include "panes/sidepane.h"
 #include "panes/tagplace.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -21,7 +23,7 @@ void addDocumentTree(SidePane &pane, CodeMax &editor, DocumentWindow &window)
         if (selectTag(editor, tagText, position))
             editor.setFocus();
         else
-            window.notice(u"This tag is no longer in the text."_s);
+            window.notice(QCoreApplication::translate("DocumentTree", "This tag is no longer in the text."));
     });
 }
 

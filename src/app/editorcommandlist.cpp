@@ -5,6 +5,7 @@
 #include "editor/codemaxglobals.h"
 #include "editor/hotkeys.h"
 
+#include <QCoreApplication>
 #include <QKeySequence>
 
 #include <algorithm>
@@ -36,7 +37,8 @@ std::vector<EditorCommandRow> editorCommandRows(const CodeMaxGlobals &globals, c
         if (row->keys.isEmpty() && !taken.contains(keys) && globals.commandFor(hotKey.keys) == hotKey.command)
             row->keys = keys;
     }
-    rows.push_back({numberOf(PropertiesDialog), u"Properties of the code view"_s, {}});
+    rows.push_back(
+        {numberOf(PropertiesDialog), QCoreApplication::translate("Commands", "Properties of the code view"), {}});
     return rows;
 }
 

@@ -20,6 +20,7 @@
 #include "desktop/desktopshell.h"
 #include "desktop/module.h"
 #include "desktop/recentfiles.h"
+#include "desktop/translation.h"
 #include "editor/codemax.h"
 #include "files/appfolder.h"
 #include "files/crashreports.h"
@@ -43,6 +44,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QPointer>
 #include <QScopeGuard>
 #include <QStandardPaths>
@@ -82,6 +84,13 @@ QStringList nameFiles(const QString &appPath)
     return files;
 }
 
+/// Where the program's texts in other languages may be. A program folder that an older version filled has those of that
+/// version.
+QStringList translationFolders()
+{
+    return {QCoreApplication::applicationDirPath(), installedData()};
+}
+
 /// The folder of the recovery copies, next to the per-user settings.
 QString recoveryFolder()
 {
@@ -96,9 +105,15 @@ QString iconFile()
 
 } // namespace
 
+Translation desktopTranslation()
+{
+    return Translation(DiskFileStore(), translationFolders(), QLocale::system().uiLanguages());
+}
+
 int runProgram(QApplication &application, const QString &argument)
 {
     DiskFileStore files;
+    const Translation translation = desktopTranslation();
     KeptPictures pictures(files, iconFile(), QCoreApplication::applicationFilePath());
     // The style is destroyed after the pictures.
     const QPointer<IconStates> style = new IconStates;

@@ -2,6 +2,7 @@
 #include "app/recoverybar.h"
 
 #include "core/paths.h"
+#include "core/translation.h"
 
 #include <QLocale>
 
@@ -27,15 +28,25 @@ struct AnswerRow {
 };
 
 constexpr AnswerRow<LeftCopy> copyRows[] = {
-    {{u"recoveryShow", u"Show", u"Open the text as a new document"}, &RecoveryBar::showWanted},
-    {{u"recoveryKeep", u"Keep", u"Leave the copy in its folder and don't ask again"}, &RecoveryBar::keepWanted},
-    {{u"recoveryDelete", u"Delete", u"Remove the copy"}, &RecoveryBar::deleteWanted},
+    {{u"recoveryShow", ZEPHIRA_TEXT("RecoveryBar", "Show"),
+      ZEPHIRA_TEXT("RecoveryBar", "Open the text as a new document")},
+     &RecoveryBar::showWanted},
+    {{u"recoveryKeep", ZEPHIRA_TEXT("RecoveryBar", "Keep"),
+      ZEPHIRA_TEXT("RecoveryBar", "Leave the copy in its folder and don't ask again")},
+     &RecoveryBar::keepWanted},
+    {{u"recoveryDelete", ZEPHIRA_TEXT("RecoveryBar", "Delete"), ZEPHIRA_TEXT("RecoveryBar", "Remove the copy")},
+     &RecoveryBar::deleteWanted},
 };
 
 constexpr AnswerRow<CrashReport> reportRows[] = {
-    {{u"recoveryShow", u"Show", u"Open the report as the document"}, &RecoveryBar::showReportWanted},
-    {{u"recoveryKeep", u"Keep", u"Leave the report in its folder and don't ask again"}, &RecoveryBar::keepReportWanted},
-    {{u"recoveryDelete", u"Delete", u"Remove the report"}, &RecoveryBar::deleteReportWanted},
+    {{u"recoveryShow", ZEPHIRA_TEXT("RecoveryBar", "Show"),
+      ZEPHIRA_TEXT("RecoveryBar", "Open the report as the document")},
+     &RecoveryBar::showReportWanted},
+    {{u"recoveryKeep", ZEPHIRA_TEXT("RecoveryBar", "Keep"),
+      ZEPHIRA_TEXT("RecoveryBar", "Leave the report in its folder and don't ask again")},
+     &RecoveryBar::keepReportWanted},
+    {{u"recoveryDelete", ZEPHIRA_TEXT("RecoveryBar", "Delete"), ZEPHIRA_TEXT("RecoveryBar", "Remove the report")},
+     &RecoveryBar::deleteReportWanted},
 };
 
 QString shortTime(const QDateTime &time)
@@ -50,16 +61,16 @@ NoticeLine lineOf(RecoveryBar *bar, qsizetype number, const QString &text, const
 {
     NoticeLine line{u"recoveryText_%1"_s.arg(number), text, tip, {}};
     for (const auto &[button, wanted] : rows) {
-        line.buttons.append({u"%1_%2"_s.arg(button.name).arg(number), button.caption.toString(), button.tip.toString(),
-                             button.caption.toString() + u' ' + subject,
-                             [bar, item, wanted = wanted] { (bar->*wanted)(item); }});
+        const QString caption = translated("RecoveryBar", button.caption);
+        line.buttons.append({u"%1_%2"_s.arg(button.name).arg(number), caption, translated("RecoveryBar", button.tip),
+                             caption + u' ' + subject, [bar, item, wanted = wanted] { (bar->*wanted)(item); }});
     }
     return line;
 }
 
 } // namespace
 
-RecoveryBar::RecoveryBar(QWidget *parent) : NoticeBar(u"recoveryBar"_s, u"Texts that were not saved"_s, parent) {}
+RecoveryBar::RecoveryBar(QWidget *parent) : NoticeBar(u"recoveryBar"_s, tr("Texts that were not saved"), parent) {}
 
 void RecoveryBar::setContents(const QList<LeftCopy> &copies, const QList<CrashReport> &reports)
 {
@@ -87,15 +98,15 @@ void RecoveryBar::fill()
     const QList<LeftCopy> copies = m_copies.first(qMin(room(), m_copies.size()));
     for (const LeftCopy &copy : copies) {
         const QString text =
-            u"%1 was not saved when the program ended (started %2)."_s.arg(copy.name, shortTime(copy.began));
+            tr("%1 was not saved when the program ended (started %2).").arg(copy.name, shortTime(copy.began));
         shown.append(lineOf<LeftCopy>(this, shown.size(), text, text + u'\n' + copy.path, copy.name, copy, copyRows));
     }
     const QList<CrashReport> reports = m_reports.first(qMin(room(), m_reports.size()));
     for (const CrashReport &report : reports) {
         const QString text =
-            u"The program crashed (started %1). A report is in %2."_s.arg(shortTime(report.began), report.path);
+            tr("The program crashed (started %1). A report is in %2.").arg(shortTime(report.began), report.path);
         const QString tip =
-            text + u"\nIt holds addresses in the program and nothing of your documents. It is sent nowhere."_s;
+            text + u'\n' + tr("It holds addresses in the program and nothing of your documents. It is sent nowhere.");
         shown.append(lineOf<CrashReport>(this, shown.size(), text, tip, lastName(report.path), report, reportRows));
     }
     setLines(shown);

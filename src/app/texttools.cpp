@@ -18,6 +18,7 @@
 #include "widgets/toolpanel.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QMainWindow>
 
 using namespace Qt::StringLiterals;
@@ -35,7 +36,7 @@ TextTools::TextTools(const Parts &parts)
 {
     m_helpers.setServices(parts.services);
     m_panel->leave = [&rt = parts.rt] { rt.setFocus(); };
-    m_panel->addPage(searchPage, QObject::tr("Search"), [this](QWidget *parent) {
+    m_panel->addPage(searchPage, QCoreApplication::translate("ToolPanel", "Search"), [this](QWidget *parent) {
         const auto showCode = [this] {
             m_parts.views.selectTab(WorkspaceView::Code);
             m_parts.context.designer.finishLeaving();

@@ -9,6 +9,7 @@
 #include "editor/codemax.h"
 
 #include <QByteArrayMatcher>
+#include <QCoreApplication>
 
 namespace zephira {
 
@@ -27,8 +28,9 @@ TextSelection wordAt(const SciEngine &engine, qsizetype position)
 void tellLimit(const TextHelpers &helpers)
 {
     helpers.context().prompts.tell(
-        u"There are more places than can be selected at once. The first %1 are selected."_s.arg(
-            QLocale().toString(mostCarets)),
+        QCoreApplication::translate("Carets",
+                                    "There are more places than can be selected at once. The first %1 are selected.")
+            .arg(QLocale().toString(mostCarets)),
         {}, Question::Icon::Information);
 }
 

@@ -6,6 +6,8 @@
 #include "assist/stylesymbols.h"
 #include "core/languages.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -38,15 +40,15 @@ QString symbolKind(const DocumentSymbol &symbol)
 {
     switch (symbol.kind) {
     case DocumentSymbol::Kind::Heading:
-        return u"Heading %1"_s.arg(symbol.level);
+        return QCoreApplication::translate("Symbols", "Heading %1").arg(symbol.level);
     case DocumentSymbol::Kind::Id:
-        return u"Id"_s;
+        return QCoreApplication::translate("Symbols", "Id");
     case DocumentSymbol::Kind::Rule:
-        return u"Rule"_s;
+        return QCoreApplication::translate("Symbols", "Rule");
     case DocumentSymbol::Kind::Function:
-        return u"Function"_s;
+        return QCoreApplication::translate("Symbols", "Function");
     case DocumentSymbol::Kind::Class:
-        return u"Class"_s;
+        return QCoreApplication::translate("Symbols", "Class");
     }
     return {};
 }

@@ -9,6 +9,7 @@
 #include "editor/codemax.h"
 #include "widgets/pickpopup.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <algorithm>
@@ -74,8 +75,8 @@ private:
     {
         const DocumentSymbol &symbol = m_symbols[found.symbol];
         const qsizetype line = m_rt->engine().lineOf(symbol.position) + 1;
-        return {symbol.name.isEmpty() ? u"(empty)"_s : symbol.name, found.match.places, symbolKind(symbol),
-                QString::number(line)};
+        return {symbol.name.isEmpty() ? QCoreApplication::translate("Symbols", "(empty)") : symbol.name,
+                found.match.places, symbolKind(symbol), QString::number(line)};
     }
 
     QPointer<CodeMax> m_rt;
@@ -91,9 +92,10 @@ void goToSymbol(TextHelpers &helpers)
     CodeMax &rt = helpers.rt();
     const auto list = std::make_shared<SymbolList>(rt, helpers.context().document.languageRow());
     PickPopup::of(*rt.window())
-        .open({u"Symbols of the document"_s, u"Search for a heading, an id, a rule or a function"_s,
-               u"Nothing in the document is called so"_s, [list](const QString &typed) { return list->search(typed); },
-               [list](int row) { list->goTo(row); }});
+        .open({QCoreApplication::translate("Symbols", "Symbols of the document"),
+               QCoreApplication::translate("Symbols", "Search for a heading, an id, a rule or a function"),
+               QCoreApplication::translate("Symbols", "Nothing in the document is called so"),
+               [list](const QString &typed) { return list->search(typed); }, [list](int row) { list->goTo(row); }});
 }
 
 } // namespace zephira

@@ -51,8 +51,8 @@ QString PictureTip::tipAt(qsizetype position) const
     QBuffer buffer(&data);
     buffer.open(QIODevice::WriteOnly);
     shown.save(&buffer, "PNG");
-    return u"<img src=\"data:image/png;base64,%1\"><br>%2 \u00d7 %3 pixels"_s.arg(
-        QString::fromLatin1(data.toBase64()), QString::number(size.width()), QString::number(size.height()));
+    return u"<img src=\"data:image/png;base64,%1\"><br>%2"_s.arg(
+        QString::fromLatin1(data.toBase64()), tr("%1 \u00d7 %2 pixels").arg(size.width()).arg(size.height()));
 }
 
 bool PictureTip::eventFilter(QObject *watched, QEvent *event)

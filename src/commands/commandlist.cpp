@@ -8,8 +8,10 @@
 #include "commands/tagsmenu.h"
 #include "commands/texttable.h"
 #include "commands/toolbartable.h"
+#include "core/translation.h"
 #include "views/designercommands.h"
 
+#include <QCoreApplication>
 #include <QStringBuilder>
 
 #include <algorithm>
@@ -79,7 +81,9 @@ Doing doingOf(const QuickTag &tag)
 QString markupTip(const QuickTag &tag)
 {
     const bool writes = tag.kind == TagKind::Wrap || tag.kind == TagKind::Behind || tag.kind == TagKind::Replace;
-    return writes ? QString(u"Insert "_s % tag.before % tag.after).simplified() : QString();
+    return writes
+        ? QCoreApplication::translate("Commands", "Insert %1").arg(QString(tag.before % tag.after).simplified())
+        : QString();
 }
 
 /// Puts the list together. A command that is already in it gets one more way.
@@ -134,13 +138,13 @@ void addMenus(CommandLister &list, std::span<const MenuItem> items, const QStrin
 {
     for (const MenuItem &item : items) {
         const Need need = item.need == Need::Nothing ? outer : item.need;
-        const QString caption = plainCaption(item.caption.toString());
+        const QString caption = plainCaption(captionOf(item));
         if (item.kind == MenuItem::Kind::Menu) {
             addMenus(list, item.children, place.isEmpty() ? caption : place % divider % caption, need, home);
         } else if (hasEffect(item.command) && item.need != Need::Plugin) {
             const QString name = item.name.toString();
             list.add(doingOf(item.command, item.form),
-                     {name, caption, place, item.statusTip.toString(), {}, {{home, name, 0, 0, need}}});
+                     {name, caption, place, tipOf(item), {}, {{home, name, 0, 0, need}}});
         }
         if (item.name != menuname::tags)
             continue;
@@ -155,7 +159,7 @@ void addMenus(CommandLister &list, std::span<const MenuItem> items, const QStrin
 
 void addToolBar(CommandLister &list, const ToolBarTable &table, Home home)
 {
-    const QString place = table.title % u" toolbar"_s;
+    const QString place = QCoreApplication::translate("Commands", "%1 toolbar").arg(table.title);
     for (const ToolButton &button : table.buttons) {
         if (button.key.isEmpty())
             continue;
@@ -183,7 +187,7 @@ void addPalette(CommandLister &list)
 {
     int bar = 0;
     for (const PaletteToolbar &table : paletteToolbars()) {
-        const QString place = u"Tool palette"_s % divider % table.caption;
+        const QString place = QCoreApplication::translate("Commands", "Tool palette") % divider % table.caption;
         int position = 0;
         for (const QuickTag &tag : table.buttons) {
             const CommandWay way{Home::Palette, {}, bar, position++};
@@ -194,7 +198,7 @@ void addPalette(CommandLister &list)
                 for (int size = 1; size <= 6; ++size)
                     list.add({},
                              {name % QString::number(size),
-                              u"Heading %1"_s.arg(size),
+                              QCoreApplication::translate("Commands", "Heading %1").arg(size),
                               place,
                               caption,
                               {},
@@ -214,7 +218,7 @@ void addDesigner(CommandLister &list)
         list.add(Effect{button.command},
                  {u"Toolbar2_"_s % key,
                   button.tip.toString(),
-                  u"Visual designer toolbar"_s,
+                  QCoreApplication::translate("Commands", "Visual designer toolbar"),
                   {},
                   {},
                   {{Home::Designer, key, 0, 0, Need::VisualView}},
@@ -225,11 +229,11 @@ void addDesigner(CommandLister &list)
 void addPopups(CommandLister &list)
 {
     static constexpr std::pair<QStringView, QStringView> places[] = {
-        {menuname::fileList, u"Menu of the file list"},
-        {menuname::customTab, u"Menu of a tab of snippets"},
+        {menuname::fileList, ZEPHIRA_TEXT("Commands", "Menu of the file list")},
+        {menuname::customTab, ZEPHIRA_TEXT("Commands", "Menu of a tab of snippets")},
     };
     for (const auto &[menu, place] : places)
-        addMenus(list, findMenuItem(menu)->children, place.toString(), Need::Nothing, Home::Popup);
+        addMenus(list, findMenuItem(menu)->children, translated("Commands", place), Need::Nothing, Home::Popup);
 }
 
 } // namespace
@@ -238,7 +242,7 @@ std::vector<ListedCommand> listedCommands()
 {
     CommandLister list;
     addMenus(list, menuBarTable(), {}, Need::Nothing, Home::Menu);
-    addMenus(list, textMenuTable(), u"Code view"_s, Need::Nothing, Home::Menu);
+    addMenus(list, textMenuTable(), QCoreApplication::translate("Commands", "Code view"), Need::Nothing, Home::Menu);
     addToolBar(list, standardToolBar(), Home::Standard);
     addToolBar(list, formattingToolBar(), Home::Formatting);
     addPalette(list);
@@ -251,26 +255,28 @@ QString whyDisabled(CommandWay::Home home, Need need)
 {
     switch (need) {
     case Need::Markup:
-        return u"Only in a document of a markup language"_s;
+        return QCoreApplication::translate("Commands", "Only in a document of a markup language");
     case Need::SourceView:
-        return u"Only in the code view"_s;
+        return QCoreApplication::translate("Commands", "Only in the code view");
     case Need::VisualView:
-        return u"Only in the visual view"_s;
+        return QCoreApplication::translate("Commands", "Only in the visual view");
     case Need::QuickTags:
-        return u"Only in the code view, for a markup language"_s;
+        return QCoreApplication::translate("Commands", "Only in the code view, for a markup language");
     case Need::ListedFile:
-        return u"Needs a file that is selected in the file list"_s;
+        return QCoreApplication::translate("Commands", "Needs a file that is selected in the file list");
     case Need::PageText:
-        return u"Not while an element of the page is selected as a whole"_s;
+        return QCoreApplication::translate("Commands", "Not while an element of the page is selected as a whole");
     case Need::Plugin:
-        return u"Needs a plug-in"_s;
+        return QCoreApplication::translate("Commands", "Needs a plug-in");
     case Need::Nothing:
         break;
     }
     if (home == Home::Popup)
-        return u"Belongs to what its menu was opened on"_s;
+        return QCoreApplication::translate("Commands", "Belongs to what its menu was opened on");
     // A button of the tool palette is only disabled where nothing could run it.
-    return home == Home::Palette ? u"Needs a program that this system doesn't have"_s : u"Not possible here"_s;
+    return home == Home::Palette
+        ? QCoreApplication::translate("Commands", "Needs a program that this system doesn't have")
+        : QCoreApplication::translate("Commands", "Not possible here");
 }
 
 } // namespace zephira

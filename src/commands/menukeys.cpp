@@ -5,6 +5,7 @@
 #include "commands/tagsmenu.h"
 #include "commands/texttable.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -19,7 +20,7 @@ namespace {
 void addCommands(std::vector<CommandKey> &commands, const QString &path, std::span<const MenuItem> items)
 {
     for (const MenuItem &item : items) {
-        const QString caption = path + plainCaption(item.caption.toString());
+        const QString caption = path + plainCaption(captionOf(item));
         const bool canBeChosen = item.kind == MenuItem::Kind::Entry || item.kind == MenuItem::Kind::Check;
         if (item.kind == MenuItem::Kind::Menu)
             addCommands(commands, caption + u" > "_s, item.children);
@@ -54,7 +55,7 @@ std::vector<CommandKey> barCommands()
 std::vector<CommandKey> textCommands()
 {
     std::vector<CommandKey> commands;
-    addCommands(commands, u"Code View > "_s, textMenuTable());
+    addCommands(commands, QCoreApplication::translate("Commands", "Code View") + u" > "_s, textMenuTable());
     return commands;
 }
 

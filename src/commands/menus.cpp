@@ -48,7 +48,7 @@ Menus::Menus(QMenuBar *bar, QObject *owner) : QObject(owner)
 {
     for (const MenuItem &item : menuBarTable()) {
         if (item.kind == MenuItem::Kind::Bar) {
-            QAction *text = bar->addAction(item.caption.toString());
+            QAction *text = bar->addAction(captionOf(item));
             text->setObjectName(item.name);
             text->setEnabled(false);
             m_actions.insert(text->objectName(), text);
@@ -67,7 +67,7 @@ Menus::Menus(QMenuBar *bar, QObject *owner) : QObject(owner)
 
 QMenu *Menus::makeMenu(const MenuItem &item, QWidget *parent)
 {
-    QMenu *menu = new QMenu(item.caption.toString(), parent);
+    QMenu *menu = new QMenu(captionOf(item), parent);
     menu->setObjectName(item.name);
     menu->setToolTipsVisible(true);
     m_menus.insert(menu->objectName(), menu);
@@ -87,12 +87,12 @@ void Menus::fill(QMenu *menu, std::span<const MenuItem> items)
 
 void Menus::addEntry(QMenu *menu, const MenuItem &item)
 {
-    QAction *entry = new QAction(item.caption.toString(), menu);
+    QAction *entry = new QAction(captionOf(item), menu);
     entry->setObjectName(item.name);
     entry->setSeparator(item.kind == MenuItem::Kind::Divider);
     entry->setCheckable(item.kind == MenuItem::Kind::Check);
     entry->setEnabled(item.kind != MenuItem::Kind::Title);
-    entry->setStatusTip(item.statusTip.toString());
+    entry->setStatusTip(tipOf(item));
     if (!item.shortcut.isEmpty())
         entry->setShortcut(QKeySequence::fromString(item.shortcut.toString(), QKeySequence::PortableText));
     // On macOS, "About" and "Options" would otherwise be moved to other menus because of their words.

@@ -3,6 +3,7 @@
 
 #include "commands/command.h"
 #include "commands/needs.h"
+#include "core/translation.h"
 
 #include <QString>
 
@@ -37,7 +38,19 @@ struct MenuItem {
     Need need = Need::Nothing;
     /// In the designer's menus: the command whose status enables the entry, if its effect isn't one.
     DesignerCommand asks = DesignerCommand::None;
+    /// Of the translations of caption and tip; nullptr if they are the same in every language.
+    const char *context = nullptr;
 };
+
+/// Caption and tip as they are shown.
+inline QString captionOf(const MenuItem &item)
+{
+    return translated(item.context, item.caption);
+}
+inline QString tipOf(const MenuItem &item)
+{
+    return translated(item.context, item.statusTip);
+}
 
 /// The menus of the bar, left to right.
 std::span<const MenuItem> menuBarTable();

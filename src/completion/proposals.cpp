@@ -5,6 +5,7 @@
 #include "completion/markupplace.h"
 #include "core/entitynames.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -316,7 +317,7 @@ QString sinceText(QByteArrayView since)
     const QByteArrayList words = completeWords(since.toByteArray() + ' ');
     for (const QByteArray &word : words) {
         if (isAsciiDigit(word.front())) {
-            all = u"In all browsers since "_s + QString::fromLatin1(word);
+            all = QCoreApplication::translate("Completion", "In all browsers since %1").arg(QString::fromLatin1(word));
             continue;
         }
         const auto browser =

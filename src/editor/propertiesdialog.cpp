@@ -39,11 +39,11 @@ struct StyleName {
 };
 
 constexpr std::array styleNames{
-    StyleName{QT_TRANSLATE_NOOP("PropertiesDialog", "Normal"), NormalStyle},
-    StyleName{QT_TRANSLATE_NOOP("PropertiesDialog", "Bold"), BoldStyle},
-    StyleName{QT_TRANSLATE_NOOP("PropertiesDialog", "Italic"), ItalicStyle},
-    StyleName{QT_TRANSLATE_NOOP("PropertiesDialog", "Bold italic"), BoldItalicStyle},
-    StyleName{QT_TRANSLATE_NOOP("PropertiesDialog", "Underlined"), UnderlinedStyle},
+    StyleName{QT_TRANSLATE_NOOP("zephira::PropertiesDialog", "Normal"), NormalStyle},
+    StyleName{QT_TRANSLATE_NOOP("zephira::PropertiesDialog", "Bold"), BoldStyle},
+    StyleName{QT_TRANSLATE_NOOP("zephira::PropertiesDialog", "Italic"), ItalicStyle},
+    StyleName{QT_TRANSLATE_NOOP("zephira::PropertiesDialog", "Bold italic"), BoldItalicStyle},
+    StyleName{QT_TRANSLATE_NOOP("zephira::PropertiesDialog", "Underlined"), UnderlinedStyle},
 };
 
 } // namespace

@@ -33,7 +33,7 @@ OutlineTree::OutlineTree(QWidget *parent)
     : QTreeView(parent), m_model(new OutlineModel(this)), m_goToTag(new QAction(tr("Go to Tag"), this))
 {
     setObjectName(u"TreeView1"_s);
-    setAccessibleName(tr("Document Tree"));
+    setAccessibleName(u"Document Tree"_s);
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setItemDelegate(new OneLine(this));

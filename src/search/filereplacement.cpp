@@ -5,6 +5,8 @@
 #include "files/recoverycopies.h"
 #include "files/textfile.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -15,7 +17,8 @@ namespace {
 
 Error changedMeanwhile()
 {
-    return {Error::Code::Refused, u"It has changed since the search and was left as it is."_s};
+    return {Error::Code::Refused,
+            QCoreApplication::translate("SearchReport", "It has changed since the search and was left as it is.")};
 }
 
 /// Goes from places in a text with line feeds to those in the same text with any line ends.
@@ -100,8 +103,10 @@ Result<void> replaceInFile(FileStore &files, RecoveryCopies &recovery, const QSt
     if (replaced.value() == bytes.value())
         return {};
     if (const Result<void> kept = recovery.keepReplaced(run, file.path, bytes.value()); !kept) {
-        return Error{kept.error().code,
-                     u"It was not changed, because no copy of it could be kept. "_s + kept.error().sentence};
+        return Error{
+            kept.error().code,
+            QCoreApplication::translate("SearchReport", "It was not changed, because no copy of it could be kept.")
+                + u' ' + kept.error().sentence};
     }
     // Looked at once more, because reading and searching take a while.
     if (files.signature(file.path) != file.signature)

@@ -3,6 +3,7 @@
 
 #include "files/textfile.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
 
@@ -12,57 +13,77 @@ namespace zephira {
 
 namespace {
 
-QString counted(int count, const QString &one, const QString &many)
+/// A text of this file in the language of the desktop.
+QString said(const char *text)
 {
-    return u"%1 %2"_s.arg(QLocale(QLocale::English).toString(count), count == 1 ? one : many);
+    return QCoreApplication::translate("SearchReport", text);
+}
+
+/// How many there are: one text for a single one, and one with the number for more.
+QString counted(int count, const char *one, const char *many)
+{
+    return count == 1 ? said(one)
+                      : said(many).arg(QLocale(said(QT_TRANSLATE_NOOP("SearchReport", "en"))).toString(count));
+}
+
+QString matches(int count)
+{
+    return counted(count, QT_TRANSLATE_NOOP("SearchReport", "1 match"),
+                   QT_TRANSLATE_NOOP("SearchReport", "%1 matches"));
 }
 
 QString files(int count)
 {
-    return counted(count, u"file"_s, u"files"_s);
+    return counted(count, QT_TRANSLATE_NOOP("SearchReport", "1 file"), QT_TRANSLATE_NOOP("SearchReport", "%1 files"));
 }
 
 QString folders(int count)
 {
-    return counted(count, u"folder"_s, u"folders"_s);
+    return counted(count, QT_TRANSLATE_NOOP("SearchReport", "1 folder"),
+                   QT_TRANSLATE_NOOP("SearchReport", "%1 folders"));
 }
 
 } // namespace
 
 QString searchProgress(const SearchCounts &counts)
 {
-    return u"Searching: %1 in %2, %3 searched\u2026"_s.arg(counted(counts.matches, u"match"_s, u"matches"_s),
-                                                           files(counts.filesWithMatches), files(counts.files));
+    return said(QT_TRANSLATE_NOOP("SearchReport", "Searching: %1 in %2, %3 searched\u2026"))
+        .arg(matches(counts.matches), files(counts.filesWithMatches), files(counts.files));
 }
 
 QString searchSummary(const SearchCounts &counts)
 {
     QStringList sentences;
     if (counts.isStopped)
-        sentences.append(u"Stopped."_s);
-    sentences.append(u"%1 in %2, %3 searched."_s.arg(counted(counts.matches, u"match"_s, u"matches"_s),
-                                                     files(counts.filesWithMatches), files(counts.files)));
+        sentences.append(said(QT_TRANSLATE_NOOP("SearchReport", "Stopped.")));
+    sentences.append(said(QT_TRANSLATE_NOOP("SearchReport", "%1 in %2, %3 searched."))
+                         .arg(matches(counts.matches), files(counts.filesWithMatches), files(counts.files)));
     if (counts.isCut)
-        sentences.append(u"There are more: the search ended here."_s);
+        sentences.append(said(QT_TRANSLATE_NOOP("SearchReport", "There are more: the search ended here.")));
     if (counts.givenUp > 0)
-        sentences.append(u"The expression needs too many steps in %1."_s.arg(files(counts.givenUp)));
+        sentences.append(said(QT_TRANSLATE_NOOP("SearchReport", "The expression needs too many steps in %1."))
+                             .arg(files(counts.givenUp)));
     QStringList leftOut;
     if (counts.binaryFiles > 0)
-        leftOut.append(u"%1 without text"_s.arg(files(counts.binaryFiles)));
+        leftOut.append(said(QT_TRANSLATE_NOOP("SearchReport", "%1 without text")).arg(files(counts.binaryFiles)));
     if (counts.tooLargeFiles > 0)
-        leftOut.append(
-            u"%1 larger than %2 MiB"_s.arg(files(counts.tooLargeFiles)).arg(maximumFileSize / (1024 * 1024)));
+        leftOut.append(said(QT_TRANSLATE_NOOP("SearchReport", "%1 larger than %2 MiB"))
+                           .arg(files(counts.tooLargeFiles))
+                           .arg(maximumFileSize / (1024 * 1024)));
     if (counts.unreadableFiles > 0)
-        leftOut.append(u"%1 that can't be read"_s.arg(files(counts.unreadableFiles)));
-    if (counts.unreadableFolders > 0)
-        leftOut.append(u"%1 that can't be read"_s.arg(folders(counts.unreadableFolders)));
-    if (counts.otherFileSystems > 0)
-        leftOut.append(u"%1 of other file systems"_s.arg(folders(counts.otherFileSystems)));
-    if (counts.invalidNames > 0)
         leftOut.append(
-            counted(counts.invalidNames, u"name that isn't valid text"_s, u"names that aren't valid text"_s));
+            said(QT_TRANSLATE_NOOP("SearchReport", "%1 that can't be read")).arg(files(counts.unreadableFiles)));
+    if (counts.unreadableFolders > 0)
+        leftOut.append(
+            said(QT_TRANSLATE_NOOP("SearchReport", "%1 that can't be read")).arg(folders(counts.unreadableFolders)));
+    if (counts.otherFileSystems > 0)
+        leftOut.append(
+            said(QT_TRANSLATE_NOOP("SearchReport", "%1 of other file systems")).arg(folders(counts.otherFileSystems)));
+    if (counts.invalidNames > 0)
+        leftOut.append(counted(counts.invalidNames, QT_TRANSLATE_NOOP("SearchReport", "1 name that isn't valid text"),
+                               QT_TRANSLATE_NOOP("SearchReport", "%1 names that aren't valid text")));
     if (!leftOut.isEmpty())
-        sentences.append(u"Left out: %1."_s.arg(leftOut.join(u", "_s)));
+        sentences.append(said(QT_TRANSLATE_NOOP("SearchReport", "Left out: %1.")).arg(leftOut.join(u", "_s)));
     return sentences.join(u' ');
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/remotebar.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -18,12 +20,14 @@ QString remoteNotice(const QStringList &hosts)
     if (others == 1)
         named = hosts;
     else if (others > 0)
-        named.append(u"%1 others"_s.arg(others));
+        named.append(QCoreApplication::translate("RemoteBar", "%1 others").arg(others));
     const QString last = named.takeLast();
-    return u"This page wants to load from %1."_s.arg(named.isEmpty() ? last : named.join(u", "_s) + u" and "_s + last);
+    return QCoreApplication::translate("RemoteBar", "This page wants to load from %1.")
+        .arg(named.isEmpty() ? last
+                             : QCoreApplication::translate("RemoteBar", "%1 and %2").arg(named.join(u", "_s), last));
 }
 
-RemoteBar::RemoteBar(QWidget *parent) : NoticeBar(u"remoteBar"_s, u"What the page wants from other machines"_s, parent)
+RemoteBar::RemoteBar(QWidget *parent) : NoticeBar(u"remoteBar"_s, tr("What the page wants from other machines"), parent)
 {}
 
 void RemoteBar::setHosts(const QStringList &hosts)
@@ -34,16 +38,17 @@ void RemoteBar::setHosts(const QStringList &hosts)
     }
     const QString notice = remoteNotice(hosts);
     const NoticeLine::Button allow{
-        u"remoteAllow"_s, u"Allow"_s,
-        u"Load what the page wants. This is kept for the project that the document lies in, else for the document until the "
-        "program ends."_s,
-        u"Allow: "_s + notice, [this] {
+        u"remoteAllow"_s, tr("Allow"),
+        tr("Load what the page wants. This is kept for the project that the document lies in, else for the document until "
+           "the program ends."),
+        tr("Allow: %1").arg(notice), [this] {
             setLines({});
             Q_EMIT allowed();
         }};
-    const NoticeLine::Button notNow{u"remoteNotNow"_s, u"Not Now"_s, u"Show the page without it"_s,
-                                    u"Not now: "_s + notice, [this] { setLines({}); }};
-    setLines({{u"remoteText"_s, notice, u"This page wants to load from:\n"_s + hosts.join(u'\n'), {allow, notNow}}});
+    const NoticeLine::Button notNow{u"remoteNotNow"_s, tr("Not Now"), tr("Show the page without it"),
+                                    tr("Not now: %1").arg(notice), [this] { setLines({}); }};
+    setLines(
+        {{u"remoteText"_s, notice, tr("This page wants to load from:") + u'\n' + hosts.join(u'\n'), {allow, notNow}}});
 }
 
 } // namespace zephira

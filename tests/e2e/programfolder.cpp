@@ -51,6 +51,11 @@ ProgramFolder::ProgramFolder()
             QVERIFY(QFile::copy(built.filePath(folder + u'/' + module), path() + u'/' + folder + u'/' + module));
     }
     QVERIFY(QFile::copy(QStringLiteral(ZEPHIRA_NAMES), path() + u"/deps/names.dic"_s));
+    const QDir translations(QStringLiteral(ZEPHIRA_TRANSLATIONS));
+    QVERIFY(QDir().mkpath(path() + u"/translations"_s));
+    const QStringList languages = translations.entryList({u"*.qm"_s}, QDir::Files);
+    for (const QString &language : languages)
+        QVERIFY(QFile::copy(translations.filePath(language), path() + u"/translations/"_s + language));
     setTips(false);
     setIni(u"Startup"_s, u"selprj"_s, u"0"_s);
 }

@@ -9,6 +9,7 @@
 #include "editor/codemax.h"
 #include "files/textfile.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -69,7 +70,8 @@ Abbreviations::~Abbreviations()
 Result<AbbreviationEngine *> Abbreviations::engine() const
 {
     if (!m_parts.load)
-        return Error{Error::Code::Failed, u"Abbreviations aren't available here."_s};
+        return Error{Error::Code::Failed,
+                     QCoreApplication::translate("Abbreviations", "Abbreviations aren't available here.")};
     return m_parts.load();
 }
 
@@ -115,10 +117,12 @@ Result<AbbreviationSyntax> Abbreviations::syntaxAt(qsizetype position, OpenEleme
     if (row == language::StyleSheets)
         return AbbreviationSyntax::StyleSheet;
     if (row != language::Html && row != language::Xml)
-        return Error{Error::Code::Refused, u"Abbreviations are for HTML, XML and style sheets."_s};
+        return Error{Error::Code::Refused,
+                     QCoreApplication::translate("Abbreviations", "Abbreviations are for HTML, XML and style sheets.")};
     const auto syntax = abbreviationSyntax(reader, m_parts.rt.utf8Pieces(), position);
     if (!syntax)
-        return Error{Error::Code::Refused, u"Abbreviations can't be used in a script or a tag."_s};
+        return Error{Error::Code::Refused,
+                     QCoreApplication::translate("Abbreviations", "Abbreviations can't be used in a script or a tag.")};
     return *syntax;
 }
 
@@ -149,7 +153,9 @@ Abbreviations::Edits Abbreviations::expansions() const
             const QString behind = textOf(selection.start, std::min(text.lineEnd(line), selection.start + near));
             const auto found = loaded.value()->find(before + behind, before.size(), syntax.value());
             if (!found)
-                return Error{Error::Code::NotFound, u"There is no abbreviation before the caret."_s};
+                return Error{
+                    Error::Code::NotFound,
+                    QCoreApplication::translate("Abbreviations", "There is no abbreviation before the caret.")};
             abbreviation = found->abbreviation;
             const QString whole = before + behind;
             edit.start = from + whole.first(found->start).toUtf8().size();
@@ -213,16 +219,20 @@ Abbreviations::Edits Abbreviations::wrappings(const QString &abbreviation, qsize
         if (!syntax)
             return syntax.error();
         if (syntax.value() == AbbreviationSyntax::StyleSheet || syntax.value() == AbbreviationSyntax::StyleAttribute)
-            return Error{Error::Code::Refused, u"Only HTML and XML can be wrapped."_s};
+            return Error{Error::Code::Refused,
+                         QCoreApplication::translate("Abbreviations", "Only HTML and XML can be wrapped.")};
         if (content.start == content.end)
-            return Error{Error::Code::NotFound, u"There is nothing to wrap: select a text first."_s};
+            return Error{
+                Error::Code::NotFound,
+                QCoreApplication::translate("Abbreviations", "There is nothing to wrap: select a text first.")};
         if (!edits.empty() && content.start < edits.back().end)
             continue; // Two carets in one line.
         const SciEngine &text = m_parts.rt.engine();
         if (text.lineOf(content.end) - text.lineOf(content.start) >= AbbreviationEngine::mostWrapped)
             return Error{
                 Error::Code::TooLarge,
-                u"Too many lines are selected: %1 at most can be wrapped."_s.arg(AbbreviationEngine::mostWrapped)};
+                QCoreApplication::translate("Abbreviations", "Too many lines are selected: %1 at most can be wrapped.")
+                    .arg(AbbreviationEngine::mostWrapped)};
         const QString baseIndent = indentAt(content.start);
         const QString wrapped = textOf(content.start, content.end).replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
         const Result<ExpandedAbbreviation> expanded =

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assist/abbreviations/emmetlibrary.h"
 
+#include <QCoreApplication>
 #include <QResource>
 #include <QScopeGuard>
 
@@ -39,7 +40,9 @@ QString nameOf(AbbreviationSyntax syntax)
 
 Error notUnderstood(const QString &abbreviation)
 {
-    return {Error::Code::Malformed, u"The abbreviation “%1” can't be understood."_s.arg(abbreviation)};
+    return {
+        Error::Code::Malformed,
+        QCoreApplication::translate("Abbreviations", "The abbreviation “%1” can't be understood.").arg(abbreviation)};
 }
 
 } // namespace
@@ -78,12 +81,19 @@ std::optional<FoundAbbreviation> EmmetLibrary::find(const QString &line, qsizety
 Result<ExpandedAbbreviation> EmmetLibrary::expand(const QString &abbreviation, const AbbreviationChoices &choices)
 {
     if (!load())
-        return Error{Error::Code::Failed, u"The library that expands abbreviations can't be read."_s};
+        return Error{
+            Error::Code::Failed,
+            QCoreApplication::translate("Abbreviations", "The library that expands abbreviations can't be read.")};
     if (abbreviation.size() > longest)
-        return Error{Error::Code::TooLarge, u"The abbreviation is too long: it may have %1 characters."_s.arg(longest)};
+        return Error{
+            Error::Code::TooLarge,
+            QCoreApplication::translate("Abbreviations", "The abbreviation is too long: it may have %1 characters.")
+                .arg(longest)};
     if (choices.wrapped.size() > mostWrapped)
-        return Error{Error::Code::TooLarge,
-                     u"Too many lines are selected: %1 at most can be wrapped."_s.arg(mostWrapped)};
+        return Error{
+            Error::Code::TooLarge,
+            QCoreApplication::translate("Abbreviations", "Too many lines are selected: %1 at most can be wrapped.")
+                .arg(mostWrapped)};
     const int most = std::max(mostRepeats, static_cast<int>(choices.wrapped.size()));
     const QJSValue made = call(u"expand"_s,
                                {abbreviation, nameOf(choices.syntax), choices.lineEnd, choices.indent,
@@ -91,9 +101,11 @@ Result<ExpandedAbbreviation> EmmetLibrary::expand(const QString &abbreviation, c
     if (!made.isArray())
         return notUnderstood(abbreviation);
     if (made.property(u"length"_s).toInt() == 0)
-        return Error{
-            Error::Code::TooLarge,
-            u"The abbreviation “%1” makes too much: it may repeat elements %2 times."_s.arg(abbreviation).arg(most)};
+        return Error{Error::Code::TooLarge,
+                     QCoreApplication::translate(
+                         "Abbreviations", "The abbreviation “%1” makes too much: it may repeat elements %2 times.")
+                         .arg(abbreviation)
+                         .arg(most)};
     ExpandedAbbreviation expanded{made.property(0).toString(), {}};
     if (expanded.text.isEmpty())
         return notUnderstood(abbreviation);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/live/livepace.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -19,9 +21,13 @@ constexpr double smallestZoom = 0.25;
 LivePace livePace(qsizetype size)
 {
     if (size > huge)
-        return {{}, u"This page is very large: it is shown again when it is saved."_s};
+        return {
+            {},
+            QCoreApplication::translate("LivePace", "This page is very large: it is shown again when it is saved.")};
     if (size > large)
-        return {2000, u"This page is large: it is shown again two seconds after the last change."_s};
+        return {2000,
+                QCoreApplication::translate(
+                    "LivePace", "This page is large: it is shown again two seconds after the last change.")};
     return {250, {}};
 }
 

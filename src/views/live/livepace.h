@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/translation.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -28,11 +30,11 @@ struct LiveWidth {
 };
 
 constexpr std::array<LiveWidth, 5> liveWidths{{
-    {u"Full width", 0},
-    {u"Phone (375)", 375},
-    {u"Tablet (768)", 768},
-    {u"Desktop (1280)", 1280},
-    {u"Other width", -1},
+    {ZEPHIRA_TEXT("LivePace", "Full width"), 0},
+    {ZEPHIRA_TEXT("LivePace", "Phone (375)"), 375},
+    {ZEPHIRA_TEXT("LivePace", "Tablet (768)"), 768},
+    {ZEPHIRA_TEXT("LivePace", "Desktop (1280)"), 1280},
+    {ZEPHIRA_TEXT("LivePace", "Other width"), -1},
 }};
 
 /// How a page of a width fits into a panel: the width of its view in pixels, and how large the page is shown. A page that is

@@ -32,7 +32,7 @@ LivePane::LivePane(QWidget *parent) : QWidget(parent)
     m_widths->setToolTip(
         tr("How wide the page is, in its own pixels; a page that is wider than the panel is made smaller"));
     for (const LiveWidth &width : liveWidths)
-        m_widths->addItem(width.caption.toString());
+        m_widths->addItem(translated("LivePace", width.caption));
     m_widths->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_widths->setMinimumContentsLength(14);
     m_width = new QSpinBox(this);

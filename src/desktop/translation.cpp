@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/translation.h"
+
+#include "core/filestore.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+QString translationLanguage(const QStringList &languages)
+{
+    static const QRegularExpression pattern(uR"(^([a-z]{2,3})(?:[-_.@]|$))"_s);
+    const QString language = pattern.match(languages.value(0)).captured(1);
+    return language == u"en" ? QString() : language;
+}
+
+Translation::Translation(const FileStore &files, const QStringList &folders, const QStringList &languages)
+{
+    const QString language = translationLanguage(languages);
+    if (language.isEmpty())
+        return;
+    for (const QString &folder : folders) {
+        const QString path = u"%1/translations/zephira_%2.qm"_s.arg(folder, language);
+        if (!QFileInfo::exists(path))
+            continue;
+        m_content = files.read(path).valueOr({});
+        const auto *bytes = reinterpret_cast<const uchar *>(m_content.constData());
+        if (m_translator.load(bytes, static_cast<int>(m_content.size()))) {
+            QCoreApplication::installTranslator(&m_translator);
+            return;
+        }
+    }
+}
+
+Translation::~Translation()
+{
+    if (QCoreApplication::instance())
+        QCoreApplication::removeTranslator(&m_translator);
+}
+
+} // namespace zephira
