@@ -222,6 +222,42 @@ private Q_SLOTS:
         QVERIFY(first.isRunning());
     }
 
+    void theDesktopsLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("find"); // The title of a dialog whose texts aren't fixed.
+        QTest::addColumn<QByteArray>("help");
+        QTest::addColumn<bool>("opened"); // The file of the translation.
+        QTest::newRow("German") << u"de_AT.UTF-8"_s << u"Suchen"_s << QByteArray("Aufruf: zephira ") << true;
+        QTest::newRow("English") << u"en_GB.UTF-8"_s << u"Find"_s << QByteArray("Usage: zephira ") << false;
+        QTest::newRow("another") << u"tlh_QX.UTF-8"_s << u"Find"_s << QByteArray("Usage: zephira ") << false;
+    }
+
+    void theDesktopsLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, find);
+        QFETCH(QByteArray, help);
+        ProgramFolder folder;
+        const QStringList wrapper{u"env"_s, u"LC_ALL="_s + language, u"LANGUAGE="_s};
+        {
+            RunningProgram program(folder, {u"--help"_s}, wrapper);
+            QCOMPARE(program.waitForEnd(), 0);
+            const QByteArray text = program.standardOutput();
+            QVERIFY2(text.startsWith(help), text.constData());
+        }
+        const OpenCounter opened({folder.path() + u"/translations/zephira_de.qm"_s});
+        QCOMPARE(opened.watches(), 1);
+        RunningProgram program(folder, {u"/nodialog"_s}, wrapper);
+        QCOMPARE(program.waitForWindows({untitled}), QStringList{untitled});
+        program.key(untitled, u"ctrl+f"_s);
+        QVERIFY(program.waitForWindow(find));
+        program.key(find, u"Escape"_s);
+        program.close(untitled);
+        QCOMPARE(program.waitForEnd(), 0);
+        QTEST(opened.count() > 0, "opened");
+    }
+
     void severalWordsAreOneName()
     {
         ProgramFolder folder;

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/translation.h"
+#include "files/diskfilestore.h"
 #include "forms/allforms.h"
 #include "support/fakes.h"
 #include "support/formkit.h"
@@ -40,6 +42,16 @@ private Q_SLOTS:
         QVERIFY2(!readFormNames(form).isEmpty(), "there is no list of names");
         const QStringList differences = differencesFromForm(readFormNames(form), living.widget());
         QVERIFY2(differences.isEmpty(), qPrintable(differences.join(u'\n')));
+    }
+
+    /// Names and captions are the same in every language.
+    void inAnotherLanguage_data() { addForms(); }
+    void inAnotherLanguage()
+    {
+        const DiskFileStore files;
+        const Translation german(files, {QStringLiteral(ZEPHIRA_BUILD)}, {u"de"_s});
+        QCOMPARE(QCoreApplication::translate("TextMenu", "&Sort"), u"&Sortieren"_s);
+        living();
     }
 
 private:
