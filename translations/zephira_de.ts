@@ -214,6 +214,153 @@ Mehr dazu mit &apos;zephira --help&apos;.
     </message>
 </context>
 <context>
+    <name>FileErrors</name>
+    <message>
+        <source>The folder %1 can&apos;t be created: %2.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file %1 can&apos;t be copied to %2: %3.</source>
+        <translation>Die Datei %1 kann nicht nach %2 kopiert werden: %3.</translation>
+    </message>
+    <message>
+        <source>Zephira can&apos;t start: there is no %1 next to the program or in %2. Please reinstall the program.</source>
+        <translation>Zephira kann nicht starten: Weder neben dem Programm noch in %2 liegt %1. Bitte installieren Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a folder that belongs to you, so Zephira doesn&apos;t write temporary files there.</source>
+        <translation>%1 ist kein Ordner, der Ihnen gehört, deshalb schreibt Zephira dort keine temporären Dateien.</translation>
+    </message>
+    <message>
+        <source>its folder does not allow new files</source>
+        <translation>ihr Ordner lässt keine neuen Dateien zu</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>sie ist größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; was not saved, because the version on disk, which is not the one that was opened, could not be backed up.</source>
+        <translation>Die Datei &quot;%1&quot; wurde nicht gespeichert, weil die Fassung auf dem Datenträger, die nicht die geöffnete ist, sich nicht sichern ließ.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; was not saved, because the version on disk, which would be overwritten, could not be backed up.</source>
+        <translation>Die Datei &quot;%1&quot; wurde nicht gespeichert, weil die Fassung auf dem Datenträger, die überschrieben würde, sich nicht sichern ließ.</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the disk quota is used up</source>
+        <translation>der zugeteilte Speicherplatz ist aufgebraucht</translation>
+    </message>
+    <message>
+        <source>it is larger than the system allows</source>
+        <translation>sie ist größer, als das System zulässt</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation>der Datenträger ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>permission was denied</source>
+        <translation>die Berechtigung fehlt</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>sie ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>ein Teil ihres Pfads ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>it does not exist</source>
+        <translation>es gibt sie nicht</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>ihr Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>its symbolic links form a loop</source>
+        <translation>ihre symbolischen Verknüpfungen führen im Kreis</translation>
+    </message>
+    <message>
+        <source>the disk reported an error</source>
+        <translation>der Datenträger meldete einen Fehler</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>es sind zu viele Dateien geöffnet</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Arbeitsspeicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>it is a program that is running</source>
+        <translation>sie ist ein Programm, das gerade läuft</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>ihren Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be removed: %2.</source>
+        <translation>Die Datei &quot;%1&quot; konnte nicht entfernt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read: %2.</source>
+        <translation>Die Datei &quot;%1&quot; konnte nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be saved: %2.</source>
+        <translation>Die Datei &quot;%1&quot; konnte nicht gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>A template must have a name.</source>
+        <translation>Eine Vorlage muss einen Namen haben.</translation>
+    </message>
+    <message>
+        <source>A template&apos;s name can&apos;t contain a line end, a tab or any other control character.</source>
+        <translation>Der Name einer Vorlage darf kein Zeilenende, keinen Tabulator und kein anderes Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>A template&apos;s name can&apos;t contain a folder: %1</source>
+        <translation>Der Name einer Vorlage darf keinen Ordner enthalten: %1</translation>
+    </message>
+    <message>
+        <source>A byte that is not valid UTF-8 in line %1 can&apos;t be stored as %2.</source>
+        <translation>Ein Byte in Zeile %1, das kein gültiges UTF-8 ist, lässt sich nicht als %2 speichern.</translation>
+    </message>
+    <message>
+        <source>The character %1 in line %2 can&apos;t be stored as %3.</source>
+        <translation>Das Zeichen %1 in Zeile %2 lässt sich nicht als %3 speichern.</translation>
+    </message>
+    <message>
+        <source>The text can&apos;t be stored as Windows-1252, because it would be read back as %1.</source>
+        <translation>Der Text lässt sich nicht als Windows-1252 speichern, weil er beim Lesen als %1 gälte.</translation>
+    </message>
+    <message>
+        <source>it has too many lines</source>
+        <translation>sie hat zu viele Zeilen</translation>
+    </message>
+    <message>
+        <source>its name contains a NUL character</source>
+        <translation>ihr Name enthält ein Nullzeichen</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>sie ist schreibgeschützt</translation>
+    </message>
+</context>
+<context>
     <name>LivePace</name>
     <message>
         <source>This page is very large: it is shown again when it is saved.</source>
@@ -242,6 +389,17 @@ Mehr dazu mit &apos;zephira --help&apos;.
     <message>
         <source>Other width</source>
         <translation>Andere Breite</translation>
+    </message>
+</context>
+<context>
+    <name>Pictures</name>
+    <message>
+        <source>The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren&apos;t shown.</source>
+        <translation>Das Bild %1 hat %2 x %3 Pixel. Bilder mit mehr als 100 Megapixeln werden nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>The picture %1 can&apos;t be shown: %2.</source>
+        <translation>Das Bild %1 kann nicht gezeigt werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -383,6 +541,56 @@ Mehr dazu mit &apos;zephira --help&apos;.
     <message>
         <source>Left out: %1.</source>
         <translation>Ausgelassen: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Shell</name>
+    <message>
+        <source>%1 can&apos;t be found.</source>
+        <translation>%1 ist nicht zu finden.</translation>
+    </message>
+    <message>
+        <source>The desktop has no program that opens %1.</source>
+        <translation>Die Arbeitsumgebung hat kein Programm, das %1 öffnet.</translation>
+    </message>
+    <message>
+        <source>The program %1 can&apos;t be found.</source>
+        <translation>Das Programm %1 ist nicht zu finden.</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a program.</source>
+        <translation>%1 ist kein Programm.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be started: %2.</source>
+        <translation>%1 lässt sich nicht starten: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Spelling</name>
+    <message>
+        <source>There is no spelling dictionary. Please install the package hunspell-en-us.</source>
+        <translation>Es gibt kein Wörterbuch für die Rechtschreibung. Bitte installieren Sie das Paket hunspell-en-us.</translation>
+    </message>
+    <message>
+        <source>There is no spelling dictionary %1.</source>
+        <translation>Das Wörterbuch %1 für die Rechtschreibung gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The list of names %1 is missing, so tags and keywords count as unknown words.</source>
+        <translation>Die Namensliste %1 fehlt, deshalb gelten Tags und Schlüsselwörter als unbekannte Wörter.</translation>
+    </message>
+    <message>
+        <source>The file %1 is too large for a list of words, so it isn&apos;t used.</source>
+        <translation>Die Datei %1 ist für eine Wortliste zu groß und wird deshalb nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Not every line of the file %1 is a word. Unused lines: %2; the first is line %3.</source>
+        <translation>Nicht jede Zeile der Datei %1 ist ein Wort. Nicht verwendete Zeilen: %2; die erste ist Zeile %3.</translation>
+    </message>
+    <message>
+        <source>This word is too long to be added.</source>
+        <translation>Dieses Wort ist zu lang, um aufgenommen zu werden.</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "desktop/findfileswindow.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -22,7 +23,8 @@ Result<QUrl> addressOf(const QString &pathOrUrl)
 {
     if (QDir::isAbsolutePath(pathOrUrl)) {
         if (!QFileInfo::exists(pathOrUrl))
-            return Error{Error::Code::NotFound, u"%1 can't be found."_s.arg(pathOrUrl)};
+            return Error{Error::Code::NotFound,
+                         QCoreApplication::translate("Shell", "%1 can't be found.").arg(pathOrUrl)};
         return QUrl::fromLocalFile(pathOrUrl);
     }
     const QUrl url(pathOrUrl, QUrl::StrictMode);
@@ -49,7 +51,8 @@ Result<void> DesktopShell::open(const QString &pathOrUrl)
     if (!url)
         return url.error();
     if (!QDesktopServices::openUrl(url.value()))
-        return Error{Error::Code::Failed, u"The desktop has no program that opens %1."_s.arg(pathOrUrl)};
+        return Error{Error::Code::Failed,
+                     QCoreApplication::translate("Shell", "The desktop has no program that opens %1.").arg(pathOrUrl)};
     return {};
 }
 
@@ -60,16 +63,19 @@ Result<void> DesktopShell::start(const QString &program, const QStringList &argu
     if (!QDir::isAbsolutePath(program))
         return Error{Error::Code::Refused, u"\"%1\" isn't the full path of a program."_s.arg(program)};
     if (!file.exists())
-        return Error{Error::Code::NotFound, u"The program %1 can't be found."_s.arg(program)};
+        return Error{Error::Code::NotFound,
+                     QCoreApplication::translate("Shell", "The program %1 can't be found.").arg(program)};
     if (!file.isFile() || !file.isExecutable())
-        return Error{Error::Code::Refused, u"%1 isn't a program."_s.arg(program)};
+        return Error{Error::Code::Refused, QCoreApplication::translate("Shell", "%1 isn't a program.").arg(program)};
 
     QProcess process;
     process.setProgram(program);
     process.setArguments(arguments);
     process.setWorkingDirectory(QDir::homePath());
     if (!process.startDetached())
-        return Error{Error::Code::Failed, u"%1 can't be started: %2."_s.arg(program, process.errorString())};
+        return Error{
+            Error::Code::Failed,
+            QCoreApplication::translate("Shell", "%1 can't be started: %2.").arg(program, process.errorString())};
     return {};
 }
 
@@ -77,7 +83,7 @@ Result<void> DesktopShell::showProperties(const QString &path)
 {
     const QFileInfo file(path);
     if (!file.exists() && !file.isSymLink())
-        return Error{Error::Code::NotFound, u"%1 can't be found."_s.arg(path)};
+        return Error{Error::Code::NotFound, QCoreApplication::translate("Shell", "%1 can't be found.").arg(path)};
     if (!showInFileManager(FileManagerView::ItemProperties, path))
         showBeside(new FilePropertiesWindow(path, QApplication::activeWindow()));
     return {};

@@ -3,6 +3,7 @@
 
 #include "files/diskfilestore.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -30,7 +31,8 @@ constexpr QFile::Permissions fileMode = QFile::ReadOwner | QFile::WriteOwner;
 Error unmade(const QString &folder)
 {
     return {Error::Code::Unwritable,
-            u"The folder %1 can't be created: %2."_s.arg(folder, QString::fromLocal8Bit(std::strerror(errno)))};
+            QCoreApplication::translate("FileErrors", "The folder %1 can't be created: %2.")
+                .arg(folder, QString::fromLocal8Bit(std::strerror(errno)))};
 }
 
 /// Creates a folder and its missing parents, accessible only to the user.
@@ -56,7 +58,8 @@ Result<void> copyMissing(const QString &source, const QString &target)
     QFile file(source);
     if (!file.copy(target) && !QFileInfo::exists(target)) {
         return Error{Error::Code::Unwritable,
-                     u"The file %1 can't be copied to %2: %3."_s.arg(source, target, file.errorString())};
+                     QCoreApplication::translate("FileErrors", "The file %1 can't be copied to %2: %3.")
+                         .arg(source, target, file.errorString())};
     }
     QFile::setPermissions(target, fileMode);
     return {};
@@ -154,8 +157,10 @@ Result<QString> prepareAppPath(const QString &executableFolder, const QString &i
             return readableFolder(folder);
         return Error{
             Error::Code::NotFound,
-            u"Zephira can't start: there is no %1 next to the program or in %2. Please reinstall the program."_s.arg(
-                iniName, sources.constFirst())};
+            QCoreApplication::translate(
+                "FileErrors",
+                "Zephira can't start: there is no %1 next to the program or in %2. Please reinstall the program.")
+                .arg(iniName, sources.constFirst())};
     }
     QStringList offered;
     if (const Result<void> filled = fillFolder(sources, folder, isComplete ? offers.paths() : QSet<QString>(), offered);
@@ -182,7 +187,9 @@ Result<QString> scratchFolder(const QString &cacheHome)
     if (!S_ISDIR(status.st_mode) || status.st_uid != ::geteuid()) {
         return Error{
             Error::Code::Refused,
-            u"%1 isn't a folder that belongs to you, so Zephira doesn't write temporary files there."_s.arg(folder)};
+            QCoreApplication::translate(
+                "FileErrors", "%1 isn't a folder that belongs to you, so Zephira doesn't write temporary files there.")
+                .arg(folder)};
     }
     if ((status.st_mode & 07777) != folderMode && ::chmod(name.constData(), folderMode) != 0)
         return unmade(folder);

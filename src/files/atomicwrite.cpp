@@ -4,6 +4,7 @@
 #include "files/fileerror.h"
 #include "files/temporaryfiles.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QRandomGenerator>
 
@@ -58,7 +59,8 @@ Result<void> AtomicWrite::begin(mode_t newMode)
         return target.error();
     m_target = std::move(target).value();
     if (const int error = createTemporary(newMode); error == EACCES || error == EPERM)
-        return saveError(m_path, Error::Code::Unwritable, u"its folder does not allow new files"_s);
+        return saveError(m_path, Error::Code::Unwritable,
+                         QCoreApplication::translate("FileErrors", "its folder does not allow new files"));
     else if (error != 0)
         return saveError(m_path, error);
     return {};

@@ -8,6 +8,7 @@
 #include "files/mappedfile.h"
 #include "files/textfile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QScopeGuard>
 
@@ -66,7 +67,9 @@ private:
 
 Error tooLarge(const QString &path)
 {
-    return readError(path, Error::Code::TooLarge, u"it is larger than %1 MiB"_s.arg(maximumFileSize / (1024 * 1024)));
+    return readError(
+        path, Error::Code::TooLarge,
+        QCoreApplication::translate("FileErrors", "it is larger than %1 MiB").arg(maximumFileSize / (1024 * 1024)));
 }
 
 } // namespace
@@ -90,7 +93,8 @@ Result<DiskFileStore::OpenFile> DiskFileStore::open(const QString &path) const
     if (S_ISDIR(status.st_mode))
         return readError(path, EISDIR);
     if (!S_ISREG(status.st_mode))
-        return readError(path, Error::Code::Unreadable, u"it is not a regular file"_s);
+        return readError(path, Error::Code::Unreadable,
+                         QCoreApplication::translate("FileErrors", "it is not a regular file"));
     if (status.st_size > maximumFileSize)
         return tooLarge(path);
     const int file = m_calls.open(name->constData(), readFlags);

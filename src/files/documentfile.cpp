@@ -3,6 +3,7 @@
 
 #include "files/recoverycopies.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 #include <vector>
@@ -91,11 +92,15 @@ bool DocumentFile::isUnseen(const QString &path) const
 Result<QString> DocumentFile::keepVersion(const QString &path)
 {
     const auto refused = [&](const Error &error) {
-        const QString version = isUnseen(path) ? u"the version on disk, which is not the one that was opened,"_s
-                                               : u"the version on disk, which would be overwritten,"_s;
-        return Error{error.code,
-                     u"The file \""_s + path + u"\" was not saved, because "_s + version
-                         + u" could not be backed up. "_s + error.sentence};
+        const QString sentence = isUnseen(path)
+            ? QCoreApplication::translate(
+                "FileErrors",
+                "The file \"%1\" was not saved, because the version on disk, which is not the "
+                "one that was opened, could not be backed up.")
+            : QCoreApplication::translate("FileErrors",
+                                          "The file \"%1\" was not saved, because the version on disk, which would be "
+                                          "overwritten, could not be backed up.");
+        return Error{error.code, sentence.arg(path) + u' ' + error.sentence};
     };
     Result<QByteArray> bytes = m_files.read(path);
     if (!bytes)

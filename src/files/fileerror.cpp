@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/fileerror.h"
 
+#include "core/translation.h"
+
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -18,33 +22,35 @@ struct Reason {
 };
 
 constexpr std::array reasons{
-    Reason{ENOSPC, u"the disk is full"},
-    Reason{EDQUOT, u"the disk quota is used up"},
-    Reason{EFBIG, u"it is larger than the system allows"},
-    Reason{EROFS, u"the disk is read-only"},
-    Reason{EACCES, u"permission was denied"},
-    Reason{EPERM, u"permission was denied"},
-    Reason{EISDIR, u"it is a folder"},
-    Reason{ENOTDIR, u"a part of its path is not a folder"},
-    Reason{ENOENT, u"it does not exist"},
-    Reason{ENAMETOOLONG, u"its name is too long"},
-    Reason{ELOOP, u"its symbolic links form a loop"},
-    Reason{EIO, u"the disk reported an error"},
-    Reason{EMFILE, u"too many files are open"},
-    Reason{ENFILE, u"too many files are open"},
-    Reason{ENOMEM, u"there is not enough memory"},
-    Reason{ETXTBSY, u"it is a program that is running"},
+    Reason{ENOSPC, ZEPHIRA_TEXT("FileErrors", "the disk is full")},
+    Reason{EDQUOT, ZEPHIRA_TEXT("FileErrors", "the disk quota is used up")},
+    Reason{EFBIG, ZEPHIRA_TEXT("FileErrors", "it is larger than the system allows")},
+    Reason{EROFS, ZEPHIRA_TEXT("FileErrors", "the disk is read-only")},
+    Reason{EACCES, ZEPHIRA_TEXT("FileErrors", "permission was denied")},
+    Reason{EPERM, ZEPHIRA_TEXT("FileErrors", "permission was denied")},
+    Reason{EISDIR, ZEPHIRA_TEXT("FileErrors", "it is a folder")},
+    Reason{ENOTDIR, ZEPHIRA_TEXT("FileErrors", "a part of its path is not a folder")},
+    Reason{ENOENT, ZEPHIRA_TEXT("FileErrors", "it does not exist")},
+    Reason{ENAMETOOLONG, ZEPHIRA_TEXT("FileErrors", "its name is too long")},
+    Reason{ELOOP, ZEPHIRA_TEXT("FileErrors", "its symbolic links form a loop")},
+    Reason{EIO, ZEPHIRA_TEXT("FileErrors", "the disk reported an error")},
+    Reason{EMFILE, ZEPHIRA_TEXT("FileErrors", "too many files are open")},
+    Reason{ENFILE, ZEPHIRA_TEXT("FileErrors", "too many files are open")},
+    Reason{ENOMEM, ZEPHIRA_TEXT("FileErrors", "there is not enough memory")},
+    Reason{ETXTBSY, ZEPHIRA_TEXT("FileErrors", "it is a program that is running")},
 };
 
 QString reasonOf(int error)
 {
     const auto known = std::ranges::find_if(reasons, [=](const Reason &r) { return r.error == error; });
-    return known == reasons.end() ? QString::fromLocal8Bit(std::strerror(error)) : known->text.toString();
+    return known == reasons.end() ? QString::fromLocal8Bit(std::strerror(error))
+                                  : translated("FileErrors", known->text);
 }
 
-Error fileError(const QString &path, QStringView verb, Error::Code code, const QString &reason)
+/// `sentence` has places for the path and the reason.
+Error fileError(const QString &sentence, const QString &path, Error::Code code, const QString &reason)
 {
-    return {code, u"The file \""_s + path + u"\" could not be "_s + verb.toString() + u": "_s + reason + u'.'};
+    return {code, sentence.arg(path, reason)};
 }
 
 } // namespace
@@ -57,23 +63,27 @@ Error readError(const QString &path, int error)
 Error saveError(const QString &path, int error)
 {
     // When a new file is saved, only its folder can be missing.
-    return saveError(path, Error::Code::Unwritable, error == ENOENT ? u"its folder does not exist"_s : reasonOf(error));
+    return saveError(path, Error::Code::Unwritable,
+                     error == ENOENT ? QCoreApplication::translate("FileErrors", "its folder does not exist")
+                                     : reasonOf(error));
 }
 
 Error removeError(const QString &path, int error)
 {
-    return fileError(path, u"removed", error == ENOENT ? Error::Code::NotFound : Error::Code::Unwritable,
-                     reasonOf(error));
+    return fileError(QCoreApplication::translate("FileErrors", "The file \"%1\" could not be removed: %2."), path,
+                     error == ENOENT ? Error::Code::NotFound : Error::Code::Unwritable, reasonOf(error));
 }
 
 Error readError(const QString &path, Error::Code code, const QString &reason)
 {
-    return fileError(path, u"read", code, reason);
+    return fileError(QCoreApplication::translate("FileErrors", "The file \"%1\" could not be read: %2."), path, code,
+                     reason);
 }
 
 Error saveError(const QString &path, Error::Code code, const QString &reason)
 {
-    return fileError(path, u"saved", code, reason);
+    return fileError(QCoreApplication::translate("FileErrors", "The file \"%1\" could not be saved: %2."), path, code,
+                     reason);
 }
 
 } // namespace zephira

@@ -3,6 +3,7 @@
 
 #include "files/utf8.h"
 
+#include <QCoreApplication>
 #include <QtEndian>
 
 #include <algorithm>
@@ -106,15 +107,20 @@ qsizetype lineBehind(QByteArrayView before)
 
 Error unencodable(QByteArrayView utf8, QByteArrayView rest, Encoding encoding)
 {
-    const QString place = u" in line "_s + QString::number(lineBehind(utf8.first(utf8.size() - rest.size())))
-        + u" can't be stored as "_s + encodingName(encoding) + u'.';
+    const QString line = QString::number(lineBehind(utf8.first(utf8.size() - rest.size())));
+    const QString name = encodingName(encoding);
     const std::optional<char32_t> codePoint = Utf8Reader(rest).next();
     if (!codePoint)
-        return {Error::Code::Unencodable, u"A byte that is not valid UTF-8"_s + place};
-    const QString number = QString::number(*codePoint, 16).toUpper().rightJustified(4, u'0');
+        return {Error::Code::Unencodable,
+                QCoreApplication::translate("FileErrors",
+                                            "A byte that is not valid UTF-8 in line %1 can't be stored as %2.")
+                    .arg(line, name)};
+    const QString number = u"(U+%1)"_s.arg(QString::number(*codePoint, 16).toUpper().rightJustified(4, u'0'));
     const QString shown =
         QChar::isPrint(*codePoint) ? u"\u201C"_s + QString::fromUcs4(&*codePoint, 1) + u"\u201D "_s : QString();
-    return {Error::Code::Unencodable, u"The character "_s + shown + u"(U+"_s + number + u")"_s + place};
+    return {Error::Code::Unencodable,
+            QCoreApplication::translate("FileErrors", "The character %1 in line %2 can't be stored as %3.")
+                .arg(shown + number, line, name)};
 }
 
 /// Writes each code point through `put`, which returns the position after it, or nullptr if it can't be encoded.
@@ -175,7 +181,9 @@ Result<QByteArray> encodeWindows1252(QByteArrayView utf8, const TextFormat &form
     if (other.isEmpty())
         return bytes;
     return Error{Error::Code::Unencodable,
-                 u"The text can't be stored as Windows-1252, because it would be read back as "_s + other + u'.'};
+                 QCoreApplication::translate(
+                     "FileErrors", "The text can't be stored as Windows-1252, because it would be read back as %1.")
+                     .arg(other)};
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include "files/fileerror.h"
 #include "files/textfile.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -33,7 +35,8 @@ Result<QStringList> readLines(const FileStore &files, const QString &path)
     const DecodedText text = decodeText(std::move(bytes).value());
     // Counted before the lines are created, because they take many times the memory of their text.
     if (std::max(text.utf8.count('\n'), text.utf8.count('\r')) >= maximumLineCount)
-        return readError(path, Error::Code::TooLarge, u"it has too many lines"_s);
+        return readError(path, Error::Code::TooLarge,
+                         QCoreApplication::translate("FileErrors", "it has too many lines"));
     return textLines(QString::fromUtf8(text.utf8));
 }
 

@@ -3,6 +3,7 @@
 
 #include "files/fileerror.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -31,7 +32,8 @@ Result<QByteArray> linkTarget(FileSystemCalls &calls, const QString &path)
 {
     QByteArray target = QFile::encodeName(path);
     if (target.contains('\0'))
-        return saveError(path, Error::Code::Unwritable, u"its name contains a NUL character"_s);
+        return saveError(path, Error::Code::Unwritable,
+                         QCoreApplication::translate("FileErrors", "its name contains a NUL character"));
     for (int links = 0; links <= maximumLinks; ++links) {
         struct stat status = {};
         if (calls.lstat(target.constData(), status) != 0) {
@@ -73,10 +75,11 @@ Result<WriteTarget> writeTarget(FileSystemCalls &calls, const QString &path)
     if (S_ISDIR(mode))
         return saveError(path, EISDIR);
     if (!S_ISREG(mode))
-        return saveError(path, Error::Code::Unwritable, u"it is not a regular file"_s);
+        return saveError(path, Error::Code::Unwritable,
+                         QCoreApplication::translate("FileErrors", "it is not a regular file"));
     // access() allows the superuser to write everywhere, but a file that nobody may write to is protected on purpose.
     if ((mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0)
-        return saveError(path, Error::Code::Unwritable, u"it is read-only"_s);
+        return saveError(path, Error::Code::Unwritable, QCoreApplication::translate("FileErrors", "it is read-only"));
     if (calls.access(target.path.constData(), W_OK) != 0)
         return saveError(path, errno);
     return target;

@@ -4,6 +4,7 @@
 #include "core/filestore.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QImageReader>
 #include <QScopeGuard>
 
@@ -26,8 +27,9 @@ bool isTooLarge(QSize size)
 Error tooManyPixels(const QString &path, QSize size)
 {
     return {Error::Code::TooLarge,
-            u"The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown."_s.arg(
-                path, QString::number(size.width()), QString::number(size.height()))};
+            QCoreApplication::translate(
+                "Pictures", "The picture %1 has %2 x %3 pixels. Pictures above 100 megapixels aren't shown.")
+                .arg(path, QString::number(size.width()), QString::number(size.height()))};
 }
 
 } // namespace
@@ -52,7 +54,9 @@ Result<QPixmap> readPicture(const FileStore &files, const QString &path)
     QImageReader::setAllocationLimit(memoryForLargestPicture);
     QImage image = reader.read();
     if (image.isNull())
-        return Error{Error::Code::Malformed, u"The picture %1 can't be shown: %2."_s.arg(path, reader.errorString())};
+        return Error{Error::Code::Malformed,
+                     QCoreApplication::translate("Pictures", "The picture %1 can't be shown: %2.")
+                         .arg(path, reader.errorString())};
     // Some formats don't say their size in advance.
     if (isTooLarge(image.size()))
         return tooManyPixels(path, image.size());

@@ -5,6 +5,8 @@
 #include "tools/spelling/customdictionary.h"
 #include "tools/spelling/words.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -23,8 +25,10 @@ Result<void> Lexicon::OpenLexicon()
     if (!m_speller) {
         m_dictionaries = m_parts.findDictionaries();
         if (m_dictionaries.empty()) {
-            return Error{Error::Code::NotFound,
-                         u"There is no spelling dictionary. Please install the package hunspell-en-us."_s};
+            return Error{
+                Error::Code::NotFound,
+                QCoreApplication::translate(
+                    "Spelling", "There is no spelling dictionary. Please install the package hunspell-en-us.")};
         }
         const Result<Speller *> speller = m_parts.loadSpeller();
         if (!speller)
@@ -77,7 +81,8 @@ Result<void> Lexicon::choose(const QString &dictionary)
 {
     const auto chosen = std::ranges::find(m_dictionaries, dictionary, &Dictionary::name);
     if (chosen == m_dictionaries.end() || !m_speller)
-        return Error{Error::Code::NotFound, u"There is no spelling dictionary %1."_s.arg(dictionary)};
+        return Error{Error::Code::NotFound,
+                     QCoreApplication::translate("Spelling", "There is no spelling dictionary %1.").arg(dictionary)};
     if (const Result<void> opened = m_speller->open(*chosen); !opened)
         return opened;
     const bool isAnother = !m_dictionary.isEmpty() && m_dictionary != dictionary;
@@ -104,8 +109,9 @@ void Lexicon::readNames()
         m_names.remove({});
         return;
     }
-    m_notes.append(u"The list of names %1 is missing, so tags and keywords count as unknown words."_s.arg(
-        m_parts.nameFiles.value(0)));
+    m_notes.append(QCoreApplication::translate(
+                       "Spelling", "The list of names %1 is missing, so tags and keywords count as unknown words.")
+                       .arg(m_parts.nameFiles.value(0)));
 }
 
 /// A missing file has no words.
@@ -113,8 +119,10 @@ Result<QByteArray> Lexicon::customBytes() const
 {
     const FileSignature signature = m_parts.files.signature(m_parts.customFile);
     if (signature.exists && signature.size > largestCustomFile) {
-        return Error{Error::Code::TooLarge,
-                     u"The file %1 is too large for a list of words, so it isn't used."_s.arg(m_parts.customFile)};
+        return Error{
+            Error::Code::TooLarge,
+            QCoreApplication::translate("Spelling", "The file %1 is too large for a list of words, so it isn't used.")
+                .arg(m_parts.customFile)};
     }
     Result<QByteArray> bytes = m_parts.files.read(m_parts.customFile);
     if (!bytes && bytes.error().code == Error::Code::NotFound)
@@ -132,10 +140,12 @@ void Lexicon::readCustomWords()
     }
     const CustomDictionary custom = readCustomDictionary(bytes.value());
     if (custom.faultyLines > 0) {
-        m_notes.append(u"Not every line of the file %1 is a word. Unused lines: %2; the first is line %3."_s
-                           .arg(m_parts.customFile)
-                           .arg(custom.faultyLines)
-                           .arg(custom.firstFaultyLine));
+        m_notes.append(
+            QCoreApplication::translate(
+                "Spelling", "Not every line of the file %1 is a word. Unused lines: %2; the first is line %3.")
+                .arg(m_parts.customFile)
+                .arg(custom.faultyLines)
+                .arg(custom.firstFaultyLine));
     }
     useCustomWords(custom.words);
 }
@@ -160,7 +170,8 @@ Result<void> Lexicon::add(const QString &word)
 {
     // Such a line would count as faulty when the file is read again.
     if (!isCustomWord(word))
-        return Error{Error::Code::Refused, u"This word is too long to be added."_s};
+        return Error{Error::Code::Refused,
+                     QCoreApplication::translate("Spelling", "This word is too long to be added.")};
     // Another window may have added words since the file was read.
     const Result<QByteArray> bytes = customBytes();
     if (!bytes)
