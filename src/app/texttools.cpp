@@ -34,14 +34,12 @@ const QString searchPage = u"SearchPage"_s;
 TextTools::TextTools(const Parts &parts)
     : m_parts(parts), m_panel(new ToolPanel(parts.window)), m_helpers(parts.rt, parts.context, *m_panel)
 {
-    m_helpers.setServices(parts.services);
+    TextServices services = parts.services;
+    services.showCode = [this] { showCode(); };
+    m_helpers.setServices(std::move(services));
     m_panel->leave = [&rt = parts.rt] { rt.setFocus(); };
     m_panel->addPage(searchPage, QCoreApplication::translate("ToolPanel", "Search"), [this](QWidget *parent) {
-        const auto showCode = [this] {
-            m_parts.views.selectTab(WorkspaceView::Code);
-            m_parts.context.designer.finishLeaving();
-        };
-        return new SearchPage({m_parts.rt, m_parts.context, showCode}, parent);
+        return new SearchPage({m_parts.rt, m_parts.context, [this] { showCode(); }}, parent);
     });
 }
 
@@ -57,8 +55,15 @@ void TextTools::start()
     showBreadcrumb(wholeNumber(m_parts.context.settings, UserSetting::Breadcrumb) != 0);
 }
 
+void TextTools::showCode()
+{
+    m_parts.views.selectTab(WorkspaceView::Code);
+    m_parts.context.designer.finishLeaving();
+}
+
 void TextTools::languageChanged()
 {
+    m_helpers.languageChanged();
     if (m_breadcrumb)
         m_breadcrumb->takeLanguage();
 }

@@ -55,6 +55,7 @@ public:
     void runTextCommand(TextCommand command) override;
 
 private:
+    void showCode();
     void showBreadcrumb(bool on);
     /// Sets the check marks of the menus.
     void showSwitches();

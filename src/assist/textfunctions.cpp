@@ -13,6 +13,7 @@
 #include "assist/pairs/typedpairs.h"
 #include "assist/texthelpers.h"
 #include "completion/completer.h"
+#include "problems/problems.h"
 
 #include <algorithm>
 #include <array>
@@ -43,6 +44,31 @@ void switchCompletion(TextHelpers &helpers)
     helpers.completer().setOn(!helpers.completer().isOn());
 }
 
+void listProblems(TextHelpers &helpers)
+{
+    helpers.problems().list();
+}
+
+void nextProblem(TextHelpers &helpers)
+{
+    helpers.problems().goToNext();
+}
+
+void previousProblem(TextHelpers &helpers)
+{
+    helpers.problems().goToPrevious();
+}
+
+bool marksProblems(TextHelpers &helpers)
+{
+    return helpers.problems().isOn();
+}
+
+void switchProblems(TextHelpers &helpers)
+{
+    helpers.problems().setOn(!helpers.problems().isOn());
+}
+
 using enum TextCommand;
 
 constexpr std::array rows{
@@ -58,10 +84,14 @@ constexpr std::array rows{
     Row{GoToLastEdit, goToLastEdit},
     Row{GoToSymbol, goToSymbol},
     Row{JoinLines, joinLines},
+    Row{ListProblems, listProblems},
     Row{MakeLowerCase, makeLowerCase},
     Row{MakeUpperCase, makeUpperCase},
+    Row{MarkProblems, switchProblems, marksProblems},
     Row{MoveLinesDown, moveLinesDown},
     Row{MoveLinesUp, moveLinesUp},
+    Row{NextProblem, nextProblem},
+    Row{PreviousProblem, previousProblem},
     Row{RemoveTrailingBlanks, removeTrailingBlanks},
     Row{RenameTag, renameTag},
     Row{SelectAllOccurrences, selectAllOccurrences},

@@ -10,6 +10,7 @@
 #include "assist/picturetip.h"
 #include "completion/completer.h"
 #include "core/appcontext.h"
+#include "problems/problems.h"
 
 namespace zephira {
 
@@ -26,6 +27,13 @@ void TextHelpers::start()
     completer();
     swatches();
     new PictureTip(m_rt, m_context);
+    problems().start();
+}
+
+void TextHelpers::languageChanged()
+{
+    if (m_problems)
+        m_problems->languageChanged();
 }
 
 Completer &TextHelpers::completer()
@@ -40,6 +48,16 @@ ColourSwatches &TextHelpers::swatches()
     if (!m_swatches)
         m_swatches = new ColourSwatches(m_rt, m_context);
     return *m_swatches;
+}
+
+Problems &TextHelpers::problems()
+{
+    if (!m_problems) {
+        m_problems =
+            std::make_unique<Problems>(Problems::Parts{m_rt, m_context, m_panel, [this] { return completer().data(); },
+                                                       m_services.loadTidy, m_services.notice, m_services.showCode});
+    }
+    return *m_problems;
 }
 
 Elements &TextHelpers::elements()

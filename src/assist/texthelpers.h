@@ -15,6 +15,7 @@ class EnclosingElements;
 class LastEdit;
 class Completer;
 class ColourSwatches;
+class Problems;
 class ToolPanel;
 class TypedPairs;
 
@@ -46,6 +47,9 @@ public:
     Elements &elements();
     EnclosingElements &enclosing();
     TypedPairs &typedPairs();
+    Problems &problems();
+    /// The text is in another language now.
+    void languageChanged();
 
 private:
     CodeMax &m_rt;
@@ -58,6 +62,7 @@ private:
     TextServices m_services;
     std::unique_ptr<Abbreviations> m_abbreviations;
     std::unique_ptr<Completer> m_completer;
+    std::unique_ptr<Problems> m_problems;
     ColourSwatches *m_swatches = nullptr;
 };
 

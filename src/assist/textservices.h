@@ -16,6 +16,8 @@ struct TextServices {
     TidyEngineLoader loadTidy;
     /// Shows a sentence in the status bar for a while.
     std::function<void(const QString &)> notice = [](const QString &) {};
+    /// Brings the code view to the front.
+    std::function<void()> showCode = [] {};
 };
 
 } // namespace zephira

@@ -103,6 +103,17 @@ constexpr MenuItem lineItems[] = {
           ZEPHIRA_TEXT("TextMenu", "Remove the blanks at the ends of the selected lines, or of all lines")),
 };
 
+constexpr MenuItem problemItems[] = {
+    entry(u"textNextProblem", ZEPHIRA_TEXT("TextMenu", "&Next Problem"), TextCommand::NextProblem,
+          ZEPHIRA_TEXT("TextMenu", "Go to the next place where something is wrong, and tell what"), u"F4"),
+    entry(u"textPreviousProblem", ZEPHIRA_TEXT("TextMenu", "&Previous Problem"), TextCommand::PreviousProblem,
+          ZEPHIRA_TEXT("TextMenu", "Go to the place before where something is wrong, and tell what"), u"Shift+F4"),
+    everywhere(entry(u"textListProblems", ZEPHIRA_TEXT("TextMenu", "&List Problems"), TextCommand::ListProblems,
+                     ZEPHIRA_TEXT("TextMenu", "Open the panel with the list of what is wrong in this document"))),
+    shown(u"textMarkProblems", ZEPHIRA_TEXT("TextMenu", "&Mark Problems"), TextCommand::MarkProblems,
+          ZEPHIRA_TEXT("TextMenu", "Check the document a moment after each change, and mark what is wrong")),
+};
+
 constexpr MenuItem showItems[] = {
     shown(textname::breadcrumb, ZEPHIRA_TEXT("TextMenu", "&Breadcrumb"), TextCommand::ShowBreadcrumb,
           ZEPHIRA_TEXT("TextMenu", "Show the elements around the caret in a line below the text")),
@@ -160,6 +171,7 @@ constexpr MenuItem menus[] = {
     menu(u"textLines", ZEPHIRA_TEXT("TextMenu", "&Lines"), lineItems),
     menu(u"textLetters", ZEPHIRA_TEXT("TextMenu", "Le&tters"), caseItems),
     menu(u"textCode", ZEPHIRA_TEXT("TextMenu", "C&ode"), codeItems),
+    menu(u"textProblems", ZEPHIRA_TEXT("TextMenu", "&Problems"), problemItems),
     menu(u"textShow", ZEPHIRA_TEXT("TextMenu", "&Show"), showItems),
 };
 // clang-format on

@@ -265,11 +265,11 @@ void Completer::afterTyping(char typed)
         open(found);
 }
 
-PlaceLanguage Completer::language() const
+PlaceLanguage Completer::languageOf(const CodeMax &rt, const AppContext &context)
 {
-    if (m_context.document.languageRow() == language::StyleSheets)
+    if (context.document.languageRow() == language::StyleSheets)
         return PlaceLanguage::StyleSheet;
-    const QString name = m_rt.language().toLower();
+    const QString name = rt.language().toLower();
     if (name == u"html")
         return PlaceLanguage::Html;
     return name == u"xml" ? PlaceLanguage::Xml : PlaceLanguage::Other;
@@ -292,18 +292,18 @@ void Completer::complete()
         open(place());
 }
 
-const CompletionData &Completer::data()
+std::shared_ptr<const CompletionData> Completer::data()
 {
     if (!m_data) {
         const Result<QByteArray> file = m_context.files.read(m_context.appPath + u"/deps/completion.dat"_s);
-        m_data = std::make_unique<CompletionData>(file ? file.value() : QByteArray());
+        m_data = std::make_shared<const CompletionData>(file ? file.value() : QByteArray());
     }
-    return *m_data;
+    return m_data;
 }
 
 void Completer::open(const CompletionPlace &found)
 {
-    const ProposalSources sources{.data = data(),
+    const ProposalSources sources{.data = *data(),
                                   .colours = colourNames(),
                                   .names = [this] { return documentNames(); },
                                   .words = [this] { return documentWords(); },

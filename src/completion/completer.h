@@ -42,6 +42,11 @@ public:
     bool isOn() const { return m_isOn; }
     void setOn(bool on);
 
+    /// What is known of HTML and style sheets; read at the first call.
+    std::shared_ptr<const CompletionData> data();
+    /// Which rules the text in a control follows.
+    static PlaceLanguage languageOf(const CodeMax &rt, const AppContext &context);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -53,7 +58,7 @@ private:
     void afterTyping(char typed);
     void narrow();
     CompletionPlace place() const;
-    PlaceLanguage language() const;
+    PlaceLanguage language() const { return languageOf(m_rt, m_context); }
     void open(const CompletionPlace &place);
     void show();
     void take();
@@ -61,12 +66,11 @@ private:
     DocumentNames documentNames() const;
     QStringList documentWords() const;
     QStringList filesIn(const QByteArray &folder) const;
-    const CompletionData &data();
     bool isTextPlain() const;
 
     CodeMax &m_rt;
     const AppContext &m_context;
-    std::unique_ptr<CompletionData> m_data;
+    std::shared_ptr<const CompletionData> m_data;
     std::unique_ptr<LinkedSheets> m_sheets;
     QPointer<CompletionPopup> m_popup;
     CompletionPlace m_place;

@@ -128,6 +128,7 @@ std::vector<UserSettingRow> makeUserSettingRows()
         {CompleteWhileTyping, own, u"Text"_s, u"CompleteWhileTyping"_s, Switch, u"1"_s},
         {AutoClose, own, u"Text"_s, u"AutoClose"_s, Switch, u"0"_s},
         {ColourSwatches, own, u"Text"_s, u"ColorSwatches"_s, Switch, u"1"_s},
+        {MarkProblems, own, u"Text"_s, u"MarkProblems"_s, Switch, u"1"_s},
     };
     // clang-format on
 }

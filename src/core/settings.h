@@ -129,6 +129,7 @@ enum class UserSetting : int {
     CompleteWhileTyping,
     AutoClose,
     ColourSwatches,
+    MarkProblems,
 };
 
 /// One value of the per-user store.

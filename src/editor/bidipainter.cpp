@@ -32,6 +32,8 @@ constexpr char noSpace[] = "\xe2\x80\x8b";
 /// where stretches end, or by this number of bytes if there is none.
 constexpr qsizetype longestWhole = 16 * 1024;
 constexpr qsizetype widestMargin = 8 * 1024;
+/// Half the length of a wave below a problem, and its height.
+constexpr qreal waveStep = 2;
 constexpr int markedIndicators[] = {BoundsIndicator, MatchIndicator, BraceIndicator};
 
 QColor styleColour(const SciEngine &engine, unsigned int message, int style)
@@ -347,6 +349,14 @@ void BidiPainter::paintIndicators(QPainter &painter, const Piece &piece) const
     };
     for (const int indicator : markedIndicators)
         forEachRange(indicator, [&](const QRectF &box) { painter.drawRect(box.adjusted(0, 1, -1, -2)); });
+    for (const int indicator : {ErrorIndicator, WarningIndicator}) {
+        forEachRange(indicator, [&](const QRectF &box) {
+            QPolygonF wave;
+            for (int i = 0; box.left() + waveStep * i <= box.right(); ++i)
+                wave.append({box.left() + waveStep * i, box.bottom() - (i % 2 == 0 ? 1 : 1 + waveStep)});
+            painter.drawPolyline(wave);
+        });
+    }
     forEachRange(StrikeIndicator, [&](const QRectF &box) {
         painter.drawLine(QPointF(box.left(), box.center().y()), QPointF(box.right(), box.center().y()));
     });

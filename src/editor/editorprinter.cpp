@@ -32,7 +32,7 @@ using Sci = QsciScintillaBase;
 constexpr double headerPoints = 9;
 constexpr double marginMillimetres = 15;
 
-/// Hides the indicators of matching brackets and of the selection's bounds during its lifetime.
+/// Hides the indicators of matching brackets, of the selection's bounds and of problems during its lifetime.
 class WithoutMarks
 {
 public:
@@ -51,7 +51,7 @@ public:
     Q_DISABLE_COPY_MOVE(WithoutMarks)
 
 private:
-    static constexpr std::array marks{BraceIndicator, BoundsIndicator};
+    static constexpr std::array marks{BraceIndicator, BoundsIndicator, ErrorIndicator, WarningIndicator};
     const SciEngine &m_engine;
     std::array<qsizetype, marks.size()> m_styles{};
 };

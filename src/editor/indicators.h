@@ -3,7 +3,15 @@
 
 namespace zephira {
 
-/// The engine's indicator numbers used by the control.
-enum Indicator : int { BraceIndicator = 8, BoundsIndicator, StrikeIndicator, MatchIndicator };
+/// The engine's indicator numbers. The last two are for problems that are found in the text; their values are for whoever
+/// finds them.
+enum Indicator : int {
+    BraceIndicator = 8,
+    BoundsIndicator,
+    StrikeIndicator,
+    MatchIndicator,
+    ErrorIndicator,
+    WarningIndicator
+};
 
 } // namespace zephira

@@ -24,6 +24,8 @@ struct TidyMessage {
     int column = 0;
     /// The whole sentence, with the place as Tidy counts it.
     QString text = {};
+    /// Tidy's own name for the message; given by a check alone.
+    QByteArray key = {};
 
     friend bool operator==(const TidyMessage &, const TidyMessage &) = default;
 };
@@ -60,8 +62,9 @@ class TidyEngine
 {
 public:
     enum class Steps {
-        All,    ///< parse, clean and repair, diagnose
-        Parsing ///< parse only
+        All,     ///< parse, clean and repair, diagnose
+        Parsing, ///< parse and write
+        Checking ///< parse only, for the messages and their keys
     };
     /// The largest number of messages that are kept.
     static constexpr std::size_t mostMessages = 1'000'000;
@@ -74,7 +77,7 @@ public:
     };
 
     virtual ~TidyEngine() = default;
-    /// Reads the markup, which has LF line ends, and writes it again. Fails if the job is cancelled, if elements are
+    /// Reads the markup, which has LF line ends, and writes it again unless it is only checked. Fails if the job is cancelled, if elements are
     /// nested too deeply, if the document needs far more memory than its size suggests, or if Tidy gives up.
     virtual Result<Run> run(const QByteArray &markup, const std::vector<TidySetting> &settings, Steps steps,
                             TidyWatch &watch) const = 0;

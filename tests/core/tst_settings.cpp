@@ -102,6 +102,7 @@ private Q_SLOTS:
         QTest::newRow("completion") << UserSetting::CompleteWhileTyping << u"zephira/Text/CompleteWhileTyping"_s;
         QTest::newRow("closers") << UserSetting::AutoClose << u"zephira/Text/AutoClose"_s;
         QTest::newRow("swatches") << UserSetting::ColourSwatches << u"zephira/Text/ColorSwatches"_s;
+        QTest::newRow("problems") << UserSetting::MarkProblems << u"zephira/Text/MarkProblems"_s;
     }
 
     void userValues()

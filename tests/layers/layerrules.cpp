@@ -49,12 +49,13 @@ constexpr FolderRow folderRows[] = {
     {u"plugins", u"core widgets"},
     {u"start", u"core files plugins widgets"},
     {u"completion", u"core editor"},
-    {u"assist", u"completion core files syntax widgets editor tools"},
+    {u"problems", u"completion core editor tools widgets"},
+    {u"assist", u"completion core files problems syntax widgets editor tools"},
     {u"search", u"core files widgets editor"},
     {u"commands", u"core tools views widgets document"},
     {u"handbook", u"core files editor ftp commands"},
     {u"app",
-     u"core files syntax widgets editor assist search desktop colour tags panes views wizards settings tools ftp document plugins start commands handbook"},
+     u"core files syntax widgets editor problems assist search desktop colour tags panes views wizards settings tools ftp document plugins start commands handbook"},
 };
 
 constexpr Rule includeRules[] = {

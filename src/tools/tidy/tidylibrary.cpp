@@ -235,19 +235,25 @@ private:
     QByteArray m_output;
 };
 
+struct Messages {
+    std::vector<TidyMessage> all;
+    bool haveKeys = false;
+};
+
 /// Keeps a message of Tidy, if it is a warning or an error.
 Bool keepMessage(::TidyMessage said)
 {
-    auto *messages = static_cast<std::vector<TidyMessage> *>(tidyGetAppData(tidyGetMessageDoc(said)));
+    auto *messages = static_cast<Messages *>(tidyGetAppData(tidyGetMessageDoc(said)));
     const TidyReportLevel level = tidyGetMessageLevel(said);
     const bool isWarning = level == TidyWarning;
     const bool isError = level == TidyError || level == TidyBadDocument || level == TidyFatal;
-    if ((isWarning || isError) && messages->size() < TidyEngine::mostMessages) {
-        messages->push_back({
+    if ((isWarning || isError) && messages->all.size() < TidyEngine::mostMessages) {
+        messages->all.push_back({
             .kind = isError ? TidyMessage::Kind::Error : TidyMessage::Kind::Warning,
             .line = std::max(tidyGetMessageLine(said), 0) - 1,
             .column = std::max(tidyGetMessageColumn(said), 1) - 1,
             .text = QString::fromUtf8(tidyGetMessageOutput(said)).trimmed(),
+            .key = messages->haveKeys ? QByteArray(tidyGetMessageKey(said)) : QByteArray(),
         });
     }
     // Nothing is written to the standard error output.
@@ -302,12 +308,15 @@ struct Session {
     void operator()()
     {
         const TidyDoc document = tidyCreateWithAllocator(memory.allocator());
+        messages.haveKeys = steps == TidyEngine::Steps::Checking;
         tidySetAppData(document, &messages);
         tidySetMessageCallback(document, keepMessage);
         // A value that Tidy refuses leaves the option as it is.
         for (const TidySetting &setting : settings)
             tidyOptParseValue(document, setting.name.constData(), setting.value.constData());
         tidyParseSource(document, source.source());
+        if (steps == TidyEngine::Steps::Checking)
+            return;
         foundFontTags = hasFontTags(document);
         watch.setProgress(readingEnd);
         if (steps == TidyEngine::Steps::All) {
@@ -326,7 +335,7 @@ struct Session {
     Memory memory;
     Source source;
     Sink sink;
-    std::vector<TidyMessage> messages;
+    Messages messages;
     bool foundFontTags = false;
 };
 
@@ -338,7 +347,7 @@ Result<TidyEngine::Run> TidyLibrary::run(const QByteArray &markup, const std::ve
     Session session(markup, settings, steps, watch, __builtin_frame_address(0));
     if (const Stop stop = session.wayOut.run(session); stop != Stop::None)
         return errorFor(stop);
-    return Run{session.sink.taken(), std::move(session.messages), session.foundFontTags};
+    return Run{session.sink.taken(), std::move(session.messages.all), session.foundFontTags};
 }
 
 } // namespace zephira
