@@ -203,7 +203,10 @@ void frmmain::buildSidePane()
     addTabs(*m_sidePane->tabs(), sideTabs());
     m_sidePane->setPage(u"fileman"_s, m_filePane);
     m_sideLists = std::make_unique<SideLists>(*m_context, *m_menus, *m_sidePane, m_late);
-    m_late.add([this] { addDocumentTree(*m_sidePane, *m_rt, *m_surface); });
+    m_late.add([this] {
+        addDocumentTree(*m_sidePane, *m_rt, *m_surface,
+                        [this](qsizetype position) { return m_viewSwitch->showInDesigner(position); });
+    });
     // On a low screen the pane and the views shrink, so that the status bar stays visible.
     m_sidePane->setMinimumHeight(lowestPane);
     m_ui->views->setMinimumHeight(lowestView);

@@ -87,6 +87,15 @@ void ViewSwitch::focusView()
     m_parts.pages.currentWidget()->setFocus();
 }
 
+bool ViewSwitch::showInDesigner(qsizetype position)
+{
+    const bool isShown =
+        m_views.current() == WorkspaceView::Visual && m_parts.designer.showPlace(position, DesignerPlace::Element);
+    if (isShown)
+        focusView();
+    return isShown;
+}
+
 bool ViewSwitch::docModified() const
 {
     return m_parts.document.docModified();

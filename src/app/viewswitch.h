@@ -41,6 +41,9 @@ public:
     ViewSwitch(const AppContext &context, const Parts &parts, const WebViewsLoader &loadViews, QObject *owner);
 
     PreviewPane &preview() { return *m_preview; }
+    /// In visual mode, brings the element whose tag contains this position of the text into sight. Returns false in other
+    /// views, and if the page has no such element.
+    bool showInDesigner(qsizetype position);
     /// Focuses the current view.
     void focusView();
     QString designerBase() const { return m_views.designerBase(); }

@@ -11,6 +11,7 @@
 #include <QVariant>
 
 #include <functional>
+#include <optional>
 
 namespace zephira {
 
@@ -25,6 +26,12 @@ struct DesignerStatus {
 
 /// Whether a command may ask the user for its argument.
 enum class DesignerPrompting : int { Default = 0, PromptUser = 1, DontPromptUser = 2 };
+
+/// What is shown of a place in the page's source.
+enum class DesignerPlace {
+    Caret,   ///< the caret goes to the same character
+    Element, ///< the caret goes to the element whose tag is there; one that has no text is selected as a whole
+};
 
 /// How an entry of the designer's context menu looks.
 enum class DesignerMenuState : int { Unchecked = 0, Checked = 1, Greyed = 2 };
@@ -75,6 +82,13 @@ public:
     virtual QString documentHtml() = 0;
     /// The changes of the text that was set or loaded which make it what documentHtml() returned last, in order.
     virtual TextChanges documentChanges() const { return {}; }
+    /// Brings a position of the text that was set or loaded into sight, or if nothing of it is visible the nearest that
+    /// is: at once, or as soon as the page is there. Positions are 0-based UTF-16 code units. Returns false if the page
+    /// has no such place; nothing changes then.
+    virtual bool showPlace(qsizetype, DesignerPlace) { return false; }
+    /// The position of the caret in the text that documentHtml() returns. Nothing if the user hasn't moved the caret since
+    /// the page was shown, or if the position isn't known.
+    virtual std::optional<qsizetype> caretPlace() { return {}; }
     /// Shows a page given as text. Relative addresses in it are still resolved against baseFile().
     virtual void setDocumentHtml(const QString &html) = 0;
     /// Loads a page from the disk and makes it the base file. Raises HandlerError if the file can't be read.

@@ -2,37 +2,13 @@
 #include "panes/tagplace.h"
 
 #include "core/editingcontrol.h"
+#include "core/linecolumn.h"
 
 #include <QStringBuilder>
 
 #include <algorithm>
 
 namespace zephira {
-
-namespace {
-
-struct LineAndColumn {
-    int line = 0;
-    int column = 0;
-};
-
-/// Line and column, both 0-based, of an index, which must not be inside a line end.
-LineAndColumn placeOf(QStringView text, qsizetype index)
-{
-    LineAndColumn place;
-    qsizetype lineStart = 0;
-    for (qsizetype i = 0; i < index; ++i) {
-        const bool endsLine = text[i] == u'\n' || (text[i] == u'\r' && !(i + 1 < text.size() && text[i + 1] == u'\n'));
-        if (endsLine) {
-            ++place.line;
-            lineStart = i + 1;
-        }
-    }
-    place.column = static_cast<int>(index - lineStart);
-    return place;
-}
-
-} // namespace
 
 std::optional<qsizetype> findTag(const QString &text, const QString &tagText, qsizetype position)
 {
@@ -58,8 +34,8 @@ bool selectTag(EditingControl &editor, const QString &tagText, qsizetype positio
         return false;
     const qsizetype behindText = *start + 1 + tagText.size();
     const bool isClosed = behindText < text.size() && text[behindText] == u'>';
-    const LineAndColumn from = placeOf(text, *start);
-    const LineAndColumn to = placeOf(text, behindText + (isClosed ? 1 : 0));
+    const LineColumn from = lineColumnOf(text, *start);
+    const LineColumn to = lineColumnOf(text, behindText + (isClosed ? 1 : 0));
     editor.select({from.line, from.column, to.line, to.column});
     return true;
 }

@@ -8,6 +8,7 @@
 #include "core/errorstyles.h"
 #include "core/filestore.h"
 #include "core/languages.h"
+#include "core/linecolumn.h"
 #include "core/paths.h"
 #include "core/prompts.h"
 #include "core/usersettings.h"
@@ -16,6 +17,8 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <QUrl>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -190,13 +193,36 @@ bool WorkspaceViews::carryBack(WorkspaceView next)
     });
     const bool isDirty = designer.isDirty();
     const QString text = isDirty && change == m_change ? designer.documentHtml() : QString();
+    const std::optional<qsizetype> caret = change == m_change ? designer.caretPlace() : std::nullopt;
     if (change != m_change)
         return false;
     if (isDirty) {
         takeText(text, designer.documentChanges());
         m_window.markModified();
     }
+    m_caret = caret;
     return true;
+}
+
+/// A caret that wasn't moved in the designer leaves that of the code view, and what it has selected, as they are.
+void WorkspaceViews::takeCaret()
+{
+    if (!m_caret)
+        return;
+    EditingControl &editor = m_context.editor;
+    const LineColumn place = lineColumnOf(editor.text(), *std::exchange(m_caret, {}));
+    editor.select({place.line, place.column, place.line, place.column});
+}
+
+/// At the text's beginning nothing is to be shown.
+void WorkspaceViews::showCaretInDesigner()
+{
+    const EditingControl &editor = m_context.editor;
+    const CodeMaxRange range = editor.selection(false);
+    if (range.EndLineNo == 0 && range.EndColNo == 0)
+        return;
+    const qsizetype position = indexOf(editor.text(), {range.EndLineNo, range.EndColNo});
+    m_context.designer.showPlace(position, DesignerPlace::Caret);
 }
 
 /// Only what the designer has changed is replaced, if the code view still has the text that it was given.
@@ -222,8 +248,10 @@ void WorkspaceViews::show(WorkspaceView view)
 void WorkspaceViews::selectCode()
 {
     m_browser.navigate(emptyPage);
-    if (carryBack(WorkspaceView::Code))
-        show(WorkspaceView::Code);
+    if (!carryBack(WorkspaceView::Code))
+        return;
+    show(WorkspaceView::Code);
+    takeCaret();
 }
 
 void WorkspaceViews::selectPreview()
@@ -231,6 +259,7 @@ void WorkspaceViews::selectPreview()
     if (!carryBack(WorkspaceView::Preview))
         return;
     show(WorkspaceView::Preview);
+    takeCaret();
     switch (previewKind(m_context.document.languageRow())) {
     case PreviewKind::None:
         m_browser.navigate(shippedPage(u"filenoprev.htm"_s));
@@ -339,6 +368,7 @@ void WorkspaceViews::selectVisual()
     // editor's text.
     if (!isLoaded || m_window.docModified())
         designer.setDocumentHtml(m_context.editor.text());
+    showCaretInDesigner();
 }
 
 } // namespace zephira

@@ -91,6 +91,8 @@ private:
     void selectVisual();
     bool carryBack(WorkspaceView next);
     void takeText(const QString &text, const TextChanges &changes);
+    void takeCaret();
+    void showCaretInDesigner();
     void wait(std::optional<WorkspaceView> next);
     void show(WorkspaceView view);
 
@@ -110,6 +112,8 @@ private:
     /// The view for which visual mode is being left just now.
     std::optional<WorkspaceView> m_leavingFor;
     QString m_designerBase;
+    /// Where the caret goes in the code view, if it was moved in the designer.
+    std::optional<qsizetype> m_caret;
     /// Documents outside of the project whose pages may load from other machines.
     QSet<QString> m_permittedDocuments;
 };

@@ -66,6 +66,16 @@ int WebBench::status(DesignerCommand command) const
     return status;
 }
 
+QPointF WebBench::scrollOf(const QString &view) const
+{
+    const QList<QObject *> parts = find<QWidget>(view)->findChildren<QObject *>();
+    for (const QObject *part : parts) {
+        if (part->inherits("QWebEnginePage"))
+            return part->property("scrollPosition").toPointF();
+    }
+    return {};
+}
+
 QWidget *WebBench::keyboardOf(const QString &view) const
 {
     QWidget *target = find<QWidget>(view);

@@ -38,6 +38,9 @@ struct WebBench : WindowBench {
     /// The widget that receives keys and mouse events in the view of this name.
     QWidget *keyboardOf(const QString &view) const;
 
+    /// How far the page in the view of this name is scrolled.
+    QPointF scrollOf(const QString &view) const;
+
     QString file;
 };
 

@@ -87,6 +87,15 @@ struct FakeDesigner final : Designer {
     }
     TextChanges changes;
     TextChanges documentChanges() const override { return changes; }
+    /// The places that were shown; `caret` is told as that of the designer.
+    std::vector<std::pair<qsizetype, DesignerPlace>> places;
+    std::optional<qsizetype> caret;
+    bool showPlace(qsizetype position, DesignerPlace what) override
+    {
+        places.emplace_back(position, what);
+        return true;
+    }
+    std::optional<qsizetype> caretPlace() override { return caret; }
     void setDocumentHtml(const QString &text) override { html = text; }
     void loadDocument(const QString &path) override;
     QString baseFile() const override { return base; }

@@ -139,6 +139,7 @@ void DesignerWidget::takeText(const QString &source)
 {
     m_text = PageRoundTrip(source, freshMarkPrefix(source), documentKind(m_baseFile));
     m_written = {};
+    m_placeToShow.reset();
     m_alignment.reset();
     m_page->setAllowance(static_cast<int>(source.size() / charactersInMillisecond));
 }
@@ -189,6 +190,8 @@ void DesignerWidget::write(bool ready)
                      else
                          self->lookForPage(load, 1);
                  });
+    // The engine reads the page meanwhile.
+    sendPlace();
 }
 
 /// A page that isn't complete yet reports when it is. A report from a new process may be lost, so the page is also
@@ -226,6 +229,7 @@ void DesignerWidget::takeComplete(const QVariantMap &state)
 void DesignerWidget::complete(const QVariantMap &state)
 {
     m_isComplete = true;
+    sendPlace();
     m_view->focusProxy()->installEventFilter(this);
     takeReport(state);
     Q_EMIT DocumentComplete();

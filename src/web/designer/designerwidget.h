@@ -12,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 class QMenu;
 class QWebEngineView;
@@ -56,6 +57,8 @@ public:
     bool isDirty() const override;
     QString documentHtml() override;
     TextChanges documentChanges() const override { return m_written.changes; }
+    bool showPlace(qsizetype position, DesignerPlace what) override;
+    std::optional<qsizetype> caretPlace() override;
     void setDocumentHtml(const QString &html) override;
     void loadDocument(const QString &path) override;
     QString baseFile() const override { return m_baseFile; }
@@ -107,6 +110,8 @@ private:
     void takeCopyReport(const QVariantMap &report);
     void takeCommand(const QVariantMap &report);
     void takeText(const QString &source);
+    void sendPlace();
+    QVariantList placeForPage(qsizetype position, DesignerPlace what) const;
     void open();
     void write(bool ready);
     void lookForPage(int load, int look);
@@ -169,6 +174,8 @@ private:
     std::shared_ptr<PageAlignment> m_alignment;
     int m_mergePatience = 300;
     QString m_baseFile;
+    /// A position of the source that is to be shown when the page is there.
+    std::optional<std::pair<qsizetype, DesignerPlace>> m_placeToShow;
     QVariantMap m_looks;
     /// The last reported state; reading it may have to wait for keys that the page hasn't handled yet.
     mutable DesignerState m_state;

@@ -2,6 +2,7 @@
 
 // The designer's part within the page: it runs commands for the program and reports the page's state.
 
+import {caretPlace, noteGivenCaret, showCaretAt, showElementAt} from './caretplace.js';
 import {Command} from './command.js';
 import {allStatuses, runCommand, valueOf} from './commands.js';
 import {keysSeen, listen} from './events.js';
@@ -71,6 +72,8 @@ reportBy({state, place: () => ({place: place()}), copy: copyOfPage});
 const answer = (value = null) => ({value, state: stamped(state())});
 
 let isComplete = false;
+// Shows the place at which the page is to be opened.
+let showWanted = null;
 
 // The page is complete: from now on everything that happens to it is a change.
 const begin = text => {
@@ -83,14 +86,18 @@ const begin = text => {
         showMarks(bodyElement());
     showLooks();
     selectStart();
+    noteGivenCaret();
     if (!isPlain)
         keepLoaded(rootElement().outerHTML);
     history.start();
+    showWanted?.();
+    showWanted = null;
 };
 
 globalThis.zephiraDesigner = {
     load(text, prefix, wantedLooks, wantsPlain) {
         isComplete = false;
+        showWanted = null;
         history.reset();
         setMarkPrefix(prefix);
         setPlain(wantsPlain);
@@ -128,6 +135,17 @@ globalThis.zephiraDesigner = {
         showLooks();
         return answer();
     },
+
+    // Puts the caret at a place, now or when the page is complete; or shows the element to which the place belongs.
+    // Answers whether there is such a place.
+    showPlace(place, isElement) {
+        const show = () => (isElement ? showElementAt : showCaretAt)(place);
+        if (isComplete)
+            return answer(show());
+        showWanted = show;
+        return null;
+    },
+    caretPlace: () => answer(caretPlace()),
 
     state: () => answer(),
     text() {
