@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary files of the user's words: each line is a word or faulty, a word is added without changing what is there,
 // and each word can be found in a text and shown in its sentence.
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/spelling/customdictionary.h"
 #include "tools/spelling/plainwords.h"
 #include "tools/spelling/words.h"
@@ -38,9 +38,9 @@ void checkWords(const QString &text)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(customdictionary)
 {
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QByteArray bytes = zephira::fuzz::inputBytes(data, size);
     const CustomDictionary dictionary = readCustomDictionary(bytes);
     check((dictionary.faultyLines > 0) == (dictionary.firstFaultyLine > 0));
     check(QSet<QString>(dictionary.words.begin(), dictionary.words.end()).size() == dictionary.words.size());

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary sizes and speeds: every caption is short and ends in its unit, and numbers read back.
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/documentweight.h"
 #include "tools/numbertext.h"
 
 #include <cmath>
 #include <cstring>
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(documentweight)
 {
     using namespace zephira;
     using namespace Qt::StringLiterals;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary markup: the pass that removes font and center tags gives the same result as the plain expression, and
 // removes nothing when it runs again over markup without such names.
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/fonttags.h"
 #include "tools/plainfonttags.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(fonttags)
 {
     using namespace zephira;
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QByteArray bytes = zephira::fuzz::inputBytes(data, size);
     const QByteArray without = withoutFontTags(bytes);
     check(without.size() <= bytes.size());
     if (!bytes.toLower().contains("font") && !bytes.toLower().contains("center"))

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary pages: the formatter gives the same result as the straightforward implementation.
+#include "fuzz/fuzztarget.h"
 #include "tools/plainformatter.h"
 #include "tools/sourceformatter.h"
 
 #include <cstdlib>
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(formatter)
 {
     using namespace zephira;
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));

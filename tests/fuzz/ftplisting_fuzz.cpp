@@ -4,6 +4,7 @@
 #include "ftp/ftpreply.h"
 #include "ftp/remotenames.h"
 #include "ftp/safenames.h"
+#include "fuzz/fuzztarget.h"
 
 #include <QSet>
 
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void check(const std::vector<zephira::ListedEntry> &entries)
+void checkEntries(const std::vector<zephira::ListedEntry> &entries)
 {
     QSet<QByteArray> names;
     zephira::RemoteNames shown;
@@ -29,11 +30,11 @@ void check(const std::vector<zephira::ListedEntry> &entries)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(ftplisting)
 {
-    const QByteArray input(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    check(zephira::readList(input, QDate(2024, 3, 10)));
-    check(zephira::readMlsd(input));
+    const QByteArray input = zephira::fuzz::inputBytes(data, size);
+    checkEntries(zephira::readList(input, QDate(2024, 3, 10)));
+    checkEntries(zephira::readMlsd(input));
 
     zephira::FtpReplyReader reader;
     for (const QByteArray &line : input.split('\n')) {

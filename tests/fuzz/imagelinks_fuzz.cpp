@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary pages: the images found equal those of the straightforward walk, and both fail for the same pages.
 #include "core/errorstyles.h"
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/imagelinks.h"
 #include "tools/plainimagelinks.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(imagelinks)
 {
     using namespace zephira;
     // For a long text the straightforward walk takes more time than the fuzzer allows.

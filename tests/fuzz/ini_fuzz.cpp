@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary private profiles: reading never fails, and a written value reads back while all other bytes stay unchanged.
 #include "files/privateprofile.h"
+#include "fuzz/fuzztarget.h"
 
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(ini)
 {
     // The first lines of the input are a section, a key and a value; the rest is the profile.
     QByteArrayView rest(data, static_cast<qsizetype>(size));

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary pages: the link targets equal those of the straightforward search.
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/linktargets.h"
 #include "tools/plainlinktargets.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(linktargets)
 {
     using namespace zephira;
     // For a long text the straightforward search takes more time than the fuzzer allows.

@@ -3,7 +3,7 @@
 // a custom tab reads back unchanged.
 #include "files/textfile.h"
 #include "files/textlines.h"
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "panes/customtabfile.h"
 #include "panes/sottree.h"
 #include "tags/tagfile.h"
@@ -47,9 +47,9 @@ void checkCustomTab(const QString &text, const QStringList &lines)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(lists)
 {
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QByteArray bytes = zephira::fuzz::inputBytes(data, size);
     const QString text = QString::fromUtf8(decodeText(bytes).utf8);
     const QStringList lines = textLines(text);
     checkLines(text, lines);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary pages: the outline equals that of the straightforward scan, leaf by leaf and error by error.
 #include "core/errorstyles.h"
+#include "fuzz/fuzztarget.h"
 #include "panes/plainoutline.h"
 
 #include <cstdlib>
@@ -28,7 +29,7 @@ bool same(const OutlineLeaf &one, const OutlineLeaf &other)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(outline)
 {
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     std::vector<OutlineLeaf> leaves;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary runs of formatted text: the markup is that of the rules applied to one character after another.
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/plainrichtohtml.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(richtohtml)
 {
     using namespace zephira;
     // Each run takes four bytes: switches, font, colour, and a length.

@@ -2,15 +2,15 @@
 // Arbitrary saved meta tags: reading never fails, no text is longer than it may be, and what was read can be saved and
 // read again.
 #include "files/privateprofile.h"
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "wizards/savedtags.h"
 
 using namespace Qt::StringLiterals;
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(savedtags)
 {
     constexpr qsizetype longest = 999;
-    const QByteArray content(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QByteArray content = zephira::fuzz::inputBytes(data, size);
     const zephira::SiteFacts facts = zephira::savedTags(content);
     for (const QString &fact : {facts.description, facts.keywords, facts.author, facts.copyright})
         check(fact.size() <= longest);

@@ -2,7 +2,7 @@
 // Arbitrary pages in the designer: the pieces have no gaps, server code comes back unchanged, and nothing that the
 // engine may do to a page causes harm.
 #include "files/textfile.h"
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "web/designer/pageroundtrip.h"
 
 using namespace Qt::StringLiterals;
@@ -22,9 +22,9 @@ void checkPieces(const QString &text)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(servermarks)
 {
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QByteArray bytes = zephira::fuzz::inputBytes(data, size);
     const QString text = QString::fromUtf8(decodeText(bytes).utf8);
     checkPieces(text);
     const QString prefix = freshMarkPrefix(text);

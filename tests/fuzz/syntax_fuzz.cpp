@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any text in any language from any state: every byte gets a style, nothing beyond them is written, and styling in two
 // parts gives the same as styling in one.
+#include "fuzz/fuzztarget.h"
 #include "syntax/languageregistry.h"
 #include "syntax/syntaxengine.h"
 
@@ -48,7 +49,7 @@ const std::vector<std::shared_ptr<const SyntaxEngine>> &engines()
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(syntax)
 {
     // The first six bytes choose the language, the line of the restart and the state at the beginning.
     if (size < 6)

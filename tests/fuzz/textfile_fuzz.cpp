@@ -2,13 +2,14 @@
 // Arbitrary files: decoding gives valid UTF-8, and encoding restores the same bytes.
 #include "files/textfile.h"
 #include "files/utf8.h"
+#include "fuzz/fuzztarget.h"
 
 #include <cstdlib>
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(textfile)
 {
     using namespace zephira;
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QByteArray bytes = zephira::fuzz::inputBytes(data, size);
     const DecodedText text = decodeText(bytes);
     if (!isValidUtf8(text.utf8))
         std::abort();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Arbitrary files: the page is that of the lines one by one.
 #include "files/textfile.h"
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/plaintextpage.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(textpage)
 {
     using namespace zephira;
     const QByteArray text =

@@ -3,7 +3,7 @@
 // Tidy has counted.
 #include "files/lineends.h"
 #include "files/textfile.h"
-#include "fuzz/check.h"
+#include "fuzz/fuzztarget.h"
 #include "tools/tidyplaces.h"
 
 #include <QStringList>
@@ -21,7 +21,7 @@ void checkRange(const QStringList &lines, const CodeMaxRange &range)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+FUZZ_TARGET(tidyplaces)
 {
     if (size < 3)
         return 0;
