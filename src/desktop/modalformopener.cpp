@@ -2,6 +2,7 @@
 #include "desktop/modalformopener.h"
 
 #include "core/formcatalogue.h"
+#include "widgets/formroom.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -183,6 +184,7 @@ QWidget *ModalFormOpener::make(const QString &form, QWidget *owner)
     // A form is a top-level window, even if its class is a plain widget.
     if (!window->isWindow())
         window->setWindowFlag(Qt::Window);
+    giveRoom(*window);
     m_open.emplace_back(window);
     return window;
 }

@@ -20,9 +20,10 @@ int pixelsOrNone(int twips)
 
 } // namespace
 
-ObjectBrowserLayout objectBrowserLayout(const QSize &form)
+ObjectBrowserLayout objectBrowserLayout(const QSize &form, int leastButtonWidth)
 {
-    const int width = toTwips(form.width()) - besideTree;
+    const int beside = qMax(besideTree, treeOffset + gap + toTwips(leastButtonWidth) + treeOffset);
+    const int width = toTwips(form.width()) - beside;
     const int height = toTwips(form.height()) - belowTree;
     const int buttons = treeOffset + qMax(width, 0) + gap;
     return {.tree = {toPixels(treeOffset), toPixels(treeOffset), pixelsOrNone(width), pixelsOrNone(height)},

@@ -13,8 +13,9 @@ struct ObjectBrowserLayout {
     int buttonWidth = 0;
 };
 
-/// The layout for the inner size of the form, in pixels of 15 twips like the result. No part gets a negative size,
-/// however small the form is.
-ObjectBrowserLayout objectBrowserLayout(const QSize &form);
+/// The layout for the inner size of the form, in pixels of 15 twips like the result. The tree leaves more than its usual
+/// room beside it when captions in large letters need wider buttons. No part gets a negative size, however small the form
+/// is.
+ObjectBrowserLayout objectBrowserLayout(const QSize &form, int leastButtonWidth = 0);
 
 } // namespace zephira

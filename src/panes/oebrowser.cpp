@@ -14,6 +14,13 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
+namespace {
+
+/// What a button needs around its caption, in pixels.
+constexpr QSize buttonFrame(6, 6);
+
+} // namespace
+
 oebrowser::oebrowser(const AppContext &context, QWidget *owner)
     : QDialog(owner), m_context(context), m_ui(std::make_unique<Ui::oebrowser>())
 {
@@ -31,10 +38,17 @@ oebrowser::~oebrowser() = default;
 void oebrowser::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    const ObjectBrowserLayout layout = objectBrowserLayout(size());
+    QSize least;
+    for (const QPushButton *button : {m_ui->objectshow, m_ui->eventshow})
+        least = least.expandedTo(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()) + buttonFrame);
+    const ObjectBrowserLayout layout = objectBrowserLayout(size(), least.width());
     m_ui->TreeView1->setGeometry(layout.tree);
-    for (QPushButton *button : {m_ui->objectshow, m_ui->eventshow})
-        button->setGeometry(layout.buttonLeft, button->y(), layout.buttonWidth, button->height());
+    int top = m_ui->objectshow->y();
+    for (QPushButton *button : {m_ui->objectshow, m_ui->eventshow}) {
+        const int height = qMax(button->height(), least.height());
+        button->setGeometry(layout.buttonLeft, top, layout.buttonWidth, height);
+        top += height + m_ui->objectshow->y();
+    }
 }
 
 void oebrowser::showTree(const QString &fileName)

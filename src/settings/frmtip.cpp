@@ -6,6 +6,7 @@
 #include "files/textfile.h"
 #include "settings/tips.h"
 #include "ui_frmtip.h"
+#include "widgets/formroom.h"
 
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -51,8 +52,12 @@ void frmTip::loadTips()
 
 void frmTip::showNextTip()
 {
-    if (!m_tips.isEmpty())
-        m_ui->lblTipText->setText(m_tips.at(drawTip(m_random(), static_cast<int>(m_tips.size())) - 1));
+    if (m_tips.isEmpty())
+        return;
+    m_ui->lblTipText->setText(m_tips.at(drawTip(m_random(), static_cast<int>(m_tips.size())) - 1));
+    // The next tip may be longer.
+    if (isVisible())
+        giveRoom(*this);
 }
 
 void frmTip::saveSwitch(bool ticked)

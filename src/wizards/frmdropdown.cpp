@@ -8,6 +8,8 @@
 #include "wizards/formmarkup.h"
 #include "wizards/longfields.h"
 
+#include <QHeaderView>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -27,6 +29,9 @@ frmdropdown::frmdropdown(const AppContext &context, QWidget *owner)
     m_ui->setupUi(this);
     acceptAnyText(*this);
     m_ui->ListView1->setHeaderLabels({u"Choice"_s, u"Selected"_s, u"Value"_s});
+    for (const int column : {TextColumn, SelectedColumn})
+        m_ui->ListView1->setColumnWidth(
+            column, qMax(m_ui->ListView1->columnWidth(column), m_ui->ListView1->header()->sectionSizeHint(column)));
     connect(m_ui->Command1, &QPushButton::clicked, this,
             [this] { m_context.forms.openModal(u"frmaddchoice"_s, this); });
     connect(m_ui->Command4, &QPushButton::clicked, this, [this] { moveSelected(-1); });

@@ -248,7 +248,12 @@ void ImageMap::alignControls()
         controls.shown->setMinimumHeight(controls.text->sizeHint().height());
         controls.picked->setMinimumHeight(controls.text->sizeHint().height());
     }
-    m_ui->Command1->setFixedSize(m_ui->VScroll1->sizeHint().width(), m_ui->HScroll1->sizeHint().height());
+    // The button fills the corner between the scroll bars, which large letters don't enlarge.
+    const QSize corner(m_ui->VScroll1->sizeHint().width(), m_ui->HScroll1->sizeHint().height());
+    QFont arrow = m_ui->Command1->font();
+    arrow.setPixelSize(corner.height() * 2 / 3);
+    m_ui->Command1->setFont(arrow);
+    m_ui->Command1->setFixedSize(corner);
 }
 
 void ImageMap::showDrawing()
