@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "soak/soakmeter.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QPixmapCache>
+
+#include <algorithm>
+#include <span>
+
+#include <malloc.h>
+#include <unistd.h>
+
+#ifdef __SANITIZE_ADDRESS__
+// The compiler brings no header for it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace zephira {
+
+namespace {
+
+/// By this factor nothing may grow. In a short soak every form is opened for the first time, so that it only finds what
+/// grows with each step.
+constexpr double mostGrowth = 1.05;
+constexpr double mostGrowthOfAShortSoak = 2;
+constexpr int shortSoak = 20000;
+/// The samples that are taken together at each end.
+constexpr qsizetype samplesOfAnEnd = 5;
+
+qint64 residentBytes()
+{
+    QFile file(u"/proc/self/statm"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+qint64 allocatedBytes()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return static_cast<qint64>(__sanitizer_get_current_allocated_bytes());
+#else
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<qint64>(info.uordblks + info.hblkhd);
+#endif
+}
+
+int countTemporaries(const QString &folder)
+{
+    auto count = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System).size();
+    QDirIterator unfinished(folder, {u".zephira-*~"_s}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    for (; unfinished.hasNext(); unfinished.next())
+        ++count;
+    return static_cast<int>(count);
+}
+
+template<typename Value>
+double middle(std::span<const SoakSample> samples, Value SoakSample::*value)
+{
+    std::vector<Value> values;
+    for (const SoakSample &sample : samples)
+        values.push_back(sample.*value);
+    std::ranges::sort(values);
+    return static_cast<double>(values[values.size() / 2]);
+}
+
+} // namespace
+
+SoakSample measureProcess(int step, const QString &temporaryFolder)
+{
+    // Painted pictures are kept up to a limit that takes long to reach.
+    QPixmapCache::clear();
+    // What was freed isn't in use, even if the allocator still holds it.
+    malloc_trim(0);
+    return {.step = step,
+            .resident = residentBytes(),
+            .allocated = allocatedBytes(),
+            .descriptors = static_cast<int>(QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size()),
+            .temporaryFiles = countTemporaries(temporaryFolder)};
+}
+
+QStringList growthOf(const std::vector<SoakSample> &samples)
+{
+    QStringList grown;
+    if (samples.size() < 2)
+        return grown;
+    const std::span all(samples);
+    const auto firstTenth = static_cast<std::size_t>(
+        std::ranges::count_if(all, [&](const SoakSample &sample) { return sample.step <= all.back().step / 10; }));
+    const std::size_t atBegin = std::clamp<std::size_t>(firstTenth, 1, all.size() - 1);
+    const auto begin = all.subspan(atBegin - std::min<std::size_t>(atBegin, samplesOfAnEnd),
+                                   std::min<std::size_t>(atBegin, samplesOfAnEnd));
+    const auto end = all.last(std::min<std::size_t>(all.size() - atBegin, samplesOfAnEnd));
+    const double most = all.back().step < shortSoak ? mostGrowthOfAShortSoak : mostGrowth;
+    const auto judge = [&](const QString &name, auto value) {
+        const double before = middle(begin, value);
+        const double after = middle(end, value);
+        if (after > before && after >= before * most)
+            grown.append(u"%1 from %2 to %3"_s.arg(name).arg(before, 0, 'f', 0).arg(after, 0, 'f', 0));
+    };
+    judge(u"the descriptors have grown"_s, &SoakSample::descriptors);
+    judge(u"the temporary files have grown"_s, &SoakSample::temporaryFiles);
+    judge(u"the resident memory has grown"_s, &SoakSample::resident);
+    judge(u"the allocated memory has grown"_s, &SoakSample::allocated);
+    return grown;
+}
+
+QString described(const SoakSample &sample)
+{
+    constexpr double mebibyte = 1024.0 * 1024.0;
+    return u"step %1: %2 MiB resident, %3 MiB allocated, %4 descriptors, %5 temporary files"_s.arg(sample.step)
+        .arg(static_cast<double>(sample.resident) / mebibyte, 0, 'f', 1)
+        .arg(static_cast<double>(sample.allocated) / mebibyte, 0, 'f', 1)
+        .arg(sample.descriptors)
+        .arg(sample.temporaryFiles);
+}
+
+} // namespace zephira

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace zephira {
+
+/// What the process holds at a moment of rest.
+struct SoakSample {
+    int step = 0;
+    /// In bytes: what the system has given, and what the program has asked for and not returned.
+    qint64 resident = 0;
+    qint64 allocated = 0;
+    int descriptors = 0;
+    int temporaryFiles = 0;
+};
+
+/// Measures this process. Temporary files are those directly in `temporaryFolder`, and any below it that are named like
+/// the unfinished file of a write.
+SoakSample measureProcess(int step, const QString &temporaryFolder);
+
+/// What has grown by a twentieth or more between the first tenth and the end, a sentence each; in a short soak, by as much
+/// again. Each end is the middle one of its samples, because threads may be busy at a moment.
+QStringList growthOf(const std::vector<SoakSample> &samples);
+
+QString described(const SoakSample &sample);
+
+} // namespace zephira
