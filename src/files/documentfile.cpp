@@ -84,11 +84,11 @@ bool DocumentFile::isUnseen(const QString &path) const
     const auto seen = m_seen.constFind(QDir::cleanPath(path));
     if (seen == m_seen.constEnd())
         return false;
-    const FileSignature onDisk = m_files.signature(path);
-    return onDisk.exists && *seen != onDisk;
+    // What can't be looked at may be another version as well. Keeping it shows whether it exists at all.
+    return *seen != m_files.signature(path);
 }
 
-/// Keeps a copy of the version on disk and returns the copy's path.
+/// Keeps a copy of the version on disk and returns the copy's path, "" if there is no such version.
 Result<QString> DocumentFile::keepVersion(const QString &path)
 {
     const auto refused = [&](const Error &error) {
@@ -103,6 +103,8 @@ Result<QString> DocumentFile::keepVersion(const QString &path)
         return Error{error.code, sentence.arg(path) + u' ' + error.sentence};
     };
     Result<QByteArray> bytes = m_files.read(path);
+    if (!bytes && bytes.error().code == Error::Code::NotFound)
+        return QString();
     if (!bytes)
         return refused(bytes.error());
     Result<QString> copy = m_recovery.keepDisk(path, bytes.value());

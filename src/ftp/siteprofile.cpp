@@ -5,7 +5,7 @@
 
 #include <QFile>
 
-#include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -44,9 +44,11 @@ bool writeSiteProfile(const SiteProfile &profile, const QString &file)
     // If the file already exists with permissions for others, restrict them before a password is written.
     if (QFile::exists(file) && !QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner))
         return false;
-    return std::ranges::all_of(profileKeys, [&](const ProfileKey &row) {
-        return WriteIni(section, row.key.toString(), profile.*row.member, file, privateMode);
-    });
+    // In one go, so that no file ever mixes two sites.
+    std::vector<ProfileEntry> entries;
+    for (const ProfileKey &row : profileKeys)
+        entries.push_back({section, row.key.toString(), profile.*row.member});
+    return writeIniValues(entries, file, privateMode).ok();
 }
 
 QString siteProfilePath(const QString &appPath, const QString &siteName)

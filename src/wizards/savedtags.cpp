@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -57,12 +59,11 @@ Result<void> saveTags(const SiteFacts &facts, const QString &folder, const QStri
     const QString fileName = name + savedTagsExtension.toString();
     if (fileName.contains(u'/') || fileName.contains(QChar::Null))
         return Error{Error::Code::Refused, u"\""_s + fileName + u"\" can't be the name of a file."_s};
-    for (const FactRow &row : factRows) {
-        const auto saved = writeIniValue(section, row.key.toString(), facts.*row.fact, folder + u'/' + fileName);
-        if (!saved)
-            return saved;
-    }
-    return {};
+    // In one go, so that no file ever mixes the facts of two sites.
+    std::vector<ProfileEntry> entries;
+    for (const FactRow &row : factRows)
+        entries.push_back({section, row.key.toString(), facts.*row.fact});
+    return writeIniValues(entries, folder + u'/' + fileName);
 }
 
 SiteFacts savedTags(const QByteArray &content)

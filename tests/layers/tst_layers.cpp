@@ -18,7 +18,7 @@ namespace {
 constexpr auto licence = "// SPDX-License-Identifier: GPL-3.0-or-later\n"_L1;
 
 /// The folders of tests that have no counterpart in the sources, because they test all of them or help to.
-const QRegularExpression testsOfTheWhole(u"^(data|e2e|forms|fuzz|layers|probes|scripts|soak|support)$"_s);
+const QRegularExpression testsOfTheWhole(u"^(data|e2e|forms|fuzz|layers|probes|scripts|soak|support|trust)$"_s);
 
 /// The folders below `root` that build something, however deep, relative to it.
 QStringList foldersWithTargets(const QDir &root)
