@@ -48,9 +48,9 @@ QString shown(QByteArrayView bytes)
 /// Elements that follow rules of their own, or that are younger than Tidy: it doesn't see what is in them.
 bool isOpaque(QByteArrayView key)
 {
-    constexpr std::array<QByteArrayView, 10> names{"fencedframe", "geolocation", "hgroup", "math",
-                                                   "permission",  "portal",      "search", "selectedcontent",
-                                                   "slot",        "svg"};
+    constexpr std::array<QByteArrayView, 11> names{"fencedframe", "geolocation", "hgroup",  "math",
+                                                   "permission",  "portal",      "search",  "selectedcontent",
+                                                   "slot",        "svg",         "template"};
     return key.contains('-') || std::ranges::find(names, key) != names.end();
 }
 

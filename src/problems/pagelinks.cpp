@@ -48,10 +48,11 @@ PageLinks::PageLinks(LinkPlaces places, bool isPart) : m_places(std::move(places
     if (m_places.folder.isEmpty())
         return;
     // Where the server's root lies isn't known: any folder around the page may be it.
-    QDir folder(m_places.folder);
-    do
-        m_roots.append(folder.absolutePath());
-    while (m_roots.size() < mostRoots && folder.cdUp());
+    for (QString folder = QDir::cleanPath(m_places.folder); m_roots.size() < mostRoots; folder = parentFolder(folder)) {
+        m_roots.append(folder);
+        if (folder == u"/" || !folder.contains(u'/'))
+            break;
+    }
     if (!m_places.project.isEmpty())
         m_roots.append(m_places.project);
 }

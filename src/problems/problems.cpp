@@ -246,7 +246,8 @@ void Problems::goTo(bool forward)
     else if (!m_reason.isEmpty())
         tell(m_reason);
     else
-        tell(isChecking() ? tr("The document is being checked.") : tr("No problems were found."));
+        tell(isChecking() && m_parts.rt.engine().length() > 0 ? tr("The document is being checked.")
+                                                              : tr("No problems were found."));
 }
 
 /// A problem whose place was deleted leaves its line.

@@ -35,9 +35,13 @@ constexpr std::array<QByteArrayView, 20> structureKeys{
     "REPLACING_UNEX_ELEMENT", "TAG_NOT_ALLOWED_IN",    "TOO_MANY_ELEMENTS",    "TOO_MANY_ELEMENTS_IN",
     "UNEXPECTED_ENDTAG",      "UNEXPECTED_ENDTAG_ERR", "UNEXPECTED_ENDTAG_IN", "USING_BR_INPLACE_OF"};
 
+/// An end tag in whose place Tidy puts an empty element.
+constexpr QByteArrayView insertionKey = "INSERTING_TAG";
+
 bool isOfStructure(const TidyMessage &message)
 {
-    return message.line >= 0 && std::ranges::find(structureKeys, QByteArrayView(message.key)) != structureKeys.end();
+    const bool isListed = std::ranges::find(structureKeys, QByteArrayView(message.key)) != structureKeys.end();
+    return message.line >= 0 && (isListed || message.key == insertionKey);
 }
 
 /// The sentence without the place and the level before it.
@@ -109,8 +113,14 @@ Result<void> checkStructure(const PageFacts &page, const TidyEngine &tidy, Probl
         if (start == last || start < 0 || page.structure[start] != '<'
             || std::ranges::binary_search(page.leftOut, start))
             continue;
+        const qsizetype end = markEnd(page.structure, start);
+        const QByteArrayView tag = QByteArrayView(page.structure).sliced(start, end - start);
+        const bool isInserted = message.key == insertionKey;
+        if (isInserted && !tag.startsWith("</"))
+            continue;
         last = start;
-        sink.error(start, markEnd(page.structure, start), sentenceOf(message.text));
+        sink.error(start, end,
+                   isInserted ? u"%1> closes nothing."_s.arg(QString::fromUtf8(tag)) : sentenceOf(message.text));
     }
     return {};
 }

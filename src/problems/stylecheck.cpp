@@ -84,23 +84,24 @@ bool StyleReader::isJudgedBlock(QByteArrayView prelude) const
 /// Judges what stands before a semicolon or the end of a block.
 void StyleReader::judge(qsizetype from, qsizetype to)
 {
-    // Comments and blanks before the name.
-    while (from < to) {
-        if (isBlankOrBreak(m_text[from]))
-            ++from;
-        else if (m_text.sliced(from).startsWith("/*"))
-            from = behindComment(from);
-        else
-            break;
-    }
+    const auto skipBlanks = [&](qsizetype at) {
+        while (at < to) {
+            if (isBlankOrBreak(m_text[at]))
+                ++at;
+            else if (m_text.sliced(at).startsWith("/*"))
+                at = behindComment(at);
+            else
+                break;
+        }
+        return at;
+    };
+    from = skipBlanks(from);
     qsizetype end = from;
     while (end < to && (isAsciiLetter(m_text[end]) || m_text[end] == '-' || isAsciiDigit(m_text[end])))
         ++end;
     if (end >= to || end == from || !isAsciiLetter(m_text[from]))
         return;
-    qsizetype colon = end;
-    while (colon < to && isBlankOrBreak(m_text[colon]))
-        ++colon;
+    const qsizetype colon = skipBlanks(end);
     const QByteArrayView written = m_text.sliced(from, end - from);
     // Word processors have properties of their own.
     const bool isKnown = m_names.isProperty(lowered(written)) || standsAt(written, 0, "mso-");

@@ -49,10 +49,12 @@ void checkXml(const CoveredText &document, ProblemSink &sink, const TidyWatch &w
     if (!reader.hasError())
         return;
     const qsizetype offset = std::clamp<qsizetype>(reader.characterOffset() - 1, 0, text.size());
-    // The tag that the reader has come to, or else the character.
-    const qsizetype opening = text.lastIndexOf(u'<', std::min(offset, text.size() - 1));
-    const bool isInTag = opening >= 0 && text.indexOf(u'>', opening) >= offset - 1;
-    const qsizetype start = QStringView(text).left(isInTag ? opening : offset).toUtf8().size();
+    // The tag or reference that the reader has come to, or else the character.
+    const qsizetype last = std::min(offset, text.size() - 1);
+    const qsizetype opening = std::max(text.lastIndexOf(u'<', last), text.lastIndexOf(u'&', last));
+    const QChar closing = opening >= 0 && text[opening] == u'&' ? u';' : u'>';
+    const bool isInside = opening >= 0 && text.indexOf(closing, opening) >= offset - 1;
+    const qsizetype start = QStringView(text).left(isInside ? opening : offset).toUtf8().size();
     qsizetype end = std::min(start + 1, document.text.size());
     while (end < document.text.size() && (isNameByte(document.text[end]) || document.text[end] == '/'))
         ++end;
