@@ -403,6 +403,85 @@ Mehr dazu mit &apos;zephira --help&apos;.
     </message>
 </context>
 <context>
+    <name>ProblemText</name>
+    <message>
+        <source>&lt;%1&gt; has no label.</source>
+        <translation>&lt;%1&gt; hat keine Beschriftung.</translation>
+    </message>
+    <message>
+        <source>A quotation mark seems to be missing behind this one.</source>
+        <translation>Hinter diesem Anführungszeichen scheint eines zu fehlen.</translation>
+    </message>
+    <message>
+        <source>This quotation mark doesn&apos;t belong here.</source>
+        <translation>Dieses Anführungszeichen gehört nicht hierher.</translation>
+    </message>
+    <message>
+        <source>This quotation mark has no partner.</source>
+        <translation>Zu diesem Anführungszeichen fehlt das zweite.</translation>
+    </message>
+    <message>
+        <source>The tag has no &gt; at its end.</source>
+        <translation>Am Ende des Tags fehlt &gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no attribute %2.</source>
+        <translation>&lt;%1&gt; hat kein Attribut %2.</translation>
+    </message>
+    <message>
+        <source>The tag &lt;%1&gt; isn&apos;t known.</source>
+        <translation>Das Tag &lt;%1&gt; ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The attribute %1 stands here twice.</source>
+        <translation>Das Attribut %1 steht hier zweimal.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no alt: a text in place of the picture.</source>
+        <translation>&lt;%1&gt; hat kein alt: einen Text anstelle des Bildes.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no lang: the language of the page.</source>
+        <translation>&lt;%1&gt; hat kein lang: die Sprache der Seite.</translation>
+    </message>
+    <message>
+        <source>The id %1 stands in this page before.</source>
+        <translation>Die id %1 steht in dieser Seite schon weiter oben.</translation>
+    </message>
+    <message>
+        <source>The page has no title.</source>
+        <translation>Die Seite hat keinen Titel.</translation>
+    </message>
+    <message>
+        <source>The file %1 doesn&apos;t exist.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Nothing in this page has the id %1.</source>
+        <translation>Nichts in dieser Seite hat die id %1.</translation>
+    </message>
+    <message>
+        <source>The comment has no --&gt; at its end.</source>
+        <translation>Am Ende des Kommentars fehlt --&gt;.</translation>
+    </message>
+    <message>
+        <source>The property %1 isn&apos;t known.</source>
+        <translation>Die Eigenschaft %1 ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>There is no colon behind the property %1.</source>
+        <translation>Hinter der Eigenschaft %1 steht kein Doppelpunkt.</translation>
+    </message>
+    <message>
+        <source>This } closes nothing.</source>
+        <translation>Dieses } schließt nichts.</translation>
+    </message>
+    <message>
+        <source>This { isn&apos;t closed.</source>
+        <translation>Dieses { wird nicht geschlossen.</translation>
+    </message>
+</context>
+<context>
     <name>RecoveryBar</name>
     <message>
         <source>Show</source>
@@ -890,6 +969,58 @@ Mehr dazu mit &apos;zephira --help&apos;.
         <source>&amp;Show</source>
         <translation>Anzei&amp;gen</translation>
     </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>&amp;Nächster Fehler</translation>
+    </message>
+    <message>
+        <source>Go to the next place where something is wrong, and tell what</source>
+        <translation>Zur nächsten Stelle gehen, an der etwas nicht stimmt, und sagen, was</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>&amp;Voriger Fehler</translation>
+    </message>
+    <message>
+        <source>Go to the place before where something is wrong, and tell what</source>
+        <translation>Zur vorigen Stelle gehen, an der etwas nicht stimmt, und sagen, was</translation>
+    </message>
+    <message>
+        <source>&amp;List Problems</source>
+        <translation>Fehler auf&amp;listen</translation>
+    </message>
+    <message>
+        <source>Open the panel with the list of what is wrong in this document</source>
+        <translation>Die Liste mit allem öffnen, was in diesem Dokument nicht stimmt</translation>
+    </message>
+    <message>
+        <source>&amp;Mark Problems</source>
+        <translation>Fehler &amp;markieren</translation>
+    </message>
+    <message>
+        <source>Check the document a moment after each change, and mark what is wrong</source>
+        <translation>Das Dokument kurz nach jeder Änderung prüfen und markieren, was nicht stimmt</translation>
+    </message>
+    <message>
+        <source>&amp;Color Squares</source>
+        <translation>&amp;Farbfelder</translation>
+    </message>
+    <message>
+        <source>Show a small square of its color before each color in the text</source>
+        <translation>Vor jeder Farbe im Text ein kleines Feld in dieser Farbe zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Close While Typing</source>
+        <translation>Beim Tippen s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Put the closing bracket, quote or tag behind the caret as soon as the opening one is typed</source>
+        <translation>Schließende Klammern, Anführungszeichen und Tags hinter die Einfügemarke setzen, sobald die öffnenden getippt sind</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>F&amp;ehler</translation>
+    </message>
 </context>
 <context>
     <name>ToolPanel</name>
@@ -1229,6 +1360,79 @@ Pfeiltasten, und drücken und lösen Sie mit der Leertaste.</translation>
     <message>
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 Pixel</translation>
+    </message>
+</context>
+<context>
+    <name>zephira::ProblemList</name>
+    <message>
+        <source>Error: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>zephira::Problems</name>
+    <message>
+        <source>Problems</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>This document is larger than 4 MB, so it isn&apos;t checked.</source>
+        <translation>Dieses Dokument ist größer als 4 MB und wird deshalb nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>This document contains bytes that aren&apos;t text, so it isn&apos;t checked.</source>
+        <translation>Dieses Dokument enthält Bytes, die kein Text sind, und wird deshalb nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Checking this document takes too long, so it isn&apos;t checked any more.</source>
+        <translation>Dieses Dokument zu prüfen dauert zu lange; es wird nicht mehr geprüft.</translation>
+    </message>
+    <message>
+        <source>Not checked.</source>
+        <translation>Nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>There are more problems: these are the first %1.</source>
+        <translation>Es gibt weitere Fehler: Dies sind die ersten %1.</translation>
+    </message>
+    <message>
+        <source>No problems were found.</source>
+        <translation>Es wurden keine Fehler gefunden.</translation>
+    </message>
+    <message>
+        <source>Problems (%1)</source>
+        <translation>Fehler (%1)</translation>
+    </message>
+    <message>
+        <source>Problems aren&apos;t looked for.</source>
+        <translation>Fehler werden nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>The document is being checked.</source>
+        <translation>Das Dokument wird gerade geprüft.</translation>
+    </message>
+</context>
+<context>
+    <name>zephira::ProblemsPage</name>
+    <message>
+        <source>Problems</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Return or a double click goes to the place</source>
+        <translation>Eingabetaste oder Doppelklick führt zu der Stelle</translation>
     </message>
 </context>
 <context>

@@ -3,10 +3,10 @@
 
 #include "completion/completiontext.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace zephira {
 
@@ -86,7 +86,9 @@ void Labels::tell(bool isMadeByServer, ProblemSink &sink) const
     for (const Control &control : m_controls) {
         const bool mayBeLabelled = !control.id.isEmpty() && (isMadeByServer || m_hasDynamicLabels);
         if (!mayBeLabelled && !m_labelled.contains(control.id))
-            sink.warning(control.start, control.end, u"<%1> has no label."_s.arg(QString::fromUtf8(control.key)));
+            sink.warning(
+                control.start, control.end,
+                QCoreApplication::translate("ProblemText", "<%1> has no label.").arg(QString::fromUtf8(control.key)));
     }
 }
 

@@ -7,11 +7,11 @@
 #include "problems/markupreader.h"
 #include "problems/stylecheck.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <optional>
-
-using namespace Qt::StringLiterals;
 
 namespace zephira {
 
@@ -194,14 +194,18 @@ bool PageReader::tellBroken(const MarkupTag &tag)
         tag.isOpen && !tag.attributes.empty() && tag.attributes.back().quote && tag.end == m_page.text.size();
     if (misplaced != tag.attributes.end() && misplaced != tag.attributes.begin() && (misplaced - 1)->quote) {
         const qsizetype place = at((misplaced - 1)->value) - 1;
-        m_sink.error(place, place + 1, u"A quotation mark seems to be missing behind this one."_s);
+        m_sink.error(
+            place, place + 1,
+            QCoreApplication::translate("ProblemText", "A quotation mark seems to be missing behind this one."));
     } else if (misplaced != tag.attributes.end()) {
-        fail(misplaced->name, u"This quotation mark doesn't belong here."_s);
+        fail(misplaced->name, QCoreApplication::translate("ProblemText", "This quotation mark doesn't belong here."));
     } else if (endsInValue) {
         const qsizetype place = at(tag.attributes.back().value) - 1;
-        m_sink.error(place, place + 1, u"This quotation mark has no partner."_s);
+        m_sink.error(place, place + 1,
+                     QCoreApplication::translate("ProblemText", "This quotation mark has no partner."));
     } else if (!tag.isDynamic) {
-        m_sink.error(tag.start, at(tag.name) + tag.name.size(), u"The tag has no > at its end."_s);
+        m_sink.error(tag.start, at(tag.name) + tag.name.size(),
+                     QCoreApplication::translate("ProblemText", "The tag has no > at its end."));
     }
     return true;
 }
@@ -213,7 +217,9 @@ void PageReader::checkAttribute(const MarkupTag &tag, const MarkupAttribute &att
         checkDeclarations({attribute.value, at(attribute.value)}, m_names, m_sink);
     const bool isJudged = m_names.hasTags() && m_names.isTag(tag.key) && !isDynamic(name) && !isFreeAttribute(name);
     if (isJudged && !m_names.isAttribute(tag.key, name))
-        warn(attribute.name, u"<%1> has no attribute %2."_s.arg(shown(tag.key), shown(attribute.name)));
+        warn(attribute.name,
+             QCoreApplication::translate("ProblemText", "<%1> has no attribute %2.")
+                 .arg(shown(tag.key), shown(attribute.name)));
 }
 
 void PageReader::checkNames(const MarkupTag &tag)
@@ -222,7 +228,7 @@ void PageReader::checkNames(const MarkupTag &tag)
     if (m_names.hasTags() && !isFree && !m_names.isTag(tag.key)) {
         if (!tag.isEnd)
             m_sink.error(tag.start, tag.start + 1 + tag.name.size(),
-                         u"The tag <%1> isn't known."_s.arg(shown(tag.name)));
+                         QCoreApplication::translate("ProblemText", "The tag <%1> isn't known.").arg(shown(tag.name)));
         leaveOut(tag);
         return;
     }
@@ -235,7 +241,9 @@ void PageReader::checkNames(const MarkupTag &tag)
             continue;
         const QByteArray name = lowered(attribute.name);
         if (seen.contains(name))
-            fail(attribute.name, u"The attribute %1 stands here twice."_s.arg(shown(attribute.name)));
+            fail(attribute.name,
+                 QCoreApplication::translate("ProblemText", "The attribute %1 stands here twice.")
+                     .arg(shown(attribute.name)));
         seen.insert(name);
     }
 }
@@ -248,10 +256,14 @@ void PageReader::checkTexts(const MarkupTag &tag)
     const QString name = shown(tag.name);
     const qsizetype nameEnd = tag.start + 1 + tag.name.size();
     if (lacksAlternative(tag))
-        m_sink.warning(tag.start, nameEnd, u"<%1> has no alt: a text in place of the picture."_s.arg(name));
+        m_sink.warning(
+            tag.start, nameEnd,
+            QCoreApplication::translate("ProblemText", "<%1> has no alt: a text in place of the picture.").arg(name));
     const bool lacksLanguage = tag.key == "html" && !hasAttribute(tag, "lang") && !hasAttribute(tag, "xml:lang");
     if (lacksLanguage)
-        m_sink.warning(tag.start, nameEnd, u"<%1> has no lang: the language of the page."_s.arg(name));
+        m_sink.warning(
+            tag.start, nameEnd,
+            QCoreApplication::translate("ProblemText", "<%1> has no lang: the language of the page.").arg(name));
 }
 
 void PageReader::noteId(const MarkupTag &tag)
@@ -267,7 +279,8 @@ void PageReader::noteId(const MarkupTag &tag)
     const auto known = m_ids.constFind(id->value);
     // A program of the server may leave one of them out.
     if (known != m_ids.cend() && known->programs == m_programs)
-        fail(id->value, u"The id %1 stands in this page before."_s.arg(shown(id->value)));
+        fail(id->value,
+             QCoreApplication::translate("ProblemText", "The id %1 stands in this page before.").arg(shown(id->value)));
     m_ids.insert(id->value, {m_programs});
 }
 
@@ -301,7 +314,8 @@ void PageReader::checkHead(const MarkupTag &tag)
     if (!ends || !m_head)
         return;
     if (!m_hasTitle)
-        m_sink.warning(*m_head, *m_head + qstrlen("<head"), u"The page has no title."_s);
+        m_sink.warning(*m_head, *m_head + qstrlen("<head"),
+                       QCoreApplication::translate("ProblemText", "The page has no title."));
     m_head.reset();
 }
 
@@ -352,7 +366,7 @@ void PageReader::checkLinks(const LinkPlaces &places)
         if (++count % watchStep == 0 && m_watch.isCancelled())
             return;
         if (links.isBroken(link))
-            fail(link, u"The file %1 doesn't exist."_s.arg(shown(link)));
+            fail(link, QCoreApplication::translate("ProblemText", "The file %1 doesn't exist.").arg(shown(link)));
     }
 }
 
@@ -369,7 +383,8 @@ void PageReader::checkAnchors()
         const bool isThere = m_ids.contains(name) || m_ids.contains(written) || m_anchorNames.contains(name)
             || m_anchorNames.contains(written) || name.compare("top", Qt::CaseInsensitive) == 0;
         if (!isOfScript && !isThere)
-            fail(link, u"Nothing in this page has the id %1."_s.arg(shown(name)));
+            fail(link,
+                 QCoreApplication::translate("ProblemText", "Nothing in this page has the id %1.").arg(shown(name)));
     }
 }
 
@@ -380,7 +395,8 @@ void PageReader::finish(const LinkPlaces &places)
         blank(m_opaqueStart, m_page.text.size());
     if (m_reader.openComment() >= 0) {
         const qsizetype start = m_reader.openComment();
-        m_sink.error(start, start + 4, u"The comment has no --> at its end."_s);
+        m_sink.error(start, start + 4,
+                     QCoreApplication::translate("ProblemText", "The comment has no --> at its end."));
         m_balance.interrupt();
     }
     m_balance.finish();

@@ -4,10 +4,10 @@
 #include "completion/completiontext.h"
 #include "problems/markupreader.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace zephira {
 
@@ -108,10 +108,12 @@ void StyleReader::judge(qsizetype from, qsizetype to)
     if (colon < to && m_text[colon] == ':') {
         if (!isKnown)
             m_sink.warning(m_start + from, m_start + end,
-                           u"The property %1 isn't known."_s.arg(QString::fromUtf8(written)));
+                           QCoreApplication::translate("ProblemText", "The property %1 isn't known.")
+                               .arg(QString::fromUtf8(written)));
     } else if (isKnown && colon < to && colon > end && !isDynamic(m_text.sliced(from, to - from))) {
         m_sink.error(m_start + from, m_start + end,
-                     u"There is no colon behind the property %1."_s.arg(QString::fromUtf8(written)));
+                     QCoreApplication::translate("ProblemText", "There is no colon behind the property %1.")
+                         .arg(QString::fromUtf8(written)));
     }
 }
 
@@ -157,7 +159,8 @@ void StyleReader::readStatement()
                 m_blocks.pop_back();
             else if (c == '}' && !m_isUneven && !m_hasServerCode) {
                 m_isUneven = true;
-                m_sink.error(m_start + m_at, m_start + m_at + 1, u"This } closes nothing."_s);
+                m_sink.error(m_start + m_at, m_start + m_at + 1,
+                             QCoreApplication::translate("ProblemText", "This } closes nothing."));
             }
             ++m_at;
             return;
@@ -183,7 +186,7 @@ void StyleReader::readSheet(const TidyWatch &watch)
     }
     if (!m_blocks.empty() && m_at >= m_text.size() && !m_hasServerCode) {
         const qsizetype at = m_start + m_blocks.back().at;
-        m_sink.error(at, at + 1, u"This { isn't closed."_s);
+        m_sink.error(at, at + 1, QCoreApplication::translate("ProblemText", "This { isn't closed."));
     }
 }
 

@@ -96,6 +96,7 @@ struct FakeSurface final : DocumentWindow {
     void documentSettled() override {}
     void keepUnsavedText() override {}
     void showTemplateChooser() override { ++choosers; }
+    void fileUsed(const QString &) override {}
     QString listedFile() const override { return {}; }
     QString listedFolder() const override { return {}; }
     void selectListedFile(const QString &) override {}
