@@ -30,6 +30,7 @@ constexpr HelpPage windowPages[] = {
 
 constexpr HelpPage documentPages[] = {
     {u"documents"},
+    {u"typing"},
     {u"start-dialog", u"frmselprj"},
     {u"find", u"FindDialog"},
     {u"find-in-project", mainWindow, u"SearchPage"},

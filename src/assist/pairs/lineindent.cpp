@@ -127,21 +127,22 @@ void alignTypedEnds(CodeMax &rt, Elements &elements, char typed)
     for (const TextSelection &each : selections.all) {
         if (!each.isEmpty() || each.caret == 0)
             continue;
-        const qsizetype lineStart = rt.engine().lineStart(rt.engine().lineOf(each.caret));
-        const qsizetype ender = lineStart + indentationOf(beginOfLine(rt.engine(), each.caret)).size();
-        // A brace stands alone behind its blanks; an end tag is read to its beginning.
-        if (!isTag && ender != each.caret - 1)
+        const SciEngine &engine = rt.engine();
+        const qsizetype lineStart = engine.lineStart(engine.lineOf(each.caret));
+        const qsizetype ender = lineStart + indentationOf(beginOfLine(engine, each.caret)).size();
+        const qsizetype size = each.caret - ender;
+        const bool isFirst = isTag
+            ? size > 0 && size <= longestIndent && engine.bytes(ender, each.caret).lastIndexOf('<') == 0
+            : size == 1;
+        if (!isFirst)
             continue;
-        const qsizetype opener =
-            isTag ? elementEndedBefore(rt, elements, each.caret) : braceEndedAt(rt, each.caret - 1);
-        const bool isFirst =
-            !isTag || (ender < each.caret && rt.engine().bytes(ender, each.caret).lastIndexOf('<') == 0);
-        if (opener < 0 || !isFirst)
+        const qsizetype opener = isTag ? elementEndedBefore(rt, elements, each.caret) : braceEndedAt(rt, ender);
+        if (opener < 0)
             continue;
         // What was typed is replaced too, so that the caret is behind it again when that is undone.
         if (const auto indent = alignedWith(rt, ender, opener))
-            edits.replace(rt.engine(), indent->start, each.caret,
-                          indent->text + rt.engine().bytes(indent->end, each.caret).toByteArray());
+            edits.replace(engine, indent->start, each.caret,
+                          indent->text + engine.bytes(indent->end, each.caret).toByteArray());
     }
     if (edits.isEmpty())
         return;

@@ -10,7 +10,7 @@ namespace zephira {
 namespace {
 
 /// How many places that a start tag may begin at are tried.
-constexpr int mostTries = 50;
+constexpr int mostTries = 20;
 /// How long a tag's name may be.
 constexpr qsizetype longestName = 256;
 

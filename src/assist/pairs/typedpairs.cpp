@@ -79,9 +79,12 @@ bool TypedPairs::eventFilter(QObject *watched, QEvent *event)
         return takeKey(*static_cast<QKeyEvent *>(event));
     if (event->type() == QEvent::InputMethod) {
         const auto &input = *static_cast<QInputMethodEvent *>(event);
+        const bool wasComposing = std::exchange(m_isComposing, !input.preeditString().isEmpty());
         const QList<uint> text = input.commitString().toUcs4();
-        if (text.size() == 1 && input.preeditString().isEmpty() && input.replacementLength() == 0)
+        if (text.size() == 1 && !m_isComposing && !wasComposing && input.replacementLength() == 0)
             return takeCharacter(text.first());
+        if (!text.isEmpty())
+            m_closingTags.takeKey(U'\n');
     }
     return QObject::eventFilter(watched, event);
 }
@@ -105,7 +108,8 @@ bool TypedPairs::takeCharacter(char32_t typed)
 {
     if (m_closingTags.takeKey(typed) || surround(typed) || typeOver(typed))
         return true;
-    expect(typed);
+    if (typed == U'/' || typed == U'}' || typed == U'>' || partnerOf(typed) != 0)
+        expect(typed);
     return false;
 }
 

@@ -55,6 +55,8 @@ private:
     ClosingTags m_closingTags;
     /// A character that is being typed; 0 for none.
     char32_t m_typed = 0;
+    /// An input method shows text that isn't typed yet.
+    bool m_isComposing = false;
     bool m_closes;
 };
 
