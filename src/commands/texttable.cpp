@@ -155,7 +155,7 @@ constexpr MenuItem codeItems[] = {
           ZEPHIRA_TEXT("TextMenu", "Select the element around the caret, or the next one around it"), u"Ctrl+Shift+Up"),
     entry(u"textSelectInner", ZEPHIRA_TEXT("TextMenu", "Select &Inner Element"), TextCommand::SelectInner,
           ZEPHIRA_TEXT("TextMenu", "Select again what was selected before the element around it"), u"Ctrl+Shift+Down"),
-    shown(u"textAutoClose", ZEPHIRA_TEXT("TextMenu", "&Close While Typing"), TextCommand::AutoClose,
+    shown(u"textAutoClose", ZEPHIRA_TEXT("TextMenu", "Close &While Typing"), TextCommand::AutoClose,
           ZEPHIRA_TEXT("TextMenu",
                        "Put the closing bracket, quote or tag behind the caret as soon as the opening one is typed")),
 };
