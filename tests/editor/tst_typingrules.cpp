@@ -95,6 +95,42 @@ private Q_SLOTS:
         QVERIFY(!overtypes());
         QCOMPARE(seen, (QList<bool>{false, true}));
     }
+
+    /// Whoever knows the text tells what a line break is between.
+    void lineBreaks()
+    {
+        EditorFixture f;
+        f.editor.setText(u"  ab"_s);
+        f.editor.select({0, 3, 0, 3});
+        QList<qsizetype> asked;
+        LineBreak kind = LineBreak::Between;
+        f.editor.setLineBreaks([&](qsizetype start, qsizetype end) {
+            asked << start << end;
+            return kind;
+        });
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
+        QCoreApplication::sendEvent(&f.editor, &key);
+        QCOMPARE(asked, (QList<qsizetype>{3, 3}));
+        QCOMPARE(f.editor.text(), u"  a\r\n  \t\r\n  b"_s);
+        QCOMPARE(f.editor.selection(true).StartLineNo, 1);
+        QCOMPARE(f.editor.selection(true).StartColNo, 3);
+        f.editor.undo();
+        QCOMPARE(f.editor.text(), u"  ab"_s);
+        kind = LineBreak::Deeper;
+        f.editor.select({0, 3, 0, 4});
+        QCoreApplication::sendEvent(&f.editor, &key);
+        QCOMPARE(f.editor.text(), u"  a\r\n  \t"_s);
+        // Lines that aren't indented by themselves are broken as ever.
+        EditorOptions options = f.editor.options();
+        options.autoIndent = false;
+        f.editor.setOptions(options);
+        f.editor.setText(u" a"_s);
+        f.editor.select({0, 2, 0, 2});
+        asked.clear();
+        QCoreApplication::sendEvent(&f.editor, &key);
+        QVERIFY(asked.isEmpty());
+        QCOMPARE(f.editor.text(), u" a\r\n"_s);
+    }
 };
 
 ZEPHIRA_TEST(TstTypingRules)
