@@ -70,7 +70,8 @@ std::optional<ClosingTags::Completion> ClosingTags::completionAt(qsizetype caret
     const qsizetype closer = m_closers.sizeAt(caret);
     if (engine.bytes(caret, caret + closer) == "</" + completion.rest)
         completion.replaced = closer;
-    completion.indent = alignedWith(m_rt, caret - 2, innermost.begin);
+    if (!keepsBlanks(innermost.name))
+        completion.indent = alignedWith(m_rt, caret - 2, innermost.begin);
     return completion;
 }
 

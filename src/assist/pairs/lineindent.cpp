@@ -9,7 +9,6 @@
 #include "syntax/syntaxstyle.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
 namespace zephira {
@@ -21,10 +20,6 @@ using Part = CodePlace::Part;
 
 /// How many bytes of a line are looked at for its indentation.
 constexpr qsizetype longestIndent = 4096;
-
-/// Blanks are content there.
-constexpr std::array keptAsWritten{QByteArrayView("pre"), QByteArrayView("textarea"), QByteArrayView("listing"),
-                                   QByteArrayView("plaintext"), QByteArrayView("xmp")};
 
 QByteArrayView beginOfLine(const SciEngine &engine, qsizetype position)
 {
@@ -61,7 +56,7 @@ qsizetype elementEndedBefore(const CodeMax &rt, Elements &elements, qsizetype po
     const qsizetype lineStart = engine.lineStart(engine.lineOf(position));
     const QByteArrayView before = engine.bytes(std::max(lineStart, position - longestIndent), position);
     const QByteArray name = endTagBefore(before);
-    if (name.isEmpty())
+    if (name.isEmpty() || keepsBlanks(name))
         return -1;
     const auto around = elements.soon(position - 1);
     if (!around)
@@ -97,7 +92,7 @@ LineBreak lineBreakAt(CodeMax &rt, qsizetype start, qsizetype end)
                                                                                             : LineBreak::Deeper;
     }
     const auto tag = hasTags(rt) ? startTagEndingAt(rt, behind) : std::nullopt;
-    if (!tag || std::ranges::find(keptAsWritten, tag->name.toLower()) != keptAsWritten.end())
+    if (!tag || keepsBlanks(tag->name))
         return LineBreak::Plain;
     const QByteArrayView next = engine.bytes(end, std::min(end + tag->name.size() + 3, engine.length()));
     return beginsWithEndTag(next, tag->name, markupRules(rt)) ? LineBreak::Between : LineBreak::Deeper;
@@ -134,7 +129,7 @@ void alignTypedEnds(CodeMax &rt, Elements &elements, char typed)
         const bool isFirst = isTag
             ? size > 0 && size <= longestIndent && engine.bytes(ender, each.caret).lastIndexOf('<') == 0
             : size == 1;
-        if (!isFirst)
+        if (!isFirst || (isTag && !isTagPlace(rt, ender)))
             continue;
         const qsizetype opener = isTag ? elementEndedBefore(rt, elements, each.caret) : braceEndedAt(rt, ender);
         if (opener < 0)

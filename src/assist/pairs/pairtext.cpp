@@ -4,6 +4,7 @@
 #include "core/textparts.h"
 
 #include <algorithm>
+#include <array>
 
 namespace zephira {
 
@@ -132,6 +133,13 @@ qsizetype openBraceBefore(QByteArrayView text, const std::function<bool(qsizetyp
             return i;
     }
     return -1;
+}
+
+bool keepsBlanks(QByteArrayView name)
+{
+    static constexpr std::array kept{QByteArrayView("pre"), QByteArrayView("textarea"), QByteArrayView("listing"),
+                                     QByteArrayView("plaintext"), QByteArrayView("xmp")};
+    return std::ranges::any_of(kept, [&](QByteArrayView each) { return each.compare(name, Qt::CaseInsensitive) == 0; });
 }
 
 QByteArrayView indentationOf(QByteArrayView line)

@@ -46,6 +46,9 @@ bool beginsWithEndTag(QByteArrayView text, QByteArrayView name, MarkupRules rule
 /// there is none.
 qsizetype openBraceBefore(QByteArrayView text, const std::function<bool(qsizetype)> &isCode);
 
+/// Whether the blanks in an element are shown as they are written, so that its lines aren't indented.
+bool keepsBlanks(QByteArrayView name);
+
 /// The blanks that a line begins with.
 QByteArrayView indentationOf(QByteArrayView line);
 

@@ -118,6 +118,8 @@ private Q_SLOTS:
         QCOMPARE(openBraceBefore("{ '{'", [](qsizetype at) { return at < 2; }), qsizetype{0});
         QCOMPARE(indentationOf(" \t x "), QByteArrayView(" \t "));
         QCOMPARE(indentationOf({}), QByteArrayView());
+        QVERIFY(keepsBlanks("PRE") && keepsBlanks("textarea"));
+        QVERIFY(!keepsBlanks("p") && !keepsBlanks("prefix"));
     }
 
     void closersMoveWithTheText()

@@ -401,6 +401,10 @@ private Q_SLOTS:
         QTest::newRow("end tag behind text")
             << u"HTML"_s << u" <div>\r\n\tx|"_s << u"</"_s << u" <div>\r\n\tx</div>|"_s;
         QTest::newRow("end tag further in") << u"HTML"_s << u"\t<p>\r\n|"_s << u"</"_s << u"\t<p>\r\n\t</p>|"_s;
+        QTest::newRow("end tag of kept text") << u"HTML"_s << u" <pre>\r\n\t|"_s << u"</"_s << u" <pre>\r\n\t</pre>|"_s;
+        QTest::newRow("end tag of kept text in full") << u"HTML"_s << u" <i><pre>\r\n\t</pre|"_s << u">"_s << u" <i><pre>\r\n\t</pre>|"_s;
+        QTest::newRow("end tag in a comment") << u"HTML"_s << u" <b><!--\r\n\t|-->"_s << u"</b>"_s << u" <b><!--\r\n\t</b>|-->"_s;
+        QTest::newRow("end tag in a script") << u"HTML"_s << u" <b><script>x = `\r\n\t|`"_s << u"</b>"_s << u" <b><script>x = `\r\n\t</b>|`"_s;
         QTest::newRow("end tags at two carets")
             << u"HTML"_s << u" <b>\r\n\t|\r\n <i>\r\n\t|"_s << u"</"_s << u" <b>\r\n </b>|\r\n <i>\r\n </i>|"_s;
         // clang-format on
