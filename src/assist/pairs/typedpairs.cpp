@@ -14,7 +14,6 @@
 #include <QKeyEvent>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace zephira {
