@@ -3,6 +3,8 @@
 
 #include "completion/markupplace.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -35,8 +37,9 @@ void Balance::take(const MarkupTag &tag)
     const auto found = std::ranges::find(m_open.rbegin(), m_open.rend(), tag.key, &Open::key);
     if (found == m_open.rend()) {
         if (m_isWhole && std::ranges::find(mayStayOpen, QByteArrayView(tag.key)) == mayStayOpen.end())
-            m_sink.error(tag.start, tag.start + 2 + tag.name.size(),
-                         u"</%1> closes nothing."_s.arg(QString::fromUtf8(tag.name)));
+            m_sink.error(
+                tag.start, tag.start + 2 + tag.name.size(),
+                QCoreApplication::translate("Problems", "</%1> closes nothing.").arg(QString::fromUtf8(tag.name)));
         return;
     }
     for (auto inner = m_open.rbegin(); inner != found; ++inner)
@@ -50,8 +53,9 @@ void Balance::tellUnclosed(const Open &open, const QString &before)
         return;
     const QString name = QString::fromUtf8(open.key);
     m_sink.error(open.start, open.end,
-                 before.isEmpty() ? u"<%1> isn't closed."_s.arg(name)
-                                  : u"<%1> isn't closed before %2."_s.arg(name, before));
+                 before.isEmpty()
+                     ? QCoreApplication::translate("Problems", "<%1> isn't closed.").arg(name)
+                     : QCoreApplication::translate("Problems", "<%1> isn't closed before %2.").arg(name, before));
 }
 
 void Balance::interrupt()

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace zephira {
 
 namespace {
@@ -88,7 +90,7 @@ void Labels::tell(bool isMadeByServer, ProblemSink &sink) const
         if (!mayBeLabelled && !m_labelled.contains(control.id))
             sink.warning(
                 control.start, control.end,
-                QCoreApplication::translate("ProblemText", "<%1> has no label.").arg(QString::fromUtf8(control.key)));
+                QCoreApplication::translate("Problems", "<%1> has no label.").arg(QString::fromUtf8(control.key)));
     }
 }
 

@@ -13,6 +13,8 @@
 #include <array>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace zephira {
 
 namespace {
@@ -194,18 +196,16 @@ bool PageReader::tellBroken(const MarkupTag &tag)
         tag.isOpen && !tag.attributes.empty() && tag.attributes.back().quote && tag.end == m_page.text.size();
     if (misplaced != tag.attributes.end() && misplaced != tag.attributes.begin() && (misplaced - 1)->quote) {
         const qsizetype place = at((misplaced - 1)->value) - 1;
-        m_sink.error(
-            place, place + 1,
-            QCoreApplication::translate("ProblemText", "A quotation mark seems to be missing behind this one."));
+        m_sink.error(place, place + 1,
+                     QCoreApplication::translate("Problems", "A quotation mark seems to be missing behind this one."));
     } else if (misplaced != tag.attributes.end()) {
-        fail(misplaced->name, QCoreApplication::translate("ProblemText", "This quotation mark doesn't belong here."));
+        fail(misplaced->name, QCoreApplication::translate("Problems", "This quotation mark doesn't belong here."));
     } else if (endsInValue) {
         const qsizetype place = at(tag.attributes.back().value) - 1;
-        m_sink.error(place, place + 1,
-                     QCoreApplication::translate("ProblemText", "This quotation mark has no partner."));
+        m_sink.error(place, place + 1, QCoreApplication::translate("Problems", "This quotation mark has no partner."));
     } else if (!tag.isDynamic) {
         m_sink.error(tag.start, at(tag.name) + tag.name.size(),
-                     QCoreApplication::translate("ProblemText", "The tag has no > at its end."));
+                     QCoreApplication::translate("Problems", "The tag has no > at its end."));
     }
     return true;
 }
@@ -218,7 +218,7 @@ void PageReader::checkAttribute(const MarkupTag &tag, const MarkupAttribute &att
     const bool isJudged = m_names.hasTags() && m_names.isTag(tag.key) && !isDynamic(name) && !isFreeAttribute(name);
     if (isJudged && !m_names.isAttribute(tag.key, name))
         warn(attribute.name,
-             QCoreApplication::translate("ProblemText", "<%1> has no attribute %2.")
+             QCoreApplication::translate("Problems", "<%1> has no attribute %2.")
                  .arg(shown(tag.key), shown(attribute.name)));
 }
 
@@ -228,7 +228,7 @@ void PageReader::checkNames(const MarkupTag &tag)
     if (m_names.hasTags() && !isFree && !m_names.isTag(tag.key)) {
         if (!tag.isEnd)
             m_sink.error(tag.start, tag.start + 1 + tag.name.size(),
-                         QCoreApplication::translate("ProblemText", "The tag <%1> isn't known.").arg(shown(tag.name)));
+                         QCoreApplication::translate("Problems", "The tag <%1> isn't known.").arg(shown(tag.name)));
         leaveOut(tag);
         return;
     }
@@ -242,7 +242,7 @@ void PageReader::checkNames(const MarkupTag &tag)
         const QByteArray name = lowered(attribute.name);
         if (seen.contains(name))
             fail(attribute.name,
-                 QCoreApplication::translate("ProblemText", "The attribute %1 stands here twice.")
+                 QCoreApplication::translate("Problems", "The attribute %1 stands here twice.")
                      .arg(shown(attribute.name)));
         seen.insert(name);
     }
@@ -258,12 +258,12 @@ void PageReader::checkTexts(const MarkupTag &tag)
     if (lacksAlternative(tag))
         m_sink.warning(
             tag.start, nameEnd,
-            QCoreApplication::translate("ProblemText", "<%1> has no alt: a text in place of the picture.").arg(name));
+            QCoreApplication::translate("Problems", "<%1> has no alt: a text in place of the picture.").arg(name));
     const bool lacksLanguage = tag.key == "html" && !hasAttribute(tag, "lang") && !hasAttribute(tag, "xml:lang");
     if (lacksLanguage)
         m_sink.warning(
             tag.start, nameEnd,
-            QCoreApplication::translate("ProblemText", "<%1> has no lang: the language of the page.").arg(name));
+            QCoreApplication::translate("Problems", "<%1> has no lang: the language of the page.").arg(name));
 }
 
 void PageReader::noteId(const MarkupTag &tag)
@@ -280,7 +280,7 @@ void PageReader::noteId(const MarkupTag &tag)
     // A program of the server may leave one of them out.
     if (known != m_ids.cend() && known->programs == m_programs)
         fail(id->value,
-             QCoreApplication::translate("ProblemText", "The id %1 stands in this page before.").arg(shown(id->value)));
+             QCoreApplication::translate("Problems", "The id %1 stands in this page before.").arg(shown(id->value)));
     m_ids.insert(id->value, {m_programs});
 }
 
@@ -315,7 +315,7 @@ void PageReader::checkHead(const MarkupTag &tag)
         return;
     if (!m_hasTitle)
         m_sink.warning(*m_head, *m_head + qstrlen("<head"),
-                       QCoreApplication::translate("ProblemText", "The page has no title."));
+                       QCoreApplication::translate("Problems", "The page has no title."));
     m_head.reset();
 }
 
@@ -366,7 +366,7 @@ void PageReader::checkLinks(const LinkPlaces &places)
         if (++count % watchStep == 0 && m_watch.isCancelled())
             return;
         if (links.isBroken(link))
-            fail(link, QCoreApplication::translate("ProblemText", "The file %1 doesn't exist.").arg(shown(link)));
+            fail(link, QCoreApplication::translate("Problems", "The file %1 doesn't exist.").arg(shown(link)));
     }
 }
 
@@ -383,8 +383,7 @@ void PageReader::checkAnchors()
         const bool isThere = m_ids.contains(name) || m_ids.contains(written) || m_anchorNames.contains(name)
             || m_anchorNames.contains(written) || name.compare("top", Qt::CaseInsensitive) == 0;
         if (!isOfScript && !isThere)
-            fail(link,
-                 QCoreApplication::translate("ProblemText", "Nothing in this page has the id %1.").arg(shown(name)));
+            fail(link, QCoreApplication::translate("Problems", "Nothing in this page has the id %1.").arg(shown(name)));
     }
 }
 
@@ -395,8 +394,7 @@ void PageReader::finish(const LinkPlaces &places)
         blank(m_opaqueStart, m_page.text.size());
     if (m_reader.openComment() >= 0) {
         const qsizetype start = m_reader.openComment();
-        m_sink.error(start, start + 4,
-                     QCoreApplication::translate("ProblemText", "The comment has no --> at its end."));
+        m_sink.error(start, start + 4, QCoreApplication::translate("Problems", "The comment has no --> at its end."));
         m_balance.interrupt();
     }
     m_balance.finish();

@@ -3,6 +3,8 @@
 
 #include "completion/completiontext.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -119,8 +121,11 @@ Result<void> checkStructure(const PageFacts &page, const TidyEngine &tidy, Probl
         if (isInserted && !tag.startsWith("</"))
             continue;
         last = start;
-        sink.error(start, end,
-                   isInserted ? u"%1> closes nothing."_s.arg(QString::fromUtf8(tag)) : sentenceOf(message.text));
+        sink.error(
+            start, end,
+            isInserted
+                ? QCoreApplication::translate("Problems", "</%1> closes nothing.").arg(QString::fromUtf8(tag.sliced(2)))
+                : sentenceOf(message.text));
     }
     return {};
 }

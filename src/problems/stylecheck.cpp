@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace zephira {
 
 namespace {
@@ -108,11 +110,11 @@ void StyleReader::judge(qsizetype from, qsizetype to)
     if (colon < to && m_text[colon] == ':') {
         if (!isKnown)
             m_sink.warning(m_start + from, m_start + end,
-                           QCoreApplication::translate("ProblemText", "The property %1 isn't known.")
+                           QCoreApplication::translate("Problems", "The property %1 isn't known.")
                                .arg(QString::fromUtf8(written)));
     } else if (isKnown && colon < to && colon > end && !isDynamic(m_text.sliced(from, to - from))) {
         m_sink.error(m_start + from, m_start + end,
-                     QCoreApplication::translate("ProblemText", "There is no colon behind the property %1.")
+                     QCoreApplication::translate("Problems", "There is no colon behind the property %1.")
                          .arg(QString::fromUtf8(written)));
     }
 }
@@ -160,7 +162,7 @@ void StyleReader::readStatement()
             else if (c == '}' && !m_isUneven && !m_hasServerCode) {
                 m_isUneven = true;
                 m_sink.error(m_start + m_at, m_start + m_at + 1,
-                             QCoreApplication::translate("ProblemText", "This } closes nothing."));
+                             QCoreApplication::translate("Problems", "This } closes nothing."));
             }
             ++m_at;
             return;
@@ -186,7 +188,7 @@ void StyleReader::readSheet(const TidyWatch &watch)
     }
     if (!m_blocks.empty() && m_at >= m_text.size() && !m_hasServerCode) {
         const qsizetype at = m_start + m_blocks.back().at;
-        m_sink.error(at, at + 1, QCoreApplication::translate("ProblemText", "This { isn't closed."));
+        m_sink.error(at, at + 1, QCoreApplication::translate("Problems", "This { isn't closed."));
     }
 }
 
