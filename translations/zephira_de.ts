@@ -1629,12 +1629,16 @@ Pfeiltasten, und drücken und lösen Sie mit der Leertaste.</translation>
         <translation>%1 war nicht gespeichert, als das Programm endete (gestartet %2).</translation>
     </message>
     <message>
-        <source>The program crashed (started %1). A report is in %2.</source>
-        <translation>Das Programm ist abgestürzt (gestartet %1). Ein Bericht steht in %2.</translation>
-    </message>
-    <message>
         <source>It holds addresses in the program and nothing of your documents. It is sent nowhere.</source>
         <translation>Er enthält Adressen im Programm und nichts aus Ihren Dokumenten. Er wird nirgendwohin gesendet.</translation>
+    </message>
+    <message>
+        <source>The program crashed. Report: %1</source>
+        <translation>Das Programm ist abgestürzt. Bericht: %1</translation>
+    </message>
+    <message>
+        <source>Of the program that was started %1:</source>
+        <translation>Von dem Programm, das %1 gestartet wurde:</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include "core/paths.h"
 #include "core/translation.h"
 
+#include <QDir>
 #include <QLocale>
 
 #include <span>
@@ -52,6 +53,13 @@ constexpr AnswerRow<CrashReport> reportRows[] = {
 QString shortTime(const QDateTime &time)
 {
     return QLocale::system().toString(time, QLocale::ShortFormat);
+}
+
+/// The path with a sign for the user's own folder, so that the rest of it can be seen.
+QString shortPath(const QString &path)
+{
+    const QString home = QDir::homePath();
+    return path.startsWith(home + u'/') ? u'~' + path.sliced(home.size()) : path;
 }
 
 /// `subject` tells the buttons of a line from those of the others for those who can't see the bar.
@@ -103,10 +111,9 @@ void RecoveryBar::fill()
     }
     const QList<CrashReport> reports = m_reports.first(qMin(room(), m_reports.size()));
     for (const CrashReport &report : reports) {
-        const QString text =
-            tr("The program crashed (started %1). A report is in %2.").arg(shortTime(report.began), report.path);
-        const QString tip =
-            text + u'\n' + tr("It holds addresses in the program and nothing of your documents. It is sent nowhere.");
+        const QString text = tr("The program crashed. Report: %1").arg(shortPath(report.path));
+        const QString tip = tr("Of the program that was started %1:").arg(shortTime(report.began)) + u'\n' + report.path
+            + u'\n' + tr("It holds addresses in the program and nothing of your documents. It is sent nowhere.");
         shown.append(lineOf<CrashReport>(this, shown.size(), text, tip, lastName(report.path), report, reportRows));
     }
     setLines(shown);
