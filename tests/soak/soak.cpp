@@ -22,6 +22,7 @@
 #include <cstdlib>
 #include <thread>
 
+#include <execinfo.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -51,6 +52,8 @@ void tellWhere()
 void endByFault(int number)
 {
     tellWhere();
+    std::array<void *, 60> calls;
+    backtrace_symbols_fd(calls.data(), backtrace(calls.data(), static_cast<int>(calls.size())), STDERR_FILENO);
     std::signal(number, SIG_DFL);
     std::raise(number);
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "soak/soakmeter.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QPixmapCache>
+#include <QWidget>
 
 #include <algorithm>
 #include <span>
@@ -49,6 +51,17 @@ qint64 allocatedBytes()
 #endif
 }
 
+int countObjects()
+{
+    auto count = QCoreApplication::instance()->findChildren<QObject *>().size();
+    const QList<QWidget *> windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (!window->parent())
+            count += window->findChildren<QObject *>().size();
+    }
+    return static_cast<int>(count);
+}
+
 int countTemporaries(const QString &folder)
 {
     auto count = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System).size();
@@ -80,6 +93,7 @@ SoakSample measureProcess(int step, const QString &temporaryFolder)
             .resident = residentBytes(),
             .allocated = allocatedBytes(),
             .descriptors = static_cast<int>(QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size()),
+            .objects = countObjects(),
             .temporaryFiles = countTemporaries(temporaryFolder)};
 }
 
@@ -103,6 +117,7 @@ QStringList growthOf(const std::vector<SoakSample> &samples)
             grown.append(u"%1 from %2 to %3"_s.arg(name).arg(before, 0, 'f', 0).arg(after, 0, 'f', 0));
     };
     judge(u"the descriptors have grown"_s, &SoakSample::descriptors);
+    judge(u"the objects have become more"_s, &SoakSample::objects);
     judge(u"the temporary files have grown"_s, &SoakSample::temporaryFiles);
     judge(u"the resident memory has grown"_s, &SoakSample::resident);
     judge(u"the allocated memory has grown"_s, &SoakSample::allocated);
@@ -112,10 +127,12 @@ QStringList growthOf(const std::vector<SoakSample> &samples)
 QString described(const SoakSample &sample)
 {
     constexpr double mebibyte = 1024.0 * 1024.0;
-    return u"step %1: %2 MiB resident, %3 MiB allocated, %4 descriptors, %5 temporary files"_s.arg(sample.step)
+    return u"step %1: %2 MiB resident, %3 MiB allocated, %4 descriptors, %5 objects, %6 temporary files"_s
+        .arg(sample.step)
         .arg(static_cast<double>(sample.resident) / mebibyte, 0, 'f', 1)
         .arg(static_cast<double>(sample.allocated) / mebibyte, 0, 'f', 1)
         .arg(sample.descriptors)
+        .arg(sample.objects)
         .arg(sample.temporaryFiles);
 }
 

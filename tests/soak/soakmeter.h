@@ -15,6 +15,8 @@ struct SoakSample {
     qint64 resident = 0;
     qint64 allocated = 0;
     int descriptors = 0;
+    /// The objects that windows and the application own.
+    int objects = 0;
     int temporaryFiles = 0;
 };
 
