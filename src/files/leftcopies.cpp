@@ -39,7 +39,9 @@ bool isLookedAfter(const QString &process)
 
 QList<LeftCopy> leftCopies(const QString &folder)
 {
-    static const QRegularExpression pattern(uR"(^open-(\d{8}-\d{6}-\d{3})-(\d+)-(.+)$)"_s);
+    // A file's name may have line ends.
+    static const QRegularExpression pattern(uR"(\Aopen-(\d{8}-\d{6}-\d{3})-(\d+)-(.+)\z)"_s,
+                                            QRegularExpression::DotMatchesEverythingOption);
     QList<LeftCopy> copies;
     const QDir dir(folder);
     // Alphabetical order of the names is also the order of their age.

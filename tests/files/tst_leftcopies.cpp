@@ -42,6 +42,20 @@ class TstLeftCopies final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Its document's name may have any character that a file's name can have.
+    void namesWithLineEnds()
+    {
+        const QTemporaryDir folder;
+        const QString prefix = u"open-20240229-120000-000-%1-"_s.arg(endedProcess());
+        for (const QString &name : {u"a\nb.htm"_s, u"\n"_s, u"a.htm\n"_s}) {
+            write(folder, prefix + name);
+            const QList<LeftCopy> copies = leftCopies(folder.path());
+            QCOMPARE(copies.size(), 1);
+            QCOMPARE(copies.front().name, name);
+            QVERIFY(putAside(copies.front()).ok());
+        }
+    }
+
     /// A copy of another running program is that program's own until it has ended.
     void copiesOfAnotherRunningProgram()
     {

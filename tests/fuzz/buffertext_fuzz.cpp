@@ -27,7 +27,7 @@ FUZZ_TARGET(buffertext)
     check(utf16Length(bytes) == text.size());
     const qsizetype place = text.size() * (size ? data[0] : 0) / 255;
     const QByteArray before = bytes.first(byteOffset(bytes, place));
-    check(text.startsWith(QString::fromUcs4(characters.data(), 0)) && isValidUtf8(before));
+    check(isValidUtf8(before));
     check(utf16Length(before) == place || utf16Length(before) == place - 1);
     check(byteOffset(bytes, text.size() + 1) == bytes.size());
     check(toBuffer(text, LineEnds::Mixed) == bytes);

@@ -19,10 +19,8 @@ public:
     void setText(Notation notation, int channel, const QString &text) override
     {
         m_texts[index(notation, channel)] = text;
-        if (!notations->changed(notation, channel) || notations->isUpdating())
-            return;
-        const quint32 colour = colourOf(channelsOf(m_colour));
-        check(colour == m_colour);
+        notations->changed(notation, channel);
+        check(m_colour <= 0xffffff);
     }
     void setMarked(Notation notation, int channel, bool marked) override
     {

@@ -18,8 +18,8 @@ FUZZ_TARGET(colourtext)
         check(colourOf(text) == found.colour);
         const std::optional<QColor> read = colourOf(rewritten(text.toByteArray(), other));
         // Percentages and degrees are whole numbers.
-        check(read && std::abs(read->red() - other.red()) < 4 && std::abs(read->green() - other.green()) < 4
-              && std::abs(read->blue() - other.blue()) < 4);
+        check(read && std::abs(read->red() - other.red()) < 6 && std::abs(read->green() - other.green()) < 6
+              && std::abs(read->blue() - other.blue()) < 6);
     }
     return 0;
 }

@@ -9,8 +9,7 @@ using namespace zephira;
 
 FUZZ_TARGET(commenttext)
 {
-    static const std::array<CommentMarks, 4> all{
-        CommentMarks{{}, "<!--", "-->"}, {"//", "/*", "*/"}, {"'", {}, {}}, {{}, "<%--", "--%>"}};
+    static const std::array<CommentMarks, 3> all{CommentMarks{{}, "<!--", "-->"}, {"//", "/*", "*/"}, {"'", {}, {}}};
     const QByteArray text = zephira::fuzz::inputBytes(data, size);
     const qsizetype place = size ? text.size() * data[0] / 255 : 0;
     for (const CommentMarks &marks : all) {

@@ -56,7 +56,7 @@ FUZZ_TARGET(patternsearch)
     const ByteFilter filter(request);
     if (!all.empty()) {
         check(filter.mayHold(text.toUtf8()));
-        check(filter.mayHold(QByteArray(QStringEncoder(QStringEncoder::Utf16LE)(text))));
+        check(filter.mayHold("\xff\xfe" + QByteArray(QStringEncoder(QStringEncoder::Utf16LE)(text))));
     }
     checkReplacing(text, {request, replacement}, search.value());
     return 0;

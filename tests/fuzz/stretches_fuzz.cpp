@@ -14,8 +14,9 @@ FUZZ_TARGET(stretches)
 {
     const QByteArray line = zephira::fuzz::inputText(data, size).toUtf8();
     std::vector<unsigned char> styles;
+    // A character has one style.
     for (qsizetype i = 0; i < line.size(); ++i)
-        styles.push_back(static_cast<unsigned char>(line[i - i % 7] % 4));
+        styles.push_back((line[i] & 0xc0) == 0x80 ? styles.back() : static_cast<unsigned char>(i / 7 % 4));
     qsizetype end = 0;
     for (const BidiStretch &stretch : bidiStretches(line, styles)) {
         check(stretch.start >= end && stretch.end > stretch.start && stretch.end <= line.size());

@@ -10,16 +10,18 @@ FUZZ_TARGET(tagplace)
     QString text = zephira::fuzz::inputText(data, size);
     const QString tag = zephira::fuzz::takenLine(text);
     const qsizetype position = size ? text.size() * data[0] / 255 : 0;
+    const QString beginning = u'<' + tag;
+    const QString whole = beginning + u'>';
     const std::optional<qsizetype> place = findTag(text, tag, position);
-    check(place.has_value() == text.contains(u'<' + tag + u'>'));
-    if (!place)
+    const bool isThere = QStringView(text).sliced(position).startsWith(beginning);
+    check(place.has_value() == (isThere || text.contains(whole)));
+    check(!isThere || place == position);
+    if (!place || isThere)
         return 0;
-    check(QStringView(text).sliced(*place).startsWith(u'<' + tag + u'>'));
+    check(QStringView(text).sliced(*place).startsWith(whole));
+    // There is no other one that is nearer.
     const qsizetype distance = std::abs(*place - position);
-    const qsizetype before = std::max<qsizetype>(position - distance + 1, 0);
-    check(distance == 0
-          || !QStringView(text)
-                  .sliced(before, std::min(text.size(), position + distance + tag.size() + 1) - before)
-                  .contains(u'<' + tag + u'>'));
+    const qsizetype from = std::max<qsizetype>(position - distance + 1, 0);
+    check(!QStringView(text).mid(from, position + distance + tag.size() + 1 - from).contains(whole));
     return 0;
 }
