@@ -418,79 +418,79 @@ Mehr dazu mit &apos;zephira --help&apos;.
     </message>
     <message>
         <source>&lt;%1&gt; has no label.</source>
-        <translation type="unfinished">&lt;%1&gt; hat keine Beschriftung.</translation>
+        <translation>&lt;%1&gt; hat keine Beschriftung.</translation>
     </message>
     <message>
         <source>A quotation mark seems to be missing behind this one.</source>
-        <translation type="unfinished">Hinter diesem Anführungszeichen scheint eines zu fehlen.</translation>
+        <translation>Hinter diesem Anführungszeichen scheint eines zu fehlen.</translation>
     </message>
     <message>
         <source>This quotation mark doesn&apos;t belong here.</source>
-        <translation type="unfinished">Dieses Anführungszeichen gehört nicht hierher.</translation>
+        <translation>Dieses Anführungszeichen gehört nicht hierher.</translation>
     </message>
     <message>
         <source>This quotation mark has no partner.</source>
-        <translation type="unfinished">Zu diesem Anführungszeichen fehlt das zweite.</translation>
+        <translation>Zu diesem Anführungszeichen fehlt das zweite.</translation>
     </message>
     <message>
         <source>The tag has no &gt; at its end.</source>
-        <translation type="unfinished">Am Ende des Tags fehlt &gt;.</translation>
+        <translation>Am Ende des Tags fehlt &gt;.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no attribute %2.</source>
-        <translation type="unfinished">&lt;%1&gt; hat kein Attribut %2.</translation>
+        <translation>&lt;%1&gt; hat kein Attribut %2.</translation>
     </message>
     <message>
         <source>The tag &lt;%1&gt; isn&apos;t known.</source>
-        <translation type="unfinished">Das Tag &lt;%1&gt; ist nicht bekannt.</translation>
+        <translation>Das Tag &lt;%1&gt; ist nicht bekannt.</translation>
     </message>
     <message>
         <source>The attribute %1 stands here twice.</source>
-        <translation type="unfinished">Das Attribut %1 steht hier zweimal.</translation>
+        <translation>Das Attribut %1 steht hier zweimal.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no alt: a text in place of the picture.</source>
-        <translation type="unfinished">&lt;%1&gt; hat kein alt: einen Text anstelle des Bildes.</translation>
+        <translation>&lt;%1&gt; hat kein alt: einen Text anstelle des Bildes.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no lang: the language of the page.</source>
-        <translation type="unfinished">&lt;%1&gt; hat kein lang: die Sprache der Seite.</translation>
+        <translation>&lt;%1&gt; hat kein lang: die Sprache der Seite.</translation>
     </message>
     <message>
         <source>The id %1 stands in this page before.</source>
-        <translation type="unfinished">Die id %1 steht in dieser Seite schon weiter oben.</translation>
+        <translation>Die id %1 steht in dieser Seite schon weiter oben.</translation>
     </message>
     <message>
         <source>The page has no title.</source>
-        <translation type="unfinished">Die Seite hat keinen Titel.</translation>
+        <translation>Die Seite hat keinen Titel.</translation>
     </message>
     <message>
         <source>The file %1 doesn&apos;t exist.</source>
-        <translation type="unfinished">Die Datei %1 gibt es nicht.</translation>
+        <translation>Die Datei %1 gibt es nicht.</translation>
     </message>
     <message>
         <source>Nothing in this page has the id %1.</source>
-        <translation type="unfinished">Nichts in dieser Seite hat die id %1.</translation>
+        <translation>Nichts in dieser Seite hat die id %1.</translation>
     </message>
     <message>
         <source>The comment has no --&gt; at its end.</source>
-        <translation type="unfinished">Am Ende des Kommentars fehlt --&gt;.</translation>
+        <translation>Am Ende des Kommentars fehlt --&gt;.</translation>
     </message>
     <message>
         <source>The property %1 isn&apos;t known.</source>
-        <translation type="unfinished">Die Eigenschaft %1 ist nicht bekannt.</translation>
+        <translation>Die Eigenschaft %1 ist nicht bekannt.</translation>
     </message>
     <message>
         <source>There is no colon behind the property %1.</source>
-        <translation type="unfinished">Hinter der Eigenschaft %1 steht kein Doppelpunkt.</translation>
+        <translation>Hinter der Eigenschaft %1 steht kein Doppelpunkt.</translation>
     </message>
     <message>
         <source>This } closes nothing.</source>
-        <translation type="unfinished">Dieses } schließt nichts.</translation>
+        <translation>Dieses } schließt nichts.</translation>
     </message>
     <message>
         <source>This { isn&apos;t closed.</source>
-        <translation type="unfinished">Dieses { wird nicht geschlossen.</translation>
+        <translation>Dieses { wird nicht geschlossen.</translation>
     </message>
 </context>
 <context>
