@@ -20,7 +20,7 @@
 #include "desktop/desktopshell.h"
 #include "desktop/module.h"
 #include "desktop/recentfiles.h"
-#include "desktop/translation.h"
+#include "desktop/desktoptranslation.h"
 #include "editor/codemax.h"
 #include "files/appfolder.h"
 #include "files/crashreports.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "desktop/translation.h"
+#include "desktop/desktoptranslation.h"
 
 #include <QString>
 

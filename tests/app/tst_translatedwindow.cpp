@@ -4,7 +4,7 @@
 #include "commands/menutable.h"
 #include "commands/texttable.h"
 #include "commands/toolbartable.h"
-#include "desktop/translation.h"
+#include "desktop/desktoptranslation.h"
 #include "support/testregistry.h"
 #include "widgets/pickpopup.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/translation.h"
+#include "desktop/desktoptranslation.h"
 #include "files/diskfilestore.h"
 #include "forms/allforms.h"
 #include "support/fakes.h"

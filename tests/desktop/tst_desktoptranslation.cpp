@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/translation.h"
-#include "desktop/translation.h"
+#include "desktop/desktoptranslation.h"
 #include "files/diskfilestore.h"
 #include "support/diskfiles.h"
 #include "support/sourcefolder.h"
@@ -54,7 +54,7 @@ QStringList found(const QRegularExpression &expression, const QString &text)
 
 } // namespace
 
-class TstTranslation final : public QObject
+class TstDesktopTranslation final : public QObject
 {
     Q_OBJECT
 
@@ -151,5 +151,5 @@ private Q_SLOTS:
     }
 };
 
-ZEPHIRA_TEST(TstTranslation)
-#include "tst_translation.moc"
+ZEPHIRA_TEST(TstDesktopTranslation)
+#include "tst_desktoptranslation.moc"
