@@ -185,8 +185,6 @@ private:
             return save(*m_bench.window, m_folder, page.name);
         if (part == u"SearchPage")
             return takeSearch(page.name);
-        if (part == u"ProblemsPage")
-            return takeProblems(page.name);
         if (part == u"toolpane")
             return save(*m_bench.find<QWidget>(u"paletteBar"_s), m_folder, page.name);
         selectSideTab(sideTabOf(part));
@@ -200,23 +198,6 @@ private:
         selectors->show();
         const bool taken = save(*selectors, m_folder, page);
         selectors->hide();
-        return taken;
-    }
-
-    /// The panel's list of what is wrong in a page.
-    bool takeProblems(QStringView page)
-    {
-        CodeMax &rt = m_bench.window->rt();
-        const QString before = rt.text();
-        rt.setText(
-            u"<body>\r\n<h1>Walks in Kent</h1>\r\n<img src=\"kent.png\">\r\n<p clas=\"note\">By the sea</p>\r\n</body>\r\n"_s);
-        m_bench.find<QAction>(u"textListProblems"_s)->trigger();
-        constexpr int timeToCheck = 1500;
-        QTest::qWait(timeToCheck);
-        auto *panel = m_bench.find<QDockWidget>(u"toolPanel"_s);
-        const bool taken = save(*panel, m_folder, page);
-        panel->close();
-        rt.setText(before);
         return taken;
     }
 
