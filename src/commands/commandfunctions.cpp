@@ -50,8 +50,10 @@ void weighDocument(const AppContext &context)
 {
     // The document may be private, whatever folder the copy lies in.
     constexpr int ownerOnly = 0600;
-    const Result<void> written =
-        context.files.write(context.appPath + u"/ldtemp.html"_s, context.editor.text().toUtf8(), ownerOnly);
+    const QString copy = context.appPath + u"/ldtemp.html"_s;
+    // A link there, or a file that others may read, is not where it should go.
+    [[maybe_unused]] const Result<void> removed = context.files.remove(copy);
+    const Result<void> written = context.files.write(copy, context.editor.text().toUtf8(), ownerOnly);
     if (written)
         context.forms.openModal(u"frmDocSize"_s);
     else

@@ -80,6 +80,8 @@ public:
     /// Like writeCopy(), for bytes that arrive piece by piece; if the store can do that, they aren't collected in
     /// memory.
     virtual std::unique_ptr<IncomingFile> receiveCopy(const QString &path);
+    /// Removes what writes that were killed have left in a folder.
+    virtual void removeLeavings(const QString &) {}
     virtual Result<void> remove(const QString &path) = 0;
     /// True if the path can be opened for reading; an existing file that can't be read counts as absent.
     virtual bool FileExists(const QString &path) const = 0;

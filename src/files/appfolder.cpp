@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/appfolder.h"
 
+#include "files/atomicwrite.h"
 #include "files/diskfilestore.h"
+#include "files/filesystemcalls.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -26,7 +28,6 @@ namespace {
 const QString iniName = u"zephira.ini"_s;
 constexpr mode_t folderMode = 0700;
 constexpr int ownFileMode = 0600;
-constexpr QFile::Permissions fileMode = QFile::ReadOwner | QFile::WriteOwner;
 
 Error unmade(const QString &folder)
 {
@@ -35,34 +36,18 @@ Error unmade(const QString &folder)
                 .arg(folder, QString::fromLocal8Bit(std::strerror(errno)))};
 }
 
-/// Creates a folder and its missing parents, accessible only to the user.
-Result<void> makePrivateFolder(const QString &path)
-{
-    if (QFileInfo(path).isDir())
-        return {};
-    const QString parent = QFileInfo(path).path();
-    if (parent != path) {
-        if (const Result<void> made = makePrivateFolder(parent); !made)
-            return made;
-    }
-    if (::mkdir(QFile::encodeName(path).constData(), folderMode) != 0 && errno != EEXIST)
-        return unmade(path);
-    return {};
-}
-
-/// Another process may create the same file at the same time; either copy will do.
+/// Another process may create the same file at the same time; either copy will do. One that is interrupted leaves none, and
+/// what can be copied again needn't be waited for.
 Result<void> copyMissing(const QString &source, const QString &target)
 {
     if (QFileInfo::exists(target))
         return {};
-    QFile file(source);
-    if (!file.copy(target) && !QFileInfo::exists(target)) {
-        return Error{Error::Code::Unwritable,
-                     QCoreApplication::translate("FileErrors", "The file %1 can't be copied to %2: %3.")
-                         .arg(source, target, file.errorString())};
-    }
-    QFile::setPermissions(target, fileMode);
-    return {};
+    const Result<QByteArray> content = DiskFileStore().read(source);
+    if (!content)
+        return content.error();
+    FileSystemCalls calls;
+    const QByteArrayView piece = content.value();
+    return AtomicWrite(calls, target, AtomicWrite::Flush::WhenReplacing).run({&piece, 1}, ownFileMode);
 }
 
 /// The executable and its modules are not data and aren't copied.
@@ -75,6 +60,7 @@ bool isProgram(const QFileInfo &file)
 Result<void> fillFolder(const QStringList &sources, const QString &target, const QSet<QString> &known,
                         QStringList &offered)
 {
+    DiskFileStore().removeLeavings(target);
     for (const QString &source : sources) {
         const QDir root(source);
         QDirIterator walk(source, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
@@ -87,9 +73,12 @@ Result<void> fillFolder(const QStringList &sources, const QString &target, const
             if (known.contains(relative))
                 continue;
             const QString place = target + u'/' + relative;
-            const Result<void> done = walk.fileInfo().isDir() ? makePrivateFolder(place) : copyMissing(path, place);
+            const bool isFolder = walk.fileInfo().isDir();
+            const Result<void> done = isFolder ? makePrivateFolder(place) : copyMissing(path, place);
             if (!done)
                 return done;
+            if (isFolder)
+                DiskFileStore().removeLeavings(place);
         }
     }
     return copyMissing(sources.constFirst() + u'/' + iniName, target + u'/' + iniName);
@@ -132,6 +121,20 @@ Result<QString> readableFolder(const QString &folder)
 }
 
 } // namespace
+
+Result<void> makePrivateFolder(const QString &path)
+{
+    if (QFileInfo(path).isDir())
+        return {};
+    const QString parent = QFileInfo(path).path();
+    if (parent != path) {
+        if (const Result<void> made = makePrivateFolder(parent); !made)
+            return made;
+    }
+    if (::mkdir(QFile::encodeName(path).constData(), folderMode) != 0 && errno != EEXIST)
+        return unmade(path);
+    return {};
+}
 
 Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome,
                                const QString &version)

@@ -7,6 +7,9 @@
 
 namespace zephira {
 
+/// Creates a folder and its missing parents, accessible only to the user.
+Result<void> makePrivateFolder(const QString &path);
+
 /// The program folder, the root of all data files, without a trailing separator.
 ///
 /// It is the executable's folder if that is writable and contains zephira.ini, otherwise the folder "zephira" below

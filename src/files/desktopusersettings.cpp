@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/desktopusersettings.h"
 
+#include "files/appfolder.h"
+#include "files/diskfilestore.h"
+#include "files/folderlock.h"
+#include "files/usersettingstext.h"
+
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -9,10 +16,7 @@ namespace zephira {
 
 namespace {
 
-QSettings store()
-{
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, u"Zephira"_s, u"Zephira"_s);
-}
+constexpr int privateMode = 0600;
 
 /// Escapes a name as one level of the store's path, which may not contain a separator or be empty.
 QString level(QString name)
@@ -39,11 +43,28 @@ QString storeKey(const QString &branch, const QString &section, const QString &k
     return storeGroup(branch, section) + u'/' + level(key);
 }
 
-/// Whether all that was set has reached the file.
-bool isWritten(QSettings &settings)
+QByteArray store()
 {
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+    return DiskFileStore().read(DesktopUserSettings::fileName()).valueOr({});
+}
+
+/// Whether the change has reached the file. A store that can't be read isn't replaced.
+bool change(const QString &path, const std::optional<QString> &value)
+{
+    const QString file = DesktopUserSettings::fileName();
+    const QString folder = QFileInfo(file).path();
+    if (!makePrivateFolder(folder))
+        return false;
+    const FolderLock lock(QFile::encodeName(folder));
+    if (!lock.isHeld())
+        return false;
+    DiskFileStore files;
+    const Result<QByteArray> old = files.read(file);
+    if (!old && old.error().code != Error::Code::NotFound)
+        return false;
+    const QByteArray before = old.valueOr({});
+    const QByteArray after = withStoredText(before, path, value);
+    return after == before || files.FileStore::write(file, after, privateMode).ok();
 }
 
 } // namespace
@@ -51,30 +72,23 @@ bool isWritten(QSettings &settings)
 QString DesktopUserSettings::read(const QString &branch, const QString &section, const QString &key,
                                   const QString &fallback) const
 {
-    const QSettings settings = store();
-    return settings.value(storeKey(branch, section, key), fallback).toString();
+    return storedText(store(), storeKey(branch, section, key)).value_or(fallback);
 }
 
 bool DesktopUserSettings::write(const QString &branch, const QString &section, const QString &key, const QString &value)
 {
-    QSettings settings = store();
-    settings.setValue(storeKey(branch, section, key), value);
-    return isWritten(settings);
+    return change(storeKey(branch, section, key), value);
 }
 
 bool DesktopUserSettings::remove(const QString &branch, const QString &section, const QString &key)
 {
-    QSettings settings = store();
-    settings.remove(storeKey(branch, section, key));
-    return isWritten(settings);
+    return change(storeKey(branch, section, key), std::nullopt);
 }
 
 QStringList DesktopUserSettings::keys(const QString &branch, const QString &section) const
 {
-    QSettings settings = store();
-    settings.beginGroup(storeGroup(branch, section));
     QStringList names;
-    const QStringList levels = settings.childKeys();
+    const QStringList levels = storedNames(store(), storeGroup(branch, section));
     for (const QString &each : levels)
         names.append(nameOf(each));
     return names;
@@ -82,7 +96,7 @@ QStringList DesktopUserSettings::keys(const QString &branch, const QString &sect
 
 QString DesktopUserSettings::fileName()
 {
-    return store().fileName();
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, u"Zephira"_s, u"Zephira"_s).fileName();
 }
 
 } // namespace zephira

@@ -7,8 +7,9 @@
 
 namespace zephira {
 
-/// The per-user store in the desktop's usual location, through QSettings: one group per branch, with one subgroup per
-/// section.
+/// The per-user store, in the desktop's usual location and in the format of QSettings: one group per branch, with one
+/// subgroup per section. QSettings itself would replace a store that it can't read, and takes a failed write for a good
+/// one.
 class DesktopUserSettings final : public UserSettings
 {
 public:

@@ -6,6 +6,7 @@
 #include "files/filesystemcalls.h"
 #include "files/inplacewrite.h"
 #include "files/mappedfile.h"
+#include "files/temporaryfiles.h"
 #include "files/textfile.h"
 
 #include <QCoreApplication>
@@ -175,6 +176,12 @@ Result<void> DiskFileStore::writeInPlace(const QString &path, std::span<const QB
 std::unique_ptr<IncomingFile> DiskFileStore::receiveCopy(const QString &path)
 {
     return std::make_unique<IncomingCopy>(m_calls, path);
+}
+
+void DiskFileStore::removeLeavings(const QString &folder)
+{
+    if (const std::optional<QByteArray> name = systemPath(folder))
+        sweepTemporaries(m_calls, name->endsWith('/') ? *name : *name + '/');
 }
 
 Result<void> DiskFileStore::remove(const QString &path)

@@ -30,6 +30,7 @@ public:
     bool mustBeWrittenInPlace(const QString &path) const override;
     Result<void> writeInPlace(const QString &path, std::span<const QByteArrayView> pieces) override;
     std::unique_ptr<IncomingFile> receiveCopy(const QString &path) override;
+    void removeLeavings(const QString &folder) override;
     Result<void> remove(const QString &path) override;
     bool FileExists(const QString &path) const override;
     FileSignature signature(const QString &path) const override;

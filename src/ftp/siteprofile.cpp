@@ -4,6 +4,7 @@
 #include "files/iniconfiguration.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <vector>
 
@@ -41,6 +42,9 @@ SiteProfile readSiteProfile(const QString &file)
 
 bool writeSiteProfile(const SiteProfile &profile, const QString &file)
 {
+    // What a link leads to is no place for a password.
+    if (QFileInfo(file).isSymLink() && !QFile::remove(file))
+        return false;
     // If the file already exists with permissions for others, restrict them before a password is written.
     if (QFile::exists(file) && !QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner))
         return false;

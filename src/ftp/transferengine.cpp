@@ -84,6 +84,9 @@ TransferEngine::Outcome TransferEngine::run(const TransferQueue &queue)
 {
     const bool downloads = queue.direction == TransferQueue::Direction::Download;
     const auto move = downloads ? &TransferEngine::download : &TransferEngine::upload;
+    // Once for all files, whose folder may be large.
+    if (downloads)
+        m_files.removeLeavings(m_client.session.ftpLocalFolder);
     m_progress = {.total = queue.total()};
     m_number = 0;
     m_count = static_cast<int>(queue.files.size());

@@ -3,8 +3,10 @@
 
 #include "files/iniconfiguration.h"
 
-#include <QFileInfo>
+#include <QFile>
 
+#include <filesystem>
+#include <system_error>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -54,7 +56,9 @@ QString savedTagsFolder(const QString &appPath)
 
 Result<void> saveTags(const SiteFacts &facts, const QString &folder, const QString &name)
 {
-    if (!QFileInfo::exists(folder))
+    // A folder that can't be looked at isn't one that is missing.
+    std::error_code problem;
+    if (!std::filesystem::exists(QFile::encodeName(folder).toStdString(), problem) && !problem)
         return {};
     const QString fileName = name + savedTagsExtension.toString();
     if (fileName.contains(u'/') || fileName.contains(QChar::Null))

@@ -93,6 +93,19 @@ private Q_SLOTS:
         QCOMPARE(modeOf(copies.ownCopy()), mode_t(0600));
     }
 
+    /// A link in place of the folder leads nowhere, and what it leads to stays as it is.
+    void aPlantedLinkIsRefused()
+    {
+        const QString outside = m_parent->filePath(u"outside"_s);
+        QVERIFY(QDir().mkpath(outside) && QDir().mkpath(m_parent->filePath(u"data"_s)));
+        QCOMPARE(chmod(QFile::encodeName(outside).constData(), 0755), 0);
+        QVERIFY(QFile::link(outside, folder()));
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        QVERIFY(!write(copies, u"a.htm"_s, "text"));
+        QCOMPARE(modeOf(outside), mode_t(0755));
+        QCOMPARE(QDir(outside).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
+
     void anOpenFolderIsClosed()
     {
         QVERIFY(QDir().mkpath(folder()));

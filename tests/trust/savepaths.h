@@ -19,6 +19,8 @@ struct SavePath {
     std::function<bool(const QString &folder, const std::function<void()> &begin)> save;
     /// What the user has now, wherever it is: equal before and after the same save, and in no state between.
     std::function<QByteArray(const QString &folder)> state;
+    /// Whether it also writes what may be missing, and so needn't be told about.
+    bool hasExtras = false;
 };
 
 const std::vector<SavePath> &savePaths();

@@ -189,7 +189,8 @@ private Q_SLOTS:
                 const QByteArray state = path.state(folder.path());
                 if (state != oldState && state != newState)
                     complaints.append(describe(fault, report) + u": damaged: "_s + QString::fromUtf8(state.left(60)));
-                if (outcome == Outcome::Saved && (state != newState || mustBeTold(fault.fault, report.name)))
+                if (outcome == Outcome::Saved
+                    && (state != newState || (!path.hasExtras && mustBeTold(fault.fault, report.name))))
                     complaints.append(describe(fault, report) + u": counts as saved"_s);
                 // The next save ends well and leaves nothing behind that doesn't belong there.
                 if (saveIn(folder.path(), path, nullptr) == Outcome::Killed)

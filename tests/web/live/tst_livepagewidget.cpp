@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/eventwait.h"
+#include "support/diskfiles.h"
+#include "support/hostilepage.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
 #include "web/live/livebench.h"
@@ -269,6 +271,16 @@ private Q_SLOTS:
         m_bench->live.reload();
         QTRY_COMPARE(m_bench->ask(u"String(window.a)"_s), u"1"_s);
         QCOMPARE(m_bench->refused, QStringList());
+    }
+
+    void everyWayOut()
+    {
+        const HttpServer server;
+        m_bench->file = plantHostilePage(m_bench->folder.path(), server.address(u"/"_s));
+        QVERIFY(m_bench->show(QString::fromUtf8(contentOf(m_bench->file))));
+        QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"String(window.tried)"_s), u"true"_s, LiveBench::patience);
+        QCOMPARE(m_bench->ask(u"window.got"_s), QString());
+        QCOMPARE(server.requests(), QStringList());
     }
 
     /// A key in a page of 50 kB is seen soon.
