@@ -6,6 +6,9 @@
 
 #include <QByteArrayView>
 
+#include <utility>
+#include <vector>
+
 namespace zephira {
 
 /// Sends messages to the editor engine, using signed positions. Positions and lengths are in bytes; lines are 0-based.
@@ -53,6 +56,7 @@ public:
     /// Replaces the bytes from start up to end with UTF-8, in one undo step.
     void replace(qsizetype start, qsizetype end, QByteArrayView utf8) const
     {
+        leaveThinRectangle();
         send(QsciScintillaBase::SCI_BEGINUNDOACTION);
         send(QsciScintillaBase::SCI_SETTARGETRANGE, start, end);
         sendText(QsciScintillaBase::SCI_REPLACETARGET, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
@@ -62,6 +66,25 @@ public:
     QsciScintillaBase &view() const { return *m_view; }
 
 private:
+    /// After something was typed into a rectangle, the engine has a caret in each of its lines and still remembers the
+    /// corners. It doesn't move these with a change that isn't typed, so that they may soon lie behind the end of the text,
+    /// where the engine reads them nevertheless. Carets without a rectangle have no such memory.
+    void leaveThinRectangle() const
+    {
+        using Sci = QsciScintillaBase;
+        if (send(Sci::SCI_GETSELECTIONMODE) != Sci::SC_SEL_THIN)
+            return;
+        const qsizetype main = send(Sci::SCI_GETMAINSELECTION);
+        std::vector<std::pair<qsizetype, qsizetype>> ranges;
+        for (qsizetype i = 0; i < send(Sci::SCI_GETSELECTIONS); ++i)
+            ranges.emplace_back(send(Sci::SCI_GETSELECTIONNCARET, i), send(Sci::SCI_GETSELECTIONNANCHOR, i));
+        send(Sci::SCI_SETEMPTYSELECTION, ranges.front().first);
+        send(Sci::SCI_SETSELECTION, ranges.front().first, ranges.front().second);
+        for (std::size_t i = 1; i < ranges.size(); ++i)
+            send(Sci::SCI_ADDSELECTION, ranges[i].first, ranges[i].second);
+        send(Sci::SCI_SETMAINSELECTION, main);
+    }
+
     QsciScintillaBase *m_view;
 };
 

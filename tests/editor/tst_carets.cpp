@@ -131,6 +131,28 @@ private Q_SLOTS:
         QCOMPARE(f.editor.text(), u"a\r\nd\r\na\r\nd\r\na\r\nd"_s);
     }
 
+    /// The engine would keep the corners of the rectangle, behind the end of what is left.
+    void caretsOfARectangleStayInAShorterText()
+    {
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"abcd\r\nabcd\r\nabcd"_s);
+        rectangle(f, 1, f.editor.engine().lineStart(2) + 3);
+        QTest::keyClicks(&f.editor, u"-"_s);
+        QCOMPARE(f.editor.text(), u"a-d\r\na-d\r\na-d"_s);
+        f.editor.engine().replace(2, 8, {});
+        QCOMPARE(f.editor.text(), u"a-\r\na-d"_s);
+        QCOMPARE(f.editor.engine().anchor(), 6);
+        QCOMPARE(f.editor.engine().caret(), 6);
+        QTest::keyClicks(&f.editor, u"x"_s);
+        QCOMPARE(f.editor.text(), u"a-x\r\na-xd"_s);
+        f.editor.engine().replace(0, f.editor.engine().length(), {});
+        QCOMPARE(f.editor.engine().caret(), 0);
+        QTest::keyClick(&f.editor, Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+        QTest::keyClicks(&f.editor, u"y"_s);
+        QCOMPARE(f.editor.text(), u"y"_s);
+    }
+
     void ctrlAndDeleteTakeAWordOrTheRestOfTheLine()
     {
         EditorFixture f;
