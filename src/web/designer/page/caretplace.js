@@ -5,7 +5,7 @@
 
 import {bodyElement, closest, createTreeWalker, elementOf, indexOf, isElement, isNamed, isText, query, wordSet} from './nodes.js';
 import {isPlain} from './plaintext.js';
-import {controlNames, placeCaret, selectElement} from './selection.js';
+import {controlNames, noteSelection, placeCaret, selectElement} from './selection.js';
 
 // Elements whose content doesn't count.
 const closedSelector = 'script,style,noscript,template,title,textarea,select,iframe,noembed,noframes,svg,math,zephira-mark';
@@ -176,6 +176,8 @@ const selectionNow = () => {
 
 export const noteGivenCaret = () => {
     given = selectionNow();
+    // The event comes later, when the page may have the focus already.
+    noteSelection();
 };
 
 const isCaretAsGiven = () => given !== null && selectionNow().every((each, index) => each === given[index]);
