@@ -8,12 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace zephira {
 
-ProblemList::ProblemList(QObject *parent)
-    : QAbstractTableModel(parent)
-    , m_error(QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical))
-    , m_warning(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning))
-    , m_note(QApplication::style()->standardIcon(QStyle::SP_MessageBoxInformation))
-{}
+void ProblemList::loadPictures()
+{
+    const QStyle &style = *QApplication::style();
+    m_error = style.standardIcon(QStyle::SP_MessageBoxCritical);
+    m_warning = style.standardIcon(QStyle::SP_MessageBoxWarning);
+    m_note = style.standardIcon(QStyle::SP_MessageBoxInformation);
+}
 
 void ProblemList::set(const QStringList &notes, const std::vector<Problem> &problems,
                       const std::vector<qsizetype> &lines)

@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace zephira {
@@ -19,8 +20,10 @@ class ProblemList final : public QAbstractTableModel
 public:
     enum Column { LineColumn, TextColumn };
 
-    explicit ProblemList(QObject *parent);
+    using QAbstractTableModel::QAbstractTableModel;
 
+    /// To be called before the rows are first shown: the pictures of the desktop cost some time.
+    void loadPictures();
     /// @param lines  the lines of the problems, 0-based
     void set(const QStringList &notes, const std::vector<Problem> &problems, const std::vector<qsizetype> &lines);
 
@@ -44,9 +47,9 @@ private:
 
     std::vector<Row> m_rows;
     int m_notes = 0;
-    const QIcon m_error;
-    const QIcon m_warning;
-    const QIcon m_note;
+    QIcon m_error;
+    QIcon m_warning;
+    QIcon m_note;
 };
 
 } // namespace zephira

@@ -139,7 +139,7 @@ void Problems::check()
     if (const QString reason = reasonAgainst(); !reason.isEmpty()) {
         forget();
         m_reason = reason;
-        list({reason}, {}, tr("Not checked."));
+        fill({reason}, {}, tr("Not checked."));
         return;
     }
     m_reason.clear();
@@ -181,7 +181,7 @@ void Problems::show(const CheckReport &report)
     QStringList notes = report.notes;
     if (report.isCut)
         notes.prepend(tr("There are more problems: these are the first %1.").arg(count));
-    list(notes, report.problems, count == 0 ? tr("No problems were found.") : QString());
+    fill(notes, report.problems, count == 0 ? tr("No problems were found.") : QString());
     const QString number = QString::number(count) + (report.isCut ? u"+"_s : QString());
     m_parts.panel.setCaption(pageName, count == 0 ? tr("Problems") : tr("Problems (%1)").arg(number));
 }
@@ -203,11 +203,11 @@ void Problems::forget()
     m_reason.clear();
     if (!m_problems.empty())
         m_marks.clear();
-    list({}, {}, m_isOn ? QString() : tr("Problems aren't looked for."));
+    fill({}, {}, m_isOn ? QString() : tr("Problems aren't looked for."));
     m_parts.panel.setCaption(pageName, tr("Problems"));
 }
 
-void Problems::list(QStringList notes, std::vector<Problem> problems, const QString &state)
+void Problems::fill(const QStringList &notes, std::vector<Problem> problems, const QString &state)
 {
     const SciEngine &engine = m_parts.rt.engine();
     m_problems = std::move(problems);

@@ -72,7 +72,8 @@ private:
     void show(const CheckReport &report);
     void giveUp();
     void forget();
-    void list(QStringList notes, std::vector<Problem> problems, const QString &state);
+    /// Makes these the rows of the list.
+    void fill(const QStringList &notes, std::vector<Problem> problems, const QString &state);
     void goTo(bool forward);
     void goToProblem(std::size_t problem);
     void goToPlace(qsizetype position);

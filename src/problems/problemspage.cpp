@@ -13,6 +13,7 @@ ProblemsPage::ProblemsPage(ProblemList &list, std::function<void(std::size_t)> g
     : QWidget(parent), m_ui(std::make_unique<Ui::ProblemsPage>())
 {
     m_ui->setupUi(this);
+    list.loadPictures();
     setFocusProxy(m_ui->treProblems);
     m_ui->treProblems->setModel(&list);
     const int width = m_ui->treProblems->fontMetrics().horizontalAdvance(u'0') * 9;

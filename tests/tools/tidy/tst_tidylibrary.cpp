@@ -132,6 +132,22 @@ private Q_SLOTS:
         QCOMPARE(text.count(u'\n'), text.count(u"\r\n"_s));
     }
 
+    /// A check writes nothing, and gives each message its key.
+    void aCheck()
+    {
+        TidyWatch watch;
+        const Result<TidyEngine::Run> run =
+            TidyLibrary().run("<!DOCTYPE html><title>x</title><p><b>a</p>", {}, TidyEngine::Steps::Checking, watch);
+        QVERIFY(run.ok());
+        QCOMPARE(run.value().output, QByteArray());
+        QCOMPARE(run.value().messages.front().key, QByteArray("INSERTING_TAG"));
+        QCOMPARE(run.value().messages.back().key, QByteArray("MISSING_ENDTAG_BEFORE"));
+        const Result<TidyEngine::Run> cleaned =
+            TidyLibrary().run("<!DOCTYPE html><title>x</title><p><b>a</p>", {}, TidyEngine::Steps::All, watch);
+        QVERIFY(cleaned.ok() && !cleaned.value().output.isEmpty());
+        QCOMPARE(cleaned.value().messages.front().key, QByteArray());
+    }
+
     void everyEncodingOfTheFile_data()
     {
         QTest::addColumn<QByteArray>("file");
