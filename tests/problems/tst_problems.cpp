@@ -97,7 +97,8 @@ private Q_SLOTS:
         QTest::keyClicks(&bench.editor, u"<p><blok clas=1>x</p>"_s);
         QCOMPARE(bench.marked(), QStringList());
         QTRY_COMPARE_WITH_TIMEOUT(bench.marked(), QStringList{u"<blok"_s}, 5000);
-        QVERIFY(clock.elapsed() >= Problems::delay);
+        // A timer may be a little early.
+        QVERIFY(clock.elapsed() >= Problems::delay * 9 / 10);
         bench.editor.select({0, 0, 0, 0});
         bench.type(u"\u05e9<b></b> "_s);
         QCOMPARE(bench.marked(), QStringList{u"<blok"_s});
