@@ -3,6 +3,8 @@
 #include "ftp/ftpreply.h"
 #include "fuzz/fuzztarget.h"
 
+#include <QList>
+
 using namespace zephira;
 
 FUZZ_TARGET(ftpreply)

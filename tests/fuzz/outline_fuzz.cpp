@@ -4,6 +4,7 @@
 #include "fuzz/fuzztarget.h"
 #include "panes/plainoutline.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace zephira;
@@ -38,7 +39,7 @@ FUZZ_TARGET(outline)
     PlainOutline plain;
     if (errorOf([&] { plain.parse(text); }) != error)
         std::abort();
-    if (!std::ranges::equal(leaves, plain.leaves.begin(), plain.leaves.end(), same))
+    if (!std::ranges::equal(leaves, plain.leaves, same))
         std::abort();
     return 0;
 }

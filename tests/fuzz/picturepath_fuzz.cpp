@@ -18,7 +18,7 @@ FUZZ_TARGET(picturepath)
         const QString path = pictureFile(QString::fromUtf8(source), u"/site/a"_s, u"/site"_s);
         check(path.isEmpty() || path.startsWith(u'/'));
     }
-    const QString target = u"/site/" + QString::fromUtf8(line);
+    const QString target = u"/site/"_s + QString::fromUtf8(line);
     QString relative;
     check(endingQuietly([&] { relative = MakeRelativePath(u"/site/"_s, target); }));
     check(target.contains(u'\\') || relative == target.mid(6));

@@ -15,6 +15,8 @@ using namespace zephira;
 FUZZ_TARGET(safenames)
 {
     const QString name = zephira::fuzz::inputText(data, size);
+    if (name.isEmpty())
+        return 0;
     const QByteArray bytes = name.toUtf8();
     if (isSafeRemoteName(name)) {
         check(isSafeRemoteName(bytes) && bytes.size() <= longestRemoteName && isSafeInCommand(name));
