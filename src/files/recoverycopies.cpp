@@ -142,7 +142,7 @@ Result<void> RecoveryCopies::makeFolder() const
     // Someone else may have planted a link or a folder there. One's own folder may be accessible to others.
     if (lstat(name.constData(), &status) != 0)
         return saveError(m_folder, errno);
-    if (!S_ISDIR(status.st_mode) || status.st_uid != geteuid())
+    if (S_ISLNK(status.st_mode) || status.st_uid != geteuid())
         return saveError(m_folder, Error::Code::Refused, u"it isn't a folder that belongs to you"_s);
     if ((status.st_mode & 077) != 0 && chmod(name.constData(), 0700) != 0)
         return saveError(m_folder, errno);

@@ -39,7 +39,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString file = folder.filePath(u"a.ini"_s);
         QRandomGenerator random(17);
-        for (int i = 0; i < 2000; ++i) {
+        for (int i = 0; i < 200; ++i) {
             const QString path = randomText(random, true) + u'/' + randomText(random, true);
             const QString value = randomText(random, false);
             const QByteArray ours = withStoredText({}, path, value);
