@@ -2,6 +2,7 @@
 #include "colour/charactergrid.h"
 
 #include "colour/characters.h"
+#include "widgets/accessiblerole.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -31,6 +32,7 @@ CharacterGrid::CharacterGrid(QWidget *parent) : QWidget(parent)
 {
     constexpr int points = 8;
     setFont(QFont(u"Arial"_s, points));
+    giveRole(*this, QAccessible::Canvas);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
 }

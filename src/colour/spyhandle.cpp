@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "colour/spyhandle.h"
 
+#include "widgets/accessiblerole.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -11,6 +13,7 @@ namespace zephira {
 
 SpyHandle::SpyHandle(QWidget *parent) : QWidget(parent)
 {
+    giveRole(*this, QAccessible::Grip);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
 }

@@ -60,6 +60,7 @@ void frmqv::addButtons()
         action->setToolTip(tipWithKeys(button.caption, button.keys));
         connect(action, &QAction::triggered, this, button.action);
         m_ui->tBar->addAction(action);
+        m_ui->tBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     }
 }
 

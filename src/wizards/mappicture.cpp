@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wizards/mappicture.h"
 
+#include "widgets/accessiblerole.h"
+
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -108,6 +110,7 @@ QPoint directionOf(int key)
 
 MapPicture::MapPicture(QWidget *parent) : QWidget(parent)
 {
+    giveRole(*this, QAccessible::Canvas);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAutoFillBackground(true);
