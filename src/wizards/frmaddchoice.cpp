@@ -31,9 +31,18 @@ frmaddchoice::~frmaddchoice() = default;
 void frmaddchoice::applyOwnValue(bool on)
 {
     m_ui->Text2->setEnabled(on);
-    QPalette colours = m_ui->Text2->palette();
-    colours.setColor(QPalette::Base, palette().color(on ? QPalette::Base : QPalette::Window));
+    // Nothing but this color is its own, so that the others follow the desktop.
+    QPalette colours;
+    if (!on)
+        colours.setColor(QPalette::Base, palette().color(QPalette::Window));
     m_ui->Text2->setPalette(colours);
+}
+
+void frmaddchoice::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        applyOwnValue(m_ui->Text2->isEnabled());
 }
 
 void frmaddchoice::addChoice()

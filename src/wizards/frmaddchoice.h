@@ -22,6 +22,9 @@ public:
     frmaddchoice(const AppContext &context, QWidget *owner);
     ~frmaddchoice() override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void applyOwnValue(bool on);
     void addChoice();
