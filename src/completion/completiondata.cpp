@@ -23,6 +23,12 @@ constexpr bool isChild(char kind)
     return kind == 'A' || kind == 'V';
 }
 
+/// Attributes belong to tags, values to sets and properties.
+constexpr bool belongsTo(char kind, char owner)
+{
+    return kind == 'A' ? owner == 'T' : owner == 'S' || owner == 'P';
+}
+
 } // namespace
 
 CompletionData::CompletionData(QByteArray file) : m_file(std::move(file))
@@ -51,7 +57,11 @@ void CompletionData::read(QByteArrayView lines)
             owner = m_rows.size();
             hasOwner = true;
         } else if (hasOwner) {
+            if (!belongsTo(row.kind, m_rows[owner].kind))
+                continue;
             ++m_rows[owner].children;
+        } else if (row.kind == 'V') {
+            continue;
         }
         m_rows.push_back(row);
     }

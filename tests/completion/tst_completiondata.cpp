@@ -90,6 +90,15 @@ private Q_SLOTS:
         QVERIFY(data.attributesOf("font").size() >= 3);
     }
 
+    void rowsBelowOthers()
+    {
+        const CompletionData data(
+            "V\tnobody\nP\tcolor\nA\tclass\nV\tred\n@\tmedia\nV\tall\nT\tbr\nV\tleft\nA\tclear\n");
+        QCOMPARE(namesOf(data.valuesOfProperty("color")), QByteArrayList{"red"});
+        QCOMPARE(namesOf(data.attributesOf("br")), QByteArrayList{"clear"});
+        QVERIFY(!namesOf(data.rows('V')).contains("nobody"));
+    }
+
     /// What the build has made of the package.
     void theMadeFile()
     {

@@ -21,11 +21,10 @@ FUZZ_TARGET(livetext)
         hasServerCode |= piece.kind >= PieceKind::ServerText;
     check(hasServerCode || live.shown == source);
     check(live.shown.size() <= source.size());
-    static const QRegularExpression marks(u"<([^<>\\s/]+) zq9x=(\\d+)"_s);
+    static const QRegularExpression marks(u" zq9x=(\\d+) "_s);
     for (auto found = marks.globalMatch(live.marked); found.hasNext();) {
-        const QRegularExpressionMatch match = found.next();
-        const qsizetype place = match.captured(2).toLongLong();
-        check(QStringView(source).mid(place).startsWith(u'<' + match.captured(1)));
+        const qsizetype place = found.next().captured(1).toLongLong();
+        check(place < source.size() && source[place] == u'<');
     }
     return 0;
 }
