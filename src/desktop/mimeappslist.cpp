@@ -131,10 +131,13 @@ void MimeAppsList::takeOutOf(const QByteArray &group, const QByteArray &type, co
             others.append(other);
     }
     const QByteArray rest = others.join(';');
-    if (split(rest).isEmpty())
-        m_lines.removeAt(place.entry);
-    else
+    if (!split(rest).isEmpty()) {
         setValue(group, type, rest);
+        return;
+    }
+    m_lines.removeAt(place.entry);
+    // A second entry of the type, which the first one has hidden, counts now.
+    takeOutOf(group, type, program);
 }
 
 void MimeAppsList::takeOutOfDefaults(const QByteArray &type, const QByteArray &program)

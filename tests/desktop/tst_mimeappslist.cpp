@@ -128,6 +128,14 @@ private Q_SLOTS:
                  "[Added Associations]\n[Removed Associations]\na/b=z.desktop;\n");
     }
 
+    /// Of two entries of a type the first counts, and when it goes, the second does.
+    void takenOutOfASecondEntry()
+    {
+        MimeAppsList changed("[Default Applications]\na/b=ours.desktop;\na/b=ours.desktop;x.desktop\n");
+        changed.takeOut("a/b", program);
+        QCOMPARE(changed.text(), "[Default Applications]\na/b=x.desktop\n");
+    }
+
     void takenOutOfTheDefaultsAlone()
     {
         MimeAppsList changed("[Default Applications]\na/b=x.desktop;\n[Added Associations]\na/b=x.desktop;\n");

@@ -30,6 +30,8 @@ FUZZ_TARGET(pageroundtrip)
     check(areInOrder(*changes, text.size()));
     const PageRoundTrip changed(withChanges(text, *changes), prefix);
     const ServerMarks marks(prefix);
-    check(marks.withoutNumbers(changed.masked()) == marks.withoutNumbers(withChanges(masked, edit)));
+    // A change may move the border between the doctype and the rest.
+    const QString doctype = page.forEngine().chopped(masked.size());
+    check(marks.withoutNumbers(changed.forEngine()) == marks.withoutNumbers(doctype + withChanges(masked, edit)));
     return 0;
 }
