@@ -100,10 +100,10 @@ private Q_SLOTS:
             const QString path = putFile(folder.filePath(u"a.htm"_s), bytes);
             const QString copy = folder.filePath(u"b.htm"_s);
             QVERIFY(editor.OpenFile(path));
-            QVERIFY2(editor.SaveFile(copy, false), qPrintable(bytes.toHex(' ')));
-            QVERIFY2(contentOf(copy) == bytes, qPrintable(bytes.toHex(' ')));
+            QVERIFY2(editor.SaveFile(copy, false), bytes.toHex(' ').constData());
+            QVERIFY2(contentOf(copy) == bytes, bytes.toHex(' ').constData());
             QVERIFY(editor.SaveFile(path, true));
-            QVERIFY2(contentOf(path) == bytes, qPrintable(bytes.toHex(' ')));
+            QVERIFY2(contentOf(path) == bytes, bytes.toHex(' ').constData());
         }
         qInfo("%d arbitrary files came back as they were", count);
     }

@@ -2,7 +2,6 @@
 #include "files/diskfilestore.h"
 #include "support/diskfiles.h"
 #include "support/eventwait.h"
-#include "support/hostilepage.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
 #include "web/browserwidget.h"
@@ -424,16 +423,6 @@ private Q_SLOTS:
                    "<title>t</title><img id=i src='" + file.toUtf8() + "' onerror=\"document.title='refused'\">");
         QVERIFY(bench.show(server.address(u"/"_s)));
         QVERIFY(bench.comesTo(u"document.title"_s, u"refused"_s));
-    }
-
-    void aPageThatTriesEveryWayOut()
-    {
-        const HttpServer server;
-        Bench bench;
-        QVERIFY(bench.show(plantHostilePage(bench.folder.path(), server.address(u"/"_s))));
-        QVERIFY(bench.comesTo(u"String(window.tried)"_s, u"true"_s));
-        QCOMPARE(bench.ask(u"window.got"_s), QString());
-        QCOMPARE(server.requests(), QStringList());
     }
 
     void windowsAreNotOpened()

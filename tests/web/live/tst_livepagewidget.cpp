@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/eventwait.h"
 #include "support/diskfiles.h"
+#include "support/eventwait.h"
 #include "support/hostilepage.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
@@ -281,6 +281,13 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"String(window.tried)"_s), u"true"_s, LiveBench::patience);
         QCOMPARE(m_bench->ask(u"window.got"_s), QString());
         QCOMPARE(server.requests(), QStringList());
+        // Allowed to go out, the page does so in many ways, but reads nothing more.
+        constexpr qsizetype fewestWays = 20;
+        m_bench->live.setRemoteAllowed(true);
+        m_bench->live.reload();
+        QTRY_VERIFY_WITH_TIMEOUT(server.requests().size() >= fewestWays, LiveBench::patience);
+        QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"String(window.tried)"_s), u"true"_s, LiveBench::patience);
+        QCOMPARE(m_bench->ask(u"window.got"_s), QString());
     }
 
     /// A key in a page of 50 kB is seen soon.
