@@ -159,6 +159,15 @@ qsizetype behindGroup(const QString &expression, qsizetype at)
     return -1;
 }
 
+/// The place behind a count of repetitions, such as "{2,3}", that begins at `at`; -1 if the brace begins none.
+qsizetype behindCount(const QString &expression, qsizetype at)
+{
+    qsizetype i = at + 1;
+    while (i < expression.size() && QStringView(u"0123456789, ").contains(expression[i]))
+        ++i;
+    return i < expression.size() && expression[i] == u'}' ? i + 1 : -1;
+}
+
 /// Whether a group is an ordinary or a named one, or looks around; others change what the rest means.
 bool isHarmlessGroup(const QString &expression, qsizetype at)
 {
@@ -197,11 +206,13 @@ QStringList certainParts(const QString &expression)
             i = c == u'(' ? behindGroup(expression, i) : behindClass(expression, i);
             if (i < 0)
                 return {};
+        } else if (c == u'{' && behindCount(expression, i) < 0) {
+            // It stands for itself.
+            end();
+            ++i;
         } else if (c == u'?' || c == u'*' || c == u'{') {
             endWithoutLast();
-            if (c == u'{')
-                i = std::max(i, expression.indexOf(u'}', i));
-            ++i;
+            i = c == u'{' ? behindCount(expression, i) : i + 1;
         } else if (c == u'+' || c == u'^' || c == u'$' || c == u'.') {
             end();
             ++i;

@@ -26,6 +26,8 @@ private Q_SLOTS:
         QTest::newRow("a repeated letter stays") << u"ab+c"_s << QStringList{u"ab"_s, u"c"_s};
         QTest::newRow("an optional letter goes") << u"<?img\\s.*src=?"_s << QStringList{u"img"_s, u"src"_s};
         QTest::newRow("a counted letter goes") << u"abc{0,2}de"_s << QStringList{u"ab"_s, u"de"_s};
+        QTest::newRow("a brace that counts nothing") << u"ab{c}d"_s << QStringList{u"ab"_s, u"c}d"_s};
+        QTest::newRow("alternatives behind such a brace") << u"ab{?c|z{2,3}"_s << QStringList();
         QTest::newRow("an optional pair of surrogates") << u"a\U0001F600?b"_s << QStringList{u"a"_s, u"b"_s};
         QTest::newRow("classes") << u"a[]b]c[^]d[:alpha:]]e"_s << QStringList{u"a"_s, u"c"_s, u"e"_s};
         QTest::newRow("groups") << u"a(b|[)]c)*d(?:e)f(?<n>g)"_s << QStringList{u"a"_s, u"d"_s, u"f"_s};

@@ -259,12 +259,14 @@ private:
         m_out += isSpelled(kind) ? m_text.write(readEngineText(text), &m_textProgress) : withCrLf(text);
     }
 
-    /// The opening quote of an attribute that needs no value has just been written. In XML, such an attribute's value
-    /// is its name.
+    /// An attribute with an empty value has just been begun. In XML, the value of one that needs none is its name.
     void makeAttributeLonely()
     {
         constexpr QStringView opening = u"=\"";
         const QStringView written = m_out;
+        // The engine quotes all values; markup from elsewhere may not.
+        if (!written.endsWith(opening))
+            return;
         const QStringView name = written.chopped(opening.size()).sliced(written.lastIndexOf(u' ') + 1);
         const bool isLonely = isOneOf(name, lonelyAttributes);
         m_afterLonely = isLonely && !m_isXml;

@@ -117,6 +117,14 @@ private Q_SLOTS:
         QCOMPARE(page.fragmentFromEngine(u"<zephira-mark mark=\"zsx1s\"></zephira-mark> &amp; é"_s),
                  u"<%= c %> &amp; é"_s);
     }
+
+    /// Markup from elsewhere isn't as regular as the engine's.
+    void emptyValuesWithoutQuotes()
+    {
+        const PageRoundTrip page(u"x"_s, u"zs"_s);
+        QCOMPARE(page.fragmentFromEngine(u"<p a= >b</p>"_s), u"<p a= >b</p>"_s);
+        QCOMPARE(page.fragmentFromEngine(u"<input checked=>"_s), u"<input checked=>"_s);
+    }
 };
 
 ZEPHIRA_TEST(TstPageRoundTrip)
