@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/patternsearch.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <utility>
 
@@ -38,12 +40,20 @@ QString withLineFeeds(const QString &pattern)
     return plain;
 }
 
+/// The expression that finds the text itself. Qt writes a NUL as "\0", which would take digits that follow.
+QString escaped(const QString &text)
+{
+    QStringList parts = text.split(QChar(u'\0'));
+    for (QString &part : parts)
+        part = QRegularExpression::escape(part);
+    return parts.join(u"\\x{0}"_s);
+}
+
 } // namespace
 
 Result<PatternSearch> PatternSearch::make(const SearchRequest &request)
 {
-    QString pattern =
-        request.regularExpression ? withLineFeeds(request.pattern) : QRegularExpression::escape(request.pattern);
+    QString pattern = request.regularExpression ? withLineFeeds(request.pattern) : escaped(request.pattern);
     if (request.wholeWord)
         pattern = u"(?<!\\w)(?:"_s + pattern + u")(?!\\w)"_s;
     QRegularExpression::PatternOptions options =

@@ -56,6 +56,16 @@ private Q_SLOTS:
         QCOMPARE(searchFor(text, false).next(text, 0, text.size(), replacement)->replacement, replacement);
     }
 
+    void aNulStandsForItself()
+    {
+        const QString text = QString(QChar(u'\0')) + u"x"_s + QChar(u'\0') + u"07"_s;
+        const QString pattern = QString(QChar(u'\0')) + u"07"_s;
+        const std::optional<TextMatch> match = searchFor(pattern, false).next(text, 0, text.size(), {});
+        QVERIFY(match.has_value());
+        QCOMPARE(match->start, 2);
+        QCOMPARE(match->end, 5);
+    }
+
     void passesMatchesOneByOne()
     {
         const QString text = u"a1 b2 c3"_s;
