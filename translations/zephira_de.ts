@@ -220,10 +220,6 @@ Mehr dazu mit &apos;zephira --help&apos;.
         <translation>Der Ordner %1 kann nicht angelegt werden: %2.</translation>
     </message>
     <message>
-        <source>The file %1 can&apos;t be copied to %2: %3.</source>
-        <translation>Die Datei %1 kann nicht nach %2 kopiert werden: %3.</translation>
-    </message>
-    <message>
         <source>Zephira can&apos;t start: there is no %1 next to the program or in %2. Please reinstall the program.</source>
         <translation>Zephira kann nicht starten: Weder neben dem Programm noch in %2 liegt %1. Bitte installieren Sie das Programm neu.</translation>
     </message>

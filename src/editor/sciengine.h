@@ -6,6 +6,7 @@
 
 #include <QByteArrayView>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -56,33 +57,58 @@ public:
     /// Replaces the bytes from start up to end with UTF-8, in one undo step.
     void replace(qsizetype start, qsizetype end, QByteArrayView utf8) const
     {
-        leaveThinRectangle();
+        const bool wasRectangle = isThinRectangle();
+        if (wasRectangle)
+            select(selections());
         send(QsciScintillaBase::SCI_BEGINUNDOACTION);
         send(QsciScintillaBase::SCI_SETTARGETRANGE, start, end);
         sendText(QsciScintillaBase::SCI_REPLACETARGET, utf8.size(), utf8.isEmpty() ? "" : utf8.data());
         send(QsciScintillaBase::SCI_ENDUNDOACTION);
+        // Carets of several lines may be in one now, where each would type.
+        if (wasRectangle)
+            select(selections());
     }
 
     QsciScintillaBase &view() const { return *m_view; }
 
 private:
+    /// A caret and the other end of what it selects.
+    using Range = std::pair<qsizetype, qsizetype>;
+
     /// After something was typed into a rectangle, the engine has a caret in each of its lines and still remembers the
     /// corners. It doesn't move these with a change that isn't typed, so that they may soon lie behind the end of the text,
-    /// where the engine reads them nevertheless. Carets without a rectangle have no such memory.
-    void leaveThinRectangle() const
+    /// where the engine reads them nevertheless. Carets that are selected one by one have no such memory.
+    bool isThinRectangle() const
+    {
+        return send(QsciScintillaBase::SCI_GETSELECTIONMODE) == QsciScintillaBase::SC_SEL_THIN;
+    }
+
+    /// The main one comes last.
+    std::vector<Range> selections() const
     {
         using Sci = QsciScintillaBase;
-        if (send(Sci::SCI_GETSELECTIONMODE) != Sci::SC_SEL_THIN)
-            return;
+        std::vector<Range> ranges;
+        const qsizetype count = send(Sci::SCI_GETSELECTIONS);
         const qsizetype main = send(Sci::SCI_GETMAINSELECTION);
-        std::vector<std::pair<qsizetype, qsizetype>> ranges;
-        for (qsizetype i = 0; i < send(Sci::SCI_GETSELECTIONS); ++i)
-            ranges.emplace_back(send(Sci::SCI_GETSELECTIONNCARET, i), send(Sci::SCI_GETSELECTIONNANCHOR, i));
-        send(Sci::SCI_SETEMPTYSELECTION, ranges.front().first);
-        send(Sci::SCI_SETSELECTION, ranges.front().first, ranges.front().second);
-        for (std::size_t i = 1; i < ranges.size(); ++i)
-            send(Sci::SCI_ADDSELECTION, ranges[i].first, ranges[i].second);
-        send(Sci::SCI_SETMAINSELECTION, main);
+        for (qsizetype i = 1; i <= count; ++i) {
+            const qsizetype number = (main + i) % count;
+            ranges.emplace_back(send(Sci::SCI_GETSELECTIONNCARET, number), send(Sci::SCI_GETSELECTIONNANCHOR, number));
+        }
+        return ranges;
+    }
+
+    /// Selects each range once.
+    void select(const std::vector<Range> &ranges) const
+    {
+        using Sci = QsciScintillaBase;
+        send(Sci::SCI_SETEMPTYSELECTION, ranges.back().first);
+        bool isFirst = true;
+        for (auto range = ranges.begin(); range != ranges.end(); ++range) {
+            if (std::find(range + 1, ranges.end(), *range) != ranges.end())
+                continue;
+            send(isFirst ? Sci::SCI_SETSELECTION : Sci::SCI_ADDSELECTION, range->first, range->second);
+            isFirst = false;
+        }
     }
 
     QsciScintillaBase *m_view;

@@ -186,7 +186,9 @@ void TstLeavingDesigner::undoTakesBackOnlyWhatWasTouched()
     bench.select(1);
     QVERIFY(waitUntil([&] { return bench.tabs().currentIndex() == 0 && editor.text() != page; }, WebBench::patience));
     QString edited = page;
-    edited.replace(u"line 200"_s, u"linword" "e 200"_s);
+    edited.replace(u"line 200"_s,
+                   u"linword"
+                   "e 200"_s);
     QCOMPARE(editor.text(), edited);
     QCOMPARE(editor.selection(false), (CodeMaxRange{200, 18, 200, 18}));
     QCOMPARE(firstLine(), first);

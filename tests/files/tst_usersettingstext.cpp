@@ -17,8 +17,7 @@ namespace {
 /// Letters that need escaping, in names or values, more often than others.
 QString randomText(QRandomGenerator &random, bool isName)
 {
-    const QString letters =
-        u"aF0x 9;,=\"\\/%@()[]#\n\r\t\a\u0001\u001f\u007f\u0080\u00e4\u00ff\u0416\u20ac"_s;
+    const QString letters = u"aF0x 9;,=\"\\/%@()[]#\n\r\t\a\u0001\u001f\u007f\u0080\u00e4\u00ff\u0416\u20ac"_s;
     QString text;
     for (int left = random.bounded(isName ? 1 : 0, 9); left > 0; --left)
         text += letters[random.bounded(letters.size())];

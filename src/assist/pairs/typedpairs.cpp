@@ -121,9 +121,10 @@ void TypedPairs::expect(char32_t typed)
 }
 
 /// Puts what is selected between a quote or bracket and its partner. It stays selected; carets alone type the character.
+/// A tag is typed in place of the selection, as any other text.
 bool TypedPairs::surround(char32_t typed)
 {
-    const char closer = partnerOf(typed);
+    const char closer = typed == U'<' ? '\0' : partnerOf(typed);
     TextSelections selections = textSelections(m_rt.engine());
     if (closer == 0 || !isAnySelected(selections))
         return false;

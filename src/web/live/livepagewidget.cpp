@@ -147,6 +147,8 @@ void LivePageWidget::takeReport(const QVariantMap &report)
         m_events.clicked(place, report.value(u"usable"_s).toBool());
     else if (kind == u"scrolled" && m_events.scrolled && m_state == State::Shown)
         m_events.scrolled(place, report.value(u"atEnd"_s).toBool());
+    else if (kind == u"sheets" && m_state == State::Shown)
+        takeSheets(report.value(u"sheets"_s).toStringList());
 }
 
 void LivePageWidget::lookForPage()
@@ -208,20 +210,24 @@ void LivePageWidget::settle(const QVariantMap &answer)
     m_hanging.stop();
     m_look.stop();
     m_state = State::Shown;
+    takeSheets(answer.value(u"sheets"_s).toStringList());
+    if (!m_next && !m_isLoadWanted && m_events.shown)
+        m_events.shown();
+    next();
+}
+
+void LivePageWidget::takeSheets(const QStringList &addresses)
+{
     QStringList sheets;
-    const QStringList addresses = answer.value(u"sheets"_s).toStringList();
     for (const QString &address : addresses) {
         if (const QUrl url(address); url.isLocalFile())
             sheets.append(url.toLocalFile());
     }
-    if (sheets != m_sheets) {
-        m_sheets = sheets;
-        if (m_events.sheetsChanged)
-            m_events.sheetsChanged(m_sheets);
-    }
-    if (!m_next && !m_isLoadWanted && m_events.shown)
-        m_events.shown();
-    next();
+    if (sheets == m_sheets)
+        return;
+    m_sheets = sheets;
+    if (m_events.sheetsChanged)
+        m_events.sheetsChanged(m_sheets);
 }
 
 void LivePageWidget::wait()

@@ -67,6 +67,7 @@ private:
     void write(const QString &text);
     void ready();
     void settle(const QVariantMap &answer);
+    void takeSheets(const QStringList &addresses);
     void wait();
     void endHanging();
     void takeLoss();

@@ -233,7 +233,7 @@ private Q_SLOTS:
         QTest::newRow("parentheses") << u""_s << u"«b»"_s << u"("_s << u"(«b»)"_s;
         QTest::newRow("square") << u"HTML"_s << u"«b»"_s << u"["_s << u"[«b»]"_s;
         QTest::newRow("braces") << u"HTML"_s << u"«b»"_s << u"{"_s << u"{«b»}"_s;
-        QTest::newRow("angle") << u"HTML"_s << u"«b»"_s << u"<"_s << u"<«b»>"_s;
+        QTest::newRow("a tag") << u"HTML"_s << u"«b»"_s << u"<"_s << u"<|"_s;
         QTest::newRow("twice") << u"HTML"_s << u"«b»"_s << u"(\""_s << u"(\"«b»\")"_s;
         QTest::newRow("several") << u"HTML"_s << u"«a» «b»\r\n«c»"_s << u"("_s << u"(«a») («b»)\r\n(«c»)"_s;
         QTest::newRow("several side by side") << u"HTML"_s << u"«a»«b»"_s << u"("_s << u"(«a»)(«b»)"_s;
@@ -402,9 +402,12 @@ private Q_SLOTS:
             << u"HTML"_s << u" <div>\r\n\tx|"_s << u"</"_s << u" <div>\r\n\tx</div>|"_s;
         QTest::newRow("end tag further in") << u"HTML"_s << u"\t<p>\r\n|"_s << u"</"_s << u"\t<p>\r\n\t</p>|"_s;
         QTest::newRow("end tag of kept text") << u"HTML"_s << u" <pre>\r\n\t|"_s << u"</"_s << u" <pre>\r\n\t</pre>|"_s;
-        QTest::newRow("end tag of kept text in full") << u"HTML"_s << u" <i><pre>\r\n\t</pre|"_s << u">"_s << u" <i><pre>\r\n\t</pre>|"_s;
-        QTest::newRow("end tag in a comment") << u"HTML"_s << u" <b><!--\r\n\t|-->"_s << u"</b>"_s << u" <b><!--\r\n\t</b>|-->"_s;
-        QTest::newRow("end tag in a script") << u"HTML"_s << u" <b><script>x = `\r\n\t|`"_s << u"</b>"_s << u" <b><script>x = `\r\n\t</b>|`"_s;
+        QTest::newRow("end tag of kept text in full")
+            << u"HTML"_s << u" <i><pre>\r\n\t</pre|"_s << u">"_s << u" <i><pre>\r\n\t</pre>|"_s;
+        QTest::newRow("end tag in a comment")
+            << u"HTML"_s << u" <b><!--\r\n\t|-->"_s << u"</b>"_s << u" <b><!--\r\n\t</b>|-->"_s;
+        QTest::newRow("end tag in a script")
+            << u"HTML"_s << u" <b><script>x = `\r\n\t|`"_s << u"</b>"_s << u" <b><script>x = `\r\n\t</b>|`"_s;
         QTest::newRow("end tags at two carets")
             << u"HTML"_s << u" <b>\r\n\t|\r\n <i>\r\n\t|"_s << u"</"_s << u" <b>\r\n </b>|\r\n <i>\r\n </i>|"_s;
         // clang-format on

@@ -104,10 +104,14 @@ const noteScroll = () => {
 };
 
 const noteLoad = event => {
-    if (event.target.localName === 'link' || event.target.localName === 'style')
+    if (event.target.localName === 'link' || event.target.localName === 'style') {
         afterChange();
-    else
+        // Those that it imports are known only now.
+        if (tree)
+            report('sheets', {sheets: sheetAddresses()});
+    } else {
         forgetMap();
+    }
     // Pictures have their size only now.
     if (kept && performance.now() < keptUntil)
         scrollTo(kept.y);
