@@ -1023,7 +1023,7 @@ Mehr dazu mit &apos;zephira --help&apos;.
     </message>
     <message>
         <source>&amp;Problems</source>
-        <translation>F&amp;ehler</translation>
+        <translation>&amp;Fehler</translation>
     </message>
     <message>
         <source>Close &amp;While Typing</source>
