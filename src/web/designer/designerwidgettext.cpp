@@ -3,7 +3,7 @@
 #include "web/designer/designerpage.h"
 #include "web/designer/designerwidget.h"
 #include "web/designer/mergeladder.h"
-#include "web/designer/wellformed.h"
+#include "web/designer/xmlpage.h"
 
 #include <QElapsedTimer>
 
@@ -104,8 +104,8 @@ std::optional<TextChanges> DesignerWidget::mergedChanges(const DesignerCopy &cop
     std::optional<bool> isXml;
     const auto staysXml = [&] {
         if (!isXml)
-            isXml = isWellFormed(page.source());
-        return !*isXml || isWellFormed(withChanges(page.source(), *right));
+            isXml = isXmlPage(page.source());
+        return !*isXml || isXmlPage(withChanges(page.source(), *right));
     };
     const auto check = [&](const MergeTry &attempt) {
         if (time.hasExpired(m_mergePatience))

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/designer/wellformed.h"
+#include "web/designer/xmlpage.h"
 
 #include <QXmlStreamEntityResolver>
 #include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
 
 namespace zephira {
 
@@ -12,16 +14,18 @@ namespace {
 class AnyEntity final : public QXmlStreamEntityResolver
 {
 public:
-    QString resolveUndeclaredEntity(const QString &) override { return QStringLiteral("?"); }
+    QString resolveUndeclaredEntity(const QString &) override { return u"?"_s; }
 };
 
 } // namespace
 
-bool isWellFormed(QStringView text)
+bool isXmlPage(QStringView text)
 {
     QXmlStreamReader xml(text.toString());
     AnyEntity entities;
     xml.setEntityResolver(&entities);
+    if (!xml.readNextStartElement() || xml.name() != u"html")
+        return false;
     while (!xml.atEnd())
         xml.readNext();
     return !xml.hasError();
