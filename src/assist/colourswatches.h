@@ -8,6 +8,8 @@
 
 #include <optional>
 
+class QPainter;
+
 namespace zephira {
 
 struct AppContext;
