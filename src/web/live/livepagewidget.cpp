@@ -123,6 +123,7 @@ void LivePageWidget::load(const QVariant &kept)
     m_state = State::Loading;
     m_messages->silence();
     ++m_load;
+    m_sheetsTold = 0;
     const QUrl base = baseOf(m_text.file);
     wait();
     if (text.shown.toUtf8().size() <= BrowserPage::mostGivenBytes) {
@@ -147,8 +148,8 @@ void LivePageWidget::takeReport(const QVariantMap &report)
         m_events.clicked(place, report.value(u"usable"_s).toBool());
     else if (kind == u"scrolled" && m_events.scrolled && m_state == State::Shown)
         m_events.scrolled(place, report.value(u"atEnd"_s).toBool());
-    else if (kind == u"sheets" && m_state == State::Shown)
-        takeSheets(report.value(u"sheets"_s).toStringList());
+    else if (kind == u"sheets")
+        takeSheets(report);
 }
 
 void LivePageWidget::lookForPage()
@@ -210,16 +211,20 @@ void LivePageWidget::settle(const QVariantMap &answer)
     m_hanging.stop();
     m_look.stop();
     m_state = State::Shown;
-    takeSheets(answer.value(u"sheets"_s).toStringList());
+    takeSheets(answer);
     if (!m_next && !m_isLoadWanted && m_events.shown)
         m_events.shown();
     next();
 }
 
-void LivePageWidget::takeSheets(const QStringList &addresses)
+void LivePageWidget::takeSheets(const QVariantMap &told)
 {
+    const int number = told.value(u"number"_s).toInt();
+    if (number <= m_sheetsTold)
+        return;
+    m_sheetsTold = number;
     QStringList sheets;
-    for (const QString &address : addresses) {
+    for (const QString &address : told.value(u"sheets"_s).toStringList()) {
         if (const QUrl url(address); url.isLocalFile())
             sheets.append(url.toLocalFile());
     }

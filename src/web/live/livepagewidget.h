@@ -67,7 +67,7 @@ private:
     void write(const QString &text);
     void ready();
     void settle(const QVariantMap &answer);
-    void takeSheets(const QStringList &addresses);
+    void takeSheets(const QVariantMap &told);
     void wait();
     void endHanging();
     void takeLoss();
@@ -102,6 +102,8 @@ private:
     QTimer m_look;
     int m_patience = 3000;
     QStringList m_sheets;
+    /// The number of the newest answer or report about the sheets of this load.
+    int m_sheetsTold = 0;
 };
 
 } // namespace zephira

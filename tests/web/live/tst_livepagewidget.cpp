@@ -184,6 +184,16 @@ private Q_SLOTS:
         QTRY_COMPARE(m_bench->ask(u"getComputedStyle(b).color"_s), u"rgb(4, 0, 0)"_s);
     }
 
+    /// It is known only when it has been loaded, long after the text was taken over.
+    void aSheetThatComesLate()
+    {
+        const QString part = m_bench->write(u"part.css"_s, "b { color: rgb(3, 0, 0) }");
+        QVERIFY(m_bench->show(u"<img name=addEventListener><b id=b>b"_s));
+        QVERIFY(m_bench->show(u"<img name=addEventListener><style>@import url(part.css)</style><b id=b>b"_s));
+        QTRY_COMPARE(m_bench->sheets, QStringList(part));
+        QCOMPARE(m_bench->live.loads(), 1);
+    }
+
     void textsInARow()
     {
         QVERIFY(m_bench->show(u"<p>a"_s));

@@ -23,6 +23,7 @@ let isRead = false;
 let kept = null;
 let keptUntil = 0;
 let expectedScroll = -1;
+let sheetsTold = 0;
 
 let unsent = [];
 let deliver = message => unsent.push(message);
@@ -41,6 +42,9 @@ const scrollTo = height => {
     expectedScroll = Math.max(0, Math.min(Math.round(height), most));
     window.scrollTo({left: window.scrollX, top: expectedScroll, behavior: 'instant'});
 };
+
+// An element of the page can have the name of the document's own function.
+const listen = (target, ...listener) => EventTarget.prototype.addEventListener.call(target, ...listener);
 
 const noNumber = address => address.replace(/\?zephira=\d+$/, '');
 
@@ -63,6 +67,9 @@ const sheetAddresses = () => {
         add(sheet);
     return [...addresses];
 };
+
+// An answer and a report may overtake each other on their ways: the number tells which is newer.
+const sheetsNow = () => ({sheets: sheetAddresses(), number: ++sheetsTold});
 
 const byPlace = wanted => {
     const elements = new Map();
@@ -108,7 +115,7 @@ const noteLoad = event => {
         afterChange();
         // Those that it imports are known only now.
         if (tree)
-            report('sheets', {sheets: sheetAddresses()});
+            report('sheets', sheetsNow());
     } else {
         forgetMap();
     }
@@ -129,7 +136,9 @@ const hearPage = () => {
     window.addEventListener('submit', event => event.preventDefault());
     window.addEventListener('scroll', noteScroll, {passive: true});
     window.addEventListener('resize', forgetMap);
-    window.addEventListener('load', noteLoad, true);
+    // An element's load goes no further than the document, only that of the whole page comes to the window.
+    listen(document, 'load', noteLoad, true);
+    window.addEventListener('load', noteLoad);
     for (const act of ['wheel', 'keydown', 'pointerdown'])
         window.addEventListener(act, endKeeping, {capture: true, passive: true});
 };
@@ -164,7 +173,7 @@ globalThis.zephiraLive = {
             keptUntil = performance.now() + settling;
             expectedScroll = window.scrollY;
         }
-        return {sheets: sheetAddresses()};
+        return sheetsNow();
     },
 
     // The text as it is now. What can't be done without a new load isn't done; then the answer has what to keep of this one.
@@ -181,7 +190,7 @@ globalThis.zephiraLive = {
             expectedScroll = scrollY;
             window.scrollTo({left: scrollX, top: scrollY, behavior: 'instant'});
         }
-        return {sheets: sheetAddresses()};
+        return sheetsNow();
     },
 
     state: () => keptState(),
