@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace zephira {
 
@@ -21,16 +22,23 @@ constexpr int warningColour = 0x1090d8;
 
 } // namespace
 
-ProblemMarks::ProblemMarks(const SciEngine &engine) : m_engine(engine)
+ProblemMarks::ProblemMarks(const SciEngine &engine) : m_engine(engine) {}
+
+/// Not before there are problems, because the engine paints all of the text again.
+void ProblemMarks::setUp()
 {
+    if (std::exchange(m_isSetUp, true))
+        return;
     for (const int indicator : indicators) {
-        engine.send(Sci::SCI_INDICSETSTYLE, indicator, Sci::INDIC_SQUIGGLE);
-        engine.send(Sci::SCI_INDICSETFORE, indicator, indicator == ErrorIndicator ? errorColour : warningColour);
+        m_engine.send(Sci::SCI_INDICSETSTYLE, indicator, Sci::INDIC_SQUIGGLE);
+        m_engine.send(Sci::SCI_INDICSETFORE, indicator, indicator == ErrorIndicator ? errorColour : warningColour);
     }
 }
 
 void ProblemMarks::clear()
 {
+    if (m_places.empty())
+        return;
     m_places.clear();
     for (const int indicator : indicators) {
         m_engine.send(Sci::SCI_SETINDICATORCURRENT, indicator);
@@ -42,6 +50,8 @@ void ProblemMarks::set(const std::vector<Problem> &problems)
 {
     clear();
     const qsizetype length = m_engine.length();
+    if (!problems.empty())
+        setUp();
     for (std::size_t i = 0; i < problems.size() && length > 0; ++i) {
         const Problem &problem = problems[i];
         const int indicator = problem.severity == Problem::Severity::Error ? ErrorIndicator : WarningIndicator;

@@ -44,9 +44,11 @@ private:
         qsizetype value = 0;
     };
 
+    void setUp();
     std::vector<Mark> marks() const;
 
     const SciEngine &m_engine;
+    bool m_isSetUp = false;
     std::vector<Place> m_places;
 };
 
