@@ -6,9 +6,9 @@
 #include "files/folderlock.h"
 #include "files/usersettingstext.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSettings>
 
 using namespace Qt::StringLiterals;
 
@@ -96,7 +96,11 @@ QStringList DesktopUserSettings::keys(const QString &branch, const QString &sect
 
 QString DesktopUserSettings::fileName()
 {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, u"Zephira"_s, u"Zephira"_s).fileName();
+    // The folder that QSettings would use. Making one of those for the name alone looks at a dozen files each time.
+    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+    if (!QDir::isAbsolutePath(folder))
+        folder = QDir::homePath() + u'/' + (folder.isEmpty() ? u".config"_s : folder);
+    return folder + u"/Zephira/Zephira.ini"_s;
 }
 
 } // namespace zephira

@@ -3,7 +3,6 @@
 #include "support/testregistry.h"
 
 #include <QFile>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -19,7 +18,7 @@ class TstDesktopUserSettings : public QObject
     DesktopUserSettings m_settings;
 
 private Q_SLOTS:
-    void initTestCase() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path()); }
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.path())); }
 
     void fallbackWhereNothingIsStored()
     {
@@ -93,9 +92,9 @@ private Q_SLOTS:
         QFile file(place);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, place);
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(place));
         const bool written = m_settings.write(u"r"_s, u"s"_s, u"t"_s, u"2"_s);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.path()));
         QVERIFY(!written);
     }
 

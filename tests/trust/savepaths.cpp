@@ -21,7 +21,7 @@
 #include "wizards/savedtags.h"
 
 #include <QDir>
-#include <QSettings>
+#include <QFile>
 
 #include <array>
 
@@ -229,7 +229,7 @@ bool download(const QString &folder, const Begin &begin)
 
 bool saveUserSetting(const QString &folder, const Begin &begin)
 {
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
     DesktopUserSettings settings;
     begin();
     return settings.SaveSetting(UserSetting::ShowTips, u"new"_s);

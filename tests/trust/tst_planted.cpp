@@ -9,7 +9,7 @@
 #include "support/testregistry.h"
 
 #include <QDirIterator>
-#include <QSettings>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -64,7 +64,7 @@ private Q_SLOTS:
         putFile(folder.filePath(u"share/deep/tags.dat"_s), "x");
         const mode_t before = umask(static_cast<mode_t>(mask));
         const QString home = folder.filePath(u"home"_s);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home + u"/config"_s);
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(home + u"/config"_s));
         DiskFileStore files;
         const FakeClock clock;
         RecoveryCopies recovery(home + u"/recovery"_s, files, clock);
