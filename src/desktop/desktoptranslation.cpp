@@ -5,7 +5,8 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -13,8 +14,12 @@ namespace zephira {
 
 QString translationLanguage(const QStringList &languages)
 {
-    static const QRegularExpression pattern(uR"(^([a-z]{2,3})(?:[-_.@]|$))"_s);
-    const QString language = pattern.match(languages.value(0)).captured(1);
+    // Without a regular expression: none other is needed for a start, and the first one takes half a megabyte.
+    const QString first = languages.value(0);
+    const auto end = std::ranges::find_if_not(first, [](QChar c) { return c >= u'a' && c <= u'z'; });
+    const qsizetype length = end - first.begin();
+    const bool isName = length >= 2 && length <= 3 && (end == first.end() || u"-_.@"_s.contains(*end));
+    const QString language = isName ? first.first(length) : QString();
     return language == u"en" ? QString() : language;
 }
 
