@@ -61,7 +61,7 @@ protected:
 class ValueLabel final : public QLabel
 {
 public:
-    ValueLabel(const QString &text, const QString &widest, QWidget *parent) : QLabel(text, parent), m_widest(widest) {}
+    ValueLabel(const QString &widest, QWidget *parent) : QLabel(parent), m_widest(widest) {}
 
     QSize sizeHint() const override
     {
@@ -93,12 +93,11 @@ private:
 
 QLabel *makeLabel(const StatusPanel &row, QWidget *parent)
 {
-    const QString text = QStringView(row.text).toString();
     if (row.stretch)
-        return new PathLabel(text, parent);
+        return new PathLabel(parent);
     if (row.widest[0])
-        return new ValueLabel(text, QStringView(row.widest).toString(), parent);
-    return new QLabel(text, parent);
+        return new ValueLabel(QStringView(row.widest).toString(), parent);
+    return new QLabel(parent);
 }
 
 } // namespace
@@ -118,6 +117,9 @@ StatusPanels::StatusPanels(QStatusBar &bar, const Clock &clock) : QObject(&bar),
         bar.addWidget(label, row.stretch);
         m_panels[i] = label;
     }
+    // Not before all are there: for each that is added, the bar measures all the texts that it has.
+    for (std::size_t i = 0; i < statusPanels.size(); ++i)
+        m_panels[i]->setText(QStringView(statusPanels[i].text).toString());
     connect(&m_minute, &QTimer::timeout, this, &StatusPanels::showTime);
     m_minute.setSingleShot(true);
     m_minute.setTimerType(Qt::VeryCoarseTimer);
