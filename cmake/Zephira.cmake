@@ -26,10 +26,8 @@ target_compile_definitions(zephira_rules INTERFACE
   QT_NO_KEYWORDS QT_NO_FOREACH
   ZEPHIRA_VERSION="${PROJECT_VERSION}")
 target_include_directories(zephira_rules INTERFACE ${CMAKE_SOURCE_DIR}/src)
-# A program holds only the functions that it uses, and its relocations packed, so that a start touches less of it.
-target_compile_options(zephira_rules INTERFACE -ffunction-sections -fdata-sections)
-target_link_options(zephira_rules INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--as-needed -Wl,--gc-sections
-  -Wl,-z,pack-relative-relocs)
+# Packed relocations take a twentieth of the space.
+target_link_options(zephira_rules INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--as-needed -Wl,-z,pack-relative-relocs)
 if(ZEPHIRA_SANITIZE)
   # One test run covers both build trees; the prefix shows which of them a test comes from.
   set(ZEPHIRA_TEST_PREFIX asan.)
@@ -37,6 +35,10 @@ if(ZEPHIRA_SANITIZE)
   target_compile_options(zephira_rules INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
     -fno-sanitize-recover=undefined -gz)
   target_link_options(zephira_rules INTERFACE -fsanitize=address,undefined -Wl,--compress-debug-sections=zlib)
+else()
+  # A program holds only the functions that it uses, so that a start touches less of it.
+  target_compile_options(zephira_rules INTERFACE -ffunction-sections -fdata-sections)
+  target_link_options(zephira_rules INTERFACE -Wl,--gc-sections)
 endif()
 include(CheckPIESupported)
 check_pie_supported()
