@@ -98,7 +98,7 @@ class Report:
 
 def start(programs, report, _inputs, _build, _work):
     """A start without a file."""
-    got = programs.interleaved(["zephira", "Bluefish", "bare"], 9)
+    got = programs.interleaved(["zephira", "Bluefish", "bare"], 21)
     ours, bluefish, bare = (got[name] for name in ("zephira", "Bluefish", "bare"))
     report.row("empty start, picture", ours["picture"], bluefish["picture"], 0.22, "Bluefish")
     report.row("empty start, picture", ours["picture"], bare["picture"], 1.35, "bare")
