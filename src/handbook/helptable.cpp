@@ -34,7 +34,7 @@ constexpr HelpPage documentPages[] = {
     {u"start-dialog", u"frmselprj"},
     {u"find", u"FindDialog"},
     {u"find-in-project", mainWindow, u"SearchPage"},
-    {u"problems"},
+    {u"problems", mainWindow, u"ProblemsPage"},
     {u"go-to-line", u"GoToDialog"},
     {u"command-palette", mainWindow, u"pickPopup"},
     {u"quick-view", u"frmqv"},

@@ -27,6 +27,7 @@ private Q_SLOTS:
         bench.find<QTabBar>(u"workspace"_s)->setCurrentIndex(0);
         bench.choose(u"textCommandPalette"_s);
         bench.choose(u"textFindInProject"_s);
+        bench.choose(u"textListProblems"_s);
         int parts = 0;
         for (const HelpChapter &chapter : helpChapters()) {
             for (const HelpPage &page : chapter.pages) {

@@ -15,6 +15,7 @@
 #include "panes/filepane.h"
 #include "panes/sidepane.h"
 #include "panes/sidetabbar.h"
+#include "support/eventwait.h"
 #include "support/fakes.h"
 
 #include <QAbstractButton>
@@ -33,6 +34,7 @@
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
+#include <QTreeView>
 
 #include <map>
 #include <memory>
@@ -185,6 +187,8 @@ private:
             return save(*m_bench.window, m_folder, page.name);
         if (part == u"SearchPage")
             return takeSearch(page.name);
+        if (part == u"ProblemsPage")
+            return takeProblems(page.name);
         if (part == u"toolpane")
             return save(*m_bench.find<QWidget>(u"paletteBar"_s), m_folder, page.name);
         selectSideTab(sideTabOf(part));
@@ -212,6 +216,28 @@ private:
         auto *panel = m_bench.find<QDockWidget>(u"toolPanel"_s);
         const bool taken = save(*panel, m_folder, page);
         panel->close();
+        return taken;
+    }
+
+    /// The panel's list, with what is wrong with a page.
+    bool takeProblems(QStringView page)
+    {
+        CodeMax &rt = m_bench.window->rt();
+        const QString before = rt.text();
+        rt.setText(u"<!DOCTYPE html>\n<html>\n<head><title>Walks in Kent</title></head>\n<body>\n<p class=\"note\">To "
+                   "<a href=\"#canterbury\">Canterbury</a>\n<img src=\"missing.jpg\">\n<b><i>Mind the mud</b></i>\n"
+                   "</body>\n</html>\n"_s);
+        m_bench.find<QAction>(u"textListProblems"_s)->trigger();
+        auto *panel = m_bench.find<QDockWidget>(u"toolPanel"_s);
+        const auto *list = panel->findChild<QTreeView *>(u"treProblems"_s);
+        // The document before this one has problems, too.
+        const auto isChecked = [list] {
+            const QModelIndex first = list->model()->index(0, 1);
+            return !list->model()->match(first, Qt::DisplayRole, u"missing.jpg"_s, 1, Qt::MatchContains).isEmpty();
+        };
+        const bool taken = waitUntil(isChecked, 10000) && save(*panel, m_folder, page);
+        panel->close();
+        rt.setText(before);
         return taken;
     }
 
