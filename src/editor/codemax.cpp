@@ -179,6 +179,7 @@ void CodeMax::endAction()
 {
     if (--m_actions > 0)
         return;
+    m_engine.leaveOutdatedRectangle();
     settleInsertion();
     const QPointer<CodeMax> alive(this);
     const bool changed = std::exchange(m_changed, false);

@@ -69,6 +69,14 @@ public:
             select(selections());
     }
 
+    /// To be called after a key, which may have made the text shorter than the remembered corners of a rectangle: then only
+    /// its carets remain.
+    void leaveOutdatedRectangle() const
+    {
+        if (isThinRectangle() && std::max(caret(), anchor()) > length())
+            select(selections());
+    }
+
     QsciScintillaBase &view() const { return *m_view; }
 
 private:

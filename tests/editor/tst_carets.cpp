@@ -153,6 +153,36 @@ private Q_SLOTS:
         QCOMPARE(f.editor.text(), u"y"_s);
     }
 
+    /// The engine's own commands don't move the corners either.
+    void keysLeaveNoCornerBehindTheText_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("to the start of the line")
+            << static_cast<int>(Qt::Key_Backspace) << (Qt::ControlModifier | Qt::ShiftModifier) << u"f"_s;
+        QTest::newRow("a word") << static_cast<int>(Qt::Key_Backspace) << Qt::KeyboardModifiers(Qt::ControlModifier)
+                                << u"f"_s;
+    }
+    void keysLeaveNoCornerBehindTheText()
+    {
+        QFETCH(int, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        QFETCH(QString, text);
+        EditorFixture f;
+        f.show();
+        f.editor.setText(u"abcdef"_s);
+        rectangle(f, 2, 5);
+        QTest::keyClicks(&f.editor, u"xyz"_s);
+        QCOMPARE(f.editor.text(), u"abxyzf"_s);
+        QTest::keyClick(&f.editor, static_cast<Qt::Key>(key), modifiers);
+        QCOMPARE(f.editor.text(), text);
+        QCOMPARE(f.editor.engine().caret(), 0);
+        QCOMPARE(f.editor.engine().anchor(), 0);
+        QTest::keyClicks(&f.editor, u"v"_s);
+        QCOMPARE(f.editor.text(), u'v' + text);
+    }
+
     void ctrlAndDeleteTakeAWordOrTheRestOfTheLine()
     {
         EditorFixture f;
