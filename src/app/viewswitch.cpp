@@ -216,13 +216,16 @@ void ViewSwitch::setWaiting(bool waiting)
 }
 
 /// Whether the event is an act of the user that has to wait for the change of view. A click on the tabs needn't, because
-/// it starts a change of its own; nor need events of the designer, which still belong to the view that is being left.
+/// it starts a change of its own; nor need events of the designer, which still belong to the view that is being left. The
+/// engine sends the keys of which the page made nothing to the widgets around the designer; it answers nothing before
+/// they have been handled, so the page can't be asked then.
 bool ViewSwitch::comesAfterLeaving(const QObject *watched, const QEvent &event) const
 {
     if (!m_isWaiting || std::ranges::find(acts, event.type()) == std::end(acts) || watched == &m_parts.tabs)
         return false;
     const auto *widget = qobject_cast<const QWidget *>(watched);
-    return !widget || (widget != m_designerWidget && !m_designerWidget->isAncestorOf(widget));
+    const bool isSentBack = widget && !event.spontaneous() && widget->isAncestorOf(m_designerWidget);
+    return !isSentBack && (!widget || (widget != m_designerWidget && !m_designerWidget->isAncestorOf(widget)));
 }
 
 /// The pointer reaches the tabs before it clicks, which leaves time to load the web engine. If loading fails, the click

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void theElementIsInView();
     void keysMoveTheCaretInBothDirections();
     void plainTextKeepsItsPlace();
+    void thePreviewTakesTheLastLetterToo();
     void goToTagStaysInTheDesigner();
     void hugePagesKeepNothing();
 
@@ -226,6 +227,20 @@ void TstPlaceKept::plainTextKeepsItsPlace()
     QVERIFY(leave(bench));
     QCOMPARE(bench.window->rt().text(), QString(before).replace(u"b;"_s, u"Xb;"_s));
     QCOMPARE(caretOf(bench), before.indexOf(u"b;"_s) + 1);
+}
+
+/// The preview is made while the page still handles the keys.
+void TstPlaceKept::thePreviewTakesTheLastLetterToo()
+{
+    const QString page = u"<title>t</title><p>one</p>\r\n<p>two</p>\r\n"_s;
+    WebBench bench(u"page.html"_s, page.toUtf8());
+    QVERIFY(bench.design());
+    QVERIFY(focusDesigner(bench));
+    press(bench, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClicks(bench.keyboardOf(u"DHTMLEdit1"_s), u"X"_s);
+    QVERIFY(bench.preview(u"t"_s));
+    QVERIFY(leave(bench));
+    QCOMPARE(bench.window->rt().text(), QString(page).replace(u"two"_s, u"twoX"_s));
 }
 
 void TstPlaceKept::goToTagStaysInTheDesigner()
