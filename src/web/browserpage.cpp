@@ -4,11 +4,13 @@
 #include "core/filestore.h"
 #include "core/languages.h"
 #include "files/textfile.h"
+#include "web/inputwatch.h"
 #include "web/scriptmessagebar.h"
 
 #include <QPointer>
 #include <QTimer>
 #include <QWebEngineDownloadRequest>
+#include <QWebEngineHistory>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
@@ -44,6 +46,7 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
     // Queued, because the engine waits for the answer.
     connect(&m_fence, &LocalFileFence::remoteRefused, this, &BrowserPage::refuse, Qt::QueuedConnection);
     connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl &address) { m_fence.files().shown(address); });
+    connect(this, &QWebEnginePage::loadFinished, this, [this] { m_isLeaving = false; });
     const auto takeEnd = [this] {
         m_isAlive = true;
         Q_EMIT letGo();
@@ -98,6 +101,12 @@ void BrowserPage::reload()
     triggerAction(Reload);
 }
 
+void BrowserPage::triggerAction(WebAction action, bool checked)
+{
+    m_isInHistory = (action == Back && history()->canGoBack()) || (action == Forward && history()->canGoForward());
+    QWebEnginePage::triggerAction(action, checked);
+}
+
 /// Replacing a page needs its cooperation, which a page in an endless script can't give; its process is killed.
 void BrowserPage::endIfHanging(std::function<void()> again)
 {
@@ -127,11 +136,44 @@ void BrowserPage::endIfHanging(std::function<void()> again)
 /// history or our own doing.
 bool BrowserPage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)
 {
+    if (isMainFrame && !mayLeaveFor(url, type)) {
+        QMetaObject::invokeMethod(
+            this, [this, host = remoteHost(url)] { refuse(host); }, Qt::QueuedConnection);
+        return false;
+    }
     if (isMainFrame && !m_refusedHosts.isEmpty()) {
         m_refusedHosts.clear();
         Q_EMIT remoteRefused({});
     }
     return QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
+}
+
+/// An address can carry whatever the page has read, so the way to one is barred like the loading of a picture from there.
+bool BrowserPage::mayLeaveFor(const QUrl &address, NavigationType type)
+{
+    const bool isInHistory = std::exchange(m_isInHistory, false);
+    if (!m_fence.files().isLocal() || !isRemote(address)) {
+        m_isLeaving = false;
+        return true;
+    }
+    const auto hasInput = [this] { return m_input && m_input->take(); };
+    switch (type) {
+    case NavigationTypeTyped: // By setUrl(); pages have no such way.
+        m_isLeaving = true;
+        break;
+    case NavigationTypeBackForward:
+        m_isLeaving = isInHistory || hasInput();
+        break;
+    case NavigationTypeLinkClicked:
+    case NavigationTypeFormSubmitted:
+        m_isLeaving = hasInput();
+        break;
+    case NavigationTypeRedirect:
+        break;
+    default:
+        m_isLeaving = false;
+    }
+    return m_isLeaving || m_fence.isRemoteAllowed();
 }
 
 void BrowserPage::refuse(const QString &host)

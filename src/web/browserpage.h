@@ -12,10 +12,12 @@ class QWebEngineNewWindowRequest;
 namespace zephira {
 
 class FileStore;
+class InputWatch;
 class ScriptMessageBar;
 
 /// The page inside the browser. It may read local files only from its own folder, and may not download, open windows,
-/// ask for permissions or start other programs; a link that requests a new window opens in this one.
+/// ask for permissions or start other programs; a link that requests a new window opens in this one. A page of this machine
+/// can't lead to another one by itself: that takes the user, or the permission to load from others.
 class BrowserPage : public QWebEnginePage
 {
     Q_OBJECT
@@ -25,6 +27,9 @@ public:
 
     /// Sets the bar that shows the messages and questions of scripts; it must outlive the page.
     void setMessages(ScriptMessageBar &messages) { m_messages = &messages; }
+    /// Sets what knows of the user's clicks in the page; it must outlive the page. Without it, no link leads away from this
+    /// machine.
+    void setInput(InputWatch &input) { m_input = &input; }
     /// Pages inside this folder may load files from anywhere in it.
     void setProjectFolder(const QString &folder) { m_fence.files().setProjectFolder(folder); }
     /// Whether pages of this machine may load from others; it counts from the next load on.
@@ -48,6 +53,9 @@ public:
     /// Reloads the current page.
     void reload();
 
+    /// Going back and forward by this is the user's doing, and not the page's.
+    void triggerAction(WebAction action, bool checked = false) override;
+
     /// How long a page may take to answer before its process is killed, in milliseconds.
     static constexpr int patience = 1500;
 
@@ -56,7 +64,7 @@ Q_SIGNALS:
     void letGo();
     /// The page's process has ended unexpectedly.
     void processLost();
-    /// The hosts that the page wanted to load from and may not; none when another page comes.
+    /// The hosts that the page wanted to load from, or to lead to, and may not; none when another page comes.
     void remoteRefused(const QStringList &hosts);
 
 protected:
@@ -68,12 +76,14 @@ protected:
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int, const QString &) override {}
 
 private:
+    bool mayLeaveFor(const QUrl &address, NavigationType type);
     void openInPlace(const QWebEngineNewWindowRequest &request);
     void endIfHanging(std::function<void()> again);
     void refuse(const QString &host);
 
     const FileStore &m_files;
     ScriptMessageBar *m_messages = nullptr;
+    InputWatch *m_input = nullptr;
     /// Identifies a navigation; m_isAlive is set when the previous page has answered since it began.
     int m_navigation = 0;
     bool m_isAlive = true;
@@ -81,6 +91,10 @@ private:
     std::function<void()> m_again;
     LocalFileFence m_fence{RemoteUse::Browser};
     QStringList m_refusedHosts;
+    /// The user is going back or forward.
+    bool m_isInHistory = false;
+    /// A page of this machine makes way for one from elsewhere, which may answer with another address.
+    bool m_isLeaving = false;
 };
 
 } // namespace zephira

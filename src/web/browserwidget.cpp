@@ -3,6 +3,7 @@
 
 #include "web/browserpage.h"
 #include "web/hiddenfocus.h"
+#include "web/inputwatch.h"
 #include "web/pageaddress.h"
 #include "web/scriptmessagebar.h"
 
@@ -26,6 +27,7 @@ BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
     : QWidget(parent)
     , m_messages(new ScriptMessageBar(this))
     , m_view(std::make_unique<QWebEngineView>(this))
+    , m_input(new InputWatch(*m_view))
     , m_page(new BrowserPage(files, m_profile, m_view.get()))
 {
     m_view->setPage(m_page);
@@ -35,6 +37,7 @@ BrowserWidget::BrowserWidget(const FileStore &files, QWidget *parent)
     layout->addWidget(m_messages);
     layout->addWidget(m_view.get(), 1);
     m_page->setMessages(*m_messages);
+    m_page->setInput(*m_input);
     setFocusProxy(m_view.get());
     keepFocusFromHidden(*this);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);

@@ -12,6 +12,7 @@ namespace zephira {
 
 class BrowserPage;
 class FileStore;
+class InputWatch;
 class ScriptMessageBar;
 
 /// The browser as a widget that contains its web view. Its operations can be called by name. Nothing that pages store
@@ -57,6 +58,7 @@ private:
     QWebEngineProfile m_profile;
     /// Deleted before the profile, which must outlive it.
     std::unique_ptr<QWebEngineView> m_view;
+    InputWatch *m_input = nullptr;
     BrowserPage *m_page = nullptr;
     QString m_home;
     FileKind m_homeKind = FileKind::ByName;

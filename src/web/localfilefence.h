@@ -21,6 +21,7 @@ public:
     /// Whether pages of this machine may load from others. It counts for later requests; the engine doesn't repeat those
     /// that were refused, so the caller reloads the page.
     void setRemoteAllowed(bool allowed) { m_isRemoteAllowed = allowed; }
+    bool isRemoteAllowed() const { return m_isRemoteAllowed; }
     void interceptRequest(QWebEngineUrlRequestInfo &request) override;
 
 Q_SIGNALS:

@@ -64,6 +64,14 @@ attempt(() => new Worker('OUTSIDEown.js'));
 attempt(() => new SharedWorker('SERVERshared.js'));
 attempt(() => new Worker(URL.createObjectURL(new Blob(
   ["try { importScripts('SERVERblobworker.js') } catch (e) {} fetch('SERVERblobfetch', {mode: 'no-cors'})"]))));
+attempt(() => new SharedWorker(URL.createObjectURL(new Blob(["fetch('SERVERblobshared', {mode: 'no-cors'})"]))));
+const host = new URL('SERVER').host;
+attempt(() => {
+  const c = new RTCPeerConnection({ iceServers: [{ urls: 'stun:' + host },
+    { urls: 'turn:' + host + '?transport=tcp', username: 'u', credential: 'c' }] });
+  c.createDataChannel('d');
+  return c.createOffer().then(offer => c.setLocalDescription(offer));
+});
 attempt(() => navigator.serviceWorker.register('SERVERservice.js'));
 attempt(() => new FontFace('g', 'url(SERVERface.woff)').load());
 attempt(() => import('SERVERdynamic.js'));
@@ -72,7 +80,7 @@ attempt(() => window.open('SERVERopen'));
 attempt(() => window.open('OUTSIDEown.html'));
 attempt(() => document.getElementById('f').submit());
 attempt(() => document.getElementById('g').submit());
-for (const id of ['d', 'a', 'n', 't']) attempt(() => document.getElementById(id).click());
+for (const id of ['a', 'n', 't']) attempt(() => document.getElementById(id).click());
 attempt(() => { const s = document.createElement('script'); s.src = 'SERVERadded.js'; document.body.append(s); });
 setTimeout(() => {
   if (getComputedStyle(document.getElementById('p')).marginLeft == '7px') window.got += 'style ';
@@ -80,7 +88,21 @@ setTimeout(() => {
   for (const image of document.images) if (image.naturalWidth == 5) window.got += 'image ';
   for (let i = 0; i < frames.length; ++i) attempt(() => take('frame', frames[i].document.documentElement.textContent));
   for (const sheet of document.styleSheets) attempt(() => take('sheet', [...sheet.cssRules].map(r => r.cssText).join()));
-  window.tried = true;
+  // Ways that lead the whole window away, one after the other, so that none takes another one's place.
+  const link = (target, click) => { const a = document.createElement('a'); a.href = 'SERVERlink' + target; a.target = target;
+    document.body.append(a); click(a); };
+  const form = (method, target) => { const f = document.createElement('form'); f.action = 'SERVER' + method + target;
+    f.method = method; f.target = target; document.body.append(f); f.submit(); };
+  const ways = [() => location = 'SERVERlocation', () => location.replace('SERVERreplace'), () => location.assign('SERVERassign'),
+    () => link('_self', a => a.click()), () => link('_top', a => a.dispatchEvent(new MouseEvent('click', { bubbles: true }))),
+    () => link('_blank', a => a.dispatchEvent(new MouseEvent('click', { ctrlKey: true, bubbles: true }))),
+    () => form('get', '_self'), () => form('post', '_top'), () => form('post', '_blank'),
+    () => open('SERVERopen_self', '_self'), () => document.getElementById('d').click(),
+    () => frames[0].parent.location = 'SERVERparent', () => history.back(),
+    () => { const m = document.createElement('meta'); m.httpEquiv = 'refresh'; m.content = '0;url=SERVERmeta';
+      document.head.append(m); }];
+  ways.forEach((way, i) => setTimeout(() => attempt(way), 150 * i));
+  setTimeout(() => window.tried = true, 150 * ways.length + 500);
 }, 2000);
 </script></body></html>)page";
     return QByteArray(page).replace("SERVER", server).replace("OUTSIDE", outside);

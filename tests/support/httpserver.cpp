@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QUdpSocket>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +28,7 @@ HttpServer::HttpServer()
     QObject::connect(&m_thread, &QThread::finished, server, &QObject::deleteLater);
     QObject::connect(server, &QTcpServer::newConnection, server, [this, server] {
         QTcpSocket *socket = server->nextPendingConnection();
+        ++m_connections;
         QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
         QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
             if (!socket->peek(65536).contains("\r\n\r\n"))
@@ -45,6 +47,15 @@ HttpServer::HttpServer()
             if (!server->listen(QHostAddress::LocalHost))
                 qFatal("no port is free");
             m_port = server->serverPort();
+            auto *datagrams = new QUdpSocket(server);
+            if (!datagrams->bind(QHostAddress::LocalHost, m_port))
+                qFatal("the port isn't free for datagrams");
+            QObject::connect(datagrams, &QUdpSocket::readyRead, datagrams, [this, datagrams] {
+                while (datagrams->hasPendingDatagrams()) {
+                    datagrams->readDatagram(nullptr, 0);
+                    ++m_connections;
+                }
+            });
         },
         Qt::BlockingQueuedConnection);
 }

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QThread>
 
+#include <atomic>
+
 namespace zephira {
 
 /// A local web server on a free port, in a thread of its own, so that a test may block while waiting for it. Unknown
@@ -28,6 +30,9 @@ public:
     void serveFolder(const QString &folder);
 
     QString address(const QString &path) const { return QStringLiteral("http://127.0.0.1:%1%2").arg(m_port).arg(path); }
+    quint16 port() const { return m_port; }
+    /// How many connections have come, be it without a request, and how many datagrams on the same port.
+    int connections() const { return m_connections; }
     /// The requested paths, in order.
     QStringList requests() const;
 
@@ -39,6 +44,7 @@ private:
     QHash<QString, QByteArray> m_answers;
     QString m_folder;
     QStringList m_requests;
+    std::atomic<int> m_connections = 0;
     QThread m_thread;
     quint16 m_port = 0;
 };

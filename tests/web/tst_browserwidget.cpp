@@ -2,16 +2,19 @@
 #include "files/diskfilestore.h"
 #include "support/diskfiles.h"
 #include "support/eventwait.h"
+#include "support/hostilepage.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
 #include "web/browserwidget.h"
 #include "web/scriptmessagebar.h"
 
 #include <QCheckBox>
+#include <QDirIterator>
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -90,6 +93,16 @@ struct Bench {
         return waitUntil([&] { return !loaded.isEmpty(); }, patience) && loaded.last().first().toBool();
     }
 };
+
+QStringList filesBelow(const QString &folder)
+{
+    QStringList files;
+    for (QDirIterator walk(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+         walk.hasNext();)
+        files.append(walk.next());
+    files.sort();
+    return files;
+}
 
 const QByteArray title("<!DOCTYPE html><title>t</title>");
 
@@ -409,6 +422,85 @@ private Q_SLOTS:
             [&] { return std::ranges::any_of(loaded, [](const QList<QVariant> &end) { return !end[0].toBool(); }); },
             patience));
         QVERIFY(!bench.ask(u"document.body.innerText"_s).contains(u"the secret"_s));
+    }
+
+    /// Nothing of it reaches the server or a file beyond the page's folder, and no file is written.
+    void aPageThatTriesEveryWayOut()
+    {
+        HttpServer server;
+        Bench bench;
+        const QString page = plantHostilePage(bench.folder.path(), server.address(u"/"_s));
+        const QStringList files = filesBelow(bench.folder.path());
+        const QStringList downloads = filesBelow(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
+        QVERIFY(bench.show(page));
+        QVERIFY(bench.comesTo(u"String(window.tried)"_s, u"true"_s));
+        QCOMPARE(bench.ask(u"window.got"_s), QString());
+        QCOMPARE(server.requests(), QStringList());
+        QCOMPARE(filesBelow(bench.folder.path()), files);
+        QCOMPARE(filesBelow(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)), downloads);
+        // Allowed to go out, the page does so in many ways, and in the end it leads elsewhere.
+        constexpr qsizetype fewestWays = 20;
+        server.put(u"/location"_s, "<title>elsewhere</title>");
+        bench.browser.setRemoteAllowed(true);
+        bench.browser.navigate(page);
+        QVERIFY(waitUntil([&] { return server.requests().contains(u"/location"_s); }, patience));
+        QVERIFY(server.requests().size() >= fewestWays);
+    }
+
+    void aPageLeadsElsewhereOnlyWithTheUser_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("leads");
+        QTest::newRow("a link") << u"<a href='SERVER'>go</a>"_s << true;
+        QTest::newRow("a link to a new window") << u"<a href='SERVER' target=_blank>go</a>"_s << true;
+        QTest::newRow("a button of a form") << u"<form action='SERVER'><button>go</button></form>"_s << true;
+        QTest::newRow("a script") << u"<button onclick=\"location = 'SERVER'\">go</button>"_s << true;
+        QTest::newRow("a script, much later")
+            << u"<button onclick=\"setTimeout(() => location = 'SERVER', 2500)\">go</button>"_s << false;
+    }
+
+    /// A click leads from a page of this machine to another one, whose answers may be other addresses.
+    void aPageLeadsElsewhereOnlyWithTheUser()
+    {
+        QFETCH(QString, way);
+        QFETCH(bool, leads);
+        HttpServer server;
+        server.putRaw(u"/far"_s, "HTTP/1.1 302 Found\r\nLocation: /farther\r\nContent-Length: 0\r\n\r\n");
+        server.putRaw(u"/far?"_s, "HTTP/1.1 302 Found\r\nLocation: /farther\r\nContent-Length: 0\r\n\r\n");
+        server.put(u"/farther"_s, "<title>far</title>");
+        Bench bench;
+        QStringList refused;
+        bench.browser.onRemoteRefused([&](const QStringList &hosts) { refused = hosts; });
+        const QString markup = QString(way).replace(u"SERVER"_s, server.address(u"/far"_s));
+        QVERIFY(bench.show(bench.write(
+            u"page.html"_s,
+            title + "<style>body{margin:0}a,button{display:block;width:99%;height:200px}</style>" + markup.toUtf8())));
+        QTest::mouseClick(bench.browser.findChild<QWebEngineView *>()->focusProxy(), Qt::LeftButton, {}, {50, 50});
+        if (leads) {
+            QVERIFY(bench.comesTo(u"document.title"_s, u"far"_s));
+            return;
+        }
+        const QStringList host{u"127.0.0.1:"_s + QString::number(server.port())};
+        QVERIFY(waitUntil([&] { return refused == host; }, patience));
+        QCOMPARE(bench.ask(u"document.title"_s), u"t"_s);
+        QCOMPARE(server.connections(), 0);
+        bench.browser.setRemoteAllowed(true);
+        QTest::mouseClick(bench.browser.findChild<QWebEngineView *>()->focusProxy(), Qt::LeftButton, {}, {50, 50});
+        QVERIFY(bench.comesTo(u"document.title"_s, u"far"_s));
+    }
+
+    /// The user goes back to a page from elsewhere; a page of this machine can't.
+    void theHistoryIsTheUsers()
+    {
+        HttpServer server;
+        server.put(u"/"_s, "<title>far</title>", "Content-Type: text/html\r\nCache-Control: no-store\r\n");
+        Bench bench;
+        QVERIFY(bench.show(server.address(u"/"_s)));
+        QVERIFY(bench.show(bench.write(u"page.html"_s, title)));
+        QCOMPARE(bench.ask(u"history.back(); setTimeout(() => document.title = 'stayed', 500); 1"_s), u"1"_s);
+        QVERIFY(bench.comesTo(u"document.title"_s, u"stayed"_s));
+        bench.browser.goBack();
+        QVERIFY(bench.comesTo(u"document.title"_s, u"far"_s));
     }
 
     void aPageOfTheWebReadsNoLocalFile()

@@ -277,6 +277,7 @@ private Q_SLOTS:
         QVERIFY(m_bench->show(html));
         QTRY_COMPARE(m_bench->refused, QStringList{server.address({}).mid(7)});
         QCOMPARE(server.requests(), QStringList());
+        QCOMPARE(server.connections(), 0);
         m_bench->live.setRemoteAllowed(true);
         m_bench->live.reload();
         QTRY_COMPARE(m_bench->ask(u"String(window.a)"_s), u"1"_s);
