@@ -3,6 +3,7 @@
 #include "app/frmmain.h"
 #include "app/program.h"
 #include "desktop/webenginestart.h"
+#include "files/crashreports.h"
 
 #include <QFileInfo>
 
@@ -39,6 +40,7 @@ int main(int argc, char **argv)
 {
     // Exceeding the file size limit makes a save fail instead of ending the program.
     std::signal(SIGXFSZ, SIG_IGN);
+    zephira::forgoCoreFiles();
 
     QStringList words;
     for (int i = 1; i < argc; ++i)

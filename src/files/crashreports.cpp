@@ -19,6 +19,7 @@
 
 #include <execinfo.h>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -176,6 +177,16 @@ void CrashWatch::prepareCallList()
     void *call[1];
     ::backtrace(call, 1);
     watch.listsCalls = true;
+}
+
+void forgoCoreFiles()
+{
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_CORE, &limit) != 0)
+        return;
+    // Programs that the user starts from here may raise it again.
+    limit.rlim_cur = 0;
+    ::setrlimit(RLIMIT_CORE, &limit);
 }
 
 QList<CrashReport> crashReports(const QString &folder)

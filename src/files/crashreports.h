@@ -25,6 +25,10 @@ inline constexpr qsizetype keptCrashReports = 5;
 /// folder.
 QList<CrashReport> crashReports(const QString &folder);
 
+/// Lets the process and those that it starts leave no core files, as far as they don't ask for them again: a core file holds
+/// the document and passwords in the clear. The report of a crash takes its place. Debuggers work as ever.
+void forgoCoreFiles();
+
 /// Takes a report off the list for good, but leaves it in its folder, where the user can find it.
 Result<void> putAside(const CrashReport &report);
 

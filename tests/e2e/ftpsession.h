@@ -22,8 +22,8 @@ class FtpSession
 {
 public:
     /// Over an empty document, or over the one with that path.
-    explicit FtpSession(const ProgramFolder &folder, const QString &file = {})
-        : m_folder(folder), m_program(folder, {file.isEmpty() ? QStringLiteral("/nodialog") : file})
+    explicit FtpSession(const ProgramFolder &folder, const QString &file = {}, const QStringList &wrapper = {})
+        : m_folder(folder), m_program(folder, {file.isEmpty() ? QStringLiteral("/nodialog") : file}, wrapper)
     {
         const QString main = file.isEmpty() ? titles::untitled : RunningProgram::captionOf(file);
         QVERIFY(m_program.waitForWindow(main));

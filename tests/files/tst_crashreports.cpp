@@ -132,6 +132,21 @@ private Q_SLOTS:
         QCOMPARE(crashReports(home.path()).size(), 1);
     }
 
+    /// Only the limit in force: a program that is started from this one may want its core files.
+    void coreFilesAreForgone()
+    {
+        rlimit before = {};
+        QCOMPARE(::getrlimit(RLIMIT_CORE, &before), 0);
+        const rlimit raised = {before.rlim_max, before.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_CORE, &raised), 0);
+        forgoCoreFiles();
+        rlimit after = {};
+        QCOMPARE(::getrlimit(RLIMIT_CORE, &after), 0);
+        ::setrlimit(RLIMIT_CORE, &before);
+        QCOMPARE(after.rlim_cur, rlim_t(0));
+        QCOMPARE(after.rlim_max, before.rlim_max);
+    }
+
     void whatIsNoCrashIsNotReported()
     {
         const QTemporaryDir home;

@@ -83,6 +83,16 @@ void FtpServer::kill()
     m_process.waitForFinished(patience);
 }
 
+void FtpServer::hold() const
+{
+    QCOMPARE(::kill(static_cast<pid_t>(m_process.processId()), SIGSTOP), 0);
+}
+
+void FtpServer::goOn() const
+{
+    QCOMPARE(::kill(static_cast<pid_t>(m_process.processId()), SIGCONT), 0);
+}
+
 QString FtpServer::user() const
 {
     return m_kind == Kind::Vsftpd ? u"anonymous"_s : u"zuser"_s;

@@ -26,6 +26,9 @@ public:
 
     bool isRunning() const { return m_process.state() == QProcess::Running; }
     void kill();
+    /// Lets clients wait until goOn().
+    void hold() const;
+    void goOn() const;
 
     const QString &host() const { return m_host; }
     quint16 port() const { return m_port; }
