@@ -355,6 +355,10 @@ Mehr dazu mit &apos;zephira --help&apos;.
         <source>it is read-only</source>
         <translation>sie ist schreibgeschützt</translation>
     </message>
+    <message>
+        <source>Zephira can&apos;t start: %1 isn&apos;t a folder that belongs to you.</source>
+        <translation>Zephira kann nicht starten: %1 ist kein Ordner, der Ihnen gehört.</translation>
+    </message>
 </context>
 <context>
     <name>LivePace</name>

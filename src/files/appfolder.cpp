@@ -111,6 +111,26 @@ private:
     QStringList m_lines;
 };
 
+/// Whoever owns the folder could exchange what the program reads from it, and read what it writes there. A link to a folder
+/// of one's own is one's own choice.
+Result<void> checkOwner(const QString &folder)
+{
+    const QByteArray name = QFile::encodeName(folder);
+    struct stat status = {};
+    if (::stat(name.constData(), &status) != 0)
+        return unmade(folder);
+    if (!S_ISDIR(status.st_mode) || status.st_uid != ::geteuid()) {
+        return Error{
+            Error::Code::Refused,
+            QCoreApplication::translate("FileErrors", "Zephira can't start: %1 isn't a folder that belongs to you.")
+                .arg(folder)};
+    }
+    // Some file systems have no modes, which is no reason not to start.
+    if ((status.st_mode & 077) != 0)
+        ::chmod(name.constData(), folderMode);
+    return {};
+}
+
 /// The folder, if its configuration can be read; otherwise an error, because every setting would seem to be missing.
 Result<QString> readableFolder(const QString &folder)
 {
@@ -146,6 +166,8 @@ Result<QString> prepareAppPath(const QString &executableFolder, const QString &i
     const QString folder = QDir::cleanPath(dataHome + u"/zephira"_s);
     if (const Result<void> made = makePrivateFolder(folder); !made)
         return made.error();
+    if (const Result<void> own = checkOwner(folder); !own)
+        return own.error();
     const Offers offers(folder);
     const bool isComplete = QFileInfo::exists(folder + u'/' + iniName);
     if (isComplete && offers.version() == version)

@@ -17,7 +17,8 @@ Result<void> makePrivateFolder(const QString &path);
 /// when another user unpacked the program), otherwise from `installedData` and from the folders in the executable's, with
 /// mode 0700 for folders and 0600 for files. Existing files are never overwritten, and a folder that contains zephira.ini
 /// counts as filled; the first start of another `version` only adds files that none before has brought. Fails if the
-/// folder can't be created or filled, or if zephira.ini in it can't be read.
+/// folder can't be created or filled, if it belongs to another user, or if zephira.ini in it can't be read. One that others
+/// may look into is restricted.
 Result<QString> prepareAppPath(const QString &executableFolder, const QString &installedData, const QString &dataHome,
                                const QString &version);
 

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void scratchIsNarrowed();
     void scratchRefusesALink();
     void scratchRefusesAFile();
+    void foldersOfOthersAreRefused();
+    void theDataFolderIsNarrowed();
 
 private:
     QString at(const QString &name) const { return m_folder->path() + u'/' + name; }
@@ -282,6 +284,41 @@ void TstAppFolder::scratchRefusesAFile()
     const Result<QString> folder = scratchFolder(at(u"cache"_s));
     QVERIFY(!folder.ok());
     QCOMPARE(folder.error().code, Error::Code::Refused);
+}
+
+/// Only root can give a folder away.
+void TstAppFolder::foldersOfOthersAreRefused()
+{
+    constexpr uid_t someoneElse = 65534;
+    putFile(at(u"share/zephira.ini"_s), "[options]\r\n");
+    const QString scratch = at(u"cache/zephira/scratch"_s);
+    const QString data = at(u"data/zephira"_s);
+    putFile(data + u"/zephira.ini"_s, "[options]\r\n");
+    QVERIFY(QDir().mkpath(scratch));
+    const bool areGiven = geteuid() == 0 && ::chown(QFile::encodeName(scratch).constData(), someoneElse, 0) == 0
+        && ::chown(QFile::encodeName(data).constData(), someoneElse, 0) == 0;
+    const Result<QString> scratchFound = scratchFolder(at(u"cache"_s));
+    const Result<QString> dataFound = prepareAppPath(at(u"bin"_s), at(u"share"_s), at(u"data"_s), u"1"_s);
+    QCOMPARE(scratchFound.ok(), !areGiven);
+    QCOMPARE(dataFound.ok(), !areGiven);
+    if (!areGiven)
+        return;
+    QCOMPARE(scratchFound.error().code, Error::Code::Refused);
+    QCOMPARE(scratchFound.error().sentence,
+             scratch + u" isn't a folder that belongs to you, so Zephira doesn't write temporary files there."_s);
+    QCOMPARE(dataFound.error().code, Error::Code::Refused);
+    QCOMPARE(dataFound.error().sentence, u"Zephira can't start: %1 isn't a folder that belongs to you."_s.arg(data));
+    QCOMPARE(QDir(data).entryList(QDir::Files | QDir::Hidden), QStringList{u"zephira.ini"_s});
+}
+
+void TstAppFolder::theDataFolderIsNarrowed()
+{
+    putFile(at(u"share/zephira.ini"_s), "[options]\r\n");
+    const QString data = at(u"data/zephira"_s);
+    QVERIFY(QDir().mkpath(data));
+    QCOMPARE(::chmod(QFile::encodeName(data).constData(), 0755), 0);
+    QVERIFY(prepareAppPath(at(u"bin"_s), at(u"share"_s), at(u"data"_s), u"1"_s).ok());
+    QCOMPARE(modeOf(data), 0700u);
 }
 
 ZEPHIRA_TEST(TstAppFolder)

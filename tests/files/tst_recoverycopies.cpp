@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -104,6 +105,21 @@ private Q_SLOTS:
         QVERIFY(!write(copies, u"a.htm"_s, "text"));
         QCOMPARE(modeOf(outside), mode_t(0755));
         QCOMPARE(QDir(outside).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
+
+    /// Only root can give a folder away.
+    void theFolderOfSomeoneElseIsRefused()
+    {
+        constexpr uid_t someoneElse = 65534;
+        QVERIFY(QDir().mkpath(folder()));
+        const bool isGiven = geteuid() == 0 && chown(QFile::encodeName(folder()).constData(), someoneElse, 0) == 0;
+        RecoveryCopies copies(folder(), m_files, m_clock);
+        const Result<void> written = write(copies, u"a.htm"_s, "text");
+        QCOMPARE(written.ok(), !isGiven);
+        QCOMPARE(QDir(folder()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), isGiven);
+        if (isGiven)
+            QVERIFY2(written.error().sentence.contains(u"it isn't a folder that belongs to you"),
+                     qPrintable(written.error().sentence));
     }
 
     void anOpenFolderIsClosed()
