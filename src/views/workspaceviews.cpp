@@ -292,6 +292,9 @@ void WorkspaceViews::previewFile(FileKind kind)
     }
     const QString copy = temporaryFile(name);
     m_window.setPreviewTarget(copy);
+    // A save follows links, and everybody knows the copy's name: one that is planted here mustn't lead to another file.
+    if (QFileInfo(copy).isSymLink()) [[maybe_unused]]
+        const Result<void> removed = m_context.files.remove(copy);
     saveAndNavigate(copy, copy, kind);
 }
 

@@ -5,6 +5,7 @@
 #include "support/testregistry.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 using namespace zephira;
@@ -95,6 +96,20 @@ private Q_SLOTS:
             saved.startsWith("<!DOCTYPE html>\r\n")
                 && saved.contains("<p>typed herex</p><script>document.body.bgColor = '#12AB34'</script></body></html>"),
             saved.constData());
+        QVERIFY(page.close());
+    }
+
+    /// The copy for the preview has a name that others can guess.
+    void aPlantedLinkLeadsThePreviewNowhere()
+    {
+        PageInProgram page(pageOf("#12AB34"));
+        const QString outside = page.folder.write(u"outside.html"_s, "theirs");
+        const QString copy = page.file + u"temp.html"_s;
+        QVERIFY(QFile::link(outside, copy));
+        QVERIFY(page.isShown());
+        QVERIFY2(page.goOn(previewColour), qPrintable(page.colour()));
+        QCOMPARE(ProgramFolder::read(outside), "theirs");
+        QVERIFY(!QFileInfo(copy).isSymLink());
         QVERIFY(page.close());
     }
 
