@@ -13,6 +13,8 @@
 #include <QWebEngineHistory>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
 #include <csignal>
@@ -30,6 +32,13 @@ constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
     QWebEngineSettings::ScreenCaptureEnabled,
 };
 
+const QString closingName = u"unseen ways"_s;
+
+/// What the engine sends for these isn't seen by the fence. Pages that come over the network keep them.
+constexpr QStringView closingScript =
+    u"if (!/^https?:$/.test(location.protocol)) for (const way of ['RTCPeerConnection', 'webkitRTCPeerConnection', "
+    "'WebTransport']) delete window[way];";
+
 } // namespace
 
 BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QObject *parent)
@@ -42,6 +51,8 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
     // loads from other machines. Either way, the page's scripts can't read what such a machine answers.
     settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+
+    closeUnseenWays();
 
     // Queued, because the engine waits for the answer.
     connect(&m_fence, &LocalFileFence::remoteRefused, this, &BrowserPage::refuse, Qt::QueuedConnection);
@@ -63,6 +74,28 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
     });
     connect(&profile, &QWebEngineProfile::downloadRequested, this,
             [](QWebEngineDownloadRequest *download) { download->cancel(); });
+}
+
+void BrowserPage::setRemoteAllowed(bool allowed)
+{
+    m_fence.setRemoteAllowed(allowed);
+    closeUnseenWays();
+}
+
+void BrowserPage::closeUnseenWays()
+{
+    const QList<QWebEngineScript> before = scripts().find(closingName);
+    for (const QWebEngineScript &script : before)
+        scripts().remove(script);
+    if (m_fence.isRemoteAllowed())
+        return;
+    QWebEngineScript script;
+    script.setName(closingName);
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(true);
+    script.setSourceCode(closingScript.toString());
+    scripts().insert(script);
 }
 
 void BrowserPage::open(const QUrl &address)

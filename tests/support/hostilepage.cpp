@@ -66,12 +66,31 @@ attempt(() => new Worker(URL.createObjectURL(new Blob(
   ["try { importScripts('SERVERblobworker.js') } catch (e) {} fetch('SERVERblobfetch', {mode: 'no-cors'})"]))));
 attempt(() => new SharedWorker(URL.createObjectURL(new Blob(["fetch('SERVERblobshared', {mode: 'no-cors'})"]))));
 const host = new URL('SERVER').host;
-attempt(() => {
-  const c = new RTCPeerConnection({ iceServers: [{ urls: 'stun:' + host },
+const speak = Peer => {
+  const c = new Peer({ iceServers: [{ urls: 'stun:' + host },
     { urls: 'turn:' + host + '?transport=tcp', username: 'u', credential: 'c' }] });
   c.createDataChannel('d');
   return c.createOffer().then(offer => c.setLocalDescription(offer));
-});
+};
+attempt(() => speak(RTCPeerConnection));
+attempt(() => speak(webkitRTCPeerConnection));
+// A frame is there before anything can be done about it.
+for (const source of ['', 'about:blank', 'inner.html', 'data:text/html,x', "javascript:''"])
+  attempt(() => {
+    const f = document.createElement('iframe');
+    if (source) f.src = source;
+    document.body.append(f);
+    const early = f.contentWindow.RTCPeerConnection;
+    attempt(() => speak(early));
+    f.onload = () => { attempt(() => speak(f.contentWindow.RTCPeerConnection)); f.onload = null; };
+    setTimeout(() => attempt(() => speak(f.contentWindow.RTCPeerConnection)), 500);
+  });
+attempt(() => { const f = document.createElement('iframe');
+  f.srcdoc = '<script>const host = ' + JSON.stringify(host) + '; (' + speak + ')(RTCPeerConnection)</' + 'script>';
+  document.body.append(f); });
+const transport = "new WebTransport('SERVERtransport'.replace('http:', 'https:')).ready.catch(() => {})";
+attempt(() => new Function(transport)());
+attempt(() => new Worker(URL.createObjectURL(new Blob([transport]))));
 attempt(() => navigator.serviceWorker.register('SERVERservice.js'));
 attempt(() => new FontFace('g', 'url(SERVERface.woff)').load());
 attempt(() => import('SERVERdynamic.js'));
@@ -122,6 +141,7 @@ QString plantHostilePage(const QString &folder, const QString &server)
     putFile(outside + QStringLiteral("own.txt"), "secret");
     putFile(site + QStringLiteral("redirect.html"),
             "<meta http-equiv=refresh content='0;url=" + (server + QStringLiteral("refresh")).toUtf8() + "'>");
+    putFile(site + QStringLiteral("inner.html"), "<p>inner</p>");
     QFile::link(outside, site + QStringLiteral("out"));
     QFile::link(outside + QStringLiteral("own.css"), site + QStringLiteral("linked.css"));
     QFile::link(outside + QStringLiteral("own.txt"), site + QStringLiteral("linked.txt"));

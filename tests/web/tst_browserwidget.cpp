@@ -436,6 +436,7 @@ private Q_SLOTS:
         QVERIFY(bench.comesTo(u"String(window.tried)"_s, u"true"_s));
         QCOMPARE(bench.ask(u"window.got"_s), QString());
         QCOMPARE(server.requests(), QStringList());
+        QCOMPARE(server.connections(), 0);
         QCOMPARE(filesBelow(bench.folder.path()), files);
         QCOMPARE(filesBelow(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)), downloads);
         // Allowed to go out, the page does so in many ways, and in the end it leads elsewhere.
@@ -445,6 +446,7 @@ private Q_SLOTS:
         bench.browser.navigate(page);
         QVERIFY(waitUntil([&] { return server.requests().contains(u"/location"_s); }, patience));
         QVERIFY(server.requests().size() >= fewestWays);
+        QVERIFY(server.connections() > server.requests().size()); // Not each of them asks for a path.
     }
 
     void aPageLeadsElsewhereOnlyWithTheUser_data()
