@@ -2,11 +2,14 @@
 #include "web/designer/designerbench.h"
 
 #include "support/diskfiles.h"
+#include "support/eventwait.h"
 
+#include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMouseEvent>
 #include <QRegularExpression>
+#include <QTimer>
 #include <QWebEngineScript>
 #include <QWebEngineView>
 
@@ -100,7 +103,6 @@ const QString showSelection = uR"js((() => {
 
 DesignerBench::DesignerBench()
 {
-    QObject::connect(&designer, &DesignerWidget::DocumentComplete, &designer, [this] { ++m_completed; });
     designer.setMergePatience(patience);
     designer.resize(600, 400);
     designer.show();
@@ -108,8 +110,20 @@ DesignerBench::DesignerBench()
 
 void DesignerBench::awaitComplete()
 {
-    const int before = m_completed;
-    QTRY_VERIFY_WITH_TIMEOUT(m_completed > before, patience);
+    bool isComplete = false;
+    QEventLoop loop;
+    QObject::connect(&designer, &DesignerWidget::DocumentComplete, &loop, [&] {
+        isComplete = true;
+        loop.quit();
+    });
+    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    loop.exec();
+    QVERIFY(isComplete);
+}
+
+void DesignerBench::awaitChange()
+{
+    QVERIFY(waitUntil([this] { return designer.isDirty(); }, patience));
 }
 
 void DesignerBench::load(const QString &html)
@@ -130,9 +144,16 @@ void DesignerBench::show(const QString &html)
 QVariant DesignerBench::ask(const QString &script)
 {
     std::optional<QVariant> answer;
-    designer.page().runJavaScript(script, QWebEngineScript::ApplicationWorld,
-                                  [&](const QVariant &value) { answer = value; });
-    if (!QTest::qWaitFor([&] { return answer.has_value(); }, patience))
+    QEventLoop loop;
+    designer.page().runJavaScript(script, QWebEngineScript::ApplicationWorld, [&](const QVariant &value) {
+        answer = value;
+        loop.quit();
+    });
+    // A loop of its own, because QTest's waits look at the page's events a hundred times a second only.
+    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    if (!answer)
+        loop.exec();
+    if (!answer)
         qFatal("the page doesn't answer");
     return *answer;
 }

@@ -26,7 +26,10 @@ public:
     void show(const QString &html);
     /// Loads a page without interpreting markers, and waits until it can be edited.
     void load(const QString &html);
+    /// Waits until the page that was set last can be edited.
     void awaitComplete();
+    /// Waits until the page has reported a change.
+    void awaitChange();
 
     QVariant run(DesignerCommand command, const QVariant &argument = {});
     int status(DesignerCommand command);
@@ -59,8 +62,6 @@ private:
     /// The engine's markup without the attributes that only the designer needs.
     static QString withoutOwnAttributes(QString markup);
     QWidget &target();
-
-    int m_completed = 0;
 };
 
 } // namespace zephira

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/designer/mergefigures.h"
 
+#include "support/eventwait.h"
 #include "web/designer/pageedits.h"
 #include "web/designer/tokenmatch.h"
 
@@ -143,7 +144,7 @@ MergeFigures measureMerges(DesignerBench &bench, const QStringList &pages)
                 continue;
             edit.act(bench);
             const QString what = edit.name + u" in "_s + path;
-            if (!QTest::qWaitFor([&] { return designer.isDirty(); }, 5000)) {
+            if (!waitUntil([&] { return designer.isDirty(); }, 5000)) {
                 figures.faults.append(u"nothing happened: "_s + what);
                 continue;
             }

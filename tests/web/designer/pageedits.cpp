@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/designer/pageedits.h"
 
+#include "support/eventwait.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -187,7 +189,7 @@ RandomEdit editAtRandom(DesignerBench &bench, const QString &page, QRandomGenera
         bench.ask(randomEdit + u"([%1]); null"_s.arg(numbers.join(u',')));
     }
     bench.ask(u"document.documentElement.append(new Text('')); null"_s);
-    if (!QTest::qWaitFor([&] { return bench.designer.isDirty(); }, DesignerBench::patience)) {
+    if (!waitUntil([&] { return bench.designer.isDirty(); }, DesignerBench::patience)) {
         outcome.fault = u"not dirty"_s;
         return outcome;
     }

@@ -44,7 +44,7 @@ private:
     void act(const QString &script)
     {
         m_bench->ask(script + u"; null"_s);
-        [this] { QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience); }();
+        m_bench->awaitChange();
     }
 
     std::unique_ptr<DesignerBench> m_bench;
@@ -158,7 +158,7 @@ void TstDesignerMerge::emptiedParagraphs()
         m_bench->press(Qt::Key_Backspace);
     else
         m_bench->run(DesignerCommand::Delete);
-    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    m_bench->awaitChange();
     const QString shown = m_bench->text();
     QCOMPARE(m_bench->designer.documentHtml(), expected);
     QCOMPARE(m_bench->text(), shown);
@@ -187,7 +187,7 @@ void TstDesignerMerge::xmlStaysXml()
     };
     m_bench->show(page(u"<p>a</p>\r\n<p>[b]<ul><li>c</li></ul>\r\n</p>\r\n<p>d</p>"_s));
     m_bench->run(DesignerCommand::Delete);
-    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    m_bench->awaitChange();
     QCOMPARE(m_bench->designer.documentHtml(), page(u"<p>a</p>\r\n<ul><li>c</li></ul>\r\n<p></p>\r\n<p>d</p>"_s));
 }
 

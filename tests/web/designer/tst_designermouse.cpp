@@ -123,7 +123,7 @@ void TstDesignerMouse::drags()
         QVERIFY(!m_bench->designer.isDirty());
         return;
     }
-    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    m_bench->awaitChange();
     m_bench->run(DesignerCommand::Undo);
     QCOMPARE(m_bench->body(), before);
 }

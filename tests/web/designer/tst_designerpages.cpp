@@ -113,7 +113,7 @@ void TstDesignerPages::idleScripts()
     const QString page = u"<html>\r\n<head></head>\r\n<body>"_s + script + u"<p>a</p>\r\n</body></html>"_s;
     m_bench->load(page);
     m_bench->ask(u"document.querySelector('p').firstChild.appendData('b'); null"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    m_bench->awaitChange();
     QString expected = page;
     QCOMPARE(m_bench->designer.documentHtml(), expected.replace(u"<p>a"_s, u"<p>ab"_s));
     m_bench->run(DesignerCommand::SelectAll);

@@ -54,7 +54,7 @@ private:
         m_bench->load(page);
         // Not into the last child, which may be a text.
         m_bench->ask(u"document.documentElement.append(new Text('')); null"_s);
-        [this] { QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience); }();
+        m_bench->awaitChange();
         return m_bench->designer.documentHtml();
     }
 
@@ -267,7 +267,7 @@ void TstDesignerText::oneLetterThereAndBack()
             walker.currentNode.data = walker.currentNode.data.replace('%1', '%2');
         })())js"_s;
         m_bench->ask(change.arg(from, to));
-        [this] { QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience); }();
+        m_bench->awaitChange();
         return m_bench->designer.documentHtml();
     };
     int exact = 0;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/eventwait.h"
 #include "support/testregistry.h"
 #include "web/designer/designerbench.h"
 #include "web/designer/designerhandles.h"
@@ -69,9 +70,9 @@ void TstDesignerWidget::cleanup()
 
 void TstDesignerWidget::awaitComplete(const std::function<void()> &load)
 {
-    QSignalSpy complete(&m_bench->designer, &DesignerWidget::DocumentComplete);
+    const QSignalSpy complete(&m_bench->designer, &DesignerWidget::DocumentComplete);
     load();
-    QTRY_VERIFY_WITH_TIMEOUT(!complete.isEmpty(), DesignerBench::patience);
+    QVERIFY(waitUntil([&] { return !complete.isEmpty(); }, DesignerBench::patience));
 }
 
 void TstDesignerWidget::beforeTheFirstPage()
@@ -286,7 +287,7 @@ void TstDesignerWidget::everythingUnseenIsShown()
         "(document.body.children[1])"_s;
     QCOMPARE(m_bench->ask(shown).toString(), u"\"%1\",true"_s.arg(word));
     m_bench->ask(u"document.body.firstChild.firstChild.appendData('b'); null"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    m_bench->awaitChange();
     const QString edited = QString(page).replace(u"<p>a"_s, u"<p>ab"_s);
     QCOMPARE(m_bench->designer.documentHtml(), edited);
     m_bench->designer.setShowDetails(false);

@@ -127,7 +127,7 @@ void TstDesignerXhtml::oneLetter()
     m_bench->load(page.arg(body));
     QVERIFY(placeCaret());
     m_bench->type(u"Z"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+    m_bench->awaitChange();
     const QString text = m_bench->designer.documentHtml();
     const QString written = text.mid(text.indexOf(u"<body>"_s) + 6);
     QCOMPARE(written.left(written.indexOf(u"</body>"_s)), after);
@@ -147,7 +147,7 @@ void TstDesignerXhtml::realPagesStayWellFormed()
         if (!placeCaret())
             continue;
         m_bench->type(u"Z"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(m_bench->designer.isDirty(), DesignerBench::patience);
+        m_bench->awaitChange();
         const QString page = m_bench->designer.documentHtml();
         ++typed;
         if (const QString what = fault(page); !what.isEmpty())
