@@ -34,10 +34,11 @@ constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
 
 const QString closingName = u"unseen ways"_s;
 
-/// What the engine sends for these isn't seen by the fence. Pages that come over the network keep them.
+/// The fence doesn't see what peers are sent. Pages that come over the network keep them. A frame that a script has just
+/// made still has them in its first, empty document, where the engine runs nothing of ours before the page's script goes on.
 constexpr QStringView closingScript =
-    u"if (!/^https?:$/.test(location.protocol)) for (const way of ['RTCPeerConnection', 'webkitRTCPeerConnection', "
-    "'WebTransport']) delete window[way];";
+    u"if (!/^https?:$/.test(location.protocol)) for (const way of ['RTCPeerConnection', 'webkitRTCPeerConnection']) "
+    "delete window[way];";
 
 } // namespace
 

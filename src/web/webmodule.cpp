@@ -4,6 +4,7 @@
 #include "core/quietmessages.h"
 #include "web/browserwidget.h"
 #include "web/designer/designerwidget.h"
+#include "web/enginefeatures.h"
 #include "web/live/livepagewidget.h"
 
 #include <QLoggingCategory>
@@ -22,6 +23,7 @@ WebModule::WebModule()
         qWarning("Zephira is running as root: web pages are shown without the engine's sandbox.");
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     }
+    closeUnfencedFeatures();
     const QuietMessages quiet;
     QLoggingCategory::setFilterRules(u"qt.webenginecontext=false"_s);
     const QWebEngineProfile first; // Starts the engine.

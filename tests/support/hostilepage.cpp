@@ -64,7 +64,8 @@ attempt(() => new Worker('OUTSIDEown.js'));
 attempt(() => new SharedWorker('SERVERshared.js'));
 attempt(() => new Worker(URL.createObjectURL(new Blob(
   ["try { importScripts('SERVERblobworker.js') } catch (e) {} fetch('SERVERblobfetch', {mode: 'no-cors'})"]))));
-attempt(() => new SharedWorker(URL.createObjectURL(new Blob(["fetch('SERVERblobshared', {mode: 'no-cors'})"]))));
+attempt(() => new SharedWorker(URL.createObjectURL(new Blob(["fetch('SERVERblobshared', {mode: 'no-cors'}); "
+  + "new WebSocket('SERVERsharedsocket'.replace('http', 'ws'))"]))));
 const host = new URL('SERVER').host;
 const speak = Peer => {
   const c = new Peer({ iceServers: [{ urls: 'stun:' + host },
@@ -74,15 +75,11 @@ const speak = Peer => {
 };
 attempt(() => speak(RTCPeerConnection));
 attempt(() => speak(webkitRTCPeerConnection));
-// A frame is there before anything can be done about it.
 for (const source of ['', 'about:blank', 'inner.html', 'data:text/html,x', "javascript:''"])
   attempt(() => {
     const f = document.createElement('iframe');
     if (source) f.src = source;
     document.body.append(f);
-    const early = f.contentWindow.RTCPeerConnection;
-    attempt(() => speak(early));
-    f.onload = () => { attempt(() => speak(f.contentWindow.RTCPeerConnection)); f.onload = null; };
     setTimeout(() => attempt(() => speak(f.contentWindow.RTCPeerConnection)), 500);
   });
 attempt(() => { const f = document.createElement('iframe');

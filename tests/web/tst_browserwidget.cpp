@@ -6,6 +6,7 @@
 #include "support/httpserver.h"
 #include "support/testregistry.h"
 #include "web/browserwidget.h"
+#include "web/enginefeatures.h"
 #include "web/scriptmessagebar.h"
 
 #include <QCheckBox>
@@ -114,6 +115,8 @@ class TstBrowserWidget final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { closeUnfencedFeatures(); }
+
     void aFileMayBeToldToBeAPage_data()
     {
         QTest::addColumn<QString>("name");

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/diskfiles.h"
+#include "support/hostilepage.h"
+#include "support/httpserver.h"
 #include "support/testregistry.h"
 #include "web/designer/designerbench.h"
 
@@ -27,8 +30,11 @@ private Q_SLOTS:
     void readsOnlyBeneathItsFolder();
     void readsBeneathTheProject();
     void nothingOfTheDesignerIsWithinReach();
+    void aPageThatTriesEveryWayOut();
 
 private:
+    void settle();
+
     std::unique_ptr<DesignerBench> m_bench;
 };
 
@@ -163,6 +169,44 @@ void TstDesignerTrust::nothingOfTheDesignerIsWithinReach()
                                            [&](const QVariant &value) { found = value.toString(); });
     QTRY_VERIFY_WITH_TIMEOUT(found.has_value(), DesignerBench::patience);
     QCOMPARE(*found, u"undefined,undefined,undefined"_s);
+}
+
+/// Waits until what happens by itself, a while after a page has come, has happened.
+void TstDesignerTrust::settle()
+{
+    m_bench->ask(u"window.settled = 0; setTimeout(() => window.settled = 1, 1500); null"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"window.settled"_s).toInt(), 1, DesignerBench::patience);
+}
+
+/// Before the user has allowed it, nothing of it reaches the server; afterwards only what decides about its look.
+void TstDesignerTrust::aPageThatTriesEveryWayOut()
+{
+    const HttpServer server;
+    const QString page = plantHostilePage(m_bench->folder.path() + u"/hostile"_s, server.address(u"/"_s));
+    m_bench->designer.loadDocument(page);
+    m_bench->awaitComplete();
+    settle();
+    QCOMPARE(server.connections(), 0);
+    QCOMPARE(m_bench->ask(u"getComputedStyle(document.getElementById('p')).marginLeft"_s).toString(), u"0px"_s);
+    QCOMPARE(m_bench->ask(u"[...document.images].filter(i => i.naturalWidth == 5).length"_s).toInt(), 0);
+    QVERIFY(!m_bench->designer.isDirty());
+    QCOMPARE(m_bench->designer.documentHtml().toUtf8(), contentOf(page));
+
+    m_bench->designer.setRemoteAllowed(true);
+    m_bench->designer.loadDocument(page);
+    m_bench->awaitComplete();
+    constexpr qsizetype fewestLooks = 5;
+    QTRY_VERIFY_WITH_TIMEOUT(server.requests().size() >= fewestLooks, DesignerBench::patience);
+    settle();
+    m_bench->designer.setRemoteAllowed(false);
+    const QStringList requests = server.requests();
+    for (const QString &request : requests) {
+        const QString name = request.section(u'.', 0, 0).mid(1);
+        const bool isOfAFrame = name.startsWith(u"data"_s) || name == u"srcdoc";
+        QVERIFY2(!isOfAFrame && request.contains(QRegularExpression(u"\\.(css|png|svg|woff|cur)$"_s)),
+                 qPrintable(request));
+    }
+    QVERIFY(!requests.contains(u"/new.png"_s)); // A script asks for it.
 }
 
 ZEPHIRA_TEST(TstDesignerTrust)

@@ -4,6 +4,7 @@
 #include "support/hostilepage.h"
 #include "support/httpserver.h"
 #include "support/testregistry.h"
+#include "web/enginefeatures.h"
 #include "web/live/livebench.h"
 #include "web/scriptmessagebar.h"
 
@@ -22,6 +23,7 @@ class TstLivePageWidget final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { closeUnfencedFeatures(); }
     void init() { m_bench = std::make_unique<LiveBench>(); }
     void cleanup() { m_bench.reset(); }
 
