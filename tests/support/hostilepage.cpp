@@ -75,13 +75,10 @@ const speak = Peer => {
 };
 attempt(() => speak(RTCPeerConnection));
 attempt(() => speak(webkitRTCPeerConnection));
-for (const source of ['', 'about:blank', 'inner.html', 'data:text/html,x', "javascript:''"])
-  attempt(() => {
-    const f = document.createElement('iframe');
-    if (source) f.src = source;
-    document.body.append(f);
-    setTimeout(() => attempt(() => speak(f.contentWindow.RTCPeerConnection)), 500);
-  });
+attempt(() => { const f = document.createElement('iframe');
+  f.src = 'inner.html';
+  f.onload = () => attempt(() => speak(f.contentWindow.RTCPeerConnection));
+  document.body.append(f); });
 attempt(() => { const f = document.createElement('iframe');
   f.srcdoc = '<script>const host = ' + JSON.stringify(host) + '; (' + speak + ')(RTCPeerConnection)</' + 'script>';
   document.body.append(f); });

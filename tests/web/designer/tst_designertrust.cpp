@@ -190,7 +190,7 @@ void TstDesignerTrust::aPageThatTriesEveryWayOut()
     QCOMPARE(m_bench->ask(u"getComputedStyle(document.getElementById('p')).marginLeft"_s).toString(), u"0px"_s);
     QCOMPARE(m_bench->ask(u"[...document.images].filter(i => i.naturalWidth == 5).length"_s).toInt(), 0);
     QVERIFY(!m_bench->designer.isDirty());
-    QCOMPARE(m_bench->designer.documentHtml().toUtf8(), contentOf(page));
+    QCOMPARE(m_bench->designer.documentHtml().replace(u"\r\n"_s, u"\n"_s).toUtf8(), contentOf(page));
 
     m_bench->designer.setRemoteAllowed(true);
     m_bench->designer.loadDocument(page);
