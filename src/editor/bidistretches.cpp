@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/bidistretches.h"
 
-#include "editor/utf8character.h"
+#include "core/utf8character.h"
 #include "files/utf8.h"
 
 #include <QChar>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/longruns.h"
 
-#include "editor/utf8character.h"
+#include "core/utf8character.h"
 
 #include <QChar>
 
