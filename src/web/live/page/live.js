@@ -43,9 +43,6 @@ const scrollTo = height => {
     window.scrollTo({left: window.scrollX, top: expectedScroll, behavior: 'instant'});
 };
 
-// An element of the page can have the name of the document's own function.
-const listen = (target, ...listener) => EventTarget.prototype.addEventListener.call(target, ...listener);
-
 const noNumber = address => address.replace(/\?zephira=\d+$/, '');
 
 // The addresses of the sheets that the page links, and of those that these import.
@@ -136,8 +133,9 @@ const hearPage = () => {
     window.addEventListener('submit', event => event.preventDefault());
     window.addEventListener('scroll', noteScroll, {passive: true});
     window.addEventListener('resize', forgetMap);
-    // An element's load goes no further than the document, only that of the whole page comes to the window.
-    listen(document, 'load', noteLoad, true);
+    // An element's load goes no further than the document, only that of the whole page comes to the window. An element of
+    // the page can have the name of the document's own function.
+    window.addEventListener.call(document, 'load', noteLoad, true);
     window.addEventListener('load', noteLoad);
     for (const act of ['wheel', 'keydown', 'pointerdown'])
         window.addEventListener(act, endKeeping, {capture: true, passive: true});
