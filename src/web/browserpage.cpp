@@ -4,8 +4,8 @@
 #include "core/filestore.h"
 #include "core/languages.h"
 #include "files/textfile.h"
-#include "web/inputwatch.h"
-#include "web/scriptmessagebar.h"
+#include "widgets/inputwatch.h"
+#include "widgets/scriptmessagebar.h"
 
 #include <QPointer>
 #include <QTimer>

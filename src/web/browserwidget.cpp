@@ -3,9 +3,9 @@
 
 #include "web/browserpage.h"
 #include "web/hiddenfocus.h"
-#include "web/inputwatch.h"
 #include "web/pageaddress.h"
-#include "web/scriptmessagebar.h"
+#include "widgets/inputwatch.h"
+#include "widgets/scriptmessagebar.h"
 
 #include <QMenu>
 #include <QVBoxLayout>

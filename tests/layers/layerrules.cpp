@@ -35,7 +35,7 @@ constexpr FolderRow folderRows[] = {
     {u"syntax", u""},
     {u"widgets", u"core"},
     {u"editor", u"core files syntax widgets"},
-    {u"web", u"core files"},
+    {u"web", u"core files widgets"},
     {u"desktop", u"core files widgets"},
     {u"tools", u"core files syntax"},
     {u"tags", u"core files widgets"},

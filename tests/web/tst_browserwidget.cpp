@@ -7,7 +7,7 @@
 #include "support/testregistry.h"
 #include "web/browserwidget.h"
 #include "web/enginefeatures.h"
-#include "web/scriptmessagebar.h"
+#include "widgets/scriptmessagebar.h"
 
 #include <QCheckBox>
 #include <QDirIterator>

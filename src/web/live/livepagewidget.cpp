@@ -6,7 +6,7 @@
 #include "web/hiddenfocus.h"
 #include "web/live/livebrowserpage.h"
 #include "web/live/livetext.h"
-#include "web/scriptmessagebar.h"
+#include "widgets/scriptmessagebar.h"
 
 #include <QFileInfo>
 #include <QPointer>

@@ -6,7 +6,7 @@
 #include "support/testregistry.h"
 #include "web/enginefeatures.h"
 #include "web/live/livebench.h"
-#include "web/scriptmessagebar.h"
+#include "widgets/scriptmessagebar.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/scriptmessagebar.h"
+#include "widgets/scriptmessagebar.h"
 
 #include <QCheckBox>
 #include <QEventLoop>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "web/inputwatch.h"
+#include "widgets/inputwatch.h"
 
 #include <QChildEvent>
 #include <QKeyEvent>
