@@ -222,9 +222,12 @@ ElementTag OpenElements::describe(int node) const
     return {element.begin, element.tagEnd, m_names[static_cast<size_t>(element.name)]};
 }
 
-/// Goes on to the next tag that begins before the limit. What it passes has been read.
+/// Goes on to the next tag that begins before the limit, which may lie behind a text that has become shorter. What it passes
+/// has been read.
 std::optional<OpenElements::Tag> OpenElements::nextTag(const Text &text, qsizetype limit)
 {
+    // Behind the text there is no place to go on to.
+    limit = std::min(limit, sizeOf(text));
     while (m_at < limit) {
         const qsizetype open = find(text, '<', m_at);
         m_at = std::min(open, std::max(m_at, limit));

@@ -87,6 +87,19 @@ private Q_SLOTS:
         QCOMPARE(bench.fixture.marked(), u"|<div>\r\n<ul><li>\u00e9<li>b</ul>\r\n</div>^"_s);
     }
 
+    void aClickOnWhatIsNoMoreSelectsNothing()
+    {
+        Line bench;
+        bench.fixture.setMarked(u"<div>some text<p>x|y</p></div>"_s);
+        QCOMPARE(bench.captions(), (QStringList{u"div"_s, u"p"_s}));
+        bench.fixture.editor.setText(u"<div>"_s);
+        // The line hasn't heard of it yet.
+        QTest::mouseClick(&bench.crumb(2), Qt::LeftButton);
+        QCOMPARE(bench.fixture.editor.selText(), QString());
+        QCOMPARE(bench.fixture.editor.text(), u"<div>"_s);
+        QCOMPARE(bench.captions(), QStringList());
+    }
+
     void byKeys()
     {
         Line bench;

@@ -48,6 +48,22 @@ class TstOpenElements final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Who remembers a place may come when the text has become shorter.
+    void aPlaceBehindTheTextIsItsEnd()
+    {
+        const QByteArray text = "<div><p>text";
+        for (const qsizetype behind : {0, 1, 2, 100}) {
+            OpenElements elements(MarkupRules::Html);
+            const auto found = elements.around(inOnePiece(text), text.size() + behind, all);
+            QVERIFY(found);
+            QCOMPARE(namesOf(*found), "div0 p5 ");
+            // Nothing was read that isn't there.
+            const QByteArray longer = text + "<b>";
+            elements.changedFrom(text.size());
+            QCOMPARE(namesOf(elements.around(inOnePiece(longer), longer.size(), all).value()), "div0 p5 b12 ");
+        }
+    }
+
     void around_data()
     {
         QTest::addColumn<QByteArray>("text");
