@@ -16,6 +16,26 @@ using Sci = QsciScintillaBase;
 
 namespace zephira {
 
+namespace {
+
+/// Clicks that follow each other by more than 20 ms are single ones while this exists.
+class ShortDoubleClicks
+{
+public:
+    ShortDoubleClicks() { QGuiApplication::styleHints()->setMouseDoubleClickInterval(interval); }
+    ShortDoubleClicks(const ShortDoubleClicks &) = delete;
+    ~ShortDoubleClicks() { QGuiApplication::styleHints()->setMouseDoubleClickInterval(m_before); }
+
+    /// Waits until the next click is a new one.
+    static void pass() { QTest::qWait(interval + 5); }
+
+private:
+    static constexpr int interval = 20;
+    const int m_before = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+};
+
+} // namespace
+
 class TstBidiPainter : public QObject
 {
     Q_OBJECT
@@ -111,6 +131,7 @@ private Q_SLOTS:
     void clicksLandInFrontOfTheLetterThatTheyHit()
     {
         QFETCH(QString, line);
+        const ShortDoubleClicks shortly;
         EditorFixture f;
         f.show();
         f.editor.setText(line);
@@ -124,12 +145,13 @@ private Q_SLOTS:
                 continue;
             QTest::mouseClick(f.editor.viewport(), Qt::LeftButton, {}, QPointF(x, box.center().y()).toPoint());
             QCOMPARE(f.editor.selection(false).EndColNo, static_cast<int>(i));
-            QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 5);
+            ShortDoubleClicks::pass();
         }
     }
 
     void aDoubleClickSelectsTheWordThatItHits()
     {
+        const ShortDoubleClicks shortly;
         EditorFixture f;
         f.show();
         const QString line = u"שלום עולם abc"_s;
@@ -138,7 +160,7 @@ private Q_SLOTS:
             const QPoint at = boxOf(f, line, index).center().toPoint();
             QTest::mouseClick(f.editor.viewport(), Qt::LeftButton, {}, at);
             QTest::mouseDClick(f.editor.viewport(), Qt::LeftButton, {}, at);
-            QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 5);
+            ShortDoubleClicks::pass();
         };
         doubleClick(6);
         QCOMPARE(f.editor.selText(), u"עולם"_s);
