@@ -7,6 +7,9 @@
 #include <QFile>
 #include <QTest>
 
+#include <algorithm>
+#include <optional>
+
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +20,8 @@ namespace {
 
 constexpr int patience = 20000;
 constexpr int step = 50;
+/// Between two looks at something that comes to pass only once.
+constexpr int shortStep = 20;
 
 constexpr int keyDelay = 40;
 
@@ -41,9 +46,64 @@ bool waitFor(Condition condition)
     while (!condition()) {
         if (timer.elapsed() > patience)
             return false;
-        QTest::qWait(step);
+        QTest::qWait(shortStep);
     }
     return true;
+}
+
+struct ShownWindow {
+    QString id;
+    QString title;
+};
+
+/// What the tool prints, or nothing if it couldn't finish: a window that goes while it walks over all windows, be it
+/// another program's, ends it with a complaint. That it found none is no complaint.
+std::optional<QByteArray> completeAnswer(const QStringList &arguments)
+{
+    QProcess tool;
+    tool.start(u"xdotool"_s, arguments);
+    if (!tool.waitForFinished(patience) || !tool.readAllStandardError().isEmpty())
+        return {};
+    return tool.readAllStandardOutput().trimmed();
+}
+
+/// The visible windows of a process, or nothing if windows went meanwhile.
+std::optional<QList<ShownWindow>> windowsNow(qint64 pid)
+{
+    const std::optional<QByteArray> found = completeAnswer(
+        {u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid), u"--name"_s, u"."_s});
+    if (!found)
+        return {};
+    if (found->isEmpty())
+        return QList<ShownWindow>();
+    const QStringList ids = QString::fromLatin1(*found).split(u'\n');
+    // One run of the tool asks for all titles, and takes no longer than for one.
+    QStringList questions;
+    for (const QString &id : ids)
+        questions += {u"getwindowname"_s, id};
+    const std::optional<QByteArray> names = completeAnswer(questions);
+    if (!names)
+        return {};
+    const QStringList titles = QString::fromUtf8(*names).split(u'\n');
+    // A title with a line end makes it unknown which line is whose.
+    const bool areLines = titles.size() == ids.size();
+    QList<ShownWindow> windows;
+    for (qsizetype i = 0; i < ids.size(); ++i) {
+        const QString title = areLines ? titles[i] : QString::fromUtf8(xdotool({u"getwindowname"_s, ids[i]}));
+        windows.append({ids[i], title.trimmed()});
+    }
+    return windows;
+}
+
+/// The visible windows of a process.
+QList<ShownWindow> shownWindows(qint64 pid)
+{
+    std::optional<QList<ShownWindow>> windows;
+    waitFor([&] {
+        windows = windowsNow(pid);
+        return windows.has_value();
+    });
+    return windows.value_or(QList<ShownWindow>());
 }
 
 /// What the system tells of the processor time of each thread, and whether each sleeps.
@@ -111,13 +171,9 @@ QStringList RunningProgram::withoutSizeSignal()
 QStringList RunningProgram::windows() const
 {
     QStringList titles;
-    const QByteArray ids =
-        xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
-    const QList<QByteArray> all = ids.split('\n');
-    for (const QByteArray &id : all) {
-        if (!id.isEmpty())
-            titles.append(QString::fromUtf8(xdotool({u"getwindowname"_s, QString::fromLatin1(id)})));
-    }
+    const QList<ShownWindow> all = shownWindows(pid());
+    for (const ShownWindow &window : all)
+        titles.append(window.title);
     titles.removeDuplicates();
     return titles;
 }
@@ -152,15 +208,9 @@ bool RunningProgram::waitUntilGone(const QString &title) const
 
 QString RunningProgram::windowId(const QString &title) const
 {
-    const QByteArray ids =
-        xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s, QString::number(pid()), u"--name"_s, u"."_s});
-    const QList<QByteArray> all = ids.split('\n');
-    for (const QByteArray &id : all) {
-        const QString window = QString::fromLatin1(id);
-        if (!id.isEmpty() && QString::fromUtf8(xdotool({u"getwindowname"_s, window})) == title)
-            return window;
-    }
-    return {};
+    const QList<ShownWindow> all = shownWindows(pid());
+    const auto window = std::ranges::find(all, title, &ShownWindow::title);
+    return window == all.end() ? QString() : window->id;
 }
 
 void RunningProgram::key(const QString &title, const QString &keys) const
