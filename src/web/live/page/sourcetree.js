@@ -62,8 +62,12 @@ export const handOn = (before, node) => {
         handOn(one, other);
 };
 
+// The parser nests no deeper than some hundred elements. What is deeper was made by scripts, and has no end.
+const deepest = 1000;
+
 // The page as it was read, before its later scripts change it.
-export const snapshot = shown => ({shown, children: [...shown.childNodes].map(snapshot)});
+export const snapshot = (shown, depth = 0) =>
+    ({shown, children: depth < deepest ? [...shown.childNodes].map(child => snapshot(child, depth + 1)) : []});
 
 const isSameKind = (node, shown) => node.nodeType === shown.nodeType && node.nodeName === shown.nodeName;
 const isAlike = (node, shown) => isSameKind(node, shown)
