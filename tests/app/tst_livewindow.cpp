@@ -4,7 +4,13 @@
 #include "support/testregistry.h"
 #include "views/live/livepane.h"
 
+#include <QComboBox>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <cstdlib>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -28,14 +34,7 @@ private Q_SLOTS:
         connect(pane, &LivePane::shown, this, [shown] { ++*shown; });
         QVERIFY(waitUntil([&] { return *shown == 1; }, WebBench::patience));
         QVERIFY(rt.hasFocus());
-        const auto title = [&] {
-            const QList<QWidget *> parts = pane->findChildren<QWidget *>();
-            for (const QWidget *part : parts) {
-                if (part->inherits("QWebEngineView"))
-                    return part->property("title").toString();
-            }
-            return QString();
-        };
+        const auto title = [&] { return titleOf(*pane); };
         QCOMPARE(title(), u"one"_s);
         rt.select({0, 10, 0, 10});
         QTest::keyClick(&rt, 'x');
@@ -52,6 +51,67 @@ private Q_SLOTS:
         keyboard->setFocus();
         QTest::keyClick(keyboard, Qt::Key_F9);
         QVERIFY(waitUntil([&] { return !pane->isVisible(); }, WebBench::patience));
+    }
+
+    void scrollsBothWays()
+    {
+        QByteArray page = "<!DOCTYPE html><title>long</title>\r\n";
+        for (int number = 0; number < 300; ++number)
+            page += "<p>line " + QByteArray::number(number) + "</p>\r\n";
+        WebBench bench(u"page.html"_s, page);
+        const LivePane &pane = open(bench);
+        QVERIFY(waitUntil([&] { return titleOf(pane) == u"long"; }, WebBench::patience));
+        const auto height = [&] { return bench.scrollOf(u"livePageView"_s).y(); };
+        QScrollBar *bar = bench.window->rt().verticalScrollBar();
+        bar->setValue(150);
+        QVERIFY(waitUntil([&] { return height() > 2000; }, WebBench::patience));
+        bar->setValue(0);
+        QVERIFY(waitUntil([&] { return height() < 50; }, WebBench::patience));
+        // The caret goes where neither shows anything yet.
+        bench.window->rt().select({200, 5, 200, 5});
+        QVERIFY(waitUntil([&] { return height() > 2000; }, WebBench::patience));
+        bar->setValue(0);
+        QVERIFY(waitUntil([&] { return height() < 50; }, WebBench::patience));
+        // The wheel is turned in the page.
+        QWidget *keyboard = bench.keyboardOf(u"livePageView"_s);
+        const QPointF middle = QRectF(keyboard->rect()).center();
+        QWheelEvent turn(middle, keyboard->mapToGlobal(middle), {}, {0, -1200}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(keyboard, &turn);
+        QVERIFY(waitUntil([&] { return bar->value() > 10; }, WebBench::patience));
+    }
+
+    /// The page itself tells how wide it is.
+    void widths()
+    {
+        WebBench bench(u"page.html"_s,
+                       "<script>const tell = () => { document.title = innerWidth; };"
+                       "addEventListener('resize', tell); addEventListener('load', tell)</script><p>a</p>\r\n");
+        const LivePane &pane = open(bench);
+        QVERIFY(waitUntil([&] { return titleOf(pane).toInt() > 100; }, WebBench::patience));
+        auto *widths = bench.find<QComboBox>(u"liveWidths"_s);
+        for (const auto &[choice, width] : {std::pair(1, 375), std::pair(2, 768), std::pair(3, 1280)}) {
+            widths->setCurrentIndex(choice);
+            Q_EMIT widths->activated(choice);
+            QVERIFY2(waitUntil([&] { return std::abs(titleOf(pane).toInt() - width) < 4; }, WebBench::patience),
+                     qPrintable(widths->currentText() + u": "_s + titleOf(pane)));
+        }
+    }
+
+private:
+    static LivePane &open(const WebBench &bench)
+    {
+        bench.choose(u"textLivePage"_s);
+        return *bench.find<LivePane>(u"livePane"_s);
+    }
+    static QString titleOf(const LivePane &pane)
+    {
+        const QList<QWidget *> parts = pane.findChildren<QWidget *>();
+        for (const QWidget *part : parts) {
+            if (part->inherits("QWebEngineView"))
+                return part->property("title").toString();
+        }
+        return {};
     }
 };
 
