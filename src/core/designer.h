@@ -33,6 +33,13 @@ enum class DesignerPlace {
     Element, ///< the caret goes to the element whose tag is there; one that has no text is selected as a whole
 };
 
+/// Why a page that was changed is written as a whole.
+enum class WholePage {
+    No,       ///< it isn't: only what was touched is written
+    TooLarge, ///< what was touched isn't looked for in pages so large
+    NotFound, ///< what was touched wasn't found in the source, or not in time
+};
+
 /// How an entry of the designer's context menu looks.
 enum class DesignerMenuState : int { Unchecked = 0, Checked = 1, Greyed = 2 };
 
@@ -82,6 +89,8 @@ public:
     virtual QString documentHtml() = 0;
     /// The changes of the text that was set or loaded which make it what documentHtml() returned last, in order.
     virtual TextChanges documentChanges() const { return {}; }
+    /// Whether documentHtml() wrote the whole page last instead of what was touched, and why.
+    virtual WholePage wholePage() const { return WholePage::No; }
     /// Brings a position of the text that was set or loaded into sight, or if nothing of it is visible the nearest that
     /// is: at once, or as soon as the page is there. Positions are 0-based UTF-16 code units. Returns false if the page
     /// has no such place; nothing changes then.

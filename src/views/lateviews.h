@@ -21,6 +21,7 @@ public:
     bool isDirty() const override { return m_designer->isDirty(); }
     QString documentHtml() override { return m_designer->documentHtml(); }
     TextChanges documentChanges() const override { return m_designer->documentChanges(); }
+    WholePage wholePage() const override { return m_designer->wholePage(); }
     bool showPlace(qsizetype position, DesignerPlace what) override { return m_designer->showPlace(position, what); }
     std::optional<qsizetype> caretPlace() override { return m_designer->caretPlace(); }
     void setDocumentHtml(const QString &html) override { m_designer->setDocumentHtml(html); }

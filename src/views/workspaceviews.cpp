@@ -199,9 +199,19 @@ bool WorkspaceViews::carryBack(WorkspaceView next)
     if (isDirty) {
         takeText(text, designer.documentChanges());
         m_window.markModified();
+        tellOfWholePage(designer.wholePage());
     }
     m_caret = caret;
     return true;
+}
+
+/// Otherwise one would wonder why lines have changed that weren't touched.
+void WorkspaceViews::tellOfWholePage(WholePage whole)
+{
+    if (whole == WholePage::TooLarge)
+        m_window.notice(u"This page is very large: it was written anew as a whole, not only what was changed."_s);
+    else if (whole == WholePage::NotFound)
+        m_window.notice(u"The page was written anew as a whole: the place of the changes was not found in time."_s);
 }
 
 /// A caret that wasn't moved in the designer leaves that of the code view, and what it has selected, as they are.

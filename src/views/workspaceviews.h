@@ -3,6 +3,7 @@
 
 #include "core/appcontext.h"
 #include "core/browser.h"
+#include "core/designer.h"
 #include "core/textchange.h"
 
 #include <QSet>
@@ -91,6 +92,7 @@ private:
     void selectVisual();
     bool carryBack(WorkspaceView next);
     void takeText(const QString &text, const TextChanges &changes);
+    void tellOfWholePage(WholePage whole);
     void takeCaret();
     void showCaretInDesigner();
     void wait(std::optional<WorkspaceView> next);

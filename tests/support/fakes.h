@@ -50,6 +50,7 @@ struct FakeDesigner final : Designer {
     bool showing = false;
     bool dirty = false;
     QString html;
+    WholePage whole = WholePage::No;
     QString base;
     QStringList pasted;
     QStringList loaded;
@@ -78,6 +79,7 @@ struct FakeDesigner final : Designer {
 
     bool isShowing() const override { return showing; }
     bool isDirty() const override { return dirty; }
+    WholePage wholePage() const override { return whole; }
     QString documentHtml() override
     {
         const QString text = html;

@@ -32,6 +32,7 @@ private Q_SLOTS:
         FakeDesigner real;
         real.dirty = true;
         real.html = u"<p>"_s;
+        real.whole = WholePage::NotFound;
         real.selected = u"Control"_s;
         real.statuses[DesignerCommand::Bold] = DesignerStatus::On;
         designer.attach(real);
@@ -39,6 +40,7 @@ private Q_SLOTS:
         QCOMPARE(changes, 1);
         QVERIFY(designer.isDirty());
         QCOMPARE(designer.documentHtml(), u"<p>"_s);
+        QVERIFY(designer.wholePage() == WholePage::NotFound);
         QCOMPARE(designer.selectionType(), u"Control"_s);
         QCOMPARE(designer.queryStatus(DesignerCommand::Bold), 7);
         designer.setDocumentHtml(u"<b>"_s);

@@ -159,6 +159,36 @@ private Q_SLOTS:
         QCOMPARE(static_cast<int>(bench.window.shown), next);
     }
 
+    void aPageThatIsWrittenAsAWholeIsTold_data()
+    {
+        QTest::addColumn<bool>("isDirty");
+        QTest::addColumn<WholePage>("whole");
+        QTest::addColumn<QStringList>("notices");
+        QTest::newRow("what was touched") << true << WholePage::No << QStringList();
+        QTest::newRow("too large")
+            << true << WholePage::TooLarge
+            << QStringList{u"This page is very large: it was written anew as a whole, not only what was changed."_s};
+        QTest::newRow("not found")
+            << true << WholePage::NotFound
+            << QStringList{u"The page was written anew as a whole: the place of the changes was not found in time."_s};
+        QTest::newRow("nothing written") << false << WholePage::TooLarge << QStringList();
+    }
+
+    void aPageThatIsWrittenAsAWholeIsTold()
+    {
+        QFETCH(bool, isDirty);
+        QFETCH(WholePage, whole);
+        Bench bench;
+        bench.openFile(u"/site/page.html"_s, u"old"_s);
+        bench.select(WorkspaceView::Visual);
+        bench.world.designer.dirty = isDirty;
+        bench.world.designer.html = u"new"_s;
+        bench.world.designer.whole = whole;
+        bench.select(WorkspaceView::Code);
+        QTEST(bench.window.notices, "notices");
+        QCOMPARE(bench.world.editor.text(), isDirty ? u"new"_s : u"old"_s);
+    }
+
     void theLossOfAProcessIsTold()
     {
         Bench bench;

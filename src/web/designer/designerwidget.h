@@ -57,6 +57,7 @@ public:
     bool isDirty() const override;
     QString documentHtml() override;
     TextChanges documentChanges() const override { return m_written.changes; }
+    WholePage wholePage() const override { return m_written.whole; }
     bool showPlace(qsizetype position, DesignerPlace what) override;
     std::optional<qsizetype> caretPlace() override;
     void setDocumentHtml(const QString &html) override;
@@ -166,6 +167,7 @@ private:
         qint64 pageChanges = -1;
         QString text = {};
         TextChanges changes = {};
+        WholePage whole = WholePage::No;
     };
 
     PageRoundTrip m_text;

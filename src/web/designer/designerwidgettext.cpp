@@ -7,6 +7,8 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace zephira {
@@ -65,10 +67,14 @@ QString DesignerWidget::documentHtml()
 void DesignerWidget::takeWritten(const DesignerCopy &copy)
 {
     const PageRoundTrip page = m_text;
-    const std::optional<TextChanges> changes = mergedChanges(copy);
+    const bool isTooLarge = !page.isPlain() && std::max(page.source().size(), copy.text.size()) > largestMerge;
+    const std::optional<TextChanges> changes = isTooLarge ? std::nullopt : mergedChanges(copy);
     const QString text = changes ? withChanges(page.source(), *changes) : page.fromEngine(copy.text);
     const bool isStillThere = m_text.markPrefix() == page.markPrefix();
-    m_written = {isStillThere ? copy.changes : -1, text, changes ? *changes : allOf(page.source(), text)};
+    const WholePage whole = changes || page.isPlain() ? WholePage::No
+        : isTooLarge                                  ? WholePage::TooLarge
+                                                      : WholePage::NotFound;
+    m_written = {isStillThere ? copy.changes : -1, text, changes ? *changes : allOf(page.source(), text), whole};
 }
 
 /// The page as it was loaded is asked for once.
@@ -87,8 +93,7 @@ bool DesignerWidget::awaitAlignment()
 /// The changes of the source that make the copy's page, if such are found in time.
 std::optional<TextChanges> DesignerWidget::mergedChanges(const DesignerCopy &copy)
 {
-    if (m_mergePatience == 0 || m_text.isPlain() || m_text.source().size() > largestMerge
-        || copy.text.size() > largestMerge)
+    if (m_mergePatience == 0 || m_text.isPlain())
         return {};
     QElapsedTimer time;
     time.start();

@@ -243,6 +243,7 @@ void TstDesignerMerge::outOfTime()
     m_bench->designer.setMergePatience(1);
     const QString text = m_bench->designer.documentHtml();
     m_bench->designer.setMergePatience(DesignerBench::patience);
+    QCOMPARE(m_bench->designer.wholePage(), WholePage::NotFound);
     QVERIFY2(text.startsWith(u"<p>paragraph 0\r\n</p>\r\n<p>paragraph 1"), qPrintable(text.left(100)));
 }
 
@@ -275,6 +276,13 @@ void TstDesignerMerge::veryLarge()
     QVERIFY2(text.startsWith(u"<p>wordX</p>\r\n<p class=\"a\"><% x %> &eacute; text"), qPrintable(text.left(100)));
     QCOMPARE(text.count(u"<% x %> &eacute;"_s), paragraphs);
     QCOMPARE(text.count(u" text"_s), paragraphs * words);
+    QCOMPARE(m_bench->designer.wholePage(), WholePage::TooLarge);
+    // The next page is another one.
+    m_bench->load(u"<P>word"_s);
+    QCOMPARE(m_bench->designer.wholePage(), WholePage::No);
+    act(editScript(u"letter('word')"_s));
+    QCOMPARE(m_bench->designer.documentHtml(), u"<P>wordX"_s);
+    QCOMPARE(m_bench->designer.wholePage(), WholePage::No);
 }
 
 void TstDesignerMerge::afterALoss()
