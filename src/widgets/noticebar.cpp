@@ -39,6 +39,7 @@ void NoticeBar::addLine(int number, const NoticeLine &line)
     text->setObjectName(line.name);
     text->setTextFormat(Qt::PlainText);
     text->setToolTip(line.tip);
+    text->setWordWrap(true);
     // A long name is cut instead of widening the window.
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_layout->addWidget(text, number, 0);
