@@ -7,10 +7,13 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
+#include <QStyle>
 #include <QToolButton>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +26,8 @@ constexpr int mostShown = 40;
 /// How many bytes are read at a time, so that keys don't wait.
 constexpr qsizetype portion = 1'000'000;
 constexpr int margin = 2;
+/// Between two elements.
+constexpr QStringView separator = u"\u203A";
 
 std::optional<MarkupRules> rulesOf(const QString &language)
 {
@@ -138,6 +143,25 @@ void Breadcrumb::showElements(std::vector<ElementTag> elements)
     arrange();
 }
 
+int Breadcrumb::gap() const
+{
+    return fontMetrics().horizontalAdvance(separator.toString());
+}
+
+void Breadcrumb::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    bool isFirst = m_more->isHidden();
+    for (const QToolButton *crumb : m_crumbs) {
+        if (crumb->isHidden() || std::exchange(isFirst, false))
+            continue;
+        const int left = isMirrored ? crumb->geometry().right() + 1 : crumb->x() - gap();
+        painter.drawText(QRect(left, 0, gap(), height()), Qt::AlignCenter,
+                         isMirrored ? u"\u2039"_s : separator.toString());
+    }
+}
+
 /// The innermost elements stay in sight where there isn't room for all.
 void Breadcrumb::arrange()
 {
@@ -145,30 +169,34 @@ void Breadcrumb::arrange()
     int room = width() - 2 * margin - m_more->sizeHint().width();
     int first = count;
     while (first > 0) {
-        const int wanted = m_crumbs[static_cast<size_t>(first) - 1]->sizeHint().width();
+        const int wanted = m_crumbs[static_cast<size_t>(first) - 1]->sizeHint().width() + gap();
         if (wanted > room && first < count)
             break;
         room -= wanted;
         --first;
     }
     int x = margin;
+    const auto place = [this](QWidget &widget, const QRect &where) {
+        widget.setGeometry(QStyle::visualRect(layoutDirection(), rect(), where));
+    };
     m_more->setVisible(first > 0 || m_hasMore);
     if (!m_more->isHidden()) {
-        m_more->setGeometry(x, 0, m_more->sizeHint().width(), height());
-        x += m_more->width();
+        place(*m_more, {x, 0, m_more->sizeHint().width(), height()});
+        x += m_more->width() + gap();
     }
     for (int i = 0; i < static_cast<int>(m_crumbs.size()); ++i) {
         QToolButton *button = m_crumbs[static_cast<size_t>(i)];
         const bool shown = i >= first && i < count;
         if (shown) {
             const QSize wanted = button->sizeHint();
-            button->setGeometry(x, (height() - wanted.height()) / 2, wanted.width(), wanted.height());
-            x += wanted.width();
+            place(*button, {x, (height() - wanted.height()) / 2, wanted.width(), wanted.height()});
+            x += wanted.width() + gap();
         } else if (button->hasFocus()) {
             m_rt.setFocus();
         }
         button->setVisible(shown);
     }
+    update();
 }
 
 QStringList Breadcrumb::captions() const

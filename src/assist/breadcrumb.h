@@ -45,12 +45,15 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void read();
     void showElements(std::vector<ElementTag> elements);
     void arrange();
+    /// Between two elements, in pixels.
+    int gap() const;
     void select(int crumb);
     void focusBeside(const QToolButton *crumb, int step);
     QToolButton *crumbAt(int crumb);

@@ -165,6 +165,26 @@ private Q_SLOTS:
         QVERIFY(!bench.line->findChild<QWidget *>(u"breadcrumbMore"_s)->isVisible());
     }
 
+    /// The outermost is where reading begins, and the arrow keys go where they point.
+    void fromRightToLeft()
+    {
+        Line bench;
+        bench.fixture.setMarked(u"<div><p>|"_s);
+        QCOMPARE(bench.captions(), (QStringList{u"div"_s, u"p"_s}));
+        auto *outer = bench.line->findChild<QToolButton *>(u"crumb_1"_s);
+        auto *inner = bench.line->findChild<QToolButton *>(u"crumb_2"_s);
+        QVERIFY(outer->geometry().right() < inner->x());
+        bench.line->setLayoutDirection(Qt::RightToLeft);
+        bench.fixture.window.resize(bench.fixture.window.width() + 10, bench.fixture.window.height());
+        QTRY_VERIFY(inner->geometry().right() < outer->x());
+        QVERIFY(outer->geometry().right() > bench.line->width() - 20);
+        outer->setFocus();
+        QTest::keyClick(outer, Qt::Key_Left);
+        QVERIFY(inner->hasFocus());
+        QTest::keyClick(inner, Qt::Key_Right);
+        QVERIFY(outer->hasFocus());
+    }
+
     void tenThousandLevels()
     {
         Line bench;
