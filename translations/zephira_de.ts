@@ -363,8 +363,8 @@ Mehr dazu mit &apos;zephira --help&apos;.
 <context>
     <name>LivePace</name>
     <message>
-        <source>This page is very large: it is shown again when it is saved.</source>
-        <translation>Diese Seite ist sehr groß: Sie wird erst beim Speichern neu gezeigt.</translation>
+        <source>This page is very large: it is shown when it is saved or reloaded.</source>
+        <translation>Diese Seite ist sehr groß: Sie wird erst beim Speichern oder Neuladen gezeigt.</translation>
     </message>
     <message>
         <source>This page is large: it is shown again two seconds after the last change.</source>

@@ -11,7 +11,7 @@ namespace zephira {
 
 /// The colours that a page is asked for.
 enum class ColourScheme {
-    Desktop, ///< those that the engine takes from the desktop
+    Desktop, ///< those that the engine asks for by itself
     Light,
     Dark,
 };

@@ -23,7 +23,7 @@ LivePace livePace(qsizetype size)
     if (size > huge)
         return {
             {},
-            QCoreApplication::translate("LivePace", "This page is very large: it is shown again when it is saved.")};
+            QCoreApplication::translate("LivePace", "This page is very large: it is shown when it is saved or reloaded.")};
     if (size > large)
         return {2000,
                 QCoreApplication::translate(

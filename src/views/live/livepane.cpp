@@ -86,10 +86,7 @@ LivePane::LivePane(QWidget *parent) : QWidget(parent)
     connect(&m_pause, &QTimer::timeout, this, [this] { update(false); });
     connect(m_widths, &QComboBox::activated, this, &LivePane::chooseWidth);
     connect(m_width, &QSpinBox::valueChanged, this, &LivePane::fit);
-    connect(m_colours, &QComboBox::activated, this, [this](int scheme) {
-        if (m_page)
-            m_page->setColourScheme(static_cast<ColourScheme>(scheme));
-    });
+    connect(m_colours, &QComboBox::activated, this, &LivePane::setColours);
     connect(reload, &QToolButton::clicked, this, [this] { update(true); });
     connect(m_remoteBar, &RemoteBar::allowed, this, [this] {
         Q_EMIT remoteAllowed();
@@ -119,8 +116,20 @@ void LivePane::makePage()
     };
     events.remoteRefused = [this](const QStringList &hosts) { m_remoteBar->setHosts(hosts); };
     m_page->setEvents(std::move(events));
+    setColours();
     m_view->show();
     fit();
+}
+
+/// The engine itself doesn't ask the desktop, so a page would be light on a dark one.
+void LivePane::setColours()
+{
+    constexpr int middle = 128;
+    auto scheme = static_cast<ColourScheme>(m_colours->currentIndex());
+    if (scheme == ColourScheme::Desktop && palette().color(QPalette::Window).lightness() < middle)
+        scheme = ColourScheme::Dark;
+    if (m_page)
+        m_page->setColourScheme(scheme);
 }
 
 void LivePane::say(const QString &notice)
@@ -213,6 +222,13 @@ bool LivePane::event(QEvent *event)
     if (event->type() == QEvent::LayoutRequest)
         QMetaObject::invokeMethod(this, &LivePane::fit, Qt::QueuedConnection);
     return QWidget::event(event);
+}
+
+void LivePane::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        setColours();
 }
 
 void LivePane::keyPressEvent(QKeyEvent *event)

@@ -65,6 +65,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -72,6 +73,7 @@ private:
     void update(bool anew);
     void fit();
     void chooseWidth(int choice);
+    void setColours();
     void say(const QString &notice);
 
     QComboBox *m_widths = nullptr;

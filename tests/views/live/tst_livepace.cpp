@@ -20,7 +20,7 @@ private Q_SLOTS:
         QCOMPARE(livePace(500'001).notice,
                  u"This page is large: it is shown again two seconds after the last change."_s);
         QCOMPARE(livePace(20'000'000).pause, std::optional<int>());
-        QCOMPARE(livePace(20'000'000).notice, u"This page is very large: it is shown again when it is saved."_s);
+        QCOMPARE(livePace(20'000'000).notice, u"This page is very large: it is shown when it is saved or reloaded."_s);
     }
 
     void fits()

@@ -97,7 +97,7 @@ private Q_SLOTS:
         bench.pane.show();
         QTRY_COMPARE(bench.shows(), 1);
         bench.pane.textChanged();
-        QCOMPARE(bench.notice(), u"This page is very large: it is shown again when it is saved."_s);
+        QCOMPARE(bench.notice(), u"This page is very large: it is shown when it is saved or reloaded."_s);
         QTest::qWait(400);
         QCOMPARE(bench.shows(), 1);
         bench.pane.showNow();
@@ -167,12 +167,32 @@ private Q_SLOTS:
         bench.pane.show();
         QTRY_COMPARE(bench.shows(), 1);
         auto *colours = bench.pane.findChild<QComboBox *>(u"liveColors"_s);
-        Q_EMIT colours->activated(2);
+        const auto choose = [&](int scheme) {
+            colours->setCurrentIndex(scheme);
+            Q_EMIT colours->activated(scheme);
+        };
+        choose(2);
         QCOMPARE(bench.page.scheme, ColourScheme::Dark);
-        Q_EMIT colours->activated(0);
+        choose(0);
         QCOMPARE(bench.page.scheme, ColourScheme::Desktop);
         bench.pane.findChild<QToolButton *>(u"liveReload"_s)->click();
         QCOMPARE(bench.page.calls, (QStringList{u"show"_s, u"show"_s, u"reload"_s}));
+    }
+
+    void aDarkDesktop()
+    {
+        const QPalette light(Qt::lightGray);
+        const QPalette dark(QColor(49, 54, 59));
+        Bench bench;
+        bench.pane.setPalette(dark);
+        bench.pane.show();
+        QTRY_COMPARE(bench.shows(), 1);
+        QCOMPARE(bench.page.scheme, ColourScheme::Dark);
+        bench.pane.setPalette(light);
+        QCOMPARE(bench.page.scheme, ColourScheme::Desktop);
+        bench.pane.findChild<QComboBox *>(u"liveColors"_s)->setCurrentIndex(1);
+        bench.pane.setPalette(dark);
+        QCOMPARE(bench.page.scheme, ColourScheme::Light);
     }
 
     void theFence()
