@@ -42,6 +42,16 @@ void TstDesignerTyping::keys_data()
     row("a new paragraph", u"<p>ab|cd</p>"_s, {u"Enter"_s, u"x"_s}, u"<p>ab</p><p>x|cd</p>"_s);
     row("its id stays with the first", u"<p id=\"i\" class=\"c\">ab|</p>"_s, {u"Enter"_s, u"x"_s},
         u"<p id=\"i\" class=\"c\">ab</p><p class=\"c\">x|</p>"_s);
+    // What lays out the source, and isn't seen, stays.
+    row("before a line end", u"<p>ab|\n</p>\n<p>c</p>"_s, {u"x"_s, u"y"_s}, u"<p>abxy|\n</p>\n<p>c</p>"_s);
+    row("behind a line end", u"<p>\n  |ab\n</p>"_s, {u"x"_s, u"y"_s}, u"<p>\n  xy|ab\n</p>"_s);
+    row("before a line end, in bold", u"<p>a <b>b|</b>\n</p>"_s, {u"x"_s}, u"<p>a <b>bx|</b>\n</p>"_s);
+    row("a blank before a line end", u"<p>ab|\n</p>"_s, {u" "_s, u"c"_s}, u"<p>ab c|\n</p>"_s);
+    row("in a cell", u"<table><tbody><tr>\n<td>ab|\n</td>\n</tr></tbody></table>"_s, {u"x"_s},
+        u"<table><tbody><tr>\n<td>abx|\n</td>\n</tr></tbody></table>"_s);
+    row("behind a blank that is seen", u"<p>ab |<b>c</b></p>"_s, {u"x"_s}, u"<p>ab x|<b>c</b></p>"_s);
+    row("before a blank that is seen", u"<p>ab| <b>c</b></p>"_s, {u"x"_s}, u"<p>abx| <b>c</b></p>"_s);
+    row("behind a line end that is seen", u"<pre>a\n|b\n</pre>"_s, {u"x"_s}, u"<pre>a\nx|b\n</pre>"_s);
     row("a line break", u"<p>ab|cd</p>"_s, {u"Shift+Enter"_s, u"x"_s}, u"<p>ab<br>x|cd</p>"_s);
     row("a line break at the end", u"<p>ab|</p>"_s, {u"Shift+Enter"_s, u"x"_s}, u"<p>ab<br>x|</p>"_s);
     row("after a heading", u"<h1>ab|</h1>"_s, {u"Enter"_s, u"x"_s}, u"<h1>ab</h1><p>x|</p>"_s);

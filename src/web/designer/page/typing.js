@@ -3,6 +3,7 @@
 // Handles keys in paragraphs where the engine would rewrite them: when it joins paragraphs, it adds styles of its own
 // and loses comments and the order of attributes. Here the original nodes are moved.
 
+import {noteBlanks, restoreBlanks} from './blanks.js';
 import {itemNames, listNames, selectedParagraphs, wrapParagraph} from './blocks.js';
 import {history} from './history.js';
 import {markName} from './marks.js';
@@ -277,7 +278,13 @@ export const deleteNatively = range => {
         noteEmptied();
 };
 
+const beginTyping = () => {
+    deleteAcrossLines(currentRange());
+    noteBlanks();
+};
+
 export const inputActions = {
+    insertText: restoreBlanks,
     insertParagraph: nameOnce,
     deleteContentBackward: afterDeletion,
     deleteContentForward: afterDeletion,
@@ -287,7 +294,7 @@ export const inputActions = {
 
 export const beforeInputActions = {
     insertParagraph: beginParagraph,
-    insertText: () => deleteAcrossLines(currentRange()),
+    insertText: beginTyping,
     insertLineBreak: () => deleteAcrossLines(currentRange()),
     deleteContentBackward: deleteByKey,
     deleteContentForward: deleteByKey,
