@@ -51,6 +51,8 @@ private Q_SLOTS:
     void plainTextKeepsItsPlace();
     void thePreviewTakesTheLastLetterToo();
     void goToTagStaysInTheDesigner();
+    void whatIsTypedBehindGoToTag_data();
+    void whatIsTypedBehindGoToTag();
     void hugePagesKeepNothing();
 
 private:
@@ -75,6 +77,8 @@ private:
     {
         QTest::keyClick(bench.keyboardOf(u"DHTMLEdit1"_s), key, modifiers);
     }
+    /// Selects an entry of the outline.
+    static void selectLeaf(const WebBench &bench, const QString &caption);
     static bool focusDesigner(const WebBench &bench)
     {
         QWidget *keyboard = bench.keyboardOf(u"DHTMLEdit1"_s);
@@ -243,26 +247,58 @@ void TstPlaceKept::thePreviewTakesTheLastLetterToo()
     QCOMPARE(bench.window->rt().text(), QString(page).replace(u"two"_s, u"twoX"_s));
 }
 
-void TstPlaceKept::goToTagStaysInTheDesigner()
+void TstPlaceKept::selectLeaf(const WebBench &bench, const QString &caption)
 {
-    QString page = paragraphs(200).remove(u'|');
-    page.replace(u"line 150 of"_s, u"<a href=there>line</a> 150 of"_s);
-    WebBench bench(u"page.html"_s, page.toUtf8());
     const auto *sides = bench.find<QTabBar>(u"Frame1"_s);
     for (int tab = 0; tab < sides->count(); ++tab) {
         if (sides->tabData(tab).toString() == u"documenttree")
             bench.window->sidePane().click(tab);
     }
     auto *tree = bench.find<QTreeView>(u"TreeView1"_s);
-    const QModelIndexList leaves = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, u"there"_s, 1,
+    const QModelIndexList leaves = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, caption, 1,
                                                         Qt::MatchExactly | Qt::MatchRecursive);
     QCOMPARE(leaves.size(), 1);
-    QVERIFY(bench.design());
     tree->setCurrentIndex(leaves.front());
+}
+
+void TstPlaceKept::goToTagStaysInTheDesigner()
+{
+    QString page = paragraphs(200).remove(u'|');
+    page.replace(u"line 150 of"_s, u"<a href=there>line</a> 150 of"_s);
+    WebBench bench(u"page.html"_s, page.toUtf8());
+    selectLeaf(bench, u"there"_s);
+    QVERIFY(bench.design());
     bench.choose(u"goToTag"_s);
     QCOMPARE(bench.tabs().currentIndex(), 2);
     QVERIFY(waitUntil([&] { return bench.scrollOf(u"DHTMLEdit1"_s).y() > 500; }, WebBench::patience));
     QVERIFY(waitUntil([&] { return bench.keyboardOf(u"DHTMLEdit1"_s)->hasFocus(); }, WebBench::patience));
+}
+
+void TstPlaceKept::whatIsTypedBehindGoToTag_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("edited");
+    const auto row = [](const char *name, const QString &page, const QString &caption, const QString &edited) {
+        QTest::newRow(name) << page << caption << edited;
+    };
+    row("a link", u"<p>one</p>\r\n<p>a <a href=there>two</a> b</p>\r\n"_s, u"there"_s,
+        u"<p>one</p>\r\n<p>a <a href=there>XYtwo</a> b</p>\r\n"_s);
+    row("a link far below", paragraphs(200).remove(u'|').replace(u"line 150 of"_s, u"<a href=there>line</a> 150 of"_s),
+        u"there"_s, paragraphs(200).remove(u'|').replace(u"line 150 of"_s, u"<a href=there>XYline</a> 150 of"_s));
+}
+
+void TstPlaceKept::whatIsTypedBehindGoToTag()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, caption);
+    WebBench bench(u"page.html"_s, page.toUtf8());
+    selectLeaf(bench, caption);
+    QVERIFY(bench.design());
+    bench.choose(u"goToTag"_s);
+    QTest::keyClicks(bench.keyboardOf(u"DHTMLEdit1"_s), u"XY"_s);
+    QVERIFY(leave(bench));
+    QTEST(bench.window->rt().text(), "edited");
 }
 
 void TstPlaceKept::hugePagesKeepNothing()
