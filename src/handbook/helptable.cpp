@@ -14,6 +14,8 @@ constexpr QStringView mainWindow = u"frmmain";
 constexpr HelpPage windowPages[] = {
     {u"main-window", mainWindow},
     {u"code-view", mainWindow, u"rt"},
+    {u"breadcrumb", mainWindow, u"breadcrumb"},
+    {u"live-page", mainWindow, u"liveDock"},
     {u"preview", mainWindow, u"cbtop ww1"},
     {u"designer", mainWindow, u"Toolbar2 DHTMLEdit1"},
     {u"palette", mainWindow, u"toolpane"},

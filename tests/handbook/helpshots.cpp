@@ -17,6 +17,7 @@
 #include "panes/sidetabbar.h"
 #include "support/eventwait.h"
 #include "support/fakes.h"
+#include "views/live/livepane.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -185,6 +186,10 @@ private:
             return takeSelectors(page.name);
         if (part == u"rt" || part.isEmpty())
             return save(*m_bench.window, m_folder, page.name);
+        if (part == u"breadcrumb")
+            return takeBreadcrumb(page.name);
+        if (part == u"liveDock")
+            return takeLivePage(page.name);
         if (part == u"SearchPage")
             return takeSearch(page.name);
         if (part == u"ProblemsPage")
@@ -193,6 +198,34 @@ private:
             return save(*m_bench.find<QWidget>(u"paletteBar"_s), m_folder, page.name);
         selectSideTab(sideTabOf(part));
         return save(m_bench.window->sidePane(), m_folder, page.name);
+    }
+
+    /// The caret is in a cell of the table.
+    void goToCell() const { m_bench.window->rt().select({10, 20, 10, 20}); }
+
+    bool takeBreadcrumb(QStringView page)
+    {
+        auto *action = m_bench.find<QAction>(u"textBreadcrumb"_s);
+        action->trigger();
+        goToCell();
+        const bool taken = save(*m_bench.find<QWidget>(u"breadcrumb"_s)->parentWidget(), m_folder, page);
+        action->trigger();
+        return taken;
+    }
+
+    bool takeLivePage(QStringView page)
+    {
+        auto *action = m_bench.find<QAction>(u"textLivePage"_s);
+        action->trigger();
+        auto *pane = m_bench.find<LivePane>(u"livePane"_s);
+        bool shown = false;
+        QObject context;
+        QObject::connect(pane, &LivePane::shown, &context, [&shown] { shown = true; });
+        goToCell();
+        const bool taken =
+            waitUntil([&] { return shown; }, WebBench::patience) && save(*m_bench.window, m_folder, page);
+        action->trigger();
+        return taken;
     }
 
     bool takeSelectors(QStringView page)

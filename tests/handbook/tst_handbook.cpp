@@ -75,7 +75,7 @@ private Q_SLOTS:
         QVERIFY(page.contains(u"<a href=\"index.html\">Zephira Handbook</a> \u203a The window</p>"));
         QVERIFY(page.contains(u"<main>\n<h1>About code-view</h1>\n<p>It is short.</p>\n<p>More.</p>\n</main>"));
         QVERIFY(page.contains(u"<a rel=\"prev\" href=\"main-window.html\">About main-window</a>\n"
-                              "<a rel=\"next\" href=\"preview.html\">About preview</a></nav>"));
+                              "<a rel=\"next\" href=\"breadcrumb.html\">About breadcrumb</a></nav>"));
         QVERIFY(page.contains(u"<input id=\"sought\" type=\"search\""));
     }
 

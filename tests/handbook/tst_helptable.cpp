@@ -45,6 +45,10 @@ private Q_SLOTS:
         QTest::newRow("the form alone") << Windows{{u"frmTables"_s}} << u"table-wizard"_s;
         QTest::newRow("the text") << Windows{{u"rt"_s, u"views"_s, u"frmmain"_s}} << u"code-view"_s;
         QTest::newRow("inside a part") << Windows{{QString(), u"DHTMLEdit1"_s, u"frmmain"_s}} << u"designer"_s;
+        QTest::newRow("the page beside the text")
+            << Windows{{QString(), u"livePageView"_s, u"livePane"_s, u"liveDock"_s, u"frmmain"_s}} << u"live-page"_s;
+        QTest::newRow("the line below the text")
+            << Windows{{u"crumb_2"_s, u"breadcrumb"_s, u"frmmain"_s}} << u"breadcrumb"_s;
         QTest::newRow("one of several parts") << Windows{{u"c4"_s, u"sidePages"_s, u"frmmain"_s}} << u"snippets"_s;
         QTest::newRow("elsewhere in the main window") << Windows{{u"cboLang"_s, u"frmmain"_s}} << u"main-window"_s;
         QTest::newRow("a part's name in another window")
