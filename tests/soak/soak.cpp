@@ -23,6 +23,7 @@
 #include <thread>
 
 #include <execinfo.h>
+#include <pthread.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -72,15 +73,16 @@ void watchFaults()
 /// Ends the program if a step takes longer than this.
 constexpr std::chrono::minutes longestStep{2};
 
+/// It is the window's thread that ends itself then, so that the list of calls shows where it hangs.
 void watchProgress()
 {
-    std::thread([] {
+    std::thread([window = pthread_self()] {
         int seen = -1;
         for (;; std::this_thread::sleep_for(longestStep)) {
             const int now = currentStep;
             if (now == seen) {
                 std::fputs("soak: the window hangs\n", stderr);
-                std::abort();
+                pthread_kill(window, SIGABRT);
             }
             seen = now;
         }

@@ -33,12 +33,15 @@ constexpr int shortSoak = 20000;
 /// The samples that are taken together at each end.
 constexpr qsizetype samplesOfAnEnd = 5;
 
+/// Without the pages of files, such as the code of a library that is called for the first time: the system takes those
+/// back when it likes, and they can't grow without end.
 qint64 residentBytes()
 {
     QFile file(u"/proc/self/statm"_s);
     if (!file.open(QIODevice::ReadOnly))
         return 0;
-    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+    const QByteArrayList pages = file.readAll().split(' ');
+    return (pages.value(1).toLongLong() - pages.value(2).toLongLong()) * sysconf(_SC_PAGESIZE);
 }
 
 qint64 allocatedBytes()

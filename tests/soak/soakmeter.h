@@ -11,7 +11,7 @@ namespace zephira {
 /// What the process holds at a moment of rest.
 struct SoakSample {
     int step = 0;
-    /// In bytes: what the system has given, and what the program has asked for and not returned.
+    /// In bytes: what the system has given besides the pages of files, and what the program has asked for and not returned.
     qint64 resident = 0;
     qint64 allocated = 0;
     int descriptors = 0;

@@ -231,7 +231,13 @@ QString SoakUser::command()
     actions.removeIf([this](const QAction *action) { return !mayBeChosen(*action); });
     if (actions.isEmpty())
         return u"no command"_s;
-    QAction *action = actions[below(static_cast<int>(actions.size()))];
+    // New ones first. What a command makes when it is first used, such as its form, isn't growth, and has to be there before
+    // the growth is measured.
+    QList<QAction *> unused = actions;
+    unused.removeIf([this](const QAction *action) { return m_chosen.contains(action->objectName()); });
+    const QList<QAction *> &choice = unused.isEmpty() ? actions : unused;
+    QAction *action = choice[below(static_cast<int>(choice.size()))];
+    m_chosen.insert(action->objectName());
     QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
     return u"command "_s + action->objectName();
 }

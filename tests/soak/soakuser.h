@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
+#include <QSet>
 #include <QStringList>
 #include <QTimer>
 
@@ -82,6 +83,8 @@ private:
     std::mt19937 m_random;
     QTimer m_timer;
     int m_step = 0;
+    /// The names of the commands that have been chosen.
+    QSet<QString> m_chosen;
     /// The time of the next event in milliseconds, which tells single clicks from double ones.
     int m_time = 1;
     QPointer<QWidget> m_dialog;
