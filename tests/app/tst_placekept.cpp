@@ -283,9 +283,9 @@ void TstPlaceKept::whatIsTypedBehindGoToTag_data()
         QTest::newRow(name) << page << caption << edited;
     };
     row("a link", u"<p>one</p>\r\n<p>a <a href=there>two</a> b</p>\r\n"_s, u"there"_s,
-        u"<p>one</p>\r\n<p>a <a href=there>XYtwo</a> b</p>\r\n"_s);
+        u"<p>one</p>\r\n<p>a XY<a href=there>two</a> b</p>\r\n"_s);
     row("a link far below", paragraphs(200).remove(u'|').replace(u"line 150 of"_s, u"<a href=there>line</a> 150 of"_s),
-        u"there"_s, paragraphs(200).remove(u'|').replace(u"line 150 of"_s, u"<a href=there>XYline</a> 150 of"_s));
+        u"there"_s, paragraphs(200).remove(u'|').replace(u"line 150 of"_s, u"XY<a href=there>line</a> 150 of"_s));
 }
 
 void TstPlaceKept::whatIsTypedBehindGoToTag()

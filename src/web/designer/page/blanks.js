@@ -8,11 +8,14 @@ import {currentRange} from './selection.js';
 
 const isCollapsing = node => ['normal', 'nowrap'].includes(getComputedStyle(elementOf(node)).whiteSpace);
 
+// In CSS pixels. Positions are rounded to 1/64, so that a blank without a width may seem to have one.
+const leastWidth = 0.05;
+
 const isInvisible = (node, from, to) => {
     const range = new Range();
     range.setStart(node, from);
     range.setEnd(node, to);
-    return [...range.getClientRects()].every(box => box.width === 0);
+    return [...range.getClientRects()].every(box => box.width < leastWidth);
 };
 
 // The texts at a position and on both sides of it, within its block.
@@ -33,6 +36,14 @@ const textsAround = (node, offset) => {
     return found;
 };
 
+// Removes the blank that parted two words before a paragraph was split between them.
+export const trimSplit = block => {
+    const text = createTreeWalker(block, NodeFilter.SHOW_TEXT).nextNode();
+    const blank = text && isCollapsing(text) ? /^[ \t]+(?=\S)/.exec(text.data)?.[0] : null;
+    if (blank && isInvisible(text, 0, blank.length))
+        text.deleteData(0, blank.length);
+};
+
 let kept = [];
 
 // To be called before the engine types something.
@@ -47,24 +58,44 @@ export const noteBlanks = () => {
         if ((head === '' && tail === '') || !isCollapsing(node))
             continue;
         kept.push({
-            node, head: head !== '' && isInvisible(node, 0, head.length) ? head : '',
-            tail: tail !== '' && isInvisible(node, node.length - tail.length, node.length) ? tail : '',
-            isBlank: isBlankText(node), parent: node.parentNode, next: node.nextSibling,
+            node, isBlank: isBlankText(node), parent: node.parentNode, next: node.nextSibling,
+            head, isHeadSeen: !isInvisible(node, 0, head.length),
+            tail, isTailSeen: !isInvisible(node, node.length - tail.length, node.length),
         });
     }
 };
 
-// To be called when it has done so.
-export const restoreBlanks = () => {
-    for (const {node, head, tail, isBlank, parent, next} of kept) {
-        if (node.isConnected) {
-            if (!node.data.endsWith(tail))
+const noBreakSpace = '\u00a0';
+const isSeenAs = (text, blanks) => text.replaceAll(noBreakSpace, ' ') === blanks.replaceAll(/[\t\r\n\f]/g, ' ');
+
+// A blank that is seen may have become a no-break space. Where a blank was typed, the engine needs that.
+const restoreSeen = (node, from, blanks) => {
+    if (from >= 0 && isSeenAs(node.substringData(from, blanks.length), blanks))
+        node.replaceData(from, blanks.length, blanks);
+};
+
+// To be called when it has done so; typed is the text.
+export const restoreBlanks = (changes, {data: typed}) => {
+    const isBlankTyped = typed === null || /^\s*$/.test(typed);
+    for (const {node, isBlank, parent, next, head, isHeadSeen, tail, isTailSeen} of kept) {
+        if (!node.isConnected) {
+            if (isBlank && !isHeadSeen && parent.isConnected && (next === null || next.parentNode === parent)) {
+                node.data = head;
+                parent.insertBefore(node, next);
+            }
+            continue;
+        }
+        if (!node.data.endsWith(tail)) {
+            if (!isTailSeen)
                 node.appendData(tail);
-            if (!node.data.startsWith(head))
+            else if (!isBlankTyped)
+                restoreSeen(node, node.length - tail.length, tail);
+        }
+        if (!node.data.startsWith(head)) {
+            if (!isHeadSeen)
                 node.insertData(0, head);
-        } else if (isBlank && head !== '' && parent.isConnected && (next === null || next.parentNode === parent)) {
-            node.data = head;
-            parent.insertBefore(node, next);
+            else if (!isBlankTyped)
+                restoreSeen(node, 0, head);
         }
     }
     kept = [];

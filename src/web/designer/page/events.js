@@ -158,7 +158,7 @@ const onBeforeInput = event => {
 };
 
 const onInput = event => {
-    inputActions[event.inputType]?.(history.openChanges().slice(changesBefore));
+    inputActions[event.inputType]?.(history.openChanges().slice(changesBefore), event);
     reportState();
 };
 

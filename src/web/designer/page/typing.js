@@ -3,7 +3,7 @@
 // Handles keys in paragraphs where the engine would rewrite them: when it joins paragraphs, it adds styles of its own
 // and loses comments and the order of attributes. Here the original nodes are moved.
 
-import {noteBlanks, restoreBlanks} from './blanks.js';
+import {noteBlanks, restoreBlanks, trimSplit} from './blanks.js';
 import {itemNames, listNames, selectedParagraphs, wrapParagraph} from './blocks.js';
 import {history} from './history.js';
 import {markName} from './marks.js';
@@ -235,10 +235,11 @@ const beginParagraph = event => {
 };
 
 // The engine copies ids to both halves of a paragraph; only the first one keeps them.
-const nameOnce = () => {
+const afterSplit = () => {
     const block = closestBlock(getSelection().anchorNode);
     if (!block || block === bodyElement())
         return;
+    trimSplit(block);
     for (const element of [block, ...block.querySelectorAll('[id]')]) {
         if (element.id !== '' && rootElement().querySelector(`#${CSS.escape(element.id)}`) !== element)
             dropAttribute(element, 'id');
@@ -285,7 +286,7 @@ const beginTyping = () => {
 
 export const inputActions = {
     insertText: restoreBlanks,
-    insertParagraph: nameOnce,
+    insertParagraph: afterSplit,
     deleteContentBackward: afterDeletion,
     deleteContentForward: afterDeletion,
     deleteWordBackward: afterDeletion,
