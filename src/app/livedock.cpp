@@ -96,8 +96,7 @@ void LiveDock::make()
     m_pane->leave = [this] { m_parts.rt.setFocus(); };
     connect(m_pane, &LivePane::shown, this, [this] {
         showCaret(false);
-        if (!m_files.contains(m_parts.context.document.commonDialogFile()))
-            watch(m_sheets);
+        watchDocument();
     });
     connect(m_pane, &LivePane::clicked, this, &LiveDock::takeClick);
     connect(m_pane, &LivePane::scrolled, this, &LiveDock::takeScroll);
@@ -116,8 +115,10 @@ void LiveDock::connectText()
 {
     CodeMax &rt = m_parts.rt;
     connect(&rt, &CodeMax::Change, this, [this] {
-        if (m_isOpen)
-            m_pane->textChanged();
+        if (!m_isOpen)
+            return;
+        m_pane->textChanged();
+        watchDocument();
     });
     connect(&rt, &CodeMax::SelChange, this, [this] {
         if (m_isOpen)
@@ -160,6 +161,7 @@ void LiveDock::visibilityChanged()
         // Nothing was heard meanwhile.
         m_elements = OpenElements();
         m_pane->textChanged();
+        watchDocument();
     }
 }
 
@@ -278,6 +280,14 @@ void LiveDock::watch(const QStringList &sheets)
         m_watcher->removePaths(before);
     if (!paths.isEmpty())
         m_watcher->addPaths(paths);
+}
+
+/// A very large page is shown only when it is saved, so it is watched before it has ever been shown.
+void LiveDock::watchDocument()
+{
+    const QString file = m_parts.context.document.commonDialogFile();
+    if (!file.isEmpty() && !m_files.contains(file))
+        watch(m_sheets);
 }
 
 void LiveDock::lookForSaved()

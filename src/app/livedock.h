@@ -59,6 +59,7 @@ private:
     void takeClick(qsizetype place, bool isUsed);
     void takeScroll(qsizetype place, bool isAtEnd);
     void watch(const QStringList &sheets);
+    void watchDocument();
     void lookForSaved();
     bool isCurrent() const;
     qsizetype unitsBefore(qsizetype position) const;
