@@ -28,6 +28,8 @@ private Q_SLOTS:
         bench.choose(u"textCommandPalette"_s);
         bench.choose(u"textFindInProject"_s);
         bench.choose(u"textListProblems"_s);
+        bench.choose(u"textBreadcrumb"_s);
+        bench.choose(u"textLivePage"_s);
         int parts = 0;
         for (const HelpChapter &chapter : helpChapters()) {
             for (const HelpPage &page : chapter.pages) {
