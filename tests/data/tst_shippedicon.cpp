@@ -10,7 +10,7 @@ namespace {
 template<typename Number>
 Number numberAt(const QByteArray &bytes, qsizetype offset)
 {
-    return qFromLittleEndian<Number>(bytes.constData() + offset);
+    return qFromLittleEndian<Number>(bytes.sliced(offset, sizeof(Number)).constData());
 }
 
 } // namespace
