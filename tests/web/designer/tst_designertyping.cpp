@@ -52,6 +52,13 @@ void TstDesignerTyping::keys_data()
     row("behind a blank that is seen", u"<p>ab |<b>c</b></p>"_s, {u"x"_s}, u"<p>ab x|<b>c</b></p>"_s);
     row("before a blank that is seen", u"<p>ab| <b>c</b></p>"_s, {u"x"_s}, u"<p>abx| <b>c</b></p>"_s);
     row("behind a line end that is seen", u"<pre>a\n|b\n</pre>"_s, {u"x"_s}, u"<pre>a\nx|b\n</pre>"_s);
+    row("a letter deleted before a line end", u"<p>abc|\n</p>\n<p>d</p>"_s, {u"Backspace"_s},
+        u"<p>ab|\n</p>\n<p>d</p>"_s);
+    row("a letter deleted behind a line end", u"<p>\n  |abc\n</p>"_s, {u"Delete"_s}, u"<p>\n  |bc\n</p>"_s);
+    row("a letter deleted before a blank", u"<p>ab| <b>c</b></p>"_s, {u"Backspace"_s}, u"<p>a| <b>c</b></p>"_s);
+    row("a word deleted before a line end", u"<p>a [word]\n</p>"_s, {u"Backspace"_s}, u"<p>a&nbsp;|\n</p>"_s);
+    row("a selection before a line end", u"<p>a[bc]\n</p>"_s, {u"Delete"_s}, u"<p>a|\n</p>"_s);
+    row("a selection replaced before a line end", u"<p>a[bc]\n</p>"_s, {u"x"_s}, u"<p>ax|\n</p>"_s);
     row("a line break", u"<p>ab|cd</p>"_s, {u"Shift+Enter"_s, u"x"_s}, u"<p>ab<br>x|cd</p>"_s);
     row("a line break at the end", u"<p>ab|</p>"_s, {u"Shift+Enter"_s, u"x"_s}, u"<p>ab<br>x|</p>"_s);
     row("after a heading", u"<h1>ab|</h1>"_s, {u"Enter"_s, u"x"_s}, u"<h1>ab</h1><p>x|</p>"_s);

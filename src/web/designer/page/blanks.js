@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Keeps the blanks that lay out the source but aren't seen in the page, such as the line end before an end tag: the engine
-// removes those beside the caret when something is typed.
+// removes those beside the caret when something is typed or deleted.
 
 import {bodyElement, closestBlock, createTreeWalker, elementOf, isBlankText, isText} from './nodes.js';
-import {currentRange} from './selection.js';
+import {currentRange, placeCaret} from './selection.js';
 
 const isCollapsing = node => ['normal', 'nowrap'].includes(getComputedStyle(elementOf(node)).whiteSpace);
 
@@ -44,20 +44,20 @@ export const trimSplit = block => {
         text.deleteData(0, blank.length);
 };
 
-let kept = [];
+let noted = [];
 
-// To be called before the engine types something.
+// To be called before the engine types or deletes something.
 export const noteBlanks = () => {
-    kept = [];
     const range = currentRange();
-    if (!range.collapsed)
-        return;
-    for (const node of textsAround(range.startContainer, range.startOffset)) {
+    const texts = new Set([...textsAround(range.startContainer, range.startOffset),
+        ...textsAround(range.endContainer, range.endOffset)]);
+    noted = [];
+    for (const node of texts) {
         const head = /^[ \t\r\n\f]*/.exec(node.data)[0];
         const tail = isBlankText(node) ? '' : /[ \t\r\n\f]*$/.exec(node.data)[0];
         if ((head === '' && tail === '') || !isCollapsing(node))
             continue;
-        kept.push({
+        noted.push({
             node, isBlank: isBlankText(node), parent: node.parentNode, next: node.nextSibling,
             head, isHeadSeen: !isInvisible(node, 0, head.length),
             tail, isTailSeen: !isInvisible(node, node.length - tail.length, node.length),
@@ -65,38 +65,61 @@ export const noteBlanks = () => {
     }
 };
 
+// Puts blanks in, unless they would be seen there. A caret at the beginning of the text stays beside what is seen.
+const putUnseen = (node, place, blanks) => {
+    node.insertData(place, blanks);
+    if (!isInvisible(node, place, place + blanks.length)) {
+        node.deleteData(place, blanks.length);
+        return;
+    }
+    const {isCollapsed, anchorNode, anchorOffset} = getSelection();
+    if (place === 0 && isCollapsed && anchorNode === node && anchorOffset === 0)
+        placeCaret(node, blanks.length);
+};
+
 const noBreakSpace = '\u00a0';
 const isSeenAs = (text, blanks) => text.replaceAll(noBreakSpace, ' ') === blanks.replaceAll(/[\t\r\n\f]/g, ' ');
 
-// A blank that is seen may have become a no-break space. Where a blank was typed, the engine needs that.
-const restoreSeen = (node, from, blanks) => {
-    if (from >= 0 && isSeenAs(node.substringData(from, blanks.length), blanks))
-        node.replaceData(from, blanks.length, blanks);
+// A blank that is seen may have become a no-break space. Beside another blank, the engine needs that.
+const restoreSeen = (node, place, blanks, beside) => {
+    if (/\S/.test(beside) && isSeenAs(node.substringData(place, blanks.length), blanks))
+        node.replaceData(place, blanks.length, blanks);
 };
 
-// To be called when it has done so; typed is the text.
-export const restoreBlanks = (changes, {data: typed}) => {
-    const isBlankTyped = typed === null || /^\s*$/.test(typed);
-    for (const {node, isBlank, parent, next, head, isHeadSeen, tail, isTailSeen} of kept) {
-        if (!node.isConnected) {
-            if (isBlank && !isHeadSeen && parent.isConnected && (next === null || next.parentNode === parent)) {
-                node.data = head;
-                parent.insertBefore(node, next);
-            }
-            continue;
-        }
-        if (!node.data.endsWith(tail)) {
-            if (!isTailSeen)
-                node.appendData(tail);
-            else if (!isBlankTyped)
-                restoreSeen(node, node.length - tail.length, tail);
-        }
-        if (!node.data.startsWith(head)) {
-            if (!isHeadSeen)
-                node.insertData(0, head);
-            else if (!isBlankTyped)
-                restoreSeen(node, 0, head);
+const restoreTail = ({node, tail, isTailSeen}) => {
+    const place = node.length - tail.length;
+    if (node.data.endsWith(tail))
+        return;
+    if (!isTailSeen)
+        putUnseen(node, node.length, tail);
+    else if (place > 0)
+        restoreSeen(node, place, tail, node.data[place - 1]);
+};
+
+const restoreHead = ({node, head, isHeadSeen}) => {
+    if (node.data.startsWith(head))
+        return;
+    if (!isHeadSeen)
+        putUnseen(node, 0, head);
+    else if (node.length > head.length)
+        restoreSeen(node, 0, head, node.data[head.length]);
+};
+
+// To be called when it has done so.
+export const restoreBlanks = () => {
+    for (const blanks of noted) {
+        const {node, isBlank, parent, next, head, isHeadSeen} = blanks;
+        if (node.isConnected && (isBlank || !isBlankText(node))) {
+            restoreTail(blanks);
+            restoreHead(blanks);
+        } else if (!node.isConnected && isBlank && !isHeadSeen && parent.isConnected
+            && (next === null || next.parentNode === parent)) {
+            node.data = '';
+            parent.insertBefore(node, next);
+            putUnseen(node, 0, head);
+            if (node.length === 0)
+                node.remove();
         }
     }
-    kept = [];
+    noted = [];
 };

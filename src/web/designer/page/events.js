@@ -158,7 +158,7 @@ const onBeforeInput = event => {
 };
 
 const onInput = event => {
-    inputActions[event.inputType]?.(history.openChanges().slice(changesBefore), event);
+    inputActions[event.inputType]?.(history.openChanges().slice(changesBefore));
     reportState();
 };
 

@@ -193,8 +193,10 @@ const deleteByKey = event => {
     isEmptying = isWholeParagraph(range);
     const action = range.collapsed ? joinAtCaret(range.startContainer, range.startOffset, event.inputType.endsWith('Backward'))
         : linesAcross(range) && (() => deleteAcrossLines(range));
-    if (!action)
+    if (!action) {
+        noteBlanks();
         return;
+    }
     event.preventDefault();
     history.run(action);
     reportState();
@@ -267,6 +269,7 @@ const dropJoinStyles = changes => {
 
 const afterDeletion = changes => {
     dropJoinStyles(changes);
+    restoreBlanks();
     if (isEmptying)
         noteEmptied();
 };
@@ -274,6 +277,7 @@ const afterDeletion = changes => {
 // Deletes a selection within a paragraph, or the character behind the caret.
 export const deleteNatively = range => {
     const isWhole = isWholeParagraph(range);
+    noteBlanks();
     nativeCommand(range.collapsed ? 'forwardDelete' : 'delete', false, null);
     if (isWhole)
         noteEmptied();
