@@ -24,6 +24,8 @@ namespace {
 
 /// The characters for which a page gets one more millisecond to answer.
 constexpr qsizetype charactersInMillisecond = 300;
+/// How much longer the first page may take, in milliseconds: the engine starts a process for it.
+constexpr int processStart = 7000;
 /// The interval at which is asked whether a page has been read, in case its report got lost; in milliseconds.
 constexpr int lookInterval = 250;
 
@@ -72,8 +74,9 @@ LivePageWidget::LivePageWidget(const FileStore &files, QWidget *parent)
 
 LivePageWidget::~LivePageWidget()
 {
-    // A page that is being destroyed must not send any more signals.
+    // A page that is being destroyed must not send any more signals, and it answers what it was asked with nothing.
     m_page->disconnect(this);
+    ++m_load;
 }
 
 void LivePageWidget::show(const QString &html, const QString &file)
@@ -120,12 +123,13 @@ void LivePageWidget::load(const QVariant &kept)
     m_mark = freshMarkPrefix(m_text.html);
     LiveText text = liveText(m_text.html, m_mark);
     m_marked = text.marked;
+    const bool isFirst = m_state == State::Empty;
     m_state = State::Loading;
     m_messages->silence();
     ++m_load;
     m_sheetsTold = 0;
     const QUrl base = baseOf(m_text.file);
-    wait();
+    wait(isFirst ? processStart : 0);
     if (text.shown.toUtf8().size() <= BrowserPage::mostGivenBytes) {
         m_unwritten.clear();
         m_page->openLive(text.shown, base, m_load, m_colours);
@@ -235,9 +239,9 @@ void LivePageWidget::takeSheets(const QVariantMap &told)
         m_events.sheetsChanged(m_sheets);
 }
 
-void LivePageWidget::wait()
+void LivePageWidget::wait(int more)
 {
-    m_hanging.start(m_patience + static_cast<int>(m_text.html.size() / charactersInMillisecond));
+    m_hanging.start(m_patience + more + static_cast<int>(m_text.html.size() / charactersInMillisecond));
 }
 
 void LivePageWidget::endHanging()

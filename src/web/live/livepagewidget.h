@@ -45,7 +45,8 @@ public:
     QWebEngineView &view() { return *m_view; }
     /// How many times a page was loaded.
     int loads() const { return m_load; }
-    /// How long a page may take to answer before it counts as hanging, in milliseconds, apart from its size.
+    /// How long a page may take to answer before it counts as hanging, in milliseconds, apart from its size and
+    /// the start of its process.
     void setPatience(int patience) { m_patience = patience; }
 
 private:
@@ -68,7 +69,7 @@ private:
     void ready();
     void settle(const QVariantMap &answer);
     void takeSheets(const QVariantMap &told);
-    void wait();
+    void wait(int more = 0);
     void endHanging();
     void takeLoss();
     bool isShown() const { return m_state == State::Shown || m_state == State::Changing; }

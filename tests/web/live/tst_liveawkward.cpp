@@ -16,7 +16,12 @@ class TstLiveAwkward final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_bench = std::make_unique<LiveBench>(); }
+    void init()
+    {
+        m_bench = std::make_unique<LiveBench>();
+        // Some of these pages take seconds, and more on a busy machine.
+        m_bench->live.setPatience(LiveBench::patience);
+    }
     void cleanup() { m_bench.reset(); }
 
     /// "|" is what is typed; the page is then the one that a new load would show.

@@ -15,6 +15,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 using namespace zephira;
 
@@ -164,6 +166,23 @@ private Q_SLOTS:
         QTRY_COMPARE(colours(), u"rgb(1, 2, 3)rgb(7, 8, 10)true"_s);
         QVERIFY(set(ColourScheme::Light));
         QTRY_COMPARE(colours(), u"rgb(0, 0, 0)rgb(4, 5, 6)false"_s);
+    }
+
+    /// A page that ends before it has answered tells nobody any more.
+    void destroyedBeforeItAnswers()
+    {
+        const auto told = std::make_shared<int>(0);
+        LivePageEvents events;
+        events.shown = [told] { ++*told; };
+        m_bench->live.setEvents(std::move(events));
+        m_bench->live.setPatience(LiveBench::patience);
+        m_bench->live.show(
+            u"<title>t</title><script>addEventListener('load', () => setTimeout(() => { for (;;); }))</script>"_s,
+            m_bench->file);
+        QVERIFY(waitUntil([&] { return m_bench->live.view().title() == u"t"_s; }, LiveBench::patience));
+        waitUntil([] { return false; }, 500);
+        m_bench.reset();
+        QCOMPARE(*told, 0);
     }
 
     void aSavedSheetIsFollowed()
