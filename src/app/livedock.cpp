@@ -96,6 +96,9 @@ void LiveDock::make()
     m_pane->leave = [this] { m_parts.rt.setFocus(); };
     connect(m_pane, &LivePane::shown, this, [this] {
         showCaret(false);
+        // It may have been scrolled to before the page could follow.
+        if (std::exchange(m_isScrolled, false))
+            followText();
         watchDocument();
     });
     connect(m_pane, &LivePane::clicked, this, &LiveDock::takeClick);
@@ -129,7 +132,10 @@ void LiveDock::connectText()
             m_elements.changedFrom(position);
     });
     connect(rt.verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
-        if (m_isOpen && value != std::exchange(m_followed, -1) && !m_scrollSoon.isActive())
+        if (!m_isOpen || value == std::exchange(m_followed, -1))
+            return;
+        m_isScrolled = true;
+        if (!m_scrollSoon.isActive())
             m_scrollSoon.start();
     });
     connect(&m_caretSoon, &QTimer::timeout, this, [this] { showCaret(true); });
@@ -250,6 +256,7 @@ void LiveDock::takeScroll(qsizetype place, bool isAtEnd)
     if (value == bar->value())
         return;
     m_followed = value;
+    m_isScrolled = false;
     bar->setValue(value);
 }
 

@@ -81,6 +81,8 @@ private:
     quint64 m_shownVersion = 0;
     /// Where the text was scrolled to because the page was.
     int m_followed = -1;
+    /// Whether the text was scrolled since the page was last shown.
+    bool m_isScrolled = false;
     bool m_isOpen = false;
 };
 
