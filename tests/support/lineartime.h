@@ -4,9 +4,11 @@
 #include <QString>
 
 #include <algorithm>
+#include <chrono>
 #include <ctime>
 #include <functional>
 #include <limits>
+#include <thread>
 
 #include <malloc.h>
 
@@ -31,12 +33,15 @@ inline double timesForTenTimes(const std::function<QString(qsizetype count)> &ma
     };
     const QString small = makeText(count);
     const QString large = makeText(10 * count);
-    // Other programs take turns with the processor's caches. Another attempt helps against them, and never helps what
-    // takes the square of the time.
-    constexpr int attempts = 4;
+    // Other programs take turns with the processor's caches. Another attempt, a moment later, helps against them, and
+    // never helps what takes the square of the time.
+    constexpr int attempts = 12;
+    constexpr std::chrono::milliseconds pause(100);
     constexpr int rounds = 7;
     double times = std::numeric_limits<double>::max();
     for (int attempt = 0; attempt < attempts && times > 12; ++attempt) {
+        if (attempt > 0)
+            std::this_thread::sleep_for(pause);
         double least = std::numeric_limits<double>::max();
         double most = std::numeric_limits<double>::max();
         for (int round = 0; round < rounds; ++round) {

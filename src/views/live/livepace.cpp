@@ -21,9 +21,9 @@ constexpr double smallestZoom = 0.25;
 LivePace livePace(qsizetype size)
 {
     if (size > huge)
-        return {
-            {},
-            QCoreApplication::translate("LivePace", "This page is very large: it is shown when it is saved or reloaded.")};
+        return {{},
+                QCoreApplication::translate("LivePace",
+                                            "This page is very large: it is shown when it is saved or reloaded.")};
     if (size > large)
         return {2000,
                 QCoreApplication::translate(
