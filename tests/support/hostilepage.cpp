@@ -2,6 +2,7 @@
 #include "support/hostilepage.h"
 
 #include "support/diskfiles.h"
+#include "support/peerways.h"
 
 #include <QUrl>
 
@@ -12,7 +13,7 @@ namespace {
 /// A page that reaches for a server and for files beyond its folder in every way that pages have. Whatever it gets to read
 /// of them it adds to `window.got`; `window.tried` is true when all has been tried. Each way asks the server for a path of
 /// its own below `server`, an address that ends in a slash; `outside` is the address of a folder with the files "own.js",
-/// "own.css", "own.html", "own.svg" and "own.txt", whose contents have the word "secret".
+/// "own.css", "own.html", "own.svg" and "own.txt", whose contents have the word "secret". It goes all peerWays(), too.
 QByteArray hostilePage(QByteArray server, QByteArray outside)
 {
     static constexpr char page[] = R"page(<!DOCTYPE html><html><head><title>t</title>
@@ -43,7 +44,7 @@ b { cursor: url(SERVERcursor.cur), auto; border-image: url(SERVERborder.png) 1; 
 <a id=n target=_blank href='SERVERblank'>n</a><a id=t target=target href='OUTSIDEown.html'>t</a>
 <script src='SERVERscript.js'></script><script src='OUTSIDEown.js'></script><script src='out/own.js'></script>
 <script type=module>import 'SERVERimport.js'</script>
-<script>
+PEERS<script>
 window.got = '';
 const take = (way, text) => { if (String(text).includes('secret')) window.got += way + ' '; };
 const attempt = action => { try { const done = action(); if (done && done.catch) done.catch(() => {}); } catch (e) {} };
@@ -66,22 +67,6 @@ attempt(() => new Worker(URL.createObjectURL(new Blob(
   ["try { importScripts('SERVERblobworker.js') } catch (e) {} fetch('SERVERblobfetch', {mode: 'no-cors'})"]))));
 attempt(() => new SharedWorker(URL.createObjectURL(new Blob(["fetch('SERVERblobshared', {mode: 'no-cors'}); "
   + "new WebSocket('SERVERsharedsocket'.replace('http', 'ws'))"]))));
-const host = new URL('SERVER').host;
-const speak = Peer => {
-  const c = new Peer({ iceServers: [{ urls: 'stun:' + host },
-    { urls: 'turn:' + host + '?transport=tcp', username: 'u', credential: 'c' }] });
-  c.createDataChannel('d');
-  return c.createOffer().then(offer => c.setLocalDescription(offer));
-};
-attempt(() => speak(RTCPeerConnection));
-attempt(() => speak(webkitRTCPeerConnection));
-attempt(() => { const f = document.createElement('iframe');
-  f.src = 'inner.html';
-  f.onload = () => attempt(() => speak(f.contentWindow.RTCPeerConnection));
-  document.body.append(f); });
-attempt(() => { const f = document.createElement('iframe');
-  f.srcdoc = '<script>const host = ' + JSON.stringify(host) + '; (' + speak + ')(RTCPeerConnection)</' + 'script>';
-  document.body.append(f); });
 const transport = "new WebTransport('SERVERtransport'.replace('http:', 'https:')).ready.catch(() => {})";
 attempt(() => new Function(transport)());
 attempt(() => new Worker(URL.createObjectURL(new Blob([transport]))));
@@ -118,7 +103,11 @@ setTimeout(() => {
   setTimeout(() => window.tried = true, 150 * ways.length + 500);
 }, 2000);
 </script></body></html>)page";
-    return QByteArray(page).replace("SERVER", server).replace("OUTSIDE", outside);
+    const QByteArray host = QUrl(QString::fromUtf8(server)).authority().toUtf8();
+    return QByteArray(page)
+        .replace("PEERS", peerMarkup(peerWays(), host))
+        .replace("SERVER", server)
+        .replace("OUTSIDE", outside);
 }
 
 } // namespace

@@ -53,6 +53,7 @@ HttpServer::HttpServer()
             QObject::connect(datagrams, &QUdpSocket::readyRead, datagrams, [this, datagrams] {
                 while (datagrams->hasPendingDatagrams()) {
                     datagrams->readDatagram(nullptr, 0);
+                    ++m_datagrams;
                     ++m_connections;
                 }
             });

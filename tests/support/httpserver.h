@@ -33,6 +33,8 @@ public:
     quint16 port() const { return m_port; }
     /// How many connections have come, be it without a request, and how many datagrams on the same port.
     int connections() const { return m_connections; }
+    /// How many datagrams among them.
+    int datagrams() const { return m_datagrams; }
     /// The requested paths, in order.
     QStringList requests() const;
 
@@ -45,6 +47,7 @@ private:
     QString m_folder;
     QStringList m_requests;
     std::atomic<int> m_connections = 0;
+    std::atomic<int> m_datagrams = 0;
     QThread m_thread;
     quint16 m_port = 0;
 };

@@ -438,6 +438,7 @@ private Q_SLOTS:
         QVERIFY(bench.show(page));
         QVERIFY(bench.comesTo(u"String(window.tried)"_s, u"true"_s));
         QCOMPARE(bench.ask(u"window.got"_s), QString());
+        QCOMPARE(bench.ask(u"String(window.spoken)"_s), QString());
         QCOMPARE(server.requests(), QStringList());
         QCOMPARE(server.connections(), 0);
         QCOMPARE(filesBelow(bench.folder.path()), files);

@@ -311,6 +311,7 @@ private Q_SLOTS:
         QVERIFY(m_bench->show(QString::fromUtf8(contentOf(m_bench->file))));
         QTRY_COMPARE_WITH_TIMEOUT(m_bench->ask(u"String(window.tried)"_s), u"true"_s, LiveBench::patience);
         QCOMPARE(m_bench->ask(u"window.got"_s), QString());
+        QCOMPARE(m_bench->ask(u"String(window.spoken)"_s), QString());
         QCOMPARE(server.requests(), QStringList());
         QCOMPARE(server.connections(), 0);
         // Allowed to go out, the page does so in many ways, but reads nothing more.
