@@ -4,6 +4,7 @@
 #include "core/filestore.h"
 #include "core/languages.h"
 #include "files/textfile.h"
+#include "web/enginefeatures.h"
 #include "widgets/inputwatch.h"
 #include "widgets/scriptmessagebar.h"
 
@@ -32,14 +33,6 @@ constexpr QWebEngineSettings::WebAttribute closedToPages[] = {
     QWebEngineSettings::ScreenCaptureEnabled,
 };
 
-const QString closingName = u"unseen ways"_s;
-
-/// The fence doesn't see what peers are sent. Pages that come over the network keep them. A frame that a script has just
-/// made still has them in its first, empty document, where the engine runs nothing of ours before the page's script goes on.
-constexpr QStringView closingScript =
-    u"if (!/^https?:$/.test(location.protocol)) for (const way of ['RTCPeerConnection', 'webkitRTCPeerConnection']) "
-    "delete window[way];";
-
 } // namespace
 
 BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QObject *parent)
@@ -53,7 +46,7 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
     settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 
-    closeUnseenWays();
+    hideClosedFeatures();
 
     // Queued, because the engine waits for the answer.
     connect(&m_fence, &LocalFileFence::remoteRefused, this, &BrowserPage::refuse, Qt::QueuedConnection);
@@ -77,25 +70,14 @@ BrowserPage::BrowserPage(const FileStore &files, QWebEngineProfile &profile, QOb
             [](QWebEngineDownloadRequest *download) { download->cancel(); });
 }
 
-void BrowserPage::setRemoteAllowed(bool allowed)
+void BrowserPage::hideClosedFeatures()
 {
-    m_fence.setRemoteAllowed(allowed);
-    closeUnseenWays();
-}
-
-void BrowserPage::closeUnseenWays()
-{
-    const QList<QWebEngineScript> before = scripts().find(closingName);
-    for (const QWebEngineScript &script : before)
-        scripts().remove(script);
-    if (m_fence.isRemoteAllowed())
-        return;
     QWebEngineScript script;
-    script.setName(closingName);
+    script.setName(u"closed features"_s);
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setWorldId(QWebEngineScript::MainWorld);
     script.setRunsOnSubFrames(true);
-    script.setSourceCode(closingScript.toString());
+    script.setSourceCode(closedFeaturesScript());
     scripts().insert(script);
 }
 

@@ -33,7 +33,7 @@ public:
     /// Pages inside this folder may load files from anywhere in it.
     void setProjectFolder(const QString &folder) { m_fence.files().setProjectFolder(folder); }
     /// Whether pages of this machine may load from others; it counts from the next load on.
-    void setRemoteAllowed(bool allowed);
+    void setRemoteAllowed(bool allowed) { m_fence.setRemoteAllowed(allowed); }
 
     /// Opens an address on behalf of the user. If the current page doesn't respond because of an endless script, its
     /// process is killed.
@@ -69,7 +69,7 @@ Q_SIGNALS:
 
 protected:
     /// To be called by whoever has cleared the page's scripts.
-    void closeUnseenWays();
+    void hideClosedFeatures();
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
     void javaScriptAlert(const QUrl &origin, const QString &message) override;
     bool javaScriptConfirm(const QUrl &origin, const QString &message) override;

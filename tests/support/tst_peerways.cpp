@@ -18,6 +18,16 @@ namespace {
 /// Time-out in milliseconds, long enough for a busy machine.
 constexpr int patience = 20000;
 
+/// A page that may open windows.
+class OpenPage final : public QWebEnginePage
+{
+public:
+    using QWebEnginePage::QWebEnginePage;
+
+protected:
+    QWebEnginePage *createWindow(WebWindowType) override { return new QWebEnginePage(profile(), this); }
+};
+
 } // namespace
 
 /// The ways by which the tests of the fence try to reach peers do lead out of an engine in which nothing is closed. So this
@@ -45,7 +55,7 @@ private Q_SLOTS:
         putFile(folder.path() + u"/inner.html"_s, "<p>inner</p>");
         const QString file = putFile(folder.path() + u"/page.html"_s, "<!DOCTYPE html><body>" + markup);
         QWebEngineProfile profile;
-        QWebEnginePage page(&profile);
+        OpenPage page(&profile);
         page.setUrl(QUrl::fromLocalFile(file));
         QVERIFY(waitUntil([&] { return server.datagrams() > 0; }, patience));
         QVERIFY(waitUntil([&] { return server.connections() > server.datagrams(); }, patience));

@@ -450,7 +450,24 @@ private Q_SLOTS:
         bench.browser.navigate(page);
         QVERIFY(waitUntil([&] { return server.requests().contains(u"/location"_s); }, patience));
         QVERIFY(server.requests().size() >= fewestWays);
-        QVERIFY(server.connections() > server.requests().size()); // Not each of them asks for a path.
+        QCOMPARE(server.datagrams(), 0); // They would be for peers, which no page has.
+    }
+
+    /// Neither does it see what the engine has in their place.
+    void noPageHasPeers()
+    {
+        const QString question = u"[typeof RTCPeerConnection, typeof webkitRTCPeerConnection].join()"_s;
+        HttpServer server;
+        server.put(u"/page"_s, title + "from elsewhere");
+        Bench bench;
+        const QString page = bench.write(u"page.html"_s, title + "mine");
+        for (const QString &address : {page, server.address(u"/page"_s)}) {
+            for (const bool isAllowed : {false, true}) {
+                bench.browser.setRemoteAllowed(isAllowed);
+                QVERIFY(bench.show(address));
+                QCOMPARE(bench.ask(question), u"undefined,undefined"_s);
+            }
+        }
     }
 
     void aPageLeadsElsewhereOnlyWithTheUser_data()

@@ -59,7 +59,7 @@ LiveBrowserPage::LiveBrowserPage(const FileStore &files, QWebEngineProfile &prof
 void LiveBrowserPage::installScripts(int load, ColourScheme scheme)
 {
     scripts().clear();
-    closeUnseenWays();
+    hideClosedFeatures();
     scripts().insert(script(u"live"_s, world,
                             u"globalThis.zephiraLoad = %1;\n"_s.arg(load) + resource(u":/qtwebchannel/qwebchannel.js"_s)
                                 + resource(u":/live/live.js"_s)));
