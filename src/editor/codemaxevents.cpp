@@ -47,6 +47,11 @@ void CodeMax::keyPressEvent(QKeyEvent *event)
         bool kept = false;
         perform([&] { kept = m_typing.keepOneCaret(); });
         event->setAccepted(kept);
+    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        // The toolkit makes a menu event of the menu key alone.
+        const QPoint caret = inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, caret, mapToGlobal(caret));
+        contextMenuEvent(&menu);
     } else if (TypingRules::isLeftToWindow(*event)) {
         event->ignore();
     } else {

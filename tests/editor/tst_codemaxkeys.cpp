@@ -335,6 +335,19 @@ private Q_SLOTS:
         QCOMPARE(zoom(), 1);
     }
 
+    void shiftAndF10OpenTheMenu()
+    {
+        EditorFixture f;
+        f.show();
+        const QString before = f.editor.text();
+        QTest::keyClick(&f.editor, Qt::Key_F10, Qt::ShiftModifier);
+        auto *menu = f.editor.findChild<QMenu *>(u"editorMenu"_s);
+        QVERIFY(menu);
+        QVERIFY(menu->isVisible());
+        menu->close();
+        QCOMPARE(f.editor.text(), before);
+    }
+
     void aHandledRightClickShowsNoMenu()
     {
         EditorFixture f;
