@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/desktopprompts.h"
 
+#include "desktop/filedialog.h"
 #include "desktop/filefilter.h"
 #include "widgets/qtvalues.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QInputDialog>
@@ -76,10 +76,9 @@ auto answerFrom(std::unique_ptr<Dialog> owned, Read read) -> std::optional<declt
     return answer;
 }
 
-std::unique_ptr<QFileDialog> fileDialog(QWidget *parent, const QString &title, const QString &folder, bool ofQt)
+std::unique_ptr<FileDialog> fileDialog(QWidget *parent, const QString &title, const QString &folder, bool ofQt)
 {
-    auto dialog = std::make_unique<QFileDialog>(parent, title);
-    dialog->setOption(QFileDialog::DontUseNativeDialog, ofQt);
+    auto dialog = std::make_unique<FileDialog>(parent, title, ofQt);
     if (!folder.isEmpty() && QDir(folder).exists())
         dialog->setDirectory(folder);
     return dialog;
@@ -146,7 +145,7 @@ std::optional<QString> DesktopPrompts::file(const FileRequest &request)
     dialog->setNameFilters(nameFilters(request.filter));
     if (request.saving && !request.fileName.isEmpty())
         dialog->selectFile(current.fileName());
-    return answerFrom(std::move(dialog), [&](const QFileDialog &done) {
+    return answerFrom(std::move(dialog), [&](const FileDialog &done) {
         const QString path = done.selectedFiles().value(0);
         // The document's current name and the name of an existing file are kept, even without a dot.
         const bool isNewName =
@@ -161,7 +160,7 @@ std::optional<QString> DesktopPrompts::folder(const QString &title, const QStrin
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
     return answerFrom(std::move(dialog),
-                      [](const QFileDialog &done) { return QDir::toNativeSeparators(done.selectedFiles().value(0)); });
+                      [](const FileDialog &done) { return QDir::toNativeSeparators(done.selectedFiles().value(0)); });
 }
 
 std::optional<quint32> DesktopPrompts::colour(quint32 initial)

@@ -6,15 +6,24 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeDatabase>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+#include <array>
+#include <climits>
+
+#include <sys/inotify.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace zephira;
@@ -43,6 +52,7 @@ private Q_SLOTS:
     void inputShowsMarkupAsText();
     void openFile();
     void openFileCancelled();
+    void listedFilesAreNotRead();
     void savedNameTakesTheSuffix_data();
     void savedNameTakesTheSuffix();
     void aNameWithoutASuffixStays();
@@ -264,6 +274,32 @@ void TstDesktopPrompts::openFile()
         m_prompts->file({u"Open a document..."_s, u"Html Files|*.html;*.htm|All Files|*.*"_s, m_folder->path(), false});
     QVERIFY(m_wasUp);
     QCOMPARE(answer, std::optional(path));
+}
+
+/// What is listed may be the kernel's messages, or on a server that doesn't answer: who reads it waits for ever.
+void TstDesktopPrompts::listedFilesAreNotRead()
+{
+    const QString path = m_folder->filePath(u"messages"_s);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("%PDF-1.4\n");
+    file.close();
+    const int watch = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    const auto endWatch = qScopeGuard([watch] { ::close(watch); });
+    QVERIFY(inotify_add_watch(watch, QFile::encodeName(path).constData(), IN_ACCESS) >= 0);
+    QString type;
+    whileUp<QFileDialog>([&](QFileDialog &dialog) {
+        const auto *model = dialog.findChild<QFileSystemModel *>();
+        const QModelIndex place = model->index(path, 2);
+        QTRY_VERIFY(!model->type(place).isEmpty() && model->rowCount(place.parent()) == 1);
+        type = model->type(place);
+        dialog.reject();
+    });
+    QVERIFY(!m_prompts->file({{}, u"All Files|*"_s, m_folder->path(), false}));
+    QVERIFY(m_wasUp);
+    std::array<char, sizeof(inotify_event) + NAME_MAX + 1> event{};
+    QCOMPARE(::read(watch, event.data(), event.size()), -1);
+    QCOMPARE(type, QMimeDatabase().mimeTypeForName(u"application/octet-stream"_s).comment());
 }
 
 void TstDesktopPrompts::openFileCancelled()
