@@ -257,14 +257,14 @@ void frmmain::buildCommands()
         if (m_designer.isShowing())
             m_visualTools->updateMenus();
     };
-    auto *live =
-        new LiveDock({*this, *m_rt, *m_context, *m_menus, m_services.webViews,
-                      [this] { return m_viewSwitch->permissions(); }, [this] { m_viewSwitch->allowRemote(); }});
+    m_live = std::make_unique<LiveDock>(LiveDock::Parts{*this, *m_rt, *m_context, *m_menus, m_services.webViews,
+                                                        [this] { return m_viewSwitch->permissions(); },
+                                                        [this] { m_viewSwitch->allowRemote(); }});
     TextServices text = m_services.text;
     text.notice = [this](const QString &sentence) { m_panels->notice(sentence); };
     m_textTools =
         std::make_unique<TextTools>(TextTools::Parts{*this, *m_rt, *m_context, *m_menus, *m_keys, *m_ui->documentLayout,
-                                                     *m_commandPalette, *m_viewSwitch, *live, std::move(text)});
+                                                     *m_commandPalette, *m_viewSwitch, *m_live, std::move(text)});
     m_late.add([this] { m_textTools->start(); });
     m_router = std::make_unique<CommandRouter>(CommandParts{*m_context, *m_document, *m_viewSwitch, *m_menus,
                                                             *m_sideCommands, *m_filePaneCommands, *m_end,

@@ -25,6 +25,7 @@ class DocumentControls;
 class DocumentSurface;
 class FilePane;
 class FilePaneCommands;
+class LiveDock;
 class Menus;
 class ModalFormOpener;
 class Palette;
@@ -184,6 +185,8 @@ private:
     std::unique_ptr<TextTools> m_textTools;
     std::unique_ptr<WindowEnd> m_end;
     std::unique_ptr<CommandRouter> m_router;
+    /// The first part to go: its page may tell of itself until it is gone.
+    std::unique_ptr<LiveDock> m_live;
 };
 
 } // namespace zephira

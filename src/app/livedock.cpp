@@ -49,7 +49,7 @@ qsizetype unitsIn(QByteArrayView utf8)
 
 } // namespace
 
-LiveDock::LiveDock(Parts parts) : QObject(&parts.window), m_parts(std::move(parts))
+LiveDock::LiveDock(Parts parts) : m_parts(std::move(parts))
 {
     m_caretSoon.setSingleShot(true);
     m_caretSoon.setInterval(caretDelay);
@@ -59,7 +59,10 @@ LiveDock::LiveDock(Parts parts) : QObject(&parts.window), m_parts(std::move(part
     m_lookSoon.setInterval(lookDelay);
 }
 
-LiveDock::~LiveDock() = default;
+LiveDock::~LiveDock()
+{
+    delete m_dock;
+}
 
 void LiveDock::make()
 {

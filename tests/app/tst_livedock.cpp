@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QDockWidget>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
 
@@ -67,6 +68,18 @@ private Q_SLOTS:
         dock->close();
         QVERIFY(!bench.find<QAction>(u"textLivePage"_s)->isChecked());
         QCOMPARE(bench.webViews.made, QStringList{u"live"_s});
+    }
+
+    /// While other views of the window are destroyed, the engine may still deliver what its page tells.
+    void goesBeforeWhatItFollows()
+    {
+        Bench bench;
+        QVERIFY(bench.open());
+        const QPointer<QWidget> pane = bench.find<QWidget>(u"livePane"_s);
+        bool isGone = false;
+        connect(&bench.rt(), &QObject::destroyed, this, [&] { isGone = pane.isNull(); });
+        bench.window.reset();
+        QVERIFY(isGone);
     }
 
     void followsTheText()

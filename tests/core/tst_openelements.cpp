@@ -215,14 +215,19 @@ private Q_SLOTS:
         QByteArray text = "<body>" + QByteArray("<p class=a>text</p>\n").repeated(500'000);
         OpenElements elements;
         elements.around(inOnePiece(text), text.size(), all);
-        QElapsedTimer time;
-        time.start();
-        for (int i = 0; i < 100; ++i) {
-            elements.changedFrom(text.size());
-            text += 'a';
-            QCOMPARE(elements.around(inOnePiece(text), text.size(), all).value().size(), 1U);
+        // The least of some rounds, because other programs may disturb one.
+        qint64 least = std::numeric_limits<qint64>::max();
+        for (int round = 0; round < 10; ++round) {
+            QElapsedTimer time;
+            time.start();
+            for (int i = 0; i < 10; ++i) {
+                elements.changedFrom(text.size());
+                text += 'a';
+                QCOMPARE(elements.around(inOnePiece(text), text.size(), all).value().size(), 1U);
+            }
+            least = std::min(least, time.nsecsElapsed());
         }
-        QVERIFY2(time.elapsed() < 500, qPrintable(QString::number(time.elapsed())));
+        QVERIFY2(least < 50'000'000, qPrintable(QString::number(least)));
     }
 };
 

@@ -181,8 +181,9 @@ private Q_SLOTS:
             m_bench->file);
         QVERIFY(waitUntil([&] { return m_bench->live.view().title() == u"t"_s; }, LiveBench::patience));
         waitUntil([] { return false; }, 500);
+        const int before = *told;
         m_bench.reset();
-        QCOMPARE(*told, 0);
+        QCOMPARE(*told, before);
     }
 
     void aSavedSheetIsFollowed()
