@@ -2,10 +2,13 @@
 #include "soak/soakmeter.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFontDatabase>
 #include <QPixmapCache>
+#include <QStandardPaths>
 #include <QWidget>
 
 #include <algorithm>
@@ -33,6 +36,17 @@ constexpr int shortSoak = 20000;
 /// The samples that are taken together at each end.
 constexpr qsizetype samplesOfAnEnd = 5;
 
+QString anyFontFile()
+{
+    const QStringList folders = QStandardPaths::standardLocations(QStandardPaths::FontsLocation);
+    for (const QString &folder : folders) {
+        QDirIterator fonts(folder, {u"*.ttf"_s, u"*.otf"_s}, QDir::Files, QDirIterator::Subdirectories);
+        if (fonts.hasNext())
+            return fonts.next();
+    }
+    return {};
+}
+
 /// Without the pages of files, such as the code of a library that is called for the first time: the system takes those
 /// back when it likes, and they can't grow without end.
 qint64 residentBytes()
@@ -52,6 +66,28 @@ qint64 allocatedBytes()
     const struct mallinfo2 info = mallinfo2();
     return static_cast<qint64>(info.uordblks + info.hblkhd);
 #endif
+}
+
+/// What windows are painted on. It follows from their sizes, and a window that was shown once keeps its own while it is
+/// hidden. That there aren't ever more windows is seen from the objects.
+qint64 pictureBytes()
+{
+    qint64 bytes = 0;
+    const QList<QWidget *> windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        constexpr qint64 bytesOfAPixel = 4;
+        if (const QBackingStore *store = window->backingStore())
+            bytes += bytesOfAPixel * store->size().width() * store->size().height();
+    }
+    return bytes;
+}
+
+/// Glyphs are drawn anew in each size that the text is zoomed to, and kept up to a limit that takes longer than the soak to
+/// reach. Fonts that come and go make the library forget them all.
+void forgetGlyphs()
+{
+    static const QString font = anyFontFile();
+    QFontDatabase::removeApplicationFont(QFontDatabase::addApplicationFont(font));
 }
 
 int countObjects()
@@ -86,15 +122,21 @@ double middle(std::span<const SoakSample> samples, Value SoakSample::*value)
 
 } // namespace
 
+void keepNoPaintedPictures()
+{
+    QPixmapCache::setCacheLimit(0);
+}
+
 SoakSample measureProcess(int step, const QString &temporaryFolder)
 {
-    // Painted pictures are kept up to a limit that takes long to reach.
-    QPixmapCache::clear();
+    forgetGlyphs();
     // What was freed isn't in use, even if the allocator still holds it.
     malloc_trim(0);
+    const qint64 pictures = pictureBytes();
     return {.step = step,
-            .resident = residentBytes(),
-            .allocated = allocatedBytes(),
+            .resident = residentBytes() - pictures,
+            .allocated = allocatedBytes() - pictures,
+            .pictures = pictures,
             .descriptors = static_cast<int>(QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size()),
             .objects = countObjects(),
             .temporaryFiles = countTemporaries(temporaryFolder)};
@@ -130,13 +172,14 @@ QStringList growthOf(const std::vector<SoakSample> &samples)
 QString described(const SoakSample &sample)
 {
     constexpr double mebibyte = 1024.0 * 1024.0;
-    return u"step %1: %2 MiB resident, %3 MiB allocated, %4 descriptors, %5 objects, %6 temporary files"_s
-        .arg(sample.step)
-        .arg(static_cast<double>(sample.resident) / mebibyte, 0, 'f', 1)
-        .arg(static_cast<double>(sample.allocated) / mebibyte, 0, 'f', 1)
-        .arg(sample.descriptors)
-        .arg(sample.objects)
-        .arg(sample.temporaryFiles);
+    return u"step %1: %2 MiB resident, %3 MiB allocated, %4 descriptors, %5 objects, %6 temporary files, "
+           "besides %7 MiB of windows"_s.arg(sample.step)
+               .arg(static_cast<double>(sample.resident) / mebibyte, 0, 'f', 1)
+               .arg(static_cast<double>(sample.allocated) / mebibyte, 0, 'f', 1)
+               .arg(sample.descriptors)
+               .arg(sample.objects)
+               .arg(sample.temporaryFiles)
+               .arg(static_cast<double>(sample.pictures) / mebibyte, 0, 'f', 1);
 }
 
 } // namespace zephira

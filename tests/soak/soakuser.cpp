@@ -5,8 +5,10 @@
 #include "soak/soakdesk.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTest>
@@ -54,6 +56,16 @@ const QStringList snippets{u"<div class=\""_s, u"</"_s,           u"<a href='"_s
 bool isAscii(QChar c)
 {
     return c < u'\u0080';
+}
+
+/// What a window makes when it is first needed, so that it doesn't look like growth when that is late. The editor's
+/// properties are made for one form after another, and go with it.
+void makeLateParts(frmmain &window)
+{
+    const QList<QComboBox *> boxes = window.findChildren<QComboBox *>();
+    for (const QComboBox *box : boxes)
+        box->view();
+    window.rt().executeCmd(EditorCommand::PropertiesDialog);
 }
 
 QString nameOf(const QObject &object)
@@ -422,6 +434,7 @@ bool SoakUser::comeToRest()
                 window->document().setModified(false);
                 window->doNew();
                 window->document().clearClipboard();
+                makeLateParts(*window);
             },
             Qt::QueuedConnection);
     }
