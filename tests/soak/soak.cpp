@@ -108,7 +108,7 @@ int soakIn(const QString &folder, int argc, char **argv)
 {
     liveIn(folder);
     QApplication application(argc, argv);
-    keepNoPaintedPictures();
+    prepareMeasuring();
     QCommandLineParser parser;
     const QCommandLineOption steps(u"steps"_s, {}, u"number"_s, u"100000"_s);
     const QCommandLineOption seed(u"seed"_s, {}, u"number"_s, u"1"_s);

@@ -122,9 +122,12 @@ double middle(std::span<const SoakSample> samples, Value SoakSample::*value)
 
 } // namespace
 
-void keepNoPaintedPictures()
+void prepareMeasuring()
 {
     QPixmapCache::setCacheLimit(0);
+    // As at the start of the process: otherwise the pictures of windows would split the heap as soon as one was freed.
+    constexpr int smallestOfItsOwn = 128 * 1024;
+    mallopt(M_MMAP_THRESHOLD, smallestOfItsOwn);
 }
 
 SoakSample measureProcess(int step, const QString &temporaryFolder)
@@ -151,8 +154,8 @@ QStringList growthOf(const std::vector<SoakSample> &samples)
     const auto firstTenth = static_cast<std::size_t>(
         std::ranges::count_if(all, [&](const SoakSample &sample) { return sample.step <= all.back().step / 10; }));
     const std::size_t atBegin = std::clamp<std::size_t>(firstTenth, 1, all.size() - 1);
-    const auto begin = all.subspan(atBegin - std::min<std::size_t>(atBegin, samplesOfAnEnd),
-                                   std::min<std::size_t>(atBegin, samplesOfAnEnd));
+    const std::size_t half = std::min<std::size_t>(atBegin - 1, samplesOfAnEnd / 2);
+    const auto begin = all.subspan(atBegin - 1 - half, 2 * half + 1);
     const auto end = all.last(std::min<std::size_t>(all.size() - atBegin, samplesOfAnEnd));
     const double most = all.back().step < shortSoak ? mostGrowthOfAShortSoak : mostGrowth;
     const auto judge = [&](const QString &name, auto value) {

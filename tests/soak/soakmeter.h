@@ -23,15 +23,16 @@ struct SoakSample {
 };
 
 /// From now on, the library doesn't keep the pictures that it paints for controls and icons. It would keep them up to a
-/// limit, but never free the names of those that it drops, and that would look like growth of the program.
-void keepNoPaintedPictures();
+/// limit, but never free the names of those that it drops, and that would look like growth of the program. Large pieces of
+/// memory are taken from the system one by one, and go back when they are freed.
+void prepareMeasuring();
 
 /// Measures this process. Temporary files are those directly in `temporaryFolder`, and any below it that are named like
 /// the unfinished file of a write.
 SoakSample measureProcess(int step, const QString &temporaryFolder);
 
-/// What has grown by a twentieth or more between the first tenth and the end, a sentence each; in a short soak, by as much
-/// again. Each end is the middle one of its samples, because threads may be busy at a moment.
+/// What has grown by a twentieth or more from the end of the first tenth to the last, a sentence each; in a short soak, by
+/// as much again. Both are the middle one of several samples, because threads may be busy at a moment.
 QStringList growthOf(const std::vector<SoakSample> &samples);
 
 QString described(const SoakSample &sample);

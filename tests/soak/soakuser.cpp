@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTest>
@@ -66,6 +67,14 @@ void makeLateParts(frmmain &window)
     for (const QComboBox *box : boxes)
         box->view();
     window.rt().executeCmd(EditorCommand::PropertiesDialog);
+}
+
+/// A field keeps everything that was ever typed into it for Undo, as a document does.
+void forgetUndo(const frmmain &window)
+{
+    const QList<QLineEdit *> fields = window.findChildren<QLineEdit *>();
+    for (QLineEdit *field : fields)
+        field->setText(field->text());
 }
 
 QString nameOf(const QObject &object)
@@ -434,6 +443,7 @@ bool SoakUser::comeToRest()
                 window->document().setModified(false);
                 window->doNew();
                 window->document().clearClipboard();
+                forgetUndo(*window);
                 makeLateParts(*window);
             },
             Qt::QueuedConnection);
