@@ -139,7 +139,8 @@ int soakIn(const QString &folder, int argc, char **argv)
         samples.push_back(measureProcess(step, qEnvironmentVariable("TMPDIR")));
         out << described(samples.back()) << Qt::endl;
     });
-    QObject::connect(&user, &SoakUser::finished, &application, &QApplication::quit);
+    // Not quit(), which would close the windows, and ask about changes when nobody answers any more.
+    QObject::connect(&user, &SoakUser::finished, &application, [] { QApplication::exit(); });
     user.start();
     desk.open();
     QApplication::exec();
