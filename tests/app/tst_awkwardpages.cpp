@@ -93,12 +93,12 @@ void TstAwkwardPages::everyOtherByteStays()
 /// Nothing waits for ever, and what pauses says so.
 void TstAwkwardPages::veryLarge()
 {
-    constexpr int paragraphs = 250'000;
+    constexpr int paragraphs = 310'000;
     QByteArray page = "<!DOCTYPE html>\r\n<title>t</title>\r\n";
     for (int number = 0; number < paragraphs; ++number)
         page += "<P>This is paragraph " + QByteArray::number(number) + " of a page that is very large indeed.\r\n";
     page += "<P>end";
-    QVERIFY(page.size() > 15'000'000);
+    QVERIFY(page.size() > 20'000'000);
     WebBench bench(u"page.html"_s, page);
     CodeMax &rt = bench.window->rt();
     QCOMPARE(rt.text().size(), page.size());

@@ -14,8 +14,12 @@
 
 namespace zephira {
 
+/// At most so many times the processor's time is linear for ten times the text: ten and what the caches cost, which a busy
+/// machine shares with others. What grows with the square takes a hundred times, with the power of one and a half thirty.
+constexpr double mostOfLinear = 20;
+
 /// How many times the processor's time a run takes for ten times the text: the least of some rounds, because another
-/// process may disturb one. At most 12 is linear.
+/// process may disturb one.
 inline double timesForTenTimes(const std::function<QString(qsizetype count)> &makeText, qsizetype count,
                                const std::function<void(const QString &text)> &run)
 {
@@ -37,9 +41,9 @@ inline double timesForTenTimes(const std::function<QString(qsizetype count)> &ma
     // never helps what takes the square of the time.
     constexpr int attempts = 12;
     constexpr std::chrono::milliseconds pause(100);
-    constexpr int rounds = 7;
+    constexpr int rounds = 3;
     double times = std::numeric_limits<double>::max();
-    for (int attempt = 0; attempt < attempts && times > 12; ++attempt) {
+    for (int attempt = 0; attempt < attempts && times > mostOfLinear; ++attempt) {
         if (attempt > 0)
             std::this_thread::sleep_for(pause);
         double least = std::numeric_limits<double>::max();

@@ -152,7 +152,7 @@ private Q_SLOTS:
                                                   QStringList urls;
                                                   LinksFromHTML(urls, text);
                                               });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 
     void addressesThatGrowWithoutEndAreRefused()

@@ -103,7 +103,7 @@ private Q_SLOTS:
         QFETCH(QString, unit);
         const double times = timesForTenTimes([&](qsizetype count) { return unit.repeated(count); }, 2000,
                                               [](const QString &text) { linkTargets(text); });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 
     void tooManyAreCutOff()

@@ -89,7 +89,7 @@ private Q_SLOTS:
                                                   }
                                                   richToHtml(runs);
                                               });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 };
 

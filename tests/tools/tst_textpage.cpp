@@ -80,7 +80,7 @@ private Q_SLOTS:
         QFETCH(QString, unit);
         const double times = timesForTenTimes([&](qsizetype count) { return unit.repeated(count); }, 40000,
                                               [](const QString &text) { textPage(text.toUtf8(), {}); });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 
     void everyEncoding_data()

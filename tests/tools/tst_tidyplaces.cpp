@@ -137,7 +137,7 @@ private Q_SLOTS:
                                                       messages.push_back({.line = 0, .column = at});
                                                   toTextPlaces(messages, text.toUtf8(), false);
                                               });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 };
 

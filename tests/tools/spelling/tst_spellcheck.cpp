@@ -207,7 +207,7 @@ private Q_SLOTS:
             }
             QVERIFY(bench.check.isChanged());
         });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 };
 

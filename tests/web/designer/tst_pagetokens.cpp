@@ -114,7 +114,7 @@ private Q_SLOTS:
                                                   TokenKeys keys;
                                                   pageTokens(page, keys);
                                               });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 };
 

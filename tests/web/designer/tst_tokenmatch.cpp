@@ -145,7 +145,7 @@ private Q_SLOTS:
                                                   const qsizetype count = text.size() / firstUnit.size();
                                                   partners(text, secondUnit.repeated(count));
                                               });
-        QVERIFY2(times <= 12, qPrintable(QString::number(times)));
+        QVERIFY2(times <= mostOfLinear, qPrintable(QString::number(times)));
     }
 };
 
