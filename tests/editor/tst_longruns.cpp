@@ -2,6 +2,7 @@
 #include "editor/colouritems.h"
 #include "editor/editorfixture.h"
 #include "editor/longruns.h"
+#include "support/pace.h"
 #include "support/testregistry.h"
 #include "syntax/syntaxstyle.h"
 
@@ -115,7 +116,7 @@ private Q_SLOTS:
             runs.insert(text.sliced(begin, i - begin));
             begin = i;
         }
-        QVERIFY2(longest < 30, qPrintable(QString::number(longest)));
+        QVERIFY2(longest < pace * 30, qPrintable(QString::number(longest)));
         QVERIFY2(runs.size() < 16384, qPrintable(QString::number(runs.size())));
         QVERIFY(f.editor.engine().send(Sci::SCI_GETPOSITIONCACHE) >= 2 * runs.size());
     }
